@@ -1,0 +1,40 @@
+#!/usr/bin/env bash
+# Checks the include arrows between the layers, and that the check still catches the wrong ones.
+# shellcheck source=lib.sh
+source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
+
+tree=$(mktemp -d)
+trap 'rm -rf "$tree"' EXIT
+
+check_tree() {
+    cmake -DSOURCE="$tree" -DTABLE="model=|platform=|engine=model,platform" -P "$root/cmake/CheckLayers.cmake" 2>&1
+}
+
+# refuses FILE LINE MESSAGE: with LINE in src/FILE the check fails and says MESSAGE.
+refuses() {
+    local output
+    printf '%s\n' "$2" >"$tree/$1"
+    if output=$(check_tree); then
+        fail "the layer check lets '$2' in $1 pass"
+    fi
+    # CMake breaks long messages into lines of its own.
+    if [[ $(tr -s ' \n' ' ' <<<"$output") != *"$3"* ]]; then
+        printf '%s\n' "$output" >&2
+        fail "the layer check fails for '$2' in $1, but not with: $3"
+    fi
+    rm "$tree/$1"
+}
+
+mkdir -p "$tree"/{model,platform/linux,engine}
+printf '#include "model/b.h"\n' >"$tree/engine/a.h"
+printf '#include <unistd.h>\n' >"$tree/platform/linux/a.cpp"
+check_tree >/dev/null || fail "the layer check refuses a tree without a wrong include"
+refuses model/b.h '#include "engine/a.h"' "'model' must not include 'engine/a.h'"
+refuses platform/b.h '#include "engine/a.h"' "'platform' must not include 'engine/a.h'"
+refuses engine/b.cpp '#include <unistd.h>' "'unistd.h' belongs below src/platform/"
+refuses platform/b.cpp '#include <unistd.h>' "'unistd.h' belongs into a backend's folder"
+refuses engine/b.cpp '#include "a.h"' 'write "a.h" as a path from src/'
+check_tree >/dev/null || fail "the layer check refuses a tree whose wrong includes are gone"
+printf 'The layer check refuses what it should.\n'
+
+cmake --build "$root/build/dev" --target quorvex_layer_check

@@ -1,0 +1,135 @@
+# shellcheck shell=bash
+# Common to run.sh, test.sh, .ci/run and the other scripts: sourced, never run.
+set -euo pipefail
+export LC_ALL=C.UTF-8
+
+# Used by the scripts that source this file.
+# shellcheck disable=SC2034
+{
+    root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd -P)
+
+    # qt6-tools-dev holds the CMake package that finds the translation tools of qt6-l10n-tools.
+    packages_build=(cmake ninja-build g++ qt6-base-dev qt6-base-dev-tools libqt6sql6-sqlite
+        qt6-l10n-tools qt6-tools-dev qt6-tools-dev-tools)
+    # Practice drives: mkfs of three file systems, losetup (in "mount"), and a file system of our own for faults.
+    packages_test=(e2fsprogs xfsprogs btrfs-progs util-linux mount libfuse3-dev fuse3 pkg-config)
+    packages_ci=(git clang-format clang-tidy shellcheck)
+    # Qt from source; SQLite is not among the libraries that its source package brings along.
+    packages_qt_source=(cmake ninja-build g++ dpkg-dev libsqlite3-dev qt6-base-dev)
+}
+
+fail() {
+    printf 'error: %s\n' "$*" >&2
+    exit 1
+}
+
+# step NAME COMMAND [ARGUMENT...]: says what is done, and on a failure which step it was. The command may be a
+# function. To be called as a plain statement: behind "if", "&&" or "||" bash would ignore failures inside it.
+steps_done=()
+step() {
+    local name=$1 began=$SECONDS status
+    shift
+    printf '\n==> %s\n' "$name"
+    set +e
+    (
+        set -e
+        "$@"
+    )
+    status=$?
+    set -e
+    if ((status != 0)); then
+        printf "error: step '%s' failed (exit %d, after %d s)\n" "$name" "$status" $((SECONDS - began)) >&2
+        exit 1
+    fi
+    steps_done+=("$(printf '%-28s %5d s' "$name" $((SECONDS - began)))")
+    printf '<== %s\n' "${steps_done[-1]}"
+}
+
+# One compiler for each processor, but no more than fit: a Qt source file takes up to 1.5 GB with a sanitizer.
+jobs_count() {
+    local processors memory_kb by_memory
+    processors=$(nproc)
+    memory_kb=$(awk '$1 == "MemAvailable:" { print $2 }' /proc/meminfo)
+    by_memory=$((memory_kb / 1500000))
+    ((by_memory >= 1)) || by_memory=1
+    echo $((processors < by_memory ? processors : by_memory))
+}
+
+as_root() {
+    if [[ $(id -u) == 0 ]]; then
+        "$@"
+    elif command -v sudo >/dev/null; then
+        sudo "$@"
+    else
+        printf 'error: this needs root, and there is no sudo: %s\n' "$*" >&2
+        return 1
+    fi
+}
+
+missing_packages() {
+    local package
+    for package in "$@"; do
+        # One line for each architecture the package is known in; one installed is enough.
+        dpkg-query -W -f '${db:Status-Status}\n' "$package" 2>/dev/null | grep -qx installed || echo "$package"
+    done
+}
+
+apt_install() {
+    as_root env DEBIAN_FRONTEND=noninteractive apt-get install --yes --no-install-recommends \
+        -o Dpkg::Use-Pty=0 -o DPkg::Lock::Timeout=600 "$@"
+}
+
+# install_packages PACKAGE...: nothing and silence when all are there.
+install_packages() {
+    local missing log
+    command -v dpkg-query >/dev/null || fail "step 'install packages' failed: this script installs Debian packages"
+    mapfile -t missing < <(missing_packages "$@")
+    ((${#missing[@]} > 0)) || return 0
+    printf 'Installing %s\n' "${missing[*]}"
+    log=$(mktemp)
+    # The package lists may be missing, or name files that the mirror has replaced since: then once more with new lists.
+    if ! apt_install "${missing[@]}" >"$log" 2>&1 &&
+        ! { as_root apt-get update && apt_install "${missing[@]}"; } >"$log" 2>&1; then
+        tail -n 30 "$log" >&2
+        rm -f "$log"
+        fail "step 'install packages' failed: ${missing[*]}"
+    fi
+    rm -f "$log"
+    mapfile -t missing < <(missing_packages "$@")
+    ((${#missing[@]} == 0)) || fail "step 'install packages' failed: still missing: ${missing[*]}"
+}
+
+# build PRESET [OPTION of cmake --build...]
+build() {
+    local preset=$1
+    shift
+    cd "$root"
+    if command -v ccache >/dev/null; then
+        export CMAKE_CXX_COMPILER_LAUNCHER=ccache
+    fi
+    cmake --preset "$preset" --log-level=NOTICE
+    cmake --build --preset "$preset" --parallel "$(jobs_count)" "$@"
+}
+
+# run_tests PRESET [OPTION of ctest...]: the last lines that ctest prints stay in build/PRESET/ctest.log, and what a
+# suite skipped is repeated, since ctest shows nothing of a program that passed.
+run_tests() {
+    local preset=$1
+    shift
+    cd "$root"
+    ctest --preset "$preset" "$@" 2>&1 | tee "build/$preset/ctest.log"
+    skipped_tests "$preset"
+}
+
+skipped_tests() {
+    local log="$root/build/$1/Testing/Temporary/LastTest.log"
+    if [[ -f $log ]] && grep -q '^SKIP' "$log"; then
+        printf '\nSkipped, and so not tested:\n'
+        grep -A 1 '^SKIP' "$log" | grep -v '^--$' | sed 's/^/  /'
+    fi
+}
+
+# The line "N% tests passed, N tests failed out of N" of the last run of a preset.
+tests_result() {
+    grep -E '^[0-9]+% tests passed' "$root/build/$1/ctest.log"
+}
