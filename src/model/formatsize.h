@@ -1,0 +1,7 @@
+#pragma once
+
+#include <QString>
+
+/// A byte count for people: whole bytes below 1024, otherwise two decimals and KB to PB in steps of 1024.
+/// The count is taken as unsigned, and the text is the same in every locale.
+QString formatSize(qint64 bytes);

@@ -1,0 +1,94 @@
+#pragma once
+
+#include "model/diskinfo.h"
+#include "model/operationtype.h"
+#include "model/partitioninfo.h"
+#include "model/wipemethod.h"
+#include "model/wipereport.h"
+
+#include <QMutex>
+#include <QObject>
+#include <QString>
+#include <QStringList>
+
+/// One job, filled before the engine starts and not changed while it runs, so that workers read the fields
+/// from their own threads without a lock. Only the report changes meanwhile; its functions may be called from
+/// any thread.
+class WipeTask : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit WipeTask(QObject *parent = nullptr);
+
+    QString id() const { return m_id; }
+    void setId(const QString &id) { m_id = id; }
+
+    OperationType operationType() const { return m_operationType; }
+    void setOperationType(OperationType type) { m_operationType = type; }
+
+    WipeMethod method() const { return m_method; }
+    void setMethod(const WipeMethod &method) { m_method = method; }
+
+    DiskInfo disk() const { return m_disk; }
+    void setDisk(const DiskInfo &disk) { m_disk = disk; }
+
+    PartitionInfo partition() const { return m_partition; }
+    void setPartition(const PartitionInfo &partition) { m_partition = partition; }
+
+    /// Absolute paths of files and folders.
+    QStringList files() const { return m_files; }
+    void setFiles(const QStringList &files) { m_files = files; }
+    /// Appends the paths that are not yet listed, compared exactly, in the order of their first appearance.
+    void addFiles(const QStringList &paths);
+
+    /// Parallelism of a file wipe, valid from 1 to 32.
+    qint32 threadCount() const { return m_threadCount; }
+    void setThreadCount(qint32 count) { m_threadCount = count; }
+
+    /// Size of the write buffer in MiB, valid from 1 to 1024.
+    qint32 bufferSizeMB() const { return m_bufferSizeMB; }
+    void setBufferSizeMB(qint32 size) { m_bufferSizeMB = size; }
+
+    bool verifyAfterWipe() const { return m_verifyAfterWipe; }
+    void setVerifyAfterWipe(bool verify) { m_verifyAfterWipe = verify; }
+
+    /// Number of samples that a verification reads back.
+    qint32 verifySampleSize() const { return m_verifySampleSize; }
+    void setVerifySampleSize(qint32 size) { m_verifySampleSize = size; }
+
+    bool generateReport() const { return m_generateReport; }
+    void setGenerateReport(bool generate) { m_generateReport = generate; }
+
+    /// A copy of the report as it is now.
+    WipeReport report() const;
+    void setReport(const WipeReport &report);
+    /// Runs `change(WipeReport &)` on the report and returns what it returns, by value. The report is locked
+    /// meanwhile: `change` must not call report functions of this task.
+    template <typename Change>
+    auto updateReport(Change change)
+    {
+        const QMutexLocker locker(&m_reportMutex);
+        return change(m_report);
+    }
+
+    /// Whether the job can be started; traces its checks to the debug output.
+    bool isValid() const;
+    /// The translated message for the first failed check of isValid(), empty when all pass.
+    QString validationError() const;
+
+private:
+    OperationType m_operationType = FileWipe;
+    WipeMethod m_method;
+    DiskInfo m_disk;
+    PartitionInfo m_partition;
+    QStringList m_files;
+    qint32 m_threadCount;
+    qint32 m_bufferSizeMB = 64;
+    bool m_verifyAfterWipe = true;
+    qint32 m_verifySampleSize = 1000;
+    bool m_generateReport = true;
+    mutable QMutex m_reportMutex;
+    WipeReport m_report;
+    QString m_id;
+};
