@@ -1,0 +1,192 @@
+#pragma once
+
+#include "platform/status.h"
+
+#include <QByteArray>
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+#include <memory>
+
+namespace platform {
+
+struct Geometry
+{
+    qint64 sizeBytes = 0;
+    qint32 bytesPerSector = 512; // logical sector
+};
+
+// A stretch of a drive that a volume occupies.
+struct Extent
+{
+    qint32 diskNumber = -1;
+    qint64 startingOffset = 0; // bytes
+    qint64 length = 0;         // bytes
+
+    bool operator==(const Extent &) const = default;
+};
+
+// How many extents the two sizes of reply have room for: the header takes 8 bytes, each extent 24.
+inline constexpr int OneExtent = 1;    // 32-byte reply
+inline constexpr int ManyExtents = 33; // 800-byte reply
+
+// A drive or volume opened to ask it about itself; needs no administrator rights and changes nothing. Each
+// question may fail on its own: NotSupported where the device does not know the answer. One thread at a time;
+// closes on destruction.
+//
+// Windows: CreateFileW with access 0, FILE_SHARE_READ | FILE_SHARE_WRITE, OPEN_EXISTING, then
+// DeviceIoControl. Linux: /sys, /proc and udev's database, readable by everybody.
+class DeviceQuery
+{
+public:
+    DeviceQuery() = default;
+    virtual ~DeviceQuery() = default;
+    DeviceQuery(const DeviceQuery &) = delete;
+    DeviceQuery &operator=(const DeviceQuery &) = delete;
+
+    // Windows: IOCTL_DISK_GET_DRIVE_GEOMETRY_EX (DiskSize, Geometry.BytesPerSector). Linux: size and
+    // queue/logical_block_size.
+    virtual Result<Geometry> geometry() = 0;
+
+    // The raw reply of a device descriptor query, see storagereplies.h for its layout.
+    // Windows: IOCTL_STORAGE_QUERY_PROPERTY, StorageDeviceProperty, 10000-byte reply. Linux: the same layout
+    // filled from /sys and udev.
+    virtual Result<QByteArray> descriptor() = 0;
+
+    // Whether reading elsewhere costs time, as it does on rotating media.
+    // Windows: StorageDeviceSeekPenaltyProperty. Linux: queue/rotational.
+    virtual Result<bool> seekPenalty() = 0;
+
+    // Windows: StorageDeviceTrimProperty. Linux: queue/discard_max_bytes above 0.
+    virtual Result<bool> trimEnabled() = 0;
+
+    // Where a volume lies, first extent first. MoreData when there are more than maxExtents; at least one on
+    // success is not promised. Windows: IOCTL_VOLUME_GET_VOLUME_DISK_EXTENTS with a reply of 8 + 24 *
+    // maxExtents bytes. Linux: the drives below the mounted device, through LVM, dm-crypt, md and btrfs
+    // members.
+    virtual Result<QList<Extent>> extents(int maxExtents) = 0;
+};
+
+// A drive or volume opened for raw, unbuffered, write-through transfers. Buffers begin on a page boundary
+// (AlignedBuffer); positions and sizes are multiples of the logical sector, everything else fails with
+// InvalidParameter. Transfers loop over interruptions and short counts. One thread at a time; closes on
+// destruction.
+class RawDevice
+{
+public:
+    RawDevice() = default;
+    virtual ~RawDevice() = default;
+    RawDevice(const RawDevice &) = delete;
+    RawDevice &operator=(const RawDevice &) = delete;
+
+    // Windows: IOCTL_DISK_GET_DRIVE_GEOMETRY_EX. Linux: BLKGETSIZE64 and BLKSSZGET.
+    virtual Result<Geometry> geometry() = 0;
+    // Logical sector in bytes. Windows: IOCTL_DISK_GET_DRIVE_GEOMETRY. Linux: BLKSSZGET.
+    virtual Result<qint32> bytesPerSector() = 0;
+    // Length in bytes. Windows: IOCTL_DISK_GET_LENGTH_INFO. Linux: BLKGETSIZE64.
+    virtual Result<qint64> length() = 0;
+
+    // Windows: SetFilePointerEx(FILE_BEGIN). Linux: remembered for pread and pwrite.
+    virtual Status seek(qint64 position) = 0;
+    // The count read, fewer than asked for only at the end of the device. Reads the medium, not a cache.
+    // After a failure the contents of data are unspecified.
+    virtual Result<qint64> read(void *data, qint64 size) = 0;
+    // The count written. Fewer than asked for, or 0, at the end of the device; a failure there is
+    // SectorNotFound, WriteFault or InvalidParameter, and none of these three on Linux within the device.
+    // DiskFull: the device has no room behind it (thin provisioning).
+    virtual Result<qint64> write(const void *data, qint64 size) = 0;
+    // After success everything written is on the medium. Windows: FlushFileBuffers. Linux: fdatasync.
+    virtual Status flush() = 0;
+};
+
+// A volume, opened for raw transfers. Whatever lock() and dismount() brought about ends with the handle.
+class VolumeDevice : public RawDevice
+{
+public:
+    // Takes the volume for this handle alone. One attempt. SharingViolation (Linux) or AccessDenied (Windows)
+    // while files on it are open. Windows: FSCTL_LOCK_VOLUME. Linux: unmounts every mount point of the
+    // volume, then opens the node with O_EXCL.
+    virtual Status lock() = 0;
+    // Makes the file system let go of the volume. Success when no file system is mounted on it any more.
+    // Windows: FSCTL_DISMOUNT_VOLUME, which also cuts off open files. Linux: as lock(); a volume that stays
+    // mounted answers SharingViolation here and at every write(), since its file system would write over what
+    // is erased.
+    virtual Status dismount() = 0;
+    // Allows transfers up to the very end of the volume. Windows: FSCTL_ALLOW_EXTENDED_DASD_IO. Linux:
+    // success.
+    virtual Status allowExtendedIo() = 0;
+    // Windows: FSCTL_UNLOCK_VOLUME. Linux: gives the exclusive opening back.
+    virtual Status unlock() = 0;
+};
+
+// The drive that somebody chose: its number, and what tells it from another that takes its number later.
+struct DriveIdentity
+{
+    int number = -1;
+    QString serialNumber;
+    qint64 sizeBytes = 0;
+};
+
+enum class DriveSharing {
+    Alone,            // nobody else may hold the drive or a part of it
+    BesideOwnVolumes, // this process holds volumes of the drive
+};
+
+// A mounted volume as the system lists it.
+struct MountedVolume
+{
+    QString name;     // what queryVolume and openVolume take: "E:" on Windows, the mount point on Linux
+    QString rootPath; // "E:/" on Windows, the mount point on Linux
+    QString label;
+    QByteArray fileSystem; // UTF-8
+    qint64 totalBytes = 0;
+    qint64 freeBytes = 0;
+    bool isReady = false; // valid and ready
+};
+
+// The drives and volumes of the machine. Thread-safe; nothing is cached but the numbers of drives.
+class Devices
+{
+public:
+    Devices() = default;
+    virtual ~Devices() = default;
+    Devices(const Devices &) = delete;
+    Devices &operator=(const Devices &) = delete;
+
+    // The path that opens the drive, empty when there is none under the number.
+    // Windows: "\\.\PhysicalDrive%1" for every number. Linux: the device node.
+    virtual QString drivePath(int number) = 0;
+
+    // FileNotFound when no drive has the number.
+    // Windows: the system's own numbers. Linux: a number is given at first sight, in natural name order, and
+    // stays with its device for the life of the process.
+    virtual Result<std::unique_ptr<DeviceQuery>> queryDrive(int number) = 0;
+
+    // A volume by its name: "E:" on Windows, a mount point or a device node on Linux.
+    virtual Result<std::unique_ptr<DeviceQuery>> queryVolume(const QString &name) = 0;
+
+    // Opens a drive for writing. NotReady, with nothing opened, when serial number or size are no longer
+    // those of the identity; AccessDenied without the rights; SharingViolation when somebody else holds it.
+    // Windows: CreateFileW with GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE,
+    // OPEN_EXISTING, FILE_FLAG_WRITE_THROUGH | FILE_FLAG_NO_BUFFERING; sharing is the system's affair there.
+    // Linux: O_RDWR | O_DIRECT | O_DSYNC, with O_EXCL when Alone.
+    virtual Result<std::unique_ptr<RawDevice>> openDrive(const DriveIdentity &drive,
+                                                         DriveSharing sharing) = 0;
+
+    // Opens a volume of that drive for writing, flags as above, neither locked nor dismounted. NotReady, with
+    // nothing opened, when the drive is no longer the one of the identity or the volume no longer begins on
+    // it.
+    virtual Result<std::unique_ptr<VolumeDevice>> openVolume(const QString &name,
+                                                             const DriveIdentity &drive) = 0;
+
+    // Every name that a volume may have, in the order in which they are to be tried; some may not open.
+    // Windows: "A:" to "Z:". Linux: the mount points of block devices, one per device, in mount order.
+    virtual QStringList volumeNames() = 0;
+
+    // Windows: QStorageInfo::mountedVolumes. Linux: the same mount points as volumeNames, with room and
+    // label.
+    virtual QList<MountedVolume> mountedVolumes() = 0;
+};
+
+} // namespace platform

@@ -1,0 +1,122 @@
+#pragma once
+
+#include "platform/status.h"
+
+#include <QString>
+
+#include <memory>
+
+namespace platform {
+
+enum class FileKind {
+    Regular, // a file whose bytes can be overwritten
+    Folder,  // a real folder, never a link to one
+    Link,    // symbolic link; on Windows any reparse point (symbolic link, junction, mount point)
+    Special, // pipe, socket, device node
+};
+
+struct FileInfo
+{
+    FileKind kind = FileKind::Regular;
+    qint64 size = 0;   // bytes; 0 for everything but regular files
+    int linkCount = 1; // names that the file has (hard links), at least 1
+};
+
+// An open file. Positions and lengths are bytes. Transfers loop over short ones and interruptions by
+// themselves, so a count below the one asked for means: end of file for a read, no further progress for a
+// write. The system's page cache is never trusted: read() returns what the medium holds.
+//
+// A handle is used by one thread at a time and closes on destruction.
+class FileHandle
+{
+public:
+    FileHandle() = default;
+    virtual ~FileHandle() = default;
+    FileHandle(const FileHandle &) = delete;
+    FileHandle &operator=(const FileHandle &) = delete;
+
+    // Sets the position, counted from the start, for the next read, write or setEnd. Beyond the end is
+    // allowed; a negative one fails with InvalidParameter. Windows: SetFilePointerEx(FILE_BEGIN). Linux:
+    // remembered for pread and pwrite.
+    virtual Status seek(qint64 position) = 0;
+
+    // Reads up to size bytes and advances the position by the count returned; 0 is the end of the file. The
+    // bytes of data between the count and size, and on failure all of them, are unspecified: direct transfers
+    // fill whole units, also where the file ends within one. Nothing at or behind data + size is touched.
+    // Windows: ReadFile. Linux: pread on a descriptor with
+    // O_DIRECT through an aligned buffer; where the file system refuses that,
+    // posix_fadvise(POSIX_FADV_DONTNEED) before each read.
+    virtual Result<qint64> read(void *data, qint64 size) = 0;
+
+    // Writes size bytes and advances the position by the count returned. With OpenMode::Overwrite every byte
+    // has reached the device when the call returns. On failure an unknown part of the range may have been
+    // written. Windows: WriteFile. Linux: pwrite.
+    virtual Result<qint64> write(const void *data, qint64 size) = 0;
+
+    // Makes the current position the end of the file.
+    // Windows: SetEndOfFile. Linux: ftruncate.
+    virtual Status setEnd() = 0;
+
+    // After success everything written is on the medium. A failure means that an unknown part of what was
+    // written is not; it is never to be retried as if nothing had happened. Windows: FlushFileBuffers. Linux:
+    // fsync after setEnd, else fdatasync; nothing where each write is known to have waited for the device.
+    virtual Status flush() = 0;
+};
+
+enum class OpenMode {
+    // Read and write in place, write-through; the length and the blocks of the file stay. Others may read.
+    // Windows: GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ, OPEN_EXISTING, FILE_FLAG_WRITE_THROUGH |
+    // FILE_FLAG_SEQUENTIAL_SCAN | FILE_ATTRIBUTE_NORMAL. Linux: O_RDWR | O_DIRECT | O_DSYNC (without O_DIRECT
+    // where the file system refuses it).
+    Overwrite,
+    // Read only; others may read and write.
+    // Windows: GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, OPEN_EXISTING. Linux: O_RDONLY | O_DIRECT.
+    Verify,
+    // Write, to cut the file before it is deleted; others may read. Opening itself cuts nothing.
+    // Windows: GENERIC_WRITE, FILE_SHARE_READ, OPEN_EXISTING. Linux: O_WRONLY.
+    Truncate,
+    // Create, or cut an existing regular file to nothing, and write. Data is on the medium after flush().
+    // Windows: GENERIC_WRITE, no sharing, CREATE_ALWAYS. Linux: O_WRONLY | O_CREAT | O_TRUNC | O_DIRECT, mode
+    // 0600.
+    CreateFill,
+};
+
+// Operations on single files. Paths are absolute, with forward or native separators; a name that the system
+// cannot express in Unicode is carried losslessly (Linux: an undecodable byte b as the lone surrogate U+DC00
+// + b).
+//
+// No operation follows a link in the last component of the path. Thread-safe.
+class Files
+{
+public:
+    Files() = default;
+    virtual ~Files() = default;
+    Files(const Files &) = delete;
+    Files &operator=(const Files &) = delete;
+
+    // What stands under the path itself. FileNotFound or PathNotFound when there is nothing.
+    // Windows: GetFileAttributesExW (reparse points are Link), GetFileInformationByHandle for the link count.
+    // Linux: lstat.
+    virtual Result<FileInfo> info(const QString &path) = 0;
+
+    // Opens a regular file. Everything else is refused with CannotAccessFile, a folder with AccessDenied,
+    // before any byte is read or written, and without blocking on a pipe. Windows: CreateFileW with
+    // FILE_FLAG_OPEN_REPARSE_POINT. Linux: open with O_NOFOLLOW | O_NONBLOCK, then fstat.
+    virtual Result<std::unique_ptr<FileHandle>> open(const QString &path, OpenMode mode) = 0;
+
+    // Makes the file writable for its owner. Success when nothing had to change, or when nothing stands
+    // there. Windows: clears FILE_ATTRIBUTE_READONLY, keeps the other attributes. Linux: adds the owner's
+    // write permission; a link is left as it is.
+    virtual Status clearReadOnly(const QString &path) = 0;
+
+    // Renames within a folder, replacing what the new name stood for.
+    // Windows: MoveFileExW(MOVEFILE_REPLACE_EXISTING | MOVEFILE_COPY_ALLOWED). Linux: rename.
+    virtual Status rename(const QString &from, const QString &to) = 0;
+
+    // Deletes a file, link, pipe, socket or device node: the name itself, never what it leads to. One
+    // attempt. SharingViolation or AccessDenied while somebody holds the file open on Windows. Windows:
+    // DeleteFileW, RemoveDirectoryW for a link to a folder. Linux: unlink.
+    virtual Status remove(const QString &path) = 0;
+};
+
+} // namespace platform

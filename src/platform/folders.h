@@ -1,0 +1,63 @@
+#pragma once
+
+#include "platform/files.h"
+#include "platform/status.h"
+
+#include <QString>
+
+#include <functional>
+
+namespace platform {
+
+// Room on a mounted volume, in bytes.
+struct SpaceInfo
+{
+    qint64 totalBytes = 0;
+    qint64 freeBytes = 0; // all free bytes, also those that only an administrator may use
+};
+
+// Operations on folders and on the volume below them. Paths as in Files; no operation follows a link in the
+// last component. Thread-safe.
+class Folders
+{
+public:
+    Folders() = default;
+    virtual ~Folders() = default;
+    Folders(const Folders &) = delete;
+    Folders &operator=(const Folders &) = delete;
+
+    // Called once per entry with its name (no path) and kind; false ends the listing, which then counts as
+    // success.
+    using Visitor = std::function<bool(const QString &name, FileKind kind)>;
+
+    // Lists a folder: hidden and system entries too, without "." and "..", in the order the system gives.
+    // Success means that every entry was seen (or the visitor ended it); a failure may come after some were.
+    // Windows: FindFirstFileExW. Linux: readdir; the kind is asked for separately where readdir leaves it
+    // open.
+    virtual Status forEachEntry(const QString &folder, const Visitor &visit) = 0;
+
+    // Creates the folder with all missing parents; success when it exists already as a real folder.
+    // Windows: CreateDirectoryW. Linux: mkdir, mode 0700 for what it creates.
+    virtual Status create(const QString &folder) = 0;
+
+    // Removes an empty folder; DirectoryNotEmpty otherwise.
+    // Windows: RemoveDirectoryW. Linux: rmdir.
+    virtual Status removeEmpty(const QString &folder) = 0;
+
+    // Removes the folder with everything in it. Links inside are removed themselves, what they lead to is
+    // never touched. Goes on past what cannot be removed and answers the first failure. Windows:
+    // FindFirstFileExW, DeleteFileW, RemoveDirectoryW. Linux: openat and unlinkat, so that a folder that is
+    // swapped for a link meanwhile is not followed.
+    virtual Status removeTree(const QString &folder) = 0;
+
+    // Hides the entry from ordinary listings.
+    // Windows: SetFileAttributesW(FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM). Linux: nothing to do, a
+    // leading dot in the name hides it; success when the entry exists.
+    virtual Status hide(const QString &path) = 0;
+
+    // Room on the volume that holds the path. NotReady, or the system's own number, when the volume is gone
+    // or does not answer. Windows: GetDiskFreeSpaceExW. Linux: statvfs.
+    virtual Result<SpaceInfo> space(const QString &path) = 0;
+};
+
+} // namespace platform

@@ -1,0 +1,184 @@
+#pragma once
+
+#include "platform/devices.h"
+#include "platform/files.h"
+#include "platform/folders.h"
+#include "platform/platform.h"
+#include "platform/session.h"
+
+// A wrapper beside each interface that passes every call on, so that whoever wants to change two methods
+// overrides two. The wrapped object is not owned unless it is given as a unique_ptr, and outlives the
+// wrapper.
+
+namespace platform {
+
+class ForwardingFileHandle : public FileHandle
+{
+public:
+    explicit ForwardingFileHandle(std::unique_ptr<FileHandle> target)
+        : m_target(std::move(target))
+    {}
+    Status seek(qint64 position) override { return m_target->seek(position); }
+    Result<qint64> read(void *data, qint64 size) override { return m_target->read(data, size); }
+    Result<qint64> write(const void *data, qint64 size) override { return m_target->write(data, size); }
+    Status setEnd() override { return m_target->setEnd(); }
+    Status flush() override { return m_target->flush(); }
+
+protected:
+    std::unique_ptr<FileHandle> m_target;
+};
+
+class ForwardingFiles : public Files
+{
+public:
+    explicit ForwardingFiles(Files &target)
+        : m_target(target)
+    {}
+    Result<FileInfo> info(const QString &path) override { return m_target.info(path); }
+    Result<std::unique_ptr<FileHandle>> open(const QString &path, OpenMode mode) override
+    {
+        return m_target.open(path, mode);
+    }
+    Status clearReadOnly(const QString &path) override { return m_target.clearReadOnly(path); }
+    Status rename(const QString &from, const QString &to) override { return m_target.rename(from, to); }
+    Status remove(const QString &path) override { return m_target.remove(path); }
+
+protected:
+    Files &m_target;
+};
+
+class ForwardingFolders : public Folders
+{
+public:
+    explicit ForwardingFolders(Folders &target)
+        : m_target(target)
+    {}
+    Status forEachEntry(const QString &folder, const Visitor &visit) override
+    {
+        return m_target.forEachEntry(folder, visit);
+    }
+    Status create(const QString &folder) override { return m_target.create(folder); }
+    Status removeEmpty(const QString &folder) override { return m_target.removeEmpty(folder); }
+    Status removeTree(const QString &folder) override { return m_target.removeTree(folder); }
+    Status hide(const QString &path) override { return m_target.hide(path); }
+    Result<SpaceInfo> space(const QString &path) override { return m_target.space(path); }
+
+protected:
+    Folders &m_target;
+};
+
+class ForwardingDeviceQuery : public DeviceQuery
+{
+public:
+    explicit ForwardingDeviceQuery(std::unique_ptr<DeviceQuery> target)
+        : m_target(std::move(target))
+    {}
+    Result<Geometry> geometry() override { return m_target->geometry(); }
+    Result<QByteArray> descriptor() override { return m_target->descriptor(); }
+    Result<bool> seekPenalty() override { return m_target->seekPenalty(); }
+    Result<bool> trimEnabled() override { return m_target->trimEnabled(); }
+    Result<QList<Extent>> extents(int maxExtents) override { return m_target->extents(maxExtents); }
+
+protected:
+    std::unique_ptr<DeviceQuery> m_target;
+};
+
+// For both kinds of raw device: Base is RawDevice or VolumeDevice.
+template <typename Base>
+class ForwardingTransfers : public Base
+{
+public:
+    explicit ForwardingTransfers(std::unique_ptr<Base> target)
+        : m_target(std::move(target))
+    {}
+    Result<Geometry> geometry() override { return m_target->geometry(); }
+    Result<qint32> bytesPerSector() override { return m_target->bytesPerSector(); }
+    Result<qint64> length() override { return m_target->length(); }
+    Status seek(qint64 position) override { return m_target->seek(position); }
+    Result<qint64> read(void *data, qint64 size) override { return m_target->read(data, size); }
+    Result<qint64> write(const void *data, qint64 size) override { return m_target->write(data, size); }
+    Status flush() override { return m_target->flush(); }
+
+protected:
+    std::unique_ptr<Base> m_target;
+};
+
+using ForwardingRawDevice = ForwardingTransfers<RawDevice>;
+
+class ForwardingVolumeDevice : public ForwardingTransfers<VolumeDevice>
+{
+public:
+    using ForwardingTransfers<VolumeDevice>::ForwardingTransfers;
+    Status lock() override { return m_target->lock(); }
+    Status dismount() override { return m_target->dismount(); }
+    Status allowExtendedIo() override { return m_target->allowExtendedIo(); }
+    Status unlock() override { return m_target->unlock(); }
+};
+
+class ForwardingDevices : public Devices
+{
+public:
+    explicit ForwardingDevices(Devices &target)
+        : m_target(target)
+    {}
+    QString drivePath(int number) override { return m_target.drivePath(number); }
+    Result<std::unique_ptr<DeviceQuery>> queryDrive(int number) override
+    {
+        return m_target.queryDrive(number);
+    }
+    Result<std::unique_ptr<DeviceQuery>> queryVolume(const QString &name) override
+    {
+        return m_target.queryVolume(name);
+    }
+    Result<std::unique_ptr<RawDevice>> openDrive(const DriveIdentity &drive, DriveSharing sharing) override
+    {
+        return m_target.openDrive(drive, sharing);
+    }
+    Result<std::unique_ptr<VolumeDevice>> openVolume(const QString &name, const DriveIdentity &drive) override
+    {
+        return m_target.openVolume(name, drive);
+    }
+    QStringList volumeNames() override { return m_target.volumeNames(); }
+    QList<MountedVolume> mountedVolumes() override { return m_target.mountedVolumes(); }
+
+protected:
+    Devices &m_target;
+};
+
+class ForwardingSession : public Session
+{
+public:
+    explicit ForwardingSession(Session &target)
+        : m_target(target)
+    {}
+    QStringList systemVolumes() override { return m_target.systemVolumes(); }
+    bool isSystemRoot(const QString &rootPath) override { return m_target.isSystemRoot(rootPath); }
+    bool holdsSystemFiles(const QString &rootPath) override { return m_target.holdsSystemFiles(rootPath); }
+
+protected:
+    Session &m_target;
+};
+
+// A platform put together from parts of any origin.
+class ForwardingPlatform : public Platform
+{
+public:
+    ForwardingPlatform(Files &files, Folders &folders, Devices &devices, Session &session)
+        : m_files(files)
+        , m_folders(folders)
+        , m_devices(devices)
+        , m_session(session)
+    {}
+    Files &files() override { return m_files; }
+    Folders &folders() override { return m_folders; }
+    Devices &devices() override { return m_devices; }
+    Session &session() override { return m_session; }
+
+private:
+    Files &m_files;
+    Folders &m_folders;
+    Devices &m_devices;
+    Session &m_session;
+};
+
+} // namespace platform

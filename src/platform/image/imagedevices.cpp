@@ -1,0 +1,211 @@
+#include "platform/image/imagedevices.h"
+
+#include "platform/storagereplies.h"
+
+#include <QCryptographicHash>
+#include <QFileInfo>
+
+#include <algorithm>
+
+namespace platform {
+
+namespace {
+
+constexpr qint32 SectorSize = 512;
+constexpr int DriveNumbers = 32; // as many as enumeration looks at
+
+Status noSuchDrive()
+{
+    return {FileNotFound, 0, "image drive"};
+}
+
+// A stable stand-in for a serial number, so that one image is never taken for another of the same size.
+QString serialNumberOf(const QString &path)
+{
+    const QByteArray hash =
+        QCryptographicHash::hash(path.toUtf8(), QCryptographicHash::Sha256).toHex().left(12);
+    return QStringLiteral("IMG-") + QString::fromLatin1(hash).toUpper();
+}
+
+QByteArray descriptorOf(const QString &path)
+{
+    DeviceDescriptor descriptor;
+    descriptor.productId = QStringLiteral("Image ") + QFileInfo(path).fileName();
+    descriptor.serialNumber = serialNumberOf(path);
+    descriptor.busType = BusFileBackedVirtual;
+    return encodeDeviceDescriptor(descriptor);
+}
+
+class ImageQuery : public DeviceQuery
+{
+public:
+    ImageQuery(QString path, qint64 size)
+        : m_path(std::move(path))
+        , m_size(size)
+    {}
+
+    Result<Geometry> geometry() override { return Geometry{m_size, SectorSize}; }
+    Result<QByteArray> descriptor() override { return descriptorOf(m_path); }
+    Result<bool> seekPenalty() override { return Status{NotSupported, 0, "seek penalty"}; }
+    Result<bool> trimEnabled() override { return Status{NotSupported, 0, "trim"}; }
+    Result<QList<Extent>> extents(int) override { return Status{NotSupported, 0, "extents"}; }
+
+private:
+    QString m_path;
+    qint64 m_size;
+};
+
+class ImageRawDevice : public RawDevice
+{
+public:
+    ImageRawDevice(std::unique_ptr<FileHandle> file, qint64 size)
+        : m_file(std::move(file))
+        , m_size(size)
+    {}
+
+    Result<Geometry> geometry() override { return Geometry{m_size, SectorSize}; }
+    Result<qint32> bytesPerSector() override { return SectorSize; }
+    Result<qint64> length() override { return m_size; }
+
+    Status seek(qint64 position) override
+    {
+        if (position < 0 || position % SectorSize != 0)
+            return {InvalidParameter, 0, "seek"};
+        m_position = position;
+        return {};
+    }
+
+    Result<qint64> read(void *data, qint64 size) override
+    {
+        if (size < 0 || size % SectorSize != 0)
+            return Status{InvalidParameter, 0, "read"};
+        const Status sought = m_file->seek(m_position);
+        if (!sought)
+            return sought;
+        return advanced(m_file->read(data, std::min(size, remaining())));
+    }
+
+    Result<qint64> write(const void *data, qint64 size) override
+    {
+        if (size < 0 || size % SectorSize != 0)
+            return Status{InvalidParameter, 0, "write"};
+        if (size > 0 && remaining() == 0)
+            return Status{SectorNotFound, 0, "write"};
+        const Status sought = m_file->seek(m_position);
+        if (!sought)
+            return sought;
+        return advanced(m_file->write(data, std::min(size, remaining())));
+    }
+
+    Status flush() override { return m_file->flush(); }
+
+private:
+    qint64 remaining() const { return std::max<qint64>(m_size - m_position, 0); }
+
+    Result<qint64> advanced(const Result<qint64> &count)
+    {
+        if (count)
+            m_position += count.value();
+        return count;
+    }
+
+    std::unique_ptr<FileHandle> m_file;
+    qint64 m_size;
+    qint64 m_position = 0;
+};
+
+Result<qint64> imageSize(Files &files, const QString &path)
+{
+    const Result<FileInfo> info = files.info(path);
+    if (!info)
+        return info.status();
+    if (info.value().kind != FileKind::Regular)
+        return Status{CannotAccessFile, 0, "image drive"};
+    return info.value().size;
+}
+
+} // namespace
+
+ImageDevices::ImageDevices(Devices &base, Files &files, const ImageDriveOptions &options)
+    : m_base(base)
+    , m_files(files)
+    , m_onlyImages(options.onlyImages)
+{
+    int next = 0;
+    for (int number = 0; number < DriveNumbers && !m_onlyImages; ++number) {
+        if (m_base.queryDrive(number))
+            next = number + 1;
+    }
+    for (const QString &path : options.imageFiles) {
+        const QFileInfo file(path);
+        const QString canonical = file.canonicalFilePath();
+        m_images.insert(next++, canonical.isEmpty() ? file.absoluteFilePath() : canonical);
+    }
+}
+
+QString ImageDevices::drivePath(int number)
+{
+    if (m_images.contains(number))
+        return m_images.value(number);
+    return m_onlyImages ? QString() : m_base.drivePath(number);
+}
+
+Result<std::unique_ptr<DeviceQuery>> ImageDevices::queryDrive(int number)
+{
+    if (!m_images.contains(number)) {
+        if (m_onlyImages)
+            return noSuchDrive();
+        return m_base.queryDrive(number);
+    }
+    const QString path = m_images.value(number);
+    const Result<qint64> size = imageSize(m_files, path);
+    if (!size)
+        return size.status();
+    return std::unique_ptr<DeviceQuery>(std::make_unique<ImageQuery>(path, size.value()));
+}
+
+Result<std::unique_ptr<DeviceQuery>> ImageDevices::queryVolume(const QString &name)
+{
+    if (m_onlyImages)
+        return noSuchDrive();
+    return m_base.queryVolume(name);
+}
+
+Result<std::unique_ptr<RawDevice>> ImageDevices::openDrive(const DriveIdentity &drive, DriveSharing sharing)
+{
+    if (!m_images.contains(drive.number)) {
+        if (m_onlyImages)
+            return noSuchDrive();
+        return m_base.openDrive(drive, sharing);
+    }
+    const QString path = m_images.value(drive.number);
+    Result<std::unique_ptr<FileHandle>> file = m_files.open(path, OpenMode::Overwrite);
+    if (!file)
+        return file.status();
+    const Result<qint64> size = imageSize(m_files, path);
+    if (!size)
+        return size.status();
+    if (!isSameDrive(drive, descriptorOf(path), size.value()))
+        return Status{NotReady, 0, "identity check"};
+    return std::unique_ptr<RawDevice>(std::make_unique<ImageRawDevice>(file.take(), size.value()));
+}
+
+Result<std::unique_ptr<VolumeDevice>> ImageDevices::openVolume(const QString &name,
+                                                               const DriveIdentity &drive)
+{
+    if (m_onlyImages || m_images.contains(drive.number))
+        return noSuchDrive();
+    return m_base.openVolume(name, drive);
+}
+
+QStringList ImageDevices::volumeNames()
+{
+    return m_onlyImages ? QStringList() : m_base.volumeNames();
+}
+
+QList<MountedVolume> ImageDevices::mountedVolumes()
+{
+    return m_onlyImages ? QList<MountedVolume>() : m_base.mountedVolumes();
+}
+
+} // namespace platform

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "platform/devices.h"
+#include "platform/files.h"
+#include "platform/platform.h"
+
+#include <QHash>
+
+namespace platform {
+
+// Image files as drives with 512-byte sectors and no volumes. Their numbers follow the highest number that a
+// real drive has when this is made and never change; a real drive that later appears under such a number
+// stays hidden. The file keeps its length: a last sector that it holds only in part is written as far as it
+// goes.
+class ImageDevices : public Devices
+{
+public:
+    // Both bases outlive this. A path that leads nowhere is a drive that does not answer.
+    ImageDevices(Devices &base, Files &files, const ImageDriveOptions &options);
+
+    QString drivePath(int number) override;
+    Result<std::unique_ptr<DeviceQuery>> queryDrive(int number) override;
+    Result<std::unique_ptr<DeviceQuery>> queryVolume(const QString &name) override;
+    Result<std::unique_ptr<RawDevice>> openDrive(const DriveIdentity &drive, DriveSharing sharing) override;
+    Result<std::unique_ptr<VolumeDevice>> openVolume(const QString &name,
+                                                     const DriveIdentity &drive) override;
+    QStringList volumeNames() override;
+    QList<MountedVolume> mountedVolumes() override;
+
+private:
+    Devices &m_base;
+    Files &m_files;
+    bool m_onlyImages;
+    QHash<int, QString> m_images; // by drive number
+};
+
+} // namespace platform

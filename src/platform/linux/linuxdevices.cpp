@@ -1,0 +1,196 @@
+#include "platform/linux/linuxdevices.h"
+
+#include "platform/linux/drivedescription.h"
+#include "platform/linux/filenames.h"
+#include "platform/linux/volumelabel.h"
+#include "platform/storagereplies.h"
+
+#include <sys/statvfs.h>
+
+namespace platform {
+
+namespace {
+
+Status noSuchDrive()
+{
+    return {FileNotFound, 0, "drive number"};
+}
+
+// A whole drive or a volume, by its kernel name and the extents found when it was opened.
+class LinuxQuery : public DeviceQuery
+{
+public:
+    LinuxQuery(SystemTree tree, const QString &kernelName, QList<Extent> extents)
+        : m_tree(std::move(tree))
+        , m_name(kernelName)
+        , m_queue(m_tree.sys + QLatin1String("/block/") + kernelName + QLatin1String("/queue/"))
+        , m_extents(std::move(extents))
+    {}
+
+    Result<Geometry> geometry() override
+    {
+        const auto sector = static_cast<qint32>(readNumber(m_queue + QLatin1String("logical_block_size")));
+        const qint64 size =
+            readNumber(m_tree.sys + QLatin1String("/class/block/") + m_name + QLatin1String("/size")) * 512;
+        if (sector <= 0 || size <= 0)
+            return Status{NotReady, 0, "geometry"};
+        return Geometry{size / sector * sector, sector};
+    }
+    Result<QByteArray> descriptor() override { return encodeDeviceDescriptor(describeDrive(m_tree, m_name)); }
+    Result<bool> seekPenalty() override
+    {
+        const QByteArray rotational = readAttribute(m_queue + QLatin1String("rotational"));
+        if (rotational.isEmpty())
+            return Status{NotSupported, 0, "rotational"};
+        return rotational != "0";
+    }
+    Result<bool> trimEnabled() override
+    {
+        return readNumber(m_queue + QLatin1String("discard_max_bytes")) > 0;
+    }
+    Result<QList<Extent>> extents(int maxExtents) override
+    {
+        if (m_extents.size() > maxExtents)
+            return Status{MoreData, 0, "extents"};
+        return m_extents;
+    }
+
+private:
+    SystemTree m_tree;
+    QString m_name;
+    QString m_queue;
+    QList<Extent> m_extents;
+};
+
+} // namespace
+
+LinuxDevices::LinuxDevices(const SystemTree &tree)
+    : m_tree(tree)
+    , m_blocks(tree)
+    , m_volumes(tree)
+    , m_registry(tree)
+{}
+
+QString LinuxDevices::drivePath(int number)
+{
+    const std::optional<Drive> drive = m_registry.byNumber(number);
+    return drive ? m_blocks.node(drive->device) : QString();
+}
+
+Result<std::unique_ptr<DeviceQuery>> LinuxDevices::queryDrive(int number)
+{
+    const std::optional<Drive> drive = m_registry.byNumber(number);
+    if (!drive)
+        return noSuchDrive();
+    const QList<Extent> itself{{number, 0, drive->sizeBytes}};
+    return std::unique_ptr<DeviceQuery>(std::make_unique<LinuxQuery>(m_tree, drive->kernelName, itself));
+}
+
+QList<Extent> LinuxDevices::extentsOf(const QByteArray &device)
+{
+    QList<Extent> extents;
+    const QList<Drive> drives = m_registry.drives();
+    for (const QByteArray &member : m_blocks.fileSystemMembers(device)) {
+        for (const DriveExtent &found : m_blocks.extentsOf(member)) {
+            for (const Drive &drive : drives) {
+                if (drive.device == found.drive)
+                    extents.append({drive.number, found.startingOffset, found.length});
+            }
+        }
+    }
+    return extents;
+}
+
+Result<std::unique_ptr<DeviceQuery>> LinuxDevices::queryVolume(const QString &name)
+{
+    const VolumeTable::Volume volume = m_volumes.byName(name);
+    if (volume.device.isEmpty())
+        return Status{FileNotFound, 0, "volume name"};
+    return std::unique_ptr<DeviceQuery>(
+        std::make_unique<LinuxQuery>(m_tree, m_blocks.kernelName(volume.device), extentsOf(volume.device)));
+}
+
+Status LinuxDevices::checkIdentity(const DriveIdentity &chosen, const Drive &present) const
+{
+    const QByteArray descriptor = encodeDeviceDescriptor(describeDrive(m_tree, present.kernelName));
+    LinuxQuery query(m_tree, present.kernelName, {});
+    const Result<Geometry> geometry = query.geometry();
+    if (!geometry || !isSameDrive(chosen, descriptor, geometry.value().sizeBytes))
+        return {NotReady, 0, "identity check"};
+    return {};
+}
+
+Result<std::unique_ptr<RawDevice>> LinuxDevices::openDrive(const DriveIdentity &drive, DriveSharing sharing)
+{
+    const std::optional<Drive> present = m_registry.byNumber(drive.number);
+    if (!present)
+        return Status{NotReady, 0, "drive number"};
+    Result<FileDescriptor> fd =
+        openBlockDevice(m_blocks.node(present->device), present->device, sharing == DriveSharing::Alone);
+    if (!fd)
+        return fd.status();
+    // Asked only now that the device is held: before, it could still be exchanged for another.
+    const std::optional<Drive> held = m_registry.byNumber(drive.number);
+    const Status identity = held && held->isSameDevice(*present) ? checkIdentity(drive, *held)
+                                                                 : Status{NotReady, 0, "identity check"};
+    if (!identity)
+        return identity;
+    Result<BlockTransfers> transfers = BlockTransfers::on(fd.take());
+    if (!transfers)
+        return transfers.status();
+    return std::unique_ptr<RawDevice>(std::make_unique<LinuxRawDevice>(transfers.take()));
+}
+
+Result<std::unique_ptr<VolumeDevice>> LinuxDevices::openVolume(const QString &name,
+                                                               const DriveIdentity &drive)
+{
+    const VolumeTable::Volume volume = m_volumes.byName(name);
+    if (volume.device.isEmpty())
+        return Status{FileNotFound, 0, "volume name"};
+    const QString node = m_blocks.node(volume.device);
+    Result<FileDescriptor> fd = openBlockDevice(node, volume.device, false);
+    if (!fd)
+        return fd.status();
+    const QList<Extent> extents = extentsOf(volume.device);
+    const std::optional<Drive> present = m_registry.byNumber(drive.number);
+    if (!present || extents.isEmpty() || extents.first().diskNumber != drive.number)
+        return Status{NotReady, 0, "identity check"};
+    const Status identity = checkIdentity(drive, *present);
+    if (!identity)
+        return identity;
+    Result<BlockTransfers> transfers = BlockTransfers::on(fd.take());
+    if (!transfers)
+        return transfers.status();
+    return std::unique_ptr<VolumeDevice>(
+        std::make_unique<LinuxVolumeDevice>(transfers.take(), m_volumes, volume.device, node));
+}
+
+QStringList LinuxDevices::volumeNames()
+{
+    QStringList names;
+    for (const VolumeTable::Volume &volume : m_volumes.mounted())
+        names.append(volume.name);
+    return names;
+}
+
+QList<MountedVolume> LinuxDevices::mountedVolumes()
+{
+    QList<MountedVolume> volumes;
+    for (const VolumeTable::Volume &volume : m_volumes.mounted()) {
+        MountedVolume mounted;
+        mounted.name = volume.name;
+        mounted.rootPath = volume.name;
+        mounted.fileSystem = volume.fileSystem;
+        mounted.label = volumeLabel(m_tree, volume.device, volume.name);
+        struct statvfs room = {};
+        if (::statvfs(encodeName(volume.name).constData(), &room) == 0) {
+            mounted.totalBytes = static_cast<qint64>(room.f_blocks) * static_cast<qint64>(room.f_frsize);
+            mounted.freeBytes = static_cast<qint64>(room.f_bfree) * static_cast<qint64>(room.f_frsize);
+            mounted.isReady = true;
+        }
+        volumes.append(mounted);
+    }
+    return volumes;
+}
+
+} // namespace platform

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "platform/devices.h"
+#include "platform/linux/blocktree.h"
+#include "platform/linux/driveregistry.h"
+#include "platform/linux/linuxvolume.h"
+#include "platform/linux/systemtree.h"
+
+namespace platform {
+
+// Drives and volumes of a Linux machine, as the kernel tells of them at each call.
+class LinuxDevices : public Devices
+{
+public:
+    explicit LinuxDevices(const SystemTree &tree = {});
+
+    QString drivePath(int number) override;
+    Result<std::unique_ptr<DeviceQuery>> queryDrive(int number) override;
+    Result<std::unique_ptr<DeviceQuery>> queryVolume(const QString &name) override;
+    Result<std::unique_ptr<RawDevice>> openDrive(const DriveIdentity &drive, DriveSharing sharing) override;
+    Result<std::unique_ptr<VolumeDevice>> openVolume(const QString &name,
+                                                     const DriveIdentity &drive) override;
+    QStringList volumeNames() override;
+    QList<MountedVolume> mountedVolumes() override;
+
+private:
+    Status checkIdentity(const DriveIdentity &chosen, const Drive &present) const;
+    QList<Extent> extentsOf(const QByteArray &device);
+
+    SystemTree m_tree;
+    BlockTree m_blocks;
+    VolumeTable m_volumes;
+    DriveRegistry m_registry;
+};
+
+} // namespace platform

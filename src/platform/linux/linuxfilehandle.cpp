@@ -1,0 +1,275 @@
+#include "platform/linux/linuxfilehandle.h"
+
+#include "platform/linux/errnotable.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cstdint>
+#include <cstring>
+#include <limits>
+
+namespace platform {
+
+namespace {
+
+// Large enough for a verification sample at any position, small beside a worker's own buffers.
+constexpr qint64 LargestBounce = qint64(1024) * 1024;
+// Up to here a write that does not end on a whole unit goes through the cache as a whole: apart, its last
+// bytes would have the device flushed a second time, which takes longer than everything else about a small
+// file.
+constexpr qint64 LargestCachedWrite = 256LL * 1024;
+// Far beyond any file, and rounding up to whole units cannot overflow.
+constexpr qint64 EndOfPositions = std::numeric_limits<qint64>::max() - LargestBounce;
+
+bool isTransferable(qint64 position, qint64 size)
+{
+    return size >= 0 && size <= EndOfPositions && position <= EndOfPositions - size;
+}
+
+qint64 roundedDown(qint64 value, qint64 unit)
+{
+    return value - value % unit;
+}
+
+qint64 roundedUp(qint64 value, qint64 unit)
+{
+    return roundedDown(value + unit - 1, unit);
+}
+
+// No room is not a fault of what was already written: it ends a write as the end of the file ends a read.
+bool isOutOfRoom(int error)
+{
+    return error == ENOSPC || error == EDQUOT || error == EFBIG;
+}
+
+} // namespace
+
+LinuxFileHandle::LinuxFileHandle(OpenedFile file)
+    : m_file(std::move(file.descriptor))
+    , m_direct(file.direct)
+    , m_writeThrough(file.writeThrough)
+    , m_directOn(file.directOn)
+{}
+
+Status LinuxFileHandle::seek(qint64 position)
+{
+    if (position < 0)
+        return {InvalidParameter, 0, "seek"};
+    m_position = position;
+    return {};
+}
+
+Result<qint64> LinuxFileHandle::read(void *data, qint64 size)
+{
+    if (!isTransferable(m_position, size))
+        return Status{InvalidParameter, 0, "pread"};
+    // Also with direct transfers: file systems answer some of them from the cache without a word, ext4 those
+    // of files with data journalling, btrfs those of compressed extents.
+    dropCached();
+    qint64 done = 0;
+    while (done < size) {
+        const Result<qint64> count =
+            readSome(m_position + done, static_cast<std::byte *>(data) + done, size - done);
+        if (!count)
+            return count;
+        if (count.value() == 0)
+            break;
+        done += count.value();
+    }
+    m_position += done;
+    return done;
+}
+
+Result<qint64> LinuxFileHandle::readSome(qint64 position, std::byte *data, qint64 size)
+{
+    if (m_direct.possible) {
+        if (const Status switched = switchDirect(true); !switched)
+            return switched;
+    }
+    if (m_direct.possible) {
+        const Result<qint64> count = readDirect(position, data, size);
+        if (count || count.status().native != EINVAL)
+            return count;
+        m_direct.possible = false;
+    }
+    return readCached(position, data, size);
+}
+
+Result<qint64> LinuxFileHandle::readDirect(qint64 position, std::byte *data, qint64 size)
+{
+    const qint64 unit = m_direct.fileUnit;
+    if (position % unit == 0 && size >= unit && fitsMemory(data)) {
+        const auto length = static_cast<std::size_t>(roundedDown(size, unit));
+        const ssize_t count = uninterrupted([&] { return ::pread(m_file.get(), data, length, position); });
+        if (count < 0)
+            return statusFromErrno(errno, "pread");
+        return count;
+    }
+    const qint64 from = roundedDown(position, unit);
+    const qint64 wanted = roundedUp(position + size, unit) - from;
+    if (!provideBounce(wanted))
+        return Status{NotEnoughMemory, ENOMEM, "mmap"};
+    const auto length = static_cast<std::size_t>(qMin(wanted, m_bounce.size()));
+    const ssize_t count = uninterrupted([&] { return ::pread(m_file.get(), m_bounce.data(), length, from); });
+    if (count < 0)
+        return statusFromErrno(errno, "pread");
+    const qint64 usable = qBound(qint64(0), count - (position - from), size);
+    std::memcpy(data, m_bounce.data() + (position - from), static_cast<std::size_t>(usable));
+    return usable;
+}
+
+Result<qint64> LinuxFileHandle::readCached(qint64 position, std::byte *data, qint64 size)
+{
+    if (const Status switched = switchDirect(false); !switched)
+        return switched;
+    if (!m_writtenOut) {
+        // Pages that are still to be written cannot be dropped. EINVAL: this file system has nothing to write
+        // out.
+        if (uninterrupted([&] { return ::fdatasync(m_file.get()); }) != 0 && errno != EINVAL)
+            return statusFromErrno(errno, "fdatasync");
+        m_writtenOut = true;
+        // Without this the kernel reads ahead, and the next read would come from there.
+        ::posix_fadvise(m_file.get(), 0, 0, POSIX_FADV_RANDOM);
+        dropCached();
+    }
+    const auto length = static_cast<std::size_t>(size);
+    const ssize_t count = uninterrupted([&] { return ::pread(m_file.get(), data, length, position); });
+    if (count < 0)
+        return statusFromErrno(errno, "pread");
+    return count;
+}
+
+Result<qint64> LinuxFileHandle::write(const void *data, qint64 size)
+{
+    if (!isTransferable(m_position, size))
+        return Status{InvalidParameter, 0, "pwrite"};
+    m_writtenOut = false;
+    const Result<qint64> count = writePieces(static_cast<const std::byte *>(data), size);
+    if (count)
+        m_position += count.value();
+    else
+        m_writeFailed = true;
+    return count;
+}
+
+Result<qint64> LinuxFileHandle::writePieces(const std::byte *data, qint64 size)
+{
+    qint64 done = 0;
+    while (done < size) {
+        const Result<qint64> count = writeSome(m_position + done, data + done, size - done);
+        if (!count && !(done > 0 && isOutOfRoom(count.status().native)))
+            return count;
+        if (!count || count.value() == 0)
+            break;
+        done += count.value();
+    }
+    return done;
+}
+
+Result<qint64> LinuxFileHandle::writeSome(qint64 position, const std::byte *data, qint64 size)
+{
+    if (m_direct.possible) {
+        const qint64 unit = m_direct.fileUnit;
+        const qint64 beyond = position % unit;
+        const bool isWhole = beyond == 0 && size % unit == 0;
+        if (beyond == 0 && size >= unit && (isWhole || size > LargestCachedWrite)) {
+            const Result<qint64> count = writeDirect(position, data, roundedDown(size, unit));
+            if (count || count.status().native != EINVAL)
+                return count;
+            m_direct.possible = false;
+        } else if (size > LargestCachedWrite) {
+            size = unit - beyond;
+        }
+    }
+    if (const Status switched = switchDirect(false); !switched)
+        return switched;
+    return transferOut(position, data, size);
+}
+
+Result<qint64> LinuxFileHandle::writeDirect(qint64 position, const std::byte *data, qint64 size)
+{
+    if (const Status switched = switchDirect(true); !switched)
+        return switched;
+    if (fitsMemory(data))
+        return transferOut(position, data, size);
+    if (!provideBounce(size))
+        return Status{NotEnoughMemory, ENOMEM, "mmap"};
+    const qint64 length = qMin(size, m_bounce.size());
+    std::memcpy(m_bounce.data(), data, static_cast<std::size_t>(length));
+    return transferOut(position, m_bounce.data(), length);
+}
+
+Result<qint64> LinuxFileHandle::transferOut(qint64 position, const std::byte *data, qint64 size)
+{
+    const auto length = static_cast<std::size_t>(size);
+    const ssize_t count = uninterrupted([&] { return ::pwrite(m_file.get(), data, length, position); });
+    if (count < 0)
+        return statusFromErrno(errno, "pwrite");
+    return count;
+}
+
+Status LinuxFileHandle::setEnd()
+{
+    if (uninterrupted([&] { return ::ftruncate(m_file.get(), m_position); }) != 0)
+        return statusFromErrno(errno, "ftruncate");
+    m_endMoved = true;
+    m_writtenOut = false;
+    return {};
+}
+
+Status LinuxFileHandle::flush()
+{
+    // The kernel reports lost data once and then forgets it: a second attempt would succeed over data that is
+    // not there.
+    if (!m_flushFailure)
+        return m_flushFailure;
+    // Each write has already waited for the device, and its cache would only be flushed once more: a third of
+    // the time that small files take.
+    if (m_writeThrough && !m_endMoved && !m_writeFailed)
+        return {};
+    const int answer =
+        uninterrupted([&] { return m_endMoved ? ::fsync(m_file.get()) : ::fdatasync(m_file.get()); });
+    if (answer != 0) {
+        m_flushFailure = statusFromErrno(errno, m_endMoved ? "fsync" : "fdatasync");
+        return m_flushFailure;
+    }
+    m_endMoved = false;
+    m_writeFailed = false;
+    return {};
+}
+
+bool LinuxFileHandle::fitsMemory(const std::byte *data) const
+{
+    return reinterpret_cast<std::uintptr_t>(data) % static_cast<std::uintptr_t>(m_direct.memoryUnit) == 0;
+}
+
+// At least one unit, at most LargestBounce; what is larger goes through it piece by piece.
+bool LinuxFileHandle::provideBounce(qint64 size)
+{
+    const qint64 needed = roundedUp(qMin(size, LargestBounce), m_direct.fileUnit);
+    if (m_bounce.size() < needed)
+        m_bounce = AlignedBuffer(needed);
+    return !m_bounce.isNull();
+}
+
+// O_DIRECT and O_NONBLOCK are all that F_SETFL could change here, and the latter means nothing to regular
+// files.
+Status LinuxFileHandle::switchDirect(bool on)
+{
+    if (m_directOn == on)
+        return {};
+    if (::fcntl(m_file.get(), F_SETFL, on ? O_DIRECT : 0) != 0)
+        return statusFromErrno(errno, "fcntl");
+    m_directOn = on;
+    return {};
+}
+
+// Of the whole file: the kernel skips a folio that reaches beyond a given range, and it holds a file in
+// folios of up to some megabytes. Only a hint, it also keeps pages that are dirty or mapped.
+void LinuxFileHandle::dropCached()
+{
+    ::posix_fadvise(m_file.get(), 0, 0, POSIX_FADV_DONTNEED);
+}
+
+} // namespace platform

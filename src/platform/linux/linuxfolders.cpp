@@ -1,0 +1,147 @@
+#include "platform/linux/linuxfolders.h"
+
+#include "platform/linux/directoryentries.h"
+#include "platform/linux/errnotable.h"
+#include "platform/linux/filenames.h"
+#include "platform/linux/treeremoval.h"
+
+#include <QList>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <sys/statvfs.h>
+#include <unistd.h>
+
+#include <limits>
+
+namespace platform {
+
+namespace {
+
+// The slash between a path's last component and the folder that contains it, -1 without one; several in a row
+// are one separator.
+qsizetype endOfParent(const QByteArray &path, qsizetype length)
+{
+    qsizetype end = path.lastIndexOf('/', length - 1);
+    while (end > 0 && path[end - 1] == '/')
+        --end;
+    return end;
+}
+
+Status makeFolder(const QByteArray &path)
+{
+    if (::mkdir(path.constData(), S_IRWXU) == 0)
+        return {};
+    const Status status = statusFromErrno(errno, "mkdir");
+    struct stat found = {};
+    if (status.native == EEXIST && ::lstat(path.constData(), &found) == 0 && S_ISDIR(found.st_mode))
+        return {};
+    return status;
+}
+
+// Some network file systems count more blocks than 63 bits have bytes.
+qint64 bytesIn(quint64 blocks, quint64 blockSize)
+{
+    constexpr auto Most = static_cast<quint64>(std::numeric_limits<qint64>::max());
+    if (blockSize != 0 && blocks > Most / blockSize)
+        return std::numeric_limits<qint64>::max();
+    return static_cast<qint64>(blocks * blockSize);
+}
+
+} // namespace
+
+Status LinuxFolders::forEachEntry(const QString &folder, const Visitor &visit)
+{
+    const Result<QByteArray> name = encodePath(folder);
+    if (!name)
+        return name.status();
+    constexpr int Flags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC;
+    FileDescriptor opened(uninterrupted([&] { return ::open(name.value().constData(), Flags); }));
+    if (!opened.isValid())
+        return statusFromErrno(errno, "open");
+    return readEntries(std::move(opened), [&](const char *entry, FileKind kind) {
+        return visit(decodeName(QByteArrayView(entry)), kind);
+    });
+}
+
+Status LinuxFolders::create(const QString &folder)
+{
+    const Result<QByteArray> name = encodePath(folder);
+    if (!name)
+        return name.status();
+    // Down from the end to the first folder that exists or can be made, then up again with the missing ones.
+    const QByteArray &path = name.value();
+    QList<qsizetype> missing;
+    qsizetype length = path.size();
+    Status status = makeFolder(path);
+    while (status.native == ENOENT && endOfParent(path, length) > 0) {
+        missing.append(length);
+        length = endOfParent(path, length);
+        status = makeFolder(path.left(length));
+    }
+    while (status && !missing.isEmpty())
+        status = makeFolder(path.left(missing.takeLast()));
+    return status;
+}
+
+Status LinuxFolders::removeEmpty(const QString &folder)
+{
+    const Result<QByteArray> name = encodePath(folder);
+    if (!name)
+        return name.status();
+    if (::rmdir(name.value().constData()) != 0)
+        return statusFromErrno(errno, "rmdir");
+    return {};
+}
+
+Status LinuxFolders::removeTree(const QString &folder)
+{
+    const Result<QByteArray> path = encodePath(folder);
+    if (!path)
+        return path.status();
+    struct stat found = {};
+    if (::lstat(path.value().constData(), &found) != 0)
+        return statusFromErrno(errno, "lstat");
+    if (!S_ISDIR(found.st_mode))
+        return statusFromErrno(ENOTDIR, "lstat");
+    const qsizetype slash = path.value().lastIndexOf('/');
+    const QByteArray name = path.value().mid(slash + 1);
+    // The root itself, and names whose last component is not that of the folder they lead to.
+    if (name.isEmpty() || name == "." || name == "..")
+        return {InvalidParameter, 0, "rmdir"};
+    const QByteArray above = slash < 0 ? QByteArray(".") : path.value().left(slash + 1);
+    FileDescriptor parent(
+        uninterrupted([&] { return ::open(above.constData(), O_PATH | O_DIRECTORY | O_CLOEXEC); }));
+    if (!parent.isValid())
+        return statusFromErrno(errno, "open");
+    return TreeRemoval(std::move(parent)).run(name);
+}
+
+Status LinuxFolders::hide(const QString &path)
+{
+    const Result<QByteArray> name = encodePath(path);
+    if (!name)
+        return name.status();
+    struct stat found = {};
+    if (::lstat(name.value().constData(), &found) != 0)
+        return statusFromErrno(errno, "lstat");
+    return {};
+}
+
+Result<SpaceInfo> LinuxFolders::space(const QString &path)
+{
+    const Result<QByteArray> name = encodePath(path);
+    if (!name)
+        return name.status();
+    // statvfs() would answer for the volume that a link leads to.
+    const FileDescriptor opened(
+        uninterrupted([&] { return ::open(name.value().constData(), O_PATH | O_NOFOLLOW | O_CLOEXEC); }));
+    if (!opened.isValid())
+        return statusFromErrno(errno, "open");
+    struct statvfs volume = {};
+    if (uninterrupted([&] { return ::fstatvfs(opened.get(), &volume); }) != 0)
+        return statusFromErrno(errno, "fstatvfs");
+    return SpaceInfo{bytesIn(volume.f_blocks, volume.f_frsize), bytesIn(volume.f_bfree, volume.f_frsize)};
+}
+
+} // namespace platform

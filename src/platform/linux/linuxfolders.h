@@ -1,0 +1,21 @@
+#pragma once
+
+#include "platform/folders.h"
+
+namespace platform {
+
+// Folders by way of POSIX calls. Without state.
+class LinuxFolders final : public Folders
+{
+public:
+    Status forEachEntry(const QString &folder, const Visitor &visit) override;
+    Status create(const QString &folder) override;
+    Status removeEmpty(const QString &folder) override;
+    // Stays on the mounted file system it began on: what is mounted inside keeps its contents, and the mount
+    // point counts as a failure (SharingViolation). Any depth, with a handful of descriptors.
+    Status removeTree(const QString &folder) override;
+    Status hide(const QString &path) override;
+    Result<SpaceInfo> space(const QString &path) override;
+};
+
+} // namespace platform

@@ -1,0 +1,133 @@
+#include "platform/linux/linuxrawdevice.h"
+
+#include "platform/linux/errnotable.h"
+#include "platform/linux/filenames.h"
+
+#include <QtGlobal>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdint>
+
+#include <fcntl.h>
+#include <linux/fs.h>
+#include <sys/ioctl.h>
+#include <sys/stat.h>
+#include <sys/sysmacros.h>
+#include <unistd.h>
+
+namespace platform {
+
+namespace {
+
+// Zero and the three numbers of an end reached are the only answers that end a volume without a failure, so
+// inside the device none of them may come from here: EINVAL would be "invalid parameter".
+Status writeFailure(int error)
+{
+    Status status = statusFromErrno(error, "pwrite");
+    if (status.code == InvalidParameter)
+        status.code = IoDevice;
+    return status;
+}
+
+} // namespace
+
+Result<FileDescriptor> openBlockDevice(const QString &node, const QByteArray &device, bool exclusive)
+{
+    int flags = O_RDWR | O_DIRECT | O_DSYNC | O_CLOEXEC | O_NONBLOCK;
+    if (exclusive)
+        flags |= O_EXCL;
+    FileDescriptor fd(::open(encodeName(node).constData(), flags));
+    if (!fd.isValid())
+        return statusFromErrno(errno, "open");
+    struct stat info = {};
+    if (::fstat(fd.get(), &info) != 0)
+        return statusFromErrno(errno, "fstat");
+    const QByteArray opened =
+        QByteArray::number(major(info.st_rdev)) + ':' + QByteArray::number(minor(info.st_rdev));
+    if (!S_ISBLK(info.st_mode) || opened != device)
+        return Status{NotReady, 0, "identity check"};
+    return fd;
+}
+
+Result<BlockTransfers> BlockTransfers::on(FileDescriptor fd)
+{
+    quint64 size = 0;
+    int sector = 0;
+    if (::ioctl(fd.get(), BLKGETSIZE64, &size) != 0)
+        return statusFromErrno(errno, "BLKGETSIZE64");
+    if (::ioctl(fd.get(), BLKSSZGET, &sector) != 0)
+        return statusFromErrno(errno, "BLKSSZGET");
+    if (sector <= 0)
+        return Status{NotReady, 0, "BLKSSZGET"};
+    const auto whole = static_cast<qint64>(size) / sector * sector;
+    return BlockTransfers(std::move(fd), Geometry{whole, sector});
+}
+
+bool BlockTransfers::isAligned(const void *data, qint64 size) const
+{
+    const qint64 sector = m_geometry.bytesPerSector;
+    return size >= 0 && size % sector == 0 &&
+           reinterpret_cast<std::uintptr_t>(data) % static_cast<quint64>(sector) == 0;
+}
+
+Status BlockTransfers::seek(qint64 position)
+{
+    if (position < 0 || position % m_geometry.bytesPerSector != 0)
+        return {InvalidParameter, 0, "seek"};
+    m_position = position;
+    return {};
+}
+
+Result<qint64> BlockTransfers::read(void *data, qint64 size)
+{
+    if (!isAligned(data, size))
+        return Status{InvalidParameter, 0, "read"};
+    qint64 done = 0;
+    while (done < size) {
+        const ssize_t count = ::pread(m_fd.get(), static_cast<char *>(data) + done,
+                                      static_cast<size_t>(size - done), m_position);
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count < 0)
+            return statusFromErrno(errno, "pread");
+        if (count == 0)
+            break;
+        done += count;
+        m_position += count;
+    }
+    return done;
+}
+
+Result<qint64> BlockTransfers::write(const void *data, qint64 size)
+{
+    if (!isAligned(data, size))
+        return Status{InvalidParameter, 0, "write"};
+    const qint64 room = std::max<qint64>(m_geometry.sizeBytes - m_position, 0);
+    if (size > 0 && room == 0)
+        return Status{SectorNotFound, 0, "write"};
+    const qint64 wanted = std::min(size, room);
+    qint64 done = 0;
+    while (done < wanted) {
+        const ssize_t count = ::pwrite(m_fd.get(), static_cast<const char *>(data) + done,
+                                       static_cast<size_t>(wanted - done), m_position);
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count < 0)
+            return writeFailure(errno);
+        if (count == 0) // no device does that inside its length; looping on it would never end
+            return writeFailure(EIO);
+        done += count;
+        m_position += count;
+    }
+    return done;
+}
+
+Status BlockTransfers::flush()
+{
+    if (::fdatasync(m_fd.get()) != 0)
+        return statusFromErrno(errno, "fdatasync");
+    return {};
+}
+
+} // namespace platform

@@ -1,0 +1,54 @@
+#include "platform/linux/linuxsession.h"
+
+#include <QDir>
+
+namespace platform {
+
+namespace {
+
+const QStringList &systemMountPoints()
+{
+    static const QStringList points{QStringLiteral("/"),         QStringLiteral("/boot"),
+                                    QStringLiteral("/boot/efi"), QStringLiteral("/usr"),
+                                    QStringLiteral("/var"),      QStringLiteral("/home")};
+    return points;
+}
+
+} // namespace
+
+LinuxSession::LinuxSession(const SystemTree &tree)
+    : m_tree(tree)
+    , m_volumes(tree)
+{}
+
+QStringList LinuxSession::systemVolumes()
+{
+    QStringList volumes;
+    for (const QString &point : systemMountPoints()) {
+        const VolumeTable::Volume volume = m_volumes.byName(point);
+        if (volume.isMounted && !volume.device.isEmpty())
+            volumes.append(point);
+    }
+    for (const QString &area : parseSwaps(readAttribute(m_tree.proc + QLatin1String("/swaps")))) {
+        if (!BlockTree::deviceOfNode(area).isEmpty()) {
+            volumes.append(area);
+            continue;
+        }
+        const QString holder = m_volumes.mountPointOver(area);
+        if (!holder.isEmpty() && !volumes.contains(holder))
+            volumes.append(holder);
+    }
+    return volumes;
+}
+
+bool LinuxSession::isSystemRoot(const QString &rootPath)
+{
+    return systemMountPoints().contains(QDir::cleanPath(rootPath));
+}
+
+bool LinuxSession::holdsSystemFiles(const QString &rootPath)
+{
+    return isSystemRoot(rootPath);
+}
+
+} // namespace platform

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "platform/linux/linuxvolume.h"
+#include "platform/linux/systemtree.h"
+#include "platform/session.h"
+
+namespace platform {
+
+class LinuxSession : public Session
+{
+public:
+    explicit LinuxSession(const SystemTree &tree = {});
+
+    QStringList systemVolumes() override;
+    bool isSystemRoot(const QString &rootPath) override;
+    bool holdsSystemFiles(const QString &rootPath) override;
+
+private:
+    SystemTree m_tree;
+    VolumeTable m_volumes;
+};
+
+} // namespace platform

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "platform/linux/blocktree.h"
+#include "platform/linux/linuxrawdevice.h"
+#include "platform/linux/mounttable.h"
+#include "platform/linux/systemtree.h"
+
+#include <QList>
+
+namespace platform {
+
+// The mounts of block devices in a mount table, and what they stand on.
+class VolumeTable
+{
+public:
+    explicit VolumeTable(const SystemTree &tree);
+
+    struct Volume
+    {
+        QString name;      // mount point, or the node of a volume that is not mounted
+        QByteArray device; // the block device
+        QByteArray fileSystem;
+        bool isMounted = false;
+    };
+
+    // One volume per device, under its first mount point, in mount order.
+    QList<Volume> mounted() const;
+    // By mount point or node; an empty device means that there is none.
+    Volume byName(const QString &name) const;
+    // The mount point of the block device that holds the file of that path (a swap file, say); empty when
+    // none does.
+    QString mountPointOver(const QString &path) const;
+    // Every place where the device's file system is mounted, the latest mount first.
+    QStringList mountPointsOf(const QByteArray &device) const;
+
+private:
+    QByteArray deviceOf(const MountEntry &entry) const;
+    QList<MountEntry> entries() const;
+
+    SystemTree m_tree;
+    BlockTree m_blocks;
+};
+
+// A volume opened for raw transfers. It is written to only while no file system is mounted on it and nobody
+// else holds it, which lock() and dismount() bring about.
+class LinuxVolumeDevice : public LinuxTransfers<VolumeDevice>
+{
+public:
+    LinuxVolumeDevice(BlockTransfers transfers, VolumeTable table, QByteArray device, QString node);
+
+    Result<qint64> write(const void *data, qint64 size) override;
+    Status lock() override;
+    Status dismount() override;
+    Status allowExtendedIo() override { return {}; }
+    Status unlock() override;
+
+private:
+    Status unmountEverywhere();
+    Status reopen(bool exclusive);
+
+    VolumeTable m_table;
+    QByteArray m_device;
+    QString m_node;
+    bool m_isExclusive = false;
+};
+
+} // namespace platform

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QByteArray>
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+namespace platform {
+
+// One line of /proc/self/mountinfo.
+struct MountEntry
+{
+    QByteArray deviceNumber; // "8:1"; of file systems over several devices a number of their own ("0:42")
+    QString root;            // the part of the file system that is mounted, "/" for all of it
+    QString mountPoint;
+    QByteArray fileSystem;
+    QString source; // usually a device node
+};
+
+// Pure; lines that are not of the form are passed over. Order as in the text, which is the order of mounting.
+QList<MountEntry> parseMountInfo(const QByteArray &text);
+
+// The active swap areas in the text of /proc/swaps: device nodes and files.
+QStringList parseSwaps(const QByteArray &text);
+
+} // namespace platform

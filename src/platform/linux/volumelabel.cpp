@@ -1,0 +1,31 @@
+#include "platform/linux/volumelabel.h"
+
+#include "platform/linux/filedescriptor.h"
+#include "platform/linux/filenames.h"
+
+#include <QList>
+
+#include <array>
+
+#include <fcntl.h>
+#include <linux/fs.h>
+#include <sys/ioctl.h>
+
+namespace platform {
+
+QString volumeLabel(const SystemTree &tree, const QByteArray &device, const QString &mountPoint)
+{
+    const QByteArray udev = readAttribute(tree.udev + QLatin1String("/b") + QString::fromLatin1(device));
+    for (const QByteArray &line : udev.split('\n')) {
+        if (line.startsWith("E:ID_FS_LABEL="))
+            return QString::fromUtf8(line.mid(14));
+    }
+
+    const FileDescriptor root(::open(encodeName(mountPoint).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    std::array<char, FSLABEL_MAX + 1> label = {};
+    if (!root.isValid() || ::ioctl(root.get(), FS_IOC_GETFSLABEL, label.data()) != 0)
+        return {};
+    return QString::fromUtf8(label.data());
+}
+
+} // namespace platform

@@ -1,0 +1,66 @@
+#pragma once
+
+#include "platform/status.h"
+
+#include <QByteArray>
+#include <QStringList>
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+// What a command-line program needs of its own process: the standard streams, the arguments as they were
+// given, and the wish of the user or the system to stop it.
+
+namespace platform {
+
+enum class StandardStream { Input, Output, Error };
+
+// Whether a person sits behind the stream. Windows: GetConsoleMode succeeds. Linux: isatty.
+bool isTerminal(StandardStream stream);
+
+// Columns of the terminal behind the stream, 0 when there is none or it does not tell.
+// Windows: GetConsoleScreenBufferInfo. Linux: TIOCGWINSZ.
+int terminalColumns(StandardStream stream);
+
+// The next line of standard input without its line end, waiting for it as long as it takes. Nothing at the
+// end of the input, after a failure, and as soon as a StopHandler has been asked to stop. Not beside other
+// readers of the stream. Windows: ReadConsoleW or ReadFile; both end with Ctrl+C. Linux: poll on the input
+// and on the stop signals, read.
+std::optional<QString> readLine();
+
+// Writes all of the UTF-8 text, waiting for a reader that is slow. While a StopHandler exists, a reader that
+// has gone away makes it fail; without one the system may end the process then. Windows: WriteConsoleW to a
+// console, else WriteFile. Linux: write.
+Status writeText(StandardStream stream, const QByteArray &text);
+
+// The arguments of main(), the program's name first, in the form that Files takes for paths: nothing in them
+// is lost. Windows: GetCommandLineW and CommandLineToArgvW. Linux: an undecodable byte b becomes the lone
+// surrogate U+DC00 + b.
+QStringList decodedArguments(int count, char *const *arguments);
+
+// Receives the wish to stop for as long as it exists, in place of the process's end. One at a time, made on
+// the thread of the QCoreApplication, whose event loop calls the function; never called twice.
+//
+// Windows: SetConsoleCtrlHandler (Ctrl+C, Ctrl+Break, closing the window, logoff, shutdown; the handler's own
+// thread waits until the process ends) and a QWinEventNotifier. Linux: SIGINT and SIGTERM, also where a shell
+// has made a background process ignore SIGINT; SIGHUP unless it is ignored, as nohup does; they write into a
+// pipe that a QSocketNotifier reads. A write to a pipe without a reader fails meanwhile instead of ending the
+// process.
+class StopHandler
+{
+public:
+    explicit StopHandler(std::function<void()> onStop);
+    ~StopHandler();
+    StopHandler(const StopHandler &) = delete;
+    StopHandler &operator=(const StopHandler &) = delete;
+
+    // Whether the wish has been received, also before an event loop could pass it on. Any thread.
+    static bool isAsked();
+
+private:
+    class Private;
+    std::unique_ptr<Private> d;
+};
+
+} // namespace platform

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace platform {
+
+// The running system and who uses it. Thread-safe.
+class Session
+{
+public:
+    Session() = default;
+    virtual ~Session() = default;
+    Session(const Session &) = delete;
+    Session &operator=(const Session &) = delete;
+
+    // Volumes that the running system needs, as Devices::queryVolume takes them. Every drive under one of
+    // them is a system disk. Windows: one, the environment variable "SystemDrive", "C:" when it is empty.
+    // Linux: what is mounted on "/",
+    // "/boot", "/boot/efi", "/usr", "/var" and "/home" from a block device, and every active swap device;
+    // empty on a system that runs from memory.
+    virtual QStringList systemVolumes() = 0;
+
+    // Whether the root path is that of the volume shown to users as the system volume.
+    // Windows: begins with "C:", whatever the case. Linux: one of the mount points above.
+    virtual bool isSystemRoot(const QString &rootPath) = 0;
+
+    // Whether the volume needs the large reserve of free space because the system itself writes there.
+    // Windows: the first two characters of GetWindowsDirectoryW begin the root path, whatever the case.
+    // Linux: as isSystemRoot.
+    virtual bool holdsSystemFiles(const QString &rootPath) = 0;
+};
+
+} // namespace platform

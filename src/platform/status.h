@@ -1,0 +1,105 @@
+#pragma once
+
+#include <QString>
+#include <QtGlobal>
+
+#include <optional>
+#include <utility>
+
+// What an operation of the platform layer answers. Nothing in this layer throws; whoever asks decides what a
+// failure means.
+
+namespace platform {
+
+// Error numbers as users are shown them. They are the Win32 numbers on every system: the Windows backend
+// passes GetLastError() on unchanged, the others map their own numbers in one table (linux/errnotable.h).
+enum ErrorCode : quint32 {
+    NoError = 0,
+    FileNotFound = 2,
+    PathNotFound = 3,
+    TooManyOpenFiles = 4,
+    AccessDenied = 5,
+    NotEnoughMemory = 8,
+    NotSameDevice = 17,
+    WriteProtect = 19,
+    NotReady = 21,
+    SectorNotFound = 27,
+    WriteFault = 29,
+    GeneralFailure = 31,
+    SharingViolation = 32,
+    LockViolation = 33,
+    NotSupported = 50,
+    InvalidParameter = 87,
+    DiskFull = 112,
+    SemaphoreTimeout = 121,
+    DirectoryNotEmpty = 145,
+    AlreadyExists = 183,
+    FileNameTooLong = 206,
+    FileTooLarge = 223,
+    MoreData = 234,
+    IoDevice = 1117,
+    DiskQuotaExceeded = 1295,
+    CannotAccessFile = 1920,
+};
+
+// Success, or the number shown to users together with what diagnostics need: the system's own number and the
+// name of the call that failed (a string literal).
+struct [[nodiscard]] Status
+{
+    quint32 code = NoError;
+    int native = 0;
+    const char *operation = "";
+
+    bool ok() const { return code == NoError; }
+    explicit operator bool() const { return ok(); }
+
+    // "open: 32 (system error 16)", for the debug output.
+    QString diagnostic() const
+    {
+        return QStringLiteral("%1: %2 (system error %3)").arg(QLatin1String(operation)).arg(code).arg(native);
+    }
+};
+
+// A value, or the Status that says why there is none. Reading the value of a failure is a programming error.
+template <typename T>
+class [[nodiscard]] Result
+{
+public:
+    Result(T value) // NOLINT(google-explicit-constructor): so that `return value;` reads as it is meant
+        : m_value(std::move(value))
+    {}
+    Result(Status failure) // NOLINT(google-explicit-constructor)
+        : m_status(failure)
+    {
+        Q_ASSERT(!failure.ok());
+    }
+
+    bool ok() const { return m_value.has_value(); }
+    explicit operator bool() const { return ok(); }
+    // Success when there is a value.
+    const Status &status() const { return m_status; }
+    quint32 code() const { return m_status.code; }
+
+    const T &value() const
+    {
+        Q_ASSERT(ok());
+        return *m_value;
+    }
+    T &value()
+    {
+        Q_ASSERT(ok());
+        return *m_value;
+    }
+    T take()
+    {
+        Q_ASSERT(ok());
+        return std::move(*m_value);
+    }
+    T valueOr(T otherwise) const { return ok() ? *m_value : std::move(otherwise); }
+
+private:
+    std::optional<T> m_value;
+    Status m_status;
+};
+
+} // namespace platform

@@ -1,0 +1,158 @@
+#include "platform/storagereplies.h"
+
+#include <QByteArrayView>
+#include <QtEndian>
+
+#include <algorithm>
+
+namespace platform {
+
+namespace {
+
+// STORAGE_DEVICE_DESCRIPTOR up to RawDeviceProperties. Version and Size begin the reply of either query.
+namespace descriptorfield {
+constexpr qsizetype Version = 0;
+constexpr qsizetype Size = 4;
+constexpr qsizetype RemovableMedia = 10;
+constexpr qsizetype ProductIdOffset = 16;
+constexpr qsizetype SerialNumberOffset = 24;
+constexpr qsizetype BusType = 28;
+constexpr qsizetype FixedPart = 36;
+constexpr quint32 StructureSize = 40; // with one byte of properties, padded; what Version states
+} // namespace descriptorfield
+
+// VOLUME_DISK_EXTENTS: the extents begin on an 8-byte boundary, and so do the 64-bit numbers in each.
+namespace extentfield {
+constexpr qsizetype Count = 0;
+constexpr qsizetype Header = 8;
+constexpr qsizetype DiskNumber = 0;
+constexpr qsizetype StartingOffset = 8;
+constexpr qsizetype Length = 16;
+constexpr qsizetype ExtentSize = 24;
+} // namespace extentfield
+
+template <typename Number>
+Number numberAt(QByteArrayView bytes, qsizetype offset)
+{
+    return qFromLittleEndian<Number>(bytes.sliced(offset, sizeof(Number)).data());
+}
+
+template <typename Number>
+void putNumber(QByteArray &bytes, qsizetype offset, Number number)
+{
+    Q_ASSERT(offset + qsizetype(sizeof(Number)) <= bytes.size());
+    qToLittleEndian<Number>(number, bytes.data() + offset);
+}
+
+// C0, DEL and C1 controls steer terminals; a soft hyphen is invisible, so that two serial numbers could look
+// the same.
+bool isPrinting(QChar character)
+{
+    const char16_t code = character.unicode();
+    return code >= 0x20 && !(code >= 0x7F && code <= 0x9F) && code != 0xAD;
+}
+
+// Blanks that non-printing characters separated from the text go with those around it, hence the order.
+QString printingPart(QString text)
+{
+    text.removeIf([](QChar character) { return !isPrinting(character); });
+    return text.trimmed();
+}
+
+QString textAt(QByteArrayView reply, quint32 offset)
+{
+    // Compared as 64-bit numbers: 0xFFFFFFFF, which some bridges answer for "none", would wrap around in 32.
+    if (offset == 0 || qint64(offset) >= reply.size())
+        return {};
+    const QByteArrayView tail = reply.sliced(qsizetype(offset));
+    const qsizetype terminator = tail.indexOf('\0');
+    return printingPart(QString::fromLatin1(terminator < 0 ? tail : tail.first(terminator)));
+}
+
+// QString::toLatin1 leaves open what becomes of other characters.
+QByteArray latin1Text(const QString &text)
+{
+    QByteArray bytes;
+    const QList<uint> codePoints = printingPart(text).toUcs4();
+    bytes.reserve(codePoints.size());
+    for (const uint codePoint : codePoints)
+        bytes += codePoint <= 0xFF ? char(uchar(codePoint)) : '?';
+    return bytes;
+}
+
+// Appends the terminated text and notes where it begins; no text leaves the offset 0.
+void putText(QByteArray &reply, qsizetype offsetField, const QString &text)
+{
+    const QByteArray bytes = latin1Text(text);
+    if (bytes.isEmpty())
+        return;
+    putNumber<quint32>(reply, offsetField, quint32(reply.size()));
+    reply += bytes;
+    reply += '\0';
+}
+
+} // namespace
+
+DeviceDescriptor decodeDeviceDescriptor(const QByteArray &reply)
+{
+    if (reply.size() < descriptorfield::FixedPart)
+        return {};
+    DeviceDescriptor descriptor;
+    descriptor.productId = textAt(reply, numberAt<quint32>(reply, descriptorfield::ProductIdOffset));
+    descriptor.serialNumber = textAt(reply, numberAt<quint32>(reply, descriptorfield::SerialNumberOffset));
+    descriptor.removableMedia = numberAt<quint8>(reply, descriptorfield::RemovableMedia) != 0;
+    descriptor.busType = numberAt<quint32>(reply, descriptorfield::BusType);
+    return descriptor;
+}
+
+QByteArray encodeDeviceDescriptor(const DeviceDescriptor &descriptor)
+{
+    QByteArray reply(descriptorfield::FixedPart, '\0');
+    putNumber<quint32>(reply, descriptorfield::Version, descriptorfield::StructureSize);
+    putNumber<quint8>(reply, descriptorfield::RemovableMedia, descriptor.removableMedia ? 1 : 0);
+    putNumber<quint32>(reply, descriptorfield::BusType, descriptor.busType);
+    putText(reply, descriptorfield::ProductIdOffset, descriptor.productId);
+    putText(reply, descriptorfield::SerialNumberOffset, descriptor.serialNumber);
+    putNumber<quint32>(reply, descriptorfield::Size, quint32(reply.size()));
+    return reply;
+}
+
+QList<Extent> decodeExtents(const QByteArray &reply)
+{
+    if (reply.size() < extentfield::Header)
+        return {};
+    const qint64 room = (reply.size() - extentfield::Header) / extentfield::ExtentSize;
+    const qint64 count = std::min<qint64>(numberAt<quint32>(reply, extentfield::Count), room);
+    QList<Extent> extents;
+    extents.reserve(qsizetype(count));
+    for (qsizetype i = 0; i < count; ++i) {
+        const QByteArrayView bytes = QByteArrayView(reply).sliced(
+            extentfield::Header + i * extentfield::ExtentSize, extentfield::ExtentSize);
+        extents.append({.diskNumber = qint32(numberAt<quint32>(bytes, extentfield::DiskNumber)),
+                        .startingOffset = numberAt<qint64>(bytes, extentfield::StartingOffset),
+                        .length = numberAt<qint64>(bytes, extentfield::Length)});
+    }
+    return extents;
+}
+
+QByteArray encodeExtents(const QList<Extent> &extents)
+{
+    QByteArray reply(extentfield::Header + extents.size() * extentfield::ExtentSize, '\0');
+    putNumber<quint32>(reply, extentfield::Count, quint32(extents.size()));
+    qsizetype offset = extentfield::Header;
+    for (const Extent &extent : extents) {
+        putNumber<quint32>(reply, offset + extentfield::DiskNumber, quint32(extent.diskNumber));
+        putNumber<qint64>(reply, offset + extentfield::StartingOffset, extent.startingOffset);
+        putNumber<qint64>(reply, offset + extentfield::Length, extent.length);
+        offset += extentfield::ExtentSize;
+    }
+    return reply;
+}
+
+bool isSameDrive(const DriveIdentity &chosen, const QByteArray &descriptorReply, qint64 sizeBytes)
+{
+    return chosen.sizeBytes == sizeBytes &&
+           chosen.serialNumber == decodeDeviceDescriptor(descriptorReply).serialNumber;
+}
+
+} // namespace platform

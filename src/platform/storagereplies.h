@@ -1,0 +1,56 @@
+#pragma once
+
+#include "platform/devices.h"
+
+#include <QByteArray>
+#include <QList>
+#include <QString>
+
+// Pure functions over the raw bytes in which devices describe themselves. Layouts and numbers are those of
+// the Windows storage stack (STORAGE_DEVICE_DESCRIPTOR, VOLUME_DISK_EXTENTS; winioctl.h), little-endian;
+// other systems fill the same layout, so that one decoder, tested with hand-made replies, serves all.
+
+namespace platform {
+
+// STORAGE_BUS_TYPE, as far as backends produce it; a reply may carry any number.
+enum StorageBus : quint32 {
+    BusUnknown = 0,
+    BusScsi = 1,
+    BusAtapi = 2,
+    BusAta = 3,
+    BusFirewire = 4,
+    BusUsb = 7,
+    BusRaid = 8,
+    BusIscsi = 9,
+    BusSas = 10,
+    BusSata = 11,
+    BusSd = 12,
+    BusMmc = 13,
+    BusVirtual = 14,
+    BusFileBackedVirtual = 15,
+    BusNvme = 17,
+};
+
+struct DeviceDescriptor
+{
+    QString productId;    // Latin-1 in the reply; trimmed, without non-printing characters
+    QString serialNumber; // the same
+    bool removableMedia = false;
+    quint32 busType = BusUnknown;
+};
+
+// Never reads outside the reply: a string whose offset is 0 or beyond the end is empty, one without a
+// terminator ends with the reply. A reply too short for the fixed part gives an empty record.
+DeviceDescriptor decodeDeviceDescriptor(const QByteArray &reply);
+// The reply that decodes to the record. Characters outside Latin-1 become '?'.
+QByteArray encodeDeviceDescriptor(const DeviceDescriptor &descriptor);
+
+// The extents in a reply. Those that do not lie wholly inside the reply are left out.
+QList<Extent> decodeExtents(const QByteArray &reply);
+QByteArray encodeExtents(const QList<Extent> &extents);
+
+// Whether a device that describes itself so is the drive that was chosen: same serial number, same size. An
+// empty descriptor stands for a device that does not describe itself.
+bool isSameDrive(const DriveIdentity &chosen, const QByteArray &descriptorReply, qint64 sizeBytes);
+
+} // namespace platform

@@ -1,0 +1,303 @@
+#include "platform/alignedbuffer.h"
+#include "platform/devices.h"
+#include "platform/platform.h"
+#include "platform/storagereplies.h"
+#include "support/loopmount.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <cstring>
+#include <memory>
+
+using namespace platform;
+
+namespace {
+
+constexpr qint64 MiB = 1024 * 1024;
+
+// A drive of the test's own behind the real interfaces, with the bytes below it in a file.
+class Backing
+{
+public:
+    explicit Backing(const QString &kind)
+    {
+        if (kind == u"image") {
+            makeImage(MiB);
+        } else {
+            LoopMount::Options options;
+            options.fileSystem = LoopMount::NoFileSystem;
+            options.sizeBytes = kind == u"loop, odd size" ? MiB + 512 * 3 : MiB;
+            options.sectorSize = kind == u"loop, 4096" ? 4096 : 512;
+            m_loop = std::make_unique<LoopMount>(m_folder.path(), options);
+            m_image = m_loop->image();
+            m_platform = createPlatform({});
+            m_number = numberOf(m_loop->device());
+        }
+    }
+
+    // An image file whose length may be no multiple of a sector.
+    void makeImage(qint64 size)
+    {
+        m_image = m_folder.filePath(QStringLiteral("disk.img"));
+        QFile file(m_image);
+        if (!file.open(QIODevice::WriteOnly) || !file.resize(size))
+            qFatal("cannot make %s", qPrintable(m_image));
+        m_platform = createPlatform({{m_image}, true});
+        m_number = 0;
+    }
+
+    bool isReady() const { return m_number >= 0; }
+    Devices &devices() { return m_platform->devices(); }
+    int number() const { return m_number; }
+    QString image() const { return m_image; }
+
+    DriveIdentity identity()
+    {
+        auto query = devices().queryDrive(m_number);
+        if (!query)
+            return {};
+        return {m_number, decodeDeviceDescriptor(query.value()->descriptor().value()).serialNumber,
+                query.value()->geometry().value().sizeBytes};
+    }
+
+    QByteArray bytes(qint64 offset, qint64 size) const
+    {
+        QFile file(m_image);
+        return file.open(QIODevice::ReadOnly | QIODevice::Unbuffered) && file.seek(offset) ? file.read(size)
+                                                                                           : QByteArray();
+    }
+
+private:
+    int numberOf(const QString &node)
+    {
+        for (int number = 0; number < 64; ++number) {
+            if (devices().drivePath(number) == node)
+                return number;
+        }
+        return -1;
+    }
+
+    QTemporaryDir m_folder;
+    QString m_image;
+    std::unique_ptr<LoopMount> m_loop;
+    std::unique_ptr<Platform> m_platform;
+    int m_number = -1;
+};
+
+AlignedBuffer filled(qint64 size, char value)
+{
+    AlignedBuffer buffer(size);
+    std::memset(buffer.data(), value, static_cast<size_t>(size));
+    return buffer;
+}
+
+} // namespace
+
+// What devices.h promises, of every backend that has drives.
+class TestDevices : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase_data();
+    void geometryAndLength();
+    void describesItself();
+    void pathOpensTheDrive();
+    void writeReachesTheMediumAtItsPlace();
+    void readSeesTheMedium();
+    void positionAdvances();
+    void writeAtTheEndIsShort();
+    void writeBeyondTheEndIsRefused();
+    void readAtTheEndIsShort();
+    void unalignedTransfersAreRefused();
+    void otherSerialNumberIsRefused();
+    void otherSizeIsRefused();
+    void unknownNumberIsRefused();
+    void flushSucceeds();
+};
+
+#define BACKING(name)                                                                                        \
+    QFETCH_GLOBAL(QString, kind);                                                                            \
+    if (kind != QLatin1String("image") && !LoopMount::unavailableReason().isEmpty())                         \
+        QSKIP(qPrintable(LoopMount::unavailableReason()));                                                   \
+    Backing name(kind);                                                                                      \
+    QVERIFY(name.isReady())
+
+void TestDevices::initTestCase_data()
+{
+    QTest::addColumn<QString>("kind");
+    QTest::addColumn<int>("sector");
+    QTest::addColumn<qint64>("size");
+    QTest::newRow("image") << QStringLiteral("image") << 512 << MiB;
+    QTest::newRow("loop, 512") << QStringLiteral("loop, 512") << 512 << MiB;
+    QTest::newRow("loop, odd size") << QStringLiteral("loop, odd size") << 512 << MiB + 512 * 3;
+    QTest::newRow("loop, 4096") << QStringLiteral("loop, 4096") << 4096 << MiB;
+}
+
+void TestDevices::geometryAndLength()
+{
+    BACKING(drive);
+    QFETCH_GLOBAL(int, sector);
+    QFETCH_GLOBAL(qint64, size);
+    auto query = drive.devices().queryDrive(drive.number());
+    QVERIFY(query.ok());
+    QCOMPARE(query.value()->geometry().value().sizeBytes, size);
+    QCOMPARE(query.value()->geometry().value().bytesPerSector, sector);
+    auto device = drive.devices().openDrive(drive.identity(), DriveSharing::Alone);
+    QVERIFY(device.ok());
+    QCOMPARE(device.value()->geometry().value().sizeBytes, size);
+    QCOMPARE(device.value()->bytesPerSector().value(), sector);
+    QCOMPARE(device.value()->length().value(), size);
+}
+
+void TestDevices::describesItself()
+{
+    BACKING(drive);
+    auto query = drive.devices().queryDrive(drive.number());
+    QVERIFY(query.ok());
+    const DeviceDescriptor descriptor = decodeDeviceDescriptor(query.value()->descriptor().value());
+    QVERIFY2(descriptor.productId.contains(QFileInfo(drive.image()).fileName()),
+             qPrintable(descriptor.productId));
+    QCOMPARE(descriptor.busType, quint32(BusFileBackedVirtual));
+    QVERIFY(!descriptor.removableMedia);
+}
+
+void TestDevices::pathOpensTheDrive()
+{
+    BACKING(drive);
+    QVERIFY(QFile::exists(drive.devices().drivePath(drive.number())));
+}
+
+void TestDevices::writeReachesTheMediumAtItsPlace()
+{
+    BACKING(drive);
+    QFETCH_GLOBAL(int, sector);
+    auto device = drive.devices().openDrive(drive.identity(), DriveSharing::Alone);
+    QVERIFY(device.ok());
+    const AlignedBuffer data = filled(3 * sector, 'W');
+    QVERIFY(device.value()->seek(5 * sector).ok());
+    QCOMPARE(device.value()->write(data.data(), data.size()).value(), data.size());
+    QVERIFY(device.value()->flush().ok());
+    QCOMPARE(drive.bytes(5 * sector, 3 * sector), QByteArray(3 * sector, 'W'));
+    QCOMPARE(drive.bytes(4 * sector, sector), QByteArray(sector, '\0'));
+    QCOMPARE(drive.bytes(8 * sector, sector), QByteArray(sector, '\0'));
+}
+
+void TestDevices::readSeesTheMedium()
+{
+    BACKING(drive);
+    QFETCH_GLOBAL(int, sector);
+    auto device = drive.devices().openDrive(drive.identity(), DriveSharing::Alone);
+    QVERIFY(device.ok());
+    AlignedBuffer data = filled(sector, 'x');
+    QVERIFY(device.value()->seek(0).ok());
+    QCOMPARE(device.value()->read(data.data(), sector).value(), sector);
+    QCOMPARE(static_cast<char>(data.data()[0]), '\0');
+    // Changed below the device: a cache above it would still answer with zeros.
+    QFile image(drive.image());
+    QVERIFY(image.open(QIODevice::ReadWrite | QIODevice::Unbuffered));
+    QCOMPARE(image.write(QByteArray(sector, 'N')), sector);
+    image.close();
+    QVERIFY(device.value()->seek(0).ok());
+    QCOMPARE(device.value()->read(data.data(), sector).value(), sector);
+    QCOMPARE(QByteArray(reinterpret_cast<const char *>(data.data()), sector), QByteArray(sector, 'N'));
+}
+
+void TestDevices::positionAdvances()
+{
+    BACKING(drive);
+    QFETCH_GLOBAL(int, sector);
+    auto device = drive.devices().openDrive(drive.identity(), DriveSharing::Alone);
+    QVERIFY(device.ok());
+    QVERIFY(device.value()->seek(0).ok());
+    QVERIFY(device.value()->write(filled(sector, 'A').data(), sector).ok());
+    QVERIFY(device.value()->write(filled(sector, 'B').data(), sector).ok());
+    QCOMPARE(drive.bytes(0, 2 * sector), QByteArray(sector, 'A') + QByteArray(sector, 'B'));
+}
+
+void TestDevices::writeAtTheEndIsShort()
+{
+    BACKING(drive);
+    QFETCH_GLOBAL(int, sector);
+    QFETCH_GLOBAL(qint64, size);
+    auto device = drive.devices().openDrive(drive.identity(), DriveSharing::Alone);
+    QVERIFY(device.ok());
+    const AlignedBuffer data = filled(4 * sector, 'E');
+    QVERIFY(device.value()->seek(size - sector).ok());
+    QCOMPARE(device.value()->write(data.data(), data.size()).value(), sector);
+    QCOMPARE(drive.bytes(size - sector, 4 * sector), QByteArray(sector, 'E'));
+}
+
+void TestDevices::writeBeyondTheEndIsRefused()
+{
+    BACKING(drive);
+    QFETCH_GLOBAL(int, sector);
+    QFETCH_GLOBAL(qint64, size);
+    auto device = drive.devices().openDrive(drive.identity(), DriveSharing::Alone);
+    QVERIFY(device.ok());
+    QVERIFY(device.value()->seek(size).ok());
+    QCOMPARE(device.value()->write(filled(sector, 'E').data(), sector).code(), quint32(SectorNotFound));
+    QCOMPARE(QFileInfo(drive.image()).size(), size);
+}
+
+void TestDevices::readAtTheEndIsShort()
+{
+    BACKING(drive);
+    QFETCH_GLOBAL(int, sector);
+    QFETCH_GLOBAL(qint64, size);
+    auto device = drive.devices().openDrive(drive.identity(), DriveSharing::Alone);
+    QVERIFY(device.ok());
+    AlignedBuffer data(4 * sector);
+    QVERIFY(device.value()->seek(size - sector).ok());
+    QCOMPARE(device.value()->read(data.data(), data.size()).value(), sector);
+    QCOMPARE(device.value()->read(data.data(), data.size()).value(), 0);
+}
+
+void TestDevices::unalignedTransfersAreRefused()
+{
+    BACKING(drive);
+    QFETCH_GLOBAL(int, sector);
+    auto device = drive.devices().openDrive(drive.identity(), DriveSharing::Alone);
+    QVERIFY(device.ok());
+    AlignedBuffer data(2 * sector);
+    QCOMPARE(device.value()->seek(1).code, quint32(InvalidParameter));
+    QCOMPARE(device.value()->seek(-sector).code, quint32(InvalidParameter));
+    QCOMPARE(device.value()->write(data.data(), sector - 1).code(), quint32(InvalidParameter));
+    QCOMPARE(device.value()->read(data.data(), sector + 1).code(), quint32(InvalidParameter));
+}
+
+void TestDevices::otherSerialNumberIsRefused()
+{
+    BACKING(drive);
+    DriveIdentity identity = drive.identity();
+    identity.serialNumber = QStringLiteral("SOMEBODY ELSE");
+    QCOMPARE(drive.devices().openDrive(identity, DriveSharing::Alone).code(), quint32(NotReady));
+}
+
+void TestDevices::otherSizeIsRefused()
+{
+    BACKING(drive);
+    DriveIdentity identity = drive.identity();
+    identity.sizeBytes += 512;
+    QCOMPARE(drive.devices().openDrive(identity, DriveSharing::Alone).code(), quint32(NotReady));
+}
+
+void TestDevices::unknownNumberIsRefused()
+{
+    BACKING(drive);
+    QCOMPARE(drive.devices().queryDrive(4711).code(), quint32(FileNotFound));
+    QVERIFY(!drive.devices().openDrive({4711, {}, 0}, DriveSharing::Alone).ok());
+}
+
+void TestDevices::flushSucceeds()
+{
+    BACKING(drive);
+    auto device = drive.devices().openDrive(drive.identity(), DriveSharing::Alone);
+    QVERIFY(device.ok());
+    QVERIFY(device.value()->flush().ok());
+}
+
+QTEST_GUILESS_MAIN(TestDevices)
+#include "tst_devices.moc"

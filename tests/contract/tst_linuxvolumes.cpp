@@ -1,0 +1,228 @@
+#include "platform/alignedbuffer.h"
+#include "platform/devices.h"
+#include "platform/platform.h"
+#include "platform/storagereplies.h"
+#include "support/loopmount.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <memory>
+
+using namespace platform;
+
+namespace {
+
+int numberOf(Devices &devices, const QString &node)
+{
+    for (int number = 0; number < 64; ++number) {
+        if (devices.drivePath(number) == node)
+            return number;
+    }
+    return -1;
+}
+
+DriveIdentity identityOf(Devices &devices, int number)
+{
+    auto query = devices.queryDrive(number);
+    if (!query)
+        return {};
+    return {number, decodeDeviceDescriptor(query.value()->descriptor().value()).serialNumber,
+            query.value()->geometry().value().sizeBytes};
+}
+
+} // namespace
+
+// Volumes of the Linux backend on loop devices with real file systems.
+class TestLinuxVolumes : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup();
+    void mountedVolumeIsListedWithItsRoom();
+    void extentsNameTheDrive();
+    void lockUnmountsEverywhere();
+    void busyVolumeIsNotLocked();
+    void unlockedVolumeTakesNoWrites();
+    void lockedVolumeTakesWrites();
+    void lockIsExclusive();
+    void volumeOfAnotherDriveIsRefused();
+    void changedDriveIsRefused();
+    void driveInUseIsNotOpenedAlone();
+    void driveOpensBesideOwnVolumes();
+    void newAttachmentIsAnotherDrive();
+
+private:
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<LoopMount> m_volume;
+    std::unique_ptr<Platform> m_platform;
+    int m_number = -1;
+    DriveIdentity m_identity;
+
+    Devices &devices() { return m_platform->devices(); }
+};
+
+void TestLinuxVolumes::initTestCase()
+{
+    const QString reason = LoopMount::unavailableReason(LoopMount::Ext4);
+    if (!reason.isEmpty())
+        QSKIP(qPrintable(reason));
+}
+
+void TestLinuxVolumes::init()
+{
+    m_folder = std::make_unique<QTemporaryDir>();
+    LoopMount::Options options;
+    options.fileSystem = LoopMount::Ext4;
+    options.makeArguments = {QStringLiteral("-L"), QStringLiteral("my label")};
+    m_volume = std::make_unique<LoopMount>(m_folder->path(), options);
+    QVERIFY2(m_volume->isReady(), qPrintable(m_volume->error()));
+    m_platform = createPlatform({});
+    m_number = numberOf(devices(), m_volume->device());
+    QVERIFY(m_number >= 0);
+    m_identity = identityOf(devices(), m_number);
+}
+
+void TestLinuxVolumes::cleanup()
+{
+    m_platform.reset();
+    m_volume.reset();
+    m_folder.reset();
+}
+
+void TestLinuxVolumes::mountedVolumeIsListedWithItsRoom()
+{
+    const QList<MountedVolume> volumes = devices().mountedVolumes();
+    const auto mine = std::find_if(volumes.begin(), volumes.end(), [this](const MountedVolume &volume) {
+        return volume.name == m_volume->mountPoint();
+    });
+    QVERIFY(mine != volumes.end());
+    QVERIFY(mine->isReady);
+    QCOMPARE(mine->rootPath, m_volume->mountPoint());
+    QCOMPARE(mine->fileSystem, QByteArray("ext4"));
+    QCOMPARE(mine->label, QStringLiteral("my label"));
+    QVERIFY(mine->totalBytes > 0 && mine->totalBytes < m_identity.sizeBytes);
+    QVERIFY(mine->freeBytes > 0 && mine->freeBytes <= mine->totalBytes);
+}
+
+void TestLinuxVolumes::extentsNameTheDrive()
+{
+    auto query = devices().queryVolume(m_volume->mountPoint());
+    QVERIFY(query.ok());
+    QCOMPARE(query.value()->extents(OneExtent).value(), QList<Extent>({{m_number, 0, m_identity.sizeBytes}}));
+}
+
+void TestLinuxVolumes::lockUnmountsEverywhere()
+{
+    const QString second = m_folder->filePath(QStringLiteral("second"));
+    QVERIFY(QDir().mkpath(second));
+    QCOMPARE(QProcess::execute(QStringLiteral("mount"), {m_volume->device(), second}), 0);
+    auto volume = devices().openVolume(m_volume->mountPoint(), m_identity);
+    QVERIFY(volume.ok());
+    QVERIFY(volume.value()->lock().ok());
+    QVERIFY(volume.value()->dismount().ok());
+    QVERIFY(!m_volume->isMounted());
+    QVERIFY(!devices().volumeNames().contains(second));
+}
+
+void TestLinuxVolumes::busyVolumeIsNotLocked()
+{
+    QFile open(m_volume->mountPoint() + QStringLiteral("/open"));
+    QVERIFY(open.open(QIODevice::WriteOnly));
+    auto volume = devices().openVolume(m_volume->mountPoint(), m_identity);
+    QVERIFY(volume.ok());
+    QCOMPARE(volume.value()->lock().code, quint32(SharingViolation));
+    QCOMPARE(volume.value()->dismount().code, quint32(SharingViolation));
+    QVERIFY(m_volume->isMounted());
+    open.close();
+    QVERIFY(volume.value()->lock().ok());
+}
+
+void TestLinuxVolumes::unlockedVolumeTakesNoWrites()
+{
+    const QByteArray before = m_volume->readImage(0, 4096);
+    auto volume = devices().openVolume(m_volume->mountPoint(), m_identity);
+    QVERIFY(volume.ok());
+    AlignedBuffer data(4096);
+    QVERIFY(volume.value()->seek(0).ok());
+    QCOMPARE(volume.value()->write(data.data(), data.size()).code(), quint32(SharingViolation));
+    QCOMPARE(m_volume->readImage(0, 4096), before);
+}
+
+void TestLinuxVolumes::lockedVolumeTakesWrites()
+{
+    auto volume = devices().openVolume(m_volume->mountPoint(), m_identity);
+    QVERIFY(volume.ok());
+    QVERIFY(volume.value()->lock().ok());
+    AlignedBuffer data(4096);
+    QVERIFY(volume.value()->seek(0).ok());
+    QCOMPARE(volume.value()->write(data.data(), data.size()).value(), data.size());
+    QCOMPARE(m_volume->readImage(0, 4096), QByteArray(4096, '\0'));
+    QVERIFY(volume.value()->unlock().ok());
+    QCOMPARE(volume.value()->write(data.data(), data.size()).code(), quint32(SharingViolation));
+}
+
+void TestLinuxVolumes::lockIsExclusive()
+{
+    auto first = devices().openVolume(m_volume->mountPoint(), m_identity);
+    auto second = devices().openVolume(m_volume->mountPoint(), m_identity);
+    QVERIFY(first.ok());
+    QVERIFY(second.ok());
+    QVERIFY(first.value()->lock().ok());
+    QCOMPARE(second.value()->lock().code, quint32(SharingViolation));
+    QVERIFY(first.value()->unlock().ok());
+    QVERIFY(second.value()->lock().ok());
+}
+
+void TestLinuxVolumes::volumeOfAnotherDriveIsRefused()
+{
+    DriveIdentity other = m_identity;
+    other.number = m_number + 100;
+    QCOMPARE(devices().openVolume(m_volume->mountPoint(), other).code(), quint32(NotReady));
+    QVERIFY(m_volume->isMounted());
+}
+
+void TestLinuxVolumes::changedDriveIsRefused()
+{
+    DriveIdentity other = m_identity;
+    other.sizeBytes -= 512;
+    QCOMPARE(devices().openVolume(m_volume->mountPoint(), other).code(), quint32(NotReady));
+    QVERIFY(m_volume->isMounted());
+}
+
+void TestLinuxVolumes::driveInUseIsNotOpenedAlone()
+{
+    QCOMPARE(devices().openDrive(m_identity, DriveSharing::Alone).code(), quint32(SharingViolation));
+}
+
+void TestLinuxVolumes::driveOpensBesideOwnVolumes()
+{
+    auto volume = devices().openVolume(m_volume->mountPoint(), m_identity);
+    QVERIFY(volume.ok());
+    QVERIFY(volume.value()->lock().ok());
+    auto drive = devices().openDrive(m_identity, DriveSharing::BesideOwnVolumes);
+    QVERIFY(drive.ok());
+    QCOMPARE(drive.value()->length().value(), m_identity.sizeBytes);
+}
+
+void TestLinuxVolumes::newAttachmentIsAnotherDrive()
+{
+    QVERIFY(m_volume->unmount());
+    QVERIFY(m_volume->close());
+    LoopMount::Options options;
+    options.fileSystem = LoopMount::NoFileSystem;
+    options.sizeBytes = m_identity.sizeBytes;
+    LoopMount other(m_folder->path(), options, QStringLiteral("other"));
+    QVERIFY2(other.isReady(), qPrintable(other.error()));
+    // The same node and size as the drive that was chosen, and no serial number to tell them apart.
+    QVERIFY(!devices().openDrive(m_identity, DriveSharing::Alone).ok());
+    QVERIFY(numberOf(devices(), other.device()) != m_number);
+    QCOMPARE(other.countInImage(QByteArray(1, 'x')), 0);
+}
+
+QTEST_GUILESS_MAIN(TestLinuxVolumes)
+#include "tst_linuxvolumes.moc"

@@ -1,0 +1,193 @@
+#include "platform/linux/blocktree.h"
+#include "platform/linux/linuxdevices.h"
+#include "platform/linux/linuxsession.h"
+#include "support/fakesystemtree.h"
+
+#include <QTest>
+
+using namespace platform;
+
+namespace {
+
+constexpr qint64 MiB = 1024 * 1024;
+
+} // namespace
+
+// What stands on what, on machines laid out as trees of files.
+class TestBlockTree : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void aDriveIsItsOwnExtent();
+    void aPartitionLiesOnItsDrive();
+    void lvmOverTwoDrives();
+    void encryptedVolumeInLvm();
+    void partitionOfAnMdMirror();
+    void btrfsMembers();
+    void aDeviceThatIsGone();
+    void systemVolumesAreTracedThroughLvm();
+    void systemOnAMultiDeviceBtrfs();
+    void swapPartitionAndSwapFile();
+    void aSystemRunningFromMemoryHasNoSystemVolume();
+    void oneVolumePerDevice();
+    void laterMountHidesTheEarlier();
+};
+
+void TestBlockTree::aDriveIsItsOwnExtent()
+{
+    FakeSystemTree fake;
+    fake.addDrive(QStringLiteral("sda"), "8:0", 100 * MiB);
+    const BlockTree blocks(fake.tree());
+    QCOMPARE(blocks.extentsOf("8:0"), QList<DriveExtent>({{"8:0", 0, 100 * MiB}}));
+    QCOMPARE(blocks.kernelName("8:0"), QStringLiteral("sda"));
+    QCOMPARE(blocks.node("8:0"), fake.path(QStringLiteral("dev/sda")));
+}
+
+void TestBlockTree::aPartitionLiesOnItsDrive()
+{
+    FakeSystemTree fake;
+    fake.addDrive(QStringLiteral("sda"), "8:0", 100 * MiB);
+    fake.addPartition(QStringLiteral("sda"), QStringLiteral("sda1"), "8:1", MiB, 50 * MiB);
+    QCOMPARE(BlockTree(fake.tree()).extentsOf("8:1"), QList<DriveExtent>({{"8:0", MiB, 50 * MiB}}));
+}
+
+void TestBlockTree::lvmOverTwoDrives()
+{
+    FakeSystemTree fake;
+    fake.addDrive(QStringLiteral("sda"), "8:0", 100 * MiB);
+    fake.addPartition(QStringLiteral("sda"), QStringLiteral("sda3"), "8:3", 2 * MiB, 50 * MiB);
+    fake.addDrive(QStringLiteral("sdb"), "8:16", 200 * MiB);
+    fake.addStacked(QStringLiteral("dm-0"), "253:0", 240 * MiB,
+                    {QStringLiteral("sda3"), QStringLiteral("sdb")});
+    QCOMPARE(BlockTree(fake.tree()).extentsOf("253:0"),
+             QList<DriveExtent>({{"8:0", 2 * MiB, 50 * MiB}, {"8:16", 0, 200 * MiB}}));
+}
+
+void TestBlockTree::encryptedVolumeInLvm()
+{
+    FakeSystemTree fake;
+    fake.addDrive(QStringLiteral("nvme0n1"), "259:0", 100 * MiB);
+    fake.addPartition(QStringLiteral("nvme0n1"), QStringLiteral("nvme0n1p2"), "259:2", MiB, 90 * MiB);
+    fake.addStacked(QStringLiteral("dm-0"), "253:0", 80 * MiB, {QStringLiteral("nvme0n1p2")});
+    fake.addStacked(QStringLiteral("dm-1"), "253:1", 70 * MiB, {QStringLiteral("dm-0")});
+    QCOMPARE(BlockTree(fake.tree()).extentsOf("253:1"), QList<DriveExtent>({{"259:0", MiB, 90 * MiB}}));
+}
+
+void TestBlockTree::partitionOfAnMdMirror()
+{
+    FakeSystemTree fake;
+    fake.addDrive(QStringLiteral("sda"), "8:0", 100 * MiB);
+    fake.addDrive(QStringLiteral("sdb"), "8:16", 100 * MiB);
+    fake.addStacked(QStringLiteral("md0"), "9:0", 99 * MiB, {QStringLiteral("sda"), QStringLiteral("sdb")});
+    fake.addPartition(QStringLiteral("md0"), QStringLiteral("md0p1"), "259:0", MiB, 50 * MiB);
+    QCOMPARE(BlockTree(fake.tree()).extentsOf("259:0"),
+             QList<DriveExtent>({{"8:0", 0, 100 * MiB}, {"8:16", 0, 100 * MiB}}));
+}
+
+void TestBlockTree::btrfsMembers()
+{
+    FakeSystemTree fake;
+    fake.addDrive(QStringLiteral("sda"), "8:0", 100 * MiB);
+    fake.addDrive(QStringLiteral("sdb"), "8:16", 100 * MiB);
+    fake.addDrive(QStringLiteral("sdc"), "8:32", 100 * MiB);
+    fake.addBtrfs(QStringLiteral("uuid"), {QStringLiteral("sda"), QStringLiteral("sdb")});
+    const BlockTree blocks(fake.tree());
+    QCOMPARE(blocks.fileSystemMembers("8:16"), QList<QByteArray>({"8:0", "8:16"}));
+    QCOMPARE(blocks.fileSystemMembers("8:32"), QList<QByteArray>({"8:32"}));
+}
+
+void TestBlockTree::aDeviceThatIsGone()
+{
+    FakeSystemTree fake;
+    const BlockTree blocks(fake.tree());
+    QVERIFY(!blocks.exists("8:0"));
+    QCOMPARE(blocks.node("8:0"), QString());
+    QCOMPARE(blocks.extentsOf("8:0"), QList<DriveExtent>());
+}
+
+void TestBlockTree::systemVolumesAreTracedThroughLvm()
+{
+    FakeSystemTree fake;
+    fake.addDrive(QStringLiteral("sda"), "8:0", 100 * MiB);
+    fake.addPartition(QStringLiteral("sda"), QStringLiteral("sda1"), "8:1", MiB, 50 * MiB);
+    fake.addDrive(QStringLiteral("sdb"), "8:16", 200 * MiB);
+    fake.addStacked(QStringLiteral("dm-0"), "253:0", 240 * MiB,
+                    {QStringLiteral("sda1"), QStringLiteral("sdb")});
+    fake.write(QStringLiteral("proc/self/mountinfo"), "1 0 253:0 / / rw - ext4 /dev/mapper/vg-root rw\n");
+
+    LinuxSession session(fake.tree());
+    QCOMPARE(session.systemVolumes(), QStringList({QStringLiteral("/")}));
+    LinuxDevices devices(fake.tree());
+    auto query = devices.queryVolume(QStringLiteral("/"));
+    QVERIFY(query.ok());
+    QCOMPARE(query.value()->extents(OneExtent).code(), quint32(MoreData));
+    const Result<QList<Extent>> extents = query.value()->extents(ManyExtents);
+    QVERIFY(extents.ok());
+    QCOMPARE(extents.value(), QList<Extent>({{0, MiB, 50 * MiB}, {1, 0, 200 * MiB}}));
+}
+
+void TestBlockTree::systemOnAMultiDeviceBtrfs()
+{
+    // The node that the mount names is no block device here, so the device number has to be the file system's
+    // own; a single-device tree stands for it, the members come from /sys/fs.
+    FakeSystemTree fake;
+    fake.addDrive(QStringLiteral("sda"), "8:0", 100 * MiB);
+    fake.addDrive(QStringLiteral("sdb"), "8:16", 100 * MiB);
+    fake.addBtrfs(QStringLiteral("uuid"), {QStringLiteral("sda"), QStringLiteral("sdb")});
+    fake.write(QStringLiteral("proc/self/mountinfo"), "1 0 8:16 /@ / rw - btrfs /dev/sdb rw,subvol=/@\n");
+    LinuxDevices devices(fake.tree());
+    auto query = devices.queryVolume(QStringLiteral("/"));
+    QVERIFY(query.ok());
+    const Result<QList<Extent>> extents = query.value()->extents(ManyExtents);
+    QVERIFY(extents.ok());
+    QCOMPARE(extents.value().size(), 2);
+    QCOMPARE(extents.value()[0].diskNumber, 0);
+    QCOMPARE(extents.value()[1].diskNumber, 1);
+}
+
+void TestBlockTree::swapPartitionAndSwapFile()
+{
+    FakeSystemTree fake;
+    fake.addDrive(QStringLiteral("sda"), "8:0", 100 * MiB);
+    fake.addDrive(QStringLiteral("sdb"), "8:16", 100 * MiB);
+    fake.write(QStringLiteral("proc/self/mountinfo"), "1 0 8:0 / /data rw - ext4 /dev/sda rw\n"
+                                                      "2 0 8:16 / /data/deep rw - ext4 /dev/sdb rw\n");
+    fake.write(QStringLiteral("proc/swaps"),
+               "Filename Type Size Used Priority\n/data/deep/swapfile file 1 0 -2\n");
+    QCOMPARE(LinuxSession(fake.tree()).systemVolumes(), QStringList({QStringLiteral("/data/deep")}));
+}
+
+void TestBlockTree::aSystemRunningFromMemoryHasNoSystemVolume()
+{
+    FakeSystemTree fake;
+    fake.addDrive(QStringLiteral("sda"), "8:0", 100 * MiB);
+    fake.write(QStringLiteral("proc/self/mountinfo"), "1 0 0:20 / / rw - overlay overlay rw,lowerdir=/a\n");
+    QCOMPARE(LinuxSession(fake.tree()).systemVolumes(), QStringList());
+}
+
+void TestBlockTree::oneVolumePerDevice()
+{
+    FakeSystemTree fake;
+    fake.addDrive(QStringLiteral("sda"), "8:0", 100 * MiB);
+    fake.write(QStringLiteral("proc/self/mountinfo"), "1 0 8:0 / /first rw - ext4 /dev/sda rw\n"
+                                                      "2 0 0:5 / /proc rw - proc proc rw\n"
+                                                      "3 0 8:0 /sub /second rw - ext4 /dev/sda rw\n");
+    LinuxDevices devices(fake.tree());
+    QCOMPARE(devices.volumeNames(), QStringList({QStringLiteral("/first")}));
+    QCOMPARE(VolumeTable(fake.tree()).mountPointsOf("8:0"),
+             QStringList({QStringLiteral("/second"), QStringLiteral("/first")}));
+}
+
+void TestBlockTree::laterMountHidesTheEarlier()
+{
+    FakeSystemTree fake;
+    fake.addDrive(QStringLiteral("sda"), "8:0", 100 * MiB);
+    fake.addDrive(QStringLiteral("sdb"), "8:16", 100 * MiB);
+    fake.write(QStringLiteral("proc/self/mountinfo"), "1 0 8:0 / /mnt rw - ext4 /dev/sda rw\n"
+                                                      "2 0 8:16 / /mnt rw - ext4 /dev/sdb rw\n");
+    QCOMPARE(VolumeTable(fake.tree()).byName(QStringLiteral("/mnt")).device, QByteArray("8:16"));
+}
+
+QTEST_APPLESS_MAIN(TestBlockTree)
+#include "tst_blocktree.moc"

@@ -1,0 +1,152 @@
+#include "platform/linux/driveregistry.h"
+#include "support/fakesystemtree.h"
+
+#include <QTest>
+
+using namespace platform;
+
+namespace {
+
+constexpr qint64 GiB = 1024LL * 1024 * 1024;
+
+QStringList names(const QList<Drive> &drives)
+{
+    QStringList list;
+    for (const Drive &drive : drives)
+        list.append(drive.kernelName);
+    return list;
+}
+
+} // namespace
+
+class TestDriveRegistry : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void naturalNameOrder();
+    void whatIsNoDrive();
+    void unpluggingRenumbersNobody();
+    void aDriveThatComesBackHasItsNumber();
+    void anotherDriveUnderTheSameNodeGetsANewNumber();
+    void driveWithoutSerialIsToldByItsAttachment();
+    void numbersStayInReachOfEnumeration();
+    void aSpareNumberNeverGoesToADriveThatCouldBeConfused();
+};
+
+void TestDriveRegistry::naturalNameOrder()
+{
+    FakeSystemTree fake;
+    fake.addDrive(QStringLiteral("sdaa"), "65:160", GiB);
+    fake.addDrive(QStringLiteral("sdb"), "8:16", GiB);
+    fake.addDrive(QStringLiteral("nvme10n1"), "259:1", GiB);
+    fake.addDrive(QStringLiteral("nvme2n1"), "259:0", GiB);
+    fake.addDrive(QStringLiteral("sda"), "8:0", GiB);
+    DriveRegistry registry(fake.tree());
+    QCOMPARE(names(registry.drives()),
+             QStringList({QStringLiteral("nvme2n1"), QStringLiteral("nvme10n1"), QStringLiteral("sda"),
+                          QStringLiteral("sdb"), QStringLiteral("sdaa")}));
+    QCOMPARE(registry.byNumber(2)->device, QByteArray("8:0"));
+    QCOMPARE(registry.byDevice("65:160")->number, 4);
+}
+
+void TestDriveRegistry::whatIsNoDrive()
+{
+    FakeSystemTree fake;
+    const QStringList others{QStringLiteral("zram0"), QStringLiteral("ram0"), QStringLiteral("dm-0"),
+                             QStringLiteral("md127"), QStringLiteral("sr0"),  QStringLiteral("mmcblk0boot0")};
+    for (const QString &name : others)
+        fake.addDrive(name, "240:" + QByteArray::number(others.indexOf(name)), GiB);
+    fake.addDrive(QStringLiteral("loop0"), "7:0", 0); // not attached
+    fake.addDrive(QStringLiteral("sda"), "8:0", GiB);
+    fake.write(QStringLiteral("sys/block/sda/ro"), "1\n");
+    fake.addDrive(QStringLiteral("nvme0c0n1"), "259:9", GiB);
+    fake.write(QStringLiteral("sys/block/nvme0c0n1/hidden"), "1\n");
+    fake.addDrive(QStringLiteral("mmcblk0"), "179:0", GiB);
+    DriveRegistry registry(fake.tree());
+    QCOMPARE(names(registry.drives()), QStringList({QStringLiteral("mmcblk0")}));
+}
+
+void TestDriveRegistry::unpluggingRenumbersNobody()
+{
+    FakeSystemTree fake;
+    fake.addDrive(QStringLiteral("sda"), "8:0", GiB, "A");
+    fake.addDrive(QStringLiteral("sdb"), "8:16", GiB, "B");
+    DriveRegistry registry(fake.tree());
+    QCOMPARE(registry.drives().size(), 2);
+    fake.removeDrive(QStringLiteral("sda"), "8:0");
+    QCOMPARE(registry.drives().size(), 1);
+    QCOMPARE(registry.byDevice("8:16")->number, 1);
+    QVERIFY(!registry.byNumber(0));
+    fake.addDrive(QStringLiteral("aaa"), "8:64", GiB, "C");
+    QCOMPARE(registry.byDevice("8:64")->number, 2);
+    QCOMPARE(registry.byDevice("8:16")->number, 1);
+}
+
+void TestDriveRegistry::aDriveThatComesBackHasItsNumber()
+{
+    FakeSystemTree fake;
+    fake.addDrive(QStringLiteral("sda"), "8:0", GiB, "A");
+    fake.addDrive(QStringLiteral("sdb"), "8:16", GiB, "B");
+    DriveRegistry registry(fake.tree());
+    QCOMPARE(registry.byDevice("8:0")->number, 0);
+    fake.removeDrive(QStringLiteral("sda"), "8:0");
+    QVERIFY(!registry.byNumber(0));
+    fake.addDrive(QStringLiteral("sda"), "8:0", GiB, "A");
+    QCOMPARE(registry.byDevice("8:0")->number, 0);
+}
+
+void TestDriveRegistry::anotherDriveUnderTheSameNodeGetsANewNumber()
+{
+    FakeSystemTree fake;
+    fake.addDrive(QStringLiteral("sda"), "8:0", GiB, "A");
+    DriveRegistry registry(fake.tree());
+    QCOMPARE(registry.byDevice("8:0")->number, 0);
+    fake.removeDrive(QStringLiteral("sda"), "8:0");
+    fake.addDrive(QStringLiteral("sda"), "8:0", GiB, "OTHER");
+    QCOMPARE(registry.byDevice("8:0")->number, 1);
+    QVERIFY(!registry.byNumber(0));
+}
+
+void TestDriveRegistry::driveWithoutSerialIsToldByItsAttachment()
+{
+    FakeSystemTree fake;
+    fake.addDrive(QStringLiteral("loop0"), "7:0", GiB);
+    fake.write(QStringLiteral("sys/block/loop0/diskseq"), "11\n");
+    DriveRegistry registry(fake.tree());
+    QCOMPARE(registry.byDevice("7:0")->number, 0);
+    fake.write(QStringLiteral("sys/block/loop0/diskseq"), "12\n");
+    QCOMPARE(registry.byDevice("7:0")->number, 1);
+}
+
+void TestDriveRegistry::numbersStayInReachOfEnumeration()
+{
+    FakeSystemTree fake;
+    DriveRegistry registry(fake.tree());
+    for (int i = 0; i < 32; ++i) {
+        fake.addDrive(QStringLiteral("sda"), "8:0", GiB, "S" + QByteArray::number(i));
+        QCOMPARE(registry.byDevice("8:0")->number, i);
+        fake.removeDrive(QStringLiteral("sda"), "8:0");
+    }
+    fake.addDrive(QStringLiteral("sda"), "8:0", GiB, "NEW");
+    QCOMPARE(registry.byDevice("8:0")->number, 0);
+    // The first holder of number 0 comes back while another has it.
+    fake.addDrive(QStringLiteral("sdb"), "8:16", GiB, "S0");
+    QCOMPARE(registry.byDevice("8:16")->number, 1);
+    QCOMPARE(registry.byDevice("8:0")->number, 0);
+}
+
+void TestDriveRegistry::aSpareNumberNeverGoesToADriveThatCouldBeConfused()
+{
+    FakeSystemTree fake;
+    DriveRegistry registry(fake.tree());
+    for (int i = 0; i < 40; ++i) {
+        fake.addDrive(QStringLiteral("loop0"), "7:0", GiB);
+        fake.write(QStringLiteral("sys/block/loop0/diskseq"), QByteArray::number(i));
+        QCOMPARE(registry.byDevice("7:0")->number, i);
+        fake.removeDrive(QStringLiteral("loop0"), "7:0");
+    }
+}
+
+QTEST_APPLESS_MAIN(TestDriveRegistry)
+#include "tst_driveregistry.moc"

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "platform/devices.h"
+#include "platform/platform.h"
+
+// A platform that has devices and nothing else: a test whose code asks for more ends.
+class DevicePlatform : public platform::Platform
+{
+public:
+    explicit DevicePlatform(platform::Devices &devices)
+        : m_devices(devices)
+    {}
+    platform::Files &files() override { qFatal("no files in this test"); }
+    platform::Folders &folders() override { qFatal("no folders in this test"); }
+    platform::Devices &devices() override { return m_devices; }
+    platform::Session &session() override { qFatal("no session in this test"); }
+
+private:
+    platform::Devices &m_devices;
+};
