@@ -1,0 +1,89 @@
+#pragma once
+
+#include "engine/patterngenerator.h"
+#include "model/wipemethod.h"
+
+#include <QElapsedTimer>
+#include <QMutex>
+#include <QObject>
+#include <QString>
+#include <QWaitCondition>
+
+#include <atomic>
+#include <chrono>
+#include <cstddef>
+
+class WipeTask;
+
+// What the three workers share: the signals, stopping and pausing, the fill and the check of one pass, and
+// the progress figures. A worker is made on the interface thread, moved to a thread of its own, runs
+// process() once and ends it with exactly one finished().
+//
+// Levels of logMessage: 0 information, 1 warning, 2 error.
+class BaseWipeWorker : public QObject
+{
+    Q_OBJECT
+
+public:
+    // The task is not owned and outlives the worker; nobody changes it while the worker runs, except its
+    // report through WipeTask::updateReport.
+    explicit BaseWipeWorker(WipeTask *task, QObject *parent = nullptr);
+    ~BaseWipeWorker() override;
+
+    // Ends the job at its next check. Any thread; wakes a worker that is paused or waiting.
+    void stop();
+
+public slots:
+    virtual void process() = 0;
+
+signals:
+    void progressChanged(int percent);
+    void passChanged(int currentPass, int totalPasses);
+    void bytesWritten(qint64 bytes);
+    void speedUpdated(double bytesPerSecond);
+    void finished(bool success);
+    void errorOccurred(const QString &error);
+    void logMessage(const QString &message, int level);
+
+protected:
+    enum LogLevel { Information = 0, Warning = 1, Error = 2 };
+
+    WipeTask &task() const { return *m_task; }
+    bool isStopRequested() const { return m_stopRequested.load(); }
+
+    // Waits while paused. True to go on, false to give up.
+    bool checkPauseStop();
+
+    // Waits for the time given or until a stop, whichever comes first. False when a stop is requested.
+    bool waitUnlessStopped(std::chrono::milliseconds time);
+
+    // Fills the buffer for one pass; Random data comes from the worker's own generator.
+    void fillBuffer(std::byte *buffer, qint64 size, const PassPattern &pattern);
+    // The same for a pool thread, which brings a generator of its own.
+    static void fillBuffer(std::byte *buffer, qint64 size, const PassPattern &pattern,
+                           PatternGenerator &random);
+    // A seed for such a generator, drawn from the worker's.
+    quint32 drawSeed() { return m_random.generate(); }
+
+    // Whether a buffer read back is what the pass wrote. An empty buffer passes, and so does everything whose
+    // content cannot be predicted (Random, Complement).
+    static bool verifyBuffer(const std::byte *buffer, qint64 size, const PassPattern &pattern);
+
+    // Reports percent, bytes and speed. Both counts are bytes of the current pass; total 0 reports 0 percent
+    // alone. One thread at a time.
+    void updateProgress(qint64 done, qint64 total);
+
+    int m_currentPass = 0;
+    int m_totalPasses = 0;
+    qint64 m_bytesBeforePass = 0;
+    std::atomic<bool> m_paused{false};
+
+private:
+    WipeTask *m_task;
+    std::atomic<bool> m_stopRequested{false};
+    QMutex m_pauseMutex;
+    QWaitCondition m_pauseCondition;
+    PatternGenerator m_random;
+    QElapsedTimer m_speedTimer;
+    qint64 m_lastSpeedBytes = 0;
+};

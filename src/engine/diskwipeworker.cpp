@@ -1,0 +1,210 @@
+#include "engine/diskwipeworker.h"
+
+#include "model/displaytext.h"
+#include "model/formatsize.h"
+#include "model/wipetask.h"
+#include "platform/platform.h"
+
+#include <QDebug>
+
+#include <algorithm>
+#include <new>
+
+using namespace Qt::StringLiterals;
+
+DiskWipeWorker::DiskWipeWorker(WipeTask *task, QObject *parent)
+    : BaseWipeWorker(task, parent)
+{}
+
+DiskWipeWorker::~DiskWipeWorker() = default;
+
+void DiskWipeWorker::process()
+{
+    bool success = false;
+    try {
+        success = run();
+    } catch (const std::bad_alloc &) {
+        emit errorOccurred(tr("内存分配失败"));
+    }
+    closeDevices();
+    fillReport();
+    emit finished(success);
+}
+
+bool DiskWipeWorker::run()
+{
+    noteTarget();
+    if (task().disk().isSystemDisk) {
+        emit errorOccurred(tr("无法擦除系统盘"));
+        return false;
+    }
+
+    note(tr("正在锁定磁盘卷..."));
+    const bool locked = lockVolumes();
+    if (isStopRequested())
+        return cancelled();
+    if (!locked) {
+        emit errorOccurred(tr("无法锁定磁盘卷，请关闭所有使用该磁盘的程序"));
+        return false;
+    }
+    note(tr("磁盘卷已锁定并卸载"));
+
+    if (!measureDisk()) {
+        emit errorOccurred(tr("无法获取磁盘信息"));
+        return false;
+    }
+    const bool success = writePasses();
+    closeDevices();
+    if (isStopRequested())
+        return cancelled();
+    if (success)
+        note(tr("磁盘擦除完成!"));
+    return success;
+}
+
+bool DiskWipeWorker::cancelled()
+{
+    closeDevices();
+    note(tr("擦除已取消"), Warning);
+    return false;
+}
+
+void DiskWipeWorker::noteTarget()
+{
+    const DiskInfo disk = task().disk();
+    note(tr("开始磁盘擦除..."));
+    note(tr("目标磁盘: %1").arg(disk.displayName()));
+    note(tr("磁盘编号: %1").arg(disk.diskNumber));
+    note(tr("序列号: %1").arg(displayText(disk.serialNumber)));
+}
+
+bool DiskWipeWorker::measureDisk()
+{
+    note(tr("正在打开磁盘..."));
+    bool measured = false;
+    if (const platform::Status opened = openDisk()) {
+        note(tr("磁盘打开成功"));
+        const platform::Result<platform::Geometry> geometry = m_drive->geometry();
+        measured = geometry && geometry.value().bytesPerSector > 0 && geometry.value().sizeBytes >= 0;
+        if (measured) {
+            m_diskSize = geometry.value().sizeBytes;
+            m_sectorSize = geometry.value().bytesPerSector;
+        }
+    } else {
+        note(tr("无法打开磁盘，错误码: %1").arg(opened.code), Error);
+        note(tr("将通过卷句柄进行擦除"));
+    }
+    if (!measured && !measureVolumes())
+        return false;
+
+    m_sectorCount = static_cast<quint64>(m_diskSize / m_sectorSize);
+    note(tr("磁盘大小: %1").arg(formatSize(m_diskSize)));
+    note(tr("扇区大小: %1 字节").arg(m_sectorSize));
+    note(tr("总扇区数: %1").arg(m_sectorCount));
+    return true;
+}
+
+platform::Status DiskWipeWorker::openDisk()
+{
+    platform::Devices &devices = platform::Platform::current().devices();
+    const platform::DriveSharing sharing =
+        m_volumes.empty() ? platform::DriveSharing::Alone : platform::DriveSharing::BesideOwnVolumes;
+    qDebug() << "[DiskWipe] Opening device:" << devices.drivePath(task().disk().diskNumber);
+    platform::Result<std::unique_ptr<platform::RawDevice>> drive = devices.openDrive(identity(), sharing);
+    if (!drive) {
+        qDebug() << "[DiskWipe] CreateFile failed, error:" << drive.code();
+        diagnose(drive.status());
+        return drive.status();
+    }
+    qDebug() << "[DiskWipe] Disk opened successfully";
+    m_drive = drive.take();
+    return {};
+}
+
+bool DiskWipeWorker::measureVolumes()
+{
+    m_diskSize = 0;
+    m_sectorSize = 512;
+    for (const HeldVolume &volume : m_volumes) {
+        m_diskSize += std::max<qint64>(volume.device->length().valueOr(0), 0);
+        const qint32 sectorSize = volume.device->bytesPerSector().valueOr(0);
+        if (sectorSize > 0)
+            m_sectorSize = sectorSize;
+    }
+    return m_diskSize > 0;
+}
+
+bool DiskWipeWorker::writePasses()
+{
+    const QList<PassPattern> passes = task().method().passes;
+    m_totalPasses = static_cast<int>(passes.size());
+    m_chunks.emplace([this](std::byte *data, qint64 size, const PassPattern &pattern) {
+        fillBuffer(data, size, pattern);
+    });
+
+    bool success = true;
+    for (const PassPattern &pattern : passes) {
+        if (!success || isStopRequested())
+            break;
+        ++m_currentPass;
+        emit passChanged(m_currentPass, m_totalPasses);
+        note(tr("第 %1/%2 次覆写 (模式: %3)")
+                 .arg(m_currentPass)
+                 .arg(m_totalPasses)
+                 .arg(patternLabel(pattern)));
+        success = writePass(pattern);
+        if (!success)
+            emit errorOccurred(tr("覆写失败"));
+        m_bytesBeforePass += m_diskSize;
+    }
+    return success;
+}
+
+QString DiskWipeWorker::patternLabel(const PassPattern &pattern)
+{
+    switch (pattern.type) {
+    case PatternType::Zeros:
+        return u"0x00"_s;
+    case PatternType::Ones:
+        return u"0xFF"_s;
+    case PatternType::Random:
+        return tr("随机");
+    case PatternType::Custom:
+        return u"0x%1"_s.arg(pattern.value, 2, 16, QLatin1Char('0'));
+    case PatternType::Complement:
+        break;
+    }
+    return tr("未知");
+}
+
+void DiskWipeWorker::closeDevices()
+{
+    m_chunks.reset();
+    m_drive.reset();
+    releaseVolumes();
+}
+
+void DiskWipeWorker::fillReport()
+{
+    const quint64 wiped = std::min(m_coverage.sectors(m_totalPasses), static_cast<quint64>(m_diskSize) >> 9);
+    const int samples = m_verification.samples();
+    const QString method =
+        samples > 0 ? u"random sampling, %1 sectors"_s.arg(m_verification.samplesOfPass()) : QString();
+    task().updateReport([&](WipeReport &report) {
+        report.wipedSectors = wiped;
+        report.verificationSampleSize = samples;
+        report.verificationMethod = method;
+        report.dataHash = m_verification.hash();
+    });
+}
+
+platform::DriveIdentity DiskWipeWorker::identity() const
+{
+    const DiskInfo disk = task().disk();
+    return {disk.diskNumber, disk.serialNumber, disk.sizeBytes};
+}
+
+void DiskWipeWorker::diagnose(const platform::Status &failure)
+{
+    qDebug().noquote() << "[DiskWipe]" << failure.diagnostic();
+}

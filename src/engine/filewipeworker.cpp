@@ -1,0 +1,465 @@
+#include "engine/filewipeworker.h"
+
+#include "engine/copyonwrite.h"
+#include "engine/filedeletion.h"
+#include "engine/filepresence.h"
+#include "model/displaytext.h"
+#include "model/formatsize.h"
+#include "model/wipetask.h"
+#include "platform/alignedbuffer.h"
+#include "platform/files.h"
+#include "platform/folders.h"
+#include "platform/platform.h"
+
+#include <QDebug>
+#include <QMutexLocker>
+#include <QRandomGenerator>
+#include <QThread>
+
+#include <algorithm>
+#include <array>
+#include <new>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+using platform::FileKind;
+using platform::OpenMode;
+using platform::Status;
+
+namespace {
+
+constexpr qint64 MiB = 1024LL * 1024;
+constexpr qint64 SmallestBuffer = 256LL * 1024;
+constexpr qint64 LargestBuffer = 16 * MiB;
+constexpr int DefaultBufferMB = 4;
+constexpr qint64 ProgressInterval = 100; // ms
+constexpr int SamplesPerFile = 3;
+constexpr qint64 SampleSize = 1024;
+
+platform::Files &files()
+{
+    return platform::Platform::current().files();
+}
+
+void trace(const QString &path, const Status &status)
+{
+    if (!status)
+        qDebug().noquote() << "[FileWipe]" << path << status.diagnostic();
+}
+
+qint64 bufferSizeFor(qint64 fileSize, int bufferSizeMB)
+{
+    const qint64 wanted = (bufferSizeMB < 1 ? DefaultBufferMB : bufferSizeMB) * MiB;
+    return std::min(std::clamp(wanted, SmallestBuffer, LargestBuffer), fileSize);
+}
+
+// Every buffer filled for the pass holds the same, so that one fill does for a file.
+bool isConstant(const PassPattern &pattern)
+{
+    return pattern.type == PatternType::Zeros || pattern.type == PatternType::Ones ||
+           pattern.type == PatternType::Custom;
+}
+
+Status writeAll(platform::FileHandle &file, const std::byte *data, qint64 size)
+{
+    while (size > 0) {
+        const auto written = file.write(data, size);
+        if (!written)
+            return written.status();
+        if (written.value() <= 0)
+            return {platform::WriteFault, 0, "write (no progress)"};
+        data += written.value();
+        size -= written.value();
+    }
+    return {};
+}
+
+} // namespace
+
+FileWipeWorker::FileWipeWorker(WipeTask *task, QObject *parent)
+    : BaseWipeWorker(task, parent)
+    , m_pool(this)
+{
+    const int threads = task->threadCount();
+    m_pool.setMaxThreadCount(threads >= 1 ? threads : QThread::idealThreadCount());
+    m_progressClock.start();
+}
+
+FileWipeWorker::~FileWipeWorker()
+{
+    stop();
+    m_pool.clear();
+    m_pool.waitForDone();
+}
+
+void FileWipeWorker::process()
+{
+    bool success = false;
+    try {
+        success = run();
+    } catch (const std::bad_alloc &) {
+        m_list = {};
+        emit errorOccurred(tr("内存分配失败"));
+    }
+    reportVerification();
+    emit finished(success);
+}
+
+bool FileWipeWorker::run()
+{
+    emit logMessage(tr("正在扫描目标文件..."), Information);
+    m_list = collectFiles(task().files());
+    if (isStopRequested())
+        return concludeJob(false);
+    if (m_list.files.isEmpty()) {
+        emit errorOccurred(tr("没有找到要擦除的文件"));
+        return false;
+    }
+    measureFiles();
+    if (isStopRequested())
+        return concludeJob(false);
+    announceFiles();
+    if (!overwriteAll())
+        return concludeJob(false);
+    const bool success = deleteAll();
+    removeFolders();
+    return concludeJob(success);
+}
+
+bool FileWipeWorker::concludeJob(bool success)
+{
+    if (isStopRequested()) {
+        emit logMessage(tr("擦除任务已由用户取消"), Warning);
+        return false;
+    }
+    const int failed = m_failedCount + m_list.unreadable;
+    if (success && failed == 0) {
+        emit logMessage(tr("所有文件擦除成功！共处理 %1 个文件").arg(m_processedCount), Information);
+        return true;
+    }
+    emit logMessage(tr("擦除完成，但有 %1 个文件失败。数据可能不安全！").arg(failed), Error);
+    return false;
+}
+
+FileList FileWipeWorker::collectFiles(const QStringList &targets)
+{
+    // Whoever is told that a job succeeded believes that everything under the targets is gone: what nobody
+    // could look at makes it fail.
+    const auto unreadable = [this](FileCollector::Unreadable what, const QString &path,
+                                   const Status &status) {
+        const QString text = what == FileCollector::Unreadable::Folder ? tr("无法读取文件夹: %1，错误码: %2")
+                                                                       : tr("无法访问: %1，错误码: %2");
+        emit logMessage(text.arg(displayText(path), QString::number(status.code)), Error);
+        trace(path, status);
+    };
+    return FileCollector({.goOn = [this] { return checkPauseStop(); }, .unreadable = unreadable})
+        .collect(targets);
+}
+
+void FileWipeWorker::measureFiles()
+{
+    m_singlePassTotal = 0;
+    m_isTotalCertain = true;
+    for (const QString &path : std::as_const(m_list.files)) {
+        if (!checkPauseStop())
+            return;
+        const auto info = files().info(path);
+        if (!info) {
+            m_isTotalCertain = m_isTotalCertain && isAbsent(info.status());
+            continue;
+        }
+        if (info.value().kind != FileKind::Regular)
+            continue;
+        m_singlePassTotal += info.value().size;
+        if (info.value().linkCount > 1) {
+            const QString others = QString::number(info.value().linkCount - 1);
+            emit logMessage(tr("文件还有 %1 个其他硬链接: %2").arg(others, displayText(path)), Warning);
+        }
+    }
+}
+
+void FileWipeWorker::announceFiles()
+{
+    m_totalPasses = task().method().passCount();
+    task().updateReport([this](WipeReport &report) {
+        report.fileCount = static_cast<qint32>(m_list.files.size());
+        report.totalBytes = static_cast<quint64>(m_singlePassTotal);
+    });
+    emit logMessage(tr("准备擦除 %1 个文件，单遍总大小 %2")
+                        .arg(QString::number(m_list.files.size()), formatSize(m_singlePassTotal)),
+                    Information);
+    for (const QByteArray &type : fileSystemsWritingElsewhere(task().files())) {
+        emit logMessage(
+            tr("文件系统 %1 不在原位置写入，旧数据可能仍留在介质上").arg(QString::fromLatin1(type)), Warning);
+    }
+}
+
+bool FileWipeWorker::overwriteAll()
+{
+    m_failedCount = 0;
+    m_processedCount = 0;
+    m_bytesBeforePass = 0;
+    // A total of 0 proves that there is nothing to overwrite only when every size was told.
+    if (m_singlePassTotal <= 0 && m_isTotalCertain) {
+        emit logMessage(tr("所有文件为空，跳过数据覆写"), Information);
+        return !isStopRequested();
+    }
+    const QList<PassPattern> passes = task().method().passes;
+    for (const PassPattern &pattern : passes) {
+        if (isStopRequested())
+            return false;
+        ++m_currentPass;
+        emit passChanged(m_currentPass, m_totalPasses);
+        if (!overwritePass(pattern)) {
+            emit logMessage(tr("第 %1/%2 遍覆写出现失败文件，失败数: %3")
+                                .arg(m_currentPass)
+                                .arg(m_totalPasses)
+                                .arg(m_failedCount),
+                            Error);
+            return false;
+        }
+    }
+    return !isStopRequested();
+}
+
+bool FileWipeWorker::overwritePass(const PassPattern &pattern)
+{
+    const qsizetype batchSize = std::max(2 * m_pool.maxThreadCount(), 1);
+    const qsizetype count = m_list.files.size();
+    bool passed = true;
+    m_bytesThisPass = 0;
+    for (qsizetype first = 0; first < count && !isStopRequested(); first += batchSize) {
+        if (!checkPauseStop()) {
+            passed = false;
+            break;
+        }
+        const int failures = overwriteBatch(first, std::min(batchSize, count - first), pattern);
+        m_failedCount += failures;
+        passed = passed && failures == 0;
+    }
+    m_bytesBeforePass += m_bytesThisPass;
+    return passed;
+}
+
+int FileWipeWorker::overwriteBatch(qsizetype first, qsizetype count, const PassPattern &pattern)
+{
+    std::atomic<int> failures{0};
+    {
+        // Also when starting a job throws, those already started still use what lies on this stack. The
+        // semaphore outlives them: a future would let this thread run jobs too, one more at a time than the
+        // pool allows.
+        struct Started
+        {
+            QSemaphore &done;
+            int jobs = 0;
+            ~Started() { done.acquire(jobs); }
+        } started{m_jobsDone};
+
+        for (qsizetype i = first; i < first + count; ++i) {
+            const QString path = m_list.files.at(i);
+            m_pool.start([this, &failures, path, pattern, seed = drawSeed()] {
+                if (!overwriteJob(path, pattern, seed))
+                    ++failures;
+                m_jobsDone.release();
+            });
+            ++started.jobs;
+        }
+    }
+    return failures;
+}
+
+bool FileWipeWorker::overwriteJob(const QString &path, const PassPattern &pattern, quint32 seed) noexcept
+{
+    try {
+        return overwriteExisting(path, pattern, seed);
+    } catch (const std::bad_alloc &) {
+        logOutOfMemory();
+    }
+    return false;
+}
+
+bool FileWipeWorker::overwriteExisting(const QString &path, const PassPattern &pattern, quint32 seed)
+{
+    const auto info = files().info(path);
+    if (!info) {
+        return isAbsent(info.status()) || failFile(tr("无法打开文件(WinAPI): %1"), path, info.status());
+    }
+    if (info.value().kind != FileKind::Regular)
+        return true;
+    return overwriteFile(path, info.value().size, pattern, seed);
+}
+
+bool FileWipeWorker::overwriteFile(const QString &path, qint64 size, const PassPattern &pattern, quint32 seed)
+{
+    if (size < 1)
+        return true;
+    if (isStopRequested())
+        return false;
+    platform::AlignedBuffer buffer(bufferSizeFor(size, task().bufferSizeMB()));
+    if (buffer.isNull()) {
+        logOutOfMemory();
+        return false;
+    }
+    trace(path, files().clearReadOnly(path));
+    {
+        const auto opened = files().open(path, OpenMode::Overwrite);
+        if (!opened)
+            return failFile(tr("无法打开文件(WinAPI): %1"), path, opened.status());
+        platform::FileHandle &file = *opened.value();
+        if (!writeChunks(file, path, size, pattern, seed, buffer))
+            return false;
+        const Status flushed = file.flush();
+        if (!flushed)
+            return failFile(tr("FlushFileBuffers 失败: %1"), path, flushed);
+    }
+    if (isStopRequested())
+        return false;
+    if (!pattern.verify || !task().verifyAfterWipe())
+        return true;
+    return verifyFile(path, size, pattern);
+}
+
+// True also when a stop ended the loop between two chunks.
+bool FileWipeWorker::writeChunks(platform::FileHandle &file, const QString &path, qint64 size,
+                                 const PassPattern &pattern, quint32 seed, platform::AlignedBuffer &buffer)
+{
+    PatternGenerator random(seed);
+    qint64 offset = 0;
+    while (offset < size && !isStopRequested()) {
+        if (!checkPauseStop())
+            return false;
+        const qint64 chunk = std::min(buffer.size(), size - offset);
+        if (offset == 0 || !isConstant(pattern))
+            fillBuffer(buffer.data(), chunk, pattern, random);
+        const Status found = file.seek(offset);
+        if (!found)
+            return failFile(tr("SetFilePointerEx 失败: %1"), path, found);
+        const Status written = writeAll(file, buffer.data(), chunk);
+        if (!written)
+            return failFile(tr("WriteFile 失败: %1"), path, written);
+        offset += chunk;
+        m_bytesThisPass += chunk;
+        reportProgress();
+    }
+    return true;
+}
+
+bool FileWipeWorker::verifyFile(const QString &path, qint64 size, const PassPattern &pattern)
+{
+    const auto opened = files().open(path, OpenMode::Verify);
+    if (!opened) {
+        trace(path, opened.status());
+        return false;
+    }
+    platform::FileHandle &file = *opened.value();
+    std::array<std::byte, SampleSize> sample;
+    for (int i = 0; i < SamplesPerFile; ++i) {
+        if (isStopRequested())
+            return true;
+        const qint64 offset =
+            size > SampleSize ? QRandomGenerator64::global()->bounded(size - SampleSize) : 0;
+        const Status found = file.seek(offset);
+        trace(path, found);
+        if (!found)
+            return false;
+        const auto read = file.read(sample.data(), SampleSize);
+        trace(path, read.status());
+        if (!read || read.value() <= 0)
+            return false;
+        ++m_samplesRead;
+        if (!verifyBuffer(sample.data(), read.value(), pattern)) {
+            emit logMessage(tr("验证失败: %1").arg(displayText(path)), Error);
+            return false;
+        }
+    }
+    return true;
+}
+
+void FileWipeWorker::reportProgress()
+{
+    if (!isProgressDue())
+        return;
+    const QMutexLocker locker(&m_progressMutex);
+    if (!isProgressDue())
+        return;
+    // Already the position in the whole job; updateProgress() counts the earlier passes once more. The
+    // figures run ahead in later passes, as everybody who reads them expects.
+    const qint64 done = (m_currentPass - 1) * m_singlePassTotal + m_bytesThisPass;
+    const qint64 total = m_totalPasses * m_singlePassTotal;
+    updateProgress(done, total == 0 ? 1 : total);
+    m_lastProgress = m_progressClock.elapsed();
+}
+
+bool FileWipeWorker::isProgressDue() const
+{
+    return m_progressClock.elapsed() - m_lastProgress > ProgressInterval;
+}
+
+bool FileWipeWorker::deleteAll()
+{
+    emit logMessage(tr("正在执行安全删除及元数据清理..."), Information);
+    // Unknown counts as standing; what a rename took away from under its path counts as gone.
+    const auto mayStand = [](const QString &path) {
+        const auto info = files().info(path);
+        return info ? info.value().kind != FileKind::Folder : !isAbsent(info.status());
+    };
+    FileDeletion deletion([this](std::chrono::milliseconds time) { return waitUnlessStopped(time); });
+    int failures = 0;
+    for (const QString &path : std::as_const(m_list.files)) {
+        if (isStopRequested())
+            break;
+        if (!deletion.secureDeleteFile(path) && mayStand(path)) {
+            ++failures;
+            emit logMessage(tr("删除失败: %1").arg(displayText(path)), Warning);
+        }
+        ++m_processedCount;
+    }
+    m_failedCount += failures;
+    return failures == 0;
+}
+
+// Only folders whose content was in the list: what could not be listed was not overwritten, and removing it
+// would take it out of sight and leave it on the medium.
+void FileWipeWorker::removeFolders()
+{
+    for (const QString &folder : std::as_const(m_list.folders)) {
+        const auto info = files().info(folder);
+        if (info && info.value().kind != FileKind::Folder)
+            continue;
+        const Status removed =
+            info ? platform::Platform::current().folders().removeTree(folder) : info.status();
+        if (removed || isAbsent(removed))
+            continue;
+        emit logMessage(
+            tr("无法删除文件夹: %1，错误码: %2").arg(displayText(folder), QString::number(removed.code)),
+            Warning);
+        trace(folder, removed);
+    }
+}
+
+void FileWipeWorker::reportVerification()
+{
+    const int samples = m_samplesRead;
+    task().updateReport([samples](WipeReport &report) {
+        report.verificationSampleSize = samples;
+        report.verificationMethod = samples > 0 ? u"random sampling, 3 samples per file"_s : QString();
+    });
+}
+
+void FileWipeWorker::logOutOfMemory() noexcept
+{
+    try {
+        emit logMessage(tr("内存分配失败"), Error);
+    } catch (const std::bad_alloc &) {
+        // Only the line is lost: the file counts as failed.
+        qWarning("[FileWipe] out of memory");
+    }
+}
+
+// Says why a file failed; always false.
+bool FileWipeWorker::failFile(const QString &message, const QString &path, const Status &status)
+{
+    emit logMessage(message.arg(displayText(path)), Error);
+    trace(path, status);
+    return false;
+}

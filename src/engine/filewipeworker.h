@@ -1,0 +1,78 @@
+#pragma once
+
+#include "engine/basewipeworker.h"
+#include "engine/filecollector.h"
+
+#include <QMutex>
+#include <QSemaphore>
+#include <QThreadPool>
+
+namespace platform {
+class AlignedBuffer;
+class FileHandle;
+} // namespace platform
+
+// Shreds the files and folders of a task: every pass overwrites all files in place on a pool of threads, then
+// each file is cut, renamed and deleted, then the folders are removed. A pass in which one file failed is the
+// last thing that happens: nothing is deleted then, so that the user still has what could not be erased.
+class FileWipeWorker : public BaseWipeWorker
+{
+    Q_OBJECT
+
+public:
+    explicit FileWipeWorker(WipeTask *task, QObject *parent = nullptr);
+    // Waits for the pool jobs that run.
+    ~FileWipeWorker() override;
+
+public slots:
+    void process() override;
+
+private:
+    // The job; its result is what finished() carries.
+    bool run();
+    bool concludeJob(bool success);
+
+    FileList collectFiles(const QStringList &targets);
+    void measureFiles();
+    void announceFiles();
+
+    // False when the job is not to delete anything.
+    bool overwriteAll();
+    bool overwritePass(const PassPattern &pattern);
+    // The number of files that failed.
+    int overwriteBatch(qsizetype first, qsizetype count, const PassPattern &pattern);
+
+    // On pool threads, from here ...
+    bool overwriteJob(const QString &path, const PassPattern &pattern, quint32 seed) noexcept;
+    bool overwriteExisting(const QString &path, const PassPattern &pattern, quint32 seed);
+    bool overwriteFile(const QString &path, qint64 size, const PassPattern &pattern, quint32 seed);
+    bool writeChunks(platform::FileHandle &file, const QString &path, qint64 size, const PassPattern &pattern,
+                     quint32 seed, platform::AlignedBuffer &buffer);
+    bool verifyFile(const QString &path, qint64 size, const PassPattern &pattern);
+    void reportProgress();
+    bool isProgressDue() const;
+    // ... to here.
+
+    bool deleteAll();
+    void removeFolders();
+    void reportVerification();
+
+    void logOutOfMemory() noexcept;
+    bool failFile(const QString &message, const QString &path, const platform::Status &status);
+
+    QThreadPool m_pool;
+    QSemaphore m_jobsDone;
+
+    FileList m_list;
+    qint64 m_singlePassTotal = 0; // bytes
+    bool m_isTotalCertain = true; // the size of every file that stands was told
+    int m_processedCount = 0;
+    int m_failedCount = 0;
+
+    std::atomic<qint64> m_bytesThisPass{0};
+    std::atomic<int> m_samplesRead{0};
+
+    QElapsedTimer m_progressClock;         // only read after construction
+    std::atomic<qint64> m_lastProgress{0}; // reading of that clock, in ms
+    QMutex m_progressMutex;
+};

@@ -1,0 +1,379 @@
+#include "engine/freespacewipeworker.h"
+
+#include "engine/chunkpipeline.h"
+#include "engine/fillfolder.h"
+#include "engine/wipecoverage.h"
+#include "model/displaytext.h"
+#include "model/formatsize.h"
+#include "model/wipetask.h"
+#include "platform/devices.h"
+#include "platform/folders.h"
+#include "platform/platform.h"
+
+#include <QDeadlineTimer>
+#include <QDebug>
+#include <QScopeGuard>
+#include <QUuid>
+
+#include <array>
+#include <chrono>
+#include <new>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Enough small files to take over the records of deleted ones, enough folders to do the same to directory
+// entries.
+constexpr int RecordFiles = 1000;
+constexpr qint64 RecordFileBytes = 256;
+constexpr int RecordFolders = 100;
+
+// Somebody who goes on deleting does not keep the job from starting.
+constexpr std::chrono::seconds SettlePatience{10};
+
+void remember(platform::Status &first, const platform::Status &status)
+{
+    if (first.ok() && !status.ok())
+        first = status;
+}
+
+} // namespace
+
+FreeSpaceWipeWorker::FreeSpaceWipeWorker(WipeTask *task, QObject *parent)
+    : BaseWipeWorker(task, parent)
+{}
+
+FreeSpaceWipeWorker::~FreeSpaceWipeWorker()
+{
+    removeFillFiles();
+}
+
+void FreeSpaceWipeWorker::process()
+{
+    bool success = false;
+    try {
+        success = run();
+    } catch (const std::bad_alloc &) {
+        emit errorOccurred(tr("内存分配失败"));
+    }
+    completeReport();
+    emit finished(success);
+}
+
+void FreeSpaceWipeWorker::log(const QString &message, LogLevel level)
+{
+    emit logMessage(message, level);
+}
+
+bool FreeSpaceWipeWorker::run()
+{
+    log(tr("开始空闲空间擦除..."));
+    const PartitionInfo partition = task().partition();
+    const DiskInfo disk = task().disk();
+    qDebug() << "Partition driveLetter:" << partition.driveLetter;
+    qDebug() << "Disk number:" << disk.diskNumber;
+    qDebug() << "Disk partitions count:" << disk.partitions.size();
+
+    if (!partition.driveLetter.isEmpty())
+        return wipeVolumes(volumesOf(partition));
+    if (disk.diskNumber < 0) {
+        emit errorOccurred(tr("无效的目标"));
+        return false;
+    }
+    const QStringList volumes = volumesOf(disk);
+    // A disk without a usable volume has no free space to wipe: done, with the warning that volumesOf() gave.
+    return volumes.isEmpty() || wipeVolumes(volumes);
+}
+
+QStringList FreeSpaceWipeWorker::volumesOf(const PartitionInfo &partition)
+{
+    log(tr("目标分区: %1").arg(displayText(partition.driveLetter)));
+    log(tr("分区大小: %1").arg(partition.formattedTotal()));
+    log(tr("文件系统: %1").arg(displayText(partition.fileSystem)));
+    return {partition.driveLetter};
+}
+
+QStringList FreeSpaceWipeWorker::volumesOf(const DiskInfo &disk)
+{
+    log(tr("目标磁盘: %1").arg(disk.displayName()));
+    log(tr("磁盘大小: %1").arg(disk.formattedSize()));
+
+    QStringList volumes;
+    for (const PartitionInfo &partition : disk.partitions) {
+        if (!partition.driveLetter.isEmpty())
+            volumes.append(partition.driveLetter);
+    }
+    if (volumes.isEmpty()) {
+        log(tr("磁盘没有分区表，尝试查找对应的卷..."));
+        if (const QString drive = findDriveForDisk(disk.diskNumber); !drive.isEmpty()) {
+            volumes.append(drive);
+            log(tr("找到对应卷: %1").arg(displayText(drive)));
+        }
+    }
+    if (volumes.isEmpty()) {
+        log(tr("警告: 磁盘上没有可用的非系统分区"), Warning);
+        return volumes;
+    }
+    log(tr("将擦除 %1 个分区的空闲空间").arg(volumes.size()));
+    for (const QString &volume : std::as_const(volumes))
+        log(tr("  - %1").arg(displayText(volume)));
+    return volumes;
+}
+
+QString FreeSpaceWipeWorker::findDriveForDisk(int diskNumber)
+{
+    qDebug() << "findDriveForDisk: searching for disk" << diskNumber;
+    platform::Devices &devices = platform::Platform::current().devices();
+    for (const QString &name : devices.volumeNames()) {
+        const auto volume = devices.queryVolume(name);
+        if (!volume)
+            continue;
+        const auto extents = volume.value()->extents(platform::ManyExtents);
+        if (!extents || extents.value().isEmpty())
+            continue;
+        const int number = extents.value().first().diskNumber;
+        qDebug() << "  Drive" << name << "is on disk" << number;
+        if (number == diskNumber) {
+            qDebug() << "  Found matching drive:" << name;
+            return name;
+        }
+    }
+    qDebug() << "findDriveForDisk: no drive found for disk" << diskNumber;
+    return {};
+}
+
+bool FreeSpaceWipeWorker::wipeVolumes(const QStringList &volumes)
+{
+    if (volumes.isEmpty()) {
+        emit errorOccurred(tr("没有可用的分区"));
+        return false;
+    }
+    bool failed = false;
+    for (qsizetype i = 0; i < volumes.size() && !failed && !isStopRequested(); ++i) {
+        if (volumes.size() > 1) {
+            log(QString());
+            log(tr("========== 分区 %1/%2: %3 ==========")
+                    .arg(QString::number(i + 1), QString::number(volumes.size()),
+                         displayText(volumes.at(i))));
+        }
+        failed = !wipeVolume(volumes.at(i));
+    }
+    if (isStopRequested()) {
+        log(tr("擦除已取消"), Warning);
+        return false;
+    }
+    if (failed)
+        return false;
+    log(QString());
+    log(tr("空闲空间擦除完成!"));
+    return true;
+}
+
+void FreeSpaceWipeWorker::completeReport()
+{
+    task().updateReport([this](WipeReport &report) {
+        report.wipedSectors = m_wipedSectors;
+        // Fill files are not read back, whatever the passes ask for.
+        report.verificationSampleSize = 0;
+        report.verificationMethod.clear();
+    });
+}
+
+bool FreeSpaceWipeWorker::wipeVolume(const QString &root)
+{
+    m_root = root;
+    if (!m_root.endsWith(u'/') && !m_root.endsWith(u'\\'))
+        m_root += u'/';
+    log(tr("目标分区: %1").arg(displayText(m_root)));
+
+    if (!cleanUpAfterCrash())
+        return false;
+    const auto free = settledFreeBytes();
+    m_freeAtStart = free.valueOr(0);
+    log(tr("空闲空间: %1").arg(formatSize(m_freeAtStart)));
+    if (m_freeAtStart == 0) {
+        log(tr("没有空闲空间需要擦除"));
+        if (!free)
+            logVolumeGone(free.status());
+        return free.ok();
+    }
+
+    if (!createTemporaryFolder())
+        return false;
+    platform::Status removed;
+    bool filled = false;
+    {
+        const auto cleanUp = qScopeGuard([&] { removed = removeTemporaries(); });
+        filled = runPasses();
+    }
+    if (!filled)
+        return false;
+    if (isStopRequested())
+        return true;
+    // Without the volume the residue would be cleaned on the one that its mount point belongs to.
+    if (isVolumeGone(removed.code)) {
+        logVolumeGone(removed);
+        return false;
+    }
+    cleanResidue();
+    return true;
+}
+
+// Before the free space is measured: a crash leaves the volume full.
+bool FreeSpaceWipeWorker::cleanUpAfterCrash()
+{
+    const auto before = freeBytes(m_root);
+    const fillfolder::LeftOvers leftOvers = fillfolder::removeLeftOvers(m_root);
+    for (const QString &folder : leftOvers.folders)
+        log(tr("已清理上次中断留下的临时文件: %1").arg(displayText(folder)));
+    return waitForSpace(m_root, before.valueOr(0), leftOvers.bytes);
+}
+
+// What was deleted just before the job is what it is for, and some file systems (XFS) count it as free only
+// moments later: the figure has to stand still for one look.
+platform::Result<qint64> FreeSpaceWipeWorker::settledFreeBytes()
+{
+    const QDeadlineTimer patience(SettlePatience);
+    auto free = freeBytes(m_root);
+    while (free && !patience.hasExpired() && waitUnlessStopped(m_releasePoll)) {
+        const qint64 last = free.value();
+        free = freeBytes(m_root);
+        if (free && free.value() <= last)
+            break;
+    }
+    return free;
+}
+
+bool FreeSpaceWipeWorker::createTemporaryFolder()
+{
+    platform::Folders &folders = platform::Platform::current().folders();
+    m_temporaryFolder = m_root + fillfolder::newName();
+    if (const platform::Status created = folders.create(m_temporaryFolder); !created) {
+        qDebug().noquote() << "[FreeSpaceWipe] temporary folder" << created.diagnostic();
+        emit errorOccurred(tr("无法创建临时目录: %1").arg(displayText(m_temporaryFolder)));
+        return false;
+    }
+    if (const platform::Status hidden = folders.hide(m_temporaryFolder); !hidden)
+        qDebug().noquote() << "[FreeSpaceWipe] temporary folder" << hidden.diagnostic();
+    return true;
+}
+
+bool FreeSpaceWipeWorker::runPasses()
+{
+    const QList<PassPattern> passes = task().method().passes;
+    m_totalPasses = static_cast<int>(passes.size());
+    // Gone, with its helper, before the residue steps draw from the same generator.
+    ChunkPipeline chunks([this](std::byte *data, qint64 size, const PassPattern &pattern) {
+        fillBuffer(data, size, pattern);
+    });
+    WipeCoverage coverage;
+    bool filled = true;
+    for (int pass = 1; pass <= m_totalPasses && filled && !isStopRequested(); ++pass) {
+        m_currentPass = pass;
+        emit passChanged(pass, m_totalPasses);
+        const PassPattern &pattern = passes.at(pass - 1);
+        log(tr("第 %1/%2 次覆写 (%3)")
+                .arg(QString::number(pass), QString::number(m_totalPasses), patternLabel(pattern)));
+        m_filledInPass = 0;
+        filled = reclaimSpace() && fillFreeSpace(pattern, chunks);
+        coverage.addPass({m_filledInPass});
+        if (!filled)
+            emit errorOccurred(tr("填充空闲空间失败"));
+        // The figure that the percentage is based on, not what was written: the two differ by the reserve.
+        m_bytesBeforePass += m_freeAtStart;
+    }
+    m_wipedSectors += coverage.sectors(m_totalPasses);
+    return filled;
+}
+
+QString FreeSpaceWipeWorker::patternLabel(const PassPattern &pattern)
+{
+    switch (pattern.type) {
+    case PatternType::Zeros:
+        return tr("模式: 0x00");
+    case PatternType::Ones:
+        return tr("模式: 0xFF");
+    case PatternType::Random:
+        return tr("模式: 随机");
+    case PatternType::Custom:
+        return tr("模式: 0x%1").arg(pattern.value, 2, 16, QLatin1Char('0')).toUpper();
+    case PatternType::Complement:
+        break;
+    }
+    return tr("模式: 未知");
+}
+
+qint64 FreeSpaceWipeWorker::removeFillFiles()
+{
+    qint64 bytes = 0;
+    for (const FillFile &file : std::as_const(m_fillFiles)) {
+        if (const platform::Status removed = platform::Platform::current().files().remove(file.path); removed)
+            bytes += file.bytes;
+        else
+            qDebug().noquote() << "[FreeSpaceWipe] fill file" << file.path << removed.diagnostic();
+    }
+    m_fillFiles.clear();
+    return bytes;
+}
+
+platform::Status FreeSpaceWipeWorker::removeTemporaries()
+{
+    removeFillFiles();
+    const platform::Status removed = platform::Platform::current().folders().removeEmpty(m_temporaryFolder);
+    if (!removed)
+        qDebug().noquote() << "[FreeSpaceWipe] temporary folder" << removed.diagnostic();
+    return removed;
+}
+
+void FreeSpaceWipeWorker::cleanResidue()
+{
+    log(tr("正在清理文件系统残留..."));
+    platform::Status first = cleanFileRecords();
+    remember(first, cleanDirectoryEntries());
+    if (!first) {
+        qDebug().noquote() << "[FreeSpaceWipe] residue" << first.diagnostic();
+        log(tr("文件系统残留清理不完整，错误码: %1").arg(first.code), Warning);
+    }
+}
+
+platform::Status FreeSpaceWipeWorker::cleanFileRecords()
+{
+    platform::Platform &system = platform::Platform::current();
+    const QString folder = m_temporaryFolder + "/mft_clean"_L1;
+    platform::Status first = system.folders().create(folder);
+    remember(first, system.folders().hide(m_temporaryFolder));
+    {
+        const auto cleanUp = qScopeGuard([&] { remember(first, system.folders().removeTree(folder)); });
+        std::array<std::byte, RecordFileBytes> content{};
+        for (int i = 0; i < RecordFiles && !isStopRequested(); ++i) {
+            const auto file = system.files().open(u"%1/%2.tmp"_s.arg(folder, QString::number(i)),
+                                                  platform::OpenMode::CreateFill);
+            remember(first, file.status());
+            if (!file)
+                continue;
+            fillBuffer(content.data(), RecordFileBytes, {PatternType::Random});
+            remember(first, file.value()->write(content.data(), RecordFileBytes).status());
+            // A record that is given back before it reaches the medium has taken none over. The last flush
+            // commits those of all files, at a thousandth of the cost of flushing each.
+            if (i == RecordFiles - 1)
+                remember(first, file.value()->flush());
+        }
+    }
+    return first;
+}
+
+platform::Status FreeSpaceWipeWorker::cleanDirectoryEntries()
+{
+    platform::Folders &folders = platform::Platform::current().folders();
+    const QString folder = m_temporaryFolder + "/dir_clean"_L1;
+    platform::Status first;
+    {
+        const auto cleanUp = qScopeGuard([&] { remember(first, folders.removeTree(folder)); });
+        for (int i = 0; i < RecordFolders && !isStopRequested(); ++i) {
+            const QString name = QUuid::createUuid().toString(QUuid::WithoutBraces);
+            remember(first, folders.create(u"%1/%2"_s.arg(folder, name)));
+        }
+    }
+    return first;
+}

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QtGlobal>
+
+#include <array>
+#include <cstddef>
+
+// The pseudo-random source of overwrite data: the sequence is that of QRandomGenerator(seed), produced in
+// whole blocks so that a random pass is not slower than the device. Not for secrets. One thread at a time.
+class PatternGenerator
+{
+public:
+    explicit PatternGenerator(quint32 seed);
+
+    // The next 32 bits.
+    quint32 generate();
+    // Fills size bytes with 64-bit words, each made of two draws (low half first) and stored little-endian; a
+    // size that is no multiple of 8 takes the first bytes of one more word, whose rest is lost.
+    void fill(std::byte *data, qint64 size);
+
+private:
+    static constexpr std::size_t StateWords = 624;
+
+    void refill();
+
+    std::array<quint32, StateWords> m_state;
+    std::array<quint32, StateWords> m_output; // tempered words of the current block
+    std::size_t m_next = StateWords;
+};

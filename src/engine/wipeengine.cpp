@@ -1,0 +1,263 @@
+#include "engine/wipeengine.h"
+
+#include "engine/diskwipeworker.h"
+#include "engine/filewipeworker.h"
+#include "engine/freespacewipeworker.h"
+#include "model/wipereport.h"
+#include "model/wipetask.h"
+
+#include <QDeadlineTimer>
+#include <QDebug>
+#include <QThread>
+
+#include <chrono>
+#include <numeric>
+
+namespace {
+
+constexpr std::chrono::milliseconds StopPatience{5000};
+constexpr qint64 SpeedIntervalMs = 1000;
+
+quint64 freeBytesOf(const WipeTask &task)
+{
+    const PartitionInfo partition = task.partition();
+    if (!partition.driveLetter.isEmpty())
+        return static_cast<quint64>(partition.freeBytes);
+    const QList<PartitionInfo> partitions = task.disk().partitions;
+    return std::accumulate(
+        partitions.begin(), partitions.end(), quint64{0},
+        [](quint64 sum, const PartitionInfo &p) { return sum + static_cast<quint64>(p.freeBytes); });
+}
+
+} // namespace
+
+WipeEngine::WipeEngine(QObject *parent)
+    : QObject(parent)
+{}
+
+WipeEngine::~WipeEngine()
+{
+    stop();
+    cleanUpThread();
+}
+
+void WipeEngine::setTask(WipeTask *task)
+{
+    if (m_running) {
+        emit errorOccurred(tr("无法在运行时更改任务"));
+        return;
+    }
+    if (task != m_task)
+        ++m_job;
+    m_task = task;
+}
+
+void WipeEngine::start()
+{
+    qDebug() << "=== WipeEngine::start() ===";
+    qDebug() << "Task valid:" << (m_task != nullptr);
+    if (!m_task) {
+        emit errorOccurred(tr("没有设置任务"));
+        return;
+    }
+    const bool valid = m_task->isValid();
+    qDebug() << "Operation type:" << static_cast<int>(m_task->operationType());
+    qDebug() << "Task is valid:" << valid;
+    if (!valid) {
+        emit errorOccurred(m_task->validationError());
+        return;
+    }
+    if (m_running) {
+        emit errorOccurred(tr("任务已在运行"));
+        return;
+    }
+
+    beginReport();
+    if (!createWorker()) {
+        emit errorOccurred(tr("创建工作线程失败"));
+        return;
+    }
+
+    m_running = true;
+    m_stopRequested = false;
+    m_progress = 0;
+    m_bytesWritten = 0;
+    m_startTime = QDateTime::currentDateTime();
+    m_lastSpeedTime = m_startTime;
+    m_lastSpeedBytes = 0;
+    m_totalPasses = m_task->method().passCount();
+    m_currentPass = 1;
+    m_lastError.clear();
+
+    m_thread->start();
+    emit started();
+    emit logMessage(tr("开始擦除任务..."), 0);
+    emit logMessage(tr("擦除方法: %1 (%2次覆写)").arg(m_task->method().name).arg(m_totalPasses), 0);
+}
+
+void WipeEngine::beginReport()
+{
+    const OperationType type = m_task->operationType();
+    m_task->updateReport([this, type](WipeReport &report) {
+        // A task that ran before starts with a clean slate.
+        report.verificationPassed = false;
+        report.errorMessage.clear();
+        report.operationType = type;
+        report.method = m_task->method();
+        report.startTime = QDateTime::currentDateTime();
+        report.status = WipeStatus::Running;
+        if (type == DiskWipe || type == PartitionWipe || type == FreeSpaceWipe)
+            report.disk = m_task->disk();
+        // Counted in 512-byte units whatever the medium's sector is, so that reports can be compared.
+        if (type == DiskWipe || type == PartitionWipe)
+            report.totalSectors = static_cast<quint64>(m_task->disk().sizeBytes) >> 9;
+        if (type == FreeSpaceWipe)
+            report.totalBytes = freeBytesOf(*m_task);
+    });
+}
+
+BaseWipeWorker *WipeEngine::makeWorker() const
+{
+    switch (m_task->operationType()) {
+    case DiskWipe:
+    case PartitionWipe:
+        return new DiskWipeWorker(m_task);
+    case FreeSpaceWipe:
+        return new FreeSpaceWipeWorker(m_task);
+    case FileWipe:
+        return new FileWipeWorker(m_task);
+    }
+    return nullptr;
+}
+
+bool WipeEngine::createWorker()
+{
+    cleanUpThread();
+    ++m_job;
+    m_thread = new QThread(this);
+    m_worker = makeWorker();
+    if (!m_worker)
+        return false;
+    m_worker->moveToThread(m_thread);
+    connectWorker();
+    return true;
+}
+
+void WipeEngine::connectWorker()
+{
+    connect(m_thread, &QThread::started, m_worker, &BaseWipeWorker::process);
+    // The worker counts whole percents, the slot takes a double: a conversion that a plain connection
+    // refuses.
+    connect(m_worker, &BaseWipeWorker::progressChanged, this,
+            [relay = forThisJob(&WipeEngine::onWorkerProgress)](int percent) { relay(percent); });
+    connect(m_worker, &BaseWipeWorker::passChanged, this, forThisJob(&WipeEngine::onWorkerPassChanged));
+    connect(m_worker, &BaseWipeWorker::bytesWritten, this, forThisJob(&WipeEngine::onWorkerBytesWritten));
+    connect(m_worker, &BaseWipeWorker::finished, this, forThisJob(&WipeEngine::onWorkerFinished));
+    connect(m_worker, &BaseWipeWorker::errorOccurred, this, forThisJob(&WipeEngine::onWorkerError));
+    connect(m_worker, &BaseWipeWorker::logMessage, this, forThisJob(&WipeEngine::onWorkerLogMessage));
+    connect(m_worker, &BaseWipeWorker::finished, m_thread, &QThread::quit);
+    connect(m_thread, &QThread::finished, m_worker, &QObject::deleteLater);
+}
+
+void WipeEngine::cleanUpThread()
+{
+    if (m_thread) {
+        if (m_thread->isRunning()) {
+            m_thread->quit();
+            m_thread->wait();
+        }
+        delete m_thread;
+    }
+    m_thread = nullptr;
+    m_worker = nullptr;
+}
+
+void WipeEngine::stop()
+{
+    if (!m_running)
+        return;
+    m_stopRequested = true;
+    m_worker->stop();
+    if (m_thread->isRunning()) {
+        m_thread->quit();
+        m_thread->wait(QDeadlineTimer(StopPatience));
+    }
+    m_running = false;
+    if (m_task) {
+        m_task->updateReport([](WipeReport &report) {
+            report.status = WipeStatus::Cancelled;
+            report.endTime = QDateTime::currentDateTime();
+        });
+    }
+    emit stopped();
+    emit logMessage(tr("任务已停止"), 1);
+}
+
+WipeReport WipeEngine::report() const
+{
+    return m_task ? m_task->report() : WipeReport();
+}
+
+void WipeEngine::onWorkerProgress(double percent)
+{
+    m_progress = percent;
+    emit progressChanged(static_cast<int>(percent));
+
+    const QDateTime now = QDateTime::currentDateTime();
+    const qint64 elapsed = m_lastSpeedTime.msecsTo(now);
+    if (elapsed < SpeedIntervalMs)
+        return;
+    const auto delta = static_cast<quint64>(m_bytesWritten) - static_cast<quint64>(m_lastSpeedBytes);
+    m_currentSpeed = static_cast<double>(delta) / (static_cast<double>(elapsed) / 1000.0);
+    m_lastSpeedBytes = m_bytesWritten;
+    m_lastSpeedTime = now;
+    emit speedUpdated(m_currentSpeed);
+}
+
+void WipeEngine::onWorkerPassChanged(int pass, int totalPasses)
+{
+    m_currentPass = pass;
+    m_totalPasses = totalPasses;
+    emit passChanged(pass, totalPasses);
+    emit logMessage(tr("第 %1/%2 次覆写").arg(pass).arg(totalPasses), 0);
+}
+
+void WipeEngine::onWorkerBytesWritten(qint64 bytes)
+{
+    m_bytesWritten = bytes;
+    emit bytesProcessed(bytes, m_totalBytes);
+}
+
+void WipeEngine::onWorkerError(const QString &error)
+{
+    m_lastError = error;
+    emit errorOccurred(error);
+    emit logMessage(tr("错误: %1").arg(error), 2);
+}
+
+void WipeEngine::onWorkerLogMessage(const QString &message, int level)
+{
+    if (level == 2)
+        m_lastError = message;
+    emit logMessage(message, level);
+}
+
+// A worker may end after stop() gave up waiting: its result then replaces the cancelled mark, and completed()
+// follows stopped().
+void WipeEngine::onWorkerFinished(bool success)
+{
+    m_running = false;
+    if (!m_task)
+        return;
+    m_task->updateReport([this, success](WipeReport &report) {
+        report.endTime = QDateTime::currentDateTime();
+        report.bytesWritten = static_cast<quint64>(m_bytesWritten);
+        report.status = success ? WipeStatus::Completed : WipeStatus::Failed;
+        if (success)
+            report.verificationPassed = true;
+        else
+            report.errorMessage = m_lastError;
+    });
+    emit logMessage(success ? tr("擦除完成!") : tr("擦除失败"), success ? 0 : 2);
+    emit completed(success);
+}

@@ -1,0 +1,103 @@
+#pragma once
+
+#include "model/wipetask.h"
+
+#include <QDateTime>
+#include <QObject>
+#include <QPointer>
+#include <QString>
+
+class BaseWipeWorker;
+class QThread;
+
+// Runs one task at a time on a thread of its own and keeps the task's report. Lives on the interface thread,
+// which needs an event loop: all signals are emitted there. Levels of logMessage: 0 information, 1 warning, 2
+// error.
+class WipeEngine : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit WipeEngine(QObject *parent = nullptr);
+    // Stops a running job as stop() does and waits for its thread, however long its last transfer takes.
+    ~WipeEngine() override;
+
+    // The task is not owned; it outlives the job and is not changed while the job runs. Refused with
+    // errorOccurred while a job runs.
+    void setTask(WipeTask *task);
+
+    // Starts the job; a refusal is told by errorOccurred and leaves everything as it was.
+    void start();
+
+    // Ends the running job: asks the worker to stop, waits at most 5000 ms for it and marks the report
+    // cancelled. A worker that ends only after that is still reported by completed(). Nothing happens when no
+    // job runs.
+    void stop();
+
+    // A copy of the task's report; without a task a fresh one. Any time on the interface thread.
+    WipeReport report() const;
+    bool isRunning() const { return m_running; }
+
+signals:
+    void progressChanged(int percent);
+    void passChanged(int currentPass, int totalPasses);
+    // The second figure is always 0.
+    void bytesProcessed(qint64 bytes, qint64 total);
+    // At most once a second.
+    void speedUpdated(double bytesPerSecond);
+    void started();
+    void paused();  // reserved
+    void resumed(); // reserved
+    void stopped();
+    // The job's worker has ended. May follow stopped().
+    void completed(bool success);
+    void logMessage(const QString &message, int level);
+    void errorOccurred(const QString &error);
+    void verificationStarted();              // reserved
+    void verificationProgress(int percent);  // reserved
+    void verificationCompleted(bool passed); // reserved
+
+private slots:
+    void onWorkerProgress(double percent);
+    void onWorkerPassChanged(int pass, int totalPasses);
+    void onWorkerBytesWritten(qint64 bytes);
+    void onWorkerFinished(bool success);
+    void onWorkerError(const QString &error);
+    void onWorkerLogMessage(const QString &message, int level);
+
+private:
+    void beginReport();
+    BaseWipeWorker *makeWorker() const;
+    bool createWorker();
+    void connectWorker();
+    void cleanUpThread();
+    // A slot that hears only the job that is current when the connection is made. What the worker of an
+    // earlier job left in the event queue would otherwise be taken for the next job's, its "finished"
+    // included.
+    template <typename... Args>
+    auto forThisJob(void (WipeEngine::*slot)(Args...))
+    {
+        return [this, slot, job = m_job](Args... args) {
+            if (job == m_job)
+                (this->*slot)(args...);
+        };
+    }
+
+    QPointer<WipeTask> m_task;
+    quint64 m_job = 0;                  // counts the jobs, and the changes of task between them
+    BaseWipeWorker *m_worker = nullptr; // deleted by the end of its thread
+    QThread *m_thread = nullptr;
+    bool m_running = false;
+    bool m_paused = false;
+    bool m_stopRequested = false;
+    double m_progress = 0;
+    int m_currentPass = 0;
+    int m_totalPasses = 0;
+    qint64 m_bytesWritten = 0;
+    qint64 m_totalBytes = 0;
+    QDateTime m_startTime;
+    qint64 m_lastSpeedBytes = 0;
+    QDateTime m_lastSpeedTime;
+    double m_currentSpeed = 0;
+    QString m_lastError;
+};

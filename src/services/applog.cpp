@@ -1,0 +1,90 @@
+#include "services/applog.h"
+
+#include <QDateTime>
+#include <QDebug>
+#include <QDir>
+#include <QStandardPaths>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+QString levelName(LogLevel level)
+{
+    switch (level) {
+    case LogLevel::Debug:
+        return u"DEBUG"_s;
+    case LogLevel::Info:
+        return u"INFO"_s;
+    case LogLevel::Warning:
+        return u"WARN"_s;
+    case LogLevel::Error:
+        return u"ERROR"_s;
+    }
+    return u"UNKNOWN"_s;
+}
+
+void echo(LogLevel level, const QString &line)
+{
+    switch (level) {
+    case LogLevel::Debug:
+        qDebug().noquote() << line;
+        break;
+    case LogLevel::Info:
+        qInfo().noquote() << line;
+        break;
+    case LogLevel::Warning:
+        qWarning().noquote() << line;
+        break;
+    case LogLevel::Error:
+        qCritical().noquote() << line;
+        break;
+    }
+}
+} // namespace
+
+AppLog &AppLog::instance()
+{
+    static AppLog log;
+    return log;
+}
+
+AppLog::AppLog()
+{
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+    // Without the folder the file does not open either, and the log does without.
+    QDir().mkpath(folder);
+    setLogFile(folder + u"/quorvex.log"_s);
+}
+
+void AppLog::setLogFile(const QString &path)
+{
+    const QMutexLocker locker(&m_mutex);
+    m_file.close();
+    m_file.setFileName(path);
+    // Names of wiped files are nobody else's business. Permissions given at creation leave no moment in which
+    // others can open the file; those of a file that exists are its owner's choice.
+    m_file.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Text,
+                QFile::ReadOwner | QFile::WriteOwner);
+}
+
+void AppLog::log(LogLevel level, const QString &message)
+{
+    if (level < m_minLevel)
+        return;
+    const QString time = QDateTime::currentDateTime().toString(u"yyyy-MM-dd HH:mm:ss.zzz"_s);
+    const QString line = u"[%1] [%2] %3"_s.arg(time, levelName(level), message);
+    writeLine(line);
+    if (m_echoToConsole)
+        echo(level, line);
+}
+
+void AppLog::writeLine(const QString &line)
+{
+    const QMutexLocker locker(&m_mutex);
+    if (!m_file.isOpen())
+        return;
+    // No text stream in between: it gives up for good after one failed write, and the volume of the log is
+    // full for a while whenever its free space is wiped.
+    m_file.write((line + u'\n').toUtf8());
+    m_file.flush();
+}

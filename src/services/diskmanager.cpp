@@ -1,0 +1,212 @@
+#include "services/diskmanager.h"
+
+#include "model/displaytext.h"
+#include "platform/devices.h"
+#include "platform/platform.h"
+#include "platform/session.h"
+#include "platform/storagereplies.h"
+
+#include <QDebug>
+#include <QSet>
+
+#include <algorithm>
+#include <array>
+#include <optional>
+
+namespace {
+constexpr int FirstDrive = 0;
+constexpr int LastDrive = 31;
+
+// Taken for the system disk when a system volume does not tell where it lies.
+constexpr int LikelySystemDisk = 0;
+
+struct BusMeaning
+{
+    quint32 reported;
+    BusType bus;
+    DiskType disk; // Unknown: left to detectDiskType()
+};
+
+// RAID controllers nearly always hold SATA drives, and SAS speaks SCSI; people look for these names.
+constexpr std::array busMeanings{
+    BusMeaning{platform::BusScsi, BusType::SCSI, DiskType::Unknown},
+    BusMeaning{platform::BusAtapi, BusType::IDE, DiskType::Unknown},
+    BusMeaning{platform::BusAta, BusType::IDE, DiskType::Unknown},
+    BusMeaning{platform::BusUsb, BusType::USB, DiskType::USB},
+    BusMeaning{platform::BusRaid, BusType::SATA, DiskType::Unknown},
+    BusMeaning{platform::BusSas, BusType::SCSI, DiskType::Unknown},
+    BusMeaning{platform::BusSata, BusType::SATA, DiskType::Unknown},
+    BusMeaning{platform::BusNvme, BusType::NVMe, DiskType::NVMe},
+};
+
+const BusMeaning *busMeaning(quint32 reported)
+{
+    const auto found = std::ranges::find(busMeanings, reported, &BusMeaning::reported);
+    return found == busMeanings.end() ? nullptr : &*found;
+}
+
+QSet<int> diskNumbers(const QList<platform::Extent> &extents)
+{
+    QSet<int> numbers;
+    for (const platform::Extent &extent : extents)
+        numbers.insert(extent.diskNumber);
+    return numbers;
+}
+
+// The disks under a system volume. One that does not tell counts as lying on the likely disk: better to guard
+// one disk too many than to offer the running system for wiping.
+QSet<int> disksUnder(const QString &systemVolume)
+{
+    QSet<int> disks;
+    const auto volume = platform::Platform::current().devices().queryVolume(systemVolume);
+    if (volume) {
+        const auto extents = volume.value()->extents(platform::OneExtent);
+        if (extents && !extents.value().isEmpty()) {
+            disks.insert(extents.value().first().diskNumber);
+        } else if (extents.code() == platform::MoreData) {
+            // Striped or mirrored: the system needs every one of the disks.
+            disks = diskNumbers(volume.value()->extents(platform::ManyExtents).valueOr({}));
+        }
+    }
+    if (disks.isEmpty())
+        disks.insert(LikelySystemDisk);
+    return disks;
+}
+
+QSet<int> systemDisks()
+{
+    QSet<int> disks;
+    const QStringList volumes = platform::Platform::current().session().systemVolumes();
+    for (const QString &volume : volumes)
+        disks.unite(disksUnder(volume));
+    return disks;
+}
+
+void readGeometry(platform::DeviceQuery &drive, DiskInfo &disk)
+{
+    const auto geometry = drive.geometry();
+    // A sector size of 0 comes from card readers without a card; nothing else in such an answer is worth
+    // keeping.
+    if (!geometry || geometry.value().bytesPerSector <= 0)
+        return;
+    disk.sizeBytes = geometry.value().sizeBytes;
+    disk.bytesPerSector = geometry.value().bytesPerSector;
+    disk.totalSectors = disk.sizeBytes / disk.bytesPerSector;
+}
+
+void readDescriptor(platform::DeviceQuery &drive, DiskInfo &disk)
+{
+    const auto reply = drive.descriptor();
+    if (!reply)
+        return;
+    const platform::DeviceDescriptor descriptor = platform::decodeDeviceDescriptor(reply.value());
+    disk.model = descriptor.productId;
+    disk.serialNumber = descriptor.serialNumber;
+    disk.isRemovable = descriptor.removableMedia;
+
+    qDebug() << "Disk" << disk.diskNumber << "BusType value:" << descriptor.busType;
+    if (const BusMeaning *meaning = busMeaning(descriptor.busType)) {
+        disk.busType = meaning->bus;
+        disk.diskType = meaning->disk;
+    } else {
+        qDebug() << "Unknown BusType:" << descriptor.busType;
+    }
+}
+
+// Empty when the drive cannot be opened. The handle is closed on return, before others are opened on the same
+// drive.
+std::optional<DiskInfo> describeDrive(int number)
+{
+    platform::Devices &devices = platform::Platform::current().devices();
+    const auto drive = devices.queryDrive(number);
+    if (!drive)
+        return std::nullopt;
+    DiskInfo disk;
+    disk.diskNumber = number;
+    disk.devicePath = devices.drivePath(number);
+    disk.isAvailable = true;
+    readGeometry(*drive.value(), disk);
+    readDescriptor(*drive.value(), disk);
+    return disk;
+}
+
+// A volume on several disks has more extents than the reply has room for: the failure puts it on none of
+// them.
+bool liesOnDisk(const platform::MountedVolume &volume, int diskNumber)
+{
+    const auto query = platform::Platform::current().devices().queryVolume(volume.name);
+    if (!query)
+        return false;
+    const auto extents = query.value()->extents(platform::OneExtent);
+    return extents && std::ranges::any_of(extents.value(), [diskNumber](const platform::Extent &extent) {
+               return extent.diskNumber == diskNumber;
+           });
+}
+
+PartitionInfo describeVolume(const platform::MountedVolume &volume)
+{
+    PartitionInfo partition;
+    partition.driveLetter = volume.name;
+    partition.label = displayText(volume.label);
+    partition.fileSystem = QString::fromUtf8(volume.fileSystem);
+    partition.totalBytes = volume.totalBytes;
+    partition.freeBytes = volume.freeBytes;
+    partition.usedBytes = volume.totalBytes - volume.freeBytes;
+    partition.isSystem = platform::Platform::current().session().isSystemRoot(volume.rootPath);
+    partition.isBoot = partition.isSystem;
+    return partition;
+}
+} // namespace
+
+QList<DiskInfo> DiskManager::enumerateDisks()
+{
+    const QSet<int> system = systemDisks();
+    QList<DiskInfo> disks;
+    // Drives that were unplugged leave gaps in the numbers.
+    for (int number = FirstDrive; number <= LastDrive; ++number) {
+        std::optional<DiskInfo> disk = describeDrive(number);
+        if (!disk)
+            continue;
+        disk->isSystemDisk = system.contains(number);
+        if (disk->diskType == DiskType::Unknown)
+            disk->diskType = detectDiskType(number);
+        const QList<PartitionInfo> partitions = partitionsForDisk(number);
+        for (const PartitionInfo &partition : partitions)
+            disk->addPartition(partition);
+        disks.append(*disk);
+    }
+    return disks;
+}
+
+QList<PartitionInfo> DiskManager::partitionsForDisk(int diskNumber)
+{
+    QList<PartitionInfo> partitions;
+    const QList<platform::MountedVolume> volumes = platform::Platform::current().devices().mountedVolumes();
+    for (const platform::MountedVolume &volume : volumes) {
+        if (!volume.isReady || volume.rootPath.isEmpty() || !liesOnDisk(volume, diskNumber))
+            continue;
+        PartitionInfo partition = describeVolume(volume);
+        partition.partitionIndex = qint32(partitions.size());
+        partitions.append(partition);
+    }
+    return partitions;
+}
+
+DiskType DiskManager::detectDiskType(int diskNumber)
+{
+    const auto drive = platform::Platform::current().devices().queryDrive(diskNumber);
+    if (!drive)
+        return DiskType::Unknown;
+    DiskType type = DiskType::HDD;
+    const auto seekPenalty = drive.value()->seekPenalty();
+    if (seekPenalty && !seekPenalty.value()) {
+        type = DiskType::SSD;
+        qDebug() << "Disk" << diskNumber << "detected as SSD (no seek penalty)";
+    }
+    const auto trim = drive.value()->trimEnabled();
+    if (trim && trim.value()) {
+        type = DiskType::SSD;
+        qDebug() << "Disk" << diskNumber << "detected as SSD (TRIM enabled)";
+    }
+    return type;
+}

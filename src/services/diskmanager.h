@@ -1,0 +1,29 @@
+#pragma once
+
+#include "model/diskinfo.h"
+#include "model/partitioninfo.h"
+
+#include <QList>
+
+/// Finds the physical disks of the machine and the mounted volumes on each, through the platform in force.
+/// Needs no administrator rights. Every call asks the devices anew, on the calling thread and for as long as
+/// they take to answer; nothing is kept between calls and no handle stays open. Any thread.
+///
+/// Nothing fails as a whole: a device that cannot be opened is left out, a question without an answer leaves
+/// the defaults of the record. Diagnostics go to the debug output.
+class DiskManager
+{
+public:
+    DiskManager() = delete;
+
+    /// The disks numbered 0 to 31 that can be opened, ascending, each with its volumes.
+    static QList<DiskInfo> enumerateDisks();
+
+    /// The mounted volumes that lie wholly on that disk, in the order of the system's list. `driveLetter` is
+    /// the name that opens the volume and is kept as it is; labels are safe to show.
+    static QList<PartitionInfo> partitionsForDisk(int diskNumber);
+
+    /// SSD when the disk has no seek penalty or takes trim commands, HDD when it claims neither, Unknown when
+    /// it cannot be opened.
+    static DiskType detectDiskType(int diskNumber);
+};

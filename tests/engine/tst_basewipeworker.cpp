@@ -1,0 +1,420 @@
+#include "engine/basewipeworker.h"
+
+#include "model/wipetask.h"
+
+#include <QMetaMethod>
+#include <QRandomGenerator>
+#include <QSignalSpy>
+#include <QTest>
+#include <QtEndian>
+
+#include <cstring>
+#include <thread>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+// Opens to the tests what is there for subclasses.
+class OpenWorker : public BaseWipeWorker
+{
+public:
+    OpenWorker()
+        : BaseWipeWorker(&m_ownTask)
+    {}
+    void process() override { emit finished(true); }
+
+    using BaseWipeWorker::checkPauseStop;
+    using BaseWipeWorker::drawSeed;
+    using BaseWipeWorker::fillBuffer;
+    using BaseWipeWorker::isStopRequested;
+    using BaseWipeWorker::m_bytesBeforePass;
+    using BaseWipeWorker::m_currentPass;
+    using BaseWipeWorker::m_paused;
+    using BaseWipeWorker::m_totalPasses;
+    using BaseWipeWorker::task;
+    using BaseWipeWorker::updateProgress;
+    using BaseWipeWorker::verifyBuffer;
+    using BaseWipeWorker::waitUnlessStopped;
+
+    WipeTask m_ownTask;
+};
+
+std::byte *bytes(QByteArray &data)
+{
+    return reinterpret_cast<std::byte *>(data.data());
+}
+
+constexpr PassPattern patternOf(PatternType type, quint8 value = 0)
+{
+    return {type, value, false};
+}
+
+} // namespace
+
+class BaseWipeWorkerTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void signalsStandInTheirOrder();
+    void aNewWorkerHasNothingToReport();
+
+    void goesOnWhileNobodyStops();
+    void afterAStopGivesUpAtOnce();
+    void stopEndsAPause();
+    void aPausedWorkerWaitsUntilItIsStopped();
+    void aStopBeforeThePauseIsNotMissed();
+    void waitsForTheTimeGiven();
+    void aWaitEndsWithAStop();
+
+    void fillsTheBuffer_data();
+    void fillsTheBuffer();
+    void complementInvertsWhatThePreviousFillLeft();
+    void aRandomFillOfThirteenBytesTakesTwoDraws();
+    void theWorkersOwnGeneratorIsNotReseeded();
+    void twoWorkersHaveDifferentSequences();
+    void anEmptyFillTouchesNothing();
+
+    void checksTheBuffer_data();
+    void checksTheBuffer();
+
+    void aTotalOfNothingReportsZeroPercentOnly();
+    void percentCountsTheEarlierPasses_data();
+    void percentCountsTheEarlierPasses();
+    void bytesCountTheEarlierPasses();
+    void speedIsSampledAfterHalfASecond();
+    void aSampleWithoutNewBytesOnlyRestartsTheTimer();
+};
+
+void BaseWipeWorkerTest::signalsStandInTheirOrder()
+{
+    const QMetaObject &meta = BaseWipeWorker::staticMetaObject;
+    QCOMPARE(QByteArray(meta.className()), QByteArray("BaseWipeWorker"));
+    QList<QByteArray> signatures;
+    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i)
+        signatures.append(meta.method(i).methodSignature());
+    const QList<QByteArray> expected{
+        "progressChanged(int)", "passChanged(int,int)",   "bytesWritten(qlonglong)", "speedUpdated(double)",
+        "finished(bool)",       "errorOccurred(QString)", "logMessage(QString,int)", "process()"};
+    QCOMPARE(signatures.size(), expected.size());
+    for (qsizetype i = 0; i < expected.size(); ++i)
+        QCOMPARE(signatures[i].replace("qint64", "qlonglong"), expected[i]);
+    QCOMPARE(meta.method(meta.methodOffset() + 6).methodType(), QMetaMethod::Signal);
+    QCOMPARE(meta.method(meta.methodOffset() + 7).methodType(), QMetaMethod::Slot);
+}
+
+void BaseWipeWorkerTest::aNewWorkerHasNothingToReport()
+{
+    OpenWorker worker;
+    QCOMPARE(&worker.task(), &worker.m_ownTask);
+    QCOMPARE(worker.m_currentPass, 0);
+    QCOMPARE(worker.m_totalPasses, 0);
+    QCOMPARE(worker.m_bytesBeforePass, 0);
+    QVERIFY(!worker.m_paused);
+    QVERIFY(!worker.isStopRequested());
+    QVERIFY(!worker.parent());
+}
+
+void BaseWipeWorkerTest::goesOnWhileNobodyStops()
+{
+    OpenWorker worker;
+    QVERIFY(worker.checkPauseStop());
+    QVERIFY(worker.checkPauseStop());
+}
+
+void BaseWipeWorkerTest::afterAStopGivesUpAtOnce()
+{
+    OpenWorker worker;
+    worker.stop();
+    QVERIFY(worker.isStopRequested());
+    QVERIFY(!worker.checkPauseStop());
+    QVERIFY(!worker.checkPauseStop());
+}
+
+void BaseWipeWorkerTest::stopEndsAPause()
+{
+    OpenWorker worker;
+    worker.m_paused = true;
+    worker.stop();
+    QVERIFY(!worker.m_paused);
+    QVERIFY(!worker.checkPauseStop());
+}
+
+void BaseWipeWorkerTest::aPausedWorkerWaitsUntilItIsStopped()
+{
+    OpenWorker worker;
+    worker.m_paused = true;
+    std::atomic<bool> returned{false};
+    std::atomic<bool> wentOn{true};
+    std::thread job([&] {
+        wentOn = worker.checkPauseStop();
+        returned = true;
+    });
+    // Nothing may wake it by itself; an early return shows here most of the time, never a late one.
+    QTest::qWait(30);
+    const bool early = returned;
+    worker.stop();
+    job.join();
+    QVERIFY(!early);
+    QVERIFY(!wentOn);
+}
+
+void BaseWipeWorkerTest::aStopBeforeThePauseIsNotMissed()
+{
+    // The stop comes at any moment between the waiter's look at the flag and its wait.
+    for (int round = 0; round < 500; ++round) {
+        OpenWorker worker;
+        worker.m_paused = true;
+        std::thread job([&worker] { worker.checkPauseStop(); });
+        worker.stop();
+        job.join();
+    }
+    QVERIFY(true); // a missed wake-up hangs in join()
+}
+
+void BaseWipeWorkerTest::waitsForTheTimeGiven()
+{
+    OpenWorker worker;
+    QElapsedTimer timer;
+    timer.start();
+    QVERIFY(worker.waitUnlessStopped(20ms));
+    QVERIFY(timer.elapsed() >= 19);
+}
+
+void BaseWipeWorkerTest::aWaitEndsWithAStop()
+{
+    OpenWorker worker;
+    std::thread job([&worker] { worker.stop(); });
+    QVERIFY(!worker.waitUnlessStopped(1h));
+    job.join();
+    QVERIFY(!worker.waitUnlessStopped(1h));
+}
+
+void BaseWipeWorkerTest::fillsTheBuffer_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::addColumn<int>("value");
+    QTest::addColumn<QByteArray>("expected");
+    QTest::newRow("zeros") << 0 << 0 << QByteArray(13, '\0');
+    QTest::newRow("zeros, whatever the value") << 0 << 0x77 << QByteArray(13, '\0');
+    QTest::newRow("ones") << 1 << 0 << QByteArray(13, '\xFF');
+    QTest::newRow("custom") << 3 << 0xAA << QByteArray(13, '\xAA');
+    QTest::newRow("custom 0") << 3 << 0 << QByteArray(13, '\0');
+    QTest::newRow("complement") << 4 << 0 << QByteArray(13, '\xA5');
+    QTest::newRow("unknown 5") << 5 << 0x11 << QByteArray(13, '\x5A');
+    QTest::newRow("unknown -1") << -1 << 0x11 << QByteArray(13, '\x5A');
+}
+
+void BaseWipeWorkerTest::fillsTheBuffer()
+{
+    QFETCH(int, type);
+    QFETCH(int, value);
+    QFETCH(QByteArray, expected);
+    OpenWorker worker;
+    // One byte more than is filled on both sides.
+    QByteArray buffer(15, '\x5A');
+    worker.fillBuffer(bytes(buffer) + 1, 13,
+                      patternOf(static_cast<PatternType>(type), static_cast<quint8>(value)));
+    QCOMPARE(buffer, '\x5A' + expected + '\x5A');
+}
+
+void BaseWipeWorkerTest::complementInvertsWhatThePreviousFillLeft()
+{
+    OpenWorker worker;
+    QByteArray buffer(9, 'x');
+    worker.fillBuffer(bytes(buffer), 9, patternOf(PatternType::Random));
+    const QByteArray before = buffer;
+    worker.fillBuffer(bytes(buffer), 9, patternOf(PatternType::Complement));
+    for (int i = 0; i < 9; ++i)
+        QCOMPARE(static_cast<quint8>(buffer[i]), static_cast<quint8>(~before[i]));
+    worker.fillBuffer(bytes(buffer), 9, patternOf(PatternType::Complement));
+    QCOMPARE(buffer, before);
+}
+
+void BaseWipeWorkerTest::aRandomFillOfThirteenBytesTakesTwoDraws()
+{
+    constexpr quint32 seed = 20260305;
+    PatternGenerator random(seed);
+    QByteArray buffer(13, 'x');
+    OpenWorker::fillBuffer(bytes(buffer), 13, patternOf(PatternType::Random), random);
+
+    QRandomGenerator reference(seed);
+    std::array<quint64, 2> words{reference.generate64(), reference.generate64()};
+    for (quint64 &word : words)
+        word = qToLittleEndian(word);
+    QCOMPARE(buffer, QByteArray(reinterpret_cast<const char *>(words.data()), 13));
+    QCOMPARE(random.generate(), reference.generate());
+}
+
+void BaseWipeWorkerTest::theWorkersOwnGeneratorIsNotReseeded()
+{
+    OpenWorker worker;
+    QByteArray first(64, 'x');
+    QByteArray second(64, 'x');
+    worker.fillBuffer(bytes(first), 64, patternOf(PatternType::Random));
+    worker.fillBuffer(bytes(second), 64, patternOf(PatternType::Random));
+    QVERIFY(first != second);
+    QVERIFY(first != QByteArray(64, 'x'));
+    QVERIFY(worker.drawSeed() != worker.drawSeed());
+}
+
+void BaseWipeWorkerTest::twoWorkersHaveDifferentSequences()
+{
+    OpenWorker one;
+    OpenWorker other;
+    QByteArray first(64, '\0');
+    QByteArray second(64, '\0');
+    one.fillBuffer(bytes(first), 64, patternOf(PatternType::Random));
+    other.fillBuffer(bytes(second), 64, patternOf(PatternType::Random));
+    QVERIFY(first != second);
+}
+
+void BaseWipeWorkerTest::anEmptyFillTouchesNothing()
+{
+    OpenWorker worker;
+    for (int type = 0; type <= 5; ++type) {
+        QByteArray buffer(4, 'x');
+        worker.fillBuffer(bytes(buffer), 0, patternOf(static_cast<PatternType>(type), 1));
+        QCOMPARE(buffer, QByteArray(4, 'x'));
+    }
+}
+
+void BaseWipeWorkerTest::checksTheBuffer_data()
+{
+    QTest::addColumn<QByteArray>("buffer");
+    QTest::addColumn<int>("type");
+    QTest::addColumn<int>("value");
+    QTest::addColumn<bool>("passes");
+    const QByteArray zeros(1024, '\0');
+    const QByteArray ones(1024, '\xFF');
+    const QByteArray custom(1024, '\xAA');
+    QTest::newRow("zeros") << zeros << 0 << 0 << true;
+    QTest::newRow("zeros, first byte wrong") << '\1' + zeros << 0 << 0 << false;
+    QTest::newRow("zeros, last byte wrong") << zeros + '\1' << 0 << 0 << false;
+    QTest::newRow("ones") << ones << 1 << 0 << true;
+    QTest::newRow("ones with zeros") << zeros << 1 << 0xFF << false;
+    QTest::newRow("ones, last byte wrong") << ones + '\xFE' << 1 << 0 << false;
+    QTest::newRow("custom") << custom << 3 << 0xAA << true;
+    QTest::newRow("custom, other value") << custom << 3 << 0xAB << false;
+    QTest::newRow("custom, one byte wrong") << custom + '\x2A' << 3 << 0xAA << false;
+    QTest::newRow("random passes on zeros") << zeros << 2 << 0 << true;
+    QTest::newRow("complement passes") << ones << 4 << 0 << true;
+    QTest::newRow("unknown type passes") << custom << 9 << 0 << true;
+    for (int type = 0; type <= 4; ++type)
+        QTest::addRow("empty, type %d", type) << QByteArray() << type << 1 << true;
+}
+
+void BaseWipeWorkerTest::checksTheBuffer()
+{
+    QFETCH(QByteArray, buffer);
+    QFETCH(int, type);
+    QFETCH(int, value);
+    QFETCH(bool, passes);
+    const PassPattern pattern = patternOf(static_cast<PatternType>(type), static_cast<quint8>(value));
+    QCOMPARE(OpenWorker::verifyBuffer(bytes(buffer), buffer.size(), pattern), passes);
+}
+
+void BaseWipeWorkerTest::aTotalOfNothingReportsZeroPercentOnly()
+{
+    OpenWorker worker;
+    worker.m_currentPass = 1;
+    worker.m_totalPasses = 1;
+    QSignalSpy percents(&worker, &BaseWipeWorker::progressChanged);
+    QSignalSpy counts(&worker, &BaseWipeWorker::bytesWritten);
+    QSignalSpy speeds(&worker, &BaseWipeWorker::speedUpdated);
+    worker.updateProgress(0, 0);
+    worker.updateProgress(5, 0);
+    QCOMPARE(percents.size(), 2);
+    QCOMPARE(percents[0][0].toInt(), 0);
+    QCOMPARE(percents[1][0].toInt(), 0);
+    QCOMPARE(counts.size(), 0);
+    QCOMPARE(speeds.size(), 0);
+}
+
+void BaseWipeWorkerTest::percentCountsTheEarlierPasses_data()
+{
+    QTest::addColumn<int>("pass");
+    QTest::addColumn<int>("passes");
+    QTest::addColumn<qint64>("done");
+    QTest::addColumn<qint64>("total");
+    QTest::addColumn<int>("percent");
+    QTest::newRow("nothing yet") << 1 << 1 << qint64(0) << qint64(10) << 0;
+    QTest::newRow("all of one pass") << 1 << 1 << qint64(10) << qint64(10) << 100;
+    QTest::newRow("half of pass 2 of 3") << 2 << 3 << qint64(50) << qint64(100) << 50;
+    QTest::newRow("truncated, not rounded") << 1 << 1 << qint64(999) << qint64(1000) << 99;
+    QTest::newRow("more than all") << 7 << 7 << qint64(300) << qint64(100) << 100;
+    QTest::newRow("below nothing") << 1 << 2 << qint64(-300) << qint64(100) << 0;
+    QTest::newRow("beyond 32 bits") << 1 << 2 << (qint64(1) << 42) << (qint64(1) << 43) << 25;
+}
+
+void BaseWipeWorkerTest::percentCountsTheEarlierPasses()
+{
+    QFETCH(int, pass);
+    QFETCH(int, passes);
+    QFETCH(qint64, done);
+    QFETCH(qint64, total);
+    QFETCH(int, percent);
+    OpenWorker worker;
+    worker.m_currentPass = pass;
+    worker.m_totalPasses = passes;
+    QSignalSpy percents(&worker, &BaseWipeWorker::progressChanged);
+    worker.updateProgress(done, total);
+    QCOMPARE(percents.size(), 1);
+    QCOMPARE(percents[0][0].toInt(), percent);
+}
+
+void BaseWipeWorkerTest::bytesCountTheEarlierPasses()
+{
+    OpenWorker worker;
+    worker.m_currentPass = 2;
+    worker.m_totalPasses = 3;
+    worker.m_bytesBeforePass = 1'000;
+    QSignalSpy counts(&worker, &BaseWipeWorker::bytesWritten);
+    worker.updateProgress(50, 100);
+    QCOMPARE(counts.size(), 1);
+    QCOMPARE(counts[0][0].toLongLong(), 1'050);
+}
+
+void BaseWipeWorkerTest::speedIsSampledAfterHalfASecond()
+{
+    OpenWorker worker;
+    worker.m_currentPass = 1;
+    worker.m_totalPasses = 1;
+    worker.m_bytesBeforePass = 500;
+    QSignalSpy speeds(&worker, &BaseWipeWorker::speedUpdated);
+    QElapsedTimer timer;
+    timer.start();
+    worker.updateProgress(1, 10'000);
+    if (timer.elapsed() < 400)
+        QCOMPARE(speeds.size(), 0);
+    QTest::qWait(510);
+    worker.updateProgress(1'500, 10'000);
+    const qint64 longest = timer.elapsed() + 1;
+    QVERIFY(!speeds.isEmpty());
+    // 2000 bytes since the beginning, in at least the time waited.
+    const double speed = speeds.last()[0].toDouble();
+    QVERIFY2(speed <= 2'000 * 1000.0 / 500, qPrintable(QString::number(speed)));
+    QVERIFY2(speed >= 1'499 * 1000.0 / static_cast<double>(longest), qPrintable(QString::number(speed)));
+}
+
+void BaseWipeWorkerTest::aSampleWithoutNewBytesOnlyRestartsTheTimer()
+{
+    OpenWorker worker;
+    worker.m_currentPass = 1;
+    worker.m_totalPasses = 1;
+    QSignalSpy speeds(&worker, &BaseWipeWorker::speedUpdated);
+    QTest::qWait(510);
+    QElapsedTimer timer;
+    timer.start();
+    worker.updateProgress(0, 10);
+    QCOMPARE(speeds.size(), 0);
+    // Had the timer not been restarted, this would be a sample.
+    worker.updateProgress(10, 10);
+    if (timer.elapsed() >= 500)
+        QSKIP("SKIPPED: this machine stood still for half a second, so the second sample was due");
+    QCOMPARE(speeds.size(), 0);
+}
+
+QTEST_GUILESS_MAIN(BaseWipeWorkerTest)
+#include "tst_basewipeworker.moc"

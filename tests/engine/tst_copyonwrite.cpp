@@ -1,0 +1,139 @@
+#include "engine/copyonwrite.h"
+
+#include "filejob.h"
+#include "platform/linux/filenames.h"
+#include "support/loopmount.h"
+
+#include <QStorageInfo>
+#include <QTest>
+
+class CopyOnWriteTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void knowsTheTypes_data();
+    void knowsTheTypes();
+    void ordinaryFileSystemsAreNotNamed();
+    void anOrdinaryJobSaysNothing();
+    void aFileSystemIsNamedOnce();
+    void theJobSaysSoAfterThePreparation();
+    void aMountPointIsJudgedByItself();
+    void foldersWhoseNamesAreNoText();
+};
+
+namespace {
+
+QString warningAbout(const QString &type)
+{
+    return QStringLiteral("1 文件系统 ") + type + QStringLiteral(" 不在原位置写入，旧数据可能仍留在介质上");
+}
+
+void makeFile(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write("secret") != 6)
+        qFatal("cannot write %s", qPrintable(path));
+}
+
+} // namespace
+
+void CopyOnWriteTest::knowsTheTypes_data()
+{
+    QTest::addColumn<bool>("elsewhere");
+    for (const char *type : {"btrfs", "zfs", "f2fs", "nilfs2", "bcachefs", "overlay"})
+        QTest::newRow(type) << true;
+    for (const char *type : {"ext4", "xfs", "vfat", "exfat", "ntfs", "NTFS", "tmpfs", "zfs2", "f2", ""})
+        QTest::newRow(type) << false;
+}
+
+void CopyOnWriteTest::knowsTheTypes()
+{
+    QFETCH(bool, elsewhere);
+    QCOMPARE(writesElsewhere(QByteArray(QTest::currentDataTag())), elsewhere);
+}
+
+void CopyOnWriteTest::ordinaryFileSystemsAreNotNamed()
+{
+    if (const QString reason = LoopMount::unavailableReason(LoopMount::Ext4); !reason.isEmpty())
+        QSKIP(qPrintable(reason));
+    QTemporaryDir folder;
+    const LoopMount volume(folder.path(), {.fileSystem = LoopMount::Ext4});
+    QVERIFY2(volume.isReady(), qPrintable(volume.error()));
+    const QString file = volume.mountPoint() + QStringLiteral("/a");
+    makeFile(file);
+    QVERIFY(fileSystemsWritingElsewhere({volume.mountPoint(), file, file + QStringLiteral("/nothing")})
+                .isEmpty());
+}
+
+void CopyOnWriteTest::anOrdinaryJobSaysNothing()
+{
+    FileJob job;
+    if (writesElsewhere(QStorageInfo(job.path({})).fileSystemType()))
+        QSKIP("SKIPPED: the temporary folder itself is on a file system that writes elsewhere");
+    QVERIFY(job.run({job.makeFile(QStringLiteral("a"), 10)}));
+    QVERIFY(job.lines().filter(QStringLiteral("文件系统")).isEmpty());
+}
+
+void CopyOnWriteTest::aFileSystemIsNamedOnce()
+{
+    if (const QString reason = LoopMount::unavailableReason(LoopMount::Btrfs); !reason.isEmpty())
+        QSKIP(qPrintable(reason));
+    QTemporaryDir folder;
+    const LoopMount volume(folder.path(), {.fileSystem = LoopMount::Btrfs});
+    QVERIFY2(volume.isReady(), qPrintable(volume.error()));
+    const QString file = volume.mountPoint() + QStringLiteral("/a");
+    makeFile(file);
+    QCOMPARE(fileSystemsWritingElsewhere({file, volume.mountPoint(), file, folder.path()}),
+             QByteArrayList{"btrfs"});
+}
+
+void CopyOnWriteTest::theJobSaysSoAfterThePreparation()
+{
+    if (const QString reason = LoopMount::unavailableReason(LoopMount::Btrfs); !reason.isEmpty())
+        QSKIP(qPrintable(reason));
+    QTemporaryDir folder;
+    const LoopMount volume(folder.path(), {.fileSystem = LoopMount::Btrfs});
+    QVERIFY2(volume.isReady(), qPrintable(volume.error()));
+    FileJob job;
+    QStringList files;
+    for (const char *name : {"/a", "/b", "/c"}) {
+        files += volume.mountPoint() + QString::fromLatin1(name);
+        makeFile(files.last());
+    }
+    QVERIFY(job.run(files));
+    QCOMPARE(job.lines(), (QStringList{said::scanning, said::preparing(3, QStringLiteral("18 B")),
+                                       warningAbout(QStringLiteral("btrfs")), said::pass(1, 1),
+                                       said::deleting, said::allDone(3), said::succeeded}));
+}
+
+void CopyOnWriteTest::aMountPointIsJudgedByItself()
+{
+    if (const QString reason = LoopMount::unavailableReason(LoopMount::Btrfs); !reason.isEmpty())
+        QSKIP(qPrintable(reason));
+    QTemporaryDir folder;
+    const LoopMount volume(folder.path(), {.fileSystem = LoopMount::Btrfs});
+    QVERIFY2(volume.isReady(), qPrintable(volume.error()));
+    QCOMPARE(fileSystemsWritingElsewhere({volume.mountPoint()}), QByteArrayList{"btrfs"});
+    // A link into it stands elsewhere.
+    const QString link = folder.filePath(QStringLiteral("link"));
+    QVERIFY(QFile::link(volume.mountPoint(), link));
+    const QByteArray outer = QStorageInfo(folder.path()).fileSystemType();
+    QCOMPARE(fileSystemsWritingElsewhere({link}),
+             writesElsewhere(outer) ? QByteArrayList{outer} : QByteArrayList());
+}
+
+void CopyOnWriteTest::foldersWhoseNamesAreNoText()
+{
+    if (const QString reason = LoopMount::unavailableReason(LoopMount::Btrfs); !reason.isEmpty())
+        QSKIP(qPrintable(reason));
+    QTemporaryDir folder;
+    const LoopMount volume(folder.path(), {.fileSystem = LoopMount::Btrfs});
+    QVERIFY2(volume.isReady(), qPrintable(volume.error()));
+    const QByteArray name = QFile::encodeName(volume.mountPoint()) + "/d\xff";
+    QCOMPARE(::mkdir(name.constData(), 0700), 0);
+    QCOMPARE(fileSystemsWritingElsewhere({platform::decodeName(name)}), QByteArrayList{"btrfs"});
+}
+
+QTEST_GUILESS_MAIN(CopyOnWriteTest)
+#include "tst_copyonwrite.moc"

@@ -1,0 +1,276 @@
+#include "engine/filecollector.h"
+
+#include "filejob.h"
+#include "support/faultyfiles.h"
+
+#include <QTest>
+
+#include <algorithm>
+
+using platform::Status;
+
+namespace {
+
+struct Scan
+{
+    struct Unreadable
+    {
+        FileCollector::Unreadable what = FileCollector::Unreadable::Target;
+        QString path;
+        quint32 code = 0;
+
+        bool operator==(const Unreadable &) const = default;
+    };
+
+    FileList list;
+    QList<Unreadable> unreadable;
+    int asked = 0;
+
+    explicit Scan(const QStringList &targets, int entriesAllowed = 1'000'000)
+    {
+        FileCollector collector(
+            {.goOn = [this, entriesAllowed] { return ++asked <= entriesAllowed; },
+             .unreadable =
+                 [this](FileCollector::Unreadable what, const QString &path, const Status &status) {
+                     unreadable.append({what, path, status.code});
+                 }});
+        list = collector.collect(targets);
+    }
+
+    QStringList sortedFiles() const
+    {
+        QStringList files = list.files;
+        files.sort();
+        return files;
+    }
+};
+
+} // namespace
+
+class FileCollectorTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void noTargetsGiveNothing();
+    void filesStandInTheOrderOfTheTargets();
+    void aFolderStandsForEveryFileBelowIt();
+    void hiddenFilesAreFound();
+    void emptyFoldersHoldNothing();
+    void whatDoesNotExistIsLeftOut();
+    void theSameFileTwiceIsListedOnce();
+    void aFileInsideAGivenFolderIsListedOnceWhereItCameFirst();
+    void namesThatDifferInCaseAreTwoFiles();
+    void separatorsAtTheEndDoNotMatter_data();
+    void separatorsAtTheEndDoNotMatter();
+    void deepTreesAreWalkedToTheEnd();
+    void aFolderThatCannotBeListedIsTold();
+    void whatWasListedBeforeTheFailureStays();
+    void aTargetThatCannotBeLookedAtIsTold();
+    void theScanEndsAtAnyEntry();
+    void theFolderOfAnUnfinishedScanIsNotListed();
+};
+
+void FileCollectorTest::noTargetsGiveNothing()
+{
+    const Scan scan({});
+    QVERIFY(scan.list.files.isEmpty());
+    QVERIFY(scan.list.folders.isEmpty());
+    QCOMPARE(scan.list.unreadable, 0);
+}
+
+void FileCollectorTest::filesStandInTheOrderOfTheTargets()
+{
+    FileJob job;
+    const QStringList targets{job.makeFile(QStringLiteral("z"), 1), job.makeFile(QStringLiteral("a"), 1),
+                              job.makeFile(QStringLiteral("m"), 1)};
+    const Scan scan(targets);
+    QCOMPARE(scan.list.files, targets);
+    QVERIFY(scan.list.folders.isEmpty());
+}
+
+void FileCollectorTest::aFolderStandsForEveryFileBelowIt()
+{
+    FileJob job;
+    QStringList files{job.makeFile(QStringLiteral("t/one"), 1), job.makeFile(QStringLiteral("t/sub/two"), 1),
+                      job.makeFile(QStringLiteral("t/sub/deeper/three"), 1),
+                      job.makeFile(QStringLiteral("t/x/four"), 0)};
+    files.sort();
+    job.makeFolder(QStringLiteral("t/empty"));
+    job.makeFile(QStringLiteral("beside"), 1);
+    const Scan scan({job.path(QStringLiteral("t"))});
+    QCOMPARE(scan.sortedFiles(), files);
+    QCOMPARE(scan.list.folders, QStringList{job.path(QStringLiteral("t"))});
+    QCOMPARE(scan.list.unreadable, 0);
+}
+
+void FileCollectorTest::hiddenFilesAreFound()
+{
+    FileJob job;
+    QStringList files{job.makeFile(QStringLiteral("t/.hidden"), 1),
+                      job.makeFile(QStringLiteral("t/.dir/...x"), 1),
+                      job.makeFile(QStringLiteral("t/..data"), 1)};
+    files.sort();
+    QCOMPARE(Scan({job.path(QStringLiteral("t"))}).sortedFiles(), files);
+}
+
+void FileCollectorTest::emptyFoldersHoldNothing()
+{
+    FileJob job;
+    job.makeFolder(QStringLiteral("t/a/b"));
+    const Scan scan({job.path(QStringLiteral("t"))});
+    QVERIFY(scan.list.files.isEmpty());
+    QCOMPARE(scan.list.folders.size(), 1);
+}
+
+void FileCollectorTest::whatDoesNotExistIsLeftOut()
+{
+    FileJob job;
+    const QString file = job.makeFile(QStringLiteral("a"), 1);
+    const Scan scan({job.path(QStringLiteral("nothing")), file, job.path(QStringLiteral("no/way"))});
+    QCOMPARE(scan.list.files, QStringList{file});
+    QCOMPARE(scan.list.unreadable, 0);
+    QVERIFY(scan.unreadable.isEmpty());
+}
+
+void FileCollectorTest::theSameFileTwiceIsListedOnce()
+{
+    FileJob job;
+    const QString a = job.makeFile(QStringLiteral("a"), 1);
+    const QString b = job.makeFile(QStringLiteral("b"), 1);
+    QCOMPARE(Scan({b, a, b, a, a}).list.files, (QStringList{b, a}));
+}
+
+void FileCollectorTest::aFileInsideAGivenFolderIsListedOnceWhereItCameFirst()
+{
+    FileJob job;
+    const QString inside = job.makeFile(QStringLiteral("t/sub/inside"), 1);
+    const QString other = job.makeFile(QStringLiteral("t/other"), 1);
+    const QString folder = job.path(QStringLiteral("t"));
+    const Scan fileFirst({inside, folder});
+    QCOMPARE(fileFirst.list.files, (QStringList{inside, other}));
+    const Scan folderFirst({folder, inside, folder + QStringLiteral("/sub")});
+    QCOMPARE(folderFirst.sortedFiles(), (QStringList{other, inside}));
+    // With a separator at the end the paths inside are the same.
+    QCOMPARE(Scan({inside, folder + QLatin1Char('/')}).list.files, (QStringList{inside, other}));
+}
+
+void FileCollectorTest::namesThatDifferInCaseAreTwoFiles()
+{
+    FileJob job;
+    const QString lower = job.makeFile(QStringLiteral("name"), 1);
+    const QString upper = job.makeFile(QStringLiteral("NAME"), 1);
+    if (QDir(job.path({})).count() != 4)
+        QSKIP("SKIPPED: this file system does not tell upper from lower case");
+    QCOMPARE(Scan({lower, upper}).list.files, (QStringList{lower, upper}));
+}
+
+void FileCollectorTest::separatorsAtTheEndDoNotMatter_data()
+{
+    QTest::addColumn<QString>("end");
+    for (const char *end : {"/", "//", "/.", "/./", "/./."})
+        QTest::newRow(end) << QString::fromLatin1(end);
+}
+
+void FileCollectorTest::separatorsAtTheEndDoNotMatter()
+{
+    QFETCH(QString, end);
+    FileJob job;
+    const QString file = job.makeFile(QStringLiteral("t/a"), 1);
+    const Scan scan({job.path(QStringLiteral("t")) + end});
+    QCOMPARE(scan.list.files, QStringList{file});
+    QCOMPARE(scan.list.folders, QStringList{job.path(QStringLiteral("t"))});
+}
+
+void FileCollectorTest::deepTreesAreWalkedToTheEnd()
+{
+    FileJob job;
+    QString name = QStringLiteral("t");
+    for (int depth = 0; depth < 700; ++depth)
+        name += QStringLiteral("/d");
+    const QString file = job.makeFile(name + QStringLiteral("/deepest"), 1);
+    QVERIFY(file.size() > 1'400);
+    QCOMPARE(Scan({job.path(QStringLiteral("t"))}).list.files, QStringList{file});
+}
+
+void FileCollectorTest::aFolderThatCannotBeListedIsTold()
+{
+    FaultPlan plan(FaultPlan::List, 1, platform::AccessDenied, FaultPlan::FromThenOn);
+    FaultyFolders folders(platform::Platform::current().folders(), plan,
+                          [](const QString &path) { return path.endsWith(QStringLiteral("/locked")); });
+    FileJob job(platform::Platform::current().files(), folders);
+    job.makeFile(QStringLiteral("t/locked/unseen"), 1);
+    QStringList files{job.makeFile(QStringLiteral("t/a"), 1), job.makeFile(QStringLiteral("t/z/b"), 1),
+                      job.makeFile(QStringLiteral("u/c"), 1)};
+    files.sort();
+    const Scan scan({job.path(QStringLiteral("t")), job.path(QStringLiteral("u"))});
+    QCOMPARE(scan.sortedFiles(), files);
+    QCOMPARE(scan.list.unreadable, 1);
+    QCOMPARE(scan.unreadable, (QList<Scan::Unreadable>{{FileCollector::Unreadable::Folder,
+                                                        job.path(QStringLiteral("t/locked")), 5}}));
+    QCOMPARE(scan.list.folders, QStringList{job.path(QStringLiteral("u"))});
+}
+
+void FileCollectorTest::whatWasListedBeforeTheFailureStays()
+{
+    // Fails after it has shown every entry, as a folder with a damaged block does.
+    class LateFailure : public platform::ForwardingFolders
+    {
+    public:
+        using ForwardingFolders::ForwardingFolders;
+        Status forEachEntry(const QString &folder, const Visitor &visit) override
+        {
+            const Status status = ForwardingFolders::forEachEntry(folder, visit);
+            return status ? Status{platform::IoDevice, 0, "planned"} : status;
+        }
+    } folders(platform::Platform::current().folders());
+    FileJob job(platform::Platform::current().files(), folders);
+    const QString file = job.makeFile(QStringLiteral("t/a"), 1);
+    const Scan scan({job.path(QStringLiteral("t"))});
+    QCOMPARE(scan.list.files, QStringList{file});
+    QVERIFY(scan.list.folders.isEmpty());
+    QCOMPARE(scan.list.unreadable, 1);
+}
+
+void FileCollectorTest::aTargetThatCannotBeLookedAtIsTold()
+{
+    FileJob job;
+    const QString bad = job.makeFile(QStringLiteral("bad"), 1);
+    const QString good = job.makeFile(QStringLiteral("good"), 1);
+    job.files.hook = [&bad](const FileCall &call) {
+        return call.path == bad ? Status{platform::IoDevice, 0, "planned"} : Status();
+    };
+    const Scan scan({bad, good});
+    QCOMPARE(scan.list.files, QStringList{good});
+    QCOMPARE(scan.list.unreadable, 1);
+    QCOMPARE(scan.unreadable, (QList<Scan::Unreadable>{{FileCollector::Unreadable::Target, bad, 1117}}));
+}
+
+void FileCollectorTest::theScanEndsAtAnyEntry()
+{
+    FileJob job;
+    for (int i = 0; i < 5; ++i)
+        job.makeFile(QStringLiteral("t/sub/%1").arg(i), 1);
+    const QString folder = job.path(QStringLiteral("t"));
+    const int questions = Scan({folder}).asked;
+    QVERIFY(questions >= 5);
+    for (int allowed = 0; allowed < questions; ++allowed) {
+        const Scan scan({folder}, allowed);
+        QCOMPARE(scan.asked, allowed + 1);
+        QVERIFY(scan.list.files.size() <= allowed);
+        QVERIFY(scan.unreadable.isEmpty());
+    }
+}
+
+void FileCollectorTest::theFolderOfAnUnfinishedScanIsNotListed()
+{
+    FileJob job;
+    job.makeFile(QStringLiteral("t/a"), 1);
+    const QString folder = job.path(QStringLiteral("t"));
+    const int questions = Scan({folder}).asked;
+    for (int allowed = 0; allowed < questions; ++allowed)
+        QVERIFY(Scan({folder}, allowed).list.folders.isEmpty());
+}
+
+QTEST_GUILESS_MAIN(FileCollectorTest)
+#include "tst_filecollector.moc"
