@@ -1,0 +1,35 @@
+#pragma once
+
+#include "cli/command.h"
+
+#include <QCommandLineParser>
+#include <QString>
+#include <QStringList>
+
+#include <memory>
+
+namespace cli {
+
+// The language that the arguments ask for, empty without the option. Says nothing about what else is wrong
+// with them.
+QString requestedLanguage(const QStringList &arguments);
+
+// What a command line asks for.
+struct CommandLine
+{
+    enum class Wish { Run, ShowHelp, ShowVersion };
+
+    Wish wish = Wish::Run;
+    Command command;       // to be run
+    QStringList helpWords; // of the command, or group of commands, to be explained
+    QStringList arguments; // behind the command's words
+    std::unique_ptr<QCommandLineParser> options;
+};
+
+// The arguments do not begin with the program's name. The message of a refusal tells which help to read.
+Outcome<CommandLine> parseCommandLine(const QStringList &arguments);
+
+// A refusal of a line that was understood but makes no sense: what is wrong, and which help to read.
+Refusal wrongCommandLine(const QString &what, const QStringList &commandWords);
+
+} // namespace cli

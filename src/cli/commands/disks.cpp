@@ -1,0 +1,78 @@
+#include "cli/cliio.h"
+#include "cli/command.h"
+#include "cli/drivetarget.h"
+#include "cli/globaloptions.h"
+#include "cli/recordjson.h"
+#include "cli/table.h"
+#include "cli/translate.h"
+#include "model/displaytext.h"
+#include "model/jsonwriter.h"
+#include "services/diskmanager.h"
+
+namespace cli {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QByteArray jsonText(const QList<DiskInfo> &disks)
+{
+    JsonWriter writer(JsonWriter::Layout::Compact);
+    writer.beginArray();
+    for (const DiskInfo &disk : disks)
+        writeDisk(writer, disk);
+    return writer.endArray().text();
+}
+
+QString flags(const DiskInfo &disk)
+{
+    QStringList flags;
+    if (disk.isSystemDisk)
+        flags.append(Cli::tr("system"));
+    if (disk.isRemovable)
+        flags.append(Cli::tr("removable"));
+    return flags.join(u',');
+}
+
+QString tableText(const QList<DiskInfo> &disks)
+{
+    if (disks.isEmpty())
+        return Cli::tr("No drives found.") + u'\n';
+    Table table;
+    table.addRow({Cli::tr("Drive"), Cli::tr("Model"), Cli::tr("Serial number"), Cli::tr("Size"),
+                  Cli::tr("Type"), Cli::tr("Bus"), Cli::tr("Device"), Cli::tr("Flags")});
+    for (const DiskInfo &disk : disks) {
+        table.addRow({QString::number(disk.diskNumber), displayText(disk.model),
+                      displayText(disk.serialNumber), disk.formattedSize(), disk.diskTypeName(),
+                      disk.busTypeName(), displayText(disk.devicePath), flags(disk)});
+        for (const PartitionInfo &partition : disk.partitions) {
+            const QString mark = partition.isSystem ? Cli::tr(", system") : QString();
+            table.addLine(u"       "_s + describeVolume(partition) + mark);
+        }
+    }
+    return table.text();
+}
+
+Outcome<ExitCode> run(const CommandContext &context)
+{
+    const QList<DiskInfo> disks = DiskManager::enumerateDisks();
+    if (wantsJson(context.options))
+        context.io.printLine(jsonText(disks));
+    else
+        context.io.print(tableText(disks));
+    return Done;
+}
+
+} // namespace
+
+Command disksCommand()
+{
+    Command command;
+    command.words = QStringList{u"disks"_s};
+    command.summary = Cli::tr("Lists the drives with their volumes");
+    command.example = u"disks --json"_s;
+    command.run = run;
+    return command;
+}
+
+} // namespace cli

@@ -1,0 +1,91 @@
+#include "cli/cliio.h"
+#include "cli/command.h"
+#include "cli/globaloptions.h"
+#include "cli/names.h"
+#include "cli/recordjson.h"
+#include "cli/translate.h"
+#include "model/jsonwriter.h"
+
+namespace cli {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QByteArray jsonText(const QList<WipeMethod> &methods)
+{
+    JsonWriter writer(JsonWriter::Layout::Compact);
+    writer.beginArray();
+    for (const WipeMethod &method : methods)
+        writeMethod(writer, method);
+    return writer.endArray().text();
+}
+
+QString patternText(const PassPattern &pass)
+{
+    switch (pass.type) {
+    case PatternType::Zeros:
+        return u"0x00"_s;
+    case PatternType::Ones:
+        return u"0xFF"_s;
+    case PatternType::Custom:
+        return u"0x%1"_s.arg(QString::number(pass.value, 16).toUpper(), 2, u'0');
+    case PatternType::Random:
+        return Cli::tr("random");
+    case PatternType::Complement:
+        break;
+    }
+    return Cli::tr("complement");
+}
+
+// Equal passes in a row share one entry: "4 x random".
+QString passesText(const QList<PassPattern> &passes)
+{
+    QStringList entries;
+    for (qsizetype i = 0, next = 0; i < passes.size(); i = next) {
+        next = i + 1;
+        while (next < passes.size() && passes.at(next) == passes.at(i))
+            ++next;
+        QString entry = patternText(passes.at(i));
+        if (next - i > 1)
+            entry = Cli::tr("%1 x %2").arg(next - i).arg(entry);
+        entries.append(passes.at(i).verify ? Cli::tr("%1 (verified)").arg(entry) : entry);
+    }
+    return entries.join(u", ");
+}
+
+QString listText(const QList<WipeMethod> &methods)
+{
+    QString result;
+    for (const WipeMethod &method : methods) {
+        result += Cli::tr("%1  %2: %3, level %4 (%5)")
+                      .arg(QString::number(method.type), method.name, passCountText(method.passCount()),
+                           QString::number(method.level), method.levelName()) +
+                  u"\n   "_s + method.description + u"\n   "_s + passesText(method.passes) + u'\n';
+    }
+    return result;
+}
+
+Outcome<ExitCode> run(const CommandContext &context)
+{
+    const QList<WipeMethod> methods = WipeMethod::allMethods();
+    if (wantsJson(context.options))
+        context.io.printLine(jsonText(methods));
+    else
+        context.io.print(listText(methods));
+    return Done;
+}
+
+} // namespace
+
+Command methodsCommand()
+{
+    Command command;
+    command.words = QStringList{u"methods"_s};
+    command.summary = Cli::tr("Lists the erasure standards with their passes");
+    command.example = u"methods"_s;
+    command.run = run;
+    return command;
+}
+
+} // namespace cli

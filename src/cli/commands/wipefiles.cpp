@@ -1,0 +1,85 @@
+#include "cli/cliio.h"
+#include "cli/commandline.h"
+#include "cli/filetarget.h"
+#include "cli/translate.h"
+#include "cli/wipeplan.h"
+#include "model/displaytext.h"
+#include "model/formatsize.h"
+
+namespace cli {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qsizetype MostListed = 20;
+
+QStringList words()
+{
+    return {u"wipe"_s, u"files"_s};
+}
+
+QString targetName(const QStringList &paths)
+{
+    const QString &first = paths.constFirst();
+    return paths.size() == 1 ? first
+                             : Cli::tr("%1 and %2 more").arg(first, QString::number(paths.size() - 1));
+}
+
+QStringList summaryOf(const QStringList &paths, const FileCount &count)
+{
+    QStringList lines;
+    for (const QString &path : paths.first(std::min(MostListed, paths.size())))
+        lines.append(u"  "_s + displayText(path));
+    if (paths.size() > MostListed)
+        lines.append(Cli::tr("  and %1 more").arg(paths.size() - MostListed));
+    const QString atLeast = count.isComplete ? QString() : Cli::tr("at least ");
+    const QString files = count.files == 1 ? Cli::tr("1 file") : Cli::tr("%1 files").arg(count.files);
+    lines.append(Cli::tr("  %1%2, %3").arg(atLeast, files, formatSize(static_cast<qint64>(count.bytes))));
+    return lines;
+}
+
+Outcome<ExitCode> run(const CommandContext &context)
+{
+    const auto options = readWipeOptions(context, words());
+    if (!options)
+        return options.refusal();
+    // An empty argument, often a variable that was never set, would stand for the current folder.
+    if (context.arguments.contains(QString()))
+        return wrongCommandLine(Cli::tr("a path is empty"), words());
+    const auto paths = findFiles(context.arguments);
+    if (!paths)
+        return paths.refusal();
+
+    auto task = std::make_unique<WipeTask>();
+    task->setOperationType(FileWipe);
+    task->addFiles(*paths);
+    const QStringList targets = task->files();
+    const StopRequest &stop = context.io.stopRequest();
+    WipePlan plan;
+    plan.jobs.push_back({std::move(task), targetName(targets)});
+    plan.summary = summaryOf(targets, countFiles(targets, [&stop] { return stop.isRequested(); }));
+    plan.doomedPaths = targets;
+    return carryOut(plan, *options, context, words());
+}
+
+} // namespace
+
+Command wipeFilesCommand()
+{
+    Command command;
+    command.words = words();
+    command.synopsis = u"PATH..."_s;
+    command.summary = Cli::tr("Erases files, and folders with all that is in them");
+    command.details = Cli::tr("A link is removed itself; what it leads to is not touched. Put -- before a "
+                              "path that begins with a dash.");
+    command.example = u"wipe files secret.txt old-projects --method 2"_s;
+    command.options = wipeOptions();
+    command.minimumArguments = 1;
+    command.maximumArguments = -1;
+    command.printsEvents = true;
+    command.run = run;
+    return command;
+}
+
+} // namespace cli

@@ -1,0 +1,135 @@
+#include "cli/drivetarget.h"
+
+#include "cli/paths.h"
+#include "cli/translate.h"
+#include "model/displaytext.h"
+#include "model/formatsize.h"
+#include "platform/devices.h"
+#include "platform/platform.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+
+namespace cli {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+Refusal noSuchDrive(const QString &given)
+{
+    return {Refused, Cli::tr("no such drive: %1").arg(displayText(given))};
+}
+
+bool isPathOf(const DiskInfo &disk, const QString &path)
+{
+    if (disk.devicePath == path)
+        return true;
+    const QString canonical = QFileInfo(path).canonicalFilePath();
+    return !canonical.isEmpty() && canonical == QFileInfo(disk.devicePath).canonicalFilePath();
+}
+
+template <typename Condition>
+const DiskInfo *findDisk(const QList<DiskInfo> &disks, Condition condition)
+{
+    const auto found = std::find_if(disks.begin(), disks.end(), condition);
+    return found == disks.end() ? nullptr : &*found;
+}
+
+// The drive that a volume or partition lies on. Null for everything else.
+const DiskInfo *findDriveOfPart(const QString &path, const QList<DiskInfo> &disks)
+{
+    const QString canonical = QFileInfo(path).canonicalFilePath();
+    const auto query =
+        platform::Platform::current().devices().queryVolume(canonical.isEmpty() ? path : canonical);
+    if (!query)
+        return nullptr;
+    const auto extents = (*query.value()).extents(platform::ManyExtents);
+    if (!extents || extents.value().isEmpty())
+        return nullptr;
+    const int number = extents.value().constFirst().diskNumber;
+    return findDisk(disks, [number](const DiskInfo &disk) { return disk.diskNumber == number; });
+}
+
+QString orUnknown(const QString &name)
+{
+    return name.isEmpty() ? Cli::tr("unknown") : displayText(name);
+}
+
+} // namespace
+
+std::optional<int> driveNumber(const QString &word)
+{
+    const bool isDigits = !word.isEmpty() && std::all_of(word.begin(), word.end(), [](QChar character) {
+        return character >= u'0' && character <= u'9';
+    });
+    bool fits = false;
+    const int number = word.toInt(&fits);
+    return isDigits && fits ? std::optional(number) : std::nullopt;
+}
+
+Outcome<DiskInfo> findDriveToErase(const QString &numberOrPath, const QList<DiskInfo> &disks)
+{
+    const std::optional<int> number = driveNumber(numberOrPath);
+    const QString path = number ? QString() : absolutePath(numberOrPath);
+    const DiskInfo *disk = findDisk(disks, [&](const DiskInfo &candidate) {
+        return number ? candidate.diskNumber == *number
+                      : candidate.devicePath == numberOrPath || isPathOf(candidate, path);
+    });
+    if (!disk && number)
+        return noSuchDrive(numberOrPath);
+    if (!disk) {
+        const DiskInfo *whole = findDriveOfPart(path, disks);
+        if (!whole)
+            return noSuchDrive(numberOrPath);
+        return Refusal{Refused, Cli::tr("%1 is a part of drive %2; a whole drive must be given")
+                                    .arg(displayText(numberOrPath))
+                                    .arg(whole->diskNumber)};
+    }
+    if (disk->isSystemDisk) {
+        return Refusal{Refused, Cli::tr("drive %1 is a system disk and cannot be erased while it is in use")
+                                    .arg(disk->diskNumber)};
+    }
+    return *disk;
+}
+
+std::optional<Refusal> probeDrive(const DiskInfo &disk)
+{
+    const platform::DriveIdentity identity{disk.diskNumber, disk.serialNumber, disk.sizeBytes};
+    const auto opened =
+        platform::Platform::current().devices().openDrive(identity, platform::DriveSharing::BesideOwnVolumes);
+    if (opened.code() == platform::AccessDenied)
+        return Refusal{Refused, Cli::tr("not permitted to write to drive %1").arg(disk.diskNumber)};
+    if (opened.code() == platform::NotReady)
+        return Refusal{Refused,
+                       Cli::tr("drive %1 is gone, or another one has taken its place").arg(disk.diskNumber)};
+    // Whatever else is wrong, the job knows other ways to the drive and tells what it meets.
+    return std::nullopt;
+}
+
+QStringList describeDrive(const DiskInfo &disk)
+{
+    QStringList lines{Cli::tr("  drive %1: model %2, serial number %3, %4, %5")
+                          .arg(QString::number(disk.diskNumber), orUnknown(disk.model),
+                               orUnknown(disk.serialNumber), disk.formattedSize(),
+                               displayText(disk.devicePath))};
+    for (const PartitionInfo &partition : disk.partitions)
+        lines.append(u"    "_s + describeVolume(partition));
+    if (disk.partitions.isEmpty())
+        lines.append(Cli::tr("    no mounted volumes"));
+    return lines;
+}
+
+QString describeVolume(const PartitionInfo &partition)
+{
+    QString line = Cli::tr("volume %1, %2, %3, %4 free")
+                       .arg(displayText(partition.driveLetter), orUnknown(partition.fileSystem),
+                            partition.formattedTotal(), partition.formattedFree());
+    const QString label = displayText(partition.label);
+    if (!label.isEmpty())
+        line += Cli::tr(", label %1").arg(label);
+    return line;
+}
+
+} // namespace cli

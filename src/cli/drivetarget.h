@@ -1,0 +1,29 @@
+#pragma once
+
+#include "cli/outcome.h"
+#include "model/diskinfo.h"
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+namespace cli {
+
+// Whether the word is a drive number, and which.
+std::optional<int> driveNumber(const QString &word);
+
+// The drive with that number or device path, also through links. Refused when there is none, when a part of a
+// drive is named, and for a system disk.
+Outcome<DiskInfo> findDriveToErase(const QString &numberOrPath, const QList<DiskInfo> &disks);
+
+// Whether the drive can be opened for writing, nothing being written: a refusal without the rights and when
+// another drive has taken its place, nothing otherwise.
+std::optional<Refusal> probeDrive(const DiskInfo &disk);
+
+// The drive and its volumes, for the user, in lines with cleaned names.
+QStringList describeDrive(const DiskInfo &disk);
+QString describeVolume(const PartitionInfo &partition);
+
+} // namespace cli

@@ -1,0 +1,83 @@
+#include "cli/globaloptions.h"
+
+#include "cli/paths.h"
+#include "cli/translate.h"
+#include "model/displaytext.h"
+#include "platform/files.h"
+#include "platform/platform.h"
+
+#include <QCommandLineParser>
+#include <QFileInfo>
+
+namespace cli {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Only a regular file may stand for a drive: a device node would bring a real drive past its own protection,
+// that of the system disk included.
+bool isRegularFile(const QString &path)
+{
+    const auto info = platform::Platform::current().files().info(path);
+    return info.ok() && info.value().kind == platform::FileKind::Regular;
+}
+
+// A link to an image is as good as the image; the platform itself follows none.
+QString withoutLink(const QString &path)
+{
+    const QString target = QFileInfo(path).canonicalFilePath();
+    return target.isEmpty() ? path : target;
+}
+
+} // namespace
+
+QList<QCommandLineOption> globalOptions()
+{
+    return {
+        {u"json"_s, Cli::tr("Machine output: JSON, one value a line")},
+        {u"data-dir"_s, Cli::tr("Keep the log in this folder instead of the per-user one"), u"DIR"_s},
+        {u"image"_s, Cli::tr("Let this image file appear as a drive (repeatable)"), u"FILE"_s},
+        {u"only-images"_s, Cli::tr("List and open no real drive")},
+        {u"lang"_s, Cli::tr("Language: en fr de ja es ko nl pt it zh_TW zh_CN"), u"CODE"_s},
+        {u"quiet"_s, Cli::tr("Print errors and the final line only")},
+        {u"help"_s, Cli::tr("Show this help")},
+        {u"version"_s, Cli::tr("Show the version")},
+    };
+}
+
+bool wantsJson(const QCommandLineParser &options)
+{
+    return options.isSet(u"json"_s);
+}
+
+bool wantsQuiet(const QCommandLineParser &options)
+{
+    return options.isSet(u"quiet"_s);
+}
+
+QString dataFolder(const QCommandLineParser &options)
+{
+    return options.isSet(u"data-dir"_s) ? absolutePath(options.value(u"data-dir"_s)) : QString();
+}
+
+Outcome<std::unique_ptr<platform::Platform>> requestedPlatform(const QCommandLineParser &options)
+{
+    const QStringList images = options.values(u"image"_s);
+    const bool onlyImages = options.isSet(u"only-images"_s);
+    if (images.isEmpty() && !onlyImages)
+        return std::unique_ptr<platform::Platform>();
+
+    platform::ImageDriveOptions drives = platform::ImageDriveOptions::fromEnvironment();
+    drives.onlyImages = drives.onlyImages || onlyImages;
+    for (const QString &image : images) {
+        const QString path = image.isEmpty() ? image : withoutLink(absolutePath(image));
+        if (!isRegularFile(path))
+            return Refusal{Refused, Cli::tr("no image file: %1").arg(displayText(image))};
+        drives.imageFiles.append(path);
+    }
+    drives.imageFiles.removeDuplicates();
+    return platform::createPlatform(drives);
+}
+
+} // namespace cli

@@ -1,0 +1,67 @@
+#include "cli/joblog.h"
+
+#include "cli/jobview.h"
+#include "cli/names.h"
+#include "cli/translate.h"
+#include "model/displaytext.h"
+#include "model/wipetask.h"
+#include "services/applog.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QStandardPaths>
+
+namespace cli {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString endName(JobResult::End end)
+{
+    switch (end) {
+    case JobResult::End::Succeeded:
+        return u"succeeded"_s;
+    case JobResult::End::Failed:
+        return u"failed"_s;
+    case JobResult::End::Cancelled:
+        return u"cancelled"_s;
+    case JobResult::End::NotStarted:
+        break;
+    }
+    return u"not started"_s;
+}
+
+} // namespace
+
+std::optional<Refusal> openJobLog(const QString &folder)
+{
+    const QString usual = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+    const QString used = folder.isEmpty() ? usual : folder;
+    const bool exists = QDir().mkpath(used);
+    const QString path = used + u"/quorvex.log"_s;
+    AppLog &log = AppLog::instance();
+    log.setEchoToConsole(false);
+    log.setLogFile(path);
+    // Without its usual folder the program works as well; a folder that was asked for is another matter.
+    if (!folder.isEmpty() && (!exists || !QFileInfo(path).isWritable()))
+        return Refusal{SurroundingsFailed,
+                       Cli::tr("the data folder %1 cannot be used").arg(displayText(folder))};
+    return std::nullopt;
+}
+
+void logJobStart(const WipeTask &task, const QString &target)
+{
+    AppLog::instance().info(u"Job %1 started: %2, %3, %4"_s.arg(task.id(), machineName(task.operationType()),
+                                                                displayText(target), task.method().name));
+}
+
+void logJobEnd(const JobResult &result)
+{
+    const WipeReport &report = result.report;
+    AppLog::instance().info(u"Job %1, certificate %2, %3 bytes written %4"_s.arg(
+        endName(result.end), report.certificateId, QString::number(report.bytesWritten),
+        displayText(report.errorMessage)));
+}
+
+} // namespace cli

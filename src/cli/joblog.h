@@ -1,0 +1,22 @@
+#pragma once
+
+#include "cli/outcome.h"
+
+#include <QString>
+
+#include <optional>
+
+class WipeTask;
+
+namespace cli {
+
+struct JobResult;
+
+// Points the program's log file into the folder, or into the per-user one when it is empty.
+// SurroundingsFailed when the folder that was asked for cannot be made, or the file in it not written.
+std::optional<Refusal> openJobLog(const QString &folder);
+
+void logJobStart(const WipeTask &task, const QString &target);
+void logJobEnd(const JobResult &result);
+
+} // namespace cli

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "cli/outcome.h"
+
+#include <QString>
+#include <QTranslator>
+
+#include <memory>
+
+namespace cli {
+
+// The language with that code, in force until destruction. The texts stand in the sources in English and
+// Chinese; a language without a catalogue among the resources leaves them so. An empty code changes nothing.
+class Language
+{
+public:
+    static Outcome<std::unique_ptr<Language>> install(const QString &code);
+    ~Language();
+    Language(const Language &) = delete;
+    Language &operator=(const Language &) = delete;
+
+private:
+    Language() = default;
+
+    QTranslator m_translator;
+};
+
+} // namespace cli

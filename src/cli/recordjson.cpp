@@ -1,0 +1,65 @@
+#include "cli/recordjson.h"
+
+#include "cli/names.h"
+#include "model/jsonwriter.h"
+
+namespace cli {
+
+namespace {
+
+void writePartition(JsonWriter &writer, const PartitionInfo &partition)
+{
+    writer.beginObject()
+        .member(u"driveLetter", partition.driveLetter)
+        .member(u"label", partition.label)
+        .member(u"fileSystem", partition.fileSystem)
+        .decimalMember(u"totalBytes", partition.totalBytes)
+        .decimalMember(u"freeBytes", partition.freeBytes)
+        .member(u"isSystem", partition.isSystem)
+        .member(u"partitionIndex", partition.partitionIndex)
+        .endObject();
+}
+
+} // namespace
+
+void writeDisk(JsonWriter &writer, const DiskInfo &disk)
+{
+    writer.beginObject()
+        .member(u"diskNumber", disk.diskNumber)
+        .member(u"devicePath", disk.devicePath)
+        .member(u"model", disk.model)
+        .member(u"serialNumber", disk.serialNumber)
+        .decimalMember(u"sizeBytes", disk.sizeBytes)
+        .member(u"bytesPerSector", disk.bytesPerSector)
+        .member(u"diskType", machineName(disk.diskType))
+        .member(u"busType", machineName(disk.busType))
+        .member(u"isSystemDisk", disk.isSystemDisk)
+        .member(u"isRemovable", disk.isRemovable)
+        .key(u"partitions")
+        .beginArray();
+    for (const PartitionInfo &partition : disk.partitions)
+        writePartition(writer, partition);
+    writer.endArray().endObject();
+}
+
+void writeMethod(JsonWriter &writer, const WipeMethod &method)
+{
+    writer.beginObject()
+        .member(u"type", method.type)
+        .member(u"name", method.name)
+        .member(u"description", method.description)
+        .member(u"level", method.level)
+        .member(u"levelName", method.levelName())
+        .key(u"passes")
+        .beginArray();
+    for (const PassPattern &pass : method.passes) {
+        writer.beginObject()
+            .member(u"type", machineName(pass.type))
+            .member(u"value", static_cast<int>(pass.value))
+            .member(u"verify", pass.verify)
+            .endObject();
+    }
+    writer.endArray().endObject();
+}
+
+} // namespace cli

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "cli/outcome.h"
+
+#include <QString>
+#include <QStringList>
+
+struct WipeReport;
+
+namespace cli {
+
+// Where the JSON of a job's report goes.
+class ReportFile
+{
+public:
+    // No report file is wanted.
+    ReportFile() = default;
+
+    // For the path as it was given. WrongCommandLine when it cannot name a file, with the words of the
+    // command for the help.
+    static Outcome<ReportFile> at(const QString &path, const QStringList &commandWords);
+
+    bool isWanted() const { return !m_path.isEmpty(); }
+    // Absolute.
+    QString path() const { return m_path; }
+
+    // Whether the file is one of the absolute paths or lies below one, also through links: it would be
+    // destroyed with them.
+    bool liesWithin(const QStringList &paths) const;
+    // Tries whether it could be written; changes nothing.
+    bool isWritable() const;
+    // Writes it as a whole or not at all, replacing what stood there. False when that failed.
+    bool write(const WipeReport &report) const;
+
+private:
+    QString m_path;
+};
+
+} // namespace cli

@@ -1,0 +1,67 @@
+#include "cli/runcli.h"
+
+#include "cli/cliio.h"
+#include "cli/commandline.h"
+#include "cli/globaloptions.h"
+#include "cli/help.h"
+#include "cli/language.h"
+#include "cli/refusaloutput.h"
+#include "cli/translate.h"
+#include "platform/platform.h"
+
+#include <optional>
+
+namespace cli {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+Outcome<ExitCode> runCommand(const CommandLine &line, CliIo &io)
+{
+    const auto requested = requestedPlatform(*line.options);
+    if (!requested)
+        return requested.refusal();
+    std::optional<platform::ScopedPlatform> scope;
+    if (*requested)
+        scope.emplace(**requested);
+    return line.command.run({io, *line.options, line.arguments});
+}
+
+ExitCode carryOut(const CommandLine &line, CliIo &io)
+{
+    switch (line.wish) {
+    case CommandLine::Wish::ShowVersion:
+        io.printLine(u"Quorvex 5.0"_s);
+        return Done;
+    case CommandLine::Wish::ShowHelp:
+        io.print(helpText(line.helpWords));
+        return Done;
+    case CommandLine::Wish::Run:
+        break;
+    }
+    const Outcome<ExitCode> code = runCommand(line, io);
+    if (code)
+        return *code;
+    const bool asEvent = line.command.printsEvents && wantsJson(*line.options);
+    return printRefusal(code.refusal(), asEvent, io);
+}
+
+} // namespace
+
+int runCli(const QStringList &arguments, CliIo &io)
+{
+    const auto language = Language::install(requestedLanguage(arguments));
+    if (!language)
+        return printRefusal(language.refusal(), false, io);
+    const auto line = parseCommandLine(arguments);
+    if (!line)
+        return printRefusal(line.refusal(), false, io);
+
+    const ExitCode code = carryOut(*line, io);
+    if (code != Done || !io.hasLostOutput())
+        return code;
+    return printRefusal({SurroundingsFailed, Cli::tr("the output could not be written")}, false, io);
+}
+
+} // namespace cli

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QStringList>
+
+namespace cli {
+
+class CliIo;
+
+// Runs the command that the arguments (without the program's name) ask for and returns the exit code, see
+// exitcode.h. Needs a QCoreApplication, whose events it processes while a job runs.
+int runCli(const QStringList &arguments, CliIo &io);
+
+} // namespace cli

@@ -1,0 +1,111 @@
+#include "cli/textjobview.h"
+
+#include "cli/cliio.h"
+#include "cli/translate.h"
+#include "model/displaytext.h"
+#include "model/formatsize.h"
+#include "model/wipetask.h"
+
+namespace cli {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int WarningLevel = 1;
+constexpr int ErrorLevel = 2;
+
+QString levelMark(int level)
+{
+    if (level >= ErrorLevel)
+        return Cli::tr("[error]");
+    return level == WarningLevel ? Cli::tr("[warning]") : Cli::tr("[info]");
+}
+
+QString resultText(const JobResult &result)
+{
+    switch (result.end) {
+    case JobResult::End::Succeeded:
+        return Cli::tr("DONE");
+    case JobResult::End::Cancelled:
+        return Cli::tr("CANCELLED");
+    case JobResult::End::Failed:
+    case JobResult::End::NotStarted:
+        break;
+    }
+    return Cli::tr("FAILED");
+}
+
+// A drive that holds mounted volumes is overwritten through these alone; what lies between them keeps its
+// bytes, which nobody must take for erased.
+QString coverageText(const JobResult &result)
+{
+    const WipeReport &report = result.report;
+    if (result.end != JobResult::End::Succeeded || report.wipedSectors >= report.totalSectors)
+        return {};
+    return Cli::tr(", ONLY THE VOLUMES: %1 of %2 sectors erased")
+        .arg(report.wipedSectors)
+        .arg(report.totalSectors);
+}
+
+// A file job reports its bytes by the way only, and the last of them not at all; what it was to do is exact.
+QString amountText(const WipeReport &report)
+{
+    if (report.operationType != FileWipe)
+        return Cli::tr("%1 written").arg(formatSize(static_cast<qint64>(report.bytesWritten)));
+    const QString files =
+        report.fileCount == 1 ? Cli::tr("1 file") : Cli::tr("%1 files").arg(report.fileCount);
+    return Cli::tr("%1 of %2").arg(files, formatSize(static_cast<qint64>(report.totalBytes)));
+}
+
+} // namespace
+
+TextJobView::TextJobView(CliIo &io, bool quiet)
+    : m_io(io)
+    , m_quiet(quiet)
+    , m_progressLine(io)
+{}
+
+void TextJobView::started(const WipeTask &, const QString &target)
+{
+    m_target = target;
+    m_progressLine.start();
+}
+
+void TextJobView::progress(const JobProgress &progress)
+{
+    if (!m_quiet)
+        m_progressLine.show(progress);
+}
+
+void TextJobView::log(const QString &message, int level)
+{
+    if (m_quiet && level < ErrorLevel)
+        return;
+    m_progressLine.clear();
+    // An empty message sets the blocks of several volumes apart.
+    m_io.printLine(message.isEmpty() ? QString() : levelMark(level) + u' ' + displayText(message));
+    m_progressLine.restore();
+}
+
+void TextJobView::problem(const QString &message)
+{
+    m_progressLine.clear();
+    m_io.printErrorLine(u"quorvex-cli: "_s + message);
+    m_progressLine.restore();
+}
+
+void TextJobView::finished(const JobResult &result, const QString &reportPath)
+{
+    m_progressLine.end();
+    const WipeReport &report = result.report;
+    QString line = Cli::tr("%1: %2, %3, %4 in %5, certificate %6")
+                       .arg(resultText(result), displayText(m_target), report.method.name, amountText(report),
+                            report.duration(), report.certificateId);
+    line += coverageText(result);
+    if (!reportPath.isEmpty())
+        line += Cli::tr(", report %1").arg(displayText(reportPath));
+    m_io.printLine(line);
+}
+
+} // namespace cli

@@ -1,0 +1,167 @@
+#include "cli/wipeplan.h"
+
+#include "cli/cliio.h"
+#include "cli/commandline.h"
+#include "cli/confirmation.h"
+#include "cli/globaloptions.h"
+#include "cli/joblog.h"
+#include "cli/jobrunner.h"
+#include "cli/jsonjobview.h"
+#include "cli/names.h"
+#include "cli/textjobview.h"
+#include "cli/translate.h"
+#include "model/displaytext.h"
+
+#include <QSet>
+
+namespace cli {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString methodLine(const WipeOptions &options)
+{
+    const QString verification = options.verify ? Cli::tr("read back") : Cli::tr("not read back");
+    return Cli::tr("  with %1, %2, %3")
+        .arg(options.method.name, passCountText(options.method.passCount()), verification);
+}
+
+std::optional<Refusal> checkTasks(const WipePlan &plan)
+{
+    for (const PlannedJob &job : plan.jobs) {
+        const QString error = job.task->validationError();
+        if (!error.isEmpty())
+            return Refusal{Refused, error};
+    }
+    return std::nullopt;
+}
+
+std::optional<Refusal> checkReportFile(const WipePlan &plan, const ReportFile &file,
+                                       const QStringList &commandWords)
+{
+    if (!file.isWanted())
+        return std::nullopt;
+    const QString shown = displayText(file.path());
+    if (file.liesWithin(plan.doomedPaths))
+        return wrongCommandLine(Cli::tr("the report file '%1' lies in what is to be erased").arg(shown),
+                                commandWords);
+    if (!file.isWritable())
+        return Refusal{SurroundingsFailed, Cli::tr("the report file %1 cannot be written").arg(shown)};
+    return std::nullopt;
+}
+
+// Runs the jobs of a plan and remembers the gravest that happened.
+class Session
+{
+public:
+    Session(const WipeOptions &options, const CommandContext &context)
+        : m_options(options)
+        , m_stop(context.io.stopRequest())
+    {
+        const bool quiet = wantsQuiet(context.options);
+        if (wantsJson(context.options))
+            m_view = std::make_unique<JsonJobView>(context.io, quiet);
+        else
+            m_view = std::make_unique<TextJobView>(context.io, quiet);
+    }
+
+    // False when the jobs behind this one are not to be run.
+    bool run(const PlannedJob &job);
+    Outcome<ExitCode> result() const;
+
+private:
+    QString writeReport(const WipeReport &report);
+
+    const WipeOptions &m_options;
+    StopRequest &m_stop;
+    std::unique_ptr<JobView> m_view;
+    QSet<JobResult::End> m_ends;
+    QString m_engineRefusal;
+    bool m_hasLostReport = false;
+};
+
+bool Session::run(const PlannedJob &job)
+{
+    logJobStart(*job.task, job.target);
+    const JobResult result = runJob(*job.task, job.target, *m_view, m_stop);
+    logJobEnd(result);
+    m_ends.insert(result.end);
+    if (result.end == JobResult::End::NotStarted) {
+        m_engineRefusal = result.lastError;
+        if (m_ends.size() > 1)
+            m_view->problem(result.lastError);
+        return false;
+    }
+    m_view->finished(result, writeReport(result.report));
+    return result.end != JobResult::End::Cancelled;
+}
+
+// The path, empty when there is no file.
+QString Session::writeReport(const WipeReport &report)
+{
+    const ReportFile &file = m_options.reportFile;
+    if (!file.isWanted())
+        return {};
+    if (file.write(report))
+        return file.path();
+    m_hasLostReport = true;
+    m_view->problem(Cli::tr("the report file %1 could not be written").arg(displayText(file.path())));
+    return {};
+}
+
+Outcome<ExitCode> Session::result() const
+{
+    if (m_ends == QSet{JobResult::End::NotStarted})
+        return Refusal{Refused, m_engineRefusal};
+    if (m_ends.contains(JobResult::End::Cancelled))
+        return Cancelled;
+    if (m_ends.contains(JobResult::End::Failed) || m_ends.contains(JobResult::End::NotStarted))
+        return JobFailed;
+    return m_hasLostReport ? SurroundingsFailed : Done;
+}
+
+std::optional<Refusal> checkBeforeQuestion(const WipePlan &plan, const WipeOptions &options,
+                                           const CommandContext &context, const QStringList &commandWords)
+{
+    if (auto refusal = checkReportFile(plan, options.reportFile, commandWords))
+        return refusal;
+    if (auto refusal = checkTasks(plan))
+        return refusal;
+    return openJobLog(dataFolder(context.options));
+}
+
+std::optional<Refusal> ask(const WipePlan &plan, const WipeOptions &options, const CommandContext &context)
+{
+    const ConfirmationOptions how{options.skipQuestion, wantsJson(context.options),
+                                  wantsQuiet(context.options)};
+    return confirm(plan.summary + QStringList{methodLine(options)}, how, context.io);
+}
+
+} // namespace
+
+Outcome<ExitCode> carryOut(WipePlan &plan, const WipeOptions &options, const CommandContext &context,
+                           const QStringList &commandWords)
+{
+    for (const PlannedJob &job : plan.jobs)
+        options.applyTo(*job.task);
+    if (const auto refusal = checkBeforeQuestion(plan, options, context, commandWords))
+        return *refusal;
+    if (const auto refusal = ask(plan, options, context))
+        return *refusal;
+    if (context.io.stopRequest().isRequested())
+        return Refusal{Cancelled, Cli::tr("cancelled, nothing was written")};
+    if (plan.lastCheck) {
+        if (const auto refusal = plan.lastCheck())
+            return *refusal;
+    }
+
+    Session session(options, context);
+    for (const PlannedJob &job : plan.jobs) {
+        if (!session.run(job))
+            break;
+    }
+    return session.result();
+}
+
+} // namespace cli

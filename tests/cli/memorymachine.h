@@ -1,0 +1,46 @@
+#pragma once
+
+#include "platform/forwarding.h"
+#include "support/fakedevices.h"
+#include "support/interposeddevices.h"
+#include "support/memorydevices.h"
+
+#include <QMutex>
+#include <QStringList>
+
+#include <functional>
+#include <memory>
+
+// Drives in memory beside the real files, in force as long as it lives. Records which drives and volumes are
+// opened for writing, and can answer in their place.
+class MemoryMachine
+{
+public:
+    MemoryDevices memory;
+    FakeSession session;
+    std::function<platform::Status(const DeviceCall &)> answer; // any thread; may be empty
+
+    // "openDrive 1", "openVolume /media/a", in order.
+    QStringList openings() const
+    {
+        const QMutexLocker lock(&m_mutex);
+        return m_openings;
+    }
+
+private:
+    platform::Status before(const DeviceCall &call)
+    {
+        if (call.method == QLatin1String("openDrive") || call.method == QLatin1String("openVolume")) {
+            const QMutexLocker lock(&m_mutex);
+            m_openings.append(call.method + QLatin1Char(' ') + call.target);
+        }
+        return answer ? answer(call) : platform::Status{};
+    }
+
+    mutable QMutex m_mutex;
+    QStringList m_openings;
+    InterposedDevices m_devices{memory, [this](const DeviceCall &call) { return before(call); }};
+    std::unique_ptr<platform::Platform> m_files = platform::createPlatform({{}, true});
+    platform::ForwardingPlatform m_platform{m_files->files(), m_files->folders(), m_devices, session};
+    platform::ScopedPlatform m_scope{m_platform};
+};

@@ -1,0 +1,267 @@
+#include "cli/testio.h"
+
+#include "cli/commandtable.h"
+
+#include <QProcess>
+
+class TestCliCommandLine : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { hideMachine(m_home); }
+
+    void theVersionIsPrinted();
+    void helpExplainsTheProgram();
+    void helpExplainsAGroupOfCommands();
+    void everyCommandHasAHelpWithAnExample();
+    void everyExampleIsAValidCommandLine();
+    void helpIsFoundBeforeAndBehindTheCommand();
+    void optionsMayStandAnywhere();
+    void aWrongLineIsToldInOneLine_data();
+    void aWrongLineIsToldInOneLine();
+    void aWrongLineCannotSteerTheTerminal();
+    void nothingIsDoneOnAWrongLine();
+    void everyLanguageOfTheProgramIsTaken_data();
+    void everyLanguageOfTheProgramIsTaken();
+    void anImageMustBeARegularFile();
+    void anImageMayBeGivenThroughALink();
+    void outputThatIsLostIsAFailure();
+
+private:
+    QTemporaryDir m_home;
+};
+
+using namespace Qt::StringLiterals;
+
+void TestCliCommandLine::theVersionIsPrinted()
+{
+    CliRun run;
+    run({u"--version"_s});
+    QCOMPARE(run.code, 0);
+    QCOMPARE(run.io.out, QByteArray("Quorvex 5.0\n"));
+    QCOMPARE(run.io.err, QByteArray());
+}
+
+void TestCliCommandLine::helpExplainsTheProgram()
+{
+    CliRun run;
+    run({u"--help"_s});
+    QCOMPARE(run.code, 0);
+    QCOMPARE(run.io.err, QByteArray());
+    for (const cli::Command &command : cli::allCommands())
+        QVERIFY2(run.io.out.contains(command.name().toUtf8()), qPrintable(command.name()));
+    for (const char *word : {"Usage: quorvex-cli", "Example:", "--json", "--data-dir DIR", "--image FILE",
+                             "--only-images", "--lang CODE", "--quiet", "--version", "Exit codes:"})
+        QVERIFY2(run.io.out.contains(word), word);
+}
+
+void TestCliCommandLine::helpExplainsAGroupOfCommands()
+{
+    CliRun run;
+    run({u"wipe"_s, u"--help"_s});
+    QCOMPARE(run.code, 0);
+    QVERIFY(run.io.out.contains("wipe disk DRIVE"));
+    QVERIFY(run.io.out.contains("wipe free VOLUME..."));
+    QVERIFY(run.io.out.contains("wipe files PATH..."));
+    QVERIFY(!run.io.out.contains("  methods"));
+}
+
+void TestCliCommandLine::everyCommandHasAHelpWithAnExample()
+{
+    for (const cli::Command &command : cli::allCommands()) {
+        CliRun run;
+        run(command.words + QStringList{u"--help"_s});
+        QCOMPARE(run.code, 0);
+        QCOMPARE(run.io.err, QByteArray());
+        QVERIFY(run.io.out.startsWith("Usage: quorvex-cli [OPTION...] " + command.name().toUtf8()));
+        QVERIFY(run.io.out.contains("Example:\n  quorvex-cli " + command.example.toUtf8() + '\n'));
+        for (const QCommandLineOption &option : command.options)
+            QVERIFY(run.io.out.contains("--" + option.names().constFirst().toUtf8()));
+    }
+}
+
+void TestCliCommandLine::everyExampleIsAValidCommandLine()
+{
+    const QTemporaryDir folder;
+    const QString previous = QDir::currentPath();
+    QVERIFY(QDir::setCurrent(folder.path())); // what an example names exists nowhere here
+    for (const cli::Command &command : cli::allCommands()) {
+        CliRun run;
+        run(QProcess::splitCommand(command.example));
+        QVERIFY2(run.code == 0 || run.code == 3, qPrintable(command.example));
+    }
+    QVERIFY(QDir::setCurrent(previous));
+}
+
+void TestCliCommandLine::helpIsFoundBeforeAndBehindTheCommand()
+{
+    CliRun before;
+    before({u"--help"_s, u"wipe"_s, u"disk"_s});
+    CliRun behind;
+    behind({u"wipe"_s, u"disk"_s, u"7"_s, u"--help"_s});
+    QCOMPARE(before.code, 0);
+    QCOMPARE(behind.code, 0);
+    QCOMPARE(before.io.out, behind.io.out);
+}
+
+void TestCliCommandLine::optionsMayStandAnywhere()
+{
+    for (const QStringList &arguments :
+         QList<QStringList>{{u"--json"_s, u"methods"_s}, {u"methods"_s, u"--json"_s}}) {
+        CliRun run;
+        run(arguments);
+        QCOMPARE(run.code, 0);
+        QCOMPARE(run.io.documents().size(), 1);
+    }
+    // An option of the command before its words.
+    CliRun run;
+    run({u"--method"_s, u"nonsense"_s, u"wipe"_s, u"disk"_s, u"0"_s});
+    QCOMPARE(run.code, 2);
+    QVERIFY(run.complains("nonsense"));
+}
+
+void TestCliCommandLine::aWrongLineIsToldInOneLine_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QByteArray>("what");
+    QTest::addColumn<QByteArray>("help");
+    const auto row = [](const char *name, const QStringList &arguments, const char *what, const char *help) {
+        QTest::newRow(name) << arguments << QByteArray(what) << QByteArray(help);
+    };
+    row("nothing", {}, "no command given", "(read quorvex-cli --help)");
+    row("unknown command", {u"frobnicate"_s}, "'frobnicate'", "(read quorvex-cli --help)");
+    row("unknown command with help", {u"frobnicate"_s, u"--help"_s}, "'frobnicate'",
+        "(read quorvex-cli --help)");
+    row("half a command", {u"wipe"_s}, "'wipe'", "(read quorvex-cli wipe --help)");
+    row("unknown in a group", {u"wipe"_s, u"moon"_s}, "'wipe moon'", "(read quorvex-cli wipe --help)");
+    row("unknown option", {u"disks"_s, u"--frob"_s}, "'frob'", "(read quorvex-cli disks --help)");
+    row("unknown option, no command", {u"--frob"_s}, "'frob'", "(read quorvex-cli --help)");
+    row("option of another command", {u"disks"_s, u"--yes"_s}, "'yes'", "(read quorvex-cli disks --help)");
+    row("value missing", {u"wipe"_s, u"disk"_s, u"0"_s, u"--data-dir"_s, u"x"_s, u"--method"_s}, "", "");
+    row("value too many", {u"--quiet=2"_s, u"disks"_s}, "'--quiet'", "(read quorvex-cli disks --help)");
+    row("argument missing", {u"wipe"_s, u"disk"_s}, "needs DRIVE", "(read quorvex-cli wipe disk --help)");
+    row("no paths", {u"wipe"_s, u"files"_s}, "needs PATH...", "(read quorvex-cli wipe files --help)");
+    row("argument too many", {u"wipe"_s, u"disk"_s, u"0"_s, u"1"_s}, "'1'",
+        "(read quorvex-cli wipe disk --help)");
+    row("argument of disks", {u"disks"_s, u"0"_s}, "'0'", "(read quorvex-cli disks --help)");
+    row("unknown language", {u"--lang"_s, u"xx"_s, u"disks"_s}, "'xx'", "(read quorvex-cli --help)");
+    row("language in capitals", {u"--lang"_s, u"DE"_s, u"disks"_s}, "'DE'", "(read quorvex-cli --help)");
+    const auto option = [&row](const char *name, const QString &given, const char *what) {
+        row(name, {u"wipe"_s, u"disk"_s, u"0"_s, given}, what, "(read quorvex-cli wipe disk --help)");
+    };
+    option("method by name", u"--method=Plan 9"_s, "'Plan 9'");
+    option("method 5", u"--method=5"_s, "'5'");
+    option("method -1", u"--method=-1"_s, "'-1'");
+    option("method empty", u"--method="_s, "''");
+    option("no threads", u"--threads=0"_s, "from 1 to 32, not '0'");
+    option("33 threads", u"--threads=33"_s, "from 1 to 32, not '33'");
+    option("threads in words", u"--threads=two"_s, "from 1 to 32, not 'two'");
+    option("no buffer", u"--buffer-mb=0"_s, "from 1 to 1024, not '0'");
+    option("buffer too large", u"--buffer-mb=1025"_s, "from 1 to 1024, not '1025'");
+    option("negative samples", u"--samples=-1"_s, "0 or more, not '-1'");
+    option("samples beyond 32 bits", u"--samples=4294967296"_s, "0 or more, not '4294967296'");
+    option("report without a name", u"--report="_s, "''");
+    option("report without a folder", u"--report=no/such/folder/r.json"_s, "no/such/folder/r.json");
+    option("report is a folder", u"--report=."_s, "folder");
+    option("report is a device", u"--report=/dev/null"_s, "/dev/null");
+    row("two volumes, one report", {u"wipe"_s, u"free"_s, u"a"_s, u"b"_s, u"--report=r.json"_s}, "--report",
+        "(read quorvex-cli wipe free --help)");
+    row("an empty path", {u"wipe"_s, u"files"_s, u"a"_s, QString()}, "empty",
+        "(read quorvex-cli wipe files --help)");
+}
+
+void TestCliCommandLine::aWrongLineIsToldInOneLine()
+{
+    QFETCH(const QStringList, arguments);
+    QFETCH(const QByteArray, what);
+    QFETCH(const QByteArray, help);
+    TestIo io;
+    const QTemporaryDir folder;
+    const int code = cli::runCli(arguments, io);
+    QCOMPARE(code, 2);
+    QCOMPARE(io.out, QByteArray());
+    QCOMPARE(io.err.count('\n'), 1);
+    QVERIFY2(io.err.startsWith("quorvex-cli: "), io.err.constData());
+    QVERIFY2(io.err.contains(what), io.err.constData());
+    QVERIFY2(io.err.endsWith(help + '\n'), io.err.constData());
+}
+
+void TestCliCommandLine::aWrongLineCannotSteerTheTerminal()
+{
+    for (const QStringList &arguments : QList<QStringList>{{u"fr\x1b[2Job\nnicate"_s},
+                                                           {u"disks"_s, u"--fr\x1b[2Job\n"_s},
+                                                           {u"--lang"_s, u"\x1b\u202E"_s}}) {
+        CliRun run;
+        run(arguments);
+        QCOMPARE(run.code, 2);
+        QCOMPARE(run.io.err.count('\n'), 1);
+        QVERIFY(!run.io.err.contains('\x1b'));
+        QVERIFY(!run.io.err.contains("\u202E"));
+    }
+}
+
+void TestCliCommandLine::nothingIsDoneOnAWrongLine()
+{
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(u"precious"_s);
+    QVERIFY(writeFile(file, "precious"));
+    CliRun run;
+    run({u"wipe"_s, u"files"_s, file, u"--yes"_s, u"--threads=99"_s});
+    QCOMPARE(run.code, 2);
+    QCOMPARE(contentOf(file), QByteArray("precious"));
+}
+
+void TestCliCommandLine::everyLanguageOfTheProgramIsTaken_data()
+{
+    QTest::addColumn<QString>("language");
+    for (const char *code : {"en", "fr", "de", "ja", "es", "ko", "nl", "pt", "it", "zh_TW", "zh_CN"})
+        QTest::newRow(code) << QString::fromLatin1(code);
+}
+
+void TestCliCommandLine::everyLanguageOfTheProgramIsTaken()
+{
+    QFETCH(const QString, language);
+    CliRun run;
+    run({u"methods"_s, u"--lang"_s, language});
+    QCOMPARE(run.code, 0);
+    QVERIFY(run.io.out.contains("NIST 800-88"));
+}
+
+void TestCliCommandLine::anImageMustBeARegularFile()
+{
+    const QTemporaryDir folder;
+    for (const QString &image :
+         {folder.filePath(u"missing.img"_s), folder.path(), u"/dev/null"_s, QString()}) {
+        CliRun run;
+        run({u"disks"_s, u"--only-images"_s, u"--image"_s, image});
+        QCOMPARE(run.code, 3);
+        QVERIFY2(run.complains("no image file"), run.io.err.constData());
+        QCOMPARE(run.io.out, QByteArray());
+    }
+}
+
+void TestCliCommandLine::anImageMayBeGivenThroughALink()
+{
+    const QTemporaryDir folder;
+    QVERIFY(writeFile(folder.filePath(u"a.img"_s), QByteArray(4096, 'x')));
+    QVERIFY(QFile::link(folder.filePath(u"a.img"_s), folder.filePath(u"link"_s)));
+    CliRun run;
+    run({u"--json"_s, u"disks"_s, u"--only-images"_s, u"--image"_s, folder.filePath(u"link"_s), u"--image"_s,
+         folder.filePath(u"a.img"_s)});
+    QCOMPARE(run.code, 0);
+    QCOMPARE(run.io.documents().size(), 1);
+    QCOMPARE(run.io.documents().constFirst().array().size(), 1); // one file, one drive
+}
+
+void TestCliCommandLine::outputThatIsLostIsAFailure()
+{
+    CliRun run;
+    run.io.losesOutput = true;
+    run({u"methods"_s});
+    QCOMPARE(run.code, 5);
+    QVERIFY(run.complains("output"));
+}
+
+QTEST_GUILESS_MAIN(TestCliCommandLine)
+#include "tst_clicommandline.moc"

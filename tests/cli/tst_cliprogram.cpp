@@ -1,0 +1,334 @@
+#include "cli/programrun.h"
+
+#include <QDir>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QSysInfo>
+
+using namespace Qt::StringLiterals;
+
+// The program itself, as a shell starts it.
+class TestCliProgram : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+
+    void itTellsItsVersion();
+    void anImageIsErasedToTheLastByte();
+    void theReportNamesTheComputer();
+    void withoutATerminalItRefuses();
+    void aPipedWordIsNoConfirmation();
+    void onATerminalItAsksAndShowsProgress();
+    void interruptAtTheQuestionCancels();
+    void aSignalCancelsTheJob_data();
+    void aSignalCancelsTheJob();
+    void interruptIsHeardInTheBackgroundOfAShell();
+    void hangUpIsLeftAloneUnderNohup();
+    void aReaderThatGoesAwayDoesNotBreakTheJob();
+    void aFullDiskUnderTheOutputIsAFailure();
+    void diagnosticsAreSilentUnlessWanted();
+    void aFileWithAnUndecodableNameIsErased();
+    void anUndecodableImageIsErased();
+    void theLogGoesIntoTheUsersFolder();
+
+private:
+    QByteArray image(qint64 size = 1 << 20)
+    {
+        QFile file(m_folder->filePath(u"disk.img"_s));
+        if (!file.open(QIODevice::WriteOnly) || file.write(QByteArray(size, 'x')) != size)
+            qFatal("no image");
+        return file.fileName().toUtf8();
+    }
+    QByteArray content(const QByteArray &path) const
+    {
+        const int descriptor = ::open(path.constData(), O_RDONLY | O_CLOEXEC);
+        QFile file;
+        return file.open(descriptor, QIODevice::ReadOnly, QFile::AutoCloseHandle) ? file.readAll()
+                                                                                  : QByteArray();
+    }
+    bool exists(const QByteArray &path) const { return ::access(path.constData(), F_OK) == 0; }
+    QByteArray inFolder(const QByteArray &name) const { return m_folder->path().toUtf8() + '/' + name; }
+    void writeBytes(const QByteArray &path, const QByteArray &bytes) const
+    {
+        const int descriptor = ::open(path.constData(), O_WRONLY | O_CREAT | O_CLOEXEC, 0600);
+        if (::write(descriptor, bytes.constData(), static_cast<std::size_t>(bytes.size())) != bytes.size())
+            qFatal("no file");
+        ::close(descriptor);
+    }
+    // So many passes over so large an image that a signal in the first pass comes long before the end.
+    QByteArrayList longJob()
+    {
+        return {"wipe",  "disk",     "0",       "--image",     image(64 << 20),
+                "--yes", "--method", "gutmann", "--buffer-mb", "1"};
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+};
+
+namespace {
+
+QJsonObject lastEvent(const QByteArray &out)
+{
+    return QJsonDocument::fromJson(out.trimmed().split('\n').constLast()).object();
+}
+
+// Sends each signal once, as soon as the text appears.
+std::function<void(const QByteArray &, pid_t)> sendAt(const QByteArray &text, QList<int> signalNumbers)
+{
+    return [text, signalNumbers](const QByteArray &out, pid_t process) mutable {
+        if (!out.contains(text))
+            return;
+        for (const int number : std::as_const(signalNumbers))
+            ::kill(process, number);
+        signalNumbers.clear();
+    };
+}
+
+} // namespace
+
+void TestCliProgram::init()
+{
+    m_folder = std::make_unique<QTemporaryDir>();
+    QVERIFY(m_folder->isValid());
+}
+
+void TestCliProgram::itTellsItsVersion()
+{
+    ProgramRun run;
+    run({"--version"});
+    QCOMPARE(run.code, 0);
+    QCOMPARE(run.out, QByteArray("Quorvex 5.0\n"));
+    QCOMPARE(run.err, QByteArray());
+}
+
+void TestCliProgram::anImageIsErasedToTheLastByte()
+{
+    const QByteArray path = image(5'000'700); // no whole number of sectors
+    ProgramRun run;
+    run({"wipe", "disk", path, "--image", path, "--yes"});
+    QCOMPARE(run.code, 0);
+    QCOMPARE(content(path), QByteArray(5'000'700, '\0'));
+    QCOMPARE(run.err, QByteArray());
+    QVERIFY(run.out.trimmed().split('\n').constLast().startsWith("DONE: "));
+    QVERIFY(!run.out.contains('\r'));
+}
+
+void TestCliProgram::theReportNamesTheComputer()
+{
+    const QByteArray path = image();
+    const QByteArray report = inFolder("r.json");
+    ProgramRun run;
+    run.environment = {"COMPUTERNAME="};
+    run({"wipe", "disk", "0", "--image", path, "--yes", "--report", report});
+    QCOMPARE(run.code, 0);
+    const QJsonObject json = QJsonDocument::fromJson(content(report)).object();
+    QVERIFY(!QSysInfo::machineHostName().isEmpty());
+    QCOMPARE(json.value(u"computerName"), QJsonValue(QSysInfo::machineHostName()));
+
+    ProgramRun named;
+    named.environment = {"COMPUTERNAME=WORKSTATION"};
+    named({"wipe", "disk", "0", "--image", path, "--yes", "--report", report});
+    QCOMPARE(named.code, 0);
+    QCOMPARE(QJsonDocument::fromJson(content(report)).object().value(u"computerName"),
+             QJsonValue(u"WORKSTATION"_s));
+}
+
+void TestCliProgram::withoutATerminalItRefuses()
+{
+    const QByteArray path = image();
+    ProgramRun run;
+    run({"wipe", "disk", "0", "--image", path});
+    QCOMPARE(run.code, 3);
+    QCOMPARE(content(path), QByteArray(1 << 20, 'x'));
+    QCOMPARE(run.err.count('\n'), 1);
+}
+
+void TestCliProgram::aPipedWordIsNoConfirmation()
+{
+    const QByteArray path = image();
+    ProgramRun run;
+    run.input = "ERASE\n";
+    run({"wipe", "disk", "0", "--image", path});
+    QCOMPARE(run.code, 3);
+    QCOMPARE(content(path), QByteArray(1 << 20, 'x'));
+}
+
+void TestCliProgram::onATerminalItAsksAndShowsProgress()
+{
+    const QByteArray path = image(16 << 20);
+    ProgramRun run;
+    run.onTerminal = true;
+    run.input = "ERASE\n";
+    run({"wipe", "disk", "0", "--image", path, "--buffer-mb", "1"});
+    QCOMPARE(run.code, 0);
+    QCOMPARE(content(path), QByteArray(16 << 20, '\0'));
+    QVERIFY(run.out.contains("Type ERASE to destroy it: "));
+    QVERIFY(run.out.contains("\r  6%  pass 1/1")); // the first of 16 writes
+    // Every line of the log begins where the progress line was taken away.
+    const QList<QByteArray> lines = run.out.split('\n');
+    for (const QByteArray &line : lines) {
+        if (line.contains("[info]"))
+            QVERIFY2(line.startsWith("[info]") || line.contains("\r[info]"), line.constData());
+    }
+    QVERIFY(run.out.trimmed().split('\n').constLast().contains("DONE: "));
+
+    image(16 << 20);
+    ProgramRun refused;
+    refused.onTerminal = true;
+    refused.input = "erase\n";
+    refused({"wipe", "disk", "0", "--image", path});
+    QCOMPARE(refused.code, 3);
+    QCOMPARE(content(path), QByteArray(16 << 20, 'x'));
+
+    ProgramRun endOfInput;
+    endOfInput.onTerminal = true;
+    endOfInput.input = "\x04"; // Ctrl+D
+    endOfInput({"wipe", "disk", "0", "--image", path});
+    QCOMPARE(endOfInput.code, 3);
+}
+
+void TestCliProgram::interruptAtTheQuestionCancels()
+{
+    const QByteArray path = image();
+    ProgramRun run;
+    run.onTerminal = true;
+    run.onOutput = sendAt("to destroy it: ", {SIGINT});
+    run({"wipe", "disk", "0", "--image", path});
+    QCOMPARE(run.code, 4);
+    QCOMPARE(content(path), QByteArray(1 << 20, 'x'));
+    QVERIFY(run.out.contains("cancelled, nothing was written"));
+}
+
+void TestCliProgram::aSignalCancelsTheJob_data()
+{
+    QTest::addColumn<QList<int>>("signalNumbers");
+    QTest::newRow("interrupt") << QList<int>{SIGINT};
+    QTest::newRow("terminate") << QList<int>{SIGTERM};
+    QTest::newRow("hang up") << QList<int>{SIGHUP};
+    QTest::newRow("several") << QList<int>{SIGINT, SIGTERM, SIGINT};
+}
+
+void TestCliProgram::aSignalCancelsTheJob()
+{
+    QFETCH(const QList<int>, signalNumbers);
+    ProgramRun run;
+    run.onOutput = sendAt("\"progress\"", signalNumbers);
+    run(longJob() + QByteArrayList{"--json", "--report", inFolder("r.json")});
+    QCOMPARE(run.signalNumber, 0);
+    QCOMPARE(run.code, 4);
+    const QJsonObject finished = lastEvent(run.out);
+    QCOMPARE(finished.value(u"event"), QJsonValue(u"finished"_s));
+    QCOMPARE(finished.value(u"cancelled"), QJsonValue(true));
+    QCOMPARE(finished.value(u"success"), QJsonValue(false));
+    const QJsonObject report = QJsonDocument::fromJson(content(inFolder("r.json"))).object();
+    QVERIFY(report.value(u"status").toInt() == 4 || report.value(u"status").toInt() == 5);
+    QCOMPARE(report, finished.value(u"report").toObject());
+}
+
+void TestCliProgram::interruptIsHeardInTheBackgroundOfAShell()
+{
+    // Shells make a process that they start with "&" ignore SIGINT, which it inherits.
+    ::signal(SIGINT, SIG_IGN);
+    ProgramRun run;
+    run.onOutput = sendAt("\"progress\"", {SIGINT});
+    run(longJob() + QByteArrayList{"--json"});
+    ::signal(SIGINT, SIG_DFL);
+    QCOMPARE(run.code, 4);
+}
+
+void TestCliProgram::hangUpIsLeftAloneUnderNohup()
+{
+    ::signal(SIGHUP, SIG_IGN);
+    ProgramRun run;
+    run.onOutput = sendAt("\"progress\"", {SIGHUP});
+    run({"wipe", "disk", "0", "--image", image(4 << 20), "--yes", "--buffer-mb", "1", "--json"});
+    ::signal(SIGHUP, SIG_DFL);
+    QCOMPARE(run.code, 0);
+}
+
+void TestCliProgram::aReaderThatGoesAwayDoesNotBreakTheJob()
+{
+    const QByteArray path = image(8 << 20);
+    ProgramRun run;
+    run.closeOutput = true;
+    run({"wipe", "disk", "0", "--image", path, "--yes"});
+    QCOMPARE(run.signalNumber, 0);
+    QCOMPARE(run.code, 5);
+    QCOMPARE(content(path), QByteArray(8 << 20, '\0'));
+}
+
+void TestCliProgram::aFullDiskUnderTheOutputIsAFailure()
+{
+    QProcess process;
+    process.setStandardOutputFile(u"/dev/full"_s);
+    process.start(QString::fromUtf8(QUORVEX_CLI), {u"methods"_s});
+    QVERIFY(process.waitForFinished());
+    QCOMPARE(process.exitCode(), 5);
+    QVERIFY(process.readAllStandardError().contains("output"));
+}
+
+void TestCliProgram::diagnosticsAreSilentUnlessWanted()
+{
+    const QByteArray path = image();
+    ProgramRun silent;
+    silent({"wipe", "disk", "0", "--image", path, "--yes"});
+    QCOMPARE(silent.code, 0);
+    QCOMPARE(silent.err, QByteArray());
+    ProgramRun wanted;
+    wanted.environment = {"QUORVEX_DEBUG=1"};
+    wanted({"wipe", "disk", "0", "--image", path, "--yes"});
+    QCOMPARE(wanted.code, 0);
+    QVERIFY(wanted.err.contains("=== WipeEngine::start() ==="));
+}
+
+void TestCliProgram::aFileWithAnUndecodableNameIsErased()
+{
+    // "été" and "ß" in Latin-1: no text in UTF-8.
+    const QByteArray direct = inFolder("\xE9t\xE9.txt");
+    const QByteArray folder = inFolder("folder\xDF");
+    QCOMPARE(::mkdir(folder.constData(), 0700), 0);
+    writeBytes(direct, "secret");
+    writeBytes(folder + "/in\xE9side", "secret");
+    ProgramRun run;
+    run({"wipe", "files", direct, folder, "--yes"});
+    QCOMPARE(run.code, 0);
+    QVERIFY(!exists(direct));
+    QVERIFY(!exists(folder));
+    QVERIFY(QString::fromUtf8(run.out).toUtf8() == run.out); // valid UTF-8 all the same
+
+    ProgramRun missing;
+    missing({"wipe", "files", direct, "--yes"});
+    QCOMPARE(missing.code, 3);
+    QVERIFY(missing.err.contains("File not found"));
+}
+
+void TestCliProgram::anUndecodableImageIsErased()
+{
+    const QByteArray path = inFolder("im\xE9ge.img");
+    writeBytes(path, QByteArray(65536, 'x'));
+    ProgramRun run;
+    run({"wipe", "disk", "0", "--image", path, "--yes"});
+    QCOMPARE(run.code, 0);
+    QCOMPARE(content(path), QByteArray(65536, '\0'));
+    QCOMPARE(::unlink(path.constData()), 0); // Qt, which removes the folder, cannot name it
+}
+
+void TestCliProgram::theLogGoesIntoTheUsersFolder()
+{
+    const QByteArray home = inFolder("home");
+    ProgramRun run;
+    run.environment = {"XDG_DATA_HOME=" + home};
+    run({"wipe", "disk", "0", "--image", image(), "--yes"});
+    QCOMPARE(run.code, 0);
+    QVERIFY(content(home + "/Veltrano/Quorvex/quorvex.log").contains("Job succeeded"));
+
+    ProgramRun elsewhere;
+    elsewhere({"wipe", "disk", "0", "--image", image(), "--yes", "--data-dir", inFolder("new/data")});
+    QCOMPARE(elsewhere.code, 0);
+    QVERIFY(content(inFolder("new/data/quorvex.log")).contains("Job succeeded"));
+}
+
+QTEST_GUILESS_MAIN(TestCliProgram)
+#include "tst_cliprogram.moc"

@@ -1,0 +1,640 @@
+#include "cli/testio.h"
+
+#include "cli/memorymachine.h"
+
+#include <QElapsedTimer>
+
+#include <algorithm>
+#include <chrono>
+#include <thread>
+
+using namespace Qt::StringLiterals;
+
+class TestCliWipeDisk : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { hideMachine(m_home); }
+
+    void anImageIsErasedToTheLastByte();
+    void aDriveIsNamedByNumberPathOrLink();
+    void theMethodIsTakenByNameOrNumber_data();
+    void theMethodIsTakenByNameOrNumber();
+    void optionsReachTheJob();
+    void theSystemDiskIsRefusedUnopened_data();
+    void theSystemDiskIsRefusedUnopened();
+    void aPartOfADriveIsRefused();
+    void anUnknownDriveIsRefused_data();
+    void anUnknownDriveIsRefused();
+    void withoutPermissionNothingIsAttempted();
+    void aDriveThatChangedIsRefused();
+    void withoutConfirmationNothingIsOpened();
+    void typingEraseRunsTheJob();
+    void aFailedJobIsToldAsSuch();
+    void aStopEndsTheJobCleanly();
+    void aSecondStopChangesNothing();
+    void aStopBeforeTheJobWritesNothing();
+
+    void eventsFollowTheContract();
+    void progressComesAtMostTenTimesASecond();
+    void aRefusalIsAnEventToo();
+    void quietPrintsTheFinalLineOnly();
+    void quietEventsAreErrorsAndTheEnd();
+    void theLastLineTellsEverything();
+    void theLastLineTellsWhatWasNotErased();
+
+    void theReportIsWrittenAfterSuccess();
+    void theReportIsWrittenAfterFailure();
+    void aReportThatCannotBeWrittenStopsBeforeAnythingIs();
+    void aReportLostBehindAnErasureIsTold();
+    void aReportMustNotReplaceTheDrive();
+    void theJobIsInTheLogOfTheDataFolder();
+    void aDataFolderThatCannotBeMadeStopsBeforeAnythingIs();
+
+private:
+    QTemporaryDir m_home;
+};
+
+namespace {
+
+constexpr qint64 Size = 4 << 20;
+
+QStringList wipeDrive(int number, const QStringList &options = {u"--yes"_s})
+{
+    return QStringList{u"wipe"_s, u"disk"_s, QString::number(number)} + options;
+}
+
+// A drive that is not a system disk.
+void addDrive(MemoryMachine &machine, int number = 0)
+{
+    machine.memory.addDrive(MemoryDrive(number, Size));
+}
+
+bool isZero(const QByteArray &bytes)
+{
+    return std::all_of(bytes.begin(), bytes.end(), [](char byte) { return byte == 0; });
+}
+
+bool isUntouched(const MemoryMachine &machine, int number)
+{
+    return machine.memory.medium(number) == QByteArray(Size, '\x5C');
+}
+
+// Requests a stop, from the event loop, when the text appears on standard output.
+void stopAt(TestIo &io, const QByteArray &text, int times = 1)
+{
+    io.onOutput = [&io, text, left = times](const QByteArray &out) mutable {
+        if (!out.contains(text))
+            return;
+        for (; left > 0; --left)
+            QMetaObject::invokeMethod(&io.stopRequest(), &cli::StopRequest::request, Qt::QueuedConnection);
+    };
+}
+
+// Every write takes long enough for a stop to come in between.
+void makeSlow(MemoryMachine &machine)
+{
+    machine.answer = [](const DeviceCall &call) {
+        if (call.kind == FaultPlan::Write)
+            std::this_thread::sleep_for(std::chrono::milliseconds(20));
+        return platform::Status{};
+    };
+}
+
+} // namespace
+
+void TestCliWipeDisk::anImageIsErasedToTheLastByte()
+{
+    const QTemporaryDir folder;
+    const QString image = folder.filePath(u"a.img"_s);
+    QVERIFY(writeFile(image, QByteArray(Size, 'x')));
+    const QString other = folder.filePath(u"b.img"_s);
+    QVERIFY(writeFile(other, QByteArray(Size, 'y')));
+    CliRun run;
+    run(wipeDrive(0) + QStringList{u"--only-images"_s, u"--image"_s, image, u"--image"_s, other});
+    QCOMPARE(run.code, 0);
+    QCOMPARE(contentOf(image), QByteArray(Size, '\0'));
+    QCOMPARE(contentOf(other), QByteArray(Size, 'y'));
+    QCOMPARE(run.io.err, QByteArray());
+}
+
+void TestCliWipeDisk::aDriveIsNamedByNumberPathOrLink()
+{
+    const QTemporaryDir folder;
+    const QString image = folder.filePath(u"a.img"_s);
+    QVERIFY(QFile::link(image, folder.filePath(u"link"_s)));
+    for (const QString &name : {u"0"_s, image, folder.filePath(u"link"_s)}) {
+        QVERIFY(writeFile(image, QByteArray(65536, 'x')));
+        CliRun run;
+        run({u"wipe"_s, u"disk"_s, name, u"--yes"_s, u"--only-images"_s, u"--image"_s, image});
+        QCOMPARE(run.code, 0);
+        QCOMPARE(contentOf(image), QByteArray(65536, '\0'));
+    }
+}
+
+void TestCliWipeDisk::theMethodIsTakenByNameOrNumber_data()
+{
+    QTest::addColumn<QString>("given");
+    QTest::addColumn<int>("type");
+    QTest::newRow("none") << QString() << 0;
+    QTest::newRow("number") << u"1"_s << 1;
+    QTest::newRow("name") << u"British HMG IS5"_s << 1;
+    QTest::newRow("name in lower case") << u"german vsitr"_s << 3;
+    QTest::newRow("35 passes") << u"GUTMANN"_s << 4;
+}
+
+void TestCliWipeDisk::theMethodIsTakenByNameOrNumber()
+{
+    QFETCH(const QString, given);
+    QFETCH(const int, type);
+    MemoryMachine machine;
+    addDrive(machine);
+    CliRun run;
+    const QStringList method = given.isEmpty() ? QStringList() : QStringList{u"--method"_s, given};
+    run(wipeDrive(0) + method + QStringList{u"--json"_s});
+    QCOMPARE(run.code, 0);
+    const QJsonObject report = run.io.events().constLast().value(u"report").toObject();
+    QCOMPARE(report.value(u"methodType").toInt(-1), type);
+}
+
+void TestCliWipeDisk::optionsReachTheJob()
+{
+    MemoryMachine machine;
+    addDrive(machine);
+    qint64 largestWrite = 0;
+    int reads = 0;
+    machine.answer = [&](const DeviceCall &call) {
+        if (call.kind == FaultPlan::Write)
+            largestWrite = std::max(largestWrite, call.argument);
+        if (call.kind == FaultPlan::Read)
+            ++reads;
+        return platform::Status{};
+    };
+    CliRun run;
+    run(wipeDrive(0) + QStringList{u"--buffer-mb"_s, u"1"_s, u"--samples"_s, u"7"_s, u"--json"_s});
+    QCOMPARE(run.code, 0);
+    QCOMPARE(largestWrite, qint64(1 << 20));
+    QCOMPARE(reads, 7);
+    const QJsonObject report = run.io.events().constLast().value(u"report").toObject();
+    QCOMPARE(report.value(u"verificationSampleSize").toInt(-1), 7);
+
+    reads = 0;
+    CliRun without;
+    without(wipeDrive(0) + QStringList{u"--no-verify"_s});
+    QCOMPARE(without.code, 0);
+    QCOMPARE(reads, 0);
+}
+
+void TestCliWipeDisk::theSystemDiskIsRefusedUnopened_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("by number") << u"0"_s;
+    QTest::newRow("by path") << u"memory drive 0"_s;
+}
+
+void TestCliWipeDisk::theSystemDiskIsRefusedUnopened()
+{
+    QFETCH(const QString, name);
+    MemoryMachine machine;
+    addDrive(machine);
+    machine.memory.addVolume(u"/system"_s, 0, 4096, 65536);
+    machine.session.systemVolumeNames = QStringList{u"/system"_s};
+    CliRun run;
+    run({u"wipe"_s, u"disk"_s, name, u"--yes"_s});
+    QCOMPARE(run.code, 3);
+    QVERIFY2(run.complains("system disk"), run.io.err.constData());
+    QCOMPARE(run.io.out, QByteArray());
+    QCOMPARE(machine.openings(), QStringList());
+    QVERIFY(isUntouched(machine, 0));
+}
+
+void TestCliWipeDisk::aPartOfADriveIsRefused()
+{
+    MemoryMachine machine;
+    addDrive(machine, 0);
+    addDrive(machine, 1);
+    machine.memory.addVolume(u"/parts/one"_s, 1, 4096, 65536);
+    CliRun run;
+    run({u"wipe"_s, u"disk"_s, u"/parts/one"_s, u"--yes"_s});
+    QCOMPARE(run.code, 3);
+    QVERIFY2(run.complains("/parts/one is a part of drive 1"), run.io.err.constData());
+    QCOMPARE(machine.openings(), QStringList());
+    QVERIFY(isUntouched(machine, 1));
+}
+
+void TestCliWipeDisk::anUnknownDriveIsRefused_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("number") << u"7"_s;
+    QTest::newRow("number of no drive anywhere") << u"99999999999999999999"_s;
+    QTest::newRow("negative") << u"-1x"_s;
+    QTest::newRow("path") << u"/no/such/drive"_s;
+    QTest::newRow("a folder") << u"/"_s;
+    QTest::newRow("empty") << QString();
+    QTest::newRow("arabic digit") << u"٠"_s;
+}
+
+void TestCliWipeDisk::anUnknownDriveIsRefused()
+{
+    QFETCH(const QString, name);
+    MemoryMachine machine;
+    addDrive(machine);
+    TestIo io;
+    const int code = cli::runCli({u"wipe"_s, u"disk"_s, u"--yes"_s, u"--"_s, name}, io);
+    QCOMPARE(code, 3);
+    QVERIFY2(io.err.contains("no such drive"), io.err.constData());
+    QCOMPARE(machine.openings(), QStringList());
+}
+
+void TestCliWipeDisk::withoutPermissionNothingIsAttempted()
+{
+    MemoryMachine machine;
+    addDrive(machine);
+    machine.answer = [](const DeviceCall &call) {
+        return call.method == QLatin1String("openDrive") ? fakeFailure(platform::AccessDenied)
+                                                         : platform::Status{};
+    };
+    CliRun run;
+    run(wipeDrive(0));
+    QCOMPARE(run.code, 3);
+    QVERIFY2(run.complains("not permitted"), run.io.err.constData());
+    QVERIFY(!run.io.out.contains("[info]"));
+    QVERIFY(isUntouched(machine, 0));
+}
+
+void TestCliWipeDisk::aDriveThatChangedIsRefused()
+{
+    MemoryMachine machine;
+    addDrive(machine);
+    CliRun run;
+    run.io.inputIsTerminal = run.io.outputIsTerminal = true;
+    run.io.input = QStringList{u"ERASE"_s};
+    run.io.onQuestion = [&machine] { machine.memory.drive(0).serialNumber = u"ANOTHER"_s; };
+    run(wipeDrive(0, {}));
+    QCOMPARE(run.code, 3);
+    QVERIFY2(run.complains("taken its place"), run.io.err.constData());
+    QVERIFY(isUntouched(machine, 0));
+}
+
+void TestCliWipeDisk::withoutConfirmationNothingIsOpened()
+{
+    MemoryMachine machine;
+    addDrive(machine);
+    CliRun run;
+    run(wipeDrive(0, {}));
+    QCOMPARE(run.code, 3);
+    QVERIFY2(run.complains("not confirmed"), run.io.err.constData());
+
+    CliRun answered;
+    answered.io.inputIsTerminal = answered.io.outputIsTerminal = true;
+    answered.io.input = QStringList{u"yes"_s};
+    answered(wipeDrive(0, {}));
+    QCOMPARE(answered.code, 3);
+    QVERIFY(answered.complains("not confirmed"));
+    QCOMPARE(machine.openings(), QStringList());
+    QVERIFY(isUntouched(machine, 0));
+}
+
+void TestCliWipeDisk::typingEraseRunsTheJob()
+{
+    MemoryMachine machine;
+    addDrive(machine);
+    machine.memory.addVolume(u"/media/stick"_s, 0, 65536, 65536);
+    CliRun run;
+    run.io.inputIsTerminal = run.io.outputIsTerminal = true;
+    run.io.input = QStringList{u"ERASE"_s};
+    run(wipeDrive(0, {}));
+    QCOMPARE(run.code, 0);
+    for (const char *word : {"drive 0", "Memory drive", "SERIAL-0", "4.00 MB", "/media/stick", "NIST 800-88"})
+        QVERIFY2(run.io.out.left(run.io.out.indexOf("ERASE")).contains(word), word);
+}
+
+void TestCliWipeDisk::aFailedJobIsToldAsSuch()
+{
+    MemoryMachine machine;
+    addDrive(machine);
+    machine.answer = [](const DeviceCall &call) {
+        return call.kind == FaultPlan::Write ? fakeFailure(platform::IoDevice) : platform::Status{};
+    };
+    CliRun run;
+    run(wipeDrive(0));
+    QCOMPARE(run.code, 1);
+    QVERIFY(run.io.out.contains("[error] "));
+    QVERIFY(run.io.out.contains("1117"));
+    QVERIFY(run.io.out.contains("\nFAILED: "));
+    QVERIFY(!run.io.out.contains("DONE"));
+
+    CliRun json;
+    json(wipeDrive(0) + QStringList{u"--json"_s});
+    QCOMPARE(json.code, 1);
+    const QJsonObject finished = json.io.events().constLast();
+    QCOMPARE(finished.value(u"success"), QJsonValue(false));
+    QCOMPARE(finished.value(u"cancelled"), QJsonValue(false));
+    QVERIFY(!json.io.events(u"error"_s).isEmpty());
+    QVERIFY(!finished.value(u"report").toObject().value(u"errorMessage").toString().isEmpty());
+}
+
+void TestCliWipeDisk::aStopEndsTheJobCleanly()
+{
+    MemoryMachine machine;
+    addDrive(machine);
+    makeSlow(machine);
+    CliRun run;
+    stopAt(run.io, "\"progress\"");
+    run(wipeDrive(0) + QStringList{u"--json"_s, u"--buffer-mb"_s, u"1"_s, u"--method"_s, u"gutmann"_s});
+    QCOMPARE(run.code, 4);
+    const QJsonObject finished = run.io.events().constLast();
+    QCOMPARE(finished.value(u"event"), QJsonValue(u"finished"_s));
+    QCOMPARE(finished.value(u"success"), QJsonValue(false));
+    QCOMPARE(finished.value(u"cancelled"), QJsonValue(true));
+    QCOMPARE(machine.memory.openHandles(), 0);
+    QCOMPARE(machine.memory.heldLocks(), 0);
+}
+
+void TestCliWipeDisk::aSecondStopChangesNothing()
+{
+    MemoryMachine machine;
+    addDrive(machine);
+    makeSlow(machine);
+    CliRun run;
+    stopAt(run.io, "\"progress\"", 3);
+    run(wipeDrive(0) + QStringList{u"--json"_s, u"--buffer-mb"_s, u"1"_s, u"--method"_s, u"gutmann"_s});
+    QCOMPARE(run.code, 4);
+    QCOMPARE(run.io.events(u"finished"_s).size(), 1);
+    QCOMPARE(machine.memory.openHandles(), 0);
+}
+
+void TestCliWipeDisk::aStopBeforeTheJobWritesNothing()
+{
+    MemoryMachine machine;
+    addDrive(machine);
+    CliRun run;
+    run.io.stopRequest().request();
+    run(wipeDrive(0));
+    QCOMPARE(run.code, 4);
+    QVERIFY(run.complains("cancelled"));
+    QCOMPARE(machine.openings(), QStringList());
+    QVERIFY(isUntouched(machine, 0));
+}
+
+void TestCliWipeDisk::eventsFollowTheContract()
+{
+    MemoryMachine machine;
+    addDrive(machine, 3);
+    CliRun run;
+    run(wipeDrive(3) + QStringList{u"--json"_s, u"--method"_s, u"1"_s, u"--buffer-mb"_s, u"1"_s});
+    QCOMPARE(run.code, 0);
+    const QList<QJsonObject> events = run.io.events();
+    QVERIFY(events.size() > 5);
+
+    const QJsonObject started = events.constFirst();
+    QCOMPARE(started.keys(),
+             (QStringList{u"event"_s, u"method"_s, u"operation"_s, u"passes"_s, u"target"_s, u"taskId"_s}));
+    QCOMPARE(started.value(u"event"), QJsonValue(u"started"_s));
+    QCOMPARE(started.value(u"operation"), QJsonValue(u"DiskWipe"_s));
+    QCOMPARE(started.value(u"target"), QJsonValue(u"memory drive 3"_s));
+    QCOMPARE(started.value(u"method"), QJsonValue(u"British HMG IS5"_s));
+    QCOMPARE(started.value(u"passes"), QJsonValue(2));
+    QCOMPARE(started.value(u"taskId").toString().size(), 36);
+
+    const QList<QJsonObject> passes = run.io.events(u"pass"_s);
+    QCOMPARE(passes.size(), 2);
+    QCOMPARE(passes.at(1), (QJsonObject{{u"event"_s, u"pass"_s}, {u"pass"_s, 2}, {u"passes"_s, 2}}));
+
+    const QList<QJsonObject> progress = run.io.events(u"progress"_s);
+    QVERIFY(!progress.isEmpty());
+    QCOMPARE(progress.constFirst().keys(),
+             (QStringList{u"bytes"_s, u"bytesPerSecond"_s, u"event"_s, u"pass"_s, u"percent"_s}));
+    QCOMPARE(progress.constFirst().value(u"bytes"), QJsonValue(u"1048576"_s));
+    QVERIFY(progress.constFirst().value(u"bytesPerSecond").isString());
+    QCOMPARE(progress.constFirst().value(u"percent"), QJsonValue(12)); // a quarter of the first of two passes
+
+    const QList<QJsonObject> logs = run.io.events(u"log"_s);
+    QCOMPARE(logs.constFirst().keys(), (QStringList{u"event"_s, u"level"_s, u"message"_s}));
+    QVERIFY(std::any_of(logs.begin(), logs.end(),
+                        [](const QJsonObject &log) { return log.value(u"level") == QJsonValue(1); }));
+
+    const QJsonObject finished = events.constLast();
+    QCOMPARE(finished.keys(),
+             (QStringList{u"cancelled"_s, u"certificateId"_s, u"event"_s, u"report"_s, u"success"_s}));
+    QCOMPARE(finished.value(u"success"), QJsonValue(true));
+    QCOMPARE(finished.value(u"cancelled"), QJsonValue(false));
+    const QJsonObject report = finished.value(u"report").toObject();
+    QCOMPARE(report.value(u"certificateId"), finished.value(u"certificateId"));
+    QCOMPARE(report.value(u"bytesWritten"), QJsonValue(QString::number(2 * Size)));
+    QCOMPARE(report.value(u"status"), QJsonValue(3));
+
+    for (const QJsonObject &event : events) {
+        const QStringList names{u"started"_s, u"pass"_s, u"progress"_s, u"log"_s, u"error"_s, u"finished"_s};
+        QVERIFY(names.contains(event.value(u"event").toString()));
+    }
+}
+
+void TestCliWipeDisk::progressComesAtMostTenTimesASecond()
+{
+    MemoryMachine machine;
+    addDrive(machine);
+    makeSlow(machine);
+    CliRun run;
+    QElapsedTimer timer;
+    timer.start();
+    run(wipeDrive(0) + QStringList{u"--json"_s, u"--method"_s, u"2"_s, u"--buffer-mb"_s, u"1"_s});
+    const qint64 elapsed = timer.elapsed();
+    QCOMPARE(run.code, 0);
+    const qsizetype count = run.io.events(u"progress"_s).size();
+    QVERIFY(count > 1); // 28 writes of 20 ms
+    QVERIFY(count < 28);
+    QVERIFY2((count - 1) * 100 <= elapsed, qPrintable(u"%1 events in %2 ms"_s.arg(count).arg(elapsed)));
+}
+
+void TestCliWipeDisk::aRefusalIsAnEventToo()
+{
+    MemoryMachine machine;
+    CliRun run;
+    run(wipeDrive(5) + QStringList{u"--json"_s});
+    QCOMPARE(run.code, 3);
+    QCOMPARE(run.io.events(), QList<QJsonObject>{(QJsonObject{{u"event"_s, u"error"_s},
+                                                              {u"message"_s, u"no such drive: 5"_s}})});
+    QVERIFY(run.complains("no such drive"));
+}
+
+void TestCliWipeDisk::quietPrintsTheFinalLineOnly()
+{
+    MemoryMachine machine;
+    addDrive(machine);
+    CliRun run;
+    run.io.errorIsTerminal = true;
+    run(wipeDrive(0) + QStringList{u"--quiet"_s});
+    QCOMPARE(run.code, 0);
+    QCOMPARE(run.io.out.count('\n'), 1);
+    QVERIFY(run.io.out.startsWith("DONE: memory drive 0, "));
+    QCOMPARE(run.io.err, QByteArray());
+
+    machine.answer = [](const DeviceCall &call) {
+        return call.kind == FaultPlan::Write ? fakeFailure(platform::IoDevice) : platform::Status{};
+    };
+    CliRun failing;
+    failing(wipeDrive(0) + QStringList{u"--quiet"_s});
+    QCOMPARE(failing.code, 1);
+    const QList<QByteArray> lines = failing.io.out.trimmed().split('\n');
+    QVERIFY(lines.size() > 1);
+    for (qsizetype i = 0; i + 1 < lines.size(); ++i)
+        QVERIFY2(lines.at(i).startsWith("[error] "), lines.at(i).constData());
+    QVERIFY(lines.constLast().startsWith("FAILED: "));
+}
+
+void TestCliWipeDisk::quietEventsAreErrorsAndTheEnd()
+{
+    MemoryMachine machine;
+    addDrive(machine);
+    CliRun run;
+    run(wipeDrive(0) + QStringList{u"--quiet"_s, u"--json"_s});
+    QCOMPARE(run.code, 0);
+    QCOMPARE(run.io.events().size(), 1);
+    QCOMPARE(run.io.events(u"finished"_s).size(), 1);
+    QCOMPARE(run.io.err, QByteArray());
+}
+
+void TestCliWipeDisk::theLastLineTellsEverything()
+{
+    MemoryMachine machine;
+    addDrive(machine);
+    const QTemporaryDir folder;
+    const QString report = folder.filePath(u"r.json"_s);
+    CliRun run;
+    run(wipeDrive(0) + QStringList{u"--report"_s, report});
+    QCOMPARE(run.code, 0);
+    const QByteArray last = run.io.out.trimmed().split('\n').constLast();
+    const QJsonObject json = QJsonDocument::fromJson(contentOf(report)).object();
+    for (const QByteArray &part :
+         {QByteArray("DONE: memory drive 0, NIST 800-88, 4.00 MB written in "),
+          ", certificate " + json.value(u"certificateId").toString().toUtf8(), ", report " + report.toUtf8()})
+        QVERIFY2(last.contains(part), last.constData());
+}
+
+void TestCliWipeDisk::theLastLineTellsWhatWasNotErased()
+{
+    MemoryMachine machine;
+    addDrive(machine);
+    CliRun whole;
+    whole(wipeDrive(0));
+    QVERIFY(!whole.io.out.contains("ONLY"));
+    machine.memory.addVolume(u"/media/stick"_s, 0, 65536, 65536);
+    CliRun run;
+    run(wipeDrive(0));
+    QCOMPARE(run.code, 0);
+    QVERIFY2(run.io.out.contains(", ONLY THE VOLUMES: 128 of 8192 sectors erased"), run.io.out.constData());
+}
+
+void TestCliWipeDisk::theReportIsWrittenAfterSuccess()
+{
+    MemoryMachine machine;
+    addDrive(machine);
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"r.json"_s);
+    CliRun run;
+    run(wipeDrive(0) + QStringList{u"--report"_s, path, u"--json"_s});
+    QCOMPARE(run.code, 0);
+    const QJsonDocument report = QJsonDocument::fromJson(contentOf(path));
+    QCOMPARE(report.object(), run.io.events().constLast().value(u"report").toObject());
+    QVERIFY(contentOf(path).startsWith("{\n    \"certificateId\": \"QVX-"));
+}
+
+void TestCliWipeDisk::theReportIsWrittenAfterFailure()
+{
+    MemoryMachine machine;
+    addDrive(machine);
+    machine.answer = [](const DeviceCall &call) {
+        return call.kind == FaultPlan::Write ? fakeFailure(platform::WriteProtect) : platform::Status{};
+    };
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"r.json"_s);
+    CliRun run;
+    run(wipeDrive(0) + QStringList{u"--report"_s, path});
+    QCOMPARE(run.code, 1);
+    const QJsonObject report = QJsonDocument::fromJson(contentOf(path)).object();
+    QCOMPARE(report.value(u"status"), QJsonValue(4));
+    QVERIFY(run.io.out.trimmed().endsWith(", report " + path.toUtf8()));
+}
+
+void TestCliWipeDisk::aReportThatCannotBeWrittenStopsBeforeAnythingIs()
+{
+    const QString unwritable = u"/proc/quorvex-report.json"_s; // refused to root as well
+    if (!QFileInfo(u"/proc"_s).isDir())
+        QSKIP("no /proc: where a folder refuses files even to root is not known here");
+    MemoryMachine machine;
+    addDrive(machine);
+    CliRun run;
+    run(wipeDrive(0) + QStringList{u"--report"_s, unwritable});
+    QCOMPARE(run.code, 5);
+    QVERIFY2(run.complains("cannot be written"), run.io.err.constData());
+    QCOMPARE(machine.openings(), QStringList());
+    QVERIFY(isUntouched(machine, 0));
+}
+
+void TestCliWipeDisk::aReportLostBehindAnErasureIsTold()
+{
+    MemoryMachine machine;
+    addDrive(machine);
+    const QTemporaryDir folder;
+    QVERIFY(QDir(folder.path()).mkpath(u"gone"_s));
+    const QString path = folder.filePath(u"gone/r.json"_s);
+    machine.answer = [&folder](const DeviceCall &call) {
+        if (call.kind == FaultPlan::Write)
+            QDir(folder.path()).rmdir(u"gone"_s);
+        return platform::Status{};
+    };
+    CliRun run;
+    run(wipeDrive(0) + QStringList{u"--report"_s, path, u"--json"_s});
+    QCOMPARE(run.code, 5);
+    QVERIFY(isZero(machine.memory.medium(0)));
+    const QList<QJsonObject> errors = run.io.events(u"error"_s);
+    QCOMPARE(errors.size(), 1);
+    QVERIFY(errors.constFirst().value(u"message").toString().contains(path));
+    QCOMPARE(run.io.events().constLast().value(u"success"),
+             QJsonValue(true)); // what was erased is still told
+}
+
+void TestCliWipeDisk::aReportMustNotReplaceTheDrive()
+{
+    const QTemporaryDir folder;
+    const QString image = folder.filePath(u"a.img"_s);
+    QVERIFY(writeFile(image, QByteArray(65536, 'x')));
+    CliRun run;
+    run(wipeDrive(0) + QStringList{u"--only-images"_s, u"--image"_s, image, u"--report"_s, image});
+    QCOMPARE(run.code, 2);
+    QVERIFY(run.complains("lies in what is to be erased"));
+    QCOMPARE(contentOf(image), QByteArray(65536, 'x'));
+}
+
+void TestCliWipeDisk::theJobIsInTheLogOfTheDataFolder()
+{
+    MemoryMachine machine;
+    addDrive(machine);
+    CliRun run;
+    run(wipeDrive(0));
+    QCOMPARE(run.code, 0);
+    const QByteArray log = run.log();
+    QCOMPARE(log.count('\n'), 2);
+    QVERIFY(log.contains("started: DiskWipe, memory drive 0, NIST 800-88\n"));
+    QVERIFY(log.contains("Job succeeded, certificate QVX-"));
+    QVERIFY(!run.io.out.contains("Job succeeded"));
+}
+
+void TestCliWipeDisk::aDataFolderThatCannotBeMadeStopsBeforeAnythingIs()
+{
+    const QTemporaryDir folder;
+    QVERIFY(writeFile(folder.filePath(u"file"_s), "x"));
+    MemoryMachine machine;
+    addDrive(machine);
+    TestIo io;
+    const int code =
+        cli::runCli(wipeDrive(0) + QStringList{u"--data-dir"_s, folder.filePath(u"file/sub"_s)}, io);
+    QCOMPARE(code, 5);
+    QVERIFY(io.err.contains("data folder"));
+    QCOMPARE(machine.openings(), QStringList());
+}
+
+QTEST_GUILESS_MAIN(TestCliWipeDisk)
+#include "tst_cliwipedisk.moc"

@@ -1,0 +1,262 @@
+#include "cli/testio.h"
+
+#include "platform/forwarding.h"
+#include "support/fakedevices.h"
+#include "support/memoryvolume.h"
+
+#include <QThread>
+
+#include <atomic>
+
+using namespace Qt::StringLiterals;
+
+class TestCliWipeFree : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { hideMachine(m_home); }
+
+    void aVolumeIsNamedByItsMountPoint();
+    void aVolumeIsNamedByItsLetter();
+    void aDriveNumberMeansAllItsVolumes();
+    void aVolumeOfSeveralDrivesIsFound();
+    void anUnknownVolumeIsRefusedBeforeAnyIsFilled();
+    void aSystemVolumeIsAllowed();
+    void severalVolumesAreSeveralJobs();
+    void theSameVolumeTwiceIsOneJob();
+    void oneFailureFailsTheWholeButNotTheOthers();
+    void aStopSparesTheVolumesBehind();
+    void theReportNamesVolumeAndDrive();
+
+private:
+    QTemporaryDir m_home;
+};
+
+namespace {
+
+constexpr qint64 MiB = 1 << 20;
+constexpr qint64 Reserve = 100 * MiB;
+
+// Memory volumes with room for a few fill files, on one drive, in force as long as it lives.
+struct Machine
+{
+    MemoryVolume volume;
+    FakeDevices devices;
+    FakeSession session;
+    platform::ForwardingPlatform platform{volume, volume, devices, session};
+    platform::ScopedPlatform scope{platform};
+
+    Machine() { devices.drives.insert(0, FakeDrive::rotating()); }
+
+    void add(const QString &name, const QList<int> &drives = {0})
+    {
+        FakeVolume mounted = FakeVolume::onDrives(name, drives);
+        mounted.mounted.fileSystem = "ext4";
+        mounted.mounted.totalBytes = 1024 * MiB;
+        mounted.mounted.freeBytes = Reserve + 8 * MiB;
+        devices.mount(mounted);
+        volume.freeBytes.insert(name + u'/', Reserve + 8 * MiB);
+    }
+    // Bytes that fill files got on the volume.
+    qint64 filled(const QString &name) const
+    {
+        qint64 sum = 0;
+        for (const MemoryVolume::Write &write : volume.writes) {
+            if (write.path.startsWith(name + u'/') && write.path.contains(u"/fill_"_s))
+                sum += write.size;
+        }
+        return sum;
+    }
+    bool holdsFillFiles() const { return !volume.pathsBelow(QString()).filter(u"/fill_"_s).isEmpty(); }
+};
+
+QStringList wipeFree(const QStringList &volumes)
+{
+    return QStringList{u"wipe"_s, u"free"_s} + volumes +
+           QStringList{u"--yes"_s, u"--json"_s, u"--buffer-mb"_s, u"1"_s};
+}
+
+QStringList targets(const CliRun &run)
+{
+    QStringList targets;
+    for (const QJsonObject &started : run.io.events(u"started"_s))
+        targets.append(started.value(u"target").toString());
+    return targets;
+}
+
+} // namespace
+
+void TestCliWipeFree::aVolumeIsNamedByItsMountPoint()
+{
+    for (const QString &name : {u"/media/a"_s, u"/media/a/"_s, u"/media//b/../a"_s}) {
+        Machine machine;
+        machine.add(u"/media/a"_s);
+        machine.add(u"/media/b"_s);
+        CliRun run;
+        run(wipeFree({name}));
+        QCOMPARE(run.code, 0);
+        QCOMPARE(machine.filled(u"/media/a"_s), 8 * MiB);
+        QCOMPARE(machine.filled(u"/media/b"_s), qint64(0));
+        QVERIFY(!machine.holdsFillFiles());
+        const QJsonObject started = run.io.events(u"started"_s).constFirst();
+        QCOMPARE(started.value(u"operation"), QJsonValue(u"FreeSpaceWipe"_s));
+    }
+}
+
+void TestCliWipeFree::aVolumeIsNamedByItsLetter()
+{
+    for (const QString &name : {u"E:"_s, u"e:"_s, u"E:/"_s}) {
+        Machine machine;
+        machine.add(u"E:"_s);
+        CliRun run;
+        run(wipeFree({name}));
+        QCOMPARE(run.code, 0);
+        QCOMPARE(targets(run), QStringList{u"E:"_s});
+        QCOMPARE(machine.filled(u"E:"_s), 8 * MiB);
+    }
+}
+
+void TestCliWipeFree::aDriveNumberMeansAllItsVolumes()
+{
+    Machine machine;
+    machine.devices.drives.insert(1, FakeDrive::usbStick());
+    machine.add(u"/media/a"_s);
+    machine.add(u"/media/b"_s);
+    machine.add(u"/media/stick"_s, {1});
+    CliRun run;
+    run(wipeFree({u"0"_s}));
+    QCOMPARE(run.code, 0);
+    QCOMPARE(run.io.events(u"finished"_s).size(), 1);
+    QCOMPARE(machine.filled(u"/media/a"_s), 8 * MiB);
+    QCOMPARE(machine.filled(u"/media/b"_s), 8 * MiB);
+    QCOMPARE(machine.filled(u"/media/stick"_s), qint64(0));
+}
+
+void TestCliWipeFree::aVolumeOfSeveralDrivesIsFound()
+{
+    Machine machine;
+    machine.devices.drives.insert(1, FakeDrive::usbStick());
+    machine.add(u"/media/pool"_s, {0, 1});
+    CliRun run;
+    run(wipeFree({u"/media/pool"_s}));
+    QCOMPARE(run.code, 0);
+    QCOMPARE(machine.filled(u"/media/pool"_s), 8 * MiB);
+}
+
+void TestCliWipeFree::anUnknownVolumeIsRefusedBeforeAnyIsFilled()
+{
+    for (const QString &name : {u"/media/nothing"_s, u"7"_s, u"Q:"_s, u"/media"_s, QString()}) {
+        Machine machine;
+        machine.add(u"/media/a"_s);
+        CliRun run;
+        run(wipeFree({u"/media/a"_s, name}));
+        QCOMPARE(run.code, 3);
+        QVERIFY2(run.complains("no such"), run.io.err.constData());
+        QCOMPARE(machine.volume.calls, 0);
+    }
+}
+
+void TestCliWipeFree::aSystemVolumeIsAllowed()
+{
+    Machine machine;
+    machine.add(u"/system"_s);
+    machine.session.systemVolumeNames = QStringList{u"/system"_s};
+    machine.session.systemRoots = QStringList{u"/system"_s, u"/system/"_s};
+    machine.volume.freeBytes.insert(u"/system/"_s, 1024 * MiB + 4 * MiB); // a system volume keeps 1 GiB
+    CliRun run;
+    run(wipeFree({u"/system"_s}));
+    QCOMPARE(run.code, 0);
+    QCOMPARE(machine.filled(u"/system"_s), 4 * MiB);
+}
+
+void TestCliWipeFree::severalVolumesAreSeveralJobs()
+{
+    Machine machine;
+    machine.add(u"/media/a"_s);
+    machine.add(u"/media/b"_s);
+    CliRun run;
+    run(wipeFree({u"/media/b"_s, u"/media/a"_s}));
+    QCOMPARE(run.code, 0);
+    QCOMPARE(targets(run), (QStringList{u"/media/b"_s, u"/media/a"_s}));
+    QStringList order;
+    QStringList certificates;
+    for (const QJsonObject &event : run.io.events()) {
+        const QString name = event.value(u"event").toString();
+        if (name == u"started"_s || name == u"finished"_s)
+            order.append(name);
+        if (name == u"started"_s)
+            certificates.append(event.value(u"taskId").toString());
+    }
+    QCOMPARE(order, (QStringList{u"started"_s, u"finished"_s, u"started"_s, u"finished"_s}));
+    QCOMPARE(certificates.removeDuplicates(), 0);
+}
+
+void TestCliWipeFree::theSameVolumeTwiceIsOneJob()
+{
+    Machine machine;
+    machine.add(u"/media/a"_s);
+    CliRun run;
+    run(wipeFree({u"/media/a"_s, u"/media/a/"_s}));
+    QCOMPARE(run.code, 0);
+    QCOMPARE(run.io.events(u"started"_s).size(), 1);
+}
+
+void TestCliWipeFree::oneFailureFailsTheWholeButNotTheOthers()
+{
+    Machine machine;
+    machine.add(u"/media/a"_s);
+    machine.add(u"/media/b"_s);
+    FaultPlan plan(FaultPlan::CreateFolder, 1, platform::AccessDenied);
+    machine.volume.setPlan(&plan);
+    CliRun run;
+    run(wipeFree({u"/media/a"_s, u"/media/b"_s}));
+    QCOMPARE(run.code, 1);
+    const QList<QJsonObject> finished = run.io.events(u"finished"_s);
+    QCOMPARE(finished.size(), 2);
+    QCOMPARE(finished.at(0).value(u"success"), QJsonValue(false));
+    QCOMPARE(finished.at(1).value(u"success"), QJsonValue(true));
+    QCOMPARE(machine.filled(u"/media/a"_s), qint64(0));
+    QCOMPARE(machine.filled(u"/media/b"_s), 8 * MiB);
+}
+
+void TestCliWipeFree::aStopSparesTheVolumesBehind()
+{
+    Machine machine;
+    machine.add(u"/media/a"_s);
+    machine.add(u"/media/b"_s);
+    CliRun run;
+    // In the middle of the first job, whose writes then take so long that it cannot end by itself before.
+    std::atomic<bool> requested = false;
+    machine.volume.onCall = [&](FaultPlan::Kind kind, const QString &) {
+        if (kind != FaultPlan::Write)
+            return;
+        QThread::msleep(5);
+        if (!requested.exchange(true))
+            QMetaObject::invokeMethod(&run.io.stopRequest(), &cli::StopRequest::request,
+                                      Qt::QueuedConnection);
+    };
+    run(wipeFree({u"/media/a"_s, u"/media/b"_s, u"--method"_s, u"4"_s}));
+    QCOMPARE(run.code, 4);
+    QCOMPARE(targets(run), QStringList{u"/media/a"_s});
+    QCOMPARE(machine.filled(u"/media/b"_s), qint64(0));
+    QVERIFY(!machine.holdsFillFiles());
+}
+
+void TestCliWipeFree::theReportNamesVolumeAndDrive()
+{
+    Machine machine;
+    machine.add(u"/media/a"_s);
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"r.json"_s);
+    CliRun run;
+    run(wipeFree({u"/media/a"_s, u"--report"_s, path}));
+    QCOMPARE(run.code, 0);
+    const QJsonObject report = QJsonDocument::fromJson(contentOf(path)).object();
+    QCOMPARE(report.value(u"operationType"), QJsonValue(2));
+    QCOMPARE(report.value(u"totalBytes"), QJsonValue(QString::number(Reserve + 8 * MiB)));
+    QCOMPARE(report.value(u"diskInfo").toObject().value(u"serialNumber"), QJsonValue(u"S/N 1"_s));
+}
+
+QTEST_GUILESS_MAIN(TestCliWipeFree)
+#include "tst_cliwipefree.moc"
