@@ -1,0 +1,122 @@
+#include "residue/realjob.h"
+#include "support/loopmount.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+namespace {
+
+const QByteArray &marker()
+{
+    static const QByteArray text = "SECRET-OF-THIS-TEST-";
+    return text;
+}
+
+bool writeMarkers(const QString &path, qint64 size)
+{
+    QByteArray content;
+    while (content.size() < size)
+        content += marker();
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(content.left(size)) == size && file.flush();
+}
+
+} // namespace
+
+// Files on real file systems, shredded by the real backend; then the raw image is searched.
+class TestFileResidue : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void noMarkerIsLeft_data();
+    void noMarkerIsLeft();
+    void keptFilesStayAsTheyAre_data();
+    void keptFilesStayAsTheyAre();
+};
+
+void TestFileResidue::noMarkerIsLeft_data()
+{
+    QTest::addColumn<int>("fileSystem");
+    QTest::addColumn<int>("method");
+    QTest::newRow("ext4, NIST") << int(LoopMount::Ext4) << 0;
+    QTest::newRow("ext4, DoD") << int(LoopMount::Ext4) << 2;
+    QTest::newRow("xfs, NIST") << int(LoopMount::Xfs) << 0;
+    QTest::newRow("xfs, HMG") << int(LoopMount::Xfs) << 1;
+}
+
+void TestFileResidue::noMarkerIsLeft()
+{
+    QFETCH(int, fileSystem);
+    QFETCH(int, method);
+    const auto kind = static_cast<LoopMount::FileSystem>(fileSystem);
+    if (const QString reason = LoopMount::unavailableReason(kind); !reason.isEmpty())
+        QSKIP(qPrintable(reason));
+    const QTemporaryDir folder;
+    LoopMount::Options options;
+    options.fileSystem = kind;
+    LoopMount volume(folder.path(), options);
+    QVERIFY2(volume.isReady(), qPrintable(volume.error()));
+
+    const QDir root(volume.mountPoint());
+    QVERIFY(root.mkpath(QStringLiteral("deep/er")));
+    const QList<qint64> sizes{20, 511, 4096, 4097, 70000, 3 * 1024 * 1024 + 17};
+    for (qsizetype i = 0; i < sizes.size(); ++i)
+        QVERIFY(writeMarkers(root.filePath(QStringLiteral("deep/er/file%1").arg(i)), sizes[i]));
+    QVERIFY(writeMarkers(root.filePath(QStringLiteral("single")), 9999));
+    QVERIFY(volume.unmount());
+    const qint64 before = volume.countInImage(marker());
+    QVERIFY2(before > 150000, qPrintable(QString::number(before))); // the control: all of it is on the medium
+    QVERIFY(volume.mount());
+
+    WipeTask task;
+    task.addFiles({root.filePath(QStringLiteral("deep")), root.filePath(QStringLiteral("single"))});
+    task.setMethod(WipeMethod::fromType(method));
+    const RealJob job = runRealJob(task);
+    QVERIFY2(job.success, qPrintable(job.log.join(u'\n')));
+    QCOMPARE(job.report.fileCount, 7);
+    QVERIFY(!root.exists(QStringLiteral("deep")));
+    QVERIFY(!root.exists(QStringLiteral("single")));
+    QVERIFY(volume.unmount());
+    QCOMPARE(volume.countInImage(marker()), 0);
+}
+
+void TestFileResidue::keptFilesStayAsTheyAre_data()
+{
+    QTest::addColumn<int>("fileSystem");
+    QTest::newRow("ext4") << int(LoopMount::Ext4);
+    QTest::newRow("xfs") << int(LoopMount::Xfs);
+}
+
+void TestFileResidue::keptFilesStayAsTheyAre()
+{
+    QFETCH(int, fileSystem);
+    const auto kind = static_cast<LoopMount::FileSystem>(fileSystem);
+    if (const QString reason = LoopMount::unavailableReason(kind); !reason.isEmpty())
+        QSKIP(qPrintable(reason));
+    const QTemporaryDir folder;
+    LoopMount::Options options;
+    options.fileSystem = kind;
+    LoopMount volume(folder.path(), options);
+    QVERIFY2(volume.isReady(), qPrintable(volume.error()));
+    const QDir root(volume.mountPoint());
+    QVERIFY(writeMarkers(root.filePath(QStringLiteral("kept")), 1234567));
+    QVERIFY(writeMarkers(root.filePath(QStringLiteral("gone")), 1234567));
+    QVERIFY(root.mkdir(QStringLiteral("folder")));
+    QVERIFY(QFile::link(root.filePath(QStringLiteral("kept")), root.filePath(QStringLiteral("folder/link"))));
+
+    WipeTask task;
+    task.addFiles({root.filePath(QStringLiteral("gone")), root.filePath(QStringLiteral("folder"))});
+    const RealJob job = runRealJob(task);
+    QVERIFY2(job.success, qPrintable(job.log.join(u'\n')));
+    QVERIFY(!root.exists(QStringLiteral("folder")));
+    QFile kept(root.filePath(QStringLiteral("kept")));
+    QVERIFY(kept.open(QIODevice::ReadOnly));
+    const QByteArray content = kept.readAll();
+    QCOMPARE(content.size(), 1234567);
+    QCOMPARE(content.count(marker()), 1234567 / marker().size());
+}
+
+QTEST_GUILESS_MAIN(TestFileResidue)
+#include "tst_fileresidue.moc"
