@@ -10,6 +10,11 @@ target_compile_definitions(quorvex_flags INTERFACE
   QT_NO_FOREACH
   _FILE_OFFSET_BITS=64)
 
+if(WIN32)
+  # Windows 10 and newer.
+  target_compile_definitions(quorvex_flags INTERFACE WINVER=0x0A00 _WIN32_WINNT=0x0A00)
+endif()
+
 if(MSVC)
   target_compile_options(quorvex_flags INTERFACE /utf-8 /W4 /WX /permissive-)
 else()
@@ -17,6 +22,8 @@ else()
     -Wall -Wextra -Werror -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align
     -Wold-style-cast -Wduplicated-cond -Wlogical-op -Wvla
     -fstack-protector-strong)
+  # Also when linking: with MinGW what it calls is a library of its own.
+  target_link_options(quorvex_flags INTERFACE -fstack-protector-strong)
   # std::string_view and friends check their bounds, which costs nothing measurable here.
   target_compile_definitions(quorvex_flags INTERFACE $<$<BOOL:${QUORVEX_ASSERTIONS}>:_GLIBCXX_ASSERTIONS>)
 endif()

@@ -16,6 +16,12 @@ export LC_ALL=C.UTF-8
     packages_ci=(git clang-format clang-tidy shellcheck)
     # Qt from source; SQLite is not among the libraries that its source package brings along.
     packages_qt_source=(cmake ninja-build g++ dpkg-dev libsqlite3-dev qt6-base-dev)
+    # The cross compilers; tcl puts SQLite's one source file together. The Qt tools that run here are those of
+    # packages_build.
+    packages_windows=(g++-mingw-w64-x86-64-posix tcl make qt6-base-dev-tools qt6-tools-dev qt6-tools-dev-tools)
+    packages_wine=(wine wine64 xvfb xauth)
+    # The program's icon, drawn at build time.
+    packages_icons=(librsvg2-bin icoutils)
 }
 
 fail() {

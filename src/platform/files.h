@@ -11,7 +11,7 @@ namespace platform {
 enum class FileKind {
     Regular, // a file whose bytes can be overwritten
     Folder,  // a real folder, never a link to one
-    Link,    // symbolic link; on Windows any reparse point (symbolic link, junction, mount point)
+    Link,    // symbolic link; on Windows any name that stands for another (also junction, mount point)
     Special, // pipe, socket, device node
 };
 
@@ -76,7 +76,9 @@ enum class OpenMode {
     // Windows: GENERIC_WRITE, FILE_SHARE_READ, OPEN_EXISTING. Linux: O_WRONLY.
     Truncate,
     // Create, or cut an existing regular file to nothing, and write. Data is on the medium after flush().
-    // Windows: GENERIC_WRITE, no sharing, CREATE_ALWAYS. Linux: O_WRONLY | O_CREAT | O_TRUNC | O_DIRECT, mode
+    // Windows: GENERIC_WRITE, no sharing, CREATE_NEW, and OPEN_EXISTING with SetEndOfFile where that finds a
+    // file: CREATE_ALWAYS would cut what a link leads to. Linux: O_WRONLY | O_CREAT | O_TRUNC | O_DIRECT,
+    // mode
     // 0600.
     CreateFill,
 };
@@ -95,13 +97,14 @@ public:
     Files &operator=(const Files &) = delete;
 
     // What stands under the path itself. FileNotFound or PathNotFound when there is nothing.
-    // Windows: GetFileAttributesExW (reparse points are Link), GetFileInformationByHandle for the link count.
-    // Linux: lstat.
+    // Windows: GetFileAttributesExW, FindFirstFileExW for the tag of a reparse point,
+    // GetFileInformationByHandle for the link count. Linux: lstat.
     virtual Result<FileInfo> info(const QString &path) = 0;
 
     // Opens a regular file. Everything else is refused with CannotAccessFile, a folder with AccessDenied,
-    // before any byte is read or written, and without blocking on a pipe. Windows: CreateFileW with
-    // FILE_FLAG_OPEN_REPARSE_POINT. Linux: open with O_NOFOLLOW | O_NONBLOCK, then fstat.
+    // before any byte is read or written, and without blocking on a pipe; also a file whose bytes the system
+    // keeps elsewhere. Windows: CreateFileW with FILE_FLAG_OPEN_REPARSE_POINT; any reparse point is refused.
+    // Linux: open with O_NOFOLLOW | O_NONBLOCK, then fstat.
     virtual Result<std::unique_ptr<FileHandle>> open(const QString &path, OpenMode mode) = 0;
 
     // Makes the file writable for its owner. Success when nothing had to change, or when nothing stands

@@ -29,7 +29,8 @@ inline platform::Platform &backend()
 inline std::filesystem::path nativePath(const QString &path)
 {
 #ifdef Q_OS_WIN
-    return path.toStdWString();
+    // The prefix lifts the limit of 260 characters.
+    return LR"(\\?\)" + QDir::toNativeSeparators(path).toStdWString();
 #else
     return QFile::encodeName(path).toStdString();
 #endif
@@ -101,10 +102,16 @@ public:
     {
         if (m_folder.isEmpty())
             return;
+#ifdef Q_OS_WIN
+        // The standard library that comes with MinGW does not get beyond 260 characters.
+        if (!QDir(m_folder).removeRecursively())
+            QTest::qFail("cannot remove the test's folder", __FILE__, __LINE__);
+#else
         std::error_code error;
         std::filesystem::remove_all(nativePath(m_folder), error);
         if (error)
             QTest::qFail(("cannot remove the test's folder: " + error.message()).c_str(), __FILE__, __LINE__);
+#endif
         m_folder.clear();
     }
     // For cleanupTestCase(): unmounts while a test can still fail over it.

@@ -81,8 +81,10 @@ QMap<QString, FileKind> TestFolders::listed(const QString &folder)
 
 void TestFolders::listingSeesEveryEntryOnce()
 {
-    const QStringList names{u".hidden"_s, u"文件.txt"_s, u"a b"_s,
-                            u"file"_s,    u"..."_s,      u".quorvex_temp_0a1b2c3d"_s};
+    QStringList names{u".hidden"_s, u"文件.txt"_s, u"a b"_s, u"file"_s, u".quorvex_temp_0a1b2c3d"_s};
+#ifndef Q_OS_WIN
+    names.append(u"..."_s); // Windows takes dots away from the end of names
+#endif
     for (const QString &name : names)
         QVERIFY(makeFile(path(name), "abc"));
     QStringList expected = names;

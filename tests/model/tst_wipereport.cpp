@@ -33,10 +33,16 @@ public:
 private:
     void set(const QByteArray &value, bool isSet)
     {
+#ifdef Q_OS_WIN
+        // The narrow calls know the characters of one code page only.
+        const std::wstring text = QString::fromUtf8(value).toStdWString();
+        ::_wputenv_s(QString::fromLatin1(m_name).toStdWString().c_str(), isSet ? text.c_str() : L"");
+#else
         if (isSet)
             qputenv(m_name, value);
         else
             qunsetenv(m_name);
+#endif
     }
 
     const char *m_name;

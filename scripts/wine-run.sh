@@ -1,0 +1,8 @@
+#!/usr/bin/env bash
+# Runs a Windows program of build/windows-cross under Wine, in a prefix of its own: scripts/wine-run.sh PROGRAM [ARGUMENT...]
+# shellcheck source=lib.sh
+source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
+source "$(dirname "${BASH_SOURCE[0]}")/wineprefix.sh"
+
+provide_wine_prefix
+exec "$wine" "$@"

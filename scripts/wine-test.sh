@@ -1,0 +1,24 @@
+#!/usr/bin/env bash
+# Builds everything for Windows and runs its tests under Wine: scripts/wine-test.sh [OPTION of ctest...]
+#
+#   scripts/wine-test.sh                    everything
+#   scripts/wine-test.sh -L windows         what only Windows has
+#   scripts/wine-test.sh -R tst_files       suites whose name matches
+#
+# Exits with what ctest exits with.
+# shellcheck source=lib.sh
+source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
+source "$(dirname "${BASH_SOURCE[0]}")/wineprefix.sh"
+
+tests_under_wine() {
+    trap end_wine EXIT
+    provide_wine_prefix
+    # shellcheck disable=SC2016  # for the inner shell
+    xvfb-run --auto-servernum bash -c 'source "$0/scripts/lib.sh"; run_tests windows-cross "$@"' "$root" "$@"
+}
+
+step "packages" install_packages "${packages_build[@]}" "${packages_windows[@]}" "${packages_wine[@]}" \
+    "${packages_icons[@]}"
+step "Qt for Windows" "$root/scripts/windows-qt.sh"
+step "build (windows-cross)" build windows-cross
+step "tests (windows-cross)" tests_under_wine "$@"

@@ -1,0 +1,139 @@
+#include "platform/windows/windowsdevices.h"
+
+#include "platform/storagereplies.h"
+#include "platform/windows/windowsquery.h"
+#include "platform/windows/windowsrawdevice.h"
+#include "platform/windows/windowsvolume.h"
+
+#include <QStorageInfo>
+
+namespace platform {
+
+namespace {
+
+// Empty for anything but a drive letter with its colon: other names below "\\.\" are devices that were not
+// meant.
+QString volumePath(const QString &name)
+{
+    if (name.size() != 2 || name.at(1) != u':')
+        return {};
+    const char16_t letter = name.at(0).toUpper().unicode();
+    if (letter < u'A' || letter > u'Z')
+        return {};
+    return QLatin1String(R"(\\.\)") + name;
+}
+
+// What the drive says of itself now must be what it said when it was chosen. An answer that is missing now
+// and was missing then is the same: some drives never tell their serial number or, behind some drivers, not
+// even their size. One that came or went means another drive.
+Status checkIdentity(const DriveIdentity &chosen, HANDLE drive)
+{
+    const Result<Geometry> geometry = askGeometry(drive);
+    const Result<QByteArray> descriptor = askDescriptor(drive);
+    if (isSameDrive(chosen, descriptor.valueOr({}), geometry.valueOr({}).sizeBytes))
+        return {};
+    const Status &unanswered = geometry ? descriptor.status() : geometry.status();
+    return {NotReady, unanswered.native, "identity check"};
+}
+
+// The volume itself names the drive it begins on; a drive under that number which cannot even be opened tells
+// nothing.
+Status checkVolume(HANDLE volume, const DriveIdentity &chosen, const QString &drivePath)
+{
+    const Result<QList<Extent>> extents = askExtents(volume, ManyExtents);
+    if (!extents)
+        return {NotReady, extents.status().native, "volume extents"};
+    if (extents.value().isEmpty() || extents.value().first().diskNumber != chosen.number)
+        return {NotReady, 0, "volume extents"};
+    const Result<WinHandle> drive = openForQuery(drivePath);
+    if (drive)
+        return checkIdentity(chosen, drive.value().get());
+    return isSameDrive(chosen, {}, 0) ? Status{} : Status{NotReady, drive.status().native, "identity check"};
+}
+
+} // namespace
+
+QString WindowsDevices::drivePath(int number)
+{
+    return number < 0 ? QString() : QStringLiteral(R"(\\.\PhysicalDrive%1)").arg(number);
+}
+
+Result<std::unique_ptr<DeviceQuery>> WindowsDevices::queryDrive(int number)
+{
+    if (number < 0)
+        return Status{FileNotFound, 0, "drive number"};
+    Result<WinHandle> drive = openForQuery(drivePath(number));
+    if (!drive)
+        return drive.status();
+    return std::unique_ptr<DeviceQuery>(std::make_unique<WindowsQuery>(drive.take()));
+}
+
+Result<std::unique_ptr<DeviceQuery>> WindowsDevices::queryVolume(const QString &name)
+{
+    const QString path = volumePath(name);
+    if (path.isEmpty())
+        return Status{FileNotFound, 0, "volume name"};
+    Result<WinHandle> volume = openForQuery(path);
+    if (!volume)
+        return volume.status();
+    return std::unique_ptr<DeviceQuery>(std::make_unique<WindowsQuery>(volume.take()));
+}
+
+Result<std::unique_ptr<RawDevice>> WindowsDevices::openDrive(const DriveIdentity &drive,
+                                                             DriveSharing /*sharing*/)
+{
+    if (drive.number < 0)
+        return Status{NotReady, 0, "drive number"};
+    Result<WinHandle> opened = openForTransfers(drivePath(drive.number));
+    if (!opened)
+        return opened.status();
+    // Asked only now that the drive is held: before, it could still be exchanged for another.
+    const Status identity = checkIdentity(drive, opened.value().get());
+    if (!identity)
+        return identity;
+    return std::unique_ptr<RawDevice>(std::make_unique<WindowsRawDevice>(opened.take()));
+}
+
+Result<std::unique_ptr<VolumeDevice>> WindowsDevices::openVolume(const QString &name,
+                                                                 const DriveIdentity &drive)
+{
+    const QString path = volumePath(name);
+    if (path.isEmpty())
+        return Status{FileNotFound, 0, "volume name"};
+    Result<WinHandle> opened = openForTransfers(path);
+    if (!opened)
+        return opened.status();
+    const Status identity = checkVolume(opened.value().get(), drive, drivePath(drive.number));
+    if (!identity)
+        return identity;
+    return std::unique_ptr<VolumeDevice>(std::make_unique<WindowsVolumeDevice>(opened.take()));
+}
+
+QStringList WindowsDevices::volumeNames()
+{
+    QStringList names;
+    for (char16_t letter = u'A'; letter <= u'Z'; ++letter)
+        names.append(QString(QChar(letter)) + u':');
+    return names;
+}
+
+QList<MountedVolume> WindowsDevices::mountedVolumes()
+{
+    QList<MountedVolume> volumes;
+    for (const QStorageInfo &storage : QStorageInfo::mountedVolumes()) {
+        MountedVolume mounted;
+        mounted.rootPath = storage.rootPath();
+        mounted.name = mounted.rootPath.left(2);
+        mounted.isReady = storage.isValid() && storage.isReady();
+        if (mounted.isReady) {
+            mounted.label = storage.name();
+            mounted.fileSystem = storage.fileSystemType();
+            mounted.totalBytes = storage.bytesTotal();
+            mounted.freeBytes = storage.bytesFree();
+        }
+        volumes.append(mounted);
+    }
+    return volumes;
+}
+
+} // namespace platform

@@ -1,0 +1,190 @@
+#include "platform/windows/windowsfiles.h"
+
+#include "platform/windows/fileattributes.h"
+#include "platform/windows/filekind.h"
+#include "platform/windows/lasterror.h"
+#include "platform/windows/windowsfilehandle.h"
+#include "platform/windows/windowspaths.h"
+#include "platform/windows/winhandle.h"
+
+#include <limits>
+
+namespace platform {
+
+namespace {
+
+constexpr DWORD ShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+
+struct OpenParameters
+{
+    DWORD access;
+    DWORD share;
+    DWORD flags;
+};
+
+OpenParameters parametersOf(OpenMode mode)
+{
+    switch (mode) {
+    case OpenMode::Overwrite:
+        return {GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ,
+                FILE_FLAG_WRITE_THROUGH | FILE_FLAG_SEQUENTIAL_SCAN | FILE_ATTRIBUTE_NORMAL};
+    case OpenMode::Verify:
+        return {GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, FILE_ATTRIBUTE_NORMAL};
+    case OpenMode::Truncate:
+        return {GENERIC_WRITE, FILE_SHARE_READ, FILE_ATTRIBUTE_NORMAL};
+    case OpenMode::CreateFill:
+        return {GENERIC_WRITE, 0, FILE_ATTRIBUTE_NORMAL};
+    }
+    Q_UNREACHABLE();
+}
+
+WinHandle openFile(const std::wstring &path, const OpenParameters &how, DWORD disposition)
+{
+    return WinHandle(win32().createFile(path.c_str(), how.access, how.share, nullptr, disposition,
+                                        how.flags | FILE_FLAG_OPEN_REPARSE_POINT, nullptr));
+}
+
+Status refusalOf(DWORD attributes, const char *operation)
+{
+    if (isPlainFolder(attributes))
+        return {AccessDenied, ERROR_ACCESS_DENIED, operation};
+    // Behind any reparse point the bytes are somebody else's, or cannot be reached from here.
+    if (attributes & (FILE_ATTRIBUTE_REPARSE_POINT | FILE_ATTRIBUTE_DEVICE))
+        return {CannotAccessFile, ERROR_CANT_ACCESS_FILE, operation};
+    return {};
+}
+
+// A file that is opened past the cache takes its pages out of the cache when nobody else has it open. Only a
+// hint: the opening that counts follows and reports what is wrong.
+void dropCached(const std::wstring &path)
+{
+    openFile(path, {GENERIC_READ, ShareAll, FILE_FLAG_NO_BUFFERING}, OPEN_EXISTING);
+}
+
+Result<WinHandle> openExisting(const std::wstring &path, OpenMode mode)
+{
+    // Opening alone already has effects on what is no regular file.
+    const Result<DWORD> found = attributesOf(path);
+    if (!found)
+        return found.status();
+    if (const Status refusal = refusalOf(found.value(), "GetFileAttributes"); !refusal)
+        return refusal;
+    if (mode == OpenMode::Verify)
+        dropCached(path);
+    WinHandle file = openFile(path, parametersOf(mode), OPEN_EXISTING);
+    if (!file.isValid())
+        return statusFromLastError("CreateFile");
+    // Something else may have taken its place meanwhile.
+    BY_HANDLE_FILE_INFORMATION opened = {};
+    if (!win32().getFileInformation(file.get(), &opened))
+        return statusFromLastError("GetFileInformationByHandle");
+    if (const Status refusal = refusalOf(opened.dwFileAttributes, "GetFileInformationByHandle"); !refusal)
+        return refusal;
+    return file;
+}
+
+// What CREATE_ALWAYS does, in two steps: that one cannot be told to leave links alone, it would cut what a
+// link leads to, and it refuses hidden and system files.
+Result<WinHandle> createOrCut(const std::wstring &path)
+{
+    WinHandle created = openFile(path, parametersOf(OpenMode::CreateFill), CREATE_NEW);
+    if (created.isValid())
+        return created;
+    const Status refusal = statusFromLastError("CreateFile");
+    if (refusal.native != ERROR_FILE_EXISTS && refusal.native != ERROR_ALREADY_EXISTS)
+        return refusal;
+    Result<WinHandle> existing = openExisting(path, OpenMode::CreateFill);
+    if (existing && !win32().setEndOfFile(existing.value().get()))
+        return statusFromLastError("SetEndOfFile");
+    return existing;
+}
+
+// How many names the file has, which only an open handle tells.
+Result<int> linkCountOf(const std::wstring &path)
+{
+    const WinHandle file = openFile(path, {FILE_READ_ATTRIBUTES, ShareAll, 0}, OPEN_EXISTING);
+    if (!file.isValid())
+        return statusFromLastError("CreateFile");
+    BY_HANDLE_FILE_INFORMATION opened = {};
+    if (!win32().getFileInformation(file.get(), &opened))
+        return statusFromLastError("GetFileInformationByHandle");
+    constexpr DWORD Most = std::numeric_limits<int>::max();
+    return static_cast<int>(qBound(DWORD(1), opened.nNumberOfLinks, Most));
+}
+
+} // namespace
+
+Result<FileInfo> WindowsFiles::info(const QString &path)
+{
+    const Result<std::wstring> name = encodePath(path);
+    if (!name)
+        return name.status();
+    WIN32_FILE_ATTRIBUTE_DATA found = {};
+    if (!win32().getFileAttributesEx(name.value().c_str(), GetFileExInfoStandard, &found))
+        return statusFromLastError("GetFileAttributesEx");
+    DWORD tag = 0;
+    if (found.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) {
+        const Result<DWORD> told = reparseTagOf(name.value());
+        if (!told)
+            return told.status();
+        tag = told.value();
+    }
+    FileInfo info;
+    info.kind = fileKindFromAttributes(found.dwFileAttributes, tag);
+    if (info.kind != FileKind::Regular)
+        return info;
+    info.size = static_cast<qint64>(quint64(found.nFileSizeHigh) << 32 | found.nFileSizeLow);
+    const Result<int> links = linkCountOf(name.value());
+    if (!links)
+        return links.status();
+    info.linkCount = links.value();
+    return info;
+}
+
+Result<std::unique_ptr<FileHandle>> WindowsFiles::open(const QString &path, OpenMode mode)
+{
+    const Result<std::wstring> name = encodePath(path);
+    if (!name)
+        return name.status();
+    Result<WinHandle> file =
+        mode == OpenMode::CreateFill ? createOrCut(name.value()) : openExisting(name.value(), mode);
+    if (!file)
+        return file.status();
+    return std::unique_ptr<FileHandle>(std::make_unique<WindowsFileHandle>(file.take()));
+}
+
+Status WindowsFiles::clearReadOnly(const QString &path)
+{
+    const Result<std::wstring> name = encodePath(path);
+    if (!name)
+        return name.status();
+    const Result<DWORD> attributes = attributesOf(name.value());
+    if (!attributes)
+        return isNothingThere(attributes.status().native) ? Status{} : attributes.status();
+    return clearReadOnlyAttribute(name.value(), attributes.value());
+}
+
+Status WindowsFiles::rename(const QString &from, const QString &to)
+{
+    const Result<std::wstring> source = encodePath(from);
+    const Result<std::wstring> target = encodePath(to);
+    if (!source || !target)
+        return source ? target.status() : source.status();
+    constexpr DWORD Flags = MOVEFILE_REPLACE_EXISTING | MOVEFILE_COPY_ALLOWED;
+    return statusOf(win32().moveFile(source.value().c_str(), target.value().c_str(), Flags), "MoveFileEx");
+}
+
+Status WindowsFiles::remove(const QString &path)
+{
+    const Result<std::wstring> name = encodePath(path);
+    if (!name)
+        return name.status();
+    const Result<DWORD> attributes = attributesOf(name.value());
+    if (!attributes)
+        return attributes.status();
+    if (isFolderLink(attributes.value()))
+        return statusOf(win32().removeDirectory(name.value().c_str()), "RemoveDirectory");
+    return statusOf(win32().deleteFile(name.value().c_str()), "DeleteFile");
+}
+
+} // namespace platform

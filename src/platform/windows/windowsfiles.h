@@ -1,0 +1,18 @@
+#pragma once
+
+#include "platform/files.h"
+
+namespace platform {
+
+// Files by way of Win32 calls. Without state.
+class WindowsFiles final : public Files
+{
+public:
+    Result<FileInfo> info(const QString &path) override;
+    Result<std::unique_ptr<FileHandle>> open(const QString &path, OpenMode mode) override;
+    Status clearReadOnly(const QString &path) override;
+    Status rename(const QString &from, const QString &to) override;
+    Status remove(const QString &path) override;
+};
+
+} // namespace platform

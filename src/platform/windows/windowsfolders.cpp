@@ -1,0 +1,133 @@
+#include "platform/windows/windowsfolders.h"
+
+#include "platform/windows/fileattributes.h"
+#include "platform/windows/filekind.h"
+#include "platform/windows/folderlisting.h"
+#include "platform/windows/lasterror.h"
+#include "platform/windows/treeremoval.h"
+#include "platform/windows/windowspaths.h"
+
+#include <limits>
+#include <optional>
+#include <vector>
+
+namespace platform {
+
+namespace {
+
+Status makeFolder(const std::wstring &path)
+{
+    const Status status = statusOf(win32().createDirectory(path.c_str(), nullptr), "CreateDirectory");
+    if (status || isNothingThere(status.native))
+        return status;
+    // Of a root that exists the system says that access is denied, not that it exists.
+    const Result<DWORD> attributes = attributesOf(path);
+    if (!attributes)
+        return status.native == ERROR_ALREADY_EXISTS ? attributes.status() : status;
+    return isPlainFolder(attributes.value()) ? Status{} : status;
+}
+
+qint64 bytesOf(const ULARGE_INTEGER &bytes)
+{
+    return static_cast<qint64>(qMin<quint64>(bytes.QuadPart, std::numeric_limits<qint64>::max()));
+}
+
+} // namespace
+
+Status WindowsFolders::forEachEntry(const QString &folder, const Visitor &visit)
+{
+    const Result<std::wstring> name = encodePath(folder);
+    if (!name)
+        return name.status();
+    // Held until the listing is bound to it: the visitor may do what it likes with the folder.
+    std::optional<FolderListing> listing;
+    {
+        const Result<HeldFolder> held = holdFolder(name.value());
+        if (!held)
+            return held.status();
+        listing.emplace(name.value());
+    }
+    return listing->forEach([&](const WIN32_FIND_DATAW &entry) {
+        return visit(decodeName(entry.cFileName),
+                     fileKindFromAttributes(entry.dwFileAttributes, entry.dwReserved0));
+    });
+}
+
+Status WindowsFolders::create(const QString &folder)
+{
+    const Result<std::wstring> name = encodePath(folder);
+    if (!name)
+        return name.status();
+    // Down from the end to the first folder that exists or can be made, then up again with the missing ones.
+    const std::size_t root = rootLength(name.value());
+    std::vector<std::wstring> missing;
+    std::wstring path = name.value();
+    Status status = makeFolder(path);
+    while (status.native == ERROR_PATH_NOT_FOUND && parentOf(path).size() > root) {
+        missing.push_back(path);
+        path = parentOf(path);
+        const Status above = makeFolder(path);
+        // Something stands there that is no folder; what was asked for is below it.
+        if (above.native == ERROR_ALREADY_EXISTS)
+            return status;
+        status = above;
+    }
+    for (; status && !missing.empty(); missing.pop_back())
+        status = makeFolder(missing.back());
+    return status;
+}
+
+Status WindowsFolders::removeEmpty(const QString &folder)
+{
+    const Result<std::wstring> name = encodePath(folder);
+    if (!name)
+        return name.status();
+    const Result<DWORD> attributes = attributesOf(name.value());
+    if (!attributes)
+        return attributes.status();
+    if (!isPlainFolder(attributes.value()))
+        return {PathNotFound, ERROR_DIRECTORY, "GetFileAttributes"};
+    return statusOf(win32().removeDirectory(name.value().c_str()), "RemoveDirectory");
+}
+
+Status WindowsFolders::removeTree(const QString &folder)
+{
+    const Result<std::wstring> name = encodePath(folder);
+    if (!name)
+        return name.status();
+    const std::wstring &path = name.value();
+    const std::wstring last = path.substr(path.rfind(L'\\') + 1);
+    // A volume's root, and what would be another folder than its name says.
+    if (path.size() <= rootLength(path) || last == L"." || last == L"..")
+        return {InvalidParameter, ERROR_INVALID_PARAMETER, "RemoveDirectory"};
+    return TreeRemoval().run(path);
+}
+
+Status WindowsFolders::hide(const QString &path)
+{
+    const Result<std::wstring> name = encodePath(path);
+    if (!name)
+        return name.status();
+    constexpr DWORD Hidden = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM;
+    return statusOf(win32().setFileAttributes(name.value().c_str(), Hidden), "SetFileAttributes");
+}
+
+Result<SpaceInfo> WindowsFolders::space(const QString &path)
+{
+    const Result<std::wstring> name = encodePath(path);
+    if (!name)
+        return name.status();
+    // The system takes folders only, and would answer for the volume that a link leads to.
+    const Result<DWORD> attributes = attributesOf(name.value());
+    if (!attributes)
+        return attributes.status();
+    const std::wstring folder =
+        entryPath(isPlainFolder(attributes.value()) ? name.value() : parentOf(name.value()), {});
+    ULARGE_INTEGER total = {};
+    ULARGE_INTEGER free = {};
+    if (!win32().getDiskFreeSpace(folder.c_str(), nullptr, &total, &free))
+        return statusFromLastError("GetDiskFreeSpaceEx");
+    return SpaceInfo{bytesOf(total), bytesOf(free)};
+}
+
+} // namespace platform

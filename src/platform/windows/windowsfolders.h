@@ -1,0 +1,22 @@
+#pragma once
+
+#include "platform/folders.h"
+
+namespace platform {
+
+// Folders by way of Win32 calls. Without state.
+class WindowsFolders final : public Folders
+{
+public:
+    Status forEachEntry(const QString &folder, const Visitor &visit) override;
+    Status create(const QString &folder) override;
+    // A link to a folder is refused with PathNotFound; Files::remove() is for those.
+    Status removeEmpty(const QString &folder) override;
+    // Read-only entries too. A mounted volume inside loses its mount point and keeps its contents.
+    Status removeTree(const QString &folder) override;
+    Status hide(const QString &path) override;
+    // For a file or link: of the volume on which it stands itself.
+    Result<SpaceInfo> space(const QString &path) override;
+};
+
+} // namespace platform

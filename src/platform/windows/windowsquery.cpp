@@ -1,0 +1,134 @@
+#include "platform/windows/windowsquery.h"
+
+#include "platform/storagereplies.h"
+#include "platform/windows/lasterror.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <cstring>
+
+namespace platform {
+
+namespace {
+
+constexpr DWORD DescriptorRoom = 10000;
+constexpr DWORD ExtentsHeader = 8;
+constexpr DWORD ExtentSize = 24;
+
+// What the replies have room for is part of what drivers are asked.
+static_assert(sizeof(DISK_GEOMETRY_EX) == 40);
+static_assert(sizeof(STORAGE_PROPERTY_QUERY) == 12);
+static_assert(sizeof(DEVICE_SEEK_PENALTY_DESCRIPTOR) == 12);
+static_assert(sizeof(DEVICE_TRIM_DESCRIPTOR) == 12);
+static_assert(offsetof(VOLUME_DISK_EXTENTS, Extents) == ExtentsHeader && sizeof(DISK_EXTENT) == ExtentSize);
+
+struct Question
+{
+    DWORD code = 0;
+    const void *input = nullptr;
+    DWORD inputSize = 0;
+};
+
+Result<QByteArray> ask(HANDLE device, const Question &question, ReplySize size, const char *operation)
+{
+    QByteArray reply(qsizetype(size.room), '\0');
+    DWORD returned = 0;
+    const BOOL answered =
+        win32().deviceIoControl(device, question.code, const_cast<void *>(question.input), question.inputSize,
+                                reply.data(), size.room, &returned, nullptr);
+    if (!answered)
+        return statusFromLastError(operation);
+    if (returned < size.needed)
+        return Status{GeneralFailure, 0, operation};
+    reply.truncate(qsizetype(std::min(returned, size.room)));
+    return reply;
+}
+
+Result<QByteArray> askProperty(HANDLE device, STORAGE_PROPERTY_ID property, ReplySize size,
+                               const char *operation)
+{
+    STORAGE_PROPERTY_QUERY query = {};
+    query.PropertyId = property;
+    query.QueryType = PropertyStandardQuery;
+    return ask(device, {IOCTL_STORAGE_QUERY_PROPERTY, &query, sizeof(query)}, size, operation);
+}
+
+Result<bool> askFlag(HANDLE device, STORAGE_PROPERTY_ID property, qsizetype flagAt, const char *operation)
+{
+    const ReplySize size{DWORD(flagAt) + 1, sizeof(DEVICE_TRIM_DESCRIPTOR)};
+    const Result<QByteArray> reply = askProperty(device, property, size, operation);
+    if (!reply)
+        return reply.status();
+    return reply.value().at(flagAt) != '\0';
+}
+
+} // namespace
+
+Result<WinHandle> openForQuery(const QString &devicePath)
+{
+    const std::wstring path = devicePath.toStdWString();
+    WinHandle device(win32().createFile(path.c_str(), 0, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
+                                        OPEN_EXISTING, 0, nullptr));
+    if (!device.isValid())
+        return statusFromLastError("CreateFile to query");
+    return device;
+}
+
+Result<QByteArray> deviceReply(HANDLE device, DWORD code, ReplySize size, const char *operation)
+{
+    return ask(device, {code, nullptr, 0}, size, operation);
+}
+
+Result<Geometry> askGeometry(HANDLE drive)
+{
+    constexpr const char *Operation = "IOCTL_DISK_GET_DRIVE_GEOMETRY_EX";
+    const Result<QByteArray> reply =
+        deviceReply(drive, IOCTL_DISK_GET_DRIVE_GEOMETRY_EX,
+                    {offsetof(DISK_GEOMETRY_EX, Data), sizeof(DISK_GEOMETRY_EX)}, Operation);
+    if (!reply)
+        return reply.status();
+    DISK_GEOMETRY_EX answer = {};
+    std::memcpy(&answer, reply.value().constData(), size_t(reply.value().size()));
+    const auto sector = qint32(answer.Geometry.BytesPerSector);
+    // Card readers without a card answer with zeros.
+    if (sector <= 0 || answer.DiskSize.QuadPart < 0)
+        return Status{NotReady, 0, Operation};
+    return Geometry{answer.DiskSize.QuadPart, sector};
+}
+
+Result<QByteArray> askDescriptor(HANDLE drive)
+{
+    return askProperty(drive, StorageDeviceProperty, {sizeof(STORAGE_DESCRIPTOR_HEADER), DescriptorRoom},
+                       "StorageDeviceProperty");
+}
+
+Result<QList<Extent>> askExtents(HANDLE volume, int maxExtents)
+{
+    constexpr const char *Operation = "IOCTL_VOLUME_GET_VOLUME_DISK_EXTENTS";
+    const DWORD room = ExtentsHeader + ExtentSize * DWORD(std::max(maxExtents, 0));
+    // The count alone is an answer: none.
+    const Result<QByteArray> reply =
+        deviceReply(volume, IOCTL_VOLUME_GET_VOLUME_DISK_EXTENTS, {sizeof(DWORD), room}, Operation);
+    if (!reply)
+        return reply.status();
+    DWORD count = 0;
+    std::memcpy(&count, reply.value().constData(), sizeof(count));
+    if (qint64(count) > maxExtents)
+        return Status{MoreData, 0, Operation};
+    return decodeExtents(reply.value());
+}
+
+Result<bool> WindowsQuery::seekPenalty()
+{
+    return askFlag(m_device.get(), StorageDeviceSeekPenaltyProperty,
+                   offsetof(DEVICE_SEEK_PENALTY_DESCRIPTOR, IncursSeekPenalty),
+                   "StorageDeviceSeekPenaltyProperty");
+}
+
+Result<bool> WindowsQuery::trimEnabled()
+{
+    return askFlag(m_device.get(), StorageDeviceTrimProperty, offsetof(DEVICE_TRIM_DESCRIPTOR, TrimEnabled),
+                   "StorageDeviceTrimProperty");
+}
+
+} // namespace platform

@@ -1,0 +1,68 @@
+#pragma once
+
+#include "platform/devices.h"
+#include "platform/windows/windowsquery.h"
+#include "platform/windows/winhandle.h"
+
+#include <QString>
+
+namespace platform {
+
+// Opens a drive or volume for raw, unbuffered, write-through transfers.
+Result<WinHandle> openForTransfers(const QString &devicePath);
+
+// Transfers to an open drive or volume. Where it ends and how large its sectors are is asked once, here; a
+// device that does not tell is taken to have sectors of 512 bytes, and shows itself where it ends.
+class DeviceTransfers
+{
+public:
+    // The most that one call of the system is given, whole sectors of any size.
+    static constexpr qint64 CallLimit = qint64(1) << 30;
+
+    explicit DeviceTransfers(WinHandle device);
+
+    HANDLE handle() const { return m_device.get(); }
+    Result<qint32> bytesPerSector() const;
+    Result<qint64> length() const;
+    Status seek(qint64 position);
+    Result<qint64> read(void *data, qint64 size);
+    Result<qint64> write(const void *data, qint64 size);
+    Status flush();
+
+private:
+    bool isAligned(const void *data, qint64 size) const;
+    qint64 withinDevice(qint64 size) const;
+    bool isAtUntoldEnd();
+
+    WinHandle m_device;
+    qint64 m_sector = 512;
+    qint64 m_end = -1; // whole sectors in bytes; below 0 unknown
+    qint64 m_position = 0;
+};
+
+// Base is RawDevice or VolumeDevice.
+template <typename Base>
+class WindowsTransfers : public Base
+{
+public:
+    explicit WindowsTransfers(WinHandle device)
+        : m_transfers(std::move(device))
+    {}
+    Result<Geometry> geometry() override { return askGeometry(handle()); }
+    Result<qint32> bytesPerSector() override { return m_transfers.bytesPerSector(); }
+    Result<qint64> length() override { return m_transfers.length(); }
+    Status seek(qint64 position) override { return m_transfers.seek(position); }
+    Result<qint64> read(void *data, qint64 size) override { return m_transfers.read(data, size); }
+    Result<qint64> write(const void *data, qint64 size) override { return m_transfers.write(data, size); }
+    Status flush() override { return m_transfers.flush(); }
+
+protected:
+    HANDLE handle() const { return m_transfers.handle(); }
+
+private:
+    DeviceTransfers m_transfers;
+};
+
+using WindowsRawDevice = WindowsTransfers<RawDevice>;
+
+} // namespace platform

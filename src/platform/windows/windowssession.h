@@ -1,0 +1,15 @@
+#pragma once
+
+#include "platform/session.h"
+
+namespace platform {
+
+class WindowsSession final : public Session
+{
+public:
+    QStringList systemVolumes() override;
+    bool isSystemRoot(const QString &rootPath) override;
+    bool holdsSystemFiles(const QString &rootPath) override;
+};
+
+} // namespace platform

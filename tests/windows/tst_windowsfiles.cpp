@@ -1,0 +1,918 @@
+#include "contract/filecontents.h"
+#include "windows/win32faults.h"
+
+#include "platform/windows/longpath.h"
+#include "platform/windows/windowsfiles.h"
+#include "platform/windows/windowsfolders.h"
+#include "platform/windows/windowspaths.h"
+#include "platform/windows/windowssession.h"
+#include "platform/windows/winhandle.h"
+
+#include <QDirIterator>
+#include <QMap>
+#include <QTemporaryDir>
+
+#include <optional>
+
+using namespace platform;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr OpenMode EveryMode[] = {OpenMode::Overwrite, OpenMode::Verify, OpenMode::Truncate,
+                                  OpenMode::CreateFill};
+constexpr DWORD Injected = ERROR_IO_DEVICE;
+
+WindowsFiles files;
+WindowsFolders folders;
+
+DWORD attributesAt(const QString &path)
+{
+    return ::GetFileAttributesW(toLongPath(path).c_str());
+}
+
+bool setAttributes(const QString &path, DWORD attributes)
+{
+    return ::SetFileAttributesW(toLongPath(path).c_str(), attributes);
+}
+
+// Opened by somebody else.
+WinHandle otherHandle(const QString &path, DWORD access, DWORD sharing)
+{
+    return WinHandle(
+        ::CreateFileW(toLongPath(path).c_str(), access, sharing, nullptr, OPEN_EXISTING, 0, nullptr));
+}
+
+// False for an administrator under Wine.
+bool isReadOnlyRespected(const QString &path)
+{
+    return !otherHandle(path, GENERIC_WRITE, FILE_SHARE_READ).isValid();
+}
+
+// Everything below a folder: attributes and contents by path.
+QMap<QString, QByteArray> snapshot(const QString &folder)
+{
+    QMap<QString, QByteArray> entries;
+    QDirIterator at(folder, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
+                    QDirIterator::Subdirectories);
+    while (at.hasNext()) {
+        const QString path = at.next();
+        const QByteArray contents = at.fileInfo().isDir() ? QByteArray("folder") : contentsOf(path);
+        entries.insert(path, QByteArray::number(uint(attributesAt(path))) + ' ' + contents);
+    }
+    return entries;
+}
+
+// The system's calls, but what is named "...link" shows a reparse point with the tag wherever one can ask.
+class PretendedLinks
+{
+public:
+    explicit PretendedLinks(DWORD tag = IO_REPARSE_TAG_SYMLINK)
+    {
+        s_tag = tag;
+        m_faults.target().getFileAttributes = [](LPCWSTR path) -> DWORD {
+            const DWORD attributes = ::GetFileAttributesW(path);
+            return attributes == INVALID_FILE_ATTRIBUTES ? attributes : marked(path, attributes);
+        };
+        m_faults.target().getFileAttributesEx = [](LPCWSTR path, GET_FILEEX_INFO_LEVELS level,
+                                                   LPVOID data) -> BOOL {
+            const BOOL found = ::GetFileAttributesExW(path, level, data);
+            auto *const file = static_cast<WIN32_FILE_ATTRIBUTE_DATA *>(data);
+            if (found)
+                file->dwFileAttributes = marked(path, file->dwFileAttributes);
+            return found;
+        };
+        m_faults.target().getFileInformation = [](HANDLE handle, LPBY_HANDLE_FILE_INFORMATION file) -> BOOL {
+            wchar_t path[1000] = {};
+            ::GetFinalPathNameByHandleW(handle, path, 1000, 0);
+            const BOOL found = ::GetFileInformationByHandle(handle, file);
+            file->dwFileAttributes = marked(path, file->dwFileAttributes);
+            return found;
+        };
+        m_faults.target().findFirstFile = [](LPCWSTR path, FINDEX_INFO_LEVELS level, LPVOID data,
+                                             FINDEX_SEARCH_OPS what, LPVOID filter, DWORD flags) -> HANDLE {
+            const HANDLE search = ::FindFirstFileExW(path, level, data, what, filter, flags);
+            mark(*static_cast<WIN32_FIND_DATAW *>(data));
+            return search;
+        };
+        m_faults.target().findNextFile = [](HANDLE search, LPWIN32_FIND_DATAW entry) -> BOOL {
+            const BOOL found = ::FindNextFileW(search, entry);
+            mark(*entry);
+            return found;
+        };
+    }
+
+    Win32Faults &faults() { return m_faults; }
+
+private:
+    static void mark(WIN32_FIND_DATAW &entry)
+    {
+        entry.dwFileAttributes = marked(entry.cFileName, entry.dwFileAttributes);
+        entry.dwReserved0 = entry.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT ? s_tag : 0;
+    }
+    static DWORD marked(const wchar_t *path, DWORD attributes)
+    {
+        return std::wstring_view(path).ends_with(L"link") ? attributes | FILE_ATTRIBUTE_REPARSE_POINT
+                                                          : attributes;
+    }
+
+    inline static DWORD s_tag = 0;
+
+    Win32Faults m_faults;
+};
+
+// Transfers that a test answers itself, in order; without an answer left they fail.
+struct Answer
+{
+    DWORD count = 0;
+    DWORD error = ERROR_SUCCESS;
+};
+QList<Answer> s_answers;
+QList<DWORD> s_asked;
+
+BOOL answer(DWORD size, LPDWORD count)
+{
+    s_asked.append(size);
+    const Answer next = s_answers.isEmpty() ? Answer{0, Injected} : s_answers.takeFirst();
+    *count = qMin(next.count, size);
+    ::SetLastError(next.error);
+    return next.error == ERROR_SUCCESS;
+}
+
+BOOL WINAPI answeredRead(HANDLE, LPVOID, DWORD size, LPDWORD count, LPOVERLAPPED)
+{
+    return answer(size, count);
+}
+
+BOOL WINAPI answeredWrite(HANDLE, LPCVOID, DWORD size, LPDWORD count, LPOVERLAPPED)
+{
+    return answer(size, count);
+}
+
+struct Operation
+{
+    const char *name;
+    std::function<Status(const QString &folder)> run;
+    // Calls whose failure is no failure of the operation.
+    QList<std::pair<int, int>> forgiven;
+    // On failure everything is as before.
+    bool changesNothing = true;
+};
+
+Status openIn(const QString &path, OpenMode mode)
+{
+    return files.open(path, mode).status();
+}
+
+// All that an open file is asked for, until something fails.
+Status useFile(const QString &path)
+{
+    const auto file = files.open(path, OpenMode::Overwrite);
+    if (!file)
+        return file.status();
+    char bytes[3] = {'x', 'y', 'z'};
+    if (const Result<qint64> count = file.value()->write(bytes, 3); !count)
+        return count.status();
+    if (const Status status = file.value()->flush(); !status)
+        return status;
+    if (const Status status = file.value()->seek(0); !status)
+        return status;
+    if (const Result<qint64> count = file.value()->read(bytes, 3); !count)
+        return count.status();
+    return file.value()->setEnd();
+}
+
+const QList<Operation> &operations()
+{
+    const auto everything = [](const QString &, FileKind) { return true; };
+    static const QList<Operation> list{
+        {"info", [](const QString &at) { return files.info(at + u"/file"_s).status(); }, {}, true},
+        {"open to overwrite",
+         [](const QString &at) { return openIn(at + u"/file"_s, OpenMode::Overwrite); },
+         {},
+         true},
+        {"open to verify",
+         [](const QString &at) { return openIn(at + u"/file"_s, OpenMode::Verify); },
+         {{Win32Faults::CreateFile_, 1}}, // the hint to drop what is cached
+         true},
+        {"open to truncate",
+         [](const QString &at) { return openIn(at + u"/file"_s, OpenMode::Truncate); },
+         {},
+         true},
+        {"open to fill a new file",
+         [](const QString &at) { return openIn(at + u"/new"_s, OpenMode::CreateFill); },
+         {},
+         true},
+        {"open to fill an existing file",
+         [](const QString &at) { return openIn(at + u"/file"_s, OpenMode::CreateFill); },
+         {},
+         true},
+        {"use of an open file", [](const QString &at) { return useFile(at + u"/file"_s); }, {}, false},
+        {"clear read-only",
+         [](const QString &at) { return files.clearReadOnly(at + u"/tree/read-only"_s); },
+         {},
+         true},
+        {"rename", [](const QString &at) { return files.rename(at + u"/file"_s, at + u"/new"_s); }, {}, true},
+        {"remove", [](const QString &at) { return files.remove(at + u"/file"_s); }, {}, true},
+        {"list", [=](const QString &at) { return folders.forEachEntry(at, everything); }, {}, true},
+        {"create", [](const QString &at) { return folders.create(at + u"/a/b/c"_s); }, {}, false},
+        {"create what exists",
+         [](const QString &at) { return folders.create(at + u"/tree"_s); },
+         {{Win32Faults::CreateDirectory_, 1}},
+         true},
+        {"remove empty", [](const QString &at) { return folders.removeEmpty(at + u"/empty"_s); }, {}, true},
+        {"remove tree", [](const QString &at) { return folders.removeTree(at + u"/tree"_s); }, {}, false},
+        {"hide", [](const QString &at) { return folders.hide(at + u"/file"_s); }, {}, true},
+        {"space", [](const QString &at) { return folders.space(at + u"/file"_s).status(); }, {}, true},
+    };
+    return list;
+}
+
+} // namespace
+
+// What only Windows has, and every call of the system failing once.
+class TestWindowsFiles : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void longPaths_data();
+    void longPaths();
+    void encodedPaths_data();
+    void encodedPaths();
+    void namesKeepEveryCharacter();
+    void opensWithWhatItPromises();
+    void fillOverAFileDoesNotFollowOrReplace();
+    void verificationDropsTheCacheFirst();
+    void renamesWithWhatItPromises();
+    void readOnlyFiles();
+    void clearReadOnlyKeepsTheOtherAttributes();
+    void hiddenFileIsFilled();
+    void hideSetsBothAttributes();
+    void fileInUse();
+    void deletedWhileOpen();
+    void renameOverAReadOnlyFile();
+    void beyond260Characters();
+    void namesThatAreNoText();
+    void rootsAreFolders();
+    void removeTreeTakesReadOnlyEntries();
+    void removeTreeGoesOnPastWhatIsInUse();
+
+    void linksAreSeen();
+    void openOfALinkIsRefused();
+    void openOfALinkThatIsSwappedIn();
+    void filesWhoseBytesLieElsewhere();
+    void linksAreNoFolders();
+    void removeTreeDoesNotEnterLinks();
+    void junctionsAreRemovedThemselves();
+
+    void transfersGoOnAfterShortOnes();
+    void transfersGoInPieces();
+    void endOfFileIsNoFailure();
+    void noRoomEndsAWrite();
+    void positionAfterAFailure();
+    void failedFlushStaysFailed();
+
+    void everyCallFailsOnce_data();
+    void everyCallFailsOnce();
+    void systemVolume();
+
+private:
+    QString path(const QString &name) const { return m_folder->filePath(name); }
+    void fillFolder();
+
+    std::optional<QTemporaryDir> m_folder;
+};
+
+void TestWindowsFiles::init()
+{
+    m_folder.emplace();
+    QVERIFY(m_folder->isValid());
+}
+
+void TestWindowsFiles::cleanup()
+{
+    QVERIFY(folders.removeTree(m_folder->path()).ok());
+    m_folder.reset();
+}
+
+void TestWindowsFiles::longPaths_data()
+{
+    QTest::addColumn<QString>("given");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("forward") << u"C:/a/b.txt"_s << uR"(\\?\C:\a\b.txt)"_s;
+    QTest::newRow("native") << uR"(C:\a\b.txt)"_s << uR"(\\?\C:\a\b.txt)"_s;
+    QTest::newRow("network") << u"//server/share/a"_s << uR"(\\?\UNC\server\share\a)"_s;
+    QTest::newRow("native network") << uR"(\\server\share\a)"_s << uR"(\\?\UNC\server\share\a)"_s;
+    QTest::newRow("prefixed") << uR"(\\?\C:\a)"_s << uR"(\\?\C:\a)"_s;
+    QTest::newRow("prefixed network") << uR"(\\?\UNC\s\h\a)"_s << uR"(\\?\UNC\s\h\a)"_s;
+}
+
+void TestWindowsFiles::longPaths()
+{
+    QFETCH(QString, given);
+    QTEST(QString::fromStdWString(toLongPath(given)), "expected");
+}
+
+void TestWindowsFiles::encodedPaths_data()
+{
+    QTest::addColumn<QString>("given");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("plain") << u"C:/a/b"_s << uR"(\\?\C:\a\b)"_s;
+    QTest::newRow("doubled separators") << u"C://a//b"_s << uR"(\\?\C:\a\b)"_s;
+    QTest::newRow("separator at the end") << u"C:/a/b/"_s << uR"(\\?\C:\a\b)"_s;
+    QTest::newRow("drive") << u"E:"_s << uR"(\\?\E:\)"_s;
+    QTest::newRow("root") << u"E:/"_s << uR"(\\?\E:\)"_s;
+    QTest::newRow("share") << u"//server/share"_s << uR"(\\?\UNC\server\share\)"_s;
+    QTest::newRow("on a share") << u"//server/share/a/"_s << uR"(\\?\UNC\server\share\a)"_s;
+    QTest::newRow("volume") << uR"(\\?\Volume{1-2}\)"_s << uR"(\\?\Volume{1-2}\)"_s;
+    QTest::newRow("on a volume") << uR"(\\?\Volume{1-2}\/a/)"_s << uR"(\\?\Volume{1-2}\a)"_s;
+    QTest::newRow("dots and blanks in names") << u"C:/a /b./..."_s << uR"(\\?\C:\a \b.\...)"_s;
+}
+
+void TestWindowsFiles::encodedPaths()
+{
+    QFETCH(QString, given);
+    const Result<std::wstring> encoded = encodePath(given);
+    QVERIFY(encoded.ok());
+    QTEST(QString::fromStdWString(encoded.value()), "expected");
+}
+
+void TestWindowsFiles::namesKeepEveryCharacter()
+{
+    for (const std::wstring name : {L"\uFEFFa", L"\uFFFEa", L"\xDC80", L"a\xD83D", L"a"}) {
+        const QString decoded = decodeName(name);
+        QCOMPARE(decoded.size(), qsizetype(name.size()));
+        QVERIFY(encodePath(u"C:/"_s + decoded).value() == LR"(\\?\C:\)" + name);
+    }
+}
+
+void TestWindowsFiles::opensWithWhatItPromises()
+{
+    QVERIFY(makeFile(path(u"file"_s), "abc"));
+    Win32Faults faults;
+    const auto lastOpening = [&](const QString &name, OpenMode mode) {
+        faults.forget();
+        const auto file = files.open(path(name), mode);
+        return file && !faults.openings().isEmpty() ? faults.openings().constLast() : Win32Faults::Opening{};
+    };
+    const auto compare = [](const Win32Faults::Opening &opening, DWORD access, DWORD sharing,
+                            DWORD disposition, DWORD flags) {
+        QCOMPARE(opening.access, access);
+        QCOMPARE(opening.sharing, sharing);
+        QCOMPARE(opening.disposition, disposition);
+        QCOMPARE(opening.flags, flags | DWORD(FILE_FLAG_OPEN_REPARSE_POINT));
+    };
+    compare(lastOpening(u"file"_s, OpenMode::Overwrite), 0xC0000000, 1, 3, 0x88000080);
+    compare(lastOpening(u"file"_s, OpenMode::Verify), 0x80000000, 3, 3, 0x80);
+    compare(lastOpening(u"file"_s, OpenMode::Truncate), 0x40000000, 1, 3, 0x80);
+    compare(lastOpening(u"new"_s, OpenMode::CreateFill), 0x40000000, 0, 1, 0x80);
+    compare(lastOpening(u"file"_s, OpenMode::CreateFill), 0x40000000, 0, 3, 0x80);
+    QCOMPARE(faults.openHandles(), 0);
+}
+
+// No call that would cut before it is known what is cut.
+void TestWindowsFiles::fillOverAFileDoesNotFollowOrReplace()
+{
+    QVERIFY(makeFile(path(u"file"_s), "abc"));
+    Win32Faults faults;
+    QVERIFY(files.open(path(u"file"_s), OpenMode::CreateFill).ok());
+    for (const Win32Faults::Opening &opening : faults.openings()) {
+        QVERIFY(opening.disposition == CREATE_NEW || opening.disposition == OPEN_EXISTING);
+        QVERIFY(opening.flags & FILE_FLAG_OPEN_REPARSE_POINT);
+    }
+    QCOMPARE(contentsOf(path(u"file"_s)), QByteArray());
+}
+
+void TestWindowsFiles::verificationDropsTheCacheFirst()
+{
+    QVERIFY(makeFile(path(u"file"_s), "abc"));
+    Win32Faults faults;
+    QVERIFY(files.open(path(u"file"_s), OpenMode::Verify).ok());
+    QCOMPARE(faults.openings().size(), 2);
+    QVERIFY(faults.openings().constFirst().flags & FILE_FLAG_NO_BUFFERING);
+    QVERIFY(!(faults.openings().constLast().flags & FILE_FLAG_NO_BUFFERING));
+}
+
+void TestWindowsFiles::renamesWithWhatItPromises()
+{
+    static DWORD s_flags = 0;
+    Win32Faults faults;
+    faults.target().moveFile = [](LPCWSTR from, LPCWSTR to, DWORD flags) -> BOOL {
+        s_flags = flags;
+        return ::MoveFileExW(from, to, flags);
+    };
+    QVERIFY(makeFile(path(u"file"_s), "abc"));
+    QVERIFY(files.rename(path(u"file"_s), path(u"new"_s)).ok());
+    QCOMPARE(s_flags, DWORD(3));
+}
+
+void TestWindowsFiles::readOnlyFiles()
+{
+    const QString name = path(u"file"_s);
+    QVERIFY(makeFile(name, "abc"));
+    QVERIFY(setAttributes(name, FILE_ATTRIBUTE_READONLY));
+    if (!isReadOnlyRespected(name))
+        QSKIP("SKIPPED: this system writes to read-only files");
+    for (const OpenMode mode : {OpenMode::Overwrite, OpenMode::Truncate, OpenMode::CreateFill})
+        QCOMPARE(files.open(name, mode).code(), quint32(AccessDenied));
+    QVERIFY(files.open(name, OpenMode::Verify).ok());
+    QCOMPARE(contentsOf(name), QByteArray("abc"));
+    QVERIFY(files.clearReadOnly(name).ok());
+    QVERIFY(files.open(name, OpenMode::Overwrite).ok());
+    QVERIFY(files.remove(name).ok());
+}
+
+void TestWindowsFiles::clearReadOnlyKeepsTheOtherAttributes()
+{
+    const QString name = path(u"file"_s);
+    QVERIFY(makeFile(name, "abc"));
+    QVERIFY(setAttributes(name, FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM));
+    const DWORD before = attributesAt(name);
+    QVERIFY(before & FILE_ATTRIBUTE_READONLY);
+    QVERIFY(files.clearReadOnly(name).ok());
+    QCOMPARE(attributesAt(name), before & ~DWORD(FILE_ATTRIBUTE_READONLY));
+}
+
+void TestWindowsFiles::hiddenFileIsFilled()
+{
+    const QString name = path(u"file"_s);
+    QVERIFY(makeFile(name, "abc"));
+    QVERIFY(folders.hide(name).ok());
+    {
+        const auto file = files.open(name, OpenMode::CreateFill);
+        QVERIFY(file.ok());
+        QCOMPARE(file.value()->write("z", 1).valueOr(-1), 1);
+    }
+    QCOMPARE(contentsOf(name), QByteArray("z"));
+}
+
+void TestWindowsFiles::hideSetsBothAttributes()
+{
+    QVERIFY(makeFile(path(u"file"_s), "abc"));
+    QVERIFY(folders.hide(path(u"file"_s)).ok());
+    constexpr DWORD Both = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM;
+    QCOMPARE(attributesAt(path(u"file"_s)) & Both, Both);
+}
+
+void TestWindowsFiles::fileInUse()
+{
+    const QString name = path(u"file"_s);
+    QVERIFY(makeFile(name, "abc"));
+    {
+        const WinHandle other = otherHandle(name, GENERIC_READ, 0);
+        QVERIFY(other.isValid());
+        for (const OpenMode mode : EveryMode)
+            QCOMPARE(files.open(name, mode).code(), quint32(SharingViolation));
+        QCOMPARE(files.remove(name).code, quint32(SharingViolation));
+        QCOMPARE(files.rename(name, path(u"new"_s)).code, quint32(SharingViolation));
+        const Result<FileInfo> info = files.info(name);
+        QVERIFY(info.ok());
+        QCOMPARE(info.value().size, 3);
+    }
+    QCOMPARE(contentsOf(name), QByteArray("abc"));
+    QVERIFY(files.remove(name).ok());
+}
+
+// Until the last handle is closed the name is there or not, as the system likes.
+void TestWindowsFiles::deletedWhileOpen()
+{
+    constexpr DWORD Everything = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+    const QString name = path(u"file"_s);
+    QVERIFY(makeFile(name, "abc"));
+    bool isPending = false;
+    {
+        const WinHandle other = otherHandle(name, GENERIC_READ, Everything);
+        QVERIFY(other.isValid());
+        QVERIFY(files.remove(name).ok());
+        isPending = !otherHandle(name, GENERIC_READ, Everything).isValid();
+        for (const OpenMode mode : {OpenMode::Overwrite, OpenMode::Verify, OpenMode::Truncate}) {
+            const quint32 code = files.open(name, mode).code();
+            QVERIFY(!isPending || code == AccessDenied || code == FileNotFound);
+        }
+    }
+    QCOMPARE(files.info(name).code(), quint32(FileNotFound));
+    if (!isPending)
+        QSKIP("SKIPPED: this system lets a deleted file be opened as long as somebody has it open");
+}
+
+void TestWindowsFiles::renameOverAReadOnlyFile()
+{
+    QVERIFY(makeFile(path(u"file"_s), "abc"));
+    QVERIFY(makeFile(path(u"new"_s), "another"));
+    QVERIFY(setAttributes(path(u"new"_s), FILE_ATTRIBUTE_READONLY));
+    if (!isReadOnlyRespected(path(u"new"_s)))
+        QSKIP("SKIPPED: this system writes to read-only files");
+    QCOMPARE(files.rename(path(u"file"_s), path(u"new"_s)).code, quint32(AccessDenied));
+    QCOMPARE(contentsOf(path(u"new"_s)), QByteArray("another"));
+    QVERIFY(files.clearReadOnly(path(u"new"_s)).ok());
+    QVERIFY(files.rename(path(u"file"_s), path(u"new"_s)).ok());
+    QCOMPARE(contentsOf(path(u"new"_s)), QByteArray("abc"));
+}
+
+void TestWindowsFiles::beyond260Characters()
+{
+    QString folder = path(u"tree"_s);
+    for (int i = 0; i < 5; ++i)
+        folder += u'/' + QString(120, QChar(u'a' + i));
+    QVERIFY(folders.create(folder).ok());
+    const QString name = folder + u"/file"_s;
+    {
+        const auto file = files.open(name, OpenMode::CreateFill);
+        QVERIFY(file.ok());
+        QCOMPARE(file.value()->write("abc", 3).valueOr(-1), 3);
+    }
+    QCOMPARE(files.info(name).value().size, 3);
+    QVERIFY(setAttributes(name, FILE_ATTRIBUTE_READONLY));
+    QStringList seen;
+    QVERIFY(folders
+                .forEachEntry(folder,
+                              [&](const QString &entry, FileKind) {
+                                  seen.append(entry);
+                                  return true;
+                              })
+                .ok());
+    QCOMPARE(seen, QStringList{u"file"_s});
+    QVERIFY(files.rename(name, folder + u"/other"_s).ok());
+    QVERIFY(folders.removeTree(path(u"tree"_s)).ok());
+    QCOMPARE(files.info(path(u"tree"_s)).code(), quint32(FileNotFound));
+}
+
+void TestWindowsFiles::namesThatAreNoText()
+{
+    const QString name = u"a"_s + QChar(0xD83D) + u"b"_s;
+    const WinHandle made(::CreateFileW(toLongPath(path(name)).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
+                                       FILE_ATTRIBUTE_NORMAL, nullptr));
+    if (!made.isValid())
+        QSKIP("SKIPPED: this file system takes no lone surrogates");
+    QStringList seen;
+    QVERIFY(folders
+                .forEachEntry(m_folder->path(),
+                              [&](const QString &entry, FileKind) {
+                                  seen.append(entry);
+                                  return true;
+                              })
+                .ok());
+    QCOMPARE(seen, QStringList{name});
+    QVERIFY(files.info(path(name)).ok());
+}
+
+// "C:" with the prefix alone would be the volume as a device.
+void TestWindowsFiles::rootsAreFolders()
+{
+    const QString drive = QDir::rootPath().left(2);
+    for (const QString &root : {drive, drive + u'/', drive + u"//"_s}) {
+        QCOMPARE(files.info(root).value().kind, FileKind::Folder);
+        for (const OpenMode mode : EveryMode)
+            QVERIFY(!files.open(root, mode).ok());
+        QVERIFY(folders.create(root).ok());
+        QVERIFY(folders.space(root).ok());
+        QCOMPARE(folders.removeTree(root).code, quint32(InvalidParameter));
+    }
+    QVERIFY(QDir().mkdir(path(u"folder"_s)));
+    for (const QString &name : {u"folder/."_s, u"folder/.."_s})
+        QCOMPARE(folders.removeTree(path(name)).code, quint32(InvalidParameter));
+    QVERIFY(QDir(path(u"folder"_s)).exists());
+}
+
+void TestWindowsFiles::removeTreeTakesReadOnlyEntries()
+{
+    QVERIFY(QDir().mkpath(path(u"tree/a/b"_s)));
+    for (const QString &name : {u"tree/file"_s, u"tree/a/b/file"_s}) {
+        QVERIFY(makeFile(path(name), "abc"));
+        QVERIFY(setAttributes(path(name), FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_HIDDEN));
+    }
+    for (const QString &name : {u"tree/a/b"_s, u"tree/a"_s, u"tree"_s})
+        QVERIFY(setAttributes(path(name), FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_SYSTEM));
+    const Status status = folders.removeTree(path(u"tree"_s));
+    QVERIFY2(status.ok(), qPrintable(status.diagnostic()));
+    QVERIFY(snapshot(m_folder->path()).isEmpty());
+}
+
+void TestWindowsFiles::removeTreeGoesOnPastWhatIsInUse()
+{
+    QVERIFY(QDir().mkpath(path(u"tree/a/b"_s)));
+    QVERIFY(QDir().mkpath(path(u"tree/c"_s)));
+    for (const QString &name : {u"tree/1"_s, u"tree/3"_s, u"tree/a/b/used"_s, u"tree/a/b/z"_s, u"tree/c/4"_s})
+        QVERIFY(makeFile(path(name), "abc"));
+    const WinHandle other = otherHandle(path(u"tree/a/b/used"_s), GENERIC_READ, FILE_SHARE_READ);
+    QVERIFY(other.isValid());
+    QCOMPARE(folders.removeTree(path(u"tree"_s)).code, quint32(SharingViolation));
+    QCOMPARE(snapshot(m_folder->path()).keys(), (QStringList{path(u"tree"_s), path(u"tree/a"_s),
+                                                             path(u"tree/a/b"_s), path(u"tree/a/b/used"_s)}));
+}
+
+void TestWindowsFiles::linksAreSeen()
+{
+    QVERIFY(makeFile(path(u"a link"_s), "abc"));
+    QVERIFY(QDir().mkdir(path(u"b link"_s)));
+    QVERIFY(makeFile(path(u"file"_s), "abc"));
+    PretendedLinks links;
+    for (const QString &name : {u"a link"_s, u"b link"_s}) {
+        const Result<FileInfo> info = files.info(path(name));
+        QVERIFY(info.ok());
+        QCOMPARE(info.value().kind, FileKind::Link);
+        QCOMPARE(info.value().size, 0);
+    }
+    QMap<QString, FileKind> seen;
+    QVERIFY(folders
+                .forEachEntry(m_folder->path(),
+                              [&](const QString &name, FileKind kind) {
+                                  seen.insert(name, kind);
+                                  return true;
+                              })
+                .ok());
+    const QMap<QString, FileKind> expected{
+        {u"a link"_s, FileKind::Link}, {u"b link"_s, FileKind::Link}, {u"file"_s, FileKind::Regular}};
+    QCOMPARE(seen, expected);
+}
+
+void TestWindowsFiles::openOfALinkIsRefused()
+{
+    QVERIFY(makeFile(path(u"link"_s), "abc"));
+    PretendedLinks links;
+    for (const OpenMode mode : EveryMode)
+        QCOMPARE(files.open(path(u"link"_s), mode).code(), quint32(CannotAccessFile));
+    QCOMPARE(contentsOf(path(u"link"_s)), QByteArray("abc"));
+    QCOMPARE(links.faults().openHandles(), 0);
+}
+
+// At the first look there was still a file.
+void TestWindowsFiles::openOfALinkThatIsSwappedIn()
+{
+    QVERIFY(makeFile(path(u"link"_s), "abc"));
+    PretendedLinks links;
+    links.faults().target().getFileAttributes = &::GetFileAttributesW;
+    for (const OpenMode mode : EveryMode)
+        QCOMPARE(files.open(path(u"link"_s), mode).code(), quint32(CannotAccessFile));
+    QCOMPARE(contentsOf(path(u"link"_s)), QByteArray("abc"));
+    QCOMPARE(links.faults().openHandles(), 0);
+}
+
+// Deduplicated files and placeholders are no links: who removed them would call them erased.
+void TestWindowsFiles::filesWhoseBytesLieElsewhere()
+{
+    QVERIFY(makeFile(path(u"link"_s), "abc"));
+    PretendedLinks deduplicated(IO_REPARSE_TAG_DEDUP);
+    const Result<FileInfo> info = files.info(path(u"link"_s));
+    QVERIFY(info.ok());
+    QCOMPARE(info.value().kind, FileKind::Regular);
+    QCOMPARE(info.value().size, 3);
+    QList<FileKind> seen;
+    QVERIFY(folders
+                .forEachEntry(m_folder->path(),
+                              [&](const QString &, FileKind kind) {
+                                  seen.append(kind);
+                                  return true;
+                              })
+                .ok());
+    QCOMPARE(seen, QList<FileKind>{FileKind::Regular});
+    for (const OpenMode mode : EveryMode)
+        QCOMPARE(files.open(path(u"link"_s), mode).code(), quint32(CannotAccessFile));
+    QCOMPARE(contentsOf(path(u"link"_s)), QByteArray("abc"));
+}
+
+void TestWindowsFiles::linksAreNoFolders()
+{
+    QVERIFY(QDir().mkdir(path(u"link"_s)));
+    PretendedLinks links;
+    const auto visit = [](const QString &, FileKind) {
+        QTest::qFail("nothing was to be seen", __FILE__, __LINE__);
+        return true;
+    };
+    QCOMPARE(folders.forEachEntry(path(u"link"_s), visit).code, quint32(PathNotFound));
+    QCOMPARE(folders.create(path(u"link"_s)).code, quint32(AlreadyExists));
+    QCOMPARE(folders.removeEmpty(path(u"link"_s)).code, quint32(PathNotFound));
+    QCOMPARE(folders.removeTree(path(u"link"_s)).code, quint32(PathNotFound));
+    QVERIFY(folders.space(path(u"link"_s)).ok());
+    QVERIFY(QDir(path(u"link"_s)).exists());
+    QVERIFY(files.remove(path(u"link"_s)).ok());
+    QVERIFY(!QDir(path(u"link"_s)).exists());
+}
+
+// Being a folder in truth, the link cannot be removed while something is in it.
+void TestWindowsFiles::removeTreeDoesNotEnterLinks()
+{
+    QVERIFY(QDir().mkpath(path(u"tree/a/link"_s)));
+    QVERIFY(makeFile(path(u"tree/a/link/file"_s), "abc"));
+    QVERIFY(makeFile(path(u"tree/b"_s), "abc"));
+    {
+        PretendedLinks links;
+        QCOMPARE(folders.removeTree(path(u"tree"_s)).code, quint32(DirectoryNotEmpty));
+    }
+    QCOMPARE(contentsOf(path(u"tree/a/link/file"_s)), QByteArray("abc"));
+    QVERIFY(!QFile::exists(path(u"tree/b"_s)));
+}
+
+void TestWindowsFiles::junctionsAreRemovedThemselves()
+{
+    QVERIFY(QDir().mkpath(path(u"tree"_s)));
+    QVERIFY(QDir().mkpath(path(u"outside"_s)));
+    QVERIFY(makeFile(path(u"outside/file"_s), "abc"));
+    const QString link = path(u"tree/junction"_s);
+    ::CreateSymbolicLinkW(toLongPath(link).c_str(),
+                          QDir::toNativeSeparators(path(u"outside"_s)).toStdWString().c_str(),
+                          SYMBOLIC_LINK_FLAG_DIRECTORY | SYMBOLIC_LINK_FLAG_ALLOW_UNPRIVILEGED_CREATE);
+    const DWORD attributes = attributesAt(link);
+    if (attributes == INVALID_FILE_ATTRIBUTES || !(attributes & FILE_ATTRIBUTE_REPARSE_POINT))
+        QSKIP("SKIPPED: links cannot be created here");
+    QCOMPARE(files.info(link).value().kind, FileKind::Link);
+    QCOMPARE(files.open(link, OpenMode::Overwrite).code(), quint32(CannotAccessFile));
+    QVERIFY(folders.removeTree(path(u"tree"_s)).ok());
+    QCOMPARE(contentsOf(path(u"outside/file"_s)), QByteArray("abc"));
+}
+
+void TestWindowsFiles::transfersGoOnAfterShortOnes()
+{
+    QVERIFY(makeFile(path(u"file"_s), QByteArray(5000, 'a')));
+    Win32Faults faults;
+    faults.target().writeFile = [](HANDLE file, LPCVOID data, DWORD size, LPDWORD count,
+                                   LPOVERLAPPED overlapped) -> BOOL {
+        return ::WriteFile(file, data, qMin<DWORD>(size, 700), count, overlapped);
+    };
+    faults.target().readFile = [](HANDLE file, LPVOID data, DWORD size, LPDWORD count,
+                                  LPOVERLAPPED overlapped) -> BOOL {
+        return ::ReadFile(file, data, qMin<DWORD>(size, 300), count, overlapped);
+    };
+    QRandomGenerator random = printedRandom();
+    const QByteArray bytes = randomBytes(random, 5000);
+    const auto file = files.open(path(u"file"_s), OpenMode::Overwrite);
+    QVERIFY(file.ok());
+    QCOMPARE(file.value()->write(bytes.constData(), bytes.size()).valueOr(-1), bytes.size());
+    QVERIFY(file.value()->seek(0).ok());
+    QByteArray found(6000, '\0');
+    QCOMPARE(file.value()->read(found.data(), found.size()).valueOr(-1), bytes.size());
+    QCOMPARE(firstDifference(found.left(5000), bytes), -1);
+}
+
+// More than a length of 32 bits holds; the memory is only reserved, nobody looks at it.
+void TestWindowsFiles::transfersGoInPieces()
+{
+    constexpr qint64 Size = 5LL * 1024 * 1024 * 1024 + 77;
+    void *const memory = ::VirtualAlloc(nullptr, SIZE_T(Size), MEM_RESERVE, PAGE_NOACCESS);
+    QVERIFY(memory);
+    QVERIFY(makeFile(path(u"file"_s), {}));
+    Win32Faults faults;
+    faults.target().writeFile = &answeredWrite;
+    faults.target().readFile = &answeredRead;
+    const auto file = files.open(path(u"file"_s), OpenMode::Overwrite);
+    QVERIFY(file.ok());
+    for (const bool isRead : {false, true}) {
+        s_asked.clear();
+        s_answers = QList<Answer>(6, Answer{MAXDWORD, ERROR_SUCCESS});
+        const Result<qint64> count =
+            isRead ? file.value()->read(memory, Size) : file.value()->write(memory, Size);
+        QCOMPARE(count.valueOr(-1), Size);
+        QCOMPARE(s_asked.size(), 6);
+        for (const DWORD asked : std::as_const(s_asked))
+            QVERIFY(asked <= DWORD(1024) * 1024 * 1024);
+    }
+    QVERIFY(::VirtualFree(memory, 0, MEM_RELEASE));
+}
+
+void TestWindowsFiles::endOfFileIsNoFailure()
+{
+    QVERIFY(makeFile(path(u"file"_s), "abc"));
+    Win32Faults faults;
+    faults.target().readFile = &answeredRead;
+    const auto file = files.open(path(u"file"_s), OpenMode::Verify);
+    QVERIFY(file.ok());
+    char bytes[100];
+    s_answers = {{10, ERROR_SUCCESS}, {0, ERROR_HANDLE_EOF}};
+    QCOMPARE(file.value()->read(bytes, 100).valueOr(-1), 10);
+    s_answers = {{10, ERROR_SUCCESS}, {0, ERROR_CRC}};
+    QCOMPARE(file.value()->read(bytes, 100).code(), quint32(ERROR_CRC));
+}
+
+void TestWindowsFiles::noRoomEndsAWrite()
+{
+    QVERIFY(makeFile(path(u"file"_s), "abc"));
+    Win32Faults faults;
+    faults.target().writeFile = &answeredWrite;
+    const auto file = files.open(path(u"file"_s), OpenMode::Overwrite);
+    QVERIFY(file.ok());
+    const char bytes[100] = {};
+    for (const DWORD error : {112, 39, 1295, 223}) {
+        s_answers = {{10, ERROR_SUCCESS}, {0, error}};
+        QCOMPARE(file.value()->write(bytes, 100).valueOr(-1), 10);
+        s_answers = {{0, error}};
+        QCOMPARE(file.value()->write(bytes, 100).code(), quint32(error));
+    }
+    s_answers = {{10, ERROR_SUCCESS}, {0, Injected}};
+    QCOMPARE(file.value()->write(bytes, 100).code(), quint32(Injected));
+    s_answers = {{10, ERROR_SUCCESS}, {0, ERROR_SUCCESS}};
+    QCOMPARE(file.value()->write(bytes, 100).valueOr(-1), 10);
+}
+
+// The call had moved the file pointer before it failed.
+void TestWindowsFiles::positionAfterAFailure()
+{
+    const QString name = path(u"file"_s);
+    QVERIFY(makeFile(name, "abcdef"));
+    Win32Faults faults;
+    const auto file = files.open(name, OpenMode::Overwrite);
+    QVERIFY(file.ok());
+    QVERIFY(file.value()->seek(1).ok());
+    faults.target().writeFile = [](HANDLE handle, LPCVOID data, DWORD size, LPDWORD count,
+                                   LPOVERLAPPED overlapped) -> BOOL {
+        ::WriteFile(handle, data, size, count, overlapped);
+        ::SetLastError(Injected);
+        return FALSE;
+    };
+    QCOMPARE(file.value()->write("12", 2).code(), quint32(Injected));
+    faults.target().writeFile = &::WriteFile;
+    QCOMPARE(file.value()->write("xy", 2).valueOr(-1), 2);
+    QCOMPARE(contentsOf(name), QByteArray("axydef"));
+}
+
+void TestWindowsFiles::failedFlushStaysFailed()
+{
+    QVERIFY(makeFile(path(u"file"_s), "abc"));
+    Win32Faults faults;
+    const auto file = files.open(path(u"file"_s), OpenMode::Overwrite);
+    QVERIFY(file.ok());
+    faults.fail(Win32Faults::FlushFileBuffers_, 1, Injected);
+    QCOMPARE(file.value()->flush().code, quint32(Injected));
+    QCOMPARE(file.value()->flush().code, quint32(Injected));
+}
+
+void TestWindowsFiles::everyCallFailsOnce_data()
+{
+    QTest::addColumn<int>("operation");
+    for (int i = 0; i < operations().size(); ++i)
+        QTest::newRow(operations().at(i).name) << i;
+}
+
+void TestWindowsFiles::fillFolder()
+{
+    QVERIFY(QDir().mkpath(path(u"at/tree/a/b"_s)));
+    QVERIFY(QDir().mkpath(path(u"at/tree/c"_s)));
+    QVERIFY(QDir().mkpath(path(u"at/empty"_s)));
+    for (const QString &name : {u"beside"_s, u"at/file"_s, u"at/tree/1"_s, u"at/tree/read-only"_s,
+                                u"at/tree/a/2"_s, u"at/tree/a/b/3"_s})
+        QVERIFY(makeFile(path(name), "abc"));
+    QVERIFY(setAttributes(path(u"at/tree/read-only"_s), FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_HIDDEN));
+}
+
+void TestWindowsFiles::everyCallFailsOnce()
+{
+    QFETCH(int, operation);
+    const Operation &scenario = operations().at(operation);
+    int fired = 0;
+    for (int call = 0; call <= Win32Faults::GetDiskFreeSpace_; ++call) {
+        for (int nth = 1;; ++nth) {
+            fillFolder();
+            QVERIFY(!QTest::currentTestFailed());
+            const QMap<QString, QByteArray> before = snapshot(path(u"at"_s));
+            Win32Faults faults;
+            faults.fail(call, nth, Injected);
+            const Status status = scenario.run(path(u"at"_s));
+            const QByteArray where =
+                "call " + QByteArray::number(call) + ", number " + QByteArray::number(nth);
+            QVERIFY2(faults.openHandles() == 0, where.constData());
+            QCOMPARE(contentsOf(path(u"beside"_s)), QByteArray("abc"));
+            const bool isOver = faults.fired() == 0;
+            const bool isClosing = call == Win32Faults::CloseHandle_ || call == Win32Faults::FindClose_;
+            if (isOver || isClosing || scenario.forgiven.contains({call, nth})) {
+                QVERIFY2(status.ok(), (where + ": " + status.diagnostic().toUtf8()).constData());
+            } else {
+                ++fired;
+                QVERIFY2(status.code == Injected, (where + ": " + status.diagnostic().toUtf8()).constData());
+                if (scenario.changesNothing)
+                    QVERIFY2(snapshot(path(u"at"_s)) == before, where.constData());
+            }
+            faults.failNothing();
+            QVERIFY(folders.removeTree(path(u"at"_s)).ok());
+            if (isOver)
+                break;
+        }
+    }
+    QVERIFY(fired > 0);
+}
+
+void TestWindowsFiles::systemVolume()
+{
+    WindowsSession session;
+    const QByteArray before = qgetenv("SystemDrive");
+    qputenv("SystemDrive", "Q:");
+    QCOMPARE(session.systemVolumes(), QStringList{u"Q:"_s});
+    qunsetenv("SystemDrive");
+    QCOMPARE(session.systemVolumes(), QStringList{u"C:"_s});
+    qputenv("SystemDrive", before);
+    QVERIFY(session.isSystemRoot(u"c:/"_s));
+    QVERIFY(!session.isSystemRoot(u"D:/"_s));
+    Win32Faults faults;
+    faults.target().getWindowsDirectory = [](LPWSTR folder, UINT) -> UINT {
+        const std::wstring_view name = LR"(W:\Windows)";
+        std::copy(name.begin(), name.end(), folder);
+        return UINT(name.size());
+    };
+    QVERIFY(session.holdsSystemFiles(u"w:/"_s));
+    QVERIFY(!session.holdsSystemFiles(u"C:/"_s));
+}
+
+QTEST_GUILESS_MAIN(TestWindowsFiles)
+#include "tst_windowsfiles.moc"

@@ -1,0 +1,272 @@
+#include <QDir>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <windows.h>
+
+#include <atomic>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Ctrl+C goes to every process of the console, this one included.
+std::atomic<bool> s_interrupted{false};
+
+BOOL WINAPI noteControl(DWORD)
+{
+    s_interrupted = true;
+    return TRUE;
+}
+
+struct Finished
+{
+    int code = -1;
+    bool crashed = true;
+    QByteArray out;
+    QByteArray err;
+};
+
+} // namespace
+
+// The program itself, with the arguments, streams and console of Windows. It sees no real drive and no folder
+// of the user.
+class TestWindowsProgram : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+
+    void itTellsItsVersion();
+    void itListsTheMethods();
+    void itListsTheImage();
+    void anImageIsErasedToTheLastByte();
+    void filesAreErasedWhateverTheirNames_data();
+    void filesAreErasedWhateverTheirNames();
+    void aFolderIsErased();
+    void aLongPathIsErased();
+    void namesComeOutAsUtf8();
+    void withoutAConsoleItRefuses();
+    void exitCodes_data();
+    void exitCodes();
+    void interruptCancelsTheJob();
+
+private:
+    QString image(qint64 size = 1 << 20)
+    {
+        const QString name = m_folder->filePath(u"disk.img"_s);
+        makeFile(name, QByteArray(size, 'x'));
+        return name;
+    }
+    static void makeFile(const QString &name, const QByteArray &bytes)
+    {
+        QFile file(name);
+        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+            qFatal("no file");
+    }
+    static QByteArray content(const QString &name)
+    {
+        QFile file(name);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("not there");
+    }
+    Finished run(const QStringList &arguments, const std::function<void()> &onProgress = {})
+    {
+        QProcess process;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(u"QUORVEX_ONLY_IMAGE_DISKS"_s, u"1"_s);
+        process.setProcessEnvironment(environment);
+        process.start(QStringLiteral(QUORVEX_CLI),
+                      arguments + QStringList{u"--data-dir"_s, m_folder->filePath(u"data"_s)});
+        Finished finished;
+        bool told = false;
+        while (process.state() != QProcess::NotRunning) {
+            process.waitForReadyRead(100);
+            finished.out += process.readAllStandardOutput();
+            if (onProgress && !told && finished.out.contains("\"progress\"")) {
+                told = true;
+                onProgress();
+            }
+        }
+        finished.out += process.readAllStandardOutput();
+        finished.err = process.readAllStandardError();
+        finished.crashed = process.exitStatus() != QProcess::NormalExit;
+        finished.code = process.exitCode();
+        return finished;
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+};
+
+void TestWindowsProgram::initTestCase()
+{
+    // The program inherits the console, and with it who is told of Ctrl+C.
+    ::AllocConsole();
+    QVERIFY(::SetConsoleCtrlHandler(noteControl, TRUE));
+}
+
+void TestWindowsProgram::init()
+{
+    m_folder = std::make_unique<QTemporaryDir>();
+    QVERIFY(m_folder->isValid());
+}
+
+void TestWindowsProgram::itTellsItsVersion()
+{
+    const Finished finished = run({u"--version"_s});
+    QCOMPARE(finished.code, 0);
+    QCOMPARE(finished.out, QByteArray("Quorvex 5.0\n"));
+    QCOMPARE(finished.err, QByteArray());
+}
+
+void TestWindowsProgram::itListsTheMethods()
+{
+    const Finished finished = run({u"methods"_s, u"--json"_s});
+    QCOMPARE(finished.code, 0);
+    const QJsonArray methods = QJsonDocument::fromJson(finished.out).array();
+    QCOMPARE(methods.size(), 5);
+    QCOMPARE(methods.at(4).toObject().value(u"passes"_s).toArray().size(), 35);
+}
+
+void TestWindowsProgram::itListsTheImage()
+{
+    const Finished finished = run({u"disks"_s, u"--json"_s, u"--image"_s, image(1'000'448)});
+    QCOMPARE(finished.code, 0);
+    const QJsonArray disks = QJsonDocument::fromJson(finished.out).array();
+    QCOMPARE(disks.size(), 1);
+    QCOMPARE(disks.at(0).toObject().value(u"sizeBytes"_s), QJsonValue(u"1000448"_s));
+    QCOMPARE(disks.at(0).toObject().value(u"isSystemDisk"_s), QJsonValue(false));
+}
+
+void TestWindowsProgram::anImageIsErasedToTheLastByte()
+{
+    const QString path = image(5'000'700); // no whole number of sectors
+    const QString report = m_folder->filePath(u"证书 ü.json"_s);
+    const Finished finished =
+        run({u"wipe"_s, u"disk"_s, u"0"_s, u"--image"_s, path, u"--report"_s, report, u"--yes"_s});
+    QCOMPARE(finished.code, 0);
+    QCOMPARE(content(path), QByteArray(5'000'700, '\0'));
+    QVERIFY(finished.out.trimmed().split('\n').constLast().startsWith("DONE: "));
+    const QJsonObject json = QJsonDocument::fromJson(content(report)).object();
+    QVERIFY(json.value(u"verificationPassed"_s).toBool());
+    QCOMPARE(json.value(u"computerName"_s), QJsonValue(qEnvironmentVariable("COMPUTERNAME")));
+}
+
+void TestWindowsProgram::filesAreErasedWhateverTheirNames_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("plain") << u"plain.txt"_s;
+    QTest::newRow("blank") << u"with blank and 'quote'.txt"_s;
+    QTest::newRow("German") << u"größe.txt"_s;
+    QTest::newRow("Chinese") << u"机密文件.txt"_s;
+    QTest::newRow("beyond the basic plane") << QString::fromUtf8("\xF0\x9F\x94\x92.txt");
+    QTest::newRow("lone surrogate") << QString(u"lone"_s) + QChar(0xD800) + u".txt"_s;
+}
+
+void TestWindowsProgram::filesAreErasedWhateverTheirNames()
+{
+    QFETCH(const QString, name);
+    const QString path = m_folder->filePath(name);
+    QFile file(path);
+    const bool isMade = file.open(QIODevice::WriteOnly);
+    QVERIFY(!isMade || file.write(QByteArray(70'000, 's')) == 70'000);
+    file.close();
+    if (!isMade || !QDir(m_folder->path()).entryList(QDir::Files).contains(name))
+        QSKIP("SKIPPED: the file system below does not keep this name");
+    const Finished finished = run({u"wipe"_s, u"files"_s, path, u"--yes"_s});
+    QCOMPARE(finished.code, 0);
+    QVERIFY(!QFile::exists(path));
+    QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files), QStringList());
+}
+
+void TestWindowsProgram::aFolderIsErased()
+{
+    const QString folder = m_folder->filePath(u"项目/b/c"_s);
+    QVERIFY(QDir().mkpath(folder));
+    makeFile(folder + u"/one"_s, "1");
+    makeFile(folder + u"/two"_s, QByteArray(1 << 20, '2'));
+    const QString readOnly = folder + u"/read only"_s;
+    makeFile(readOnly, "3");
+    QVERIFY(QFile::setPermissions(readOnly, QFile::ReadOwner | QFile::ReadUser));
+    const Finished finished = run({u"wipe"_s, u"files"_s, m_folder->filePath(u"项目"_s), u"--yes"_s});
+    QCOMPARE(finished.code, 0);
+    QVERIFY(!QFile::exists(m_folder->filePath(u"项目"_s)));
+}
+
+void TestWindowsProgram::aLongPathIsErased()
+{
+    QString folder = m_folder->path();
+    while (folder.size() < 300)
+        folder += u"/0123456789012345678901234567890123456789"_s;
+    QVERIFY(QDir().mkpath(folder));
+    makeFile(folder + u"/file"_s, "secret");
+    const Finished finished = run({u"wipe"_s, u"files"_s, folder + u"/file"_s, u"--yes"_s});
+    QCOMPARE(finished.code, 0);
+    QVERIFY(!QFile::exists(folder + u"/file"_s));
+}
+
+void TestWindowsProgram::namesComeOutAsUtf8()
+{
+    const QString path = m_folder->filePath(u"没有.txt"_s);
+    const Finished finished = run({u"wipe"_s, u"files"_s, path, u"--yes"_s});
+    QCOMPARE(finished.code, 3);
+    QVERIFY2(finished.err.contains("没有.txt"), finished.err.constData());
+}
+
+void TestWindowsProgram::withoutAConsoleItRefuses()
+{
+    // Its standard input is a pipe: nobody can type the word.
+    const QString path = image();
+    const Finished finished = run({u"wipe"_s, u"disk"_s, u"0"_s, u"--image"_s, path});
+    QCOMPARE(finished.code, 3);
+    QCOMPARE(content(path), QByteArray(1 << 20, 'x'));
+}
+
+void TestWindowsProgram::exitCodes_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<int>("code");
+    QTest::newRow("help") << QStringList{u"--help"_s} << 0;
+    QTest::newRow("unknown command") << QStringList{u"burn"_s} << 2;
+    QTest::newRow("unknown option") << QStringList{u"disks"_s, u"--burn"_s} << 2;
+    QTest::newRow("no such drive") << QStringList{u"wipe"_s, u"disk"_s, u"7"_s, u"--yes"_s} << 3;
+    QTest::newRow("no such file") << QStringList{u"wipe"_s, u"files"_s, u"C:\\no such file"_s, u"--yes"_s}
+                                  << 3;
+    QTest::newRow("no such image") << QStringList{u"disks"_s, u"--image"_s, u"C:\\no such image"_s} << 3;
+}
+
+void TestWindowsProgram::exitCodes()
+{
+    QFETCH(const QStringList, arguments);
+    QFETCH(const int, code);
+    const Finished finished = run(arguments);
+    QVERIFY(!finished.crashed);
+    QVERIFY2(finished.code == code, (QByteArray::number(finished.code) + ": " + finished.err).constData());
+}
+
+void TestWindowsProgram::interruptCancelsTheJob()
+{
+    s_interrupted = false;
+    const QString report = m_folder->filePath(u"report.json"_s);
+    const Finished finished =
+        run({u"wipe"_s, u"disk"_s, u"0"_s, u"--image"_s, image(64 << 20), u"--yes"_s, u"--method"_s,
+             u"gutmann"_s, u"--buffer-mb"_s, u"1"_s, u"--json"_s, u"--report"_s, report},
+            [] { QVERIFY(::GenerateConsoleCtrlEvent(CTRL_C_EVENT, 0)); });
+    QVERIFY(s_interrupted);
+    QVERIFY(!finished.crashed);
+    QCOMPARE(finished.code, 4);
+    const QJsonObject last = QJsonDocument::fromJson(finished.out.trimmed().split('\n').constLast()).object();
+    QCOMPARE(last.value(u"event"_s), QJsonValue(u"finished"_s));
+    QCOMPARE(last.value(u"cancelled"_s), QJsonValue(true));
+    QCOMPARE(last.value(u"success"_s), QJsonValue(false));
+    QCOMPARE(QJsonDocument::fromJson(content(report)).object(), last.value(u"report"_s).toObject());
+}
+
+QTEST_GUILESS_MAIN(TestWindowsProgram)
+#include "tst_windowsprogram.moc"
