@@ -1,24 +1,23 @@
 #include "engine/chunkpipeline.h"
 
-#include <QtConcurrent>
+#include <QDebug>
 
 #include <cstring>
+#include <system_error>
 #include <utility>
 
 ChunkPipeline::ChunkPipeline(Fill fill)
     : m_fill(std::move(fill))
-{
-    m_pool.setMaxThreadCount(1);
-}
+{}
 
 ChunkPipeline::~ChunkPipeline()
 {
-    m_helper.waitForFinished();
+    waitForHelper();
 }
 
 bool ChunkPipeline::beginPass(const PassPattern &pattern, qint64 chunkLimit)
 {
-    m_helper.waitForFinished();
+    waitForHelper();
     m_pattern = pattern;
     m_filled = 0;
     const auto provide = [chunkLimit](platform::AlignedBuffer &buffer) {
@@ -46,16 +45,28 @@ void ChunkPipeline::prepare(qint64 size)
     if (!isRandom() || size <= m_ready)
         return;
     Q_ASSERT(size <= other().size());
+    waitForHelper();
     std::byte *from = other().data() + m_ready;
     const qint64 missing = size - m_ready;
-    m_ready = size;
-    m_helper = QtConcurrent::run(
-        &m_pool, [this, from, missing, pattern = m_pattern] { m_fill(from, missing, pattern); });
+    // A thread of its own, not one of a pool: a pool waits for ever for a thread that the system refuses.
+    try {
+        m_helper =
+            std::thread([this, from, missing, pattern = m_pattern] { m_fill(from, missing, pattern); });
+        m_ready = size;
+    } catch (const std::system_error &refused) {
+        qDebug() << "[ChunkPipeline] no helper thread:" << refused.what(); // take() produces the chunk itself
+    }
+}
+
+void ChunkPipeline::waitForHelper()
+{
+    if (m_helper.joinable())
+        m_helper.join();
 }
 
 const std::byte *ChunkPipeline::takeRandom(qint64 size)
 {
-    m_helper.waitForFinished();
+    waitForHelper();
     if (m_ready > 0)
         m_current = 1 - m_current;
     Q_ASSERT(size > 0 && size <= current().size());

@@ -3,13 +3,12 @@
 #include "model/wipemethod.h"
 #include "platform/alignedbuffer.h"
 
-#include <QFuture>
-#include <QThreadPool>
 #include <QtGlobal>
 
 #include <array>
 #include <cstddef>
 #include <functional>
+#include <thread>
 
 // The data of a job's passes, chunk by chunk, in page-aligned memory. What is constant over a pass is put
 // into memory once. Random data for the next chunk is produced on a helper thread while the caller writes the
@@ -28,6 +27,8 @@ public:
     explicit ChunkPipeline(Fill fill);
     // Waits for the helper.
     ~ChunkPipeline();
+    ChunkPipeline(const ChunkPipeline &) = delete;
+    ChunkPipeline &operator=(const ChunkPipeline &) = delete;
 
     // Begins a pass whose chunks have at most chunkLimit bytes. False when there is no memory for it.
     bool beginPass(const PassPattern &pattern, qint64 chunkLimit);
@@ -44,13 +45,13 @@ private:
     platform::AlignedBuffer &current() { return m_buffers[m_current]; }
     platform::AlignedBuffer &other() { return m_buffers[1 - m_current]; }
     const std::byte *takeRandom(qint64 size);
+    void waitForHelper();
 
     Fill m_fill;
     PassPattern m_pattern;
     std::array<platform::AlignedBuffer, 2> m_buffers;
     std::size_t m_current = 0;
-    qint64 m_filled = 0; // of the current buffer, in a pass that is not random
-    qint64 m_ready = 0;  // of the other buffer, produced or being produced ahead
-    QThreadPool m_pool;
-    QFuture<void> m_helper;
+    qint64 m_filled = 0;  // of the current buffer, in a pass that is not random
+    qint64 m_ready = 0;   // of the other buffer, produced or being produced ahead
+    std::thread m_helper; // joinable while it may run
 };

@@ -1,10 +1,10 @@
 #include "engine/filedeletion.h"
 
 #include "engine/filepresence.h"
+#include "engine/filetrace.h"
 #include "platform/files.h"
 #include "platform/platform.h"
 
-#include <QDebug>
 #include <QDir>
 #include <QLatin1String>
 #include <QRandomGenerator>
@@ -26,12 +26,6 @@ constexpr int RandomNameLength = 12;
 platform::Files &files()
 {
     return platform::Platform::current().files();
-}
-
-void trace(const QString &path, const Status &status)
-{
-    if (!status)
-        qDebug().noquote() << "[FileWipe]" << path << status.diagnostic();
 }
 
 Status cutToNothing(const QString &path)
@@ -71,9 +65,9 @@ bool FileDeletion::secureDeleteFile(const QString &path)
     if (info.value().kind == FileKind::Folder)
         return true;
 
-    trace(path, files().clearReadOnly(path));
+    traceFile(path, files().clearReadOnly(path));
     if (info.value().kind == FileKind::Regular)
-        trace(path, cutToNothing(path));
+        traceFile(path, cutToNothing(path));
     const QString renamed = randomRenameFile(path);
     const QString target = renamed.isEmpty() ? path : renamed;
     removeWithRetries(target);
@@ -93,7 +87,7 @@ QString FileDeletion::randomRenameFile(const QString &path)
         const Status renamed = files().rename(path, candidate);
         if (renamed)
             return candidate;
-        trace(path, renamed);
+        traceFile(path, renamed);
     }
     return {};
 }
@@ -105,7 +99,7 @@ void FileDeletion::removeWithRetries(const QString &path)
         const Status removed = files().remove(path);
         if (removed)
             return;
-        trace(path, removed);
+        traceFile(path, removed);
         if (removed.code != platform::SharingViolation && removed.code != platform::AccessDenied)
             return;
         if (attempt < RemoveAttempts && !m_pause(RemovePause))

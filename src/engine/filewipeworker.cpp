@@ -3,6 +3,7 @@
 #include "engine/copyonwrite.h"
 #include "engine/filedeletion.h"
 #include "engine/filepresence.h"
+#include "engine/filetrace.h"
 #include "model/displaytext.h"
 #include "model/formatsize.h"
 #include "model/wipetask.h"
@@ -12,14 +13,13 @@
 #include "platform/platform.h"
 
 #include <QDebug>
-#include <QMutexLocker>
-#include <QRandomGenerator>
 #include <QThread>
 
 #include <algorithm>
-#include <array>
+#include <atomic>
 #include <new>
 #include <utility>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 using platform::FileKind;
@@ -32,19 +32,10 @@ constexpr qint64 MiB = 1024LL * 1024;
 constexpr qint64 SmallestBuffer = 256LL * 1024;
 constexpr qint64 LargestBuffer = 16 * MiB;
 constexpr int DefaultBufferMB = 4;
-constexpr qint64 ProgressInterval = 100; // ms
-constexpr int SamplesPerFile = 3;
-constexpr qint64 SampleSize = 1024;
 
 platform::Files &files()
 {
     return platform::Platform::current().files();
-}
-
-void trace(const QString &path, const Status &status)
-{
-    if (!status)
-        qDebug().noquote() << "[FileWipe]" << path << status.diagnostic();
 }
 
 qint64 bufferSizeFor(qint64 fileSize, int bufferSizeMB)
@@ -78,18 +69,16 @@ Status writeAll(platform::FileHandle &file, const std::byte *data, qint64 size)
 
 FileWipeWorker::FileWipeWorker(WipeTask *task, QObject *parent)
     : BaseWipeWorker(task, parent)
-    , m_pool(this)
-{
-    const int threads = task->threadCount();
-    m_pool.setMaxThreadCount(threads >= 1 ? threads : QThread::idealThreadCount());
-    m_progressClock.start();
-}
+    // Already the position in the whole job; updateProgress() counts the earlier passes once more. The
+    // figures run ahead in later passes, as everybody who reads them expects.
+    , m_progress([this](qint64 done, qint64 total) { updateProgress(done, total); })
+    , m_sampling([this] { return !isStopRequested(); })
+    , m_pool(task->threadCount() >= 1 ? task->threadCount() : QThread::idealThreadCount(), this)
+{}
 
 FileWipeWorker::~FileWipeWorker()
 {
     stop();
-    m_pool.clear();
-    m_pool.waitForDone();
 }
 
 void FileWipeWorker::process()
@@ -150,7 +139,7 @@ FileList FileWipeWorker::collectFiles(const QStringList &targets)
         const QString text = what == FileCollector::Unreadable::Folder ? tr("无法读取文件夹: %1，错误码: %2")
                                                                        : tr("无法访问: %1，错误码: %2");
         emit logMessage(text.arg(displayText(path), QString::number(status.code)), Error);
-        trace(path, status);
+        traceFile(path, status);
     };
     return FileCollector({.goOn = [this] { return checkPauseStop(); }, .unreadable = unreadable})
         .collect(targets);
@@ -224,10 +213,10 @@ bool FileWipeWorker::overwriteAll()
 
 bool FileWipeWorker::overwritePass(const PassPattern &pattern)
 {
-    const qsizetype batchSize = std::max(2 * m_pool.maxThreadCount(), 1);
+    const qsizetype batchSize = std::max(2 * m_pool.threadCount(), 1);
     const qsizetype count = m_list.files.size();
     bool passed = true;
-    m_bytesThisPass = 0;
+    m_progress.beginPass(m_currentPass, m_totalPasses, m_singlePassTotal);
     for (qsizetype first = 0; first < count && !isStopRequested(); first += batchSize) {
         if (!checkPauseStop()) {
             passed = false;
@@ -237,35 +226,20 @@ bool FileWipeWorker::overwritePass(const PassPattern &pattern)
         m_failedCount += failures;
         passed = passed && failures == 0;
     }
-    m_bytesBeforePass += m_bytesThisPass;
+    m_bytesBeforePass += m_progress.bytesOfPass();
     return passed;
 }
 
 int FileWipeWorker::overwriteBatch(qsizetype first, qsizetype count, const PassPattern &pattern)
 {
-    std::atomic<int> failures{0};
-    {
-        // Also when starting a job throws, those already started still use what lies on this stack. The
-        // semaphore outlives them: a future would let this thread run jobs too, one more at a time than the
-        // pool allows.
-        struct Started
-        {
-            QSemaphore &done;
-            int jobs = 0;
-            ~Started() { done.acquire(jobs); }
-        } started{m_jobsDone};
-
-        for (qsizetype i = first; i < first + count; ++i) {
-            const QString path = m_list.files.at(i);
-            m_pool.start([this, &failures, path, pattern, seed = drawSeed()] {
-                if (!overwriteJob(path, pattern, seed))
-                    ++failures;
-                m_jobsDone.release();
-            });
-            ++started.jobs;
-        }
+    std::vector<FilePool::Job> jobs;
+    jobs.reserve(static_cast<std::size_t>(count));
+    for (qsizetype i = first; i < first + count; ++i) {
+        jobs.push_back([this, path = m_list.files.at(i), pattern, seed = drawSeed()] {
+            return overwriteJob(path, pattern, seed);
+        });
     }
-    return failures;
+    return m_pool.run(std::move(jobs));
 }
 
 bool FileWipeWorker::overwriteJob(const QString &path, const PassPattern &pattern, quint32 seed) noexcept
@@ -300,7 +274,7 @@ bool FileWipeWorker::overwriteFile(const QString &path, qint64 size, const PassP
         logOutOfMemory();
         return false;
     }
-    trace(path, files().clearReadOnly(path));
+    traceFile(path, files().clearReadOnly(path));
     {
         const auto opened = files().open(path, OpenMode::Overwrite);
         if (!opened)
@@ -338,61 +312,19 @@ bool FileWipeWorker::writeChunks(platform::FileHandle &file, const QString &path
         if (!written)
             return failFile(tr("WriteFile 失败: %1"), path, written);
         offset += chunk;
-        m_bytesThisPass += chunk;
-        reportProgress();
+        m_progress.add(chunk);
     }
     return true;
 }
 
 bool FileWipeWorker::verifyFile(const QString &path, qint64 size, const PassPattern &pattern)
 {
-    const auto opened = files().open(path, OpenMode::Verify);
-    if (!opened) {
-        trace(path, opened.status());
-        return false;
-    }
-    platform::FileHandle &file = *opened.value();
-    std::array<std::byte, SampleSize> sample;
-    for (int i = 0; i < SamplesPerFile; ++i) {
-        if (isStopRequested())
-            return true;
-        const qint64 offset =
-            size > SampleSize ? QRandomGenerator64::global()->bounded(size - SampleSize) : 0;
-        const Status found = file.seek(offset);
-        trace(path, found);
-        if (!found)
-            return false;
-        const auto read = file.read(sample.data(), SampleSize);
-        trace(path, read.status());
-        if (!read || read.value() <= 0)
-            return false;
-        ++m_samplesRead;
-        if (!verifyBuffer(sample.data(), read.value(), pattern)) {
-            emit logMessage(tr("验证失败: %1").arg(displayText(path)), Error);
-            return false;
-        }
-    }
-    return true;
-}
-
-void FileWipeWorker::reportProgress()
-{
-    if (!isProgressDue())
-        return;
-    const QMutexLocker locker(&m_progressMutex);
-    if (!isProgressDue())
-        return;
-    // Already the position in the whole job; updateProgress() counts the earlier passes once more. The
-    // figures run ahead in later passes, as everybody who reads them expects.
-    const qint64 done = (m_currentPass - 1) * m_singlePassTotal + m_bytesThisPass;
-    const qint64 total = m_totalPasses * m_singlePassTotal;
-    updateProgress(done, total == 0 ? 1 : total);
-    m_lastProgress = m_progressClock.elapsed();
-}
-
-bool FileWipeWorker::isProgressDue() const
-{
-    return m_progressClock.elapsed() - m_lastProgress > ProgressInterval;
+    const auto outcome = m_sampling.check(path, size, [&pattern](const std::byte *data, qint64 length) {
+        return verifyBuffer(data, length, pattern);
+    });
+    if (outcome == FileSampling::Outcome::Different)
+        emit logMessage(tr("验证失败: %1").arg(displayText(path)), Error);
+    return outcome == FileSampling::Outcome::Passed;
 }
 
 bool FileWipeWorker::deleteAll()
@@ -433,13 +365,13 @@ void FileWipeWorker::removeFolders()
         emit logMessage(
             tr("无法删除文件夹: %1，错误码: %2").arg(displayText(folder), QString::number(removed.code)),
             Warning);
-        trace(folder, removed);
+        traceFile(folder, removed);
     }
 }
 
 void FileWipeWorker::reportVerification()
 {
-    const int samples = m_samplesRead;
+    const int samples = m_sampling.samplesRead();
     task().updateReport([samples](WipeReport &report) {
         report.verificationSampleSize = samples;
         report.verificationMethod = samples > 0 ? u"random sampling, 3 samples per file"_s : QString();
@@ -460,6 +392,6 @@ void FileWipeWorker::logOutOfMemory() noexcept
 bool FileWipeWorker::failFile(const QString &message, const QString &path, const Status &status)
 {
     emit logMessage(message.arg(displayText(path)), Error);
-    trace(path, status);
+    traceFile(path, status);
     return false;
 }

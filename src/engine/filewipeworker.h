@@ -2,10 +2,9 @@
 
 #include "engine/basewipeworker.h"
 #include "engine/filecollector.h"
-
-#include <QMutex>
-#include <QSemaphore>
-#include <QThreadPool>
+#include "engine/filepool.h"
+#include "engine/fileprogress.h"
+#include "engine/filesampling.h"
 
 namespace platform {
 class AlignedBuffer;
@@ -21,7 +20,6 @@ class FileWipeWorker : public BaseWipeWorker
 
 public:
     explicit FileWipeWorker(WipeTask *task, QObject *parent = nullptr);
-    // Waits for the pool jobs that run.
     ~FileWipeWorker() override;
 
 public slots:
@@ -49,8 +47,6 @@ private:
     bool writeChunks(platform::FileHandle &file, const QString &path, qint64 size, const PassPattern &pattern,
                      quint32 seed, platform::AlignedBuffer &buffer);
     bool verifyFile(const QString &path, qint64 size, const PassPattern &pattern);
-    void reportProgress();
-    bool isProgressDue() const;
     // ... to here.
 
     bool deleteAll();
@@ -60,19 +56,13 @@ private:
     void logOutOfMemory() noexcept;
     bool failFile(const QString &message, const QString &path, const platform::Status &status);
 
-    QThreadPool m_pool;
-    QSemaphore m_jobsDone;
-
     FileList m_list;
     qint64 m_singlePassTotal = 0; // bytes
     bool m_isTotalCertain = true; // the size of every file that stands was told
     int m_processedCount = 0;
     int m_failedCount = 0;
 
-    std::atomic<qint64> m_bytesThisPass{0};
-    std::atomic<int> m_samplesRead{0};
-
-    QElapsedTimer m_progressClock;         // only read after construction
-    std::atomic<qint64> m_lastProgress{0}; // reading of that clock, in ms
-    QMutex m_progressMutex;
+    FileProgress m_progress;
+    FileSampling m_sampling;
+    FilePool m_pool; // destroyed first
 };

@@ -62,6 +62,14 @@ void FreeSpaceWipeWorker::logVolumeGone(const platform::Status &status)
     log(tr("卷不再可用，错误码: %1").arg(status.code), Error);
 }
 
+// Where no failed pass tells of it; always false.
+bool FreeSpaceWipeWorker::failVolumeGone(const platform::Status &status)
+{
+    logVolumeGone(status);
+    emit errorOccurred(tr("卷不再可用，错误码: %1").arg(status.code));
+    return false;
+}
+
 // Deletes the files of the pass before and makes sure that their space can be filled again.
 bool FreeSpaceWipeWorker::reclaimSpace()
 {

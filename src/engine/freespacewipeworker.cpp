@@ -187,16 +187,18 @@ bool FreeSpaceWipeWorker::wipeVolume(const QString &root)
         m_root += u'/';
     log(tr("目标分区: %1").arg(displayText(m_root)));
 
-    if (!cleanUpAfterCrash())
+    if (const platform::Status mounted = checkMounted(root); !mounted)
+        return failVolumeGone(mounted);
+    if (!cleanUpAfterCrash()) {
+        emit errorOccurred(tr("填充空闲空间失败"));
         return false;
+    }
     const auto free = settledFreeBytes();
     m_freeAtStart = free.valueOr(0);
     log(tr("空闲空间: %1").arg(formatSize(m_freeAtStart)));
     if (m_freeAtStart == 0) {
         log(tr("没有空闲空间需要擦除"));
-        if (!free)
-            logVolumeGone(free.status());
-        return free.ok();
+        return free || failVolumeGone(free.status());
     }
 
     if (!createTemporaryFolder())
@@ -212,12 +214,22 @@ bool FreeSpaceWipeWorker::wipeVolume(const QString &root)
     if (isStopRequested())
         return true;
     // Without the volume the residue would be cleaned on the one that its mount point belongs to.
-    if (isVolumeGone(removed.code)) {
-        logVolumeGone(removed);
-        return false;
-    }
+    if (isVolumeGone(removed.code))
+        return failVolumeGone(removed);
     cleanResidue();
     return true;
+}
+
+// An unmounted volume leaves an empty folder under its name, and the free space there is that of another one.
+platform::Status FreeSpaceWipeWorker::checkMounted(const QString &root)
+{
+    QString name = root;
+    while (name.size() > 1 && (name.endsWith(u'/') || name.endsWith(u'\\')))
+        name.chop(1);
+    const auto volume = platform::Platform::current().devices().queryVolume(name);
+    if (volume.code() == platform::FileNotFound || volume.code() == platform::PathNotFound)
+        return volume.status();
+    return {}; // whatever else it refuses to tell, it is there
 }
 
 // Before the free space is measured: a crash leaves the volume full.

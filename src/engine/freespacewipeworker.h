@@ -64,6 +64,7 @@ private:
     void completeReport();
 
     bool wipeVolume(const QString &root);
+    static platform::Status checkMounted(const QString &root);
     bool cleanUpAfterCrash();
     platform::Result<qint64> settledFreeBytes();
     bool createTemporaryFolder();
@@ -85,6 +86,7 @@ private:
     bool countFilled(const Fill &fill);
     static bool isVolumeGone(quint32 code);
     void logVolumeGone(const platform::Status &status);
+    bool failVolumeGone(const platform::Status &status);
 
     void cleanResidue();
     platform::Status cleanFileRecords();

@@ -26,11 +26,25 @@ inline constexpr qint64 MiB = 1024 * KiB;
 inline constexpr qint64 GiB = 1024 * MiB;
 inline constexpr qint64 Reserve = 100 * MiB;
 
+// Knows every volume that it is asked about by name, unless told otherwise.
+class NamedDevices : public FakeDevices
+{
+public:
+    QStringList unmounted;
+
+    platform::Result<std::unique_ptr<platform::DeviceQuery>> queryVolume(const QString &name) override
+    {
+        if (!unmounted.contains(name) && !volumes.contains(name))
+            volumes.insert(name, FakeVolume::onDrives(name, {}));
+        return FakeDevices::queryVolume(name);
+    }
+};
+
 // In force as long as it lives.
 struct Machine
 {
     MemoryVolume volume;
-    FakeDevices devices;
+    NamedDevices devices;
     FakeSession session;
     platform::ForwardingPlatform platform{volume, volume, devices, session};
     platform::ScopedPlatform scope{platform};

@@ -1,6 +1,8 @@
 #include "engine/chunkpipeline.h"
 #include "engine/patterngenerator.h"
 
+#include "refusedthreads.h"
+
 #include <QByteArray>
 #include <QList>
 #include <QRandomGenerator>
@@ -68,6 +70,7 @@ private slots:
     void fewerBytesThanPreparedLoseNothing();
     void randomSequenceSurvivesAConstantPass();
     void preparingDoesNotWaitForTheData();
+    void withoutAHelperNothingIsLost();
     void constantDataIsFilledOncePerPass();
     void laterLargerChunkIsFilledWholly();
     void complementIsThatOfThePassBefore();
@@ -170,6 +173,29 @@ void TestChunkPipeline::preparingDoesNotWaitForTheData()
     allowed.release();
     QCOMPARE(taken(chunks, 512), QByteArray(512, '\x3C'));
     QVERIFY(filledOn != QThread::currentThread() || QThread::idealThreadCount() < 1);
+}
+
+void TestChunkPipeline::withoutAHelperNothingIsLost()
+{
+    if (!RefusedThreads::isPossible())
+        QSKIP(RefusedThreads::whyNot);
+    Source source;
+    ChunkPipeline chunks(std::ref(source));
+    QVERIFY(chunks.beginPass(randomPass, Limit));
+    QByteArray bytes = taken(chunks, 512);
+    chunks.prepare(4096);
+    bytes += taken(chunks, 1024); // leaves 3072 bytes of what the helper made
+    {
+        const RefusedThreads refused;
+        chunks.prepare(Limit);
+        bytes += taken(chunks, Limit);
+        chunks.prepare(Limit);
+        QCOMPARE(refused.count(), 2);
+    }
+    bytes += taken(chunks, 2048);
+    chunks.prepare(Limit);
+    bytes += taken(chunks, Limit);
+    QVERIFY(bytes == generated(bytes.size()));
 }
 
 void TestChunkPipeline::constantDataIsFilledOncePerPass()

@@ -302,7 +302,12 @@ void FileWipeWorkerTest::controlCharactersInNamesAreNotShown()
     job.files.hook = [](const FileCall &call) {
         return call.kind == FaultPlan::Open ? failure(5) : Status();
     };
-    const QString file = job.makeFile(QStringLiteral("a\x1b[2Jb\u202e") + QStringLiteral("c"), 1);
+#ifdef Q_OS_WIN
+    const QString escape; // not allowed in names
+#else
+    const QString escape = QStringLiteral("\x1b");
+#endif
+    const QString file = job.makeFile(u'a' + escape + QStringLiteral("[2Jb\u202e") + u'c', 1);
     QVERIFY(!job.run({file}));
     QVERIFY2(job.lines().contains(said::cannotOpen(job.path(QStringLiteral("a[2Jbc")))),
              qPrintable(job.lines().join(QLatin1Char('\n'))));

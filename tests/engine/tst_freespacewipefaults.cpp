@@ -42,6 +42,9 @@ private slots:
 
     // Volumes that go away.
     void volumeGoneAtTheStart();
+    void volumeThatIsNotMountedAnyMore_data();
+    void volumeThatIsNotMountedAnyMore();
+    void crashedVolumeGoneAtTheStart();
     void volumeThatVanishesLoop_data();
     void volumeThatVanishesLoop();
     void unmountedVolumeIsNotReplacedByItsParent_data();
@@ -646,6 +649,51 @@ void TestFreeSpaceWipeFaults::volumeGoneAtTheStart()
                                              {u"没有空闲空间需要擦除"_s, 0},
                                              {u"卷不再可用，错误码: 21"_s, 2},
                                          }));
+    QCOMPARE(job.errors, QStringList{u"卷不再可用，错误码: 21"_s});
+}
+
+void TestFreeSpaceWipeFaults::volumeThatIsNotMountedAnyMore_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("as listed") << u"/media/data"_s;
+    QTest::newRow("with a slash") << u"/media/data/"_s;
+}
+
+void TestFreeSpaceWipeFaults::volumeThatIsNotMountedAnyMore()
+{
+    QFETCH(const QString, name);
+    // The folder still stands, and the free space under it is the parent volume's.
+    Machine machine;
+    furnish(machine.volume, 40 * GiB);
+    machine.devices.unmounted = QStringList{u"/media/data"_s};
+    const QStringList before = machine.volume.pathsBelow(Root);
+    Job job;
+    prepare(job);
+    job.setVolume(name);
+    job.run();
+    QVERIFY(job.failed());
+    QCOMPARE(job.log.last(), (LogLine{u"卷不再可用，错误码: 2"_s, 2}));
+    QCOMPARE(job.errors, QStringList{u"卷不再可用，错误码: 2"_s});
+    QVERIFY(machine.volume.writes.isEmpty());
+    QCOMPARE(machine.volume.pathsBelow(Root), before);
+}
+
+void TestFreeSpaceWipeFaults::crashedVolumeGoneAtTheStart()
+{
+    Machine machine;
+    machine.volume.freeBytes[Root] = Reserve + 4 * MiB;
+    machine.volume.addFolder(Root + u".quorvex_temp_01234567"_s);
+    machine.volume.addFile(Root + u".quorvex_temp_01234567/fill_000000.tmp"_s, 6 * MiB);
+    machine.volume.onCall = [&](FaultPlan::Kind kind, const QString &) {
+        if (kind == FaultPlan::Remove)
+            machine.volume.answerOfSpace = platform::NotReady;
+    };
+    Job job;
+    prepare(job);
+    job.run();
+    QVERIFY(job.failed());
+    QVERIFY(job.logged(u"卷不再可用，错误码: 21"_s, 2));
+    QCOMPARE(job.errors, QStringList{u"填充空闲空间失败"_s});
 }
 
 void TestFreeSpaceWipeFaults::volumeThatVanishesLoop_data()

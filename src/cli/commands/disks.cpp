@@ -1,12 +1,10 @@
-#include "cli/cliio.h"
 #include "cli/command.h"
 #include "cli/drivetarget.h"
-#include "cli/globaloptions.h"
+#include "cli/listoutput.h"
 #include "cli/recordjson.h"
 #include "cli/table.h"
 #include "cli/translate.h"
 #include "model/displaytext.h"
-#include "model/jsonwriter.h"
 #include "services/diskmanager.h"
 
 namespace cli {
@@ -14,15 +12,6 @@ namespace cli {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-QByteArray jsonText(const QList<DiskInfo> &disks)
-{
-    JsonWriter writer(JsonWriter::Layout::Compact);
-    writer.beginArray();
-    for (const DiskInfo &disk : disks)
-        writeDisk(writer, disk);
-    return writer.endArray().text();
-}
 
 QString flags(const DiskInfo &disk)
 {
@@ -55,12 +44,7 @@ QString tableText(const QList<DiskInfo> &disks)
 
 Outcome<ExitCode> run(const CommandContext &context)
 {
-    const QList<DiskInfo> disks = DiskManager::enumerateDisks();
-    if (wantsJson(context.options))
-        context.io.printLine(jsonText(disks));
-    else
-        context.io.print(tableText(disks));
-    return Done;
+    return printList(context, DiskManager::enumerateDisks(), writeDisk, tableText);
 }
 
 } // namespace

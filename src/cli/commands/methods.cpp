@@ -1,25 +1,14 @@
-#include "cli/cliio.h"
 #include "cli/command.h"
-#include "cli/globaloptions.h"
+#include "cli/listoutput.h"
 #include "cli/names.h"
 #include "cli/recordjson.h"
 #include "cli/translate.h"
-#include "model/jsonwriter.h"
 
 namespace cli {
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-QByteArray jsonText(const QList<WipeMethod> &methods)
-{
-    JsonWriter writer(JsonWriter::Layout::Compact);
-    writer.beginArray();
-    for (const WipeMethod &method : methods)
-        writeMethod(writer, method);
-    return writer.endArray().text();
-}
 
 QString patternText(const PassPattern &pass)
 {
@@ -68,12 +57,7 @@ QString listText(const QList<WipeMethod> &methods)
 
 Outcome<ExitCode> run(const CommandContext &context)
 {
-    const QList<WipeMethod> methods = WipeMethod::allMethods();
-    if (wantsJson(context.options))
-        context.io.printLine(jsonText(methods));
-    else
-        context.io.print(listText(methods));
-    return Done;
+    return printList(context, WipeMethod::allMethods(), writeMethod, listText);
 }
 
 } // namespace

@@ -1,0 +1,108 @@
+#include "engine/filepool.h"
+
+#include <QDeadlineTimer>
+#include <QDebug>
+#include <QMutex>
+#include <QMutexLocker>
+#include <QScopeGuard>
+#include <QThreadPool>
+#include <QWaitCondition>
+
+#include <algorithm>
+#include <chrono>
+#include <memory>
+#include <utility>
+
+namespace {
+
+// A thread that has not begun by then was refused, or is late enough to be done without.
+constexpr std::chrono::seconds ThreadPatience{5};
+
+} // namespace
+
+// Shared with every thread that was asked for: a late one finds nothing left, but finds it.
+struct FilePool::Batch
+{
+    QMutex mutex; // guards all below
+    QWaitCondition changed;
+    std::vector<Job> jobs;
+    std::size_t next = 0;
+    int running = 0;
+    int limit = 1;
+    int failures = 0;
+
+    bool hasLeft() const { return next < jobs.size(); }
+};
+
+FilePool::FilePool(int threads, QObject *parent)
+    : m_threads(new QThreadPool(parent))
+{
+    m_threads->setMaxThreadCount(threads);
+}
+
+FilePool::~FilePool()
+{
+    m_threads->clear();
+    const std::chrono::milliseconds patience = m_hasThreads ? ThreadPatience : std::chrono::seconds::zero();
+    if (m_threads->waitForDone(static_cast<int>(patience.count()))) {
+        delete m_threads;
+        return;
+    }
+    // It counts a refused thread as busy; its destructor would wait for that one without a limit.
+    qWarning("[FileWipe] a thread of the pool never began");
+    m_threads->setParent(nullptr);
+}
+
+int FilePool::threadCount() const
+{
+    return m_threads->maxThreadCount();
+}
+
+int FilePool::run(std::vector<Job> jobs)
+{
+    const auto batch = std::make_shared<Batch>();
+    batch->jobs = std::move(jobs);
+    batch->limit = std::max(threadCount(), 1);
+    // Also when asking for a thread throws: jobs that run use what belongs to the caller.
+    const auto cleanUp = qScopeGuard([&batch] {
+        const QMutexLocker locker(&batch->mutex);
+        batch->next = batch->jobs.size();
+        while (batch->running > 0)
+            batch->changed.wait(&batch->mutex);
+    });
+    const int wanted = std::min(batch->limit, static_cast<int>(batch->jobs.size()));
+    for (int i = 0; i < wanted && m_hasThreads; ++i)
+        m_threads->start([batch] { work(*batch); });
+    finish(*batch);
+    return batch->failures;
+}
+
+void FilePool::work(Batch &batch)
+{
+    QMutexLocker locker(&batch.mutex);
+    while (batch.hasLeft() && batch.running < batch.limit) {
+        const Job &job = batch.jobs[batch.next++];
+        ++batch.running;
+        locker.unlock();
+        const bool succeeded = job();
+        locker.relock();
+        --batch.running;
+        batch.failures += succeeded ? 0 : 1;
+        batch.changed.wakeAll();
+    }
+}
+
+void FilePool::finish(Batch &batch)
+{
+    QMutexLocker locker(&batch.mutex);
+    while (batch.hasLeft() || batch.running > 0) {
+        const bool changed = m_hasThreads && batch.changed.wait(&batch.mutex, QDeadlineTimer(ThreadPatience));
+        if (changed || batch.running > 0)
+            continue;
+        // Nobody is at work: from here on this thread is, for this batch and those to come.
+        m_hasThreads = false;
+        locker.unlock();
+        work(batch);
+        locker.relock();
+    }
+}

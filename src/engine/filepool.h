@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QtGlobal>
+
+#include <functional>
+#include <vector>
+
+QT_BEGIN_NAMESPACE
+class QObject;
+class QThreadPool;
+QT_END_NAMESPACE
+
+// Runs the jobs of a batch side by side on a thread pool. A pool takes for granted that the system gives it
+// every thread it asks for: what was handed to one that was refused never runs, and the pool waits for it
+// for ever. So no job belongs to a thread here; the threads that there are take one after the other, and when
+// there are none the caller's own thread does.
+class FilePool
+{
+public:
+    // Returns whether it succeeded; does not throw.
+    using Job = std::function<bool()>;
+
+    // The thread pool becomes a child of the parent, which outlives this.
+    FilePool(int threads, QObject *parent);
+    ~FilePool();
+    FilePool(const FilePool &) = delete;
+    FilePool &operator=(const FilePool &) = delete;
+
+    // Jobs that run at the same time at most.
+    int threadCount() const;
+
+    // Returns when all jobs have ended; the number of those that failed. When it throws, for want of memory,
+    // those that began have ended too. One thread at a time.
+    int run(std::vector<Job> jobs);
+
+private:
+    struct Batch;
+
+    static void work(Batch &batch);
+    void finish(Batch &batch);
+
+    QThreadPool *m_threads;
+    bool m_hasThreads = true;
+};

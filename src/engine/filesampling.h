@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QString>
+#include <QtGlobal>
+
+#include <atomic>
+#include <cstddef>
+#include <functional>
+
+// Reads samples of files back from random places. Several threads may check files at the same time.
+class FileSampling
+{
+public:
+    static constexpr int SamplesPerFile = 3;
+
+    enum class Outcome {
+        Passed,
+        Different,  // a sample does not match
+        Unreadable, // a sample could not be read
+    };
+    // Whether the bytes of a sample are what was written. On the thread that checks.
+    using Matches = std::function<bool(const std::byte *data, qint64 size)>;
+    // False to end a check after the sample at hand.
+    using GoOn = std::function<bool()>;
+
+    explicit FileSampling(GoOn goOn);
+
+    // size: of the file, in bytes. A check that is ended early counts as passed.
+    Outcome check(const QString &path, qint64 size, const Matches &matches);
+
+    // Of all files, whether they matched or not.
+    int samplesRead() const { return m_samplesRead; }
+
+private:
+    GoOn m_goOn;
+    std::atomic<int> m_samplesRead{0};
+};

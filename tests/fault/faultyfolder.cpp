@@ -1,0 +1,318 @@
+#include "fault/faultyfolder.h"
+
+#include <QByteArray>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QTest>
+
+#define FUSE_USE_VERSION 31
+#include <fuse.h>
+
+#include <fcntl.h>
+#include <sys/mman.h>
+#include <sys/mount.h>
+#include <sys/prctl.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <csignal>
+#include <limits>
+#include <new>
+#include <string>
+
+namespace {
+
+constexpr qint64 Never = std::numeric_limits<qint64>::max();
+
+struct Range
+{
+    std::atomic<qint64> first{0};
+    std::atomic<qint64> end{0};
+
+    void set(qint64 newFirst, qint64 newEnd)
+    {
+        end = 0; // nothing fails between the two
+        first = newFirst;
+        end = newEnd;
+    }
+    bool meets(qint64 from, qint64 to) const { return from < end && to > first; }
+};
+
+} // namespace
+
+struct FaultyFolder::Plan
+{
+    Range reads;
+    Range writes;
+    std::atomic<qint64> untilWritesFail{0}; // bytes
+    std::atomic<bool> flushesFail{false};
+    std::atomic<qint64> room{Never};
+    std::atomic<qint64> lifetime{Never}; // bytes still to be written before the server ends
+    std::atomic<int> failedReads{0};
+    std::atomic<int> failedWrites{0};
+    std::atomic<int> failedFlushes{0};
+};
+
+static_assert(std::atomic<qint64>::is_always_lock_free, "two processes share them");
+
+namespace {
+
+// Of the server's process.
+FaultyFolder::Plan *plan = nullptr;
+std::string root;
+
+std::string real(const char *path)
+{
+    return root + path;
+}
+
+int answer(int result)
+{
+    return result < 0 ? -errno : result;
+}
+
+int getAttributes(const char *path, struct stat *attributes, fuse_file_info *)
+{
+    return answer(::lstat(real(path).c_str(), attributes));
+}
+
+int openReal(const char *path, int flags, mode_t mode, fuse_file_info *info)
+{
+    // The buffers here suit no unbuffered transfer.
+    const int file = ::open(real(path).c_str(), (flags & ~(O_DIRECT | O_NOFOLLOW)) | O_CLOEXEC, mode);
+    if (file < 0)
+        return -errno;
+    info->fh = static_cast<std::uint64_t>(file);
+    info->direct_io = 1; // no cache above that would hide a fault
+    return 0;
+}
+
+int openFile(const char *path, fuse_file_info *info)
+{
+    return openReal(path, info->flags, 0, info);
+}
+
+int createFile(const char *path, mode_t mode, fuse_file_info *info)
+{
+    return openReal(path, info->flags | O_CREAT, mode, info);
+}
+
+int handleOf(const fuse_file_info *info)
+{
+    return static_cast<int>(info->fh);
+}
+
+int releaseFile(const char *, fuse_file_info *info)
+{
+    return answer(::close(handleOf(info)));
+}
+
+int readFile(const char *, char *data, std::size_t size, off_t offset, fuse_file_info *info)
+{
+    if (plan->reads.meets(offset, offset + static_cast<qint64>(size))) {
+        ++plan->failedReads;
+        return -EIO;
+    }
+    return answer(static_cast<int>(::pread(handleOf(info), data, size, offset)));
+}
+
+int writeFile(const char *, const char *data, std::size_t size, off_t offset, fuse_file_info *info)
+{
+    const auto length = static_cast<qint64>(size);
+    if (plan->lifetime != Never && (plan->lifetime -= length) <= 0)
+        ::_exit(0);
+    const bool isWhole = plan->untilWritesFail > 0;
+    if (isWhole)
+        plan->untilWritesFail -= length;
+    if (!isWhole && plan->writes.meets(offset, offset + length)) {
+        ++plan->failedWrites;
+        return -EIO;
+    }
+    if (offset + length > plan->room) {
+        ++plan->failedWrites;
+        return -ENOSPC;
+    }
+    return answer(static_cast<int>(::pwrite(handleOf(info), data, size, offset)));
+}
+
+int syncFile(const char *, int, fuse_file_info *info)
+{
+    if (plan->flushesFail) {
+        ++plan->failedFlushes;
+        return -EIO;
+    }
+    return answer(::fdatasync(handleOf(info)));
+}
+
+int truncateFile(const char *path, off_t size, fuse_file_info *)
+{
+    return answer(::truncate(real(path).c_str(), size));
+}
+
+int unlinkFile(const char *path)
+{
+    return answer(::unlink(real(path).c_str()));
+}
+
+fuse_operations operations()
+{
+    fuse_operations table{};
+    table.getattr = getAttributes;
+    table.open = openFile;
+    table.create = createFile;
+    table.release = releaseFile;
+    table.read = readFile;
+    table.write = writeFile;
+    table.fsync = syncFile;
+    table.truncate = truncateFile;
+    table.unlink = unlinkFile;
+    return table;
+}
+
+} // namespace
+
+QString FaultyFolder::unavailableReason()
+{
+    if (::geteuid() != 0)
+        return QStringLiteral("SKIPPED: mounts need root");
+    const int device = ::open("/dev/fuse", O_RDWR | O_CLOEXEC);
+    if (device < 0)
+        return QStringLiteral("SKIPPED: /dev/fuse cannot be opened: %1").arg(qt_error_string(errno));
+    ::close(device);
+    return {};
+}
+
+FaultyFolder::FaultyFolder(const QString &folder)
+    : m_below(folder + QStringLiteral("/below"))
+    , m_mountPoint(folder + QStringLiteral("/faulty"))
+{
+    m_ready = QDir().mkpath(m_below) && QDir().mkpath(m_mountPoint) && start();
+}
+
+FaultyFolder::~FaultyFolder()
+{
+    vanish();
+    unmount();
+    if (m_plan)
+        ::munmap(m_plan, sizeof(Plan));
+}
+
+bool FaultyFolder::start()
+{
+    void *shared = ::mmap(nullptr, sizeof(Plan), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0);
+    int ready[2];
+    if (shared == MAP_FAILED || ::pipe2(ready, O_CLOEXEC) != 0)
+        return false;
+    m_plan = new (shared) Plan;
+    const pid_t parent = ::getpid();
+    // A process, not a thread: a test that is killed while it waits for the loop device takes a thread of its
+    // own with it only when the wait is over, which would then be never.
+    m_server = ::fork();
+    if (m_server == 0) {
+        ::prctl(PR_SET_PDEATHSIG, SIGKILL);
+        if (::getppid() == parent)
+            serve(ready[1]);
+        ::_exit(1);
+    }
+    ::close(ready[1]);
+    char mounted = 0;
+    const bool isMounted = m_server > 0 && ::read(ready[0], &mounted, 1) == 1;
+    ::close(ready[0]);
+    return isMounted;
+}
+
+void FaultyFolder::serve(int readyEnd)
+{
+    plan = m_plan;
+    root = QFile::encodeName(m_below).toStdString();
+    char name[] = "faulty";
+    char *words[] = {name, nullptr};
+    fuse_args arguments = FUSE_ARGS_INIT(1, words);
+    const fuse_operations table = operations();
+    fuse *server = fuse_new(&arguments, &table, sizeof table, nullptr);
+    if (server && fuse_mount(server, QFile::encodeName(m_mountPoint).constData()) == 0 &&
+        ::write(readyEnd, "m", 1) == 1)
+        fuse_loop(server);
+    ::_exit(1);
+}
+
+void FaultyFolder::unmount()
+{
+    // Lazily, for whatever is still open inside; without its server nothing there works any more.
+    if (m_ready && ::umount2(QFile::encodeName(m_mountPoint).constData(), MNT_DETACH) != 0)
+        QTest::qFail(qPrintable(QStringLiteral("left behind: ") + m_mountPoint), __FILE__, __LINE__);
+}
+
+void FaultyFolder::failReads(qint64 first, qint64 end)
+{
+    m_plan->reads.set(first, end);
+}
+
+void FaultyFolder::failWrites(qint64 first, qint64 end)
+{
+    m_plan->writes.set(first, end);
+}
+
+void FaultyFolder::failFlushes()
+{
+    m_plan->flushesFail = true;
+}
+
+void FaultyFolder::limitRoomTo(qint64 position)
+{
+    m_plan->room = position;
+}
+
+void FaultyFolder::beginAfter(qint64 bytes)
+{
+    m_plan->untilWritesFail = bytes;
+}
+
+void FaultyFolder::heal()
+{
+    m_plan->untilWritesFail = 0;
+    m_plan->reads.set(0, 0);
+    m_plan->writes.set(0, 0);
+    m_plan->flushesFail = false;
+    m_plan->room = Never;
+    m_plan->lifetime = Never;
+}
+
+void FaultyFolder::vanish()
+{
+    if (isGone())
+        return;
+    ::kill(m_server, SIGKILL);
+    ::waitpid(m_server, nullptr, 0);
+    m_server = -1;
+}
+
+void FaultyFolder::vanishAfter(qint64 bytes)
+{
+    m_plan->lifetime = bytes;
+}
+
+bool FaultyFolder::isGone()
+{
+    if (m_server > 0 && ::waitpid(m_server, nullptr, WNOHANG) == m_server)
+        m_server = -1;
+    return m_server < 0;
+}
+
+int FaultyFolder::failedReads() const
+{
+    return m_plan->failedReads;
+}
+
+int FaultyFolder::failedWrites() const
+{
+    return m_plan->failedWrites;
+}
+
+int FaultyFolder::failedFlushes() const
+{
+    return m_plan->failedFlushes;
+}
