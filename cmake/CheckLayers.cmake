@@ -1,7 +1,8 @@
 # cmake -DSOURCE=<src> -DTABLE="layer=lower,lower|layer=..." -P CheckLayers.cmake
 #
-# Two rules: a file of a layer includes only its own layer and those in its row of the table, and headers of an
-# operating system appear only below src/platform/.
+# Three rules: a file of a layer includes only its own layer and those in its row of the table; headers of an
+# operating system appear only below src/platform/, in the folder of a backend; those of Windows only in
+# src/platform/windows/.
 cmake_minimum_required(VERSION 3.25)
 
 string(REPLACE "|" ";" rows "${TABLE}")
@@ -12,8 +13,9 @@ foreach(row IN LISTS rows)
   string(REPLACE "," ";" allowed_${CMAKE_MATCH_1} "${CMAKE_MATCH_2}")
 endforeach()
 
+set(windows_header "^(windows|win[a-z]*|fileapi|ioapiset|sddl|shlobj|shellapi|io|direct)\\.h$")
 set(system_header
-  "^(windows|winioctl|winbase|fileapi|ioapiset|sddl|shlobj|io)\\.h$|^(unistd|fcntl|dirent|mntent|fstab|grp|pwd|errno|poll|signal|termios)\\.h$|^(sys|linux|asm|net|arpa)/")
+  "${windows_header}|^(unistd|fcntl|dirent|mntent|fstab|grp|pwd|errno|poll|signal|termios)\\.h$|^(sys|linux|asm|net|arpa)/")
 
 set(problems "")
 foreach(layer IN LISTS layers)
@@ -35,6 +37,9 @@ foreach(layer IN LISTS layers)
       endif()
       if(NOT layer STREQUAL "platform" AND header MATCHES "${system_header}")
         list(APPEND problems "src/${file}: '${header}' belongs below src/platform/")
+      endif()
+      if(file MATCHES "^platform/(linux|image)/" AND header MATCHES "${windows_header}")
+        list(APPEND problems "src/${file}: '${header}' belongs below src/platform/windows/")
       endif()
       if(file MATCHES "^platform/[a-z]+\\.(h|cpp)$" AND header MATCHES "${system_header}")
         list(APPEND problems "src/${file}: '${header}' belongs into a backend's folder")

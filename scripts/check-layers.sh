@@ -33,6 +33,8 @@ refuses model/b.h '#include "engine/a.h"' "'model' must not include 'engine/a.h'
 refuses platform/b.h '#include "engine/a.h"' "'platform' must not include 'engine/a.h'"
 refuses engine/b.cpp '#include <unistd.h>' "'unistd.h' belongs below src/platform/"
 refuses platform/b.cpp '#include <unistd.h>' "'unistd.h' belongs into a backend's folder"
+refuses engine/b.cpp '#include <windows.h>' "'windows.h' belongs below src/platform/"
+refuses platform/linux/b.cpp '#include <winioctl.h>' "'winioctl.h' belongs below src/platform/windows/"
 refuses engine/b.cpp '#include "a.h"' 'write "a.h" as a path from src/'
 check_tree >/dev/null || fail "the layer check refuses a tree whose wrong includes are gone"
 printf 'The layer check refuses what it should.\n'

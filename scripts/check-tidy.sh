@@ -1,37 +1,58 @@
 #!/usr/bin/env bash
-# Static analysis of everything below src/ with the checks of .clang-tidy; a warning is a failure.
+# Static analysis with the checks of .clang-tidy; a warning is a failure:
+#
+#   scripts/check-tidy.sh                    everything below src/ that build/dev compiles
+#   scripts/check-tidy.sh src/engine/*.cpp   these files of it
+#   scripts/check-tidy.sh --windows          src/platform/windows/, as build/windows-cross compiles it
 # shellcheck source=lib.sh
-# Works on the compile commands of build/dev. Arguments limit it to files: scripts/check-tidy.sh src/engine/*.cpp
 source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
 cd "$root"
 
-[[ -f build/dev/compile_commands.json ]] || fail "build/dev is missing: run ./test.sh first"
+export build_folder=build/dev
+folder=src
+# For the target of the cross compiler: its own headers, but clang's in place of the compiler's.
+target_arguments=()
+if [[ ${1:-} == --windows ]]; then
+    shift
+    build_folder=build/windows-cross
+    folder=src/platform/windows
+    target_arguments=(--extra-arg-before=--target=x86_64-w64-mingw32)
+    while read -r include; do
+        target_arguments+=("--extra-arg=-isystem$include")
+    done < <(x86_64-w64-mingw32-g++-posix -E -v -x c++ - </dev/null 2>&1 | sed -n '/#include <...>/,/End of search/p' |
+        grep '^ ' | grep -E 'c\+\+|x86_64-w64-mingw32/include')
+    ((${#target_arguments[@]} > 1)) || fail "the cross compiler does not tell where its headers are"
+fi
+
+[[ -f $build_folder/compile_commands.json ]] || fail "$build_folder is missing: build it first"
 if (($# > 0)); then
     files=("$@")
 else
     files=()
     while read -r file; do
-        # What this platform does not build has no compile command, and would be analysed with wrong flags.
-        if grep -qF "\"file\": \"$root/$file\"" build/dev/compile_commands.json; then
+        # What this build does not compile has no compile command, and would be analysed with wrong flags.
+        if grep -qF "\"file\": \"$root/$file\"" "$build_folder/compile_commands.json"; then
             files+=("$file")
         else
             printf 'Not built here, and so not analysed: %s\n' "$file"
         fi
-    done < <(find src -name '*.cpp' | sort)
+    done < <(find "$folder" -name '*.cpp' | sort)
 fi
-((${#files[@]} > 0)) || fail "no file below src/ is in build/dev/compile_commands.json"
+((${#files[@]} > 0)) || fail "no file below $folder is in $build_folder/compile_commands.json"
 
-# One file; its output comes in one piece, without the count of warnings suppressed in Qt's headers.
+# analyse FILE ARGUMENT...: its output comes in one piece, without the count of warnings suppressed in Qt's headers.
 analyse() {
-    local output status=0
-    output=$(clang-tidy --quiet -p build/dev --warnings-as-errors='*' "$1" 2>&1) || status=$?
+    local output status=0 file=$1
+    shift
+    output=$(clang-tidy --quiet -p "$build_folder" --warnings-as-errors='*' "$@" "$file" 2>&1) || status=$?
     output=$(sed -E '/^[0-9]+ warnings?( treated as errors?)?( generated)?\.?$/d' <<<"$output")
     [[ -z $output ]] || printf '%s\n' "$output"
     return "$status"
 }
 export -f analyse
 
-# shellcheck disable=SC2016  # $1 belongs to the inner shell
-printf '%s\0' "${files[@]}" | xargs -0 -n 1 -P "$(jobs_count)" bash -c 'analyse "$1"' _ ||
+# shellcheck disable=SC2016  # "$@" belongs to the inner shell, whose arguments are those and the file
+printf '%s\0' "${files[@]}" | xargs -0 -n 1 -P "$(jobs_count)" \
+    bash -c 'analyse "${@: -1}" "${@:1:$#-1}"' _ "${target_arguments[@]}" ||
     fail "clang-tidy has complaints"
 printf '%d files analysed.\n' "${#files[@]}"

@@ -154,6 +154,7 @@ public:
     QStringList systemVolumes() override { return m_target.systemVolumes(); }
     bool isSystemRoot(const QString &rootPath) override { return m_target.isSystemRoot(rootPath); }
     bool holdsSystemFiles(const QString &rootPath) override { return m_target.holdsSystemFiles(rootPath); }
+    QString userId() override { return m_target.userId(); }
 
 protected:
     Session &m_target;

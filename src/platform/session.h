@@ -29,6 +29,11 @@ public:
     // Windows: the first two characters of GetWindowsDirectoryW begin the root path, whatever the case.
     // Linux: as isSystemRoot.
     virtual bool holdsSystemFiles(const QString &rootPath) = 0;
+
+    // Who runs the program, as the system's own name for the user in folders and reports; empty when the
+    // system does not tell. Windows: OpenProcessToken(TOKEN_QUERY), GetTokenInformation(TokenUser),
+    // ConvertSidToStringSidW ("S-1-5-21-..."). Linux: the numeric user id.
+    virtual QString userId() = 0;
 };
 
 } // namespace platform

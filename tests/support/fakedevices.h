@@ -274,10 +274,12 @@ class FakeSession : public platform::Session
 public:
     QStringList systemVolumeNames;
     QStringList systemRoots; // exact root paths
+    QString user;
 
     QStringList systemVolumes() override { return systemVolumeNames; }
     bool isSystemRoot(const QString &rootPath) override { return systemRoots.contains(rootPath); }
     bool holdsSystemFiles(const QString &rootPath) override { return isSystemRoot(rootPath); }
+    QString userId() override { return user; }
 };
 
 // A machine that has drives and a user, and nothing else: asking for its files is a mistake of the test.

@@ -10,6 +10,7 @@
 
 #include <QDirIterator>
 #include <QMap>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 
 #include <optional>
@@ -279,6 +280,7 @@ private slots:
     void everyCallFailsOnce_data();
     void everyCallFailsOnce();
     void systemVolume();
+    void userIsNamedByTheSid();
 
 private:
     QString path(const QString &name) const { return m_folder->filePath(name); }
@@ -912,6 +914,31 @@ void TestWindowsFiles::systemVolume()
     };
     QVERIFY(session.holdsSystemFiles(u"w:/"_s));
     QVERIFY(!session.holdsSystemFiles(u"C:/"_s));
+}
+
+void TestWindowsFiles::userIsNamedByTheSid()
+{
+    WindowsSession session;
+    const QString user = session.userId();
+    QVERIFY2(QRegularExpression(u"^S-1-[0-9]+(-[0-9]+)+$"_s).match(user).hasMatch(), qPrintable(user));
+
+    Win32Faults faults;
+    for (const int call : {int(Win32Faults::OpenProcessToken_), int(Win32Faults::GetTokenInformation_),
+                           int(Win32Faults::ConvertSidToStringSid_)}) {
+        faults.fail(call, 1, ERROR_ACCESS_DENIED, Win32Faults::FromThenOn);
+        QCOMPARE(session.userId(), QString());
+        QVERIFY(faults.fired() > 0);
+        QCOMPARE(faults.openHandles(), 0);
+        QCOMPARE(faults.openMemory(), 0);
+    }
+    // The size was told, the answer fails.
+    faults.fail(Win32Faults::GetTokenInformation_, 2, ERROR_ACCESS_DENIED);
+    QCOMPARE(session.userId(), QString());
+    QCOMPARE(faults.fired(), 1);
+    faults.failNothing();
+    QCOMPARE(session.userId(), user);
+    QCOMPARE(faults.openHandles(), 0);
+    QCOMPARE(faults.openMemory(), 0);
 }
 
 QTEST_GUILESS_MAIN(TestWindowsFiles)

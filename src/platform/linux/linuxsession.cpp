@@ -2,6 +2,8 @@
 
 #include <QDir>
 
+#include <unistd.h>
+
 namespace platform {
 
 namespace {
@@ -49,6 +51,11 @@ bool LinuxSession::isSystemRoot(const QString &rootPath)
 bool LinuxSession::holdsSystemFiles(const QString &rootPath)
 {
     return isSystemRoot(rootPath);
+}
+
+QString LinuxSession::userId()
+{
+    return QString::number(::geteuid());
 }
 
 } // namespace platform

@@ -15,7 +15,7 @@ Result<DWORD> attributesOf(const std::wstring &path)
 Result<DWORD> reparseTagOf(const std::wstring &path)
 {
     WIN32_FIND_DATAW entry = {};
-    const HANDLE search =
+    auto *const search =
         win32().findFirstFile(path.c_str(), FindExInfoBasic, &entry, FindExSearchNameMatch, nullptr, 0);
     if (search == INVALID_HANDLE_VALUE)
         return statusFromLastError("FindFirstFileEx");

@@ -50,7 +50,7 @@ public:
     ReaderInterruption()
     {
         const std::lock_guard lock(s_readerMutex);
-        const HANDLE process = ::GetCurrentProcess();
+        auto *const process = ::GetCurrentProcess();
         if (!::DuplicateHandle(process, ::GetCurrentThread(), process, &s_reader, THREAD_TERMINATE, FALSE, 0))
             qFatal("no handle of the reading thread: %lu", ::GetLastError());
     }
@@ -170,7 +170,7 @@ int terminalColumns(StandardStream stream)
 std::optional<QString> readLine()
 {
     const ReaderInterruption interruption;
-    const HANDLE input = handleOf(StandardStream::Input);
+    auto *const input = handleOf(StandardStream::Input);
     const std::optional<QString> line =
         isTerminal(StandardStream::Input) ? readConsoleLine(input) : readStreamLine(input);
     return StopHandler::isAsked() ? std::nullopt : line;
@@ -178,10 +178,10 @@ std::optional<QString> readLine()
 
 Status writeText(StandardStream stream, const QByteArray &text)
 {
-    const HANDLE output = handleOf(stream);
+    auto *const output = handleOf(stream);
     if (isTerminal(stream))
         return writeToConsole(output, QString::fromUtf8(text));
-    constexpr qsizetype LargestPiece = 1024 * 1024;
+    constexpr qsizetype LargestPiece = qsizetype(1024) * 1024;
     qsizetype done = 0;
     while (done < text.size()) {
         const auto size = static_cast<DWORD>(qMin(text.size() - done, LargestPiece));

@@ -2,8 +2,10 @@
 
 #include "platform/windows/win32calls.h"
 #include "platform/windows/windowspaths.h"
+#include "platform/windows/winhandle.h"
 
 #include <array>
+#include <memory>
 
 namespace platform {
 
@@ -26,6 +28,28 @@ bool WindowsSession::holdsSystemFiles(const QString &rootPath)
     const QString drive =
         length >= 2 && length < MAX_PATH ? decodeName({folder.data(), 2}) : systemVolumes().constFirst();
     return rootPath.startsWith(drive, Qt::CaseInsensitive);
+}
+
+QString WindowsSession::userId()
+{
+    HANDLE opened = nullptr;
+    if (!win32().openProcessToken(::GetCurrentProcess(), TOKEN_QUERY, &opened))
+        return {};
+    const WinHandle token(opened);
+    // The first question only tells how much room the answer takes.
+    DWORD size = 0;
+    win32().getTokenInformation(token.get(), TokenUser, nullptr, 0, &size);
+    if (size < sizeof(TOKEN_USER))
+        return {};
+    const auto reply = std::make_unique<std::byte[]>(size);
+    if (!win32().getTokenInformation(token.get(), TokenUser, reply.get(), size, &size))
+        return {};
+    LPWSTR text = nullptr;
+    if (!win32().convertSidToStringSid(reinterpret_cast<const TOKEN_USER *>(reply.get())->User.Sid, &text))
+        return {};
+    QString id = decodeName(text);
+    win32().localFree(text);
+    return id;
 }
 
 } // namespace platform

@@ -10,6 +10,7 @@ public:
     QStringList systemVolumes() override;
     bool isSystemRoot(const QString &rootPath) override;
     bool holdsSystemFiles(const QString &rootPath) override;
+    QString userId() override;
 };
 
 } // namespace platform
