@@ -2,6 +2,7 @@
 # Runs a Windows program of build/windows-cross under Wine, in a prefix of its own: scripts/wine-run.sh PROGRAM [ARGUMENT...]
 # shellcheck source=lib.sh
 source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
+# shellcheck source=wineprefix.sh
 source "$(dirname "${BASH_SOURCE[0]}")/wineprefix.sh"
 
 provide_wine_prefix

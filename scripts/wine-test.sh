@@ -8,6 +8,7 @@
 # Exits with what ctest exits with.
 # shellcheck source=lib.sh
 source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
+# shellcheck source=wineprefix.sh
 source "$(dirname "${BASH_SOURCE[0]}")/wineprefix.sh"
 
 tests_under_wine() {

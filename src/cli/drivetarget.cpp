@@ -38,11 +38,13 @@ const DiskInfo *findDisk(const QList<DiskInfo> &disks, Condition condition)
 }
 
 // The drive that a volume or partition lies on. Null for everything else.
-const DiskInfo *findDriveOfPart(const QString &path, const QList<DiskInfo> &disks)
+const DiskInfo *findDriveOfPart(const QString &given, const QList<DiskInfo> &disks)
 {
-    const QString canonical = QFileInfo(path).canonicalFilePath();
-    const auto query =
-        platform::Platform::current().devices().queryVolume(canonical.isEmpty() ? path : canonical);
+    platform::Devices &devices = platform::Platform::current().devices();
+    auto query = devices.queryVolume(QFileInfo(absolutePath(given)).canonicalFilePath());
+    // Not every name of a volume is a path.
+    if (!query)
+        query = devices.queryVolume(given);
     if (!query)
         return nullptr;
     const auto extents = (*query.value()).extents(platform::ManyExtents);
@@ -80,7 +82,7 @@ Outcome<DiskInfo> findDriveToErase(const QString &numberOrPath, const QList<Disk
     if (!disk && number)
         return noSuchDrive(numberOrPath);
     if (!disk) {
-        const DiskInfo *whole = findDriveOfPart(path, disks);
+        const DiskInfo *whole = findDriveOfPart(numberOrPath, disks);
         if (!whole)
             return noSuchDrive(numberOrPath);
         return Refusal{Refused, Cli::tr("%1 is a part of drive %2; a whole drive must be given")

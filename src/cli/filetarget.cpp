@@ -25,6 +25,11 @@ Refusal refused(const QString &message)
     return {Refused, message};
 }
 
+Refusal noFile(const QString &shown)
+{
+    return refused(Cli::tr("%1 is no file or folder; a drive is erased with 'wipe disk'").arg(shown));
+}
+
 // Whether the folder is where a file system begins; wiping it would take everything on that file system.
 bool isMountPoint(const QString &folder)
 {
@@ -38,13 +43,15 @@ Outcome<QString> findFile(const QString &given)
     if (leadsBackThroughLink(given))
         return refused(Cli::tr("%1 goes back through a link; give the path without \"..\"").arg(shown));
     const QString path = absolutePath(given);
+    if (isDeviceName(path))
+        return noFile(shown);
     const auto info = platform::Platform::current().files().info(path);
     if (info.code() == platform::FileNotFound || info.code() == platform::PathNotFound)
         return refused(WipeTask::tr("File not found: %1").arg(shown));
     if (!info)
         return refused(Cli::tr("%1 cannot be looked at, error %2").arg(shown).arg(info.code()));
     if (info.value().kind == platform::FileKind::Special)
-        return refused(Cli::tr("%1 is no file or folder; a drive is erased with 'wipe disk'").arg(shown));
+        return noFile(shown);
     if (info.value().kind == platform::FileKind::Folder && isMountPoint(path))
         return refused(Cli::tr("%1 is the root of a volume; name what is to be erased in it").arg(shown));
     return path;

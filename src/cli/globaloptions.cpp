@@ -9,6 +9,8 @@
 #include <QCommandLineParser>
 #include <QFileInfo>
 
+#include <algorithm>
+
 namespace cli {
 
 using namespace Qt::StringLiterals;
@@ -74,7 +76,10 @@ Outcome<std::unique_ptr<platform::Platform>> requestedPlatform(const QCommandLin
         const QString path = image.isEmpty() ? image : withoutLink(absolutePath(image));
         if (!isRegularFile(path))
             return Refusal{Refused, Cli::tr("no image file: %1").arg(displayText(image))};
-        drives.imageFiles.append(path);
+        const QStringList &known = drives.imageFiles;
+        if (std::none_of(known.begin(), known.end(),
+                         [&path](const QString &other) { return isSameFile(path, other); }))
+            drives.imageFiles.append(path);
     }
     drives.imageFiles.removeDuplicates();
     return platform::createPlatform(drives);

@@ -44,10 +44,17 @@ std::optional<Refusal> openJobLog(const QString &folder)
     log.setEchoToConsole(false);
     log.setLogFile(path);
     // Without its usual folder the program works as well; a folder that was asked for is another matter.
-    if (!folder.isEmpty() && (!exists || !QFileInfo(path).isWritable()))
+    if (!folder.isEmpty() && (!exists || !QFileInfo(path).isWritable())) {
+        closeJobLog();
         return Refusal{SurroundingsFailed,
                        Cli::tr("the data folder %1 cannot be used").arg(displayText(folder))};
+    }
     return std::nullopt;
+}
+
+void closeJobLog()
+{
+    AppLog::instance().closeLogFile();
 }
 
 void logJobStart(const WipeTask &task, const QString &target)

@@ -15,6 +15,7 @@ struct JobResult;
 // Points the program's log file into the folder, or into the per-user one when it is empty.
 // SurroundingsFailed when the folder that was asked for cannot be made, or the file in it not written.
 std::optional<Refusal> openJobLog(const QString &folder);
+void closeJobLog();
 
 void logJobStart(const WipeTask &task, const QString &target);
 void logJobEnd(const JobResult &result);

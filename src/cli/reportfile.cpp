@@ -13,6 +13,23 @@
 
 namespace cli {
 
+namespace {
+
+// Whether the path or a folder above it is the other one, under whatever name.
+bool leadsInto(QString path, const QString &other)
+{
+    if (isSameOrBelow(path, other))
+        return true;
+    for (qsizetype size = 0; size != path.size(); path = QFileInfo(path).path()) {
+        if (isSameFile(path, other))
+            return true;
+        size = path.size();
+    }
+    return false;
+}
+
+} // namespace
+
 Outcome<ReportFile> ReportFile::at(const QString &path, const QStringList &commandWords)
 {
     const auto wrong = [&](const char *why) {
@@ -26,10 +43,10 @@ Outcome<ReportFile> ReportFile::at(const QString &path, const QStringList &comma
     const QFileInfo info(file.m_path);
     if (path.endsWith(u'/') || info.isDir())
         return wrong(QT_TRANSLATE_NOOP("Cli", "the report file '%1' is a folder"));
+    if (isDeviceName(file.m_path) || (info.exists() && !info.isFile()))
+        return wrong(QT_TRANSLATE_NOOP("Cli", "'%1' exists and is no ordinary file"));
     if (!QFileInfo(info.path()).isDir())
         return wrong(QT_TRANSLATE_NOOP("Cli", "the folder of the report file '%1' does not exist"));
-    if (info.exists() && !info.isFile())
-        return wrong(QT_TRANSLATE_NOOP("Cli", "'%1' exists and is no ordinary file"));
     return file;
 }
 
@@ -39,11 +56,8 @@ bool ReportFile::liesWithin(const QStringList &paths) const
     const QString canonicalFolder = QFileInfo(info.path()).canonicalFilePath();
     const QStringList ways{m_path, canonicalFolder + u'/' + info.fileName(), info.canonicalFilePath()};
     return std::any_of(paths.begin(), paths.end(), [&ways](const QString &path) {
-        const QString canonical = QFileInfo(path).canonicalFilePath();
-        return std::any_of(ways.begin(), ways.end(), [&](const QString &way) {
-            return !way.isEmpty() &&
-                   (isSameOrBelow(way, path) || (!canonical.isEmpty() && isSameOrBelow(way, canonical)));
-        });
+        return std::any_of(ways.begin(), ways.end(),
+                           [&path](const QString &way) { return !way.isEmpty() && leadsInto(way, path); });
     });
 }
 

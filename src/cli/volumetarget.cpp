@@ -52,7 +52,7 @@ public:
             return false;
         if (isDriveLetter(m_name))
             return name.compare(m_name, Qt::CaseInsensitive) == 0;
-        return name == m_path || name == m_canonical;
+        return absolutePath(name) == m_path || name == m_canonical;
     }
 
 private:

@@ -12,6 +12,7 @@
 #include "cli/translate.h"
 #include "model/displaytext.h"
 
+#include <QScopeGuard>
 #include <QSet>
 
 namespace cli {
@@ -147,6 +148,7 @@ Outcome<ExitCode> carryOut(WipePlan &plan, const WipeOptions &options, const Com
         options.applyTo(*job.task);
     if (const auto refusal = checkBeforeQuestion(plan, options, context, commandWords))
         return *refusal;
+    const auto closing = qScopeGuard(closeJobLog);
     if (const auto refusal = ask(plan, options, context))
         return *refusal;
     if (context.io.stopRequest().isRequested())

@@ -1,5 +1,7 @@
 #include "services/applog.h"
 
+#include "platform/appending.h"
+
 #include <QDateTime>
 #include <QDebug>
 #include <QDir>
@@ -63,8 +65,13 @@ void AppLog::setLogFile(const QString &path)
     m_file.setFileName(path);
     // Names of wiped files are nobody else's business. Permissions given at creation leave no moment in which
     // others can open the file; those of a file that exists are its owner's choice.
-    m_file.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Text,
-                QFile::ReadOwner | QFile::WriteOwner);
+    platform::openForAppending(m_file);
+}
+
+void AppLog::closeLogFile()
+{
+    const QMutexLocker locker(&m_mutex);
+    m_file.close();
 }
 
 void AppLog::log(LogLevel level, const QString &message)

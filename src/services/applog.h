@@ -33,6 +33,8 @@ public:
 
     /// Closes the file in use and appends to that one. The folder must exist.
     void setLogFile(const QString &path);
+    /// Closes the file in use; Windows keeps its folder until then. Lines are only echoed from then on.
+    void closeLogFile();
 
     /// Writes the line, and hands it to the framework's message output at the same level; a level without a
     /// name is only written. Levels below minLevel() do neither.

@@ -2,12 +2,14 @@
 
 #include "cli/cliio.h"
 #include "cli/runcli.h"
+#include "support/links.h"
 
 #include <QByteArray>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QList>
+#include <QStandardPaths>
 #include <QStringList>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -113,7 +115,7 @@ public:
     QByteArray log() const
     {
         QFile file(m_folder.filePath(QStringLiteral("quorvex.log")));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+        return file.open(QIODevice::ReadOnly | QIODevice::Text) ? file.readAll() : QByteArray();
     }
     // Whether standard error is one line that holds the words.
     bool complains(const char *words) const
@@ -130,8 +132,14 @@ inline void hideMachine(const QTemporaryDir &home)
 {
     QVERIFY(home.isValid());
     qputenv("QUORVEX_ONLY_IMAGE_DISKS", "1");
+#ifdef Q_OS_WIN
+    QStandardPaths::setTestModeEnabled(true); // the folders of Windows come from the registry
+#else
     qputenv("XDG_DATA_HOME", home.path().toUtf8());
+#endif
 }
+
+constexpr const char *NoLinks = "SKIPPED: the system makes no symbolic links here";
 
 inline QByteArray contentOf(const QString &path)
 {

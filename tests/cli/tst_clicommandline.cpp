@@ -26,6 +26,7 @@ private slots:
     void everyLanguageOfTheProgramIsTaken();
     void anImageMustBeARegularFile();
     void anImageMayBeGivenThroughALink();
+    void anImageGivenTwiceIsOneDrive();
     void outputThatIsLostIsAFailure();
 
 private:
@@ -164,7 +165,7 @@ void TestCliCommandLine::aWrongLineIsToldInOneLine_data()
     option("report without a name", u"--report="_s, "''");
     option("report without a folder", u"--report=no/such/folder/r.json"_s, "no/such/folder/r.json");
     option("report is a folder", u"--report=."_s, "folder");
-    option("report is a device", u"--report=/dev/null"_s, "/dev/null");
+    option("report is a device", u"--report="_s + QProcess::nullDevice(), "no ordinary file");
     row("two volumes, one report", {u"wipe"_s, u"free"_s, u"a"_s, u"b"_s, u"--report=r.json"_s}, "--report",
         "(read quorvex-cli wipe free --help)");
     row("an empty path", {u"wipe"_s, u"files"_s, u"a"_s, QString()}, "empty",
@@ -232,7 +233,7 @@ void TestCliCommandLine::anImageMustBeARegularFile()
 {
     const QTemporaryDir folder;
     for (const QString &image :
-         {folder.filePath(u"missing.img"_s), folder.path(), u"/dev/null"_s, QString()}) {
+         {folder.filePath(u"missing.img"_s), folder.path(), QProcess::nullDevice(), QString()}) {
         CliRun run;
         run({u"disks"_s, u"--only-images"_s, u"--image"_s, image});
         QCOMPARE(run.code, 3);
@@ -245,13 +246,30 @@ void TestCliCommandLine::anImageMayBeGivenThroughALink()
 {
     const QTemporaryDir folder;
     QVERIFY(writeFile(folder.filePath(u"a.img"_s), QByteArray(4096, 'x')));
-    QVERIFY(QFile::link(folder.filePath(u"a.img"_s), folder.filePath(u"link"_s)));
+    if (!makeLink(folder.filePath(u"a.img"_s), folder.filePath(u"link"_s)))
+        QSKIP(NoLinks);
     CliRun run;
     run({u"--json"_s, u"disks"_s, u"--only-images"_s, u"--image"_s, folder.filePath(u"link"_s), u"--image"_s,
          folder.filePath(u"a.img"_s)});
     QCOMPARE(run.code, 0);
     QCOMPARE(run.io.documents().size(), 1);
     QCOMPARE(run.io.documents().constFirst().array().size(), 1); // one file, one drive
+}
+
+void TestCliCommandLine::anImageGivenTwiceIsOneDrive()
+{
+    const QTemporaryDir folder;
+    QVERIFY(writeFile(folder.filePath(u"a.img"_s), QByteArray(4096, 'x')));
+    QStringList names{folder.filePath(u"a.img"_s), folder.filePath(u"./a.img"_s)};
+    if (QFileInfo::exists(folder.filePath(u"A.IMG"_s))) // where case makes no difference
+        names.append(folder.filePath(u"A.IMG"_s));
+    QStringList arguments{u"--json"_s, u"disks"_s, u"--only-images"_s};
+    for (const QString &name : std::as_const(names))
+        arguments += QStringList{u"--image"_s, name};
+    CliRun run;
+    run(arguments);
+    QCOMPARE(run.code, 0);
+    QCOMPARE(run.io.documents().constFirst().array().size(), 1);
 }
 
 void TestCliCommandLine::outputThatIsLostIsAFailure()

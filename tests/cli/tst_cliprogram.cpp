@@ -24,6 +24,7 @@ private slots:
     void interruptAtTheQuestionCancels();
     void aSignalCancelsTheJob_data();
     void aSignalCancelsTheJob();
+    void impatienceDoesNotChangeTheEnd();
     void interruptIsHeardInTheBackgroundOfAShell();
     void hangUpIsLeftAloneUnderNohup();
     void aReaderThatGoesAwayDoesNotBreakTheJob();
@@ -225,6 +226,20 @@ void TestCliProgram::aSignalCancelsTheJob()
     const QJsonObject report = QJsonDocument::fromJson(content(inFolder("r.json"))).object();
     QVERIFY(report.value(u"status").toInt() == 4 || report.value(u"status").toInt() == 5);
     QCOMPARE(report, finished.value(u"report").toObject());
+}
+
+void TestCliProgram::impatienceDoesNotChangeTheEnd()
+{
+    ProgramRun run;
+    // With every line, the last one included.
+    run.onOutput = [](const QByteArray &out, pid_t process) {
+        if (out.contains("\"progress\""))
+            ::kill(process, SIGINT);
+    };
+    run(longJob() + QByteArrayList{"--json"});
+    QCOMPARE(run.signalNumber, 0);
+    QCOMPARE(run.code, 4);
+    QCOMPARE(lastEvent(run.out).value(u"event"), QJsonValue(u"finished"_s));
 }
 
 void TestCliProgram::interruptIsHeardInTheBackgroundOfAShell()

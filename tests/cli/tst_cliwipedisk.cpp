@@ -123,14 +123,19 @@ void TestCliWipeDisk::aDriveIsNamedByNumberPathOrLink()
 {
     const QTemporaryDir folder;
     const QString image = folder.filePath(u"a.img"_s);
-    QVERIFY(QFile::link(image, folder.filePath(u"link"_s)));
-    for (const QString &name : {u"0"_s, image, folder.filePath(u"link"_s)}) {
+    const bool hasLink = makeLink(image, folder.filePath(u"link"_s));
+    QStringList names{u"0"_s, image};
+    if (hasLink)
+        names.append(folder.filePath(u"link"_s));
+    for (const QString &name : std::as_const(names)) {
         QVERIFY(writeFile(image, QByteArray(65536, 'x')));
         CliRun run;
         run({u"wipe"_s, u"disk"_s, name, u"--yes"_s, u"--only-images"_s, u"--image"_s, image});
         QCOMPARE(run.code, 0);
         QCOMPARE(contentOf(image), QByteArray(65536, '\0'));
     }
+    if (!hasLink)
+        QSKIP(NoLinks);
 }
 
 void TestCliWipeDisk::theMethodIsTakenByNameOrNumber_data()
@@ -562,7 +567,7 @@ void TestCliWipeDisk::aReportThatCannotBeWrittenStopsBeforeAnythingIs()
 {
     const QString unwritable = u"/proc/quorvex-report.json"_s; // refused to root as well
     if (!QFileInfo(u"/proc"_s).isDir())
-        QSKIP("no /proc: where a folder refuses files even to root is not known here");
+        QSKIP("SKIPPED: no /proc: where a folder refuses files even to root is not known here");
     MemoryMachine machine;
     addDrive(machine);
     CliRun run;

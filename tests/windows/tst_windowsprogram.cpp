@@ -85,14 +85,12 @@ private:
         process.start(QStringLiteral(QUORVEX_CLI),
                       arguments + QStringList{u"--data-dir"_s, m_folder->filePath(u"data"_s)});
         Finished finished;
-        bool told = false;
         while (process.state() != QProcess::NotRunning) {
             process.waitForReadyRead(100);
             finished.out += process.readAllStandardOutput();
-            if (onProgress && !told && finished.out.contains("\"progress\"")) {
-                told = true;
+            // Again and again until the program ends: whoever is impatient does not change how it does.
+            if (onProgress && finished.out.contains("\"progress\""))
                 onProgress();
-            }
         }
         finished.out += process.readAllStandardOutput();
         finished.err = process.readAllStandardError();

@@ -161,10 +161,12 @@ StopHandler::Private::Private(std::function<void()> onStop)
 
 StopHandler::Private::~Private()
 {
-    for (const auto &[signal, action] : std::as_const(m_previous))
-        ::sigaction(signal, &action, nullptr);
     s_wakeUpEnd.store(-1);
     s_notifiedEnd = -1;
+    if (s_stopAsked.load())
+        return;
+    for (const auto &[signal, action] : std::as_const(m_previous))
+        ::sigaction(signal, &action, nullptr);
 }
 
 void StopHandler::Private::handle(int signal, void (*action)(int), bool evenWhenIgnored)

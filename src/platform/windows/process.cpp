@@ -66,7 +66,7 @@ public:
 
 BOOL WINAPI onConsoleEvent(DWORD event)
 {
-    if (!s_isHandling.load())
+    if (!s_isHandling.load() && !s_stopAsked.load())
         return FALSE;
     s_stopAsked.store(true);
     ::SetEvent(s_stopEvent);
