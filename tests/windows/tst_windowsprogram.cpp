@@ -44,6 +44,7 @@ private slots:
     void initTestCase();
     void init();
 
+    void itCarriesItsResources();
     void itTellsItsVersion();
     void itListsTheMethods();
     void itListsTheImage();
@@ -115,6 +116,31 @@ void TestWindowsProgram::init()
 {
     m_folder = std::make_unique<QTemporaryDir>();
     QVERIFY(m_folder->isValid());
+}
+
+void TestWindowsProgram::itCarriesItsResources()
+{
+    const QString program = QCoreApplication::applicationDirPath() + u'/' + QStringLiteral(QUORVEX_CLI);
+    const HMODULE module =
+        ::LoadLibraryExW(program.toStdWString().c_str(), nullptr, LOAD_LIBRARY_AS_DATAFILE);
+    QVERIFY(module);
+    const auto resource = [module](LPCWSTR name, LPCWSTR type) {
+        HRSRC const found = ::FindResourceW(module, name, type);
+        if (!found)
+            return QByteArray();
+        const void *bytes = ::LockResource(::LoadResource(module, found));
+        return QByteArray(static_cast<const char *>(bytes), qsizetype(::SizeofResource(module, found)));
+    };
+    const QByteArray manifest = resource(MAKEINTRESOURCEW(1), RT_MANIFEST);
+    for (const char *part :
+         {"highestAvailable", ">true</longPathAware>", ">UTF-8</activeCodePage>", "PerMonitorV2"})
+        QVERIFY2(manifest.contains(part), part);
+    const QByteArray version = resource(MAKEINTRESOURCEW(VS_VERSION_INFO), RT_VERSION);
+    const QString text(reinterpret_cast<const QChar *>(version.constData()), version.size() / 2);
+    QVERIFY(text.contains(u"ProductName"_s) && text.contains(u"Quorvex"_s) && text.contains(u"5.0"_s));
+    // An icon group lists its pictures: a header of 6 bytes and 14 for each.
+    QCOMPARE(resource(MAKEINTRESOURCEW(1), RT_GROUP_ICON).size(), 6 + 9 * 14);
+    ::FreeLibrary(module);
 }
 
 void TestWindowsProgram::itTellsItsVersion()
