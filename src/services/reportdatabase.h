@@ -1,0 +1,57 @@
+#pragma once
+
+#include "model/wipereport.h"
+
+#include <QList>
+#include <QSqlDatabase>
+#include <QString>
+
+/// The reports of all finished jobs, in one SQLite file of the user, "quorvex.db" in the application's data
+/// folder. A report that saveReport() took is on the medium when the call returns and survives a kill or a
+/// power cut; the bytes of a deleted one leave the file. Readable by its owner only.
+///
+/// Other programs may have the file open: a call waits up to ten seconds for them. One thread, that of
+/// initialize(). Nothing but initialize() and saveReport() sets lastError().
+class ReportDatabase
+{
+public:
+    ReportDatabase(const ReportDatabase &) = delete;
+    ReportDatabase &operator=(const ReportDatabase &) = delete;
+
+    static ReportDatabase &instance();
+
+    /// Opens the file, which is made with its folder at the first run, and takes the framework's default
+    /// connection for it. The names of application and organisation decide the folder: set them first. True
+    /// at once when it is open already; after a failure it may be tried again.
+    bool initialize();
+
+    /// Lets go of the file and the default connection, until initialize().
+    void close();
+
+    /// Stores the report in the place of the one with the same certificate id, if there is one.
+    bool saveReport(const WipeReport &report);
+
+    /// A page of reports, latest start first; those that started at once in no stated order. A negative limit
+    /// is none. Text that is no report any more reads as WipeReport::fromJson() says.
+    QList<WipeReport> getReports(int limit, int offset);
+
+    /// A fresh report when there is none of that id.
+    WipeReport getReport(const QString &certificateId);
+
+    /// True as well when there is no report of that id.
+    bool deleteReport(const QString &certificateId);
+
+    /// Text of the last failure.
+    QString lastError() const { return m_lastError; }
+
+private:
+    ReportDatabase();
+    ~ReportDatabase();
+
+    bool open();
+    bool execute(const QString &statement);
+
+    QSqlDatabase m_db;
+    QString m_lastError;
+    bool m_initialized = false;
+};
