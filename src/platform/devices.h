@@ -143,6 +143,7 @@ struct MountedVolume
     qint64 totalBytes = 0;
     qint64 freeBytes = 0;
     bool isReady = false; // valid and ready
+    bool isLocal = false; // on a fixed or removable drive; not network, optical or memory
 };
 
 // The drives and volumes of the machine. Thread-safe; nothing is cached but the numbers of drives.
@@ -184,8 +185,8 @@ public:
     // Windows: "A:" to "Z:". Linux: the mount points of block devices, one per device, in mount order.
     virtual QStringList volumeNames() = 0;
 
-    // Windows: QStorageInfo::mountedVolumes. Linux: the same mount points as volumeNames, with room and
-    // label.
+    // Windows: QStorageInfo::mountedVolumes, GetDriveTypeW. Linux: the same mount points as volumeNames, with
+    // room and label.
     virtual QList<MountedVolume> mountedVolumes() = 0;
 };
 

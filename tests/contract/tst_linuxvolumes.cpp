@@ -102,6 +102,7 @@ void TestLinuxVolumes::mountedVolumeIsListedWithItsRoom()
     });
     QVERIFY(mine != volumes.end());
     QVERIFY(mine->isReady);
+    QVERIFY(mine->isLocal);
     QCOMPARE(mine->rootPath, m_volume->mountPoint());
     QCOMPARE(mine->fileSystem, QByteArray("ext4"));
     QCOMPARE(mine->label, QStringLiteral("my label"));

@@ -108,6 +108,7 @@ struct FakeVolume
         volume.mounted.name = name;
         volume.mounted.rootPath = name + u'/';
         volume.mounted.isReady = true;
+        volume.mounted.isLocal = true;
         for (const int drive : drives)
             volume.extents.append({.diskNumber = drive, .startingOffset = 1 << 20, .length = 1 << 30});
         return volume;

@@ -114,7 +114,7 @@ public:
         for (const MemoryDriveVolume &volume : m_volumes) {
             if (volume.mounted)
                 mounted.append({volume.name, volume.name, volume.label, volume.fileSystem, volume.length(),
-                                volume.freeBytes, true});
+                                volume.freeBytes, true, true});
         }
         return mounted;
     }

@@ -197,6 +197,7 @@ class tst_WindowsDevices : public QObject
     Q_OBJECT
 
 private slots:
+    void onlyFixedAndRemovableDrivesAreLocal();
     void drivesHaveTheSystemsPaths();
     void volumesAreTriedByLetter();
     void onlyLettersNameVolumes_data();
@@ -856,6 +857,22 @@ void tst_WindowsDevices::aFullDeviceIsNotItsEnd()
     QVERIFY(measured.value()->seek(ScriptedMachine::DriveSize).ok());
     s_pieces.sizes.clear();
     QCOMPARE(measured.value()->write(data.data(), data.size()).code(), quint32(DiskFull));
+}
+
+void tst_WindowsDevices::onlyFixedAndRemovableDrivesAreLocal()
+{
+    static UINT driveType;
+    QVERIFY(!WindowsDevices().mountedVolumes().isEmpty());
+    Win32Calls calls = win32();
+    calls.getDriveType = [](LPCWSTR root) -> UINT {
+        return QString::fromWCharArray(root).endsWith(u'\\') ? driveType : DRIVE_UNKNOWN;
+    };
+    const ScopedWin32Calls scope(calls);
+    for (driveType = DRIVE_UNKNOWN; driveType <= DRIVE_RAMDISK; ++driveType) {
+        const bool isLocal = driveType == DRIVE_REMOVABLE || driveType == DRIVE_FIXED;
+        for (const MountedVolume &volume : WindowsDevices().mountedVolumes())
+            QCOMPARE(volume.isLocal, isLocal);
+    }
 }
 
 QTEST_GUILESS_MAIN(tst_WindowsDevices)

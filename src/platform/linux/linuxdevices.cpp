@@ -5,6 +5,8 @@
 #include "platform/linux/volumelabel.h"
 #include "platform/storagereplies.h"
 
+#include <algorithm>
+
 #include <sys/statvfs.h>
 
 namespace platform {
@@ -61,6 +63,12 @@ private:
     QString m_queue;
     QList<Extent> m_extents;
 };
+
+bool isOnLocalDrive(const QString &kernelName)
+{
+    static const QStringList others{QStringLiteral("sr"), QStringLiteral("ram"), QStringLiteral("zram")};
+    return std::ranges::none_of(others, [&](const QString &other) { return kernelName.startsWith(other); });
+}
 
 } // namespace
 
@@ -182,6 +190,7 @@ QList<MountedVolume> LinuxDevices::mountedVolumes()
         mounted.rootPath = volume.name;
         mounted.fileSystem = volume.fileSystem;
         mounted.label = volumeLabel(m_tree, volume.device, volume.name);
+        mounted.isLocal = isOnLocalDrive(m_blocks.kernelName(volume.device));
         struct statvfs room = {};
         if (::statvfs(encodeName(volume.name).constData(), &room) == 0) {
             mounted.totalBytes = static_cast<qint64>(room.f_blocks) * static_cast<qint64>(room.f_frsize);

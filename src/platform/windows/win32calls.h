@@ -45,6 +45,7 @@ struct Win32Calls
     decltype(&::FindNextFileW) findNextFile = &::FindNextFileW;
     decltype(&::FindClose) findClose = &::FindClose;
     decltype(&::GetDiskFreeSpaceExW) getDiskFreeSpace = &::GetDiskFreeSpaceExW;
+    decltype(&::GetDriveTypeW) getDriveType = &::GetDriveTypeW;
 
     decltype(&::DeviceIoControl) deviceIoControl = &::DeviceIoControl;
 

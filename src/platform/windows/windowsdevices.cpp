@@ -5,6 +5,7 @@
 #include "platform/windows/windowsrawdevice.h"
 #include "platform/windows/windowsvolume.h"
 
+#include <QDir>
 #include <QStorageInfo>
 
 namespace platform {
@@ -49,6 +50,13 @@ Status checkVolume(HANDLE volume, const DriveIdentity &chosen, const QString &dr
     if (drive)
         return checkIdentity(chosen, drive.value().get());
     return isSameDrive(chosen, {}, 0) ? Status{} : Status{NotReady, drive.status().native, "identity check"};
+}
+
+// The call wants the root with its separator, and only that of the system is sure to be understood.
+bool isOnLocalDrive(const QString &root)
+{
+    const UINT type = win32().getDriveType(QDir::toNativeSeparators(root).toStdWString().c_str());
+    return type == DRIVE_REMOVABLE || type == DRIVE_FIXED;
 }
 
 } // namespace
@@ -125,6 +133,7 @@ QList<MountedVolume> WindowsDevices::mountedVolumes()
         mounted.rootPath = storage.rootPath();
         mounted.name = mounted.rootPath.left(2);
         mounted.isReady = storage.isValid() && storage.isReady();
+        mounted.isLocal = isOnLocalDrive(mounted.rootPath);
         if (mounted.isReady) {
             mounted.label = storage.name();
             mounted.fileSystem = storage.fileSystemType();

@@ -1,0 +1,64 @@
+#include "platform/filebeginning.h"
+
+#include "platform/windows/filekind.h"
+#include "platform/windows/lasterror.h"
+#include "platform/windows/windowspaths.h"
+#include "platform/windows/winhandle.h"
+
+#include <algorithm>
+
+namespace platform {
+
+namespace {
+
+constexpr DWORD ShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+constexpr qint64 LargestRead = 1 << 20;
+
+Status refusalOf(DWORD attributes)
+{
+    constexpr const char *Operation = "GetFileInformationByHandle";
+    if (isPlainFolder(attributes))
+        return {AccessDenied, ERROR_ACCESS_DENIED, Operation};
+    if (attributes & (FILE_ATTRIBUTE_REPARSE_POINT | FILE_ATTRIBUTE_DEVICE))
+        return {CannotAccessFile, ERROR_CANT_ACCESS_FILE, Operation};
+    return {};
+}
+
+Result<QByteArray> readUpTo(HANDLE file, qint64 size)
+{
+    QByteArray bytes(size, Qt::Uninitialized);
+    qsizetype done = 0;
+    while (done < bytes.size()) {
+        const DWORD wanted = static_cast<DWORD>(std::min<qint64>(bytes.size() - done, LargestRead));
+        DWORD count = 0;
+        if (!win32().readFile(file, bytes.data() + done, wanted, &count, nullptr))
+            return statusFromLastError("ReadFile");
+        if (count == 0)
+            break;
+        done += count;
+    }
+    bytes.truncate(done);
+    return bytes;
+}
+
+} // namespace
+
+Result<QByteArray> readBeginning(const QString &path, qint64 limit)
+{
+    const Result<std::wstring> name = encodePath(path);
+    if (!name)
+        return name.status();
+    const WinHandle file(win32().createFile(name.value().c_str(), GENERIC_READ, ShareAll, nullptr,
+                                            OPEN_EXISTING, FILE_FLAG_OPEN_REPARSE_POINT, nullptr));
+    if (!file.isValid())
+        return statusFromLastError("CreateFile");
+    BY_HANDLE_FILE_INFORMATION opened = {};
+    if (!win32().getFileInformation(file.get(), &opened))
+        return statusFromLastError("GetFileInformationByHandle");
+    if (const Status refusal = refusalOf(opened.dwFileAttributes); !refusal)
+        return refusal;
+    const quint64 size = quint64(opened.nFileSizeHigh) << 32 | opened.nFileSizeLow;
+    return readUpTo(file.get(), static_cast<qint64>(std::min<quint64>(size, static_cast<quint64>(limit))));
+}
+
+} // namespace platform

@@ -1,0 +1,38 @@
+#include "services/foldertree.h"
+
+#include "platform/folders.h"
+#include "platform/platform.h"
+
+#include <QDebug>
+#include <QStringList>
+
+void forEachFileBelow(const QString &folder, const EntryVisitor &visit)
+{
+    platform::Folders &folders = platform::Platform::current().folders();
+    // A list of what is to come instead of recursion: nobody limits how deep folders lie.
+    QStringList pending{folder};
+    while (!pending.isEmpty()) {
+        const QString current = pending.takeFirst();
+        const platform::Status seen =
+            folders.forEachEntry(current, [&](const QString &name, platform::FileKind kind) {
+                if (kind == platform::FileKind::Folder)
+                    pending.append(entryOf(current, name));
+                else
+                    visit(current, name, kind);
+                return true;
+            });
+        if (!seen)
+            qDebug() << "  Cannot list folder:" << current << seen.diagnostic();
+    }
+}
+
+QString entryOf(const QString &folder, const QString &name)
+{
+    return folder.endsWith(u'/') ? folder + name : folder + u'/' + name;
+}
+
+bool isRealFolder(const QString &path)
+{
+    const auto info = platform::Platform::current().files().info(path);
+    return info && info.value().kind == platform::FileKind::Folder;
+}

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "platform/files.h"
+
+#include <QString>
+
+#include <functional>
+
+/// Called with the folder, the name in it and the kind.
+using EntryVisitor = std::function<void(const QString &folder, const QString &name, platform::FileKind kind)>;
+
+/// Every entry below the folder that is no folder itself, each folder's own entries before those of the
+/// folders in it. Links are entries and lead nowhere. A folder that cannot be listed goes to the debug
+/// output.
+void forEachFileBelow(const QString &folder, const EntryVisitor &visit);
+
+/// The path of an entry; the folder may end with a separator, as roots do.
+QString entryOf(const QString &folder, const QString &name);
+
+/// Whether that is a folder, and no link to one.
+bool isRealFolder(const QString &path);

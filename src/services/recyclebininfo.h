@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+#include <QtGlobal>
+
+/// Something the user threw away that is still there.
+struct RecycleBinItem
+{
+    QString fileName;     ///< last component of originalPath, otherwise the name it bears in the bin
+    QString originalPath; ///< as recorded when it was deleted; text only, never to be opened
+    QString recyclePath;  ///< the deleted file or folder as it lies in the bin; empty when it is missing
+    QString infoPath;     ///< the file that records where it came from; empty when there is none
+    quint64 size = 0;     ///< bytes
+    bool isDirectory = false;
+
+    bool operator==(const RecycleBinItem &) const = default;
+};
+
+/// What one user has in the bins of the machine.
+struct RecycleBinInfo
+{
+    QList<RecycleBinItem> items; ///< in the order found, drive by drive
+    /// What to erase: of each item infoPath and recyclePath, as far as they exist.
+    QStringList filePaths;
+    quint64 totalSize = 0; ///< bytes of all items
+    qint32 fileCount = 0;  ///< number of items
+    QStringList drives;    ///< those with at least one item
+
+    bool operator==(const RecycleBinInfo &) const = default;
+
+    /// Takes the item in, with its paths and its size.
+    void add(const RecycleBinItem &item)
+    {
+        items.append(item);
+        if (!item.infoPath.isEmpty())
+            filePaths.append(item.infoPath);
+        if (!item.recyclePath.isEmpty())
+            filePaths.append(item.recyclePath);
+        totalSize += item.size;
+        fileCount = static_cast<qint32>(items.size());
+    }
+};

@@ -1,0 +1,491 @@
+#include "services/recyclebinscanner.h"
+
+#include "platform/forwarding.h"
+#include "services/infofiles.h"
+#include "support/fakedevices.h"
+#include "support/links.h"
+#include "support/messagecapture.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QThread>
+
+#include <memory>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+const QString Ann = u"S-1-5-21-1-2-3-1001"_s;
+const QString Ben = u"S-1-5-21-1-2-3-1002"_s;
+
+void write(const QString &path, const QByteArray &contents)
+{
+    QVERIFY(QDir().mkpath(path.left(path.lastIndexOf(u'/'))));
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(contents), contents.size());
+}
+
+// Drives are folders of ours; files are real.
+class Machine
+{
+public:
+    Machine()
+        : m_native(platform::createPlatform({}))
+        , m_platform(m_native->files(), m_native->folders(), m_devices, m_session)
+        , m_scope(m_platform)
+    {
+        m_session.user = Ann;
+        // Where no Trash is: the user's own must not be listed.
+        qputenv("XDG_DATA_HOME", QFile::encodeName(m_folder.path() + u"/data"_s));
+    }
+    ~Machine() { qunsetenv("XDG_DATA_HOME"); }
+    Q_DISABLE_COPY_MOVE(Machine)
+
+    QString drive(const QString &name) const { return m_folder.path() + u'/' + name; }
+    static QString binOf(const QString &drive, const QString &sid = Ann)
+    {
+        return drive + u"/$Recycle.Bin/"_s + sid;
+    }
+    QString mount(const QString &name)
+    {
+        QString root = drive(name);
+        [&root] { QVERIFY(QDir().mkpath(root)); }();
+        m_devices.mount(FakeVolume::onDrives(root, {0}));
+        return root;
+    }
+    platform::MountedVolume &volume(const QString &name) { return m_devices.volumes[drive(name)].mounted; }
+    void setUser(const QString &sid) { m_session.user = sid; }
+
+private:
+    QTemporaryDir m_folder;
+    std::unique_ptr<platform::Platform> m_native;
+    FakeDevices m_devices;
+    FakeSession m_session;
+    platform::ForwardingPlatform m_platform;
+    platform::ScopedPlatform m_scope;
+};
+
+QStringList names(const RecycleBinInfo &info)
+{
+    QStringList names;
+    for (const RecycleBinItem &item : info.items)
+        names.append(item.fileName);
+    names.sort(); // the order within a folder is the file system's
+    return names;
+}
+} // namespace
+
+class tst_RecycleBinScanner : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void anUnknownUserGivesAnEmptyResult();
+    void theUserIsThatOfTheSession();
+    void nothingFoundIsAnEmptyResult();
+    void anItemCarriesBothPaths();
+    void aFolderKeepsItsRecordedSize();
+    void aMissingDataFileKeepsTheItem();
+    void aSizeOf0IsThatOfTheDataFile();
+    void aSizeOf0OfAFolderStays();
+    void anUnreadableRecordIsListedUnderTheDataFilesName_data();
+    void anUnreadableRecordIsListedUnderTheDataFilesName();
+    void lowerCaseNamesArePairedWithUpperCaseOnes();
+    void otherFilesAreNoItems();
+    void recordsInSubfoldersAreFound();
+    void deepFoldersAreWalked();
+    void linksAreNotFollowed();
+    void aBinThatIsALinkIsNotScanned();
+    void onlyTheUsersOwnFolderIsScanned();
+    void drivesAreScannedInOrderAndAnnounced();
+    void drivesThatAreNotLocalOrNotReadyAreSkipped();
+    void aDriveListedTwiceIsScannedOnce();
+    void theScanTellsWhatItDid();
+    void parsingTellsWhatItDid();
+    void aRootOfAnotherMachineIsScannedForASid();
+    void withoutSidEverySidIsScanned();
+    void aBinInCapitalsIsFoundInARoot();
+    void aSidIsOnlyAName();
+    void missingRootsGiveNothing();
+    void aScanRunsOnAnyThread();
+};
+
+void tst_RecycleBinScanner::anUnknownUserGivesAnEmptyResult()
+{
+    Machine pc;
+    write(Machine::binOf(pc.mount(u"c"_s)) + u"/$I1.txt"_s, infoVersion2(u"C:\\a"_s, 1));
+    pc.setUser({});
+    const MessageCapture capture;
+    int calls = 0;
+    QCOMPARE(RecycleBinScanner().scan([&calls](const QString &, int, int) { ++calls; }), RecycleBinInfo());
+    QCOMPARE(calls, 0);
+    const QList<MessageCapture::Message> expected{{QtWarningMsg, u"Failed to get current user SID"_s}};
+    QCOMPARE(capture.messages(), expected);
+}
+
+void tst_RecycleBinScanner::theUserIsThatOfTheSession()
+{
+    {
+        Machine pc;
+        QCOMPARE(RecycleBinScanner::currentUserSid(), Ann);
+    }
+    const QString real = RecycleBinScanner::currentUserSid();
+#ifdef Q_OS_WIN
+    QVERIFY2(real.startsWith("S-1-"_L1), qPrintable(real));
+#else
+    bool isNumber = false;
+    real.toUInt(&isNumber);
+    QVERIFY2(isNumber, qPrintable(real));
+#endif
+}
+
+void tst_RecycleBinScanner::nothingFoundIsAnEmptyResult()
+{
+    Machine pc;
+    QCOMPARE(RecycleBinScanner().scan(), RecycleBinInfo());
+    pc.mount(u"c"_s);
+    QVERIFY(QDir().mkpath(Machine::binOf(pc.mount(u"d"_s))));
+    QCOMPARE(RecycleBinScanner().scan(), RecycleBinInfo());
+}
+
+void tst_RecycleBinScanner::anItemCarriesBothPaths()
+{
+    Machine pc;
+    const QString drive = pc.mount(u"c"_s);
+    const QString bin = Machine::binOf(drive);
+    write(bin + u"/$IABC123.txt"_s, infoVersion2(u"C:\\Users\\Ann\\letter.txt"_s, 42));
+    write(bin + u"/$RABC123.txt"_s, "three");
+    RecycleBinItem item;
+    item.fileName = u"letter.txt"_s;
+    item.originalPath = u"C:\\Users\\Ann\\letter.txt"_s;
+    item.infoPath = bin + u"/$IABC123.txt"_s;
+    item.recyclePath = bin + u"/$RABC123.txt"_s;
+    item.size = 42;
+    RecycleBinInfo expected;
+    expected.items = {item};
+    expected.filePaths = {item.infoPath, item.recyclePath};
+    expected.totalSize = 42;
+    expected.fileCount = 1;
+    expected.drives = {drive};
+    QCOMPARE(RecycleBinScanner().scan(), expected);
+}
+
+void tst_RecycleBinScanner::aFolderKeepsItsRecordedSize()
+{
+    Machine pc;
+    const QString bin = Machine::binOf(pc.mount(u"c"_s));
+    write(bin + u"/$I1"_s, infoVersion2(u"C:\\photos"_s, 1000));
+    write(bin + u"/$R1/inside.jpg"_s, "12345");
+    const RecycleBinInfo info = RecycleBinScanner().scan();
+    QCOMPARE(info.fileCount, 1);
+    QVERIFY(info.items.first().isDirectory);
+    QCOMPARE(info.items.first().size, quint64(1000));
+    QCOMPARE(info.filePaths, (QStringList{bin + u"/$I1"_s, bin + u"/$R1"_s}));
+}
+
+void tst_RecycleBinScanner::aMissingDataFileKeepsTheItem()
+{
+    Machine pc;
+    const QString bin = Machine::binOf(pc.mount(u"c"_s));
+    write(bin + u"/$I1.doc"_s, infoVersion2(u"C:\\gone.doc"_s, 10));
+    const RecycleBinInfo info = RecycleBinScanner().scan();
+    QCOMPARE(info.fileCount, 1);
+    QCOMPARE(info.totalSize, quint64(10));
+    QCOMPARE(info.items.first().fileName, u"gone.doc"_s);
+    QCOMPARE(info.items.first().recyclePath, QString());
+    QCOMPARE(info.filePaths, QStringList{bin + u"/$I1.doc"_s});
+}
+
+void tst_RecycleBinScanner::aSizeOf0IsThatOfTheDataFile()
+{
+    Machine pc;
+    const QString bin = Machine::binOf(pc.mount(u"c"_s));
+    write(bin + u"/$I1.doc"_s, infoVersion2(u"C:\\a.doc"_s, 0));
+    write(bin + u"/$R1.doc"_s, "12345");
+    QCOMPARE(RecycleBinScanner().scan().items.first().size, quint64(5));
+    QCOMPARE(RecycleBinScanner().scan().totalSize, quint64(5));
+}
+
+void tst_RecycleBinScanner::aSizeOf0OfAFolderStays()
+{
+    Machine pc;
+    const QString bin = Machine::binOf(pc.mount(u"c"_s));
+    write(bin + u"/$I1"_s, infoVersion2(u"C:\\photos"_s, 0));
+    write(bin + u"/$R1/inside.jpg"_s, "12345");
+    QCOMPARE(RecycleBinScanner().scan().items.first().size, quint64(0));
+}
+
+void tst_RecycleBinScanner::anUnreadableRecordIsListedUnderTheDataFilesName_data()
+{
+    QTest::addColumn<QByteArray>("contents");
+    QTest::addColumn<quint64>("size");
+    QTest::newRow("empty") << QByteArray() << quint64(5);
+    QTest::newRow("27 bytes") << infoVersion2(u"C:\\a"_s, 9).first(27) << quint64(5);
+    QTest::newRow("version 2 of 28 bytes") << infoHeader(2, 9) + littleEndian(quint32(0)) << quint64(9);
+    QTest::newRow("unknown version") << infoHeader(3, 9) + QByteArray(600, 'x') << quint64(9);
+    QTest::newRow("a film under such a name")
+        << infoHeader(2, 9) + littleEndian(quint32(1 << 20)) + QByteArray(2 << 20, 'x') << quint64(9);
+}
+
+void tst_RecycleBinScanner::anUnreadableRecordIsListedUnderTheDataFilesName()
+{
+    QFETCH(QByteArray, contents);
+    QFETCH(quint64, size);
+    Machine pc;
+    const QString bin = Machine::binOf(pc.mount(u"c"_s));
+    write(bin + u"/$I1.doc"_s, contents);
+    write(bin + u"/$R1.doc"_s, "12345");
+    const RecycleBinInfo info = RecycleBinScanner().scan();
+    QCOMPARE(info.fileCount, 1);
+    QCOMPARE(info.items.first().fileName, u"$R1.doc"_s);
+    QCOMPARE(info.items.first().originalPath, QString());
+    QCOMPARE(info.items.first().size, size);
+    QCOMPARE(info.filePaths, (QStringList{bin + u"/$I1.doc"_s, bin + u"/$R1.doc"_s}));
+}
+
+void tst_RecycleBinScanner::lowerCaseNamesArePairedWithUpperCaseOnes()
+{
+    Machine pc;
+    const QString bin = Machine::binOf(pc.mount(u"c"_s));
+    write(bin + u"/$i1.doc"_s, infoVersion2(u"C:\\a.doc"_s, 1));
+    write(bin + u"/$R1.doc"_s, "12345");
+    write(bin + u"/$i2.doc"_s, infoVersion2(u"C:\\b.doc"_s, 1));
+    const RecycleBinInfo info = RecycleBinScanner().scan();
+    QCOMPARE(names(info), (QStringList{u"a.doc"_s, u"b.doc"_s}));
+    QVERIFY(info.filePaths.contains(bin + u"/$R1.doc"_s));
+    QCOMPARE(info.filePaths.size(), 3);
+}
+
+void tst_RecycleBinScanner::otherFilesAreNoItems()
+{
+    Machine pc;
+    const QString bin = Machine::binOf(pc.mount(u"c"_s));
+    write(bin + u"/desktop.ini"_s, "[x]");
+    write(bin + u"/$R5.txt"_s, "data without a record");
+    write(bin + u"/I$.txt"_s, infoVersion2(u"C:\\a.doc"_s, 1));
+    QVERIFY(QDir().mkpath(bin + u"/$I7"_s));
+    QCOMPARE(RecycleBinScanner().scan(), RecycleBinInfo());
+}
+
+void tst_RecycleBinScanner::recordsInSubfoldersAreFound()
+{
+    Machine pc;
+    const QString bin = Machine::binOf(pc.mount(u"c"_s));
+    write(bin + u"/$R1/.hidden/$I9.txt"_s, infoVersion2(u"C:\\a.txt"_s, 1));
+    write(bin + u"/$R1/.hidden/$R9.txt"_s, "x");
+    const RecycleBinInfo info = RecycleBinScanner().scan();
+    QCOMPARE(info.filePaths, (QStringList{bin + u"/$R1/.hidden/$I9.txt"_s, bin + u"/$R1/.hidden/$R9.txt"_s}));
+}
+
+void tst_RecycleBinScanner::deepFoldersAreWalked()
+{
+    Machine pc;
+    const QString bin = Machine::binOf(pc.mount(u"c"_s));
+    QString deep = bin + u"/$R1"_s;
+    for (int level = 0; level < 100; ++level)
+        deep += u"/d"_s;
+    write(deep + u"/$I9.txt"_s, infoVersion2(u"C:\\a.txt"_s, 1));
+    QCOMPARE(RecycleBinScanner().scan().fileCount, 1);
+}
+
+void tst_RecycleBinScanner::linksAreNotFollowed()
+{
+    Machine pc;
+    const QString bin = Machine::binOf(pc.mount(u"c"_s));
+    const QString outside = pc.drive(u"outside"_s);
+    write(outside + u"/$I5.txt"_s, infoVersion2(u"C:\\mine.txt"_s, 1));
+    write(bin + u"/$I1.txt"_s, infoVersion2(u"C:\\a.txt"_s, 0));
+    if (!makeLink(outside, bin + u"/$R1.txt"_s))
+        QSKIP("SKIPPED: the system makes no links");
+    QVERIFY(makeLink(outside, bin + u"/folder"_s));
+    QVERIFY(makeLink(outside + u"/$I5.txt"_s, bin + u"/$I2.txt"_s));
+    const RecycleBinInfo info = RecycleBinScanner().scan();
+    QCOMPARE(info.fileCount, 2);
+    // The record that is a link is not read, and no link is a folder, wherever it leads.
+    QCOMPARE(names(info), (QStringList{QString(), u"a.txt"_s}));
+    QVERIFY(!info.items.first().isDirectory && !info.items.last().isDirectory);
+    QCOMPARE(info.totalSize, quint64(0));
+    QStringList paths = info.filePaths;
+    paths.sort();
+    QCOMPARE(paths, (QStringList{bin + u"/$I1.txt"_s, bin + u"/$I2.txt"_s, bin + u"/$R1.txt"_s}));
+}
+
+void tst_RecycleBinScanner::aBinThatIsALinkIsNotScanned()
+{
+    Machine pc;
+    const QString real = pc.drive(u"elsewhere"_s);
+    write(Machine::binOf(real) + u"/$I1"_s, infoVersion2(u"C:\\a"_s, 1));
+    const QString one = pc.mount(u"c"_s);
+    if (!makeLink(real + u"/$Recycle.Bin"_s, one + u"/$Recycle.Bin"_s))
+        QSKIP("SKIPPED: the system makes no links");
+    const QString other = pc.mount(u"d"_s);
+    QVERIFY(QDir().mkpath(other + u"/$Recycle.Bin"_s));
+    QVERIFY(makeLink(Machine::binOf(real), Machine::binOf(other)));
+    QCOMPARE(RecycleBinScanner().scan(), RecycleBinInfo());
+    QCOMPARE(RecycleBinScanner().scanRoots({one, other}), RecycleBinInfo());
+    QCOMPARE(RecycleBinScanner().scanRoots({real}).fileCount, 1);
+}
+
+void tst_RecycleBinScanner::onlyTheUsersOwnFolderIsScanned()
+{
+    Machine pc;
+    const QString drive = pc.mount(u"c"_s);
+    write(Machine::binOf(drive, Ann) + u"/$I1"_s, infoVersion2(u"C:\\ann"_s, 1));
+    write(Machine::binOf(drive, Ben) + u"/$I1"_s, infoVersion2(u"C:\\ben"_s, 1));
+    QCOMPARE(names(RecycleBinScanner().scan()), QStringList{u"ann"_s});
+    pc.setUser(Ben);
+    QCOMPARE(names(RecycleBinScanner().scan()), QStringList{u"ben"_s});
+}
+
+void tst_RecycleBinScanner::drivesAreScannedInOrderAndAnnounced()
+{
+    Machine pc;
+    const QString g = pc.mount(u"g"_s);
+    const QString c = pc.mount(u"c"_s);
+    const QString e = pc.mount(u"e"_s);
+    write(Machine::binOf(g) + u"/$I1"_s, infoVersion2(u"G:\\on g"_s, 1));
+    write(Machine::binOf(e) + u"/$I1"_s, infoVersion2(u"E:\\on e"_s, 2));
+    QStringList announced;
+    const RecycleBinInfo info = RecycleBinScanner().scan([&](const QString &drive, int index, int count) {
+        announced.append(u"%1 %2/%3"_s.arg(drive).arg(index).arg(count));
+        // What is announced is still to be scanned.
+        if (drive == e)
+            write(Machine::binOf(e) + u"/$I2"_s, infoVersion2(u"E:\\late"_s, 3));
+    });
+    QCOMPARE(announced, (QStringList{g + u" 0/3"_s, c + u" 1/3"_s, e + u" 2/3"_s}));
+    QCOMPARE(info.drives, (QStringList{g, e}));
+    QCOMPARE(info.items.first().fileName, u"on g"_s);
+    QCOMPARE(names(info), (QStringList{u"late"_s, u"on e"_s, u"on g"_s}));
+    QCOMPARE(info.totalSize, quint64(6));
+}
+
+void tst_RecycleBinScanner::drivesThatAreNotLocalOrNotReadyAreSkipped()
+{
+    Machine pc;
+    for (const QString &name : {u"network"_s, u"empty"_s, u"stick"_s})
+        write(Machine::binOf(pc.mount(name)) + u"/$I1"_s, infoVersion2(u"X:\\"_s + name, 1));
+    pc.volume(u"network"_s).isLocal = false;
+    pc.volume(u"empty"_s).isReady = false;
+    QStringList announced;
+    const RecycleBinInfo info =
+        RecycleBinScanner().scan([&](const QString &drive, int, int) { announced.append(drive); });
+    QCOMPARE(names(info), QStringList{u"stick"_s});
+    QCOMPARE(announced, QStringList{pc.drive(u"stick"_s)});
+}
+
+void tst_RecycleBinScanner::aDriveListedTwiceIsScannedOnce()
+{
+    Machine pc;
+    write(Machine::binOf(pc.mount(u"c"_s)) + u"/$I1"_s, infoVersion2(u"C:\\a"_s, 1));
+    pc.mount(u"c"_s);
+    QCOMPARE(RecycleBinScanner().scan().fileCount, 1);
+}
+
+void tst_RecycleBinScanner::theScanTellsWhatItDid()
+{
+    Machine pc;
+    const QString drive = pc.mount(u"c"_s);
+    write(Machine::binOf(drive) + u"/$I1"_s, infoVersion2(u"C:\\a\\b.txt"_s, 12));
+    const MessageCapture capture;
+    RecycleBinScanner().scan();
+    const QStringList expected{
+        u"Scanning recycle bin for SID: \"%1\""_s.arg(Ann),
+        u"  Parsed $I: \"b.txt\" size: 12 path: \"C:\\\\a\\\\b.txt\""_s,
+        u"Recycle bin scan result: 1 files, 12 bytes on drives: QList(\"%1\")"_s.arg(drive)};
+    QCOMPARE(capture.texts(), expected);
+}
+
+void tst_RecycleBinScanner::parsingTellsWhatItDid()
+{
+    const QTemporaryDir folder;
+    const QString missing = folder.filePath(u"$I1"_s);
+    const QString small = folder.filePath(u"$I2"_s);
+    write(small, QByteArray(27, 'x'));
+    const MessageCapture capture;
+    QCOMPARE(RecycleBinScanner::parseInfoFile(missing), RecycleBinItem());
+    QCOMPARE(RecycleBinScanner::parseInfoFile(small), RecycleBinItem());
+    // A folder is no file to be read.
+    QCOMPARE(RecycleBinScanner::parseInfoFile(folder.path()), RecycleBinItem());
+    QCOMPARE(capture.texts(),
+             (QStringList{u"  Cannot open $I file: \"%1\""_s.arg(missing), u"  $I file too small: 27"_s,
+                          u"  Cannot open $I file: \"%1\""_s.arg(folder.path())}));
+}
+
+void tst_RecycleBinScanner::aRootOfAnotherMachineIsScannedForASid()
+{
+    Machine pc;
+    const QString root = pc.drive(u"copy"_s);
+    write(Machine::binOf(root, Ann) + u"/$I1"_s, infoVersion2(u"C:\\ann"_s, 1));
+    write(Machine::binOf(root, Ben) + u"/$I1"_s, infoVersion2(u"C:\\ben"_s, 2));
+    pc.mount(u"c"_s); // not looked at
+    QStringList announced;
+    const RecycleBinInfo info =
+        RecycleBinScanner().scanRoots({root}, Ben, [&](const QString &drive, int index, int count) {
+            announced.append(u"%1 %2/%3"_s.arg(drive).arg(index).arg(count));
+        });
+    QCOMPARE(names(info), QStringList{u"ben"_s});
+    QCOMPARE(info.drives, QStringList{root});
+    QCOMPARE(info.filePaths, QStringList{Machine::binOf(root, Ben) + u"/$I1"_s});
+    QCOMPARE(announced, QStringList{root + u" 0/1"_s});
+    QCOMPARE(names(RecycleBinScanner().scanRoots({root + u'/'}, Ann)), QStringList{u"ann"_s});
+}
+
+void tst_RecycleBinScanner::withoutSidEverySidIsScanned()
+{
+    Machine pc;
+    const QString root = pc.drive(u"copy"_s);
+    write(Machine::binOf(root, Ann) + u"/$I1"_s, infoVersion2(u"C:\\ann"_s, 1));
+    write(Machine::binOf(root, Ben) + u"/$I1"_s, infoVersion2(u"C:\\ben"_s, 2));
+    write(Machine::binOf(root, u"other"_s) + u"/$I1"_s, infoVersion2(u"C:\\other"_s, 4));
+    const RecycleBinInfo info = RecycleBinScanner().scanRoots({root});
+    QCOMPARE(names(info), (QStringList{u"ann"_s, u"ben"_s}));
+    QCOMPARE(info.totalSize, quint64(3));
+    QCOMPARE(info.drives, QStringList{root});
+}
+
+void tst_RecycleBinScanner::aBinInCapitalsIsFoundInARoot()
+{
+    Machine pc;
+    const QString root = pc.drive(u"copy"_s);
+    write(root + u"/$RECYCLE.BIN/"_s + Ann + u"/$I1"_s, infoVersion2(u"C:\\ann"_s, 1));
+    QCOMPARE(names(RecycleBinScanner().scanRoots({root}, Ann.toLower())), QStringList{u"ann"_s});
+}
+
+void tst_RecycleBinScanner::aSidIsOnlyAName()
+{
+    Machine pc;
+    const QString root = pc.drive(u"copy"_s);
+    write(root + u"/mine/$I1"_s, infoVersion2(u"C:\\mine"_s, 1));
+    QVERIFY(QDir().mkpath(root + u"/$Recycle.Bin"_s));
+    for (const QString &sid : {u"../mine"_s, u".."_s, u"."_s, u"*"_s})
+        QCOMPARE(RecycleBinScanner().scanRoots({root}, sid), RecycleBinInfo());
+}
+
+void tst_RecycleBinScanner::missingRootsGiveNothing()
+{
+    Machine pc;
+    QCOMPARE(RecycleBinScanner().scanRoots({pc.drive(u"none"_s), QString()}, Ann), RecycleBinInfo());
+    QCOMPARE(RecycleBinScanner().scanRoots({}), RecycleBinInfo());
+}
+
+void tst_RecycleBinScanner::aScanRunsOnAnyThread()
+{
+    Machine pc;
+    write(Machine::binOf(pc.mount(u"c"_s)) + u"/$I1"_s, infoVersion2(u"C:\\a"_s, 1));
+    RecycleBinInfo info;
+    bool sameThread = false;
+    const std::unique_ptr<QThread> thread(QThread::create([&] {
+        info = RecycleBinScanner().scan(
+            [&](const QString &, int, int) { sameThread = QThread::currentThread() == thread.get(); });
+    }));
+    thread->start();
+    QVERIFY(thread->wait());
+    QCOMPARE(info.fileCount, 1);
+    QVERIFY(sameThread);
+}
+
+QTEST_GUILESS_MAIN(tst_RecycleBinScanner)
+#include "tst_recyclebinscanner.moc"
