@@ -184,7 +184,7 @@ void tst_TrashScan::recordedPaths_data()
 {
     QTest::addColumn<QByteArray>("contents");
     QTest::addColumn<QString>("path");
-    QTest::newRow("plain") << record("/home/ann/a.txt") << u"/home/ann/a.txt"_s;
+    QTest::newRow("plain") << record("/users/ann/a.txt") << u"/users/ann/a.txt"_s;
     QTest::newRow("percent signs") << record("/a%20b%2Fc%C3%A9%25") << u"/a b/c\u00e9%"_s;
     QTest::newRow("plus is no blank") << record("/a+b") << u"/a+b"_s;
     QTest::newRow("not encoded") << record("/a b\xc3\xa9") << u"/a b\u00e9"_s;
@@ -219,7 +219,7 @@ void tst_TrashScan::anyRecordCanBeParsed()
     const quint32 seed = QRandomGenerator::system()->generate();
     qInfo("seed %u", seed);
     QRandomGenerator random(seed);
-    const QByteArray valid = record("/home/ann/with%20blank");
+    const QByteArray valid = record("/users/ann/with%20blank");
     for (int round = 0; round < 20000; ++round) {
         QByteArray bytes = valid;
         for (int change = random.bounded(6); change > 0; --change) {
@@ -250,10 +250,10 @@ void tst_TrashScan::anItemCarriesBothPaths()
 {
     const Machine pc;
     const Trash trash = pc.home();
-    trash.add(u"letter.2.txt"_s, "/home/ann/my%20letter.txt", "12345");
+    trash.add(u"letter.2.txt"_s, "/users/ann/my%20letter.txt", "12345");
     RecycleBinItem item;
     item.fileName = u"my letter.txt"_s;
-    item.originalPath = u"/home/ann/my letter.txt"_s;
+    item.originalPath = u"/users/ann/my letter.txt"_s;
     item.infoPath = trash.info(u"letter.2.txt"_s);
     item.recyclePath = trash.file(u"letter.2.txt"_s);
     item.size = 5;
@@ -272,7 +272,7 @@ void tst_TrashScan::aFolderHasTheSizeOfItsTree()
     const Trash trash = pc.home();
     trash.add(u"photos/.a.jpg"_s, "unused", "12345");
     QVERIFY(QDir(trash.folder + u"/info"_s).removeRecursively());
-    write(trash.info(u"photos"_s), record("/home/ann/photos"));
+    write(trash.info(u"photos"_s), record("/users/ann/photos"));
     write(trash.file(u"photos/b/c/d.jpg"_s), "1234567");
     write(pc.path(u"outside.jpg"_s), QByteArray(1000, 'x'));
     QVERIFY(QFile::link(pc.path(u"outside.jpg"_s), trash.file(u"photos/b/link.jpg"_s)));
@@ -297,10 +297,10 @@ void tst_TrashScan::anEntryWithoutRecordIsListed()
 void tst_TrashScan::aRecordWithoutEntryIsListed()
 {
     const Machine pc;
-    write(pc.home().info(u"gone.2"_s), record("/home/ann/gone"));
+    write(pc.home().info(u"gone.2"_s), record("/users/ann/gone"));
     RecycleBinItem item;
     item.fileName = u"gone"_s;
-    item.originalPath = u"/home/ann/gone"_s;
+    item.originalPath = u"/users/ann/gone"_s;
     item.infoPath = pc.home().info(u"gone.2"_s);
     QCOMPARE(onlyItem(), item);
     QCOMPARE(scan().filePaths, QStringList{item.infoPath});
@@ -310,9 +310,9 @@ void tst_TrashScan::aDamagedRecordLeavesTheEntrysName_data()
 {
     QTest::addColumn<QByteArray>("contents");
     QTest::newRow("empty") << QByteArray();
-    QTest::newRow("cut") << record("/home/ann/a").first(15);
+    QTest::newRow("cut") << record("/users/ann/a").first(15);
     QTest::newRow("zeros") << QByteArray(4096, '\0');
-    QTest::newRow("large") << "[Trash Info]\n#" + QByteArray(1 << 20, 'x') + "\nPath=/home/ann/a\n";
+    QTest::newRow("large") << "[Trash Info]\n#" + QByteArray(1 << 20, 'x') + "\nPath=/users/ann/a\n";
 }
 
 void tst_TrashScan::aDamagedRecordLeavesTheEntrysName()
@@ -347,8 +347,8 @@ void tst_TrashScan::linksInTheTrashAreNotFollowed()
     const Machine pc;
     const Trash trash = pc.home();
     write(pc.path(u"outside/mine.txt"_s), "12345");
-    write(pc.path(u"outside/record"_s), record("/home/ann/secret"));
-    trash.add(u"plain"_s, "/home/ann/plain", "1");
+    write(pc.path(u"outside/record"_s), record("/users/ann/secret"));
+    trash.add(u"plain"_s, "/users/ann/plain", "1");
     QVERIFY(QFile::link(pc.path(u"outside"_s), trash.file(u"link"_s)));
     QVERIFY(QFile::link(pc.path(u"outside/record"_s), trash.info(u"link"_s)));
     const RecycleBinInfo info = scan();
@@ -380,14 +380,14 @@ void tst_TrashScan::namesThatAreNotTextAreKept()
 {
     const Machine pc;
     const Trash trash = pc.home();
-    trash.add(u"a"_s, "/home/ann/caf%E9", "12345");
+    trash.add(u"a"_s, "/users/ann/caf%E9", "12345");
     const QByteArray folder = QFile::encodeName(trash.folder);
     QCOMPARE(::rename(folder + "/files/a", folder + "/files/caf\xe9"), 0);
     QCOMPARE(::rename(folder + "/info/a.trashinfo", folder + "/info/caf\xe9.trashinfo"), 0);
     const QString name = u"caf"_s + QChar(0xDCE9);
     const RecycleBinItem item = onlyItem();
     QCOMPARE(item.fileName, name);
-    QCOMPARE(item.originalPath, u"/home/ann/"_s + name);
+    QCOMPARE(item.originalPath, u"/users/ann/"_s + name);
     QCOMPARE(item.recyclePath, trash.file(name));
     QCOMPARE(item.size, quint64(5));
     // It still leads to the file.
@@ -399,7 +399,7 @@ void tst_TrashScan::otherFilesBesideRecordsAreNoItems()
 {
     const Machine pc;
     const Trash trash = pc.home();
-    trash.add(u"a"_s, "/home/ann/a", "1");
+    trash.add(u"a"_s, "/users/ann/a", "1");
     write(trash.folder + u"/info/note.txt"_s, "x");
     write(trash.folder + u"/directorysizes"_s, "x");
     QVERIFY(QDir().mkpath(trash.info(u"folder"_s)));
@@ -433,7 +433,7 @@ void tst_TrashScan::aHomeTrashThatIsALinkIsNotScanned()
 {
     const Machine pc;
     const Trash elsewhere{pc.path(u"elsewhere"_s)};
-    elsewhere.add(u"a"_s, "/home/ann/a", "1");
+    elsewhere.add(u"a"_s, "/users/ann/a", "1");
     QVERIFY(QDir().mkpath(pc.path(u"data"_s)));
     QVERIFY(QFile::link(elsewhere.folder, pc.home().folder));
     QCOMPARE(scan(), RecycleBinInfo());
@@ -443,7 +443,7 @@ void tst_TrashScan::linkedPartsAreNotScanned_data()
 {
     QTest::addColumn<QString>("part");
     QTest::addColumn<QStringList>("left");
-    QTest::newRow("files") << u"files"_s << QStringList{u"/home/ann/a"_s};
+    QTest::newRow("files") << u"files"_s << QStringList{u"/users/ann/a"_s};
     QTest::newRow("info") << u"info"_s << QStringList{QString()};
 }
 
@@ -453,7 +453,7 @@ void tst_TrashScan::linkedPartsAreNotScanned()
     QFETCH(QStringList, left);
     const Machine pc;
     const Trash trash = pc.home();
-    trash.add(u"a"_s, "/home/ann/a", "1");
+    trash.add(u"a"_s, "/users/ann/a", "1");
     const QString elsewhere = pc.path(u"elsewhere"_s);
     QVERIFY(QDir().rename(trash.folder + u'/' + part, elsewhere));
     QVERIFY(QFile::link(elsewhere, trash.folder + u'/' + part));
@@ -547,7 +547,7 @@ void tst_TrashScan::homeComesBeforeTheDrives()
     Machine pc;
     const QString root = pc.mount(u"stick"_s);
     Machine::own(root).add(u"a"_s, "a", "1");
-    pc.home().add(u"b"_s, "/home/ann/b", "1");
+    pc.home().add(u"b"_s, "/users/ann/b", "1");
     QStringList announced;
     const RecycleBinInfo info = RecycleBinScanner().scan([&](const QString &drive, int index, int count) {
         announced.append(u"%1 %2/%3"_s.arg(drive).arg(index).arg(count));
@@ -675,8 +675,8 @@ void tst_TrashScan::theFoldersOfAScanAreNamedOnce()
 {
     Machine pc;
     const Trash stick = Machine::own(pc.mount(u"stick"_s));
-    pc.home().add(u"a"_s, "/home/ann/a", "1");
-    pc.home().add(u"b"_s, "/home/ann/b", "1");
+    pc.home().add(u"a"_s, "/users/ann/a", "1");
+    pc.home().add(u"b"_s, "/users/ann/b", "1");
     write(stick.file(u"c"_s), "1");
     write(pc.path(u"stick/$Recycle.Bin/"_s) + User + u"/$I1"_s, QByteArray(28, '\0'));
     const RecycleBinInfo info = scan();
