@@ -11,6 +11,7 @@
 #include <windows.h>
 
 #include <atomic>
+#include <cstdio>
 
 using namespace Qt::StringLiterals;
 
@@ -23,6 +24,34 @@ BOOL WINAPI noteControl(DWORD)
 {
     s_interrupted = true;
     return TRUE;
+}
+
+constexpr int ToldOfInterrupt = 42;
+
+BOOL WINAPI endTold(DWORD)
+{
+    ::ExitProcess(ToldOfInterrupt);
+}
+
+// What this program does as a child: nothing but to wait for Ctrl+C.
+int waitForInterrupt()
+{
+    ::SetConsoleCtrlHandler(endTold, TRUE);
+    std::puts("ready");
+    std::fflush(stdout);
+    ::Sleep(5000);
+    return 0;
+}
+
+// Whether a program that shares this console, and nothing else with the one under test, is told of Ctrl+C.
+bool isControlToldOfInterrupt()
+{
+    QProcess control;
+    control.start(QCoreApplication::applicationFilePath(), {u"--wait-for-interrupt"_s});
+    if (!control.waitForReadyRead())
+        return false;
+    ::GenerateConsoleCtrlEvent(CTRL_C_EVENT, 0);
+    return control.waitForFinished() && control.exitCode() == ToldOfInterrupt;
 }
 
 struct Finished
@@ -289,10 +318,18 @@ void TestWindowsProgram::interruptCancelsTheJob()
     const QString path = image();
     QVERIFY(QFile::resize(path, 512 << 20));
     const QString report = m_folder->filePath(u"report.json"_s);
-    const Finished finished =
-        run({u"wipe"_s, u"disk"_s, u"0"_s, u"--image"_s, path, u"--yes"_s, u"--method"_s, u"gutmann"_s,
-             u"--buffer-mb"_s, u"1"_s, u"--json"_s, u"--report"_s, report},
-            [] { QVERIFY(::GenerateConsoleCtrlEvent(CTRL_C_EVENT, 0)); });
+    const QStringList arguments{u"wipe"_s,   u"disk"_s,     u"0"_s,       u"--image"_s,     path,
+                                u"--yes"_s,  u"--method"_s, u"gutmann"_s, u"--buffer-mb"_s, u"1"_s,
+                                u"--json"_s, u"--report"_s, report};
+    Finished finished;
+    for (int attempt = 0; attempt < 3; ++attempt) {
+        finished = run(arguments, [] { QVERIFY(::GenerateConsoleCtrlEvent(CTRL_C_EVENT, 0)); });
+        if (finished.code == 4)
+            break;
+        // Wine now and then passes the event to some processes of the console only.
+        if (!isControlToldOfInterrupt())
+            QSKIP("SKIPPED: this system did not tell a plain program of Ctrl+C either");
+    }
     QVERIFY(s_interrupted);
     QVERIFY(!finished.crashed);
     QCOMPARE(finished.code, 4);
@@ -303,5 +340,13 @@ void TestWindowsProgram::interruptCancelsTheJob()
     QCOMPARE(QJsonDocument::fromJson(content(report)).object(), last.value(u"report"_s).toObject());
 }
 
-QTEST_GUILESS_MAIN(TestWindowsProgram)
+int main(int argc, char *argv[])
+{
+    if (argc > 1 && qstrcmp(argv[1], "--wait-for-interrupt") == 0)
+        return waitForInterrupt();
+    const QCoreApplication application(argc, argv);
+    TestWindowsProgram test;
+    return QTest::qExec(&test, argc, argv);
+}
+
 #include "tst_windowsprogram.moc"
