@@ -21,9 +21,9 @@ constexpr QIODevice::OpenMode Mode = QIODevice::WriteOnly | QIODevice::Append | 
 int appendingDescriptor(const QString &path)
 {
     const std::wstring name = toLongPath(QFileInfo(path).absoluteFilePath());
-    const HANDLE file = win32().createFile(
-        name.c_str(), FILE_APPEND_DATA | FILE_READ_ATTRIBUTES | SYNCHRONIZE,
-        FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+    auto *const file = win32().createFile(name.c_str(), FILE_APPEND_DATA | FILE_READ_ATTRIBUTES | SYNCHRONIZE,
+                                          FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING,
+                                          FILE_ATTRIBUTE_NORMAL, nullptr);
     if (file == INVALID_HANDLE_VALUE)
         return -1;
     const int descriptor = ::_open_osfhandle(reinterpret_cast<intptr_t>(file), _O_APPEND | _O_BINARY);
