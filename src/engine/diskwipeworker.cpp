@@ -107,10 +107,10 @@ bool DiskWipeWorker::measureDisk()
 platform::Status DiskWipeWorker::openDisk()
 {
     platform::Devices &devices = platform::Platform::current().devices();
-    const platform::DriveSharing sharing =
-        m_volumes.empty() ? platform::DriveSharing::Alone : platform::DriveSharing::BesideOwnVolumes;
+    const platform::DriveAccess access =
+        m_volumes.empty() ? platform::DriveAccess::Alone : platform::DriveAccess::BesideOwnVolumes;
     qDebug() << "[DiskWipe] Opening device:" << devices.drivePath(task().disk().diskNumber);
-    platform::Result<std::unique_ptr<platform::RawDevice>> drive = devices.openDrive(identity(), sharing);
+    platform::Result<std::unique_ptr<platform::RawDevice>> drive = devices.openDrive(identity(), access);
     if (!drive) {
         qDebug() << "[DiskWipe] CreateFile failed, error:" << drive.code();
         diagnose(drive.status());

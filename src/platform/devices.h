@@ -128,9 +128,10 @@ struct DriveIdentity
     qint64 sizeBytes = 0;
 };
 
-enum class DriveSharing {
+enum class DriveAccess {
     Alone,            // nobody else may hold the drive or a part of it
     BesideOwnVolumes, // this process holds volumes of the drive
+    ReadOnly,         // to look at it, whoever holds it; every write() fails
 };
 
 // A mounted volume as the system lists it.
@@ -167,13 +168,13 @@ public:
     // A volume by its name: "E:" on Windows, a mount point or a device node on Linux.
     virtual Result<std::unique_ptr<DeviceQuery>> queryVolume(const QString &name) = 0;
 
-    // Opens a drive for writing. NotReady, with nothing opened, when serial number or size are no longer
-    // those of the identity; AccessDenied without the rights; SharingViolation when somebody else holds it.
-    // Windows: CreateFileW with GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE,
-    // OPEN_EXISTING, FILE_FLAG_WRITE_THROUGH | FILE_FLAG_NO_BUFFERING; sharing is the system's affair there.
-    // Linux: O_RDWR | O_DIRECT | O_DSYNC, with O_EXCL when Alone.
-    virtual Result<std::unique_ptr<RawDevice>> openDrive(const DriveIdentity &drive,
-                                                         DriveSharing sharing) = 0;
+    // Opens a drive for writing, or only for reading. NotReady, with nothing opened, when serial number or
+    // size are no longer those of the identity; AccessDenied without the rights; SharingViolation when
+    // somebody else holds it. Windows: CreateFileW with GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ |
+    // FILE_SHARE_WRITE, OPEN_EXISTING, FILE_FLAG_WRITE_THROUGH | FILE_FLAG_NO_BUFFERING, with GENERIC_READ
+    // alone when ReadOnly; who else holds the drive is the system's affair there. Linux: O_RDWR | O_DIRECT |
+    // O_DSYNC, with O_EXCL when Alone; O_RDONLY | O_DIRECT when ReadOnly.
+    virtual Result<std::unique_ptr<RawDevice>> openDrive(const DriveIdentity &drive, DriveAccess access) = 0;
 
     // Opens a volume of that drive for writing, flags as above, neither locked nor dismounted. NotReady, with
     // nothing opened, when the drive is no longer the one of the identity or the volume no longer begins on

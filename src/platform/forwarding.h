@@ -130,9 +130,9 @@ public:
     {
         return m_target.queryVolume(name);
     }
-    Result<std::unique_ptr<RawDevice>> openDrive(const DriveIdentity &drive, DriveSharing sharing) override
+    Result<std::unique_ptr<RawDevice>> openDrive(const DriveIdentity &drive, DriveAccess access) override
     {
-        return m_target.openDrive(drive, sharing);
+        return m_target.openDrive(drive, access);
     }
     Result<std::unique_ptr<VolumeDevice>> openVolume(const QString &name, const DriveIdentity &drive) override
     {

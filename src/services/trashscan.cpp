@@ -3,7 +3,7 @@
 #include "platform/filebeginning.h"
 #include "platform/files.h"
 #include "platform/folders.h"
-#include "platform/linux/folderowner.h"
+#include "platform/folderowner.h"
 #include "platform/platform.h"
 #include "services/foldertree.h"
 #include "services/trashinfofile.h"

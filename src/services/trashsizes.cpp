@@ -3,7 +3,7 @@
 #include "platform/filebeginning.h"
 #include "platform/files.h"
 #include "platform/folders.h"
-#include "platform/linux/filenames.h"
+#include "platform/filenames.h"
 #include "platform/platform.h"
 #include "services/foldertree.h"
 

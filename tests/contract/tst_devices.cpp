@@ -136,6 +136,8 @@ private slots:
     void otherSizeIsRefused();
     void unknownNumberIsRefused();
     void flushSucceeds();
+    void readOnlyReadsAndNeverWrites();
+    void readOnlyLeavesTheDriveToOthers();
 };
 
 // Why there is no such backing here; empty when there is.
@@ -178,7 +180,7 @@ void TestDevices::geometryAndLength()
     QVERIFY(query.ok());
     QCOMPARE(query.value()->geometry().value().sizeBytes, size);
     QCOMPARE(query.value()->geometry().value().bytesPerSector, sector);
-    auto device = drive.devices().openDrive(drive.identity(), DriveSharing::Alone);
+    auto device = drive.devices().openDrive(drive.identity(), DriveAccess::Alone);
     QVERIFY(device.ok());
     QCOMPARE(device.value()->geometry().value().sizeBytes, size);
     QCOMPARE(device.value()->bytesPerSector().value(), sector);
@@ -207,7 +209,7 @@ void TestDevices::writeReachesTheMediumAtItsPlace()
 {
     BACKING(drive);
     QFETCH_GLOBAL(int, sector);
-    auto device = drive.devices().openDrive(drive.identity(), DriveSharing::Alone);
+    auto device = drive.devices().openDrive(drive.identity(), DriveAccess::Alone);
     QVERIFY(device.ok());
     const AlignedBuffer data = filled(3 * sector, 'W');
     QVERIFY(device.value()->seek(5 * sector).ok());
@@ -225,7 +227,7 @@ void TestDevices::readSeesTheMedium()
 #ifdef Q_OS_WIN
     QSKIP("SKIPPED: Windows lets nobody else write to an image that is open as a drive");
 #endif
-    auto device = drive.devices().openDrive(drive.identity(), DriveSharing::Alone);
+    auto device = drive.devices().openDrive(drive.identity(), DriveAccess::Alone);
     QVERIFY(device.ok());
     AlignedBuffer data = filled(sector, 'x');
     QVERIFY(device.value()->seek(0).ok());
@@ -245,7 +247,7 @@ void TestDevices::positionAdvances()
 {
     BACKING(drive);
     QFETCH_GLOBAL(int, sector);
-    auto device = drive.devices().openDrive(drive.identity(), DriveSharing::Alone);
+    auto device = drive.devices().openDrive(drive.identity(), DriveAccess::Alone);
     QVERIFY(device.ok());
     QVERIFY(device.value()->seek(0).ok());
     QVERIFY(device.value()->write(filled(sector, 'A').data(), sector).ok());
@@ -258,7 +260,7 @@ void TestDevices::writeAtTheEndIsShort()
     BACKING(drive);
     QFETCH_GLOBAL(int, sector);
     QFETCH_GLOBAL(qint64, size);
-    auto device = drive.devices().openDrive(drive.identity(), DriveSharing::Alone);
+    auto device = drive.devices().openDrive(drive.identity(), DriveAccess::Alone);
     QVERIFY(device.ok());
     const AlignedBuffer data = filled(4 * sector, 'E');
     QVERIFY(device.value()->seek(size - sector).ok());
@@ -271,7 +273,7 @@ void TestDevices::writeBeyondTheEndIsRefused()
     BACKING(drive);
     QFETCH_GLOBAL(int, sector);
     QFETCH_GLOBAL(qint64, size);
-    auto device = drive.devices().openDrive(drive.identity(), DriveSharing::Alone);
+    auto device = drive.devices().openDrive(drive.identity(), DriveAccess::Alone);
     QVERIFY(device.ok());
     QVERIFY(device.value()->seek(size).ok());
     QCOMPARE(device.value()->write(filled(sector, 'E').data(), sector).code(), quint32(SectorNotFound));
@@ -283,7 +285,7 @@ void TestDevices::readAtTheEndIsShort()
     BACKING(drive);
     QFETCH_GLOBAL(int, sector);
     QFETCH_GLOBAL(qint64, size);
-    auto device = drive.devices().openDrive(drive.identity(), DriveSharing::Alone);
+    auto device = drive.devices().openDrive(drive.identity(), DriveAccess::Alone);
     QVERIFY(device.ok());
     AlignedBuffer data(4 * sector);
     QVERIFY(device.value()->seek(size - sector).ok());
@@ -295,7 +297,7 @@ void TestDevices::unalignedTransfersAreRefused()
 {
     BACKING(drive);
     QFETCH_GLOBAL(int, sector);
-    auto device = drive.devices().openDrive(drive.identity(), DriveSharing::Alone);
+    auto device = drive.devices().openDrive(drive.identity(), DriveAccess::Alone);
     QVERIFY(device.ok());
     AlignedBuffer data(2 * sector);
     QCOMPARE(device.value()->seek(1).code, quint32(InvalidParameter));
@@ -309,7 +311,7 @@ void TestDevices::otherSerialNumberIsRefused()
     BACKING(drive);
     DriveIdentity identity = drive.identity();
     identity.serialNumber = QStringLiteral("SOMEBODY ELSE");
-    QCOMPARE(drive.devices().openDrive(identity, DriveSharing::Alone).code(), quint32(NotReady));
+    QCOMPARE(drive.devices().openDrive(identity, DriveAccess::Alone).code(), quint32(NotReady));
 }
 
 void TestDevices::otherSizeIsRefused()
@@ -317,22 +319,49 @@ void TestDevices::otherSizeIsRefused()
     BACKING(drive);
     DriveIdentity identity = drive.identity();
     identity.sizeBytes += 512;
-    QCOMPARE(drive.devices().openDrive(identity, DriveSharing::Alone).code(), quint32(NotReady));
+    QCOMPARE(drive.devices().openDrive(identity, DriveAccess::Alone).code(), quint32(NotReady));
 }
 
 void TestDevices::unknownNumberIsRefused()
 {
     BACKING(drive);
     QCOMPARE(drive.devices().queryDrive(4711).code(), quint32(FileNotFound));
-    QVERIFY(!drive.devices().openDrive({4711, {}, 0}, DriveSharing::Alone).ok());
+    QVERIFY(!drive.devices().openDrive({4711, {}, 0}, DriveAccess::Alone).ok());
 }
 
 void TestDevices::flushSucceeds()
 {
     BACKING(drive);
-    auto device = drive.devices().openDrive(drive.identity(), DriveSharing::Alone);
+    auto device = drive.devices().openDrive(drive.identity(), DriveAccess::Alone);
     QVERIFY(device.ok());
     QVERIFY(device.value()->flush().ok());
+}
+
+void TestDevices::readOnlyReadsAndNeverWrites()
+{
+    BACKING(drive);
+    QFETCH_GLOBAL(int, sector);
+    const QByteArray before = drive.bytes(0, MiB);
+    auto device = drive.devices().openDrive(drive.identity(), DriveAccess::ReadOnly);
+    QVERIFY(device.ok());
+    AlignedBuffer buffer = filled(sector, 'x');
+    QCOMPARE(device.value()->read(buffer.data(), sector).value(), qint64(sector));
+    QCOMPARE(QByteArray(reinterpret_cast<const char *>(buffer.data()), sector), before.first(sector));
+    QVERIFY(device.value()->seek(0).ok());
+    AlignedBuffer other = filled(sector, 'x');
+    QVERIFY(!device.value()->write(other.data(), sector).ok());
+    QCOMPARE(drive.bytes(0, MiB), before);
+}
+
+void TestDevices::readOnlyLeavesTheDriveToOthers()
+{
+    BACKING(drive);
+    auto reader = drive.devices().openDrive(drive.identity(), DriveAccess::ReadOnly);
+    QVERIFY(reader.ok());
+    auto other = drive.identity();
+    other.serialNumber += u'x';
+    QCOMPARE(drive.devices().openDrive(other, DriveAccess::ReadOnly).code(), NotReady);
+    QVERIFY(drive.devices().openDrive(drive.identity(), DriveAccess::Alone).ok());
 }
 
 QTEST_GUILESS_MAIN(TestDevices)

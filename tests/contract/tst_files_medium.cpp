@@ -4,7 +4,7 @@
 #include "platform/alignedbuffer.h"
 #include "platform/files.h"
 #include "platform/linux/filedescriptor.h"
-#include "platform/linux/filenames.h"
+#include "platform/filenames.h"
 #include "platform/linux/linuxfilehandle.h"
 
 #include <QFileInfo>

@@ -3,7 +3,7 @@
 
 #include "platform/folders.h"
 #include "platform/linux/filedescriptor.h"
-#include "platform/linux/filenames.h"
+#include "platform/filenames.h"
 
 #include <QFileInfo>
 #include <QMap>

@@ -197,7 +197,7 @@ void TestLinuxVolumes::changedDriveIsRefused()
 
 void TestLinuxVolumes::driveInUseIsNotOpenedAlone()
 {
-    QCOMPARE(devices().openDrive(m_identity, DriveSharing::Alone).code(), quint32(SharingViolation));
+    QCOMPARE(devices().openDrive(m_identity, DriveAccess::Alone).code(), quint32(SharingViolation));
 }
 
 void TestLinuxVolumes::driveOpensBesideOwnVolumes()
@@ -205,7 +205,7 @@ void TestLinuxVolumes::driveOpensBesideOwnVolumes()
     auto volume = devices().openVolume(m_volume->mountPoint(), m_identity);
     QVERIFY(volume.ok());
     QVERIFY(volume.value()->lock().ok());
-    auto drive = devices().openDrive(m_identity, DriveSharing::BesideOwnVolumes);
+    auto drive = devices().openDrive(m_identity, DriveAccess::BesideOwnVolumes);
     QVERIFY(drive.ok());
     QCOMPARE(drive.value()->length().value(), m_identity.sizeBytes);
 }
@@ -220,7 +220,7 @@ void TestLinuxVolumes::newAttachmentIsAnotherDrive()
     LoopMount other(m_folder->path(), options, QStringLiteral("other"));
     QVERIFY2(other.isReady(), qPrintable(other.error()));
     // The same node and size as the drive that was chosen, and no serial number to tell them apart.
-    QVERIFY(!devices().openDrive(m_identity, DriveSharing::Alone).ok());
+    QVERIFY(!devices().openDrive(m_identity, DriveAccess::Alone).ok());
     QVERIFY(numberOf(devices(), other.device()) != m_number);
     QCOMPARE(other.countInImage(QByteArray(1, 'x')), 0);
 }

@@ -1,7 +1,7 @@
 #include "engine/copyonwrite.h"
 
 #include "filejob.h"
-#include "platform/linux/filenames.h"
+#include "platform/filenames.h"
 #include "support/loopmount.h"
 
 #include <QStorageInfo>

@@ -35,9 +35,9 @@ public:
         , m_read(std::move(read))
     {}
     platform::Result<std::unique_ptr<platform::RawDevice>> openDrive(const platform::DriveIdentity &drive,
-                                                                     platform::DriveSharing sharing) override
+                                                                     platform::DriveAccess access) override
     {
-        auto target = m_target.openDrive(drive, sharing);
+        auto target = m_target.openDrive(drive, access);
         if (!target)
             return target.status();
         return std::unique_ptr<platform::RawDevice>(std::make_unique<Drive>(target.take(), m_read));

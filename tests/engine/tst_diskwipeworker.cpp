@@ -547,12 +547,12 @@ void TestDiskWipeWorker::driveOpenedAloneOnlyWithoutVolumes()
     public:
         using ForwardingDevices::ForwardingDevices;
         platform::Result<std::unique_ptr<platform::RawDevice>>
-        openDrive(const platform::DriveIdentity &drive, platform::DriveSharing sharing) override
+        openDrive(const platform::DriveIdentity &drive, platform::DriveAccess access) override
         {
-            asked += sharing;
-            return ForwardingDevices::openDrive(drive, sharing);
+            asked += access;
+            return ForwardingDevices::openDrive(drive, access);
         }
-        QList<platform::DriveSharing> asked;
+        QList<platform::DriveAccess> asked;
     };
     for (const bool hasVolume : {false, true}) {
         MemoryDevices memory;
@@ -563,8 +563,8 @@ void TestDiskWipeWorker::driveOpenedAloneOnlyWithoutVolumes()
         DiskWipeJob job;
         job.chooseDrive(memory.drive(0));
         QVERIFY(job.run(devices));
-        QCOMPARE(devices.asked, QList({hasVolume ? platform::DriveSharing::BesideOwnVolumes
-                                                 : platform::DriveSharing::Alone}));
+        QCOMPARE(devices.asked, QList({hasVolume ? platform::DriveAccess::BesideOwnVolumes
+                                                 : platform::DriveAccess::Alone}));
     }
 }
 
@@ -1008,9 +1008,9 @@ public:
         , m_limit(limit)
     {}
     platform::Result<std::unique_ptr<platform::RawDevice>> openDrive(const platform::DriveIdentity &drive,
-                                                                     platform::DriveSharing sharing) override
+                                                                     platform::DriveAccess access) override
     {
-        auto target = m_target.openDrive(drive, sharing);
+        auto target = m_target.openDrive(drive, access);
         if (!target)
             return target.status();
         return std::unique_ptr<platform::RawDevice>(std::make_unique<Drive>(target.take(), m_limit));

@@ -1,5 +1,5 @@
 #include "filejob.h"
-#include "platform/linux/filenames.h"
+#include "platform/filenames.h"
 
 #include <QTest>
 

@@ -54,9 +54,9 @@ class GatedDevices : public platform::ForwardingDevices
 public:
     using ForwardingDevices::ForwardingDevices;
     platform::Result<std::unique_ptr<platform::RawDevice>> openDrive(const platform::DriveIdentity &drive,
-                                                                     platform::DriveSharing sharing) override
+                                                                     platform::DriveAccess access) override
     {
-        auto device = ForwardingDevices::openDrive(drive, sharing);
+        auto device = ForwardingDevices::openDrive(drive, access);
         if (!device)
             return device.status();
         return std::unique_ptr<platform::RawDevice>(

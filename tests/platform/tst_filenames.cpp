@@ -1,4 +1,4 @@
-#include "platform/linux/filenames.h"
+#include "platform/filenames.h"
 
 #include <QRandomGenerator>
 #include <QTest>

@@ -168,7 +168,7 @@ public:
     }
 
     platform::Result<std::unique_ptr<platform::RawDevice>> openDrive(const platform::DriveIdentity &,
-                                                                     platform::DriveSharing) override
+                                                                     platform::DriveAccess) override
     {
         return fakeFailure(platform::NotSupported);
     }

@@ -35,7 +35,7 @@ public:
     platform::Result<std::unique_ptr<platform::DeviceQuery>> queryDrive(int number) override;
     platform::Result<std::unique_ptr<platform::DeviceQuery>> queryVolume(const QString &name) override;
     platform::Result<std::unique_ptr<platform::RawDevice>> openDrive(const platform::DriveIdentity &drive,
-                                                                     platform::DriveSharing sharing) override;
+                                                                     platform::DriveAccess access) override;
     platform::Result<std::unique_ptr<platform::VolumeDevice>>
     openVolume(const QString &name, const platform::DriveIdentity &drive) override;
 
@@ -195,12 +195,12 @@ InterposedDevices::queryVolume(const QString &name)
 }
 
 inline platform::Result<std::unique_ptr<platform::RawDevice>>
-InterposedDevices::openDrive(const platform::DriveIdentity &drive, platform::DriveSharing sharing)
+InterposedDevices::openDrive(const platform::DriveIdentity &drive, platform::DriveAccess access)
 {
     const QString name = QString::number(drive.number);
     if (const auto status = m_before({FaultPlan::Open, QLatin1String("openDrive"), name}); !status)
         return status;
-    auto target = m_target.openDrive(drive, sharing);
+    auto target = m_target.openDrive(drive, access);
     if (!target)
         return target.status();
     return std::unique_ptr<platform::RawDevice>(

@@ -21,9 +21,9 @@ public:
     bool hasDropped() const { return *m_countdown <= 0; }
 
     platform::Result<std::unique_ptr<platform::RawDevice>> openDrive(const platform::DriveIdentity &drive,
-                                                                     platform::DriveSharing sharing) override
+                                                                     platform::DriveAccess access) override
     {
-        auto target = m_target.openDrive(drive, sharing);
+        auto target = m_target.openDrive(drive, access);
         if (!target)
             return target.status();
         return std::unique_ptr<platform::RawDevice>(
@@ -92,11 +92,11 @@ public:
     {}
 
     platform::Result<std::unique_ptr<platform::RawDevice>> openDrive(const platform::DriveIdentity &drive,
-                                                                     platform::DriveSharing sharing) override
+                                                                     platform::DriveAccess access) override
     {
         if (drive.sizeBytes != m_statedSize)
             return platform::Status{platform::NotReady, 0, "identity check"};
-        auto target = m_target.openDrive({drive.number, drive.serialNumber, m_realSize}, sharing);
+        auto target = m_target.openDrive({drive.number, drive.serialNumber, m_realSize}, access);
         if (!target)
             return target.status();
         return std::unique_ptr<platform::RawDevice>(std::make_unique<Drive>(target.take(), *this));

@@ -95,7 +95,7 @@ public:
     platform::Result<std::unique_ptr<platform::DeviceQuery>> queryDrive(int number) override;
     platform::Result<std::unique_ptr<platform::DeviceQuery>> queryVolume(const QString &name) override;
     platform::Result<std::unique_ptr<platform::RawDevice>> openDrive(const platform::DriveIdentity &identity,
-                                                                     platform::DriveSharing sharing) override;
+                                                                     platform::DriveAccess access) override;
     platform::Result<std::unique_ptr<platform::VolumeDevice>>
     openVolume(const QString &name, const platform::DriveIdentity &identity) override;
 
@@ -427,7 +427,7 @@ MemoryDevices::queryVolume(const QString &name)
 }
 
 inline platform::Result<std::unique_ptr<platform::RawDevice>>
-MemoryDevices::openDrive(const platform::DriveIdentity &identity, platform::DriveSharing sharing)
+MemoryDevices::openDrive(const platform::DriveIdentity &identity, platform::DriveAccess access)
 {
     const QMutexLocker locker(&m_mutex);
     if (!m_drives.contains(identity.number))
@@ -442,7 +442,7 @@ MemoryDevices::openDrive(const platform::DriveIdentity &identity, platform::Driv
                        return extent.diskNumber == identity.number;
                    });
         });
-    if (sharing == platform::DriveSharing::Alone && inUse)
+    if (access == platform::DriveAccess::Alone && inUse)
         return platform::Status{platform::SharingViolation, 0, "open drive"};
     return std::unique_ptr<platform::RawDevice>(std::make_unique<Drive>(*this, m_drives.at(identity.number)));
 }

@@ -15,9 +15,9 @@ public:
     using ForwardingDevices::ForwardingDevices;
 
     platform::Result<std::unique_ptr<platform::RawDevice>> openDrive(const platform::DriveIdentity &drive,
-                                                                     platform::DriveSharing sharing) override
+                                                                     platform::DriveAccess access) override
     {
-        auto target = m_target.openDrive(drive, sharing);
+        auto target = m_target.openDrive(drive, access);
         if (!target)
             return target.status();
         return std::unique_ptr<platform::RawDevice>(

@@ -79,7 +79,7 @@ private:
     {
         auto drive = m_devices.openDrive(
             {ScriptedMachine::Number, QStringLiteral("W621ABCD"), ScriptedMachine::DriveSize},
-            DriveSharing::Alone);
+            DriveAccess::Alone);
         note("openDrive", drive);
         if (!drive)
             return;
@@ -300,8 +300,8 @@ void tst_WindowsDevices::missingDevicesAreNotFound()
     QCOMPARE(devices.queryDrive(4).code(), quint32(FileNotFound));
     QCOMPARE(devices.queryDrive(-1).code(), quint32(FileNotFound));
     QCOMPARE(devices.queryVolume(QStringLiteral("F:")).code(), quint32(FileNotFound));
-    QCOMPARE(devices.openDrive({4, {}, 0}, DriveSharing::Alone).code(), quint32(FileNotFound));
-    QCOMPARE(devices.openDrive({-1, {}, 0}, DriveSharing::Alone).code(), quint32(NotReady));
+    QCOMPARE(devices.openDrive({4, {}, 0}, DriveAccess::Alone).code(), quint32(FileNotFound));
+    QCOMPARE(devices.openDrive({-1, {}, 0}, DriveAccess::Alone).code(), quint32(NotReady));
     QCOMPARE(devices.openVolume(QStringLiteral("F:"), machine.identity).code(), quint32(FileNotFound));
 }
 
@@ -333,8 +333,8 @@ void tst_WindowsDevices::transfersAreUnbufferedAndWrittenThrough()
     ScriptedMachine machine;
     WindowsDevices devices;
     {
-        const auto drive = devices.openDrive(machine.identity, DriveSharing::Alone);
-        const auto beside = devices.openDrive(machine.identity, DriveSharing::BesideOwnVolumes);
+        const auto drive = devices.openDrive(machine.identity, DriveAccess::Alone);
+        const auto beside = devices.openDrive(machine.identity, DriveAccess::BesideOwnVolumes);
         const auto volume = devices.openVolume(QStringLiteral("E:"), machine.identity);
         QVERIFY(drive.ok() && beside.ok() && volume.ok());
         // The volume's look at its drive is closed again.
@@ -382,7 +382,7 @@ void tst_WindowsDevices::requestsHaveTheirCodesAndSizes()
     QVERIFY(raw.value()->dismount().ok() && asked(0x00090020, 0, 0));
     QVERIFY(raw.value()->allowExtendedIo().ok() && asked(0x00090083, 0, 0));
     QVERIFY(raw.value()->unlock().ok() && asked(0x0009001C, 0, 0));
-    auto rawDrive = devices.openDrive(machine.identity, DriveSharing::Alone);
+    auto rawDrive = devices.openDrive(machine.identity, DriveAccess::Alone);
     machine.faults.forget();
     QVERIFY(rawDrive.value()->geometry().ok() && asked(0x000700A0, 0, 40));
 }
@@ -444,7 +444,7 @@ void tst_WindowsDevices::shortReplies()
     WindowsDevices devices;
     auto drive = devices.queryDrive(ScriptedMachine::Number);
     auto volume = devices.queryVolume(QStringLiteral("E:"));
-    auto raw = devices.openDrive(machine.identity, DriveSharing::Alone);
+    auto raw = devices.openDrive(machine.identity, DriveAccess::Alone);
     QVERIFY(drive.ok() && volume.ok() && raw.ok());
     const auto answerWith = [&](int size) {
         const auto cut = [size](const QByteArray &reply) {
@@ -521,7 +521,7 @@ void tst_WindowsDevices::aDriveWithoutMediumIsNotReady()
     ScriptedMachine machine;
     WindowsDevices devices;
     auto drive = devices.queryDrive(ScriptedMachine::Number);
-    auto raw = devices.openDrive(machine.identity, DriveSharing::Alone);
+    auto raw = devices.openDrive(machine.identity, DriveAccess::Alone);
     machine.script(machine.drive, IOCTL_DISK_GET_DRIVE_GEOMETRY_EX, QByteArray(40, '\0'));
     QCOMPARE(drive.value()->geometry().code(), quint32(NotReady));
     machine.script(machine.drive, IOCTL_DISK_GET_DRIVE_GEOMETRY_EX, replies::geometryEx(-1, 512));
@@ -601,8 +601,8 @@ void tst_WindowsDevices::anotherDriveIsRefused()
         machine.describeNothing();
     const DriveIdentity chosen{ScriptedMachine::Number, chosenSerial, chosenSize};
     WindowsDevices devices;
-    QCOMPARE(devices.openDrive(chosen, DriveSharing::Alone).code(), quint32(NotReady));
-    QCOMPARE(devices.openDrive(chosen, DriveSharing::BesideOwnVolumes).code(), quint32(NotReady));
+    QCOMPARE(devices.openDrive(chosen, DriveAccess::Alone).code(), quint32(NotReady));
+    QCOMPARE(devices.openDrive(chosen, DriveAccess::BesideOwnVolumes).code(), quint32(NotReady));
     QCOMPARE(devices.openVolume(QStringLiteral("E:"), chosen).code(), quint32(NotReady));
     QCOMPARE(machine.faults.openHandles(), 0);
     QCOMPARE(machine.faults.seen(Win32Faults::WriteFile_), 0);
@@ -622,7 +622,7 @@ void tst_WindowsDevices::aDriveThatNeverDescribedItselfIsAccepted()
     ScriptedMachine machine;
     machine.describeNothing(error);
     WindowsDevices devices;
-    QVERIFY(devices.openDrive(machine.undescribed, DriveSharing::Alone).ok());
+    QVERIFY(devices.openDrive(machine.undescribed, DriveAccess::Alone).ok());
     QVERIFY(devices.openVolume(QStringLiteral("E:"), machine.undescribed).ok());
     // Nor is it one that tells nothing because it is not there: its volume still names it.
     machine.faults.removeDevice(machine.drive);
@@ -657,7 +657,7 @@ void tst_WindowsDevices::transfersReachTheirPlace()
 {
     ScriptedMachine machine;
     WindowsDevices devices;
-    auto drive = devices.openDrive(machine.identity, DriveSharing::Alone);
+    auto drive = devices.openDrive(machine.identity, DriveAccess::Alone);
     const AlignedBuffer data = filled(3 * Sector, 'W');
     QVERIFY(drive.value()->seek(5 * Sector).ok());
     QCOMPARE(drive.value()->write(data.data(), data.size()).value(), data.size());
@@ -724,7 +724,7 @@ void tst_WindowsDevices::misalignedTransfersAreRefused()
     ScriptedMachine machine;
     machine.script(machine.volume, IOCTL_DISK_GET_DRIVE_GEOMETRY, replies::geometry(4096));
     WindowsDevices devices;
-    auto drive = devices.openDrive(machine.identity, DriveSharing::Alone);
+    auto drive = devices.openDrive(machine.identity, DriveAccess::Alone);
     auto volume = devices.openVolume(QStringLiteral("E:"), machine.identity);
     AlignedBuffer data(8192);
     QCOMPARE(drive.value()->seek(1).code, quint32(InvalidParameter));
@@ -751,7 +751,7 @@ void tst_WindowsDevices::misalignedTransfersAreRefused()
     machine.describe();                                                                                      \
     s_pieces = pieces;                                                                                       \
     WindowsDevices devices;                                                                                  \
-    auto drive = devices.openDrive(machine.identity, DriveSharing::Alone);                                   \
+    auto drive = devices.openDrive(machine.identity, DriveAccess::Alone);                                   \
     QVERIFY(drive.ok());                                                                                     \
     machine.faults.target().writeFile = &writePiece;                                                         \
     machine.faults.target().readFile = &readPiece
@@ -853,7 +853,7 @@ void tst_WindowsDevices::aFullDeviceIsNotItsEnd()
     QCOMPARE(drive.value()->write(data.data(), data.size()).code(), quint32(DiskFull));
     machine.script(machine.drive, IOCTL_DISK_GET_LENGTH_INFO,
                    replies::length(2 * ScriptedMachine::DriveSize));
-    auto measured = devices.openDrive(machine.identity, DriveSharing::Alone);
+    auto measured = devices.openDrive(machine.identity, DriveAccess::Alone);
     QVERIFY(measured.value()->seek(ScriptedMachine::DriveSize).ok());
     s_pieces.sizes.clear();
     QCOMPARE(measured.value()->write(data.data(), data.size()).code(), quint32(DiskFull));

@@ -171,15 +171,16 @@ Result<std::unique_ptr<DeviceQuery>> ImageDevices::queryVolume(const QString &na
     return m_base.queryVolume(name);
 }
 
-Result<std::unique_ptr<RawDevice>> ImageDevices::openDrive(const DriveIdentity &drive, DriveSharing sharing)
+Result<std::unique_ptr<RawDevice>> ImageDevices::openDrive(const DriveIdentity &drive, DriveAccess access)
 {
     if (!m_images.contains(drive.number)) {
         if (m_onlyImages)
             return noSuchDrive();
-        return m_base.openDrive(drive, sharing);
+        return m_base.openDrive(drive, access);
     }
     const QString path = m_images.value(drive.number);
-    Result<std::unique_ptr<FileHandle>> file = m_files.open(path, OpenMode::Overwrite);
+    const OpenMode mode = access == DriveAccess::ReadOnly ? OpenMode::Verify : OpenMode::Overwrite;
+    Result<std::unique_ptr<FileHandle>> file = m_files.open(path, mode);
     if (!file)
         return file.status();
     const Result<qint64> size = imageSize(m_files, path);

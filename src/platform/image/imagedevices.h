@@ -21,7 +21,7 @@ public:
     QString drivePath(int number) override;
     Result<std::unique_ptr<DeviceQuery>> queryDrive(int number) override;
     Result<std::unique_ptr<DeviceQuery>> queryVolume(const QString &name) override;
-    Result<std::unique_ptr<RawDevice>> openDrive(const DriveIdentity &drive, DriveSharing sharing) override;
+    Result<std::unique_ptr<RawDevice>> openDrive(const DriveIdentity &drive, DriveAccess access) override;
     Result<std::unique_ptr<VolumeDevice>> openVolume(const QString &name,
                                                      const DriveIdentity &drive) override;
     QStringList volumeNames() override;

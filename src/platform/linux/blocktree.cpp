@@ -1,6 +1,6 @@
 #include "platform/linux/blocktree.h"
 
-#include "platform/linux/filenames.h"
+#include "platform/filenames.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -1,7 +1,7 @@
-#include "platform/linux/folderowner.h"
+#include "platform/folderowner.h"
 
+#include "platform/filenames.h"
 #include "platform/linux/errnotable.h"
-#include "platform/linux/filenames.h"
 
 #include <cerrno>
 

@@ -1,7 +1,7 @@
 #include "platform/linux/linuxdevices.h"
 
+#include "platform/filenames.h"
 #include "platform/linux/drivedescription.h"
-#include "platform/linux/filenames.h"
 #include "platform/linux/volumelabel.h"
 #include "platform/storagereplies.h"
 
@@ -128,13 +128,12 @@ Status LinuxDevices::checkIdentity(const DriveIdentity &chosen, const Drive &pre
     return {};
 }
 
-Result<std::unique_ptr<RawDevice>> LinuxDevices::openDrive(const DriveIdentity &drive, DriveSharing sharing)
+Result<std::unique_ptr<RawDevice>> LinuxDevices::openDrive(const DriveIdentity &drive, DriveAccess access)
 {
     const std::optional<Drive> present = m_registry.byNumber(drive.number);
     if (!present)
         return Status{NotReady, 0, "drive number"};
-    Result<FileDescriptor> fd =
-        openBlockDevice(m_blocks.node(present->device), present->device, sharing == DriveSharing::Alone);
+    Result<FileDescriptor> fd = openBlockDevice(m_blocks.node(present->device), present->device, access);
     if (!fd)
         return fd.status();
     // Asked only now that the device is held: before, it could still be exchanged for another.
@@ -156,7 +155,7 @@ Result<std::unique_ptr<VolumeDevice>> LinuxDevices::openVolume(const QString &na
     if (volume.device.isEmpty())
         return Status{FileNotFound, 0, "volume name"};
     const QString node = m_blocks.node(volume.device);
-    Result<FileDescriptor> fd = openBlockDevice(node, volume.device, false);
+    Result<FileDescriptor> fd = openBlockDevice(node, volume.device, DriveAccess::BesideOwnVolumes);
     if (!fd)
         return fd.status();
     const QList<Extent> extents = extentsOf(volume.device);

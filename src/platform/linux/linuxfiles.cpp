@@ -1,8 +1,8 @@
 #include "platform/linux/linuxfiles.h"
 
+#include "platform/filenames.h"
 #include "platform/linux/errnotable.h"
 #include "platform/linux/filekind.h"
-#include "platform/linux/filenames.h"
 #include "platform/linux/linuxfilehandle.h"
 
 #include <fcntl.h>

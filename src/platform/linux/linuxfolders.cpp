@@ -1,8 +1,8 @@
 #include "platform/linux/linuxfolders.h"
 
+#include "platform/filenames.h"
 #include "platform/linux/directoryentries.h"
 #include "platform/linux/errnotable.h"
-#include "platform/linux/filenames.h"
 #include "platform/linux/treeremoval.h"
 
 #include <QList>

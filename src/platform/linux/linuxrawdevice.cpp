@@ -1,7 +1,7 @@
 #include "platform/linux/linuxrawdevice.h"
 
+#include "platform/filenames.h"
 #include "platform/linux/errnotable.h"
-#include "platform/linux/filenames.h"
 
 #include <QtGlobal>
 
@@ -32,10 +32,11 @@ Status writeFailure(int error)
 
 } // namespace
 
-Result<FileDescriptor> openBlockDevice(const QString &node, const QByteArray &device, bool exclusive)
+Result<FileDescriptor> openBlockDevice(const QString &node, const QByteArray &device, DriveAccess access)
 {
-    int flags = O_RDWR | O_DIRECT | O_DSYNC | O_CLOEXEC | O_NONBLOCK;
-    if (exclusive)
+    int flags = O_DIRECT | O_CLOEXEC | O_NONBLOCK;
+    flags |= access == DriveAccess::ReadOnly ? O_RDONLY : O_RDWR | O_DSYNC;
+    if (access == DriveAccess::Alone)
         flags |= O_EXCL;
     FileDescriptor fd(::open(encodeName(node).constData(), flags));
     if (!fd.isValid())

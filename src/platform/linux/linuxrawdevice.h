@@ -37,7 +37,7 @@ private:
 
 // Opens the node of a block device for raw transfers and makes sure that it is the device meant (by its
 // number, "8:0"): a node can be replaced between looking and opening.
-Result<FileDescriptor> openBlockDevice(const QString &node, const QByteArray &device, bool exclusive);
+Result<FileDescriptor> openBlockDevice(const QString &node, const QByteArray &device, DriveAccess access);
 
 // Base is RawDevice or VolumeDevice.
 template <typename Base>

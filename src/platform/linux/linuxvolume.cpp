@@ -1,7 +1,7 @@
 #include "platform/linux/linuxvolume.h"
 
+#include "platform/filenames.h"
 #include "platform/linux/errnotable.h"
-#include "platform/linux/filenames.h"
 
 #include <QSet>
 
@@ -103,7 +103,8 @@ Status LinuxVolumeDevice::unmountEverywhere()
 // The new descriptor is opened before the old one goes, so that a failure leaves the handle as it was.
 Status LinuxVolumeDevice::reopen(bool exclusive)
 {
-    Result<FileDescriptor> fd = openBlockDevice(m_node, m_device, exclusive);
+    Result<FileDescriptor> fd =
+        openBlockDevice(m_node, m_device, exclusive ? DriveAccess::Alone : DriveAccess::BesideOwnVolumes);
     if (!fd)
         return fd.status();
     m_transfers.exchangeDescriptor(fd.take());

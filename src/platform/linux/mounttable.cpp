@@ -1,6 +1,6 @@
 #include "platform/linux/mounttable.h"
 
-#include "platform/linux/filenames.h"
+#include "platform/filenames.h"
 
 namespace platform {
 

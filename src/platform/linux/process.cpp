@@ -1,8 +1,8 @@
 #include "platform/process.h"
 
+#include "platform/filenames.h"
 #include "platform/linux/errnotable.h"
 #include "platform/linux/filedescriptor.h"
-#include "platform/linux/filenames.h"
 
 #include <QSocketNotifier>
 

@@ -1,7 +1,7 @@
 #include "platform/linux/volumelabel.h"
 
+#include "platform/filenames.h"
 #include "platform/linux/filedescriptor.h"
-#include "platform/linux/filenames.h"
 
 #include <QList>
 

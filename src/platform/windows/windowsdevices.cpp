@@ -88,11 +88,11 @@ Result<std::unique_ptr<DeviceQuery>> WindowsDevices::queryVolume(const QString &
 }
 
 Result<std::unique_ptr<RawDevice>> WindowsDevices::openDrive(const DriveIdentity &drive,
-                                                             DriveSharing /*sharing*/)
+                                                             DriveAccess access)
 {
     if (drive.number < 0)
         return Status{NotReady, 0, "drive number"};
-    Result<WinHandle> opened = openForTransfers(drivePath(drive.number));
+    Result<WinHandle> opened = openForTransfers(drivePath(drive.number), access);
     if (!opened)
         return opened.status();
     // Asked only now that the drive is held: before, it could still be exchanged for another.
@@ -108,7 +108,7 @@ Result<std::unique_ptr<VolumeDevice>> WindowsDevices::openVolume(const QString &
     const QString path = volumePath(name);
     if (path.isEmpty())
         return Status{FileNotFound, 0, "volume name"};
-    Result<WinHandle> opened = openForTransfers(path);
+    Result<WinHandle> opened = openForTransfers(path, DriveAccess::BesideOwnVolumes);
     if (!opened)
         return opened.status();
     const Status identity = checkVolume(opened.value().get(), drive, drivePath(drive.number));

@@ -9,7 +9,7 @@
 namespace platform {
 
 // Opens a drive or volume for raw, unbuffered, write-through transfers.
-Result<WinHandle> openForTransfers(const QString &devicePath);
+Result<WinHandle> openForTransfers(const QString &devicePath, DriveAccess access);
 
 // Transfers to an open drive or volume. Where it ends and how large its sectors are is asked once, here; a
 // device that does not tell is taken to have sectors of 512 bytes, and shows itself where it ends.

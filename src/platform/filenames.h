@@ -8,6 +8,8 @@
 
 namespace platform {
 
+// For systems whose file names are bytes, that is all but Windows.
+//
 // File names on Linux are bytes, and not every one of them is text. Decoding keeps all of them apart: valid
 // UTF-8 is taken as such, every other byte b becomes the lone surrogate U+DC00 + b.
 // encodeName(decodeName(bytes)) == bytes for any bytes, so that a file with a Latin-1 name can still be

@@ -12,7 +12,8 @@ struct FolderOwner
     bool isSticky = false; // several may put entries in it, and only remove their own
 };
 
-// Whose the folder is. PathNotFound for a link, wherever it leads, and for everything else that is no folder.
+// Whose the folder is, where folders belong to numbered users: not on Windows. PathNotFound for a link,
+// wherever it leads, and for everything else that is no folder.
 Result<FolderOwner> ownerOfFolder(const QString &folder);
 
 } // namespace platform
