@@ -6,7 +6,9 @@ source "$(dirname "${BASH_SOURCE[0]}")/scripts/lib.sh"
 cli=$root/build/release/bin/quorvex-cli
 folder=$root/build/practice
 image=$folder/practice-disk.img
+data=$folder/data
 report=$folder/report.json
+certificate=$folder/certificate.pdf
 size=$((256 * 1024 * 1024))
 marker='Quorvex practice disk: none of this text may be left.'
 
@@ -17,14 +19,15 @@ Usage: ./run.sh [JOB]
 Installs missing packages, builds the preset "release" into build/release and runs one job:
 
   practice   (what runs when nothing is named) makes an image file of 256 MiB full of text, lets quorvex-cli erase
-             it as a drive with "NIST 800-88", and checks every byte of it without quorvex-cli
+             it as a drive with "NIST 800-88", checks every byte of it without quorvex-cli, and shows the report
+             that was stored and the certificate as PDF
 
 Only build/practice is written to. No drive of this computer is listed, opened or changed.
 TEXT
 }
 
 build_program() {
-    install_packages "${packages_build[@]}"
+    install_packages "${packages_build[@]}" "${packages_fonts[@]}"
     build release --target quorvex-cli
 }
 
@@ -56,9 +59,10 @@ erase_practice_disk() {
     local number
     "$cli" --only-images --image "$image" disks
     number=$(practice_number)
-    "$cli" --only-images --image "$image" --data-dir "$folder/data" \
-        wipe disk "$number" --method "NIST 800-88" --report "$report" --yes
+    "$cli" --only-images --image "$image" --data-dir "$data" \
+        wipe disk "$number" --method "NIST 800-88" --report "$report" --pdf "$certificate" --yes
     [[ -s $report ]] || fail "no report was written to $report"
+    [[ $(head -c 5 "$certificate") == %PDF- ]] || fail "no certificate was written to $certificate"
 }
 
 check_practice_disk() {
@@ -70,11 +74,18 @@ check_practice_disk() {
     printf 'Every one of the %d bytes is 0x00 (compared by cmp), and the text is found 0 times.\n' "$size"
 }
 
+show_records() {
+    "$cli" --data-dir "$data" reports list
+    "$cli" --data-dir "$data" check "$report"
+}
+
 practice_job() {
     step "practice disk" make_practice_disk
     step "erase" erase_practice_disk
     step "independent check" check_practice_disk
-    printf '\nErased and checked.\n  image:  %s\n  report: %s\n' "$image" "$report"
+    step "records" show_records
+    printf '\nErased and checked.\n'
+    printf '  %-12s %s\n' image: "$image" report: "$report" certificate: "$certificate" database: "$data/quorvex.db"
 }
 
 job=${1:-practice}

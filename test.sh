@@ -10,7 +10,7 @@ Usage: ./test.sh [OPTION of ctest...]
 Installs missing packages, builds the preset "dev" into build/dev and runs all tests.
 
   ./test.sh                 everything
-  ./test.sh -L unit         one label: unit, contract, fault, residue, cli
+  ./test.sh -L unit         one label: unit, contract, fault, residue, cli, gui
   ./test.sh -R wipemethod   tests whose name matches
 
 Some tests attach loop devices and mount file systems of their own, and need root for it. No drive that a test
@@ -19,7 +19,7 @@ TEXT
     exit 0
 fi
 
-step "packages" install_packages "${packages_build[@]}" "${packages_test[@]}"
+step "packages" install_packages "${packages_build[@]}" "${packages_test[@]}" "${packages_fonts[@]}"
 step "build (dev)" build dev
 if [[ $(id -u) != 0 ]]; then
     printf '\nNot root: tests that need loop devices will be skipped.\n'

@@ -1,11 +1,14 @@
 # A layer is one static library below src/. What a layer may include is stated here, in one table, and checked
 # against the #include lines at every build: a wrong arrow fails the build.
-set(QUORVEX_LAYERS model platform engine services cli)
+set(QUORVEX_LAYERS model platform engine services prompts certificate ui cli)
 set(QUORVEX_LAYER_model "")
 set(QUORVEX_LAYER_platform "")
 set(QUORVEX_LAYER_engine model platform)
 set(QUORVEX_LAYER_services model platform)
-set(QUORVEX_LAYER_cli model platform engine services)
+set(QUORVEX_LAYER_prompts "")
+set(QUORVEX_LAYER_certificate model prompts)
+set(QUORVEX_LAYER_ui model platform engine services prompts certificate)
+set(QUORVEX_LAYER_cli model platform engine services certificate)
 
 # quorvex_layer(NAME [SOURCES file...] [LIBRARIES library...])
 function(quorvex_layer name)
@@ -14,7 +17,10 @@ function(quorvex_layer name)
   target_include_directories(quorvex_${name} PUBLIC "${PROJECT_SOURCE_DIR}/src")
   target_link_libraries(quorvex_${name} PUBLIC quorvex_flags Qt6::Core ${arg_LIBRARIES})
   foreach(lower IN LISTS QUORVEX_LAYER_${name})
-    target_link_libraries(quorvex_${name} PUBLIC quorvex_${lower})
+    # Without windows there are no layers of windows.
+    if(TARGET quorvex_${lower} OR QUORVEX_GUI)
+      target_link_libraries(quorvex_${name} PUBLIC quorvex_${lower})
+    endif()
   endforeach()
   add_dependencies(quorvex_${name} quorvex_layer_check)
 endfunction()

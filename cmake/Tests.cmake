@@ -1,6 +1,6 @@
 # quorvex_test(NAME LABEL label SOURCES file... [LIBRARIES library...] [NEEDS_ROOT] [TIMEOUT seconds])
 #
-# One program per suite. Labels: unit, contract, fault, residue, cli. Suites that need root or loop devices carry
+# One program per suite. Labels: unit, contract, fault, residue, cli, gui. Suites that need root or loop devices carry
 # NEEDS_ROOT, and share one lock, since they attach devices and mount file systems.
 function(quorvex_test name)
   cmake_parse_arguments(PARSE_ARGV 1 arg "NEEDS_ROOT" "LABEL;TIMEOUT" "SOURCES;LIBRARIES")

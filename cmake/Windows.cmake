@@ -1,35 +1,5 @@
 # What a program for Windows carries beside its code, and what must lie beside it to run where it was built.
 
-find_program(QUORVEX_RSVG_CONVERT rsvg-convert)
-find_program(QUORVEX_ICOTOOL icotool)
-
-set(quorvex_icon "${CMAKE_BINARY_DIR}/windows/quorvex.ico")
-if(QUORVEX_RSVG_CONVERT AND QUORVEX_ICOTOOL)
-  set(logo "${PROJECT_SOURCE_DIR}/resources/icons/logo.svg")
-  set(images "")
-  set(commands "")
-  foreach(size IN ITEMS 16 20 24 32 40 48 64 128 256)
-    set(image "${CMAKE_BINARY_DIR}/windows/logo-${size}.png")
-    list(APPEND commands COMMAND "${QUORVEX_RSVG_CONVERT}" --width=${size} --height=${size} "--output=${image}" "${logo}")
-    # From 256 pixels on Windows wants the picture compressed.
-    if(size EQUAL 256)
-      list(APPEND images "--raw=${image}")
-    else()
-      list(APPEND images "${image}")
-    endif()
-  endforeach()
-  add_custom_command(
-    OUTPUT "${quorvex_icon}"
-    ${commands}
-    COMMAND "${QUORVEX_ICOTOOL}" --create "--output=${quorvex_icon}" ${images}
-    DEPENDS "${logo}"
-    COMMENT "Drawing the program's icon"
-    VERBATIM)
-  add_custom_target(quorvex_icon DEPENDS "${quorvex_icon}")
-else()
-  message(FATAL_ERROR "rsvg-convert and icotool draw the program's icon: docs/building-on-windows.md says where they come from")
-endif()
-
 # quorvex_windows_program(TARGET DESCRIPTION text): manifest, version resource and icon.
 function(quorvex_windows_program target)
   cmake_parse_arguments(PARSE_ARGV 1 arg "" "DESCRIPTION" "")
@@ -37,11 +7,10 @@ function(quorvex_windows_program target)
   set(QUORVEX_FILE_NAME "${target}.exe")
   set(QUORVEX_FILE_DESCRIPTION "${arg_DESCRIPTION}")
   set(QUORVEX_MANIFEST "${folder}/program.manifest")
-  set(QUORVEX_ICON "${quorvex_icon}")
   configure_file("${PROJECT_SOURCE_DIR}/packaging/windows/program.manifest.in" "${QUORVEX_MANIFEST}" @ONLY)
   configure_file("${PROJECT_SOURCE_DIR}/packaging/windows/program.rc.in" "${folder}/program.rc" @ONLY)
   target_sources(${target} PRIVATE "${folder}/program.rc")
-  set_source_files_properties("${folder}/program.rc" PROPERTIES OBJECT_DEPENDS "${QUORVEX_MANIFEST};${quorvex_icon}")
+  set_source_files_properties("${folder}/program.rc" PROPERTIES OBJECT_DEPENDS "${QUORVEX_MANIFEST};${QUORVEX_ICON}")
   add_dependencies(${target} quorvex_icon)
   if(MSVC)
     # The linker would put a manifest of its own beside ours.

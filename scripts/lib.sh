@@ -9,19 +9,23 @@ export LC_ALL=C.UTF-8
     root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd -P)
 
     # qt6-tools-dev holds the CMake package that finds the translation tools of qt6-l10n-tools.
-    packages_build=(cmake ninja-build g++ qt6-base-dev qt6-base-dev-tools libqt6sql6-sqlite
+    packages_build=(cmake ninja-build g++ qt6-base-dev qt6-base-dev-tools qt6-svg-dev libqt6sql6-sqlite
         qt6-l10n-tools qt6-tools-dev qt6-tools-dev-tools)
+    # The program's icon, drawn at build time.
+    packages_build+=(librsvg2-bin icoutils)
     # Practice drives: mkfs of three file systems, losetup (in "mount"), and a file system of our own for faults.
     packages_test=(e2fsprogs xfsprogs btrfs-progs util-linux mount libfuse3-dev fuse3 pkg-config)
-    packages_ci=(git clang-format clang-tidy shellcheck)
+    packages_ci=(git clang-format clang-tidy shellcheck python3)
+    # Besides the compiler the sanitizers with the loop that feeds a reader, and what names the lines of a stack.
+    packages_fuzz=(clang libclang-rt-dev llvm)
     # Qt from source; SQLite is not among the libraries that its source package brings along.
     packages_qt_source=(cmake ninja-build g++ dpkg-dev libsqlite3-dev qt6-base-dev)
     # The cross compilers; tcl puts SQLite's one source file together. The Qt tools that run here are those of
     # packages_build.
     packages_windows=(g++-mingw-w64-x86-64-posix tcl make qt6-base-dev-tools qt6-tools-dev qt6-tools-dev-tools)
     packages_wine=(wine wine64 xvfb xauth)
-    # The program's icon, drawn at build time.
-    packages_icons=(librsvg2-bin icoutils)
+    # One hand for all eleven languages, the pictures on buttons, and the letters of the seal on a certificate.
+    packages_fonts=(fonts-noto-cjk fonts-noto-color-emoji fonts-dejavu-core)
 }
 
 fail() {

@@ -17,7 +17,7 @@ export UBSAN_OPTIONS=print_stacktrace=1
 # A suite may fork a program of its own out of one that has threads.
 export TSAN_OPTIONS=second_deadlock_stack=1:die_after_fork=0
 
-step "packages" install_packages "${packages_build[@]}" "${packages_test[@]}"
+step "packages" install_packages "${packages_build[@]}" "${packages_test[@]}" "${packages_fonts[@]}"
 if [[ $preset == tsan ]]; then
     step "Qt for the thread sanitizer" "$root/scripts/tsan-qt.sh"
 fi

@@ -18,8 +18,7 @@ tests_under_wine() {
     xvfb-run --auto-servernum bash -c 'source "$0/scripts/lib.sh"; run_tests windows-cross "$@"' "$root" "$@"
 }
 
-step "packages" install_packages "${packages_build[@]}" "${packages_windows[@]}" "${packages_wine[@]}" \
-    "${packages_icons[@]}"
+step "packages" install_packages "${packages_build[@]}" "${packages_windows[@]}" "${packages_wine[@]}"
 step "Qt for Windows" "$root/scripts/windows-qt.sh"
 step "build (windows-cross)" build windows-cross
 step "tests (windows-cross)" tests_under_wine "$@"

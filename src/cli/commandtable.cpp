@@ -8,11 +8,20 @@ Command methodsCommand();
 Command wipeDiskCommand();
 Command wipeFreeCommand();
 Command wipeFilesCommand();
+Command wipeTrashCommand();
+Command trashListCommand();
+Command reportsListCommand();
+Command reportsShowCommand();
+Command reportsExportCommand();
+Command reportsDeleteCommand();
+Command checkCommand();
 
 QList<Command> allCommands()
 {
     return {
-        disksCommand(), methodsCommand(), wipeDiskCommand(), wipeFreeCommand(), wipeFilesCommand(),
+        disksCommand(),       methodsCommand(),       wipeDiskCommand(),      wipeFreeCommand(),
+        wipeFilesCommand(),   wipeTrashCommand(),     trashListCommand(),     reportsListCommand(),
+        reportsShowCommand(), reportsExportCommand(), reportsDeleteCommand(), checkCommand(),
     };
 }
 

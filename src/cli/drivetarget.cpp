@@ -71,7 +71,7 @@ std::optional<int> driveNumber(const QString &word)
     return isDigits && fits ? std::optional(number) : std::nullopt;
 }
 
-Outcome<DiskInfo> findDriveToErase(const QString &numberOrPath, const QList<DiskInfo> &disks)
+Outcome<DiskInfo> findDrive(const QString &numberOrPath, const QList<DiskInfo> &disks)
 {
     const std::optional<int> number = driveNumber(numberOrPath);
     const QString path = number ? QString() : absolutePath(numberOrPath);
@@ -89,18 +89,24 @@ Outcome<DiskInfo> findDriveToErase(const QString &numberOrPath, const QList<Disk
                                     .arg(displayText(numberOrPath))
                                     .arg(whole->diskNumber)};
     }
-    if (disk->isSystemDisk) {
+    return *disk;
+}
+
+Outcome<DiskInfo> findDriveToErase(const QString &numberOrPath, const QList<DiskInfo> &disks)
+{
+    auto disk = findDrive(numberOrPath, disks);
+    if (disk && disk->isSystemDisk) {
         return Refusal{Refused, Cli::tr("drive %1 is a system disk and cannot be erased while it is in use")
                                     .arg(disk->diskNumber)};
     }
-    return *disk;
+    return disk;
 }
 
 std::optional<Refusal> probeDrive(const DiskInfo &disk)
 {
     const platform::DriveIdentity identity{disk.diskNumber, disk.serialNumber, disk.sizeBytes};
     const auto opened =
-        platform::Platform::current().devices().openDrive(identity, platform::DriveSharing::BesideOwnVolumes);
+        platform::Platform::current().devices().openDrive(identity, platform::DriveAccess::BesideOwnVolumes);
     if (opened.code() == platform::AccessDenied)
         return Refusal{Refused, Cli::tr("not permitted to write to drive %1").arg(disk.diskNumber)};
     if (opened.code() == platform::NotReady)

@@ -14,8 +14,11 @@ namespace cli {
 // Whether the word is a drive number, and which.
 std::optional<int> driveNumber(const QString &word);
 
-// The drive with that number or device path, also through links. Refused when there is none, when a part of a
-// drive is named, and for a system disk.
+// The drive with that number or device path, also through links. Refused when there is none, and when a part
+// of a drive is named.
+Outcome<DiskInfo> findDrive(const QString &numberOrPath, const QList<DiskInfo> &disks);
+
+// The same; refused for a system disk.
 Outcome<DiskInfo> findDriveToErase(const QString &numberOrPath, const QList<DiskInfo> &disks);
 
 // Whether the drive can be opened for writing, nothing being written: a refusal without the rights and when

@@ -38,7 +38,8 @@ QList<QCommandLineOption> globalOptions()
 {
     return {
         {u"json"_s, Cli::tr("Machine output: JSON, one value a line")},
-        {u"data-dir"_s, Cli::tr("Keep the log in this folder instead of the per-user one"), u"DIR"_s},
+        {u"data-dir"_s, Cli::tr("Keep database and log in this folder instead of the per-user one"),
+         u"DIR"_s},
         {u"image"_s, Cli::tr("Let this image file appear as a drive (repeatable)"), u"FILE"_s},
         {u"only-images"_s, Cli::tr("List and open no real drive")},
         {u"lang"_s, Cli::tr("Language: en fr de ja es ko nl pt it zh_TW zh_CN"), u"CODE"_s},

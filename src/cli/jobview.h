@@ -1,5 +1,6 @@
 #pragma once
 
+#include "cli/jobrecords.h"
 #include "model/wipereport.h"
 
 #include <QString>
@@ -50,8 +51,8 @@ public:
     virtual void engineError(const QString &message) = 0;
     // Something outside the job went wrong.
     virtual void problem(const QString &message) = 0;
-    // The last of a job. reportPath is empty when no report file was written.
-    virtual void finished(const JobResult &result, const QString &reportPath) = 0;
+    // The last of a job, with where its records went.
+    virtual void finished(const JobResult &result, const JobRecords::Written &written) = 0;
 };
 
 } // namespace cli

@@ -79,7 +79,7 @@ void JsonJobView::problem(const QString &message)
     print(event);
 }
 
-void JsonJobView::finished(const JobResult &result, const QString &)
+void JsonJobView::finished(const JobResult &result, const JobRecords::Written &)
 {
     JsonWriter event = beginEvent("finished");
     event.member(u"success", result.end == JobResult::End::Succeeded)

@@ -6,6 +6,12 @@
 
 #include <QFile>
 
+// The resources of a static library are not found by themselves. The macro does not work within a namespace.
+static void addCataloguesToResources()
+{
+    Q_INIT_RESOURCE(translations);
+}
+
 namespace cli {
 
 using namespace Qt::StringLiterals;
@@ -30,6 +36,7 @@ Outcome<std::unique_ptr<Language>> Language::install(const QString &code)
                                     .arg(displayText(code), languageCodes().join(u' ')),
                                 {});
     }
+    addCataloguesToResources();
     const QString catalogue = u":/translations/quorvex_%1.qm"_s.arg(code);
     if (!QFile::exists(catalogue))
         return language;

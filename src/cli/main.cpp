@@ -1,3 +1,4 @@
+#include "cli/certificateexport.h"
 #include "cli/processio.h"
 #include "cli/runcli.h"
 #include "model/displaytext.h"
@@ -35,7 +36,7 @@ int main(int argc, char *argv[])
     qInstallMessageHandler(printDiagnostics);
     nameComputer();
     const QStringList arguments = platform::decodedArguments(argc, argv);
-    QCoreApplication application(argc, argv);
+    const std::unique_ptr<QCoreApplication> application = cli::makeApplication(argc, argv);
     QCoreApplication::setOrganizationName(u"Veltrano"_s);
     QCoreApplication::setApplicationName(u"Quorvex"_s);
     QCoreApplication::setApplicationVersion(u"5.0"_s);

@@ -20,6 +20,26 @@ void writePartition(JsonWriter &writer, const PartitionInfo &partition)
         .endObject();
 }
 
+void writeItem(JsonWriter &writer, const RecycleBinItem &item)
+{
+    writer.beginObject()
+        .member(u"fileName", item.fileName)
+        .member(u"originalPath", item.originalPath)
+        .member(u"recyclePath", item.recyclePath)
+        .member(u"infoPath", item.infoPath)
+        .decimalMember(u"size", item.size)
+        .member(u"isDirectory", item.isDirectory)
+        .endObject();
+}
+
+void writeTexts(JsonWriter &writer, QStringView key, const QStringList &texts)
+{
+    writer.key(key).beginArray();
+    for (const QString &text : texts)
+        writer.value(text);
+    writer.endArray();
+}
+
 } // namespace
 
 void writeDisk(JsonWriter &writer, const DiskInfo &disk)
@@ -60,6 +80,18 @@ void writeMethod(JsonWriter &writer, const WipeMethod &method)
             .endObject();
     }
     writer.endArray().endObject();
+}
+
+void writeTrash(JsonWriter &writer, const RecycleBinInfo &trash)
+{
+    writer.beginObject().key(u"items").beginArray();
+    for (const RecycleBinItem &item : trash.items)
+        writeItem(writer, item);
+    writer.endArray();
+    writeTexts(writer, u"filePaths", trash.filePaths);
+    writer.decimalMember(u"totalSize", trash.totalSize).member(u"fileCount", trash.fileCount);
+    writeTexts(writer, u"drives", trash.drives);
+    writer.endObject();
 }
 
 } // namespace cli

@@ -2,6 +2,7 @@
 
 #include "model/diskinfo.h"
 #include "model/wipemethod.h"
+#include "services/recyclebininfo.h"
 
 class JsonWriter;
 
@@ -10,5 +11,6 @@ namespace cli {
 // Records as machine output, their fields under their own names.
 void writeDisk(JsonWriter &writer, const DiskInfo &disk);
 void writeMethod(JsonWriter &writer, const WipeMethod &method);
+void writeTrash(JsonWriter &writer, const RecycleBinInfo &trash);
 
 } // namespace cli

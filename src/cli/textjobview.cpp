@@ -95,7 +95,7 @@ void TextJobView::problem(const QString &message)
     m_progressLine.restore();
 }
 
-void TextJobView::finished(const JobResult &result, const QString &reportPath)
+void TextJobView::finished(const JobResult &result, const JobRecords::Written &written)
 {
     m_progressLine.end();
     const WipeReport &report = result.report;
@@ -103,8 +103,10 @@ void TextJobView::finished(const JobResult &result, const QString &reportPath)
                        .arg(resultText(result), displayText(m_target), report.method.name, amountText(report),
                             report.duration(), report.certificateId);
     line += coverageText(result);
-    if (!reportPath.isEmpty())
-        line += Cli::tr(", report %1").arg(displayText(reportPath));
+    if (!written.report.isEmpty())
+        line += Cli::tr(", report %1").arg(displayText(written.report));
+    if (!written.certificate.isEmpty())
+        line += Cli::tr(", PDF %1").arg(displayText(written.certificate));
     m_io.printLine(line);
 }
 

@@ -63,11 +63,13 @@ public:
             refuse(Cli::tr("unknown method '%1', 'quorvex-cli methods' lists them").arg(displayText(given)));
     }
 
-    void readReportFile(ReportFile &file)
+    // File is OutputFile or CertificateFile.
+    template <typename File>
+    void readFile(const QString &name, File &file)
     {
-        if (!m_options.isSet(u"report"_s))
+        if (!m_options.isSet(name))
             return;
-        const auto found = ReportFile::at(m_options.value(u"report"_s), m_commandWords);
+        const auto found = File::at(m_options.value(name), m_commandWords);
         if (found)
             file = *found;
         else if (!m_refusal)
@@ -99,6 +101,9 @@ QList<QCommandLineOption> wipeOptions()
         {u"threads"_s, Cli::tr("Files to erase at the same time, 1 to 32"), u"N"_s},
         {u"buffer-mb"_s, Cli::tr("Write buffer in MiB, 1 to 1024 (64)"), u"N"_s},
         {u"report"_s, Cli::tr("Write the report as JSON into this file"), u"FILE"_s},
+        {u"no-report"_s, Cli::tr("Do not store the report in the database")},
+        {u"pdf"_s, Cli::tr("After a success write the certificate as PDF, into this file or folder"),
+         u"FILE|DIR"_s},
         {u"yes"_s, Cli::tr("Do not ask for the word ERASE")},
     };
 }
@@ -121,6 +126,7 @@ Outcome<WipeOptions> readWipeOptions(const CommandContext &context, const QStrin
     options.threads = usual.threadCount();
     options.bufferMB = usual.bufferSizeMB();
     options.verify = !context.options.isSet(u"no-verify"_s);
+    options.storeReport = !context.options.isSet(u"no-report"_s);
     options.skipQuestion = context.options.isSet(u"yes"_s);
 
     OptionReader reader(context.options, commandWords);
@@ -128,7 +134,8 @@ Outcome<WipeOptions> readWipeOptions(const CommandContext &context, const QStrin
     reader.readNumber(u"samples"_s, 0, std::numeric_limits<int>::max(), options.samples);
     reader.readNumber(u"threads"_s, 1, MostThreads, options.threads);
     reader.readNumber(u"buffer-mb"_s, 1, LargestBufferMB, options.bufferMB);
-    reader.readReportFile(options.reportFile);
+    reader.readFile(u"report"_s, options.reportFile);
+    reader.readFile(u"pdf"_s, options.certificate);
     if (reader.refusal())
         return *reader.refusal();
     return options;

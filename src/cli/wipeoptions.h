@@ -1,7 +1,8 @@
 #pragma once
 
+#include "cli/certificatefile.h"
 #include "cli/command.h"
-#include "cli/reportfile.h"
+#include "cli/outputfile.h"
 #include "model/wipemethod.h"
 
 class WipeTask;
@@ -18,7 +19,9 @@ struct WipeOptions
     int samples = 0;
     int threads = 0;
     int bufferMB = 0;
-    ReportFile reportFile;
+    bool storeReport = true; // in the database
+    OutputFile reportFile;
+    CertificateFile certificate;
     bool skipQuestion = false;
 
     void applyTo(WipeTask &task) const;

@@ -5,6 +5,7 @@
 #include "cli/confirmation.h"
 #include "cli/globaloptions.h"
 #include "cli/joblog.h"
+#include "cli/jobrecords.h"
 #include "cli/jobrunner.h"
 #include "cli/jsonjobview.h"
 #include "cli/names.h"
@@ -38,26 +39,13 @@ std::optional<Refusal> checkTasks(const WipePlan &plan)
     return std::nullopt;
 }
 
-std::optional<Refusal> checkReportFile(const WipePlan &plan, const ReportFile &file,
-                                       const QStringList &commandWords)
-{
-    if (!file.isWanted())
-        return std::nullopt;
-    const QString shown = displayText(file.path());
-    if (file.liesWithin(plan.doomedPaths))
-        return wrongCommandLine(Cli::tr("the report file '%1' lies in what is to be erased").arg(shown),
-                                commandWords);
-    if (!file.isWritable())
-        return Refusal{SurroundingsFailed, Cli::tr("the report file %1 cannot be written").arg(shown)};
-    return std::nullopt;
-}
-
 // Runs the jobs of a plan and remembers the gravest that happened.
 class Session
 {
 public:
-    Session(const WipeOptions &options, const CommandContext &context)
-        : m_options(options)
+    Session(const WipePlan &plan, const JobRecords &records, const CommandContext &context)
+        : m_plan(plan)
+        , m_records(records)
         , m_stop(context.io.stopRequest())
     {
         const bool quiet = wantsQuiet(context.options);
@@ -72,14 +60,13 @@ public:
     Outcome<ExitCode> result() const;
 
 private:
-    QString writeReport(const WipeReport &report);
-
-    const WipeOptions &m_options;
+    const WipePlan &m_plan;
+    const JobRecords &m_records;
     StopRequest &m_stop;
     std::unique_ptr<JobView> m_view;
     QSet<JobResult::End> m_ends;
     QString m_engineRefusal;
-    bool m_hasLostReport = false;
+    bool m_hasProblem = false;
 };
 
 bool Session::run(const PlannedJob &job)
@@ -94,21 +81,14 @@ bool Session::run(const PlannedJob &job)
             m_view->problem(result.lastError);
         return false;
     }
-    m_view->finished(result, writeReport(result.report));
+    const JobRecords::Written written =
+        m_records.write(result.report, result.end == JobResult::End::Succeeded);
+    const QStringList problems = written.problems + (m_plan.afterwards ? m_plan.afterwards() : QStringList());
+    for (const QString &problem : problems)
+        m_view->problem(problem);
+    m_hasProblem = m_hasProblem || !problems.isEmpty();
+    m_view->finished(result, written);
     return result.end != JobResult::End::Cancelled;
-}
-
-// The path, empty when there is no file.
-QString Session::writeReport(const WipeReport &report)
-{
-    const ReportFile &file = m_options.reportFile;
-    if (!file.isWanted())
-        return {};
-    if (file.write(report))
-        return file.path();
-    m_hasLostReport = true;
-    m_view->problem(Cli::tr("the report file %1 could not be written").arg(displayText(file.path())));
-    return {};
 }
 
 Outcome<ExitCode> Session::result() const
@@ -119,17 +99,7 @@ Outcome<ExitCode> Session::result() const
         return Cancelled;
     if (m_ends.contains(JobResult::End::Failed) || m_ends.contains(JobResult::End::NotStarted))
         return JobFailed;
-    return m_hasLostReport ? SurroundingsFailed : Done;
-}
-
-std::optional<Refusal> checkBeforeQuestion(const WipePlan &plan, const WipeOptions &options,
-                                           const CommandContext &context, const QStringList &commandWords)
-{
-    if (auto refusal = checkReportFile(plan, options.reportFile, commandWords))
-        return refusal;
-    if (auto refusal = checkTasks(plan))
-        return refusal;
-    return openJobLog(dataFolder(context.options));
+    return m_hasProblem ? SurroundingsFailed : Done;
 }
 
 std::optional<Refusal> ask(const WipePlan &plan, const WipeOptions &options, const CommandContext &context)
@@ -146,9 +116,14 @@ Outcome<ExitCode> carryOut(WipePlan &plan, const WipeOptions &options, const Com
 {
     for (const PlannedJob &job : plan.jobs)
         options.applyTo(*job.task);
-    if (const auto refusal = checkBeforeQuestion(plan, options, context, commandWords))
+    if (const auto refusal = checkTasks(plan))
+        return *refusal;
+    if (const auto refusal = openJobLog(dataFolder(context.options)))
         return *refusal;
     const auto closing = qScopeGuard(closeJobLog);
+    const auto records = JobRecords::prepare(options, context, plan.doomedPaths, commandWords);
+    if (!records)
+        return records.refusal();
     if (const auto refusal = ask(plan, options, context))
         return *refusal;
     if (context.io.stopRequest().isRequested())
@@ -158,7 +133,7 @@ Outcome<ExitCode> carryOut(WipePlan &plan, const WipeOptions &options, const Com
             return *refusal;
     }
 
-    Session session(options, context);
+    Session session(plan, *records, context);
     for (const PlannedJob &job : plan.jobs) {
         if (!session.run(job))
             break;

@@ -27,6 +27,8 @@ struct WipePlan
     QStringList summary;          // what is destroyed, in lines for the user
     QStringList doomedPaths;      // what the jobs destroy; a report must not be written there
     std::function<std::optional<Refusal>()> lastCheck; // after the confirmation; may be empty
+    // When a job has ended, however it did; answers with problems in words. May be empty.
+    std::function<QStringList()> afterwards;
 };
 
 // Confirms, runs and reports. Nothing is written when this refuses.

@@ -52,6 +52,16 @@ void WipeEngine::setTask(WipeTask *task)
     m_task = task;
 }
 
+void WipeEngine::deleteTask(WipeTask *task)
+{
+    if (!task || !m_thread || !m_thread->isRunning()) {
+        delete task;
+        return;
+    }
+    task->setParent(this);
+    connect(m_thread, &QThread::finished, task, &QObject::deleteLater);
+}
+
 void WipeEngine::start()
 {
     qDebug() << "=== WipeEngine::start() ===";

@@ -26,6 +26,10 @@ public:
     // errorOccurred while a job runs.
     void setTask(WipeTask *task);
 
+    // Deletes a task that is done with, as soon as no worker reads it any more: one that was told to stop may
+    // still be in a transfer.
+    void deleteTask(WipeTask *task);
+
     // Starts the job; a refusal is told by errorOccurred and leaves everything as it was.
     void start();
 

@@ -1,5 +1,7 @@
 #include "services/linkmanager.h"
 
+#include "model/usersettings.h"
+
 #include <QDebug>
 #include <QFile>
 #include <QJsonArray>
@@ -39,7 +41,7 @@ LinkSources LinkSources::ofProgram()
 {
     addCatalogueToResources();
     return {u":/links/links.json"_s, QLocale::system().name(),
-            [] { return std::make_unique<QSettings>(u"Veltrano"_s, u"Quorvex"_s); }};
+            usersettings::open};
 }
 
 LinkManager &LinkManager::instance()

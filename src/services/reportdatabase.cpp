@@ -66,6 +66,8 @@ const QString insertReport =
 
 const QString selectPage =
     u"SELECT report_json FROM wipe_reports ORDER BY start_time DESC LIMIT ? OFFSET ?"_s;
+const QString selectStoredPage =
+    u"SELECT certificate_id, report_json FROM wipe_reports ORDER BY start_time DESC LIMIT ? OFFSET ?"_s;
 const QString selectOne = u"SELECT report_json FROM wipe_reports WHERE certificate_id = ?"_s;
 const QString deleteOne = u"DELETE FROM wipe_reports WHERE certificate_id = ?"_s;
 
@@ -158,11 +160,12 @@ ReportDatabase::~ReportDatabase()
     m_db.close();
 }
 
-bool ReportDatabase::initialize()
+bool ReportDatabase::initialize(const QString &folder)
 {
     if (m_initialized)
         return true;
-    if (!open()) {
+    if (!open(folder.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)
+                               : folder)) {
         close();
         return false;
     }
@@ -174,9 +177,8 @@ bool ReportDatabase::initialize()
     return true;
 }
 
-bool ReportDatabase::open()
+bool ReportDatabase::open(const QString &folder)
 {
-    const QString folder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
     // Without the folder the file does not open, which says so.
     QDir().mkpath(folder);
     const QString path = folder + u"/quorvex.db"_s;
@@ -257,6 +259,47 @@ WipeReport ReportDatabase::getReport(const QString &certificateId)
     query.addBindValue(text(certificateId));
     query.exec();
     return query.next() ? storedReport(query) : WipeReport();
+}
+
+std::optional<QList<ReportDatabase::StoredReport>> ReportDatabase::storedReports(int limit, int offset)
+{
+    QList<StoredReport> reports;
+    QSqlQuery query(m_db);
+    query.setForwardOnly(true);
+    query.prepare(selectStoredPage);
+    query.addBindValue(limit);
+    query.addBindValue(offset);
+    query.exec();
+    while (query.next())
+        reports.append({query.value(0).toString(), query.value(1).toString().toUtf8()});
+    if (!hasAnswered(query))
+        return std::nullopt;
+    return reports;
+}
+
+std::optional<QByteArray> ReportDatabase::storedJson(const QString &certificateId)
+{
+    QSqlQuery query(m_db);
+    query.setForwardOnly(true);
+    query.prepare(selectOne);
+    query.addBindValue(text(certificateId));
+    query.exec();
+    const bool isThere = query.next();
+    if (!hasAnswered(query))
+        return std::nullopt;
+    if (!isThere)
+        return QByteArray();
+    const QByteArray json = query.value(0).toString().toUtf8();
+    return json.isNull() ? QByteArray("") : json;
+}
+
+// An error may come with any row.
+bool ReportDatabase::hasAnswered(const QSqlQuery &query)
+{
+    if (query.lastError().type() == QSqlError::NoError)
+        return true;
+    m_lastError = query.lastError().text();
+    return false;
 }
 
 bool ReportDatabase::deleteReport(const QString &certificateId)

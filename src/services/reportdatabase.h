@@ -2,16 +2,22 @@
 
 #include "model/wipereport.h"
 
+#include <QByteArray>
 #include <QList>
 #include <QSqlDatabase>
 #include <QString>
+
+#include <optional>
+
+QT_FORWARD_DECLARE_CLASS(QSqlQuery)
 
 /// The reports of all finished jobs, in one SQLite file of the user, "quorvex.db" in the application's data
 /// folder. A report that saveReport() took is on the medium when the call returns and survives a kill or a
 /// power cut; the bytes of a deleted one leave the file. Readable by its owner only.
 ///
 /// Other programs may have the file open: a call waits up to ten seconds for them. One thread, that of
-/// initialize(). Nothing but initialize() and saveReport() sets lastError().
+/// initialize(). getReports(), getReport() and deleteReport() leave lastError() as it is; the others set it when
+/// they fail.
 class ReportDatabase
 {
 public:
@@ -22,8 +28,9 @@ public:
 
     /// Opens the file, which is made with its folder at the first run, and takes the framework's default
     /// connection for it. The names of application and organisation decide the folder: set them first. True
-    /// at once when it is open already; after a failure it may be tried again.
-    bool initialize();
+    /// at once when it is open already; after a failure it may be tried again. A folder that is given takes
+    /// the place of the application's.
+    bool initialize(const QString &folder = {});
 
     /// Lets go of the file and the default connection, until initialize().
     void close();
@@ -38,6 +45,19 @@ public:
     /// A fresh report when there is none of that id.
     WipeReport getReport(const QString &certificateId);
 
+    /// A report as it was stored, whatever became of its text since.
+    struct StoredReport
+    {
+        QString certificateId;
+        QByteArray json;
+    };
+
+    /// As getReports(), but as stored. Nothing when the file could not be read.
+    std::optional<QList<StoredReport>> storedReports(int limit, int offset);
+
+    /// The text of one report: null when there is none of that id, nothing when the file could not be read.
+    std::optional<QByteArray> storedJson(const QString &certificateId);
+
     /// True as well when there is no report of that id.
     bool deleteReport(const QString &certificateId);
 
@@ -48,8 +68,9 @@ private:
     ReportDatabase();
     ~ReportDatabase();
 
-    bool open();
+    bool open(const QString &folder);
     bool execute(const QString &statement);
+    bool hasAnswered(const QSqlQuery &query);
 
     QSqlDatabase m_db;
     QString m_lastError;

@@ -1,6 +1,6 @@
 #include "services/trashinfofile.h"
 
-#include "platform/linux/filenames.h"
+#include "platform/filenames.h"
 
 #include <QList>
 

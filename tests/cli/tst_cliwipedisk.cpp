@@ -637,7 +637,7 @@ void TestCliWipeDisk::aDataFolderThatCannotBeMadeStopsBeforeAnythingIs()
     const int code =
         cli::runCli(wipeDrive(0) + QStringList{u"--data-dir"_s, folder.filePath(u"file/sub"_s)}, io);
     QCOMPARE(code, 5);
-    QVERIFY(io.err.contains("data folder"));
+    QVERIFY2(io.err.contains("data folder"), io.err.constData());
     QCOMPARE(machine.openings(), QStringList());
 }
 

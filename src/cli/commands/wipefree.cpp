@@ -53,6 +53,8 @@ Outcome<ExitCode> run(const CommandContext &context)
         return options.refusal();
     if (options->reportFile.isWanted() && context.arguments.size() > 1)
         return wrongCommandLine(Cli::tr("--report takes the report of one volume, not of several"), words());
+    if (options->certificate.isWanted() && !options->certificate.isFolder() && context.arguments.size() > 1)
+        return wrongCommandLine(Cli::tr("--pdf takes a folder when there are several volumes"), words());
     auto plan = planFor(context.arguments);
     if (!plan)
         return plan.refusal();

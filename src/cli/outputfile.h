@@ -2,23 +2,22 @@
 
 #include "cli/outcome.h"
 
+#include <QByteArray>
 #include <QString>
 #include <QStringList>
 
-struct WipeReport;
-
 namespace cli {
 
-// Where the JSON of a job's report goes.
-class ReportFile
+// A file that a command writes: a report, a certificate.
+class OutputFile
 {
 public:
-    // No report file is wanted.
-    ReportFile() = default;
+    // No file is wanted.
+    OutputFile() = default;
 
     // For the path as it was given. WrongCommandLine when it cannot name a file, with the words of the
     // command for the help.
-    static Outcome<ReportFile> at(const QString &path, const QStringList &commandWords);
+    static Outcome<OutputFile> at(const QString &path, const QStringList &commandWords);
 
     bool isWanted() const { return !m_path.isEmpty(); }
     // Absolute.
@@ -30,7 +29,7 @@ public:
     // Tries whether it could be written; changes nothing.
     bool isWritable() const;
     // Writes it as a whole or not at all, replacing what stood there. False when that failed.
-    bool write(const WipeReport &report) const;
+    bool write(const QByteArray &content) const;
 
 private:
     QString m_path;

@@ -1,0 +1,34 @@
+#!/usr/bin/env bash
+# Brings the catalogues in resources/translations up to date with the texts in the sources:
+#
+#   scripts/update-translations.sh           takes new texts in and drops those that are gone
+#   scripts/update-translations.sh --check   fails when there is anything to take in or to drop
+# shellcheck source=lib.sh
+source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
+cd "$root"
+
+languages=(en fr de ja es ko nl pt it zh_TW)
+lupdate=/usr/lib/qt6/bin/lupdate
+folder=resources/translations
+
+[[ -x $lupdate ]] || fail "there is no $lupdate: the package qt6-l10n-tools brings it"
+
+# update FOLDER: without line numbers, which would change with every edit of a source.
+update() {
+    local language files=()
+    for language in "${languages[@]}"; do
+        files+=("$1/quorvex_$language.ts")
+    done
+    "$lupdate" -silent -locations none -no-obsolete -source-language zh_CN src -ts "${files[@]}"
+}
+
+if [[ ${1:-} != --check ]]; then
+    update "$folder"
+    exit 0
+fi
+copy=$(mktemp -d)
+trap 'rm -rf "$copy"' EXIT
+cp "$folder"/*.ts "$copy"
+update "$copy"
+diff -ru "$folder" "$copy" || fail "the catalogues do not have the texts of the sources: run scripts/update-translations.sh"
+printf '%d catalogues have the texts of the sources.\n' "${#languages[@]}"

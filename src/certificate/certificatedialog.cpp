@@ -1,0 +1,115 @@
+#include "certificate/certificatedialog.h"
+
+#include "certificate/certificaterenderer.h"
+#include "certificate/certificatestyles.h"
+#include "certificate/certificateview.h"
+#include "model/displaytext.h"
+#include "model/usersettings.h"
+#include "prompts/prompts.h"
+
+#include <QFileInfo>
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QPageSize>
+#include <QPrinter>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QSettings>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int buttonHeight = 38;
+
+// The picture at the beginning of a button's text says nothing when read aloud.
+QString withoutPicture(const QString &text)
+{
+    const auto letter =
+        std::find_if(text.cbegin(), text.cend(), [](QChar c) { return c.isLetterOrNumber(); });
+    return text.mid(letter - text.cbegin());
+}
+
+QPushButton *makeButton(const QString &text, QStringView style, QWidget *parent)
+{
+    auto *button = new QPushButton(text, parent);
+    button->setStyleSheet(style.toString());
+    button->setFixedHeight(buttonHeight);
+    button->setAccessibleName(withoutPicture(text));
+    return button;
+}
+
+} // namespace
+
+CertificateDialog::CertificateDialog(const WipeReport &report, QWidget *parent)
+    : QDialog(parent)
+    , m_report(report)
+{
+    setWindowTitle(tr("Erasure Certificate - %1").arg(displayText(m_report.certificateId)));
+    setMinimumSize(700, 800);
+    resize(750, 900);
+
+    auto *scroll = new QScrollArea(this);
+    scroll->setWidgetResizable(true);
+    scroll->setWidget(makeCertificateView(m_report, scroll));
+
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 15);
+    layout->addWidget(scroll);
+    layout->addWidget(makeButtonBar());
+}
+
+QWidget *CertificateDialog::makeButtonBar()
+{
+    auto *bar = new QFrame(this);
+    bar->setStyleSheet(certificatestyles::ButtonBar.toString());
+    m_exportButton = makeButton(tr("📄 Export PDF"), certificatestyles::PrimaryButton, bar);
+    m_printButton = makeButton(tr("🖨️ Print"), certificatestyles::SecondaryButton, bar);
+    m_closeButton = makeButton(tr("Close"), certificatestyles::SecondaryButton, bar);
+    connect(m_exportButton, &QPushButton::clicked, this, &CertificateDialog::onExportPdf);
+    connect(m_printButton, &QPushButton::clicked, this, &CertificateDialog::onPrint);
+    connect(m_closeButton, &QPushButton::clicked, this, &CertificateDialog::close);
+
+    auto *layout = new QHBoxLayout(bar);
+    layout->setContentsMargins(20, 15, 20, 0);
+    layout->addWidget(m_exportButton);
+    layout->addWidget(m_printButton);
+    layout->addStretch();
+    layout->addWidget(m_closeButton);
+    return bar;
+}
+
+QString CertificateDialog::proposedFile() const
+{
+    const QString folder = usersettings::readString(*usersettings::open(), usersettings::ExportPath);
+    const QString name = u"%1.pdf"_s.arg(m_report.certificateId);
+    if (!folder.isEmpty() && QFileInfo(folder).isDir())
+        return folder + u'/' + name;
+    return name;
+}
+
+void CertificateDialog::onExportPdf()
+{
+    Prompts &prompts = Prompts::current();
+    const QString path =
+        prompts.fileToSave(this, tr("Export Certificate"), proposedFile(), tr("PDF Files (*.pdf)"));
+    if (path.isEmpty())
+        return;
+    if (CertificateRenderer().exportToPdf(m_report, path)) {
+        prompts.information(this, tr("Export Successful"), tr("Certificate exported to:\n%1").arg(path));
+    } else {
+        prompts.warning(this, tr("Export Failed"),
+                        tr("Unable to export certificate. Please check file path permissions."));
+    }
+}
+
+void CertificateDialog::onPrint()
+{
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setPageSize(QPageSize(QPageSize::A4));
+    if (Prompts::current().print(this, tr("Print Certificate"), printer))
+        CertificateRenderer().print(m_report, &printer);
+}

@@ -1,0 +1,49 @@
+#include "certificate/certificatefonts.h"
+
+#include <QFontDatabase>
+#include <QStringList>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Simplified Chinese first: the source texts are. The others have what it may lack of Hangul, kana and
+// traditional characters.
+const QStringList &textFamilies()
+{
+    static const QStringList families{
+        u"Microsoft YaHei"_s,  u"Noto Sans CJK SC"_s,   u"Noto Sans SC"_s,        u"Source Han Sans SC"_s,
+        u"PingFang SC"_s,      u"Microsoft JhengHei"_s, u"Malgun Gothic"_s,       u"Yu Gothic"_s,
+        u"Noto Sans CJK TC"_s, u"WenQuanYi Zen Hei"_s,  u"Droid Sans Fallback"_s, u"DejaVu Sans"_s,
+    };
+    return families;
+}
+
+} // namespace
+
+QFont certificatefonts::text(int points, QFont::Weight weight)
+{
+    QFont font(textFamilies(), points, weight);
+    // A PDF can only be searched for characters that have a glyph of their own, and shaping puts ligatures
+    // and other forms of the digits in their place.
+    font.setStyleStrategy(QFont::PreferNoShaping);
+    return font;
+}
+
+QFont certificatefonts::logo()
+{
+    return QFont({u"Arial"_s, u"Liberation Sans"_s, u"Helvetica"_s, u"DejaVu Sans"_s}, 20, QFont::Bold);
+}
+
+QList<QRawFont> certificatefonts::rawTextFonts()
+{
+    constexpr int anySize = 10;
+    QList<QRawFont> fonts;
+    for (const QString &family : textFamilies()) {
+        if (!QFontDatabase::hasFamily(family))
+            continue;
+        for (const QFont::Weight weight : {QFont::Normal, QFont::Bold})
+            fonts.append(QRawFont::fromFont(QFont(family, anySize, weight)));
+    }
+    return fonts;
+}

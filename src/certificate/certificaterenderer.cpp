@@ -1,0 +1,62 @@
+#include "certificate/certificaterenderer.h"
+
+#include "certificate/certificatefonts.h"
+#include "certificate/certificatepage.h"
+#include "certificate/searchablepdf.h"
+#include "certificate/wholefile.h"
+#include "model/wipereport.h"
+
+#include <QBuffer>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QPrinter>
+
+using namespace Qt::StringLiterals;
+
+CertificateRenderer::CertificateRenderer()
+    : m_palette{QColor(0x3b, 0x82, 0xf6), QColor(0x1e, 0x29, 0x3b), QColor(0x64, 0x74, 0x8b),
+                QColor(0xf8, 0xfa, 0xfc), QColor(0x22, 0xc5, 0x5e), QColor(0xef, 0x44, 0x44)}
+{}
+
+bool CertificateRenderer::exportToPdf(const WipeReport &report, const QString &filePath) const
+{
+    WholeFile file(filePath);
+    if (!file.open())
+        return false;
+
+    // Painted in memory: the writer does not tell when the file could not take its bytes.
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    QPdfWriter writer(&buffer);
+    writer.setPageSize(QPageSize(QPageSize::A4));
+    writer.setResolution(300);
+    writer.setTitle(u"%1 %2"_s.arg(tr("数据擦除证书"), report.certificateId));
+    writer.setCreator(u"Quorvex 5.0"_s);
+
+    QPainter painter(&writer);
+    if (!painter.isActive())
+        return false;
+    CertificatePage page(painter, m_palette, writer.width(), writer.height(), writer.resolution());
+    page.paint(report);
+    if (!painter.end())
+        return false;
+    return file.commit(withSearchableText(buffer.data(), page.text(), certificatefonts::rawTextFonts()));
+}
+
+bool CertificateRenderer::print(const WipeReport &report, QPrinter *printer) const
+{
+    if (printer == nullptr)
+        return false;
+    printer->setPageSize(QPageSize(QPageSize::A4));
+    QPainter painter(printer);
+    if (!painter.isActive())
+        return false;
+    render(painter, report, printer->width(), printer->height(), printer->resolution());
+    return true;
+}
+
+void CertificateRenderer::render(QPainter &painter, const WipeReport &report, int width, int height,
+                                 int dpi) const
+{
+    CertificatePage(painter, m_palette, width, height, dpi).paint(report);
+}

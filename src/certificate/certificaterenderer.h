@@ -1,0 +1,36 @@
+#pragma once
+
+#include "certificate/certificatepalette.h"
+
+#include <QCoreApplication>
+#include <QString>
+
+QT_FORWARD_DECLARE_CLASS(QPainter)
+QT_FORWARD_DECLARE_CLASS(QPrinter)
+
+struct WipeReport;
+
+/// Paints the certificate of a finished job onto one A4 page. Needs a QGuiApplication and no widget.
+/// A small value.
+class CertificateRenderer
+{
+    Q_DECLARE_TR_FUNCTIONS(CertificateRenderer)
+
+public:
+    CertificateRenderer();
+
+    /// Writes the page as a PDF file: whole, or not at all. On false whatever lay under the name is as it
+    /// was. A file is replaced, also behind a link; a folder, a device or a pipe is refused, and so is a
+    /// folder in which no file can be made.
+    bool exportToPdf(const WipeReport &report, const QString &filePath) const;
+
+    /// False without a printer, or when it does not take the job. Sets the paper to A4.
+    bool print(const WipeReport &report, QPrinter *printer) const;
+
+    /// Paints one page of width by height device pixels. `dpi` is the resolution of the painter's own device:
+    /// letters take their size from there. What does not fit the page is painted below it.
+    void render(QPainter &painter, const WipeReport &report, int width, int height, int dpi) const;
+
+private:
+    CertificatePalette m_palette;
+};

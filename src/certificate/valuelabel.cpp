@@ -1,0 +1,78 @@
+#include "certificate/valuelabel.h"
+
+#include <QPainter>
+#include <QTextLayout>
+#include <QtMath>
+
+namespace {
+
+// Narrower than this no text is readable.
+constexpr int fewestCharacters = 8;
+
+// Breaks the text into lines of that width, and returns their height.
+int layOut(QTextLayout &layout, qreal width)
+{
+    QTextOption option(Qt::AlignLeft);
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    layout.setTextOption(option);
+    qreal height = 0;
+    layout.beginLayout();
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        line.setLineWidth(width);
+        line.setPosition({0, height});
+        height += line.height();
+    }
+    layout.endLayout();
+    return qCeil(height);
+}
+
+} // namespace
+
+ValueLabel::ValueLabel(const QString &text, QWidget *parent)
+    : QLabel(text, parent)
+{
+    setTextFormat(Qt::PlainText);
+    QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    policy.setHeightForWidth(true);
+    setSizePolicy(policy);
+}
+
+// What the style puts around the text.
+QSize ValueLabel::frameSize() const
+{
+    return size() - contentsRect().size();
+}
+
+QSize ValueLabel::sizeHint() const
+{
+    ensurePolished();
+    const QSize oneLine(fontMetrics().horizontalAdvance(text()), fontMetrics().height());
+    return oneLine + frameSize();
+}
+
+QSize ValueLabel::minimumSizeHint() const
+{
+    ensurePolished();
+    const QSize smallest(fontMetrics().averageCharWidth() * fewestCharacters, fontMetrics().height());
+    return smallest + frameSize();
+}
+
+int ValueLabel::heightForWidth(int width) const
+{
+    ensurePolished();
+    const QSize frame = frameSize();
+    QTextLayout layout(text(), font(), this);
+    const int height = layOut(layout, qMax(1, width - frame.width()));
+    return qMax(fontMetrics().height(), height) + frame.height();
+}
+
+void ValueLabel::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    drawFrame(&painter);
+    painter.setPen(palette().color(foregroundRole()));
+    const QRect box = contentsRect();
+    QTextLayout layout(text(), font(), this);
+    const int height = layOut(layout, box.width());
+    layout.draw(&painter, QPointF(box.left(), box.top() + (box.height() - height + 1) / 2));
+}

@@ -1,0 +1,94 @@
+#include "cli/cliio.h"
+#include "cli/globaloptions.h"
+#include "cli/translate.h"
+#include "cli/trashtarget.h"
+#include "cli/wipeplan.h"
+#include "model/displaytext.h"
+#include "model/jsonwriter.h"
+#include "services/binrecords.h"
+
+namespace cli {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qsizetype MostListed = 20;
+
+QStringList words()
+{
+    return {u"wipe"_s, u"trash"_s};
+}
+
+QStringList summaryOf(const RecycleBinInfo &found)
+{
+    QStringList lines;
+    for (const RecycleBinItem &item : found.items.first(std::min(MostListed, found.items.size())))
+        lines.append(u"  "_s + describeItem(item));
+    if (found.items.size() > MostListed)
+        lines.append(Cli::tr("  and %1 more").arg(found.items.size() - MostListed));
+    lines.append(u"  "_s + amountOf(found));
+    return lines;
+}
+
+ExitCode tellEmpty(const CommandContext &context)
+{
+    const QString message = Cli::tr("The Recycle Bin is empty.");
+    if (wantsJson(context.options)) {
+        JsonWriter event(JsonWriter::Layout::Compact);
+        event.beginObject().member(u"event", u"log").member(u"level", 0).member(u"message", message);
+        context.io.printLine(event.endObject().text());
+    } else {
+        context.io.printLine(message);
+    }
+    return Done;
+}
+
+// The bins' own records of what they hold name what was erased.
+QStringList tidyUp(const RecycleBinInfo &found)
+{
+    const platform::Status tidied = updateBinRecords(found);
+    if (tidied)
+        return {};
+    return {
+        Cli::tr("the bin's own list of its folders still names what was erased, error %1").arg(tidied.code)};
+}
+
+Outcome<ExitCode> run(const CommandContext &context)
+{
+    const auto options = readWipeOptions(context, words());
+    if (!options)
+        return options.refusal();
+    const auto found = findTrash(context, words());
+    if (!found)
+        return found.refusal();
+    if (found->filePaths.isEmpty())
+        return tellEmpty(context);
+
+    auto task = std::make_unique<WipeTask>();
+    task->setOperationType(FileWipe);
+    task->addFiles(found->filePaths);
+    WipePlan plan;
+    plan.summary = summaryOf(*found);
+    plan.doomedPaths = task->files();
+    plan.jobs.push_back({std::move(task), Cli::tr("the Recycle Bin")});
+    plan.afterwards = [&found] { return tidyUp(*found); };
+    return carryOut(plan, *options, context, words());
+}
+
+} // namespace
+
+Command wipeTrashCommand()
+{
+    Command command;
+    command.words = words();
+    command.summary = Cli::tr("Erases everything in the current user's Recycle Bin");
+    command.details = Cli::tr("That is the Recycle Bin of Windows, and the Trash of other desktops.");
+    command.example = u"wipe trash --method 2"_s;
+    command.options = trashOptions() + wipeOptions();
+    command.printsEvents = true;
+    command.run = run;
+    return command;
+}
+
+} // namespace cli

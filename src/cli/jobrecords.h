@@ -1,0 +1,46 @@
+#pragma once
+
+#include "cli/certificatefile.h"
+#include "cli/outcome.h"
+#include "cli/outputfile.h"
+#include "cli/reportstore.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <memory>
+#include <optional>
+
+struct WipeReport;
+
+namespace cli {
+
+struct CommandContext;
+struct WipeOptions;
+
+// What is kept of jobs: the record in the database, the report as a file, the certificate.
+class JobRecords
+{
+public:
+    // Where they went; empty paths for what was not wanted or could not be written.
+    struct Written
+    {
+        QString report;
+        QString certificate;
+        QStringList problems; // in words for the user
+    };
+
+    // Opens the database and tries the files; nothing is written. Refused when one of them lies in what is to
+    // be erased, SurroundingsFailed when it cannot be written.
+    static Outcome<JobRecords> prepare(const WipeOptions &options, const CommandContext &context,
+                                       const QStringList &doomedPaths, const QStringList &commandWords);
+
+    Written write(const WipeReport &report, bool succeeded) const;
+
+private:
+    std::unique_ptr<ReportStore> m_store; // null: not wanted
+    OutputFile m_reportFile;
+    CertificateFile m_certificate;
+};
+
+} // namespace cli

@@ -1,0 +1,88 @@
+#include "cli/reporttext.h"
+
+#include "cli/names.h"
+#include "cli/table.h"
+#include "cli/translate.h"
+#include "model/displaytext.h"
+#include "model/formatsize.h"
+
+#include <QJsonDocument>
+
+namespace cli {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString size(quint64 bytes)
+{
+    return formatSize(static_cast<qint64>(bytes));
+}
+
+QString time(const QDateTime &moment)
+{
+    return moment.toString(u"yyyy-MM-dd HH:mm:ss");
+}
+
+void addTarget(Table &table, const WipeReport &report)
+{
+    if (report.operationType == FileWipe) {
+        table.addRow({Cli::tr("Files"), QString::number(report.fileCount)});
+        table.addRow({Cli::tr("Size"), size(report.totalBytes)});
+        return;
+    }
+    table.addRow({Cli::tr("Model"), displayText(report.disk.model)});
+    table.addRow({Cli::tr("Serial number"), displayText(report.disk.serialNumber)});
+    table.addRow({Cli::tr("Size"), report.disk.formattedSize()});
+    table.addRow({Cli::tr("Sectors"), QString::number(report.totalSectors)});
+    table.addRow({Cli::tr("Sectors erased"), QString::number(report.wipedSectors)});
+    table.addRow({Cli::tr("Bad sectors"), QString::number(report.badSectors)});
+}
+
+void addVerification(Table &table, const WipeReport &report)
+{
+    table.addRow(
+        {Cli::tr("Verification"), report.verificationPassed ? Cli::tr("passed") : Cli::tr("not passed")});
+    if (!report.verificationMethod.isEmpty())
+        table.addRow({Cli::tr("Read back"), displayText(report.verificationMethod)});
+    table.addRow({Cli::tr("Samples"), QString::number(report.verificationSampleSize)});
+    if (!report.dataHash.isEmpty())
+        table.addRow({Cli::tr("Hash"), displayText(report.dataHash)});
+}
+
+} // namespace
+
+bool isReportText(const QByteArray &json)
+{
+    return QJsonDocument::fromJson(json).isObject();
+}
+
+QString targetText(const WipeReport &report)
+{
+    if (report.operationType == FileWipe)
+        return report.fileCount == 1 ? Cli::tr("1 file") : Cli::tr("%1 files").arg(report.fileCount);
+    return displayText(report.disk.displayName());
+}
+
+QString reportText(const WipeReport &report)
+{
+    Table table;
+    table.addRow({Cli::tr("Certificate"), displayText(report.certificateId)});
+    table.addRow({Cli::tr("Operation"), report.operationTypeName()});
+    table.addRow({Cli::tr("Method"),
+                  displayText(report.method.name) + u", "_s + passCountText(report.method.passCount())});
+    table.addRow({Cli::tr("Status"), report.statusName()});
+    table.addRow({Cli::tr("Started"), time(report.startTime)});
+    table.addRow({Cli::tr("Ended"), time(report.endTime)});
+    table.addRow({Cli::tr("Duration"), report.endTime.isValid() ? report.duration() : QString()});
+    addTarget(table, report);
+    table.addRow({Cli::tr("Written"), size(report.bytesWritten)});
+    addVerification(table, report);
+    table.addRow({Cli::tr("Operator"), displayText(report.operatorName)});
+    table.addRow({Cli::tr("Computer"), displayText(report.computerName)});
+    if (!report.errorMessage.isEmpty())
+        table.addRow({Cli::tr("Error"), displayText(report.errorMessage)});
+    return table.text();
+}
+
+} // namespace cli

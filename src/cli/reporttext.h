@@ -1,0 +1,19 @@
+#pragma once
+
+#include "model/wipereport.h"
+
+#include <QByteArray>
+#include <QString>
+
+namespace cli {
+
+// Whether the text can be read as a report at all: one JSON object.
+bool isReportText(const QByteArray &json);
+
+// What the job was about, in a few words with cleaned names: the drive, or how many files.
+QString targetText(const WipeReport &report);
+
+// The whole report for a person, a field a line, with cleaned names.
+QString reportText(const WipeReport &report);
+
+} // namespace cli

@@ -1,0 +1,80 @@
+#include "cli/trashtarget.h"
+
+#include "cli/commandline.h"
+#include "cli/paths.h"
+#include "cli/translate.h"
+#include "model/displaytext.h"
+#include "model/formatsize.h"
+#include "services/recyclebinscanner.h"
+
+#include <QFileInfo>
+
+namespace cli {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+Outcome<QStringList> requestedRoots(const CommandContext &context, const QStringList &commandWords)
+{
+    QStringList roots;
+    const QStringList given = context.options.values(u"root"_s);
+    for (const QString &root : given) {
+        if (root.isEmpty())
+            return wrongCommandLine(Cli::tr("--root is empty"), commandWords);
+        const QString path = absolutePath(root);
+        if (!QFileInfo(path).isDir())
+            return Refusal{Refused, Cli::tr("%1 is no folder").arg(displayText(root))};
+        // One folder under two names would have its items listed, and erased, twice.
+        const QString canonical = QFileInfo(path).canonicalFilePath();
+        if (!roots.contains(canonical))
+            roots.append(canonical);
+    }
+    return roots;
+}
+
+} // namespace
+
+QList<QCommandLineOption> trashOptions()
+{
+    return {
+        {u"root"_s,
+         Cli::tr("Look into the Windows bins below this folder, which stands for a drive (repeatable)"),
+         u"DIR"_s},
+        {u"sid"_s, Cli::tr("With --root: only the bin of the user with this security identifier"), u"SID"_s},
+    };
+}
+
+Outcome<RecycleBinInfo> findTrash(const CommandContext &context, const QStringList &commandWords)
+{
+    const auto roots = requestedRoots(context, commandWords);
+    if (!roots)
+        return roots.refusal();
+    const QString sid = context.options.value(u"sid"_s);
+    if (context.options.isSet(u"sid"_s) && (sid.isEmpty() || roots->isEmpty())) {
+        return wrongCommandLine(sid.isEmpty() ? Cli::tr("--sid is empty") : Cli::tr("--sid needs --root"),
+                                commandWords);
+    }
+    RecycleBinScanner scanner;
+    if (!roots->isEmpty())
+        return scanner.scanRoots(*roots, sid);
+    if (RecycleBinScanner::currentUserSid().isEmpty())
+        return Refusal{SurroundingsFailed, Cli::tr("the system does not tell who the user is")};
+    return scanner.scan();
+}
+
+QString amountOf(const RecycleBinInfo &found)
+{
+    const QString items = found.fileCount == 1 ? Cli::tr("1 item") : Cli::tr("%1 items").arg(found.fileCount);
+    return Cli::tr("%1, %2").arg(items, formatSize(static_cast<qint64>(found.totalSize)));
+}
+
+QString describeItem(const RecycleBinItem &item)
+{
+    const QString name = displayText(item.originalPath.isEmpty() ? item.fileName : item.originalPath);
+    const QString kind = item.isDirectory ? Cli::tr("folder, ") : QString();
+    const QString missing = item.recyclePath.isEmpty() ? Cli::tr(", only its record is left") : QString();
+    return Cli::tr("%1 (%2%3%4)").arg(name, kind, formatSize(static_cast<qint64>(item.size)), missing);
+}
+
+} // namespace cli

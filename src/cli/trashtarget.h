@@ -1,0 +1,25 @@
+#pragma once
+
+#include "cli/command.h"
+#include "services/recyclebininfo.h"
+
+#include <QCommandLineOption>
+#include <QList>
+#include <QStringList>
+
+namespace cli {
+
+// The options that say whose bins are meant.
+QList<QCommandLineOption> trashOptions();
+
+// What is in the current user's Recycle Bin and Trash, or in the bins of the roots that are named. Refused
+// when a root is no folder, SurroundingsFailed when the user is unknown to the system.
+Outcome<RecycleBinInfo> findTrash(const CommandContext &context, const QStringList &commandWords);
+
+// "3 items, 12.00 KB".
+QString amountOf(const RecycleBinInfo &found);
+
+// The line that stands for the item, with cleaned names.
+QString describeItem(const RecycleBinItem &item);
+
+} // namespace cli

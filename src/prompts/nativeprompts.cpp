@@ -1,0 +1,38 @@
+#include "prompts/nativeprompts.h"
+
+#include <QFileDialog>
+#include <QPrintDialog>
+
+QMessageBox::StandardButton NativePrompts::show(QWidget *parent, const Box &box)
+{
+    QMessageBox shown(box.icon, box.title, box.text, box.buttons, parent);
+    shown.setTextFormat(box.format);
+    if (box.byDefault != QMessageBox::NoButton)
+        shown.setDefaultButton(box.byDefault);
+    if (!box.styleSheet.isEmpty())
+        shown.setStyleSheet(box.styleSheet);
+    return static_cast<QMessageBox::StandardButton>(shown.exec());
+}
+
+QString NativePrompts::fileToSave(QWidget *parent, const QString &caption, const QString &proposal,
+                                  const QString &filter)
+{
+    return QFileDialog::getSaveFileName(parent, caption, proposal, filter);
+}
+
+QStringList NativePrompts::filesToOpen(QWidget *parent, const QString &caption, const QString &filter)
+{
+    return QFileDialog::getOpenFileNames(parent, caption, QString(), filter);
+}
+
+QString NativePrompts::folder(QWidget *parent, const QString &caption, const QString &start)
+{
+    return QFileDialog::getExistingDirectory(parent, caption, start);
+}
+
+bool NativePrompts::print(QWidget *parent, const QString &title, QPrinter &printer)
+{
+    QPrintDialog dialog(&printer, parent);
+    dialog.setWindowTitle(title);
+    return dialog.exec() == QDialog::Accepted;
+}

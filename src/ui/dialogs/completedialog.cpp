@@ -1,0 +1,148 @@
+#include "ui/dialogs/completedialog.h"
+
+#include <QIcon>
+#include <QLabel>
+#include <QPixmap>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QSize IconSize(80, 80);
+constexpr QSize ButtonSize(150, 42);
+
+// The application's padding would cut long labels in buttons of fixed width, and its focus frame cannot be
+// told from the blue button.
+const QString dialogStyle = u"QPushButton { padding: 0px; }"
+                            "QPushButton:focus { outline: 2px solid #1e3a8a; outline-radius: 6px; }"_s;
+const QString viewButtonStyle =
+    u"QPushButton {  background-color: #3b82f6;  color: white;  border: none;  border-radius: 8px;  "
+    "font-size: 14px;  font-weight: bold;}QPushButton:hover {  background-color: #2563eb;}"_s;
+const QString closeButtonStyle =
+    u"QPushButton {  background-color: white;  color: #374151;  border: 1px solid #d1d5db;  "
+    "border-radius: 8px;  font-size: 14px;}QPushButton:hover {  background-color: #f9fafb;}"_s;
+
+QPushButton *makeButton(const QString &text, const QString &name, const QString &style)
+{
+    auto *const button = new QPushButton(text);
+    button->setObjectName(name);
+    button->setFixedSize(ButtonSize);
+    button->setStyleSheet(style);
+    return button;
+}
+
+} // namespace
+
+CompleteDialog::CompleteDialog(bool success, const QString &certificateId, QWidget *parent)
+    : QDialog(parent)
+    , m_success(success)
+    , m_certificateId(certificateId)
+{
+    setWindowTitle(m_success ? tr("Erasing Complete") : tr("Erase Failed"));
+    setFixedSize(450, 420);
+    setStyleSheet(dialogStyle);
+    auto *const layout = new QVBoxLayout(this);
+    layout->setContentsMargins(40, 35, 40, 30);
+    layout->setSpacing(12);
+    addIcon(layout);
+    addTexts(layout);
+    if (offersCertificate())
+        addCertificateId(layout);
+    layout->addStretch();
+    addButtons(layout);
+}
+
+void CompleteDialog::addIcon(QBoxLayout *layout)
+{
+    auto *const icon = new QLabel;
+    icon->setObjectName(u"dialogIcon"_s);
+    icon->setFixedSize(IconSize);
+    icon->setAlignment(Qt::AlignCenter);
+    if (m_success) {
+        // Drawn at the resolution of the screen; an icon keeps the aspect ratio and draws smoothly.
+        icon->setPixmap(QIcon(u":/icons/icon_success.svg"_s).pixmap(IconSize, devicePixelRatio()));
+    } else {
+        icon->setText(u"❌"_s);
+        icon->setStyleSheet(u"font-size: 64px;"_s);
+    }
+    layout->addWidget(icon, 0, Qt::AlignHCenter);
+}
+
+QString CompleteDialog::messageText() const
+{
+    if (!m_success)
+        return tr("An error occurred during erasure.\nPlease check the log for details.");
+    if (m_certificateId.isEmpty())
+        return tr("All selected data has been securely erased.");
+    return tr("All selected data has been securely erased.\nAn erasure certificate has been generated.");
+}
+
+void CompleteDialog::addTexts(QBoxLayout *layout)
+{
+    auto *const title = new QLabel(m_success ? tr("Data Erased Successfully!") : tr("Erase Failed"));
+    title->setObjectName(u"dialogTitle"_s);
+    title->setWordWrap(true);
+    title->setAlignment(Qt::AlignCenter);
+    title->setStyleSheet(
+        u"font-size: 22px; font-weight: bold; color: %1;"_s.arg(m_success ? u"#22c55e"_s : u"#ef4444"_s));
+    layout->addWidget(title);
+
+    auto *const message = new QLabel(messageText());
+    message->setObjectName(u"dialogMessage"_s);
+    message->setAlignment(Qt::AlignCenter);
+    message->setWordWrap(true);
+    message->setStyleSheet(u"color: #64748b; font-size: 14px; line-height: 1.5;"_s);
+    layout->addWidget(message);
+}
+
+void CompleteDialog::addCertificateId(QBoxLayout *layout)
+{
+    auto *const box = new QWidget;
+    box->setObjectName(u"certIdWidget"_s);
+    box->setFixedHeight(50);
+    box->setStyleSheet(u"background-color: #f1f5f9; border-radius: 8px;"_s);
+
+    auto *const label = new QLabel(tr("Certificate: "));
+    label->setStyleSheet(u"color: #64748b; font-size: 13px;"_s);
+    auto *const id = new QLabel(m_certificateId);
+    id->setObjectName(u"certIdLabel"_s);
+    id->setTextFormat(Qt::PlainText);
+    id->setStyleSheet(
+        u"color: #1e293b; font-weight: bold; font-family: Consolas, monospace; font-size: 13px;"_s);
+
+    auto *const row = new QHBoxLayout(box);
+    row->addStretch();
+    row->addWidget(label);
+    row->addWidget(id);
+    row->addStretch();
+    layout->addWidget(box);
+}
+
+void CompleteDialog::addButtons(QBoxLayout *layout)
+{
+    auto *const row = new QHBoxLayout;
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addStretch();
+    if (offersCertificate()) {
+        QPushButton *const view =
+            makeButton(tr("View Certificate"), u"viewCertificateBtn"_s, viewButtonStyle);
+        connect(view, &QPushButton::clicked, this, &CompleteDialog::onViewCertificateClicked);
+        row->addWidget(view);
+    }
+    QPushButton *const close =
+        makeButton(m_success ? tr("Done") : tr("Close"), u"closeBtn"_s, closeButtonStyle);
+    close->setDefault(true);
+    close->setFocus();
+    connect(close, &QPushButton::clicked, this, &CompleteDialog::accept);
+    row->addWidget(close);
+    row->addStretch();
+    layout->addLayout(row);
+}
+
+void CompleteDialog::onViewCertificateClicked()
+{
+    emit viewCertificateClicked();
+    accept();
+}

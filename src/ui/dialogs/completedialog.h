@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QDialog>
+#include <QString>
+
+QT_FORWARD_DECLARE_CLASS(QBoxLayout)
+
+/// Tells the end of a job and, where a certificate was made, offers to view it.
+class CompleteDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    /// An empty id means that there is no certificate. After a failure none is offered, whatever the id.
+    CompleteDialog(bool success, const QString &certificateId, QWidget *parent = nullptr);
+
+signals:
+    /// Emitted before the dialog closes.
+    void viewCertificateClicked();
+
+private:
+    bool offersCertificate() const { return m_success && !m_certificateId.isEmpty(); }
+    QString messageText() const;
+    void addIcon(QBoxLayout *layout);
+    void addTexts(QBoxLayout *layout);
+    void addCertificateId(QBoxLayout *layout);
+    void addButtons(QBoxLayout *layout);
+    void onViewCertificateClicked();
+
+    bool m_success;
+    QString m_certificateId;
+};

@@ -1,0 +1,134 @@
+#include "ui/dialogs/confirmdialog.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTextDocumentFragment>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QSize DialogSize(400, 320);
+constexpr QSize ButtonSize(120, 40);
+constexpr int Margin = 30;
+constexpr int Spacing = 20;
+
+QLabel *centredLabel(const QString &text, const QString &style)
+{
+    auto *const label = new QLabel(text);
+    label->setAlignment(Qt::AlignCenter);
+    label->setStyleSheet(style);
+    return label;
+}
+
+QPushButton *makeButton(const QString &text, const QString &name)
+{
+    auto *const button = new QPushButton(text);
+    button->setObjectName(name);
+    button->setFixedSize(ButtonSize);
+    return button;
+}
+
+} // namespace
+
+ConfirmDialog::ConfirmDialog(QWidget *parent)
+    : QDialog(parent)
+{
+    setWindowTitle(tr("Confirm Erase"));
+    setModal(true);
+    auto *const layout = new QVBoxLayout(this);
+    layout->setContentsMargins(Margin, Margin, Margin, Margin);
+    layout->setSpacing(Spacing);
+    addTexts(layout);
+    addInput(layout);
+    addButtons(layout);
+    setFixedSize(DialogSize);
+    tightenSpacing();
+    m_input->setFocus();
+}
+
+QString ConfirmDialog::promptText()
+{
+    return tr("Type <b>ERASE</b> to confirm:");
+}
+
+void ConfirmDialog::addTexts(QBoxLayout *layout)
+{
+    QLabel *const icon = centredLabel(u"⚠️"_s, u"font-size: 48px;"_s);
+    icon->setObjectName(u"dialogIcon"_s);
+    layout->addWidget(icon);
+
+    QLabel *const title = centredLabel(tr("Warning: Irreversible Operation"),
+                                       u"font-size: 18px; font-weight: bold; color: #dc2626;"_s);
+    title->setObjectName(u"dialogTitle"_s);
+    title->setWordWrap(true);
+    layout->addWidget(title);
+
+    QLabel *const message = centredLabel(
+        tr("The selected data will be permanently erased and cannot be recovered."), u"color: #4b5563;"_s);
+    message->setObjectName(u"dialogMessage"_s);
+    message->setWordWrap(true);
+    layout->addWidget(message);
+
+    QLabel *const prompt = centredLabel(promptText(), QString());
+    prompt->setObjectName(u"dialogPrompt"_s);
+    prompt->setTextFormat(Qt::RichText);
+    layout->addWidget(prompt);
+}
+
+void ConfirmDialog::addInput(QBoxLayout *layout)
+{
+    m_input = new QLineEdit;
+    m_input->setObjectName(u"confirmInput"_s);
+    m_input->setPlaceholderText(tr("ERASE"));
+    m_input->setAccessibleName(QTextDocumentFragment::fromHtml(promptText()).toPlainText());
+    m_input->setAlignment(Qt::AlignCenter);
+    m_input->setFixedSize(200, 40);
+    m_input->setStyleSheet(u"QLineEdit { border: 2px solid #e5e7eb; border-radius: 8px; padding: 8px; "
+                           "font-size: 14px; }QLineEdit:focus { border-color: #3b82f6; }"_s);
+    connect(m_input, &QLineEdit::textChanged, this, &ConfirmDialog::onTextChanged);
+    layout->addWidget(m_input, 0, Qt::AlignHCenter);
+}
+
+void ConfirmDialog::addButtons(QBoxLayout *layout)
+{
+    m_cancelButton = makeButton(tr("Cancel"), u"secondaryBtn"_s);
+    connect(m_cancelButton, &QPushButton::clicked, this, &ConfirmDialog::reject);
+
+    m_confirmButton = makeButton(tr("Confirm"), u"dangerBtn"_s);
+    m_confirmButton->setEnabled(false);
+    // Without a default of its own the dialog would take the first button, and Enter after the word would
+    // cancel.
+    m_confirmButton->setDefault(true);
+    connect(m_confirmButton, &QPushButton::clicked, this, &ConfirmDialog::onConfirmClicked);
+
+    auto *const row = new QHBoxLayout;
+    row->setSpacing(12); // else it would follow the gaps above
+    row->addStretch();
+    row->addWidget(m_cancelButton);
+    row->addWidget(m_confirmButton);
+    row->addStretch();
+    layout->addLayout(row);
+}
+
+// Large fonts and long translations need more than the dialog's fixed height; then the gaps give way, not the
+// texts.
+void ConfirmDialog::tightenSpacing()
+{
+    const int excess = layout()->totalHeightForWidth(width()) - height();
+    const int gaps = layout()->count() - 1;
+    if (excess > 0)
+        layout()->setSpacing(qMax(0, Spacing - (excess + gaps - 1) / gaps));
+}
+
+void ConfirmDialog::onTextChanged(const QString &text)
+{
+    m_confirmButton->setEnabled(text.toUpper() == m_confirmText);
+}
+
+void ConfirmDialog::onConfirmClicked()
+{
+    accept();
+}

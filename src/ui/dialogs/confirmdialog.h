@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QDialog>
+#include <QString>
+
+QT_FORWARD_DECLARE_CLASS(QBoxLayout)
+QT_FORWARD_DECLARE_CLASS(QLineEdit)
+QT_FORWARD_DECLARE_CLASS(QPushButton)
+
+/// Stands between the choice of a method and the start of a job: accepted only after the user has typed the
+/// word ERASE, in whatever case.
+class ConfirmDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit ConfirmDialog(QWidget *parent = nullptr);
+
+private slots:
+    void onTextChanged(const QString &text);
+    void onConfirmClicked();
+
+private:
+    static QString promptText();
+    void addTexts(QBoxLayout *layout);
+    void addInput(QBoxLayout *layout);
+    void addButtons(QBoxLayout *layout);
+    void tightenSpacing();
+
+    const QString m_confirmText = QStringLiteral("ERASE");
+    QLineEdit *m_input = nullptr;
+    QPushButton *m_cancelButton = nullptr;
+    QPushButton *m_confirmButton = nullptr;
+};

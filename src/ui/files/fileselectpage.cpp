@@ -1,0 +1,387 @@
+#include "ui/files/fileselectpage.h"
+
+#include "model/formatsize.h"
+#include "prompts/prompts.h"
+#include "ui/files/filelistwidget.h"
+#include "ui/style/pagestyle.h"
+
+#include <QBoxLayout>
+#include <QDropEvent>
+#include <QFrame>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QMimeData>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QStackedWidget>
+#include <QStyle>
+#include <QUrl>
+
+#include <algorithm>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// A folder of a million files takes seconds.
+class WaitCursor
+{
+public:
+    WaitCursor() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
+    ~WaitCursor() { QGuiApplication::restoreOverrideCursor(); }
+    WaitCursor(const WaitCursor &) = delete;
+    WaitCursor &operator=(const WaitCursor &) = delete;
+};
+
+QPushButton *createToolButton(const QString &text, const QString &name, const QString &styleSheet)
+{
+    auto *button = new QPushButton(text);
+    button->setObjectName(name);
+    button->setCursor(Qt::PointingHandCursor);
+    button->setStyleSheet(styleSheet);
+    return button;
+}
+
+const QString &addStyle()
+{
+    static const QString style =
+        u"QPushButton {  background-color: white;  border: 1px solid #e2e8f0;  border-radius: 6px;"
+        "  padding: 6px 12px;  color: #475569;  font-size: 12px;}"
+        "QPushButton:hover { background-color: #f1f5f9; }"
+        "QPushButton:focus { border-color: #3b82f6; outline: none; }"_s;
+    return style;
+}
+
+const QString &removeStyle()
+{
+    static const QString style =
+        u"QPushButton {  background-color: white;  border: 1px solid #fecaca;  border-radius: 6px;"
+        "  padding: 6px 12px;  color: #ef4444;  font-size: 12px;}"
+        "QPushButton:hover { background-color: #fef2f2; }"
+        "QPushButton:focus { border-color: #ef4444; outline: none; }"
+        "QPushButton:disabled { border-color: #e2e8f0; color: #9ca3af; }"_s;
+    return style;
+}
+
+} // namespace
+
+FileSelectPage::FileSelectPage(QWidget *parent)
+    : QWidget(parent)
+    , m_title(new QLabel(tr("Select Files to Shred")))
+    , m_subtitle(new QLabel(tr("Click buttons to add files and folders")))
+    , m_toolRow(new QWidget)
+    , m_addFiles(createToolButton(tr("📄 Add Files"), u"addFilesBtn"_s, addStyle()))
+    , m_addFolder(createToolButton(tr("📁 Add Folder"), u"addFolderBtn"_s, addStyle()))
+    , m_remove(createToolButton(tr("Remove"), u"removeBtn"_s, removeStyle()))
+    , m_clearAll(createToolButton(tr("Clear All"), u"clearAllBtn"_s, removeStyle()))
+    , m_stack(new QStackedWidget)
+    , m_dropZone(new QFrame)
+    , m_plus(new QPushButton(u"+"_s))
+    , m_hint(new QLabel(tr("Click to add files or drag files here")))
+    , m_loading(new QLabel)
+    , m_progress(new QProgressBar)
+    , m_list(new FileListWidget)
+    , m_stats(new QLabel)
+    , m_back(new QPushButton(tr("← Back")))
+    , m_next(new QPushButton(tr("Next →")))
+{
+    pagestyle::asTitle(*m_title);
+    pagestyle::asSubtitle(*m_subtitle, u"font-size: 14px; color: #64748b;"_s);
+    createToolRow();
+    createDropZone();
+    m_list->setAccessibleName(tr("Files and folders to shred"));
+    m_stats->setObjectName(u"fileStats"_s);
+    m_stats->setStyleSheet(u"font-size: 13px; color: #64748b;"_s);
+    pagestyle::asBack(*m_back);
+    pagestyle::asNext(*m_next);
+    createLayout();
+    updateStats();
+    onSelectionChanged();
+
+    for (QWidget *target : {m_dropZone, static_cast<QWidget *>(m_list), m_list->viewport()})
+        target->installEventFilter(this);
+    connect(m_addFiles, &QPushButton::clicked, this, &FileSelectPage::onAddFilesClicked);
+    connect(m_plus, &QPushButton::clicked, this, &FileSelectPage::onAddFilesClicked);
+    connect(m_addFolder, &QPushButton::clicked, this, &FileSelectPage::onAddFolderClicked);
+    connect(m_remove, &QPushButton::clicked, this, &FileSelectPage::onRemoveSelectedClicked);
+    connect(m_clearAll, &QPushButton::clicked, this, &FileSelectPage::onClearAllClicked);
+    connect(m_list, &QListWidget::itemSelectionChanged, this, &FileSelectPage::onSelectionChanged);
+    connect(m_back, &QPushButton::clicked, this, &FileSelectPage::backClicked);
+    connect(m_next, &QPushButton::clicked, this, &FileSelectPage::nextClicked);
+}
+
+void FileSelectPage::createToolRow()
+{
+    m_toolRow->setObjectName(u"toolRow"_s);
+    auto *layout = new QHBoxLayout(m_toolRow);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_addFiles);
+    layout->addWidget(m_addFolder);
+    layout->addStretch();
+    layout->addWidget(m_remove);
+    layout->addWidget(m_clearAll);
+}
+
+void FileSelectPage::createDropZone()
+{
+    m_dropZone->setObjectName(u"dropZone"_s);
+    m_dropZone->setAcceptDrops(true);
+    m_dropZone->setStyleSheet(
+        u"#dropZone { background-color: white; border: 2px dashed #cbd5e1; border-radius: 12px; }"
+        "#dropZone[dragOver=\"true\"] { border-color: #3b82f6; background-color: #eff6ff; }"_s);
+    m_plus->setObjectName(u"plusBtn"_s);
+    m_plus->setFixedSize(70, 70);
+    m_plus->setCursor(Qt::PointingHandCursor);
+    m_plus->setAccessibleName(tr("📄 Add Files"));
+    m_plus->setStyleSheet(u"QPushButton { background-color: #3b82f6; border: none; border-radius: 14px;"
+                          " color: white; font-size: 32px; font-weight: bold; padding: 0; }"
+                          "QPushButton:hover { background-color: #2563eb; }"
+                          "QPushButton:pressed { background-color: #1d4ed8; }"
+                          "QPushButton:focus { border: 2px solid #1e3a8a; outline: none; }"_s);
+    m_hint->setObjectName(u"dropHint"_s);
+    m_hint->setStyleSheet(u"font-size: 14px; color: #64748b;"_s);
+    m_loading->setObjectName(u"loadingLabel"_s);
+    m_loading->setStyleSheet(u"font-size: 15px; color: #3b82f6;"_s);
+    m_loading->setTextFormat(Qt::PlainText);
+    for (QLabel *label : {m_hint, m_loading}) {
+        label->setAlignment(Qt::AlignCenter);
+        label->setWordWrap(true);
+    }
+    m_progress->setObjectName(u"loadingProgress"_s);
+    m_progress->setFixedSize(300, 6);
+    m_progress->setTextVisible(false);
+    m_progress->setRange(0, 0);
+    m_progress->setStyleSheet(u"QProgressBar { background-color: #e5e7eb; border: none; border-radius: 3px; }"
+                              "QProgressBar::chunk { background-color: #3b82f6; border-radius: 3px; }"_s);
+    m_loading->hide();
+    m_progress->hide();
+
+    auto *layout = new QVBoxLayout(m_dropZone);
+    layout->setSpacing(14);
+    layout->addStretch();
+    layout->addWidget(m_plus, 0, Qt::AlignHCenter);
+    layout->addWidget(m_hint);
+    layout->addWidget(m_loading);
+    layout->addWidget(m_progress, 0, Qt::AlignHCenter);
+    layout->addStretch();
+}
+
+void FileSelectPage::createLayout()
+{
+    m_stack->setObjectName(u"fileStack"_s);
+    m_stack->insertWidget(DropZoneView, m_dropZone);
+    m_stack->insertWidget(ListView, m_list);
+
+    auto *buttons = new QHBoxLayout;
+    buttons->addWidget(m_back);
+    buttons->addStretch();
+    buttons->addWidget(m_next);
+
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(pagestyle::Margins);
+    layout->setSpacing(8);
+    layout->addWidget(m_title);
+    layout->addWidget(m_subtitle);
+    layout->addWidget(m_toolRow);
+    layout->addWidget(m_stack, 1);
+    layout->addWidget(m_stats);
+    layout->addLayout(buttons);
+}
+
+QListWidget *FileSelectPage::list() const
+{
+    return m_list;
+}
+
+QStringList FileSelectPage::files() const
+{
+    QStringList paths;
+    paths.reserve(m_entries.size());
+    for (const FileEntry &entry : m_entries)
+        paths.append(entry.path);
+    return paths;
+}
+
+void FileSelectPage::clearFiles()
+{
+    m_entries.clear();
+    m_paths.clear();
+    m_list->clear();
+    updateStats();
+}
+
+void FileSelectPage::setHeader(const QString &title, const QString &subtitle)
+{
+    m_title->setText(title);
+    if (!subtitle.isEmpty())
+        m_subtitle->setText(subtitle);
+}
+
+void FileSelectPage::setToolRowVisible(bool visible)
+{
+    m_toolRow->setVisible(visible);
+}
+
+void FileSelectPage::showLoading(const QString &text)
+{
+    m_isLoading = true;
+    m_stack->setCurrentIndex(DropZoneView);
+    m_plus->hide();
+    m_hint->hide();
+    m_loading->setText(text);
+    m_loading->show();
+    m_progress->setRange(0, 0);
+    m_progress->show();
+    m_toolRow->hide();
+    m_next->setEnabled(false);
+    m_stats->setText(text);
+}
+
+void FileSelectPage::updateLoadingProgress(int current, int total, const QString &text)
+{
+    m_progress->setRange(0, total);
+    m_progress->setValue(current);
+    m_loading->setText(text);
+    m_stats->setText(text);
+}
+
+void FileSelectPage::hideLoading()
+{
+    m_isLoading = false;
+    m_plus->show();
+    m_hint->show();
+    m_loading->hide();
+    m_progress->hide();
+    m_toolRow->show();
+}
+
+void FileSelectPage::addPaths(const QStringList &paths)
+{
+    const WaitCursor waitCursor;
+    QList<FileEntry> added;
+    for (const QString &path : paths) {
+        if (m_paths.contains(path))
+            continue;
+        if (const auto entry = FileEntry::fromPath(path)) {
+            m_paths.insert(path);
+            added.append(*entry);
+        }
+    }
+    m_entries.append(added);
+    m_list->append(added);
+    updateStats();
+}
+
+void FileSelectPage::onAddFilesClicked()
+{
+    const QStringList paths = Prompts::current().filesToOpen(this, tr("Select Files"), tr("All Files (*.*)"));
+    if (!paths.isEmpty())
+        addPaths(paths);
+}
+
+void FileSelectPage::onAddFolderClicked()
+{
+    const QString path = Prompts::current().folder(this, tr("Select Folder"), QString());
+    if (!path.isEmpty())
+        addPaths({path});
+}
+
+void FileSelectPage::onSelectionChanged()
+{
+    m_remove->setEnabled(m_list->selectionModel()->hasSelection());
+}
+
+void FileSelectPage::onRemoveSelectedClicked()
+{
+    QList<FileListWidget::Run> runs = m_list->selectedRuns();
+    // Rows that the window added have no entry, and stay.
+    erase_if(runs, [this](const FileListWidget::Run &run) { return run.first >= m_entries.size(); });
+    for (FileListWidget::Run &run : runs) {
+        run.count = std::min(run.count, static_cast<int>(m_entries.size()) - run.first);
+        for (int row = run.first; row < run.first + run.count; ++row)
+            m_paths.remove(m_entries.at(row).path);
+        m_entries.remove(run.first, run.count);
+    }
+    m_list->remove(runs);
+    updateStats();
+}
+
+void FileSelectPage::onClearAllClicked()
+{
+    if (Prompts::current().confirms(this, QMessageBox::Question, tr("Confirm Clear"),
+                                    tr("Are you sure you want to clear all added files?")))
+        clearFiles();
+}
+
+void FileSelectPage::updateStats()
+{
+    qint64 total = 0;
+    for (const FileEntry &entry : std::as_const(m_entries))
+        total += entry.size;
+    m_stats->setText(
+        tr("Added %1 items, total %2").arg(QString::number(m_entries.size()), formatSize(total)));
+    m_next->setEnabled(!m_entries.isEmpty());
+    m_clearAll->setEnabled(!m_entries.isEmpty());
+    m_stack->setCurrentIndex(m_entries.isEmpty() ? DropZoneView : ListView);
+}
+
+bool FileSelectPage::eventFilter(QObject *watched, QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::DragEnter:
+    case QEvent::DragMove:
+    case QEvent::Drop:
+        if (handleDrag(static_cast<QDropEvent &>(*event)))
+            return true;
+        break;
+    case QEvent::DragLeave:
+        setDragOver(false);
+        break;
+    default:
+        break;
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+bool FileSelectPage::handleDrag(QDropEvent &event)
+{
+    if (m_isLoading) {
+        event.ignore();
+        return true;
+    }
+    if (event.type() == QEvent::Drop)
+        setDragOver(false);
+    if (!event.mimeData()->hasUrls())
+        return false;
+    if (event.type() == QEvent::Drop) {
+        drop(event);
+        return true;
+    }
+    event.acceptProposedAction();
+    if (event.type() == QEvent::DragEnter)
+        setDragOver(true);
+    return true;
+}
+
+void FileSelectPage::drop(QDropEvent &event)
+{
+    // Never a move: the source would then delete its files by itself, unshredded.
+    event.setDropAction(Qt::CopyAction);
+    event.accept();
+    QStringList paths;
+    const QList<QUrl> urls = event.mimeData()->urls();
+    for (const QUrl &url : urls) {
+        const QString path = url.toLocalFile();
+        if (!path.isEmpty())
+            paths.append(path);
+    }
+    addPaths(paths);
+}
+
+void FileSelectPage::setDragOver(bool isOver)
+{
+    m_dropZone->setProperty("dragOver", isOver);
+    m_dropZone->style()->unpolish(m_dropZone);
+    m_dropZone->style()->polish(m_dropZone);
+}

@@ -1,0 +1,97 @@
+#pragma once
+
+#include "ui/files/fileentry.h"
+
+#include <QList>
+#include <QSet>
+#include <QStringList>
+#include <QWidget>
+
+QT_FORWARD_DECLARE_CLASS(QBoxLayout)
+QT_FORWARD_DECLARE_CLASS(QDropEvent)
+QT_FORWARD_DECLARE_CLASS(QLabel)
+QT_FORWARD_DECLARE_CLASS(QListWidget)
+QT_FORWARD_DECLARE_CLASS(QProgressBar)
+QT_FORWARD_DECLARE_CLASS(QPushButton)
+QT_FORWARD_DECLARE_CLASS(QStackedWidget)
+class FileListWidget;
+
+/// Collects the files and folders to shred. The sizes of folders are summed up while the user waits. The
+/// window also shows the content of the Recycle Bin on it: it then fills list() by itself, files() knows
+/// nothing of those rows. Interface thread.
+class FileSelectPage : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// Indexes in stack().
+    enum View { DropZoneView = 0, ListView = 1 };
+
+    explicit FileSelectPage(QWidget *parent = nullptr);
+
+    /// The paths as given, in the order of the list.
+    QStringList files() const;
+    /// Also removes rows that the window put there.
+    void clearFiles();
+
+    /// An empty subtitle leaves the one that is shown.
+    void setHeader(const QString &title, const QString &subtitle);
+    void setToolRowVisible(bool visible);
+
+    /// From showLoading() to hideLoading() the page only shows how far a search is and takes no drops.
+    /// hideLoading() leaves the button Next as it is.
+    void showLoading(const QString &text);
+    void updateLoadingProgress(int current, int total, const QString &text);
+    void hideLoading();
+
+    /// For the content of the Recycle Bin.
+    QListWidget *list() const;
+    QLabel *statsLabel() const { return m_stats; }
+    QStackedWidget *stack() const { return m_stack; }
+    QPushButton *nextButton() const { return m_next; }
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+signals:
+    void backClicked();
+    void nextClicked();
+
+public slots:
+    void onAddFilesClicked();
+    void onAddFolderClicked();
+    void onRemoveSelectedClicked();
+    void onClearAllClicked();
+    void updateStats();
+    void onSelectionChanged();
+
+private:
+    void createToolRow();
+    void createDropZone();
+    void createLayout();
+    void addPaths(const QStringList &paths);
+    bool handleDrag(QDropEvent &event);
+    void drop(QDropEvent &event);
+    void setDragOver(bool isOver);
+
+    QList<FileEntry> m_entries;
+    QSet<QString> m_paths; // of m_entries
+    bool m_isLoading = false;
+
+    QLabel *m_title;
+    QLabel *m_subtitle;
+    QWidget *m_toolRow;
+    QPushButton *m_addFiles;
+    QPushButton *m_addFolder;
+    QPushButton *m_remove;
+    QPushButton *m_clearAll;
+    QStackedWidget *m_stack;
+    QWidget *m_dropZone;
+    QPushButton *m_plus;
+    QLabel *m_hint;
+    QLabel *m_loading;
+    QProgressBar *m_progress;
+    FileListWidget *m_list;
+    QLabel *m_stats;
+    QPushButton *m_back;
+    QPushButton *m_next;
+};

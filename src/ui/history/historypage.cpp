@@ -1,0 +1,307 @@
+#include "ui/history/historypage.h"
+
+#include "certificate/certificaterenderer.h"
+#include "model/displaytext.h"
+#include "prompts/prompts.h"
+#include "services/reportdatabase.h"
+#include "ui/style/palette.h"
+
+#include <QBoxLayout>
+#include <QComboBox>
+#include <QFrame>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QTableWidget>
+
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int LoadedReports = 100;
+constexpr int RowHeight = 42;
+constexpr int StatusPixels = 12; // "Completed" in a column of 80
+constexpr int AnyStatus = -1;
+constexpr int CertificateIdRole = Qt::UserRole;
+
+QColor statusColor(WipeStatus status)
+{
+    switch (status) {
+    case WipeStatus::Completed:
+        return palette::Success;
+    case WipeStatus::Failed:
+        return palette::Error;
+    default:
+        return palette::Warning;
+    }
+}
+
+// Columns have a fixed width and translations are long: the whole text is in the tip.
+QTableWidgetItem *createItem(const QString &text)
+{
+    auto *item = new QTableWidgetItem(text);
+    item->setToolTip(text.toHtmlEscaped());
+    return item;
+}
+
+bool exportWithRenderer(const WipeReport &report, const QString &file)
+{
+    return CertificateRenderer().exportToPdf(report, file);
+}
+
+} // namespace
+
+HistoryPage::HistoryPage(QWidget *parent)
+    : QWidget(parent)
+    , m_exporter(&exportWithRenderer)
+    , m_filter(new QComboBox)
+    , m_table(new QTableWidget)
+    , m_view(new QPushButton(tr("查看证书")))
+    , m_export(new QPushButton(tr("导出PDF")))
+    , m_delete(new QPushButton(tr("删除")))
+    , m_clearAll(new QPushButton(tr("清除所有")))
+{
+    auto *title = new QLabel(tr("擦除历史记录"));
+    title->setObjectName(u"pageTitle"_s);
+    createTable();
+
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(30, 25, 30, 25);
+    layout->setSpacing(12);
+    layout->addWidget(title);
+    layout->addWidget(createFilterBar());
+    layout->addWidget(m_table, 1);
+    layout->addLayout(createButtons());
+    loadHistory();
+}
+
+QWidget *HistoryPage::createFilterBar()
+{
+    m_filter->setObjectName(u"statusFilter"_s);
+    m_filter->setFixedWidth(100);
+    m_filter->addItem(tr("全部"), AnyStatus);
+    m_filter->addItem(tr("已完成"), static_cast<int>(WipeStatus::Completed));
+    m_filter->addItem(tr("失败"), static_cast<int>(WipeStatus::Failed));
+    m_filter->addItem(tr("已取消"), static_cast<int>(WipeStatus::Cancelled));
+    connect(m_filter, &QComboBox::currentIndexChanged, this, [this] { onFilterChanged(); });
+    auto *label = new QLabel(tr("状态:"));
+    label->setBuddy(m_filter);
+
+    auto *bar = new QFrame;
+    bar->setObjectName(u"filterWidget"_s);
+    auto *layout = new QHBoxLayout(bar);
+    layout->setContentsMargins(15, 12, 15, 12);
+    layout->addWidget(label);
+    layout->addWidget(m_filter);
+    layout->addStretch();
+    return bar;
+}
+
+void HistoryPage::createTable()
+{
+    m_table->setObjectName(u"historyTable"_s);
+    m_table->setAccessibleName(tr("擦除历史记录"));
+    m_table->setColumnCount(ColumnCount);
+    m_table->setHorizontalHeaderLabels({tr("目标"), tr("擦除方法"), tr("时间"), tr("状态"), tr("操作")});
+    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_table->setSelectionMode(QAbstractItemView::SingleSelection);
+    m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    m_table->setAlternatingRowColors(true);
+    m_table->setShowGrid(false);
+    m_table->setWordWrap(false);
+    // Tab leads on to the buttons instead of through every cell.
+    m_table->setTabKeyNavigation(false);
+    m_table->verticalHeader()->hide();
+    m_table->verticalHeader()->setDefaultSectionSize(RowHeight);
+
+    QHeaderView *header = m_table->horizontalHeader();
+    header->setHighlightSections(false);
+    header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    header->setSectionResizeMode(QHeaderView::Fixed);
+    header->setSectionResizeMode(TargetColumn, QHeaderView::Stretch);
+    m_table->setColumnWidth(MethodColumn, 120);
+    m_table->setColumnWidth(TimeColumn, 150);
+    m_table->setColumnWidth(StatusColumn, 80);
+    m_table->setColumnWidth(ActionColumn, 100);
+    for (const int centred : {StatusColumn, ActionColumn})
+        m_table->horizontalHeaderItem(centred)->setTextAlignment(Qt::AlignCenter);
+    connect(m_table, &QTableWidget::itemSelectionChanged, this, &HistoryPage::onSelectionChanged);
+}
+
+QBoxLayout *HistoryPage::createButtons()
+{
+    m_view->setObjectName(u"primaryBtn"_s);
+    m_export->setObjectName(u"exportBtn"_s);
+    m_delete->setObjectName(u"deleteBtn"_s);
+    m_clearAll->setObjectName(u"dangerBtn"_s);
+    connect(m_view, &QPushButton::clicked, this, &HistoryPage::onViewClicked);
+    connect(m_export, &QPushButton::clicked, this, &HistoryPage::onExportClicked);
+    connect(m_delete, &QPushButton::clicked, this, &HistoryPage::onDeleteClicked);
+    connect(m_clearAll, &QPushButton::clicked, this, &HistoryPage::onClearAllClicked);
+
+    auto *buttons = new QHBoxLayout;
+    buttons->setContentsMargins(0, 5, 0, 0);
+    buttons->addWidget(m_view);
+    buttons->addWidget(m_export);
+    buttons->addWidget(m_delete);
+    buttons->addStretch();
+    buttons->addWidget(m_clearAll);
+    return buttons;
+}
+
+void HistoryPage::loadHistory()
+{
+    m_reports = ReportDatabase::instance().getReports(LoadedReports, 0);
+    fillTable(m_reports);
+}
+
+void HistoryPage::fillTable(const QList<WipeReport> &shown)
+{
+    m_table->setUpdatesEnabled(false);
+    m_table->setRowCount(0);
+    for (const WipeReport &report : shown)
+        addRow(report);
+    m_table->setUpdatesEnabled(true);
+    onSelectionChanged();
+}
+
+void HistoryPage::addRow(const WipeReport &report)
+{
+    const int row = m_table->rowCount();
+    m_table->insertRow(row);
+
+    QTableWidgetItem *target = createItem(targetText(report));
+    target->setData(CertificateIdRole, report.certificateId);
+    m_table->setItem(row, TargetColumn, target);
+    m_table->setItem(row, MethodColumn, createItem(displayText(report.method.name)));
+    m_table->setItem(row, TimeColumn, createItem(report.startTime.toString(u"MM-dd HH:mm"_s)));
+    QTableWidgetItem *status = createItem(report.statusName());
+    status->setTextAlignment(Qt::AlignCenter);
+    status->setForeground(statusColor(report.status));
+    QFont font = m_table->font();
+    font.setPixelSize(StatusPixels);
+    status->setFont(font);
+    m_table->setItem(row, StatusColumn, status);
+
+    auto *view = new QPushButton(tr("查看"));
+    view->setObjectName(u"tableViewBtn"_s);
+    view->setCursor(Qt::PointingHandCursor);
+    // The keyboard has the button below the table: a hundred stops more would make Tab useless.
+    view->setFocusPolicy(Qt::NoFocus);
+    view->setAccessibleDescription(report.certificateId);
+    connect(view, &QPushButton::clicked, this,
+            [this, id = report.certificateId] { emit viewCertificate(id); });
+    m_table->setCellWidget(row, ActionColumn, view);
+}
+
+QString HistoryPage::targetText(const WipeReport &report) const
+{
+    switch (report.operationType) {
+    case DiskWipe:
+        return tr("[磁盘] ") + report.disk.displayName();
+    case PartitionWipe:
+        return tr("[分区] ") + report.disk.displayName();
+    case FreeSpaceWipe:
+        return tr("[空闲] ") + report.disk.displayName();
+    case FileWipe:
+        return tr("[文件] ") + tr("%1 个文件").arg(report.fileCount);
+    }
+    // A number that another version, or nobody, wrote.
+    return report.disk.displayName();
+}
+
+std::optional<QString> HistoryPage::currentCertificateId() const
+{
+    const int row = m_table->currentRow();
+    const QTableWidgetItem *item = row < 0 ? nullptr : m_table->item(row, TargetColumn);
+    if (!item)
+        return std::nullopt;
+    return item->data(CertificateIdRole).toString();
+}
+
+void HistoryPage::makeCurrent(const QString &certificateId)
+{
+    for (int row = 0; row < m_table->rowCount(); ++row) {
+        if (m_table->item(row, TargetColumn)->data(CertificateIdRole).toString() == certificateId) {
+            m_table->setCurrentCell(row, TargetColumn);
+            return;
+        }
+    }
+}
+
+void HistoryPage::onFilterChanged()
+{
+    const int status = m_filter->currentData().toInt();
+    QList<WipeReport> shown;
+    for (const WipeReport &report : std::as_const(m_reports)) {
+        if (status < 0 || static_cast<int>(report.status) == status)
+            shown.append(report);
+    }
+    fillTable(shown);
+}
+
+void HistoryPage::onSearch()
+{
+    const std::optional<QString> certificateId = currentCertificateId();
+    onFilterChanged();
+    if (certificateId)
+        makeCurrent(*certificateId);
+}
+
+void HistoryPage::onSelectionChanged()
+{
+    const bool hasRow = m_table->selectionModel()->hasSelection();
+    m_view->setEnabled(hasRow);
+    m_export->setEnabled(hasRow);
+    m_delete->setEnabled(hasRow);
+}
+
+void HistoryPage::onViewClicked()
+{
+    if (const std::optional<QString> certificateId = currentCertificateId())
+        emit viewCertificate(*certificateId);
+}
+
+void HistoryPage::onExportClicked()
+{
+    const std::optional<QString> certificateId = currentCertificateId();
+    if (!certificateId)
+        return;
+    const WipeReport report = ReportDatabase::instance().getReport(*certificateId);
+    const QString file = Prompts::current().fileToSave(this, tr("导出证书"), u"%1.pdf"_s.arg(*certificateId),
+                                                       tr("PDF文件 (*.pdf)"));
+    if (file.isEmpty())
+        return;
+    if (m_exporter(report, file))
+        Prompts::current().information(this, tr("导出成功"), tr("证书已导出到: %1").arg(file));
+    else
+        Prompts::current().warning(this, tr("导出失败"), tr("无法导出证书文件"));
+}
+
+void HistoryPage::onDeleteClicked()
+{
+    const std::optional<QString> certificateId = currentCertificateId();
+    if (!certificateId || !Prompts::current().confirms(this, QMessageBox::Question, tr("确认删除"),
+                                                       tr("确定要删除此擦除记录吗？"), QMessageBox::No))
+        return;
+    ReportDatabase::instance().deleteReport(*certificateId);
+    loadHistory();
+}
+
+void HistoryPage::onClearAllClicked()
+{
+    if (m_reports.isEmpty()) {
+        Prompts::current().information(this, tr("提示"), tr("没有可清除的记录"));
+        return;
+    }
+    if (!Prompts::current().confirms(this, QMessageBox::Warning, tr("确认清除"),
+                                     tr("确定要清除所有擦除记录吗？\n\n此操作不可恢复！"), QMessageBox::No))
+        return;
+    // Those that the page knows; older ones stay in the file.
+    for (const WipeReport &report : std::as_const(m_reports))
+        ReportDatabase::instance().deleteReport(report.certificateId);
+    loadHistory();
+    Prompts::current().information(this, tr("清除完成"), tr("所有记录已清除"));
+}

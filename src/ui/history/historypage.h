@@ -1,0 +1,68 @@
+#pragma once
+
+#include "model/wipereport.h"
+
+#include <QList>
+#include <QWidget>
+
+#include <functional>
+#include <optional>
+
+QT_FORWARD_DECLARE_CLASS(QBoxLayout)
+QT_FORWARD_DECLARE_CLASS(QComboBox)
+QT_FORWARD_DECLARE_CLASS(QPushButton)
+QT_FORWARD_DECLARE_CLASS(QTableWidget)
+
+/// Lists the latest stored reports and lets the user view, export and delete them. Reads ReportDatabase,
+/// which must be open already. Interface thread.
+class HistoryPage : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// Writes the report's certificate into the file; false when it could not.
+    using Exporter = std::function<bool(const WipeReport &report, const QString &file)>;
+
+    explicit HistoryPage(QWidget *parent = nullptr);
+
+    /// Reads the stored reports and shows them all, whatever the filter says.
+    void loadHistory();
+
+    /// CertificateRenderer unless another one is set.
+    void setExporter(Exporter exporter) { m_exporter = std::move(exporter); }
+
+signals:
+    void viewCertificate(const QString &certificateId);
+
+public slots:
+    void onFilterChanged();
+    void onViewClicked();
+    void onExportClicked();
+    void onDeleteClicked();
+    void onClearAllClicked();
+    void onSelectionChanged();
+    /// Applies the filter again and stays on the current report as long as it is listed.
+    void onSearch();
+
+private:
+    enum Column { TargetColumn, MethodColumn, TimeColumn, StatusColumn, ActionColumn, ColumnCount };
+
+    QWidget *createFilterBar();
+    void createTable();
+    QBoxLayout *createButtons();
+    void fillTable(const QList<WipeReport> &shown);
+    void addRow(const WipeReport &report);
+    QString targetText(const WipeReport &report) const;
+    // Of the current row, if there is one.
+    std::optional<QString> currentCertificateId() const;
+    void makeCurrent(const QString &certificateId);
+
+    Exporter m_exporter;
+    QList<WipeReport> m_reports;
+    QComboBox *m_filter;
+    QTableWidget *m_table;
+    QPushButton *m_view;
+    QPushButton *m_export;
+    QPushButton *m_delete;
+    QPushButton *m_clearAll;
+};

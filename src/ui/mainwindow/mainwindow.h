@@ -1,0 +1,129 @@
+#pragma once
+
+#include "model/wipereport.h"
+#include "services/recyclebininfo.h"
+
+#include <QFutureWatcher>
+#include <QList>
+#include <QMainWindow>
+#include <QPoint>
+#include <QStringList>
+
+QT_FORWARD_DECLARE_CLASS(QListWidget)
+QT_FORWARD_DECLARE_CLASS(QStackedWidget)
+QT_FORWARD_DECLARE_CLASS(QVBoxLayout)
+class DiskSelectPage;
+class FileSelectPage;
+class HistoryPage;
+class HomePage;
+class MethodSelectPage;
+class ProgressPage;
+class SettingsPage;
+class Sidebar;
+class TitleBar;
+class WipeEngine;
+class WipeTask;
+
+/// The program's one window: sidebar, title bar and the stack of pages. Turns the user's way through the
+/// pages into a task, has the engine carry it out, and keeps report and certificate when it ends. Opens the
+/// report database. Interface thread.
+class MainWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    /// Indexes in the stack of pages.
+    enum Page { Home = 0, DiskSelect, FileSelect, MethodSelect, Progress, History, Settings };
+
+    explicit MainWindow(QWidget *parent = nullptr);
+    ~MainWindow() override;
+
+    int currentPage() const { return m_currentPage; }
+
+public slots:
+    void onMenuItemClicked(int index);
+    void onNavigateToPage(int pageIndex);
+
+    void onDiskWipeClicked();
+    void onFreeSpaceWipeClicked();
+    void onFileWipeClicked();
+    void onRecycleBinWipeClicked();
+    void onBackClicked();
+    void onNextClicked();
+
+    void onStartWipe();
+    void onStopClicked();
+    void onWipeCompleted(bool success);
+    void onViewCertificate(const QString &certificateId);
+
+    void onMinimizeClicked();
+    void onMaximizeClicked();
+    void onCloseClicked();
+    void onAboutClicked();
+    void onHelpClicked();
+    void onSupportClicked();
+    void onLanguageChanged(const QString &langCode);
+
+    void onRecycleBinScanFinished();
+    void onRecycleBinListScrolled();
+    void loadMoreRecycleBinItems();
+
+protected:
+    bool event(QEvent *event) override;
+    void closeEvent(QCloseEvent *event) override;
+    void changeEvent(QEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+
+private:
+    void createLayout();
+    void createPages();
+    void connectPages();
+    void connectEngine();
+    void connectTitleBar();
+    void applyStyleSheet();
+
+    void showPage(int index);
+    void showHome();
+    WipeTask &newTask(OperationType type);
+    void takeDiskSelection();
+    void setMenuEnabled(bool enabled);
+
+    void keepReport(const WipeReport &report);
+    void exportCertificate(const WipeReport &report) const;
+    void leaveCompletedJob(bool success);
+
+    void startRecycleBinScan();
+    void offerFreeSpaceWipeOfEmptyBin();
+    void takeRecycleBin(const RecycleBinInfo &found);
+    void dropRecycleBin();
+
+    QFutureWatcher<RecycleBinInfo> *m_recycleBinWatcher = nullptr; ///< made by the first scan
+    bool m_isRecycleBinMode = false;
+    QList<RecycleBinItem> m_recycleBinItems;
+    QStringList m_recycleBinPaths;
+    quint64 m_recycleBinSize = 0; ///< bytes
+    int m_recycleBinCount = 0;
+    QStringList m_recycleBinTaskPaths; ///< those handed to the task
+    int m_loadedRecycleBinCount = 0;   ///< items that are shown already
+
+    Sidebar *m_sidebar = nullptr;
+    QListWidget *m_menu = nullptr;
+    QStackedWidget *m_pages = nullptr;
+    TitleBar *m_titleBar = nullptr;
+    HomePage *m_homePage = nullptr;
+    DiskSelectPage *m_diskPage = nullptr;
+    FileSelectPage *m_filePage = nullptr;
+    MethodSelectPage *m_methodPage = nullptr;
+    ProgressPage *m_progressPage = nullptr;
+    HistoryPage *m_historyPage = nullptr;
+    SettingsPage *m_settingsPage = nullptr;
+    WipeTask *m_currentTask = nullptr; ///< child of this window
+    WipeEngine *m_engine = nullptr;
+    int m_currentPage = Home;
+
+    QVBoxLayout *m_outerLayout = nullptr;
+    bool m_dragging = false;
+    QPoint m_dragPosition; ///< of the cursor, from the window's top left corner
+};

@@ -1,0 +1,93 @@
+// The end of a job: report, certificate, and what comes after.
+#include "ui/mainwindow/mainwindow.h"
+
+#include "certificate/certificatedialog.h"
+#include "certificate/certificaterenderer.h"
+#include "engine/wipeengine.h"
+#include "model/usersettings.h"
+#include "prompts/prompts.h"
+#include "services/reportdatabase.h"
+#include "ui/dialogs/completedialog.h"
+#include "ui/history/historypage.h"
+
+#include <QDebug>
+#include <QDir>
+#include <QSettings>
+
+using namespace Qt::StringLiterals;
+
+void MainWindow::onWipeCompleted(bool success)
+{
+    setMenuEnabled(true);
+    if (!m_currentTask) {
+        qWarning() << "m_currentTask is null";
+        showHome();
+        return;
+    }
+    const WipeReport report = m_engine->report();
+    const bool keepsReport =
+        usersettings::readBool(*usersettings::open(), usersettings::GenerateReport, true);
+    if (keepsReport)
+        keepReport(report);
+    else
+        qDebug() << "[Certificate] Skipped saving to database (disabled in settings)";
+    if (success && keepsReport)
+        exportCertificate(report);
+
+    CompleteDialog dialog(success, keepsReport ? report.certificateId : QString(), this);
+    if (keepsReport) {
+        connect(&dialog, &CompleteDialog::viewCertificateClicked, this,
+                [this, id = report.certificateId] { onViewCertificate(id); });
+    }
+    dialog.exec();
+    leaveCompletedJob(success);
+}
+
+void MainWindow::keepReport(const WipeReport &report)
+{
+    if (ReportDatabase::instance().saveReport(report)) {
+        m_historyPage->loadHistory();
+        qDebug() << "[Certificate] Report saved to database:" << report.certificateId;
+        return;
+    }
+    qWarning() << "[Certificate] Report not saved to database:" << ReportDatabase::instance().lastError();
+    // Whoever needs the record must know that there is none.
+    Prompts::current().warning(this, tr("Report Not Saved"),
+                               tr("The erasure report could not be stored in the database.\n%1")
+                                   .arg(ReportDatabase::instance().lastError()));
+}
+
+void MainWindow::exportCertificate(const WipeReport &report) const
+{
+    const auto store = usersettings::open();
+    const QString folder = usersettings::readString(*store, usersettings::ExportPath);
+    if (!usersettings::readBool(*store, usersettings::AutoExport, false) || folder.isEmpty() ||
+        !QDir(folder).exists())
+        return;
+    const QString file = folder + u'/' + report.certificateId + u".pdf"_s;
+    if (CertificateRenderer().exportToPdf(report, file))
+        qDebug() << "[AutoExport] Certificate exported to:" << file;
+    else
+        qWarning() << "[AutoExport] Failed to export certificate to:" << file;
+}
+
+void MainWindow::leaveCompletedJob(bool success)
+{
+    const bool offersFreeSpace = m_isRecycleBinMode && success;
+    m_isRecycleBinMode = false;
+    if (offersFreeSpace &&
+        Prompts::current().confirms(this, QMessageBox::Question, tr("Wipe Free Space?"),
+                                    tr("Recycle Bin files have been securely wiped!\n\n"
+                                       "Would you also like to wipe free space to ensure previously\n"
+                                       "emptied files cannot be recovered?\n\n"
+                                       "This may take longer depending on available free space."))) {
+        onFreeSpaceWipeClicked();
+        return;
+    }
+    showHome();
+}
+
+void MainWindow::onViewCertificate(const QString &certificateId)
+{
+    CertificateDialog(ReportDatabase::instance().getReport(certificateId), this).exec();
+}

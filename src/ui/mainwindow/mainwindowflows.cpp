@@ -1,0 +1,137 @@
+// From the home page to the start of a job.
+#include "ui/mainwindow/mainwindow.h"
+
+#include "engine/wipeengine.h"
+#include "model/wipetask.h"
+#include "prompts/prompts.h"
+#include "ui/dialogs/confirmdialog.h"
+#include "ui/disks/diskselectpage.h"
+#include "ui/files/fileselectpage.h"
+#include "ui/methods/methodselectpage.h"
+#include "ui/progress/progresspage.h"
+
+// The task before is deleted here, not when its job ends: the engine has its report until then.
+WipeTask &MainWindow::newTask(OperationType type)
+{
+    m_engine->deleteTask(m_currentTask);
+    m_currentTask = new WipeTask(this);
+    m_currentTask->setOperationType(type);
+    return *m_currentTask;
+}
+
+void MainWindow::onDiskWipeClicked()
+{
+    newTask(DiskWipe);
+    m_diskPage->setMode(DiskSelectPage::WipeDisk);
+    m_diskPage->refresh();
+    showPage(DiskSelect);
+}
+
+void MainWindow::onFreeSpaceWipeClicked()
+{
+    newTask(FreeSpaceWipe);
+    m_diskPage->setMode(DiskSelectPage::WipeFreeSpace);
+    m_diskPage->refresh();
+    showPage(DiskSelect);
+}
+
+void MainWindow::onFileWipeClicked()
+{
+    newTask(FileWipe);
+    m_filePage->clearFiles();
+    showPage(FileSelect);
+}
+
+void MainWindow::onBackClicked()
+{
+    switch (m_currentPage) {
+    case FileSelect:
+        if (m_isRecycleBinMode)
+            dropRecycleBin();
+        [[fallthrough]];
+    case DiskSelect:
+        m_isRecycleBinMode = false;
+        showHome();
+        break;
+    case MethodSelect:
+        showPage(m_currentTask && m_currentTask->operationType() == FileWipe ? FileSelect : DiskSelect);
+        break;
+    case Progress:
+        break;
+    default:
+        showHome();
+        break;
+    }
+}
+
+void MainWindow::onNextClicked()
+{
+    switch (m_currentPage) {
+    case DiskSelect:
+        takeDiskSelection();
+        showPage(MethodSelect);
+        break;
+    case FileSelect:
+        // The content of the bin was handed over when the scan ended.
+        if (m_currentTask && !m_isRecycleBinMode) {
+            m_currentTask->setFiles(m_filePage->files());
+            m_currentTask->setOperationType(FileWipe);
+        }
+        showPage(MethodSelect);
+        break;
+    case MethodSelect:
+        onStartWipe();
+        break;
+    default:
+        break;
+    }
+}
+
+void MainWindow::takeDiskSelection()
+{
+    if (!m_currentTask)
+        return;
+    const bool isWholeDisk = m_diskPage->selectionType() == DiskSelectPage::DiskSelected;
+    m_currentTask->setDisk(m_diskPage->selectedDisk());
+    // What an earlier choice left must not stay.
+    m_currentTask->setPartition(isWholeDisk ? PartitionInfo() : m_diskPage->selectedPartition());
+    // The flow that began decides; a choice on the page only changes what is wiped within it.
+    if (m_currentTask->operationType() != FreeSpaceWipe)
+        m_currentTask->setOperationType(isWholeDisk ? DiskWipe : PartitionWipe);
+}
+
+void MainWindow::onStartWipe()
+{
+    if (!m_currentTask)
+        return;
+    const WipeMethod method = m_methodPage->selectedMethod();
+    m_currentTask->setMethod(method);
+    ConfirmDialog confirmation(this);
+    if (confirmation.exec() != QDialog::Accepted)
+        return;
+
+    m_engine->setTask(m_currentTask);
+    m_progressPage->reset();
+    m_progressPage->setMethod(method.name);
+    m_progressPage->setTotalPasses(method.passCount());
+    setMenuEnabled(false);
+    showPage(Progress);
+    m_engine->start();
+}
+
+void MainWindow::onStopClicked()
+{
+    const auto answer = Prompts::current().show(this, {QMessageBox::Warning,
+                                                       tr("Confirm Stop"),
+                                                       tr("Are you sure you want to stop the wipe task?\n"
+                                                          "This operation cannot be undone."),
+                                                       QMessageBox::Ok | QMessageBox::Cancel,
+                                                       QMessageBox::Cancel,
+                                                       {},
+                                                       Qt::PlainText});
+    if (answer != QMessageBox::Ok)
+        return;
+    m_engine->stop();
+    setMenuEnabled(true);
+    showHome();
+}

@@ -1,0 +1,168 @@
+// The Recycle Bin: scanned in the background, shown in pieces, then a file wipe like any other.
+#include "ui/mainwindow/mainwindow.h"
+
+#include "model/formatsize.h"
+#include "model/wipetask.h"
+#include "prompts/prompts.h"
+#include "services/recyclebinscanner.h"
+#include "ui/files/fileselectpage.h"
+
+#include <QDebug>
+#include <QFileInfo>
+#include <QLabel>
+#include <QListWidget>
+#include <QPointer>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QStackedWidget>
+#include <QtConcurrentRun>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int PageSize = 20;
+
+QString textOf(const RecycleBinItem &item)
+{
+    const QString mark = item.isDirectory ? u"📁"_s : u"📄"_s;
+    const QString name = item.fileName.isEmpty() ? QFileInfo(item.recyclePath).fileName() : item.fileName;
+    return u"%1  %2  (%3)"_s.arg(mark, name, formatSize(static_cast<qint64>(item.size)));
+}
+
+QStringList existing(QStringList paths)
+{
+    // A link counts, wherever it leads: it is erased itself.
+    paths.removeIf([](const QString &path) {
+        const QFileInfo info(path);
+        return !info.exists() && !info.isSymLink();
+    });
+    return paths;
+}
+
+} // namespace
+
+void MainWindow::onRecycleBinWipeClicked()
+{
+    m_isRecycleBinMode = true;
+    m_filePage->clearFiles();
+    m_filePage->setHeader(tr("Recycle Bin Wipe"), tr("Scanning deleted files in Recycle Bin..."));
+    m_filePage->showLoading(tr("Scanning Recycle Bin..."));
+    showPage(FileSelect);
+    if (!m_recycleBinWatcher) {
+        m_recycleBinWatcher = new QFutureWatcher<RecycleBinInfo>(this);
+        connect(m_recycleBinWatcher, &QFutureWatcher<RecycleBinInfo>::finished, this,
+                &MainWindow::onRecycleBinScanFinished);
+    }
+    startRecycleBinScan();
+}
+
+void MainWindow::startRecycleBinScan()
+{
+    const auto forward = [window = QPointer<MainWindow>(this)](const QString &drive, int index, int count) {
+        // The application outlives the scan; whether the window still does is asked on its own thread.
+        QMetaObject::invokeMethod(
+            qApp,
+            [window, drive, index, count] {
+                if (!window || !window->m_filePage)
+                    return;
+                window->m_filePage->updateLoadingProgress(
+                    index + 1, count,
+                    tr("Scanning Recycle Bin on drive %1 (%2/%3)...").arg(drive).arg(index + 1).arg(count));
+            },
+            Qt::QueuedConnection);
+    };
+    m_recycleBinWatcher->setFuture(QtConcurrent::run([forward] {
+        RecycleBinScanner scanner;
+        return scanner.scan(forward);
+    }));
+}
+
+void MainWindow::onRecycleBinScanFinished()
+{
+    m_filePage->hideLoading();
+    // The user left meanwhile.
+    if (m_currentPage != FileSelect || !m_isRecycleBinMode)
+        return;
+    const RecycleBinInfo found = m_recycleBinWatcher->result();
+    if (found.fileCount < 1)
+        offerFreeSpaceWipeOfEmptyBin();
+    else
+        takeRecycleBin(found);
+}
+
+void MainWindow::offerFreeSpaceWipeOfEmptyBin()
+{
+    m_isRecycleBinMode = false;
+    showHome();
+    if (Prompts::current().confirms(
+            this, QMessageBox::Question, tr("Recycle Bin is Empty"),
+            tr("The Recycle Bin is already empty.\n\n"
+               "However, previously deleted files may still be recoverable.\n"
+               "Would you like to wipe free space to ensure they cannot be recovered?")))
+        onFreeSpaceWipeClicked();
+}
+
+void MainWindow::takeRecycleBin(const RecycleBinInfo &found)
+{
+    m_filePage->setHeader(tr("Recycle Bin Wipe"),
+                          tr("The following deleted files were found in the Recycle Bin"));
+    m_recycleBinTaskPaths = existing(found.filePaths);
+    newTask(FileWipe).setFiles(m_recycleBinTaskPaths);
+    m_recycleBinItems = found.items;
+    m_recycleBinPaths = found.filePaths;
+    m_recycleBinSize = found.totalSize;
+    m_recycleBinCount = found.fileCount;
+    m_loadedRecycleBinCount = 0;
+
+    m_filePage->statsLabel()->setText(tr("Found %1 items, total %2")
+                                          .arg(m_recycleBinCount)
+                                          .arg(formatSize(static_cast<qint64>(m_recycleBinSize))));
+    m_filePage->setToolRowVisible(false);
+    m_filePage->nextButton()->setEnabled(true);
+    m_filePage->stack()->setCurrentIndex(FileSelectPage::ListView);
+    QScrollBar *bar = m_filePage->list()->verticalScrollBar();
+    disconnect(bar, &QScrollBar::valueChanged, this, &MainWindow::onRecycleBinListScrolled);
+    connect(bar, &QScrollBar::valueChanged, this, &MainWindow::onRecycleBinListScrolled);
+    loadMoreRecycleBinItems();
+}
+
+void MainWindow::loadMoreRecycleBinItems()
+{
+    const int count = static_cast<int>(m_recycleBinItems.size());
+    const int end = std::min(m_loadedRecycleBinCount + PageSize, count);
+    for (int i = m_loadedRecycleBinCount; i < end; ++i) {
+        const RecycleBinItem &item = m_recycleBinItems.at(i);
+        auto *row = new QListWidgetItem(textOf(item), m_filePage->list());
+        row->setToolTip(item.originalPath.toHtmlEscaped());
+        row->setData(Qt::UserRole, item.recyclePath);
+    }
+    m_loadedRecycleBinCount = end;
+    qDebug() << "Loaded" << m_loadedRecycleBinCount << "/" << count << "recycle bin items";
+}
+
+void MainWindow::onRecycleBinListScrolled()
+{
+    if (!m_isRecycleBinMode || m_loadedRecycleBinCount >= m_recycleBinItems.size())
+        return;
+    const QScrollBar *bar = m_filePage->list()->verticalScrollBar();
+    if (bar->value() >= 0.8 * bar->maximum())
+        loadMoreRecycleBinItems();
+}
+
+void MainWindow::dropRecycleBin()
+{
+    disconnect(m_filePage->list()->verticalScrollBar(), &QScrollBar::valueChanged, this,
+               &MainWindow::onRecycleBinListScrolled);
+    m_recycleBinItems.clear();
+    m_recycleBinPaths.clear();
+    m_recycleBinTaskPaths.clear();
+    m_recycleBinSize = 0;
+    m_recycleBinCount = 0;
+    m_loadedRecycleBinCount = 0;
+    m_filePage->setToolRowVisible(true);
+    m_filePage->hideLoading();
+    m_filePage->setHeader(tr("Select Files to Shred"), tr("Click buttons to add files and folders"));
+}

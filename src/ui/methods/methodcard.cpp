@@ -1,0 +1,161 @@
+#include "ui/methods/methodcard.h"
+
+#include "ui/home/cardpainting.h"
+
+#include <QFocusEvent>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QRadioButton>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int CardHeight = 80;
+
+QString badgeColour(int level)
+{
+    switch (level) {
+    case 1:
+        return u"#22c55e"_s;
+    case 2:
+        return u"#84cc16"_s;
+    case 3:
+        return u"#eab308"_s;
+    case 4:
+        return u"#f97316"_s;
+    case 5:
+        return u"#ef4444"_s;
+    default:
+        return u"#6b7280"_s;
+    }
+}
+
+QLabel *makeLabel(const QString &text, const QString &name)
+{
+    auto *const label = new QLabel(text);
+    label->setObjectName(name);
+    label->setTextFormat(Qt::PlainText);
+    return label;
+}
+
+cards::Face face(bool isChecked, bool isHovered)
+{
+    if (isChecked)
+        return {QColor(0xf0, 0xf7, 0xff), QColor(0x3b, 0x82, 0xf6), 2};
+    if (isHovered)
+        return {QColor(0xfa, 0xfb, 0xfc), QColor(0x94, 0xa3, 0xb8), 1};
+    return {QColor(0xff, 0xff, 0xff), QColor(0xd1, 0xd5, 0xdb), 1};
+}
+
+} // namespace
+
+MethodCard::MethodCard(const WipeMethod &method, QWidget *parent)
+    : QWidget(parent)
+    , m_method(method)
+{
+    setFixedHeight(CardHeight);
+    setCursor(Qt::PointingHandCursor);
+    const QString passes = tr("%1 次覆写").arg(m_method.passCount());
+    createRadio(passes);
+
+    auto *const row = new QHBoxLayout(this);
+    row->setContentsMargins(20, 12, 20, 12);
+    row->setSpacing(14);
+    row->addWidget(m_radio);
+    row->addLayout(makeTexts(passes), 1);
+    row->addWidget(makeBadge());
+}
+
+void MethodCard::createRadio(const QString &passes)
+{
+    m_radio = new QRadioButton;
+    m_radio->setObjectName(u"methodRadio"_s);
+    m_radio->setAccessibleName(m_method.name);
+    m_radio->setAccessibleDescription(
+        u"%1, %2, %3"_s.arg(passes, m_method.levelName(), m_method.description));
+    // The card shows the focus.
+    m_radio->setStyleSheet(u"QRadioButton:focus { outline: none; }"_s);
+    m_radio->installEventFilter(this);
+}
+
+QLayout *MethodCard::makeTexts(const QString &passes) const
+{
+    auto *const heading = new QHBoxLayout;
+    heading->setSpacing(10);
+    heading->addWidget(makeLabel(m_method.name, u"methodName"_s));
+    heading->addWidget(makeLabel(passes, u"methodPass"_s));
+    heading->addStretch();
+
+    QLabel *const description = makeLabel(m_method.description, u"methodDesc"_s);
+    description->setWordWrap(true);
+    auto *const column = new QVBoxLayout;
+    column->setSpacing(2);
+    column->addLayout(heading);
+    column->addWidget(description);
+    return column;
+}
+
+QLabel *MethodCard::makeBadge() const
+{
+    QLabel *const badge = makeLabel(m_method.levelName(), u"methodLevel"_s);
+    badge->setAccessibleName(tr("安全级别: %1").arg(m_method.levelName()));
+    badge->setAlignment(Qt::AlignCenter);
+    badge->setFixedHeight(26);
+    badge->setStyleSheet(u"background-color: %1;color: white;border-radius: 13px;font-weight: bold;"
+                         "font-size: 12px;padding: 0 12px;"_s.arg(badgeColour(m_method.level)));
+    return badge;
+}
+
+void MethodCard::enterEvent(QEnterEvent *event)
+{
+    m_hovered = true;
+    update();
+    QWidget::enterEvent(event);
+}
+
+void MethodCard::leaveEvent(QEvent *event)
+{
+    m_hovered = false;
+    update();
+    QWidget::leaveEvent(event);
+}
+
+void MethodCard::mousePressEvent(QMouseEvent *event)
+{
+    m_radio->setChecked(true);
+    m_radio->setFocus(Qt::MouseFocusReason);
+    update();
+    event->accept();
+    emit clicked();
+}
+
+void MethodCard::paintEvent(QPaintEvent *event)
+{
+    {
+        QPainter painter(this);
+        cards::paintFace(painter, rect(), face(m_radio->isChecked(), m_hovered));
+        if (m_radio->hasFocus() && m_focusFrame)
+            cards::paintFocusFrame(painter, rect(), QColor(0x1d, 0x4e, 0xd8));
+    }
+    QWidget::paintEvent(event);
+}
+
+bool MethodCard::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::FocusIn)
+        m_focusFrame = cards::showsFocusFrame(static_cast<QFocusEvent *>(event)->reason(), m_focusFrame);
+    if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut)
+        update();
+    if (event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent *>(event)->key();
+        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+            m_radio->click();
+            return true;
+        }
+    }
+    return QWidget::eventFilter(watched, event);
+}

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "model/wipemethod.h"
+
+#include <QList>
+#include <QWidget>
+
+QT_FORWARD_DECLARE_CLASS(QButtonGroup)
+QT_FORWARD_DECLARE_CLASS(QScrollArea)
+class MethodCard;
+
+/// Every erasure standard of the catalogue as a card, one of which is always chosen, and the way on to the
+/// start of the job. Keeps the choice as long as it lives.
+class MethodSelectPage : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit MethodSelectPage(QWidget *parent = nullptr);
+
+    WipeMethod selectedMethod() const;
+
+signals:
+    void backClicked();
+    void startClicked();
+
+private:
+    void addHeader();
+    void addCards();
+    void addNavigation();
+    void onMethodChosen(int index);
+
+    QList<WipeMethod> m_methods = WipeMethod::allMethods();
+    QList<MethodCard *> m_cards;
+    QButtonGroup *m_group = nullptr;
+    QScrollArea *m_scroll = nullptr;
+    int m_selectedIndex = 0;
+};

@@ -1,0 +1,98 @@
+#include "ui/startup/startup.h"
+
+#include "model/usersettings.h"
+#include "prompts/prompts.h"
+#include "services/applog.h"
+#include "services/linkmanager.h"
+#include "ui/mainwindow/mainwindow.h"
+#include "ui/startup/language.h"
+#include "ui/style/uiresources.h"
+
+#include <QApplication>
+#include <QDebug>
+#include <QDesktopServices>
+#include <QDir>
+#include <QFont>
+#include <QIcon>
+#include <QLocale>
+#include <QSettings>
+#include <QStandardPaths>
+#include <QUrl>
+
+#include <memory>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+void nameApplication()
+{
+    QApplication::setApplicationName(u"Quorvex"_s);
+    QApplication::setApplicationVersion(u"5.0"_s);
+    QApplication::setOrganizationName(u"Veltrano"_s);
+    QApplication::setOrganizationDomain(QStringLiteral(QUORVEX_WEB_DOMAIN));
+}
+
+void openLog()
+{
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+    // Without the folder the log does without its file.
+    QDir().mkpath(folder);
+    AppLog &log = AppLog::instance();
+    log.setLogFile(folder + u"/quorvex.log"_s);
+    log.info(u"Application started"_s);
+    log.info(u"Version: %1"_s.arg(QApplication::applicationVersion()));
+}
+
+// The code of the language that was chosen, whether there is a catalogue for it or not.
+QString initTranslation()
+{
+    qDebug() << "========== Translation Init ==========";
+    const std::unique_ptr<QSettings> settings = usersettings::open();
+    qDebug() << "[Main] Settings path:" << settings->fileName();
+    const QString code =
+        chooseLanguage(usersettings::readString(*settings, usersettings::Language), QLocale::system().name());
+    installLanguage(code);
+    qDebug() << "=======================================";
+    return code;
+}
+
+void prepareLinks(const QString &language)
+{
+    LinkManager &links = LinkManager::instance();
+    links.setBrowser([](const QUrl &address) { return QDesktopServices::openUrl(address); });
+    links.setWarningBox([](QWidget *parent, const QString &title, const QString &text) {
+        Prompts::current().warning(parent, title, text);
+    });
+    links.setLanguage(language);
+}
+
+void setFont()
+{
+    QFont font(u"Segoe UI"_s, 10, QFont::Normal, false);
+    font.setStyleStrategy(QFont::PreferAntialias);
+    QApplication::setFont(font);
+}
+
+} // namespace
+
+int runDesktopProgram(int &argc, char **argv)
+{
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+    QApplication application(argc, argv);
+    nameApplication();
+    openLog();
+    const QString language = initTranslation();
+    prepareLinks(language);
+    setFont();
+    addUiResources();
+    QApplication::setWindowIcon(QIcon(u":/icons/icon.ico"_s));
+
+    auto window = std::make_unique<MainWindow>();
+    window->show();
+    AppLog::instance().info(u"Main window displayed"_s);
+    const int code = QApplication::exec();
+    window.reset();
+    AppLog::instance().info(u"Application exiting"_s);
+    return code;
+}

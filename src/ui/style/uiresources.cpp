@@ -1,0 +1,8 @@
+#include "ui/style/uiresources.h"
+
+#include <QtGlobal>
+
+void addUiResources()
+{
+    Q_INIT_RESOURCE(ui);
+}

@@ -1,0 +1,186 @@
+#include "ui/titlebar/titlebar.h"
+
+#include "model/usersettings.h"
+#include "prompts/prompts.h"
+#include "services/linkmanager.h"
+#include "ui/titlebar/programrestart.h"
+#include "ui/titlebar/winbutton.h"
+
+#include <QActionGroup>
+#include <QDebug>
+#include <QHBoxLayout>
+#include <QIcon>
+#include <QLabel>
+#include <QMenu>
+#include <QSettings>
+
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int BarHeight = 40;
+constexpr QSize LogoSize(24, 24);
+
+struct Language
+{
+    QLatin1StringView code;
+    QStringView label;
+};
+
+// The names are those that speakers look for, in every language of the program.
+constexpr std::array<Language, 9> languages{{
+    {"en"_L1, u"🇺🇸  English"},
+    {"fr"_L1, u"🇫🇷  Français"},
+    {"de"_L1, u"🇩🇪  Deutsch"},
+    {"ja"_L1, u"🇯🇵  日本語"},
+    {"es"_L1, u"🇪🇸  Español"},
+    {"ko"_L1, u"🇰🇷  한국어"},
+    {"nl"_L1, u"🇳🇱  Nederlands"},
+    {"pt"_L1, u"🇵🇹  Português"},
+    {"it"_L1, u"🇮🇹  Italiano"},
+}};
+
+// An item's width with padding and margin is the menu's 180: the menu does not stretch its items.
+const QString menuStyle =
+    u"QMenu { background-color: white; border: 1px solid #e2e8f0; border-radius: 8px; padding: 8px 4px; "
+    "min-width: 180px; }"
+    "QMenu::item { min-width: 140px; padding: 10px 16px; border-radius: 6px; margin: 2px 4px; color: "
+    "#334155; }"
+    "QMenu::item:selected { background-color: #f1f5f9; color: #1e293b; }"
+    "QMenu::indicator { width: 16px; height: 16px; left: 10px; }"
+    "QMenu::indicator:checked { image: url(:/icons/menu-check.svg); }"
+    "QMenu::right-arrow { image: url(:/icons/arrow-right.svg); width: 12px; height: 12px; right: 8px; }"
+    "QMenu::separator { height: 1px; background-color: #e2e8f0; margin: 6px 8px; }"_s;
+
+void dress(QMenu &menu, const QString &name)
+{
+    menu.setObjectName(name);
+    menu.setStyleSheet(menuStyle);
+    // Outside the rounded corners there is nothing.
+    menu.setWindowFlags(menu.windowFlags() | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint);
+    menu.setAttribute(Qt::WA_TranslucentBackground);
+}
+
+} // namespace
+
+TitleBar::TitleBar(QWidget *parent)
+    : QWidget(parent)
+    , m_currentLanguage(usersettings::readString(*usersettings::open(), usersettings::Language))
+    , m_restart([] { restartProgram(); })
+{
+    setObjectName(u"titleBar"_s);
+    setFixedHeight(BarHeight);
+    setAttribute(Qt::WA_StyledBackground);
+    setStyleSheet(u"#titleBar {  background-color: #1e293b;}"_s);
+    createMenu();
+    auto *const layout = new QHBoxLayout(this);
+    layout->setContentsMargins(16, 0, 0, 0);
+    layout->setSpacing(0);
+    addName(layout);
+    layout->addStretch();
+    addButtons(layout);
+    setMaximized(false);
+}
+
+void TitleBar::addName(QBoxLayout *layout)
+{
+    auto *const logo = new QLabel;
+    logo->setObjectName(u"titleLogo"_s);
+    logo->setFixedSize(LogoSize);
+    logo->setStyleSheet(u"background: transparent;"_s);
+    logo->setPixmap(QIcon(u":/icons/logo.png"_s).pixmap(LogoSize, devicePixelRatio()));
+    layout->addWidget(logo);
+    layout->addSpacing(10);
+
+    auto *const title = new QLabel(tr("Quorvex"));
+    title->setObjectName(u"titleLabel"_s);
+    title->setStyleSheet(u"color: #f1f5f9;font-size: 13px;font-weight: bold;background: transparent;"_s);
+    layout->addWidget(title);
+}
+
+void TitleBar::addButtons(QBoxLayout *layout)
+{
+    const auto add = [layout](WinButton::Kind kind, const QString &name, const QString &toolTip) {
+        auto *const button = new WinButton(kind);
+        button->setObjectName(name);
+        button->setToolTip(toolTip);
+        button->setAccessibleName(toolTip);
+        layout->addWidget(button);
+        return button;
+    };
+    m_menuButton = add(WinButton::Menu, u"menuButton"_s, tr("Menu"));
+    m_minimizeButton = add(WinButton::Minimize, u"minimizeButton"_s, tr("Minimize"));
+    m_maximizeButton = add(WinButton::Maximize, u"maximizeButton"_s, tr("Maximize"));
+    m_closeButton = add(WinButton::Close, u"closeButton"_s, tr("Close"));
+    connect(m_menuButton, &QPushButton::clicked, this, &TitleBar::showMenu);
+    connect(m_minimizeButton, &QPushButton::clicked, this, &TitleBar::minimizeClicked);
+    connect(m_maximizeButton, &QPushButton::clicked, this, &TitleBar::onMaximizeClicked);
+    connect(m_closeButton, &QPushButton::clicked, this, &TitleBar::closeClicked);
+}
+
+void TitleBar::createMenu()
+{
+    m_menu = new QMenu(this);
+    dress(*m_menu, u"applicationMenu"_s);
+    connect(m_menu->addAction(tr("About")), &QAction::triggered, this, &TitleBar::aboutClicked);
+    m_menu->addSeparator();
+    addLanguages();
+    m_menu->addSeparator();
+    connect(m_menu->addAction(tr("Help")), &QAction::triggered, this, &TitleBar::helpClicked);
+    connect(m_menu->addAction(tr("Support")), &QAction::triggered, this, &TitleBar::supportClicked);
+}
+
+void TitleBar::addLanguages()
+{
+    QMenu *const menu = m_menu->addMenu(tr("Language"));
+    dress(*menu, u"languageMenu"_s);
+    m_languageGroup = new QActionGroup(this);
+    m_languageGroup->setExclusive(true);
+    for (const Language &language : languages) {
+        const QString code = language.code;
+        QAction *const action = menu->addAction(language.label.toString());
+        action->setCheckable(true);
+        action->setData(code);
+        action->setChecked(code == m_currentLanguage);
+        m_languageGroup->addAction(action);
+    }
+    connect(m_languageGroup, &QActionGroup::triggered, this, &TitleBar::onLanguageTriggered);
+}
+
+void TitleBar::setMaximized(bool maximized)
+{
+    const QString hint = maximized ? tr("Restore") : tr("Maximize");
+    m_maximizeButton->setMaximized(maximized);
+    m_maximizeButton->setToolTip(hint);
+    m_maximizeButton->setAccessibleName(hint);
+}
+
+void TitleBar::onMaximizeClicked()
+{
+    emit maximizeClicked();
+}
+
+void TitleBar::showMenu()
+{
+    m_menu->popup(m_menuButton->mapToGlobal(QPoint(0, m_menuButton->height())));
+}
+
+void TitleBar::onLanguageTriggered(const QAction *action)
+{
+    const QString code = action->data().toString();
+    if (code == m_currentLanguage)
+        return;
+    const std::unique_ptr<QSettings> settings = usersettings::open();
+    settings->setValue(usersettings::Language.toString(), code);
+    settings->sync();
+    if (settings->status() != QSettings::NoError)
+        qWarning() << "[TitleBar] The language could not be stored in" << settings->fileName();
+
+    LinkManager::instance().setLanguage(code);
+    emit languageChanged(code);
+    Prompts::current().information(window(), tr("Language Changed"),
+                                   tr("Language has been changed.\n\nThe application will restart now."));
+    m_restart();
+}

@@ -1,0 +1,99 @@
+#include "ui/titlebar/winbutton.h"
+
+#include <QLineF>
+#include <QPainter>
+#include <QPainterPath>
+
+namespace {
+
+constexpr QSize ButtonSize(46, 40);
+constexpr double GlyphSize = 10.0;
+constexpr double RestoreOffset = 3.0;
+constexpr QColor GlyphColour(0x94, 0xa3, 0xb8);
+constexpr QColor HoverColour(255, 255, 255, 30);
+constexpr QColor CloseHoverColour(0xe8, 0x11, 0x23);
+constexpr QColor FocusColour(0x60, 0xa5, 0xfa);
+
+} // namespace
+
+WinButton::WinButton(Kind kind, QWidget *parent)
+    : QPushButton(parent)
+    , m_kind(kind)
+{
+    setFixedSize(ButtonSize);
+    setFlat(true);
+    // Reached by Tab; a click leaves the focus with the page.
+    setFocusPolicy(Qt::TabFocus);
+    setAttribute(Qt::WA_Hover);
+}
+
+void WinButton::setMaximized(bool maximized)
+{
+    m_maximized = maximized;
+    update();
+}
+
+void WinButton::focusInEvent(QFocusEvent *event)
+{
+    QPushButton::focusInEvent(event);
+    update();
+}
+
+void WinButton::focusOutEvent(QFocusEvent *event)
+{
+    QPushButton::focusOutEvent(event);
+    update();
+}
+
+void WinButton::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    paintBackground(painter);
+    // Half a pixel off, thin lines fall on whole pixels.
+    painter.translate(0.5, 0.5);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(GlyphColour, 1.0));
+    paintGlyph(painter);
+}
+
+void WinButton::paintBackground(QPainter &painter) const
+{
+    if (underMouse())
+        painter.fillRect(rect(), m_kind == Close ? CloseHoverColour : HoverColour);
+    if (hasFocus()) {
+        painter.setPen(QPen(FocusColour, 2));
+        painter.drawRect(rect().adjusted(3, 3, -3, -3));
+    }
+}
+
+void WinButton::paintGlyph(QPainter &painter) const
+{
+    const QPointF corner((width() - GlyphSize) / 2, (height() - GlyphSize) / 2);
+    const QRectF box(corner, QSizeF(GlyphSize, GlyphSize));
+    const double middle = box.center().y();
+    switch (m_kind) {
+    case Menu:
+        for (const double y : {box.top() + 1, middle, box.bottom() - 1})
+            painter.drawLine(QLineF(box.left() - 1, y, box.right() + 1, y));
+        break;
+    case Minimize:
+        painter.drawLine(QLineF(box.left(), middle, box.right(), middle));
+        break;
+    case Maximize:
+        if (!m_maximized) {
+            painter.drawRect(box);
+            break;
+        }
+        // A window before another, of which only the edges behind it are seen.
+        painter.drawRect(box.adjusted(0, RestoreOffset, -RestoreOffset, 0));
+        painter.drawPolyline(QPolygonF({QPointF(box.left() + RestoreOffset, box.top() + RestoreOffset),
+                                        QPointF(box.left() + RestoreOffset, box.top()), box.topRight(),
+                                        QPointF(box.right(), box.bottom() - RestoreOffset),
+                                        QPointF(box.right() - RestoreOffset, box.bottom() - RestoreOffset)}));
+        break;
+    case Close:
+        painter.drawLine(QLineF(box.topLeft(), box.bottomRight()));
+        painter.drawLine(QLineF(box.topRight(), box.bottomLeft()));
+        break;
+    }
+}

@@ -1,0 +1,124 @@
+#pragma once
+
+#include <QColor>
+#include <QFont>
+#include <QLineF>
+#include <QList>
+#include <QPaintDevice>
+#include <QPaintEngine>
+#include <QPainter>
+#include <QPainterPath>
+
+// One thing that was painted, in device pixels.
+struct Painted
+{
+    enum Kind { Text, Line, Ellipse, Path, Other };
+
+    Kind kind = Other;
+    QString text;
+    QFont font;
+    QPointF position; // of a text: the left end of its base line
+    QRectF clip;      // of a text; null when nothing cuts it
+    QLineF line;
+    QRectF bounds;     // of an ellipse
+    QPainterPath path; // of any other shape
+    QPen pen;
+    QBrush brush;
+    bool isSmooth = false;
+};
+
+class RecordingEngine : public QPaintEngine
+{
+public:
+    QList<Painted> painted;
+
+    RecordingEngine()
+        : QPaintEngine(AllFeatures)
+    {}
+    bool begin(QPaintDevice *) override { return true; }
+    bool end() override { return true; }
+    void updateState(const QPaintEngineState &) override {}
+    Type type() const override { return User; }
+
+    void drawTextItem(const QPointF &position, const QTextItem &item) override
+    {
+        Painted &text = add(Painted::Text);
+        text.text = item.text();
+        text.font = item.font();
+        text.position = position;
+        if (painter()->hasClipping())
+            text.clip = painter()->clipBoundingRect();
+    }
+    using QPaintEngine::drawLines;
+    void drawLines(const QLineF *lines, int count) override
+    {
+        for (int i = 0; i < count; ++i)
+            add(Painted::Line).line = lines[i];
+    }
+    using QPaintEngine::drawEllipse;
+    void drawEllipse(const QRectF &bounds) override { add(Painted::Ellipse).bounds = bounds; }
+    void drawPath(const QPainterPath &path) override { add(Painted::Path).path = path; }
+    void drawPixmap(const QRectF &, const QPixmap &, const QRectF &) override { add(Painted::Other); }
+    using QPaintEngine::drawPolygon;
+    void drawPolygon(const QPointF *, int, PolygonDrawMode) override { add(Painted::Other); }
+
+private:
+    Painted &add(Painted::Kind kind)
+    {
+        Painted one;
+        one.kind = kind;
+        one.pen = painter()->pen();
+        one.brush = painter()->brush();
+        one.isSmooth = painter()->testRenderHint(QPainter::Antialiasing) &&
+                       painter()->testRenderHint(QPainter::TextAntialiasing);
+        painted.append(one);
+        return painted.last();
+    }
+};
+
+// Paper that remembers what was painted on it, and how.
+class RecordingDevice : public QPaintDevice
+{
+public:
+    RecordingDevice(int width, int height, int dpi)
+        : m_width(width)
+        , m_height(height)
+        , m_dpi(dpi)
+    {}
+    QPaintEngine *paintEngine() const override { return &m_engine; }
+    const QList<Painted> &painted() const { return m_engine.painted; }
+
+protected:
+    int metric(PaintDeviceMetric metric) const override
+    {
+        switch (metric) {
+        case PdmWidth:
+            return m_width;
+        case PdmHeight:
+            return m_height;
+        case PdmWidthMM:
+            return qRound(m_width * 25.4 / m_dpi);
+        case PdmHeightMM:
+            return qRound(m_height * 25.4 / m_dpi);
+        case PdmDpiX:
+        case PdmDpiY:
+        case PdmPhysicalDpiX:
+        case PdmPhysicalDpiY:
+            return m_dpi;
+        case PdmDepth:
+            return 32;
+        case PdmDevicePixelRatio:
+            return 1;
+        case PdmDevicePixelRatioScaled:
+            return qRound(devicePixelRatioFScale());
+        default:
+            return QPaintDevice::metric(metric);
+        }
+    }
+
+private:
+    const int m_width;
+    const int m_height;
+    const int m_dpi;
+    mutable RecordingEngine m_engine;
+};

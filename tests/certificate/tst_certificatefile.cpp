@@ -1,0 +1,317 @@
+#include "pages.h"
+
+#include "certificate/certificaterenderer.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QTemporaryDir>
+#include <QTest>
+
+#ifdef Q_OS_LINUX
+#include <csignal>
+#include <sys/fsuid.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+#endif
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QByteArray previous = "the certificate of before";
+
+QByteArray bytesOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<unreadable>");
+}
+
+bool create(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(previous) == previous.size();
+}
+
+bool exportTo(const QString &path)
+{
+    return CertificateRenderer().exportToPdf(shortReport(), path);
+}
+
+bool isPdf(const QByteArray &bytes)
+{
+    return bytes.startsWith("%PDF-1.") && bytes.endsWith("%%EOF\n");
+}
+
+QStringList entriesOf(const QString &folder)
+{
+    return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+}
+
+#ifdef Q_OS_LINUX
+// For files this thread is somebody without rights, for as long as it lives: root is stopped by no
+// permission.
+class AsNobody
+{
+public:
+    AsNobody()
+    {
+        if (::geteuid() == 0)
+            ::setfsuid(user);
+    }
+    ~AsNobody() { ::setfsuid(::geteuid()); }
+    AsNobody(const AsNobody &) = delete;
+    AsNobody &operator=(const AsNobody &) = delete;
+
+    static bool give(const QString &path)
+    {
+        return ::geteuid() != 0 || ::chown(QFile::encodeName(path).constData(), user, gid_t(-1)) == 0;
+    }
+
+    static constexpr uid_t user = 65534;
+};
+
+// No file of this process grows beyond the limit: every further write fails, as on a full disk.
+class LargestFile
+{
+public:
+    explicit LargestFile(qint64 bytes)
+        : m_handler(std::signal(SIGXFSZ, SIG_IGN))
+    {
+        ::getrlimit(RLIMIT_FSIZE, &m_previous);
+        rlimit limit = m_previous;
+        limit.rlim_cur = static_cast<rlim_t>(bytes);
+        ::setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~LargestFile()
+    {
+        ::setrlimit(RLIMIT_FSIZE, &m_previous);
+        std::signal(SIGXFSZ, m_handler);
+    }
+    LargestFile(const LargestFile &) = delete;
+    LargestFile &operator=(const LargestFile &) = delete;
+
+private:
+    rlimit m_previous{};
+    void (*m_handler)(int);
+};
+#endif
+
+} // namespace
+
+class TestCertificateFile : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void newFileIsWritten();
+    void existingFileIsReplaced();
+    void nameIsTakenAsItIs();
+    void missingFolderFails();
+    void emptyNameFails();
+    void folderInThePlaceOfTheFileFails();
+#ifdef Q_OS_LINUX
+    void readOnlyFolderFails();
+    void readOnlyFileFails();
+    void fullDiskKeepsThePreviousFile();
+    void killedProgramKeepsThePreviousFile();
+    void deviceIsRefusedAndStays();
+    void pipeIsRefusedAndStays();
+    void linkIsFollowed();
+    void danglingLinkMakesItsFile();
+#endif
+};
+
+void TestCertificateFile::newFileIsWritten()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"证书 100% &.pdf"_s);
+    QVERIFY(exportTo(path));
+    QVERIFY(isPdf(bytesOf(path)));
+    QCOMPARE(entriesOf(folder.path()).size(), 1);
+}
+
+void TestCertificateFile::existingFileIsReplaced()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"c.pdf"_s);
+    QVERIFY(create(path));
+    QVERIFY(exportTo(path));
+    QVERIFY(isPdf(bytesOf(path)));
+    QCOMPARE(entriesOf(folder.path()), QStringList{u"c.pdf"_s});
+}
+
+void TestCertificateFile::nameIsTakenAsItIs()
+{
+    const QTemporaryDir folder;
+    QVERIFY(exportTo(folder.filePath(u"certificate"_s)));
+    QCOMPARE(entriesOf(folder.path()), QStringList{u"certificate"_s});
+}
+
+void TestCertificateFile::missingFolderFails()
+{
+    const QTemporaryDir folder;
+    QVERIFY(!exportTo(folder.filePath(u"missing/c.pdf"_s)));
+    QVERIFY(entriesOf(folder.path()).isEmpty());
+}
+
+void TestCertificateFile::emptyNameFails()
+{
+    QVERIFY(!exportTo(QString()));
+}
+
+void TestCertificateFile::folderInThePlaceOfTheFileFails()
+{
+    const QTemporaryDir folder;
+    QVERIFY(QDir(folder.path()).mkdir(u"c.pdf"_s));
+    QVERIFY(create(folder.filePath(u"c.pdf/inside"_s)));
+    QVERIFY(!exportTo(folder.filePath(u"c.pdf"_s)));
+    QVERIFY(!exportTo(folder.path()));
+    QCOMPARE(entriesOf(folder.path()), QStringList{u"c.pdf"_s});
+    QCOMPARE(bytesOf(folder.filePath(u"c.pdf/inside"_s)), previous);
+}
+
+#ifdef Q_OS_LINUX
+void TestCertificateFile::readOnlyFolderFails()
+{
+    const QTemporaryDir folder;
+    QVERIFY(AsNobody::give(folder.path()));
+    const QString path = folder.filePath(u"c.pdf"_s);
+    const AsNobody nobody;
+    QVERIFY(exportTo(path)); // the same person may, as long as the folder lets him
+    QVERIFY(create(path));
+    QVERIFY(QFile::setPermissions(folder.path(), QFile::ReadOwner | QFile::ExeOwner));
+    const bool replaced = exportTo(path);
+    const bool added = exportTo(folder.filePath(u"d.pdf"_s));
+    QVERIFY(QFile::setPermissions(folder.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+    QVERIFY(!replaced);
+    QVERIFY(!added);
+    QCOMPARE(bytesOf(path), previous);
+    QCOMPARE(entriesOf(folder.path()), QStringList{u"c.pdf"_s});
+}
+
+// In a process of its own, which can become somebody else for good.
+void TestCertificateFile::readOnlyFileFails()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"c.pdf"_s);
+    QVERIFY(create(path));
+    QVERIFY(QFile::setPermissions(path, QFile::ReadOwner));
+    QVERIFY(AsNobody::give(folder.path()));
+    QVERIFY(AsNobody::give(path));
+    const pid_t child = ::fork();
+    if (child == 0) {
+        const bool isSomebodyElse = ::geteuid() != 0 || ::setuid(AsNobody::user) == 0;
+        const bool beside = isSomebodyElse && exportTo(folder.filePath(u"d.pdf"_s));
+        const bool replaced = exportTo(path);
+        ::_exit((beside ? 1 : 0) + (replaced ? 2 : 0));
+    }
+    QVERIFY(child > 0);
+    int status = 0;
+    QCOMPARE(::waitpid(child, &status, 0), child);
+    QVERIFY(WIFEXITED(status));
+    QCOMPARE(WEXITSTATUS(status), 1); // a new file beside it, and nothing else
+    QCOMPARE(bytesOf(path), previous);
+}
+
+void TestCertificateFile::fullDiskKeepsThePreviousFile()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"c.pdf"_s);
+    QVERIFY(exportTo(path));
+    const qint64 size = QFileInfo(path).size();
+    for (const qint64 room : {qint64(0), qint64(1), qint64(4096), size / 2, size - 512}) {
+        QVERIFY(QFile::remove(path));
+        QVERIFY(create(path));
+        bool done = false;
+        {
+            const LargestFile limit(room);
+            done = exportTo(path);
+        }
+        QVERIFY2(!done, qPrintable(QString::number(room)));
+        QCOMPARE(bytesOf(path), previous);
+        QCOMPARE(entriesOf(folder.path()), QStringList{u"c.pdf"_s});
+    }
+    QVERIFY(exportTo(path)); // there was nothing else in the way
+}
+
+// Killed by the kernel in the middle of the write.
+void TestCertificateFile::killedProgramKeepsThePreviousFile()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"c.pdf"_s);
+    QVERIFY(create(path));
+    const pid_t child = ::fork();
+    if (child == 0) {
+        const rlimit limit{4096, 4096};
+        ::setrlimit(RLIMIT_FSIZE, &limit);
+        const rlimit none{0, 0};
+        ::setrlimit(RLIMIT_CORE, &none);
+        std::signal(SIGXFSZ, SIG_DFL);
+        ::_exit(exportTo(path) ? 0 : 1);
+    }
+    QVERIFY(child > 0);
+    int status = 0;
+    QCOMPARE(::waitpid(child, &status, 0), child);
+    QVERIFY(WIFSIGNALED(status));
+    QCOMPARE(WTERMSIG(status), SIGXFSZ);
+    QCOMPARE(bytesOf(path), previous);
+}
+
+void TestCertificateFile::deviceIsRefusedAndStays()
+{
+    for (const QString &device : {u"/dev/full"_s, u"/dev/null"_s}) {
+        QVERIFY(!exportTo(device));
+        struct stat status = {};
+        QCOMPARE(::lstat(QFile::encodeName(device).constData(), &status), 0);
+        QVERIFY(S_ISCHR(status.st_mode));
+    }
+}
+
+void TestCertificateFile::pipeIsRefusedAndStays()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"c.pdf"_s);
+    QCOMPARE(::mkfifo(QFile::encodeName(path).constData(), 0600), 0);
+    QVERIFY(!exportTo(path));
+    struct stat status = {};
+    QCOMPARE(::lstat(QFile::encodeName(path).constData(), &status), 0);
+    QVERIFY(S_ISFIFO(status.st_mode));
+    QCOMPARE(entriesOf(folder.path()), QStringList{u"c.pdf"_s});
+}
+
+void TestCertificateFile::linkIsFollowed()
+{
+    const QTemporaryDir folder;
+    const QString target = folder.filePath(u"real.pdf"_s);
+    const QString link = folder.filePath(u"c.pdf"_s);
+    QVERIFY(create(target));
+    QVERIFY(QFile::link(target, link));
+    QVERIFY(exportTo(link));
+    QVERIFY(QFileInfo(link).isSymLink());
+    QVERIFY(isPdf(bytesOf(target)));
+}
+
+void TestCertificateFile::danglingLinkMakesItsFile()
+{
+    const QTemporaryDir folder;
+    const QString target = folder.filePath(u"real.pdf"_s);
+    const QString link = folder.filePath(u"c.pdf"_s);
+    QVERIFY(QFile::link(target, link));
+    QVERIFY(exportTo(link));
+    QVERIFY(QFileInfo(link).isSymLink());
+    QVERIFY(isPdf(bytesOf(target)));
+}
+#endif
+
+int main(int argc, char *argv[])
+{
+    QGuiApplication application(argc, argv);
+    TestCertificateFile test;
+    QTEST_SET_MAIN_SOURCE_PATH
+    return QTest::qExec(&test, argc, argv);
+}
+#include "tst_certificatefile.moc"

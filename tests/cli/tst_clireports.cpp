@@ -1,0 +1,531 @@
+#include "cli/memorymachine.h"
+#include "cli/testio.h"
+
+#include "model/wipereport.h"
+#include "services/reportdatabase.h"
+
+#include <QDir>
+#include <QSqlQuery>
+
+using namespace Qt::StringLiterals;
+
+// "reports", "check", and what "wipe" leaves in the database.
+class TestCliReports : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { hideMachine(m_home); }
+
+    void anErasedDriveIsInTheDatabase();
+    void withNoReportNothingIsStored();
+    void aFailedJobIsStoredToo();
+    void aDatabaseThatCannotBeOpenedStopsBeforeAnythingIs();
+    void withNoReportABadDatabaseDoesNotMatter();
+    void aDatabaseInWhatIsErasedIsRefused();
+    void aReportThatCannotBeStoredIsToldAndTheResultToo();
+
+    void theListHasTheLatestFirst();
+    void theListTakesLimitAndOffset();
+    void aBadLimitIsAWrongLine_data();
+    void aBadLimitIsAWrongLine();
+    void anEmptyDatabaseSaysSo();
+    void theListForMachinesHoldsWholeReports();
+    void damagedTextIsListedAsSuch();
+    void aReportIsShown();
+    void aReportIsShownToMachines();
+    void anUnknownIdIsRefused_data();
+    void anUnknownIdIsRefused();
+    void damagedTextIsNotShown();
+    void theStoredTextIsExportedByteForByte();
+    void theStoredTextGoesToStandardOutput();
+    void anExportNeedsADestination();
+    void anExportThatCannotBeWrittenSaysSo();
+    void aReportIsDeleted();
+    void aDamagedReportCanBeDeleted();
+
+    void theExportedReportIsTheSame();
+    void theReportFileOfAJobIsTheSame();
+    void theFirstFieldThatDiffersIsNamed_data();
+    void theFirstFieldThatDiffersIsNamed();
+    void anotherWritingOfTheSameFieldsIsToldApart();
+    void aReportWithoutRecordIsNotTheSame();
+    void whatIsNoReportIsNotTheSame_data();
+    void whatIsNoReportIsNotTheSame();
+    void aMissingFileIsRefused();
+
+private:
+    QTemporaryDir m_home;
+};
+
+namespace {
+
+WipeReport reportOf(const QString &id, int day = 1)
+{
+    WipeReport report;
+    report.certificateId = id;
+    report.operationType = DiskWipe;
+    report.startTime = QDateTime(QDate(2026, 3, day), QTime(14, 7, 9));
+    report.endTime = report.startTime.addSecs(65);
+    report.status = WipeStatus::Completed;
+    report.disk.model = u"Model "_s + id;
+    report.disk.serialNumber = u"S/N "_s + id;
+    report.disk.sizeBytes = 1 << 20;
+    report.totalSectors = 2048;
+    report.wipedSectors = 2048;
+    report.bytesWritten = 1 << 20;
+    report.verificationPassed = true;
+    report.dataHash = u"abc123"_s;
+    return report;
+}
+
+bool store(const QString &folder, const QList<WipeReport> &reports)
+{
+    ReportDatabase &database = ReportDatabase::instance();
+    bool stored = database.initialize(folder);
+    for (const WipeReport &report : reports)
+        stored = stored && database.saveReport(report);
+    database.close();
+    return stored;
+}
+
+// Puts other text in the place of a stored report.
+bool damage(const QString &folder, const QString &id, const QString &text)
+{
+    ReportDatabase &database = ReportDatabase::instance();
+    if (!database.initialize(folder))
+        return false;
+    QSqlQuery query;
+    query.prepare(u"UPDATE wipe_reports SET report_json = ? WHERE certificate_id = ?"_s);
+    query.addBindValue(text);
+    query.addBindValue(id);
+    const bool done = query.exec() && query.numRowsAffected() == 1;
+    query.clear();
+    database.close();
+    return done;
+}
+
+QByteArray storedText(const QString &folder, const QString &id)
+{
+    ReportDatabase &database = ReportDatabase::instance();
+    QByteArray text;
+    if (database.initialize(folder))
+        text = database.storedJson(id).value_or(QByteArray());
+    database.close();
+    return text;
+}
+
+void addDrive(MemoryMachine &machine)
+{
+    machine.memory.addDrive(MemoryDrive(0, 1 << 20));
+}
+
+QStringList wipeDrive(const QStringList &more = {})
+{
+    return QStringList{u"wipe"_s, u"disk"_s, u"0"_s, u"--yes"_s} + more;
+}
+
+} // namespace
+
+void TestCliReports::anErasedDriveIsInTheDatabase()
+{
+    MemoryMachine machine;
+    addDrive(machine);
+    CliRun run;
+    run(wipeDrive({u"--json"_s}));
+    QCOMPARE(run.code, 0);
+    const QJsonObject finished = run.io.events().constLast();
+    const QByteArray text = storedText(run.folder(), finished.value(u"certificateId").toString());
+    QCOMPARE(QJsonDocument::fromJson(text).object(), finished.value(u"report").toObject());
+    // The file is closed: another run of the program in this process takes another folder.
+    CliRun other;
+    other({u"reports"_s, u"list"_s});
+    QCOMPARE(other.io.out, QByteArray("No reports.\n"));
+}
+
+void TestCliReports::withNoReportNothingIsStored()
+{
+    MemoryMachine machine;
+    addDrive(machine);
+    CliRun run;
+    run(wipeDrive({u"--no-report"_s}));
+    QCOMPARE(run.code, 0);
+    QVERIFY(!QFile::exists(run.folder() + u"/quorvex.db"_s));
+}
+
+void TestCliReports::aFailedJobIsStoredToo()
+{
+    MemoryMachine machine;
+    addDrive(machine);
+    machine.answer = [](const DeviceCall &call) {
+        return call.method == "write"_L1 ? platform::Status{1117, 0, "write"} : platform::Status{};
+    };
+    CliRun run;
+    run(wipeDrive());
+    QCOMPARE(run.code, 1);
+    CliRun list;
+    TestIo io;
+    QCOMPARE(cli::runCli({u"reports"_s, u"list"_s, u"--data-dir"_s, run.folder()}, io), 0);
+    QVERIFY2(io.out.contains("Failed"), io.out.constData());
+}
+
+void TestCliReports::aDatabaseThatCannotBeOpenedStopsBeforeAnythingIs()
+{
+    MemoryMachine machine;
+    addDrive(machine);
+    CliRun run;
+    QVERIFY(writeFile(run.folder() + u"/quorvex.db"_s, QByteArray(4096, 'n')));
+    run(wipeDrive());
+    QCOMPARE(run.code, 5);
+    QVERIFY2(run.complains("report database"), run.io.err.constData());
+    QCOMPARE(machine.openings(), QStringList());
+    QCOMPARE(contentOf(run.folder() + u"/quorvex.db"_s), QByteArray(4096, 'n'));
+}
+
+void TestCliReports::withNoReportABadDatabaseDoesNotMatter()
+{
+    MemoryMachine machine;
+    addDrive(machine);
+    CliRun run;
+    QVERIFY(writeFile(run.folder() + u"/quorvex.db"_s, QByteArray(4096, 'n')));
+    run(wipeDrive({u"--no-report"_s}));
+    QCOMPARE(run.code, 0);
+}
+
+void TestCliReports::aDatabaseInWhatIsErasedIsRefused()
+{
+    CliRun run;
+    QVERIFY(writeFile(run.folder() + u"/secret.txt"_s, "secret"));
+    run({u"wipe"_s, u"files"_s, run.folder(), u"--yes"_s});
+    QCOMPARE(run.code, 3);
+    QVERIFY2(run.complains("lies in what is to be erased"), run.io.err.constData());
+    QCOMPARE(contentOf(run.folder() + u"/secret.txt"_s), QByteArray("secret"));
+}
+
+void TestCliReports::aReportThatCannotBeStoredIsToldAndTheResultToo()
+{
+    MemoryMachine machine;
+    addDrive(machine);
+    CliRun run;
+    // The table is gone when the job has ended.
+    run.io.onOutput = [&](const QByteArray &out) {
+        if (out.contains("\"event\":\"pass\"") && QSqlDatabase::contains())
+            QSqlQuery(u"DROP TABLE IF EXISTS wipe_reports"_s);
+    };
+    run(wipeDrive({u"--json"_s}));
+    QCOMPARE(run.code, 5);
+    QCOMPARE(run.io.events(u"error"_s).size(), 1);
+    QVERIFY(run.io.events().constLast().value(u"success").toBool());
+}
+
+void TestCliReports::theListHasTheLatestFirst()
+{
+    CliRun run;
+    QVERIFY(store(run.folder(), {reportOf(u"QVX-A"_s, 1), reportOf(u"QVX-B"_s, 3), reportOf(u"QVX-C"_s, 2)}));
+    run({u"reports"_s, u"list"_s});
+    QCOMPARE(run.code, 0);
+    const QByteArrayList lines = run.io.out.split('\n');
+    QCOMPARE(lines.size(), 5);
+    QVERIFY(lines.at(0).startsWith("Certificate"));
+    QVERIFY2(lines.at(1).startsWith("QVX-B") && lines.at(1).contains("2026-03-03 14:07:09") &&
+                 lines.at(1).contains("Completed") && lines.at(1).contains("NIST 800-88") &&
+                 lines.at(1).contains("Model QVX-B"),
+             lines.at(1).constData());
+    QVERIFY(lines.at(2).startsWith("QVX-C"));
+    QVERIFY(lines.at(3).startsWith("QVX-A"));
+}
+
+void TestCliReports::theListTakesLimitAndOffset()
+{
+    CliRun run;
+    QVERIFY(store(run.folder(), {reportOf(u"QVX-A"_s, 1), reportOf(u"QVX-B"_s, 3), reportOf(u"QVX-C"_s, 2)}));
+    run({u"reports"_s, u"list"_s, u"--limit"_s, u"1"_s, u"--offset"_s, u"1"_s, u"--json"_s});
+    QCOMPARE(run.code, 0);
+    const QJsonArray reports = run.io.documents().constFirst().array();
+    QCOMPARE(reports.size(), 1);
+    QCOMPARE(reports.at(0).toObject().value(u"certificateId"), QJsonValue(u"QVX-C"_s));
+}
+
+void TestCliReports::aBadLimitIsAWrongLine_data()
+{
+    QTest::addColumn<QString>("option");
+    QTest::newRow("negative limit") << u"--limit=-1"_s;
+    QTest::newRow("no number") << u"--limit=many"_s;
+    QTest::newRow("empty") << u"--offset="_s;
+    QTest::newRow("too large") << u"--offset=99999999999"_s;
+}
+
+void TestCliReports::aBadLimitIsAWrongLine()
+{
+    QFETCH(QString, option);
+    CliRun run;
+    run({u"reports"_s, u"list"_s, option});
+    QCOMPARE(run.code, 2);
+}
+
+void TestCliReports::anEmptyDatabaseSaysSo()
+{
+    CliRun run;
+    run({u"reports"_s, u"list"_s});
+    QCOMPARE(run.code, 0);
+    QCOMPARE(run.io.out, QByteArray("No reports.\n"));
+}
+
+void TestCliReports::theListForMachinesHoldsWholeReports()
+{
+    CliRun run;
+    const WipeReport report = reportOf(u"QVX-A"_s);
+    QVERIFY(store(run.folder(), {report}));
+    run({u"reports"_s, u"list"_s, u"--json"_s});
+    QCOMPARE(run.io.documents().size(), 1);
+    QCOMPARE(run.io.documents().constFirst().array().at(0).toObject(),
+             QJsonDocument::fromJson(report.toJson()).object());
+}
+
+void TestCliReports::damagedTextIsListedAsSuch()
+{
+    CliRun run;
+    QVERIFY(store(run.folder(), {reportOf(u"QVX-A"_s)}));
+    QVERIFY(damage(run.folder(), u"QVX-A"_s, u"no JSON"_s));
+    run({u"reports"_s, u"list"_s});
+    QCOMPARE(run.code, 0);
+    QVERIFY2(run.io.out.contains("QVX-A") && run.io.out.contains("damaged"), run.io.out.constData());
+    TestIo io;
+    QCOMPARE(cli::runCli({u"reports"_s, u"list"_s, u"--json"_s, u"--data-dir"_s, run.folder()}, io), 0);
+    QCOMPARE(io.documents().constFirst().array().at(0).toObject(),
+             (QJsonObject{{u"certificateId"_s, u"QVX-A"_s}, {u"damaged"_s, true}}));
+}
+
+void TestCliReports::aReportIsShown()
+{
+    CliRun run;
+    QVERIFY(store(run.folder(), {reportOf(u"QVX-A"_s)}));
+    run({u"reports"_s, u"show"_s, u"QVX-A"_s});
+    QCOMPARE(run.code, 0);
+    for (const char *part : {"QVX-A", "Disk Wipe", "NIST 800-88, 1 pass", "Completed", "2026-03-01 14:07:09",
+                             "1m 5s", "Model QVX-A", "S/N QVX-A", "1.00 MB", "2048", "passed", "abc123"})
+        QVERIFY2(run.io.out.contains(part), part);
+}
+
+void TestCliReports::aReportIsShownToMachines()
+{
+    CliRun run;
+    const WipeReport report = reportOf(u"QVX-A"_s);
+    QVERIFY(store(run.folder(), {report}));
+    run({u"reports"_s, u"show"_s, u"QVX-A"_s, u"--json"_s});
+    QCOMPARE(run.io.documents().size(), 1);
+    QCOMPARE(run.io.documents().constFirst().object(), QJsonDocument::fromJson(report.toJson()).object());
+}
+
+void TestCliReports::anUnknownIdIsRefused_data()
+{
+    QTest::addColumn<QStringList>("command");
+    QTest::newRow("show") << QStringList{u"show"_s};
+    QTest::newRow("delete") << QStringList{u"delete"_s};
+    QTest::newRow("export") << QStringList{u"export"_s, u"--json-file"_s, u"-"_s};
+}
+
+void TestCliReports::anUnknownIdIsRefused()
+{
+    QFETCH(QStringList, command);
+    CliRun run;
+    QVERIFY(store(run.folder(), {reportOf(u"QVX-A"_s)}));
+    run(QStringList{u"reports"_s} + command + QStringList{u"x'; DROP TABLE wipe_reports; --"_s});
+    QCOMPARE(run.code, 3);
+    QVERIFY2(run.complains("there is no report"), run.io.err.constData());
+    QVERIFY(!storedText(run.folder(), u"QVX-A"_s).isEmpty());
+}
+
+void TestCliReports::damagedTextIsNotShown()
+{
+    CliRun run;
+    QVERIFY(store(run.folder(), {reportOf(u"QVX-A"_s)}));
+    QVERIFY(damage(run.folder(), u"QVX-A"_s, u"[1, 2]"_s));
+    run({u"reports"_s, u"show"_s, u"QVX-A"_s});
+    QCOMPARE(run.code, 5);
+    QVERIFY2(run.complains("damaged"), run.io.err.constData());
+    QCOMPARE(run.io.out, QByteArray());
+}
+
+void TestCliReports::theStoredTextIsExportedByteForByte()
+{
+    CliRun run;
+    const WipeReport report = reportOf(u"QVX-'ä';"_s);
+    QVERIFY(store(run.folder(), {report}));
+    const QString path = run.folder() + u"/out.json"_s;
+    run({u"reports"_s, u"export"_s, report.certificateId, u"--json-file"_s, path});
+    QCOMPARE(run.code, 0);
+    QCOMPARE(contentOf(path), report.toJson());
+    QCOMPARE(run.io.out, QByteArray());
+}
+
+void TestCliReports::theStoredTextGoesToStandardOutput()
+{
+    CliRun run;
+    const WipeReport report = reportOf(u"QVX-A"_s);
+    QVERIFY(store(run.folder(), {report}));
+    run({u"reports"_s, u"export"_s, u"QVX-A"_s, u"--json-file"_s, u"-"_s});
+    QCOMPARE(run.code, 0);
+    QCOMPARE(run.io.out, report.toJson());
+}
+
+void TestCliReports::anExportNeedsADestination()
+{
+    CliRun run;
+    run({u"reports"_s, u"export"_s, u"QVX-A"_s});
+    QCOMPARE(run.code, 2);
+    QVERIFY2(run.complains("--pdf or --json-file"), run.io.err.constData());
+}
+
+void TestCliReports::anExportThatCannotBeWrittenSaysSo()
+{
+    CliRun run;
+    QVERIFY(store(run.folder(), {reportOf(u"QVX-A"_s)}));
+    run({u"reports"_s, u"export"_s, u"QVX-A"_s, u"--json-file"_s, run.folder() + u"/no/such/r.json"_s});
+    QCOMPARE(run.code, 2);
+    CliRun folder;
+    folder({u"reports"_s, u"export"_s, u"QVX-A"_s, u"--json-file"_s, run.folder()});
+    QCOMPARE(folder.code, 2);
+}
+
+void TestCliReports::aReportIsDeleted()
+{
+    CliRun run;
+    QVERIFY(store(run.folder(), {reportOf(u"QVX-A"_s), reportOf(u"QVX-B"_s)}));
+    run({u"reports"_s, u"delete"_s, u"QVX-A"_s});
+    QCOMPARE(run.code, 0);
+    QVERIFY(storedText(run.folder(), u"QVX-A"_s).isNull());
+    QVERIFY(!storedText(run.folder(), u"QVX-B"_s).isEmpty());
+}
+
+void TestCliReports::aDamagedReportCanBeDeleted()
+{
+    CliRun run;
+    QVERIFY(store(run.folder(), {reportOf(u"QVX-A"_s)}));
+    QVERIFY(damage(run.folder(), u"QVX-A"_s, QString()));
+    run({u"reports"_s, u"delete"_s, u"QVX-A"_s});
+    QCOMPARE(run.code, 0);
+    QVERIFY(storedText(run.folder(), u"QVX-A"_s).isNull());
+}
+
+void TestCliReports::theExportedReportIsTheSame()
+{
+    CliRun run;
+    QVERIFY(store(run.folder(), {reportOf(u"QVX-A"_s)}));
+    const QString path = run.folder() + u"/out.json"_s;
+    QVERIFY(writeFile(path, storedText(run.folder(), u"QVX-A"_s)));
+    run({u"check"_s, path});
+    QCOMPARE(run.code, 0);
+    QVERIFY2(run.io.out.startsWith("THE SAME: "), run.io.out.constData());
+}
+
+void TestCliReports::theReportFileOfAJobIsTheSame()
+{
+    MemoryMachine machine;
+    addDrive(machine);
+    CliRun run;
+    const QString path = run.folder() + u"/r.json"_s;
+    run(wipeDrive({u"--report"_s, path}));
+    QCOMPARE(run.code, 0);
+    TestIo io;
+    QCOMPARE(cli::runCli({u"check"_s, path, u"--data-dir"_s, run.folder(), u"--json"_s}, io), 0);
+    QCOMPARE(io.documents().constFirst().object().value(u"same"), QJsonValue(true));
+}
+
+void TestCliReports::theFirstFieldThatDiffersIsNamed_data()
+{
+    QTest::addColumn<QByteArray>("from");
+    QTest::addColumn<QByteArray>("to");
+    QTest::addColumn<QString>("field");
+    QTest::newRow("status") << QByteArray("\"status\": 3") << QByteArray("\"status\": 4") << u"status"_s;
+    QTest::newRow("number for text") << QByteArray("\"wipedSectors\": \"2048\"")
+                                     << QByteArray("\"wipedSectors\": 2048") << u"wipedSectors"_s;
+    QTest::newRow("nested") << QByteArray("S/N QVX-A") << QByteArray("S/N other")
+                            << u"diskInfo.serialNumber"_s;
+    QTest::newRow("missing") << QByteArray("\"dataHash\": \"abc123\",\n") << QByteArray() << u"dataHash"_s;
+    QTest::newRow("two, the first of the record")
+        << QByteArray("\"methodName\": \"NIST 800-88\"")
+        << QByteArray("\"zzz\": 1, \"methodName\": \"Gutmann\"") << u"methodName"_s;
+    QTest::newRow("only in the file")
+        << QByteArray("\"status\": 3") << QByteArray("\"status\": 3, \"x\": 1") << u"x"_s;
+}
+
+void TestCliReports::theFirstFieldThatDiffersIsNamed()
+{
+    QFETCH(QByteArray, from);
+    QFETCH(QByteArray, to);
+    QFETCH(QString, field);
+    CliRun run;
+    QVERIFY(store(run.folder(), {reportOf(u"QVX-A"_s)}));
+    QByteArray text = storedText(run.folder(), u"QVX-A"_s);
+    QVERIFY(text.contains(from));
+    const QString path = run.folder() + u"/out.json"_s;
+    QVERIFY(writeFile(path, text.replace(from, to)));
+    run({u"check"_s, path});
+    QCOMPARE(run.code, 1);
+    const QByteArray expected = "NOT THE SAME: the first field that differs is " + field.toUtf8() + ": ";
+    QVERIFY2(run.io.out.startsWith(expected), run.io.out.constData());
+    TestIo io;
+    QCOMPARE(cli::runCli({u"check"_s, path, u"--data-dir"_s, run.folder(), u"--json"_s}, io), 1);
+    QCOMPARE(io.documents().constFirst().object().value(u"field"), QJsonValue(field));
+}
+
+void TestCliReports::anotherWritingOfTheSameFieldsIsToldApart()
+{
+    CliRun run;
+    QVERIFY(store(run.folder(), {reportOf(u"QVX-A"_s)}));
+    const QByteArray text = storedText(run.folder(), u"QVX-A"_s);
+    const QString path = run.folder() + u"/out.json"_s;
+    QVERIFY(writeFile(path, text + '\n'));
+    run({u"check"_s, path});
+    QCOMPARE(run.code, 1);
+    const QByteArray place = "from byte " + QByteArray::number(text.size()) + " on";
+    QVERIFY2(run.io.out.contains(place), run.io.out.constData());
+}
+
+void TestCliReports::aReportWithoutRecordIsNotTheSame()
+{
+    CliRun run;
+    const QString path = run.folder() + u"/out.json"_s;
+    QVERIFY(writeFile(path, reportOf(u"QVX-A"_s).toJson()));
+    run({u"check"_s, path});
+    QCOMPARE(run.code, 1);
+    QVERIFY2(run.io.out.contains("no record of QVX-A"), run.io.out.constData());
+}
+
+void TestCliReports::whatIsNoReportIsNotTheSame_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::newRow("empty") << QByteArray();
+    QTest::newRow("garbage of 10 MiB") << QByteArray(10 << 20, '[');
+    QTest::newRow("an array") << QByteArray("[1, 2, 3]");
+    QTest::newRow("no id") << QByteArray("{\"status\": 3}");
+    QTest::newRow("an id that is a number") << QByteArray("{\"certificateId\": 12345678901234567890}");
+}
+
+void TestCliReports::whatIsNoReportIsNotTheSame()
+{
+    QFETCH(QByteArray, content);
+    CliRun run;
+    const QString path = run.folder() + u"/out.json"_s;
+    QVERIFY(writeFile(path, content));
+    run({u"check"_s, path});
+    QCOMPARE(run.code, 1);
+    QVERIFY2(run.io.out.contains("is no report"), run.io.out.constData());
+}
+
+void TestCliReports::aMissingFileIsRefused()
+{
+    CliRun run;
+    run({u"check"_s, run.folder() + u"/missing.json"_s});
+    QCOMPARE(run.code, 3);
+    CliRun folder;
+    folder({u"check"_s, run.folder()});
+    QCOMPARE(folder.code, 3);
+    CliRun empty;
+    empty({u"check"_s, QString()});
+    QCOMPARE(empty.code, 2);
+}
+
+QTEST_GUILESS_MAIN(TestCliReports)
+#include "tst_clireports.moc"

@@ -1,0 +1,345 @@
+#include "cli/testio.h"
+
+#include "services/infofiles.h"
+
+#include <QDir>
+
+#include <memory>
+
+using namespace Qt::StringLiterals;
+
+// "trash list" and "wipe trash", on bins in folders of the test's own.
+class TestCliTrash : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { hideMachine(m_home); }
+    void init();
+
+    void theBinsOfARootAreListed();
+    void oneUsersBinIsListed();
+    void theListIsOneObjectForMachines();
+    void anEmptyBinListsNothing();
+    void aRootThatIsNoFolderIsRefused();
+    void sidWithoutRootMakesNoSense();
+    void anEmptyRootIsNotTheCurrentFolder();
+    void aRootUnderTwoNamesCountsOnce();
+    void namesCannotSteerTheTerminal();
+    void whatWasListedIsErased();
+    void onlyTheUserThatWasNamedLosesFiles();
+    void nothingIsErasedWithoutTheWord();
+    void anEmptyBinIsDoneAtOnce();
+    void aBinThatIsALinkIsLeftAlone();
+    void aRecordThatLeadsElsewhereErasesNothingThere();
+    void aDamagedRecordIsErasedWithItsFile();
+#ifdef Q_OS_UNIX
+    void theDesktopsTrashIsErasedWithItsRecords();
+    void namesOfErasedFoldersLeaveTheRecords();
+    void recordsThatCannotBeMendedAreTold();
+    void aTrashThatIsALinkIsLeftAlone();
+#endif
+
+private:
+    QString path(const QString &name) const
+    {
+        return m_root->filePath(name);
+    }
+    QString bin(const QString &sid, const QString &name) const
+    {
+        return path(u"$Recycle.Bin/%1/%2"_s.arg(sid, name));
+    }
+    // A deleted file with its record.
+    void addDeleted(const QString &sid, const QString &name, const QString &original,
+                    const QByteArray &content)
+    {
+        QVERIFY(QDir().mkpath(bin(sid, {})));
+        QVERIFY(writeFile(bin(sid, u"$I"_s + name), infoVersion2(original, quint64(content.size()))));
+        QVERIFY(writeFile(bin(sid, u"$R"_s + name), content));
+    }
+    QStringList list(const QStringList &more = {}) const
+    {
+        return QStringList{u"trash"_s, u"list"_s, u"--root"_s, m_root->path()} + more;
+    }
+    QStringList wipe(const QStringList &more = {u"--yes"_s}) const
+    {
+        return QStringList{u"wipe"_s, u"trash"_s, u"--root"_s, m_root->path()} + more;
+    }
+
+    QTemporaryDir m_home;
+    std::unique_ptr<QTemporaryDir> m_root;
+};
+
+namespace {
+
+const QString Alice = u"S-1-5-21-1-2-3-1001"_s;
+const QString Bob = u"S-1-5-21-1-2-3-1002"_s;
+
+} // namespace
+
+void TestCliTrash::init()
+{
+    m_root = std::make_unique<QTemporaryDir>();
+    QVERIFY(m_root->isValid());
+    QVERIFY(QDir(m_home.filePath(u"Trash"_s)).removeRecursively());
+}
+
+void TestCliTrash::theBinsOfARootAreListed()
+{
+    addDeleted(Alice, u"AAAAAA.txt"_s, u"C:\\letters\\love.txt"_s, QByteArray(1000, 'a'));
+    addDeleted(Bob, u"BBBBBB.txt"_s, u"C:\\bills.txt"_s, QByteArray(24, 'b'));
+    CliRun run;
+    run(list());
+    QCOMPARE(run.code, 0);
+    QVERIFY2(run.io.out.contains("C:\\letters\\love.txt (1000 B)\n"), run.io.out.constData());
+    QVERIFY(run.io.out.contains("C:\\bills.txt (24 B)\n"));
+    QVERIFY(run.io.out.endsWith("2 items, 1.00 KB\n"));
+    QVERIFY(QFile::exists(bin(Alice, u"$RAAAAAA.txt"_s)));
+}
+
+void TestCliTrash::oneUsersBinIsListed()
+{
+    addDeleted(Alice, u"AAAAAA.txt"_s, u"C:\\a.txt"_s, "a");
+    addDeleted(Bob, u"BBBBBB.txt"_s, u"C:\\b.txt"_s, "b");
+    CliRun run;
+    run(list({u"--sid"_s, Bob}));
+    QCOMPARE(run.code, 0);
+    QCOMPARE(run.io.out, QByteArray("C:\\b.txt (1 B)\n1 item, 1 B\n"));
+}
+
+void TestCliTrash::theListIsOneObjectForMachines()
+{
+    addDeleted(Alice, u"AAAAAA.txt"_s, u"C:\\a.txt"_s, "abc");
+    CliRun run;
+    run(list({u"--json"_s}));
+    QCOMPARE(run.code, 0);
+    QCOMPARE(run.io.documents().size(), 1);
+    const QJsonObject object = run.io.documents().constFirst().object();
+    QCOMPARE(object.keys(),
+             (QStringList{u"drives"_s, u"fileCount"_s, u"filePaths"_s, u"items"_s, u"totalSize"_s}));
+    QCOMPARE(object.value(u"fileCount"), QJsonValue(1));
+    QCOMPARE(object.value(u"totalSize"), QJsonValue(u"3"_s));
+    QCOMPARE(object.value(u"filePaths").toArray().size(), 2);
+    QCOMPARE(object.value(u"drives").toArray().size(), 1);
+    const QJsonObject item = object.value(u"items").toArray().at(0).toObject();
+    QCOMPARE(item.value(u"fileName"), QJsonValue(u"a.txt"_s));
+    QCOMPARE(item.value(u"originalPath"), QJsonValue(u"C:\\a.txt"_s));
+    QVERIFY(item.value(u"recyclePath").toString().endsWith(u"$RAAAAAA.txt"_s));
+    QVERIFY(item.value(u"infoPath").toString().endsWith(u"$IAAAAAA.txt"_s));
+    QCOMPARE(item.value(u"size"), QJsonValue(u"3"_s));
+    QCOMPARE(item.value(u"isDirectory"), QJsonValue(false));
+}
+
+void TestCliTrash::anEmptyBinListsNothing()
+{
+    CliRun run;
+    run(list());
+    QCOMPARE(run.code, 0);
+    QCOMPARE(run.io.out, QByteArray("0 items, 0 B\n"));
+}
+
+void TestCliTrash::aRootThatIsNoFolderIsRefused()
+{
+    CliRun run;
+    run({u"trash"_s, u"list"_s, u"--root"_s, path(u"missing"_s)});
+    QCOMPARE(run.code, 3);
+    QVERIFY2(run.complains("is no folder"), run.io.err.constData());
+}
+
+void TestCliTrash::sidWithoutRootMakesNoSense()
+{
+    CliRun run;
+    run({u"wipe"_s, u"trash"_s, u"--sid"_s, Alice, u"--yes"_s});
+    QCOMPARE(run.code, 2);
+    QVERIFY2(run.complains("--sid needs --root"), run.io.err.constData());
+    CliRun empty;
+    empty(wipe({u"--sid="_s, u"--yes"_s})); // a variable that was never set must not stand for everybody
+    QCOMPARE(empty.code, 2);
+}
+
+void TestCliTrash::anEmptyRootIsNotTheCurrentFolder()
+{
+    CliRun run;
+    run({u"wipe"_s, u"trash"_s, u"--root="_s, u"--yes"_s});
+    QCOMPARE(run.code, 2);
+}
+
+void TestCliTrash::aRootUnderTwoNamesCountsOnce()
+{
+    addDeleted(Alice, u"AAAAAA.txt"_s, u"C:\\a.txt"_s, "abc");
+    CliRun run;
+    run(list({u"--root"_s, m_root->path() + u"/."_s}));
+    QCOMPARE(run.code, 0);
+    QVERIFY2(run.io.out.endsWith("1 item, 3 B\n"), run.io.out.constData());
+}
+
+void TestCliTrash::namesCannotSteerTheTerminal()
+{
+    addDeleted(Alice, u"AAAAAA.txt"_s, u"C:\\a\x1b[2J\u202Etxt"_s, "abc");
+    CliRun run;
+    run(list());
+    QVERIFY(!run.io.out.contains('\x1b'));
+    QVERIFY(!run.io.out.contains("\xe2\x80\xae"));
+}
+
+void TestCliTrash::whatWasListedIsErased()
+{
+    addDeleted(Alice, u"AAAAAA.txt"_s, u"C:\\a.txt"_s, QByteArray(5000, 'a'));
+    addDeleted(Bob, u"BBBBBB"_s, u"C:\\folder"_s, {});
+    QVERIFY(QFile::remove(bin(Bob, u"$RBBBBBB"_s)));
+    QVERIFY(QDir().mkpath(bin(Bob, u"$RBBBBBB/sub"_s)));
+    QVERIFY(writeFile(bin(Bob, u"$RBBBBBB/sub/deep.txt"_s), "deep"));
+    QVERIFY(writeFile(bin(Bob, u"desktop.ini"_s), "kept"));
+    QVERIFY(writeFile(path(u"kept.txt"_s), "kept"));
+    CliRun run;
+    run(wipe());
+    QCOMPARE(run.code, 0);
+    QCOMPARE(QDir(bin(Alice, {})).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+             QStringList());
+    QCOMPARE(QDir(bin(Bob, {})).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+             QStringList{u"desktop.ini"_s});
+    QCOMPARE(contentOf(path(u"kept.txt"_s)), QByteArray("kept"));
+    QVERIFY2(run.io.out.contains("DONE: the Recycle Bin, NIST 800-88"), run.io.out.constData());
+}
+
+void TestCliTrash::onlyTheUserThatWasNamedLosesFiles()
+{
+    addDeleted(Alice, u"AAAAAA.txt"_s, u"C:\\a.txt"_s, "a");
+    addDeleted(Bob, u"BBBBBB.txt"_s, u"C:\\b.txt"_s, "b");
+    CliRun run;
+    run(wipe({u"--sid"_s, Bob, u"--yes"_s}));
+    QCOMPARE(run.code, 0);
+    QCOMPARE(contentOf(bin(Alice, u"$RAAAAAA.txt"_s)), QByteArray("a"));
+    QVERIFY(!QFile::exists(bin(Bob, u"$RBBBBBB.txt"_s)));
+}
+
+void TestCliTrash::nothingIsErasedWithoutTheWord()
+{
+    addDeleted(Alice, u"AAAAAA.txt"_s, u"C:\\a.txt"_s, "a");
+    CliRun run;
+    run.io.inputIsTerminal = true;
+    run.io.input = {u"yes"_s};
+    run(wipe({}));
+    QCOMPARE(run.code, 3);
+    QCOMPARE(contentOf(bin(Alice, u"$RAAAAAA.txt"_s)), QByteArray("a"));
+    QVERIFY2(run.io.err.contains("C:\\a.txt (1 B)") && run.io.err.contains("1 item, 1 B"),
+             run.io.err.constData());
+}
+
+void TestCliTrash::anEmptyBinIsDoneAtOnce()
+{
+    CliRun run;
+    run(wipe());
+    QCOMPARE(run.code, 0);
+    QCOMPARE(run.io.out, QByteArray("The Recycle Bin is empty.\n"));
+    CliRun machine;
+    machine(wipe({u"--yes"_s, u"--json"_s}));
+    QCOMPARE(machine.code, 0);
+    QCOMPARE(machine.io.events(u"log"_s).size(), 1);
+}
+
+void TestCliTrash::aBinThatIsALinkIsLeftAlone()
+{
+    const QTemporaryDir elsewhere;
+    QVERIFY(QDir().mkpath(elsewhere.filePath(Alice)));
+    QVERIFY(writeFile(elsewhere.filePath(Alice + u"/$IAAAAAA.txt"_s), infoVersion2(u"C:\\a.txt"_s, 1)));
+    QVERIFY(writeFile(elsewhere.filePath(Alice + u"/$RAAAAAA.txt"_s), "a"));
+    if (!makeLink(elsewhere.path(), path(u"$Recycle.Bin"_s)))
+        QSKIP(NoLinks);
+    CliRun run;
+    run(wipe());
+    QCOMPARE(run.code, 0);
+    QCOMPARE(contentOf(elsewhere.filePath(Alice + u"/$RAAAAAA.txt"_s)), QByteArray("a"));
+}
+
+void TestCliTrash::aRecordThatLeadsElsewhereErasesNothingThere()
+{
+    QVERIFY(writeFile(path(u"victim.txt"_s), "kept"));
+    addDeleted(Alice, u"AAAAAA.txt"_s, path(u"victim.txt"_s), "a");
+    addDeleted(Alice, u"BBBBBB.txt"_s, u"../../victim.txt"_s, "b");
+    CliRun run;
+    run(wipe());
+    QCOMPARE(run.code, 0);
+    QCOMPARE(contentOf(path(u"victim.txt"_s)), QByteArray("kept"));
+}
+
+void TestCliTrash::aDamagedRecordIsErasedWithItsFile()
+{
+    QVERIFY(QDir().mkpath(bin(Alice, {})));
+    QVERIFY(writeFile(bin(Alice, u"$IAAAAAA.txt"_s), "\x02"));
+    QVERIFY(writeFile(bin(Alice, u"$RAAAAAA.txt"_s), "secret"));
+    CliRun run;
+    run(wipe());
+    QCOMPARE(run.code, 0);
+    QVERIFY(!QFile::exists(bin(Alice, u"$IAAAAAA.txt"_s)));
+    QVERIFY(!QFile::exists(bin(Alice, u"$RAAAAAA.txt"_s)));
+}
+
+#ifdef Q_OS_UNIX
+void TestCliTrash::theDesktopsTrashIsErasedWithItsRecords()
+{
+    const QString trash = m_home.filePath(u"Trash"_s);
+    QVERIFY(QDir().mkpath(trash + u"/files"_s));
+    QVERIFY(QDir().mkpath(trash + u"/info"_s));
+    QVERIFY(writeFile(trash + u"/files/letter.txt"_s, QByteArray(100, 'l')));
+    QVERIFY(writeFile(trash + u"/info/letter.txt.trashinfo"_s, "[Trash Info]\nPath=/tmp/a%20letter.txt\n"));
+    QVERIFY(writeFile(trash + u"/files/stray"_s, "stray"));
+    CliRun run;
+    run({u"trash"_s, u"list"_s});
+    QCOMPARE(run.code, 0);
+    QVERIFY2(run.io.out.contains("/tmp/a letter.txt (100 B)\n"), run.io.out.constData());
+    QVERIFY(run.io.out.endsWith("2 items, 105 B\n"));
+    CliRun erasing;
+    erasing({u"wipe"_s, u"trash"_s, u"--yes"_s});
+    QCOMPARE(erasing.code, 0);
+    QVERIFY(QDir(trash + u"/files"_s).isEmpty());
+    QVERIFY(QDir(trash + u"/info"_s).isEmpty());
+}
+
+void TestCliTrash::namesOfErasedFoldersLeaveTheRecords()
+{
+    const QString trash = m_home.filePath(u"Trash"_s);
+    QVERIFY(QDir().mkpath(trash + u"/files/project"_s));
+    QVERIFY(QDir().mkpath(trash + u"/info"_s));
+    QVERIFY(writeFile(trash + u"/files/project/plan.txt"_s, "plan"));
+    QVERIFY(writeFile(trash + u"/info/project.trashinfo"_s, "[Trash Info]\nPath=/tmp/project\n"));
+    QVERIFY(writeFile(trash + u"/directorysizes"_s, "4 1700000000 project\n"));
+    CliRun run;
+    run({u"wipe"_s, u"trash"_s, u"--yes"_s});
+    QCOMPARE(run.code, 0);
+    QVERIFY(!contentOf(trash + u"/directorysizes"_s).contains("project"));
+}
+
+void TestCliTrash::recordsThatCannotBeMendedAreTold()
+{
+    const QString trash = m_home.filePath(u"Trash"_s);
+    QVERIFY(QDir().mkpath(trash + u"/files"_s));
+    QVERIFY(QDir().mkpath(trash + u"/info"_s));
+    QVERIFY(writeFile(trash + u"/files/a"_s, "a"));
+    // What stands there is no file that could be read.
+    QVERIFY(QDir().mkpath(trash + u"/directorysizes/x"_s));
+    CliRun run;
+    run({u"wipe"_s, u"trash"_s, u"--yes"_s, u"--json"_s});
+    QCOMPARE(run.code, 5);
+    QVERIFY(!QFile::exists(trash + u"/files/a"_s));
+    QVERIFY(run.io.events().constLast().value(u"success").toBool()); // what was erased is still told
+    QCOMPARE(run.io.events(u"error"_s).size(), 1);
+}
+
+void TestCliTrash::aTrashThatIsALinkIsLeftAlone()
+{
+    const QTemporaryDir elsewhere;
+    QVERIFY(QDir().mkpath(elsewhere.filePath(u"files"_s)));
+    QVERIFY(writeFile(elsewhere.filePath(u"files/kept.txt"_s), "kept"));
+    QVERIFY(makeLink(elsewhere.path(), m_home.filePath(u"Trash"_s)));
+    CliRun run;
+    run({u"wipe"_s, u"trash"_s, u"--yes"_s});
+    QCOMPARE(run.code, 0);
+    QCOMPARE(run.io.out, QByteArray("The Recycle Bin is empty.\n"));
+    QCOMPARE(contentOf(elsewhere.filePath(u"files/kept.txt"_s)), QByteArray("kept"));
+    QVERIFY(QFile::remove(m_home.filePath(u"Trash"_s)));
+}
+#endif
+
+QTEST_GUILESS_MAIN(TestCliTrash)
+#include "tst_clitrash.moc"

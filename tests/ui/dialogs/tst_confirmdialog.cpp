@@ -1,0 +1,260 @@
+#include "ui/dialogs/confirmdialog.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QLabel>
+#include <QLayout>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTranslator>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Every text half as long again, as a translation may be.
+class LongTexts : public QTranslator
+{
+public:
+    bool isEmpty() const override { return false; }
+    QString translate(const char *, const char *sourceText, const char *, int) const override
+    {
+        const QString text = QString::fromUtf8(sourceText);
+        return text + u' ' + QString(text.size() / 2, u'n');
+    }
+};
+
+} // namespace
+
+class tst_ConfirmDialog : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void isModalAndOfFixedSize();
+    void showsItsTexts();
+    void showsItsButtons();
+    void showsItsInput();
+    void leavesNothingCut_data();
+    void leavesNothingCut();
+    void typingTheWordEnablesConfirm_data();
+    void typingTheWordEnablesConfirm();
+    void deletingALetterDisablesConfirm();
+    void pastedBlankLeavesConfirmDisabled();
+    void placeholderDoesNotCount();
+    void confirmAccepts();
+    void cancelRejects();
+    void escapeRejects();
+    void enterAcceptsOnlyAfterTheWord();
+
+private:
+    static QLineEdit *input(const QWidget &dialog) { return dialog.findChild<QLineEdit *>(); }
+    static QPushButton *confirmButton(const QWidget &dialog)
+    {
+        return dialog.findChild<QPushButton *>(u"dangerBtn"_s);
+    }
+    static QPushButton *cancelButton(const QWidget &dialog)
+    {
+        return dialog.findChild<QPushButton *>(u"secondaryBtn"_s);
+    }
+};
+
+void tst_ConfirmDialog::isModalAndOfFixedSize()
+{
+    const ConfirmDialog dialog(nullptr);
+    QVERIFY(dialog.isModal());
+    QCOMPARE(dialog.windowTitle(), u"Confirm Erase"_s);
+    QCOMPARE(dialog.minimumSize(), QSize(400, 320));
+    QCOMPARE(dialog.maximumSize(), QSize(400, 320));
+    QCOMPARE(dialog.layout()->contentsMargins(), QMargins(30, 30, 30, 30));
+}
+
+void tst_ConfirmDialog::showsItsTexts()
+{
+    const ConfirmDialog dialog(nullptr);
+    const auto *const title = dialog.findChild<QLabel *>(u"dialogTitle"_s);
+    QCOMPARE(title->text(), u"Warning: Irreversible Operation"_s);
+    QCOMPARE(title->styleSheet(), u"font-size: 18px; font-weight: bold; color: #dc2626;"_s);
+    QCOMPARE(title->alignment(), Qt::AlignCenter);
+    const auto *const message = dialog.findChild<QLabel *>(u"dialogMessage"_s);
+    QCOMPARE(message->text(), u"The selected data will be permanently erased and cannot be recovered."_s);
+    QCOMPARE(message->styleSheet(), u"color: #4b5563;"_s);
+    QCOMPARE(message->alignment(), Qt::AlignCenter);
+    QVERIFY(message->wordWrap());
+
+    const QList<QLabel *> labels = dialog.findChildren<QLabel *>();
+    QCOMPARE(labels.size(), 4);
+    QCOMPARE(labels.at(0)->text(), u"⚠️"_s);
+    QCOMPARE(labels.at(0)->styleSheet(), u"font-size: 48px;"_s);
+    QCOMPARE(labels.at(3)->text(), u"Type <b>ERASE</b> to confirm:"_s);
+    QCOMPARE(labels.at(3)->textFormat(), Qt::RichText);
+    QCOMPARE(labels.at(3)->alignment(), Qt::AlignCenter);
+}
+
+void tst_ConfirmDialog::showsItsButtons()
+{
+    const ConfirmDialog dialog(nullptr);
+    QCOMPARE(cancelButton(dialog)->text(), u"Cancel"_s);
+    QCOMPARE(confirmButton(dialog)->text(), u"Confirm"_s);
+    QVERIFY(cancelButton(dialog)->isEnabled());
+    QVERIFY(!confirmButton(dialog)->isEnabled());
+    for (const QPushButton *button : {cancelButton(dialog), confirmButton(dialog)}) {
+        QCOMPARE(button->minimumSize(), QSize(120, 40));
+        QCOMPARE(button->maximumSize(), QSize(120, 40));
+    }
+}
+
+void tst_ConfirmDialog::showsItsInput()
+{
+    ConfirmDialog dialog(nullptr);
+    QCOMPARE(input(dialog)->size(), QSize(200, 40));
+    QCOMPARE(input(dialog)->placeholderText(), u"ERASE"_s);
+    QCOMPARE(input(dialog)->alignment(), Qt::AlignCenter);
+    QCOMPARE(input(dialog)->styleSheet(),
+             u"QLineEdit { border: 2px solid #e5e7eb; border-radius: 8px; padding: 8px; font-size: 14px; }"
+             "QLineEdit:focus { border-color: #3b82f6; }"_s);
+    QCOMPARE(input(dialog)->accessibleName(), u"Type ERASE to confirm:"_s);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    QVERIFY(input(dialog)->hasFocus());
+}
+
+void tst_ConfirmDialog::leavesNothingCut_data()
+{
+    QTest::addColumn<bool>("isLong");
+    QTest::newRow("source texts") << false;
+    QTest::newRow("texts half as long again") << true;
+}
+
+void tst_ConfirmDialog::leavesNothingCut()
+{
+    QFETCH(const bool, isLong);
+    LongTexts longTexts;
+    if (isLong)
+        QVERIFY(QCoreApplication::installTranslator(&longTexts));
+    ConfirmDialog dialog(nullptr);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    int bottom = 0;
+    for (int i = 0; i < dialog.layout()->count(); ++i) {
+        const QLayoutItem *const item = dialog.layout()->itemAt(i);
+        const QRect place = item->geometry();
+        QVERIFY2(place.top() >= bottom, "items overlap");
+        QVERIFY(place.height() >= item->minimumSize().height());
+        if (item->hasHeightForWidth())
+            QVERIFY(place.height() >= item->heightForWidth(place.width()));
+        bottom = place.bottom();
+    }
+    QVERIFY(bottom < dialog.height() - 29);
+}
+
+void tst_ConfirmDialog::typingTheWordEnablesConfirm_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("enabled");
+    QTest::newRow("upper case") << u"ERASE"_s << true;
+    QTest::newRow("lower case") << u"erase"_s << true;
+    QTest::newRow("capitalised") << u"Erase"_s << true;
+    QTest::newRow("mixed") << u"eRaSe"_s << true;
+    QTest::newRow("too short") << u"ERAS"_s << false;
+    QTest::newRow("too long") << u"ERASED"_s << false;
+    QTest::newRow("leading blank") << u" ERASE"_s << false;
+    QTest::newRow("trailing blank") << u"ERASE "_s << false;
+    QTest::newRow("other word") << u"DELETE"_s << false;
+}
+
+void tst_ConfirmDialog::typingTheWordEnablesConfirm()
+{
+    QFETCH(const QString, text);
+    QFETCH(const bool, enabled);
+    ConfirmDialog dialog(nullptr);
+    QTest::keyClicks(input(dialog), text);
+    QCOMPARE(input(dialog)->text(), text);
+    QCOMPARE(confirmButton(dialog)->isEnabled(), enabled);
+}
+
+void tst_ConfirmDialog::deletingALetterDisablesConfirm()
+{
+    ConfirmDialog dialog(nullptr);
+    QTest::keyClicks(input(dialog), u"erase"_s);
+    QVERIFY(confirmButton(dialog)->isEnabled());
+    QTest::keyClick(input(dialog), Qt::Key_Backspace);
+    QVERIFY(!confirmButton(dialog)->isEnabled());
+    QTest::keyClicks(input(dialog), u"e"_s);
+    QVERIFY(confirmButton(dialog)->isEnabled());
+}
+
+void tst_ConfirmDialog::pastedBlankLeavesConfirmDisabled()
+{
+    ConfirmDialog dialog(nullptr);
+    QApplication::clipboard()->setText(u"ERASE "_s);
+    input(dialog)->paste();
+    QCOMPARE(input(dialog)->text(), u"ERASE "_s);
+    QVERIFY(!confirmButton(dialog)->isEnabled());
+}
+
+void tst_ConfirmDialog::placeholderDoesNotCount()
+{
+    ConfirmDialog dialog(nullptr);
+    QTest::keyClicks(input(dialog), u"e"_s);
+    QTest::keyClick(input(dialog), Qt::Key_Backspace);
+    QCOMPARE(input(dialog)->text(), QString());
+    QVERIFY(!confirmButton(dialog)->isEnabled());
+}
+
+void tst_ConfirmDialog::confirmAccepts()
+{
+    ConfirmDialog dialog(nullptr);
+    const QSignalSpy accepted(&dialog, &QDialog::accepted);
+    dialog.show();
+    QTest::mouseClick(confirmButton(dialog), Qt::LeftButton);
+    QCOMPARE(accepted.count(), 0);
+    QTest::keyClicks(input(dialog), u"ERASE"_s);
+    QTest::mouseClick(confirmButton(dialog), Qt::LeftButton);
+    QCOMPARE(accepted.count(), 1);
+    QCOMPARE(dialog.result(), static_cast<int>(QDialog::Accepted));
+}
+
+void tst_ConfirmDialog::cancelRejects()
+{
+    ConfirmDialog dialog(nullptr);
+    const QSignalSpy accepted(&dialog, &QDialog::accepted);
+    const QSignalSpy rejected(&dialog, &QDialog::rejected);
+    dialog.show();
+    QTest::keyClicks(input(dialog), u"ERASE"_s);
+    QTest::mouseClick(cancelButton(dialog), Qt::LeftButton);
+    QCOMPARE(accepted.count(), 0);
+    QCOMPARE(rejected.count(), 1);
+    QCOMPARE(dialog.result(), static_cast<int>(QDialog::Rejected));
+}
+
+void tst_ConfirmDialog::escapeRejects()
+{
+    ConfirmDialog dialog(nullptr);
+    const QSignalSpy rejected(&dialog, &QDialog::rejected);
+    dialog.show();
+    QTest::keyClicks(input(dialog), u"ERASE"_s);
+    QTest::keyClick(input(dialog), Qt::Key_Escape);
+    QCOMPARE(rejected.count(), 1);
+}
+
+void tst_ConfirmDialog::enterAcceptsOnlyAfterTheWord()
+{
+    ConfirmDialog dialog(nullptr);
+    const QSignalSpy accepted(&dialog, &QDialog::accepted);
+    const QSignalSpy rejected(&dialog, &QDialog::rejected);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    QTest::keyClicks(input(dialog), u"ERAS"_s);
+    QTest::keyClick(input(dialog), Qt::Key_Return);
+    QCOMPARE(accepted.count() + rejected.count(), 0);
+    QTest::keyClicks(input(dialog), u"E"_s);
+    QTest::keyClick(input(dialog), Qt::Key_Return);
+    QCOMPARE(accepted.count(), 1);
+    QCOMPARE(rejected.count(), 0);
+}
+
+QTEST_MAIN(tst_ConfirmDialog)
+#include "tst_confirmdialog.moc"

@@ -1,0 +1,186 @@
+#include "ui/mainwindow/windowfixture.h"
+
+#include "ui/files/fileselectpage.h"
+
+#include <QScrollBar>
+#include <QTextEdit>
+
+using namespace Qt::StringLiterals;
+
+// The Recycle Bin on the main window, on a Trash of the test's own.
+class TestRecycleBinFlow : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+
+    void theBinIsShownInPieces();
+    void theShownBinIsErasedAndFreeSpaceOffered();
+    void anEmptyBinLeadsHomeAndOffersFreeSpace_data();
+    void anEmptyBinLeadsHomeAndOffersFreeSpace();
+    void backDuringTheScanDropsItsResult();
+    void backAfterTheScanRestoresThePage();
+    void backFromTheMethodsKeepsTheBin();
+    void whatVanishesAfterTheScanStopsTheJob();
+
+private:
+    // Below the folder that the window fixture gives to the user.
+    static void addTrash(const WindowFixture &fixture, int count);
+    static QString trash(const WindowFixture &fixture, const QString &name = {});
+};
+
+void TestRecycleBinFlow::initTestCase()
+{
+#ifdef Q_OS_WIN
+    QSKIP("SKIPPED: the bins of Windows lie on its drives, of which a test sees none");
+#endif
+}
+
+QString TestRecycleBinFlow::trash(const WindowFixture &fixture, const QString &name)
+{
+    return fixture.homePath(u"data/Trash/"_s) + name;
+}
+
+void TestRecycleBinFlow::addTrash(const WindowFixture &fixture, int count)
+{
+    QVERIFY(QDir().mkpath(trash(fixture, u"info"_s)));
+    for (int i = 0; i < count; ++i) {
+        const QString name = u"file%1.txt"_s.arg(i, 3, 10, QChar(u'0'));
+        QVERIFY(writeTestFile(trash(fixture, u"files/"_s + name), "deleted"));
+        QVERIFY(writeTestFile(trash(fixture, u"info/"_s + name + u".trashinfo"_s),
+                              "[Trash Info]\nPath=/tmp/" + name.toUtf8() + "\n"));
+    }
+}
+
+void TestRecycleBinFlow::theBinIsShownInPieces()
+{
+    WindowFixture fixture;
+    addTrash(fixture, 45);
+    fixture.window->onRecycleBinWipeClicked();
+    auto *page = fixture.window->findChild<FileSelectPage *>();
+    QCOMPARE(page->stack()->currentIndex(), int(FileSelectPage::DropZoneView));
+    QTRY_COMPARE(page->stack()->currentIndex(), int(FileSelectPage::ListView));
+    QCOMPARE(page->list()->count(), 20);
+    QCOMPARE(page->statsLabel()->text(), u"Found 45 items, total 315 B"_s);
+    QVERIFY(page->nextButton()->isEnabled());
+    QVERIFY(!fixture.button(u"📄 Add Files"_s)->isVisible());
+    QVERIFY(page->list()->item(0)->text().startsWith(u"📄  file"_s));
+    QVERIFY(page->list()->item(0)->text().endsWith(u".txt  (7 B)"_s));
+    QVERIFY(page->list()->item(0)->toolTip().startsWith(u"/tmp/file"_s));
+    QVERIFY(page->list()->item(0)->data(Qt::UserRole).toString().contains(u"/Trash/files/file"_s));
+
+    QScrollBar *bar = page->list()->verticalScrollBar();
+    QTRY_VERIFY(bar->maximum() > 0);
+    bar->setValue(int(0.5 * bar->maximum()));
+    QCOMPARE(page->list()->count(), 20);
+    bar->setValue(bar->maximum());
+    QCOMPARE(page->list()->count(), 40);
+    QTRY_VERIFY(bar->value() < bar->maximum());
+    bar->setValue(bar->maximum());
+    QCOMPARE(page->list()->count(), 45);
+}
+
+void TestRecycleBinFlow::theShownBinIsErasedAndFreeSpaceOffered()
+{
+    WindowFixture fixture;
+    addTrash(fixture, 3);
+    fixture.window->onRecycleBinWipeClicked();
+    QTRY_VERIFY(fixture.button(u"Next →"_s)->isEnabled());
+    QVERIFY(fixture.click(u"Next →"_s));
+    fixture.dialogs.answers = {WindowFixture::typeErase, WindowFixture::pressButton(u"Done"_s)};
+    fixture.prompts.buttons = {QMessageBox::Yes};
+    QVERIFY(fixture.click(u"Start"_s));
+    QTRY_COMPARE_WITH_TIMEOUT(fixture.window->currentPage(), int(MainWindow::DiskSelect), 60000);
+    QCOMPARE(fixture.prompts.boxes.constFirst().title, u"Wipe Free Space?"_s);
+    QVERIFY(QDir(trash(fixture, u"files"_s)).isEmpty());
+    QVERIFY(QDir(trash(fixture, u"info"_s)).isEmpty());
+    QCOMPARE(fixture.reports().size(), 1);
+}
+
+void TestRecycleBinFlow::anEmptyBinLeadsHomeAndOffersFreeSpace_data()
+{
+    QTest::addColumn<int>("answer");
+    QTest::addColumn<int>("page");
+    QTest::newRow("no") << int(QMessageBox::No) << int(MainWindow::Home);
+    QTest::newRow("yes") << int(QMessageBox::Yes) << int(MainWindow::DiskSelect);
+}
+
+void TestRecycleBinFlow::anEmptyBinLeadsHomeAndOffersFreeSpace()
+{
+    QFETCH(int, answer);
+    QFETCH(int, page);
+    WindowFixture fixture;
+    fixture.prompts.buttons = {static_cast<QMessageBox::StandardButton>(answer)};
+    fixture.window->onRecycleBinWipeClicked();
+    QTRY_COMPARE(fixture.prompts.boxes.size(), 1);
+    QCOMPARE(fixture.prompts.boxes.constFirst().title, u"Recycle Bin is Empty"_s);
+    QCOMPARE(fixture.window->currentPage(), page);
+}
+
+void TestRecycleBinFlow::backDuringTheScanDropsItsResult()
+{
+    WindowFixture fixture;
+    addTrash(fixture, 5);
+    fixture.window->onRecycleBinWipeClicked();
+    QVERIFY(fixture.click(u"← Back"_s));
+    QCOMPARE(fixture.window->currentPage(), int(MainWindow::Home));
+    auto *watcher = fixture.window->findChild<QFutureWatcherBase *>();
+    QVERIFY(watcher);
+    QTRY_VERIFY(watcher->isFinished());
+    QTest::qWait(50);
+    QCOMPARE(fixture.window->currentPage(), int(MainWindow::Home));
+    QCOMPARE(fixture.prompts.boxes.size(), 0);
+    fixture.window->onFileWipeClicked();
+    QCOMPARE(fixture.window->findChild<FileSelectPage *>()->list()->count(), 0);
+    QVERIFY(fixture.button(u"📄 Add Files"_s)->isVisible());
+}
+
+void TestRecycleBinFlow::backAfterTheScanRestoresThePage()
+{
+    WindowFixture fixture;
+    addTrash(fixture, 5);
+    fixture.window->onRecycleBinWipeClicked();
+    auto *page = fixture.window->findChild<FileSelectPage *>();
+    QTRY_COMPARE(page->list()->count(), 5);
+    QVERIFY(fixture.click(u"← Back"_s));
+    fixture.window->onFileWipeClicked();
+    QCOMPARE(page->list()->count(), 0);
+    QVERIFY(!page->nextButton()->isEnabled());
+    QVERIFY(fixture.button(u"📄 Add Files"_s)->isVisible());
+    QCOMPARE(page->findChild<QLabel *>(u"pageTitle"_s)->text(), u"Select Files to Shred"_s);
+}
+
+void TestRecycleBinFlow::backFromTheMethodsKeepsTheBin()
+{
+    WindowFixture fixture;
+    addTrash(fixture, 5);
+    fixture.window->onRecycleBinWipeClicked();
+    QTRY_VERIFY(fixture.button(u"Next →"_s)->isEnabled());
+    QVERIFY(fixture.click(u"Next →"_s));
+    QVERIFY(fixture.click(u"← 返回"_s));
+    QCOMPARE(fixture.window->currentPage(), int(MainWindow::FileSelect));
+    auto *page = fixture.window->findChild<FileSelectPage *>();
+    QCOMPARE(page->list()->count(), 5);
+    QVERIFY(page->nextButton()->isEnabled());
+}
+
+void TestRecycleBinFlow::whatVanishesAfterTheScanStopsTheJob()
+{
+    WindowFixture fixture;
+    addTrash(fixture, 2);
+    fixture.window->onRecycleBinWipeClicked();
+    auto *page = fixture.window->findChild<FileSelectPage *>();
+    QTRY_COMPARE(page->list()->count(), 2);
+    QVERIFY(QFile::remove(trash(fixture, u"files/file000.txt"_s)));
+    QVERIFY(fixture.click(u"Next →"_s));
+    fixture.dialogs.answers = {WindowFixture::typeErase};
+    QVERIFY(fixture.click(u"Start"_s));
+    QCOMPARE(fixture.window->currentPage(), int(MainWindow::Progress));
+    const QString log = fixture.page()->findChild<QTextEdit *>(u"logText"_s)->toPlainText();
+    QVERIFY2(log.contains(u"file000.txt"_s), qPrintable(log));
+    QVERIFY(QFile::exists(trash(fixture, u"files/file001.txt"_s)));
+}
+
+QTEST_MAIN(TestRecycleBinFlow)
+#include "tst_recyclebinflow.moc"

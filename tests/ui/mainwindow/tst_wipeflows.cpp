@@ -1,0 +1,316 @@
+#include "ui/mainwindow/windowfixture.h"
+
+#include "certificate/certificatedialog.h"
+#include "engine/wipeengine.h"
+#include "ui/dialogs/completedialog.h"
+#include "ui/dialogs/confirmdialog.h"
+
+#include <QSignalSpy>
+#include <QTextEdit>
+#include <QTreeWidget>
+
+using namespace Qt::StringLiterals;
+
+// Jobs from the first click to the completion dialog, with the real engine and workers.
+class TestWipeFlows : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void aDiskIsErasedAndItsReportKept();
+    void filesAreErased();
+    void cancellingTheConfirmationStartsNothing();
+    void theMenuIsDisabledWhileAJobRuns();
+    void stoppingAsksFirst();
+    void aStoppedJobLeavesItsReport();
+    void closingDuringAJobAsksFirst();
+    void aRefusedTaskIsToldInTheLog();
+    void aFailedJobIsStoredAndNotExported();
+    void withoutReportsNothingIsStoredOrExported();
+    void theCertificateIsExportedWhenWanted();
+    void aMissingExportFolderIsSkipped();
+    void theCertificateOpensFromTheCompletionDialog();
+    void aDatabaseThatDoesNotTakeTheReportIsTold();
+    void comingBackDoesNotDoubleTheFiles();
+
+private:
+    QString image(const QString &name = u"disk.img"_s, qsizetype size = 4 << 20)
+    {
+        const QString path = m_folder.filePath(name);
+        [&] { QVERIFY(writeTestFile(path, QByteArray(size, 'x'))); }();
+        return path;
+    }
+
+    QTemporaryDir m_folder;
+};
+
+namespace {
+
+void chooseDisk(const WindowFixture &fixture)
+{
+    fixture.window->onDiskWipeClicked();
+    auto *tree = fixture.page()->findChild<QTreeWidget *>(u"diskTree"_s);
+    QTRY_COMPARE(tree->topLevelItemCount(), 1);
+    tree->setCurrentItem(tree->topLevelItem(0));
+    QVERIFY(fixture.click(u"Next →"_s));
+}
+
+void chooseFiles(WindowFixture &fixture, const QStringList &files)
+{
+    fixture.window->onFileWipeClicked();
+    fixture.prompts.filesToOpenAnswers = {files};
+    QVERIFY(fixture.click(u"📄 Add Files"_s));
+    QVERIFY(fixture.click(u"Next →"_s));
+}
+
+// Runs the job that is chosen up to the answered completion dialog.
+void runJob(WindowFixture &fixture, const QString &button = u"Done"_s)
+{
+    fixture.dialogs.answers = {WindowFixture::typeErase, WindowFixture::pressButton(button)};
+    QVERIFY(fixture.click(u"Start"_s));
+    QTRY_VERIFY_WITH_TIMEOUT(
+        fixture.dialogs.answers.isEmpty() && fixture.window->currentPage() == MainWindow::Home, 60000);
+    QCOMPARE(fixture.dialogs.unexpected, 0);
+}
+
+bool isJobRunning(const WindowFixture &fixture)
+{
+    return fixture.window->findChild<WipeEngine *>()->isRunning();
+}
+
+// A file that takes a while.
+QString longFile(const QTemporaryDir &folder)
+{
+    const QString path = folder.filePath(u"long.bin"_s);
+    QFile file(path);
+    [&] {
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QVERIFY(file.resize(qint64(256) << 20));
+    }();
+    return path;
+}
+
+void startLongJob(WindowFixture &fixture, const QTemporaryDir &folder)
+{
+    chooseFiles(fixture, {longFile(folder)});
+    auto *list = fixture.page();
+    QVERIFY(list);
+    fixture.dialogs.answers = {WindowFixture::typeErase};
+    QVERIFY(fixture.click(u"Start"_s));
+    QCOMPARE(fixture.window->currentPage(), int(MainWindow::Progress));
+    QVERIFY(isJobRunning(fixture));
+}
+
+} // namespace
+
+void TestWipeFlows::aDiskIsErasedAndItsReportKept()
+{
+    const QString path = image();
+    WindowFixture fixture({path});
+    chooseDisk(fixture);
+    runJob(fixture);
+    QCOMPARE(contentOfTestFile(path), QByteArray(4 << 20, '\0'));
+    const QList<WipeReport> reports = fixture.reports();
+    QCOMPARE(reports.size(), 1);
+    QCOMPARE(reports.constFirst().status, WipeStatus::Completed);
+    QCOMPARE(reports.constFirst().operationType, DiskWipe);
+    QCOMPARE(reports.constFirst().wipedSectors, quint64(8192));
+    QCOMPARE(fixture.dialogs.titles, (QStringList{u"Confirm Erase"_s, u"Erasing Complete"_s}));
+    QCOMPARE(fixture.child<QListWidget>("menuList")->isEnabled(), true);
+    QCOMPARE(fixture.child<QListWidget>("menuList")->styleSheet(), QString());
+}
+
+void TestWipeFlows::filesAreErased()
+{
+    const QString one = m_folder.filePath(u"one.txt"_s);
+    QVERIFY(writeTestFile(one, "one"));
+    WindowFixture fixture;
+    chooseFiles(fixture, {one});
+    runJob(fixture);
+    QVERIFY(!QFile::exists(one));
+    QCOMPARE(fixture.reports().size(), 1);
+    QCOMPARE(fixture.reports().constFirst().fileCount, 1);
+}
+
+void TestWipeFlows::cancellingTheConfirmationStartsNothing()
+{
+    const QString one = m_folder.filePath(u"one.txt"_s);
+    QVERIFY(writeTestFile(one, "one"));
+    WindowFixture fixture;
+    chooseFiles(fixture, {one});
+    fixture.dialogs.answers = {WindowFixture::pressButton(u"Cancel"_s)};
+    QVERIFY(fixture.click(u"Start"_s));
+    QCOMPARE(fixture.window->currentPage(), int(MainWindow::MethodSelect));
+    QVERIFY(!isJobRunning(fixture));
+    QCOMPARE(contentOfTestFile(one), QByteArray("one"));
+}
+
+void TestWipeFlows::theMenuIsDisabledWhileAJobRuns()
+{
+    WindowFixture fixture;
+    startLongJob(fixture, m_folder);
+    QVERIFY(!fixture.child<QListWidget>("menuList")->isEnabled());
+    QCOMPARE(fixture.child<QListWidget>("menuList")->styleSheet(), u"QListWidget { opacity: 0.5; }"_s);
+    fixture.prompts.buttons = {QMessageBox::Ok};
+    fixture.window->onStopClicked();
+    QVERIFY(fixture.child<QListWidget>("menuList")->isEnabled());
+}
+
+void TestWipeFlows::stoppingAsksFirst()
+{
+    WindowFixture fixture;
+    startLongJob(fixture, m_folder);
+    fixture.prompts.buttons = {QMessageBox::Cancel, QMessageBox::Ok};
+    fixture.window->onStopClicked();
+    QCOMPARE(fixture.prompts.boxes.constFirst().title, u"Confirm Stop"_s);
+    QCOMPARE(fixture.prompts.boxes.constFirst().byDefault, QMessageBox::Cancel);
+    QCOMPARE(fixture.window->currentPage(), int(MainWindow::Progress));
+    fixture.window->onStopClicked();
+    QCOMPARE(fixture.window->currentPage(), int(MainWindow::Home));
+    QVERIFY(!isJobRunning(fixture));
+}
+
+void TestWipeFlows::aStoppedJobLeavesItsReport()
+{
+    WindowFixture fixture;
+    startLongJob(fixture, m_folder);
+    fixture.prompts.buttons = {QMessageBox::Ok};
+    fixture.dialogs.answers = {WindowFixture::pressButton(u"Close"_s)};
+    fixture.window->onStopClicked();
+    QTRY_COMPARE(fixture.dialogs.answers.size(), 0);
+    QTRY_COMPARE(fixture.reports().size(), 1);
+    // The worker's own end, which comes after the stop, has the last word.
+    QCOMPARE(fixture.reports().constFirst().status, WipeStatus::Failed);
+    QCOMPARE(fixture.dialogs.titles.constLast(), u"Erase Failed"_s);
+}
+
+void TestWipeFlows::closingDuringAJobAsksFirst()
+{
+    WindowFixture fixture;
+    startLongJob(fixture, m_folder);
+    fixture.prompts.buttons = {QMessageBox::No, QMessageBox::Yes};
+    QVERIFY(!fixture.window->close());
+    QCOMPARE(fixture.prompts.boxes.constFirst().title, u"Confirm Exit"_s);
+    QCOMPARE(fixture.prompts.boxes.constFirst().byDefault, QMessageBox::No);
+    QVERIFY(isJobRunning(fixture));
+    QVERIFY(fixture.window->close());
+    QVERIFY(!isJobRunning(fixture));
+}
+
+void TestWipeFlows::aRefusedTaskIsToldInTheLog()
+{
+    WindowFixture fixture;
+    fixture.window->onFileWipeClicked();
+    fixture.window->onNextClicked(); // nothing was added
+    fixture.dialogs.answers = {WindowFixture::typeErase};
+    QVERIFY(fixture.click(u"Start"_s));
+    QVERIFY(!isJobRunning(fixture));
+    QCOMPARE(fixture.window->currentPage(), int(MainWindow::Progress));
+    QVERIFY(!fixture.page()->findChild<QTextEdit *>(u"logText"_s)->toPlainText().isEmpty());
+    fixture.prompts.buttons = {QMessageBox::Ok};
+    fixture.window->onStopClicked();
+    QCOMPARE(fixture.window->currentPage(), int(MainWindow::Home));
+    QVERIFY(fixture.child<QListWidget>("menuList")->isEnabled());
+    QCOMPARE(fixture.reports().size(), 0);
+}
+
+void TestWipeFlows::aFailedJobIsStoredAndNotExported()
+{
+    const QString path = image();
+    WindowFixture fixture({path});
+    const QTemporaryDir exports;
+    fixture.settings.set(usersettings::AutoExport, true);
+    fixture.settings.set(usersettings::ExportPath, exports.path());
+    chooseDisk(fixture);
+    // The drive is gone when the job begins.
+    QVERIFY(QFile::remove(path));
+    runJob(fixture, u"Close"_s);
+    QCOMPARE(fixture.reports().size(), 1);
+    QCOMPARE(fixture.reports().constFirst().status, WipeStatus::Failed);
+    QVERIFY(QDir(exports.path()).isEmpty());
+}
+
+void TestWipeFlows::withoutReportsNothingIsStoredOrExported()
+{
+    const QString path = image();
+    WindowFixture fixture({path});
+    const QTemporaryDir exports;
+    fixture.settings.set(usersettings::GenerateReport, false);
+    fixture.settings.set(usersettings::AutoExport, true);
+    fixture.settings.set(usersettings::ExportPath, exports.path());
+    chooseDisk(fixture);
+    runJob(fixture);
+    QCOMPARE(fixture.reports().size(), 0);
+    QVERIFY(QDir(exports.path()).isEmpty());
+}
+
+void TestWipeFlows::theCertificateIsExportedWhenWanted()
+{
+    const QString path = image();
+    WindowFixture fixture({path});
+    const QTemporaryDir exports;
+    fixture.settings.set(usersettings::AutoExport, true);
+    fixture.settings.set(usersettings::ExportPath, exports.path());
+    chooseDisk(fixture);
+    runJob(fixture);
+    QCOMPARE(fixture.reports().size(), 1);
+    const QString pdf = fixture.reports().constFirst().certificateId + u".pdf"_s;
+    QCOMPARE(QDir(exports.path()).entryList(QDir::Files), QStringList{pdf});
+    QVERIFY(contentOfTestFile(exports.filePath(pdf)).startsWith("%PDF-"));
+    QCOMPARE(fixture.prompts.boxes.size(), 0);
+}
+
+void TestWipeFlows::aMissingExportFolderIsSkipped()
+{
+    const QString path = image();
+    WindowFixture fixture({path});
+    fixture.settings.set(usersettings::AutoExport, true);
+    fixture.settings.set(usersettings::ExportPath, m_folder.filePath(u"gone"_s));
+    chooseDisk(fixture);
+    runJob(fixture);
+    QCOMPARE(fixture.reports().size(), 1);
+    QVERIFY(!QFile::exists(m_folder.filePath(u"gone"_s)));
+}
+
+void TestWipeFlows::theCertificateOpensFromTheCompletionDialog()
+{
+    const QString path = image();
+    WindowFixture fixture({path});
+    chooseDisk(fixture);
+    bool isCertificate = false;
+    fixture.dialogs.answers = {WindowFixture::typeErase, WindowFixture::pressButton(u"View Certificate"_s),
+                               [&isCertificate](QDialog &dialog) {
+                                   isCertificate = qobject_cast<CertificateDialog *>(&dialog) != nullptr;
+                                   dialog.reject();
+                               }};
+    QVERIFY(fixture.click(u"Start"_s));
+    QTRY_VERIFY_WITH_TIMEOUT(
+        fixture.dialogs.answers.isEmpty() && fixture.window->currentPage() == MainWindow::Home, 60000);
+    QVERIFY(isCertificate);
+}
+
+void TestWipeFlows::aDatabaseThatDoesNotTakeTheReportIsTold()
+{
+    const QString path = image();
+    WindowFixture fixture({path});
+    chooseDisk(fixture);
+    ReportDatabase::instance().close();
+    runJob(fixture);
+    QCOMPARE(fixture.prompts.boxes.size(), 1);
+    QCOMPARE(fixture.prompts.boxes.constFirst().icon, QMessageBox::Warning);
+}
+
+void TestWipeFlows::comingBackDoesNotDoubleTheFiles()
+{
+    const QString one = m_folder.filePath(u"one.txt"_s);
+    QVERIFY(writeTestFile(one, "one"));
+    WindowFixture fixture;
+    chooseFiles(fixture, {one});
+    QVERIFY(fixture.click(u"← 返回"_s));
+    QVERIFY(fixture.click(u"Next →"_s));
+    runJob(fixture);
+    QCOMPARE(fixture.reports().constFirst().fileCount, 1);
+}
+
+QTEST_MAIN(TestWipeFlows)
+#include "tst_wipeflows.moc"
