@@ -4,6 +4,7 @@
 #include "services/diskmanager.h"
 
 #include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
 
@@ -13,8 +14,8 @@
 // quorvex-bench-job free MOUNTPOINT zeros|random
 // quorvex-bench-job files METHOD PATH...
 //
-// Runs one job, one pass for the first two, without verification for these, and prints the bytes that it
-// wrote and the peak of its memory. Exit code 0 when the job succeeded.
+// Runs one job, one pass for the first two, without verification for these, and prints the seconds from its
+// start to its end, the bytes that it wrote and the peak of its memory. Exit code 0 when the job succeeded.
 
 namespace {
 
@@ -97,10 +98,13 @@ int main(int argc, char **argv)
     QObject::connect(&engine, &WipeEngine::completed, &application,
                      [](bool success) { QCoreApplication::exit(success ? 0 : 1); });
     engine.setTask(&task);
+    QElapsedTimer clock;
+    clock.start();
     engine.start();
     if (!engine.isRunning())
         return 3;
     const int code = QCoreApplication::exec();
+    std::printf("seconds %.6f\n", double(clock.nsecsElapsed()) / 1e9);
     std::printf("bytes %llu memory %s\n", engine.report().bytesWritten, peakMemory().constData());
     return code;
 }

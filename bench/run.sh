@@ -4,6 +4,7 @@
 # files of its own in a temporary folder (about 4 GiB), needs root.
 #
 #   bench/run.sh [--build FOLDER] [--runs N] [ROW...]     rows: disk shred random file small free count memory
+#            reports bin trash bin-items trash-items; only when named: count-disk
 set -euo pipefail
 export LC_ALL=C
 
@@ -15,16 +16,25 @@ while [ $# -gt 0 ]; do
   case $1 in
     --build) build=$2; shift 2 ;;
     --runs) runs=$2; shift 2 ;;
-    -h|--help) sed -n '2,6s/^# \{0,1\}//p' "$0"; exit 0 ;;
+    -h|--help) sed -n '2,7s/^# \{0,1\}//p' "$0"; exit 0 ;;
     *) rows+=("$1"); shift ;;
   esac
 done
-[ ${#rows[@]} -gt 0 ] || rows=(disk shred random file small free count memory)
+[ ${#rows[@]} -gt 0 ] || rows=(disk shred random file small free count memory reports bin trash bin-items trash-items)
 [ "$(id -u)" = 0 ] || { echo "bench: needs root for loop devices" >&2; exit 1; }
 
 job=$build/bin/quorvex-bench-job
+services=$build/bin/quorvex-bench-services
 cli=$build/bin/quorvex-cli
-for program in "$job" "$cli"; do
+needed=()
+for row in "${rows[@]}"; do
+  case $row in
+    disk|shred|file|small) needed+=("$cli" "$job") ;;
+    reports|bin|trash|bin-items|trash-items) needed+=("$services") ;;
+    *) needed+=("$job") ;;
+  esac
+done
+for program in "${needed[@]}"; do
   [ -x "$program" ] || { echo "bench: $program is missing; build the release preset first" >&2; exit 1; }
 done
 
@@ -32,6 +42,7 @@ folder=$(mktemp -d "${TMPDIR:-/var/tmp}/quorvex-bench.XXXXXX")
 loop=
 clean_up() {
   mountpoint -q "$folder/mnt" 2>/dev/null && umount "$folder/mnt"
+  mountpoint -q "$folder/memory" 2>/dev/null && umount "$folder/memory"
   [ -z "$loop" ] || losetup -d "$loop"
   rm -rf "$folder"
 }
@@ -83,9 +94,10 @@ new_file() { rm -rf "$folder/f"; mkdir "$folder/f"; dd if=/dev/urandom of="$fold
 file_ours() { "$cli" --quiet --data-dir "$folder/data" wipe files "$folder/f/big" --method 0 --yes; }
 file_shred() { shred -n0 -z -u "$folder/f/big"; }
 
+place=$folder
 new_files() { # $1 files of $2 bytes
-  rm -rf "$folder/f"; mkdir "$folder/f"
-  head -c $(($1 * $2)) /dev/urandom | split -a 6 -d -b "$2" - "$folder/f/file"
+  rm -rf "$place/f"; mkdir "$place/f"
+  head -c $(($1 * $2)) /dev/urandom | split -a 6 -d -b "$2" - "$place/f/file"
 }
 small_files() { new_files 2000 16384; }
 small_ours() { "$cli" --quiet --data-dir "$folder/data" wipe files "$folder/f" --method 0 --yes; }
@@ -99,27 +111,91 @@ free_dd() {
   rm -f "$folder/mnt/fill" "$folder/mnt/fill2"
 }
 
-count_row() {
-  local i small=() large=()
+# inside COMMAND...: as timed, but the seconds that the program itself counted.
+inside() {
+  timed "$@"
+  seconds=$(awk '/^seconds/ { print $2 }' "$folder/out")
+}
+
+# grown NAME GOAL FEW MANY: both are functions that leave $seconds of as much work; the ratio is MANY over FEW, so less
+# is better.
+grown() {
+  local name=$1 goal=$2 few=$3 many=$4 i a=() b=() ma mb
+  "$few" # warm-up, not counted
   for ((i = 0; i < runs; i++)); do
-    new_files 1000 4096; timed "$job" files 0 "$folder/f"; small+=("$seconds")
-    new_files 100000 4096; timed "$job" files 0 "$folder/f"; large+=("$seconds")
+    "$few"; a+=("$seconds")
+    "$many"; b+=("$seconds")
   done
-  local ms ml
-  ms=$(printf '%s\n' "${small[@]}" | median)
-  ml=$(printf '%s\n' "${large[@]}" | median)
-  printf '%-46s %9.3f s %9.3f s   %5.2f   (goal at most 1.2)\n' "cost per file, 100,000 against 1,000 files" "$ml" "$ms" \
-    "$(awk -v s="$ms" -v l="$ml" 'BEGIN { print (l / 100000) / (s / 1000) }')"
+  ma=$(printf '%s\n' "${a[@]}" | median)
+  mb=$(printf '%s\n' "${b[@]}" | median)
+  printf '%-46s %9.3f s %9.3f s   %5.2f   (goal %s)\n' "$name" "$mb" "$ma" \
+    "$(awk -v a="$ma" -v b="$mb" 'BEGIN { print b / a }')" "$goal"
+}
+
+# The pages are read often enough to take a good part of a second.
+reports_few() { inside "$services" read-reports "$folder/few" 20; }
+reports_many() { inside "$services" read-reports "$folder/many" 20; }
+reports_row() {
+  "$services" fill-reports "$folder/few" 200
+  "$services" fill-reports "$folder/many" 10000
+  grown "first page of 10,000 against of 200 reports" "at most 1.5" reports_few reports_many
+  rm -r "$folder/few" "$folder/many"
+}
+
+# Whole programs, since find cannot tell what its work took without its start. $bin: "bin" or "trash".
+bin_ours() { "$services" "scan-$bin" "$folder/drive" 0; }
+bin_find() { find "$folder/drive" -printf '%s %f\n'; }
+bin_row() { # $1: what kind it is
+  bin=$1
+  "$services" "fill-$bin" "$folder/drive" 50000
+  compare "50,000 items in a $bin / find" "at least 0.33" nothing bin_ours bin_find
+  rm -r "$folder/drive"
+}
+
+# The same number of items both times.
+items_few() { inside "$services" "scan-$bin" "$folder/few" 50; }
+items_many() { inside "$services" "scan-$bin" "$folder/many" 1; }
+items_row() { # $1: what kind it is
+  bin=$1
+  "$services" "fill-$bin" "$folder/few" 1000
+  "$services" "fill-$bin" "$folder/many" 50000
+  grown "items of a $bin, 50,000 at once / by 1,000" "at most 1.2" items_few items_many
+  rm -r "$folder/few" "$folder/many"
+}
+
+# In memory: on a drive each file waits for the medium, as long whatever their number, which takes many minutes and
+# hides what grows. The row "count-disk" has the drive all the same.
+files_each() { # the time of 100,000 files in $seconds, from $1 jobs of $2
+  local i sum=0
+  for ((i = 0; i < $1; i++)); do
+    new_files "$2" 4096
+    inside "$job" files 0 "$place/f"
+    sum=$(awk -v a="$sum" -v b="$seconds" 'BEGIN { print a + b }')
+  done
+  seconds=$(awk -v s="$sum" -v n=$(($1 * $2)) 'BEGIN { printf "%.4f", s / n * 1e5 }')
+}
+files_few() { files_each 5 1000; }
+files_many() { files_each 1 100000; }
+count_row() { # $1: where
+  grown "100,000 files at once / by 1,000, $1" "at most 1.2" files_few files_many
+}
+count_in_memory() {
+  mkdir "$folder/memory"
+  mount -t tmpfs -o size=1g tmpfs "$folder/memory"
+  place=$folder/memory
+  count_row "in memory"
+  place=$folder
+  umount "$folder/memory"
 }
 
 memory_row() {
   attach 1024
   "$job" disk "$loop" random >"$folder/out"
-  printf '%-46s %s   (goal at most 192 MiB)\n' "memory, disk job with two 64 MiB buffers" "$(sed 's/.*memory //' "$folder/out")"
+  printf '%-46s %s   (goal at most 192 MiB)\n' "memory, disk job with two 64 MiB buffers" "$(sed -n 's/.*memory //p' "$folder/out")"
   detach
   new_files 100000 512
   "$job" files 0 "$folder/f" >"$folder/out"
-  printf '%-46s %s   (goal at most %d kB)\n' "memory, file job with 100,000 files" "$(sed 's/.*memory //' "$folder/out")" \
+  printf '%-46s %s   (goal at most %d kB)\n' "memory, file job with 100,000 files" "$(sed -n 's/.*memory //p' "$folder/out")" \
     $(( ($(nproc) * 16 + 64) * 1024 + 100000 * 400 / 1024 ))
 }
 
@@ -135,8 +211,13 @@ for row in "${rows[@]}"; do
       attach 1300; mkfs.ext4 -q "$loop"; mkdir -p "$folder/mnt"; mount "$loop" "$folder/mnt"
       compare "free space, one constant pass / dd dsync" "at least 0.95" nothing free_ours free_dd
       umount "$folder/mnt"; detach ;;
-    count) count_row ;;
+    count) count_in_memory ;;
+    count-disk) count_row "on a drive" ;;
     memory) memory_row ;;
+    reports) reports_row ;;
+    bin|trash) bin_row "$row" ;;
+    bin-items) items_row bin ;;
+    trash-items) items_row trash ;;
     *) echo "bench: no row $row" >&2; exit 2 ;;
   esac
 done

@@ -20,8 +20,12 @@ if(MSVC)
 else()
   target_compile_options(quorvex_flags INTERFACE
     -Wall -Wextra -Werror -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align
-    -Wold-style-cast -Wduplicated-cond -Wlogical-op -Wvla
+    -Wold-style-cast -Wvla
     -fstack-protector-strong)
+  if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    # Clang has them under no name of their own, and refuses these.
+    target_compile_options(quorvex_flags INTERFACE -Wduplicated-cond -Wlogical-op)
+  endif()
   # Also when linking: with MinGW what it calls is a library of its own.
   target_link_options(quorvex_flags INTERFACE -fstack-protector-strong)
   # std::string_view and friends check their bounds, which costs nothing measurable here.

@@ -1,0 +1,60 @@
+#!/usr/bin/env bash
+# Feeds the readers of what others wrote with random files, from those in tests/fuzz/corpus/ onwards, and asks of
+# each what must hold for any: scripts/fuzz.sh [RUNS]
+#
+# RUNS is the number of files for each reader; without it as many as fit into half a minute or so. The same SEED (from
+# the environment) gives the same files. New finds stay in build/fuzz/.
+# shellcheck source=lib.sh
+source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
+cd "$root"
+
+# As many as each has done in about eight seconds, alone on a small machine.
+declare -A runs=([infofile]=400000 [trashinfo]=300000 [wipereport]=30000)
+# However slow the machine; the number really done is told.
+seconds_at_most=14
+# Longer than the longest that a reader treats in its own way.
+declare -A longest=([infofile]=1200 [trashinfo]=600 [wipereport]=1200)
+
+if (($# > 0)); then
+    [[ $1 =~ ^[1-9][0-9]*$ ]] || fail "how many files? $1 is no number"
+    for name in "${!runs[@]}"; do
+        runs[$name]=$1
+    done
+    seconds_at_most=0
+fi
+seed=${SEED:-$((RANDOM << 15 | RANDOM))}
+[[ $seed =~ ^[1-9][0-9]*$ ]] || fail "SEED is no number above 0: $seed"
+
+# As for the other sanitizers: see sanitize.sh.
+launcher=()
+if (($(cat /proc/sys/vm/mmap_rnd_bits 2>/dev/null || echo 28) > 28)); then
+    launcher=(setarch "$(uname -m)" --addr-no-randomize)
+fi
+
+# fuzz NAME
+fuzz() {
+    local name=$1 work=build/fuzz/$1 log status=0
+    log=$work/log
+    rm -rf "$work/corpus"
+    mkdir -p "$work/findings"
+    cp -r "tests/fuzz/corpus/$name" "$work/corpus"
+    # Reports read times, some of them local ones.
+    TZ=UTC UBSAN_OPTIONS=print_stacktrace=1 "${launcher[@]}" "build/fuzz/bin/fuzz_$name" -seed="$seed" \
+        -runs="${runs[$name]}" -max_total_time="$seconds_at_most" -max_len="${longest[$name]}" -timeout=10 \
+        -rss_limit_mb=1024 -print_final_stats=1 -artifact_prefix="$work/findings/" "$work/corpus" \
+        >"$log" 2>&1 || status=$?
+    if ((status != 0)); then
+        tail -n 60 "$log" >&2
+        fail "reader $name, seed $seed: $(sed -n 's/^.*Test unit written to /the file that it fails on is /p' "$log")" \
+            "(again: build/fuzz/bin/fuzz_$name FILE)"
+    fi
+    grep -E '^Done [1-9][0-9]* runs' "$log" || fail "reader $name did nothing, see $log"
+    sed -n 's/^stat::average_exec_per_sec: */files a second: /p' "$log"
+}
+
+step "packages" install_packages "${packages_build[@]}" "${packages_fuzz[@]}"
+step "build (fuzz)" build fuzz
+printf '\nSeed %s\n' "$seed"
+for name in infofile trashinfo wipereport; do
+    step "reader $name" fuzz "$name"
+done

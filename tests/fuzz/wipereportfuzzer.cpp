@@ -1,0 +1,30 @@
+#include "fuzz/checks.h"
+#include "model/wipereport.h"
+
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <cstddef>
+#include <cstdint>
+
+// The text of a report comes from a database, or from a file that somebody wants checked.
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size);
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+{
+    const QByteArray text(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
+    const WipeReport report = WipeReport::fromJson(text);
+    // Otherwise every reading draws an id of its own.
+    if (!QJsonDocument::fromJson(text).isNull())
+        require(WipeReport::fromJson(text) == report, "the same text, the same report");
+    else
+        require(report.certificateId.startsWith(u"QVX-"), "what is no JSON gives a fresh report");
+
+    const QByteArray written = report.toJson();
+    const QJsonDocument document = QJsonDocument::fromJson(written);
+    require(document.isObject(), "what is written is one JSON object");
+    require(document.object().value(u"wipeItems").isArray(), "the list of items is there, empty or not");
+    require(WipeReport::fromJson(written).toJson() == written, "what is written reads back the same");
+    return 0;
+}
