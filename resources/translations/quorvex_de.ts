@@ -2175,20 +2175,21 @@ Bitte kopieren Sie den Link und rufen Sie ihn selbst auf:
     <name>MainWindow</name>
     <message>
         <source>Quorvex - Data Secure Eraser</source>
-        <translation type="unfinished"></translation>
+        <translation>Quorvex - Sichere Datenlöschung</translation>
     </message>
     <message>
         <source>Report Not Saved</source>
-        <translation type="unfinished"></translation>
+        <translation>Bericht nicht gespeichert</translation>
     </message>
     <message>
         <source>The erasure report could not be stored in the database.
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Löschbericht konnte nicht in der Datenbank gespeichert werden.
+%1</translation>
     </message>
     <message>
         <source>Wipe Free Space?</source>
-        <translation type="unfinished"></translation>
+        <translation>Freispeicher löschen?</translation>
     </message>
     <message>
         <source>Recycle Bin files have been securely wiped!
@@ -2197,80 +2198,90 @@ Would you also like to wipe free space to ensure previously
 emptied files cannot be recovered?
 
 This may take longer depending on available free space.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Dateien im Papierkorb wurden sicher gelöscht!
+
+Möchten Sie auch den freien Speicherplatz löschen, damit zuvor aus dem
+Papierkorb entfernte Dateien nicht wiederhergestellt werden können?
+
+Je nach Größe des freien Speicherplatzes kann dies länger dauern.</translation>
     </message>
     <message>
         <source>Confirm Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>Stopp bestätigen</translation>
     </message>
     <message>
         <source>Are you sure you want to stop the wipe task?
 This operation cannot be undone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Möchten Sie den Löschauftrag wirklich stoppen?
+Dies kann nicht rückgängig gemacht werden.</translation>
     </message>
     <message>
         <source>Confirm Exit</source>
-        <translation type="unfinished"></translation>
+        <translation>Beenden bestätigen</translation>
     </message>
     <message>
         <source>Wipe task is in progress. Are you sure you want to exit?
 Exiting will interrupt the current task.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Löschauftrag läuft. Möchten Sie das Programm wirklich beenden?
+Beim Beenden wird der laufende Auftrag abgebrochen.</translation>
     </message>
     <message>
         <source>&lt;h3&gt;Quorvex - Data Secure Eraser&lt;/h3&gt;&lt;p&gt;Version 5.0&lt;/p&gt;&lt;p&gt;Securely wipe your data with military-grade standards.&lt;br&gt;Support disk wipe, partition wipe, free space wipe and file wipe.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;h3&gt;Quorvex - Sichere Datenlöschung&lt;/h3&gt;&lt;p&gt;Version 5.0&lt;/p&gt;&lt;p&gt;Löschen Sie Ihre Daten sicher nach Standards auf militärischem Niveau.&lt;br&gt;Funktionen: Datenträger löschen, Partition löschen, Freispeicher löschen und Dateien schreddern.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>&lt;p&gt;Veltrano. Erased means erased, and the certificate says how.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;Veltrano. Gelöscht heißt gelöscht, und das Zertifikat sagt, wie.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>About Quorvex</source>
-        <translation type="unfinished"></translation>
+        <translation>Info über Quorvex</translation>
     </message>
     <message>
         <source>Recycle Bin Wipe</source>
-        <translation type="unfinished">Papierkorb schreddern</translation>
+        <translation>Papierkorb schreddern</translation>
     </message>
     <message>
         <source>Scanning deleted files in Recycle Bin...</source>
-        <translation type="unfinished"></translation>
+        <translation>Gelöschte Dateien im Papierkorb werden gesucht...</translation>
     </message>
     <message>
         <source>Scanning Recycle Bin...</source>
-        <translation type="unfinished"></translation>
+        <translation>Papierkorb wird durchsucht...</translation>
     </message>
     <message>
         <source>Scanning Recycle Bin on drive %1 (%2/%3)...</source>
-        <translation type="unfinished"></translation>
+        <translation>Papierkorb auf Laufwerk %1 wird durchsucht (%2/%3)...</translation>
     </message>
     <message>
         <source>Recycle Bin is Empty</source>
-        <translation type="unfinished"></translation>
+        <translation>Papierkorb ist leer</translation>
     </message>
     <message>
         <source>The Recycle Bin is already empty.
 
 However, previously deleted files may still be recoverable.
 Would you like to wipe free space to ensure they cannot be recovered?</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Papierkorb ist bereits leer.
+
+Früher daraus entfernte Dateien lassen sich jedoch möglicherweise noch wiederherstellen.
+Möchten Sie den freien Speicherplatz löschen, damit dies nicht mehr möglich ist?</translation>
     </message>
     <message>
         <source>The following deleted files were found in the Recycle Bin</source>
-        <translation type="unfinished"></translation>
+        <translation>Folgende gelöschte Dateien wurden im Papierkorb gefunden</translation>
     </message>
     <message>
         <source>Found %1 items, total %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Gefundene Elemente: %1, insgesamt %2</translation>
     </message>
     <message>
         <source>Select Files to Shred</source>
-        <translation type="unfinished">Dateien zum Schreddern auswählen</translation>
+        <translation>Dateien zum Schreddern auswählen</translation>
     </message>
     <message>
         <source>Click buttons to add files and folders</source>
-        <translation type="unfinished">Fügen Sie über die Schaltflächen Dateien und Ordner hinzu</translation>
+        <translation>Fügen Sie über die Schaltflächen Dateien und Ordner hinzu</translation>
     </message>
 </context>
 <context>
@@ -2452,23 +2463,23 @@ Would you like to wipe free space to ensure they cannot be recovered?</source>
     <name>Sidebar</name>
     <message>
         <source>Quorvex</source>
-        <translation type="unfinished">Quorvex</translation>
+        <translation>Quorvex</translation>
     </message>
     <message>
         <source>Menu</source>
-        <translation type="unfinished">Menü</translation>
+        <translation>Menü</translation>
     </message>
     <message>
         <source>Data Wipe</source>
-        <translation type="unfinished"></translation>
+        <translation>Datenlöschung</translation>
     </message>
     <message>
         <source>History</source>
-        <translation type="unfinished"></translation>
+        <translation>Löschverlauf</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen</translation>
     </message>
 </context>
 <context>

@@ -2175,20 +2175,21 @@ Please copy the link and open it manually:
     <name>MainWindow</name>
     <message>
         <source>Quorvex - Data Secure Eraser</source>
-        <translation type="unfinished"></translation>
+        <translation>Quorvex - Data Secure Eraser</translation>
     </message>
     <message>
         <source>Report Not Saved</source>
-        <translation type="unfinished"></translation>
+        <translation>Report Not Saved</translation>
     </message>
     <message>
         <source>The erasure report could not be stored in the database.
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>The erasure report could not be stored in the database.
+%1</translation>
     </message>
     <message>
         <source>Wipe Free Space?</source>
-        <translation type="unfinished"></translation>
+        <translation>Wipe Free Space?</translation>
     </message>
     <message>
         <source>Recycle Bin files have been securely wiped!
@@ -2197,80 +2198,90 @@ Would you also like to wipe free space to ensure previously
 emptied files cannot be recovered?
 
 This may take longer depending on available free space.</source>
-        <translation type="unfinished"></translation>
+        <translation>Recycle Bin files have been securely wiped!
+
+Would you also like to wipe free space to ensure previously
+emptied files cannot be recovered?
+
+This may take longer depending on available free space.</translation>
     </message>
     <message>
         <source>Confirm Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>Confirm Stop</translation>
     </message>
     <message>
         <source>Are you sure you want to stop the wipe task?
 This operation cannot be undone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Are you sure you want to stop the wipe task?
+This operation cannot be undone.</translation>
     </message>
     <message>
         <source>Confirm Exit</source>
-        <translation type="unfinished"></translation>
+        <translation>Confirm Exit</translation>
     </message>
     <message>
         <source>Wipe task is in progress. Are you sure you want to exit?
 Exiting will interrupt the current task.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wipe task is in progress. Are you sure you want to exit?
+Exiting will interrupt the current task.</translation>
     </message>
     <message>
         <source>&lt;h3&gt;Quorvex - Data Secure Eraser&lt;/h3&gt;&lt;p&gt;Version 5.0&lt;/p&gt;&lt;p&gt;Securely wipe your data with military-grade standards.&lt;br&gt;Support disk wipe, partition wipe, free space wipe and file wipe.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;h3&gt;Quorvex - Data Secure Eraser&lt;/h3&gt;&lt;p&gt;Version 5.0&lt;/p&gt;&lt;p&gt;Securely wipe your data with military-grade standards.&lt;br&gt;Support disk wipe, partition wipe, free space wipe and file wipe.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>&lt;p&gt;Veltrano. Erased means erased, and the certificate says how.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;Veltrano. Erased means erased, and the certificate says how.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>About Quorvex</source>
-        <translation type="unfinished"></translation>
+        <translation>About Quorvex</translation>
     </message>
     <message>
         <source>Recycle Bin Wipe</source>
-        <translation type="unfinished">Recycle Bin Wipe</translation>
+        <translation>Recycle Bin Wipe</translation>
     </message>
     <message>
         <source>Scanning deleted files in Recycle Bin...</source>
-        <translation type="unfinished"></translation>
+        <translation>Scanning deleted files in Recycle Bin...</translation>
     </message>
     <message>
         <source>Scanning Recycle Bin...</source>
-        <translation type="unfinished"></translation>
+        <translation>Scanning Recycle Bin...</translation>
     </message>
     <message>
         <source>Scanning Recycle Bin on drive %1 (%2/%3)...</source>
-        <translation type="unfinished"></translation>
+        <translation>Scanning Recycle Bin on drive %1 (%2/%3)...</translation>
     </message>
     <message>
         <source>Recycle Bin is Empty</source>
-        <translation type="unfinished"></translation>
+        <translation>Recycle Bin is Empty</translation>
     </message>
     <message>
         <source>The Recycle Bin is already empty.
 
 However, previously deleted files may still be recoverable.
 Would you like to wipe free space to ensure they cannot be recovered?</source>
-        <translation type="unfinished"></translation>
+        <translation>The Recycle Bin is already empty.
+
+However, previously deleted files may still be recoverable.
+Would you like to wipe free space to ensure they cannot be recovered?</translation>
     </message>
     <message>
         <source>The following deleted files were found in the Recycle Bin</source>
-        <translation type="unfinished"></translation>
+        <translation>The following deleted files were found in the Recycle Bin</translation>
     </message>
     <message>
         <source>Found %1 items, total %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Found %1 items, total %2</translation>
     </message>
     <message>
         <source>Select Files to Shred</source>
-        <translation type="unfinished">Select Files to Shred</translation>
+        <translation>Select Files to Shred</translation>
     </message>
     <message>
         <source>Click buttons to add files and folders</source>
-        <translation type="unfinished">Click buttons to add files and folders</translation>
+        <translation>Click buttons to add files and folders</translation>
     </message>
 </context>
 <context>
@@ -2452,23 +2463,23 @@ Would you like to wipe free space to ensure they cannot be recovered?</source>
     <name>Sidebar</name>
     <message>
         <source>Quorvex</source>
-        <translation type="unfinished">Quorvex</translation>
+        <translation>Quorvex</translation>
     </message>
     <message>
         <source>Menu</source>
-        <translation type="unfinished">Menu</translation>
+        <translation>Menu</translation>
     </message>
     <message>
         <source>Data Wipe</source>
-        <translation type="unfinished"></translation>
+        <translation>Data Wipe</translation>
     </message>
     <message>
         <source>History</source>
-        <translation type="unfinished"></translation>
+        <translation>History</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Settings</translation>
     </message>
 </context>
 <context>

@@ -2175,20 +2175,21 @@ Copie el enlace y ábralo manualmente:
     <name>MainWindow</name>
     <message>
         <source>Quorvex - Data Secure Eraser</source>
-        <translation type="unfinished"></translation>
+        <translation>Quorvex - Borrado seguro de datos</translation>
     </message>
     <message>
         <source>Report Not Saved</source>
-        <translation type="unfinished"></translation>
+        <translation>Informe no guardado</translation>
     </message>
     <message>
         <source>The erasure report could not be stored in the database.
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo guardar el informe de borrado en la base de datos.
+%1</translation>
     </message>
     <message>
         <source>Wipe Free Space?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Borrar el espacio libre?</translation>
     </message>
     <message>
         <source>Recycle Bin files have been securely wiped!
@@ -2197,80 +2198,90 @@ Would you also like to wipe free space to ensure previously
 emptied files cannot be recovered?
 
 This may take longer depending on available free space.</source>
-        <translation type="unfinished"></translation>
+        <translation>¡Los archivos de la Papelera de reciclaje se han borrado de forma segura!
+
+¿Desea borrar también el espacio libre para que los archivos
+vaciados anteriormente no se puedan recuperar?
+
+Esto puede tardar más según el espacio libre disponible.</translation>
     </message>
     <message>
         <source>Confirm Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>Confirmar detención</translation>
     </message>
     <message>
         <source>Are you sure you want to stop the wipe task?
 This operation cannot be undone.</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Seguro que desea detener la tarea de borrado?
+Esta operación no se puede deshacer.</translation>
     </message>
     <message>
         <source>Confirm Exit</source>
-        <translation type="unfinished"></translation>
+        <translation>Confirmar salida</translation>
     </message>
     <message>
         <source>Wipe task is in progress. Are you sure you want to exit?
 Exiting will interrupt the current task.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hay una tarea de borrado en curso. ¿Seguro que desea salir?
+Si sale, se interrumpirá la tarea actual.</translation>
     </message>
     <message>
         <source>&lt;h3&gt;Quorvex - Data Secure Eraser&lt;/h3&gt;&lt;p&gt;Version 5.0&lt;/p&gt;&lt;p&gt;Securely wipe your data with military-grade standards.&lt;br&gt;Support disk wipe, partition wipe, free space wipe and file wipe.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;h3&gt;Quorvex - Borrado seguro de datos&lt;/h3&gt;&lt;p&gt;Versión 5.0&lt;/p&gt;&lt;p&gt;Borre sus datos de forma segura con estándares de nivel militar.&lt;br&gt;Admite borrado de disco, borrado de partición, borrado de espacio libre y borrado de archivos.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>&lt;p&gt;Veltrano. Erased means erased, and the certificate says how.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;Veltrano. Borrado significa borrado, y el certificado dice cómo.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>About Quorvex</source>
-        <translation type="unfinished"></translation>
+        <translation>Acerca de Quorvex</translation>
     </message>
     <message>
         <source>Recycle Bin Wipe</source>
-        <translation type="unfinished">Borrado de la Papelera</translation>
+        <translation>Borrado de la Papelera</translation>
     </message>
     <message>
         <source>Scanning deleted files in Recycle Bin...</source>
-        <translation type="unfinished"></translation>
+        <translation>Examinando los archivos eliminados de la Papelera de reciclaje...</translation>
     </message>
     <message>
         <source>Scanning Recycle Bin...</source>
-        <translation type="unfinished"></translation>
+        <translation>Examinando la Papelera de reciclaje...</translation>
     </message>
     <message>
         <source>Scanning Recycle Bin on drive %1 (%2/%3)...</source>
-        <translation type="unfinished"></translation>
+        <translation>Examinando la Papelera de reciclaje de la unidad %1 (%2/%3)...</translation>
     </message>
     <message>
         <source>Recycle Bin is Empty</source>
-        <translation type="unfinished"></translation>
+        <translation>La Papelera de reciclaje está vacía</translation>
     </message>
     <message>
         <source>The Recycle Bin is already empty.
 
 However, previously deleted files may still be recoverable.
 Would you like to wipe free space to ensure they cannot be recovered?</source>
-        <translation type="unfinished"></translation>
+        <translation>La Papelera de reciclaje ya está vacía.
+
+Sin embargo, es posible que los archivos eliminados anteriormente aún se puedan recuperar.
+¿Desea borrar el espacio libre para que no se puedan recuperar?</translation>
     </message>
     <message>
         <source>The following deleted files were found in the Recycle Bin</source>
-        <translation type="unfinished"></translation>
+        <translation>Se han encontrado los siguientes archivos eliminados en la Papelera de reciclaje</translation>
     </message>
     <message>
         <source>Found %1 items, total %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Elementos encontrados: %1, total: %2</translation>
     </message>
     <message>
         <source>Select Files to Shred</source>
-        <translation type="unfinished">Seleccionar archivos para destruir</translation>
+        <translation>Seleccionar archivos para destruir</translation>
     </message>
     <message>
         <source>Click buttons to add files and folders</source>
-        <translation type="unfinished">Use los botones para agregar archivos y carpetas</translation>
+        <translation>Use los botones para agregar archivos y carpetas</translation>
     </message>
 </context>
 <context>
@@ -2452,23 +2463,23 @@ Would you like to wipe free space to ensure they cannot be recovered?</source>
     <name>Sidebar</name>
     <message>
         <source>Quorvex</source>
-        <translation type="unfinished">Quorvex</translation>
+        <translation>Quorvex</translation>
     </message>
     <message>
         <source>Menu</source>
-        <translation type="unfinished">Menú</translation>
+        <translation>Menú</translation>
     </message>
     <message>
         <source>Data Wipe</source>
-        <translation type="unfinished"></translation>
+        <translation>Borrado</translation>
     </message>
     <message>
         <source>History</source>
-        <translation type="unfinished"></translation>
+        <translation>Historial</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Configuración</translation>
     </message>
 </context>
 <context>

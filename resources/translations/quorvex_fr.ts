@@ -2175,20 +2175,21 @@ Veuillez copier le lien manuellement pour y accéder&#xa0;:
     <name>MainWindow</name>
     <message>
         <source>Quorvex - Data Secure Eraser</source>
-        <translation type="unfinished"></translation>
+        <translation>Quorvex - Effacement sécurisé des données</translation>
     </message>
     <message>
         <source>Report Not Saved</source>
-        <translation type="unfinished"></translation>
+        <translation>Rapport non enregistré</translation>
     </message>
     <message>
         <source>The erasure report could not be stored in the database.
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Le rapport d&apos;effacement n&apos;a pas pu être enregistré dans la base de données.
+%1</translation>
     </message>
     <message>
         <source>Wipe Free Space?</source>
-        <translation type="unfinished"></translation>
+        <translation>Effacer l&apos;espace libre&#xa0;?</translation>
     </message>
     <message>
         <source>Recycle Bin files have been securely wiped!
@@ -2197,80 +2198,90 @@ Would you also like to wipe free space to ensure previously
 emptied files cannot be recovered?
 
 This may take longer depending on available free space.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les fichiers de la Corbeille ont été effacés de manière sécurisée&#xa0;!
+
+Voulez-vous aussi effacer l&apos;espace libre, afin que les fichiers
+précédemment vidés de la Corbeille ne puissent pas être récupérés&#xa0;?
+
+Cette opération peut être plus longue selon l&apos;espace libre disponible.</translation>
     </message>
     <message>
         <source>Confirm Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>Confirmer l&apos;arrêt</translation>
     </message>
     <message>
         <source>Are you sure you want to stop the wipe task?
 This operation cannot be undone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Voulez-vous vraiment arrêter la tâche d&apos;effacement&#xa0;?
+Cette opération est irréversible.</translation>
     </message>
     <message>
         <source>Confirm Exit</source>
-        <translation type="unfinished"></translation>
+        <translation>Confirmer la fermeture</translation>
     </message>
     <message>
         <source>Wipe task is in progress. Are you sure you want to exit?
 Exiting will interrupt the current task.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une tâche d&apos;effacement est en cours. Voulez-vous vraiment quitter&#xa0;?
+Quitter le programme interrompra la tâche en cours.</translation>
     </message>
     <message>
         <source>&lt;h3&gt;Quorvex - Data Secure Eraser&lt;/h3&gt;&lt;p&gt;Version 5.0&lt;/p&gt;&lt;p&gt;Securely wipe your data with military-grade standards.&lt;br&gt;Support disk wipe, partition wipe, free space wipe and file wipe.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;h3&gt;Quorvex - Effacement sécurisé des données&lt;/h3&gt;&lt;p&gt;Version 5.0&lt;/p&gt;&lt;p&gt;Effacez vos données de manière sécurisée selon des normes de niveau militaire.&lt;br&gt;Permet d&apos;effacer un disque, une partition, l&apos;espace libre ou des fichiers.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>&lt;p&gt;Veltrano. Erased means erased, and the certificate says how.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;Veltrano. Effacé veut dire effacé, et le certificat dit comment.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>About Quorvex</source>
-        <translation type="unfinished"></translation>
+        <translation>À propos de Quorvex</translation>
     </message>
     <message>
         <source>Recycle Bin Wipe</source>
-        <translation type="unfinished">Effacer la Corbeille</translation>
+        <translation>Effacer la Corbeille</translation>
     </message>
     <message>
         <source>Scanning deleted files in Recycle Bin...</source>
-        <translation type="unfinished"></translation>
+        <translation>Analyse des fichiers supprimés dans la Corbeille...</translation>
     </message>
     <message>
         <source>Scanning Recycle Bin...</source>
-        <translation type="unfinished"></translation>
+        <translation>Analyse de la Corbeille...</translation>
     </message>
     <message>
         <source>Scanning Recycle Bin on drive %1 (%2/%3)...</source>
-        <translation type="unfinished"></translation>
+        <translation>Analyse de la Corbeille du lecteur %1 (%2/%3)...</translation>
     </message>
     <message>
         <source>Recycle Bin is Empty</source>
-        <translation type="unfinished"></translation>
+        <translation>La Corbeille est vide</translation>
     </message>
     <message>
         <source>The Recycle Bin is already empty.
 
 However, previously deleted files may still be recoverable.
 Would you like to wipe free space to ensure they cannot be recovered?</source>
-        <translation type="unfinished"></translation>
+        <translation>La Corbeille est déjà vide.
+
+Toutefois, des fichiers supprimés auparavant peuvent encore être récupérables.
+Voulez-vous effacer l&apos;espace libre afin qu&apos;ils ne puissent pas être récupérés&#xa0;?</translation>
     </message>
     <message>
         <source>The following deleted files were found in the Recycle Bin</source>
-        <translation type="unfinished"></translation>
+        <translation>Les fichiers supprimés suivants ont été trouvés dans la Corbeille</translation>
     </message>
     <message>
         <source>Found %1 items, total %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Éléments trouvés&#xa0;: %1, total&#xa0;: %2</translation>
     </message>
     <message>
         <source>Select Files to Shred</source>
-        <translation type="unfinished">Sélectionner les fichiers à détruire</translation>
+        <translation>Sélectionner les fichiers à détruire</translation>
     </message>
     <message>
         <source>Click buttons to add files and folders</source>
-        <translation type="unfinished">Cliquez sur les boutons pour ajouter des fichiers et des dossiers</translation>
+        <translation>Cliquez sur les boutons pour ajouter des fichiers et des dossiers</translation>
     </message>
 </context>
 <context>
@@ -2452,23 +2463,23 @@ Would you like to wipe free space to ensure they cannot be recovered?</source>
     <name>Sidebar</name>
     <message>
         <source>Quorvex</source>
-        <translation type="unfinished">Quorvex</translation>
+        <translation>Quorvex</translation>
     </message>
     <message>
         <source>Menu</source>
-        <translation type="unfinished">Menu</translation>
+        <translation>Menu</translation>
     </message>
     <message>
         <source>Data Wipe</source>
-        <translation type="unfinished"></translation>
+        <translation>Effacement</translation>
     </message>
     <message>
         <source>History</source>
-        <translation type="unfinished"></translation>
+        <translation>Historique</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Paramètres</translation>
     </message>
 </context>
 <context>

@@ -2175,20 +2175,21 @@ Copiare manualmente il collegamento per accedervi:
     <name>MainWindow</name>
     <message>
         <source>Quorvex - Data Secure Eraser</source>
-        <translation type="unfinished"></translation>
+        <translation>Quorvex - Cancellazione sicura dei dati</translation>
     </message>
     <message>
         <source>Report Not Saved</source>
-        <translation type="unfinished"></translation>
+        <translation>Rapporto non salvato</translation>
     </message>
     <message>
         <source>The erasure report could not be stored in the database.
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile salvare il rapporto di cancellazione nel database.
+%1</translation>
     </message>
     <message>
         <source>Wipe Free Space?</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancellare lo spazio libero?</translation>
     </message>
     <message>
         <source>Recycle Bin files have been securely wiped!
@@ -2197,80 +2198,90 @@ Would you also like to wipe free space to ensure previously
 emptied files cannot be recovered?
 
 This may take longer depending on available free space.</source>
-        <translation type="unfinished"></translation>
+        <translation>I file del Cestino sono stati cancellati in modo sicuro!
+
+Cancellare anche lo spazio libero, in modo che i file rimossi
+in precedenza dal Cestino non possano essere recuperati?
+
+L&apos;operazione può richiedere più tempo in base allo spazio libero disponibile.</translation>
     </message>
     <message>
         <source>Confirm Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>Conferma interruzione</translation>
     </message>
     <message>
         <source>Are you sure you want to stop the wipe task?
 This operation cannot be undone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Interrompere davvero l&apos;attività di cancellazione?
+Questa operazione è irreversibile.</translation>
     </message>
     <message>
         <source>Confirm Exit</source>
-        <translation type="unfinished"></translation>
+        <translation>Conferma uscita</translation>
     </message>
     <message>
         <source>Wipe task is in progress. Are you sure you want to exit?
 Exiting will interrupt the current task.</source>
-        <translation type="unfinished"></translation>
+        <translation>È in corso un&apos;attività di cancellazione. Uscire davvero?
+Uscendo, l&apos;attività in corso verrà interrotta.</translation>
     </message>
     <message>
         <source>&lt;h3&gt;Quorvex - Data Secure Eraser&lt;/h3&gt;&lt;p&gt;Version 5.0&lt;/p&gt;&lt;p&gt;Securely wipe your data with military-grade standards.&lt;br&gt;Support disk wipe, partition wipe, free space wipe and file wipe.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;h3&gt;Quorvex - Cancellazione sicura dei dati&lt;/h3&gt;&lt;p&gt;Versione 5.0&lt;/p&gt;&lt;p&gt;Cancella i dati in modo sicuro secondo standard di livello militare.&lt;br&gt;Consente di cancellare dischi, partizioni, spazio libero e file.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>&lt;p&gt;Veltrano. Erased means erased, and the certificate says how.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;p&gt;Veltrano. Cancellato significa cancellato, e il certificato dice come.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>About Quorvex</source>
-        <translation type="unfinished"></translation>
+        <translation>Informazioni su Quorvex</translation>
     </message>
     <message>
         <source>Recycle Bin Wipe</source>
-        <translation type="unfinished">Cancella Cestino</translation>
+        <translation>Cancella Cestino</translation>
     </message>
     <message>
         <source>Scanning deleted files in Recycle Bin...</source>
-        <translation type="unfinished"></translation>
+        <translation>Analisi dei file eliminati presenti nel Cestino...</translation>
     </message>
     <message>
         <source>Scanning Recycle Bin...</source>
-        <translation type="unfinished"></translation>
+        <translation>Analisi del Cestino...</translation>
     </message>
     <message>
         <source>Scanning Recycle Bin on drive %1 (%2/%3)...</source>
-        <translation type="unfinished"></translation>
+        <translation>Analisi del Cestino dell&apos;unità %1 (%2/%3)...</translation>
     </message>
     <message>
         <source>Recycle Bin is Empty</source>
-        <translation type="unfinished"></translation>
+        <translation>Il Cestino è vuoto</translation>
     </message>
     <message>
         <source>The Recycle Bin is already empty.
 
 However, previously deleted files may still be recoverable.
 Would you like to wipe free space to ensure they cannot be recovered?</source>
-        <translation type="unfinished"></translation>
+        <translation>Il Cestino è già vuoto.
+
+Tuttavia, i file eliminati in precedenza potrebbero essere ancora recuperabili.
+Cancellare lo spazio libero in modo che non possano essere recuperati?</translation>
     </message>
     <message>
         <source>The following deleted files were found in the Recycle Bin</source>
-        <translation type="unfinished"></translation>
+        <translation>Nel Cestino sono stati trovati i seguenti file eliminati</translation>
     </message>
     <message>
         <source>Found %1 items, total %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Elementi trovati: %1, totale: %2</translation>
     </message>
     <message>
         <source>Select Files to Shred</source>
-        <translation type="unfinished">Selezione dei file da distruggere</translation>
+        <translation>Selezione dei file da distruggere</translation>
     </message>
     <message>
         <source>Click buttons to add files and folders</source>
-        <translation type="unfinished">Fare clic sui pulsanti per aggiungere file e cartelle</translation>
+        <translation>Fare clic sui pulsanti per aggiungere file e cartelle</translation>
     </message>
 </context>
 <context>
@@ -2452,23 +2463,23 @@ Would you like to wipe free space to ensure they cannot be recovered?</source>
     <name>Sidebar</name>
     <message>
         <source>Quorvex</source>
-        <translation type="unfinished">Quorvex</translation>
+        <translation>Quorvex</translation>
     </message>
     <message>
         <source>Menu</source>
-        <translation type="unfinished">Menu</translation>
+        <translation>Menu</translation>
     </message>
     <message>
         <source>Data Wipe</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancellazione</translation>
     </message>
     <message>
         <source>History</source>
-        <translation type="unfinished"></translation>
+        <translation>Cronologia</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Impostazioni</translation>
     </message>
 </context>
 <context>

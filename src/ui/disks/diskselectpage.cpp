@@ -1,6 +1,7 @@
 #include "ui/disks/diskselectpage.h"
 
 #include "services/diskmanager.h"
+#include "ui/disks/disktree.h"
 #include "ui/disks/disktreerows.h"
 #include "ui/style/pagestyle.h"
 
@@ -10,7 +11,6 @@
 #include <QPushButton>
 #include <QShowEvent>
 #include <QSignalBlocker>
-#include <QTreeWidget>
 
 #include <algorithm>
 
@@ -57,7 +57,7 @@ DiskSelectPage::DiskSelectPage(QWidget *parent)
     : QWidget(parent)
     , m_title(new QLabel(tr("Wipe Disk and Partition")))
     , m_subtitle(new QLabel(tr("Select a disk or partition to wipe. Expand disks to see partitions.")))
-    , m_tree(new QTreeWidget)
+    , m_tree(new DiskTree)
     , m_notice(new QLabel)
     , m_back(new QPushButton(tr("← Back")))
     , m_next(new QPushButton(tr("Next →")))
@@ -96,7 +96,7 @@ void DiskSelectPage::createTree()
 
     QHeaderView *header = m_tree->header();
     header->setSectionResizeMode(QHeaderView::ResizeToContents);
-    header->setSectionResizeMode(DiskTreeRows::NameColumn, QHeaderView::Stretch);
+    header->setSectionResizeMode(DiskTreeRows::NameColumn, QHeaderView::Fixed);
     header->setStretchLastSection(true);
     header->setSectionsMovable(false);
 }
@@ -145,6 +145,7 @@ void DiskSelectPage::refresh()
         m_tree->addTopLevelItem(row);
         row->setExpanded(row->childCount() > 0);
     }
+    m_tree->fitColumns();
     clearSelection();
 }
 

@@ -7,8 +7,8 @@
 
 QT_FORWARD_DECLARE_CLASS(QLabel)
 QT_FORWARD_DECLARE_CLASS(QPushButton)
-QT_FORWARD_DECLARE_CLASS(QTreeWidget)
 QT_FORWARD_DECLARE_CLASS(QTreeWidgetItem)
+class DiskTree;
 
 /// Lets the user pick a disk or one of its partitions. The list is read anew whenever the page is shown,
 /// which drops the selection and lasts as long as the devices take to answer. Interface thread.
@@ -65,7 +65,7 @@ private:
 
     QLabel *m_title;
     QLabel *m_subtitle;
-    QTreeWidget *m_tree;
+    DiskTree *m_tree;
     QLabel *m_notice;
     QPushButton *m_back;
     QPushButton *m_next;

@@ -1,0 +1,31 @@
+#include "ui/disks/disktree.h"
+
+#include <QHeaderView>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int SmallestName = 160; // pixels
+
+} // namespace
+
+void DiskTree::fitColumns()
+{
+    int others = 0;
+    for (int column = 1; column < columnCount(); ++column)
+        others += std::max(sizeHintForColumn(column), header()->sectionSizeHint(column));
+    const int width = viewport()->width() - others;
+    header()->resizeSection(0, std::max(SmallestName, width));
+    // Contents may turn out wider than they hinted at.
+    const int surplus = header()->length() - viewport()->width();
+    if (surplus > 0)
+        header()->resizeSection(0, std::max(SmallestName, width - surplus));
+}
+
+void DiskTree::updateGeometries()
+{
+    QTreeWidget::updateGeometries();
+    // Ends by itself: a section that has its size already is not resized.
+    fitColumns();
+}
