@@ -85,7 +85,7 @@ QWidget *CertificateDialog::makeButtonBar()
 QString CertificateDialog::proposedFile() const
 {
     const QString folder = usersettings::readString(*usersettings::open(), usersettings::ExportPath);
-    const QString name = u"%1.pdf"_s.arg(m_report.certificateId);
+    QString name = u"%1.pdf"_s.arg(m_report.certificateId);
     if (!folder.isEmpty() && QFileInfo(folder).isDir())
         return folder + u'/' + name;
     return name;

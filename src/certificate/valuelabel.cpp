@@ -74,5 +74,7 @@ void ValueLabel::paintEvent(QPaintEvent *)
     const QRect box = contentsRect();
     QTextLayout layout(text(), font(), this);
     const int height = layOut(layout, box.width());
-    layout.draw(&painter, QPointF(box.left(), box.top() + (box.height() - height + 1) / 2));
+    // Whole pixels, or letters would blur.
+    const int top = box.top() + (box.height() - height + 1) / 2;
+    layout.draw(&painter, QPointF(box.left(), top));
 }

@@ -17,8 +17,8 @@ public:
     // No certificate is wanted.
     CertificateFile() = default;
 
-    // For the path as it was given. WrongCommandLine when it can be neither; refused by a program that was built
-    // without certificates.
+    // For the path as it was given. WrongCommandLine when it can be neither; refused by a program that was
+    // built without certificates.
     static Outcome<CertificateFile> at(const QString &path, const QStringList &commandWords);
 
     bool isWanted() const { return isFolder() || m_file.isWanted(); }

@@ -40,8 +40,8 @@ QString readString(const QSettings &store, QStringView key)
     return value.typeId() == QMetaType::QString ? value.toString() : QString();
 }
 
-ScopedStore::ScopedStore(Opener other)
-    : m_previous(std::exchange(opener(), std::move(other)))
+ScopedStore::ScopedStore(Opener replacement)
+    : m_previous(std::exchange(opener(), std::move(replacement)))
 {}
 
 ScopedStore::~ScopedStore()

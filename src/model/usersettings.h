@@ -29,7 +29,7 @@ QString readString(const QSettings &store, QStringView key);
 class ScopedStore
 {
 public:
-    explicit ScopedStore(Opener opener);
+    explicit ScopedStore(Opener replacement);
     ~ScopedStore();
     ScopedStore(const ScopedStore &) = delete;
     ScopedStore &operator=(const ScopedStore &) = delete;

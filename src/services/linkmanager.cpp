@@ -40,8 +40,7 @@ QString languageForLocale(const QString &locale)
 LinkSources LinkSources::ofProgram()
 {
     addCatalogueToResources();
-    return {u":/links/links.json"_s, QLocale::system().name(),
-            usersettings::open};
+    return {u":/links/links.json"_s, QLocale::system().name(), usersettings::open};
 }
 
 LinkManager &LinkManager::instance()

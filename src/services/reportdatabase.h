@@ -16,8 +16,8 @@ QT_FORWARD_DECLARE_CLASS(QSqlQuery)
 /// power cut; the bytes of a deleted one leave the file. Readable by its owner only.
 ///
 /// Other programs may have the file open: a call waits up to ten seconds for them. One thread, that of
-/// initialize(). getReports(), getReport() and deleteReport() leave lastError() as it is; the others set it when
-/// they fail.
+/// initialize(). getReports(), getReport() and deleteReport() leave lastError() as it is; the others set it
+/// when they fail.
 class ReportDatabase
 {
 public:

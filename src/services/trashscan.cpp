@@ -2,8 +2,8 @@
 
 #include "platform/filebeginning.h"
 #include "platform/files.h"
-#include "platform/folders.h"
 #include "platform/folderowner.h"
+#include "platform/folders.h"
 #include "platform/platform.h"
 #include "services/foldertree.h"
 #include "services/trashinfofile.h"

@@ -1,9 +1,9 @@
 #include "services/trashsizes.h"
 
 #include "platform/filebeginning.h"
+#include "platform/filenames.h"
 #include "platform/files.h"
 #include "platform/folders.h"
-#include "platform/filenames.h"
 #include "platform/platform.h"
 #include "services/foldertree.h"
 

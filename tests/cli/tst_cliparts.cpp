@@ -2,9 +2,9 @@
 
 #include "cli/confirmation.h"
 #include "cli/names.h"
+#include "cli/outputfile.h"
 #include "cli/paths.h"
 #include "cli/progressline.h"
-#include "cli/outputfile.h"
 #include "cli/table.h"
 #include "cli/textjobview.h"
 #include "model/wipereport.h"

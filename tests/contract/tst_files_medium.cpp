@@ -2,9 +2,9 @@
 #include "contract/places.h"
 
 #include "platform/alignedbuffer.h"
+#include "platform/filenames.h"
 #include "platform/files.h"
 #include "platform/linux/filedescriptor.h"
-#include "platform/filenames.h"
 #include "platform/linux/linuxfilehandle.h"
 
 #include <QFileInfo>

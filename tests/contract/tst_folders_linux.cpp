@@ -1,9 +1,9 @@
 #include "contract/filecontents.h"
 #include "contract/places.h"
 
+#include "platform/filenames.h"
 #include "platform/folders.h"
 #include "platform/linux/filedescriptor.h"
-#include "platform/filenames.h"
 
 #include <QFileInfo>
 #include <QMap>

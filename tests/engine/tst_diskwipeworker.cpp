@@ -563,8 +563,8 @@ void TestDiskWipeWorker::driveOpenedAloneOnlyWithoutVolumes()
         DiskWipeJob job;
         job.chooseDrive(memory.drive(0));
         QVERIFY(job.run(devices));
-        QCOMPARE(devices.asked, QList({hasVolume ? platform::DriveAccess::BesideOwnVolumes
-                                                 : platform::DriveAccess::Alone}));
+        QCOMPARE(devices.asked,
+                 QList({hasVolume ? platform::DriveAccess::BesideOwnVolumes : platform::DriveAccess::Alone}));
     }
 }
 

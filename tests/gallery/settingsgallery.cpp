@@ -17,7 +17,7 @@ void paint(Gallery &gallery)
         PageFrame frame(new SettingsPage);
         gallery.picture(frame, u"settings-first-run"_s);
     }
-    settings.set(usersettings::ExportPath, u"/home/anna/Documents/Certificates of erased drives/2026"_s);
+    settings.set(usersettings::ExportPath, u"/media/anna/Documents/Certificates of erased drives/2026"_s);
     settings.set(usersettings::AutoExport, true);
     settings.set(usersettings::VerifyAfterWipe, false);
     auto *page = new SettingsPage;

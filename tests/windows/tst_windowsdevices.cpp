@@ -751,7 +751,7 @@ void tst_WindowsDevices::misalignedTransfersAreRefused()
     machine.describe();                                                                                      \
     s_pieces = pieces;                                                                                       \
     WindowsDevices devices;                                                                                  \
-    auto drive = devices.openDrive(machine.identity, DriveAccess::Alone);                                   \
+    auto drive = devices.openDrive(machine.identity, DriveAccess::Alone);                                    \
     QVERIFY(drive.ok());                                                                                     \
     machine.faults.target().writeFile = &writePiece;                                                         \
     machine.faults.target().readFile = &readPiece

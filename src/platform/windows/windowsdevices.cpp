@@ -87,8 +87,7 @@ Result<std::unique_ptr<DeviceQuery>> WindowsDevices::queryVolume(const QString &
     return std::unique_ptr<DeviceQuery>(std::make_unique<WindowsQuery>(volume.take()));
 }
 
-Result<std::unique_ptr<RawDevice>> WindowsDevices::openDrive(const DriveIdentity &drive,
-                                                             DriveAccess access)
+Result<std::unique_ptr<RawDevice>> WindowsDevices::openDrive(const DriveIdentity &drive, DriveAccess access)
 {
     if (drive.number < 0)
         return Status{NotReady, 0, "drive number"};

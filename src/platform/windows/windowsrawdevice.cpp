@@ -23,9 +23,9 @@ Result<WinHandle> openForTransfers(const QString &devicePath, DriveAccess access
 {
     const std::wstring path = devicePath.toStdWString();
     const DWORD rights = access == DriveAccess::ReadOnly ? GENERIC_READ : GENERIC_READ | GENERIC_WRITE;
-    WinHandle device(win32().createFile(path.c_str(), rights,
-                                        FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING,
-                                        FILE_FLAG_WRITE_THROUGH | FILE_FLAG_NO_BUFFERING, nullptr));
+    WinHandle device(win32().createFile(path.c_str(), rights, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
+                                        OPEN_EXISTING, FILE_FLAG_WRITE_THROUGH | FILE_FLAG_NO_BUFFERING,
+                                        nullptr));
     if (!device.isValid())
         return statusFromLastError("CreateFile");
     return device;

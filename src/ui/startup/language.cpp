@@ -44,7 +44,7 @@ QString chooseLanguage(const QString &stored, const QString &systemLocale)
     }
     const QString system = systemLocale.left(2);
     qDebug() << "[Main] System language:" << system;
-    const QString detected = languageOfSystem(system);
+    QString detected = languageOfSystem(system);
     qDebug() << "[Main] Auto-detected:" << detected;
     return detected;
 }

@@ -50,7 +50,7 @@ QString initTranslation()
     qDebug() << "========== Translation Init ==========";
     const std::unique_ptr<QSettings> settings = usersettings::open();
     qDebug() << "[Main] Settings path:" << settings->fileName();
-    const QString code =
+    QString code =
         chooseLanguage(usersettings::readString(*settings, usersettings::Language), QLocale::system().name());
     installLanguage(code);
     qDebug() << "=======================================";

@@ -163,10 +163,10 @@ void tst_FileEntry::listTexts_data()
 {
     QTest::addColumn<FileEntry>("entry");
     QTest::addColumn<QString>("text");
-    QTest::newRow("file") << FileEntry{u"/home/anna/a.txt"_s, false, 1536} << u"📄  a.txt  (1.50 KB)"_s;
+    QTest::newRow("file") << FileEntry{u"/media/anna/a.txt"_s, false, 1536} << u"📄  a.txt  (1.50 KB)"_s;
     QTest::newRow("folder") << FileEntry{u"/home/anna"_s, true, 0} << u"📁  anna  (0 B)"_s;
     QTest::newRow("folder with a slash at its end")
-        << FileEntry{u"/home/anna/"_s, true, 6} << u"📁  anna  (6 B)"_s;
+        << FileEntry{u"/media/anna/"_s, true, 6} << u"📁  anna  (6 B)"_s;
     QTest::newRow("root") << FileEntry{u"/"_s, true, 6} << u"📁  /  (6 B)"_s;
     QTest::newRow("percent signs") << FileEntry{u"/a/%1 %2 %3"_s, false, 6} << u"📄  %1 %2 %3  (6 B)"_s;
     QTest::newRow("characters that reorder")
