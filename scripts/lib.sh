@@ -127,7 +127,10 @@ run_tests() {
     local preset=$1
     shift
     cd "$root"
-    ctest --preset "$preset" "$@" 2>&1 | tee "build/$preset/ctest.log"
+    # One at a time under Wine, whose programs share a console and its signals.
+    local at_once=1
+    [[ $preset == windows-* ]] || at_once=$(jobs_count)
+    ctest --preset "$preset" --parallel "$at_once" "$@" 2>&1 | tee "build/$preset/ctest.log"
     skipped_tests "$preset"
 }
 
