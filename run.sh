@@ -18,7 +18,9 @@ Usage: ./run.sh [JOB]
 
 Installs missing packages, builds the preset "release" into build/release and runs one job:
 
-  practice   (what runs when nothing is named) makes an image file of 256 MiB full of text, lets quorvex-cli erase
+  desktop    (what runs where there is a display) starts the desktop program; the only drive it sees is a practice
+             disk, an image file of 256 MiB full of text
+  practice   (what runs where there is none) makes that image file of 256 MiB full of text, lets quorvex-cli erase
              it as a drive with "NIST 800-88", checks every byte of it without quorvex-cli, and shows the report
              that was stored and the certificate as PDF
 
@@ -28,7 +30,7 @@ TEXT
 
 build_program() {
     install_packages "${packages_build[@]}" "${packages_fonts[@]}"
-    build release --target quorvex-cli
+    build release --target quorvex-cli --target quorvex
 }
 
 marker_lines() {
@@ -88,13 +90,23 @@ practice_job() {
     printf '  %-12s %s\n' image: "$image" report: "$report" certificate: "$certificate" database: "$data/quorvex.db"
 }
 
-job=${1:-practice}
+desktop_job() {
+    step "practice disk" make_practice_disk
+    printf '\nThe desktop program sees one drive, the practice disk %s.\n' "$image"
+    # Reports and settings of practice are not the user's.
+    XDG_DATA_HOME=$data XDG_CONFIG_HOME=$folder/config QUORVEX_ONLY_IMAGE_DISKS=1 QUORVEX_IMAGE_DISKS=$image \
+        "$root/build/release/bin/quorvex"
+}
+
+job=practice
+[[ -z ${DISPLAY:-}${WAYLAND_DISPLAY:-} ]] || job=desktop
+job=${1:-$job}
 case $job in
     -h | --help)
         usage
         exit 0
         ;;
-    practice) ;;
+    desktop | practice) ;;
     *) fail "no such job: '$job'; see ./run.sh --help" ;;
 esac
 
