@@ -30,7 +30,7 @@ TEXT
 
 build_program() {
     install_packages "${packages_build[@]}" "${packages_fonts[@]}"
-    build release --target quorvex-cli --target quorvex
+    build release --target "$1"
 }
 
 marker_lines() {
@@ -110,5 +110,6 @@ case $job in
     *) fail "no such job: '$job'; see ./run.sh --help" ;;
 esac
 
-step "build (release)" build_program
+declare -A programs=([practice]=quorvex-cli [desktop]=quorvex)
+step "build (release)" build_program "${programs[$job]}"
 "${job}_job"
