@@ -88,6 +88,7 @@ practice_job() {
     step "records" show_records
     printf '\nErased and checked.\n'
     printf '  %-12s %s\n' image: "$image" report: "$report" certificate: "$certificate" database: "$data/quorvex.db"
+    printf 'The stored report: %s --data-dir %s reports list\n' "$cli" "$data"
 }
 
 desktop_job() {
