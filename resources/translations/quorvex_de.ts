@@ -2458,6 +2458,14 @@ Möchten Sie den freien Speicherplatz löschen, damit dies nicht mehr möglich i
         <source>设置已保存</source>
         <translation>Die Einstellungen wurden gespeichert</translation>
     </message>
+    <message>
+        <source>保存失败</source>
+        <translation>Speichern fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>无法保存设置</source>
+        <translation>Die Einstellungen konnten nicht gespeichert werden</translation>
+    </message>
 </context>
 <context>
     <name>Sidebar</name>

@@ -2458,6 +2458,14 @@ Would you like to wipe free space to ensure they cannot be recovered?</translati
         <source>设置已保存</source>
         <translation>Settings have been saved</translation>
     </message>
+    <message>
+        <source>保存失败</source>
+        <translation>Save Failed</translation>
+    </message>
+    <message>
+        <source>无法保存设置</source>
+        <translation>The settings could not be saved</translation>
+    </message>
 </context>
 <context>
     <name>Sidebar</name>

@@ -2458,6 +2458,14 @@ Sin embargo, es posible que los archivos eliminados anteriormente aún se puedan
         <source>设置已保存</source>
         <translation>Se ha guardado la configuración</translation>
     </message>
+    <message>
+        <source>保存失败</source>
+        <translation>Error al guardar</translation>
+    </message>
+    <message>
+        <source>无法保存设置</source>
+        <translation>No se ha podido guardar la configuración</translation>
+    </message>
 </context>
 <context>
     <name>Sidebar</name>

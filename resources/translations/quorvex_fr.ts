@@ -2458,6 +2458,14 @@ Voulez-vous effacer l&apos;espace libre afin qu&apos;ils ne puissent pas être r
         <source>设置已保存</source>
         <translation>Les paramètres ont été enregistrés</translation>
     </message>
+    <message>
+        <source>保存失败</source>
+        <translation>Échec de l&apos;enregistrement</translation>
+    </message>
+    <message>
+        <source>无法保存设置</source>
+        <translation>Impossible d&apos;enregistrer les paramètres</translation>
+    </message>
 </context>
 <context>
     <name>Sidebar</name>

@@ -2458,6 +2458,14 @@ Cancellare lo spazio libero in modo che non possano essere recuperati?</translat
         <source>设置已保存</source>
         <translation>Le impostazioni sono state salvate</translation>
     </message>
+    <message>
+        <source>保存失败</source>
+        <translation>Salvataggio non riuscito</translation>
+    </message>
+    <message>
+        <source>无法保存设置</source>
+        <translation>Impossibile salvare le impostazioni</translation>
+    </message>
 </context>
 <context>
     <name>Sidebar</name>

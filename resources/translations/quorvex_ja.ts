@@ -2458,6 +2458,14 @@ Would you like to wipe free space to ensure they cannot be recovered?</source>
         <source>设置已保存</source>
         <translation>設定を保存しました</translation>
     </message>
+    <message>
+        <source>保存失败</source>
+        <translation>保存に失敗しました</translation>
+    </message>
+    <message>
+        <source>无法保存设置</source>
+        <translation>設定を保存できませんでした</translation>
+    </message>
 </context>
 <context>
     <name>Sidebar</name>

@@ -2458,6 +2458,14 @@ Would you like to wipe free space to ensure they cannot be recovered?</source>
         <source>设置已保存</source>
         <translation>설정이 저장되었습니다</translation>
     </message>
+    <message>
+        <source>保存失败</source>
+        <translation>저장 실패</translation>
+    </message>
+    <message>
+        <source>无法保存设置</source>
+        <translation>설정을 저장할 수 없습니다</translation>
+    </message>
 </context>
 <context>
     <name>Sidebar</name>

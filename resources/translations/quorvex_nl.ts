@@ -2458,6 +2458,14 @@ Wilt u de vrije ruimte wissen, zodat ze niet meer kunnen worden hersteld?</trans
         <source>设置已保存</source>
         <translation>De instellingen zijn opgeslagen</translation>
     </message>
+    <message>
+        <source>保存失败</source>
+        <translation>Opslaan mislukt</translation>
+    </message>
+    <message>
+        <source>无法保存设置</source>
+        <translation>De instellingen konden niet worden opgeslagen</translation>
+    </message>
 </context>
 <context>
     <name>Sidebar</name>

@@ -2458,6 +2458,14 @@ Deseja apagar o espaço livre para que eles não possam ser recuperados?</transl
         <source>设置已保存</source>
         <translation>As configurações foram salvas</translation>
     </message>
+    <message>
+        <source>保存失败</source>
+        <translation>Falha ao salvar</translation>
+    </message>
+    <message>
+        <source>无法保存设置</source>
+        <translation>Não foi possível salvar as configurações</translation>
+    </message>
 </context>
 <context>
     <name>Sidebar</name>

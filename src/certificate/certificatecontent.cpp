@@ -2,17 +2,13 @@
 
 #include "certificate/certificaterenderer.h"
 #include "model/displaytext.h"
+#include "model/displaytime.h"
 #include "model/formatsize.h"
 #include "model/wipereport.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-QString timeText(const QDateTime &time)
-{
-    return time.toString(u"yyyy-MM-dd HH:mm:ss");
-}
 
 Verdict verdictFor(bool good)
 {
@@ -27,8 +23,8 @@ CertificateSection operationSummary(const WipeReport &report)
                 {CertificateRenderer::tr("擦除标准"), report.method.name},
                 {CertificateRenderer::tr("覆写次数"),
                  QString::number(report.method.passCount()) + CertificateRenderer::tr(" 次")},
-                {CertificateRenderer::tr("开始时间"), timeText(report.startTime)},
-                {CertificateRenderer::tr("结束时间"), timeText(report.endTime)},
+                {CertificateRenderer::tr("开始时间"), displayTime(report.startTime)},
+                {CertificateRenderer::tr("结束时间"), displayTime(report.endTime)},
                 {CertificateRenderer::tr("耗时"), report.duration()},
                 {CertificateRenderer::tr("状态:"), report.statusName(),
                  verdictFor(report.status == WipeStatus::Completed), true},

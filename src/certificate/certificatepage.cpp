@@ -4,6 +4,7 @@
 #include "certificate/certificatefonts.h"
 #include "certificate/certificaterenderer.h"
 #include "model/displaytext.h"
+#include "model/displaytime.h"
 #include "model/wipereport.h"
 
 #include <QDateTime>
@@ -104,7 +105,7 @@ void CertificatePage::paintTitles()
 void CertificatePage::paintIdentity(const QString &certificateId)
 {
     moveDown(5);
-    const QString now = QDateTime::currentDateTime().toString(u"yyyy-MM-dd HH:mm:ss");
+    const QString now = displayTime(QDateTime::currentDateTime());
     const QString line = CertificateRenderer::tr("证书编号: ") + certificateId + u"    "_s +
                          CertificateRenderer::tr("生成时间: ") + now;
     write(fullWidth(8), centred, line, certificatefonts::text(9), colour(CertificateColour::SecondaryText));

@@ -4,6 +4,7 @@
 #include "certificate/certificatestyles.h"
 #include "certificate/valuelabel.h"
 #include "model/displaytext.h"
+#include "model/displaytime.h"
 #include "model/formatsize.h"
 #include "model/wipereport.h"
 
@@ -35,11 +36,6 @@ struct ViewSection
     int spacing = -1; // the style's own
 };
 
-QString timeText(const QDateTime &time)
-{
-    return time.toString(u"yyyy-MM-dd HH:mm:ss");
-}
-
 QStringView statusStyle(WipeStatus status)
 {
     switch (status) {
@@ -59,8 +55,8 @@ ViewSection operationSummary(const WipeReport &report)
                 {CertificateDialog::tr("Operation Type"), report.operationTypeName()},
                 {CertificateDialog::tr("Erase Standard"), report.method.name},
                 {CertificateDialog::tr("Overwrite Passes"), QString::number(report.method.passCount())},
-                {CertificateDialog::tr("Start Time"), timeText(report.startTime)},
-                {CertificateDialog::tr("End Time"), timeText(report.endTime)},
+                {CertificateDialog::tr("Start Time"), displayTime(report.startTime)},
+                {CertificateDialog::tr("End Time"), displayTime(report.endTime)},
                 {CertificateDialog::tr("Duration"), report.duration()},
                 {CertificateDialog::tr("Status"), report.statusName(), statusStyle(report.status)},
             },
@@ -188,7 +184,7 @@ void addIdentity(QVBoxLayout *layout, const WipeReport &report, QWidget *page)
     row->addWidget(id);
     row->addStretch();
     row->addWidget(makeLabel(CertificateDialog::tr("Created:"), certificatestyles::Caption, page));
-    row->addWidget(makeLabel(timeText(QDateTime::currentDateTime()), certificatestyles::Value, page));
+    row->addWidget(makeLabel(displayTime(QDateTime::currentDateTime()), certificatestyles::Value, page));
     layout->addLayout(row);
 }
 

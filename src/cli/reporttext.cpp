@@ -4,6 +4,7 @@
 #include "cli/table.h"
 #include "cli/translate.h"
 #include "model/displaytext.h"
+#include "model/displaytime.h"
 #include "model/formatsize.h"
 
 #include <QJsonDocument>
@@ -17,11 +18,6 @@ namespace {
 QString size(quint64 bytes)
 {
     return formatSize(static_cast<qint64>(bytes));
-}
-
-QString time(const QDateTime &moment)
-{
-    return moment.toString(u"yyyy-MM-dd HH:mm:ss");
 }
 
 void addTarget(Table &table, const WipeReport &report)
@@ -72,8 +68,8 @@ QString reportText(const WipeReport &report)
     table.addRow({Cli::tr("Method"),
                   displayText(report.method.name) + u", "_s + passCountText(report.method.passCount())});
     table.addRow({Cli::tr("Status"), report.statusName()});
-    table.addRow({Cli::tr("Started"), time(report.startTime)});
-    table.addRow({Cli::tr("Ended"), time(report.endTime)});
+    table.addRow({Cli::tr("Started"), displayTime(report.startTime)});
+    table.addRow({Cli::tr("Ended"), displayTime(report.endTime)});
     table.addRow({Cli::tr("Duration"), report.endTime.isValid() ? report.duration() : QString()});
     addTarget(table, report);
     table.addRow({Cli::tr("Written"), size(report.bytesWritten)});

@@ -3,6 +3,19 @@
 #include <QFileDialog>
 #include <QPrintDialog>
 
+namespace {
+
+// "*.*" means every file on Windows only; elsewhere it leaves out names without a dot.
+QString forThisSystem(QString filter)
+{
+#ifndef Q_OS_WIN
+    filter.replace(QLatin1String("*.*"), QLatin1String("*"));
+#endif
+    return filter;
+}
+
+} // namespace
+
 QMessageBox::StandardButton NativePrompts::show(QWidget *parent, const Box &box)
 {
     QMessageBox shown(box.icon, box.title, box.text, box.buttons, parent);
@@ -17,12 +30,12 @@ QMessageBox::StandardButton NativePrompts::show(QWidget *parent, const Box &box)
 QString NativePrompts::fileToSave(QWidget *parent, const QString &caption, const QString &proposal,
                                   const QString &filter)
 {
-    return QFileDialog::getSaveFileName(parent, caption, proposal, filter);
+    return QFileDialog::getSaveFileName(parent, caption, proposal, forThisSystem(filter));
 }
 
 QStringList NativePrompts::filesToOpen(QWidget *parent, const QString &caption, const QString &filter)
 {
-    return QFileDialog::getOpenFileNames(parent, caption, QString(), filter);
+    return QFileDialog::getOpenFileNames(parent, caption, QString(), forThisSystem(filter));
 }
 
 QString NativePrompts::folder(QWidget *parent, const QString &caption, const QString &start)

@@ -19,7 +19,7 @@ static void addCatalogueToResources()
 }
 
 namespace {
-const QString languageSetting = u"language"_s;
+const QString languageSetting = usersettings::Language.toString();
 const QString metadataMember = u"metadata"_s;
 
 // The catalogue's language for a locale; empty for one that has none.

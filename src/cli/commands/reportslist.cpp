@@ -6,6 +6,7 @@
 #include "cli/table.h"
 #include "cli/translate.h"
 #include "model/displaytext.h"
+#include "model/displaytime.h"
 #include "services/reportdatabase.h"
 
 namespace cli {
@@ -38,7 +39,7 @@ QStringList rowOf(const StoredReport &stored)
         return {id, Cli::tr("damaged")};
     const WipeReport report = WipeReport::fromJson(stored.json);
     return {id,
-            report.startTime.toString(u"yyyy-MM-dd HH:mm:ss"),
+            displayTime(report.startTime),
             report.statusName(),
             report.operationTypeName(),
             displayText(report.method.name),

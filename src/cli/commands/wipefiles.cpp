@@ -1,6 +1,7 @@
 #include "cli/cliio.h"
 #include "cli/commandline.h"
 #include "cli/filetarget.h"
+#include "cli/listing.h"
 #include "cli/translate.h"
 #include "cli/wipeplan.h"
 #include "model/displaytext.h"
@@ -11,8 +12,6 @@ namespace cli {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr qsizetype MostListed = 20;
 
 QStringList words()
 {
@@ -28,11 +27,8 @@ QString targetName(const QStringList &paths)
 
 QStringList summaryOf(const QStringList &paths, const FileCount &count)
 {
-    QStringList lines;
-    for (const QString &path : paths.first(std::min(MostListed, paths.size())))
-        lines.append(u"  "_s + displayText(path));
-    if (paths.size() > MostListed)
-        lines.append(Cli::tr("  and %1 more").arg(paths.size() - MostListed));
+    QStringList lines =
+        beginningOfList(paths.size(), [&paths](qsizetype i) { return displayText(paths.at(i)); });
     const QString atLeast = count.isComplete ? QString() : Cli::tr("at least ");
     const QString files = count.files == 1 ? Cli::tr("1 file") : Cli::tr("%1 files").arg(count.files);
     lines.append(Cli::tr("  %1%2, %3").arg(atLeast, files, formatSize(static_cast<qint64>(count.bytes))));

@@ -1,9 +1,9 @@
 #include "cli/cliio.h"
 #include "cli/globaloptions.h"
+#include "cli/listing.h"
 #include "cli/translate.h"
 #include "cli/trashtarget.h"
 #include "cli/wipeplan.h"
-#include "model/displaytext.h"
 #include "model/jsonwriter.h"
 #include "services/binrecords.h"
 
@@ -13,8 +13,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qsizetype MostListed = 20;
-
 QStringList words()
 {
     return {u"wipe"_s, u"trash"_s};
@@ -22,11 +20,8 @@ QStringList words()
 
 QStringList summaryOf(const RecycleBinInfo &found)
 {
-    QStringList lines;
-    for (const RecycleBinItem &item : found.items.first(std::min(MostListed, found.items.size())))
-        lines.append(u"  "_s + describeItem(item));
-    if (found.items.size() > MostListed)
-        lines.append(Cli::tr("  and %1 more").arg(found.items.size() - MostListed));
+    QStringList lines = beginningOfList(found.items.size(),
+                                        [&found](qsizetype i) { return describeItem(found.items.at(i)); });
     lines.append(u"  "_s + amountOf(found));
     return lines;
 }

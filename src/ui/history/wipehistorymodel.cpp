@@ -1,6 +1,7 @@
 #include "ui/history/wipehistorymodel.h"
 
 #include "model/displaytext.h"
+#include "model/displaytime.h"
 #include "ui/style/palette.h"
 
 #include <QColor>
@@ -80,7 +81,7 @@ QString WipeHistoryModel::cellText(const WipeReport &report, int column)
     case MethodColumn:
         return displayText(report.method.name);
     case StartColumn:
-        return report.startTime.toString(u"yyyy-MM-dd HH:mm:ss"_s);
+        return displayTime(report.startTime);
     case StatusColumn:
         return report.statusName();
     default:

@@ -4,10 +4,8 @@
 #include "services/recyclebininfo.h"
 
 #include <QFutureWatcher>
-#include <QList>
 #include <QMainWindow>
 #include <QPoint>
-#include <QStringList>
 
 QT_FORWARD_DECLARE_CLASS(QListWidget)
 QT_FORWARD_DECLARE_CLASS(QStackedWidget)
@@ -91,22 +89,19 @@ private:
     void setMenuEnabled(bool enabled);
 
     void keepReport(const WipeReport &report);
+    void updateRecycleBinRecords();
     void exportCertificate(const WipeReport &report) const;
     void leaveCompletedJob(bool success);
 
     void startRecycleBinScan();
     void offerFreeSpaceWipeOfEmptyBin();
     void takeRecycleBin(const RecycleBinInfo &found);
-    void dropRecycleBin();
+    void leaveRecycleBin();
 
     QFutureWatcher<RecycleBinInfo> *m_recycleBinWatcher = nullptr; ///< made by the first scan
     bool m_isRecycleBinMode = false;
-    QList<RecycleBinItem> m_recycleBinItems;
-    QStringList m_recycleBinPaths;
-    quint64 m_recycleBinSize = 0; ///< bytes
-    int m_recycleBinCount = 0;
-    QStringList m_recycleBinTaskPaths; ///< those handed to the task
-    int m_loadedRecycleBinCount = 0;   ///< items that are shown already
+    RecycleBinInfo m_recycleBin;     ///< what the last scan found
+    int m_loadedRecycleBinCount = 0; ///< items that are shown already
 
     Sidebar *m_sidebar = nullptr;
     QListWidget *m_menu = nullptr;

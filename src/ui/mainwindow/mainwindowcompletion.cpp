@@ -6,6 +6,7 @@
 #include "engine/wipeengine.h"
 #include "model/usersettings.h"
 #include "prompts/prompts.h"
+#include "services/binrecords.h"
 #include "services/reportdatabase.h"
 #include "ui/dialogs/completedialog.h"
 #include "ui/history/historypage.h"
@@ -24,6 +25,8 @@ void MainWindow::onWipeCompleted(bool success)
         showHome();
         return;
     }
+    if (m_isRecycleBinMode)
+        updateRecycleBinRecords();
     const WipeReport report = m_engine->report();
     const bool keepsReport =
         usersettings::readBool(*usersettings::open(), usersettings::GenerateReport, true);
@@ -57,6 +60,14 @@ void MainWindow::keepReport(const WipeReport &report)
                                    .arg(ReportDatabase::instance().lastError()));
 }
 
+// The bins' own records of what they hold name what was erased.
+void MainWindow::updateRecycleBinRecords()
+{
+    const platform::Status updated = updateBinRecords(m_recycleBin);
+    if (!updated)
+        qWarning() << "[RecycleBin] The bin's own list still names what was erased:" << updated.diagnostic();
+}
+
 void MainWindow::exportCertificate(const WipeReport &report) const
 {
     const auto store = usersettings::open();
@@ -74,7 +85,7 @@ void MainWindow::exportCertificate(const WipeReport &report) const
 void MainWindow::leaveCompletedJob(bool success)
 {
     const bool offersFreeSpace = m_isRecycleBinMode && success;
-    m_isRecycleBinMode = false;
+    leaveRecycleBin();
     if (offersFreeSpace &&
         Prompts::current().confirms(this, QMessageBox::Question, tr("Wipe Free Space?"),
                                     tr("Recycle Bin files have been securely wiped!\n\n"

@@ -21,6 +21,8 @@ WipeTask &MainWindow::newTask(OperationType type)
 
 void MainWindow::onDiskWipeClicked()
 {
+    // The menu leads home without a way back through the bin.
+    leaveRecycleBin();
     newTask(DiskWipe);
     m_diskPage->setMode(DiskSelectPage::WipeDisk);
     m_diskPage->refresh();
@@ -29,6 +31,7 @@ void MainWindow::onDiskWipeClicked()
 
 void MainWindow::onFreeSpaceWipeClicked()
 {
+    leaveRecycleBin();
     newTask(FreeSpaceWipe);
     m_diskPage->setMode(DiskSelectPage::WipeFreeSpace);
     m_diskPage->refresh();
@@ -37,6 +40,7 @@ void MainWindow::onFreeSpaceWipeClicked()
 
 void MainWindow::onFileWipeClicked()
 {
+    leaveRecycleBin();
     newTask(FileWipe);
     m_filePage->clearFiles();
     showPage(FileSelect);
@@ -45,12 +49,9 @@ void MainWindow::onFileWipeClicked()
 void MainWindow::onBackClicked()
 {
     switch (m_currentPage) {
-    case FileSelect:
-        if (m_isRecycleBinMode)
-            dropRecycleBin();
-        [[fallthrough]];
     case DiskSelect:
-        m_isRecycleBinMode = false;
+    case FileSelect:
+        leaveRecycleBin();
         showHome();
         break;
     case MethodSelect:

@@ -95,7 +95,7 @@ void MainWindow::onRecycleBinScanFinished()
 
 void MainWindow::offerFreeSpaceWipeOfEmptyBin()
 {
-    m_isRecycleBinMode = false;
+    leaveRecycleBin();
     showHome();
     if (Prompts::current().confirms(
             this, QMessageBox::Question, tr("Recycle Bin is Empty"),
@@ -109,17 +109,13 @@ void MainWindow::takeRecycleBin(const RecycleBinInfo &found)
 {
     m_filePage->setHeader(tr("Recycle Bin Wipe"),
                           tr("The following deleted files were found in the Recycle Bin"));
-    m_recycleBinTaskPaths = existing(found.filePaths);
-    newTask(FileWipe).setFiles(m_recycleBinTaskPaths);
-    m_recycleBinItems = found.items;
-    m_recycleBinPaths = found.filePaths;
-    m_recycleBinSize = found.totalSize;
-    m_recycleBinCount = found.fileCount;
+    newTask(FileWipe).setFiles(existing(found.filePaths));
+    m_recycleBin = found;
     m_loadedRecycleBinCount = 0;
 
     m_filePage->statsLabel()->setText(tr("Found %1 items, total %2")
-                                          .arg(m_recycleBinCount)
-                                          .arg(formatSize(static_cast<qint64>(m_recycleBinSize))));
+                                          .arg(m_recycleBin.fileCount)
+                                          .arg(formatSize(static_cast<qint64>(m_recycleBin.totalSize))));
     m_filePage->setToolRowVisible(false);
     m_filePage->nextButton()->setEnabled(true);
     m_filePage->stack()->setCurrentIndex(FileSelectPage::ListView);
@@ -131,10 +127,10 @@ void MainWindow::takeRecycleBin(const RecycleBinInfo &found)
 
 void MainWindow::loadMoreRecycleBinItems()
 {
-    const int count = static_cast<int>(m_recycleBinItems.size());
+    const int count = static_cast<int>(m_recycleBin.items.size());
     const int end = std::min(m_loadedRecycleBinCount + PageSize, count);
     for (int i = m_loadedRecycleBinCount; i < end; ++i) {
-        const RecycleBinItem &item = m_recycleBinItems.at(i);
+        const RecycleBinItem &item = m_recycleBin.items.at(i);
         auto *row = new QListWidgetItem(textOf(item), m_filePage->list());
         row->setToolTip(item.originalPath.toHtmlEscaped());
         row->setData(Qt::UserRole, item.recyclePath);
@@ -145,22 +141,22 @@ void MainWindow::loadMoreRecycleBinItems()
 
 void MainWindow::onRecycleBinListScrolled()
 {
-    if (!m_isRecycleBinMode || m_loadedRecycleBinCount >= m_recycleBinItems.size())
+    if (!m_isRecycleBinMode || m_loadedRecycleBinCount >= m_recycleBin.items.size())
         return;
     const QScrollBar *bar = m_filePage->list()->verticalScrollBar();
     if (bar->value() >= 0.8 * bar->maximum())
         loadMoreRecycleBinItems();
 }
 
-void MainWindow::dropRecycleBin()
+// The file page goes back to what the file flow wants. A scan that still runs finds nobody waiting.
+void MainWindow::leaveRecycleBin()
 {
+    if (!m_isRecycleBinMode)
+        return;
+    m_isRecycleBinMode = false;
     disconnect(m_filePage->list()->verticalScrollBar(), &QScrollBar::valueChanged, this,
                &MainWindow::onRecycleBinListScrolled);
-    m_recycleBinItems.clear();
-    m_recycleBinPaths.clear();
-    m_recycleBinTaskPaths.clear();
-    m_recycleBinSize = 0;
-    m_recycleBinCount = 0;
+    m_recycleBin = {};
     m_loadedRecycleBinCount = 0;
     m_filePage->setToolRowVisible(true);
     m_filePage->hideLoading();

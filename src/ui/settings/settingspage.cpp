@@ -182,13 +182,16 @@ void SettingsPage::onReset()
 
 void SettingsPage::onSave()
 {
-    // Closed, and so written, before the box tells that it is saved.
-    {
-        const auto store = usersettings::open();
-        store->setValue(usersettings::VerifyAfterWipe.toString(), m_verify->isChecked());
-        store->setValue(usersettings::GenerateReport.toString(), m_report->isChecked());
-        store->setValue(usersettings::ExportPath.toString(), m_path->text());
-        store->setValue(usersettings::AutoExport.toString(), m_autoExport->isChecked());
+    const auto store = usersettings::open();
+    store->setValue(usersettings::VerifyAfterWipe.toString(), m_verify->isChecked());
+    store->setValue(usersettings::GenerateReport.toString(), m_report->isChecked());
+    store->setValue(usersettings::ExportPath.toString(), m_path->text());
+    store->setValue(usersettings::AutoExport.toString(), m_autoExport->isChecked());
+    // Written, before the box tells that it is saved.
+    store->sync();
+    if (store->status() != QSettings::NoError) {
+        Prompts::current().warning(this, tr("保存失败"), tr("无法保存设置"));
+        return;
     }
     Prompts::current().information(this, tr("保存成功"), tr("设置已保存"));
 }

@@ -1,5 +1,6 @@
 #include "ui/mainwindow/windowfixture.h"
 
+#include "ui/home/featurecard.h"
 #include "ui/titlebar/winbutton.h"
 
 #include <QMouseEvent>
@@ -18,10 +19,12 @@ private slots:
     void aPageSelectsItsMenuRow_data();
     void aPageSelectsItsMenuRow();
     void indexesWithoutAPageChangeNothing();
+    void eachCardLeadsToItsFlow_data();
     void eachCardLeadsToItsFlow();
     void backLeadsHome();
     void backFromTheMethodsLeadsToWhatWasChosen();
     void maximiseAndRestore();
+    void theMinimiseButtonMinimises();
     void theWindowIsDraggedByItsTop_data();
     void theWindowIsDraggedByItsTop();
     void aPressOnAButtonDoesNotDrag();
@@ -29,6 +32,16 @@ private slots:
     void theAboutBoxTellsTheVersion();
     void everyPageHasTheSheetOfTheApplication();
 };
+
+static WinButton *titleButton(const WindowFixture &fixture, WinButton::Kind kind)
+{
+    const QList<WinButton *> buttons = fixture.window->findChildren<WinButton *>();
+    for (WinButton *candidate : buttons) {
+        if (candidate->kind() == kind)
+            return candidate;
+    }
+    return nullptr;
+}
 
 void TestMainWindow::theWindowIsAsItShouldBe()
 {
@@ -99,17 +112,33 @@ void TestMainWindow::indexesWithoutAPageChangeNothing()
     QCOMPARE(fixture.child<QListWidget>("menuList")->currentRow(), 1);
 }
 
+void TestMainWindow::eachCardLeadsToItsFlow_data()
+{
+    QTest::addColumn<QString>("card");
+    QTest::addColumn<int>("page");
+    QTest::addColumn<QString>("title");
+    const auto row = [](const QString &card, MainWindow::Page page, const QString &title) {
+        QTest::newRow(qPrintable(card)) << card << int(page) << title;
+    };
+    row(u"Disk Wipe"_s, MainWindow::DiskSelect, u"Wipe Disk and Partition"_s);
+    row(u"Free Space Wipe"_s, MainWindow::DiskSelect, u"Wipe Free Space"_s);
+    row(u"File Wipe"_s, MainWindow::FileSelect, u"Select Files to Shred"_s);
+    row(u"Recycle Bin Wipe"_s, MainWindow::FileSelect, u"Recycle Bin Wipe"_s);
+}
+
 void TestMainWindow::eachCardLeadsToItsFlow()
 {
+    QFETCH(QString, card);
+    QFETCH(int, page);
+    QFETCH(QString, title);
     WindowFixture fixture;
-    fixture.window->onDiskWipeClicked();
-    QCOMPARE(fixture.window->currentPage(), int(MainWindow::DiskSelect));
-    QCOMPARE(fixture.page()->findChild<QLabel *>(u"pageTitle"_s)->text(), u"Wipe Disk and Partition"_s);
-    fixture.window->onFreeSpaceWipeClicked();
-    QCOMPARE(fixture.window->currentPage(), int(MainWindow::DiskSelect));
-    QCOMPARE(fixture.page()->findChild<QLabel *>(u"pageTitle"_s)->text(), u"Wipe Free Space"_s);
-    fixture.window->onFileWipeClicked();
-    QCOMPARE(fixture.window->currentPage(), int(MainWindow::FileSelect));
+    const QList<FeatureCard *> cards = fixture.page()->findChildren<FeatureCard *>();
+    for (FeatureCard *candidate : cards) {
+        if (candidate->accessibleName() == card)
+            QTest::mouseClick(candidate, Qt::LeftButton);
+    }
+    QCOMPARE(fixture.window->currentPage(), page);
+    QCOMPARE(fixture.page()->findChild<QLabel *>(u"pageTitle"_s)->text(), title);
 }
 
 void TestMainWindow::backLeadsHome()
@@ -143,12 +172,7 @@ void TestMainWindow::backFromTheMethodsLeadsToWhatWasChosen()
 void TestMainWindow::maximiseAndRestore()
 {
     WindowFixture fixture;
-    WinButton *button = nullptr;
-    const QList<WinButton *> buttons = fixture.window->findChildren<WinButton *>();
-    for (WinButton *candidate : buttons) {
-        if (candidate->kind() == WinButton::Maximize)
-            button = candidate;
-    }
+    WinButton *button = titleButton(fixture, WinButton::Maximize);
     QVERIFY(button);
     QTest::mouseClick(button, Qt::LeftButton);
     QTRY_VERIFY(fixture.window->isMaximized());
@@ -158,6 +182,13 @@ void TestMainWindow::maximiseAndRestore()
     QCOMPARE(button->toolTip(), u"Maximize"_s);
     fixture.window->showMaximized(); // by the system, not by the button
     QTRY_COMPARE(button->toolTip(), u"Restore"_s);
+}
+
+void TestMainWindow::theMinimiseButtonMinimises()
+{
+    WindowFixture fixture;
+    QTest::mouseClick(titleButton(fixture, WinButton::Minimize), Qt::LeftButton);
+    QTRY_VERIFY(fixture.window->isMinimized());
 }
 
 void TestMainWindow::theWindowIsDraggedByItsTop_data()
@@ -213,7 +244,8 @@ void TestMainWindow::aPressOnAButtonDoesNotDrag()
 void TestMainWindow::anIdleWindowClosesAtOnce()
 {
     WindowFixture fixture;
-    QVERIFY(fixture.window->close());
+    QTest::mouseClick(titleButton(fixture, WinButton::Close), Qt::LeftButton);
+    QVERIFY(!fixture.window->isVisible());
     QCOMPARE(fixture.prompts.boxes.size(), 0);
 }
 

@@ -21,6 +21,9 @@ private slots:
     void anEmptyBinLeadsHomeAndOffersFreeSpace();
     void backDuringTheScanDropsItsResult();
     void backAfterTheScanRestoresThePage();
+    void anotherFlowLeavesTheBin();
+    void aFileJobAfterTheBinHasItsPageBack();
+    void namesOfErasedFoldersLeaveTheRecords();
     void backFromTheMethodsKeepsTheBin();
     void whatVanishesAfterTheScanStopsTheJob();
 
@@ -149,6 +152,62 @@ void TestRecycleBinFlow::backAfterTheScanRestoresThePage()
     QVERIFY(!page->nextButton()->isEnabled());
     QVERIFY(fixture.button(u"📄 Add Files"_s)->isVisible());
     QCOMPARE(page->findChild<QLabel *>(u"pageTitle"_s)->text(), u"Select Files to Shred"_s);
+}
+
+// The menu leads home from a page of the bin without a way back.
+void TestRecycleBinFlow::anotherFlowLeavesTheBin()
+{
+    WindowFixture fixture;
+    addTrash(fixture, 3);
+    const QString chosen = fixture.homePath(u"chosen.txt"_s);
+    QVERIFY(writeTestFile(chosen, "chosen"));
+    fixture.window->onRecycleBinWipeClicked();
+    QTRY_VERIFY(fixture.button(u"Next →"_s)->isEnabled());
+    fixture.window->onMenuItemClicked(0);
+    fixture.window->onFileWipeClicked();
+    fixture.prompts.filesToOpenAnswers = {{chosen}};
+    QVERIFY(fixture.click(u"📄 Add Files"_s));
+    QVERIFY(fixture.click(u"Next →"_s));
+    fixture.dialogs.answers = {WindowFixture::typeErase, WindowFixture::pressButton(u"Done"_s)};
+    QVERIFY(fixture.click(u"Start"_s));
+    QTRY_VERIFY_WITH_TIMEOUT(fixture.dialogs.answers.isEmpty(), 60000);
+    QTRY_COMPARE(fixture.window->currentPage(), int(MainWindow::Home));
+    QVERIFY(!QFile::exists(chosen));
+    QCOMPARE(QDir(trash(fixture, u"files"_s)).entryList(QDir::Files).size(), 3);
+    QCOMPARE(fixture.prompts.boxes.size(), 0); // no offer of the bin
+}
+
+void TestRecycleBinFlow::aFileJobAfterTheBinHasItsPageBack()
+{
+    WindowFixture fixture;
+    addTrash(fixture, 3);
+    fixture.window->onRecycleBinWipeClicked();
+    QTRY_VERIFY(fixture.button(u"Next →"_s)->isEnabled());
+    QVERIFY(fixture.click(u"Next →"_s));
+    fixture.dialogs.answers = {WindowFixture::typeErase, WindowFixture::pressButton(u"Done"_s)};
+    fixture.prompts.buttons = {QMessageBox::No};
+    QVERIFY(fixture.click(u"Start"_s));
+    QTRY_COMPARE_WITH_TIMEOUT(fixture.window->currentPage(), int(MainWindow::Home), 60000);
+    fixture.window->onFileWipeClicked();
+    QVERIFY(fixture.button(u"📄 Add Files"_s)->isVisible());
+    QCOMPARE(fixture.page()->findChild<QLabel *>(u"pageTitle"_s)->text(), u"Select Files to Shred"_s);
+}
+
+void TestRecycleBinFlow::namesOfErasedFoldersLeaveTheRecords()
+{
+    WindowFixture fixture;
+    QVERIFY(QDir().mkpath(trash(fixture, u"info"_s)));
+    QVERIFY(writeTestFile(trash(fixture, u"files/project/plan.txt"_s), "plan"));
+    QVERIFY(writeTestFile(trash(fixture, u"info/project.trashinfo"_s), "[Trash Info]\nPath=/tmp/project\n"));
+    QVERIFY(writeTestFile(trash(fixture, u"directorysizes"_s), "4 1700000000 project\n"));
+    fixture.window->onRecycleBinWipeClicked();
+    QTRY_VERIFY(fixture.button(u"Next →"_s)->isEnabled());
+    QVERIFY(fixture.click(u"Next →"_s));
+    fixture.dialogs.answers = {WindowFixture::typeErase, WindowFixture::pressButton(u"Done"_s)};
+    fixture.prompts.buttons = {QMessageBox::No};
+    QVERIFY(fixture.click(u"Start"_s));
+    QTRY_COMPARE_WITH_TIMEOUT(fixture.window->currentPage(), int(MainWindow::Home), 60000);
+    QVERIFY(!contentOfTestFile(trash(fixture, u"directorysizes"_s)).contains("project"));
 }
 
 void TestRecycleBinFlow::backFromTheMethodsKeepsTheBin()

@@ -30,6 +30,7 @@ private slots:
     void theCertificateIsExportedWhenWanted();
     void aMissingExportFolderIsSkipped();
     void theCertificateOpensFromTheCompletionDialog();
+    void theCertificateOpensFromTheHistory();
     void aDatabaseThatDoesNotTakeTheReportIsTold();
     void comingBackDoesNotDoubleTheFiles();
 
@@ -93,8 +94,6 @@ QString longFile(const QTemporaryDir &folder)
 void startLongJob(WindowFixture &fixture, const QTemporaryDir &folder)
 {
     chooseFiles(fixture, {longFile(folder)});
-    auto *list = fixture.page();
-    QVERIFY(list);
     fixture.dialogs.answers = {WindowFixture::typeErase};
     QVERIFY(fixture.click(u"Start"_s));
     QCOMPARE(fixture.window->currentPage(), int(MainWindow::Progress));
@@ -152,7 +151,7 @@ void TestWipeFlows::theMenuIsDisabledWhileAJobRuns()
     QVERIFY(!fixture.child<QListWidget>("menuList")->isEnabled());
     QCOMPARE(fixture.child<QListWidget>("menuList")->styleSheet(), u"QListWidget { opacity: 0.5; }"_s);
     fixture.prompts.buttons = {QMessageBox::Ok};
-    fixture.window->onStopClicked();
+    QVERIFY(fixture.click(u"⏹️ 停止"_s));
     QVERIFY(fixture.child<QListWidget>("menuList")->isEnabled());
 }
 
@@ -161,11 +160,11 @@ void TestWipeFlows::stoppingAsksFirst()
     WindowFixture fixture;
     startLongJob(fixture, m_folder);
     fixture.prompts.buttons = {QMessageBox::Cancel, QMessageBox::Ok};
-    fixture.window->onStopClicked();
+    QVERIFY(fixture.click(u"⏹️ 停止"_s));
     QCOMPARE(fixture.prompts.boxes.constFirst().title, u"Confirm Stop"_s);
     QCOMPARE(fixture.prompts.boxes.constFirst().byDefault, QMessageBox::Cancel);
     QCOMPARE(fixture.window->currentPage(), int(MainWindow::Progress));
-    fixture.window->onStopClicked();
+    QVERIFY(fixture.click(u"⏹️ 停止"_s));
     QCOMPARE(fixture.window->currentPage(), int(MainWindow::Home));
     QVERIFY(!isJobRunning(fixture));
 }
@@ -176,7 +175,7 @@ void TestWipeFlows::aStoppedJobLeavesItsReport()
     startLongJob(fixture, m_folder);
     fixture.prompts.buttons = {QMessageBox::Ok};
     fixture.dialogs.answers = {WindowFixture::pressButton(u"Close"_s)};
-    fixture.window->onStopClicked();
+    QVERIFY(fixture.click(u"⏹️ 停止"_s));
     QTRY_COMPARE(fixture.dialogs.answers.size(), 0);
     QTRY_COMPARE(fixture.reports().size(), 1);
     // The worker's own end, which comes after the stop, has the last word.
@@ -208,7 +207,7 @@ void TestWipeFlows::aRefusedTaskIsToldInTheLog()
     QCOMPARE(fixture.window->currentPage(), int(MainWindow::Progress));
     QVERIFY(!fixture.page()->findChild<QTextEdit *>(u"logText"_s)->toPlainText().isEmpty());
     fixture.prompts.buttons = {QMessageBox::Ok};
-    fixture.window->onStopClicked();
+    QVERIFY(fixture.click(u"⏹️ 停止"_s));
     QCOMPARE(fixture.window->currentPage(), int(MainWindow::Home));
     QVERIFY(fixture.child<QListWidget>("menuList")->isEnabled());
     QCOMPARE(fixture.reports().size(), 0);
@@ -287,6 +286,24 @@ void TestWipeFlows::theCertificateOpensFromTheCompletionDialog()
     QTRY_VERIFY_WITH_TIMEOUT(
         fixture.dialogs.answers.isEmpty() && fixture.window->currentPage() == MainWindow::Home, 60000);
     QVERIFY(isCertificate);
+}
+
+void TestWipeFlows::theCertificateOpensFromTheHistory()
+{
+    const QString path = image();
+    WindowFixture fixture({path});
+    chooseDisk(fixture);
+    runJob(fixture);
+    fixture.window->onNavigateToPage(MainWindow::History);
+    auto *view = fixture.page()->findChild<QPushButton *>(u"tableViewBtn"_s);
+    QVERIFY(view);
+    QString title;
+    fixture.dialogs.answers = {[&title](QDialog &dialog) {
+        title = dialog.windowTitle();
+        dialog.reject();
+    }};
+    QTest::mouseClick(view, Qt::LeftButton);
+    QCOMPARE(title, u"Erasure Certificate - "_s + fixture.reports().constFirst().certificateId);
 }
 
 void TestWipeFlows::aDatabaseThatDoesNotTakeTheReportIsTold()

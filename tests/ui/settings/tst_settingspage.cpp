@@ -71,6 +71,7 @@ private slots:
     void anEmptyFolderIsSavedWithAutoExport();
     void thePathIsSavedAsTyped();
     void otherSettingsStay();
+    void settingsThatCannotBeSavedAreToldSo();
     void resetShowsTheDefaultsAndStoresNothing();
     void resetThenSavedStoresTheDefaults();
 
@@ -240,6 +241,23 @@ void tst_SettingsPage::otherSettingsStay()
     const Shown shown;
     shown.click(shown.save);
     QCOMPARE(settings.value(usersettings::Language).toString(), u"de"_s);
+}
+
+void tst_SettingsPage::settingsThatCannotBeSavedAreToldSo()
+{
+    const TemporarySettings settings;
+    QFile notAFolder(settings.path());
+    QVERIFY(notAFolder.open(QIODevice::WriteOnly));
+    const usersettings::ScopedStore unwritable{[path = settings.path() + u"/settings.ini"_s] {
+        return std::make_unique<QSettings>(path, QSettings::IniFormat);
+    }};
+    const ScriptedPrompts prompts;
+    const Shown shown;
+    shown.click(shown.save);
+    QCOMPARE(prompts.boxes.size(), 1);
+    QCOMPARE(prompts.boxes.constFirst().icon, QMessageBox::Warning);
+    QCOMPARE(prompts.boxes.constFirst().title, u"保存失败"_s);
+    QCOMPARE(prompts.boxes.constFirst().text, u"无法保存设置"_s);
 }
 
 void tst_SettingsPage::resetShowsTheDefaultsAndStoresNothing()
