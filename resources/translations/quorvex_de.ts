@@ -51,7 +51,7 @@
     </message>
     <message>
         <source>Operation Summary</source>
-        <translation>Zusammenfassung des Vorgangs</translation>
+        <translation>Zusammenfassung</translation>
     </message>
     <message>
         <source>Operation Type</source>
@@ -107,11 +107,11 @@
     </message>
     <message>
         <source>Erasure Details</source>
-        <translation>Einzelheiten der Löschung</translation>
+        <translation>Löschdetails</translation>
     </message>
     <message>
         <source>Files Processed</source>
-        <translation>Verarbeitete Dateien</translation>
+        <translation>Dateien bearbeitet</translation>
     </message>
     <message>
         <source>Total Sectors</source>
@@ -155,7 +155,7 @@
     </message>
     <message>
         <source>Operator Info</source>
-        <translation>Angaben zum Bediener</translation>
+        <translation>Bedienerangaben</translation>
     </message>
     <message>
         <source>Operator</source>
@@ -190,7 +190,7 @@
     <name>CertificateRenderer</name>
     <message>
         <source>操作摘要</source>
-        <translation>Zusammenfassung des Vorgangs</translation>
+        <translation>Zusammenfassung</translation>
     </message>
     <message>
         <source>操作类型</source>
@@ -250,7 +250,7 @@
     </message>
     <message>
         <source>擦除详情</source>
-        <translation>Einzelheiten der Löschung</translation>
+        <translation>Löschdetails</translation>
     </message>
     <message>
         <source>文件数量</source>
@@ -306,7 +306,7 @@
     </message>
     <message>
         <source>操作信息</source>
-        <translation>Angaben zum Bediener</translation>
+        <translation>Bedienerangaben</translation>
     </message>
     <message>
         <source>操作员</source>
@@ -1259,11 +1259,11 @@ Ein Löschzertifikat wurde erstellt.</translation>
     </message>
     <message>
         <source>Warning: Irreversible Operation</source>
-        <translation>Warnung: unumkehrbarer Vorgang</translation>
+        <translation>Warnung: nicht umkehrbar</translation>
     </message>
     <message>
         <source>The selected data will be permanently erased and cannot be recovered.</source>
-        <translation>Die ausgewählten Daten werden endgültig gelöscht und können nicht wiederhergestellt werden.</translation>
+        <translation>Die ausgewählten Daten werden endgültig gelöscht und sind nicht wiederherstellbar.</translation>
     </message>
     <message>
         <source>ERASE</source>
@@ -1350,7 +1350,7 @@ Ein Löschzertifikat wurde erstellt.</translation>
     </message>
     <message>
         <source>💿 Disk %1 - %2</source>
-        <translation>💿 Datenträger %1 - %2</translation>
+        <translation>💿 Nr. %1 - %2</translation>
     </message>
     <message>
         <source>⚠️ System Disk</source>
@@ -1699,7 +1699,7 @@ Ein Löschzertifikat wurde erstellt.</translation>
     </message>
     <message>
         <source>所有文件擦除成功！共处理 %1 个文件</source>
-        <translation>Alle Dateien erfolgreich gelöscht! Verarbeitete Dateien: %1</translation>
+        <translation>Alle Dateien erfolgreich gelöscht! Bearbeitete Dateien: %1</translation>
     </message>
     <message>
         <source>擦除完成，但有 %1 个文件失败。数据可能不安全！</source>
@@ -2358,7 +2358,7 @@ Möchten Sie den freien Speicherplatz löschen, damit dies nicht mehr möglich i
     </message>
     <message>
         <source>▶️ 继续</source>
-        <translation>▶️ Weiter</translation>
+        <translation>▶️ Fortsetzen</translation>
     </message>
     <message>
         <source>⏸️ 暂停</source>
@@ -2627,7 +2627,7 @@ Die Anwendung wird jetzt neu gestartet.</translation>
     <name>WipeMethod</name>
     <message>
         <source>美国国家标准技术研究院标准，单次覆写，适用于大多数场景</source>
-        <translation>Standard des US-amerikanischen NIST, ein Durchgang, für die meisten Fälle geeignet</translation>
+        <translation>Standard des NIST (USA), ein Durchgang, für die meisten Fälle geeignet</translation>
     </message>
     <message>
         <source>英国政府安全标准，2次覆写</source>
@@ -2639,7 +2639,7 @@ Die Anwendung wird jetzt neu gestartet.</translation>
     </message>
     <message>
         <source>德国联邦信息安全办公室标准，7次覆写</source>
-        <translation>Standard des Bundesamts für Sicherheit in der Informationstechnik (BSI), 7 Durchgänge</translation>
+        <translation>Standard des Bundesamts für Sicherheit in der Informationstechnik (BSI), 7&#xa0;Durchgänge</translation>
     </message>
     <message>
         <source>Peter Gutmann提出的最高安全标准，35次覆写</source>

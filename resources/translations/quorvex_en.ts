@@ -2092,7 +2092,7 @@ This operation cannot be undone!</translation>
     </message>
     <message>
         <source>Remove remnants of deleted files</source>
-        <translation>Remove remnants of deleted files</translation>
+        <translation>Remove remnants of deleted&#xa0;files</translation>
     </message>
     <message>
         <source>File Wipe</source>
@@ -2100,7 +2100,7 @@ This operation cannot be undone!</translation>
     </message>
     <message>
         <source>Permanently shred files and folders</source>
-        <translation>Permanently shred files and folders</translation>
+        <translation>Permanently shred files and&#xa0;folders</translation>
     </message>
     <message>
         <source>Recycle Bin Wipe</source>
@@ -2108,7 +2108,7 @@ This operation cannot be undone!</translation>
     </message>
     <message>
         <source>Wipe deleted files in Recycle Bin</source>
-        <translation>Wipe deleted files in Recycle Bin</translation>
+        <translation>Wipe deleted files in Recycle&#xa0;Bin</translation>
     </message>
     <message>
         <source>DoD 5220.22-M</source>
@@ -2303,7 +2303,7 @@ Would you like to wipe free space to ensure they cannot be recovered?</translati
     </message>
     <message>
         <source>不同的擦除方法提供不同级别的安全性，覆写次数越多越安全，但耗时也越长</source>
-        <translation>Erase methods differ in their level of security: more overwrite passes are more secure, but take longer</translation>
+        <translation>Erase methods differ in security: more overwrite passes are more secure, but take longer</translation>
     </message>
     <message>
         <source>← 返回</source>
@@ -2627,23 +2627,23 @@ The application will restart now.</translation>
     <name>WipeMethod</name>
     <message>
         <source>美国国家标准技术研究院标准，单次覆写，适用于大多数场景</source>
-        <translation>US National Institute of Standards and Technology (NIST) standard, 1 overwrite pass, suitable for most cases</translation>
+        <translation>US National Institute of Standards and Technology (NIST) standard, 1 pass, suitable for most cases</translation>
     </message>
     <message>
         <source>英国政府安全标准，2次覆写</source>
-        <translation>British government security standard, 2 overwrite passes</translation>
+        <translation>British government security standard, 2 passes</translation>
     </message>
     <message>
         <source>美国国防部标准，7次覆写，军事级别安全</source>
-        <translation>US Department of Defense standard, 7 overwrite passes, military-grade security</translation>
+        <translation>US Department of Defense standard, 7 passes, military-grade security</translation>
     </message>
     <message>
         <source>德国联邦信息安全办公室标准，7次覆写</source>
-        <translation>German Federal Office for Information Security (BSI) standard, 7 overwrite passes</translation>
+        <translation>German Federal Office for Information Security (BSI) standard, 7 passes</translation>
     </message>
     <message>
         <source>Peter Gutmann提出的最高安全标准，35次覆写</source>
-        <translation>Highest security standard, proposed by Peter Gutmann, 35 overwrite passes</translation>
+        <translation>Highest security standard, proposed by Peter Gutmann, 35 passes</translation>
     </message>
     <message>
         <source>基础</source>

@@ -51,7 +51,7 @@
     </message>
     <message>
         <source>Operation Summary</source>
-        <translation>Resumen de la operación</translation>
+        <translation>Resumen</translation>
     </message>
     <message>
         <source>Operation Type</source>
@@ -59,11 +59,11 @@
     </message>
     <message>
         <source>Erase Standard</source>
-        <translation>Estándar de borrado</translation>
+        <translation>Estándar</translation>
     </message>
     <message>
         <source>Overwrite Passes</source>
-        <translation>Pasadas de sobrescritura</translation>
+        <translation>Pasadas</translation>
     </message>
     <message>
         <source>Start Time</source>
@@ -83,7 +83,7 @@
     </message>
     <message>
         <source>Storage Device</source>
-        <translation>Dispositivo de almacenamiento</translation>
+        <translation>Dispositivo</translation>
     </message>
     <message>
         <source>Model</source>
@@ -107,7 +107,7 @@
     </message>
     <message>
         <source>Erasure Details</source>
-        <translation>Detalles del borrado</translation>
+        <translation>Datos del borrado</translation>
     </message>
     <message>
         <source>Files Processed</source>
@@ -127,7 +127,7 @@
     </message>
     <message>
         <source>Bad Sectors</source>
-        <translation>Sectores defectuosos</translation>
+        <translation>Sectores dañados</translation>
     </message>
     <message>
         <source>Verification</source>
@@ -190,7 +190,7 @@
     <name>CertificateRenderer</name>
     <message>
         <source>操作摘要</source>
-        <translation>Resumen de la operación</translation>
+        <translation>Resumen</translation>
     </message>
     <message>
         <source>操作类型</source>
@@ -206,7 +206,7 @@
     </message>
     <message>
         <source> 次</source>
-        <translation> de sobrescritura</translation>
+        <translation> ×</translation>
     </message>
     <message>
         <source>开始时间</source>
@@ -226,7 +226,7 @@
     </message>
     <message>
         <source>存储设备信息</source>
-        <translation>Dispositivo de almacenamiento</translation>
+        <translation>Dispositivo</translation>
     </message>
     <message>
         <source>型号</source>
@@ -250,7 +250,7 @@
     </message>
     <message>
         <source>擦除详情</source>
-        <translation>Detalles del borrado</translation>
+        <translation>Datos del borrado</translation>
     </message>
     <message>
         <source>文件数量</source>
@@ -274,7 +274,7 @@
     </message>
     <message>
         <source>坏扇区数</source>
-        <translation>Sect. defectuosos</translation>
+        <translation>Sectores dañados</translation>
     </message>
     <message>
         <source>验证信息</source>
@@ -306,7 +306,7 @@
     </message>
     <message>
         <source>操作信息</source>
-        <translation>Datos de la operación</translation>
+        <translation>Datos del operador</translation>
     </message>
     <message>
         <source>操作员</source>
@@ -326,7 +326,7 @@
     </message>
     <message>
         <source>生成时间: </source>
-        <translation>Generado: </translation>
+        <translation>Creado: </translation>
     </message>
     <message>
         <source>声明: 本证书证明上述存储设备/文件已按照指定的数据擦除标准进行了安全擦除操作。擦除过程符合相关数据保护法规的要求。本证书由 Quorvex 软件自动生成，可作为数据销毁的合规性证明文件。</source>
@@ -961,7 +961,7 @@
     </message>
     <message>
         <source>Bad sectors</source>
-        <translation>Sectores defectuosos</translation>
+        <translation>Sectores dañados</translation>
     </message>
     <message>
         <source>Verification</source>
@@ -1218,17 +1218,17 @@ Consulte el registro para obtener más información.</translation>
     </message>
     <message>
         <source>All selected data has been securely erased.</source>
-        <translation>Todos los datos seleccionados se han borrado de forma segura.</translation>
+        <translation>Datos seleccionados borrados de forma segura.</translation>
     </message>
     <message>
         <source>All selected data has been securely erased.
 An erasure certificate has been generated.</source>
-        <translation>Todos los datos seleccionados se han borrado de forma segura.
+        <translation>Datos seleccionados borrados de forma segura.
 Se ha generado un certificado de borrado.</translation>
     </message>
     <message>
         <source>Data Erased Successfully!</source>
-        <translation>¡Datos borrados correctamente!</translation>
+        <translation>¡Datos borrados con éxito!</translation>
     </message>
     <message>
         <source>Certificate: </source>
@@ -1286,7 +1286,7 @@ Se ha generado un certificado de borrado.</translation>
     </message>
     <message>
         <source>Select a disk or partition to wipe. Expand disks to see partitions.</source>
-        <translation>Seleccione el disco o la partición que desea borrar. Expanda los discos para ver las particiones.</translation>
+        <translation>Seleccione qué disco o partición borrar. Expanda los discos para ver las particiones.</translation>
     </message>
     <message>
         <source>← Back</source>
@@ -1703,7 +1703,7 @@ Se ha generado un certificado de borrado.</translation>
     </message>
     <message>
         <source>擦除完成，但有 %1 个文件失败。数据可能不安全！</source>
-        <translation>Borrado terminado, pero %1 archivo(s) con error. ¡Los datos podrían ser recuperables!</translation>
+        <translation>Borrado terminado, archivos con error: %1. ¡Los datos podrían ser recuperables!</translation>
     </message>
     <message>
         <source>无法读取文件夹: %1，错误码: %2</source>
@@ -2001,7 +2001,7 @@ Se ha generado un certificado de borrado.</translation>
     </message>
     <message>
         <source>[空闲] </source>
-        <translation>[Libre] </translation>
+        <translation>[Espacio libre] </translation>
     </message>
     <message>
         <source>[文件] </source>
@@ -2009,7 +2009,7 @@ Se ha generado un certificado de borrado.</translation>
     </message>
     <message>
         <source>%1 个文件</source>
-        <translation>%1 archivo(s)</translation>
+        <translation>Cantidad: %1</translation>
     </message>
     <message>
         <source>导出证书</source>
@@ -2108,7 +2108,7 @@ Se ha generado un certificado de borrado.</translation>
     </message>
     <message>
         <source>Wipe deleted files in Recycle Bin</source>
-        <translation>Borra los archivos eliminados de la Papelera de reciclaje</translation>
+        <translation>Borra los archivos de la Papelera de reciclaje</translation>
     </message>
     <message>
         <source>DoD 5220.22-M</source>
@@ -2201,7 +2201,7 @@ This may take longer depending on available free space.</source>
         <translation>¡Los archivos de la Papelera de reciclaje se han borrado de forma segura!
 
 ¿Desea borrar también el espacio libre para que los archivos
-vaciados anteriormente no se puedan recuperar?
+eliminados anteriormente no se puedan recuperar?
 
 Esto puede tardar más según el espacio libre disponible.</translation>
     </message>
@@ -2381,15 +2381,15 @@ Sin embargo, es posible que los archivos eliminados anteriormente aún se puedan
     </message>
     <message>
         <source>机械硬盘</source>
-        <translation>Disco duro (HDD)</translation>
+        <translation>HDD</translation>
     </message>
     <message>
         <source>固态硬盘</source>
-        <translation>Unidad SSD</translation>
+        <translation>SSD</translation>
     </message>
     <message>
         <source>USB设备</source>
-        <translation>Dispositivo USB</translation>
+        <translation>USB</translation>
     </message>
     <message>
         <source>NVMe</source>
@@ -2397,7 +2397,7 @@ Sin embargo, es posible que los archivos eliminados anteriormente aún se puedan
     </message>
     <message>
         <source>外置硬盘</source>
-        <translation>Disco duro externo</translation>
+        <translation>Externo</translation>
     </message>
 </context>
 <context>
@@ -2432,7 +2432,7 @@ Sin embargo, es posible que los archivos eliminados anteriormente aún se puedan
     </message>
     <message>
         <source>选择默认导出路径...</source>
-        <translation>Seleccione la ruta de exportación predeterminada...</translation>
+        <translation>Seleccione la ruta predeterminada...</translation>
     </message>
     <message>
         <source>选择导出目录</source>
@@ -2596,7 +2596,7 @@ La aplicación se reiniciará ahora.</translation>
     <name>WipeHistoryModel</name>
     <message>
         <source>%1 个文件</source>
-        <translation>%1 archivo(s)</translation>
+        <translation>Archivos: %1</translation>
     </message>
     <message>
         <source>证书ID</source>
@@ -2627,7 +2627,7 @@ La aplicación se reiniciará ahora.</translation>
     <name>WipeMethod</name>
     <message>
         <source>美国国家标准技术研究院标准，单次覆写，适用于大多数场景</source>
-        <translation>Estándar del Instituto Nacional de Estándares y Tecnología de EE. UU., 1 pasada, adecuado para la mayoría de los casos</translation>
+        <translation>Estándar del Instituto Nacional de Estándares y Tecnología de EE.&#xa0;UU., 1&#xa0;pasada, adecuado para la mayoría de los casos</translation>
     </message>
     <message>
         <source>英国政府安全标准，2次覆写</source>

@@ -63,7 +63,7 @@
     </message>
     <message>
         <source>Overwrite Passes</source>
-        <translation>Passes d&apos;écrasement</translation>
+        <translation>Passes</translation>
     </message>
     <message>
         <source>Start Time</source>
@@ -115,7 +115,7 @@
     </message>
     <message>
         <source>Total Sectors</source>
-        <translation>Nombre de secteurs</translation>
+        <translation>Nb de secteurs</translation>
     </message>
     <message>
         <source>Sectors Erased</source>
@@ -127,7 +127,7 @@
     </message>
     <message>
         <source>Bad Sectors</source>
-        <translation>Secteurs défectueux</translation>
+        <translation>Sect. défectueux</translation>
     </message>
     <message>
         <source>Verification</source>
@@ -202,11 +202,11 @@
     </message>
     <message>
         <source>覆写次数</source>
-        <translation>Écrasement</translation>
+        <translation>Passes</translation>
     </message>
     <message>
         <source> 次</source>
-        <translation> passe(s)</translation>
+        <translation> au total</translation>
     </message>
     <message>
         <source>开始时间</source>
@@ -330,7 +330,7 @@
     </message>
     <message>
         <source>声明: 本证书证明上述存储设备/文件已按照指定的数据擦除标准进行了安全擦除操作。擦除过程符合相关数据保护法规的要求。本证书由 Quorvex 软件自动生成，可作为数据销毁的合规性证明文件。</source>
-        <translation>Déclaration&#xa0;: ce certificat atteste que le support de stockage ou les fichiers indiqués ci-dessus ont été effacés de manière sécurisée conformément à la norme d&apos;effacement spécifiée. Le processus d&apos;effacement respecte la réglementation applicable en matière de protection des données. Ce certificat a été généré automatiquement par le logiciel Quorvex et peut servir de justificatif de conformité pour la destruction des données.</translation>
+        <translation>Déclaration&#xa0;: ce certificat atteste que le support de stockage ou les fichiers indiqués ci-dessus ont été effacés de manière sécurisée conformément à la norme d&apos;effacement spécifiée. Le processus d&apos;effacement respecte la réglementation applicable en matière de protection des données. Ce certificat a été généré automatiquement par Quorvex et tient lieu de justificatif de conformité pour la destruction des données.</translation>
     </message>
     <message>
         <source>专业数据擦除工具</source>
@@ -1228,7 +1228,7 @@ Un certificat d&apos;effacement a été généré.</translation>
     </message>
     <message>
         <source>Data Erased Successfully!</source>
-        <translation>Données effacées avec succès&#xa0;!</translation>
+        <translation>Effacement réussi&#xa0;!</translation>
     </message>
     <message>
         <source>Certificate: </source>
@@ -1263,7 +1263,7 @@ Un certificat d&apos;effacement a été généré.</translation>
     </message>
     <message>
         <source>The selected data will be permanently erased and cannot be recovered.</source>
-        <translation>Les données sélectionnées seront effacées définitivement et ne pourront pas être récupérées.</translation>
+        <translation>Les données sélectionnées seront effacées définitivement, sans récupération possible.</translation>
     </message>
     <message>
         <source>ERASE</source>
@@ -1286,7 +1286,7 @@ Un certificat d&apos;effacement a été généré.</translation>
     </message>
     <message>
         <source>Select a disk or partition to wipe. Expand disks to see partitions.</source>
-        <translation>Sélectionnez un disque ou une partition à effacer. Développez les disques pour voir leurs partitions.</translation>
+        <translation>Sélectionnez un disque ou une partition. Développez un disque pour voir ses partitions.</translation>
     </message>
     <message>
         <source>← Back</source>
@@ -1330,7 +1330,7 @@ Un certificat d&apos;effacement a été généré.</translation>
     </message>
     <message>
         <source>Select a disk or partition to completely wipe. All data will be permanently deleted.</source>
-        <translation>Sélectionnez un disque ou une partition à effacer entièrement. Toutes les données seront supprimées définitivement.</translation>
+        <translation>Sélectionnez un disque ou une partition. Toutes ses données seront effacées à jamais.</translation>
     </message>
     <message>
         <source>⚠️ Cannot select system disk for wiping.</source>
@@ -1354,7 +1354,7 @@ Un certificat d&apos;effacement a été généré.</translation>
     </message>
     <message>
         <source>⚠️ System Disk</source>
-        <translation>⚠️ Disque système</translation>
+        <translation>⚠️ Système</translation>
     </message>
     <message>
         <source>Removable</source>
@@ -2076,7 +2076,7 @@ Cette opération est irréversible&#xa0;!</translation>
     <name>HomePage</name>
     <message>
         <source>Destroy Data Permanently. No Leaks.</source>
-        <translation>Destruction définitive des données. Aucune fuite.</translation>
+        <translation>Données détruites à jamais. Aucune fuite.</translation>
     </message>
     <message>
         <source>Disk Wipe</source>
@@ -2088,11 +2088,11 @@ Cette opération est irréversible&#xa0;!</translation>
     </message>
     <message>
         <source>Free Space Wipe</source>
-        <translation>Effacer l&apos;espace libre</translation>
+        <translation>Effacer l&apos;espace&#xa0;libre</translation>
     </message>
     <message>
         <source>Remove remnants of deleted files</source>
-        <translation>Élimine les restes de fichiers supprimés</translation>
+        <translation>Élimine les résidus des fichiers supprimés</translation>
     </message>
     <message>
         <source>File Wipe</source>
@@ -2389,7 +2389,7 @@ Voulez-vous effacer l&apos;espace libre afin qu&apos;ils ne puissent pas être r
     </message>
     <message>
         <source>USB设备</source>
-        <translation>Périphérique USB</translation>
+        <translation>Support USB</translation>
     </message>
     <message>
         <source>NVMe</source>
@@ -2627,7 +2627,7 @@ L&apos;application va maintenant redémarrer.</translation>
     <name>WipeMethod</name>
     <message>
         <source>美国国家标准技术研究院标准，单次覆写，适用于大多数场景</source>
-        <translation>Norme de l&apos;Institut national des normes et de la technologie (NIST, États-Unis), une seule passe, convient à la plupart des cas</translation>
+        <translation>Norme de l&apos;Institut national américain des normes et de la technologie (NIST), 1 passe, convient à la plupart des cas</translation>
     </message>
     <message>
         <source>英国政府安全标准，2次覆写</source>

@@ -330,7 +330,7 @@
     </message>
     <message>
         <source>声明: 本证书证明上述存储设备/文件已按照指定的数据擦除标准进行了安全擦除操作。擦除过程符合相关数据保护法规的要求。本证书由 Quorvex 软件自动生成，可作为数据销毁的合规性证明文件。</source>
-        <translation>Dichiarazione: il presente certificato attesta che il dispositivo di archiviazione o i file sopra indicati sono stati cancellati in modo sicuro secondo lo standard di cancellazione dei dati specificato. Il processo di cancellazione è conforme alle norme applicabili in materia di protezione dei dati. Il certificato è stato generato automaticamente dal software Quorvex e può essere utilizzato come documentazione di conformità della distruzione dei dati.</translation>
+        <translation>Dichiarazione: il presente certificato attesta che il dispositivo di archiviazione o i file sopra indicati sono stati cancellati in modo sicuro secondo lo standard di cancellazione dei dati specificato. Il processo di cancellazione è conforme alle norme applicabili in materia di protezione dei dati. Il certificato è stato generato automaticamente da Quorvex e vale come documentazione di conformità della distruzione dei dati.</translation>
     </message>
     <message>
         <source>专业数据擦除工具</source>
@@ -1218,17 +1218,17 @@ Consultare il log per i dettagli.</translation>
     </message>
     <message>
         <source>All selected data has been securely erased.</source>
-        <translation>Tutti i dati selezionati sono stati cancellati in modo sicuro.</translation>
+        <translation>Tutti i dati selezionati sono stati cancellati in&#xa0;modo&#xa0;sicuro.</translation>
     </message>
     <message>
         <source>All selected data has been securely erased.
 An erasure certificate has been generated.</source>
-        <translation>Tutti i dati selezionati sono stati cancellati in modo sicuro.
+        <translation>Tutti i dati selezionati sono stati cancellati in&#xa0;modo&#xa0;sicuro.
 È stato generato un certificato di cancellazione.</translation>
     </message>
     <message>
         <source>Data Erased Successfully!</source>
-        <translation>Dati cancellati correttamente!</translation>
+        <translation>Cancellazione riuscita!</translation>
     </message>
     <message>
         <source>Certificate: </source>
@@ -1259,11 +1259,11 @@ An erasure certificate has been generated.</source>
     </message>
     <message>
         <source>Warning: Irreversible Operation</source>
-        <translation>Attenzione: operazione irreversibile</translation>
+        <translation>Avviso: operazione irreversibile</translation>
     </message>
     <message>
         <source>The selected data will be permanently erased and cannot be recovered.</source>
-        <translation>I dati selezionati verranno cancellati definitivamente e non potranno essere recuperati.</translation>
+        <translation>I dati selezionati verranno cancellati definitivamente e non saranno recuperabili.</translation>
     </message>
     <message>
         <source>ERASE</source>
@@ -1286,7 +1286,7 @@ An erasure certificate has been generated.</source>
     </message>
     <message>
         <source>Select a disk or partition to wipe. Expand disks to see partitions.</source>
-        <translation>Selezionare un disco o una partizione da cancellare. Espandere i dischi per visualizzarne le partizioni.</translation>
+        <translation>Selezionare un disco o una partizione. Espandere un disco per vederne le partizioni.</translation>
     </message>
     <message>
         <source>← Back</source>
@@ -1330,7 +1330,7 @@ An erasure certificate has been generated.</source>
     </message>
     <message>
         <source>Select a disk or partition to completely wipe. All data will be permanently deleted.</source>
-        <translation>Selezionare un disco o una partizione da cancellare completamente. Tutti i dati verranno eliminati definitivamente.</translation>
+        <translation>Selezionare un disco o una partizione. Tutti i dati verranno cancellati definitivamente.</translation>
     </message>
     <message>
         <source>⚠️ Cannot select system disk for wiping.</source>
@@ -1354,7 +1354,7 @@ An erasure certificate has been generated.</source>
     </message>
     <message>
         <source>⚠️ System Disk</source>
-        <translation>⚠️ Disco di sistema</translation>
+        <translation>⚠️ Sistema</translation>
     </message>
     <message>
         <source>Removable</source>
@@ -2084,15 +2084,15 @@ Questa operazione è irreversibile!</translation>
     </message>
     <message>
         <source>Completely erase all data on the disk, including partitions and boot records</source>
-        <translation>Cancella completamente tutti i dati del disco, comprese le partizioni e i record di avvio</translation>
+        <translation>Cancella completamente i dati del disco, comprese partizioni e record di avvio</translation>
     </message>
     <message>
         <source>Free Space Wipe</source>
-        <translation>Cancella spazio libero</translation>
+        <translation>Cancella spazio&#xa0;libero</translation>
     </message>
     <message>
         <source>Remove remnants of deleted files</source>
-        <translation>Rimuove i residui dei file eliminati</translation>
+        <translation>Rimuove i residui dei file&#xa0;eliminati</translation>
     </message>
     <message>
         <source>File Wipe</source>
@@ -2108,7 +2108,7 @@ Questa operazione è irreversibile!</translation>
     </message>
     <message>
         <source>Wipe deleted files in Recycle Bin</source>
-        <translation>Cancella i file presenti nel Cestino</translation>
+        <translation>Cancella i file presenti nel&#xa0;Cestino</translation>
     </message>
     <message>
         <source>DoD 5220.22-M</source>
@@ -2207,12 +2207,12 @@ L&apos;operazione può richiedere più tempo in base allo spazio libero disponib
     </message>
     <message>
         <source>Confirm Stop</source>
-        <translation>Conferma interruzione</translation>
+        <translation>Conferma arresto</translation>
     </message>
     <message>
         <source>Are you sure you want to stop the wipe task?
 This operation cannot be undone.</source>
-        <translation>Interrompere davvero l&apos;attività di cancellazione?
+        <translation>Arrestare davvero l&apos;attività di cancellazione?
 Questa operazione è irreversibile.</translation>
     </message>
     <message>
@@ -2330,7 +2330,7 @@ Cancellare lo spazio libero in modo che non possano essere recuperati?</translat
     </message>
     <message>
         <source>⏹️ 停止</source>
-        <translation>⏹️ Interrompi</translation>
+        <translation>⏹️ Arresta</translation>
     </message>
     <message>
         <source>擦除方法: %1</source>
@@ -2389,7 +2389,7 @@ Cancellare lo spazio libero in modo che non possano essere recuperati?</translat
     </message>
     <message>
         <source>USB设备</source>
-        <translation>Dispositivo USB</translation>
+        <translation>Unità USB</translation>
     </message>
     <message>
         <source>NVMe</source>
@@ -2428,15 +2428,15 @@ Cancellare lo spazio libero in modo che non possano essere recuperati?</translat
     </message>
     <message>
         <source>导出路径:</source>
-        <translation>Percorso di esportazione:</translation>
+        <translation>Cartella di esportazione:</translation>
     </message>
     <message>
         <source>选择默认导出路径...</source>
-        <translation>Scegliere il percorso di esportazione predefinito...</translation>
+        <translation>Scegliere la cartella predefinita...</translation>
     </message>
     <message>
         <source>选择导出目录</source>
-        <translation>Scegli la cartella di esportazione</translation>
+        <translation>Seleziona cartella di esportazione</translation>
     </message>
     <message>
         <source>证书导出</source>
@@ -2573,7 +2573,7 @@ L&apos;applicazione verrà ora riavviata.</translation>
     </message>
     <message>
         <source>任务已停止</source>
-        <translation>Attività interrotta</translation>
+        <translation>Attività arrestata</translation>
     </message>
     <message>
         <source>第 %1/%2 次覆写</source>
@@ -2639,7 +2639,7 @@ L&apos;applicazione verrà ora riavviata.</translation>
     </message>
     <message>
         <source>德国联邦信息安全办公室标准，7次覆写</source>
-        <translation>Standard dell&apos;Ufficio federale tedesco per la sicurezza informatica (BSI), 7 passaggi</translation>
+        <translation>Standard dell&apos;Ufficio federale tedesco per la sicurezza informatica (BSI), 7&#xa0;passaggi</translation>
     </message>
     <message>
         <source>Peter Gutmann提出的最高安全标准，35次覆写</source>

@@ -226,7 +226,7 @@
     </message>
     <message>
         <source>存储设备信息</source>
-        <translation>ストレージデバイス情報</translation>
+        <translation>ストレージデバイス</translation>
     </message>
     <message>
         <source>型号</source>
@@ -278,7 +278,7 @@
     </message>
     <message>
         <source>验证信息</source>
-        <translation>検証情報</translation>
+        <translation>検証</translation>
     </message>
     <message>
         <source>验证结果:</source>
@@ -1263,7 +1263,7 @@ An erasure certificate has been generated.</source>
     </message>
     <message>
         <source>The selected data will be permanently erased and cannot be recovered.</source>
-        <translation>選択したデータは完全に消去され、復元できなくなります。</translation>
+        <translation>選択したデータは完全に消去され復元できません。</translation>
     </message>
     <message>
         <source>ERASE</source>
@@ -1286,7 +1286,7 @@ An erasure certificate has been generated.</source>
     </message>
     <message>
         <source>Select a disk or partition to wipe. Expand disks to see partitions.</source>
-        <translation>消去するディスクまたはパーティションを選択してください。ディスクを展開するとパーティションが表示されます。</translation>
+        <translation>消去対象を選択してください。ディスクを展開するとパーティションが表示されます。</translation>
     </message>
     <message>
         <source>← Back</source>
@@ -1338,7 +1338,7 @@ An erasure certificate has been generated.</source>
     </message>
     <message>
         <source>ℹ️ Free space wipe is safe for system disk. It will not affect existing files or system operation.</source>
-        <translation>ℹ️ システムディスクの空き領域は安全に消去できます。既存のファイルやシステムの動作には影響しません。</translation>
+        <translation>ℹ️ システムディスクの空き領域消去は安全です。既存のファイルやシステムに影響しません。</translation>
     </message>
     <message>
         <source>⚠️ Cannot select system partition for wiping.</source>
@@ -1346,7 +1346,7 @@ An erasure certificate has been generated.</source>
     </message>
     <message>
         <source>ℹ️ Free space wipe is safe for system partition. It will not affect existing files or system operation.</source>
-        <translation>ℹ️ システムパーティションの空き領域は安全に消去できます。既存のファイルやシステムの動作には影響しません。</translation>
+        <translation>ℹ️ システムパーティションの空き領域消去は安全です。既存のファイルやシステムに影響しません。</translation>
     </message>
     <message>
         <source>💿 Disk %1 - %2</source>
@@ -1354,7 +1354,7 @@ An erasure certificate has been generated.</source>
     </message>
     <message>
         <source>⚠️ System Disk</source>
-        <translation>⚠️ システムディスク</translation>
+        <translation>⚠️ システム</translation>
     </message>
     <message>
         <source>Removable</source>
@@ -2084,7 +2084,7 @@ An erasure certificate has been generated.</source>
     </message>
     <message>
         <source>Completely erase all data on the disk, including partitions and boot records</source>
-        <translation>パーティションやブートレコードを含む、ディスク上の全データを完全に消去します</translation>
+        <translation>パーティションやブートレコードを含む、すべてのデータを完全に消去します</translation>
     </message>
     <message>
         <source>Free Space Wipe</source>
@@ -2092,7 +2092,7 @@ An erasure certificate has been generated.</source>
     </message>
     <message>
         <source>Remove remnants of deleted files</source>
-        <translation>削除済みファイルの残存データを消去します</translation>
+        <translation>ファイル削除後の残存データを消去します</translation>
     </message>
     <message>
         <source>File Wipe</source>
@@ -2108,7 +2108,7 @@ An erasure certificate has been generated.</source>
     </message>
     <message>
         <source>Wipe deleted files in Recycle Bin</source>
-        <translation>ごみ箱の中の削除済みファイルを消去します</translation>
+        <translation>ごみ箱内の削除済みファイルを消去します</translation>
     </message>
     <message>
         <source>DoD 5220.22-M</source>
@@ -2243,7 +2243,7 @@ Exiting will interrupt the current task.</source>
     </message>
     <message>
         <source>Scanning deleted files in Recycle Bin...</source>
-        <translation>ごみ箱の中の削除済みファイルをスキャンしています...</translation>
+        <translation>ごみ箱内の削除済みファイルをスキャンしています...</translation>
     </message>
     <message>
         <source>Scanning Recycle Bin...</source>
@@ -2303,7 +2303,7 @@ Would you like to wipe free space to ensure they cannot be recovered?</source>
     </message>
     <message>
         <source>不同的擦除方法提供不同级别的安全性，覆写次数越多越安全，但耗时也越长</source>
-        <translation>安全性のレベルは消去方式によって異なります。上書き回数が多いほど安全ですが、所要時間も長くなります</translation>
+        <translation>安全性は消去方式によって異なります。上書き回数が多いほど安全ですが、時間がかかります</translation>
     </message>
     <message>
         <source>← 返回</source>
@@ -2389,7 +2389,7 @@ Would you like to wipe free space to ensure they cannot be recovered?</source>
     </message>
     <message>
         <source>USB设备</source>
-        <translation>USB デバイス</translation>
+        <translation>USB</translation>
     </message>
     <message>
         <source>NVMe</source>
@@ -2460,7 +2460,7 @@ Would you like to wipe free space to ensure they cannot be recovered?</source>
     </message>
     <message>
         <source>保存失败</source>
-        <translation>保存に失敗しました</translation>
+        <translation>保存エラー</translation>
     </message>
     <message>
         <source>无法保存设置</source>

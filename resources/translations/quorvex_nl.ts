@@ -51,7 +51,7 @@
     </message>
     <message>
         <source>Operation Summary</source>
-        <translation>Samenvatting van de bewerking</translation>
+        <translation>Samenvatting</translation>
     </message>
     <message>
         <source>Operation Type</source>
@@ -155,7 +155,7 @@
     </message>
     <message>
         <source>Operator Info</source>
-        <translation>Gegevens van de operator</translation>
+        <translation>Operatorgegevens</translation>
     </message>
     <message>
         <source>Operator</source>
@@ -190,7 +190,7 @@
     <name>CertificateRenderer</name>
     <message>
         <source>操作摘要</source>
-        <translation>Samenvatting van de bewerking</translation>
+        <translation>Samenvatting</translation>
     </message>
     <message>
         <source>操作类型</source>
@@ -306,7 +306,7 @@
     </message>
     <message>
         <source>操作信息</source>
-        <translation>Gegevens van de operator</translation>
+        <translation>Operatorgegevens</translation>
     </message>
     <message>
         <source>操作员</source>
@@ -1259,7 +1259,7 @@ Er is een wiscertificaat aangemaakt.</translation>
     </message>
     <message>
         <source>Warning: Irreversible Operation</source>
-        <translation>Waarschuwing: onomkeerbare bewerking</translation>
+        <translation>Waarschuwing: onomkeerbaar</translation>
     </message>
     <message>
         <source>The selected data will be permanently erased and cannot be recovered.</source>
@@ -1330,7 +1330,7 @@ Er is een wiscertificaat aangemaakt.</translation>
     </message>
     <message>
         <source>Select a disk or partition to completely wipe. All data will be permanently deleted.</source>
-        <translation>Selecteer een schijf of partitie om volledig te wissen. Alle gegevens worden definitief gewist.</translation>
+        <translation>Kies een schijf of partitie om volledig te wissen. Alle gegevens worden definitief gewist.</translation>
     </message>
     <message>
         <source>⚠️ Cannot select system disk for wiping.</source>
@@ -1961,7 +1961,7 @@ Er is een wiscertificaat aangemaakt.</translation>
     </message>
     <message>
         <source>已取消</source>
-        <translation>Afgebroken</translation>
+        <translation>Gestopt</translation>
     </message>
     <message>
         <source>状态:</source>
@@ -2358,7 +2358,7 @@ Wilt u de vrije ruimte wissen, zodat ze niet meer kunnen worden hersteld?</trans
     </message>
     <message>
         <source>▶️ 继续</source>
-        <translation>▶️ Verder</translation>
+        <translation>▶️ Hervatten</translation>
     </message>
     <message>
         <source>⏸️ 暂停</source>
@@ -2627,7 +2627,7 @@ De toepassing wordt nu opnieuw gestart.</translation>
     <name>WipeMethod</name>
     <message>
         <source>美国国家标准技术研究院标准，单次覆写，适用于大多数场景</source>
-        <translation>Standaard van het Amerikaanse NIST, één ronde, geschikt voor de meeste situaties</translation>
+        <translation>Standaard van het NIST (VS), één ronde, voor de meeste gevallen geschikt</translation>
     </message>
     <message>
         <source>英国政府安全标准，2次覆写</source>
@@ -2639,7 +2639,7 @@ De toepassing wordt nu opnieuw gestart.</translation>
     </message>
     <message>
         <source>德国联邦信息安全办公室标准，7次覆写</source>
-        <translation>Standaard van de Duitse federale dienst voor informatiebeveiliging (BSI), 7 rondes</translation>
+        <translation>Standaard van de Duitse federale dienst voor informatiebeveiliging (BSI), 7&#xa0;rondes</translation>
     </message>
     <message>
         <source>Peter Gutmann提出的最高安全标准，35次覆写</source>
@@ -2694,7 +2694,7 @@ De toepassing wordt nu opnieuw gestart.</translation>
     </message>
     <message>
         <source>Cancelled</source>
-        <translation>Afgebroken</translation>
+        <translation>Gestopt</translation>
     </message>
     <message>
         <source>Disk Wipe</source>

@@ -51,7 +51,7 @@
     </message>
     <message>
         <source>Operation Summary</source>
-        <translation>Resumo da operação</translation>
+        <translation>Resumo</translation>
     </message>
     <message>
         <source>Operation Type</source>
@@ -59,11 +59,11 @@
     </message>
     <message>
         <source>Erase Standard</source>
-        <translation>Padrão de apagamento</translation>
+        <translation>Padrão</translation>
     </message>
     <message>
         <source>Overwrite Passes</source>
-        <translation>Passagens de sobrescrita</translation>
+        <translation>Passagens</translation>
     </message>
     <message>
         <source>Start Time</source>
@@ -83,7 +83,7 @@
     </message>
     <message>
         <source>Storage Device</source>
-        <translation>Dispositivo de armazenamento</translation>
+        <translation>Dispositivo</translation>
     </message>
     <message>
         <source>Model</source>
@@ -107,7 +107,7 @@
     </message>
     <message>
         <source>Erasure Details</source>
-        <translation>Detalhes do apagamento</translation>
+        <translation>Apagamento</translation>
     </message>
     <message>
         <source>Files Processed</source>
@@ -127,7 +127,7 @@
     </message>
     <message>
         <source>Bad Sectors</source>
-        <translation>Setores defeituosos</translation>
+        <translation>Setores com falha</translation>
     </message>
     <message>
         <source>Verification</source>
@@ -190,7 +190,7 @@
     <name>CertificateRenderer</name>
     <message>
         <source>操作摘要</source>
-        <translation>Resumo da operação</translation>
+        <translation>Resumo</translation>
     </message>
     <message>
         <source>操作类型</source>
@@ -206,7 +206,7 @@
     </message>
     <message>
         <source> 次</source>
-        <translation> de sobrescrita</translation>
+        <translation> ×</translation>
     </message>
     <message>
         <source>开始时间</source>
@@ -226,7 +226,7 @@
     </message>
     <message>
         <source>存储设备信息</source>
-        <translation>Dispositivo de armazenamento</translation>
+        <translation>Dispositivo</translation>
     </message>
     <message>
         <source>型号</source>
@@ -250,7 +250,7 @@
     </message>
     <message>
         <source>擦除详情</source>
-        <translation>Detalhes do apagamento</translation>
+        <translation>Apagamento</translation>
     </message>
     <message>
         <source>文件数量</source>
@@ -274,7 +274,7 @@
     </message>
     <message>
         <source>坏扇区数</source>
-        <translation>Setores defeituosos</translation>
+        <translation>Setores com falha</translation>
     </message>
     <message>
         <source>验证信息</source>
@@ -306,7 +306,7 @@
     </message>
     <message>
         <source>操作信息</source>
-        <translation>Dados da operação</translation>
+        <translation>Dados do operador</translation>
     </message>
     <message>
         <source>操作员</source>
@@ -326,7 +326,7 @@
     </message>
     <message>
         <source>生成时间: </source>
-        <translation>Gerado em: </translation>
+        <translation>Criado em: </translation>
     </message>
     <message>
         <source>声明: 本证书证明上述存储设备/文件已按照指定的数据擦除标准进行了安全擦除操作。擦除过程符合相关数据保护法规的要求。本证书由 Quorvex 软件自动生成，可作为数据销毁的合规性证明文件。</source>
@@ -961,7 +961,7 @@
     </message>
     <message>
         <source>Bad sectors</source>
-        <translation>Setores defeituosos</translation>
+        <translation>Setores com falha</translation>
     </message>
     <message>
         <source>Verification</source>
@@ -1218,17 +1218,17 @@ Consulte o log para obter detalhes.</translation>
     </message>
     <message>
         <source>All selected data has been securely erased.</source>
-        <translation>Todos os dados selecionados foram apagados com segurança.</translation>
+        <translation>Dados selecionados apagados com segurança.</translation>
     </message>
     <message>
         <source>All selected data has been securely erased.
 An erasure certificate has been generated.</source>
-        <translation>Todos os dados selecionados foram apagados com segurança.
+        <translation>Dados selecionados apagados com segurança.
 Um certificado de apagamento foi gerado.</translation>
     </message>
     <message>
         <source>Data Erased Successfully!</source>
-        <translation>Dados apagados com sucesso!</translation>
+        <translation>Dados apagados com êxito!</translation>
     </message>
     <message>
         <source>Certificate: </source>
@@ -1263,7 +1263,7 @@ Um certificado de apagamento foi gerado.</translation>
     </message>
     <message>
         <source>The selected data will be permanently erased and cannot be recovered.</source>
-        <translation>Os dados selecionados serão apagados permanentemente e não poderão ser recuperados.</translation>
+        <translation>Os dados selecionados serão apagados para sempre e não poderão ser recuperados.</translation>
     </message>
     <message>
         <source>ERASE</source>
@@ -1286,7 +1286,7 @@ Um certificado de apagamento foi gerado.</translation>
     </message>
     <message>
         <source>Select a disk or partition to wipe. Expand disks to see partitions.</source>
-        <translation>Selecione o disco ou a partição que deseja apagar. Expanda os discos para ver as partições.</translation>
+        <translation>Selecione o disco ou a partição a apagar. Expanda os discos para ver as partições.</translation>
     </message>
     <message>
         <source>← Back</source>
@@ -1703,7 +1703,7 @@ Um certificado de apagamento foi gerado.</translation>
     </message>
     <message>
         <source>擦除完成，但有 %1 个文件失败。数据可能不安全！</source>
-        <translation>Apagamento terminado, mas %1 arquivo(s) com falha. Os dados podem ser recuperáveis!</translation>
+        <translation>Apagamento terminado, arquivos com falha: %1. Os dados podem ser recuperáveis!</translation>
     </message>
     <message>
         <source>无法读取文件夹: %1，错误码: %2</source>
@@ -2001,7 +2001,7 @@ Um certificado de apagamento foi gerado.</translation>
     </message>
     <message>
         <source>[空闲] </source>
-        <translation>[Livre] </translation>
+        <translation>[Espaço livre] </translation>
     </message>
     <message>
         <source>[文件] </source>
@@ -2009,7 +2009,7 @@ Um certificado de apagamento foi gerado.</translation>
     </message>
     <message>
         <source>%1 个文件</source>
-        <translation>%1 arquivo(s)</translation>
+        <translation>Quantidade: %1</translation>
     </message>
     <message>
         <source>导出证书</source>
@@ -2201,7 +2201,7 @@ This may take longer depending on available free space.</source>
         <translation>Os arquivos da Lixeira foram apagados com segurança!
 
 Deseja apagar também o espaço livre para que os arquivos
-esvaziados anteriormente não possam ser recuperados?
+excluídos anteriormente não possam ser recuperados?
 
 Isso pode demorar mais, dependendo do espaço livre disponível.</translation>
     </message>
@@ -2381,15 +2381,15 @@ Deseja apagar o espaço livre para que eles não possam ser recuperados?</transl
     </message>
     <message>
         <source>机械硬盘</source>
-        <translation>Disco rígido (HDD)</translation>
+        <translation>HDD</translation>
     </message>
     <message>
         <source>固态硬盘</source>
-        <translation>Unidade SSD</translation>
+        <translation>SSD</translation>
     </message>
     <message>
         <source>USB设备</source>
-        <translation>Dispositivo USB</translation>
+        <translation>USB</translation>
     </message>
     <message>
         <source>NVMe</source>
@@ -2397,7 +2397,7 @@ Deseja apagar o espaço livre para que eles não possam ser recuperados?</transl
     </message>
     <message>
         <source>外置硬盘</source>
-        <translation>Disco rígido externo</translation>
+        <translation>Externo</translation>
     </message>
 </context>
 <context>
@@ -2432,7 +2432,7 @@ Deseja apagar o espaço livre para que eles não possam ser recuperados?</transl
     </message>
     <message>
         <source>选择默认导出路径...</source>
-        <translation>Selecione o caminho de exportação padrão...</translation>
+        <translation>Selecione o caminho padrão...</translation>
     </message>
     <message>
         <source>选择导出目录</source>
@@ -2596,7 +2596,7 @@ O aplicativo será reiniciado agora.</translation>
     <name>WipeHistoryModel</name>
     <message>
         <source>%1 个文件</source>
-        <translation>%1 arquivo(s)</translation>
+        <translation>Arquivos: %1</translation>
     </message>
     <message>
         <source>证书ID</source>
