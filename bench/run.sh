@@ -4,7 +4,7 @@
 # files of its own in a temporary folder (about 4 GiB), needs root.
 #
 #   bench/run.sh [--build FOLDER] [--runs N] [ROW...]     rows: disk shred random file small free count memory
-#            reports bin trash bin-items trash-items; only when named: count-disk
+#            reports bin trash bin-items trash-items start idle; only when named: count-disk
 set -euo pipefail
 export LC_ALL=C
 
@@ -20,9 +20,12 @@ while [ $# -gt 0 ]; do
     *) rows+=("$1"); shift ;;
   esac
 done
-[ ${#rows[@]} -gt 0 ] || rows=(disk shred random file small free count memory reports bin trash bin-items trash-items)
+[ ${#rows[@]} -gt 0 ] || rows=(disk shred random file small free count memory reports bin trash bin-items trash-items start idle)
 [ "$(id -u)" = 0 ] || { echo "bench: needs root for loop devices" >&2; exit 1; }
 
+desktop=$build/bin/quorvex
+window=$build/bin/quorvex-bench-window
+probe=$build/bench-plugins/generic/libquorvex-bench-firstpaint.so
 job=$build/bin/quorvex-bench-job
 services=$build/bin/quorvex-bench-services
 cli=$build/bin/quorvex-cli
@@ -31,6 +34,8 @@ for row in "${rows[@]}"; do
   case $row in
     disk|shred|file|small) needed+=("$cli" "$job") ;;
     reports|bin|trash|bin-items|trash-items) needed+=("$services") ;;
+    start) needed+=("$desktop" "$window" "$probe") ;;
+    idle) needed+=("$desktop" "$probe") ;;
     *) needed+=("$job") ;;
   esac
 done
@@ -40,7 +45,9 @@ done
 
 folder=$(mktemp -d "${TMPDIR:-/var/tmp}/quorvex-bench.XXXXXX")
 loop=
+screen=
 clean_up() {
+  [ -z "$screen" ] || kill "$screen" 2>/dev/null || true
   mountpoint -q "$folder/mnt" 2>/dev/null && umount "$folder/mnt"
   mountpoint -q "$folder/memory" 2>/dev/null && umount "$folder/memory"
   [ -z "$loop" ] || losetup -d "$loop"
@@ -199,6 +206,69 @@ memory_row() {
     $(( ($(nproc) * 16 + 64) * 1024 + 100000 * 400 / 1024 ))
 }
 
+# until_shown PROGRAM [IDLE]: a desktop program with a home of its own and no real drive, up to the first painting of its
+# window, and if asked for IDLE seconds more; on $platform.
+until_shown() {
+  env HOME="$folder/home" XDG_DATA_HOME="$folder/home/data" XDG_CONFIG_HOME="$folder/home/config" \
+    XDG_CACHE_HOME="$folder/home/cache" XDG_RUNTIME_DIR="$folder/home/run" QUORVEX_ONLY_IMAGE_DISKS=1 LC_ALL=C.UTF-8 \
+    QT_QPA_PLATFORM="$platform" QT_PLUGIN_PATH="$build/bench-plugins" \
+    QT_QPA_GENERIC_PLUGINS="firstpaint${2:+:$2}" timeout 120 "$1" >"$folder/out" 2>"$folder/trace"
+}
+new_home() { rm -rf "${folder:?}/home"; mkdir -p "$folder/home/run"; chmod 700 "$folder/home/run"; }
+
+# Seconds in $seconds, those of processors in $processor. No sync: it would wait for the writing of everybody else.
+started() {
+  local TIMEFORMAT='%3R %3U %3S' times
+  times=$({ time until_shown "$1" || echo failed; } 2>&1)
+  case $times in
+    *failed*) cat "$folder/trace" >&2; echo "bench: failed: $1" >&2; exit 1 ;;
+  esac
+  read -r seconds processor < <(awk '{ print $1, $2 + $3 }' <<<"$times")
+}
+
+# Short runs, hence four times as many. Both programs have run before: their files are in memory, ours has its database.
+start_row() { # $1: where
+  local i a=() b=() pa=() pb=()
+  new_home
+  started "$desktop"; started "$window"
+  for ((i = 0; i < runs * 4; i++)); do
+    started "$desktop"; a+=("$seconds"); pa+=("$processor")
+    started "$window"; b+=("$seconds"); pb+=("$processor")
+  done
+  against "until the window is painted, $1" "$(printf '%s\n' "${a[@]}" | median)" "$(printf '%s\n' "${b[@]}" | median)"
+  against "  of it processor time" "$(printf '%s\n' "${pa[@]}" | median)" "$(printf '%s\n' "${pb[@]}" | median)"
+}
+against() { # $1 name, $2 ours, $3 theirs: less is better
+  printf '%-46s %9.3f s %9.3f s   %5.2f   (goal at most 1.5)\n' "$1" "$2" "$3" "$(awk -v a="$2" -v b="$3" 'BEGIN { print a / b }')"
+}
+
+idle_row() { # $1: where
+  new_home
+  until_shown "$desktop" 10 || { cat "$folder/trace" >&2; echo "bench: failed: $desktop" >&2; exit 1; }
+  awk -v name="idle for 10 s, $1" '/^milliseconds/ { printf "%-46s %9.1f ms of processors, woken %d times   (goal none)\n", name, $2, $4 }' \
+    "$folder/out"
+}
+
+# on_screens ROW: without a screen, and on one of X where there is Xvfb.
+on_screens() {
+  platform=offscreen
+  "$1" "no screen"
+  command -v Xvfb >/dev/null || { echo "bench: no Xvfb, nothing was measured on X" >&2; return; }
+  : >"$folder/display"
+  Xvfb -displayfd 1 -screen 0 1600x1000x24 -nolisten tcp >"$folder/display" 2>"$folder/xvfb" &
+  screen=$!
+  until [ -s "$folder/display" ]; do
+    kill -0 "$screen" || { cat "$folder/xvfb" >&2; exit 1; }
+    sleep 0.1
+  done
+  DISPLAY=:$(cat "$folder/display")
+  export DISPLAY
+  platform=xcb
+  "$1" "Xvfb"
+  kill "$screen"; wait "$screen" 2>/dev/null || true
+  screen=
+}
+
 printf '%-46s %11s %11s   %s\n' "work" "ours" "theirs" "ratio"
 for row in "${rows[@]}"; do
   case $row in
@@ -218,6 +288,8 @@ for row in "${rows[@]}"; do
     bin|trash) bin_row "$row" ;;
     bin-items) items_row bin ;;
     trash-items) items_row trash ;;
+    start) on_screens start_row ;;
+    idle) on_screens idle_row ;;
     *) echo "bench: no row $row" >&2; exit 2 ;;
   esac
 done

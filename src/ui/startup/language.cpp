@@ -1,10 +1,12 @@
 #include "ui/startup/language.h"
 
+#include "model/usersettings.h"
 #include "services/applog.h"
 
 #include <QCoreApplication>
 #include <QDebug>
 #include <QFile>
+#include <QSettings>
 #include <QStringList>
 #include <QTranslator>
 
@@ -27,14 +29,6 @@ QString languageOfSystem(const QString &code)
     return same.contains(code) ? code : u"en"_s;
 }
 
-QTranslator &translator()
-{
-    static QTranslator instance;
-    return instance;
-}
-
-} // namespace
-
 QString chooseLanguage(const QString &stored, const QString &systemLocale)
 {
     qDebug() << "[Main] User language from settings:" << stored;
@@ -49,22 +43,44 @@ QString chooseLanguage(const QString &stored, const QString &systemLocale)
     return detected;
 }
 
-bool installLanguage(const QString &code)
+QTranslator &translator()
 {
-    addCataloguesToResources();
+    static QTranslator instance;
+    return instance;
+}
+
+bool loadCatalogue(const QString &path)
+{
+    // Empty, but not null: null stands for "_." and ".qm", with which a stored "fr_CA" would end up at "fr".
+    const QString none = u""_s;
+    return translator().load(path, none, none, none);
+}
+
+void installLanguage(const QString &code)
+{
     const QString path = u":/translations/quorvex_%1.qm"_s.arg(code);
     qDebug() << "[Main] Translation file:" << path;
     qDebug() << "[Main] File exists:" << QFile::exists(path);
-    if (!translator().load(path)) {
+    if (!loadCatalogue(path)) {
         qDebug() << "[Main] ✗ Failed to load translation file:" << path;
         qDebug() << "[Main] Falling back to English";
-        return false;
-    }
-    if (!QCoreApplication::installTranslator(&translator())) {
+    } else if (!QCoreApplication::installTranslator(&translator())) {
         qDebug() << "[Main] ✗ Failed to install translator";
-        return false;
+    } else {
+        qDebug() << "[Main] ✓ Translation loaded successfully:" << code;
+        AppLog::instance().info(u"Loaded translation: %1"_s.arg(code));
     }
-    qDebug() << "[Main] ✓ Translation loaded successfully:" << code;
-    AppLog::instance().info(u"Loaded translation: %1"_s.arg(code));
-    return true;
+}
+
+} // namespace
+
+QString initTranslation(const QSettings &store, const QString &systemLocale)
+{
+    addCataloguesToResources();
+    qDebug() << "========== Translation Init ==========";
+    qDebug() << "[Main] Settings path:" << store.fileName();
+    QString code = chooseLanguage(usersettings::readString(store, usersettings::Language), systemLocale);
+    installLanguage(code);
+    qDebug() << "=======================================";
+    return code;
 }

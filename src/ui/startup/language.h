@@ -2,11 +2,12 @@
 
 #include <QString>
 
-/// The code of the interface language: the stored one as it stands, else the system's as far as there is a
-/// catalogue for it, else English. "zh_CN" stands for the source texts. Traces to the debug output how it
-/// came about. `systemLocale` as QLocale::name() gives it ("de_DE").
-QString chooseLanguage(const QString &stored, const QString &systemLocale);
+QT_FORWARD_DECLARE_CLASS(QSettings)
 
-/// Loads and installs the language's catalogue, once in a process. False when there is none, which leaves the
-/// source texts. Needs an application object.
-bool installLanguage(const QString &code);
+/// Chooses the language of the interface: the stored one as it stands, else the system's as far as there is a
+/// catalogue for it, else English; "zh_CN" stands for the source texts. Then loads and installs its
+/// catalogue; without one the source texts stay. What came about goes to the debug output.
+///
+/// The code that was chosen, whether it has a catalogue or not; nothing is stored. `systemLocale` as
+/// QLocale::name() gives it ("de_DE"). Once in a process, with an application object.
+QString initTranslation(const QSettings &store, const QString &systemLocale);

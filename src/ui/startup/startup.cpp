@@ -9,7 +9,6 @@
 #include "ui/style/uiresources.h"
 
 #include <QApplication>
-#include <QDebug>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFont>
@@ -44,19 +43,6 @@ void openLog()
     log.info(u"Version: %1"_s.arg(QApplication::applicationVersion()));
 }
 
-// The code of the language that was chosen, whether there is a catalogue for it or not.
-QString initTranslation()
-{
-    qDebug() << "========== Translation Init ==========";
-    const std::unique_ptr<QSettings> settings = usersettings::open();
-    qDebug() << "[Main] Settings path:" << settings->fileName();
-    QString code =
-        chooseLanguage(usersettings::readString(*settings, usersettings::Language), QLocale::system().name());
-    installLanguage(code);
-    qDebug() << "=======================================";
-    return code;
-}
-
 void prepareLinks(const QString &language)
 {
     LinkManager &links = LinkManager::instance();
@@ -67,11 +53,11 @@ void prepareLinks(const QString &language)
     links.setLanguage(language);
 }
 
-void setFont()
+QFont interfaceFont()
 {
     QFont font(u"Segoe UI"_s, 10, QFont::Normal, false);
     font.setStyleStrategy(QFont::PreferAntialias);
-    QApplication::setFont(font);
+    return font;
 }
 
 } // namespace
@@ -82,9 +68,10 @@ int runDesktopProgram(int &argc, char **argv)
     QApplication application(argc, argv);
     nameApplication();
     openLog();
-    const QString language = initTranslation();
+    const std::unique_ptr<QSettings> settings = usersettings::open();
+    const QString language = initTranslation(*settings, QLocale::system().name());
     prepareLinks(language);
-    setFont();
+    QApplication::setFont(interfaceFont());
     addUiResources();
     QApplication::setWindowIcon(QIcon(u":/icons/icon.ico"_s));
 

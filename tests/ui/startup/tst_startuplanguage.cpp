@@ -4,10 +4,64 @@
 #include "support/messagecapture.h"
 
 #include <QCoreApplication>
+#include <QFile>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QSettings>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTranslator>
+
+#include <cstdio>
+#include <memory>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+const char *const sample = "正在擦除数据...";
+
+QString translatedSample()
+{
+    return QCoreApplication::translate("ProgressPage", sample);
+}
+
+QByteArray lineOf(const MessageCapture::Message &message)
+{
+    static const QRegularExpression time(u"^\\[\\d{4}-\\d\\d-\\d\\d \\d\\d:\\d\\d:\\d\\d\\.\\d{3}\\] "_s);
+    const QByteArray kind = message.type == QtDebugMsg  ? "debug "
+                            : message.type == QtInfoMsg ? "log "
+                                                        : "other ";
+    return kind + QString(message.text).remove(time).toUtf8() + '\n';
+}
+
+// What a process of its own does, since a process has one language: SETTINGS LOCALE [without-application].
+// Prints each message as a line of its own, then what came of it.
+int choose(int argc, char **argv)
+{
+    std::unique_ptr<QCoreApplication> application;
+    if (qstrcmp(argv[argc - 1], "without-application") != 0)
+        application = std::make_unique<QCoreApplication>(argc, argv);
+    const QString settings = QFile::decodeName(argv[2]);
+    AppLog::instance().setLogFile(settings + u".log"_s);
+    QByteArray lines;
+    {
+        const MessageCapture capture;
+        const QString code =
+            initTranslation(QSettings(settings, QSettings::IniFormat), QString::fromLatin1(argv[3]));
+        for (const MessageCapture::Message &message : capture.messages())
+            lines += lineOf(message);
+        lines += "code " + code.toUtf8() + '\n';
+    }
+    lines += "text " + translatedSample().toUtf8() + '\n';
+    return std::fwrite(lines.constData(), 1, static_cast<std::size_t>(lines.size()), stdout) ==
+                   static_cast<std::size_t>(lines.size())
+               ? 0
+               : 1;
+}
+
+} // namespace
 
 // Which language the program speaks, and how it says so.
 class TestStartupLanguage : public QObject
@@ -15,47 +69,161 @@ class TestStartupLanguage : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
     void theSystemDecidesUnlessTheUserDid_data();
     void theSystemDecidesUnlessTheUserDid();
     void everyLanguageButTheSourceHasACatalogue_data();
     void everyLanguageButTheSourceHasACatalogue();
-    void aLanguageWithoutACatalogueLeavesTheSourceTexts_data();
-    void aLanguageWithoutACatalogueLeavesTheSourceTexts();
+    void aRefusedInstallationIsTold();
 
 private:
+    struct Outcome
+    {
+        QStringList trace; // of debug output and log
+        QStringList others;
+        QString code;
+        QString text;
+        QStringList storedKeys;
+        QString stored;
+    };
+    void store(const QString &language);
+    Outcome run(const QString &locale, const QString &way = {});
+    QStringList expectedTrace(const QStringList &choice, const QString &code, bool exists,
+                              const QStringList &ending) const;
+
     QTemporaryDir m_folder;
+    QString m_settings = m_folder.filePath(u"settings.ini"_s);
 };
 
-void TestStartupLanguage::initTestCase()
+void TestStartupLanguage::store(const QString &language)
 {
-    AppLog::instance().setLogFile(m_folder.filePath(u"quorvex.log"_s));
+    QFile::remove(m_settings);
+    QSettings settings(m_settings, QSettings::IniFormat);
+    settings.setValue(u"wipe/verifyAfterWipe"_s, false);
+    if (!language.isEmpty())
+        settings.setValue(u"language"_s, language);
+}
+
+TestStartupLanguage::Outcome TestStartupLanguage::run(const QString &locale, const QString &way)
+{
+    QStringList arguments{u"--choose"_s, m_settings, locale};
+    if (!way.isEmpty())
+        arguments.append(way);
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    // The log makes the folder of its default file first.
+    environment.insert(u"XDG_DATA_HOME"_s, m_folder.filePath(u"data"_s));
+    process.setProcessEnvironment(environment);
+    process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    process.start(QCoreApplication::applicationFilePath(), arguments);
+    if (!process.waitForFinished() || process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0)
+        return {{u"the process failed"_s}, {}, {}, {}, {}, {}};
+
+    Outcome outcome;
+    const QStringList lines =
+        QString::fromUtf8(process.readAllStandardOutput()).remove(u'\r').split(u'\n', Qt::SkipEmptyParts);
+    for (const QString &line : lines) {
+        const QString rest = line.section(u' ', 1);
+        if (line.startsWith(u"code "))
+            outcome.code = rest;
+        else if (line.startsWith(u"text "))
+            outcome.text = rest;
+        else if (line.startsWith(u"other "))
+            outcome.others.append(rest);
+        else
+            outcome.trace.append(line);
+    }
+    const QSettings settings(m_settings, QSettings::IniFormat);
+    outcome.storedKeys = settings.allKeys();
+    outcome.stored = settings.value(u"language"_s).toString();
+    return outcome;
+}
+
+QStringList TestStartupLanguage::expectedTrace(const QStringList &choice, const QString &code, bool exists,
+                                               const QStringList &ending) const
+{
+    return QStringList{u"debug ========== Translation Init =========="_s,
+                       u"debug [Main] Settings path: \"%1\""_s.arg(m_settings)} +
+           choice +
+           QStringList{u"debug [Main] Translation file: \":/translations/quorvex_%1.qm\""_s.arg(code),
+                       u"debug [Main] File exists: %1"_s.arg(exists ? u"true"_s : u"false"_s)} +
+           ending + QStringList{u"debug ======================================="_s};
 }
 
 void TestStartupLanguage::theSystemDecidesUnlessTheUserDid_data()
 {
     QTest::addColumn<QString>("stored");
     QTest::addColumn<QString>("locale");
+    QTest::addColumn<QString>("beginning"); // of the locale, as it is looked up
     QTest::addColumn<QString>("code");
-    const auto row = [](const char *name, const QString &stored, const QString &locale, const QString &code) {
-        QTest::newRow(name) << stored << locale << code;
+    QTest::addColumn<bool>("hasCatalogue");
+    const auto detected = [](const char *name, const QString &locale, const QString &beginning,
+                             const QString &code, bool hasCatalogue = true) {
+        QTest::newRow(name) << QString() << locale << beginning << code << hasCatalogue;
     };
-    row("French Canada", {}, u"fr_CA"_s, u"fr"_s);
-    row("German", {}, u"de_DE"_s, u"de"_s);
-    row("mainland China", {}, u"zh_CN"_s, u"zh_CN"_s);
-    row("Taiwan is not told apart", {}, u"zh_TW"_s, u"zh_CN"_s);
-    row("Russian has no catalogue", {}, u"ru_RU"_s, u"en"_s);
-    row("no locale", {}, u"C"_s, u"en"_s);
-    row("stored Taiwan", u"zh_TW"_s, u"de_DE"_s, u"zh_TW"_s);
-    row("stored, unsupported", u"xx"_s, u"de_DE"_s, u"xx"_s);
+    detected("French Canada", u"fr_CA"_s, u"fr"_s, u"fr"_s);
+    detected("British", u"en_GB"_s, u"en"_s, u"en"_s);
+    detected("German", u"de_DE"_s, u"de"_s, u"de"_s);
+    detected("Japanese", u"ja_JP"_s, u"ja"_s, u"ja"_s);
+    detected("Mexican", u"es_MX"_s, u"es"_s, u"es"_s);
+    detected("Korean", u"ko_KR"_s, u"ko"_s, u"ko"_s);
+    detected("Dutch", u"nl_NL"_s, u"nl"_s, u"nl"_s);
+    detected("Brazilian", u"pt_BR"_s, u"pt"_s, u"pt"_s);
+    detected("Italian", u"it_IT"_s, u"it"_s, u"it"_s);
+    detected("mainland China", u"zh_CN"_s, u"zh"_s, u"zh_CN"_s, false);
+    detected("Taiwan is not told apart", u"zh_TW"_s, u"zh"_s, u"zh_CN"_s, false);
+    detected("Russian has no catalogue", u"ru_RU"_s, u"ru"_s, u"en"_s);
+    detected("Filipino by its first two letters", u"fil_PH"_s, u"fi"_s, u"en"_s);
+    detected("no locale", u"C"_s, u"C"_s, u"en"_s);
+
+    const auto chosen = [](const char *name, const QString &code, bool hasCatalogue) {
+        QTest::newRow(name) << code << u"de_DE"_s << QString() << code << hasCatalogue;
+    };
+    chosen("stored Taiwan", u"zh_TW"_s, true);
+    chosen("stored French", u"fr"_s, true);
+    chosen("stored source texts", u"zh_CN"_s, false);
+    chosen("stored, unsupported", u"xx"_s, false);
+    chosen("stored, unsupported country of a supported language", u"fr_CA"_s, false);
+    chosen("stored, in capitals", u"FR"_s, false);
 }
 
 void TestStartupLanguage::theSystemDecidesUnlessTheUserDid()
 {
-    QFETCH(QString, stored);
-    QFETCH(QString, locale);
-    QFETCH(QString, code);
-    QCOMPARE(chooseLanguage(stored, locale), code);
+    QFETCH(const QString, stored);
+    QFETCH(const QString, locale);
+    QFETCH(const QString, beginning);
+    QFETCH(const QString, code);
+    QFETCH(const bool, hasCatalogue);
+
+    QStringList choice{u"debug [Main] User language from settings: \"%1\""_s.arg(stored)};
+    if (stored.isEmpty())
+        choice += {u"debug [Main] System language: \"%1\""_s.arg(beginning),
+                   u"debug [Main] Auto-detected: \"%1\""_s.arg(code)};
+    else
+        choice += u"debug [Main] Using user language: \"%1\""_s.arg(code);
+    const QString path = u":/translations/quorvex_%1.qm"_s.arg(code);
+    const QStringList ending =
+        hasCatalogue ? QStringList{u"debug [Main] ✓ Translation loaded successfully: \"%1\""_s.arg(code),
+                                   u"log [INFO] Loaded translation: %1"_s.arg(code)}
+                     : QStringList{u"debug [Main] ✗ Failed to load translation file: \"%1\""_s.arg(path),
+                                   u"debug [Main] Falling back to English"_s};
+    QString text = QString::fromUtf8(sample);
+    if (hasCatalogue) {
+        QTranslator catalogue;
+        QVERIFY(catalogue.load(path));
+        text = catalogue.translate("ProgressPage", sample);
+        QVERIFY(!text.isEmpty());
+        QVERIFY(text != QString::fromUtf8(sample));
+    }
+
+    store(stored);
+    const Outcome outcome = run(locale);
+    QCOMPARE(outcome.trace, expectedTrace(choice, code, hasCatalogue, ending));
+    QCOMPARE(outcome.others, QStringList());
+    QCOMPARE(outcome.code, code);
+    QCOMPARE(outcome.text, text);
+    // Nothing is stored by it.
+    QCOMPARE(outcome.stored, stored);
+    QCOMPARE(outcome.storedKeys.size(), stored.isEmpty() ? 1 : 2);
 }
 
 void TestStartupLanguage::everyLanguageButTheSourceHasACatalogue_data()
@@ -67,24 +235,38 @@ void TestStartupLanguage::everyLanguageButTheSourceHasACatalogue_data()
 
 void TestStartupLanguage::everyLanguageButTheSourceHasACatalogue()
 {
-    QFETCH(QString, code);
-    QVERIFY(installLanguage(code));
-    QVERIFY(QCoreApplication::translate("ProgressPage", "正在擦除数据...") != u"正在擦除数据..."_s);
+    QFETCH(const QString, code);
+    QTranslator catalogue;
+    QVERIFY(catalogue.load(u":/translations/quorvex_%1.qm"_s.arg(code)));
+    const QString text = catalogue.translate("ProgressPage", sample);
+    QVERIFY(!text.isEmpty());
+    QVERIFY(text != QString::fromUtf8(sample));
+    QVERIFY(!QFile::exists(u":/translations/quorvex_zh_CN.qm"_s));
 }
 
-void TestStartupLanguage::aLanguageWithoutACatalogueLeavesTheSourceTexts_data()
+// Qt takes no translator before there is an application.
+void TestStartupLanguage::aRefusedInstallationIsTold()
 {
-    QTest::addColumn<QString>("code");
-    QTest::newRow("source") << u"zh_CN"_s;
-    QTest::newRow("unsupported") << u"xx"_s;
-    QTest::newRow("empty") << QString();
+    store(u"fr"_s);
+    const Outcome outcome = run(u"de_DE"_s, u"without-application"_s);
+    QCOMPARE(outcome.trace, expectedTrace({u"debug [Main] User language from settings: \"fr\""_s,
+                                           u"debug [Main] Using user language: \"fr\""_s},
+                                          u"fr"_s, true, {u"debug [Main] ✗ Failed to install translator"_s}));
+    QCOMPARE(outcome.others.size(), 1); // Qt's own
+    QCOMPARE(outcome.code, u"fr"_s);
+    QCOMPARE(outcome.text, QString::fromUtf8(sample));
 }
 
-void TestStartupLanguage::aLanguageWithoutACatalogueLeavesTheSourceTexts()
+int main(int argc, char **argv)
 {
-    QFETCH(QString, code);
-    QVERIFY(!installLanguage(code));
+#ifdef Q_OS_WIN
+    QStandardPaths::setTestModeEnabled(true); // the folders of Windows come from the registry
+#endif
+    if (argc > 3 && qstrcmp(argv[1], "--choose") == 0)
+        return choose(argc, argv);
+    QCoreApplication application(argc, argv);
+    Q_INIT_RESOURCE(translations);
+    TestStartupLanguage suite;
+    return QTest::qExec(&suite, argc, argv);
 }
-
-QTEST_MAIN(TestStartupLanguage)
 #include "tst_startuplanguage.moc"

@@ -1,0 +1,289 @@
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFont>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <csignal>
+#include <memory>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int Patience = 60000;
+
+QStringList withoutTimes(const QByteArray &text)
+{
+    static const QRegularExpression time(u"^\\[\\d{4}-\\d\\d-\\d\\d \\d\\d:\\d\\d:\\d\\d\\.\\d{3}\\] "_s);
+    QStringList lines = QString::fromUtf8(text).split(u'\n', Qt::SkipEmptyParts);
+    for (QString &line : lines)
+        line.remove(time);
+    return lines;
+}
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+} // namespace
+
+// The program itself, from its start to its end, in a home of its own and without real drives.
+// windowdriver.cpp is its user.
+class TestStartupProgram : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void startsStepByStep_data();
+    void startsStepByStep();
+    void bearsItsNamesAndItsFont();
+    void argumentsMeanNothing();
+    void startsWithoutADataFolder();
+    void aNewLanguageStartsTheProgramAnew();
+
+private:
+    QString home(const QString &name) const { return m_home->filePath(name); }
+    QString settingsFile() const { return home(u"config/Veltrano/Quorvex.conf"_s); }
+    QStringList log() const { return withoutTimes(contentOf(home(u"data/Veltrano/Quorvex/quorvex.log"_s))); }
+    QStringList output() const { return withoutTimes(contentOf(home(u"output"_s))); }
+    QString stored() const;
+    void store(const QString &language) const;
+    QJsonObject runNumber(int number) const;
+    void start(const QStringList &steps, const QStringList &arguments = {});
+    bool ends();
+    QStringList expectedBeginning(const QString &stored, const QString &code, bool hasCatalogue) const;
+
+    std::unique_ptr<QTemporaryDir> m_home;
+    std::unique_ptr<QProcess> m_program;
+    QString m_locale;
+};
+
+void TestStartupProgram::init()
+{
+    m_home = std::make_unique<QTemporaryDir>();
+    QVERIFY(m_home->isValid());
+    for (const QString &folder : {u"driver"_s, u"run"_s})
+        QVERIFY(QDir(m_home->path()).mkdir(folder));
+    QFile::setPermissions(home(u"run"_s), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    m_program = std::make_unique<QProcess>();
+    m_locale.clear();
+}
+
+// No process outlives its test, least of all one that the program started.
+void TestStartupProgram::cleanup()
+{
+    m_program.reset();
+    for (int run = 1; !runNumber(run).isEmpty(); ++run) {
+        const auto process = static_cast<pid_t>(runNumber(run).value(u"process").toInteger());
+        const QString executable = QFile::symLinkTarget(u"/proc/%1/exe"_s.arg(process));
+        if (process > 0 && executable == QStringLiteral(QUORVEX_PROGRAM))
+            ::kill(process, SIGKILL);
+    }
+    m_home.reset();
+}
+
+QString TestStartupProgram::stored() const
+{
+    return QSettings(settingsFile(), QSettings::IniFormat).value(u"language"_s).toString();
+}
+
+void TestStartupProgram::store(const QString &language) const
+{
+    QSettings(settingsFile(), QSettings::IniFormat).setValue(u"language"_s, language);
+}
+
+// What the program's window was like in that run; empty before it was shown.
+QJsonObject TestStartupProgram::runNumber(int number) const
+{
+    return QJsonDocument::fromJson(contentOf(home(u"driver/run%1.json"_s.arg(number)))).object();
+}
+
+void TestStartupProgram::start(const QStringList &steps, const QStringList &arguments)
+{
+    QFile file(home(u"driver/steps"_s));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(steps.join(u'\n').toUtf8());
+    file.close();
+
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(u"HOME"_s, m_home->path());
+    environment.insert(u"XDG_DATA_HOME"_s, home(u"data"_s));
+    environment.insert(u"XDG_CONFIG_HOME"_s, home(u"config"_s));
+    environment.insert(u"XDG_CONFIG_DIRS"_s, home(u"config"_s));
+    environment.insert(u"XDG_CACHE_HOME"_s, home(u"cache"_s));
+    environment.insert(u"XDG_RUNTIME_DIR"_s, home(u"run"_s));
+    environment.insert(u"QUORVEX_ONLY_IMAGE_DISKS"_s, u"1"_s);
+    environment.remove(u"QUORVEX_IMAGE_DISKS"_s);
+    environment.insert(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
+    environment.insert(u"QT_FORCE_STDERR_LOGGING"_s, u"1"_s);
+    environment.remove(u"QT_MESSAGE_PATTERN"_s);
+    environment.remove(u"QT_LOGGING_RULES"_s);
+    environment.insert(u"QT_PLUGIN_PATH"_s, QStringLiteral(QUORVEX_TEST_PLUGINS));
+    environment.insert(u"QT_QPA_GENERIC_PLUGINS"_s, u"windowdriver"_s);
+    environment.insert(u"QUORVEX_DRIVER"_s, home(u"driver"_s));
+    if (!m_locale.isEmpty()) {
+        environment.remove(u"LC_ALL"_s);
+        environment.remove(u"LC_NUMERIC"_s);
+        environment.insert(u"LANG"_s, m_locale);
+    }
+    m_program->setProcessEnvironment(environment);
+    // Not a pipe, which breaks with the end of the first program for one that it started.
+    m_program->setStandardOutputFile(home(u"output"_s));
+    m_program->setProcessChannelMode(QProcess::MergedChannels);
+    m_program->start(QStringLiteral(QUORVEX_PROGRAM), arguments);
+    QVERIFY2(m_program->waitForStarted(), qPrintable(m_program->errorString()));
+}
+
+// By itself and with success.
+bool TestStartupProgram::ends()
+{
+    return m_program->waitForFinished(Patience) && m_program->exitStatus() == QProcess::NormalExit &&
+           m_program->exitCode() == 0;
+}
+
+void TestStartupProgram::startsStepByStep_data()
+{
+    QTest::addColumn<QString>("stored");
+    QTest::addColumn<QString>("code");
+    QTest::addColumn<bool>("hasCatalogue");
+    QTest::addColumn<QString>("closeHint");
+    QTest::newRow("the system's French") << QString() << u"fr"_s << true << u"Fermer"_s;
+    QTest::newRow("stored Traditional Chinese") << u"zh_TW"_s << u"zh_TW"_s << true << u"關閉"_s;
+    QTest::newRow("stored, unsupported") << u"xx"_s << u"xx"_s << false << u"Close"_s;
+}
+
+void TestStartupProgram::startsStepByStep()
+{
+    QFETCH(const QString, stored);
+    QFETCH(const QString, code);
+    QFETCH(const bool, hasCatalogue);
+    if (!stored.isEmpty())
+        store(stored);
+    m_locale = u"fr_CA.UTF-8"_s;
+    start({u"close"_s});
+    const bool ended = ends();
+    const QStringList lines = output();
+    QVERIFY2(ended, qPrintable(lines.join(u'\n')));
+
+    const QStringList beginning = expectedBeginning(stored, code, hasCatalogue);
+    const qsizetype first = lines.indexOf(beginning.first());
+    QCOMPARE(lines.mid(first, beginning.size()), beginning);
+    const QString links = hasCatalogue ? u"[LinkManager] 语言已切换为: \"%1\""_s.arg(code)
+                                       : u"[LinkManager] 不支持的语言: \"%1\""_s.arg(code);
+    QStringList order = lines.mid(first + beginning.size());
+    order.removeIf([&](const QString &line) { return line != links && !line.startsWith(u"[INFO]"); });
+    QCOMPARE(order, QStringList({links, u"[INFO] Main window displayed"_s, u"[INFO] Application exiting"_s}));
+
+    QCOMPARE(log(), lines.filter(QRegularExpression(u"^\\[INFO\\]"_s)));
+    QVERIFY(QFile::exists(home(u"data/Veltrano/Quorvex/quorvex.db"_s)));
+    QTEST(runNumber(1).value(u"closeHint").toString(), "closeHint");
+}
+
+// Up to the end of the trace, on a system that speaks French.
+QStringList TestStartupProgram::expectedBeginning(const QString &stored, const QString &code,
+                                                  bool hasCatalogue) const
+{
+    QStringList lines{u"[INFO] Application started"_s, u"[INFO] Version: 5.0"_s,
+                      u"========== Translation Init =========="_s,
+                      u"[Main] Settings path: \"%1\""_s.arg(settingsFile()),
+                      u"[Main] User language from settings: \"%1\""_s.arg(stored)};
+    if (stored.isEmpty())
+        lines += {u"[Main] System language: \"fr\""_s, u"[Main] Auto-detected: \"fr\""_s};
+    else
+        lines += u"[Main] Using user language: \"%1\""_s.arg(stored);
+    const QString path = u":/translations/quorvex_%1.qm"_s.arg(code);
+    lines += {u"[Main] Translation file: \"%1\""_s.arg(path),
+              u"[Main] File exists: %1"_s.arg(hasCatalogue ? u"true"_s : u"false"_s)};
+    if (hasCatalogue)
+        lines += {u"[Main] ✓ Translation loaded successfully: \"%1\""_s.arg(code),
+                  u"[INFO] Loaded translation: %1"_s.arg(code)};
+    else
+        lines += {u"[Main] ✗ Failed to load translation file: \"%1\""_s.arg(path),
+                  u"[Main] Falling back to English"_s};
+    return lines << u"======================================="_s;
+}
+
+void TestStartupProgram::bearsItsNamesAndItsFont()
+{
+    start({u"close"_s});
+    QVERIFY(ends());
+    const QJsonObject run = runNumber(1);
+    QCOMPARE(run.value(u"name").toString(), u"Quorvex"_s);
+    QCOMPARE(run.value(u"version").toString(), u"5.0"_s);
+    QCOMPARE(run.value(u"organisation").toString(), u"Veltrano"_s);
+    const QString domain = run.value(u"domain").toString();
+    QVERIFY2(QRegularExpression(u"^[a-z0-9-]+(\\.[a-z0-9-]+)+$"_s).match(domain).hasMatch(),
+             qPrintable(domain));
+    QCOMPARE(run.value(u"scaling").toInt(), int(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough));
+    QCOMPARE(run.value(u"font").toString(), u"Segoe UI"_s);
+    QCOMPARE(run.value(u"fontSize").toInt(), 10);
+    QCOMPARE(run.value(u"fontWeight").toInt(), int(QFont::Normal));
+    QCOMPARE(run.value(u"fontItalic"), QJsonValue(false));
+    QCOMPARE(run.value(u"fontStrategy").toInt(), int(QFont::PreferAntialias));
+    // The window alone, without a message, and nobody's child.
+    QCOMPARE(run.value(u"windows").toArray(), QJsonArray{u"MainWindow"_s});
+    QCOMPARE(run.value(u"isChild"), QJsonValue(false));
+}
+
+void TestStartupProgram::argumentsMeanNothing()
+{
+    const QStringList arguments{u"--help"_s, u"--version"_s, u"de"_s};
+    start({u"close"_s}, arguments);
+    QVERIFY(ends());
+    QCOMPARE(runNumber(1).value(u"arguments").toArray(), QJsonArray::fromStringList(arguments));
+    QCOMPARE(log(), QStringList({u"[INFO] Application started"_s, u"[INFO] Version: 5.0"_s,
+                                 u"[INFO] Loaded translation: en"_s, u"[INFO] Main window displayed"_s,
+                                 u"[INFO] Application exiting"_s}));
+}
+
+void TestStartupProgram::startsWithoutADataFolder()
+{
+    QFile obstacle(home(u"data"_s));
+    QVERIFY(obstacle.open(QIODevice::WriteOnly));
+    start({u"close"_s});
+    QVERIFY(ends());
+    QCOMPARE(runNumber(1).value(u"windows").toArray(), QJsonArray{u"MainWindow"_s});
+    // The log still speaks.
+    const QStringList lines = output();
+    QVERIFY(lines.contains(u"[INFO] Main window displayed"_s));
+    QVERIFY(lines.contains(u"[INFO] Application exiting"_s));
+}
+
+void TestStartupProgram::aNewLanguageStartsTheProgramAnew()
+{
+    store(u"en"_s);
+    start({u"language de"_s, u"close"_s}, {u"kept"_s});
+    QVERIFY(ends());
+    QTRY_COMPARE_WITH_TIMEOUT(log().count(u"[INFO] Application exiting"_s), 2, Patience);
+
+    const QJsonObject before = runNumber(1);
+    const QJsonObject after = runNumber(2);
+    QVERIFY(before.value(u"process") != after.value(u"process"));
+    QCOMPARE(before.value(u"closeHint").toString(), u"Close"_s);
+    QCOMPARE(after.value(u"closeHint").toString(), u"Schließen"_s);
+    QCOMPARE(after.value(u"arguments").toArray(), QJsonArray{u"kept"_s});
+    QCOMPARE(after.value(u"windows").toArray(), QJsonArray{u"MainWindow"_s});
+    QCOMPARE(stored(), u"de"_s);
+    // The first may end before the second writes, or after.
+    QStringList logged = log();
+    logged.removeAll(u"[INFO] Application exiting"_s);
+    QCOMPARE(logged, QStringList({u"[INFO] Application started"_s, u"[INFO] Version: 5.0"_s,
+                                  u"[INFO] Loaded translation: en"_s, u"[INFO] Main window displayed"_s,
+                                  u"[INFO] Application started"_s, u"[INFO] Version: 5.0"_s,
+                                  u"[INFO] Loaded translation: de"_s, u"[INFO] Main window displayed"_s}));
+}
+
+QTEST_GUILESS_MAIN(TestStartupProgram)
+#include "tst_startupprogram.moc"

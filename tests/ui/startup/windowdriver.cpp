@@ -1,0 +1,147 @@
+#include <QAction>
+#include <QApplication>
+#include <QDir>
+#include <QFont>
+#include <QGenericPlugin>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QMenu>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QSaveFile>
+#include <QTimer>
+
+#include <chrono>
+#include <cstdlib>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+// Uses the desktop program as its user would, from inside: Qt loads this into the program as it is, by
+// QT_QPA_GENERIC_PLUGINS. QUORVEX_DRIVER names a folder. Each run, the first, the one that this starts anew
+// and so on, writes what it found in its window to run1.json, run2.json ... and does what that line of the
+// file "steps" says:
+//   close          presses the close button of the window
+//   language CODE  chooses that language in the menu and confirms the message that follows
+// Without such a line nothing happens. No run lasts longer than a minute, whatever became of the test.
+
+namespace {
+
+QWidget *mainWindow()
+{
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget *window : windows) {
+        if (window->isVisible() && window->inherits("MainWindow"))
+            return window;
+    }
+    return nullptr;
+}
+
+QJsonObject describe(const QWidget &window)
+{
+    QJsonArray visible;
+    const QWidgetList all = QApplication::topLevelWidgets();
+    for (const QWidget *each : all) {
+        if (each->isVisible())
+            visible.append(QString::fromLatin1(each->metaObject()->className()));
+    }
+    const QFont font = QApplication::font();
+    const auto *const close = window.findChild<QPushButton *>(u"closeButton"_s);
+    return {
+        {u"process"_s, QCoreApplication::applicationPid()},
+        {u"arguments"_s, QJsonArray::fromStringList(QCoreApplication::arguments().mid(1))},
+        {u"name"_s, QCoreApplication::applicationName()},
+        {u"version"_s, QCoreApplication::applicationVersion()},
+        {u"organisation"_s, QCoreApplication::organizationName()},
+        {u"domain"_s, QCoreApplication::organizationDomain()},
+        {u"scaling"_s, static_cast<int>(QGuiApplication::highDpiScaleFactorRoundingPolicy())},
+        {u"font"_s, font.family()},
+        {u"fontSize"_s, font.pointSize()},
+        {u"fontWeight"_s, font.weight()},
+        {u"fontItalic"_s, font.italic()},
+        {u"fontStrategy"_s, static_cast<int>(font.styleStrategy())},
+        {u"windows"_s, visible},
+        {u"isChild"_s, window.parentWidget() != nullptr},
+        {u"closeHint"_s, close ? close->toolTip() : QString()},
+    };
+}
+
+class WindowDriver : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit WindowDriver(const QString &folder)
+        : m_folder(folder)
+    {
+        // At the first turn of the loop, which is after all that start-up does.
+        QTimer::singleShot(0, this, &WindowDriver::begin);
+        QTimer::singleShot(1min, this, [] { std::_Exit(70); });
+    }
+
+private:
+    void begin()
+    {
+        const QWidget *const window = mainWindow();
+        if (!window) {
+            qWarning("driver: no window when the loop began");
+            std::_Exit(71);
+        }
+        int run = 1;
+        while (m_folder.exists(u"run%1.json"_s.arg(run)))
+            ++run;
+        QSaveFile file(m_folder.filePath(u"run%1.json"_s.arg(run)));
+        const QByteArray text = QJsonDocument(describe(*window)).toJson();
+        if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.commit())
+            std::_Exit(72);
+        QFile steps(m_folder.filePath(u"steps"_s));
+        if (!steps.open(QIODevice::ReadOnly))
+            std::_Exit(73);
+        follow(*window, QString::fromUtf8(steps.readAll()).split(u'\n').value(run - 1));
+    }
+
+    void follow(const QWidget &window, const QString &step)
+    {
+        if (step == u"close")
+            window.findChild<QPushButton *>(u"closeButton"_s)->click();
+        else if (step.startsWith(u"language "))
+            chooseLanguage(window, step.section(u' ', 1));
+    }
+
+    void chooseLanguage(const QWidget &window, const QString &code)
+    {
+        auto *const confirmation = new QTimer(this);
+        connect(confirmation, &QTimer::timeout, this, [confirmation] {
+            auto *const box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+            if (!box)
+                return;
+            confirmation->stop();
+            box->button(QMessageBox::Ok)->click();
+        });
+        confirmation->start(10ms);
+        const QList<QAction *> actions = window.findChild<QMenu *>(u"languageMenu"_s)->actions();
+        for (QAction *action : actions) {
+            if (action->data().toString() == code)
+                action->trigger(); // waits in the message
+        }
+    }
+
+    QDir m_folder;
+};
+
+} // namespace
+
+class WindowDriverPlugin : public QGenericPlugin
+{
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID QGenericPluginFactoryInterface_iid FILE "windowdriver.json")
+
+public:
+    QObject *create(const QString &, const QString &) override
+    {
+        return new WindowDriver(qEnvironmentVariable("QUORVEX_DRIVER"));
+    }
+};
+
+#include "windowdriver.moc"
