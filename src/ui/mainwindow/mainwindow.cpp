@@ -7,6 +7,7 @@
 #include "ui/files/fileselectpage.h"
 #include "ui/history/historypage.h"
 #include "ui/home/homepage.h"
+#include "ui/mainwindow/shadowcanvas.h"
 #include "ui/mainwindow/sidebar.h"
 #include "ui/methods/methodselectpage.h"
 #include "ui/progress/progresspage.h"
@@ -15,7 +16,6 @@
 
 #include <QDebug>
 #include <QFile>
-#include <QGraphicsDropShadowEffect>
 #include <QListWidget>
 #include <QStackedWidget>
 #include <QVBoxLayout>
@@ -65,12 +65,13 @@ MainWindow::MainWindow(QWidget *parent)
 
     if (!ReportDatabase::instance().initialize())
         qWarning() << "[MainWindow] Report database:" << ReportDatabase::instance().lastError();
+    // First, or every widget would be given its looks twice.
+    applyStyleSheet();
     createLayout();
     createPages();
     connectPages();
     connectEngine();
     connectTitleBar();
-    applyStyleSheet();
 }
 
 MainWindow::~MainWindow()
@@ -82,20 +83,15 @@ MainWindow::~MainWindow()
 
 void MainWindow::createLayout()
 {
-    auto *outer = new QWidget;
-    setCentralWidget(outer);
-    m_outerLayout = new QVBoxLayout(outer);
-    m_outerLayout->setContentsMargins(10, 10, 10, 10);
-
     auto *container = new QWidget;
     container->setObjectName("mainContainer"_L1);
     container->setAttribute(Qt::WA_StyledBackground);
     container->setStyleSheet(u"#mainContainer {  background-color: #f8fafc;  border-radius: 12px;}"_s);
-    auto *shadow = new QGraphicsDropShadowEffect(container);
-    shadow->setBlurRadius(20);
-    shadow->setColor(QColor(0, 0, 0, 60));
-    shadow->setOffset(0, 5);
-    container->setGraphicsEffect(shadow);
+    auto *outer = new ShadowCanvas(
+        {.cornerRadius = 12, .blurRadius = 20, .offset = 5, .colour = {0, 0, 0, 60}}, container);
+    setCentralWidget(outer);
+    m_outerLayout = new QVBoxLayout(outer);
+    m_outerLayout->setContentsMargins(10, 10, 10, 10);
     m_outerLayout->addWidget(container);
 
     auto *row = new QHBoxLayout(container);
@@ -185,9 +181,8 @@ void MainWindow::connectTitleBar()
 void MainWindow::applyStyleSheet()
 {
     QFile sheet(u":/styles/style.qss"_s);
-    if (sheet.open(QIODevice::ReadOnly))
-        setStyleSheet(QString::fromUtf8(sheet.readAll()));
-    setStyleSheet(styleSheet() + sidebarRules);
+    const QString rules = sheet.open(QIODevice::ReadOnly) ? QString::fromUtf8(sheet.readAll()) : QString();
+    setStyleSheet(rules + sidebarRules);
 }
 
 void MainWindow::showPage(int index)
