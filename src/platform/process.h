@@ -9,8 +9,8 @@
 #include <memory>
 #include <optional>
 
-// What a command-line program needs of its own process: the standard streams, the arguments as they were
-// given, and the wish of the user or the system to stop it.
+// What a program needs of its own process: the standard streams, the arguments as they were given, and the
+// wish of the user or the system to stop it.
 
 namespace platform {
 
@@ -33,6 +33,10 @@ std::optional<QString> readLine();
 // has gone away makes it fail; without one the system may end the process then. Windows: WriteConsoleW to a
 // console, else WriteFile. Linux: write.
 Status writeText(StandardStream stream, const QByteArray &text);
+
+// From now on a write to a pipe whose reader has gone away fails, instead of ending the process: for a program
+// with windows, which does not live for its output. Windows: is so anyway. Linux: SIGPIPE.
+void outliveReaders();
 
 // The arguments of main(), the program's name first, in the form that Files takes for paths: nothing in them
 // is lost. Windows: GetCommandLineW and CommandLineToArgvW. Linux: an undecodable byte b becomes the lone

@@ -110,6 +110,11 @@ Status writeText(StandardStream stream, const QByteArray &text)
     return {};
 }
 
+void outliveReaders()
+{
+    ::signal(SIGPIPE, SIG_IGN);
+}
+
 QStringList decodedArguments(int count, char *const *arguments)
 {
     QStringList result;

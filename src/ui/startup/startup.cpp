@@ -1,6 +1,7 @@
 #include "ui/startup/startup.h"
 
 #include "model/usersettings.h"
+#include "platform/process.h"
 #include "prompts/prompts.h"
 #include "services/applog.h"
 #include "services/linkmanager.h"
@@ -64,6 +65,8 @@ QFont interfaceFont()
 
 int runDesktopProgram(int &argc, char **argv)
 {
+    // A terminal that is closed, or a program that restarted this one, takes the reader of the trace with it.
+    platform::outliveReaders();
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     QApplication application(argc, argv);
     nameApplication();

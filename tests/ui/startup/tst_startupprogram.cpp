@@ -12,7 +12,10 @@
 #include <QTest>
 
 #include <csignal>
+#include <fcntl.h>
 #include <memory>
+#include <sys/stat.h>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -51,6 +54,7 @@ private slots:
     void bearsItsNamesAndItsFont();
     void argumentsMeanNothing();
     void startsWithoutADataFolder();
+    void livesOnWithoutAReaderOfItsTrace();
     void aNewLanguageStartsTheProgramAnew();
 
 private:
@@ -61,6 +65,7 @@ private:
     QString stored() const;
     void store(const QString &language) const;
     QJsonObject runNumber(int number) const;
+    void prepare(const QStringList &steps);
     void start(const QStringList &steps, const QStringList &arguments = {});
     bool ends();
     QStringList expectedBeginning(const QString &stored, const QString &code, bool hasCatalogue) const;
@@ -110,7 +115,7 @@ QJsonObject TestStartupProgram::runNumber(int number) const
     return QJsonDocument::fromJson(contentOf(home(u"driver/run%1.json"_s.arg(number)))).object();
 }
 
-void TestStartupProgram::start(const QStringList &steps, const QStringList &arguments)
+void TestStartupProgram::prepare(const QStringList &steps)
 {
     QFile file(home(u"driver/steps"_s));
     QVERIFY(file.open(QIODevice::WriteOnly));
@@ -139,6 +144,11 @@ void TestStartupProgram::start(const QStringList &steps, const QStringList &argu
         environment.insert(u"LANG"_s, m_locale);
     }
     m_program->setProcessEnvironment(environment);
+}
+
+void TestStartupProgram::start(const QStringList &steps, const QStringList &arguments)
+{
+    prepare(steps);
     // Not a pipe, which breaks with the end of the first program for one that it started.
     m_program->setStandardOutputFile(home(u"output"_s));
     m_program->setProcessChannelMode(QProcess::MergedChannels);
@@ -259,6 +269,21 @@ void TestStartupProgram::startsWithoutADataFolder()
     const QStringList lines = output();
     QVERIFY(lines.contains(u"[INFO] Main window displayed"_s));
     QVERIFY(lines.contains(u"[INFO] Application exiting"_s));
+}
+
+void TestStartupProgram::livesOnWithoutAReaderOfItsTrace()
+{
+    const QString pipe = home(u"pipe"_s);
+    QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    const int reader = ::open(QFile::encodeName(pipe).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    QVERIFY(reader != -1);
+    prepare({u"close"_s});
+    m_program->setStandardOutputFile(pipe);
+    m_program->setProcessChannelMode(QProcess::MergedChannels);
+    m_program->start(QStringLiteral(QUORVEX_PROGRAM));
+    ::close(reader);
+    QVERIFY(ends());
+    QCOMPARE(log().constLast(), u"[INFO] Application exiting"_s);
 }
 
 void TestStartupProgram::aNewLanguageStartsTheProgramAnew()
