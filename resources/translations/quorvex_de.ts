@@ -780,8 +780,8 @@
         <translation>Keine echten Datenträger auflisten oder öffnen</translation>
     </message>
     <message>
-        <source>Language: en fr de ja es ko nl pt it zh_TW zh_CN</source>
-        <translation>Sprache: en fr de ja es ko nl pt it zh_TW zh_CN</translation>
+        <source>Language: en fr de ja es ko nl pt it zh_TW zh_CN (default: the system&apos;s)</source>
+        <translation>Sprache: en fr de ja es ko nl pt it zh_TW zh_CN (Vorgabe: die des Systems)</translation>
     </message>
     <message>
         <source>Print errors and the final line only</source>

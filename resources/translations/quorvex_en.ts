@@ -780,8 +780,8 @@
         <translation>List and open no real drive</translation>
     </message>
     <message>
-        <source>Language: en fr de ja es ko nl pt it zh_TW zh_CN</source>
-        <translation>Language: en fr de ja es ko nl pt it zh_TW zh_CN</translation>
+        <source>Language: en fr de ja es ko nl pt it zh_TW zh_CN (default: the system&apos;s)</source>
+        <translation>Language: en fr de ja es ko nl pt it zh_TW zh_CN (default: the system&apos;s)</translation>
     </message>
     <message>
         <source>Print errors and the final line only</source>

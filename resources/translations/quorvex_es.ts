@@ -780,8 +780,8 @@
         <translation>No muestra ni abre ninguna unidad real</translation>
     </message>
     <message>
-        <source>Language: en fr de ja es ko nl pt it zh_TW zh_CN</source>
-        <translation>Idioma: en fr de ja es ko nl pt it zh_TW zh_CN</translation>
+        <source>Language: en fr de ja es ko nl pt it zh_TW zh_CN (default: the system&apos;s)</source>
+        <translation>Idioma: en fr de ja es ko nl pt it zh_TW zh_CN (por defecto: el del sistema)</translation>
     </message>
     <message>
         <source>Print errors and the final line only</source>

@@ -780,8 +780,8 @@
         <translation>Ne liste et n&apos;ouvre aucun disque réel</translation>
     </message>
     <message>
-        <source>Language: en fr de ja es ko nl pt it zh_TW zh_CN</source>
-        <translation>Langue&#xa0;: en fr de ja es ko nl pt it zh_TW zh_CN</translation>
+        <source>Language: en fr de ja es ko nl pt it zh_TW zh_CN (default: the system&apos;s)</source>
+        <translation>Langue&#xa0;: en fr de ja es ko nl pt it zh_TW zh_CN (par défaut&#xa0;: celle du système)</translation>
     </message>
     <message>
         <source>Print errors and the final line only</source>

@@ -780,8 +780,8 @@
         <translation>Non elenca né apre alcun disco reale</translation>
     </message>
     <message>
-        <source>Language: en fr de ja es ko nl pt it zh_TW zh_CN</source>
-        <translation>Lingua: en fr de ja es ko nl pt it zh_TW zh_CN</translation>
+        <source>Language: en fr de ja es ko nl pt it zh_TW zh_CN (default: the system&apos;s)</source>
+        <translation>Lingua: en fr de ja es ko nl pt it zh_TW zh_CN (predefinita: quella del sistema)</translation>
     </message>
     <message>
         <source>Print errors and the final line only</source>

@@ -780,8 +780,8 @@
         <translation>実際のドライブは一覧に含めず、開きもしない</translation>
     </message>
     <message>
-        <source>Language: en fr de ja es ko nl pt it zh_TW zh_CN</source>
-        <translation>言語: en fr de ja es ko nl pt it zh_TW zh_CN</translation>
+        <source>Language: en fr de ja es ko nl pt it zh_TW zh_CN (default: the system&apos;s)</source>
+        <translation>言語: en fr de ja es ko nl pt it zh_TW zh_CN（既定: システムの言語）</translation>
     </message>
     <message>
         <source>Print errors and the final line only</source>

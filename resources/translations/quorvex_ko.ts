@@ -780,8 +780,8 @@
         <translation>실제 드라이브를 나열하지도 열지도 않음</translation>
     </message>
     <message>
-        <source>Language: en fr de ja es ko nl pt it zh_TW zh_CN</source>
-        <translation>언어: en fr de ja es ko nl pt it zh_TW zh_CN</translation>
+        <source>Language: en fr de ja es ko nl pt it zh_TW zh_CN (default: the system&apos;s)</source>
+        <translation>언어: en fr de ja es ko nl pt it zh_TW zh_CN (기본값: 시스템 언어)</translation>
     </message>
     <message>
         <source>Print errors and the final line only</source>

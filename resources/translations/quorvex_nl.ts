@@ -780,8 +780,8 @@
         <translation>Geen echte schijven tonen of openen</translation>
     </message>
     <message>
-        <source>Language: en fr de ja es ko nl pt it zh_TW zh_CN</source>
-        <translation>Taal: en fr de ja es ko nl pt it zh_TW zh_CN</translation>
+        <source>Language: en fr de ja es ko nl pt it zh_TW zh_CN (default: the system&apos;s)</source>
+        <translation>Taal: en fr de ja es ko nl pt it zh_TW zh_CN (standaard: die van het systeem)</translation>
     </message>
     <message>
         <source>Print errors and the final line only</source>

@@ -780,8 +780,8 @@
         <translation>Não mostra nem abre nenhuma unidade real</translation>
     </message>
     <message>
-        <source>Language: en fr de ja es ko nl pt it zh_TW zh_CN</source>
-        <translation>Idioma: en fr de ja es ko nl pt it zh_TW zh_CN</translation>
+        <source>Language: en fr de ja es ko nl pt it zh_TW zh_CN (default: the system&apos;s)</source>
+        <translation>Idioma: en fr de ja es ko nl pt it zh_TW zh_CN (padrão: o do sistema)</translation>
     </message>
     <message>
         <source>Print errors and the final line only</source>

@@ -780,8 +780,8 @@
         <translation>不列出也不開啟任何實際的磁碟機</translation>
     </message>
     <message>
-        <source>Language: en fr de ja es ko nl pt it zh_TW zh_CN</source>
-        <translation>語言：en fr de ja es ko nl pt it zh_TW zh_CN</translation>
+        <source>Language: en fr de ja es ko nl pt it zh_TW zh_CN (default: the system&apos;s)</source>
+        <translation>語言：en fr de ja es ko nl pt it zh_TW zh_CN（預設：系統語言）</translation>
     </message>
     <message>
         <source>Print errors and the final line only</source>

@@ -4,6 +4,7 @@
 #include "cli/globaloptions.h"
 #include "cli/translate.h"
 #include "model/displaytext.h"
+#include "services/translations.h"
 
 #include <QSet>
 
@@ -117,12 +118,14 @@ Outcome<CommandLine> parseForCommand(const Command &command, const QStringList &
 
 } // namespace
 
-QString requestedLanguage(const QStringList &arguments)
+QString languageFor(const QStringList &arguments, const QString &systemLocale)
 {
     QCommandLineParser parser;
     addAllOptions(parser);
     parser.parse(withProgramName(arguments));
-    return parser.value(u"lang"_s);
+    if (parser.isSet(u"lang"_s))
+        return parser.value(u"lang"_s);
+    return wantsJson(parser) ? QString() : translations::forSystem(systemLocale);
 }
 
 Outcome<CommandLine> parseCommandLine(const QStringList &arguments)

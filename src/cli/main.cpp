@@ -5,6 +5,7 @@
 #include "platform/process.h"
 
 #include <QCoreApplication>
+#include <QLocale>
 #include <QSysInfo>
 
 namespace {
@@ -42,5 +43,5 @@ int main(int argc, char *argv[])
     QCoreApplication::setApplicationVersion(u"5.0"_s);
 
     cli::ProcessIo io;
-    return cli::runCli(arguments.mid(1), io);
+    return cli::runCli(arguments.mid(1), io, QLocale::system().name());
 }

@@ -49,9 +49,9 @@ ExitCode carryOut(const CommandLine &line, CliIo &io)
 
 } // namespace
 
-int runCli(const QStringList &arguments, CliIo &io)
+int runCli(const QStringList &arguments, CliIo &io, const QString &systemLocale)
 {
-    const auto language = Language::install(requestedLanguage(arguments));
+    const auto language = Language::install(languageFor(arguments, systemLocale));
     if (!language)
         return printRefusal(language.refusal(), false, io);
     const auto line = parseCommandLine(arguments);

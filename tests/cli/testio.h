@@ -98,6 +98,9 @@ private:
     cli::StopRequest m_stop;
 };
 
+// The system's locale in tests: its language has no catalogue.
+inline const QString SourceTexts = QStringLiteral("zh_CN");
+
 // One run of a command: what it answered and what it printed. With a log folder of its own, and without real
 // drives.
 class CliRun
@@ -108,7 +111,7 @@ public:
 
     CliRun &operator()(const QStringList &arguments)
     {
-        code = cli::runCli(arguments + QStringList{QStringLiteral("--data-dir"), folder()}, io);
+        code = cli::runCli(arguments + QStringList{QStringLiteral("--data-dir"), folder()}, io, SourceTexts);
         return *this;
     }
     QString folder() const { return m_folder.path(); }

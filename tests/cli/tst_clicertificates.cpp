@@ -143,8 +143,9 @@ void TestCliCertificates::aStoredReportIsExported()
     const QString id = run.io.events().constLast().value(u"certificateId").toString();
     TestIo io;
     const QString path = run.folder() + u"/second.pdf"_s;
-    QCOMPARE(
-        cli::runCli({u"reports"_s, u"export"_s, id, u"--pdf"_s, path, u"--data-dir"_s, run.folder()}, io), 0);
+    QCOMPARE(cli::runCli({u"reports"_s, u"export"_s, id, u"--pdf"_s, path, u"--data-dir"_s, run.folder()}, io,
+                         SourceTexts),
+             0);
     QVERIFY(isPdf(path));
 }
 
@@ -158,7 +159,7 @@ void TestCliCertificates::bothFormsAreExportedAtOnce()
     TestIo io;
     QCOMPARE(cli::runCli({u"reports"_s, u"export"_s, id, u"--pdf"_s, run.folder(), u"--json-file"_s, u"-"_s,
                           u"--data-dir"_s, run.folder()},
-                         io),
+                         io, SourceTexts),
              0);
     QVERIFY(isPdf(run.folder() + u'/' + id + u".pdf"_s));
     QCOMPARE(QJsonDocument::fromJson(io.out).object().value(u"certificateId"), QJsonValue(id));

@@ -24,6 +24,9 @@ private slots:
     void nothingIsDoneOnAWrongLine();
     void everyLanguageOfTheProgramIsTaken_data();
     void everyLanguageOfTheProgramIsTaken();
+    void theSystemDecidesTheLanguageOfWhatPeopleRead_data();
+    void theSystemDecidesTheLanguageOfWhatPeopleRead();
+    void machineOutputIsTheSameOnEverySystem();
     void anImageMustBeARegularFile();
     void anImageMayBeGivenThroughALink();
     void anImageGivenTwiceIsOneDrive();
@@ -179,7 +182,7 @@ void TestCliCommandLine::aWrongLineIsToldInOneLine()
     QFETCH(const QByteArray, help);
     TestIo io;
     const QTemporaryDir folder;
-    const int code = cli::runCli(arguments, io);
+    const int code = cli::runCli(arguments, io, SourceTexts);
     QCOMPARE(code, 2);
     QCOMPARE(io.out, QByteArray());
     QCOMPARE(io.err.count('\n'), 1);
@@ -227,6 +230,47 @@ void TestCliCommandLine::everyLanguageOfTheProgramIsTaken()
     run({u"methods"_s, u"--lang"_s, language});
     QCOMPARE(run.code, 0);
     QVERIFY(run.io.out.contains("NIST 800-88"));
+}
+
+namespace {
+
+QByteArray methodsOn(const QString &systemLocale, const QStringList &options)
+{
+    TestIo io;
+    const QTemporaryDir folder;
+    return cli::runCli(options + QStringList{u"methods"_s, u"--data-dir"_s, folder.path()}, io,
+                       systemLocale) == 0
+               ? io.out
+               : "failed";
+}
+
+} // namespace
+
+void TestCliCommandLine::theSystemDecidesTheLanguageOfWhatPeopleRead_data()
+{
+    QTest::addColumn<QString>("systemLocale");
+    QTest::addColumn<QString>("language");
+    QTest::newRow("German") << u"de_DE"_s << u"de"_s;
+    QTest::newRow("Austrian") << u"de_AT"_s << u"de"_s;
+    QTest::newRow("no locale") << u"C"_s << u"en"_s;
+    QTest::newRow("Russian has no catalogue") << u"ru_RU"_s << u"en"_s;
+    QTest::newRow("Chinese") << u"zh_CN"_s << u"zh_CN"_s;
+}
+
+void TestCliCommandLine::theSystemDecidesTheLanguageOfWhatPeopleRead()
+{
+    QFETCH(const QString, systemLocale);
+    QFETCH(const QString, language);
+    const QByteArray wanted = methodsOn(u"ja_JP"_s, {u"--lang"_s, language});
+    QCOMPARE(methodsOn(systemLocale, {}), wanted);
+    QVERIFY(wanted != methodsOn(u"ja_JP"_s, {}));
+}
+
+void TestCliCommandLine::machineOutputIsTheSameOnEverySystem()
+{
+    const QByteArray source = methodsOn(u"zh_CN"_s, {u"--json"_s});
+    QCOMPARE(methodsOn(u"de_DE"_s, {u"--json"_s}), source);
+    QVERIFY(methodsOn(u"de_DE"_s, {u"--json"_s, u"--lang"_s, u"de"_s}) != source);
 }
 
 void TestCliCommandLine::anImageMustBeARegularFile()

@@ -165,7 +165,7 @@ void TestCliReports::aFailedJobIsStoredToo()
     QCOMPARE(run.code, 1);
     CliRun list;
     TestIo io;
-    QCOMPARE(cli::runCli({u"reports"_s, u"list"_s, u"--data-dir"_s, run.folder()}, io), 0);
+    QCOMPARE(cli::runCli({u"reports"_s, u"list"_s, u"--data-dir"_s, run.folder()}, io, SourceTexts), 0);
     QVERIFY2(io.out.contains("Failed"), io.out.constData());
 }
 
@@ -291,7 +291,9 @@ void TestCliReports::damagedTextIsListedAsSuch()
     QCOMPARE(run.code, 0);
     QVERIFY2(run.io.out.contains("QVX-A") && run.io.out.contains("damaged"), run.io.out.constData());
     TestIo io;
-    QCOMPARE(cli::runCli({u"reports"_s, u"list"_s, u"--json"_s, u"--data-dir"_s, run.folder()}, io), 0);
+    QCOMPARE(
+        cli::runCli({u"reports"_s, u"list"_s, u"--json"_s, u"--data-dir"_s, run.folder()}, io, SourceTexts),
+        0);
     QCOMPARE(io.documents().constFirst().array().at(0).toObject(),
              (QJsonObject{{u"certificateId"_s, u"QVX-A"_s}, {u"damaged"_s, true}}));
 }
@@ -428,7 +430,7 @@ void TestCliReports::theReportFileOfAJobIsTheSame()
     run(wipeDrive({u"--report"_s, path}));
     QCOMPARE(run.code, 0);
     TestIo io;
-    QCOMPARE(cli::runCli({u"check"_s, path, u"--data-dir"_s, run.folder(), u"--json"_s}, io), 0);
+    QCOMPARE(cli::runCli({u"check"_s, path, u"--data-dir"_s, run.folder(), u"--json"_s}, io, SourceTexts), 0);
     QCOMPARE(io.documents().constFirst().object().value(u"same"), QJsonValue(true));
 }
 
@@ -466,7 +468,7 @@ void TestCliReports::theFirstFieldThatDiffersIsNamed()
     const QByteArray expected = "NOT THE SAME: the first field that differs is " + field.toUtf8() + ": ";
     QVERIFY2(run.io.out.startsWith(expected), run.io.out.constData());
     TestIo io;
-    QCOMPARE(cli::runCli({u"check"_s, path, u"--data-dir"_s, run.folder(), u"--json"_s}, io), 1);
+    QCOMPARE(cli::runCli({u"check"_s, path, u"--data-dir"_s, run.folder(), u"--json"_s}, io, SourceTexts), 1);
     QCOMPARE(io.documents().constFirst().object().value(u"field"), QJsonValue(field));
 }
 

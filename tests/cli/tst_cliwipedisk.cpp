@@ -246,7 +246,7 @@ void TestCliWipeDisk::anUnknownDriveIsRefused()
     MemoryMachine machine;
     addDrive(machine);
     TestIo io;
-    const int code = cli::runCli({u"wipe"_s, u"disk"_s, u"--yes"_s, u"--"_s, name}, io);
+    const int code = cli::runCli({u"wipe"_s, u"disk"_s, u"--yes"_s, u"--"_s, name}, io, SourceTexts);
     QCOMPARE(code, 3);
     QVERIFY2(io.err.contains("no such drive"), io.err.constData());
     QCOMPARE(machine.openings(), QStringList());
@@ -634,8 +634,8 @@ void TestCliWipeDisk::aDataFolderThatCannotBeMadeStopsBeforeAnythingIs()
     MemoryMachine machine;
     addDrive(machine);
     TestIo io;
-    const int code =
-        cli::runCli(wipeDrive(0) + QStringList{u"--data-dir"_s, folder.filePath(u"file/sub"_s)}, io);
+    const int code = cli::runCli(wipeDrive(0) + QStringList{u"--data-dir"_s, folder.filePath(u"file/sub"_s)},
+                                 io, SourceTexts);
     QCOMPARE(code, 5);
     QVERIFY2(io.err.contains("data folder"), io.err.constData());
     QCOMPARE(machine.openings(), QStringList());

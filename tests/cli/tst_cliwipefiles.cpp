@@ -179,7 +179,8 @@ void TestCliWipeFiles::aPathThatLooksLikeAnOptionIsErased()
     QVERIFY(writeFile(path(u":resource"_s), "x"));
     TestIo io;
     const int code = cli::runCli(
-        {u"wipe"_s, u"files"_s, u"--only-images"_s, u"--yes"_s, u"--"_s, u"--quiet"_s, u":resource"_s}, io);
+        {u"wipe"_s, u"files"_s, u"--only-images"_s, u"--yes"_s, u"--"_s, u"--quiet"_s, u":resource"_s}, io,
+        SourceTexts);
     QCOMPARE(code, 0);
     QVERIFY(!exists(u"--quiet"_s));
     QVERIFY(!exists(u":resource"_s));

@@ -2,32 +2,17 @@
 
 #include "model/usersettings.h"
 #include "services/applog.h"
+#include "services/translations.h"
 
 #include <QCoreApplication>
 #include <QDebug>
 #include <QFile>
 #include <QSettings>
-#include <QStringList>
 #include <QTranslator>
 
 using namespace Qt::StringLiterals;
 
-// The resources of a static library are not found by themselves. The macro does not work within a namespace.
-static void addCataloguesToResources()
-{
-    Q_INIT_RESOURCE(translations);
-}
-
 namespace {
-
-QString languageOfSystem(const QString &code)
-{
-    static const QStringList same{u"en"_s, u"fr"_s, u"de"_s, u"ja"_s, u"es"_s,
-                                  u"ko"_s, u"nl"_s, u"pt"_s, u"it"_s};
-    if (code == u"zh"_s)
-        return u"zh_CN"_s;
-    return same.contains(code) ? code : u"en"_s;
-}
 
 QString chooseLanguage(const QString &stored, const QString &systemLocale)
 {
@@ -36,9 +21,8 @@ QString chooseLanguage(const QString &stored, const QString &systemLocale)
         qDebug() << "[Main] Using user language:" << stored;
         return stored;
     }
-    const QString system = systemLocale.left(2);
-    qDebug() << "[Main] System language:" << system;
-    QString detected = languageOfSystem(system);
+    qDebug() << "[Main] System language:" << systemLocale.left(2);
+    QString detected = translations::forSystem(systemLocale);
     qDebug() << "[Main] Auto-detected:" << detected;
     return detected;
 }
@@ -58,7 +42,7 @@ bool loadCatalogue(const QString &path)
 
 void installLanguage(const QString &code)
 {
-    const QString path = u":/translations/quorvex_%1.qm"_s.arg(code);
+    const QString path = translations::catalogue(code);
     qDebug() << "[Main] Translation file:" << path;
     qDebug() << "[Main] File exists:" << QFile::exists(path);
     if (!loadCatalogue(path)) {
@@ -76,7 +60,6 @@ void installLanguage(const QString &code)
 
 QString initTranslation(const QSettings &store, const QString &systemLocale)
 {
-    addCataloguesToResources();
     qDebug() << "========== Translation Init ==========";
     qDebug() << "[Main] Settings path:" << store.fileName();
     QString code = chooseLanguage(usersettings::readString(store, usersettings::Language), systemLocale);

@@ -1,6 +1,7 @@
 #include "ui/startup/language.h"
 
 #include "services/applog.h"
+#include "services/translations.h"
 #include "support/messagecapture.h"
 
 #include <QCoreApplication>
@@ -209,7 +210,7 @@ void TestStartupLanguage::theSystemDecidesUnlessTheUserDid()
     QString text = QString::fromUtf8(sample);
     if (hasCatalogue) {
         QTranslator catalogue;
-        QVERIFY(catalogue.load(path));
+        QVERIFY(catalogue.load(translations::catalogue(code)));
         text = catalogue.translate("ProgressPage", sample);
         QVERIFY(!text.isEmpty());
         QVERIFY(text != QString::fromUtf8(sample));
@@ -237,11 +238,11 @@ void TestStartupLanguage::everyLanguageButTheSourceHasACatalogue()
 {
     QFETCH(const QString, code);
     QTranslator catalogue;
-    QVERIFY(catalogue.load(u":/translations/quorvex_%1.qm"_s.arg(code)));
+    QVERIFY(catalogue.load(translations::catalogue(code)));
     const QString text = catalogue.translate("ProgressPage", sample);
     QVERIFY(!text.isEmpty());
     QVERIFY(text != QString::fromUtf8(sample));
-    QVERIFY(!QFile::exists(u":/translations/quorvex_zh_CN.qm"_s));
+    QVERIFY(!QFile::exists(translations::catalogue(u"zh_CN"_s)));
 }
 
 // Qt takes no translator before there is an application.
@@ -265,7 +266,6 @@ int main(int argc, char **argv)
     if (argc > 3 && qstrcmp(argv[1], "--choose") == 0)
         return choose(argc, argv);
     QCoreApplication application(argc, argv);
-    Q_INIT_RESOURCE(translations);
     TestStartupLanguage suite;
     return QTest::qExec(&suite, argc, argv);
 }
