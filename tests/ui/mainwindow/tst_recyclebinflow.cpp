@@ -168,10 +168,7 @@ void TestRecycleBinFlow::anotherFlowLeavesTheBin()
     fixture.prompts.filesToOpenAnswers = {{chosen}};
     QVERIFY(fixture.click(u"📄 Add Files"_s));
     QVERIFY(fixture.click(u"Next →"_s));
-    fixture.dialogs.answers = {WindowFixture::typeErase, WindowFixture::pressButton(u"Done"_s)};
-    QVERIFY(fixture.click(u"Start"_s));
-    QTRY_VERIFY_WITH_TIMEOUT(fixture.dialogs.answers.isEmpty(), 60000);
-    QTRY_COMPARE(fixture.window->currentPage(), int(MainWindow::Home));
+    fixture.runJob();
     QVERIFY(!QFile::exists(chosen));
     QCOMPARE(QDir(trash(fixture, u"files"_s)).entryList(QDir::Files).size(), 3);
     QCOMPARE(fixture.prompts.boxes.size(), 0); // no offer of the bin
@@ -184,10 +181,8 @@ void TestRecycleBinFlow::aFileJobAfterTheBinHasItsPageBack()
     fixture.window->onRecycleBinWipeClicked();
     QTRY_VERIFY(fixture.button(u"Next →"_s)->isEnabled());
     QVERIFY(fixture.click(u"Next →"_s));
-    fixture.dialogs.answers = {WindowFixture::typeErase, WindowFixture::pressButton(u"Done"_s)};
     fixture.prompts.buttons = {QMessageBox::No};
-    QVERIFY(fixture.click(u"Start"_s));
-    QTRY_COMPARE_WITH_TIMEOUT(fixture.window->currentPage(), int(MainWindow::Home), 60000);
+    fixture.runJob();
     fixture.window->onFileWipeClicked();
     QVERIFY(fixture.button(u"📄 Add Files"_s)->isVisible());
     QCOMPARE(fixture.page()->findChild<QLabel *>(u"pageTitle"_s)->text(), u"Select Files to Shred"_s);
@@ -203,10 +198,8 @@ void TestRecycleBinFlow::namesOfErasedFoldersLeaveTheRecords()
     fixture.window->onRecycleBinWipeClicked();
     QTRY_VERIFY(fixture.button(u"Next →"_s)->isEnabled());
     QVERIFY(fixture.click(u"Next →"_s));
-    fixture.dialogs.answers = {WindowFixture::typeErase, WindowFixture::pressButton(u"Done"_s)};
     fixture.prompts.buttons = {QMessageBox::No};
-    QVERIFY(fixture.click(u"Start"_s));
-    QTRY_COMPARE_WITH_TIMEOUT(fixture.window->currentPage(), int(MainWindow::Home), 60000);
+    fixture.runJob();
     QVERIFY(!contentOfTestFile(trash(fixture, u"directorysizes"_s)).contains("project"));
 }
 

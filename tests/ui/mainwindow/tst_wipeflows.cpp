@@ -64,16 +64,6 @@ void chooseFiles(WindowFixture &fixture, const QStringList &files)
     QVERIFY(fixture.click(u"Next →"_s));
 }
 
-// Runs the job that is chosen up to the answered completion dialog.
-void runJob(WindowFixture &fixture, const QString &button = u"Done"_s)
-{
-    fixture.dialogs.answers = {WindowFixture::typeErase, WindowFixture::pressButton(button)};
-    QVERIFY(fixture.click(u"Start"_s));
-    QTRY_VERIFY_WITH_TIMEOUT(
-        fixture.dialogs.answers.isEmpty() && fixture.window->currentPage() == MainWindow::Home, 60000);
-    QCOMPARE(fixture.dialogs.unexpected, 0);
-}
-
 bool isJobRunning(const WindowFixture &fixture)
 {
     return fixture.window->findChild<WipeEngine *>()->isRunning();
@@ -107,7 +97,7 @@ void TestWipeFlows::aDiskIsErasedAndItsReportKept()
     const QString path = image();
     WindowFixture fixture({path});
     chooseDisk(fixture);
-    runJob(fixture);
+    fixture.runJob();
     QCOMPARE(contentOfTestFile(path), QByteArray(4 << 20, '\0'));
     const QList<WipeReport> reports = fixture.reports();
     QCOMPARE(reports.size(), 1);
@@ -125,7 +115,7 @@ void TestWipeFlows::filesAreErased()
     QVERIFY(writeTestFile(one, "one"));
     WindowFixture fixture;
     chooseFiles(fixture, {one});
-    runJob(fixture);
+    fixture.runJob();
     QVERIFY(!QFile::exists(one));
     QCOMPARE(fixture.reports().size(), 1);
     QCOMPARE(fixture.reports().constFirst().fileCount, 1);
@@ -223,7 +213,7 @@ void TestWipeFlows::aFailedJobIsStoredAndNotExported()
     chooseDisk(fixture);
     // The drive is gone when the job begins.
     QVERIFY(QFile::remove(path));
-    runJob(fixture, u"Close"_s);
+    fixture.runJob(u"Close"_s);
     QCOMPARE(fixture.reports().size(), 1);
     QCOMPARE(fixture.reports().constFirst().status, WipeStatus::Failed);
     QVERIFY(QDir(exports.path()).isEmpty());
@@ -238,7 +228,7 @@ void TestWipeFlows::withoutReportsNothingIsStoredOrExported()
     fixture.settings.set(usersettings::AutoExport, true);
     fixture.settings.set(usersettings::ExportPath, exports.path());
     chooseDisk(fixture);
-    runJob(fixture);
+    fixture.runJob();
     QCOMPARE(fixture.reports().size(), 0);
     QVERIFY(QDir(exports.path()).isEmpty());
 }
@@ -251,7 +241,7 @@ void TestWipeFlows::theCertificateIsExportedWhenWanted()
     fixture.settings.set(usersettings::AutoExport, true);
     fixture.settings.set(usersettings::ExportPath, exports.path());
     chooseDisk(fixture);
-    runJob(fixture);
+    fixture.runJob();
     QCOMPARE(fixture.reports().size(), 1);
     const QString pdf = fixture.reports().constFirst().certificateId + u".pdf"_s;
     QCOMPARE(QDir(exports.path()).entryList(QDir::Files), QStringList{pdf});
@@ -266,7 +256,7 @@ void TestWipeFlows::aMissingExportFolderIsSkipped()
     fixture.settings.set(usersettings::AutoExport, true);
     fixture.settings.set(usersettings::ExportPath, m_folder.filePath(u"gone"_s));
     chooseDisk(fixture);
-    runJob(fixture);
+    fixture.runJob();
     QCOMPARE(fixture.reports().size(), 1);
     QVERIFY(!QFile::exists(m_folder.filePath(u"gone"_s)));
 }
@@ -293,7 +283,7 @@ void TestWipeFlows::theCertificateOpensFromTheHistory()
     const QString path = image();
     WindowFixture fixture({path});
     chooseDisk(fixture);
-    runJob(fixture);
+    fixture.runJob();
     fixture.window->onNavigateToPage(MainWindow::History);
     auto *view = fixture.page()->findChild<QPushButton *>(u"tableViewBtn"_s);
     QVERIFY(view);
@@ -312,7 +302,7 @@ void TestWipeFlows::aDatabaseThatDoesNotTakeTheReportIsTold()
     WindowFixture fixture({path});
     chooseDisk(fixture);
     ReportDatabase::instance().close();
-    runJob(fixture);
+    fixture.runJob();
     QCOMPARE(fixture.prompts.boxes.size(), 1);
     QCOMPARE(fixture.prompts.boxes.constFirst().icon, QMessageBox::Warning);
 }
@@ -325,7 +315,7 @@ void TestWipeFlows::comingBackDoesNotDoubleTheFiles()
     chooseFiles(fixture, {one});
     QVERIFY(fixture.click(u"← 返回"_s));
     QVERIFY(fixture.click(u"Next →"_s));
-    runJob(fixture);
+    fixture.runJob();
     QCOMPARE(fixture.reports().constFirst().fileCount, 1);
 }
 

@@ -15,6 +15,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QScreen>
 #include <QStackedWidget>
 #include <QStandardPaths>
 #include <QTemporaryDir>
@@ -22,13 +23,17 @@
 
 #include <memory>
 
-// The real window on image drives only, with a database, settings and answers of the test's own.
+// The real window on drives of the test's own, with a database, settings and answers of the test's own.
 class WindowFixture
 {
 public:
-    // Drives are image files that lie in folder() before this is made.
+    // The drives are image files that are there already.
     explicit WindowFixture(const QStringList &images = {})
-        : m_platform(platform::createPlatform({images, true}))
+        : WindowFixture(platform::createPlatform({images, true}))
+    {}
+    // Other drives; the test sees to it that they are its own.
+    explicit WindowFixture(std::unique_ptr<platform::Platform> platform)
+        : m_platform(std::move(platform))
         , m_scope(*m_platform)
     {
         addUiResources();
@@ -89,6 +94,31 @@ public:
     QList<WipeReport> reports() const
     {
         return ReportDatabase::instance().getReports(100, 0);
+    }
+
+    // What the screen shows, for people to look at, into the folder that QUORVEX_TEST_PICTURES names.
+    void photograph(const QString &name) const
+    {
+        const QString folder = qEnvironmentVariable("QUORVEX_TEST_PICTURES");
+        if (folder.isEmpty())
+            return;
+        QVERIFY(QTest::qWaitForWindowExposed(window.get()));
+        QVERIFY(QDir().mkpath(folder));
+        QVERIFY(window->screen()->grabWindow().save(folder + u'/' + name + QStringLiteral(".png")));
+    }
+
+    // From the chosen job on: confirms it, and presses that button of the completion dialog.
+    void runJob(const QString &button = QStringLiteral("Done"))
+    {
+        const auto answer = [this, press = pressButton(button)](QDialog &dialog) {
+            photograph(QString::fromLatin1(QTest::currentTestFunction()));
+            press(dialog);
+        };
+        dialogs.answers = {typeErase, answer};
+        QVERIFY(click(QStringLiteral("Start")));
+        QTRY_VERIFY_WITH_TIMEOUT(dialogs.answers.isEmpty() && window->currentPage() == MainWindow::Home,
+                                 60000);
+        QCOMPARE(dialogs.unexpected, 0);
     }
 
     // Answers for the program's own dialogs.

@@ -1,0 +1,115 @@
+#include "ui/mainwindow/windowfixture.h"
+
+#include "support/fakedevices.h"
+#include "support/loopmount.h"
+#include "support/onlythisdrive.h"
+#include "ui/home/featurecard.h"
+
+#include <QTreeWidget>
+
+using namespace Qt::StringLiterals;
+
+// Free space of a mounted file system, from the card on the home page to the stored report and its PDF.
+class TestFreeSpaceFlow : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void freeSpaceIsErasedAndFilesStay();
+    void aVolumeThatIsGoneFailsTheJob();
+};
+
+namespace {
+
+// The machine, of which the window sees one loop device, and which has no system disk.
+class Machine : public platform::Platform
+{
+public:
+    explicit Machine(const LoopMount &volume)
+        : m_machine(platform::createPlatform({}))
+        , m_devices(m_machine->devices(), volume)
+    {}
+    platform::Files &files() override { return m_machine->files(); }
+    platform::Folders &folders() override { return m_machine->folders(); }
+    platform::Devices &devices() override { return m_devices; }
+    platform::Session &session() override { return m_session; }
+
+private:
+    std::unique_ptr<platform::Platform> m_machine;
+    OnlyThisDrive m_devices;
+    FakeSession m_session;
+};
+
+// As a user does it; the volume is the only one below the only drive.
+void chooseVolume(const WindowFixture &fixture)
+{
+    const QList<FeatureCard *> cards = fixture.page()->findChildren<FeatureCard *>();
+    for (FeatureCard *card : cards) {
+        if (card->accessibleName() == u"Free Space Wipe")
+            QTest::mouseClick(card, Qt::LeftButton);
+    }
+    QCOMPARE(fixture.window->currentPage(), int(MainWindow::DiskSelect));
+    auto *const tree = fixture.page()->findChild<QTreeWidget *>(u"diskTree"_s);
+    QTRY_COMPARE(tree->topLevelItemCount(), 1);
+    QCOMPARE(tree->topLevelItem(0)->childCount(), 1);
+    tree->setCurrentItem(tree->topLevelItem(0)->child(0));
+    QVERIFY(fixture.click(u"Next →"_s));
+    QCOMPARE(fixture.window->currentPage(), int(MainWindow::MethodSelect));
+}
+
+constexpr qint64 Size = qint64(192) << 20;
+
+} // namespace
+
+void TestFreeSpaceFlow::initTestCase()
+{
+    if (const QString reason = LoopMount::unavailableReason(LoopMount::Ext4); !reason.isEmpty())
+        QSKIP(qPrintable(reason));
+}
+
+void TestFreeSpaceFlow::freeSpaceIsErasedAndFilesStay()
+{
+    const QTemporaryDir folder;
+    const QTemporaryDir exports;
+    const LoopMount volume(folder.path(), {.fileSystem = LoopMount::Ext4, .sizeBytes = Size});
+    QVERIFY2(volume.isReady(), qPrintable(volume.error()));
+    const QString kept = volume.mountPoint() + u"/letters/kept.txt"_s;
+    QVERIFY(writeTestFile(kept, "stays"));
+    const QStringList before = QDir(volume.mountPoint()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot);
+
+    WindowFixture fixture(std::make_unique<Machine>(volume));
+    fixture.settings.set(usersettings::AutoExport, true);
+    fixture.settings.set(usersettings::ExportPath, exports.path());
+    chooseVolume(fixture);
+    fixture.runJob();
+
+    QCOMPARE(fixture.reports().size(), 1);
+    const WipeReport report = fixture.reports().constFirst();
+    QCOMPARE(report.operationType, FreeSpaceWipe);
+    QCOMPARE(report.status, WipeStatus::Completed);
+    QCOMPARE(report.disk.sizeBytes, quint64(Size));
+    QVERIFY2(report.bytesWritten > quint64(Size) / 4, qPrintable(QString::number(report.bytesWritten)));
+    QCOMPARE(contentOfTestFile(kept), QByteArray("stays"));
+    QCOMPARE(QDir(volume.mountPoint()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), before);
+    const QString pdf = exports.filePath(report.certificateId + u".pdf"_s);
+    QVERIFY(contentOfTestFile(pdf).startsWith("%PDF-"));
+}
+
+void TestFreeSpaceFlow::aVolumeThatIsGoneFailsTheJob()
+{
+    const QTemporaryDir folder;
+    LoopMount volume(folder.path(), {.fileSystem = LoopMount::Ext4, .sizeBytes = Size});
+    QVERIFY2(volume.isReady(), qPrintable(volume.error()));
+    WindowFixture fixture(std::make_unique<Machine>(volume));
+    chooseVolume(fixture);
+    QVERIFY2(volume.unmount(), qPrintable(volume.error()));
+    fixture.runJob(u"Close"_s);
+    QCOMPARE(fixture.reports().size(), 1);
+    QCOMPARE(fixture.reports().constFirst().status, WipeStatus::Failed);
+    // Nothing was written where the volume had been.
+    QVERIFY(QDir(volume.mountPoint()).isEmpty());
+}
+
+QTEST_MAIN(TestFreeSpaceFlow)
+#include "tst_freespaceflow.moc"
