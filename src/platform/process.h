@@ -34,8 +34,8 @@ std::optional<QString> readLine();
 // console, else WriteFile. Linux: write.
 Status writeText(StandardStream stream, const QByteArray &text);
 
-// From now on a write to a pipe whose reader has gone away fails, instead of ending the process: for a program
-// with windows, which does not live for its output. Windows: is so anyway. Linux: SIGPIPE.
+// From now on a write to a pipe whose reader has gone away fails, instead of ending the process: for a
+// program with windows, which does not live for its output. Windows: is so anyway. Linux: SIGPIPE.
 void outliveReaders();
 
 // The arguments of main(), the program's name first, in the form that Files takes for paths: nothing in them

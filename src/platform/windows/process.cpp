@@ -195,7 +195,8 @@ Status writeText(StandardStream stream, const QByteArray &text)
     return {};
 }
 
-void outliveReaders() {}
+void outliveReaders()
+{}
 
 QStringList decodedArguments(int, char *const *)
 {
