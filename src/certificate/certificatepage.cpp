@@ -94,7 +94,8 @@ void CertificatePage::paintLogo()
 
 void CertificatePage::paintTitles()
 {
-    write(fullWidth(10), centred, CertificateRenderer::tr("数据擦除证书"),
+    // Descenders of a 22 point letter reach below the box.
+    write(fullWidth(10), centred | Qt::TextDontClip, CertificateRenderer::tr("数据擦除证书"),
           certificatefonts::text(22, QFont::Bold), colour(CertificateColour::Text));
     moveDown(12);
     write(fullWidth(6), centred, u"Data Wipe Certificate"_s, certificatefonts::text(11),

@@ -27,6 +27,7 @@ constexpr auto red = "#ef4444";
 enum Place {
     Disc,      // 30 wide and high, in the middle
     Centred,   // from margin to margin
+    Headline,  // the same, with letters that may reach beyond
     Heading,   // the same, 7 high, text at the left
     Label,     // 35 wide, 6 high
     Value,     // at 35 + 5, 500 pixels wide, 6 high
@@ -76,7 +77,7 @@ QList<Expected> highlighted(int down, const QString &label, int size, bool bold,
 QList<Expected> top(const QString &id, const QString &now)
 {
     return {{{}, Disc, u"QV"_s, 20, true, u"#ffffff"_s, 30},
-            title({35}, u"数据擦除证书"_s, 22, true, dark, 10),
+            {{35}, Headline, u"数据擦除证书"_s, 22, true, QLatin1String(dark), 10},
             title({12}, u"Data Wipe Certificate"_s, 11, false, grey, 6),
             title({10, 5}, u"证书编号: "_s + id + u"    生成时间: "_s + now, 9, false, grey, 8),
             {{12}, Rule, {}, 0, false, u"#e2e8f0"_s, 0}};
@@ -261,6 +262,8 @@ private:
         case Centred:
         case Footer:
             return Qt::AlignCenter;
+        case Headline:
+            return Qt::AlignCenter | Qt::TextDontClip;
         case InBox:
             return Qt::AlignLeft | Qt::TextWordWrap;
         default:

@@ -3,6 +3,7 @@
 
 #include "support/scriptedprompts.h"
 #include "ui/files/fileselectpage.h"
+#include "ui/mainwindow/mainwindow.h"
 
 #include <QDir>
 #include <QFile>
@@ -45,10 +46,12 @@ void paintLoading(Gallery &gallery)
 {
     auto *page = new FileSelectPage;
     PageFrame frame(page);
-    page->setHeader(u"Recycle Bin Wipe"_s, u"Scanning deleted files in Recycle Bin..."_s);
-    page->showLoading(u"Scanning Recycle Bin..."_s);
+    page->setHeader(MainWindow::tr("Recycle Bin Wipe"),
+                    MainWindow::tr("Scanning deleted files in Recycle Bin..."));
+    page->showLoading(MainWindow::tr("Scanning Recycle Bin..."));
     gallery.picture(frame, u"files-scan-starts"_s);
-    page->updateLoadingProgress(2, 5, u"Scanning Recycle Bin on drive D: (2/5)..."_s);
+    page->updateLoadingProgress(
+        2, 5, MainWindow::tr("Scanning Recycle Bin on drive %1 (%2/%3)...").arg(u"D:"_s).arg(2).arg(5));
     gallery.picture(frame, u"files-scan"_s);
 }
 
