@@ -25,7 +25,7 @@ export LC_ALL=C.UTF-8
     # The cross compilers; tcl puts SQLite's one source file together. The Qt tools that run here are those of
     # packages_build.
     packages_windows=(g++-mingw-w64-x86-64-posix tcl make qt6-base-dev-tools qt6-tools-dev qt6-tools-dev-tools)
-    packages_wine=(wine wine64 xvfb xauth)
+    packages_wine=(wine wine64 xvfb xauth fonts-noto-cjk fonts-dejavu-core)
     # One hand for all eleven languages, the pictures on buttons, and the letters of the seal on a certificate.
     packages_fonts=(fonts-noto-cjk fonts-noto-color-emoji fonts-dejavu-core)
 }
@@ -129,10 +129,7 @@ run_tests() {
     local preset=$1
     shift
     cd "$root"
-    # One at a time under Wine, whose programs share a console and its signals.
-    local at_once=1
-    [[ $preset == windows-* ]] || at_once=$(jobs_count)
-    ctest --preset "$preset" --parallel "$at_once" "$@" 2>&1 | tee "build/$preset/ctest.log"
+    ctest --preset "$preset" --parallel "$(jobs_count)" "$@" 2>&1 | tee "build/$preset/ctest.log"
     skipped_tests "$preset"
 }
 

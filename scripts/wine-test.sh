@@ -11,11 +11,17 @@ source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
 # shellcheck source=wineprefix.sh
 source "$(dirname "${BASH_SOURCE[0]}")/wineprefix.sh"
 
+# What the desktop program looked like stays in build/windows-cross/pictures.
 tests_under_wine() {
     trap end_wine EXIT
     provide_wine_prefix
+    export QUORVEX_TEST_PICTURES=$root/build/windows-cross/pictures
     # shellcheck disable=SC2016  # for the inner shell
-    xvfb-run --auto-servernum bash -c 'source "$0/scripts/lib.sh"; run_tests windows-cross "$@"' "$root" "$@"
+    xvfb-run --auto-servernum bash -c '
+        source "$0/scripts/lib.sh"
+        source "$0/scripts/wineprefix.sh"
+        start_wine
+        run_tests windows-cross "$@"' "$root" "$@"
 }
 
 step "packages" install_packages "${packages_build[@]}" "${packages_windows[@]}" "${packages_wine[@]}"

@@ -12,8 +12,12 @@ folder=$root/build/windows-cross/volumes
 size=$((24 * 1024 * 1024))
 
 release() {
-    if [[ -e $folder/device ]]; then
-        losetup --detach "$(cat "$folder/device")"
+    local device
+    # Also of a run that was cut short, but no device that has been given another file since.
+    if [[ -e $folder/f.img ]]; then
+        for device in $(losetup --noheadings --output NAME --associated "$folder/f.img"); do
+            losetup --detach "$device"
+        done
     fi
     rm -f "$WINEPREFIX"/dosdevices/{e,f}{:,::}
     rm -rf "$folder"
