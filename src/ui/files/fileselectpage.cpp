@@ -2,19 +2,17 @@
 
 #include "model/formatsize.h"
 #include "prompts/prompts.h"
+#include "ui/files/dropzone.h"
 #include "ui/files/filelistwidget.h"
 #include "ui/style/pagestyle.h"
 
 #include <QBoxLayout>
 #include <QDropEvent>
-#include <QFrame>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QMimeData>
-#include <QProgressBar>
 #include <QPushButton>
 #include <QStackedWidget>
-#include <QStyle>
 #include <QUrl>
 
 #include <algorithm>
@@ -76,11 +74,7 @@ FileSelectPage::FileSelectPage(QWidget *parent)
     , m_remove(createToolButton(tr("Remove"), u"removeBtn"_s, removeStyle()))
     , m_clearAll(createToolButton(tr("Clear All"), u"clearAllBtn"_s, removeStyle()))
     , m_stack(new QStackedWidget)
-    , m_dropZone(new QFrame)
-    , m_plus(new QPushButton(u"+"_s))
-    , m_hint(new QLabel(tr("Click to add files or drag files here")))
-    , m_loading(new QLabel)
-    , m_progress(new QProgressBar)
+    , m_dropZone(new DropZone(tr("Click to add files or drag files here"), tr("📄 Add Files")))
     , m_list(new FileListWidget)
     , m_stats(new QLabel)
     , m_back(new QPushButton(tr("← Back")))
@@ -89,7 +83,6 @@ FileSelectPage::FileSelectPage(QWidget *parent)
     pagestyle::asTitle(*m_title);
     pagestyle::asSubtitle(*m_subtitle, u"font-size: 14px; color: #64748b;"_s);
     createToolRow();
-    createDropZone();
     m_list->setAccessibleName(tr("Files and folders to shred"));
     m_stats->setObjectName(u"fileStats"_s);
     m_stats->setStyleSheet(u"font-size: 13px; color: #64748b;"_s);
@@ -99,10 +92,10 @@ FileSelectPage::FileSelectPage(QWidget *parent)
     updateStats();
     onSelectionChanged();
 
-    for (QWidget *target : {m_dropZone, static_cast<QWidget *>(m_list), m_list->viewport()})
+    for (QWidget *target : std::initializer_list<QWidget *>{m_dropZone, m_list, m_list->viewport()})
         target->installEventFilter(this);
     connect(m_addFiles, &QPushButton::clicked, this, &FileSelectPage::onAddFilesClicked);
-    connect(m_plus, &QPushButton::clicked, this, &FileSelectPage::onAddFilesClicked);
+    connect(m_dropZone, &DropZone::clicked, this, &FileSelectPage::onAddFilesClicked);
     connect(m_addFolder, &QPushButton::clicked, this, &FileSelectPage::onAddFolderClicked);
     connect(m_remove, &QPushButton::clicked, this, &FileSelectPage::onRemoveSelectedClicked);
     connect(m_clearAll, &QPushButton::clicked, this, &FileSelectPage::onClearAllClicked);
@@ -121,50 +114,6 @@ void FileSelectPage::createToolRow()
     layout->addStretch();
     layout->addWidget(m_remove);
     layout->addWidget(m_clearAll);
-}
-
-void FileSelectPage::createDropZone()
-{
-    m_dropZone->setObjectName(u"dropZone"_s);
-    m_dropZone->setAcceptDrops(true);
-    m_dropZone->setStyleSheet(
-        u"#dropZone { background-color: white; border: 2px dashed #cbd5e1; border-radius: 12px; }"
-        "#dropZone[dragOver=\"true\"] { border-color: #3b82f6; background-color: #eff6ff; }"_s);
-    m_plus->setObjectName(u"plusBtn"_s);
-    m_plus->setFixedSize(70, 70);
-    m_plus->setCursor(Qt::PointingHandCursor);
-    m_plus->setAccessibleName(tr("📄 Add Files"));
-    m_plus->setStyleSheet(u"QPushButton { background-color: #3b82f6; border: none; border-radius: 14px;"
-                          " color: white; font-size: 32px; font-weight: bold; padding: 0; }"
-                          "QPushButton:hover { background-color: #2563eb; }"
-                          "QPushButton:pressed { background-color: #1d4ed8; }"
-                          "QPushButton:focus { border: 2px solid #1e3a8a; outline: none; }"_s);
-    m_hint->setObjectName(u"dropHint"_s);
-    m_hint->setStyleSheet(u"font-size: 14px; color: #64748b;"_s);
-    m_loading->setObjectName(u"loadingLabel"_s);
-    m_loading->setStyleSheet(u"font-size: 15px; color: #3b82f6;"_s);
-    m_loading->setTextFormat(Qt::PlainText);
-    for (QLabel *label : {m_hint, m_loading}) {
-        label->setAlignment(Qt::AlignCenter);
-        label->setWordWrap(true);
-    }
-    m_progress->setObjectName(u"loadingProgress"_s);
-    m_progress->setFixedSize(300, 6);
-    m_progress->setTextVisible(false);
-    m_progress->setRange(0, 0);
-    m_progress->setStyleSheet(u"QProgressBar { background-color: #e5e7eb; border: none; border-radius: 3px; }"
-                              "QProgressBar::chunk { background-color: #3b82f6; border-radius: 3px; }"_s);
-    m_loading->hide();
-    m_progress->hide();
-
-    auto *layout = new QVBoxLayout(m_dropZone);
-    layout->setSpacing(14);
-    layout->addStretch();
-    layout->addWidget(m_plus, 0, Qt::AlignHCenter);
-    layout->addWidget(m_hint);
-    layout->addWidget(m_loading);
-    layout->addWidget(m_progress, 0, Qt::AlignHCenter);
-    layout->addStretch();
 }
 
 void FileSelectPage::createLayout()
@@ -227,12 +176,7 @@ void FileSelectPage::showLoading(const QString &text)
 {
     m_isLoading = true;
     m_stack->setCurrentIndex(DropZoneView);
-    m_plus->hide();
-    m_hint->hide();
-    m_loading->setText(text);
-    m_loading->show();
-    m_progress->setRange(0, 0);
-    m_progress->show();
+    m_dropZone->showLoading(text);
     m_toolRow->hide();
     m_next->setEnabled(false);
     m_stats->setText(text);
@@ -240,19 +184,14 @@ void FileSelectPage::showLoading(const QString &text)
 
 void FileSelectPage::updateLoadingProgress(int current, int total, const QString &text)
 {
-    m_progress->setRange(0, total);
-    m_progress->setValue(current);
-    m_loading->setText(text);
+    m_dropZone->updateLoadingProgress(current, total, text);
     m_stats->setText(text);
 }
 
 void FileSelectPage::hideLoading()
 {
     m_isLoading = false;
-    m_plus->show();
-    m_hint->show();
-    m_loading->hide();
-    m_progress->hide();
+    m_dropZone->hideLoading();
     m_toolRow->show();
 }
 
@@ -336,7 +275,7 @@ bool FileSelectPage::eventFilter(QObject *watched, QEvent *event)
             return true;
         break;
     case QEvent::DragLeave:
-        setDragOver(false);
+        m_dropZone->setDragOver(false);
         break;
     default:
         break;
@@ -351,7 +290,7 @@ bool FileSelectPage::handleDrag(QDropEvent &event)
         return true;
     }
     if (event.type() == QEvent::Drop)
-        setDragOver(false);
+        m_dropZone->setDragOver(false);
     if (!event.mimeData()->hasUrls())
         return false;
     if (event.type() == QEvent::Drop) {
@@ -360,7 +299,7 @@ bool FileSelectPage::handleDrag(QDropEvent &event)
     }
     event.acceptProposedAction();
     if (event.type() == QEvent::DragEnter)
-        setDragOver(true);
+        m_dropZone->setDragOver(true);
     return true;
 }
 
@@ -377,11 +316,4 @@ void FileSelectPage::drop(QDropEvent &event)
             paths.append(path);
     }
     addPaths(paths);
-}
-
-void FileSelectPage::setDragOver(bool isOver)
-{
-    m_dropZone->setProperty("dragOver", isOver);
-    m_dropZone->style()->unpolish(m_dropZone);
-    m_dropZone->style()->polish(m_dropZone);
 }

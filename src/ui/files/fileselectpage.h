@@ -7,13 +7,12 @@
 #include <QStringList>
 #include <QWidget>
 
-QT_FORWARD_DECLARE_CLASS(QBoxLayout)
 QT_FORWARD_DECLARE_CLASS(QDropEvent)
 QT_FORWARD_DECLARE_CLASS(QLabel)
 QT_FORWARD_DECLARE_CLASS(QListWidget)
-QT_FORWARD_DECLARE_CLASS(QProgressBar)
 QT_FORWARD_DECLARE_CLASS(QPushButton)
 QT_FORWARD_DECLARE_CLASS(QStackedWidget)
+class DropZone;
 class FileListWidget;
 
 /// Collects the files and folders to shred. The sizes of folders are summed up while the user waits. The
@@ -66,12 +65,10 @@ public slots:
 
 private:
     void createToolRow();
-    void createDropZone();
     void createLayout();
     void addPaths(const QStringList &paths);
     bool handleDrag(QDropEvent &event);
     void drop(QDropEvent &event);
-    void setDragOver(bool isOver);
 
     QList<FileEntry> m_entries;
     QSet<QString> m_paths; // of m_entries
@@ -85,11 +82,7 @@ private:
     QPushButton *m_remove;
     QPushButton *m_clearAll;
     QStackedWidget *m_stack;
-    QWidget *m_dropZone;
-    QPushButton *m_plus;
-    QLabel *m_hint;
-    QLabel *m_loading;
-    QProgressBar *m_progress;
+    DropZone *m_dropZone;
     FileListWidget *m_list;
     QLabel *m_stats;
     QPushButton *m_back;
