@@ -1703,7 +1703,7 @@ An erasure certificate has been generated.</translation>
     </message>
     <message>
         <source>擦除完成，但有 %1 个文件失败。数据可能不安全！</source>
-        <translation>Erasure complete, but %1 file(s) failed. The data may not be secure!</translation>
+        <translation>Erasure complete, but not for all files. Failed: %1. The data may not be secure!</translation>
     </message>
     <message>
         <source>无法读取文件夹: %1，错误码: %2</source>
@@ -1715,11 +1715,11 @@ An erasure certificate has been generated.</translation>
     </message>
     <message>
         <source>文件还有 %1 个其他硬链接: %2</source>
-        <translation>File has %1 other hard link(s): %2</translation>
+        <translation>Other hard links to the file (%1): %2</translation>
     </message>
     <message>
         <source>准备擦除 %1 个文件，单遍总大小 %2</source>
-        <translation>Preparing to erase %1 file(s), %2 per overwrite pass</translation>
+        <translation>Files to erase: %1, %2 per overwrite pass</translation>
     </message>
     <message>
         <source>文件系统 %1 不在原位置写入，旧数据可能仍留在介质上</source>
@@ -2009,7 +2009,7 @@ An erasure certificate has been generated.</translation>
     </message>
     <message>
         <source>%1 个文件</source>
-        <translation>%1 file(s)</translation>
+        <translation>%1 in total</translation>
     </message>
     <message>
         <source>导出证书</source>
@@ -2596,7 +2596,7 @@ The application will restart now.</translation>
     <name>WipeHistoryModel</name>
     <message>
         <source>%1 个文件</source>
-        <translation>%1 file(s)</translation>
+        <translation>Files: %1</translation>
     </message>
     <message>
         <source>证书ID</source>

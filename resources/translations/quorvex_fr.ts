@@ -298,7 +298,7 @@
     </message>
     <message>
         <source> 个位置</source>
-        <translation> position(s)</translation>
+        <translation> positions</translation>
     </message>
     <message>
         <source>数据哈希</source>
@@ -1703,7 +1703,7 @@ Un certificat d&apos;effacement a été généré.</translation>
     </message>
     <message>
         <source>擦除完成，但有 %1 个文件失败。数据可能不安全！</source>
-        <translation>Effacement terminé, mais en échec pour %1 fichier(s). Les données ne sont peut-être pas en sécurité&#xa0;!</translation>
+        <translation>Effacement terminé, mais fichiers en échec&#xa0;: %1. Les données ne sont peut-être pas en sécurité&#xa0;!</translation>
     </message>
     <message>
         <source>无法读取文件夹: %1，错误码: %2</source>
@@ -1715,7 +1715,7 @@ Un certificat d&apos;effacement a été généré.</translation>
     </message>
     <message>
         <source>文件还有 %1 个其他硬链接: %2</source>
-        <translation>Le fichier a encore %1 autre(s) lien(s) physique(s)&#xa0;: %2</translation>
+        <translation>Autres liens physiques vers le fichier (%1)&#xa0;: %2</translation>
     </message>
     <message>
         <source>准备擦除 %1 个文件，单遍总大小 %2</source>
@@ -2009,7 +2009,7 @@ Un certificat d&apos;effacement a été généré.</translation>
     </message>
     <message>
         <source>%1 个文件</source>
-        <translation>%1 fichier(s)</translation>
+        <translation>%1 au total</translation>
     </message>
     <message>
         <source>导出证书</source>
@@ -2596,7 +2596,7 @@ L&apos;application va maintenant redémarrer.</translation>
     <name>WipeHistoryModel</name>
     <message>
         <source>%1 个文件</source>
-        <translation>%1 fichier(s)</translation>
+        <translation>Fichiers&#xa0;: %1</translation>
     </message>
     <message>
         <source>证书ID</source>
