@@ -1199,6 +1199,22 @@
         <source>%1 is a folder</source>
         <translation>%1 ist ein Ordner</translation>
     </message>
+    <message>
+        <source>the program&apos;s log in %1 lies in what is to be erased; --data-dir takes another folder</source>
+        <translation>das Protokoll des Programms in %1 liegt in dem, was gelöscht werden soll; --data-dir nimmt einen anderen Ordner</translation>
+    </message>
+    <message>
+        <source>PARTLY DONE</source>
+        <translation>TEILWEISE FERTIG</translation>
+    </message>
+    <message>
+        <source>only the mounted volumes were erased; unmount them to erase the whole drive</source>
+        <translation>nur die eingehängten Volumes wurden gelöscht; hängen Sie sie aus, um das ganze Laufwerk zu löschen</translation>
+    </message>
+    <message>
+        <source>%1 is empty, there is nothing to check</source>
+        <translation>%1 ist leer, es gibt nichts zu prüfen</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>
@@ -1797,10 +1813,6 @@ Ein Löschzertifikat wurde erstellt.</translation>
         <translation>Fülldatei konnte nicht angelegt werden: %1</translation>
     </message>
     <message>
-        <source>错误码: %1</source>
-        <translation>Fehlercode: %1</translation>
-    </message>
-    <message>
         <source>写入错误，位置: %1，错误码: %2</source>
         <translation>Schreibfehler, Position: %1, Fehlercode: %2</translation>
     </message>
@@ -1923,6 +1935,14 @@ Ein Löschzertifikat wurde erstellt.</translation>
     <message>
         <source>文件系统残留清理不完整，错误码: %1</source>
         <translation>Rückstände im Dateisystem nicht vollständig bereinigt, Fehlercode: %1</translation>
+    </message>
+    <message>
+        <source>警告: 文件系统不再接受数据，仍有 %1 空闲空间未填满</source>
+        <translation>Warnung: Das Dateisystem nimmt keine Daten mehr an, %1 freier Speicherplatz sind noch nicht gefüllt</translation>
+    </message>
+    <message>
+        <source>错误码: %1</source>
+        <translation>Fehlercode: %1</translation>
     </message>
 </context>
 <context>
@@ -2282,6 +2302,14 @@ Möchten Sie den freien Speicherplatz löschen, damit dies nicht mehr möglich i
     <message>
         <source>Click buttons to add files and folders</source>
         <translation>Fügen Sie über die Schaltflächen Dateien und Ordner hinzu</translation>
+    </message>
+    <message>
+        <source>Report Not Found</source>
+        <translation>Bericht nicht gefunden</translation>
+    </message>
+    <message>
+        <source>There is no report %1 in the database.</source>
+        <translation>Die Datenbank enthält keinen Bericht %1.</translation>
     </message>
 </context>
 <context>

@@ -1199,6 +1199,22 @@
         <source>%1 is a folder</source>
         <translation>%1 is a folder</translation>
     </message>
+    <message>
+        <source>the program&apos;s log in %1 lies in what is to be erased; --data-dir takes another folder</source>
+        <translation>the program&apos;s log in %1 lies in what is to be erased; --data-dir takes another folder</translation>
+    </message>
+    <message>
+        <source>PARTLY DONE</source>
+        <translation>PARTLY DONE</translation>
+    </message>
+    <message>
+        <source>only the mounted volumes were erased; unmount them to erase the whole drive</source>
+        <translation>only the mounted volumes were erased; unmount them to erase the whole drive</translation>
+    </message>
+    <message>
+        <source>%1 is empty, there is nothing to check</source>
+        <translation>%1 is empty, there is nothing to check</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>
@@ -1797,10 +1813,6 @@ An erasure certificate has been generated.</translation>
         <translation>Cannot create fill file: %1</translation>
     </message>
     <message>
-        <source>错误码: %1</source>
-        <translation>error code: %1</translation>
-    </message>
-    <message>
         <source>写入错误，位置: %1，错误码: %2</source>
         <translation>Write error, position: %1, error code: %2</translation>
     </message>
@@ -1923,6 +1935,14 @@ An erasure certificate has been generated.</translation>
     <message>
         <source>文件系统残留清理不完整，错误码: %1</source>
         <translation>Cleanup of file system remnants is incomplete, error code: %1</translation>
+    </message>
+    <message>
+        <source>警告: 文件系统不再接受数据，仍有 %1 空闲空间未填满</source>
+        <translation>Warning: the file system accepts no more data, %1 of free space are still not filled</translation>
+    </message>
+    <message>
+        <source>错误码: %1</source>
+        <translation>error code: %1</translation>
     </message>
 </context>
 <context>
@@ -2282,6 +2302,14 @@ Would you like to wipe free space to ensure they cannot be recovered?</translati
     <message>
         <source>Click buttons to add files and folders</source>
         <translation>Click buttons to add files and folders</translation>
+    </message>
+    <message>
+        <source>Report Not Found</source>
+        <translation>Report Not Found</translation>
+    </message>
+    <message>
+        <source>There is no report %1 in the database.</source>
+        <translation>There is no report %1 in the database.</translation>
     </message>
 </context>
 <context>

@@ -1199,6 +1199,22 @@
         <source>%1 is a folder</source>
         <translation>%1 es una carpeta</translation>
     </message>
+    <message>
+        <source>the program&apos;s log in %1 lies in what is to be erased; --data-dir takes another folder</source>
+        <translation>el registro del programa en %1 está en lo que se va a borrar; --data-dir toma otra carpeta</translation>
+    </message>
+    <message>
+        <source>PARTLY DONE</source>
+        <translation>HECHO EN PARTE</translation>
+    </message>
+    <message>
+        <source>only the mounted volumes were erased; unmount them to erase the whole drive</source>
+        <translation>solo se han borrado los volúmenes montados; desmóntelos para borrar toda la unidad</translation>
+    </message>
+    <message>
+        <source>%1 is empty, there is nothing to check</source>
+        <translation>%1 está vacío, no hay nada que comprobar</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>
@@ -1797,10 +1813,6 @@ Se ha generado un certificado de borrado.</translation>
         <translation>No se puede crear el archivo de relleno: %1</translation>
     </message>
     <message>
-        <source>错误码: %1</source>
-        <translation>código de error: %1</translation>
-    </message>
-    <message>
         <source>写入错误，位置: %1，错误码: %2</source>
         <translation>Error de escritura, posición: %1, código de error: %2</translation>
     </message>
@@ -1923,6 +1935,14 @@ Se ha generado un certificado de borrado.</translation>
     <message>
         <source>文件系统残留清理不完整，错误码: %1</source>
         <translation>Limpieza incompleta de los restos del sistema de archivos, código de error: %1</translation>
+    </message>
+    <message>
+        <source>警告: 文件系统不再接受数据，仍有 %1 空闲空间未填满</source>
+        <translation>Advertencia: el sistema de archivos no acepta más datos, quedan %1 de espacio libre sin llenar</translation>
+    </message>
+    <message>
+        <source>错误码: %1</source>
+        <translation>código de error: %1</translation>
     </message>
 </context>
 <context>
@@ -2282,6 +2302,14 @@ Sin embargo, es posible que los archivos eliminados anteriormente aún se puedan
     <message>
         <source>Click buttons to add files and folders</source>
         <translation>Use los botones para agregar archivos y carpetas</translation>
+    </message>
+    <message>
+        <source>Report Not Found</source>
+        <translation>Informe no encontrado</translation>
+    </message>
+    <message>
+        <source>There is no report %1 in the database.</source>
+        <translation>No hay ningún informe %1 en la base de datos.</translation>
     </message>
 </context>
 <context>

@@ -1199,6 +1199,22 @@
         <source>%1 is a folder</source>
         <translation>%1 est un dossier</translation>
     </message>
+    <message>
+        <source>the program&apos;s log in %1 lies in what is to be erased; --data-dir takes another folder</source>
+        <translation>le journal du programme dans %1 se trouve dans ce qui doit être effacé&#xa0;; --data-dir prend un autre dossier</translation>
+    </message>
+    <message>
+        <source>PARTLY DONE</source>
+        <translation>FAIT EN PARTIE</translation>
+    </message>
+    <message>
+        <source>only the mounted volumes were erased; unmount them to erase the whole drive</source>
+        <translation>seuls les volumes montés ont été effacés&#xa0;; démontez-les pour effacer tout le lecteur</translation>
+    </message>
+    <message>
+        <source>%1 is empty, there is nothing to check</source>
+        <translation>%1 est vide, il n&apos;y a rien à vérifier</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>
@@ -1797,10 +1813,6 @@ Un certificat d&apos;effacement a été généré.</translation>
         <translation>Impossible de créer le fichier de remplissage, %1</translation>
     </message>
     <message>
-        <source>错误码: %1</source>
-        <translation>code d&apos;erreur&#xa0;: %1</translation>
-    </message>
-    <message>
         <source>写入错误，位置: %1，错误码: %2</source>
         <translation>Erreur d&apos;écriture, position&#xa0;: %1, code d&apos;erreur&#xa0;: %2</translation>
     </message>
@@ -1923,6 +1935,14 @@ Un certificat d&apos;effacement a été généré.</translation>
     <message>
         <source>文件系统残留清理不完整，错误码: %1</source>
         <translation>Nettoyage incomplet des résidus du système de fichiers, code d&apos;erreur&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>警告: 文件系统不再接受数据，仍有 %1 空闲空间未填满</source>
+        <translation>Avertissement&#xa0;: le système de fichiers n&apos;accepte plus de données, %1 d&apos;espace libre restent non remplis</translation>
+    </message>
+    <message>
+        <source>错误码: %1</source>
+        <translation>code d&apos;erreur&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -2282,6 +2302,14 @@ Voulez-vous effacer l&apos;espace libre afin qu&apos;ils ne puissent pas être r
     <message>
         <source>Click buttons to add files and folders</source>
         <translation>Cliquez sur les boutons pour ajouter des fichiers et des dossiers</translation>
+    </message>
+    <message>
+        <source>Report Not Found</source>
+        <translation>Rapport introuvable</translation>
+    </message>
+    <message>
+        <source>There is no report %1 in the database.</source>
+        <translation>La base de données ne contient pas de rapport %1.</translation>
     </message>
 </context>
 <context>

@@ -1199,6 +1199,22 @@
         <source>%1 is a folder</source>
         <translation>%1 è una cartella</translation>
     </message>
+    <message>
+        <source>the program&apos;s log in %1 lies in what is to be erased; --data-dir takes another folder</source>
+        <translation>il registro del programma in %1 si trova in ciò che va cancellato; --data-dir usa un&apos;altra cartella</translation>
+    </message>
+    <message>
+        <source>PARTLY DONE</source>
+        <translation>FATTO IN PARTE</translation>
+    </message>
+    <message>
+        <source>only the mounted volumes were erased; unmount them to erase the whole drive</source>
+        <translation>sono stati cancellati solo i volumi montati; smontarli per cancellare l&apos;intera unità</translation>
+    </message>
+    <message>
+        <source>%1 is empty, there is nothing to check</source>
+        <translation>%1 è vuoto, non c&apos;è nulla da controllare</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>
@@ -1797,10 +1813,6 @@ An erasure certificate has been generated.</source>
         <translation>Impossibile creare il file di riempimento, %1</translation>
     </message>
     <message>
-        <source>错误码: %1</source>
-        <translation>codice di errore: %1</translation>
-    </message>
-    <message>
         <source>写入错误，位置: %1，错误码: %2</source>
         <translation>Errore di scrittura, posizione: %1, codice di errore: %2</translation>
     </message>
@@ -1923,6 +1935,14 @@ An erasure certificate has been generated.</source>
     <message>
         <source>文件系统残留清理不完整，错误码: %1</source>
         <translation>Pulizia incompleta dei residui del file system, codice di errore: %1</translation>
+    </message>
+    <message>
+        <source>警告: 文件系统不再接受数据，仍有 %1 空闲空间未填满</source>
+        <translation>Avviso: il file system non accetta più dati, restano %1 di spazio libero non riempiti</translation>
+    </message>
+    <message>
+        <source>错误码: %1</source>
+        <translation>codice di errore: %1</translation>
     </message>
 </context>
 <context>
@@ -2282,6 +2302,14 @@ Cancellare lo spazio libero in modo che non possano essere recuperati?</translat
     <message>
         <source>Click buttons to add files and folders</source>
         <translation>Fare clic sui pulsanti per aggiungere file e cartelle</translation>
+    </message>
+    <message>
+        <source>Report Not Found</source>
+        <translation>Rapporto non trovato</translation>
+    </message>
+    <message>
+        <source>There is no report %1 in the database.</source>
+        <translation>Nel database non è presente il rapporto %1.</translation>
     </message>
 </context>
 <context>

@@ -1199,6 +1199,22 @@
         <source>%1 is a folder</source>
         <translation>%1 はフォルダーです</translation>
     </message>
+    <message>
+        <source>the program&apos;s log in %1 lies in what is to be erased; --data-dir takes another folder</source>
+        <translation>%1 にあるプログラムのログが消去対象に含まれています。--data-dir で別のフォルダーを指定できます</translation>
+    </message>
+    <message>
+        <source>PARTLY DONE</source>
+        <translation>一部完了</translation>
+    </message>
+    <message>
+        <source>only the mounted volumes were erased; unmount them to erase the whole drive</source>
+        <translation>マウントされているボリュームのみが消去されました。ドライブ全体を消去するにはボリュームをアンマウントしてください</translation>
+    </message>
+    <message>
+        <source>%1 is empty, there is nothing to check</source>
+        <translation>%1 は空です。確認するものがありません</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>
@@ -1797,10 +1813,6 @@ An erasure certificate has been generated.</source>
         <translation>充填ファイルを作成できません: %1</translation>
     </message>
     <message>
-        <source>错误码: %1</source>
-        <translation>エラーコード: %1</translation>
-    </message>
-    <message>
         <source>写入错误，位置: %1，错误码: %2</source>
         <translation>書き込みエラー (位置: %1、エラーコード: %2)</translation>
     </message>
@@ -1923,6 +1935,14 @@ An erasure certificate has been generated.</source>
     <message>
         <source>文件系统残留清理不完整，错误码: %1</source>
         <translation>ファイルシステムの残存データを完全には消去できませんでした (エラーコード: %1)</translation>
+    </message>
+    <message>
+        <source>警告: 文件系统不再接受数据，仍有 %1 空闲空间未填满</source>
+        <translation>警告: ファイルシステムがこれ以上データを受け付けません。%1 の空き領域が未充填です</translation>
+    </message>
+    <message>
+        <source>错误码: %1</source>
+        <translation>エラーコード: %1</translation>
     </message>
 </context>
 <context>
@@ -2282,6 +2302,14 @@ Would you like to wipe free space to ensure they cannot be recovered?</source>
     <message>
         <source>Click buttons to add files and folders</source>
         <translation>ボタンをクリックして、ファイルやフォルダーを追加してください</translation>
+    </message>
+    <message>
+        <source>Report Not Found</source>
+        <translation>レポートが見つかりません</translation>
+    </message>
+    <message>
+        <source>There is no report %1 in the database.</source>
+        <translation>データベースにレポート %1 はありません。</translation>
     </message>
 </context>
 <context>

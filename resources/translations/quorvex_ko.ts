@@ -1199,6 +1199,22 @@
         <source>%1 is a folder</source>
         <translation>폴더입니다: %1</translation>
     </message>
+    <message>
+        <source>the program&apos;s log in %1 lies in what is to be erased; --data-dir takes another folder</source>
+        <translation>%1에 있는 프로그램 로그가 삭제 대상에 포함되어 있습니다. --data-dir로 다른 폴더를 지정할 수 있습니다</translation>
+    </message>
+    <message>
+        <source>PARTLY DONE</source>
+        <translation>일부 완료</translation>
+    </message>
+    <message>
+        <source>only the mounted volumes were erased; unmount them to erase the whole drive</source>
+        <translation>마운트된 볼륨만 삭제되었습니다. 드라이브 전체를 삭제하려면 볼륨을 마운트 해제하십시오</translation>
+    </message>
+    <message>
+        <source>%1 is empty, there is nothing to check</source>
+        <translation>%1은(는) 비어 있어 확인할 것이 없습니다</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>
@@ -1797,10 +1813,6 @@ An erasure certificate has been generated.</source>
         <translation>채우기 파일을 만들 수 없습니다: %1</translation>
     </message>
     <message>
-        <source>错误码: %1</source>
-        <translation>오류 코드: %1</translation>
-    </message>
-    <message>
         <source>写入错误，位置: %1，错误码: %2</source>
         <translation>쓰기 오류, 위치: %1, 오류 코드: %2</translation>
     </message>
@@ -1923,6 +1935,14 @@ An erasure certificate has been generated.</source>
     <message>
         <source>文件系统残留清理不完整，错误码: %1</source>
         <translation>파일 시스템의 잔여 데이터가 완전히 정리되지 않았습니다. 오류 코드: %1</translation>
+    </message>
+    <message>
+        <source>警告: 文件系统不再接受数据，仍有 %1 空闲空间未填满</source>
+        <translation>경고: 파일 시스템이 더 이상 데이터를 받지 않습니다. %1의 여유 공간이 채워지지 않았습니다</translation>
+    </message>
+    <message>
+        <source>错误码: %1</source>
+        <translation>오류 코드: %1</translation>
     </message>
 </context>
 <context>
@@ -2282,6 +2302,14 @@ Would you like to wipe free space to ensure they cannot be recovered?</source>
     <message>
         <source>Click buttons to add files and folders</source>
         <translation>버튼을 클릭하여 파일과 폴더를 추가하십시오</translation>
+    </message>
+    <message>
+        <source>Report Not Found</source>
+        <translation>보고서를 찾을 수 없음</translation>
+    </message>
+    <message>
+        <source>There is no report %1 in the database.</source>
+        <translation>데이터베이스에 보고서 %1이(가) 없습니다.</translation>
     </message>
 </context>
 <context>

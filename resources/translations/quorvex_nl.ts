@@ -1199,6 +1199,22 @@
         <source>%1 is a folder</source>
         <translation>%1 is een map</translation>
     </message>
+    <message>
+        <source>the program&apos;s log in %1 lies in what is to be erased; --data-dir takes another folder</source>
+        <translation>het logboek van het programma in %1 ligt in wat wordt gewist; --data-dir neemt een andere map</translation>
+    </message>
+    <message>
+        <source>PARTLY DONE</source>
+        <translation>DEELS KLAAR</translation>
+    </message>
+    <message>
+        <source>only the mounted volumes were erased; unmount them to erase the whole drive</source>
+        <translation>alleen de gekoppelde volumes zijn gewist; ontkoppel ze om het hele station te wissen</translation>
+    </message>
+    <message>
+        <source>%1 is empty, there is nothing to check</source>
+        <translation>%1 is leeg, er valt niets te controleren</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>
@@ -1797,10 +1813,6 @@ Er is een wiscertificaat aangemaakt.</translation>
         <translation>Vulbestand kan niet worden gemaakt: %1</translation>
     </message>
     <message>
-        <source>错误码: %1</source>
-        <translation>Foutcode: %1</translation>
-    </message>
-    <message>
         <source>写入错误，位置: %1，错误码: %2</source>
         <translation>Schrijffout, positie: %1, foutcode: %2</translation>
     </message>
@@ -1923,6 +1935,14 @@ Er is een wiscertificaat aangemaakt.</translation>
     <message>
         <source>文件系统残留清理不完整，错误码: %1</source>
         <translation>Resten in het bestandssysteem niet volledig opgeruimd, foutcode: %1</translation>
+    </message>
+    <message>
+        <source>警告: 文件系统不再接受数据，仍有 %1 空闲空间未填满</source>
+        <translation>Waarschuwing: het bestandssysteem neemt geen gegevens meer aan, %1 vrije ruimte is nog niet gevuld</translation>
+    </message>
+    <message>
+        <source>错误码: %1</source>
+        <translation>Foutcode: %1</translation>
     </message>
 </context>
 <context>
@@ -2282,6 +2302,14 @@ Wilt u de vrije ruimte wissen, zodat ze niet meer kunnen worden hersteld?</trans
     <message>
         <source>Click buttons to add files and folders</source>
         <translation>Klik op de knoppen om bestanden en mappen toe te voegen</translation>
+    </message>
+    <message>
+        <source>Report Not Found</source>
+        <translation>Rapport niet gevonden</translation>
+    </message>
+    <message>
+        <source>There is no report %1 in the database.</source>
+        <translation>Er is geen rapport %1 in de database.</translation>
     </message>
 </context>
 <context>

@@ -1199,6 +1199,22 @@
         <source>%1 is a folder</source>
         <translation>%1 é uma pasta</translation>
     </message>
+    <message>
+        <source>the program&apos;s log in %1 lies in what is to be erased; --data-dir takes another folder</source>
+        <translation>o log do programa em %1 está no que será apagado; --data-dir usa outra pasta</translation>
+    </message>
+    <message>
+        <source>PARTLY DONE</source>
+        <translation>FEITO EM PARTE</translation>
+    </message>
+    <message>
+        <source>only the mounted volumes were erased; unmount them to erase the whole drive</source>
+        <translation>somente os volumes montados foram apagados; desmonte-os para apagar a unidade inteira</translation>
+    </message>
+    <message>
+        <source>%1 is empty, there is nothing to check</source>
+        <translation>%1 está vazio, não há nada a verificar</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>
@@ -1797,10 +1813,6 @@ Um certificado de apagamento foi gerado.</translation>
         <translation>Não é possível criar o arquivo de preenchimento: %1</translation>
     </message>
     <message>
-        <source>错误码: %1</source>
-        <translation>código de erro: %1</translation>
-    </message>
-    <message>
         <source>写入错误，位置: %1，错误码: %2</source>
         <translation>Erro de gravação, posição: %1, código de erro: %2</translation>
     </message>
@@ -1923,6 +1935,14 @@ Um certificado de apagamento foi gerado.</translation>
     <message>
         <source>文件系统残留清理不完整，错误码: %1</source>
         <translation>Limpeza incompleta dos resíduos do sistema de arquivos, código de erro: %1</translation>
+    </message>
+    <message>
+        <source>警告: 文件系统不再接受数据，仍有 %1 空闲空间未填满</source>
+        <translation>Aviso: o sistema de arquivos não aceita mais dados, %1 de espaço livre ainda não foram preenchidos</translation>
+    </message>
+    <message>
+        <source>错误码: %1</source>
+        <translation>código de erro: %1</translation>
     </message>
 </context>
 <context>
@@ -2282,6 +2302,14 @@ Deseja apagar o espaço livre para que eles não possam ser recuperados?</transl
     <message>
         <source>Click buttons to add files and folders</source>
         <translation>Use os botões para adicionar arquivos e pastas</translation>
+    </message>
+    <message>
+        <source>Report Not Found</source>
+        <translation>Relatório não encontrado</translation>
+    </message>
+    <message>
+        <source>There is no report %1 in the database.</source>
+        <translation>Não há nenhum relatório %1 no banco de dados.</translation>
     </message>
 </context>
 <context>

@@ -1199,6 +1199,22 @@
         <source>%1 is a folder</source>
         <translation>%1 是資料夾</translation>
     </message>
+    <message>
+        <source>the program&apos;s log in %1 lies in what is to be erased; --data-dir takes another folder</source>
+        <translation>程式位於 %1 的記錄檔在要抹除的內容之中；--data-dir 可指定其他資料夾</translation>
+    </message>
+    <message>
+        <source>PARTLY DONE</source>
+        <translation>部分完成</translation>
+    </message>
+    <message>
+        <source>only the mounted volumes were erased; unmount them to erase the whole drive</source>
+        <translation>僅抹除了已掛載的磁碟區；請卸載這些磁碟區以抹除整個磁碟機</translation>
+    </message>
+    <message>
+        <source>%1 is empty, there is nothing to check</source>
+        <translation>%1 是空的，沒有可檢查的內容</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>
@@ -1797,10 +1813,6 @@ An erasure certificate has been generated.</source>
         <translation>無法建立填充檔案：%1</translation>
     </message>
     <message>
-        <source>错误码: %1</source>
-        <translation>錯誤碼：%1</translation>
-    </message>
-    <message>
         <source>写入错误，位置: %1，错误码: %2</source>
         <translation>寫入錯誤，位置：%1，錯誤碼：%2</translation>
     </message>
@@ -1923,6 +1935,14 @@ An erasure certificate has been generated.</source>
     <message>
         <source>文件系统残留清理不完整，错误码: %1</source>
         <translation>檔案系統殘留清理不完整，錯誤碼：%1</translation>
+    </message>
+    <message>
+        <source>警告: 文件系统不再接受数据，仍有 %1 空闲空间未填满</source>
+        <translation>警告：檔案系統不再接受資料，仍有 %1 可用空間未填滿</translation>
+    </message>
+    <message>
+        <source>错误码: %1</source>
+        <translation>錯誤碼：%1</translation>
     </message>
 </context>
 <context>
@@ -2282,6 +2302,14 @@ Would you like to wipe free space to ensure they cannot be recovered?</source>
     <message>
         <source>Click buttons to add files and folders</source>
         <translation>按一下按鈕以新增檔案與資料夾</translation>
+    </message>
+    <message>
+        <source>Report Not Found</source>
+        <translation>找不到報告</translation>
+    </message>
+    <message>
+        <source>There is no report %1 in the database.</source>
+        <translation>資料庫中沒有報告 %1。</translation>
     </message>
 </context>
 <context>

@@ -116,12 +116,16 @@ std::optional<Refusal> probeDrive(const DiskInfo &disk)
     return std::nullopt;
 }
 
+QString driveLine(const DiskInfo &disk)
+{
+    return Cli::tr("  drive %1: model %2, serial number %3, %4, %5")
+        .arg(QString::number(disk.diskNumber), orUnknown(disk.model), orUnknown(disk.serialNumber),
+             disk.formattedSize(), displayText(disk.devicePath));
+}
+
 QStringList describeDrive(const DiskInfo &disk)
 {
-    QStringList lines{Cli::tr("  drive %1: model %2, serial number %3, %4, %5")
-                          .arg(QString::number(disk.diskNumber), orUnknown(disk.model),
-                               orUnknown(disk.serialNumber), disk.formattedSize(),
-                               displayText(disk.devicePath))};
+    QStringList lines{driveLine(disk)};
     for (const PartitionInfo &partition : disk.partitions)
         lines.append(u"    "_s + describeVolume(partition));
     if (disk.partitions.isEmpty())

@@ -27,6 +27,7 @@ std::optional<Refusal> probeDrive(const DiskInfo &disk);
 
 // The drive and its volumes, for the user, in lines with cleaned names.
 QStringList describeDrive(const DiskInfo &disk);
+QString driveLine(const DiskInfo &disk); // the first of them
 QString describeVolume(const PartitionInfo &partition);
 
 } // namespace cli

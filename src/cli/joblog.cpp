@@ -2,6 +2,7 @@
 
 #include "cli/jobview.h"
 #include "cli/names.h"
+#include "cli/outputfile.h"
 #include "cli/translate.h"
 #include "model/displaytext.h"
 #include "model/wipetask.h"
@@ -34,12 +35,18 @@ QString endName(JobResult::End end)
 
 } // namespace
 
-std::optional<Refusal> openJobLog(const QString &folder)
+std::optional<Refusal> openJobLog(const QString &folder, const QStringList &doomedPaths)
 {
     const QString usual = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
     const QString used = folder.isEmpty() ? usual : folder;
     const bool exists = QDir().mkpath(used);
     const QString path = used + u"/quorvex.log"_s;
+    if (const auto file = OutputFile::at(path, {}); file && file->liesWithin(doomedPaths)) {
+        return Refusal{Refused, Cli::tr("the program's log in %1 lies in what is to be erased; --data-dir "
+                                        "takes another folder")
+                                    .arg(displayText(used))};
+    }
+    AppLog::setFirstLogFile(path);
     AppLog &log = AppLog::instance();
     log.setEchoToConsole(false);
     log.setLogFile(path);

@@ -3,6 +3,7 @@
 #include "cli/outcome.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 
@@ -13,8 +14,9 @@ namespace cli {
 struct JobResult;
 
 // Points the program's log file into the folder, or into the per-user one when it is empty.
-// SurroundingsFailed when the folder that was asked for cannot be made, or the file in it not written.
-std::optional<Refusal> openJobLog(const QString &folder);
+// SurroundingsFailed when the folder that was asked for cannot be made, or the file in it not written;
+// refused when the file would be destroyed with the absolute paths.
+std::optional<Refusal> openJobLog(const QString &folder, const QStringList &doomedPaths);
 void closeJobLog();
 
 void logJobStart(const WipeTask &task, const QString &target);

@@ -82,7 +82,7 @@ void JsonJobView::problem(const QString &message)
 void JsonJobView::finished(const JobResult &result, const JobRecords::Written &)
 {
     JsonWriter event = beginEvent("finished");
-    event.member(u"success", result.end == JobResult::End::Succeeded)
+    event.member(u"success", result.isComplete())
         .member(u"cancelled", result.end == JobResult::End::Cancelled)
         .member(u"certificateId", result.report.certificateId)
         .key(u"report");

@@ -6,7 +6,6 @@
 
 #include <QCoreApplication>
 #include <QLocale>
-#include <QSysInfo>
 
 namespace {
 
@@ -23,19 +22,12 @@ void printDiagnostics(QtMsgType type, const QMessageLogContext &, const QString 
     }
 }
 
-// Reports take the computer's name from where Windows keeps it.
-void nameComputer()
-{
-    if (qEnvironmentVariableIsEmpty("COMPUTERNAME"))
-        qputenv("COMPUTERNAME", QSysInfo::machineHostName().toUtf8());
-}
-
 } // namespace
 
 int main(int argc, char *argv[])
 {
     qInstallMessageHandler(printDiagnostics);
-    nameComputer();
+    platform::provideComputerName();
     const QStringList arguments = platform::decodedArguments(argc, argv);
     const std::unique_ptr<QCoreApplication> application = cli::makeApplication(argc, argv);
     QCoreApplication::setOrganizationName(u"Veltrano"_s);

@@ -37,8 +37,9 @@ void addTarget(Table &table, const WipeReport &report)
 
 void addVerification(Table &table, const WipeReport &report)
 {
-    table.addRow(
-        {Cli::tr("Verification"), report.verificationPassed ? Cli::tr("passed") : Cli::tr("not passed")});
+    const bool isReadBack = report.verificationSampleSize > 0 || !report.verificationPassed;
+    const QString read = report.verificationPassed ? Cli::tr("passed") : Cli::tr("not passed");
+    table.addRow({Cli::tr("Verification"), isReadBack ? read : Cli::tr("not read back")});
     if (!report.verificationMethod.isEmpty())
         table.addRow({Cli::tr("Read back"), displayText(report.verificationMethod)});
     table.addRow({Cli::tr("Samples"), QString::number(report.verificationSampleSize)});

@@ -26,7 +26,7 @@ QString resultText(const JobResult &result)
 {
     switch (result.end) {
     case JobResult::End::Succeeded:
-        return Cli::tr("DONE");
+        return result.isPartial() ? Cli::tr("PARTLY DONE") : Cli::tr("DONE");
     case JobResult::End::Cancelled:
         return Cli::tr("CANCELLED");
     case JobResult::End::Failed:
@@ -36,12 +36,10 @@ QString resultText(const JobResult &result)
     return Cli::tr("FAILED");
 }
 
-// A drive that holds mounted volumes is overwritten through these alone; what lies between them keeps its
-// bytes, which nobody must take for erased.
 QString coverageText(const JobResult &result)
 {
     const WipeReport &report = result.report;
-    if (result.end != JobResult::End::Succeeded || report.wipedSectors >= report.totalSectors)
+    if (!result.isPartial())
         return {};
     return Cli::tr(", ONLY THE VOLUMES: %1 of %2 sectors erased")
         .arg(report.wipedSectors)

@@ -131,7 +131,7 @@ Outcome<WipeOptions> readWipeOptions(const CommandContext &context, const QStrin
 
     OptionReader reader(context.options, commandWords);
     reader.readMethod(options.method);
-    reader.readNumber(u"samples"_s, 0, std::numeric_limits<int>::max(), options.samples);
+    reader.readNumber(u"samples"_s, 1, std::numeric_limits<int>::max(), options.samples);
     reader.readNumber(u"threads"_s, 1, MostThreads, options.threads);
     reader.readNumber(u"buffer-mb"_s, 1, LargestBufferMB, options.bufferMB);
     reader.readFile(u"report"_s, options.reportFile);

@@ -16,15 +16,25 @@
 #include <QScopeGuard>
 #include <QSet>
 
+#include <algorithm>
+
 namespace cli {
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-QString methodLine(const WipeOptions &options)
+// What fills free space is deleted again and never read back.
+bool isReadBack(const WipePlan &plan, const WipeOptions &options)
 {
-    const QString verification = options.verify ? Cli::tr("read back") : Cli::tr("not read back");
+    return options.verify && std::ranges::any_of(plan.jobs, [](const PlannedJob &job) {
+               return job.task->operationType() != FreeSpaceWipe;
+           });
+}
+
+QString methodLine(const WipePlan &plan, const WipeOptions &options)
+{
+    const QString verification = isReadBack(plan, options) ? Cli::tr("read back") : Cli::tr("not read back");
     return Cli::tr("  with %1, %2, %3")
         .arg(options.method.name, passCountText(options.method.passCount()), verification);
 }
@@ -66,6 +76,7 @@ private:
     std::unique_ptr<JobView> m_view;
     QSet<JobResult::End> m_ends;
     QString m_engineRefusal;
+    bool m_hasPartialJob = false;
     bool m_hasProblem = false;
 };
 
@@ -81,8 +92,12 @@ bool Session::run(const PlannedJob &job)
             m_view->problem(result.lastError);
         return false;
     }
-    const JobRecords::Written written =
-        m_records.write(result.report, result.end == JobResult::End::Succeeded);
+    if (result.isPartial()) {
+        m_hasPartialJob = true;
+        m_view->problem(
+            Cli::tr("only the mounted volumes were erased; unmount them to erase the whole drive"));
+    }
+    const JobRecords::Written written = m_records.write(result.report, result.isComplete());
     const QStringList problems = written.problems + (m_plan.afterwards ? m_plan.afterwards() : QStringList());
     for (const QString &problem : problems)
         m_view->problem(problem);
@@ -97,7 +112,8 @@ Outcome<ExitCode> Session::result() const
         return Refusal{Refused, m_engineRefusal};
     if (m_ends.contains(JobResult::End::Cancelled))
         return Cancelled;
-    if (m_ends.contains(JobResult::End::Failed) || m_ends.contains(JobResult::End::NotStarted))
+    if (m_ends.contains(JobResult::End::Failed) || m_ends.contains(JobResult::End::NotStarted) ||
+        m_hasPartialJob)
         return JobFailed;
     return m_hasProblem ? SurroundingsFailed : Done;
 }
@@ -106,7 +122,7 @@ std::optional<Refusal> ask(const WipePlan &plan, const WipeOptions &options, con
 {
     const ConfirmationOptions how{options.skipQuestion, wantsJson(context.options),
                                   wantsQuiet(context.options)};
-    return confirm(plan.summary + QStringList{methodLine(options)}, how, context.io);
+    return confirm(plan.summary + QStringList{methodLine(plan, options)}, how, context.io);
 }
 
 } // namespace
@@ -118,7 +134,7 @@ Outcome<ExitCode> carryOut(WipePlan &plan, const WipeOptions &options, const Com
         options.applyTo(*job.task);
     if (const auto refusal = checkTasks(plan))
         return *refusal;
-    if (const auto refusal = openJobLog(dataFolder(context.options)))
+    if (const auto refusal = openJobLog(dataFolder(context.options), plan.doomedPaths))
         return *refusal;
     const auto closing = qScopeGuard(closeJobLog);
     const auto records = JobRecords::prepare(options, context, plan.doomedPaths, commandWords);

@@ -29,6 +29,8 @@ using Reader = std::function<platform::Result<qint64>(void *data, qint64 size)>;
 Outcome<ZeroCheck> readThrough(const Reader &read, qint64 length, const QString &shown,
                                const StopRequest &stop)
 {
+    if (length == 0)
+        return Refusal{JobFailed, Cli::tr("%1 is empty, there is nothing to check").arg(shown)};
     ZeroCheck check;
     platform::AlignedBuffer buffer(ChunkSize);
     while (check.bytesRead < length) {

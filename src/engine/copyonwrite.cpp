@@ -40,7 +40,7 @@ QByteArray fileSystemType(QString folder)
 
 bool writesElsewhere(const QByteArray &fileSystemType)
 {
-    static constexpr std::array types{"btrfs", "zfs", "f2fs", "nilfs2", "bcachefs", "overlay"};
+    static constexpr std::array types{"btrfs", "zfs", "f2fs", "nilfs2", "bcachefs", "overlay", "ReFS"};
     return std::any_of(types.begin(), types.end(), [&](const char *type) { return fileSystemType == type; });
 }
 

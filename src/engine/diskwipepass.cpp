@@ -194,12 +194,15 @@ bool DiskWipeWorker::flushDevice(platform::RawDevice &device)
 bool DiskWipeWorker::verifyPass(const PassPattern &pattern)
 {
     note(tr("正在验证..."));
-    if (!m_verification.beginPass(m_sectorSize)) {
+    const bool throughVolume = !m_volumes.empty();
+    platform::RawDevice &device = throughVolume ? *m_volumes.front().device : *m_drive;
+    // An encrypted volume may have larger sectors than its drive, and takes no part of one.
+    const qint32 sampleSize =
+        throughVolume ? std::max(m_sectorSize, device.bytesPerSector().valueOr(0)) : m_sectorSize;
+    if (!m_verification.beginPass(sampleSize)) {
         emit errorOccurred(tr("内存分配失败"));
         return false;
     }
-    const bool throughVolume = !m_volumes.empty();
-    platform::RawDevice &device = throughVolume ? *m_volumes.front().device : *m_drive;
     const qint64 span = throughVolume ? m_diskSize / std::ssize(m_volumes) : m_diskSize;
     const qint64 length = throughVolume ? m_volumes.front().readable : m_diskSize;
 
@@ -209,9 +212,9 @@ bool DiskWipeWorker::verifyPass(const PassPattern &pattern)
             return true;
         const quint64 sector = QRandomGenerator64::global()->bounded(m_sectorCount);
         const qint64 offset = static_cast<qint64>(sector) * m_sectorSize;
-        const qint64 reduced = DiskVerification::reducedOffset(offset, span, length, m_sectorSize);
+        const qint64 reduced = DiskVerification::reducedOffset(offset, span, length, sampleSize);
         const std::byte *data = m_verification.read(device, reduced, pattern);
-        if (!data || !verifyBuffer(data, m_sectorSize, pattern)) {
+        if (!data || !verifyBuffer(data, sampleSize, pattern)) {
             note(tr("验证失败，位置: %1").arg(offset), Error);
             return false;
         }

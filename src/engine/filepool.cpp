@@ -96,6 +96,11 @@ void FilePool::finish(Batch &batch)
 {
     QMutexLocker locker(&batch.mutex);
     while (batch.hasLeft() || batch.running > 0) {
+        if (!m_hasThreads && batch.running > 0) {
+            // A thread that came late after all.
+            batch.changed.wait(&batch.mutex);
+            continue;
+        }
         const bool changed = m_hasThreads && batch.changed.wait(&batch.mutex, QDeadlineTimer(ThreadPatience));
         if (changed || batch.running > 0)
             continue;

@@ -167,15 +167,30 @@ bool FreeSpaceWipeWorker::writeFillFiles(Fill &fill)
             if (!writeFillFile(*file.value(), fill, bytesInFile))
                 return false;
         }
-        if (bytesInFile < fill.chunkLimit || isStopRequested())
+        if (bytesInFile < fill.chunkLimit || isStopRequested()) {
+            if (!isStopRequested())
+                warnOfRoomLeft(fill);
             return true;
+        }
     }
+}
+
+// Quotas, and what a file system keeps for its administrator.
+void FreeSpaceWipeWorker::warnOfRoomLeft(const Fill &fill)
+{
+    const auto free = freeBytes(m_temporaryFolder);
+    if (!free || free.value() - fill.reserve < fill.chunkLimit)
+        return;
+    log(tr("警告: 文件系统不再接受数据，仍有 %1 空闲空间未填满").arg(formatSize(free.value() - fill.reserve)),
+        Warning);
 }
 
 bool FreeSpaceWipeWorker::endsWithoutFile(const platform::Status &status)
 {
     qDebug().noquote() << "[FreeSpaceWipe] fill file" << status.diagnostic();
-    log(tr("无法创建填充文件: %1").arg(tr("错误码: %1").arg(status.code)), Warning);
+    const QString reason = status.systemText();
+    log(tr("无法创建填充文件: %1").arg(reason.isEmpty() ? tr("错误码: %1").arg(status.code) : reason),
+        Warning);
     if (!isVolumeGone(status.code))
         return true;
     logVolumeGone(status);
@@ -192,6 +207,9 @@ bool FreeSpaceWipeWorker::writeFillFile(platform::FileHandle &file, Fill &fill, 
             logVolumeGone(free.status());
             return false;
         }
+        if (fill.lastFree >= 0)
+            fill.givenBack += std::max<qint64>(free.value() - fill.lastFree, 0);
+        fill.lastFree = free.value();
         const qint64 room = free.value() - fill.reserve;
         const qint64 chunk = std::min({fill.chunkLimit, FillFileBytes - bytesInFile, room});
         if (chunk < 1)
@@ -238,7 +256,7 @@ platform::Result<qint64> FreeSpaceWipeWorker::writeChunk(platform::FileHandle &f
 // A file system that compresses, or keeps zeros as holes, takes any amount and gives up no space for it.
 bool FreeSpaceWipeWorker::countFilled(const Fill &fill)
 {
-    if (fill.written > 2 * m_freeAtStart + 2 * GiB) {
+    if (fill.written > 2 * (m_freeAtStart + fill.givenBack) + 2 * GiB) {
         m_filledInPass = 0;
         log(tr("空闲空间没有减少，文件系统可能压缩数据"), Error);
         return false;

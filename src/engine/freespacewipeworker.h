@@ -51,8 +51,10 @@ private:
     {
         ChunkPipeline &chunks;
         qint64 chunkLimit = 0;
-        qint64 reserve = 0; // to stay free
-        qint64 written = 0; // and flushed
+        qint64 reserve = 0;   // to stay free
+        qint64 written = 0;   // and flushed
+        qint64 lastFree = -1; // before the last chunk
+        qint64 givenBack = 0; // by others meanwhile
     };
 
     void log(const QString &message, LogLevel level = Information);
@@ -79,6 +81,7 @@ private:
     bool fillFreeSpace(const PassPattern &pattern, ChunkPipeline &chunks);
     qint64 reserveForVolume();
     bool writeFillFiles(Fill &fill);
+    void warnOfRoomLeft(const Fill &fill);
     bool endsWithoutFile(const platform::Status &status);
     bool writeFillFile(platform::FileHandle &file, Fill &fill, qint64 &bytesInFile);
     platform::Result<qint64> writeChunk(platform::FileHandle &file, const Fill &fill, qint64 size,

@@ -70,8 +70,8 @@ void WipeEngine::start()
         emit errorOccurred(tr("没有设置任务"));
         return;
     }
-    const bool valid = m_task->isValid();
     qDebug() << "Operation type:" << static_cast<int>(m_task->operationType());
+    const bool valid = m_task->isValid();
     qDebug() << "Task is valid:" << valid;
     if (!valid) {
         emit errorOccurred(m_task->validationError());
@@ -100,6 +100,14 @@ void WipeEngine::start()
     m_lastError.clear();
 
     m_thread->start();
+    // The thread ends by a call that waits for this one: where it does not run, the system has refused it.
+    if (!m_thread->isRunning()) {
+        m_running = false;
+        delete m_worker;
+        m_worker = nullptr;
+        emit errorOccurred(tr("创建工作线程失败"));
+        return;
+    }
     emit started();
     emit logMessage(tr("开始擦除任务..."), 0);
     emit logMessage(tr("擦除方法: %1 (%2次覆写)").arg(m_task->method().name).arg(m_totalPasses), 0);

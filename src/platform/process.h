@@ -38,6 +38,10 @@ Status writeText(StandardStream stream, const QByteArray &text);
 // program with windows, which does not live for its output. Windows: is so anyway. Linux: SIGPIPE.
 void outliveReaders();
 
+// Reports take the computer's name from where Windows keeps it, the variable COMPUTERNAME. Before other
+// threads run. Windows: is so anyway. Linux: sets it to the host's name unless it is there.
+void provideComputerName();
+
 // The arguments of main(), the program's name first, in the form that Files takes for paths: nothing in them
 // is lost. Windows: GetCommandLineW and CommandLineToArgvW. Linux: an undecodable byte b becomes the lone
 // surrogate U+DC00 + b.

@@ -53,6 +53,9 @@ struct [[nodiscard]] Status
     bool ok() const { return code == NoError; }
     explicit operator bool() const { return ok(); }
 
+    // What the system says to its own number, for users; empty without one.
+    QString systemText() const { return native != 0 ? qt_error_string(native) : QString(); }
+
     // "open: 32 (system error 16)", for the debug output.
     QString diagnostic() const
     {

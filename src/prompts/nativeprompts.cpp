@@ -33,14 +33,17 @@ QString NativePrompts::fileToSave(QWidget *parent, const QString &caption, const
     return QFileDialog::getSaveFileName(parent, caption, proposal, forThisSystem(filter));
 }
 
+// Links and shortcuts stay what they are: what they lead to was not chosen.
 QStringList NativePrompts::filesToOpen(QWidget *parent, const QString &caption, const QString &filter)
 {
-    return QFileDialog::getOpenFileNames(parent, caption, QString(), forThisSystem(filter));
+    return QFileDialog::getOpenFileNames(parent, caption, QString(), forThisSystem(filter), nullptr,
+                                         QFileDialog::DontResolveSymlinks);
 }
 
 QString NativePrompts::folder(QWidget *parent, const QString &caption, const QString &start)
 {
-    return QFileDialog::getExistingDirectory(parent, caption, start);
+    return QFileDialog::getExistingDirectory(parent, caption, start,
+                                             QFileDialog::ShowDirsOnly | QFileDialog::DontResolveSymlinks);
 }
 
 bool NativePrompts::print(QWidget *parent, const QString &title, QPrinter &printer)

@@ -44,6 +44,15 @@ void echo(LogLevel level, const QString &line)
 }
 } // namespace
 
+namespace {
+QString s_firstLogFile;
+}
+
+void AppLog::setFirstLogFile(const QString &path)
+{
+    s_firstLogFile = path;
+}
+
 AppLog &AppLog::instance()
 {
     static AppLog log;
@@ -52,6 +61,10 @@ AppLog &AppLog::instance()
 
 AppLog::AppLog()
 {
+    if (!s_firstLogFile.isEmpty()) {
+        setLogFile(s_firstLogFile);
+        return;
+    }
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
     // Without the folder the file does not open either, and the log does without.
     QDir().mkpath(folder);

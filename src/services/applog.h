@@ -31,6 +31,10 @@ public:
     /// The names of application and organisation decide that folder: set them first.
     static AppLog &instance();
 
+    /// Takes the place of the default file, whose folder then is not created. Before the first use of
+    /// instance(); later it does nothing. The folder must exist.
+    static void setFirstLogFile(const QString &path);
+
     /// Closes the file in use and appends to that one. The folder must exist.
     void setLogFile(const QString &path);
     /// Closes the file in use; Windows keeps its folder until then. Lines are only echoed from then on.

@@ -11,6 +11,7 @@ class TestCliCheckZeros : public QObject
 private slots:
     void initTestCase() { hideMachine(m_home); }
 
+    void anEmptyFileDoesNotPass();
     void aFileOfZerosPasses_data();
     void aFileOfZerosPasses();
     void theFirstOtherByteIsTold_data();
@@ -38,11 +39,22 @@ QStringList check(const QString &target, const QStringList &more = {})
 
 } // namespace
 
+// A copy that was cut to nothing proves nothing.
+void TestCliCheckZeros::anEmptyFileDoesNotPass()
+{
+    CliRun run;
+    const QString path = run.folder() + u"/a.img"_s;
+    QVERIFY(writeFile(path, {}));
+    run(check(path));
+    QCOMPARE(run.code, 1);
+    QVERIFY(run.complains("is empty, there is nothing to check"));
+}
+
 void TestCliCheckZeros::aFileOfZerosPasses_data()
 {
     QTest::addColumn<qsizetype>("size");
-    for (const qsizetype size : {qsizetype(0), qsizetype(1), qsizetype(511), qsizetype(512), Chunk - 1, Chunk,
-                                 Chunk + 1, 2 * Chunk + 4097})
+    for (const qsizetype size :
+         {qsizetype(1), qsizetype(511), qsizetype(512), Chunk - 1, Chunk, Chunk + 1, 2 * Chunk + 4097})
         QTest::addRow("%lld bytes", static_cast<long long>(size)) << size;
 }
 

@@ -163,8 +163,8 @@ void TestCliCommandLine::aWrongLineIsToldInOneLine_data()
     option("threads in words", u"--threads=two"_s, "from 1 to 32, not 'two'");
     option("no buffer", u"--buffer-mb=0"_s, "from 1 to 1024, not '0'");
     option("buffer too large", u"--buffer-mb=1025"_s, "from 1 to 1024, not '1025'");
-    option("negative samples", u"--samples=-1"_s, "0 or more, not '-1'");
-    option("samples beyond 32 bits", u"--samples=4294967296"_s, "0 or more, not '4294967296'");
+    option("negative samples", u"--samples=-1"_s, "1 or more, not '-1'");
+    option("samples beyond 32 bits", u"--samples=4294967296"_s, "1 or more, not '4294967296'");
     option("report without a name", u"--report="_s, "''");
     option("report without a folder", u"--report=no/such/folder/r.json"_s, "no/such/folder/r.json");
     option("report is a folder", u"--report=."_s, "folder");

@@ -17,6 +17,7 @@ private slots:
 
     void itTellsItsVersion();
     void anImageIsErasedToTheLastByte();
+    void anotherDataFolderLeavesTheUsersAlone();
     void theReportNamesTheComputer();
     void withoutATerminalItRefuses();
     void aPipedWordIsNoConfirmation();
@@ -114,6 +115,18 @@ void TestCliProgram::anImageIsErasedToTheLastByte()
     QCOMPARE(run.err, QByteArray());
     QVERIFY(run.out.trimmed().split('\n').constLast().startsWith("DONE: "));
     QVERIFY(!run.out.contains('\r'));
+}
+
+void TestCliProgram::anotherDataFolderLeavesTheUsersAlone()
+{
+    const QByteArray path = image();
+    ProgramRun run;
+    run.environment = {"XDG_DATA_HOME=" + inFolder("home")};
+    run({"wipe", "disk", "0", "--image", path, "--yes", "--data-dir", inFolder("data")});
+    QCOMPARE(run.code, 0);
+    QVERIFY(!QDir(QFile::decodeName(inFolder("home"))).exists());
+    const QStringList kept = QDir(QFile::decodeName(inFolder("data"))).entryList(QDir::Files);
+    QCOMPARE(kept, (QStringList{u"quorvex.db"_s, u"quorvex.log"_s}));
 }
 
 void TestCliProgram::theReportNamesTheComputer()

@@ -236,6 +236,10 @@ void TestCliTrash::anEmptyBinIsDoneAtOnce()
     machine(wipe({u"--yes"_s, u"--json"_s}));
     QCOMPARE(machine.code, 0);
     QCOMPARE(machine.io.events(u"log"_s).size(), 1);
+    const QJsonObject last = machine.io.events().constLast();
+    QCOMPARE(last.value(u"event"), QJsonValue(u"finished"_s));
+    QCOMPARE(last.value(u"success"), QJsonValue(true));
+    QCOMPARE(last.value(u"report").toObject(), QJsonObject());
 }
 
 void TestCliTrash::aBinThatIsALinkIsLeftAlone()

@@ -43,6 +43,7 @@ private slots:
     void quietEventsAreErrorsAndTheEnd();
     void theLastLineTellsEverything();
     void theLastLineTellsWhatWasNotErased();
+    void aPartOfADriveIsNoSuccess();
 
     void theReportIsWrittenAfterSuccess();
     void theReportIsWrittenAfterFailure();
@@ -305,7 +306,7 @@ void TestCliWipeDisk::typingEraseRunsTheJob()
 {
     MemoryMachine machine;
     addDrive(machine);
-    machine.memory.addVolume(u"/media/stick"_s, 0, 65536, 65536);
+    machine.memory.addVolume(u"/media/stick"_s, 0, 0, 4 << 20);
     CliRun run;
     run.io.inputIsTerminal = run.io.outputIsTerminal = true;
     run.io.input = QStringList{u"ERASE"_s};
@@ -528,8 +529,27 @@ void TestCliWipeDisk::theLastLineTellsWhatWasNotErased()
     machine.memory.addVolume(u"/media/stick"_s, 0, 65536, 65536);
     CliRun run;
     run(wipeDrive(0));
-    QCOMPARE(run.code, 0);
+    QCOMPARE(run.code, 1);
     QVERIFY2(run.io.out.contains(", ONLY THE VOLUMES: 128 of 8192 sectors erased"), run.io.out.constData());
+    QVERIFY(run.io.out.contains("PARTLY DONE: "));
+    QVERIFY(run.complains("unmount them to erase the whole drive"));
+}
+
+// Nothing that a script reads says that the drive is erased.
+void TestCliWipeDisk::aPartOfADriveIsNoSuccess()
+{
+    MemoryMachine machine;
+    addDrive(machine);
+    machine.memory.addVolume(u"/media/stick"_s, 0, 65536, 65536);
+    CliRun run;
+    run(wipeDrive(0) + QStringList{u"--json"_s});
+    QCOMPARE(run.code, 1);
+    QVERIFY(run.io.events(u"error"_s)
+                .constLast()
+                .value(u"message")
+                .toString()
+                .contains(u"only the mounted volumes"));
+    QCOMPARE(run.io.events().constLast().value(u"success"), QJsonValue(false));
 }
 
 void TestCliWipeDisk::theReportIsWrittenAfterSuccess()

@@ -19,6 +19,7 @@ private slots:
 
     void aVolumeIsNamedByItsMountPoint();
     void aVolumeIsNamedByItsLetter();
+    void theDriveIsShownAndNoReadBackPromised();
     void aDriveNumberMeansAllItsVolumes();
     void aVolumeOfSeveralDrivesIsFound();
     void anUnknownVolumeIsRefusedBeforeAnyIsFilled();
@@ -102,6 +103,20 @@ void TestCliWipeFree::aVolumeIsNamedByItsMountPoint()
         const QJsonObject started = run.io.events(u"started"_s).constFirst();
         QCOMPARE(started.value(u"operation"), QJsonValue(u"FreeSpaceWipe"_s));
     }
+}
+
+void TestCliWipeFree::theDriveIsShownAndNoReadBackPromised()
+{
+    Machine machine;
+    machine.add(u"/media/a"_s);
+    CliRun run;
+    run.io.inputIsTerminal = run.io.outputIsTerminal = true;
+    run.io.input = QStringList{u"no"_s};
+    run({u"wipe"_s, u"free"_s, u"/media/a"_s});
+    QCOMPARE(run.code, 3);
+    QVERIFY2(run.io.out.contains("  drive 0: model "), run.io.out.constData());
+    QVERIFY(run.io.out.contains("    volume /media/a, "));
+    QVERIFY(run.io.out.contains(", not read back"));
 }
 
 void TestCliWipeFree::aVolumeIsNamedByItsLetter()

@@ -25,6 +25,9 @@ public:
 
     int count() const { return s_refused; }
 
+    // For that long, threads do nothing after their start. Until set to 0.
+    static inline std::atomic<int> lateBySeconds{0};
+
     // Whether the thread that is asked for now is one of them.
     static bool refuseNext()
     {
@@ -47,11 +50,27 @@ private:
 #include <pthread.h>
 
 #include <cerrno>
+#include <memory>
+#include <unistd.h>
 
 inline bool RefusedThreads::isPossible()
 {
     return true;
 }
+
+// What a late thread does, once it does something.
+struct LateThread
+{
+    void *(*body)(void *);
+    void *argument;
+
+    static void *run(void *self)
+    {
+        const std::unique_ptr<LateThread> late(static_cast<LateThread *>(self));
+        ::sleep(static_cast<unsigned>(RefusedThreads::lateBySeconds.load()));
+        return late->body(late->argument);
+    }
+};
 
 // In the place of the system's, for every library of this process.
 extern "C" int pthread_create(pthread_t *thread, const pthread_attr_t *attributes, void *(*body)(void *),
@@ -59,7 +78,15 @@ extern "C" int pthread_create(pthread_t *thread, const pthread_attr_t *attribute
 {
     using Create = int (*)(pthread_t *, const pthread_attr_t *, void *(*)(void *), void *);
     static const auto system = reinterpret_cast<Create>(::dlsym(RTLD_NEXT, "pthread_create"));
-    return RefusedThreads::refuseNext() ? EAGAIN : system(thread, attributes, body, argument);
+    if (RefusedThreads::refuseNext())
+        return EAGAIN;
+    if (RefusedThreads::lateBySeconds == 0)
+        return system(thread, attributes, body, argument);
+    auto late = std::make_unique<LateThread>(LateThread{body, argument});
+    const int refusal = system(thread, attributes, &LateThread::run, late.get());
+    if (refusal == 0)
+        static_cast<void>(late.release());
+    return refusal;
 }
 
 #else

@@ -96,6 +96,7 @@ private slots:
     void samplesAreReadThroughTheFirstVolume();
     void smallFirstVolumeIsVerified();
     void volumeThatEndsWithinASectorIsVerified();
+    void volumeWithLargerSectorsThanItsDriveIsVerified();
     void nothingIsReadWhenSwitchedOff();
     void nothingIsReadWithoutSamples_data();
     void nothingIsReadWithoutSamples();
@@ -237,6 +238,24 @@ void TestDiskWipeVerification::volumeThatEndsWithinASectorIsVerified()
     // The second sector is not there as a whole.
     QCOMPARE(reads.positions, QList<qint64>(20, 0));
     QCOMPARE(job.report().wipedSectors, 1ULL);
+}
+
+void TestDiskWipeVerification::volumeWithLargerSectorsThanItsDriveIsVerified()
+{
+    MemoryDevices memory;
+    memory.addDrive(markedDrive(1, MiB));
+    memory.addVolume(u"E:"_s, 1, 0, MiB);
+    memory.volume(u"E:"_s).sectorSize = 4096;
+    SampleReads reads;
+    InterposedDevices devices(memory, reads.before());
+    DiskWipeJob job;
+    job.task.setVerifySampleSize(200);
+    job.chooseDrive(memory.drive(1));
+    QVERIFY(job.run(devices));
+    QCOMPARE(reads.positions.size(), 200);
+    for (const qint64 position : std::as_const(reads.positions))
+        QCOMPARE(position % 4096, 0);
+    QCOMPARE(job.report().verificationSampleSize, 200);
 }
 
 void TestDiskWipeVerification::nothingIsReadWhenSwitchedOff()

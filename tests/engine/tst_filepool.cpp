@@ -20,6 +20,7 @@ private slots:
     void noJobsAreNoWork();
     void oneRefusedThreadIsDoneWithout();
     void withoutThreadsTheCallerDoesTheWork();
+    void threadsThatComeLateAreWaitedFor();
     void filesAreErasedWithoutThreads();
 };
 
@@ -114,6 +115,25 @@ void FilePoolTest::withoutThreadsTheCallerDoesTheWork()
         QCOMPARE(counting.onCaller.load(), 5);
     }
     QVERIFY(refused.count() > 0);
+}
+
+// They take jobs after the caller has given them up and begun to work itself.
+void FilePoolTest::threadsThatComeLateAreWaitedFor()
+{
+    if (!RefusedThreads::isPossible())
+        QSKIP(RefusedThreads::whyNot);
+    QObject parent;
+    FilePool pool(2, &parent);
+    std::atomic<int> ran{0};
+    RefusedThreads::lateBySeconds = 6;
+    const int failures = pool.run(std::vector<FilePool::Job>(4, [&ran] {
+        QTest::qSleep(1500);
+        ++ran;
+        return true;
+    }));
+    RefusedThreads::lateBySeconds = 0;
+    QCOMPARE(failures, 0);
+    QCOMPARE(ran.load(), 4);
 }
 
 void FilePoolTest::filesAreErasedWithoutThreads()

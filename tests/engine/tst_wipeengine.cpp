@@ -6,6 +6,7 @@
 #include "platform/forwarding.h"
 #include "platform/platform.h"
 #include "platform/storagereplies.h"
+#include "refusedthreads.h"
 
 #include <QFile>
 #include <QMetaMethod>
@@ -137,6 +138,7 @@ private slots:
     void startWithoutTask();
     void startWithAnInvalidTask();
     void unknownOperationTypeGivesNoWorker();
+    void aThreadThatTheSystemRefusesIsTold();
     void setTaskWhileRunning();
     void secondStartWhileRunning();
     void invalidTaskIsToldEvenWhileRunning();
@@ -199,6 +201,32 @@ void TestWipeEngine::startWithAnInvalidTask()
     engine.start();
     QCOMPARE(messages(errors), QStringList({QStringLiteral("Please add files to wipe")}));
     QCOMPARE(task.report(), before);
+}
+
+void TestWipeEngine::aThreadThatTheSystemRefusesIsTold()
+{
+    if (!RefusedThreads::isPossible())
+        QSKIP(RefusedThreads::whyNot);
+    const QTemporaryDir folder;
+    WipeTask task;
+    task.setOperationType(FileWipe);
+    task.setFiles({writeFile(folder, QStringLiteral("a"), 1000)});
+    WipeEngine engine;
+    QSignalSpy errors(&engine, &WipeEngine::errorOccurred);
+    QSignalSpy starts(&engine, &WipeEngine::started);
+    QSignalSpy ends(&engine, &WipeEngine::completed);
+    engine.setTask(&task);
+    {
+        const RefusedThreads refused;
+        engine.start();
+    }
+    QCOMPARE(messages(errors), QStringList({QStringLiteral("创建工作线程失败")}));
+    QVERIFY(!engine.isRunning());
+    QCOMPARE(starts.size(), 0);
+    // The next attempt is not in its way.
+    engine.start();
+    QTRY_COMPARE(ends.size(), 1);
+    QCOMPARE(engine.report().status, WipeStatus::Completed);
 }
 
 void TestWipeEngine::unknownOperationTypeGivesNoWorker()

@@ -2,6 +2,8 @@
 
 #include <QTest>
 
+#include <cstring>
+
 #include <cerrno>
 
 using platform::ErrorCode;
@@ -83,6 +85,8 @@ void TestErrnoTable::keepsNumberAndOperation()
     const platform::Status status = platform::statusFromErrno(EBUSY, "open");
     QCOMPARE(status.native, EBUSY);
     QCOMPARE(status.diagnostic(), QStringLiteral("open: 32 (system error 16)"));
+    QCOMPARE(status.systemText(), QString::fromLocal8Bit(std::strerror(EBUSY)));
+    QCOMPARE(platform::Status{}.systemText(), QString());
 }
 
 QTEST_APPLESS_MAIN(TestErrnoTable)

@@ -28,6 +28,7 @@ struct MemoryDriveVolume
     QString label;
     QByteArray fileSystem = "ext4";
     qint64 freeBytes = 0;
+    qint32 sectorSize = 0; // 0: the drive's
 
     qint64 length() const
     {
@@ -340,7 +341,8 @@ class MemoryDevices::Volume : public Transfers<platform::VolumeDevice>
 {
 public:
     Volume(MemoryDevices &devices, const MemoryDriveVolume &volume, const MemoryDrive &drive)
-        : Transfers(devices, volume.extents, drive.sectorSize, drive.endError)
+        : Transfers(devices, volume.extents, volume.sectorSize > 0 ? volume.sectorSize : drive.sectorSize,
+                    drive.endError)
         , m_name(volume.name)
         , m_length(volume.length())
         , m_mounted(volume.mounted)

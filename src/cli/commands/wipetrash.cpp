@@ -33,6 +33,11 @@ ExitCode tellEmpty(const CommandContext &context)
         JsonWriter event(JsonWriter::Layout::Compact);
         event.beginObject().member(u"event", u"log").member(u"level", 0).member(u"message", message);
         context.io.printLine(event.endObject().text());
+        // Without a job there is no report; everything asked for is done.
+        JsonWriter end(JsonWriter::Layout::Compact);
+        end.beginObject().member(u"event", u"finished").member(u"success", true).member(u"cancelled", false);
+        end.member(u"certificateId", QString()).key(u"report").beginObject().endObject();
+        context.io.printLine(end.endObject().text());
     } else {
         context.io.printLine(message);
     }

@@ -98,7 +98,12 @@ QList<Extent> LinuxDevices::extentsOf(const QByteArray &device)
 {
     QList<Extent> extents;
     const QList<Drive> drives = m_registry.drives();
-    for (const QByteArray &member : m_blocks.fileSystemMembers(device)) {
+    // The device itself is what an opened volume writes to: of a file system on several, its drive comes
+    // first.
+    QList<QByteArray> members = m_blocks.fileSystemMembers(device);
+    members.removeAll(device);
+    members.prepend(device);
+    for (const QByteArray &member : std::as_const(members)) {
         for (const DriveExtent &found : m_blocks.extentsOf(member)) {
             for (const Drive &drive : drives) {
                 if (drive.device == found.drive)

@@ -16,6 +16,12 @@ const QStringList &systemMountPoints()
     return points;
 }
 
+// Compressed swap, which lies on no drive.
+bool isInMemory(const QString &swapArea)
+{
+    return swapArea.startsWith(QStringLiteral("/dev/zram"));
+}
+
 } // namespace
 
 LinuxSession::LinuxSession(const SystemTree &tree)
@@ -32,6 +38,8 @@ QStringList LinuxSession::systemVolumes()
             volumes.append(point);
     }
     for (const QString &area : parseSwaps(readAttribute(m_tree.proc + QLatin1String("/swaps")))) {
+        if (isInMemory(area))
+            continue;
         if (!BlockTree::deviceOfNode(area).isEmpty()) {
             volumes.append(area);
             continue;

@@ -5,6 +5,7 @@
 #include "platform/linux/filedescriptor.h"
 
 #include <QSocketNotifier>
+#include <QSysInfo>
 
 #include <fcntl.h>
 #include <poll.h>
@@ -113,6 +114,12 @@ Status writeText(StandardStream stream, const QByteArray &text)
 void outliveReaders()
 {
     ::signal(SIGPIPE, SIG_IGN);
+}
+
+void provideComputerName()
+{
+    if (qEnvironmentVariableIsEmpty("COMPUTERNAME"))
+        qputenv("COMPUTERNAME", QSysInfo::machineHostName().toUtf8());
 }
 
 QStringList decodedArguments(int count, char *const *arguments)

@@ -198,6 +198,9 @@ Status writeText(StandardStream stream, const QByteArray &text)
 void outliveReaders()
 {}
 
+void provideComputerName()
+{}
+
 QStringList decodedArguments(int, char *const *)
 {
     int count = 0;

@@ -2,6 +2,7 @@
 
 #include "model/displaytext.h"
 #include "ui/style/palette.h"
+#include "ui/style/tooltip.h"
 
 #include <QBrush>
 #include <QIcon>
@@ -27,7 +28,7 @@ void greyOut(QTreeWidgetItem &row)
 void setName(QTreeWidgetItem &row, const QString &name)
 {
     row.setText(DiskTreeRows::NameColumn, name);
-    row.setToolTip(DiskTreeRows::NameColumn, name.toHtmlEscaped());
+    row.setToolTip(DiskTreeRows::NameColumn, plainTip(name));
 }
 
 } // namespace

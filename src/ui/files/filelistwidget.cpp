@@ -1,6 +1,7 @@
 #include "ui/files/filelistwidget.h"
 
 #include "model/displaytext.h"
+#include "ui/style/tooltip.h"
 
 #include <QSignalBlocker>
 
@@ -43,7 +44,7 @@ void FileListWidget::append(const QList<FileEntry> &entries)
         // A tip changes nothing that is drawn.
         const QSignalBlocker blocker(model());
         for (int i = 0; i < entries.size(); ++i)
-            item(firstRow + i)->setToolTip(displayText(entries.at(i).path).toHtmlEscaped());
+            item(firstRow + i)->setToolTip(plainTip(displayText(entries.at(i).path)));
     }
     setUpdatesEnabled(true);
 }

@@ -285,7 +285,7 @@ bool FileSelectPage::eventFilter(QObject *watched, QEvent *event)
 
 bool FileSelectPage::handleDrag(QDropEvent &event)
 {
-    if (m_isLoading) {
+    if (m_isLoading || m_isReadOnly) {
         event.ignore();
         return true;
     }

@@ -36,6 +36,8 @@ public:
     /// An empty subtitle leaves the one that is shown.
     void setHeader(const QString &title, const QString &subtitle);
     void setToolRowVisible(bool visible);
+    /// A read-only page takes no drops: its rows are the window's.
+    void setReadOnly(bool readOnly) { m_isReadOnly = readOnly; }
 
     /// From showLoading() to hideLoading() the page only shows how far a search is and takes no drops.
     /// hideLoading() leaves the button Next as it is.
@@ -73,6 +75,7 @@ private:
     QList<FileEntry> m_entries;
     QSet<QString> m_paths; // of m_entries
     bool m_isLoading = false;
+    bool m_isReadOnly = false;
 
     QLabel *m_title;
     QLabel *m_subtitle;

@@ -5,6 +5,7 @@
 #include "prompts/prompts.h"
 #include "services/reportdatabase.h"
 #include "ui/style/palette.h"
+#include "ui/style/tooltip.h"
 
 #include <QBoxLayout>
 #include <QComboBox>
@@ -42,7 +43,7 @@ QColor statusColor(WipeStatus status)
 QTableWidgetItem *createItem(const QString &text)
 {
     auto *item = new QTableWidgetItem(text);
-    item->setToolTip(text.toHtmlEscaped());
+    item->setToolTip(plainTip(text));
     return item;
 }
 

@@ -88,7 +88,8 @@ private:
     void takeDiskSelection();
     void setMenuEnabled(bool enabled);
 
-    void keepReport(const WipeReport &report);
+    bool keepReport(const WipeReport &report);
+    void viewCertificate(bool isStored, const WipeReport &report);
     void updateRecycleBinRecords();
     void exportCertificate(const WipeReport &report) const;
     void leaveCompletedJob(bool success);

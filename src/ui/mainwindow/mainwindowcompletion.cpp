@@ -30,8 +30,9 @@ void MainWindow::onWipeCompleted(bool success)
     const WipeReport report = m_engine->report();
     const bool keepsReport =
         usersettings::readBool(*usersettings::open(), usersettings::GenerateReport, true);
+    bool isStored = false;
     if (keepsReport)
-        keepReport(report);
+        isStored = keepReport(report);
     else
         qDebug() << "[Certificate] Skipped saving to database (disabled in settings)";
     if (success && keepsReport)
@@ -40,24 +41,34 @@ void MainWindow::onWipeCompleted(bool success)
     CompleteDialog dialog(success, keepsReport ? report.certificateId : QString(), this);
     if (keepsReport) {
         connect(&dialog, &CompleteDialog::viewCertificateClicked, this,
-                [this, id = report.certificateId] { onViewCertificate(id); });
+                [this, isStored, &report] { viewCertificate(isStored, report); });
     }
     dialog.exec();
     leaveCompletedJob(success);
 }
 
-void MainWindow::keepReport(const WipeReport &report)
+// The stored record where there is one: that is what an auditor will see.
+void MainWindow::viewCertificate(bool isStored, const WipeReport &report)
+{
+    if (isStored)
+        onViewCertificate(report.certificateId);
+    else
+        CertificateDialog(report, this).exec();
+}
+
+bool MainWindow::keepReport(const WipeReport &report)
 {
     if (ReportDatabase::instance().saveReport(report)) {
         m_historyPage->loadHistory();
         qDebug() << "[Certificate] Report saved to database:" << report.certificateId;
-        return;
+        return true;
     }
     qWarning() << "[Certificate] Report not saved to database:" << ReportDatabase::instance().lastError();
     // Whoever needs the record must know that there is none.
     Prompts::current().warning(this, tr("Report Not Saved"),
                                tr("The erasure report could not be stored in the database.\n%1")
                                    .arg(ReportDatabase::instance().lastError()));
+    return false;
 }
 
 // The bins' own records of what they hold name what was erased.
@@ -100,5 +111,12 @@ void MainWindow::leaveCompletedJob(bool success)
 
 void MainWindow::onViewCertificate(const QString &certificateId)
 {
-    CertificateDialog(ReportDatabase::instance().getReport(certificateId), this).exec();
+    const WipeReport report = ReportDatabase::instance().getReport(certificateId);
+    // A report that is not there reads as a new one, whose certificate would be false.
+    if (report.certificateId != certificateId) {
+        Prompts::current().warning(this, tr("Report Not Found"),
+                                   tr("There is no report %1 in the database.").arg(certificateId));
+        return;
+    }
+    CertificateDialog(report, this).exec();
 }

@@ -1,11 +1,15 @@
 // The Recycle Bin: scanned in the background, shown in pieces, then a file wipe like any other.
 #include "ui/mainwindow/mainwindow.h"
 
+#include "model/displaytext.h"
 #include "model/formatsize.h"
 #include "model/wipetask.h"
+#include "platform/files.h"
+#include "platform/platform.h"
 #include "prompts/prompts.h"
 #include "services/recyclebinscanner.h"
 #include "ui/files/fileselectpage.h"
+#include "ui/style/tooltip.h"
 
 #include <QDebug>
 #include <QFileInfo>
@@ -29,15 +33,17 @@ QString textOf(const RecycleBinItem &item)
 {
     const QString mark = item.isDirectory ? u"📁"_s : u"📄"_s;
     const QString name = item.fileName.isEmpty() ? QFileInfo(item.recyclePath).fileName() : item.fileName;
-    return u"%1  %2  (%3)"_s.arg(mark, name, formatSize(static_cast<qint64>(item.size)));
+    return u"%1  %2  (%3)"_s.arg(mark, displayText(name), formatSize(static_cast<qint64>(item.size)));
 }
 
+// Those that have not vanished. What cannot be examined stays: the job then fails on it, instead of telling
+// that all was erased.
 QStringList existing(QStringList paths)
 {
-    // A link counts, wherever it leads: it is erased itself.
-    paths.removeIf([](const QString &path) {
-        const QFileInfo info(path);
-        return !info.exists() && !info.isSymLink();
+    platform::Files &files = platform::Platform::current().files();
+    paths.removeIf([&files](const QString &path) {
+        const quint32 code = files.info(path).code();
+        return code == platform::FileNotFound || code == platform::PathNotFound;
     });
     return paths;
 }
@@ -66,7 +72,7 @@ void MainWindow::startRecycleBinScan()
         QMetaObject::invokeMethod(
             qApp,
             [window, drive, index, count] {
-                if (!window || !window->m_filePage)
+                if (!window || !window->m_filePage || !window->m_isRecycleBinMode)
                     return;
                 window->m_filePage->updateLoadingProgress(
                     index + 1, count,
@@ -116,6 +122,7 @@ void MainWindow::takeRecycleBin(const RecycleBinInfo &found)
     m_filePage->statsLabel()->setText(tr("Found %1 items, total %2")
                                           .arg(m_recycleBin.fileCount)
                                           .arg(formatSize(static_cast<qint64>(m_recycleBin.totalSize))));
+    m_filePage->setReadOnly(true);
     m_filePage->setToolRowVisible(false);
     m_filePage->nextButton()->setEnabled(true);
     m_filePage->stack()->setCurrentIndex(FileSelectPage::ListView);
@@ -132,7 +139,7 @@ void MainWindow::loadMoreRecycleBinItems()
     for (int i = m_loadedRecycleBinCount; i < end; ++i) {
         const RecycleBinItem &item = m_recycleBin.items.at(i);
         auto *row = new QListWidgetItem(textOf(item), m_filePage->list());
-        row->setToolTip(item.originalPath.toHtmlEscaped());
+        row->setToolTip(plainTip(displayText(item.originalPath)));
         row->setData(Qt::UserRole, item.recyclePath);
     }
     m_loadedRecycleBinCount = end;
@@ -158,6 +165,7 @@ void MainWindow::leaveRecycleBin()
                &MainWindow::onRecycleBinListScrolled);
     m_recycleBin = {};
     m_loadedRecycleBinCount = 0;
+    m_filePage->setReadOnly(false);
     m_filePage->setToolRowVisible(true);
     m_filePage->hideLoading();
     m_filePage->setHeader(tr("Select Files to Shred"), tr("Click buttons to add files and folders"));

@@ -39,8 +39,9 @@ QVBoxLayout *createGroup(QGroupBox &group)
 {
     group.setStyleSheet(
         u"QGroupBox { font-weight: bold; font-size: 14px; color: #1e293b; border: 1px solid #e2e8f0;"
-        " border-radius: 8px; margin-top: 12px; padding-top: 14px; background-color: white; }"
-        "QGroupBox::title { subcontrol-origin: border; left: 18px; top: 12px; }"_s);
+        " border-radius: 8px; margin-top: 12px; padding-top: 8px; background-color: white; }"
+        "QGroupBox::title { subcontrol-origin: margin; left: 15px; padding: 0 8px;"
+        " background-color: white; }"_s);
     auto *layout = new QVBoxLayout(&group);
     layout->setContentsMargins(20, 25, 20, 20);
     layout->setSpacing(12);

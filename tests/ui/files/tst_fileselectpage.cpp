@@ -17,6 +17,7 @@
 #include <QStackedWidget>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTextDocumentFragment>
 #include <QUrl>
 
 #include <memory>
@@ -154,6 +155,7 @@ private slots:
     void rowsOfOtherListsAreNotTaken();
     void droppingAFileTwiceListsItOnce();
     void whileLoadingDropsAreIgnored();
+    void aReadOnlyPageTakesNoDrops();
 
     void removeNeedsASelection();
     void removingTakesTheSelectedRows();
@@ -351,10 +353,13 @@ void tst_FileSelectPage::theOrderIsThatOfAdding()
 
 void tst_FileSelectPage::theTipIsTheWholePath()
 {
-    const QString file = written(u"a&b"_s);
+    const QString plain = written(u"a&b"_s);
+    const QString markup = written(u"<b>bold.txt"_s);
     Shown shown;
-    add(shown.page, {file});
-    QCOMPARE(shown.list.item(0)->toolTip(), file.toHtmlEscaped());
+    add(shown.page, {plain, markup});
+    QCOMPARE(shown.list.item(0)->toolTip(), plain);
+    // What a tool tip takes for rich text shows itself.
+    QCOMPARE(QTextDocumentFragment::fromHtml(shown.list.item(1)->toolTip()).toPlainText(), markup);
 }
 
 void tst_FileSelectPage::dropping_data()
@@ -463,6 +468,24 @@ void tst_FileSelectPage::droppingAFileTwiceListsItOnce()
     }
     QCOMPARE(shown.page.files(), QStringList{file});
     QCOMPARE(shown.list.count(), 1);
+}
+
+void tst_FileSelectPage::aReadOnlyPageTakesNoDrops()
+{
+    const QString file = written(u"a"_s);
+    Shown shown;
+    shown.page.setReadOnly(true);
+    for (QWidget *target : {&shown.dropZone, static_cast<QWidget *>(&shown.list), shown.list.viewport()}) {
+        Drag drag(*target);
+        drag.setFiles({file});
+        QVERIFY(!drag.enter());
+        QVERIFY(!drag.drop());
+    }
+    QVERIFY(shown.page.files().isEmpty());
+    shown.page.setReadOnly(false);
+    Drag drag(shown.dropZone);
+    drag.setFiles({file});
+    QVERIFY(drag.enter());
 }
 
 void tst_FileSelectPage::whileLoadingDropsAreIgnored()

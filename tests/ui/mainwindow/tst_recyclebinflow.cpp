@@ -2,8 +2,15 @@
 
 #include "ui/files/fileselectpage.h"
 
+#include <QDropEvent>
+#include <QMimeData>
 #include <QScrollBar>
 #include <QTextEdit>
+#include <QUrl>
+
+#include <cmath>
+#include <fcntl.h>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -24,6 +31,8 @@ private slots:
     void anotherFlowLeavesTheBin();
     void aFileJobAfterTheBinHasItsPageBack();
     void namesOfErasedFoldersLeaveTheRecords();
+    void aNameThatIsNoUnicodeIsErasedToo();
+    void dropsOnTheShownBinAreIgnored();
     void backFromTheMethodsKeepsTheBin();
     void whatVanishesAfterTheScanStopsTheJob();
 
@@ -75,9 +84,9 @@ void TestRecycleBinFlow::theBinIsShownInPieces()
 
     QScrollBar *bar = page->list()->verticalScrollBar();
     QTRY_VERIFY(bar->maximum() > 0);
-    bar->setValue(int(0.5 * bar->maximum()));
+    bar->setValue(int(0.8 * bar->maximum()) - 1);
     QCOMPARE(page->list()->count(), 20);
-    bar->setValue(bar->maximum());
+    bar->setValue(int(std::ceil(0.8 * bar->maximum())));
     QCOMPARE(page->list()->count(), 40);
     QTRY_VERIFY(bar->value() < bar->maximum());
     bar->setValue(bar->maximum());
@@ -201,6 +210,48 @@ void TestRecycleBinFlow::namesOfErasedFoldersLeaveTheRecords()
     fixture.prompts.buttons = {QMessageBox::No};
     fixture.runJob();
     QVERIFY(!contentOfTestFile(trash(fixture, u"directorysizes"_s)).contains("project"));
+}
+
+void TestRecycleBinFlow::aNameThatIsNoUnicodeIsErasedToo()
+{
+    WindowFixture fixture;
+    addTrash(fixture, 1);
+    const QByteArray name("caf\xe9.txt");
+    for (const QByteArray &path : {QFile::encodeName(trash(fixture, u"files/"_s)) + name,
+                                   QFile::encodeName(trash(fixture, u"info/"_s)) + name + ".trashinfo"}) {
+        const int file = ::open(path.constData(), O_CREAT | O_WRONLY | O_CLOEXEC, 0600);
+        QVERIFY(file != -1);
+        const QByteArray content = "[Trash Info]\nPath=/tmp/cafe.txt\n";
+        QCOMPARE(::write(file, content.constData(), static_cast<std::size_t>(content.size())),
+                 content.size());
+        ::close(file);
+    }
+    fixture.window->onRecycleBinWipeClicked();
+    QTRY_VERIFY(fixture.button(u"Next →"_s)->isEnabled());
+    QVERIFY(fixture.click(u"Next →"_s));
+    fixture.prompts.buttons = {QMessageBox::No};
+    fixture.runJob();
+    QVERIFY(QDir(trash(fixture, u"files"_s)).isEmpty(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot));
+    QVERIFY(QDir(trash(fixture, u"info"_s)).isEmpty(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot));
+    QCOMPARE(fixture.reports().constFirst().status, WipeStatus::Completed);
+}
+
+// They would be listed, and not be erased with the rest.
+void TestRecycleBinFlow::dropsOnTheShownBinAreIgnored()
+{
+    WindowFixture fixture;
+    addTrash(fixture, 3);
+    fixture.window->onRecycleBinWipeClicked();
+    QTRY_VERIFY(fixture.button(u"Next →"_s)->isEnabled());
+    auto *page = fixture.window->findChild<FileSelectPage *>();
+    QMimeData files;
+    files.setUrls({QUrl::fromLocalFile(fixture.homePath(u"data"_s))});
+    QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
+    drop.ignore();
+    QApplication::sendEvent(page->list()->viewport(), &drop);
+    QVERIFY(!drop.isAccepted());
+    QCOMPARE(page->list()->count(), 3);
+    QVERIFY(page->files().isEmpty());
 }
 
 void TestRecycleBinFlow::backFromTheMethodsKeepsTheBin()

@@ -9,6 +9,8 @@
 #include <QTextEdit>
 #include <QTreeWidget>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 // Jobs from the first click to the completion dialog, with the real engine and workers.
@@ -32,6 +34,7 @@ private slots:
     void theCertificateOpensFromTheCompletionDialog();
     void theCertificateOpensFromTheHistory();
     void aDatabaseThatDoesNotTakeTheReportIsTold();
+    void aReportThatIsNotThereHasNoCertificate();
     void comingBackDoesNotDoubleTheFiles();
 
 private:
@@ -228,7 +231,18 @@ void TestWipeFlows::withoutReportsNothingIsStoredOrExported()
     fixture.settings.set(usersettings::AutoExport, true);
     fixture.settings.set(usersettings::ExportPath, exports.path());
     chooseDisk(fixture);
-    fixture.runJob();
+    bool hasCertificate = true;
+    const auto look = [&hasCertificate](QDialog &dialog) {
+        const QList<QPushButton *> buttons = dialog.findChildren<QPushButton *>();
+        hasCertificate = std::ranges::any_of(
+            buttons, [](const QPushButton *button) { return button->text() == u"View Certificate"; });
+        WindowFixture::pressButton(u"Done"_s)(dialog);
+    };
+    fixture.dialogs.answers = {WindowFixture::typeErase, look};
+    QVERIFY(fixture.click(u"Start"_s));
+    QTRY_COMPARE_WITH_TIMEOUT(fixture.reports().size() + fixture.dialogs.answers.size(), 0, 60000);
+    QTRY_COMPARE(fixture.window->currentPage(), int(MainWindow::Home));
+    QVERIFY(!hasCertificate);
     QCOMPARE(fixture.reports().size(), 0);
     QVERIFY(QDir(exports.path()).isEmpty());
 }
@@ -302,9 +316,38 @@ void TestWipeFlows::aDatabaseThatDoesNotTakeTheReportIsTold()
     WindowFixture fixture({path});
     chooseDisk(fixture);
     ReportDatabase::instance().close();
-    fixture.runJob();
+    QString told;
+    QString shown;
+    const auto view = [&told](QDialog &dialog) {
+        const QList<QLabel *> labels = dialog.findChildren<QLabel *>();
+        for (const QLabel *label : labels) {
+            if (label->text().startsWith(u"QVX-"))
+                told = label->text();
+        }
+        WindowFixture::pressButton(u"View Certificate"_s)(dialog);
+    };
+    const auto look = [&shown](QDialog &dialog) {
+        shown = dialog.windowTitle();
+        dialog.reject();
+    };
+    fixture.dialogs.answers = {WindowFixture::typeErase, view, look};
+    QVERIFY(fixture.click(u"Start"_s));
+    QTRY_VERIFY_WITH_TIMEOUT(
+        fixture.dialogs.answers.isEmpty() && fixture.window->currentPage() == MainWindow::Home, 60000);
     QCOMPARE(fixture.prompts.boxes.size(), 1);
     QCOMPARE(fixture.prompts.boxes.constFirst().icon, QMessageBox::Warning);
+    // The certificate of this job, not of a report that is not there.
+    QVERIFY(!told.isEmpty());
+    QCOMPARE(shown, u"Erasure Certificate - "_s + told);
+}
+
+void TestWipeFlows::aReportThatIsNotThereHasNoCertificate()
+{
+    WindowFixture fixture;
+    fixture.window->onViewCertificate(u"QVX-2026-0101-0001"_s);
+    QCOMPARE(fixture.prompts.boxes.size(), 1);
+    QCOMPARE(fixture.prompts.boxes.constFirst().title, u"Report Not Found"_s);
+    QCOMPARE(fixture.dialogs.titles.size(), 0);
 }
 
 void TestWipeFlows::comingBackDoesNotDoubleTheFiles()

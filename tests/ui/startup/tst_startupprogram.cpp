@@ -124,6 +124,7 @@ void TestStartupProgram::prepare(const QStringList &steps)
 
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(u"HOME"_s, m_home->path());
+    environment.remove(u"COMPUTERNAME"_s);
     environment.insert(u"XDG_DATA_HOME"_s, home(u"data"_s));
     environment.insert(u"XDG_CONFIG_HOME"_s, home(u"config"_s));
     environment.insert(u"XDG_CONFIG_DIRS"_s, home(u"config"_s));
@@ -236,6 +237,7 @@ void TestStartupProgram::bearsItsNamesAndItsFont()
     const QString domain = run.value(u"domain").toString();
     QVERIFY2(QRegularExpression(u"^[a-z0-9-]+(\\.[a-z0-9-]+)+$"_s).match(domain).hasMatch(),
              qPrintable(domain));
+    QCOMPARE(run.value(u"computer").toString(), QSysInfo::machineHostName());
     QCOMPARE(run.value(u"scaling").toInt(), int(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough));
     QCOMPARE(run.value(u"font").toString(), u"Segoe UI"_s);
     QCOMPARE(run.value(u"fontSize").toInt(), 10);

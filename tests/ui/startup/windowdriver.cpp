@@ -55,6 +55,7 @@ QJsonObject describe(const QWidget &window)
         {u"version"_s, QCoreApplication::applicationVersion()},
         {u"organisation"_s, QCoreApplication::organizationName()},
         {u"domain"_s, QCoreApplication::organizationDomain()},
+        {u"computer"_s, qEnvironmentVariable("COMPUTERNAME")},
         {u"scaling"_s, static_cast<int>(QGuiApplication::highDpiScaleFactorRoundingPolicy())},
         {u"font"_s, font.family()},
         {u"fontSize"_s, font.pointSize()},
