@@ -22,6 +22,8 @@ private slots:
     void aFailedJobIsStoredToo();
     void aDatabaseThatCannotBeOpenedStopsBeforeAnythingIs();
     void withNoReportABadDatabaseDoesNotMatter();
+    void theLogInWhatIsErasedIsRefused();
+    void whatWasNotReadBackIsNotCalledSo();
     void aDatabaseInWhatIsErasedIsRefused();
     void aReportThatCannotBeStoredIsToldAndTheResultToo();
 
@@ -190,6 +192,30 @@ void TestCliReports::withNoReportABadDatabaseDoesNotMatter()
     QVERIFY(writeFile(run.folder() + u"/quorvex.db"_s, QByteArray(4096, 'n')));
     run(wipeDrive({u"--no-report"_s}));
     QCOMPARE(run.code, 0);
+}
+
+void TestCliReports::theLogInWhatIsErasedIsRefused()
+{
+    CliRun run;
+    QVERIFY(writeFile(run.folder() + u"/secret.txt"_s, "secret"));
+    run({u"wipe"_s, u"files"_s, run.folder(), u"--yes"_s, u"--no-report"_s});
+    QCOMPARE(run.code, 3);
+    QVERIFY2(run.complains("the program's log in "), run.io.err.constData());
+    QCOMPARE(contentOf(run.folder() + u"/secret.txt"_s), QByteArray("secret"));
+}
+
+void TestCliReports::whatWasNotReadBackIsNotCalledSo()
+{
+    MemoryMachine machine;
+    addDrive(machine);
+    CliRun run;
+    run(wipeDrive({u"--no-verify"_s, u"--json"_s}));
+    QCOMPARE(run.code, 0);
+    const QString id = run.io.events().constLast().value(u"certificateId").toString();
+    TestIo io;
+    QCOMPARE(cli::runCli({u"reports"_s, u"show"_s, id, u"--data-dir"_s, run.folder()}, io, SourceTexts), 0);
+    QVERIFY2(io.out.contains("not read back"), io.out.constData());
+    QVERIFY(!io.out.contains("passed"));
 }
 
 void TestCliReports::aDatabaseInWhatIsErasedIsRefused()

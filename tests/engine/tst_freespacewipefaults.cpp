@@ -30,6 +30,8 @@ private slots:
     void fillFileThatCannotBeCreatedOnALostVolumeFails_data();
     void fillFileThatCannotBeCreatedOnALostVolumeFails();
     void fillFileThatCannotBeRemovedDoesNotStopTheOthers();
+    void roomThatIsNotGivenIsTold();
+    void roomThatOthersGiveBackIsNoCompression();
     void volumeThatCompressesIsNotFilledForEver();
     void volumeThatCompressesALittleIsFilledInEveryPass();
     void spaceThatComesBackLateIsWaitedFor();
@@ -475,6 +477,40 @@ void TestFreeSpaceWipeFaults::fillFileThatCannotBeRemovedDoesNotStopTheOthers()
     const QStringList left = fillFilesLeft(machine.volume);
     QCOMPARE(left.size(), 1);
     QVERIFY(left.first().endsWith(u"/fill_000001.tmp"_s));
+}
+
+// A quota, or what is kept for the administrator: there is room that this job does not get.
+void TestFreeSpaceWipeFaults::roomThatIsNotGivenIsTold()
+{
+    Machine machine;
+    furnish(machine.volume, Reserve + 5 * MiB);
+    FaultPlan plan(FaultPlan::Write, 1, platform::DiskFull);
+    machine.volume.setPlan(&plan);
+    Job job;
+    prepare(job);
+    job.setPasses({{PatternType::Zeros}});
+    job.run();
+    QVERIFY(job.succeeded());
+    QCOMPARE(plan.fired(), 1);
+    QVERIFY(job.logged(u"警告: 文件系统不再接受数据，仍有 5.00 MB 空闲空间未填满"_s, 1));
+}
+
+void TestFreeSpaceWipeFaults::roomThatOthersGiveBackIsNoCompression()
+{
+    Machine machine;
+    furnish(machine.volume, Reserve + 60 * MiB);
+    bool isGiven = false;
+    machine.volume.onCall = [&](FaultPlan::Kind kind, const QString &) {
+        if (kind == FaultPlan::Flush && !std::exchange(isGiven, true))
+            machine.volume.freeBytes[Root] += 3 * GiB;
+    };
+    Job job;
+    prepare(job);
+    job.setPasses({{PatternType::Zeros}});
+    job.task.setBufferSizeMB(16);
+    job.run();
+    QVERIFY(job.succeeded());
+    QCOMPARE(job.wipedSectors(), static_cast<quint64>((60 * MiB + 3 * GiB) / 512));
 }
 
 void TestFreeSpaceWipeFaults::volumeThatCompressesIsNotFilledForEver()
