@@ -1,5 +1,7 @@
 #include "engine/freespacefixture.h"
 
+#include <utility>
+
 using namespace freespace;
 using namespace Qt::StringLiterals;
 
