@@ -9,8 +9,11 @@
 #include <QUrl>
 
 #include <cmath>
+
+#ifdef Q_OS_UNIX
 #include <fcntl.h>
 #include <unistd.h>
+#endif
 
 using namespace Qt::StringLiterals;
 
@@ -214,6 +217,7 @@ void TestRecycleBinFlow::namesOfErasedFoldersLeaveTheRecords()
 
 void TestRecycleBinFlow::aNameThatIsNoUnicodeIsErasedToo()
 {
+#ifdef Q_OS_UNIX
     WindowFixture fixture;
     addTrash(fixture, 1);
     const QByteArray name("caf\xe9.txt");
@@ -234,6 +238,9 @@ void TestRecycleBinFlow::aNameThatIsNoUnicodeIsErasedToo()
     QVERIFY(QDir(trash(fixture, u"files"_s)).isEmpty(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot));
     QVERIFY(QDir(trash(fixture, u"info"_s)).isEmpty(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot));
     QCOMPARE(fixture.reports().constFirst().status, WipeStatus::Completed);
+#else
+    QSKIP("names are Unicode on Windows");
+#endif
 }
 
 // They would be listed, and not be erased with the rest.
