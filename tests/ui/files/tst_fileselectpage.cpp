@@ -354,12 +354,15 @@ void tst_FileSelectPage::theOrderIsThatOfAdding()
 void tst_FileSelectPage::theTipIsTheWholePath()
 {
     const QString plain = written(u"a&b"_s);
-    const QString markup = written(u"<b>bold.txt"_s);
     Shown shown;
-    add(shown.page, {plain, markup});
+    add(shown.page, {plain});
     QCOMPARE(shown.list.item(0)->toolTip(), plain);
-    // What a tool tip takes for rich text shows itself.
+#ifdef Q_OS_UNIX
+    // What a tool tip takes for rich text shows itself. No name of Windows holds such signs.
+    const QString markup = written(u"<b>bold.txt"_s);
+    add(shown.page, {markup});
     QCOMPARE(QTextDocumentFragment::fromHtml(shown.list.item(1)->toolTip()).toPlainText(), markup);
+#endif
 }
 
 void tst_FileSelectPage::dropping_data()
