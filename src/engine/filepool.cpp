@@ -96,14 +96,12 @@ void FilePool::finish(Batch &batch)
 {
     QMutexLocker locker(&batch.mutex);
     while (batch.hasLeft() || batch.running > 0) {
-        if (!m_hasThreads && batch.running > 0) {
-            // A thread that came late after all.
-            batch.changed.wait(&batch.mutex);
-            continue;
+        // Whoever is at work, even a thread that came late, tells when it is through.
+        if (m_hasThreads || batch.running > 0) {
+            const QDeadlineTimer patience(ThreadPatience);
+            if (batch.changed.wait(&batch.mutex, patience) || batch.running > 0)
+                continue;
         }
-        const bool changed = m_hasThreads && batch.changed.wait(&batch.mutex, QDeadlineTimer(ThreadPatience));
-        if (changed || batch.running > 0)
-            continue;
         // Nobody is at work: from here on this thread is, for this batch and those to come.
         m_hasThreads = false;
         locker.unlock();

@@ -10,6 +10,8 @@
 using namespace Qt::StringLiterals;
 
 namespace {
+QString s_firstLogFile;
+
 QString levelName(LogLevel level)
 {
     switch (level) {
@@ -43,10 +45,6 @@ void echo(LogLevel level, const QString &line)
     }
 }
 } // namespace
-
-namespace {
-QString s_firstLogFile;
-}
 
 void AppLog::setFirstLogFile(const QString &path)
 {

@@ -208,7 +208,7 @@ void TestMainWindow::theWindowIsDraggedByItsTop()
     QFETCH(bool, moves);
 #ifdef Q_OS_WIN
     if (moves)
-        QSKIP("Windows moves the window itself, along with a real cursor only");
+        QSKIP("SKIPPED: Windows moves the window itself, along with a real cursor only");
 #endif
     WindowFixture fixture;
     QVERIFY(QTest::qWaitForWindowExposed(fixture.window.get()));

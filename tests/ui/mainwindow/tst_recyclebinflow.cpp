@@ -239,7 +239,7 @@ void TestRecycleBinFlow::aNameThatIsNoUnicodeIsErasedToo()
     QVERIFY(QDir(trash(fixture, u"info"_s)).isEmpty(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot));
     QCOMPARE(fixture.reports().constFirst().status, WipeStatus::Completed);
 #else
-    QSKIP("names are Unicode on Windows");
+    QSKIP("SKIPPED: names are Unicode on Windows");
 #endif
 }
 
