@@ -25,6 +25,8 @@ else()
   if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     # Clang has them under no name of their own, and refuses these.
     target_compile_options(quorvex_flags INTERFACE -Wduplicated-cond -Wlogical-op)
+    # What ccache compares then tells which precompiled header was used.
+    target_compile_options(quorvex_flags INTERFACE -fpch-preprocess)
   endif()
   # Also when linking: with MinGW what it calls is a library of its own.
   target_link_options(quorvex_flags INTERFACE -fstack-protector-strong)

@@ -10,10 +10,19 @@ set(QUORVEX_LAYER_certificate model prompts)
 set(QUORVEX_LAYER_ui model platform engine services prompts certificate)
 set(QUORVEX_LAYER_cli model platform engine services certificate)
 
-# quorvex_layer(NAME [SOURCES file...] [LIBRARIES library...])
+# quorvex_layer(NAME [MOC] [RCC] [SOURCES file...] [LIBRARIES library...])
+#
+# MOC: it has signals, slots or properties; RCC: it carries resources. Both take their time at every build, so only
+# layers that have something for them ask for them.
 function(quorvex_layer name)
-  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LIBRARIES")
+  cmake_parse_arguments(PARSE_ARGV 1 arg "MOC;RCC" "" "SOURCES;LIBRARIES")
   add_library(quorvex_${name} STATIC ${arg_SOURCES})
+  set_target_properties(quorvex_${name} PROPERTIES AUTOMOC ${arg_MOC} AUTORCC ${arg_RCC})
+  if("Qt6::Widgets" IN_LIST arg_LIBRARIES)
+    target_precompile_headers(quorvex_${name} REUSE_FROM quorvex_precompiled_widgets)
+  else()
+    target_precompile_headers(quorvex_${name} REUSE_FROM quorvex_precompiled_core)
+  endif()
   target_include_directories(quorvex_${name} PUBLIC "${PROJECT_SOURCE_DIR}/src")
   target_link_libraries(quorvex_${name} PUBLIC quorvex_flags Qt6::Core ${arg_LIBRARIES})
   foreach(lower IN LISTS QUORVEX_LAYER_${name})

@@ -1,25 +1,83 @@
-# quorvex_test(NAME LABEL label SOURCES file... [LIBRARIES library...] [NEEDS_ROOT] [TIMEOUT seconds])
+# Suites and the programs that hold them.
 #
-# One program per suite. Labels: unit, contract, fault, residue, cli, gui. Suites that need root or loop devices carry
-# NEEDS_ROOT, and share one lock, since they attach devices and mount file systems.
-function(quorvex_test name)
-  cmake_parse_arguments(PARSE_ARGV 1 arg "NEEDS_ROOT" "LABEL;TIMEOUT" "SOURCES;LIBRARIES")
-  add_executable(${name} ${arg_SOURCES})
-  target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}/tests")
-  target_link_libraries(${name} PRIVATE quorvex_flags Qt6::Test ${arg_LIBRARIES})
+# Suites of one subject share a program, since linking one for each takes as long as compiling it: "quorvex-tests-engine
+# tst_wipeengine" runs that suite, with the arguments of Qt Test after its name. Each suite is a test of its own for
+# ctest, and runs in a process of its own.
+
+# Suites around what is tested compile in half the time with this; what is tested is compiled as users get it.
+function(quorvex_test_options target)
   if(NOT MSVC)
-    # What is tested is compiled as users get it; the suites around it compile in half the time with this.
-    target_compile_options(${name} PRIVATE -O1 -g1)
+    target_compile_options(${target} PRIVATE -O1 -g1)
   endif()
-  add_test(NAME ${name} COMMAND ${name})
+endfunction()
+
+# Where a suite's data lie, which none of ours asks: they differ from folder to folder, and so a precompiled header would
+# hold for one folder only.
+get_target_property(definitions Qt6::Test INTERFACE_COMPILE_DEFINITIONS)
+list(FILTER definitions EXCLUDE REGEX "^QT_TESTCASE_")
+set_target_properties(Qt6::Test PROPERTIES INTERFACE_COMPILE_DEFINITIONS "${definitions}")
+
+quorvex_precompiled_test_headers()
+
+# quorvex_test_program(NAME [WIDGETS] [SOURCES file...] [LIBRARIES library...])
+#
+# A program for suites; the sources are what they share. WIDGETS: it links Qt Widgets, by itself or through a library.
+function(quorvex_test_program name)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "WIDGETS" "" "SOURCES;LIBRARIES")
+  add_executable(${name} ${arg_SOURCES})
+  set_target_properties(${name} PROPERTIES AUTOMOC ON)
+  target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}/tests")
+  target_link_libraries(${name} PRIVATE quorvex_flags quorvex_testsupport Qt6::Test ${arg_LIBRARIES})
+  quorvex_test_options(${name})
+  if(arg_WIDGETS AND QUORVEX_GUI)
+    target_precompile_headers(${name} REUSE_FROM quorvex_precompiled_widget_tests)
+  else()
+    target_precompile_headers(${name} REUSE_FROM quorvex_precompiled_tests)
+  endif()
+  add_dependencies(quorvex_tests ${name})
+endfunction()
+
+# Everything that the tests of this build run; the programs they start are added where they are started.
+add_custom_target(quorvex_tests)
+
+# quorvex_suite(FILE PROGRAM program LABEL label [NAME name] [NEEDS_ROOT] [TIMEOUT seconds] [ENVIRONMENT name=value...])
+#
+# FILE is the suite's source without ".cpp", and its last part the suite's name; NAME is the test's where it is another,
+# for a suite that runs more than once. Labels: unit, contract, fault, residue, cli, gui, windows. Suites that need root
+# or loop devices carry NEEDS_ROOT, and share one lock, since they attach devices and mount file systems.
+function(quorvex_suite file)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "NEEDS_ROOT" "PROGRAM;LABEL;NAME;TIMEOUT" "ENVIRONMENT")
+  get_filename_component(suite "${file}" NAME)
+  if(NOT arg_NAME)
+    set(arg_NAME ${suite})
+  endif()
+  get_target_property(sources ${arg_PROGRAM} SOURCES)
+  set(source "${CMAKE_CURRENT_SOURCE_DIR}/${file}.cpp")
+  if(NOT source IN_LIST sources)
+    target_sources(${arg_PROGRAM} PRIVATE "${source}")
+  endif()
+  add_test(NAME ${arg_NAME} COMMAND ${arg_PROGRAM} ${suite})
   if(NOT arg_TIMEOUT)
     set(arg_TIMEOUT 300)
   endif()
-  set_tests_properties(${name} PROPERTIES
+  set_tests_properties(${arg_NAME} PROPERTIES
     LABELS "${arg_LABEL}"
     TIMEOUT ${arg_TIMEOUT}
-    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8")
+    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;${arg_ENVIRONMENT}")
   if(arg_NEEDS_ROOT)
-    set_tests_properties(${name} PROPERTIES RESOURCE_LOCK block_devices)
+    set_tests_properties(${arg_NAME} PROPERTIES RESOURCE_LOCK block_devices)
+  endif()
+endfunction()
+
+# quorvex_device_fault_suite(NAME PROGRAM program): a suite on devices that fail on command.
+function(quorvex_device_fault_suite name)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "PROGRAM" "")
+  if(QUORVEX_TEST_FUSE)
+    target_link_libraries(${arg_PROGRAM} PRIVATE quorvex_testfuse)
+    quorvex_suite(${name} PROGRAM ${arg_PROGRAM} LABEL fault NEEDS_ROOT)
+  else()
+    add_test(NAME ${name}
+      COMMAND "${CMAKE_COMMAND}" -E echo "SKIPPED: built without libfuse 3 (pkg-config, libfuse3-dev)")
+    set_tests_properties(${name} PROPERTIES LABELS fault SKIP_REGULAR_EXPRESSION "SKIPPED: ")
   endif()
 endfunction()

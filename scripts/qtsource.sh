@@ -2,7 +2,10 @@
 # Qt built from Debian's own source package, once for each set of options: sourced by the scripts that say which.
 #
 # The result lies outside the checkout, in ${QUORVEX_CACHE:-${XDG_CACHE_HOME:-~/.cache}/quorvex}/<name>-<key>, so that
-# the next clone finds it, and is linked into it as .cache/<name>, where the presets look.
+# the next clone finds it, and is linked into it as .cache/<name>, where the presets look. A finished build from
+# elsewhere is taken instead where a variable of the environment names its folder: QUORVEX_QT_WINDOWS, QUORVEX_QT_TSAN.
+# Each result carries a file that says which Qt it is, by which compiler and with which options, and one that says
+# anything else is refused.
 # shellcheck source=lib.sh
 source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
 
@@ -48,6 +51,7 @@ qt_common_options=(
     -DQT_BUILD_BENCHMARKS=OFF
     -DFEATURE_network=OFF
     -DFEATURE_dbus=OFF
+    -DFEATURE_xml=OFF
     -DFEATURE_sql_mysql=OFF
     -DFEATURE_sql_psql=OFF
     -DFEATURE_sql_odbc=OFF
@@ -56,15 +60,41 @@ qt_common_options=(
     -DFEATURE_sql_ibase=OFF
 )
 
-# provide_qt NAME WHAT MINUTES FUNCTION KEY_TEXT...: runs the function unless the cache has its result. It finds the
+# What a build of Qt says of itself, in the file of this name at its top.
+qt_description_name=quorvex-qt.txt
+
+# describe_qt KEY_TEXT...: one line for each thing that the result depends on.
+describe_qt() {
+    printf '%s\n' "Qt $qt_version" "$@"
+}
+
+# check_qt FOLDER: whether that is the build that would be made here.
+check_qt() {
+    local found=$1/$qt_description_name
+    [[ -f $found ]] || fail "$1 is no finished build of Qt: it has no $qt_description_name"
+    diff --unified=0 --label "$found" "$found" --label "wanted here" - <<<"$qt_description" >&2 ||
+        fail "$1 is another build of Qt than this checkout needs"
+}
+
+# provide_qt NAME WHAT MINUTES FUNCTION KEY_TEXT...: runs the function unless there is its result already. It finds the
 # folder to work in as $work and the final folder as $prefix, and stages into $work/stage$prefix. What the result
 # depends on beside Qt's version stands in the texts.
 provide_qt() {
-    local name=$1 what=$2 minutes=$3 function=$4 home=~ cache log status
+    local name=$1 what=$2 minutes=$3 function=$4 home=~ cache log status given began=$SECONDS
     shift 4
     cache=${QUORVEX_CACHE:-${XDG_CACHE_HOME:-$home/.cache}/quorvex}
     qt_version=$(dpkg-query -W -f '${source:Version}' qt6-base-dev)
-    prefix=$cache/$name-$qt_version-$(printf '%s\n' "$@" | sha256sum | head -c 12)
+    qt_description=$(describe_qt "$@")
+    given=${name^^}
+    given=QUORVEX_${given//-/_}
+    mkdir -p "$root/.cache"
+    if [[ -n ${!given:-} ]]; then
+        check_qt "${!given}"
+        ln -sfn "$(cd "${!given}" && pwd -P)" "$root/.cache/$name"
+        printf '%s: taken from %s\n' "$what" "${!given}"
+        return
+    fi
+    prefix=$cache/$name-$qt_version-$(sha256sum <<<"$qt_description" | head -c 12)
 
     mkdir -p "$cache"
     exec 9>"$cache/$name.lock"
@@ -72,7 +102,10 @@ provide_qt() {
         printf 'Waiting for another build of %s\n' "$what"
         flock 9
     fi
-    if [[ ! -d $prefix ]]; then
+    if [[ -d $prefix ]]; then
+        check_qt "$prefix"
+        printf '%s: built before\n' "$what"
+    else
         # Only the holder of the lock builds, so these are what a killed build left.
         rm -rf "$cache/$name"-build.*
         work=$(mktemp -d "$cache/$name-build.XXXXXX")
@@ -91,8 +124,10 @@ provide_qt() {
             tail -n 40 "$log" >&2
             fail "step '$what' failed (exit $status)"
         fi
+        printf '%s\n' "$qt_description" >"$work/stage$prefix/$qt_description_name"
         mv "$work/stage$prefix" "$prefix"
+        cp "$work/build/.ninja_log" "$cache/$name-build.ninja_log"
+        printf '%s: built in %d s\n' "$what" $((SECONDS - began))
     fi
-    mkdir -p "$root/.cache"
     ln -sfn "$prefix" "$root/.cache/$name"
 }

@@ -15,6 +15,33 @@ options=(
     -DFEATURE_vulkan=OFF
     # Debian's source package comes without the header of the tablet interface and without SQLite.
     -DFEATURE_tabletevent=OFF
+    # A second way to draw windows, and pictures that no page shows.
+    -DFEATURE_direct2d=OFF
+    -DFEATURE_gif=OFF
+    -DFEATURE_jpeg=OFF
+    # Widgets and dialogs that the program has none of.
+    -DFEATURE_calendarwidget=OFF
+    -DFEATURE_colordialog=OFF
+    -DFEATURE_columnview=OFF
+    -DFEATURE_datawidgetmapper=OFF
+    -DFEATURE_datetimeedit=OFF
+    -DFEATURE_dial=OFF
+    -DFEATURE_dockwidget=OFF
+    -DFEATURE_errormessage=OFF
+    -DFEATURE_fontcombobox=OFF
+    -DFEATURE_fontdialog=OFF
+    -DFEATURE_keysequenceedit=OFF
+    -DFEATURE_lcdnumber=OFF
+    -DFEATURE_mdiarea=OFF
+    -DFEATURE_printpreviewwidget=OFF
+    -DFEATURE_splashscreen=OFF
+    -DFEATURE_syntaxhighlighter=OFF
+    -DFEATURE_textmarkdownreader=OFF
+    -DFEATURE_textmarkdownwriter=OFF
+    -DFEATURE_textodfwriter=OFF
+    -DFEATURE_toolbox=OFF
+    -DFEATURE_undoview=OFF
+    -DFEATURE_wizard=OFF
     -DFEATURE_sql_sqlite=ON
     -DFEATURE_system_sqlite=ON
 )
@@ -45,4 +72,4 @@ build_windows_qt() {
 
 install_packages "${packages_qt_source[@]}" "${packages_windows[@]}"
 provide_qt qt-windows "Qt for Windows" twenty build_windows_qt \
-    "$(x86_64-w64-mingw32-g++-posix -dumpfullversion)" "${options[@]}"
+    "x86_64-w64-mingw32-g++-posix $(x86_64-w64-mingw32-g++-posix -dumpfullversion)" "${options[@]}"

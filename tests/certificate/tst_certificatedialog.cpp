@@ -1,5 +1,6 @@
 #include "pages.h"
 #include "pdfreader.h"
+#include "support/suite.h"
 
 #include "certificate/certificatedialog.h"
 #include "model/markingtranslator.h"
@@ -114,7 +115,7 @@ QByteArray bytesOf(const QString &path)
 
 } // namespace
 
-class TestCertificateDialog : public QObject
+class tst_CertificateDialog : public QObject
 {
     Q_OBJECT
 
@@ -153,7 +154,7 @@ private:
     TemporarySettings m_settings;
 };
 
-void TestCertificateDialog::windowIsAsTallAsItMustBe()
+void tst_CertificateDialog::windowIsAsTallAsItMustBe()
 {
     const CertificateDialog dialog(filledReport());
     QCOMPARE(dialog.windowTitle(), u"Erasure Certificate - QVX-2026-0305-4821"_s);
@@ -163,7 +164,7 @@ void TestCertificateDialog::windowIsAsTallAsItMustBe()
     QVERIFY(dialog.findChild<QScrollArea *>()->widgetResizable());
 }
 
-void TestCertificateDialog::headerAndIdentityAreShown()
+void tst_CertificateDialog::headerAndIdentityAreShown()
 {
     const CertificateDialog dialog(filledReport());
     const QList<std::pair<QString, QString>> expected{
@@ -190,7 +191,7 @@ void TestCertificateDialog::headerAndIdentityAreShown()
     QVERIFY(hasSeparator);
 }
 
-void TestCertificateDialog::timeIsThatOfTheView()
+void tst_CertificateDialog::timeIsThatOfTheView()
 {
     QString second;
     bool found = false;
@@ -207,7 +208,7 @@ void TestCertificateDialog::timeIsThatOfTheView()
     QVERIFY(labelWith(later, second) == nullptr);
 }
 
-void TestCertificateDialog::diskJobHasAllSections()
+void tst_CertificateDialog::diskJobHasAllSections()
 {
     WipeReport report = filledReport();
     report.disk.serialNumber = u"S1-2"_s;
@@ -243,7 +244,7 @@ void TestCertificateDialog::diskJobHasAllSections()
     QCOMPARE(textOf(rowsOf(dialog)), textOf(expected));
 }
 
-void TestCertificateDialog::fileJobHasNoStorageAndShowsTheCount()
+void tst_CertificateDialog::fileJobHasNoStorageAndShowsTheCount()
 {
     WipeReport report = shortReport();
     report.wipeItems.clear();
@@ -261,7 +262,7 @@ void TestCertificateDialog::fileJobHasNoStorageAndShowsTheCount()
     QVERIFY(labelWith(dialog, u"Total Sectors:"_s) == nullptr);
 }
 
-void TestCertificateDialog::statusIsColouredOnlyWhenCompletedOrFailed_data()
+void tst_CertificateDialog::statusIsColouredOnlyWhenCompletedOrFailed_data()
 {
     QTest::addColumn<int>("status");
     QTest::addColumn<QString>("name");
@@ -275,7 +276,7 @@ void TestCertificateDialog::statusIsColouredOnlyWhenCompletedOrFailed_data()
     QTest::addRow("unknown") << 7 << u"Unknown"_s << QString::fromLatin1(plain);
 }
 
-void TestCertificateDialog::statusIsColouredOnlyWhenCompletedOrFailed()
+void tst_CertificateDialog::statusIsColouredOnlyWhenCompletedOrFailed()
 {
     QFETCH(int, status);
     QFETCH(QString, name);
@@ -287,7 +288,7 @@ void TestCertificateDialog::statusIsColouredOnlyWhenCompletedOrFailed()
     QCOMPARE(valueOf(dialog, u"Status:"_s).style, style);
 }
 
-void TestCertificateDialog::failedVerificationIsRed()
+void tst_CertificateDialog::failedVerificationIsRed()
 {
     WipeReport report = filledReport();
     report.verificationPassed = false;
@@ -295,7 +296,7 @@ void TestCertificateDialog::failedVerificationIsRed()
     QCOMPARE(valueOf(dialog, u"Result:"_s), row(u"Result:"_s, u"Failed ✗"_s, red));
 }
 
-void TestCertificateDialog::emptyHashLeavesOutItsRow()
+void tst_CertificateDialog::emptyHashLeavesOutItsRow()
 {
     WipeReport report = filledReport();
     report.dataHash.clear();
@@ -303,7 +304,7 @@ void TestCertificateDialog::emptyHashLeavesOutItsRow()
     QVERIFY(labelWith(dialog, u"Data Hash:"_s) == nullptr);
 }
 
-void TestCertificateDialog::stylesAreTheGivenOnes()
+void tst_CertificateDialog::stylesAreTheGivenOnes()
 {
     const CertificateDialog dialog(filledReport());
     QCOMPARE(dialog.findChild<QScrollArea *>()->widget()->styleSheet(), u"background-color: white;"_s);
@@ -324,7 +325,7 @@ void TestCertificateDialog::stylesAreTheGivenOnes()
              u"background-color: #f8fafc; border-top: 1px solid #e2e8f0;"_s);
 }
 
-void TestCertificateDialog::layoutsHaveTheGivenMargins()
+void tst_CertificateDialog::layoutsHaveTheGivenMargins()
 {
     const CertificateDialog dialog(filledReport());
     QCOMPARE(dialog.findChild<QScrollArea *>()->widget()->layout()->contentsMargins(),
@@ -351,7 +352,7 @@ void TestCertificateDialog::layoutsHaveTheGivenMargins()
 }
 
 // After the style was applied, which asks for other widths, also once more.
-void TestCertificateDialog::rowLabelsAre130PixelsWide()
+void tst_CertificateDialog::rowLabelsAre130PixelsWide()
 {
     CertificateDialog dialog(filledReport());
     dialog.show();
@@ -377,7 +378,7 @@ void TestCertificateDialog::rowLabelsAre130PixelsWide()
     qApp->setStyleSheet(QString());
 }
 
-void TestCertificateDialog::disclaimerIsShown()
+void tst_CertificateDialog::disclaimerIsShown()
 {
     const CertificateDialog dialog(filledReport());
     const QLabel *label = labelWith(
@@ -393,7 +394,7 @@ void TestCertificateDialog::disclaimerIsShown()
              "border-radius: 6px;"_s);
 }
 
-void TestCertificateDialog::textsAreTranslated()
+void tst_CertificateDialog::textsAreTranslated()
 {
     const MarkingTranslator translator;
     WipeReport failed = shortReport();
@@ -448,7 +449,7 @@ void TestCertificateDialog::textsAreTranslated()
         QVERIFY2(shown.contains(mark + text), qPrintable(text));
 }
 
-void TestCertificateDialog::valuesAreNeverRichText()
+void tst_CertificateDialog::valuesAreNeverRichText()
 {
     WipeReport report = filledReport();
     report.certificateId = u"<b>id</b>"_s;
@@ -461,7 +462,7 @@ void TestCertificateDialog::valuesAreNeverRichText()
         QVERIFY2(label->textFormat() == Qt::PlainText, qPrintable(label->text()));
 }
 
-void TestCertificateDialog::longValuesFitTheWidth()
+void tst_CertificateDialog::longValuesFitTheWidth()
 {
     WipeReport report = filledReport();
     report.disk.model = QString(60, u'W') + u' ' + QString(60, u'M');
@@ -480,7 +481,7 @@ void TestCertificateDialog::longValuesFitTheWidth()
     QTRY_VERIFY(hash->height() < 2 * line);
 }
 
-void TestCertificateDialog::buttonsHaveStylesAndNames()
+void tst_CertificateDialog::buttonsHaveStylesAndNames()
 {
     const CertificateDialog dialog(filledReport());
     const QString primary = u"QPushButton {  background-color: #3b82f6;  color: white;  border: none;  "
@@ -510,7 +511,7 @@ void TestCertificateDialog::buttonsHaveStylesAndNames()
     QCOMPARE(dialog.findChildren<QPushButton *>().size(), 3);
 }
 
-void TestCertificateDialog::tabGoesThroughTheButtons()
+void tst_CertificateDialog::tabGoesThroughTheButtons()
 {
     CertificateDialog dialog(filledReport());
     dialog.show();
@@ -524,7 +525,7 @@ void TestCertificateDialog::tabGoesThroughTheButtons()
     }
 }
 
-void TestCertificateDialog::escapeAndCloseCloseTheDialog()
+void tst_CertificateDialog::escapeAndCloseCloseTheDialog()
 {
     CertificateDialog dialog(filledReport());
     dialog.show();
@@ -536,7 +537,7 @@ void TestCertificateDialog::escapeAndCloseCloseTheDialog()
     QVERIFY(!dialog.isVisible());
 }
 
-void TestCertificateDialog::proposalIsTheBareNameWithoutAFolder_data()
+void tst_CertificateDialog::proposalIsTheBareNameWithoutAFolder_data()
 {
     QTest::addColumn<QString>("folder");
     QTest::addRow("unset") << QString();
@@ -544,7 +545,7 @@ void TestCertificateDialog::proposalIsTheBareNameWithoutAFolder_data()
     QTest::addRow("a file") << QCoreApplication::applicationFilePath();
 }
 
-void TestCertificateDialog::proposalIsTheBareNameWithoutAFolder()
+void tst_CertificateDialog::proposalIsTheBareNameWithoutAFolder()
 {
     QFETCH(QString, folder);
     m_settings.set(usersettings::ExportPath, folder);
@@ -554,7 +555,7 @@ void TestCertificateDialog::proposalIsTheBareNameWithoutAFolder()
     QCOMPARE(prompts.proposals, QStringList{u"QVX-2026-0305-4821.pdf"_s});
 }
 
-void TestCertificateDialog::proposalIsInTheFolderOfTheSettings()
+void tst_CertificateDialog::proposalIsInTheFolderOfTheSettings()
 {
     const QTemporaryDir folder;
     m_settings.set(usersettings::ExportPath, folder.path());
@@ -566,7 +567,7 @@ void TestCertificateDialog::proposalIsInTheFolderOfTheSettings()
     QCOMPARE(prompts.filters, QStringList{u"PDF Files (*.pdf)"_s});
 }
 
-void TestCertificateDialog::cancelledExportSaysNothing()
+void tst_CertificateDialog::cancelledExportSaysNothing()
 {
     ScriptedPrompts prompts;
     const CertificateDialog dialog(filledReport());
@@ -575,7 +576,7 @@ void TestCertificateDialog::cancelledExportSaysNothing()
     QVERIFY(prompts.boxes.isEmpty());
 }
 
-void TestCertificateDialog::exportWritesTheChosenFileAndTellsSo()
+void tst_CertificateDialog::exportWritesTheChosenFileAndTellsSo()
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"no extension"_s);
@@ -590,7 +591,7 @@ void TestCertificateDialog::exportWritesTheChosenFileAndTellsSo()
     QCOMPARE(prompts.boxes[0].text, u"Certificate exported to:\n"_s + path);
 }
 
-void TestCertificateDialog::failedExportWarns()
+void tst_CertificateDialog::failedExportWarns()
 {
     const QTemporaryDir folder;
     ScriptedPrompts prompts;
@@ -603,7 +604,7 @@ void TestCertificateDialog::failedExportWarns()
     QCOMPARE(prompts.boxes[0].text, u"Unable to export certificate. Please check file path permissions."_s);
 }
 
-void TestCertificateDialog::acceptedPrintPrintsOnThatPrinter()
+void tst_CertificateDialog::acceptedPrintPrintsOnThatPrinter()
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"printed.pdf"_s);
@@ -628,7 +629,7 @@ void TestCertificateDialog::acceptedPrintPrintsOnThatPrinter()
     QVERIFY(prompts.boxes.isEmpty());
 }
 
-void TestCertificateDialog::cancelledPrintDoesNothing()
+void tst_CertificateDialog::cancelledPrintDoesNothing()
 {
     const QTemporaryDir folder;
     ScriptedPrompts prompts;
@@ -643,7 +644,7 @@ void TestCertificateDialog::cancelledPrintDoesNothing()
     QVERIFY(prompts.boxes.isEmpty());
 }
 
-void TestCertificateDialog::failedPrintIsNotReported()
+void tst_CertificateDialog::failedPrintIsNotReported()
 {
     const QTemporaryDir folder;
     ScriptedPrompts prompts;
@@ -658,7 +659,7 @@ void TestCertificateDialog::failedPrintIsNotReported()
     QVERIFY(prompts.boxes.isEmpty());
 }
 
-void TestCertificateDialog::copyOfTheReportIsKept()
+void tst_CertificateDialog::copyOfTheReportIsKept()
 {
     WipeReport report = filledReport();
     ScriptedPrompts prompts;
@@ -669,5 +670,5 @@ void TestCertificateDialog::copyOfTheReportIsKept()
     QCOMPARE(prompts.proposals, QStringList{u"QVX-2026-0305-4821.pdf"_s});
 }
 
-QTEST_MAIN(TestCertificateDialog)
+QUORVEX_SUITE(tst_CertificateDialog, QApplication)
 #include "tst_certificatedialog.moc"

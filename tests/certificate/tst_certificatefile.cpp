@@ -1,4 +1,5 @@
 #include "pages.h"
+#include "support/suite.h"
 
 #include "certificate/certificaterenderer.h"
 
@@ -102,7 +103,7 @@ private:
 
 } // namespace
 
-class TestCertificateFile : public QObject
+class tst_CertificateFile : public QObject
 {
     Q_OBJECT
 
@@ -125,7 +126,7 @@ private slots:
 #endif
 };
 
-void TestCertificateFile::newFileIsWritten()
+void tst_CertificateFile::newFileIsWritten()
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"证书 100% &.pdf"_s);
@@ -134,7 +135,7 @@ void TestCertificateFile::newFileIsWritten()
     QCOMPARE(entriesOf(folder.path()).size(), 1);
 }
 
-void TestCertificateFile::existingFileIsReplaced()
+void tst_CertificateFile::existingFileIsReplaced()
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"c.pdf"_s);
@@ -144,26 +145,26 @@ void TestCertificateFile::existingFileIsReplaced()
     QCOMPARE(entriesOf(folder.path()), QStringList{u"c.pdf"_s});
 }
 
-void TestCertificateFile::nameIsTakenAsItIs()
+void tst_CertificateFile::nameIsTakenAsItIs()
 {
     const QTemporaryDir folder;
     QVERIFY(exportTo(folder.filePath(u"certificate"_s)));
     QCOMPARE(entriesOf(folder.path()), QStringList{u"certificate"_s});
 }
 
-void TestCertificateFile::missingFolderFails()
+void tst_CertificateFile::missingFolderFails()
 {
     const QTemporaryDir folder;
     QVERIFY(!exportTo(folder.filePath(u"missing/c.pdf"_s)));
     QVERIFY(entriesOf(folder.path()).isEmpty());
 }
 
-void TestCertificateFile::emptyNameFails()
+void tst_CertificateFile::emptyNameFails()
 {
     QVERIFY(!exportTo(QString()));
 }
 
-void TestCertificateFile::folderInThePlaceOfTheFileFails()
+void tst_CertificateFile::folderInThePlaceOfTheFileFails()
 {
     const QTemporaryDir folder;
     QVERIFY(QDir(folder.path()).mkdir(u"c.pdf"_s));
@@ -175,7 +176,7 @@ void TestCertificateFile::folderInThePlaceOfTheFileFails()
 }
 
 #ifdef Q_OS_LINUX
-void TestCertificateFile::readOnlyFolderFails()
+void tst_CertificateFile::readOnlyFolderFails()
 {
     const QTemporaryDir folder;
     QVERIFY(AsNobody::give(folder.path()));
@@ -194,7 +195,7 @@ void TestCertificateFile::readOnlyFolderFails()
 }
 
 // In a process of its own, which can become somebody else for good.
-void TestCertificateFile::readOnlyFileFails()
+void tst_CertificateFile::readOnlyFileFails()
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"c.pdf"_s);
@@ -217,7 +218,7 @@ void TestCertificateFile::readOnlyFileFails()
     QCOMPARE(bytesOf(path), previous);
 }
 
-void TestCertificateFile::fullDiskKeepsThePreviousFile()
+void tst_CertificateFile::fullDiskKeepsThePreviousFile()
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"c.pdf"_s);
@@ -239,7 +240,7 @@ void TestCertificateFile::fullDiskKeepsThePreviousFile()
 }
 
 // Killed by the kernel in the middle of the write.
-void TestCertificateFile::killedProgramKeepsThePreviousFile()
+void tst_CertificateFile::killedProgramKeepsThePreviousFile()
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"c.pdf"_s);
@@ -261,7 +262,7 @@ void TestCertificateFile::killedProgramKeepsThePreviousFile()
     QCOMPARE(bytesOf(path), previous);
 }
 
-void TestCertificateFile::deviceIsRefusedAndStays()
+void tst_CertificateFile::deviceIsRefusedAndStays()
 {
     for (const QString &device : {u"/dev/full"_s, u"/dev/null"_s}) {
         QVERIFY(!exportTo(device));
@@ -271,7 +272,7 @@ void TestCertificateFile::deviceIsRefusedAndStays()
     }
 }
 
-void TestCertificateFile::pipeIsRefusedAndStays()
+void tst_CertificateFile::pipeIsRefusedAndStays()
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"c.pdf"_s);
@@ -283,7 +284,7 @@ void TestCertificateFile::pipeIsRefusedAndStays()
     QCOMPARE(entriesOf(folder.path()), QStringList{u"c.pdf"_s});
 }
 
-void TestCertificateFile::linkIsFollowed()
+void tst_CertificateFile::linkIsFollowed()
 {
     const QTemporaryDir folder;
     const QString target = folder.filePath(u"real.pdf"_s);
@@ -295,7 +296,7 @@ void TestCertificateFile::linkIsFollowed()
     QVERIFY(isPdf(bytesOf(target)));
 }
 
-void TestCertificateFile::danglingLinkMakesItsFile()
+void tst_CertificateFile::danglingLinkMakesItsFile()
 {
     const QTemporaryDir folder;
     const QString target = folder.filePath(u"real.pdf"_s);
@@ -307,11 +308,5 @@ void TestCertificateFile::danglingLinkMakesItsFile()
 }
 #endif
 
-int main(int argc, char *argv[])
-{
-    QGuiApplication application(argc, argv);
-    TestCertificateFile test;
-    QTEST_SET_MAIN_SOURCE_PATH
-    return QTest::qExec(&test, argc, argv);
-}
+QUORVEX_SUITE(tst_CertificateFile, QGuiApplication)
 #include "tst_certificatefile.moc"

@@ -1,4 +1,5 @@
 #include "recordingdevice.h"
+#include "support/suite.h"
 
 #include "certificate/certificaterenderer.h"
 #include "model/filledreport.h"
@@ -385,7 +386,7 @@ private:
 
 } // namespace
 
-class TestCertificatePage : public QObject
+class tst_CertificatePage : public QObject
 {
     Q_OBJECT
 
@@ -408,7 +409,7 @@ private slots:
     void everyLanguageHasItsCharacters();
 };
 
-void TestCertificatePage::everythingLiesInItsPlace_data()
+void tst_CertificatePage::everythingLiesInItsPlace_data()
 {
     QTest::addColumn<int>("dpi");
     QTest::addColumn<int>("width");
@@ -419,7 +420,7 @@ void TestCertificatePage::everythingLiesInItsPlace_data()
     QTest::addRow("odd width") << 300 << 2395 << 3424;
 }
 
-void TestCertificatePage::everythingLiesInItsPlace()
+void tst_CertificatePage::everythingLiesInItsPlace()
 {
     QFETCH(int, dpi);
     QFETCH(int, width);
@@ -437,7 +438,7 @@ void TestCertificatePage::everythingLiesInItsPlace()
 }
 
 // The table is only worth something if a shifted element fails.
-void TestCertificatePage::comparisonSeesEachDifference()
+void tst_CertificatePage::comparisonSeesEachDifference()
 {
     const Paper paper{2480, 3508, 300};
     QString second;
@@ -460,7 +461,7 @@ void TestCertificatePage::comparisonSeesEachDifference()
     }
 }
 
-void TestCertificatePage::longValuesAreCutAfter500Pixels_data()
+void tst_CertificatePage::longValuesAreCutAfter500Pixels_data()
 {
     QTest::addColumn<int>("dpi");
     QTest::addRow("96 dpi") << 96;
@@ -468,7 +469,7 @@ void TestCertificatePage::longValuesAreCutAfter500Pixels_data()
     QTest::addRow("1200 dpi") << 1200;
 }
 
-void TestCertificatePage::longValuesAreCutAfter500Pixels()
+void tst_CertificatePage::longValuesAreCutAfter500Pixels()
 {
     QFETCH(int, dpi);
     WipeReport report = diskReport();
@@ -486,7 +487,7 @@ void TestCertificatePage::longValuesAreCutAfter500Pixels()
     QFAIL("the model was not painted");
 }
 
-void TestCertificatePage::everyStatusButCompletedIsRed_data()
+void tst_CertificatePage::everyStatusButCompletedIsRed_data()
 {
     QTest::addColumn<int>("status");
     QTest::addColumn<QString>("name");
@@ -500,7 +501,7 @@ void TestCertificatePage::everyStatusButCompletedIsRed_data()
     QTest::addRow("unknown") << 7 << u"Unknown"_s << u"#ef4444"_s;
 }
 
-void TestCertificatePage::everyStatusButCompletedIsRed()
+void tst_CertificatePage::everyStatusButCompletedIsRed()
 {
     QFETCH(int, status);
     QFETCH(QString, name);
@@ -517,7 +518,7 @@ void TestCertificatePage::everyStatusButCompletedIsRed()
     }
 }
 
-void TestCertificatePage::storageSectionIsForEverythingButFiles_data()
+void tst_CertificatePage::storageSectionIsForEverythingButFiles_data()
 {
     QTest::addColumn<int>("operation");
     QTest::addColumn<bool>("hasStorage");
@@ -528,7 +529,7 @@ void TestCertificatePage::storageSectionIsForEverythingButFiles_data()
     QTest::addRow("unknown") << 4 << true;
 }
 
-void TestCertificatePage::storageSectionIsForEverythingButFiles()
+void tst_CertificatePage::storageSectionIsForEverythingButFiles()
 {
     QFETCH(int, operation);
     QFETCH(bool, hasStorage);
@@ -541,7 +542,7 @@ void TestCertificatePage::storageSectionIsForEverythingButFiles()
     QCOMPARE(text.contains(u"文件数量:"_s), !hasStorage);
 }
 
-void TestCertificatePage::fileCountIsThatOfTheItems()
+void tst_CertificatePage::fileCountIsThatOfTheItems()
 {
     WipeReport report = fileReport();
     report.wipeItems.clear();
@@ -549,7 +550,7 @@ void TestCertificatePage::fileCountIsThatOfTheItems()
     QVERIFY(paintedText(report).contains(u"文件数量:0 个"_s));
 }
 
-void TestCertificatePage::emptyHashLeavesOutItsRow()
+void tst_CertificatePage::emptyHashLeavesOutItsRow()
 {
     WipeReport report = diskReport();
     QVERIFY(paintedText(report).contains(u"数据哈希:e3b0c442"_s));
@@ -557,7 +558,7 @@ void TestCertificatePage::emptyHashLeavesOutItsRow()
     QVERIFY(!paintedText(report).contains(u"数据哈希"_s));
 }
 
-void TestCertificatePage::timeIsThatOfPainting()
+void tst_CertificatePage::timeIsThatOfPainting()
 {
     const WipeReport report = diskReport();
     QString first;
@@ -570,7 +571,7 @@ void TestCertificatePage::timeIsThatOfPainting()
     QVERIFY(!text.contains(first));
 }
 
-void TestCertificatePage::textsAreTranslatedExceptTheFixedOnes()
+void tst_CertificatePage::textsAreTranslatedExceptTheFixedOnes()
 {
     const MarkingTranslator translator;
     const QString text = paintedText(diskReport()) + paintedText(fileReport());
@@ -617,7 +618,7 @@ void TestCertificatePage::textsAreTranslatedExceptTheFixedOnes()
         QVERIFY2(text.contains(fixed) && !text.contains(mark + fixed), qPrintable(fixed));
 }
 
-void TestCertificatePage::namesOfDevicesCannotReorderThePage()
+void tst_CertificatePage::namesOfDevicesCannotReorderThePage()
 {
     WipeReport report = diskReport();
     report.disk.model = u"A\u202Eevil\nB"_s;
@@ -627,7 +628,7 @@ void TestCertificatePage::namesOfDevicesCannotReorderThePage()
     QVERIFY(text.contains(u"操作员:anna"_s));
 }
 
-void TestCertificatePage::everyLanguageHasItsCharacters_data()
+void tst_CertificatePage::everyLanguageHasItsCharacters_data()
 {
     QTest::addColumn<QString>("sample");
     QTest::addRow("zh_CN") << u"数据擦除证书 龙门长车马鱼鸟麦"_s;
@@ -643,7 +644,7 @@ void TestCertificatePage::everyLanguageHasItsCharacters_data()
     QTest::addRow("en") << u"Erasure certificate – “quoted” …"_s;
 }
 
-void TestCertificatePage::everyLanguageHasItsCharacters()
+void tst_CertificatePage::everyLanguageHasItsCharacters()
 {
     QFETCH(QString, sample);
     WipeReport report = diskReport();
@@ -668,5 +669,5 @@ void TestCertificatePage::everyLanguageHasItsCharacters()
     QVERIFY(seen);
 }
 
-QTEST_MAIN(TestCertificatePage)
+QUORVEX_SUITE(tst_CertificatePage, QApplication)
 #include "tst_certificatepage.moc"

@@ -1,5 +1,6 @@
 #include "pages.h"
 #include "pdfreader.h"
+#include "support/suite.h"
 
 #include "certificate/certificaterenderer.h"
 
@@ -15,7 +16,7 @@
 using namespace Qt::StringLiterals;
 
 // Runs without QApplication, as the command-line program does.
-class TestCertificatePdf : public QObject
+class tst_CertificatePdf : public QObject
 {
     Q_OBJECT
 
@@ -97,13 +98,13 @@ QStringList valuesOfShortReport()
 
 } // namespace
 
-QByteArray TestCertificatePdf::exported(const WipeReport &report) const
+QByteArray tst_CertificatePdf::exported(const WipeReport &report) const
 {
     const QString path = pathFor(u"certificate.pdf"_s);
     return CertificateRenderer().exportToPdf(report, path) ? bytesOf(path) : QByteArray();
 }
 
-void TestCertificatePdf::isOneA4Page()
+void tst_CertificatePdf::isOneA4Page()
 {
     for (const WipeReport &report : {filledReport(), shortReport()}) {
         const PdfReader pdf(exported(report));
@@ -114,7 +115,7 @@ void TestCertificatePdf::isOneA4Page()
     }
 }
 
-void TestCertificatePdf::namesItselfAndItsMaker()
+void tst_CertificatePdf::namesItselfAndItsMaker()
 {
     const PdfReader pdf(exported(shortReport()));
     const QByteArray information = pdf.objectsWith("/Title").value(0);
@@ -129,7 +130,7 @@ void TestCertificatePdf::namesItselfAndItsMaker()
     QVERIFY(information.contains(encoded(u"Quorvex 5.0"_s)));
 }
 
-void TestCertificatePdf::tellsNothingThatIsNotOnThePage()
+void tst_CertificatePdf::tellsNothingThatIsNotOnThePage()
 {
     WipeReport report = shortReport();
     report.operatorName = u"nobody"_s;
@@ -145,7 +146,7 @@ void TestCertificatePdf::tellsNothingThatIsNotOnThePage()
     QVERIFY(!pdf.text().contains(report.wipeItems[0].path));
 }
 
-void TestCertificatePdf::fontsAreEmbedded()
+void tst_CertificatePdf::fontsAreEmbedded()
 {
     const PdfReader pdf(exported(shortReport()));
     const QList<QByteArray> fonts = pdf.objectsWith("/Type /FontDescriptor");
@@ -157,7 +158,7 @@ void TestCertificatePdf::fontsAreEmbedded()
 }
 
 // Also where it lies below the paper.
-void TestCertificatePdf::everyValueIsFound()
+void tst_CertificatePdf::everyValueIsFound()
 {
     const QString shortText = PdfReader(exported(shortReport())).text();
     for (const QString &value : valuesOfShortReport())
@@ -172,7 +173,7 @@ void TestCertificatePdf::everyValueIsFound()
         QVERIFY2(diskText.contains(value), qPrintable(value));
 }
 
-void TestCertificatePdf::everyCharacterIsTheOneThatWasPainted_data()
+void tst_CertificatePdf::everyCharacterIsTheOneThatWasPainted_data()
 {
     QTest::addColumn<QString>("sample");
     // Characters that share their glyph with radicals and compatibility characters.
@@ -189,7 +190,7 @@ void TestCertificatePdf::everyCharacterIsTheOneThatWasPainted_data()
     QTest::addRow("en") << u"office fluffy - – “quoted” … 0123456789 A-1.2:3/4"_s;
 }
 
-void TestCertificatePdf::everyCharacterIsTheOneThatWasPainted()
+void tst_CertificatePdf::everyCharacterIsTheOneThatWasPainted()
 {
     QFETCH(QString, sample);
     WipeReport report = shortReport();
@@ -200,7 +201,7 @@ void TestCertificatePdf::everyCharacterIsTheOneThatWasPainted()
     QVERIFY2(text.contains(u"计算机:PC-17 "_s + sample), qPrintable(text));
 }
 
-QString TestCertificatePdf::popplerText() const
+QString tst_CertificatePdf::popplerText() const
 {
     QProcess process;
     process.start(u"pdftotext"_s, {u"-enc"_s, u"UTF-8"_s, pathFor(u"certificate.pdf"_s), u"-"_s});
@@ -208,12 +209,12 @@ QString TestCertificatePdf::popplerText() const
     return QString::fromUtf8(process.readAllStandardOutput());
 }
 
-void TestCertificatePdf::popplerFindsEveryValue_data()
+void tst_CertificatePdf::popplerFindsEveryValue_data()
 {
     everyCharacterIsTheOneThatWasPainted_data();
 }
 
-void TestCertificatePdf::popplerFindsEveryValue()
+void tst_CertificatePdf::popplerFindsEveryValue()
 {
     if (QStandardPaths::findExecutable(u"pdftotext"_s).isEmpty())
         QSKIP("SKIPPED: pdftotext (poppler-utils) is not installed; everyValueIsFound reads the PDF itself");
@@ -232,7 +233,7 @@ void TestCertificatePdf::popplerFindsEveryValue()
 }
 
 // The file was amended after it was written: another program's reading of its tables counts.
-void TestCertificatePdf::popplerHasNothingToComplainAbout()
+void tst_CertificatePdf::popplerHasNothingToComplainAbout()
 {
     if (QStandardPaths::findExecutable(u"pdffonts"_s).isEmpty())
         QSKIP("SKIPPED: pdffonts (poppler-utils) is not installed");
@@ -258,7 +259,7 @@ void TestCertificatePdf::popplerHasNothingToComplainAbout()
     }
 }
 
-void TestCertificatePdf::printsTheSameOnOneA4Page()
+void tst_CertificatePdf::printsTheSameOnOneA4Page()
 {
     QPrinter printer(QPrinter::HighResolution);
     printer.setPageSize(QPageSize(QPageSize::Letter));
@@ -275,12 +276,12 @@ void TestCertificatePdf::printsTheSameOnOneA4Page()
     QVERIFY(text.contains(u"BENCH-7"_s));
 }
 
-void TestCertificatePdf::nullPrinterIsRefused()
+void tst_CertificatePdf::nullPrinterIsRefused()
 {
     QVERIFY(!CertificateRenderer().print(shortReport(), nullptr));
 }
 
-void TestCertificatePdf::printerWithoutAPlaceToPrintIsRefused()
+void tst_CertificatePdf::printerWithoutAPlaceToPrintIsRefused()
 {
     QPrinter printer(QPrinter::HighResolution);
     printer.setOutputFormat(QPrinter::PdfFormat);
@@ -288,11 +289,5 @@ void TestCertificatePdf::printerWithoutAPlaceToPrintIsRefused()
     QVERIFY(!CertificateRenderer().print(shortReport(), &printer));
 }
 
-int main(int argc, char *argv[])
-{
-    QGuiApplication application(argc, argv);
-    TestCertificatePdf test;
-    QTEST_SET_MAIN_SOURCE_PATH
-    return QTest::qExec(&test, argc, argv);
-}
+QUORVEX_SUITE(tst_CertificatePdf, QGuiApplication)
 #include "tst_certificatepdf.moc"

@@ -1,12 +1,13 @@
 #include "cli/memorymachine.h"
 #include "cli/testio.h"
+#include "support/suite.h"
 
 #include <QDir>
 
 using namespace Qt::StringLiterals;
 
 // The certificates that the command line writes.
-class TestCliCertificates : public QObject
+class tst_CliCertificates : public QObject
 {
     Q_OBJECT
 
@@ -47,7 +48,7 @@ bool isPdf(const QString &path)
 
 } // namespace
 
-void TestCliCertificates::aSuccessLeavesACertificate()
+void tst_CliCertificates::aSuccessLeavesACertificate()
 {
     MemoryMachine machine;
     addDrive(machine);
@@ -59,7 +60,7 @@ void TestCliCertificates::aSuccessLeavesACertificate()
     QVERIFY2(run.io.out.trimmed().endsWith(", PDF " + path.toUtf8()), run.io.out.constData());
 }
 
-void TestCliCertificates::aFolderGetsAFileForEachCertificate()
+void tst_CliCertificates::aFolderGetsAFileForEachCertificate()
 {
     MemoryMachine machine;
     addDrive(machine);
@@ -73,7 +74,7 @@ void TestCliCertificates::aFolderGetsAFileForEachCertificate()
     QVERIFY(isPdf(folder + u'/' + id + u".pdf"_s));
 }
 
-void TestCliCertificates::aFailureLeavesNone()
+void tst_CliCertificates::aFailureLeavesNone()
 {
     MemoryMachine machine;
     addDrive(machine);
@@ -87,7 +88,7 @@ void TestCliCertificates::aFailureLeavesNone()
     QVERIFY(!QFile::exists(path));
 }
 
-void TestCliCertificates::aCertificateInWhatIsErasedIsRefused()
+void tst_CliCertificates::aCertificateInWhatIsErasedIsRefused()
 {
     const QTemporaryDir target;
     QVERIFY(writeFile(target.filePath(u"secret.txt"_s), "secret"));
@@ -98,7 +99,7 @@ void TestCliCertificates::aCertificateInWhatIsErasedIsRefused()
     QCOMPARE(contentOf(target.filePath(u"secret.txt"_s)), QByteArray("secret"));
 }
 
-void TestCliCertificates::aFolderThatCannotBeWrittenStopsBeforeAnythingIs()
+void tst_CliCertificates::aFolderThatCannotBeWrittenStopsBeforeAnythingIs()
 {
 #ifdef Q_OS_LINUX
     MemoryMachine machine;
@@ -112,7 +113,7 @@ void TestCliCertificates::aFolderThatCannotBeWrittenStopsBeforeAnythingIs()
 #endif
 }
 
-void TestCliCertificates::aCertificateThatCannotBeWrittenIsToldAndTheResultToo()
+void tst_CliCertificates::aCertificateThatCannotBeWrittenIsToldAndTheResultToo()
 {
     MemoryMachine machine;
     addDrive(machine);
@@ -126,7 +127,7 @@ void TestCliCertificates::aCertificateThatCannotBeWrittenIsToldAndTheResultToo()
     QVERIFY(run.io.events().constLast().value(u"success").toBool());
 }
 
-void TestCliCertificates::severalVolumesNeedAFolder()
+void tst_CliCertificates::severalVolumesNeedAFolder()
 {
     CliRun run;
     run({u"wipe"_s, u"free"_s, u"a"_s, u"b"_s, u"--pdf"_s, run.folder() + u"/c.pdf"_s});
@@ -134,7 +135,7 @@ void TestCliCertificates::severalVolumesNeedAFolder()
     QVERIFY2(run.complains("--pdf takes a folder"), run.io.err.constData());
 }
 
-void TestCliCertificates::aStoredReportIsExported()
+void tst_CliCertificates::aStoredReportIsExported()
 {
     MemoryMachine machine;
     addDrive(machine);
@@ -149,7 +150,7 @@ void TestCliCertificates::aStoredReportIsExported()
     QVERIFY(isPdf(path));
 }
 
-void TestCliCertificates::bothFormsAreExportedAtOnce()
+void tst_CliCertificates::bothFormsAreExportedAtOnce()
 {
     MemoryMachine machine;
     addDrive(machine);
@@ -165,5 +166,5 @@ void TestCliCertificates::bothFormsAreExportedAtOnce()
     QCOMPARE(QJsonDocument::fromJson(io.out).object().value(u"certificateId"), QJsonValue(id));
 }
 
-QTEST_MAIN(TestCliCertificates)
+QUORVEX_SUITE(tst_CliCertificates, QApplication)
 #include "tst_clicertificates.moc"

@@ -1,10 +1,11 @@
 #include "cli/memorymachine.h"
 #include "cli/testio.h"
+#include "support/suite.h"
 
 using namespace Qt::StringLiterals;
 
 // "check --zeros" on files and drives.
-class TestCliCheckZeros : public QObject
+class tst_CliCheckZeros : public QObject
 {
     Q_OBJECT
 
@@ -40,7 +41,7 @@ QStringList check(const QString &target, const QStringList &more = {})
 } // namespace
 
 // A copy that was cut to nothing proves nothing.
-void TestCliCheckZeros::anEmptyFileDoesNotPass()
+void tst_CliCheckZeros::anEmptyFileDoesNotPass()
 {
     CliRun run;
     const QString path = run.folder() + u"/a.img"_s;
@@ -50,7 +51,7 @@ void TestCliCheckZeros::anEmptyFileDoesNotPass()
     QVERIFY(run.complains("is empty, there is nothing to check"));
 }
 
-void TestCliCheckZeros::aFileOfZerosPasses_data()
+void tst_CliCheckZeros::aFileOfZerosPasses_data()
 {
     QTest::addColumn<qsizetype>("size");
     for (const qsizetype size :
@@ -58,7 +59,7 @@ void TestCliCheckZeros::aFileOfZerosPasses_data()
         QTest::addRow("%lld bytes", static_cast<long long>(size)) << size;
 }
 
-void TestCliCheckZeros::aFileOfZerosPasses()
+void tst_CliCheckZeros::aFileOfZerosPasses()
 {
     QFETCH(qsizetype, size);
     CliRun run;
@@ -70,7 +71,7 @@ void TestCliCheckZeros::aFileOfZerosPasses()
     QVERIFY2(run.io.out.startsWith(expected), run.io.out.constData());
 }
 
-void TestCliCheckZeros::theFirstOtherByteIsTold_data()
+void tst_CliCheckZeros::theFirstOtherByteIsTold_data()
 {
     QTest::addColumn<qsizetype>("size");
     QTest::addColumn<qsizetype>("place");
@@ -82,7 +83,7 @@ void TestCliCheckZeros::theFirstOtherByteIsTold_data()
     QTest::newRow("the very last") << Chunk + 1 << Chunk;
 }
 
-void TestCliCheckZeros::theFirstOtherByteIsTold()
+void tst_CliCheckZeros::theFirstOtherByteIsTold()
 {
     QFETCH(qsizetype, size);
     QFETCH(qsizetype, place);
@@ -98,7 +99,7 @@ void TestCliCheckZeros::theFirstOtherByteIsTold()
              "NOT ZERO: byte " + QByteArray::number(place) + " of " + path.toUtf8() + " is 0x0F\n");
 }
 
-void TestCliCheckZeros::theAnswerForMachines()
+void tst_CliCheckZeros::theAnswerForMachines()
 {
     CliRun run;
     const QString path = run.folder() + u"/a.img"_s;
@@ -111,7 +112,7 @@ void TestCliCheckZeros::theAnswerForMachines()
     QCOMPARE(answer.value(u"value"), QJsonValue(255));
 }
 
-void TestCliCheckZeros::aLinkToAnImageIsFollowed()
+void tst_CliCheckZeros::aLinkToAnImageIsFollowed()
 {
     CliRun run;
     const QString path = run.folder() + u"/a.img"_s;
@@ -122,7 +123,7 @@ void TestCliCheckZeros::aLinkToAnImageIsFollowed()
     QCOMPARE(run.code, 0);
 }
 
-void TestCliCheckZeros::anImageDriveIsReadByItsNumber()
+void tst_CliCheckZeros::anImageDriveIsReadByItsNumber()
 {
     CliRun run;
     const QString path = run.folder() + u"/a.img"_s;
@@ -136,7 +137,7 @@ void TestCliCheckZeros::anImageDriveIsReadByItsNumber()
     QVERIFY2(other.io.out.startsWith("NOT ZERO: byte 8191 of "), other.io.out.constData());
 }
 
-void TestCliCheckZeros::aDriveIsOnlyRead()
+void tst_CliCheckZeros::aDriveIsOnlyRead()
 {
     MemoryMachine machine;
     machine.memory.addDrive(MemoryDrive(0, 1 << 20, 512, '\0'));
@@ -151,7 +152,7 @@ void TestCliCheckZeros::aDriveIsOnlyRead()
     QVERIFY(!isWritten);
 }
 
-void TestCliCheckZeros::aDriveThatCannotBeReadIsNotZero()
+void tst_CliCheckZeros::aDriveThatCannotBeReadIsNotZero()
 {
     MemoryMachine machine;
     machine.memory.addDrive(MemoryDrive(0, 1 << 20, 512, '\0'));
@@ -165,7 +166,7 @@ void TestCliCheckZeros::aDriveThatCannotBeReadIsNotZero()
     QVERIFY(!run.io.out.contains("ALL ZERO"));
 }
 
-void TestCliCheckZeros::whatIsNotThereIsRefused()
+void tst_CliCheckZeros::whatIsNotThereIsRefused()
 {
     CliRun missing;
     missing(check(missing.folder() + u"/missing"_s));
@@ -178,7 +179,7 @@ void TestCliCheckZeros::whatIsNotThereIsRefused()
     QCOMPARE(drive.code, 3);
 }
 
-void TestCliCheckZeros::aStopEndsTheReading()
+void tst_CliCheckZeros::aStopEndsTheReading()
 {
     CliRun run;
     const QString path = run.folder() + u"/a.img"_s;
@@ -189,5 +190,5 @@ void TestCliCheckZeros::aStopEndsTheReading()
     QVERIFY(!run.io.out.contains("ALL ZERO"));
 }
 
-QTEST_GUILESS_MAIN(TestCliCheckZeros)
+QUORVEX_SUITE(tst_CliCheckZeros, QCoreApplication)
 #include "tst_clicheckzeros.moc"

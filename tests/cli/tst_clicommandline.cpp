@@ -1,10 +1,11 @@
 #include "cli/testio.h"
+#include "support/suite.h"
 
 #include "cli/commandtable.h"
 
 #include <QProcess>
 
-class TestCliCommandLine : public QObject
+class tst_CliCommandLine : public QObject
 {
     Q_OBJECT
 
@@ -38,7 +39,7 @@ private:
 
 using namespace Qt::StringLiterals;
 
-void TestCliCommandLine::theVersionIsPrinted()
+void tst_CliCommandLine::theVersionIsPrinted()
 {
     CliRun run;
     run({u"--version"_s});
@@ -47,7 +48,7 @@ void TestCliCommandLine::theVersionIsPrinted()
     QCOMPARE(run.io.err, QByteArray());
 }
 
-void TestCliCommandLine::helpExplainsTheProgram()
+void tst_CliCommandLine::helpExplainsTheProgram()
 {
     CliRun run;
     run({u"--help"_s});
@@ -60,7 +61,7 @@ void TestCliCommandLine::helpExplainsTheProgram()
         QVERIFY2(run.io.out.contains(word), word);
 }
 
-void TestCliCommandLine::helpExplainsAGroupOfCommands()
+void tst_CliCommandLine::helpExplainsAGroupOfCommands()
 {
     CliRun run;
     run({u"wipe"_s, u"--help"_s});
@@ -71,7 +72,7 @@ void TestCliCommandLine::helpExplainsAGroupOfCommands()
     QVERIFY(!run.io.out.contains("  methods"));
 }
 
-void TestCliCommandLine::everyCommandHasAHelpWithAnExample()
+void tst_CliCommandLine::everyCommandHasAHelpWithAnExample()
 {
     for (const cli::Command &command : cli::allCommands()) {
         CliRun run;
@@ -85,7 +86,7 @@ void TestCliCommandLine::everyCommandHasAHelpWithAnExample()
     }
 }
 
-void TestCliCommandLine::everyExampleIsAValidCommandLine()
+void tst_CliCommandLine::everyExampleIsAValidCommandLine()
 {
     const QTemporaryDir folder;
     const QString previous = QDir::currentPath();
@@ -98,7 +99,7 @@ void TestCliCommandLine::everyExampleIsAValidCommandLine()
     QVERIFY(QDir::setCurrent(previous));
 }
 
-void TestCliCommandLine::helpIsFoundBeforeAndBehindTheCommand()
+void tst_CliCommandLine::helpIsFoundBeforeAndBehindTheCommand()
 {
     CliRun before;
     before({u"--help"_s, u"wipe"_s, u"disk"_s});
@@ -109,7 +110,7 @@ void TestCliCommandLine::helpIsFoundBeforeAndBehindTheCommand()
     QCOMPARE(before.io.out, behind.io.out);
 }
 
-void TestCliCommandLine::optionsMayStandAnywhere()
+void tst_CliCommandLine::optionsMayStandAnywhere()
 {
     for (const QStringList &arguments :
          QList<QStringList>{{u"--json"_s, u"methods"_s}, {u"methods"_s, u"--json"_s}}) {
@@ -125,7 +126,7 @@ void TestCliCommandLine::optionsMayStandAnywhere()
     QVERIFY(run.complains("nonsense"));
 }
 
-void TestCliCommandLine::aWrongLineIsToldInOneLine_data()
+void tst_CliCommandLine::aWrongLineIsToldInOneLine_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QByteArray>("what");
@@ -175,7 +176,7 @@ void TestCliCommandLine::aWrongLineIsToldInOneLine_data()
         "(read quorvex-cli wipe files --help)");
 }
 
-void TestCliCommandLine::aWrongLineIsToldInOneLine()
+void tst_CliCommandLine::aWrongLineIsToldInOneLine()
 {
     QFETCH(const QStringList, arguments);
     QFETCH(const QByteArray, what);
@@ -191,7 +192,7 @@ void TestCliCommandLine::aWrongLineIsToldInOneLine()
     QVERIFY2(io.err.endsWith(help + '\n'), io.err.constData());
 }
 
-void TestCliCommandLine::aWrongLineCannotSteerTheTerminal()
+void tst_CliCommandLine::aWrongLineCannotSteerTheTerminal()
 {
     for (const QStringList &arguments : QList<QStringList>{{u"fr\x1b[2Job\nnicate"_s},
                                                            {u"disks"_s, u"--fr\x1b[2Job\n"_s},
@@ -205,7 +206,7 @@ void TestCliCommandLine::aWrongLineCannotSteerTheTerminal()
     }
 }
 
-void TestCliCommandLine::nothingIsDoneOnAWrongLine()
+void tst_CliCommandLine::nothingIsDoneOnAWrongLine()
 {
     const QTemporaryDir folder;
     const QString file = folder.filePath(u"precious"_s);
@@ -216,14 +217,14 @@ void TestCliCommandLine::nothingIsDoneOnAWrongLine()
     QCOMPARE(contentOf(file), QByteArray("precious"));
 }
 
-void TestCliCommandLine::everyLanguageOfTheProgramIsTaken_data()
+void tst_CliCommandLine::everyLanguageOfTheProgramIsTaken_data()
 {
     QTest::addColumn<QString>("language");
     for (const char *code : {"en", "fr", "de", "ja", "es", "ko", "nl", "pt", "it", "zh_TW", "zh_CN"})
         QTest::newRow(code) << QString::fromLatin1(code);
 }
 
-void TestCliCommandLine::everyLanguageOfTheProgramIsTaken()
+void tst_CliCommandLine::everyLanguageOfTheProgramIsTaken()
 {
     QFETCH(const QString, language);
     CliRun run;
@@ -246,7 +247,7 @@ QByteArray methodsOn(const QString &systemLocale, const QStringList &options)
 
 } // namespace
 
-void TestCliCommandLine::theSystemDecidesTheLanguageOfWhatPeopleRead_data()
+void tst_CliCommandLine::theSystemDecidesTheLanguageOfWhatPeopleRead_data()
 {
     QTest::addColumn<QString>("systemLocale");
     QTest::addColumn<QString>("language");
@@ -257,7 +258,7 @@ void TestCliCommandLine::theSystemDecidesTheLanguageOfWhatPeopleRead_data()
     QTest::newRow("Chinese") << u"zh_CN"_s << u"zh_CN"_s;
 }
 
-void TestCliCommandLine::theSystemDecidesTheLanguageOfWhatPeopleRead()
+void tst_CliCommandLine::theSystemDecidesTheLanguageOfWhatPeopleRead()
 {
     QFETCH(const QString, systemLocale);
     QFETCH(const QString, language);
@@ -266,14 +267,14 @@ void TestCliCommandLine::theSystemDecidesTheLanguageOfWhatPeopleRead()
     QVERIFY(wanted != methodsOn(u"ja_JP"_s, {}));
 }
 
-void TestCliCommandLine::machineOutputIsTheSameOnEverySystem()
+void tst_CliCommandLine::machineOutputIsTheSameOnEverySystem()
 {
     const QByteArray source = methodsOn(u"zh_CN"_s, {u"--json"_s});
     QCOMPARE(methodsOn(u"de_DE"_s, {u"--json"_s}), source);
     QVERIFY(methodsOn(u"de_DE"_s, {u"--json"_s, u"--lang"_s, u"de"_s}) != source);
 }
 
-void TestCliCommandLine::anImageMustBeARegularFile()
+void tst_CliCommandLine::anImageMustBeARegularFile()
 {
     const QTemporaryDir folder;
     for (const QString &image :
@@ -286,7 +287,7 @@ void TestCliCommandLine::anImageMustBeARegularFile()
     }
 }
 
-void TestCliCommandLine::anImageMayBeGivenThroughALink()
+void tst_CliCommandLine::anImageMayBeGivenThroughALink()
 {
     const QTemporaryDir folder;
     QVERIFY(writeFile(folder.filePath(u"a.img"_s), QByteArray(4096, 'x')));
@@ -300,7 +301,7 @@ void TestCliCommandLine::anImageMayBeGivenThroughALink()
     QCOMPARE(run.io.documents().constFirst().array().size(), 1); // one file, one drive
 }
 
-void TestCliCommandLine::anImageGivenTwiceIsOneDrive()
+void tst_CliCommandLine::anImageGivenTwiceIsOneDrive()
 {
     const QTemporaryDir folder;
     QVERIFY(writeFile(folder.filePath(u"a.img"_s), QByteArray(4096, 'x')));
@@ -316,7 +317,7 @@ void TestCliCommandLine::anImageGivenTwiceIsOneDrive()
     QCOMPARE(run.io.documents().constFirst().array().size(), 1);
 }
 
-void TestCliCommandLine::outputThatIsLostIsAFailure()
+void tst_CliCommandLine::outputThatIsLostIsAFailure()
 {
     CliRun run;
     run.io.losesOutput = true;
@@ -325,5 +326,5 @@ void TestCliCommandLine::outputThatIsLostIsAFailure()
     QVERIFY(run.complains("output"));
 }
 
-QTEST_GUILESS_MAIN(TestCliCommandLine)
+QUORVEX_SUITE(tst_CliCommandLine, QCoreApplication)
 #include "tst_clicommandline.moc"

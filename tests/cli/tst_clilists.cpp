@@ -1,10 +1,11 @@
 #include "cli/testio.h"
+#include "support/suite.h"
 
 #include "cli/memorymachine.h"
 
 using namespace Qt::StringLiterals;
 
-class TestCliLists : public QObject
+class tst_CliLists : public QObject
 {
     Q_OBJECT
 
@@ -46,7 +47,7 @@ void addDrives(MemoryMachine &machine)
 
 } // namespace
 
-void TestCliLists::methodsAreTheFiveStandards()
+void tst_CliLists::methodsAreTheFiveStandards()
 {
     CliRun run;
     run({u"methods"_s});
@@ -59,7 +60,7 @@ void TestCliLists::methodsAreTheFiveStandards()
     QVERIFY(run.io.out.contains("4 x random, 0x55, 0xAA, 0x92, 0x49, 0x24, 0x00, 0x11"));
 }
 
-void TestCliLists::methodsForMachinesHaveAllFields()
+void tst_CliLists::methodsForMachinesHaveAllFields()
 {
     CliRun run;
     run({u"methods"_s, u"--json"_s});
@@ -84,7 +85,7 @@ void TestCliLists::methodsForMachinesHaveAllFields()
              (QJsonObject{{u"type"_s, u"Ones"_s}, {u"value"_s, 0xFF}, {u"verify"_s, false}}));
 }
 
-void TestCliLists::disksAreListedWithTheirVolumes()
+void tst_CliLists::disksAreListedWithTheirVolumes()
 {
     MemoryMachine machine;
     addDrives(machine);
@@ -103,7 +104,7 @@ void TestCliLists::disksAreListedWithTheirVolumes()
     QVERIFY(!lines.at(3).contains("system"));
 }
 
-void TestCliLists::disksForMachinesHaveAllFields()
+void tst_CliLists::disksForMachinesHaveAllFields()
 {
     MemoryMachine machine;
     addDrives(machine);
@@ -133,7 +134,7 @@ void TestCliLists::disksForMachinesHaveAllFields()
     QCOMPARE(disks.at(1).toObject().value(u"partitions"), QJsonValue(QJsonArray()));
 }
 
-void TestCliLists::aMachineWithoutDrivesIsNoError()
+void tst_CliLists::aMachineWithoutDrivesIsNoError()
 {
     CliRun text;
     text({u"disks"_s, u"--only-images"_s});
@@ -145,7 +146,7 @@ void TestCliLists::aMachineWithoutDrivesIsNoError()
     QCOMPARE(json.io.out, QByteArray("[]\n"));
 }
 
-void TestCliLists::namesOfDevicesCannotSteerTheTerminal()
+void tst_CliLists::namesOfDevicesCannotSteerTheTerminal()
 {
     MemoryMachine machine;
     MemoryDrive drive(0, 4096);
@@ -171,7 +172,7 @@ void TestCliLists::namesOfDevicesCannotSteerTheTerminal()
     QCOMPARE(json.io.documents().size(), 1); // still one line
 }
 
-void TestCliLists::listingOpensNoDriveForWriting()
+void tst_CliLists::listingOpensNoDriveForWriting()
 {
     MemoryMachine machine;
     addDrives(machine);
@@ -182,5 +183,5 @@ void TestCliLists::listingOpensNoDriveForWriting()
     QCOMPARE(machine.memory.openHandles(), 0);
 }
 
-QTEST_GUILESS_MAIN(TestCliLists)
+QUORVEX_SUITE(tst_CliLists, QCoreApplication)
 #include "tst_clilists.moc"

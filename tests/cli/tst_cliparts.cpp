@@ -1,4 +1,5 @@
 #include "cli/testio.h"
+#include "support/suite.h"
 
 #include "cli/confirmation.h"
 #include "cli/names.h"
@@ -12,7 +13,7 @@
 
 using namespace Qt::StringLiterals;
 
-class TestCliParts : public QObject
+class tst_CliParts : public QObject
 {
     Q_OBJECT
 
@@ -60,7 +61,7 @@ cli::JobProgress halfWay()
 
 } // namespace
 
-void TestCliParts::aPathIsSeenFromTheCurrentFolder()
+void tst_CliParts::aPathIsSeenFromTheCurrentFolder()
 {
     const QString here = QDir::currentPath();
     const QString root = here.first(here.indexOf(u'/') + 1);
@@ -73,7 +74,7 @@ void TestCliParts::aPathIsSeenFromTheCurrentFolder()
     QCOMPARE(cli::absolutePath(u"qrc:x"_s), here + u"/qrc:x"_s);
 }
 
-void TestCliParts::aPathOfWindowsIsCompleted()
+void tst_CliParts::aPathOfWindowsIsCompleted()
 {
 #ifdef Q_OS_WIN
     const QString drive = QDir::currentPath().left(2);
@@ -91,7 +92,7 @@ void TestCliParts::aPathOfWindowsIsCompleted()
 #endif
 }
 
-void TestCliParts::aPathThroughALinkAndBackIsNoticed()
+void tst_CliParts::aPathThroughALinkAndBackIsNoticed()
 {
 #ifdef Q_OS_WIN
     QSKIP("SKIPPED: Windows takes \"..\" out of a path itself, without a look at links");
@@ -107,7 +108,7 @@ void TestCliParts::aPathThroughALinkAndBackIsNoticed()
     QVERIFY(cli::leadsBackThroughLink(folder.filePath(u"a/link/.."_s)));
 }
 
-void TestCliParts::belowAFolderIsNotBesideIt()
+void tst_CliParts::belowAFolderIsNotBesideIt()
 {
     QVERIFY(cli::isSameOrBelow(u"/a/b"_s, u"/a"_s));
     QVERIFY(cli::isSameOrBelow(u"/a"_s, u"/a"_s));
@@ -116,7 +117,7 @@ void TestCliParts::belowAFolderIsNotBesideIt()
     QVERIFY(!cli::isSameOrBelow(u"/"_s, u"/a"_s));
 }
 
-void TestCliParts::cellsStandBelowEachOther()
+void tst_CliParts::cellsStandBelowEachOther()
 {
     cli::Table table;
     table.addRow({u"1"_s, u"long cell"_s, u"x"_s});
@@ -125,7 +126,7 @@ void TestCliParts::cellsStandBelowEachOther()
     QCOMPARE(table.text(1), u" 1   long cell  x\n     a line that is longer than every cell\n 23  cell\n"_s);
 }
 
-void TestCliParts::wideCharactersTakeTwoColumns()
+void tst_CliParts::wideCharactersTakeTwoColumns()
 {
     QCOMPARE(cli::displayWidth(u"abc"_s), 3);
     QCOMPARE(cli::displayWidth(u"磁盘"_s), 4);
@@ -136,7 +137,7 @@ void TestCliParts::wideCharactersTakeTwoColumns()
     QCOMPARE(table.text(), u"磁盘  x\nabcd  y\n"_s);
 }
 
-void TestCliParts::textIsClippedToColumns()
+void tst_CliParts::textIsClippedToColumns()
 {
     QCOMPARE(cli::clipped(u"abcdef"_s, 3), u"abc"_s);
     QCOMPARE(cli::clipped(u"磁盘x"_s, 3), u"磁"_s);
@@ -144,7 +145,7 @@ void TestCliParts::textIsClippedToColumns()
     QCOMPARE(cli::clipped(u"abc"_s, 0), QString());
 }
 
-void TestCliParts::durationsAreShortTexts()
+void tst_CliParts::durationsAreShortTexts()
 {
     QCOMPARE(cli::durationText(0), u"0s"_s);
     QCOMPARE(cli::durationText(59), u"59s"_s);
@@ -153,7 +154,7 @@ void TestCliParts::durationsAreShortTexts()
     QCOMPARE(cli::durationText(3605), u"1h 0m 5s"_s);
 }
 
-void TestCliParts::theWordEraseConfirms()
+void tst_CliParts::theWordEraseConfirms()
 {
     TestIo io;
     io.inputIsTerminal = io.outputIsTerminal = true;
@@ -164,7 +165,7 @@ void TestCliParts::theWordEraseConfirms()
     QCOMPARE(io.linesRead, 1);
 }
 
-void TestCliParts::anythingElseDoesNotConfirm_data()
+void tst_CliParts::anythingElseDoesNotConfirm_data()
 {
     QTest::addColumn<QStringList>("input");
     QTest::newRow("lower case") << QStringList{u"erase"_s};
@@ -176,7 +177,7 @@ void TestCliParts::anythingElseDoesNotConfirm_data()
     QTest::newRow("a second try") << QStringList{u"no"_s, u"ERASE"_s};
 }
 
-void TestCliParts::anythingElseDoesNotConfirm()
+void tst_CliParts::anythingElseDoesNotConfirm()
 {
     QFETCH(const QStringList, input);
     TestIo io;
@@ -187,7 +188,7 @@ void TestCliParts::anythingElseDoesNotConfirm()
     QCOMPARE(refusal->code, cli::Refused);
 }
 
-void TestCliParts::withoutATerminalNobodyIsAsked()
+void tst_CliParts::withoutATerminalNobodyIsAsked()
 {
     TestIo io;
     io.input = QStringList{u"ERASE"_s}; // as from a pipe
@@ -198,7 +199,7 @@ void TestCliParts::withoutATerminalNobodyIsAsked()
     QCOMPARE(io.linesRead, 0);
 }
 
-void TestCliParts::yesSkipsTheQuestion()
+void tst_CliParts::yesSkipsTheQuestion()
 {
     TestIo io;
     QVERIFY(!cli::confirm({u"  the drive"_s}, {.skipQuestion = true}, io));
@@ -209,7 +210,7 @@ void TestCliParts::yesSkipsTheQuestion()
     QCOMPARE(quiet.out + quiet.err, QByteArray());
 }
 
-void TestCliParts::theQuestionGoesWhereItIsSeen()
+void tst_CliParts::theQuestionGoesWhereItIsSeen()
 {
     TestIo json;
     json.inputIsTerminal = json.outputIsTerminal = true;
@@ -226,7 +227,7 @@ void TestCliParts::theQuestionGoesWhereItIsSeen()
     QVERIFY(intoAFile.err.contains("  the drive\n"));
 }
 
-void TestCliParts::aStopAtTheQuestionCancels()
+void tst_CliParts::aStopAtTheQuestionCancels()
 {
     TestIo io;
     io.inputIsTerminal = io.outputIsTerminal = true;
@@ -237,7 +238,7 @@ void TestCliParts::aStopAtTheQuestionCancels()
     QCOMPARE(refusal->code, cli::Cancelled);
 }
 
-void TestCliParts::progressIsDrawnOnOneLine()
+void tst_CliParts::progressIsDrawnOnOneLine()
 {
     TestIo io;
     io.errorIsTerminal = true;
@@ -256,7 +257,7 @@ void TestCliParts::progressIsDrawnOnOneLine()
     QVERIFY(!io.err.contains("/s"));
 }
 
-void TestCliParts::progressNeverWraps()
+void tst_CliParts::progressNeverWraps()
 {
     TestIo io;
     io.errorIsTerminal = true;
@@ -270,7 +271,7 @@ void TestCliParts::progressNeverWraps()
     QCOMPARE(io.err, QByteArray("\r 50"));
 }
 
-void TestCliParts::progressLeavesNoTraceBehind()
+void tst_CliParts::progressLeavesNoTraceBehind()
 {
     TestIo io;
     io.errorIsTerminal = true;
@@ -287,7 +288,7 @@ void TestCliParts::progressLeavesNoTraceBehind()
     QCOMPARE(io.err, QByteArray());
 }
 
-void TestCliParts::progressIsSilentWithoutATerminal()
+void tst_CliParts::progressIsSilentWithoutATerminal()
 {
     TestIo io;
     cli::ProgressLine line(io);
@@ -296,7 +297,7 @@ void TestCliParts::progressIsSilentWithoutATerminal()
     QCOMPARE(io.err + io.out, QByteArray());
 }
 
-void TestCliParts::logLinesReplaceTheProgressLine()
+void tst_CliParts::logLinesReplaceTheProgressLine()
 {
     TestIo io;
     io.errorIsTerminal = true;
@@ -318,7 +319,7 @@ void TestCliParts::logLinesReplaceTheProgressLine()
     QCOMPARE(io.out, QByteArray("\n"));
 }
 
-void TestCliParts::anOutputFileInsideWhatIsErasedIsNoticed()
+void tst_CliParts::anOutputFileInsideWhatIsErasedIsNoticed()
 {
     const QTemporaryDir folder;
     QVERIFY(QDir(folder.path()).mkpath(u"erased/sub"_s));
@@ -342,7 +343,7 @@ void TestCliParts::anOutputFileInsideWhatIsErasedIsNoticed()
     QVERIFY(lies(u"r2.json"_s, u"target"_s)); // a report follows the link, into what is erased
 }
 
-void TestCliParts::anOutputFileIsReplacedAsAWhole()
+void tst_CliParts::anOutputFileIsReplacedAsAWhole()
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"r.json"_s);
@@ -356,7 +357,7 @@ void TestCliParts::anOutputFileIsReplacedAsAWhole()
     QCOMPARE(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden), QStringList{u"r.json"_s});
 }
 
-void TestCliParts::anOutputFileThatCannotBeWrittenSaysSo()
+void tst_CliParts::anOutputFileThatCannotBeWrittenSaysSo()
 {
     const QTemporaryDir folder;
     const auto file = cli::OutputFile::at(folder.filePath(u"r.json"_s), {});
@@ -369,5 +370,5 @@ void TestCliParts::anOutputFileThatCannotBeWrittenSaysSo()
     QCOMPARE(undecodable.refusal().code, cli::WrongCommandLine);
 }
 
-QTEST_GUILESS_MAIN(TestCliParts)
+QUORVEX_SUITE(tst_CliParts, QCoreApplication)
 #include "tst_cliparts.moc"

@@ -1,4 +1,5 @@
 #include "cli/programrun.h"
+#include "support/suite.h"
 
 #include <QDir>
 #include <QJsonDocument>
@@ -8,7 +9,7 @@
 using namespace Qt::StringLiterals;
 
 // The program itself, as a shell starts it.
-class TestCliProgram : public QObject
+class tst_CliProgram : public QObject
 {
     Q_OBJECT
 
@@ -90,13 +91,13 @@ std::function<void(const QByteArray &, pid_t)> sendAt(const QByteArray &text, QL
 
 } // namespace
 
-void TestCliProgram::init()
+void tst_CliProgram::init()
 {
     m_folder = std::make_unique<QTemporaryDir>();
     QVERIFY(m_folder->isValid());
 }
 
-void TestCliProgram::itTellsItsVersion()
+void tst_CliProgram::itTellsItsVersion()
 {
     ProgramRun run;
     run({"--version"});
@@ -105,7 +106,7 @@ void TestCliProgram::itTellsItsVersion()
     QCOMPARE(run.err, QByteArray());
 }
 
-void TestCliProgram::anImageIsErasedToTheLastByte()
+void tst_CliProgram::anImageIsErasedToTheLastByte()
 {
     const QByteArray path = image(5'000'700); // no whole number of sectors
     ProgramRun run;
@@ -117,7 +118,7 @@ void TestCliProgram::anImageIsErasedToTheLastByte()
     QVERIFY(!run.out.contains('\r'));
 }
 
-void TestCliProgram::anotherDataFolderLeavesTheUsersAlone()
+void tst_CliProgram::anotherDataFolderLeavesTheUsersAlone()
 {
     const QByteArray path = image();
     ProgramRun run;
@@ -129,7 +130,7 @@ void TestCliProgram::anotherDataFolderLeavesTheUsersAlone()
     QCOMPARE(kept, (QStringList{u"quorvex.db"_s, u"quorvex.log"_s}));
 }
 
-void TestCliProgram::theReportNamesTheComputer()
+void tst_CliProgram::theReportNamesTheComputer()
 {
     const QByteArray path = image();
     const QByteArray report = inFolder("r.json");
@@ -149,7 +150,7 @@ void TestCliProgram::theReportNamesTheComputer()
              QJsonValue(u"WORKSTATION"_s));
 }
 
-void TestCliProgram::withoutATerminalItRefuses()
+void tst_CliProgram::withoutATerminalItRefuses()
 {
     const QByteArray path = image();
     ProgramRun run;
@@ -159,7 +160,7 @@ void TestCliProgram::withoutATerminalItRefuses()
     QCOMPARE(run.err.count('\n'), 1);
 }
 
-void TestCliProgram::aPipedWordIsNoConfirmation()
+void tst_CliProgram::aPipedWordIsNoConfirmation()
 {
     const QByteArray path = image();
     ProgramRun run;
@@ -169,7 +170,7 @@ void TestCliProgram::aPipedWordIsNoConfirmation()
     QCOMPARE(content(path), QByteArray(1 << 20, 'x'));
 }
 
-void TestCliProgram::onATerminalItAsksAndShowsProgress()
+void tst_CliProgram::onATerminalItAsksAndShowsProgress()
 {
     const QByteArray path = image(16 << 20);
     ProgramRun run;
@@ -203,7 +204,7 @@ void TestCliProgram::onATerminalItAsksAndShowsProgress()
     QCOMPARE(endOfInput.code, 3);
 }
 
-void TestCliProgram::interruptAtTheQuestionCancels()
+void tst_CliProgram::interruptAtTheQuestionCancels()
 {
     const QByteArray path = image();
     ProgramRun run;
@@ -215,7 +216,7 @@ void TestCliProgram::interruptAtTheQuestionCancels()
     QVERIFY(run.out.contains("cancelled, nothing was written"));
 }
 
-void TestCliProgram::aSignalCancelsTheJob_data()
+void tst_CliProgram::aSignalCancelsTheJob_data()
 {
     QTest::addColumn<QList<int>>("signalNumbers");
     QTest::newRow("interrupt") << QList<int>{SIGINT};
@@ -224,7 +225,7 @@ void TestCliProgram::aSignalCancelsTheJob_data()
     QTest::newRow("several") << QList<int>{SIGINT, SIGTERM, SIGINT};
 }
 
-void TestCliProgram::aSignalCancelsTheJob()
+void tst_CliProgram::aSignalCancelsTheJob()
 {
     QFETCH(const QList<int>, signalNumbers);
     ProgramRun run;
@@ -241,7 +242,7 @@ void TestCliProgram::aSignalCancelsTheJob()
     QCOMPARE(report, finished.value(u"report").toObject());
 }
 
-void TestCliProgram::impatienceDoesNotChangeTheEnd()
+void tst_CliProgram::impatienceDoesNotChangeTheEnd()
 {
     ProgramRun run;
     // With every line, the last one included.
@@ -255,7 +256,7 @@ void TestCliProgram::impatienceDoesNotChangeTheEnd()
     QCOMPARE(lastEvent(run.out).value(u"event"), QJsonValue(u"finished"_s));
 }
 
-void TestCliProgram::interruptIsHeardInTheBackgroundOfAShell()
+void tst_CliProgram::interruptIsHeardInTheBackgroundOfAShell()
 {
     // Shells make a process that they start with "&" ignore SIGINT, which it inherits.
     ::signal(SIGINT, SIG_IGN);
@@ -266,7 +267,7 @@ void TestCliProgram::interruptIsHeardInTheBackgroundOfAShell()
     QCOMPARE(run.code, 4);
 }
 
-void TestCliProgram::hangUpIsLeftAloneUnderNohup()
+void tst_CliProgram::hangUpIsLeftAloneUnderNohup()
 {
     ::signal(SIGHUP, SIG_IGN);
     ProgramRun run;
@@ -276,7 +277,7 @@ void TestCliProgram::hangUpIsLeftAloneUnderNohup()
     QCOMPARE(run.code, 0);
 }
 
-void TestCliProgram::aReaderThatGoesAwayDoesNotBreakTheJob()
+void tst_CliProgram::aReaderThatGoesAwayDoesNotBreakTheJob()
 {
     const QByteArray path = image(8 << 20);
     ProgramRun run;
@@ -287,7 +288,7 @@ void TestCliProgram::aReaderThatGoesAwayDoesNotBreakTheJob()
     QCOMPARE(content(path), QByteArray(8 << 20, '\0'));
 }
 
-void TestCliProgram::aFullDiskUnderTheOutputIsAFailure()
+void tst_CliProgram::aFullDiskUnderTheOutputIsAFailure()
 {
     QProcess process;
     process.setStandardOutputFile(u"/dev/full"_s);
@@ -297,7 +298,7 @@ void TestCliProgram::aFullDiskUnderTheOutputIsAFailure()
     QVERIFY(process.readAllStandardError().contains("output"));
 }
 
-void TestCliProgram::diagnosticsAreSilentUnlessWanted()
+void tst_CliProgram::diagnosticsAreSilentUnlessWanted()
 {
     const QByteArray path = image();
     ProgramRun silent;
@@ -311,7 +312,7 @@ void TestCliProgram::diagnosticsAreSilentUnlessWanted()
     QVERIFY(wanted.err.contains("=== WipeEngine::start() ==="));
 }
 
-void TestCliProgram::aFileWithAnUndecodableNameIsErased()
+void tst_CliProgram::aFileWithAnUndecodableNameIsErased()
 {
     // "été" and "ß" in Latin-1: no text in UTF-8.
     const QByteArray direct = inFolder("\xE9t\xE9.txt");
@@ -332,7 +333,7 @@ void TestCliProgram::aFileWithAnUndecodableNameIsErased()
     QVERIFY(missing.err.contains("File not found"));
 }
 
-void TestCliProgram::anUndecodableImageIsErased()
+void tst_CliProgram::anUndecodableImageIsErased()
 {
     const QByteArray path = inFolder("im\xE9ge.img");
     writeBytes(path, QByteArray(65536, 'x'));
@@ -343,7 +344,7 @@ void TestCliProgram::anUndecodableImageIsErased()
     QCOMPARE(::unlink(path.constData()), 0); // Qt, which removes the folder, cannot name it
 }
 
-void TestCliProgram::theLogGoesIntoTheUsersFolder()
+void tst_CliProgram::theLogGoesIntoTheUsersFolder()
 {
     const QByteArray home = inFolder("home");
     ProgramRun run;
@@ -358,5 +359,5 @@ void TestCliProgram::theLogGoesIntoTheUsersFolder()
     QVERIFY(content(inFolder("new/data/quorvex.log")).contains("Job succeeded"));
 }
 
-QTEST_GUILESS_MAIN(TestCliProgram)
+QUORVEX_SUITE(tst_CliProgram, QCoreApplication)
 #include "tst_cliprogram.moc"

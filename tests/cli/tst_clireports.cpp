@@ -1,5 +1,6 @@
 #include "cli/memorymachine.h"
 #include "cli/testio.h"
+#include "support/suite.h"
 
 #include "model/wipereport.h"
 #include "services/reportdatabase.h"
@@ -10,7 +11,7 @@
 using namespace Qt::StringLiterals;
 
 // "reports", "check", and what "wipe" leaves in the database.
-class TestCliReports : public QObject
+class tst_CliReports : public QObject
 {
     Q_OBJECT
 
@@ -129,7 +130,7 @@ QStringList wipeDrive(const QStringList &more = {})
 
 } // namespace
 
-void TestCliReports::anErasedDriveIsInTheDatabase()
+void tst_CliReports::anErasedDriveIsInTheDatabase()
 {
     MemoryMachine machine;
     addDrive(machine);
@@ -145,7 +146,7 @@ void TestCliReports::anErasedDriveIsInTheDatabase()
     QCOMPARE(other.io.out, QByteArray("No reports.\n"));
 }
 
-void TestCliReports::withNoReportNothingIsStored()
+void tst_CliReports::withNoReportNothingIsStored()
 {
     MemoryMachine machine;
     addDrive(machine);
@@ -155,7 +156,7 @@ void TestCliReports::withNoReportNothingIsStored()
     QVERIFY(!QFile::exists(run.folder() + u"/quorvex.db"_s));
 }
 
-void TestCliReports::aFailedJobIsStoredToo()
+void tst_CliReports::aFailedJobIsStoredToo()
 {
     MemoryMachine machine;
     addDrive(machine);
@@ -171,7 +172,7 @@ void TestCliReports::aFailedJobIsStoredToo()
     QVERIFY2(io.out.contains("Failed"), io.out.constData());
 }
 
-void TestCliReports::aDatabaseThatCannotBeOpenedStopsBeforeAnythingIs()
+void tst_CliReports::aDatabaseThatCannotBeOpenedStopsBeforeAnythingIs()
 {
     MemoryMachine machine;
     addDrive(machine);
@@ -184,7 +185,7 @@ void TestCliReports::aDatabaseThatCannotBeOpenedStopsBeforeAnythingIs()
     QCOMPARE(contentOf(run.folder() + u"/quorvex.db"_s), QByteArray(4096, 'n'));
 }
 
-void TestCliReports::withNoReportABadDatabaseDoesNotMatter()
+void tst_CliReports::withNoReportABadDatabaseDoesNotMatter()
 {
     MemoryMachine machine;
     addDrive(machine);
@@ -194,7 +195,7 @@ void TestCliReports::withNoReportABadDatabaseDoesNotMatter()
     QCOMPARE(run.code, 0);
 }
 
-void TestCliReports::theLogInWhatIsErasedIsRefused()
+void tst_CliReports::theLogInWhatIsErasedIsRefused()
 {
     CliRun run;
     QVERIFY(writeFile(run.folder() + u"/secret.txt"_s, "secret"));
@@ -204,7 +205,7 @@ void TestCliReports::theLogInWhatIsErasedIsRefused()
     QCOMPARE(contentOf(run.folder() + u"/secret.txt"_s), QByteArray("secret"));
 }
 
-void TestCliReports::whatWasNotReadBackIsNotCalledSo()
+void tst_CliReports::whatWasNotReadBackIsNotCalledSo()
 {
     MemoryMachine machine;
     addDrive(machine);
@@ -218,7 +219,7 @@ void TestCliReports::whatWasNotReadBackIsNotCalledSo()
     QVERIFY(!io.out.contains("passed"));
 }
 
-void TestCliReports::aDatabaseInWhatIsErasedIsRefused()
+void tst_CliReports::aDatabaseInWhatIsErasedIsRefused()
 {
     CliRun run;
     QVERIFY(writeFile(run.folder() + u"/secret.txt"_s, "secret"));
@@ -228,7 +229,7 @@ void TestCliReports::aDatabaseInWhatIsErasedIsRefused()
     QCOMPARE(contentOf(run.folder() + u"/secret.txt"_s), QByteArray("secret"));
 }
 
-void TestCliReports::aReportThatCannotBeStoredIsToldAndTheResultToo()
+void tst_CliReports::aReportThatCannotBeStoredIsToldAndTheResultToo()
 {
     MemoryMachine machine;
     addDrive(machine);
@@ -244,7 +245,7 @@ void TestCliReports::aReportThatCannotBeStoredIsToldAndTheResultToo()
     QVERIFY(run.io.events().constLast().value(u"success").toBool());
 }
 
-void TestCliReports::theListHasTheLatestFirst()
+void tst_CliReports::theListHasTheLatestFirst()
 {
     CliRun run;
     QVERIFY(store(run.folder(), {reportOf(u"QVX-A"_s, 1), reportOf(u"QVX-B"_s, 3), reportOf(u"QVX-C"_s, 2)}));
@@ -261,7 +262,7 @@ void TestCliReports::theListHasTheLatestFirst()
     QVERIFY(lines.at(3).startsWith("QVX-A"));
 }
 
-void TestCliReports::theListTakesLimitAndOffset()
+void tst_CliReports::theListTakesLimitAndOffset()
 {
     CliRun run;
     QVERIFY(store(run.folder(), {reportOf(u"QVX-A"_s, 1), reportOf(u"QVX-B"_s, 3), reportOf(u"QVX-C"_s, 2)}));
@@ -272,7 +273,7 @@ void TestCliReports::theListTakesLimitAndOffset()
     QCOMPARE(reports.at(0).toObject().value(u"certificateId"), QJsonValue(u"QVX-C"_s));
 }
 
-void TestCliReports::aBadLimitIsAWrongLine_data()
+void tst_CliReports::aBadLimitIsAWrongLine_data()
 {
     QTest::addColumn<QString>("option");
     QTest::newRow("negative limit") << u"--limit=-1"_s;
@@ -281,7 +282,7 @@ void TestCliReports::aBadLimitIsAWrongLine_data()
     QTest::newRow("too large") << u"--offset=99999999999"_s;
 }
 
-void TestCliReports::aBadLimitIsAWrongLine()
+void tst_CliReports::aBadLimitIsAWrongLine()
 {
     QFETCH(QString, option);
     CliRun run;
@@ -289,7 +290,7 @@ void TestCliReports::aBadLimitIsAWrongLine()
     QCOMPARE(run.code, 2);
 }
 
-void TestCliReports::anEmptyDatabaseSaysSo()
+void tst_CliReports::anEmptyDatabaseSaysSo()
 {
     CliRun run;
     run({u"reports"_s, u"list"_s});
@@ -297,7 +298,7 @@ void TestCliReports::anEmptyDatabaseSaysSo()
     QCOMPARE(run.io.out, QByteArray("No reports.\n"));
 }
 
-void TestCliReports::theListForMachinesHoldsWholeReports()
+void tst_CliReports::theListForMachinesHoldsWholeReports()
 {
     CliRun run;
     const WipeReport report = reportOf(u"QVX-A"_s);
@@ -308,7 +309,7 @@ void TestCliReports::theListForMachinesHoldsWholeReports()
              QJsonDocument::fromJson(report.toJson()).object());
 }
 
-void TestCliReports::damagedTextIsListedAsSuch()
+void tst_CliReports::damagedTextIsListedAsSuch()
 {
     CliRun run;
     QVERIFY(store(run.folder(), {reportOf(u"QVX-A"_s)}));
@@ -324,7 +325,7 @@ void TestCliReports::damagedTextIsListedAsSuch()
              (QJsonObject{{u"certificateId"_s, u"QVX-A"_s}, {u"damaged"_s, true}}));
 }
 
-void TestCliReports::aReportIsShown()
+void tst_CliReports::aReportIsShown()
 {
     CliRun run;
     QVERIFY(store(run.folder(), {reportOf(u"QVX-A"_s)}));
@@ -335,7 +336,7 @@ void TestCliReports::aReportIsShown()
         QVERIFY2(run.io.out.contains(part), part);
 }
 
-void TestCliReports::aReportIsShownToMachines()
+void tst_CliReports::aReportIsShownToMachines()
 {
     CliRun run;
     const WipeReport report = reportOf(u"QVX-A"_s);
@@ -345,7 +346,7 @@ void TestCliReports::aReportIsShownToMachines()
     QCOMPARE(run.io.documents().constFirst().object(), QJsonDocument::fromJson(report.toJson()).object());
 }
 
-void TestCliReports::anUnknownIdIsRefused_data()
+void tst_CliReports::anUnknownIdIsRefused_data()
 {
     QTest::addColumn<QStringList>("command");
     QTest::newRow("show") << QStringList{u"show"_s};
@@ -353,7 +354,7 @@ void TestCliReports::anUnknownIdIsRefused_data()
     QTest::newRow("export") << QStringList{u"export"_s, u"--json-file"_s, u"-"_s};
 }
 
-void TestCliReports::anUnknownIdIsRefused()
+void tst_CliReports::anUnknownIdIsRefused()
 {
     QFETCH(QStringList, command);
     CliRun run;
@@ -364,7 +365,7 @@ void TestCliReports::anUnknownIdIsRefused()
     QVERIFY(!storedText(run.folder(), u"QVX-A"_s).isEmpty());
 }
 
-void TestCliReports::damagedTextIsNotShown()
+void tst_CliReports::damagedTextIsNotShown()
 {
     CliRun run;
     QVERIFY(store(run.folder(), {reportOf(u"QVX-A"_s)}));
@@ -375,7 +376,7 @@ void TestCliReports::damagedTextIsNotShown()
     QCOMPARE(run.io.out, QByteArray());
 }
 
-void TestCliReports::theStoredTextIsExportedByteForByte()
+void tst_CliReports::theStoredTextIsExportedByteForByte()
 {
     CliRun run;
     const WipeReport report = reportOf(u"QVX-'ä';"_s);
@@ -387,7 +388,7 @@ void TestCliReports::theStoredTextIsExportedByteForByte()
     QCOMPARE(run.io.out, QByteArray());
 }
 
-void TestCliReports::theStoredTextGoesToStandardOutput()
+void tst_CliReports::theStoredTextGoesToStandardOutput()
 {
     CliRun run;
     const WipeReport report = reportOf(u"QVX-A"_s);
@@ -397,7 +398,7 @@ void TestCliReports::theStoredTextGoesToStandardOutput()
     QCOMPARE(run.io.out, report.toJson());
 }
 
-void TestCliReports::anExportNeedsADestination()
+void tst_CliReports::anExportNeedsADestination()
 {
     CliRun run;
     run({u"reports"_s, u"export"_s, u"QVX-A"_s});
@@ -405,7 +406,7 @@ void TestCliReports::anExportNeedsADestination()
     QVERIFY2(run.complains("--pdf or --json-file"), run.io.err.constData());
 }
 
-void TestCliReports::anExportThatCannotBeWrittenSaysSo()
+void tst_CliReports::anExportThatCannotBeWrittenSaysSo()
 {
     CliRun run;
     QVERIFY(store(run.folder(), {reportOf(u"QVX-A"_s)}));
@@ -416,7 +417,7 @@ void TestCliReports::anExportThatCannotBeWrittenSaysSo()
     QCOMPARE(folder.code, 2);
 }
 
-void TestCliReports::aReportIsDeleted()
+void tst_CliReports::aReportIsDeleted()
 {
     CliRun run;
     QVERIFY(store(run.folder(), {reportOf(u"QVX-A"_s), reportOf(u"QVX-B"_s)}));
@@ -426,7 +427,7 @@ void TestCliReports::aReportIsDeleted()
     QVERIFY(!storedText(run.folder(), u"QVX-B"_s).isEmpty());
 }
 
-void TestCliReports::aDamagedReportCanBeDeleted()
+void tst_CliReports::aDamagedReportCanBeDeleted()
 {
     CliRun run;
     QVERIFY(store(run.folder(), {reportOf(u"QVX-A"_s)}));
@@ -436,7 +437,7 @@ void TestCliReports::aDamagedReportCanBeDeleted()
     QVERIFY(storedText(run.folder(), u"QVX-A"_s).isNull());
 }
 
-void TestCliReports::theExportedReportIsTheSame()
+void tst_CliReports::theExportedReportIsTheSame()
 {
     CliRun run;
     QVERIFY(store(run.folder(), {reportOf(u"QVX-A"_s)}));
@@ -447,7 +448,7 @@ void TestCliReports::theExportedReportIsTheSame()
     QVERIFY2(run.io.out.startsWith("THE SAME: "), run.io.out.constData());
 }
 
-void TestCliReports::theReportFileOfAJobIsTheSame()
+void tst_CliReports::theReportFileOfAJobIsTheSame()
 {
     MemoryMachine machine;
     addDrive(machine);
@@ -460,7 +461,7 @@ void TestCliReports::theReportFileOfAJobIsTheSame()
     QCOMPARE(io.documents().constFirst().object().value(u"same"), QJsonValue(true));
 }
 
-void TestCliReports::theFirstFieldThatDiffersIsNamed_data()
+void tst_CliReports::theFirstFieldThatDiffersIsNamed_data()
 {
     QTest::addColumn<QByteArray>("from");
     QTest::addColumn<QByteArray>("to");
@@ -478,7 +479,7 @@ void TestCliReports::theFirstFieldThatDiffersIsNamed_data()
         << QByteArray("\"status\": 3") << QByteArray("\"status\": 3, \"x\": 1") << u"x"_s;
 }
 
-void TestCliReports::theFirstFieldThatDiffersIsNamed()
+void tst_CliReports::theFirstFieldThatDiffersIsNamed()
 {
     QFETCH(QByteArray, from);
     QFETCH(QByteArray, to);
@@ -498,7 +499,7 @@ void TestCliReports::theFirstFieldThatDiffersIsNamed()
     QCOMPARE(io.documents().constFirst().object().value(u"field"), QJsonValue(field));
 }
 
-void TestCliReports::anotherWritingOfTheSameFieldsIsToldApart()
+void tst_CliReports::anotherWritingOfTheSameFieldsIsToldApart()
 {
     CliRun run;
     QVERIFY(store(run.folder(), {reportOf(u"QVX-A"_s)}));
@@ -511,7 +512,7 @@ void TestCliReports::anotherWritingOfTheSameFieldsIsToldApart()
     QVERIFY2(run.io.out.contains(place), run.io.out.constData());
 }
 
-void TestCliReports::aReportWithoutRecordIsNotTheSame()
+void tst_CliReports::aReportWithoutRecordIsNotTheSame()
 {
     CliRun run;
     const QString path = run.folder() + u"/out.json"_s;
@@ -521,7 +522,7 @@ void TestCliReports::aReportWithoutRecordIsNotTheSame()
     QVERIFY2(run.io.out.contains("no record of QVX-A"), run.io.out.constData());
 }
 
-void TestCliReports::whatIsNoReportIsNotTheSame_data()
+void tst_CliReports::whatIsNoReportIsNotTheSame_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::newRow("empty") << QByteArray();
@@ -531,7 +532,7 @@ void TestCliReports::whatIsNoReportIsNotTheSame_data()
     QTest::newRow("an id that is a number") << QByteArray("{\"certificateId\": 12345678901234567890}");
 }
 
-void TestCliReports::whatIsNoReportIsNotTheSame()
+void tst_CliReports::whatIsNoReportIsNotTheSame()
 {
     QFETCH(QByteArray, content);
     CliRun run;
@@ -542,7 +543,7 @@ void TestCliReports::whatIsNoReportIsNotTheSame()
     QVERIFY2(run.io.out.contains("is no report"), run.io.out.constData());
 }
 
-void TestCliReports::aMissingFileIsRefused()
+void tst_CliReports::aMissingFileIsRefused()
 {
     CliRun run;
     run({u"check"_s, run.folder() + u"/missing.json"_s});
@@ -555,5 +556,5 @@ void TestCliReports::aMissingFileIsRefused()
     QCOMPARE(empty.code, 2);
 }
 
-QTEST_GUILESS_MAIN(TestCliReports)
+QUORVEX_SUITE(tst_CliReports, QCoreApplication)
 #include "tst_clireports.moc"

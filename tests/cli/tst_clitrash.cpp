@@ -1,4 +1,5 @@
 #include "cli/testio.h"
+#include "support/suite.h"
 
 #include "services/infofiles.h"
 
@@ -9,7 +10,7 @@
 using namespace Qt::StringLiterals;
 
 // "trash list" and "wipe trash", on bins in folders of the test's own.
-class TestCliTrash : public QObject
+class tst_CliTrash : public QObject
 {
     Q_OBJECT
 
@@ -77,14 +78,14 @@ const QString Bob = u"S-1-5-21-1-2-3-1002"_s;
 
 } // namespace
 
-void TestCliTrash::init()
+void tst_CliTrash::init()
 {
     m_root = std::make_unique<QTemporaryDir>();
     QVERIFY(m_root->isValid());
     QVERIFY(QDir(m_home.filePath(u"Trash"_s)).removeRecursively());
 }
 
-void TestCliTrash::theBinsOfARootAreListed()
+void tst_CliTrash::theBinsOfARootAreListed()
 {
     addDeleted(Alice, u"AAAAAA.txt"_s, u"C:\\letters\\love.txt"_s, QByteArray(1000, 'a'));
     addDeleted(Bob, u"BBBBBB.txt"_s, u"C:\\bills.txt"_s, QByteArray(24, 'b'));
@@ -97,7 +98,7 @@ void TestCliTrash::theBinsOfARootAreListed()
     QVERIFY(QFile::exists(bin(Alice, u"$RAAAAAA.txt"_s)));
 }
 
-void TestCliTrash::oneUsersBinIsListed()
+void tst_CliTrash::oneUsersBinIsListed()
 {
     addDeleted(Alice, u"AAAAAA.txt"_s, u"C:\\a.txt"_s, "a");
     addDeleted(Bob, u"BBBBBB.txt"_s, u"C:\\b.txt"_s, "b");
@@ -107,7 +108,7 @@ void TestCliTrash::oneUsersBinIsListed()
     QCOMPARE(run.io.out, QByteArray("C:\\b.txt (1 B)\n1 item, 1 B\n"));
 }
 
-void TestCliTrash::theListIsOneObjectForMachines()
+void tst_CliTrash::theListIsOneObjectForMachines()
 {
     addDeleted(Alice, u"AAAAAA.txt"_s, u"C:\\a.txt"_s, "abc");
     CliRun run;
@@ -130,7 +131,7 @@ void TestCliTrash::theListIsOneObjectForMachines()
     QCOMPARE(item.value(u"isDirectory"), QJsonValue(false));
 }
 
-void TestCliTrash::anEmptyBinListsNothing()
+void tst_CliTrash::anEmptyBinListsNothing()
 {
     CliRun run;
     run(list());
@@ -138,7 +139,7 @@ void TestCliTrash::anEmptyBinListsNothing()
     QCOMPARE(run.io.out, QByteArray("0 items, 0 B\n"));
 }
 
-void TestCliTrash::aRootThatIsNoFolderIsRefused()
+void tst_CliTrash::aRootThatIsNoFolderIsRefused()
 {
     CliRun run;
     run({u"trash"_s, u"list"_s, u"--root"_s, path(u"missing"_s)});
@@ -146,7 +147,7 @@ void TestCliTrash::aRootThatIsNoFolderIsRefused()
     QVERIFY2(run.complains("is no folder"), run.io.err.constData());
 }
 
-void TestCliTrash::sidWithoutRootMakesNoSense()
+void tst_CliTrash::sidWithoutRootMakesNoSense()
 {
     CliRun run;
     run({u"wipe"_s, u"trash"_s, u"--sid"_s, Alice, u"--yes"_s});
@@ -157,14 +158,14 @@ void TestCliTrash::sidWithoutRootMakesNoSense()
     QCOMPARE(empty.code, 2);
 }
 
-void TestCliTrash::anEmptyRootIsNotTheCurrentFolder()
+void tst_CliTrash::anEmptyRootIsNotTheCurrentFolder()
 {
     CliRun run;
     run({u"wipe"_s, u"trash"_s, u"--root="_s, u"--yes"_s});
     QCOMPARE(run.code, 2);
 }
 
-void TestCliTrash::aRootUnderTwoNamesCountsOnce()
+void tst_CliTrash::aRootUnderTwoNamesCountsOnce()
 {
     addDeleted(Alice, u"AAAAAA.txt"_s, u"C:\\a.txt"_s, "abc");
     CliRun run;
@@ -173,7 +174,7 @@ void TestCliTrash::aRootUnderTwoNamesCountsOnce()
     QVERIFY2(run.io.out.endsWith("1 item, 3 B\n"), run.io.out.constData());
 }
 
-void TestCliTrash::namesCannotSteerTheTerminal()
+void tst_CliTrash::namesCannotSteerTheTerminal()
 {
     addDeleted(Alice, u"AAAAAA.txt"_s, u"C:\\a\x1b[2J\u202Etxt"_s, "abc");
     CliRun run;
@@ -182,7 +183,7 @@ void TestCliTrash::namesCannotSteerTheTerminal()
     QVERIFY(!run.io.out.contains("\xe2\x80\xae"));
 }
 
-void TestCliTrash::whatWasListedIsErased()
+void tst_CliTrash::whatWasListedIsErased()
 {
     addDeleted(Alice, u"AAAAAA.txt"_s, u"C:\\a.txt"_s, QByteArray(5000, 'a'));
     addDeleted(Bob, u"BBBBBB"_s, u"C:\\folder"_s, {});
@@ -202,7 +203,7 @@ void TestCliTrash::whatWasListedIsErased()
     QVERIFY2(run.io.out.contains("DONE: the Recycle Bin, NIST 800-88"), run.io.out.constData());
 }
 
-void TestCliTrash::onlyTheUserThatWasNamedLosesFiles()
+void tst_CliTrash::onlyTheUserThatWasNamedLosesFiles()
 {
     addDeleted(Alice, u"AAAAAA.txt"_s, u"C:\\a.txt"_s, "a");
     addDeleted(Bob, u"BBBBBB.txt"_s, u"C:\\b.txt"_s, "b");
@@ -213,7 +214,7 @@ void TestCliTrash::onlyTheUserThatWasNamedLosesFiles()
     QVERIFY(!QFile::exists(bin(Bob, u"$RBBBBBB.txt"_s)));
 }
 
-void TestCliTrash::nothingIsErasedWithoutTheWord()
+void tst_CliTrash::nothingIsErasedWithoutTheWord()
 {
     addDeleted(Alice, u"AAAAAA.txt"_s, u"C:\\a.txt"_s, "a");
     CliRun run;
@@ -226,7 +227,7 @@ void TestCliTrash::nothingIsErasedWithoutTheWord()
              run.io.err.constData());
 }
 
-void TestCliTrash::anEmptyBinIsDoneAtOnce()
+void tst_CliTrash::anEmptyBinIsDoneAtOnce()
 {
     CliRun run;
     run(wipe());
@@ -242,7 +243,7 @@ void TestCliTrash::anEmptyBinIsDoneAtOnce()
     QCOMPARE(last.value(u"report").toObject(), QJsonObject());
 }
 
-void TestCliTrash::aBinThatIsALinkIsLeftAlone()
+void tst_CliTrash::aBinThatIsALinkIsLeftAlone()
 {
     const QTemporaryDir elsewhere;
     QVERIFY(QDir().mkpath(elsewhere.filePath(Alice)));
@@ -256,7 +257,7 @@ void TestCliTrash::aBinThatIsALinkIsLeftAlone()
     QCOMPARE(contentOf(elsewhere.filePath(Alice + u"/$RAAAAAA.txt"_s)), QByteArray("a"));
 }
 
-void TestCliTrash::aRecordThatLeadsElsewhereErasesNothingThere()
+void tst_CliTrash::aRecordThatLeadsElsewhereErasesNothingThere()
 {
     QVERIFY(writeFile(path(u"victim.txt"_s), "kept"));
     addDeleted(Alice, u"AAAAAA.txt"_s, path(u"victim.txt"_s), "a");
@@ -267,7 +268,7 @@ void TestCliTrash::aRecordThatLeadsElsewhereErasesNothingThere()
     QCOMPARE(contentOf(path(u"victim.txt"_s)), QByteArray("kept"));
 }
 
-void TestCliTrash::aDamagedRecordIsErasedWithItsFile()
+void tst_CliTrash::aDamagedRecordIsErasedWithItsFile()
 {
     QVERIFY(QDir().mkpath(bin(Alice, {})));
     QVERIFY(writeFile(bin(Alice, u"$IAAAAAA.txt"_s), "\x02"));
@@ -280,7 +281,7 @@ void TestCliTrash::aDamagedRecordIsErasedWithItsFile()
 }
 
 #ifdef Q_OS_UNIX
-void TestCliTrash::theDesktopsTrashIsErasedWithItsRecords()
+void tst_CliTrash::theDesktopsTrashIsErasedWithItsRecords()
 {
     const QString trash = m_home.filePath(u"Trash"_s);
     QVERIFY(QDir().mkpath(trash + u"/files"_s));
@@ -300,7 +301,7 @@ void TestCliTrash::theDesktopsTrashIsErasedWithItsRecords()
     QVERIFY(QDir(trash + u"/info"_s).isEmpty());
 }
 
-void TestCliTrash::namesOfErasedFoldersLeaveTheRecords()
+void tst_CliTrash::namesOfErasedFoldersLeaveTheRecords()
 {
     const QString trash = m_home.filePath(u"Trash"_s);
     QVERIFY(QDir().mkpath(trash + u"/files/project"_s));
@@ -314,7 +315,7 @@ void TestCliTrash::namesOfErasedFoldersLeaveTheRecords()
     QVERIFY(!contentOf(trash + u"/directorysizes"_s).contains("project"));
 }
 
-void TestCliTrash::recordsThatCannotBeMendedAreTold()
+void tst_CliTrash::recordsThatCannotBeMendedAreTold()
 {
     const QString trash = m_home.filePath(u"Trash"_s);
     QVERIFY(QDir().mkpath(trash + u"/files"_s));
@@ -330,7 +331,7 @@ void TestCliTrash::recordsThatCannotBeMendedAreTold()
     QCOMPARE(run.io.events(u"error"_s).size(), 1);
 }
 
-void TestCliTrash::aTrashThatIsALinkIsLeftAlone()
+void tst_CliTrash::aTrashThatIsALinkIsLeftAlone()
 {
     const QTemporaryDir elsewhere;
     QVERIFY(QDir().mkpath(elsewhere.filePath(u"files"_s)));
@@ -345,5 +346,5 @@ void TestCliTrash::aTrashThatIsALinkIsLeftAlone()
 }
 #endif
 
-QTEST_GUILESS_MAIN(TestCliTrash)
+QUORVEX_SUITE(tst_CliTrash, QCoreApplication)
 #include "tst_clitrash.moc"

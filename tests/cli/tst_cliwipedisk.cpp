@@ -1,4 +1,5 @@
 #include "cli/testio.h"
+#include "support/suite.h"
 
 #include "cli/memorymachine.h"
 
@@ -10,7 +11,7 @@
 
 using namespace Qt::StringLiterals;
 
-class TestCliWipeDisk : public QObject
+class tst_CliWipeDisk : public QObject
 {
     Q_OBJECT
 
@@ -105,7 +106,7 @@ void makeSlow(MemoryMachine &machine)
 
 } // namespace
 
-void TestCliWipeDisk::anImageIsErasedToTheLastByte()
+void tst_CliWipeDisk::anImageIsErasedToTheLastByte()
 {
     const QTemporaryDir folder;
     const QString image = folder.filePath(u"a.img"_s);
@@ -120,7 +121,7 @@ void TestCliWipeDisk::anImageIsErasedToTheLastByte()
     QCOMPARE(run.io.err, QByteArray());
 }
 
-void TestCliWipeDisk::aDriveIsNamedByNumberPathOrLink()
+void tst_CliWipeDisk::aDriveIsNamedByNumberPathOrLink()
 {
     const QTemporaryDir folder;
     const QString image = folder.filePath(u"a.img"_s);
@@ -139,7 +140,7 @@ void TestCliWipeDisk::aDriveIsNamedByNumberPathOrLink()
         QSKIP(NoLinks);
 }
 
-void TestCliWipeDisk::theMethodIsTakenByNameOrNumber_data()
+void tst_CliWipeDisk::theMethodIsTakenByNameOrNumber_data()
 {
     QTest::addColumn<QString>("given");
     QTest::addColumn<int>("type");
@@ -150,7 +151,7 @@ void TestCliWipeDisk::theMethodIsTakenByNameOrNumber_data()
     QTest::newRow("35 passes") << u"GUTMANN"_s << 4;
 }
 
-void TestCliWipeDisk::theMethodIsTakenByNameOrNumber()
+void tst_CliWipeDisk::theMethodIsTakenByNameOrNumber()
 {
     QFETCH(const QString, given);
     QFETCH(const int, type);
@@ -164,7 +165,7 @@ void TestCliWipeDisk::theMethodIsTakenByNameOrNumber()
     QCOMPARE(report.value(u"methodType").toInt(-1), type);
 }
 
-void TestCliWipeDisk::optionsReachTheJob()
+void tst_CliWipeDisk::optionsReachTheJob()
 {
     MemoryMachine machine;
     addDrive(machine);
@@ -192,14 +193,14 @@ void TestCliWipeDisk::optionsReachTheJob()
     QCOMPARE(reads, 0);
 }
 
-void TestCliWipeDisk::theSystemDiskIsRefusedUnopened_data()
+void tst_CliWipeDisk::theSystemDiskIsRefusedUnopened_data()
 {
     QTest::addColumn<QString>("name");
     QTest::newRow("by number") << u"0"_s;
     QTest::newRow("by path") << u"memory drive 0"_s;
 }
 
-void TestCliWipeDisk::theSystemDiskIsRefusedUnopened()
+void tst_CliWipeDisk::theSystemDiskIsRefusedUnopened()
 {
     QFETCH(const QString, name);
     MemoryMachine machine;
@@ -215,7 +216,7 @@ void TestCliWipeDisk::theSystemDiskIsRefusedUnopened()
     QVERIFY(isUntouched(machine, 0));
 }
 
-void TestCliWipeDisk::aPartOfADriveIsRefused()
+void tst_CliWipeDisk::aPartOfADriveIsRefused()
 {
     MemoryMachine machine;
     addDrive(machine, 0);
@@ -229,7 +230,7 @@ void TestCliWipeDisk::aPartOfADriveIsRefused()
     QVERIFY(isUntouched(machine, 1));
 }
 
-void TestCliWipeDisk::anUnknownDriveIsRefused_data()
+void tst_CliWipeDisk::anUnknownDriveIsRefused_data()
 {
     QTest::addColumn<QString>("name");
     QTest::newRow("number") << u"7"_s;
@@ -241,7 +242,7 @@ void TestCliWipeDisk::anUnknownDriveIsRefused_data()
     QTest::newRow("arabic digit") << u"٠"_s;
 }
 
-void TestCliWipeDisk::anUnknownDriveIsRefused()
+void tst_CliWipeDisk::anUnknownDriveIsRefused()
 {
     QFETCH(const QString, name);
     MemoryMachine machine;
@@ -253,7 +254,7 @@ void TestCliWipeDisk::anUnknownDriveIsRefused()
     QCOMPARE(machine.openings(), QStringList());
 }
 
-void TestCliWipeDisk::withoutPermissionNothingIsAttempted()
+void tst_CliWipeDisk::withoutPermissionNothingIsAttempted()
 {
     MemoryMachine machine;
     addDrive(machine);
@@ -269,7 +270,7 @@ void TestCliWipeDisk::withoutPermissionNothingIsAttempted()
     QVERIFY(isUntouched(machine, 0));
 }
 
-void TestCliWipeDisk::aDriveThatChangedIsRefused()
+void tst_CliWipeDisk::aDriveThatChangedIsRefused()
 {
     MemoryMachine machine;
     addDrive(machine);
@@ -283,7 +284,7 @@ void TestCliWipeDisk::aDriveThatChangedIsRefused()
     QVERIFY(isUntouched(machine, 0));
 }
 
-void TestCliWipeDisk::withoutConfirmationNothingIsOpened()
+void tst_CliWipeDisk::withoutConfirmationNothingIsOpened()
 {
     MemoryMachine machine;
     addDrive(machine);
@@ -302,7 +303,7 @@ void TestCliWipeDisk::withoutConfirmationNothingIsOpened()
     QVERIFY(isUntouched(machine, 0));
 }
 
-void TestCliWipeDisk::typingEraseRunsTheJob()
+void tst_CliWipeDisk::typingEraseRunsTheJob()
 {
     MemoryMachine machine;
     addDrive(machine);
@@ -316,7 +317,7 @@ void TestCliWipeDisk::typingEraseRunsTheJob()
         QVERIFY2(run.io.out.left(run.io.out.indexOf("ERASE")).contains(word), word);
 }
 
-void TestCliWipeDisk::aFailedJobIsToldAsSuch()
+void tst_CliWipeDisk::aFailedJobIsToldAsSuch()
 {
     MemoryMachine machine;
     addDrive(machine);
@@ -341,7 +342,7 @@ void TestCliWipeDisk::aFailedJobIsToldAsSuch()
     QVERIFY(!finished.value(u"report").toObject().value(u"errorMessage").toString().isEmpty());
 }
 
-void TestCliWipeDisk::aStopEndsTheJobCleanly()
+void tst_CliWipeDisk::aStopEndsTheJobCleanly()
 {
     MemoryMachine machine;
     addDrive(machine);
@@ -358,7 +359,7 @@ void TestCliWipeDisk::aStopEndsTheJobCleanly()
     QCOMPARE(machine.memory.heldLocks(), 0);
 }
 
-void TestCliWipeDisk::aSecondStopChangesNothing()
+void tst_CliWipeDisk::aSecondStopChangesNothing()
 {
     MemoryMachine machine;
     addDrive(machine);
@@ -371,7 +372,7 @@ void TestCliWipeDisk::aSecondStopChangesNothing()
     QCOMPARE(machine.memory.openHandles(), 0);
 }
 
-void TestCliWipeDisk::aStopBeforeTheJobWritesNothing()
+void tst_CliWipeDisk::aStopBeforeTheJobWritesNothing()
 {
     MemoryMachine machine;
     addDrive(machine);
@@ -384,7 +385,7 @@ void TestCliWipeDisk::aStopBeforeTheJobWritesNothing()
     QVERIFY(isUntouched(machine, 0));
 }
 
-void TestCliWipeDisk::eventsFollowTheContract()
+void tst_CliWipeDisk::eventsFollowTheContract()
 {
     MemoryMachine machine;
     addDrive(machine, 3);
@@ -437,7 +438,7 @@ void TestCliWipeDisk::eventsFollowTheContract()
     }
 }
 
-void TestCliWipeDisk::progressComesAtMostTenTimesASecond()
+void tst_CliWipeDisk::progressComesAtMostTenTimesASecond()
 {
     MemoryMachine machine;
     addDrive(machine);
@@ -454,7 +455,7 @@ void TestCliWipeDisk::progressComesAtMostTenTimesASecond()
     QVERIFY2((count - 1) * 100 <= elapsed, qPrintable(u"%1 events in %2 ms"_s.arg(count).arg(elapsed)));
 }
 
-void TestCliWipeDisk::aRefusalIsAnEventToo()
+void tst_CliWipeDisk::aRefusalIsAnEventToo()
 {
     MemoryMachine machine;
     CliRun run;
@@ -465,7 +466,7 @@ void TestCliWipeDisk::aRefusalIsAnEventToo()
     QVERIFY(run.complains("no such drive"));
 }
 
-void TestCliWipeDisk::quietPrintsTheFinalLineOnly()
+void tst_CliWipeDisk::quietPrintsTheFinalLineOnly()
 {
     MemoryMachine machine;
     addDrive(machine);
@@ -490,7 +491,7 @@ void TestCliWipeDisk::quietPrintsTheFinalLineOnly()
     QVERIFY(lines.constLast().startsWith("FAILED: "));
 }
 
-void TestCliWipeDisk::quietEventsAreErrorsAndTheEnd()
+void tst_CliWipeDisk::quietEventsAreErrorsAndTheEnd()
 {
     MemoryMachine machine;
     addDrive(machine);
@@ -502,7 +503,7 @@ void TestCliWipeDisk::quietEventsAreErrorsAndTheEnd()
     QCOMPARE(run.io.err, QByteArray());
 }
 
-void TestCliWipeDisk::theLastLineTellsEverything()
+void tst_CliWipeDisk::theLastLineTellsEverything()
 {
     MemoryMachine machine;
     addDrive(machine);
@@ -519,7 +520,7 @@ void TestCliWipeDisk::theLastLineTellsEverything()
         QVERIFY2(last.contains(part), last.constData());
 }
 
-void TestCliWipeDisk::theLastLineTellsWhatWasNotErased()
+void tst_CliWipeDisk::theLastLineTellsWhatWasNotErased()
 {
     MemoryMachine machine;
     addDrive(machine);
@@ -536,7 +537,7 @@ void TestCliWipeDisk::theLastLineTellsWhatWasNotErased()
 }
 
 // Nothing that a script reads says that the drive is erased.
-void TestCliWipeDisk::aPartOfADriveIsNoSuccess()
+void tst_CliWipeDisk::aPartOfADriveIsNoSuccess()
 {
     MemoryMachine machine;
     addDrive(machine);
@@ -552,7 +553,7 @@ void TestCliWipeDisk::aPartOfADriveIsNoSuccess()
     QCOMPARE(run.io.events().constLast().value(u"success"), QJsonValue(false));
 }
 
-void TestCliWipeDisk::theReportIsWrittenAfterSuccess()
+void tst_CliWipeDisk::theReportIsWrittenAfterSuccess()
 {
     MemoryMachine machine;
     addDrive(machine);
@@ -566,7 +567,7 @@ void TestCliWipeDisk::theReportIsWrittenAfterSuccess()
     QVERIFY(contentOf(path).startsWith("{\n    \"certificateId\": \"QVX-"));
 }
 
-void TestCliWipeDisk::theReportIsWrittenAfterFailure()
+void tst_CliWipeDisk::theReportIsWrittenAfterFailure()
 {
     MemoryMachine machine;
     addDrive(machine);
@@ -583,7 +584,7 @@ void TestCliWipeDisk::theReportIsWrittenAfterFailure()
     QVERIFY(run.io.out.trimmed().endsWith(", report " + path.toUtf8()));
 }
 
-void TestCliWipeDisk::aReportThatCannotBeWrittenStopsBeforeAnythingIs()
+void tst_CliWipeDisk::aReportThatCannotBeWrittenStopsBeforeAnythingIs()
 {
     const QString unwritable = u"/proc/quorvex-report.json"_s; // refused to root as well
     if (!QFileInfo(u"/proc"_s).isDir())
@@ -598,7 +599,7 @@ void TestCliWipeDisk::aReportThatCannotBeWrittenStopsBeforeAnythingIs()
     QVERIFY(isUntouched(machine, 0));
 }
 
-void TestCliWipeDisk::aReportLostBehindAnErasureIsTold()
+void tst_CliWipeDisk::aReportLostBehindAnErasureIsTold()
 {
     MemoryMachine machine;
     addDrive(machine);
@@ -621,7 +622,7 @@ void TestCliWipeDisk::aReportLostBehindAnErasureIsTold()
              QJsonValue(true)); // what was erased is still told
 }
 
-void TestCliWipeDisk::aReportMustNotReplaceTheDrive()
+void tst_CliWipeDisk::aReportMustNotReplaceTheDrive()
 {
     const QTemporaryDir folder;
     const QString image = folder.filePath(u"a.img"_s);
@@ -633,7 +634,7 @@ void TestCliWipeDisk::aReportMustNotReplaceTheDrive()
     QCOMPARE(contentOf(image), QByteArray(65536, 'x'));
 }
 
-void TestCliWipeDisk::theJobIsInTheLogOfTheDataFolder()
+void tst_CliWipeDisk::theJobIsInTheLogOfTheDataFolder()
 {
     MemoryMachine machine;
     addDrive(machine);
@@ -647,7 +648,7 @@ void TestCliWipeDisk::theJobIsInTheLogOfTheDataFolder()
     QVERIFY(!run.io.out.contains("Job succeeded"));
 }
 
-void TestCliWipeDisk::aDataFolderThatCannotBeMadeStopsBeforeAnythingIs()
+void tst_CliWipeDisk::aDataFolderThatCannotBeMadeStopsBeforeAnythingIs()
 {
     const QTemporaryDir folder;
     QVERIFY(writeFile(folder.filePath(u"file"_s), "x"));
@@ -661,5 +662,5 @@ void TestCliWipeDisk::aDataFolderThatCannotBeMadeStopsBeforeAnythingIs()
     QCOMPARE(machine.openings(), QStringList());
 }
 
-QTEST_GUILESS_MAIN(TestCliWipeDisk)
+QUORVEX_SUITE(tst_CliWipeDisk, QCoreApplication)
 #include "tst_cliwipedisk.moc"

@@ -1,4 +1,5 @@
 #include "cli/testio.h"
+#include "support/suite.h"
 
 #include "cli/filetarget.h"
 
@@ -9,7 +10,7 @@
 
 using namespace Qt::StringLiterals;
 
-class TestCliWipeFiles : public QObject
+class tst_CliWipeFiles : public QObject
 {
     Q_OBJECT
 
@@ -53,7 +54,7 @@ QStringList wipeFiles(const QStringList &paths, const QStringList &options = {u"
 
 } // namespace
 
-void TestCliWipeFiles::init()
+void tst_CliWipeFiles::init()
 {
     m_folder = std::make_unique<QTemporaryDir>();
     QVERIFY(m_folder->isValid());
@@ -67,13 +68,13 @@ void TestCliWipeFiles::init()
     QVERIFY(writeFile(u"folder/sub/three.txt"_s, QByteArray(3000, '3')));
 }
 
-void TestCliWipeFiles::cleanup()
+void tst_CliWipeFiles::cleanup()
 {
     QVERIFY(QDir::setCurrent(m_previous));
     m_folder.reset();
 }
 
-void TestCliWipeFiles::filesAndFoldersAreErased()
+void tst_CliWipeFiles::filesAndFoldersAreErased()
 {
     CliRun run;
     run(wipeFiles({path(u"one.txt"_s), path(u"folder"_s)}));
@@ -85,7 +86,7 @@ void TestCliWipeFiles::filesAndFoldersAreErased()
     QVERIFY2(last.contains(" and 1 more, NIST 800-88, 3 files of 5.86 KB in "), last.constData());
 }
 
-void TestCliWipeFiles::aRelativePathIsSeenFromTheCurrentFolder()
+void tst_CliWipeFiles::aRelativePathIsSeenFromTheCurrentFolder()
 {
     CliRun run;
     run(wipeFiles({u"./folder/../one.txt"_s}));
@@ -94,7 +95,7 @@ void TestCliWipeFiles::aRelativePathIsSeenFromTheCurrentFolder()
     QVERIFY(exists(u"folder/two.txt"_s));
 }
 
-void TestCliWipeFiles::aLinkIsRemovedAndItsTargetKept()
+void tst_CliWipeFiles::aLinkIsRemovedAndItsTargetKept()
 {
     if (!makeLink(path(u"keep"_s), path(u"link"_s)) || !makeLink(path(u"nowhere"_s), path(u"dangling"_s)))
         QSKIP(NoLinks);
@@ -106,7 +107,7 @@ void TestCliWipeFiles::aLinkIsRemovedAndItsTargetKept()
     QCOMPARE(contentOf(path(u"keep/kept.txt"_s)), QByteArray("kept"));
 }
 
-void TestCliWipeFiles::aMissingPathIsRefusedBeforeAnythingIsErased()
+void tst_CliWipeFiles::aMissingPathIsRefusedBeforeAnythingIsErased()
 {
     CliRun run;
     run(wipeFiles({u"one.txt"_s, u"missing.txt"_s}));
@@ -115,7 +116,7 @@ void TestCliWipeFiles::aMissingPathIsRefusedBeforeAnythingIsErased()
     QCOMPARE(contentOf(path(u"one.txt"_s)), QByteArray(1000, '1'));
 }
 
-void TestCliWipeFiles::theRootOfAVolumeIsRefused_data()
+void tst_CliWipeFiles::theRootOfAVolumeIsRefused_data()
 {
     QTest::addColumn<QString>("root");
     QTest::newRow("of the system") << u"/"_s;
@@ -133,7 +134,7 @@ void TestCliWipeFiles::theRootOfAVolumeIsRefused_data()
 #endif
 }
 
-void TestCliWipeFiles::theRootOfAVolumeIsRefused()
+void tst_CliWipeFiles::theRootOfAVolumeIsRefused()
 {
     QFETCH(const QString, root);
     // No --yes and nobody to ask: were it not refused, it would still be safe.
@@ -144,7 +145,7 @@ void TestCliWipeFiles::theRootOfAVolumeIsRefused()
              run.io.err.constData());
 }
 
-void TestCliWipeFiles::aDeviceIsRefused()
+void tst_CliWipeFiles::aDeviceIsRefused()
 {
     CliRun run;
     run(wipeFiles({u"one.txt"_s, QProcess::nullDevice()}, {}));
@@ -152,7 +153,7 @@ void TestCliWipeFiles::aDeviceIsRefused()
     QVERIFY2(run.complains("wipe disk"), run.io.err.constData());
 }
 
-void TestCliWipeFiles::aPathBackThroughALinkIsRefused()
+void tst_CliWipeFiles::aPathBackThroughALinkIsRefused()
 {
 #ifdef Q_OS_WIN
     QSKIP("SKIPPED: Windows takes \"..\" out of a path itself, without a look at links");
@@ -165,7 +166,7 @@ void TestCliWipeFiles::aPathBackThroughALinkIsRefused()
     QVERIFY(exists(u"keep/kept.txt"_s));
 }
 
-void TestCliWipeFiles::anEmptyPathDoesNotMeanTheCurrentFolder()
+void tst_CliWipeFiles::anEmptyPathDoesNotMeanTheCurrentFolder()
 {
     CliRun run;
     run(wipeFiles({QString()}));
@@ -173,7 +174,7 @@ void TestCliWipeFiles::anEmptyPathDoesNotMeanTheCurrentFolder()
     QVERIFY(exists(u"one.txt"_s));
 }
 
-void TestCliWipeFiles::aPathThatLooksLikeAnOptionIsErased()
+void tst_CliWipeFiles::aPathThatLooksLikeAnOptionIsErased()
 {
     QVERIFY(writeFile(u"--quiet"_s, "x"));
     QVERIFY(writeFile(path(u":resource"_s), "x"));
@@ -187,7 +188,7 @@ void TestCliWipeFiles::aPathThatLooksLikeAnOptionIsErased()
     QVERIFY(io.out.contains("[info]"));
 }
 
-void TestCliWipeFiles::theQuestionTellsFilesAndBytes()
+void tst_CliWipeFiles::theQuestionTellsFilesAndBytes()
 {
     CliRun run;
     run.io.inputIsTerminal = run.io.outputIsTerminal = true;
@@ -199,7 +200,7 @@ void TestCliWipeFiles::theQuestionTellsFilesAndBytes()
     QVERIFY(exists(u"one.txt"_s));
 }
 
-void TestCliWipeFiles::aLongListIsCutShort()
+void tst_CliWipeFiles::aLongListIsCutShort()
 {
     QStringList names;
     for (int i = 0; i < 25; ++i) {
@@ -214,7 +215,7 @@ void TestCliWipeFiles::aLongListIsCutShort()
     QVERIFY(run.io.out.contains("  and 5 more\n  25 files, 25 B\n"));
 }
 
-void TestCliWipeFiles::namesCannotSteerTheTerminal()
+void tst_CliWipeFiles::namesCannotSteerTheTerminal()
 {
 #ifdef Q_OS_WIN
     const QString name = u"name\u202Etxt"_s; // Windows has no names with control characters
@@ -234,7 +235,7 @@ void TestCliWipeFiles::namesCannotSteerTheTerminal()
         QVERIFY(character == u'\n' || character.isPrint());
 }
 
-void TestCliWipeFiles::nestedPathsAreCountedOnce()
+void tst_CliWipeFiles::nestedPathsAreCountedOnce()
 {
     const cli::FileCount count = cli::countFiles(
         {path(u"folder/sub"_s), path(u"folder"_s), path(u"folder/two.txt"_s)}, [] { return false; });
@@ -244,7 +245,7 @@ void TestCliWipeFiles::nestedPathsAreCountedOnce()
     QVERIFY(!cli::countFiles({path(u"missing"_s)}, [] { return false; }).isComplete);
 }
 
-void TestCliWipeFiles::countingEndsWithAStop()
+void tst_CliWipeFiles::countingEndsWithAStop()
 {
     QCOMPARE(cli::countFiles({path(u"folder"_s)}, [] { return true; }).files, quint64(0));
     CliRun run;
@@ -254,7 +255,7 @@ void TestCliWipeFiles::countingEndsWithAStop()
     QVERIFY(exists(u"folder/two.txt"_s));
 }
 
-void TestCliWipeFiles::aReportInsideWhatIsErasedIsRefused()
+void tst_CliWipeFiles::aReportInsideWhatIsErasedIsRefused()
 {
     CliRun run;
     run(wipeFiles({u"folder"_s, u"--report"_s, u"folder/sub/r.json"_s}));
@@ -263,5 +264,5 @@ void TestCliWipeFiles::aReportInsideWhatIsErasedIsRefused()
     QVERIFY(exists(u"folder/two.txt"_s));
 }
 
-QTEST_GUILESS_MAIN(TestCliWipeFiles)
+QUORVEX_SUITE(tst_CliWipeFiles, QCoreApplication)
 #include "tst_cliwipefiles.moc"

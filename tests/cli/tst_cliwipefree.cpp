@@ -1,4 +1,5 @@
 #include "cli/testio.h"
+#include "support/suite.h"
 
 #include "platform/forwarding.h"
 #include "support/fakedevices.h"
@@ -10,7 +11,7 @@
 
 using namespace Qt::StringLiterals;
 
-class TestCliWipeFree : public QObject
+class tst_CliWipeFree : public QObject
 {
     Q_OBJECT
 
@@ -88,7 +89,7 @@ QStringList targets(const CliRun &run)
 
 } // namespace
 
-void TestCliWipeFree::aVolumeIsNamedByItsMountPoint()
+void tst_CliWipeFree::aVolumeIsNamedByItsMountPoint()
 {
     for (const QString &name : {u"/media/a"_s, u"/media/a/"_s, u"/media//b/../a"_s}) {
         Machine machine;
@@ -105,7 +106,7 @@ void TestCliWipeFree::aVolumeIsNamedByItsMountPoint()
     }
 }
 
-void TestCliWipeFree::theDriveIsShownAndNoReadBackPromised()
+void tst_CliWipeFree::theDriveIsShownAndNoReadBackPromised()
 {
     Machine machine;
     machine.add(u"/media/a"_s);
@@ -119,7 +120,7 @@ void TestCliWipeFree::theDriveIsShownAndNoReadBackPromised()
     QVERIFY(run.io.out.contains(", not read back"));
 }
 
-void TestCliWipeFree::aVolumeIsNamedByItsLetter()
+void tst_CliWipeFree::aVolumeIsNamedByItsLetter()
 {
     for (const QString &name : {u"E:"_s, u"e:"_s, u"E:/"_s}) {
         Machine machine;
@@ -132,7 +133,7 @@ void TestCliWipeFree::aVolumeIsNamedByItsLetter()
     }
 }
 
-void TestCliWipeFree::aDriveNumberMeansAllItsVolumes()
+void tst_CliWipeFree::aDriveNumberMeansAllItsVolumes()
 {
     Machine machine;
     machine.devices.drives.insert(1, FakeDrive::usbStick());
@@ -148,7 +149,7 @@ void TestCliWipeFree::aDriveNumberMeansAllItsVolumes()
     QCOMPARE(machine.filled(u"/media/stick"_s), qint64(0));
 }
 
-void TestCliWipeFree::aVolumeOfSeveralDrivesIsFound()
+void tst_CliWipeFree::aVolumeOfSeveralDrivesIsFound()
 {
     Machine machine;
     machine.devices.drives.insert(1, FakeDrive::usbStick());
@@ -159,7 +160,7 @@ void TestCliWipeFree::aVolumeOfSeveralDrivesIsFound()
     QCOMPARE(machine.filled(u"/media/pool"_s), 8 * MiB);
 }
 
-void TestCliWipeFree::anUnknownVolumeIsRefusedBeforeAnyIsFilled()
+void tst_CliWipeFree::anUnknownVolumeIsRefusedBeforeAnyIsFilled()
 {
     for (const QString &name : {u"/media/nothing"_s, u"7"_s, u"Q:"_s, u"/media"_s, QString()}) {
         Machine machine;
@@ -172,7 +173,7 @@ void TestCliWipeFree::anUnknownVolumeIsRefusedBeforeAnyIsFilled()
     }
 }
 
-void TestCliWipeFree::aSystemVolumeIsAllowed()
+void tst_CliWipeFree::aSystemVolumeIsAllowed()
 {
     Machine machine;
     machine.add(u"/system"_s);
@@ -185,7 +186,7 @@ void TestCliWipeFree::aSystemVolumeIsAllowed()
     QCOMPARE(machine.filled(u"/system"_s), 4 * MiB);
 }
 
-void TestCliWipeFree::severalVolumesAreSeveralJobs()
+void tst_CliWipeFree::severalVolumesAreSeveralJobs()
 {
     Machine machine;
     machine.add(u"/media/a"_s);
@@ -207,7 +208,7 @@ void TestCliWipeFree::severalVolumesAreSeveralJobs()
     QCOMPARE(certificates.removeDuplicates(), 0);
 }
 
-void TestCliWipeFree::theSameVolumeTwiceIsOneJob()
+void tst_CliWipeFree::theSameVolumeTwiceIsOneJob()
 {
     Machine machine;
     machine.add(u"/media/a"_s);
@@ -217,7 +218,7 @@ void TestCliWipeFree::theSameVolumeTwiceIsOneJob()
     QCOMPARE(run.io.events(u"started"_s).size(), 1);
 }
 
-void TestCliWipeFree::oneFailureFailsTheWholeButNotTheOthers()
+void tst_CliWipeFree::oneFailureFailsTheWholeButNotTheOthers()
 {
     Machine machine;
     machine.add(u"/media/a"_s);
@@ -235,7 +236,7 @@ void TestCliWipeFree::oneFailureFailsTheWholeButNotTheOthers()
     QCOMPARE(machine.filled(u"/media/b"_s), 8 * MiB);
 }
 
-void TestCliWipeFree::aStopSparesTheVolumesBehind()
+void tst_CliWipeFree::aStopSparesTheVolumesBehind()
 {
     Machine machine;
     machine.add(u"/media/a"_s);
@@ -258,7 +259,7 @@ void TestCliWipeFree::aStopSparesTheVolumesBehind()
     QVERIFY(!machine.holdsFillFiles());
 }
 
-void TestCliWipeFree::theReportNamesVolumeAndDrive()
+void tst_CliWipeFree::theReportNamesVolumeAndDrive()
 {
     Machine machine;
     machine.add(u"/media/a"_s);
@@ -273,5 +274,5 @@ void TestCliWipeFree::theReportNamesVolumeAndDrive()
     QCOMPARE(report.value(u"diskInfo").toObject().value(u"serialNumber"), QJsonValue(u"S/N 1"_s));
 }
 
-QTEST_GUILESS_MAIN(TestCliWipeFree)
+QUORVEX_SUITE(tst_CliWipeFree, QCoreApplication)
 #include "tst_cliwipefree.moc"

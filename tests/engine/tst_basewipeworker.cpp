@@ -1,4 +1,5 @@
 #include "engine/basewipeworker.h"
+#include "support/suite.h"
 
 #include "model/wipetask.h"
 
@@ -52,7 +53,7 @@ constexpr PassPattern patternOf(PatternType type, quint8 value = 0)
 
 } // namespace
 
-class BaseWipeWorkerTest : public QObject
+class tst_BaseWipeWorker : public QObject
 {
     Q_OBJECT
 
@@ -87,7 +88,7 @@ private slots:
     void aSampleWithoutNewBytesOnlyRestartsTheTimer();
 };
 
-void BaseWipeWorkerTest::signalsStandInTheirOrder()
+void tst_BaseWipeWorker::signalsStandInTheirOrder()
 {
     const QMetaObject &meta = BaseWipeWorker::staticMetaObject;
     QCOMPARE(QByteArray(meta.className()), QByteArray("BaseWipeWorker"));
@@ -104,7 +105,7 @@ void BaseWipeWorkerTest::signalsStandInTheirOrder()
     QCOMPARE(meta.method(meta.methodOffset() + 7).methodType(), QMetaMethod::Slot);
 }
 
-void BaseWipeWorkerTest::aNewWorkerHasNothingToReport()
+void tst_BaseWipeWorker::aNewWorkerHasNothingToReport()
 {
     OpenWorker worker;
     QCOMPARE(&worker.task(), &worker.m_ownTask);
@@ -116,14 +117,14 @@ void BaseWipeWorkerTest::aNewWorkerHasNothingToReport()
     QVERIFY(!worker.parent());
 }
 
-void BaseWipeWorkerTest::goesOnWhileNobodyStops()
+void tst_BaseWipeWorker::goesOnWhileNobodyStops()
 {
     OpenWorker worker;
     QVERIFY(worker.checkPauseStop());
     QVERIFY(worker.checkPauseStop());
 }
 
-void BaseWipeWorkerTest::afterAStopGivesUpAtOnce()
+void tst_BaseWipeWorker::afterAStopGivesUpAtOnce()
 {
     OpenWorker worker;
     worker.stop();
@@ -132,7 +133,7 @@ void BaseWipeWorkerTest::afterAStopGivesUpAtOnce()
     QVERIFY(!worker.checkPauseStop());
 }
 
-void BaseWipeWorkerTest::stopEndsAPause()
+void tst_BaseWipeWorker::stopEndsAPause()
 {
     OpenWorker worker;
     worker.m_paused = true;
@@ -141,7 +142,7 @@ void BaseWipeWorkerTest::stopEndsAPause()
     QVERIFY(!worker.checkPauseStop());
 }
 
-void BaseWipeWorkerTest::aPausedWorkerWaitsUntilItIsStopped()
+void tst_BaseWipeWorker::aPausedWorkerWaitsUntilItIsStopped()
 {
     OpenWorker worker;
     worker.m_paused = true;
@@ -160,7 +161,7 @@ void BaseWipeWorkerTest::aPausedWorkerWaitsUntilItIsStopped()
     QVERIFY(!wentOn);
 }
 
-void BaseWipeWorkerTest::aStopBeforeThePauseIsNotMissed()
+void tst_BaseWipeWorker::aStopBeforeThePauseIsNotMissed()
 {
     // The stop comes at any moment between the waiter's look at the flag and its wait.
     for (int round = 0; round < 500; ++round) {
@@ -173,7 +174,7 @@ void BaseWipeWorkerTest::aStopBeforeThePauseIsNotMissed()
     QVERIFY(true); // a missed wake-up hangs in join()
 }
 
-void BaseWipeWorkerTest::waitsForTheTimeGiven()
+void tst_BaseWipeWorker::waitsForTheTimeGiven()
 {
     OpenWorker worker;
     QElapsedTimer timer;
@@ -182,7 +183,7 @@ void BaseWipeWorkerTest::waitsForTheTimeGiven()
     QVERIFY(timer.elapsed() >= 19);
 }
 
-void BaseWipeWorkerTest::aWaitEndsWithAStop()
+void tst_BaseWipeWorker::aWaitEndsWithAStop()
 {
     OpenWorker worker;
     std::thread job([&worker] { worker.stop(); });
@@ -191,7 +192,7 @@ void BaseWipeWorkerTest::aWaitEndsWithAStop()
     QVERIFY(!worker.waitUnlessStopped(1h));
 }
 
-void BaseWipeWorkerTest::fillsTheBuffer_data()
+void tst_BaseWipeWorker::fillsTheBuffer_data()
 {
     QTest::addColumn<int>("type");
     QTest::addColumn<int>("value");
@@ -206,7 +207,7 @@ void BaseWipeWorkerTest::fillsTheBuffer_data()
     QTest::newRow("unknown -1") << -1 << 0x11 << QByteArray(13, '\x5A');
 }
 
-void BaseWipeWorkerTest::fillsTheBuffer()
+void tst_BaseWipeWorker::fillsTheBuffer()
 {
     QFETCH(int, type);
     QFETCH(int, value);
@@ -219,7 +220,7 @@ void BaseWipeWorkerTest::fillsTheBuffer()
     QCOMPARE(buffer, '\x5A' + expected + '\x5A');
 }
 
-void BaseWipeWorkerTest::complementInvertsWhatThePreviousFillLeft()
+void tst_BaseWipeWorker::complementInvertsWhatThePreviousFillLeft()
 {
     OpenWorker worker;
     QByteArray buffer(9, 'x');
@@ -232,7 +233,7 @@ void BaseWipeWorkerTest::complementInvertsWhatThePreviousFillLeft()
     QCOMPARE(buffer, before);
 }
 
-void BaseWipeWorkerTest::aRandomFillOfThirteenBytesTakesTwoDraws()
+void tst_BaseWipeWorker::aRandomFillOfThirteenBytesTakesTwoDraws()
 {
     constexpr quint32 seed = 20260305;
     PatternGenerator random(seed);
@@ -247,7 +248,7 @@ void BaseWipeWorkerTest::aRandomFillOfThirteenBytesTakesTwoDraws()
     QCOMPARE(random.generate(), reference.generate());
 }
 
-void BaseWipeWorkerTest::theWorkersOwnGeneratorIsNotReseeded()
+void tst_BaseWipeWorker::theWorkersOwnGeneratorIsNotReseeded()
 {
     OpenWorker worker;
     QByteArray first(64, 'x');
@@ -259,7 +260,7 @@ void BaseWipeWorkerTest::theWorkersOwnGeneratorIsNotReseeded()
     QVERIFY(worker.drawSeed() != worker.drawSeed());
 }
 
-void BaseWipeWorkerTest::twoWorkersHaveDifferentSequences()
+void tst_BaseWipeWorker::twoWorkersHaveDifferentSequences()
 {
     OpenWorker one;
     OpenWorker other;
@@ -270,7 +271,7 @@ void BaseWipeWorkerTest::twoWorkersHaveDifferentSequences()
     QVERIFY(first != second);
 }
 
-void BaseWipeWorkerTest::anEmptyFillTouchesNothing()
+void tst_BaseWipeWorker::anEmptyFillTouchesNothing()
 {
     OpenWorker worker;
     for (int type = 0; type <= 5; ++type) {
@@ -280,7 +281,7 @@ void BaseWipeWorkerTest::anEmptyFillTouchesNothing()
     }
 }
 
-void BaseWipeWorkerTest::checksTheBuffer_data()
+void tst_BaseWipeWorker::checksTheBuffer_data()
 {
     QTest::addColumn<QByteArray>("buffer");
     QTest::addColumn<int>("type");
@@ -305,7 +306,7 @@ void BaseWipeWorkerTest::checksTheBuffer_data()
         QTest::addRow("empty, type %d", type) << QByteArray() << type << 1 << true;
 }
 
-void BaseWipeWorkerTest::checksTheBuffer()
+void tst_BaseWipeWorker::checksTheBuffer()
 {
     QFETCH(QByteArray, buffer);
     QFETCH(int, type);
@@ -315,7 +316,7 @@ void BaseWipeWorkerTest::checksTheBuffer()
     QCOMPARE(OpenWorker::verifyBuffer(bytes(buffer), buffer.size(), pattern), passes);
 }
 
-void BaseWipeWorkerTest::aTotalOfNothingReportsZeroPercentOnly()
+void tst_BaseWipeWorker::aTotalOfNothingReportsZeroPercentOnly()
 {
     OpenWorker worker;
     worker.m_currentPass = 1;
@@ -332,7 +333,7 @@ void BaseWipeWorkerTest::aTotalOfNothingReportsZeroPercentOnly()
     QCOMPARE(speeds.size(), 0);
 }
 
-void BaseWipeWorkerTest::percentCountsTheEarlierPasses_data()
+void tst_BaseWipeWorker::percentCountsTheEarlierPasses_data()
 {
     QTest::addColumn<int>("pass");
     QTest::addColumn<int>("passes");
@@ -348,7 +349,7 @@ void BaseWipeWorkerTest::percentCountsTheEarlierPasses_data()
     QTest::newRow("beyond 32 bits") << 1 << 2 << (qint64(1) << 42) << (qint64(1) << 43) << 25;
 }
 
-void BaseWipeWorkerTest::percentCountsTheEarlierPasses()
+void tst_BaseWipeWorker::percentCountsTheEarlierPasses()
 {
     QFETCH(int, pass);
     QFETCH(int, passes);
@@ -364,7 +365,7 @@ void BaseWipeWorkerTest::percentCountsTheEarlierPasses()
     QCOMPARE(percents[0][0].toInt(), percent);
 }
 
-void BaseWipeWorkerTest::bytesCountTheEarlierPasses()
+void tst_BaseWipeWorker::bytesCountTheEarlierPasses()
 {
     OpenWorker worker;
     worker.m_currentPass = 2;
@@ -376,7 +377,7 @@ void BaseWipeWorkerTest::bytesCountTheEarlierPasses()
     QCOMPARE(counts[0][0].toLongLong(), 1'050);
 }
 
-void BaseWipeWorkerTest::speedIsSampledAfterHalfASecond()
+void tst_BaseWipeWorker::speedIsSampledAfterHalfASecond()
 {
     OpenWorker worker;
     worker.m_currentPass = 1;
@@ -398,7 +399,7 @@ void BaseWipeWorkerTest::speedIsSampledAfterHalfASecond()
     QVERIFY2(speed >= 1'499 * 1000.0 / static_cast<double>(longest), qPrintable(QString::number(speed)));
 }
 
-void BaseWipeWorkerTest::aSampleWithoutNewBytesOnlyRestartsTheTimer()
+void tst_BaseWipeWorker::aSampleWithoutNewBytesOnlyRestartsTheTimer()
 {
     OpenWorker worker;
     worker.m_currentPass = 1;
@@ -416,5 +417,5 @@ void BaseWipeWorkerTest::aSampleWithoutNewBytesOnlyRestartsTheTimer()
     QCOMPARE(speeds.size(), 0);
 }
 
-QTEST_GUILESS_MAIN(BaseWipeWorkerTest)
+QUORVEX_SUITE(tst_BaseWipeWorker, QCoreApplication)
 #include "tst_basewipeworker.moc"

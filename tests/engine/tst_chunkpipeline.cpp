@@ -1,5 +1,6 @@
 #include "engine/chunkpipeline.h"
 #include "engine/patterngenerator.h"
+#include "support/suite.h"
 
 #include "refusedthreads.h"
 
@@ -59,7 +60,7 @@ QByteArray generated(qint64 size)
 }
 } // namespace
 
-class TestChunkPipeline : public QObject
+class tst_ChunkPipeline : public QObject
 {
     Q_OBJECT
 
@@ -79,7 +80,7 @@ private slots:
     void destructionWaitsForTheHelper();
 };
 
-void TestChunkPipeline::chunksBeginOnAPageBoundary()
+void tst_ChunkPipeline::chunksBeginOnAPageBoundary()
 {
     Source source;
     ChunkPipeline chunks(std::ref(source));
@@ -90,7 +91,7 @@ void TestChunkPipeline::chunksBeginOnAPageBoundary()
     }
 }
 
-void TestChunkPipeline::randomChunksAreOneUnbrokenSequence_data()
+void tst_ChunkPipeline::randomChunksAreOneUnbrokenSequence_data()
 {
     QTest::addColumn<QList<qint64>>("sizes");
     QTest::addColumn<QList<qint64>>("prepared"); // after each chunk
@@ -103,7 +104,7 @@ void TestChunkPipeline::randomChunksAreOneUnbrokenSequence_data()
         << Sizes{512, 512, 512, 512, 512, Limit} << Sizes{Limit, 2048, 0, 4096, 8, 0};
 }
 
-void TestChunkPipeline::randomChunksAreOneUnbrokenSequence()
+void tst_ChunkPipeline::randomChunksAreOneUnbrokenSequence()
 {
     QFETCH(QList<qint64>, sizes);
     QFETCH(QList<qint64>, prepared);
@@ -119,7 +120,7 @@ void TestChunkPipeline::randomChunksAreOneUnbrokenSequence()
     QVERIFY(bytes == generated(bytes.size()));
 }
 
-void TestChunkPipeline::fewerBytesThanPreparedLoseNothing()
+void tst_ChunkPipeline::fewerBytesThanPreparedLoseNothing()
 {
     const quint32 seed = QRandomGenerator::global()->generate();
     qInfo("seed %u", seed);
@@ -140,7 +141,7 @@ void TestChunkPipeline::fewerBytesThanPreparedLoseNothing()
     QVERIFY(bytes == generated(bytes.size()));
 }
 
-void TestChunkPipeline::randomSequenceSurvivesAConstantPass()
+void tst_ChunkPipeline::randomSequenceSurvivesAConstantPass()
 {
     Source source;
     ChunkPipeline chunks(std::ref(source));
@@ -155,7 +156,7 @@ void TestChunkPipeline::randomSequenceSurvivesAConstantPass()
     QVERIFY(bytes == generated(bytes.size()));
 }
 
-void TestChunkPipeline::preparingDoesNotWaitForTheData()
+void tst_ChunkPipeline::preparingDoesNotWaitForTheData()
 {
     QSemaphore allowed;
     QThread *filledOn = nullptr;
@@ -175,7 +176,7 @@ void TestChunkPipeline::preparingDoesNotWaitForTheData()
     QVERIFY(filledOn != QThread::currentThread() || QThread::idealThreadCount() < 1);
 }
 
-void TestChunkPipeline::withoutAHelperNothingIsLost()
+void tst_ChunkPipeline::withoutAHelperNothingIsLost()
 {
     if (!RefusedThreads::isPossible())
         QSKIP(RefusedThreads::whyNot);
@@ -198,7 +199,7 @@ void TestChunkPipeline::withoutAHelperNothingIsLost()
     QVERIFY(bytes == generated(bytes.size()));
 }
 
-void TestChunkPipeline::constantDataIsFilledOncePerPass()
+void tst_ChunkPipeline::constantDataIsFilledOncePerPass()
 {
     Source source;
     ChunkPipeline chunks(std::ref(source));
@@ -214,7 +215,7 @@ void TestChunkPipeline::constantDataIsFilledOncePerPass()
     }
 }
 
-void TestChunkPipeline::laterLargerChunkIsFilledWholly()
+void tst_ChunkPipeline::laterLargerChunkIsFilledWholly()
 {
     Source source;
     ChunkPipeline chunks(std::ref(source));
@@ -224,7 +225,7 @@ void TestChunkPipeline::laterLargerChunkIsFilledWholly()
     QCOMPARE(source.filled, Limit);
 }
 
-void TestChunkPipeline::complementIsThatOfThePassBefore()
+void tst_ChunkPipeline::complementIsThatOfThePassBefore()
 {
     Source source;
     ChunkPipeline chunks(std::ref(source));
@@ -238,7 +239,7 @@ void TestChunkPipeline::complementIsThatOfThePassBefore()
     QCOMPARE(taken(chunks, Limit), QByteArray(Limit, '\x0F'));
 }
 
-void TestChunkPipeline::complementOfARandomPassIsNotWhatItWrote()
+void tst_ChunkPipeline::complementOfARandomPassIsNotWhatItWrote()
 {
     Source source;
     ChunkPipeline chunks(std::ref(source));
@@ -250,7 +251,7 @@ void TestChunkPipeline::complementOfARandomPassIsNotWhatItWrote()
     QVERIFY(taken(chunks, Limit) == written);
 }
 
-void TestChunkPipeline::memoryThatIsNotToBeHad()
+void tst_ChunkPipeline::memoryThatIsNotToBeHad()
 {
     Source source;
     ChunkPipeline chunks(std::ref(source));
@@ -260,7 +261,7 @@ void TestChunkPipeline::memoryThatIsNotToBeHad()
     QVERIFY(taken(chunks, Limit) == generated(Limit));
 }
 
-void TestChunkPipeline::destructionWaitsForTheHelper()
+void tst_ChunkPipeline::destructionWaitsForTheHelper()
 {
     Source source;
     {
@@ -275,5 +276,5 @@ void TestChunkPipeline::destructionWaitsForTheHelper()
     QCOMPARE(source.filled, 512 + Limit);
 }
 
-QTEST_APPLESS_MAIN(TestChunkPipeline)
+QUORVEX_SUITE(tst_ChunkPipeline, suites::NoApplication)
 #include "tst_chunkpipeline.moc"

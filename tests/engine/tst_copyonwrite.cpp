@@ -1,4 +1,5 @@
 #include "engine/copyonwrite.h"
+#include "support/suite.h"
 
 #include "filejob.h"
 #include "platform/filenames.h"
@@ -7,7 +8,7 @@
 #include <QStorageInfo>
 #include <QTest>
 
-class CopyOnWriteTest : public QObject
+class tst_CopyOnWrite : public QObject
 {
     Q_OBJECT
 
@@ -38,7 +39,7 @@ void makeFile(const QString &path)
 
 } // namespace
 
-void CopyOnWriteTest::knowsTheTypes_data()
+void tst_CopyOnWrite::knowsTheTypes_data()
 {
     QTest::addColumn<bool>("elsewhere");
     for (const char *type : {"btrfs", "zfs", "f2fs", "nilfs2", "bcachefs", "overlay"})
@@ -47,13 +48,13 @@ void CopyOnWriteTest::knowsTheTypes_data()
         QTest::newRow(type) << false;
 }
 
-void CopyOnWriteTest::knowsTheTypes()
+void tst_CopyOnWrite::knowsTheTypes()
 {
     QFETCH(bool, elsewhere);
     QCOMPARE(writesElsewhere(QByteArray(QTest::currentDataTag())), elsewhere);
 }
 
-void CopyOnWriteTest::ordinaryFileSystemsAreNotNamed()
+void tst_CopyOnWrite::ordinaryFileSystemsAreNotNamed()
 {
     if (const QString reason = LoopMount::unavailableReason(LoopMount::Ext4); !reason.isEmpty())
         QSKIP(qPrintable(reason));
@@ -66,7 +67,7 @@ void CopyOnWriteTest::ordinaryFileSystemsAreNotNamed()
                 .isEmpty());
 }
 
-void CopyOnWriteTest::anOrdinaryJobSaysNothing()
+void tst_CopyOnWrite::anOrdinaryJobSaysNothing()
 {
     FileJob job;
     if (writesElsewhere(QStorageInfo(job.path({})).fileSystemType()))
@@ -75,7 +76,7 @@ void CopyOnWriteTest::anOrdinaryJobSaysNothing()
     QVERIFY(job.lines().filter(QStringLiteral("文件系统")).isEmpty());
 }
 
-void CopyOnWriteTest::aFileSystemIsNamedOnce()
+void tst_CopyOnWrite::aFileSystemIsNamedOnce()
 {
     if (const QString reason = LoopMount::unavailableReason(LoopMount::Btrfs); !reason.isEmpty())
         QSKIP(qPrintable(reason));
@@ -88,7 +89,7 @@ void CopyOnWriteTest::aFileSystemIsNamedOnce()
              QByteArrayList{"btrfs"});
 }
 
-void CopyOnWriteTest::theJobSaysSoAfterThePreparation()
+void tst_CopyOnWrite::theJobSaysSoAfterThePreparation()
 {
     if (const QString reason = LoopMount::unavailableReason(LoopMount::Btrfs); !reason.isEmpty())
         QSKIP(qPrintable(reason));
@@ -107,7 +108,7 @@ void CopyOnWriteTest::theJobSaysSoAfterThePreparation()
                                        said::deleting, said::allDone(3), said::succeeded}));
 }
 
-void CopyOnWriteTest::aMountPointIsJudgedByItself()
+void tst_CopyOnWrite::aMountPointIsJudgedByItself()
 {
     if (const QString reason = LoopMount::unavailableReason(LoopMount::Btrfs); !reason.isEmpty())
         QSKIP(qPrintable(reason));
@@ -123,7 +124,7 @@ void CopyOnWriteTest::aMountPointIsJudgedByItself()
              writesElsewhere(outer) ? QByteArrayList{outer} : QByteArrayList());
 }
 
-void CopyOnWriteTest::foldersWhoseNamesAreNoText()
+void tst_CopyOnWrite::foldersWhoseNamesAreNoText()
 {
     if (const QString reason = LoopMount::unavailableReason(LoopMount::Btrfs); !reason.isEmpty())
         QSKIP(qPrintable(reason));
@@ -135,5 +136,5 @@ void CopyOnWriteTest::foldersWhoseNamesAreNoText()
     QCOMPARE(fileSystemsWritingElsewhere({platform::decodeName(name)}), QByteArrayList{"btrfs"});
 }
 
-QTEST_GUILESS_MAIN(CopyOnWriteTest)
+QUORVEX_SUITE(tst_CopyOnWrite, QCoreApplication)
 #include "tst_copyonwrite.moc"

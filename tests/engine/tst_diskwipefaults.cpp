@@ -2,6 +2,7 @@
 #include "support/faultydevices.h"
 #include "support/powercutdevices.h"
 #include "support/slowdevices.h"
+#include "support/suite.h"
 
 #include <QLoggingCategory>
 #include <QRandomGenerator>
@@ -118,7 +119,7 @@ void prepare(DiskWipeJob &job, Scenario &scenario)
 }
 } // namespace
 
-class TestDiskWipeFaults : public QObject
+class tst_DiskWipeFaults : public QObject
 {
     Q_OBJECT
 
@@ -138,13 +139,13 @@ private slots:
     void stopOfAPausedWorker();
 };
 
-void TestDiskWipeFaults::initTestCase()
+void tst_DiskWipeFaults::initTestCase()
 {
     // Thousands of planned faults, each with its diagnostics.
     QLoggingCategory::setFilterRules(u"default.debug=false"_s);
 }
 
-void TestDiskWipeFaults::everyCallFailing_data()
+void tst_DiskWipeFaults::everyCallFailing_data()
 {
     QTest::addColumn<bool>("withVolumes");
     QTest::addColumn<int>("error");
@@ -159,7 +160,7 @@ void TestDiskWipeFaults::everyCallFailing_data()
     }
 }
 
-void TestDiskWipeFaults::everyCallFailing()
+void tst_DiskWipeFaults::everyCallFailing()
 {
     QFETCH(bool, withVolumes);
     QFETCH(int, error);
@@ -192,14 +193,14 @@ void TestDiskWipeFaults::everyCallFailing()
     } while (fired > 0);
 }
 
-void TestDiskWipeFaults::powerCutAfterAJob_data()
+void tst_DiskWipeFaults::powerCutAfterAJob_data()
 {
     QTest::addColumn<bool>("withVolumes");
     QTest::newRow("drive") << false;
     QTest::newRow("volumes") << true;
 }
 
-void TestDiskWipeFaults::powerCutAfterAJob()
+void tst_DiskWipeFaults::powerCutAfterAJob()
 {
     QFETCH(bool, withVolumes);
     Scenario scenario(withVolumes);
@@ -211,7 +212,7 @@ void TestDiskWipeFaults::powerCutAfterAJob()
     QCOMPARE(job.report().wipedSectors, scenario.overwritten());
 }
 
-void TestDiskWipeFaults::powerCutAfterAStop()
+void tst_DiskWipeFaults::powerCutAfterAStop()
 {
     Scenario scenario(false);
     PowerCutDevices powerCut(scenario.memory);
@@ -228,7 +229,7 @@ void TestDiskWipeFaults::powerCutAfterAStop()
     QVERIFY(complaint(scenario, job).isEmpty());
 }
 
-void TestDiskWipeFaults::powerCutAfterAFailedFlush()
+void tst_DiskWipeFaults::powerCutAfterAFailedFlush()
 {
     Scenario scenario(false);
     PowerCutDevices powerCut(scenario.memory);
@@ -241,7 +242,7 @@ void TestDiskWipeFaults::powerCutAfterAFailedFlush()
     QCOMPARE(job.report().wipedSectors, 0ULL);
 }
 
-void TestDiskWipeFaults::stopInEveryStage_data()
+void tst_DiskWipeFaults::stopInEveryStage_data()
 {
     QTest::addColumn<bool>("withVolumes");
     QTest::addColumn<QString>("method");
@@ -270,7 +271,7 @@ void TestDiskWipeFaults::stopInEveryStage_data()
     row(true, u"unlock"_s, 1, true);
 }
 
-void TestDiskWipeFaults::stopInEveryStage()
+void tst_DiskWipeFaults::stopInEveryStage()
 {
     QFETCH(bool, withVolumes);
     QFETCH(QString, method);
@@ -307,7 +308,7 @@ void TestDiskWipeFaults::stopInEveryStage()
     QVERIFY(mayWrite || scenario.memory.writes() == 0);
 }
 
-void TestDiskWipeFaults::stopDuringLockAttempts()
+void tst_DiskWipeFaults::stopDuringLockAttempts()
 {
     Scenario scenario(true);
     scenario.memory.volume(u"E:"_s).failingLocks = -1;
@@ -337,7 +338,7 @@ void TestDiskWipeFaults::stopDuringLockAttempts()
     QVERIFY(job.errors().isEmpty());
 }
 
-void TestDiskWipeFaults::stopBeforeTheStart()
+void tst_DiskWipeFaults::stopBeforeTheStart()
 {
     for (const bool withVolumes : {false, true}) {
         Scenario scenario(withVolumes);
@@ -352,7 +353,7 @@ void TestDiskWipeFaults::stopBeforeTheStart()
     }
 }
 
-void TestDiskWipeFaults::stopAtAnyTime()
+void tst_DiskWipeFaults::stopAtAnyTime()
 {
     const quint32 seed = QRandomGenerator::global()->generate();
     qInfo("seed %u", seed);
@@ -386,7 +387,7 @@ public:
 };
 } // namespace
 
-void TestDiskWipeFaults::stopOfAPausedWorker()
+void tst_DiskWipeFaults::stopOfAPausedWorker()
 {
     Scenario scenario(false);
     DiskWipeJob settings; // only its task is used
@@ -421,5 +422,5 @@ void TestDiskWipeFaults::stopOfAPausedWorker()
     QCOMPARE(scenario.memory.openHandles(), 0);
 }
 
-QTEST_GUILESS_MAIN(TestDiskWipeFaults)
+QUORVEX_SUITE(tst_DiskWipeFaults, QCoreApplication)
 #include "tst_diskwipefaults.moc"

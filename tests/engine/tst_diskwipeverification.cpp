@@ -1,6 +1,7 @@
 #include "diskwipejob.h"
 #include "support/faultydevices.h"
 #include "support/lyingdevices.h"
+#include "support/suite.h"
 
 #include <QCryptographicHash>
 #include <QTest>
@@ -85,7 +86,7 @@ platform::Result<qint64> idleRead(platform::RawDevice &, void *, qint64 size)
 }
 } // namespace
 
-class TestDiskWipeVerification : public QObject
+class tst_DiskWipeVerification : public QObject
 {
     Q_OBJECT
 
@@ -122,7 +123,7 @@ private slots:
     void wipedSectorsNeverExceedTheDisk();
 };
 
-void TestDiskWipeVerification::sampleOffsetsAreReduced_data()
+void tst_DiskWipeVerification::sampleOffsetsAreReduced_data()
 {
     QTest::addColumn<qint64>("offset");
     QTest::addColumn<qint64>("span");
@@ -144,7 +145,7 @@ void TestDiskWipeVerification::sampleOffsetsAreReduced_data()
     row("length below a sector", 512, 8192, 100, 512);
 }
 
-void TestDiskWipeVerification::sampleOffsetsAreReduced()
+void tst_DiskWipeVerification::sampleOffsetsAreReduced()
 {
     QFETCH(qint64, offset);
     QFETCH(qint64, span);
@@ -177,7 +178,7 @@ struct SampleReads
 };
 } // namespace
 
-void TestDiskWipeVerification::samplesAreReadFromTheWholeDrive()
+void tst_DiskWipeVerification::samplesAreReadFromTheWholeDrive()
 {
     MemoryDevices memory;
     memory.addDrive(markedDrive(1, 16 * KiB));
@@ -195,7 +196,7 @@ void TestDiskWipeVerification::samplesAreReadFromTheWholeDrive()
     QCOMPARE(*std::max_element(reads.positions.begin(), reads.positions.end()), 31 * 512);
 }
 
-void TestDiskWipeVerification::samplesAreReadThroughTheFirstVolume()
+void tst_DiskWipeVerification::samplesAreReadThroughTheFirstVolume()
 {
     MemoryDevices memory;
     addDriveWithVolumes(memory, 2 * MiB, 2 * MiB);
@@ -209,7 +210,7 @@ void TestDiskWipeVerification::samplesAreReadThroughTheFirstVolume()
     QVERIFY(*std::max_element(reads.positions.begin(), reads.positions.end()) < 2 * MiB);
 }
 
-void TestDiskWipeVerification::smallFirstVolumeIsVerified()
+void tst_DiskWipeVerification::smallFirstVolumeIsVerified()
 {
     MemoryDevices memory;
     addDriveWithVolumes(memory, 512 * 5, 2 * MiB);
@@ -225,7 +226,7 @@ void TestDiskWipeVerification::smallFirstVolumeIsVerified()
     QCOMPARE(*std::max_element(reads.positions.begin(), reads.positions.end()), 4 * 512);
 }
 
-void TestDiskWipeVerification::volumeThatEndsWithinASectorIsVerified()
+void tst_DiskWipeVerification::volumeThatEndsWithinASectorIsVerified()
 {
     MemoryDevices memory;
     memory.addDrive(markedDrive(1, MiB));
@@ -240,7 +241,7 @@ void TestDiskWipeVerification::volumeThatEndsWithinASectorIsVerified()
     QCOMPARE(job.report().wipedSectors, 1ULL);
 }
 
-void TestDiskWipeVerification::volumeWithLargerSectorsThanItsDriveIsVerified()
+void tst_DiskWipeVerification::volumeWithLargerSectorsThanItsDriveIsVerified()
 {
     MemoryDevices memory;
     memory.addDrive(markedDrive(1, MiB));
@@ -258,7 +259,7 @@ void TestDiskWipeVerification::volumeWithLargerSectorsThanItsDriveIsVerified()
     QCOMPARE(job.report().verificationSampleSize, 200);
 }
 
-void TestDiskWipeVerification::nothingIsReadWhenSwitchedOff()
+void tst_DiskWipeVerification::nothingIsReadWhenSwitchedOff()
 {
     MemoryDevices memory;
     memory.addDrive(markedDrive(1, MiB));
@@ -272,14 +273,14 @@ void TestDiskWipeVerification::nothingIsReadWhenSwitchedOff()
     QVERIFY(reads.positions.isEmpty());
 }
 
-void TestDiskWipeVerification::nothingIsReadWithoutSamples_data()
+void tst_DiskWipeVerification::nothingIsReadWithoutSamples_data()
 {
     QTest::addColumn<int>("samples");
     QTest::newRow("0") << 0;
     QTest::newRow("negative") << -5;
 }
 
-void TestDiskWipeVerification::nothingIsReadWithoutSamples()
+void tst_DiskWipeVerification::nothingIsReadWithoutSamples()
 {
     QFETCH(int, samples);
     MemoryDevices memory;
@@ -296,7 +297,7 @@ void TestDiskWipeVerification::nothingIsReadWithoutSamples()
     QCOMPARE(job.report().dataHash, QString());
 }
 
-void TestDiskWipeVerification::readThatDeliversNothingIsFound_data()
+void tst_DiskWipeVerification::readThatDeliversNothingIsFound_data()
 {
     QTest::addColumn<int>("pattern");
     QTest::addColumn<int>("reading");
@@ -308,7 +309,7 @@ void TestDiskWipeVerification::readThatDeliversNothingIsFound_data()
     }
 }
 
-void TestDiskWipeVerification::readThatDeliversNothingIsFound()
+void tst_DiskWipeVerification::readThatDeliversNothingIsFound()
 {
     QFETCH(int, pattern);
     QFETCH(int, reading);
@@ -330,7 +331,7 @@ void TestDiskWipeVerification::readThatDeliversNothingIsFound()
     }
 }
 
-void TestDiskWipeVerification::laterReadThatDeliversNothingIsFound()
+void tst_DiskWipeVerification::laterReadThatDeliversNothingIsFound()
 {
     // The sample before must not stand in for the one that did not come.
     for (const PatternType type : {PatternType::Zeros, PatternType::Random}) {
@@ -349,7 +350,7 @@ void TestDiskWipeVerification::laterReadThatDeliversNothingIsFound()
     }
 }
 
-void TestDiskWipeVerification::complementReadFailureIsFound()
+void tst_DiskWipeVerification::complementReadFailureIsFound()
 {
     MemoryDevices memory;
     memory.addDrive(markedDrive(1, MiB));
@@ -361,7 +362,7 @@ void TestDiskWipeVerification::complementReadFailureIsFound()
     QCOMPARE(job.log().filter(u"2 验证失败，位置: "_s).size(), 1);
 }
 
-void TestDiskWipeVerification::failedSeekIsFound()
+void tst_DiskWipeVerification::failedSeekIsFound()
 {
     MemoryDevices memory;
     memory.addDrive(markedDrive(1, MiB));
@@ -374,14 +375,14 @@ void TestDiskWipeVerification::failedSeekIsFound()
     QCOMPARE(job.report().verificationSampleSize, 2);
 }
 
-void TestDiskWipeVerification::droppedWriteIsFound_data()
+void tst_DiskWipeVerification::droppedWriteIsFound_data()
 {
     QTest::addColumn<int>("write");
     for (int write = 1; write <= 4; ++write)
         QTest::addRow("%d", write) << write;
 }
 
-void TestDiskWipeVerification::droppedWriteIsFound()
+void tst_DiskWipeVerification::droppedWriteIsFound()
 {
     QFETCH(int, write);
     MemoryDevices memory;
@@ -395,7 +396,7 @@ void TestDiskWipeVerification::droppedWriteIsFound()
     QCOMPARE(job.log().filter(u"2 验证失败，位置: "_s).size(), 1);
 }
 
-void TestDiskWipeVerification::droppedVolumeWriteIsFound()
+void tst_DiskWipeVerification::droppedVolumeWriteIsFound()
 {
     MemoryDevices memory;
     addDriveWithVolumes(memory, 2 * MiB, 2 * MiB);
@@ -407,7 +408,7 @@ void TestDiskWipeVerification::droppedVolumeWriteIsFound()
     QCOMPARE(job.log().filter(u"2 验证失败，位置: "_s).size(), 1);
 }
 
-void TestDiskWipeVerification::driveThatEndsBeforeItsSizeIsFound()
+void tst_DiskWipeVerification::driveThatEndsBeforeItsSizeIsFound()
 {
     MemoryDevices memory;
     memory.addDrive(markedDrive(1, 2 * MiB));
@@ -423,7 +424,7 @@ void TestDiskWipeVerification::driveThatEndsBeforeItsSizeIsFound()
 
 // Every place of such a drive reads back as what was written to it last, and its medium is overwritten in
 // full: the samples cannot tell it from a drive that is as large as it says.
-void TestDiskWipeVerification::wrappingDriveLooksLikeAWipedOne()
+void tst_DiskWipeVerification::wrappingDriveLooksLikeAWipedOne()
 {
     MemoryDevices memory;
     memory.addDrive(markedDrive(1, 2 * MiB));
@@ -436,7 +437,7 @@ void TestDiskWipeVerification::wrappingDriveLooksLikeAWipedOne()
     QVERIFY(memory.medium(1) == QByteArray(2 * MiB, '\0'));
 }
 
-void TestDiskWipeVerification::uncoveredVolumeEndIsFound()
+void tst_DiskWipeVerification::uncoveredVolumeEndIsFound()
 {
     MemoryDevices memory;
     memory.addDrive(markedDrive(1, 4 * MiB));
@@ -452,7 +453,7 @@ void TestDiskWipeVerification::uncoveredVolumeEndIsFound()
     QCOMPARE(job.report().wipedSectors, quint64(2 * MiB / 512));
 }
 
-void TestDiskWipeVerification::unreducedOffsetIsNamed()
+void tst_DiskWipeVerification::unreducedOffsetIsNamed()
 {
     // One sector can be read through the volume, while the offsets drawn go over the whole disk.
     MemoryDevices memory;
@@ -476,7 +477,7 @@ void TestDiskWipeVerification::unreducedOffsetIsNamed()
     QCOMPARE(largest % 512, 0);
 }
 
-void TestDiskWipeVerification::hashIsOverOffsetsAndSamples()
+void tst_DiskWipeVerification::hashIsOverOffsetsAndSamples()
 {
     MemoryDevices memory;
     memory.addDrive(markedDrive(1, 2 * MiB));
@@ -499,7 +500,7 @@ void TestDiskWipeVerification::hashIsOverOffsetsAndSamples()
     QCOMPARE(job.report().verificationMethod, u"random sampling, 50 sectors"_s);
 }
 
-void TestDiskWipeVerification::samplesOfSeveralPassesAreAddedUp()
+void tst_DiskWipeVerification::samplesOfSeveralPassesAreAddedUp()
 {
     MemoryDevices devices;
     devices.addDrive(markedDrive(1, 4096));
@@ -512,7 +513,7 @@ void TestDiskWipeVerification::samplesOfSeveralPassesAreAddedUp()
     QCOMPARE(job.report().verificationMethod, u"random sampling, 20 sectors"_s);
 }
 
-void TestDiskWipeVerification::failedVerificationReportsWhatWasRead()
+void tst_DiskWipeVerification::failedVerificationReportsWhatWasRead()
 {
     MemoryDevices memory;
     memory.addDrive(markedDrive(1, MiB));
@@ -526,7 +527,7 @@ void TestDiskWipeVerification::failedVerificationReportsWhatWasRead()
     QCOMPARE(job.report().dataHash.size(), 64);
 }
 
-void TestDiskWipeVerification::nothingReadBackIsReportedAsNothing()
+void tst_DiskWipeVerification::nothingReadBackIsReportedAsNothing()
 {
     // A report begins with 1000 samples.
     MemoryDevices memory;
@@ -550,7 +551,7 @@ void TestDiskWipeVerification::nothingReadBackIsReportedAsNothing()
     QCOMPARE(refused.report().wipedSectors, 0ULL);
 }
 
-void TestDiskWipeVerification::wipedSectorsOfTheLeastPass()
+void tst_DiskWipeVerification::wipedSectorsOfTheLeastPass()
 {
     MemoryDevices memory;
     memory.addDrive(markedDrive(1, 3 * MiB));
@@ -562,7 +563,7 @@ void TestDiskWipeVerification::wipedSectorsOfTheLeastPass()
     QCOMPARE(job.report().wipedSectors, quint64(MiB / 512));
 }
 
-void TestDiskWipeVerification::wipedSectorsBeforeTheLastPass()
+void tst_DiskWipeVerification::wipedSectorsBeforeTheLastPass()
 {
     MemoryDevices memory;
     memory.addDrive(markedDrive(1, 3 * MiB));
@@ -579,7 +580,7 @@ void TestDiskWipeVerification::wipedSectorsBeforeTheLastPass()
     QCOMPARE(job.report().wipedSectors, 0ULL);
 }
 
-void TestDiskWipeVerification::wipedSectorsOfTwoVolumesStoppedInBetween()
+void tst_DiskWipeVerification::wipedSectorsOfTwoVolumesStoppedInBetween()
 {
     MemoryDevices memory;
     addDriveWithVolumes(memory, 2 * MiB, 2 * MiB);
@@ -600,7 +601,7 @@ void TestDiskWipeVerification::wipedSectorsOfTwoVolumesStoppedInBetween()
     QCOMPARE(memory.heldLocks(), 0);
 }
 
-void TestDiskWipeVerification::wipedSectorsNeverExceedTheDisk()
+void tst_DiskWipeVerification::wipedSectorsNeverExceedTheDisk()
 {
     // Two names for one volume, as after a second mount under Windows.
     MemoryDevices devices;
@@ -613,5 +614,5 @@ void TestDiskWipeVerification::wipedSectorsNeverExceedTheDisk()
     QCOMPARE(job.report().wipedSectors, quint64(MiB / 512));
 }
 
-QTEST_GUILESS_MAIN(TestDiskWipeVerification)
+QUORVEX_SUITE(tst_DiskWipeVerification, QCoreApplication)
 #include "tst_diskwipeverification.moc"

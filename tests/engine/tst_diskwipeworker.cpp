@@ -1,5 +1,6 @@
 #include "diskwipejob.h"
 #include "support/faultydevices.h"
+#include "support/suite.h"
 
 #include <QRegularExpression>
 #include <QTest>
@@ -98,7 +99,7 @@ quint32 untempered(quint32 word)
 }
 } // namespace
 
-class TestDiskWipeWorker : public QObject
+class tst_DiskWipeWorker : public QObject
 {
     Q_OBJECT
 
@@ -158,7 +159,7 @@ private slots:
     void openingIsTracedToTheDebugOutput();
 };
 
-void TestDiskWipeWorker::systemDiskIsRefusedBeforeAnyVolumeIsTouched()
+void tst_DiskWipeWorker::systemDiskIsRefusedBeforeAnyVolumeIsTouched()
 {
     MemoryDevices memory;
     addTwoVolumeDrive(memory);
@@ -179,7 +180,7 @@ void TestDiskWipeWorker::systemDiskIsRefusedBeforeAnyVolumeIsTouched()
     QVERIFY(memory.medium(3) == markedMedium(TwoVolumeSize));
 }
 
-void TestDiskWipeWorker::logOfADriveWithoutVolumes()
+void tst_DiskWipeWorker::logOfADriveWithoutVolumes()
 {
     MemoryDevices devices;
     devices.addDrive(markedDrive(3, 3 * MiB + 512));
@@ -216,7 +217,7 @@ void TestDiskWipeWorker::logOfADriveWithoutVolumes()
     QCOMPARE(devices.openHandles(), 0);
 }
 
-void TestDiskWipeWorker::logOfTwoVolumes()
+void tst_DiskWipeWorker::logOfTwoVolumes()
 {
     MemoryDevices devices;
     addTwoVolumeDrive(devices);
@@ -267,7 +268,7 @@ void TestDiskWipeWorker::logOfTwoVolumes()
     QCOMPARE(devices.heldLocks(), 0);
 }
 
-void TestDiskWipeWorker::everyMethodOnADrive_data()
+void tst_DiskWipeWorker::everyMethodOnADrive_data()
 {
     QTest::addColumn<qint32>("method");
     QTest::addColumn<int>("lastByte"); // -1: random
@@ -283,7 +284,7 @@ void TestDiskWipeWorker::everyMethodOnADrive_data()
     }
 }
 
-void TestDiskWipeWorker::everyMethodOnADrive()
+void tst_DiskWipeWorker::everyMethodOnADrive()
 {
     QFETCH(qint32, method);
     QFETCH(int, lastByte);
@@ -305,7 +306,7 @@ void TestDiskWipeWorker::everyMethodOnADrive()
     QCOMPARE(job.percents.last(), 100);
 }
 
-void TestDiskWipeWorker::everyMethodThroughVolumes_data()
+void tst_DiskWipeWorker::everyMethodThroughVolumes_data()
 {
     QTest::addColumn<qint32>("method");
     QTest::addColumn<int>("lastByte");
@@ -314,7 +315,7 @@ void TestDiskWipeWorker::everyMethodThroughVolumes_data()
         QTest::newRow(qPrintable(method.name)) << method.type << lastBytes.at(method.type);
 }
 
-void TestDiskWipeWorker::everyMethodThroughVolumes()
+void tst_DiskWipeWorker::everyMethodThroughVolumes()
 {
     QFETCH(qint32, method);
     QFETCH(int, lastByte);
@@ -339,7 +340,7 @@ void TestDiskWipeWorker::everyMethodThroughVolumes()
     QCOMPARE(job.report().wipedSectors, quint64((LengthE + LengthX) / 512));
 }
 
-void TestDiskWipeWorker::partitionWipeLocksDismountsAndOverwritesEveryVolume()
+void tst_DiskWipeWorker::partitionWipeLocksDismountsAndOverwritesEveryVolume()
 {
     MemoryDevices devices;
     addTwoVolumeDrive(devices);
@@ -359,7 +360,7 @@ void TestDiskWipeWorker::partitionWipeLocksDismountsAndOverwritesEveryVolume()
     QVERIFY(job.report().wipedSectors < quint64(TwoVolumeSize / 512));
 }
 
-void TestDiskWipeWorker::patternLabels()
+void tst_DiskWipeWorker::patternLabels()
 {
     MemoryDevices devices;
     devices.addDrive(markedDrive(0, 4096));
@@ -381,7 +382,7 @@ void TestDiskWipeWorker::patternLabels()
              QStringList({u"0x00"_s, u"0xFF"_s, u"随机"_s, u"0xab"_s, u"0x05"_s, u"未知"_s, u"未知"_s}));
 }
 
-void TestDiskWipeWorker::randomDataIsOneUnbrokenSequence()
+void tst_DiskWipeWorker::randomDataIsOneUnbrokenSequence()
 {
     MemoryDevices devices;
     devices.addDrive(markedDrive(0, 5 * MiB + 3 * 512));
@@ -407,7 +408,7 @@ void TestDiskWipeWorker::randomDataIsOneUnbrokenSequence()
     }
 }
 
-void TestDiskWipeWorker::complementPassIsTheComplementOfThePassBefore()
+void tst_DiskWipeWorker::complementPassIsTheComplementOfThePassBefore()
 {
     MemoryDevices devices;
     devices.addDrive(markedDrive(0, 3 * MiB));
@@ -418,7 +419,7 @@ void TestDiskWipeWorker::complementPassIsTheComplementOfThePassBefore()
     QVERIFY(devices.medium(0) == constant(3 * MiB, 0xCA));
 }
 
-void TestDiskWipeWorker::progressOfADrive()
+void tst_DiskWipeWorker::progressOfADrive()
 {
     MemoryDevices devices;
     devices.addDrive(markedDrive(0, 2 * MiB + 512 * KiB));
@@ -430,7 +431,7 @@ void TestDiskWipeWorker::progressOfADrive()
     QCOMPARE(job.bytes, QList<qint64>({MiB, 2 * MiB, size, size + MiB, size + 2 * MiB, 2 * size}));
 }
 
-void TestDiskWipeWorker::progressOfTwoVolumesCountsTowardsTheWholeDisk()
+void tst_DiskWipeWorker::progressOfTwoVolumesCountsTowardsTheWholeDisk()
 {
     MemoryDevices devices;
     addTwoVolumeDrive(devices);
@@ -444,7 +445,7 @@ void TestDiskWipeWorker::progressOfTwoVolumesCountsTowardsTheWholeDisk()
     QCOMPARE(job.percents, QList<int>({12, 25, 25, 31, 62, 75, 75, 81}));
 }
 
-void TestDiskWipeWorker::chunksAreWholeSectors_data()
+void tst_DiskWipeWorker::chunksAreWholeSectors_data()
 {
     QTest::addColumn<qint64>("size");
     QTest::addColumn<qint32>("sectorSize");
@@ -460,7 +461,7 @@ void TestDiskWipeWorker::chunksAreWholeSectors_data()
         << qint64(520) * 3000 << 520 << QStringList{u"0 1048320"_s, u"0 511680"_s};
 }
 
-void TestDiskWipeWorker::chunksAreWholeSectors()
+void tst_DiskWipeWorker::chunksAreWholeSectors()
 {
     QFETCH(qint64, size);
     QFETCH(qint32, sectorSize);
@@ -477,7 +478,7 @@ void TestDiskWipeWorker::chunksAreWholeSectors()
     QCOMPARE(job.report().wipedSectors, quint64(size / 512));
 }
 
-void TestDiskWipeWorker::sectorLargerThanTheBuffer()
+void tst_DiskWipeWorker::sectorLargerThanTheBuffer()
 {
     MemoryDevices devices;
     devices.addDrive(markedDrive(0, 4 * MiB, 2 * MiB));
@@ -487,7 +488,7 @@ void TestDiskWipeWorker::sectorLargerThanTheBuffer()
     QVERIFY(devices.medium(0) == constant(4 * MiB, 0x00));
 }
 
-void TestDiskWipeWorker::emptyDrive()
+void tst_DiskWipeWorker::emptyDrive()
 {
     MemoryDevices devices;
     devices.addDrive(MemoryDrive(0, 0));
@@ -501,7 +502,7 @@ void TestDiskWipeWorker::emptyDrive()
     QCOMPARE(job.report().verificationMethod, QString());
 }
 
-void TestDiskWipeWorker::driveReplacedByAnotherOne_data()
+void tst_DiskWipeWorker::driveReplacedByAnotherOne_data()
 {
     QTest::addColumn<bool>("hasVolume");
     QTest::addColumn<bool>("otherSize");
@@ -511,7 +512,7 @@ void TestDiskWipeWorker::driveReplacedByAnotherOne_data()
     QTest::newRow("size, volume") << true << true;
 }
 
-void TestDiskWipeWorker::driveReplacedByAnotherOne()
+void tst_DiskWipeWorker::driveReplacedByAnotherOne()
 {
     QFETCH(bool, hasVolume);
     QFETCH(bool, otherSize);
@@ -540,7 +541,7 @@ void TestDiskWipeWorker::driveReplacedByAnotherOne()
     QVERIFY(devices.medium(0) == markedMedium(MiB));
 }
 
-void TestDiskWipeWorker::driveOpenedAloneOnlyWithoutVolumes()
+void tst_DiskWipeWorker::driveOpenedAloneOnlyWithoutVolumes()
 {
     class Sharing : public platform::ForwardingDevices
     {
@@ -568,7 +569,7 @@ void TestDiskWipeWorker::driveOpenedAloneOnlyWithoutVolumes()
     }
 }
 
-void TestDiskWipeWorker::lockIsTriedThirtyTimes()
+void tst_DiskWipeWorker::lockIsTriedThirtyTimes()
 {
     MemoryDevices devices;
     addTwoVolumeDrive(devices);
@@ -586,7 +587,7 @@ void TestDiskWipeWorker::lockIsTriedThirtyTimes()
     QCOMPARE(devices.heldLocks(), 0);
 }
 
-void TestDiskWipeWorker::lockThatSucceedsAtTheThirdAttempt()
+void tst_DiskWipeWorker::lockThatSucceedsAtTheThirdAttempt()
 {
     MemoryDevices devices;
     addTwoVolumeDrive(devices);
@@ -599,7 +600,7 @@ void TestDiskWipeWorker::lockThatSucceedsAtTheThirdAttempt()
     QVERIFY(job.log().filter(u"锁定失败"_s).isEmpty());
 }
 
-void TestDiskWipeWorker::dismountFailureIsOnlyLogged()
+void tst_DiskWipeWorker::dismountFailureIsOnlyLogged()
 {
     MemoryDevices memory;
     addTwoVolumeDrive(memory);
@@ -613,7 +614,7 @@ void TestDiskWipeWorker::dismountFailureIsOnlyLogged()
     QVERIFY(memory.medium(3) == twoVolumesOverwritten(0x00));
 }
 
-void TestDiskWipeWorker::stillMountedVolumeIsNotWritten()
+void tst_DiskWipeWorker::stillMountedVolumeIsNotWritten()
 {
     MemoryDevices devices;
     addTwoVolumeDrive(devices);
@@ -627,7 +628,7 @@ void TestDiskWipeWorker::stillMountedVolumeIsNotWritten()
     QVERIFY(devices.medium(3) == markedMedium(TwoVolumeSize));
 }
 
-void TestDiskWipeWorker::extendedIoFailureIsIgnored()
+void tst_DiskWipeWorker::extendedIoFailureIsIgnored()
 {
     MemoryDevices memory;
     addTwoVolumeDrive(memory);
@@ -639,7 +640,7 @@ void TestDiskWipeWorker::extendedIoFailureIsIgnored()
     QVERIFY(memory.medium(3) == twoVolumesOverwritten(0x00));
 }
 
-void TestDiskWipeWorker::volumeThatDoesNotOpenIsOnlyLogged()
+void tst_DiskWipeWorker::volumeThatDoesNotOpenIsOnlyLogged()
 {
     MemoryDevices memory;
     addTwoVolumeDrive(memory);
@@ -656,7 +657,7 @@ void TestDiskWipeWorker::volumeThatDoesNotOpenIsOnlyLogged()
     QCOMPARE(job.report().wipedSectors, quint64(LengthX / 512));
 }
 
-void TestDiskWipeWorker::noVolumeOpens()
+void tst_DiskWipeWorker::noVolumeOpens()
 {
     MemoryDevices memory;
     addTwoVolumeDrive(memory);
@@ -671,14 +672,14 @@ void TestDiskWipeWorker::noVolumeOpens()
     QCOMPARE(memory.openings(), 0);
 }
 
-void TestDiskWipeWorker::volumesThatCannotBeAskedAreSkipped_data()
+void tst_DiskWipeWorker::volumesThatCannotBeAskedAreSkipped_data()
 {
     QTest::addColumn<QString>("method");
     QTest::newRow("does not open") << u"queryVolume"_s;
     QTest::newRow("does not know its extents") << u"extents"_s;
 }
 
-void TestDiskWipeWorker::volumesThatCannotBeAskedAreSkipped()
+void tst_DiskWipeWorker::volumesThatCannotBeAskedAreSkipped()
 {
     QFETCH(QString, method);
     MemoryDevices memory;
@@ -693,7 +694,7 @@ void TestDiskWipeWorker::volumesThatCannotBeAskedAreSkipped()
     QCOMPARE(job.report().wipedSectors, quint64(LengthX / 512));
 }
 
-void TestDiskWipeWorker::volumeThatBeginsOnAnotherDriveIsLeftAlone()
+void tst_DiskWipeWorker::volumeThatBeginsOnAnotherDriveIsLeftAlone()
 {
     MemoryDevices devices;
     addTwoVolumeDrive(devices);
@@ -712,7 +713,7 @@ void TestDiskWipeWorker::volumeThatBeginsOnAnotherDriveIsLeftAlone()
     QVERIFY(devices.medium(5) == markedMedium(MiB));
 }
 
-void TestDiskWipeWorker::namesAreShownWithoutControlCharacters()
+void tst_DiskWipeWorker::namesAreShownWithoutControlCharacters()
 {
     MemoryDevices devices;
     MemoryDrive drive = markedDrive(0, MiB);
@@ -731,7 +732,7 @@ void TestDiskWipeWorker::namesAreShownWithoutControlCharacters()
     QVERIFY(devices.medium(0) == constant(MiB, 0x00));
 }
 
-void TestDiskWipeWorker::driveThatDoesNotOpenIsWipedThroughItsVolumes()
+void tst_DiskWipeWorker::driveThatDoesNotOpenIsWipedThroughItsVolumes()
 {
     MemoryDevices memory;
     addTwoVolumeDrive(memory);
@@ -748,7 +749,7 @@ void TestDiskWipeWorker::driveThatDoesNotOpenIsWipedThroughItsVolumes()
     QVERIFY(memory.medium(3) == twoVolumesOverwritten(0x00));
 }
 
-void TestDiskWipeWorker::driveWithoutGeometryIsMeasuredThroughItsVolumes_data()
+void tst_DiskWipeWorker::driveWithoutGeometryIsMeasuredThroughItsVolumes_data()
 {
     QTest::addColumn<bool>("knowsSectors");
     QTest::addColumn<int>("shownSectors");
@@ -756,7 +757,7 @@ void TestDiskWipeWorker::driveWithoutGeometryIsMeasuredThroughItsVolumes_data()
     QTest::newRow("sectors unknown") << false << 512;
 }
 
-void TestDiskWipeWorker::driveWithoutGeometryIsMeasuredThroughItsVolumes()
+void tst_DiskWipeWorker::driveWithoutGeometryIsMeasuredThroughItsVolumes()
 {
     QFETCH(bool, knowsSectors);
     QFETCH(int, shownSectors);
@@ -780,7 +781,7 @@ void TestDiskWipeWorker::driveWithoutGeometryIsMeasuredThroughItsVolumes()
     QVERIFY(memory.medium(0).sliced(MiB, 2 * MiB) == constant(2 * MiB, 0x00));
 }
 
-void TestDiskWipeWorker::noDriveAndNoVolume()
+void tst_DiskWipeWorker::noDriveAndNoVolume()
 {
     MemoryDevices memory;
     memory.addDrive(markedDrive(0, MiB));
@@ -793,7 +794,7 @@ void TestDiskWipeWorker::noDriveAndNoVolume()
                           u"log 0 将通过卷句柄进行擦除"_s, u"error 无法获取磁盘信息"_s, u"finished 0"_s}));
 }
 
-void TestDiskWipeWorker::noGeometryAndNoVolume()
+void tst_DiskWipeWorker::noGeometryAndNoVolume()
 {
     MemoryDevices memory;
     memory.addDrive(markedDrive(0, MiB));
@@ -806,7 +807,7 @@ void TestDiskWipeWorker::noGeometryAndNoVolume()
     QCOMPARE(memory.openHandles(), 0);
 }
 
-void TestDiskWipeWorker::volumesWithoutLength()
+void tst_DiskWipeWorker::volumesWithoutLength()
 {
     MemoryDevices memory;
     addTwoVolumeDrive(memory);
@@ -823,7 +824,7 @@ void TestDiskWipeWorker::volumesWithoutLength()
     QCOMPARE(memory.writes(), 0);
 }
 
-void TestDiskWipeWorker::estimatedVolumeSize()
+void tst_DiskWipeWorker::estimatedVolumeSize()
 {
     MemoryDevices memory;
     addTwoVolumeDrive(memory);
@@ -842,7 +843,7 @@ void TestDiskWipeWorker::estimatedVolumeSize()
     QCOMPARE(job.report().wipedSectors, quint64((LengthE + LengthX) / 512));
 }
 
-void TestDiskWipeWorker::failedSeekOnAVolumeIsLogged()
+void tst_DiskWipeWorker::failedSeekOnAVolumeIsLogged()
 {
     MemoryDevices memory;
     memory.addDrive(markedDrive(0, 2 * MiB));
@@ -862,7 +863,7 @@ void TestDiskWipeWorker::failedSeekOnAVolumeIsLogged()
     QCOMPARE(job.report().wipedSectors, 0ULL);
 }
 
-void TestDiskWipeWorker::failedSeekOnADriveFailsThePass()
+void tst_DiskWipeWorker::failedSeekOnADriveFailsThePass()
 {
     MemoryDevices memory;
     memory.addDrive(markedDrive(0, 3 * MiB));
@@ -877,14 +878,14 @@ void TestDiskWipeWorker::failedSeekOnADriveFailsThePass()
     QCOMPARE(job.report().wipedSectors, quint64(2 * MiB / 512));
 }
 
-void TestDiskWipeWorker::driveWriteErrors_data()
+void tst_DiskWipeWorker::driveWriteErrors_data()
 {
     QTest::addColumn<int>("code");
     for (const int code : {5, 19, 21, 27, 29, 32, 33, 87, 112, 1117})
         QTest::addRow("%d", code) << code;
 }
 
-void TestDiskWipeWorker::driveWriteErrors()
+void tst_DiskWipeWorker::driveWriteErrors()
 {
     QFETCH(int, code);
     MemoryDevices memory;
@@ -902,7 +903,7 @@ void TestDiskWipeWorker::driveWriteErrors()
     QVERIFY(memory.medium(0).sliced(MiB) == markedMedium(3 * MiB).sliced(MiB));
 }
 
-void TestDiskWipeWorker::driveWithoutProgressFails()
+void tst_DiskWipeWorker::driveWithoutProgressFails()
 {
     MemoryDevices devices;
     MemoryDrive drive = markedDrive(0, 3 * MiB);
@@ -917,7 +918,7 @@ void TestDiskWipeWorker::driveWithoutProgressFails()
     QCOMPARE(job.report().wipedSectors, quint64(2 * MiB / 512));
 }
 
-void TestDiskWipeWorker::volumeWriteErrors_data()
+void tst_DiskWipeWorker::volumeWriteErrors_data()
 {
     QTest::addColumn<int>("code");
     QTest::addColumn<QString>("extra");
@@ -930,7 +931,7 @@ void TestDiskWipeWorker::volumeWriteErrors_data()
     QTest::newRow("other") << 112 << QString();
 }
 
-void TestDiskWipeWorker::volumeWriteErrors()
+void tst_DiskWipeWorker::volumeWriteErrors()
 {
     QFETCH(int, code);
     QFETCH(QString, extra);
@@ -951,14 +952,14 @@ void TestDiskWipeWorker::volumeWriteErrors()
     QCOMPARE(memory.heldLocks(), 0);
 }
 
-void TestDiskWipeWorker::volumeBoundary_data()
+void tst_DiskWipeWorker::volumeBoundary_data()
 {
     QTest::addColumn<int>("code");
     for (const int code : {27, 29, 87})
         QTest::addRow("%d", code) << code;
 }
 
-void TestDiskWipeWorker::volumeBoundary()
+void tst_DiskWipeWorker::volumeBoundary()
 {
     QFETCH(int, code);
     MemoryDevices memory;
@@ -979,7 +980,7 @@ void TestDiskWipeWorker::volumeBoundary()
     QCOMPARE(job.report().wipedSectors, quint64((LengthE - 512 + LengthX) / 512));
 }
 
-void TestDiskWipeWorker::writeOfNothingEndsAVolume()
+void tst_DiskWipeWorker::writeOfNothingEndsAVolume()
 {
     MemoryDevices memory;
     MemoryDrive drive = markedDrive(0, 3 * MiB);
@@ -1036,7 +1037,7 @@ private:
 };
 } // namespace
 
-void TestDiskWipeWorker::shortWritesAreContinued()
+void tst_DiskWipeWorker::shortWritesAreContinued()
 {
     MemoryDevices memory;
     memory.addDrive(markedDrive(0, 2 * MiB + 512));
@@ -1050,7 +1051,7 @@ void TestDiskWipeWorker::shortWritesAreContinued()
     QCOMPARE(job.report().wipedSectors, quint64((2 * MiB + 512) / 512));
 }
 
-void TestDiskWipeWorker::failedFlushFailsThePass()
+void tst_DiskWipeWorker::failedFlushFailsThePass()
 {
     for (const bool hasVolume : {false, true}) {
         MemoryDevices memory;
@@ -1070,7 +1071,7 @@ void TestDiskWipeWorker::failedFlushFailsThePass()
     }
 }
 
-void TestDiskWipeWorker::memoryThatIsNotToBeHad()
+void tst_DiskWipeWorker::memoryThatIsNotToBeHad()
 {
     MemoryDevices devices;
     addTwoVolumeDrive(devices);
@@ -1086,7 +1087,7 @@ void TestDiskWipeWorker::memoryThatIsNotToBeHad()
     QCOMPARE(devices.openHandles(), 0);
 }
 
-void TestDiskWipeWorker::failedPassEndsTheJob()
+void tst_DiskWipeWorker::failedPassEndsTheJob()
 {
     MemoryDevices memory;
     memory.addDrive(markedDrive(0, 2 * MiB));
@@ -1099,7 +1100,7 @@ void TestDiskWipeWorker::failedPassEndsTheJob()
     QCOMPARE(job.report().wipedSectors, 0ULL);
 }
 
-void TestDiskWipeWorker::openingIsTracedToTheDebugOutput()
+void tst_DiskWipeWorker::openingIsTracedToTheDebugOutput()
 {
     MemoryDevices memory;
     memory.addDrive(markedDrive(0, MiB));
@@ -1118,5 +1119,5 @@ void TestDiskWipeWorker::openingIsTracedToTheDebugOutput()
     QVERIFY(!job.run(devices));
 }
 
-QTEST_GUILESS_MAIN(TestDiskWipeWorker)
+QUORVEX_SUITE(tst_DiskWipeWorker, QCoreApplication)
 #include "tst_diskwipeworker.moc"

@@ -1,4 +1,5 @@
 #include "engine/filecollector.h"
+#include "support/suite.h"
 
 #include "filejob.h"
 #include "support/faultyfiles.h"
@@ -47,7 +48,7 @@ struct Scan
 
 } // namespace
 
-class FileCollectorTest : public QObject
+class tst_FileCollector : public QObject
 {
     Q_OBJECT
 
@@ -71,7 +72,7 @@ private slots:
     void theFolderOfAnUnfinishedScanIsNotListed();
 };
 
-void FileCollectorTest::noTargetsGiveNothing()
+void tst_FileCollector::noTargetsGiveNothing()
 {
     const Scan scan({});
     QVERIFY(scan.list.files.isEmpty());
@@ -79,7 +80,7 @@ void FileCollectorTest::noTargetsGiveNothing()
     QCOMPARE(scan.list.unreadable, 0);
 }
 
-void FileCollectorTest::filesStandInTheOrderOfTheTargets()
+void tst_FileCollector::filesStandInTheOrderOfTheTargets()
 {
     FileJob job;
     const QStringList targets{job.makeFile(QStringLiteral("z"), 1), job.makeFile(QStringLiteral("a"), 1),
@@ -89,7 +90,7 @@ void FileCollectorTest::filesStandInTheOrderOfTheTargets()
     QVERIFY(scan.list.folders.isEmpty());
 }
 
-void FileCollectorTest::aFolderStandsForEveryFileBelowIt()
+void tst_FileCollector::aFolderStandsForEveryFileBelowIt()
 {
     FileJob job;
     QStringList files{job.makeFile(QStringLiteral("t/one"), 1), job.makeFile(QStringLiteral("t/sub/two"), 1),
@@ -104,7 +105,7 @@ void FileCollectorTest::aFolderStandsForEveryFileBelowIt()
     QCOMPARE(scan.list.unreadable, 0);
 }
 
-void FileCollectorTest::hiddenFilesAreFound()
+void tst_FileCollector::hiddenFilesAreFound()
 {
     FileJob job;
     QStringList files{job.makeFile(QStringLiteral("t/.hidden"), 1),
@@ -114,7 +115,7 @@ void FileCollectorTest::hiddenFilesAreFound()
     QCOMPARE(Scan({job.path(QStringLiteral("t"))}).sortedFiles(), files);
 }
 
-void FileCollectorTest::emptyFoldersHoldNothing()
+void tst_FileCollector::emptyFoldersHoldNothing()
 {
     FileJob job;
     job.makeFolder(QStringLiteral("t/a/b"));
@@ -123,7 +124,7 @@ void FileCollectorTest::emptyFoldersHoldNothing()
     QCOMPARE(scan.list.folders.size(), 1);
 }
 
-void FileCollectorTest::whatDoesNotExistIsLeftOut()
+void tst_FileCollector::whatDoesNotExistIsLeftOut()
 {
     FileJob job;
     const QString file = job.makeFile(QStringLiteral("a"), 1);
@@ -133,7 +134,7 @@ void FileCollectorTest::whatDoesNotExistIsLeftOut()
     QVERIFY(scan.unreadable.isEmpty());
 }
 
-void FileCollectorTest::theSameFileTwiceIsListedOnce()
+void tst_FileCollector::theSameFileTwiceIsListedOnce()
 {
     FileJob job;
     const QString a = job.makeFile(QStringLiteral("a"), 1);
@@ -141,7 +142,7 @@ void FileCollectorTest::theSameFileTwiceIsListedOnce()
     QCOMPARE(Scan({b, a, b, a, a}).list.files, (QStringList{b, a}));
 }
 
-void FileCollectorTest::aFileInsideAGivenFolderIsListedOnceWhereItCameFirst()
+void tst_FileCollector::aFileInsideAGivenFolderIsListedOnceWhereItCameFirst()
 {
     FileJob job;
     const QString inside = job.makeFile(QStringLiteral("t/sub/inside"), 1);
@@ -155,7 +156,7 @@ void FileCollectorTest::aFileInsideAGivenFolderIsListedOnceWhereItCameFirst()
     QCOMPARE(Scan({inside, folder + QLatin1Char('/')}).list.files, (QStringList{inside, other}));
 }
 
-void FileCollectorTest::namesThatDifferInCaseAreTwoFiles()
+void tst_FileCollector::namesThatDifferInCaseAreTwoFiles()
 {
     FileJob job;
     const QString lower = job.makeFile(QStringLiteral("name"), 1);
@@ -165,14 +166,14 @@ void FileCollectorTest::namesThatDifferInCaseAreTwoFiles()
     QCOMPARE(Scan({lower, upper}).list.files, (QStringList{lower, upper}));
 }
 
-void FileCollectorTest::separatorsAtTheEndDoNotMatter_data()
+void tst_FileCollector::separatorsAtTheEndDoNotMatter_data()
 {
     QTest::addColumn<QString>("end");
     for (const char *end : {"/", "//", "/.", "/./", "/./."})
         QTest::newRow(end) << QString::fromLatin1(end);
 }
 
-void FileCollectorTest::separatorsAtTheEndDoNotMatter()
+void tst_FileCollector::separatorsAtTheEndDoNotMatter()
 {
     QFETCH(QString, end);
     FileJob job;
@@ -182,7 +183,7 @@ void FileCollectorTest::separatorsAtTheEndDoNotMatter()
     QCOMPARE(scan.list.folders, QStringList{job.path(QStringLiteral("t"))});
 }
 
-void FileCollectorTest::deepTreesAreWalkedToTheEnd()
+void tst_FileCollector::deepTreesAreWalkedToTheEnd()
 {
     FileJob job;
     QString name = QStringLiteral("t");
@@ -193,7 +194,7 @@ void FileCollectorTest::deepTreesAreWalkedToTheEnd()
     QCOMPARE(Scan({job.path(QStringLiteral("t"))}).list.files, QStringList{file});
 }
 
-void FileCollectorTest::aFolderThatCannotBeListedIsTold()
+void tst_FileCollector::aFolderThatCannotBeListedIsTold()
 {
     FaultPlan plan(FaultPlan::List, 1, platform::AccessDenied, FaultPlan::FromThenOn);
     FaultyFolders folders(platform::Platform::current().folders(), plan,
@@ -211,7 +212,7 @@ void FileCollectorTest::aFolderThatCannotBeListedIsTold()
     QCOMPARE(scan.list.folders, QStringList{job.path(QStringLiteral("u"))});
 }
 
-void FileCollectorTest::whatWasListedBeforeTheFailureStays()
+void tst_FileCollector::whatWasListedBeforeTheFailureStays()
 {
     // Fails after it has shown every entry, as a folder with a damaged block does.
     class LateFailure : public platform::ForwardingFolders
@@ -232,7 +233,7 @@ void FileCollectorTest::whatWasListedBeforeTheFailureStays()
     QCOMPARE(scan.list.unreadable, 1);
 }
 
-void FileCollectorTest::aTargetThatCannotBeLookedAtIsTold()
+void tst_FileCollector::aTargetThatCannotBeLookedAtIsTold()
 {
     FileJob job;
     const QString bad = job.makeFile(QStringLiteral("bad"), 1);
@@ -246,7 +247,7 @@ void FileCollectorTest::aTargetThatCannotBeLookedAtIsTold()
     QCOMPARE(scan.unreadable, (QList<Scan::Unreadable>{{FileCollector::Unreadable::Target, bad, 1117}}));
 }
 
-void FileCollectorTest::theScanEndsAtAnyEntry()
+void tst_FileCollector::theScanEndsAtAnyEntry()
 {
     FileJob job;
     for (int i = 0; i < 5; ++i)
@@ -262,7 +263,7 @@ void FileCollectorTest::theScanEndsAtAnyEntry()
     }
 }
 
-void FileCollectorTest::theFolderOfAnUnfinishedScanIsNotListed()
+void tst_FileCollector::theFolderOfAnUnfinishedScanIsNotListed()
 {
     FileJob job;
     job.makeFile(QStringLiteral("t/a"), 1);
@@ -272,5 +273,5 @@ void FileCollectorTest::theFolderOfAnUnfinishedScanIsNotListed()
         QVERIFY(Scan({folder}, allowed).list.folders.isEmpty());
 }
 
-QTEST_GUILESS_MAIN(FileCollectorTest)
+QUORVEX_SUITE(tst_FileCollector, QCoreApplication)
 #include "tst_filecollector.moc"

@@ -1,4 +1,5 @@
 #include "engine/filedeletion.h"
+#include "support/suite.h"
 
 #include "filejob.h"
 
@@ -73,7 +74,7 @@ struct CountedDeletion
 
 } // namespace
 
-class FileDeletionTest : public QObject
+class tst_FileDeletion : public QObject
 {
     Q_OBJECT
 
@@ -103,7 +104,7 @@ private slots:
     void whatCannotBeLookedAtAfterwardsIsNotGone();
 };
 
-void FileDeletionTest::cutsRenamesAndDeletesInThisOrder()
+void tst_FileDeletion::cutsRenamesAndDeletesInThisOrder()
 {
     CountedDeletion c;
     const QString file = c.job.makeFile(QStringLiteral("secret"), 100);
@@ -117,7 +118,7 @@ void FileDeletionTest::cutsRenamesAndDeletesInThisOrder()
     QCOMPARE(c.pauses, 0);
 }
 
-void FileDeletionTest::theFileIsEmptyAndOnTheMediumBeforeItIsRenamed()
+void tst_FileDeletion::theFileIsEmptyAndOnTheMediumBeforeItIsRenamed()
 {
     CountedDeletion c;
     const QString file = c.job.makeFile(QStringLiteral("secret"), 5'000);
@@ -131,7 +132,7 @@ void FileDeletionTest::theFileIsEmptyAndOnTheMediumBeforeItIsRenamed()
     QCOMPARE(sizeAtRename, 0);
 }
 
-void FileDeletionTest::whatDoesNotExistIsGone()
+void tst_FileDeletion::whatDoesNotExistIsGone()
 {
     CountedDeletion c;
     QVERIFY(c.deletion.secureDeleteFile(c.job.path(QStringLiteral("nothing"))));
@@ -139,7 +140,7 @@ void FileDeletionTest::whatDoesNotExistIsGone()
     QCOMPARE(c.job.files.calls(~FaultPlan::Info).size(), 0);
 }
 
-void FileDeletionTest::aFolderIsNotAFile()
+void tst_FileDeletion::aFolderIsNotAFile()
 {
     CountedDeletion c;
     const QString folder = c.job.makeFolder(QStringLiteral("folder"));
@@ -148,7 +149,7 @@ void FileDeletionTest::aFolderIsNotAFile()
     QCOMPARE(c.job.files.calls(~FaultPlan::Info).size(), 0);
 }
 
-void FileDeletionTest::whatCannotBeLookedAtIsNotGone()
+void tst_FileDeletion::whatCannotBeLookedAtIsNotGone()
 {
     CountedDeletion c;
     const QString file = c.job.makeFile(QStringLiteral("secret"), 10);
@@ -157,7 +158,7 @@ void FileDeletionTest::whatCannotBeLookedAtIsNotGone()
     QVERIFY(QFileInfo::exists(file));
 }
 
-void FileDeletionTest::aFileThatDoesNotOpenIsDeletedAllTheSame()
+void tst_FileDeletion::aFileThatDoesNotOpenIsDeletedAllTheSame()
 {
     CountedDeletion c;
     const QString file = c.job.makeFile(QStringLiteral("secret"), 10);
@@ -166,7 +167,7 @@ void FileDeletionTest::aFileThatDoesNotOpenIsDeletedAllTheSame()
     QVERIFY(QDir(c.job.path({})).isEmpty());
 }
 
-void FileDeletionTest::aFailureToCutIsNoObstacle_data()
+void tst_FileDeletion::aFailureToCutIsNoObstacle_data()
 {
     QTest::addColumn<quint32>("kind");
     QTest::newRow("clear read-only") << quint32(FaultPlan::ClearReadOnly);
@@ -175,7 +176,7 @@ void FileDeletionTest::aFailureToCutIsNoObstacle_data()
     QTest::newRow("flush") << quint32(FaultPlan::Flush);
 }
 
-void FileDeletionTest::aFailureToCutIsNoObstacle()
+void tst_FileDeletion::aFailureToCutIsNoObstacle()
 {
     QFETCH(quint32, kind);
     CountedDeletion c;
@@ -186,7 +187,7 @@ void FileDeletionTest::aFailureToCutIsNoObstacle()
     QCOMPARE(c.job.files.calls(kind).size(), 1);
 }
 
-void FileDeletionTest::theNewNameIsRandomInTheSameFolder()
+void tst_FileDeletion::theNewNameIsRandomInTheSameFolder()
 {
     FileJob job;
     const QRegularExpression form(QStringLiteral("^[A-Z0-9]{12}\\.tmp$"));
@@ -205,7 +206,7 @@ void FileDeletionTest::theNewNameIsRandomInTheSameFolder()
     QCOMPARE(job.files.calls(FaultPlan::Rename).size(), 50);
 }
 
-void FileDeletionTest::fiveFailedRenamesGiveNoNewName()
+void tst_FileDeletion::fiveFailedRenamesGiveNoNewName()
 {
     CountedDeletion c;
     const QString file = c.job.makeFile(QStringLiteral("secret"), 10);
@@ -220,7 +221,7 @@ void FileDeletionTest::fiveFailedRenamesGiveNoNewName()
     QVERIFY(QFileInfo::exists(file));
 }
 
-void FileDeletionTest::aLaterRenameMaySucceed()
+void tst_FileDeletion::aLaterRenameMaySucceed()
 {
     CountedDeletion c;
     const QString file = c.job.makeFile(QStringLiteral("secret"), 10);
@@ -233,7 +234,7 @@ void FileDeletionTest::aLaterRenameMaySucceed()
     QCOMPARE(calls, 5);
 }
 
-void FileDeletionTest::aFileThatCannotBeRenamedIsDeletedUnderItsName()
+void tst_FileDeletion::aFileThatCannotBeRenamedIsDeletedUnderItsName()
 {
     CountedDeletion c;
     const QString file = c.job.makeFile(QStringLiteral("secret"), 10);
@@ -243,7 +244,7 @@ void FileDeletionTest::aFileThatCannotBeRenamedIsDeletedUnderItsName()
     QCOMPARE(c.job.files.calls(FaultPlan::Remove).first().path, file);
 }
 
-void FileDeletionTest::everyCharacterIsDrawn()
+void tst_FileDeletion::everyCharacterIsDrawn()
 {
     FileJob job;
     QSet<QChar> drawn;
@@ -257,14 +258,14 @@ void FileDeletionTest::everyCharacterIsDrawn()
     QCOMPARE(drawn.size(), 36);
 }
 
-void FileDeletionTest::retriesTenTimesWhileTheFileIsHeld_data()
+void tst_FileDeletion::retriesTenTimesWhileTheFileIsHeld_data()
 {
     QTest::addColumn<quint32>("code");
     QTest::newRow("32") << quint32(32);
     QTest::newRow("5") << quint32(5);
 }
 
-void FileDeletionTest::retriesTenTimesWhileTheFileIsHeld()
+void tst_FileDeletion::retriesTenTimesWhileTheFileIsHeld()
 {
     QFETCH(quint32, code);
     CountedDeletion c;
@@ -276,14 +277,14 @@ void FileDeletionTest::retriesTenTimesWhileTheFileIsHeld()
     QCOMPARE(c.pauses, 9); // between the attempts
 }
 
-void FileDeletionTest::otherErrorsEndTheAttempts_data()
+void tst_FileDeletion::otherErrorsEndTheAttempts_data()
 {
     QTest::addColumn<quint32>("code");
     for (const quint32 code : {2U, 19U, 33U, 1117U})
         QTest::addRow("%u", code) << code;
 }
 
-void FileDeletionTest::otherErrorsEndTheAttempts()
+void tst_FileDeletion::otherErrorsEndTheAttempts()
 {
     QFETCH(quint32, code);
     CountedDeletion c;
@@ -294,7 +295,7 @@ void FileDeletionTest::otherErrorsEndTheAttempts()
     QCOMPARE(c.pauses, 0);
 }
 
-void FileDeletionTest::succeedsWhenTheFileIsLetGo()
+void tst_FileDeletion::succeedsWhenTheFileIsLetGo()
 {
     CountedDeletion c;
     const QString file = c.job.makeFile(QStringLiteral("secret"), 10);
@@ -307,7 +308,7 @@ void FileDeletionTest::succeedsWhenTheFileIsLetGo()
     QVERIFY(QDir(c.job.path({})).isEmpty());
 }
 
-void FileDeletionTest::aStopEndsTheAttempts()
+void tst_FileDeletion::aStopEndsTheAttempts()
 {
     CountedDeletion c;
     const QString file = c.job.makeFile(QStringLiteral("secret"), 10);
@@ -317,7 +318,7 @@ void FileDeletionTest::aStopEndsTheAttempts()
     QCOMPARE(c.job.files.calls(FaultPlan::Remove).size(), 3);
 }
 
-void FileDeletionTest::aFileThatVanishedDuringTheAttemptsIsGone()
+void tst_FileDeletion::aFileThatVanishedDuringTheAttemptsIsGone()
 {
     CountedDeletion c;
     const QString file = c.job.makeFile(QStringLiteral("secret"), 10);
@@ -330,7 +331,7 @@ void FileDeletionTest::aFileThatVanishedDuringTheAttemptsIsGone()
     QVERIFY(c.deletion.secureDeleteFile(file));
 }
 
-void FileDeletionTest::whatCannotBeLookedAtAfterwardsIsNotGone()
+void tst_FileDeletion::whatCannotBeLookedAtAfterwardsIsNotGone()
 {
     CountedDeletion c;
     const QString file = c.job.makeFile(QStringLiteral("secret"), 10);
@@ -341,5 +342,5 @@ void FileDeletionTest::whatCannotBeLookedAtAfterwardsIsNotGone()
     QVERIFY(!c.deletion.secureDeleteFile(file));
 }
 
-QTEST_GUILESS_MAIN(FileDeletionTest)
+QUORVEX_SUITE(tst_FileDeletion, QCoreApplication)
 #include "tst_filedeletion.moc"

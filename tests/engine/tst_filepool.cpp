@@ -1,4 +1,5 @@
 #include "engine/filepool.h"
+#include "support/suite.h"
 
 #include "filejob.h"
 #include "refusedthreads.h"
@@ -9,7 +10,7 @@
 #include <atomic>
 #include <vector>
 
-class FilePoolTest : public QObject
+class tst_FilePool : public QObject
 {
     Q_OBJECT
 
@@ -46,7 +47,7 @@ struct Counting
 
 } // namespace
 
-void FilePoolTest::everyJobRunsOnce_data()
+void tst_FilePool::everyJobRunsOnce_data()
 {
     QTest::addColumn<int>("threads");
     QTest::addColumn<int>("count");
@@ -56,7 +57,7 @@ void FilePoolTest::everyJobRunsOnce_data()
     QTest::newRow("many jobs") << 4 << 500;
 }
 
-void FilePoolTest::everyJobRunsOnce()
+void tst_FilePool::everyJobRunsOnce()
 {
     QFETCH(int, threads);
     QFETCH(int, count);
@@ -70,7 +71,7 @@ void FilePoolTest::everyJobRunsOnce()
     }
 }
 
-void FilePoolTest::failuresAreCounted()
+void tst_FilePool::failuresAreCounted()
 {
     QObject parent;
     FilePool pool(3, &parent);
@@ -80,14 +81,14 @@ void FilePoolTest::failuresAreCounted()
     QCOMPARE(pool.run(jobs), 4);
 }
 
-void FilePoolTest::noJobsAreNoWork()
+void tst_FilePool::noJobsAreNoWork()
 {
     QObject parent;
     FilePool pool(3, &parent);
     QCOMPARE(pool.run({}), 0);
 }
 
-void FilePoolTest::oneRefusedThreadIsDoneWithout()
+void tst_FilePool::oneRefusedThreadIsDoneWithout()
 {
     if (!RefusedThreads::isPossible())
         QSKIP(RefusedThreads::whyNot);
@@ -101,7 +102,7 @@ void FilePoolTest::oneRefusedThreadIsDoneWithout()
     QCOMPARE(counting.onCaller.load(), 0);
 }
 
-void FilePoolTest::withoutThreadsTheCallerDoesTheWork()
+void tst_FilePool::withoutThreadsTheCallerDoesTheWork()
 {
     if (!RefusedThreads::isPossible())
         QSKIP(RefusedThreads::whyNot);
@@ -118,7 +119,7 @@ void FilePoolTest::withoutThreadsTheCallerDoesTheWork()
 }
 
 // They take jobs after the caller has given them up and begun to work itself.
-void FilePoolTest::threadsThatComeLateAreWaitedFor()
+void tst_FilePool::threadsThatComeLateAreWaitedFor()
 {
     if (!RefusedThreads::isPossible())
         QSKIP(RefusedThreads::whyNot);
@@ -136,7 +137,7 @@ void FilePoolTest::threadsThatComeLateAreWaitedFor()
     QCOMPARE(ran.load(), 4);
 }
 
-void FilePoolTest::filesAreErasedWithoutThreads()
+void tst_FilePool::filesAreErasedWithoutThreads()
 {
     if (!RefusedThreads::isPossible())
         QSKIP(RefusedThreads::whyNot);
@@ -154,5 +155,5 @@ void FilePoolTest::filesAreErasedWithoutThreads()
         QVERIFY(!QFile::exists(file));
 }
 
-QTEST_GUILESS_MAIN(FilePoolTest)
+QUORVEX_SUITE(tst_FilePool, QCoreApplication)
 #include "tst_filepool.moc"

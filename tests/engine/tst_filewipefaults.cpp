@@ -1,5 +1,6 @@
 #include "filejob.h"
 #include "support/faultyfiles.h"
+#include "support/suite.h"
 
 #include <QDirIterator>
 #include <QTest>
@@ -82,7 +83,7 @@ struct Scenario
 
 } // namespace
 
-class FileWipeFaultsTest : public QObject
+class tst_FileWipeFaults : public QObject
 {
     Q_OBJECT
 
@@ -97,7 +98,7 @@ private:
     static void loop(quint32 kinds, platform::ErrorCode error, FaultPlan::Repeat repeat, int threads);
 };
 
-void FileWipeFaultsTest::theScenarioWithoutFaults()
+void tst_FileWipeFaults::theScenarioWithoutFaults()
 {
     Scenario scenario(FaultPlan::Every, 1'000'000, platform::IoDevice, FaultPlan::Once, 1);
     QCOMPARE(scenario.secretsLeft(), 3);
@@ -109,7 +110,7 @@ void FileWipeFaultsTest::theScenarioWithoutFaults()
     QVERIFY(!QFileInfo::exists(scenario.single));
 }
 
-void FileWipeFaultsTest::everyFaultInTurn_data()
+void tst_FileWipeFaults::everyFaultInTurn_data()
 {
     QTest::addColumn<quint32>("kinds");
     QTest::addColumn<quint32>("error");
@@ -121,14 +122,14 @@ void FileWipeFaultsTest::everyFaultInTurn_data()
     }
 }
 
-void FileWipeFaultsTest::everyFaultWithSeveralThreads_data()
+void tst_FileWipeFaults::everyFaultWithSeveralThreads_data()
 {
     QTest::addColumn<quint32>("kinds");
     for (const auto &[name, kinds] : faultKinds)
         QTest::newRow(name) << kinds;
 }
 
-void FileWipeFaultsTest::loop(quint32 kinds, platform::ErrorCode error, FaultPlan::Repeat repeat, int threads)
+void tst_FileWipeFaults::loop(quint32 kinds, platform::ErrorCode error, FaultPlan::Repeat repeat, int threads)
 {
     int runsWithFaults = 0;
     for (int call = 1;; ++call) {
@@ -161,7 +162,7 @@ void FileWipeFaultsTest::loop(quint32 kinds, platform::ErrorCode error, FaultPla
     QVERIFY(runsWithFaults > 0);
 }
 
-void FileWipeFaultsTest::everyFaultInTurn()
+void tst_FileWipeFaults::everyFaultInTurn()
 {
     QFETCH(quint32, kinds);
     QFETCH(quint32, error);
@@ -170,11 +171,11 @@ void FileWipeFaultsTest::everyFaultInTurn()
          1);
 }
 
-void FileWipeFaultsTest::everyFaultWithSeveralThreads()
+void tst_FileWipeFaults::everyFaultWithSeveralThreads()
 {
     QFETCH(quint32, kinds);
     loop(kinds, platform::IoDevice, FaultPlan::Once, 3);
 }
 
-QTEST_GUILESS_MAIN(FileWipeFaultsTest)
+QUORVEX_SUITE(tst_FileWipeFaults, QCoreApplication)
 #include "tst_filewipefaults.moc"

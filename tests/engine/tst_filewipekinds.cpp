@@ -1,5 +1,6 @@
 #include "filejob.h"
 #include "platform/filenames.h"
+#include "support/suite.h"
 
 #include <QTest>
 
@@ -39,7 +40,7 @@ void makeRawFile(const QByteArray &path, const QByteArray &content)
 } // namespace
 
 // Links, hard links, pipes, sockets, device nodes, and names that are no text.
-class FileWipeKindsTest : public QObject
+class tst_FileWipeKinds : public QObject
 {
     Q_OBJECT
 
@@ -61,7 +62,7 @@ private slots:
     void aTargetWhoseNameIsNoTextIsWiped();
 };
 
-void FileWipeKindsTest::aGivenLinkIsRemovedItself()
+void tst_FileWipeKinds::aGivenLinkIsRemovedItself()
 {
     FileJob job;
     const QString target = job.makeFile(QStringLiteral("target"), 100);
@@ -79,14 +80,14 @@ void FileWipeKindsTest::aGivenLinkIsRemovedItself()
     QCOMPARE(job.files.calls(FaultPlan::Rename).size(), 2);
 }
 
-void FileWipeKindsTest::aGivenLinkToAFolderIsRemovedItself_data()
+void tst_FileWipeKinds::aGivenLinkToAFolderIsRemovedItself_data()
 {
     QTest::addColumn<QString>("end");
     for (const char *end : {"", "/", "//", "/.", "/./"})
         QTest::addRow("\"%s\"", end) << QString::fromLatin1(end);
 }
 
-void FileWipeKindsTest::aGivenLinkToAFolderIsRemovedItself()
+void tst_FileWipeKinds::aGivenLinkToAFolderIsRemovedItself()
 {
     QFETCH(QString, end);
     FileJob job;
@@ -99,7 +100,7 @@ void FileWipeKindsTest::aGivenLinkToAFolderIsRemovedItself()
     QCOMPARE(job.files.calls(FaultPlan::Open).size(), 0);
 }
 
-void FileWipeKindsTest::aGivenLinkToNothingIsRemoved()
+void tst_FileWipeKinds::aGivenLinkToNothingIsRemoved()
 {
     FileJob job;
     const QString link = job.path(QStringLiteral("link"));
@@ -109,7 +110,7 @@ void FileWipeKindsTest::aGivenLinkToNothingIsRemoved()
     QVERIFY(job.lines().contains(said::allDone(1)));
 }
 
-void FileWipeKindsTest::linksInsideAFolderAreRemovedThemselves()
+void tst_FileWipeKinds::linksInsideAFolderAreRemovedThemselves()
 {
     FileJob job;
     const QString target = job.makeFile(QStringLiteral("target"), 100);
@@ -130,7 +131,7 @@ void FileWipeKindsTest::linksInsideAFolderAreRemovedThemselves()
         QCOMPARE(call.path, job.path(QStringLiteral("t/file")));
 }
 
-void FileWipeKindsTest::onlyLinksCountAsEmptyFiles()
+void tst_FileWipeKinds::onlyLinksCountAsEmptyFiles()
 {
     FileJob job;
     const QString link = job.path(QStringLiteral("link"));
@@ -140,7 +141,7 @@ void FileWipeKindsTest::onlyLinksCountAsEmptyFiles()
                                        said::allEmpty, said::deleting, said::allDone(1), said::succeeded}));
 }
 
-void FileWipeKindsTest::aLinkThatTakesTheFilesPlaceIsNotFollowed()
+void tst_FileWipeKinds::aLinkThatTakesTheFilesPlaceIsNotFollowed()
 {
     // Between the last look and the opening: the moment nobody can exclude.
     FileJob job;
@@ -161,7 +162,7 @@ void FileWipeKindsTest::aLinkThatTakesTheFilesPlaceIsNotFollowed()
     QCOMPARE(FileJob::contentOf(victim), QByteArray(10, 'M'));
 }
 
-void FileWipeKindsTest::aFolderThatTurnsIntoALinkIsNotRemoved()
+void tst_FileWipeKinds::aFolderThatTurnsIntoALinkIsNotRemoved()
 {
     FileJob job;
     const QString victim = job.makeFile(QStringLiteral("victims/victim"), 10);
@@ -180,7 +181,7 @@ void FileWipeKindsTest::aFolderThatTurnsIntoALinkIsNotRemoved()
     QCOMPARE(FileJob::contentOf(victim), QByteArray(10, 'M'));
 }
 
-void FileWipeKindsTest::specialFilesInsideAFolderAreRemovedUnopened()
+void tst_FileWipeKinds::specialFilesInsideAFolderAreRemovedUnopened()
 {
     FileJob job;
     job.makeFile(QStringLiteral("t/file"), 10);
@@ -205,7 +206,7 @@ void FileWipeKindsTest::specialFilesInsideAFolderAreRemovedUnopened()
     QCOMPARE(job.files.calls(FaultPlan::Rename).size(), 3);
 }
 
-void FileWipeKindsTest::deviceNodesInsideAFolderAreRemovedUnopened()
+void tst_FileWipeKinds::deviceNodesInsideAFolderAreRemovedUnopened()
 {
     FileJob job;
     job.makeFile(QStringLiteral("t/file"), 10);
@@ -220,7 +221,7 @@ void FileWipeKindsTest::deviceNodesInsideAFolderAreRemovedUnopened()
         QCOMPARE(call.path, job.path(QStringLiteral("t/file")));
 }
 
-void FileWipeKindsTest::givenSpecialFilesAreLeftOut()
+void tst_FileWipeKinds::givenSpecialFilesAreLeftOut()
 {
     FileJob job;
     const QString pipe = job.path(QStringLiteral("pipe"));
@@ -236,7 +237,7 @@ void FileWipeKindsTest::givenSpecialFilesAreLeftOut()
     QCOMPARE(alone.lines(), (QStringList{said::scanning, said::nothingFound, said::failed}));
 }
 
-void FileWipeKindsTest::aFileWithOtherNamesIsOverwrittenAndTold()
+void tst_FileWipeKinds::aFileWithOtherNamesIsOverwrittenAndTold()
 {
     FileJob job;
     const QString file = job.makeFile(QStringLiteral("file"), 10);
@@ -254,7 +255,7 @@ void FileWipeKindsTest::aFileWithOtherNamesIsOverwrittenAndTold()
     QCOMPARE(FileJob::contentOf(job.path(QStringLiteral("second"))), QByteArray());
 }
 
-void FileWipeKindsTest::twoNamesOfOneFileAreBothTold()
+void tst_FileWipeKinds::twoNamesOfOneFileAreBothTold()
 {
     FileJob job;
     const QString one = job.makeFile(QStringLiteral("one"), 10);
@@ -266,7 +267,7 @@ void FileWipeKindsTest::twoNamesOfOneFileAreBothTold()
     QVERIFY(QDir(job.path({})).isEmpty());
 }
 
-void FileWipeKindsTest::namesThatAreNoTextAreWiped()
+void tst_FileWipeKinds::namesThatAreNoTextAreWiped()
 {
     FileJob job;
     const QByteArray folder = QFile::encodeName(job.makeFolder(QStringLiteral("t"))) + '/';
@@ -294,7 +295,7 @@ void FileWipeKindsTest::namesThatAreNoTextAreWiped()
     QVERIFY(!stands(job.path(QStringLiteral("t"))));
 }
 
-void FileWipeKindsTest::aTargetWhoseNameIsNoTextIsWiped()
+void tst_FileWipeKinds::aTargetWhoseNameIsNoTextIsWiped()
 {
     FileJob job;
     const QByteArray path = QFile::encodeName(job.path({})) + "/caf\xe9";
@@ -307,5 +308,5 @@ void FileWipeKindsTest::aTargetWhoseNameIsNoTextIsWiped()
     QCOMPARE(FileJob::contentOf(job.path(QStringLiteral("caf"))), QByteArray(10, 'M'));
 }
 
-QTEST_GUILESS_MAIN(FileWipeKindsTest)
+QUORVEX_SUITE(tst_FileWipeKinds, QCoreApplication)
 #include "tst_filewipekinds.moc"

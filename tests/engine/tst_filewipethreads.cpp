@@ -1,4 +1,5 @@
 #include "filejob.h"
+#include "support/suite.h"
 
 #include <QPointer>
 #include <QSignalSpy>
@@ -14,7 +15,7 @@ using platform::OpenMode;
 using platform::Status;
 
 // The pool, stopping from outside, and the thread that the engine gives the worker.
-class FileWipeThreadsTest : public QObject
+class tst_FileWipeThreads : public QObject
 {
     Q_OBJECT
 
@@ -47,7 +48,7 @@ private slots:
     void mayBeDestroyedInAnotherThread();
 };
 
-void FileWipeThreadsTest::thePoolHasTheThreadsOfTheTask_data()
+void tst_FileWipeThreads::thePoolHasTheThreadsOfTheTask_data()
 {
     QTest::addColumn<int>("threadCount");
     QTest::addColumn<int>("expected");
@@ -57,7 +58,7 @@ void FileWipeThreadsTest::thePoolHasTheThreadsOfTheTask_data()
     QTest::newRow("-1 as well") << -1 << QThread::idealThreadCount();
 }
 
-void FileWipeThreadsTest::thePoolHasTheThreadsOfTheTask()
+void tst_FileWipeThreads::thePoolHasTheThreadsOfTheTask()
 {
     QFETCH(int, threadCount);
     QFETCH(int, expected);
@@ -68,7 +69,7 @@ void FileWipeThreadsTest::thePoolHasTheThreadsOfTheTask()
     QCOMPARE(pool->maxThreadCount(), expected);
 }
 
-void FileWipeThreadsTest::filesAreOverwrittenSideBySide()
+void tst_FileWipeThreads::filesAreOverwrittenSideBySide()
 {
     FileJob job;
     job.task.setThreadCount(3);
@@ -96,7 +97,7 @@ void FileWipeThreadsTest::filesAreOverwrittenSideBySide()
     QVERIFY(together);
 }
 
-void FileWipeThreadsTest::neverMoreFilesAtOnceThanThreads()
+void tst_FileWipeThreads::neverMoreFilesAtOnceThanThreads()
 {
     FileJob job;
     job.task.setThreadCount(2);
@@ -125,7 +126,7 @@ void FileWipeThreadsTest::neverMoreFilesAtOnceThanThreads()
     QVERIFY(!onWorkersThread);
 }
 
-void FileWipeThreadsTest::aBatchWaitsForTheOneBefore()
+void tst_FileWipeThreads::aBatchWaitsForTheOneBefore()
 {
     // Two threads make batches of four: the fifth file waits for the slow fourth one, although a thread is
     // free.
@@ -151,7 +152,7 @@ void FileWipeThreadsTest::aBatchWaitsForTheOneBefore()
     QCOMPARE(flushedAtFifth.load(), 4);
 }
 
-void FileWipeThreadsTest::deletionHappensOnTheWorkersThread()
+void tst_FileWipeThreads::deletionHappensOnTheWorkersThread()
 {
     FileJob job;
     job.task.setThreadCount(4);
@@ -174,7 +175,7 @@ void FileWipeThreadsTest::deletionHappensOnTheWorkersThread()
 
 // ---- Stopping
 
-void FileWipeThreadsTest::aStopBeforeTheJob()
+void tst_FileWipeThreads::aStopBeforeTheJob()
 {
     FileJob job;
     const QString file = job.makeFile(QStringLiteral("a"), 10);
@@ -184,7 +185,7 @@ void FileWipeThreadsTest::aStopBeforeTheJob()
     QCOMPARE(FileJob::contentOf(file), QByteArray(10, 'M'));
 }
 
-void FileWipeThreadsTest::aStopDuringTheScan()
+void tst_FileWipeThreads::aStopDuringTheScan()
 {
     class StoppingFolders : public platform::ForwardingFolders
     {
@@ -214,7 +215,7 @@ void FileWipeThreadsTest::aStopDuringTheScan()
     QCOMPARE(QDir(job.path(QStringLiteral("t"))).entryList(QDir::Files).size(), 10);
 }
 
-void FileWipeThreadsTest::aStopWhileSizesAreAddedUp()
+void tst_FileWipeThreads::aStopWhileSizesAreAddedUp()
 {
     FileJob job;
     QStringList files;
@@ -231,7 +232,7 @@ void FileWipeThreadsTest::aStopWhileSizesAreAddedUp()
     QCOMPARE(job.lines(), (QStringList{said::scanning, said::cancelled, said::failed}));
 }
 
-void FileWipeThreadsTest::aStopBetweenTwoBatches()
+void tst_FileWipeThreads::aStopBetweenTwoBatches()
 {
     // Of a batch of two, the second file has no byte left to write when the stop comes: both succeed.
     FileJob job;
@@ -255,7 +256,7 @@ void FileWipeThreadsTest::aStopBetweenTwoBatches()
     QCOMPARE(FileJob::contentOf(files[2]), QByteArray(10, 'M'));
 }
 
-void FileWipeThreadsTest::aStopBetweenTwoPasses()
+void tst_FileWipeThreads::aStopBetweenTwoPasses()
 {
     FileJob job;
     job.task.setMethod(WipeMethod::fromType(WipeMethod::GermanVsitr));
@@ -271,7 +272,7 @@ void FileWipeThreadsTest::aStopBetweenTwoPasses()
     QCOMPARE(FileJob::contentOf(file), QByteArray(10, '\xFF'));
 }
 
-void FileWipeThreadsTest::aStopEndsTheFileAfterTheChunk()
+void tst_FileWipeThreads::aStopEndsTheFileAfterTheChunk()
 {
     constexpr qint64 MiB = 1024 * 1024;
     FileJob job;
@@ -293,7 +294,7 @@ void FileWipeThreadsTest::aStopEndsTheFileAfterTheChunk()
     QCOMPARE(FileJob::contentOf(file), QByteArray(2 * MiB, '\0') + QByteArray(2 * MiB, 'M'));
 }
 
-void FileWipeThreadsTest::aStopDuringTheFlushFailsTheFile()
+void tst_FileWipeThreads::aStopDuringTheFlushFailsTheFile()
 {
     FileJob job;
     const QString file = job.makeFile(QStringLiteral("a"), 10);
@@ -308,7 +309,7 @@ void FileWipeThreadsTest::aStopDuringTheFlushFailsTheFile()
     QVERIFY(QFileInfo::exists(file));
 }
 
-void FileWipeThreadsTest::aStopWhileReadingBackPassesTheFile()
+void tst_FileWipeThreads::aStopWhileReadingBackPassesTheFile()
 {
     FileJob job;
     const QString file = job.makeFile(QStringLiteral("a"), 10);
@@ -325,7 +326,7 @@ void FileWipeThreadsTest::aStopWhileReadingBackPassesTheFile()
     QVERIFY(QFileInfo::exists(file));
 }
 
-void FileWipeThreadsTest::aStopAfterThePasses()
+void tst_FileWipeThreads::aStopAfterThePasses()
 {
     FileJob job;
     const QString file = job.makeFile(QStringLiteral("t/a"), 10);
@@ -342,7 +343,7 @@ void FileWipeThreadsTest::aStopAfterThePasses()
     QCOMPARE(FileJob::contentOf(file), QByteArray(10, '\0'));
 }
 
-void FileWipeThreadsTest::aStopDuringTheDeletionStillRemovesTheFolders()
+void tst_FileWipeThreads::aStopDuringTheDeletionStillRemovesTheFolders()
 {
     FileJob job;
     for (int i = 0; i < 5; ++i)
@@ -360,7 +361,7 @@ void FileWipeThreadsTest::aStopDuringTheDeletionStillRemovesTheFolders()
     QVERIFY(QDir(job.path({})).isEmpty());
 }
 
-void FileWipeThreadsTest::aStopEndsTheDeletionAttempts()
+void tst_FileWipeThreads::aStopEndsTheDeletionAttempts()
 {
     FileJob job;
     const QString held = job.makeFile(QStringLiteral("held"), 10);
@@ -379,7 +380,7 @@ void FileWipeThreadsTest::aStopEndsTheDeletionAttempts()
     QVERIFY(QFileInfo::exists(other));
 }
 
-void FileWipeThreadsTest::aStopDuringTheFolderRemoval()
+void tst_FileWipeThreads::aStopDuringTheFolderRemoval()
 {
     class StoppingFolders : public platform::ForwardingFolders
     {
@@ -401,14 +402,14 @@ void FileWipeThreadsTest::aStopDuringTheFolderRemoval()
     QVERIFY(QDir(job.path({})).isEmpty());
 }
 
-void FileWipeThreadsTest::aStopAtAnyCall_data()
+void tst_FileWipeThreads::aStopAtAnyCall_data()
 {
     QTest::addColumn<int>("threads");
     QTest::newRow("one thread") << 1;
     QTest::newRow("four threads") << 4;
 }
 
-void FileWipeThreadsTest::aStopAtAnyCall()
+void tst_FileWipeThreads::aStopAtAnyCall()
 {
     QFETCH(int, threads);
     int stops = 0;
@@ -444,7 +445,7 @@ void FileWipeThreadsTest::aStopAtAnyCall()
 
 // ---- The worker's thread
 
-void FileWipeThreadsTest::runsInAThreadOfItsOwn()
+void tst_FileWipeThreads::runsInAThreadOfItsOwn()
 {
     FileJob job;
     job.makeFile(QStringLiteral("t/a"), 10);
@@ -480,7 +481,7 @@ void FileWipeThreadsTest::runsInAThreadOfItsOwn()
     QVERIFY(QDir(job.path({})).isEmpty());
 }
 
-void FileWipeThreadsTest::isStoppedInItsThread()
+void tst_FileWipeThreads::isStoppedInItsThread()
 {
     FileJob job;
     job.task.setThreadCount(2);
@@ -522,7 +523,7 @@ void FileWipeThreadsTest::isStoppedInItsThread()
     QVERIFY(untouched >= 18);
 }
 
-void FileWipeThreadsTest::mayBeDestroyedWithoutHavingRun()
+void tst_FileWipeThreads::mayBeDestroyedWithoutHavingRun()
 {
     FileJob job;
     const QString file = job.makeFile(QStringLiteral("a"), 10);
@@ -533,7 +534,7 @@ void FileWipeThreadsTest::mayBeDestroyedWithoutHavingRun()
     QCOMPARE(job.files.calls().size(), 0);
 }
 
-void FileWipeThreadsTest::mayBeDestroyedInAnotherThread()
+void tst_FileWipeThreads::mayBeDestroyedInAnotherThread()
 {
     FileJob job;
     job.task.setFiles({job.makeFile(QStringLiteral("a"), 10)});
@@ -547,5 +548,5 @@ void FileWipeThreadsTest::mayBeDestroyedInAnotherThread()
     QCOMPARE(job.files.calls().size(), 0);
 }
 
-QTEST_GUILESS_MAIN(FileWipeThreadsTest)
+QUORVEX_SUITE(tst_FileWipeThreads, QCoreApplication)
 #include "tst_filewipethreads.moc"

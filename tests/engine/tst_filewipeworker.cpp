@@ -1,4 +1,5 @@
 #include "filejob.h"
+#include "support/suite.h"
 
 #include "model/wipereport.h"
 #include "support/faultyfiles.h"
@@ -104,7 +105,7 @@ public:
 
 } // namespace
 
-class FileWipeWorkerTest : public QObject
+class tst_FileWipeWorker : public QObject
 {
     Q_OBJECT
 
@@ -196,7 +197,7 @@ private slots:
 
 // ---- The order of things
 
-void FileWipeWorkerTest::aJobSaysEveryStepInOrder()
+void tst_FileWipeWorker::aJobSaysEveryStepInOrder()
 {
     FileJob job;
     job.makeFile(QStringLiteral("t/a"), 100);
@@ -210,7 +211,7 @@ void FileWipeWorkerTest::aJobSaysEveryStepInOrder()
     QVERIFY(QDir(job.path({})).isEmpty());
 }
 
-void FileWipeWorkerTest::everyPassIsAnnounced()
+void tst_FileWipeWorker::everyPassIsAnnounced()
 {
     FileJob job;
     job.task.setMethod(WipeMethod::fromType(WipeMethod::GermanVsitr));
@@ -222,7 +223,7 @@ void FileWipeWorkerTest::everyPassIsAnnounced()
     QCOMPARE(job.lines(), expected);
 }
 
-void FileWipeWorkerTest::allCallsForOneFileInOrder()
+void tst_FileWipeWorker::allCallsForOneFileInOrder()
 {
     FileJob job;
     const QString file = job.makeFile(QStringLiteral("a"), 100);
@@ -245,7 +246,7 @@ void FileWipeWorkerTest::allCallsForOneFileInOrder()
     QCOMPARE(opened[2].mode, OpenMode::Truncate);
 }
 
-void FileWipeWorkerTest::everyTextIsTranslatedInTheContextOfTheClass()
+void tst_FileWipeWorker::everyTextIsTranslatedInTheContextOfTheClass()
 {
     const ContextTranslator translator;
     const QRegularExpression form(QStringLiteral("^([012]|error) FileWipeWorker\\|"));
@@ -285,7 +286,7 @@ void FileWipeWorkerTest::everyTextIsTranslatedInTheContextOfTheClass()
     }
 }
 
-void FileWipeWorkerTest::pathsWithPlaceholdersAreShownAsTheyAre()
+void tst_FileWipeWorker::pathsWithPlaceholdersAreShownAsTheyAre()
 {
     FileJob job;
     job.files.hook = [](const FileCall &call) {
@@ -296,7 +297,7 @@ void FileWipeWorkerTest::pathsWithPlaceholdersAreShownAsTheyAre()
     QVERIFY(job.lines().contains(said::cannotOpen(file)));
 }
 
-void FileWipeWorkerTest::controlCharactersInNamesAreNotShown()
+void tst_FileWipeWorker::controlCharactersInNamesAreNotShown()
 {
     FileJob job;
     job.files.hook = [](const FileCall &call) {
@@ -315,7 +316,7 @@ void FileWipeWorkerTest::controlCharactersInNamesAreNotShown()
 
 // ---- What is found
 
-void FileWipeWorkerTest::emptyFoldersHoldNothingToWipe()
+void tst_FileWipeWorker::emptyFoldersHoldNothingToWipe()
 {
     FileJob job;
     const QString one = job.makeFolder(QStringLiteral("one/a/b"));
@@ -326,21 +327,21 @@ void FileWipeWorkerTest::emptyFoldersHoldNothingToWipe()
     QVERIFY(QFileInfo(two).isDir());
 }
 
-void FileWipeWorkerTest::missingTargetsHoldNothingToWipe()
+void tst_FileWipeWorker::missingTargetsHoldNothingToWipe()
 {
     FileJob job;
     QVERIFY(!job.run({job.path(QStringLiteral("nothing")), job.path(QStringLiteral("no/way"))}));
     QCOMPARE(job.lines(), (QStringList{said::scanning, said::nothingFound, said::failed}));
 }
 
-void FileWipeWorkerTest::anEmptyTargetListHoldsNothingToWipe()
+void tst_FileWipeWorker::anEmptyTargetListHoldsNothingToWipe()
 {
     FileJob job;
     QVERIFY(!job.run({}));
     QCOMPARE(job.lines(), (QStringList{said::scanning, said::nothingFound, said::failed}));
 }
 
-void FileWipeWorkerTest::onlyEmptyFiles()
+void tst_FileWipeWorker::onlyEmptyFiles()
 {
     FileJob job;
     job.task.setMethod(WipeMethod::fromType(WipeMethod::Gutmann));
@@ -356,7 +357,7 @@ void FileWipeWorkerTest::onlyEmptyFiles()
     QVERIFY(QDir(job.path({})).isEmpty());
 }
 
-void FileWipeWorkerTest::anEmptyFileBesideAFullOneIsNotOpenedInThePasses()
+void tst_FileWipeWorker::anEmptyFileBesideAFullOneIsNotOpenedInThePasses()
 {
     FileJob job;
     const QString full = job.makeFile(QStringLiteral("full"), 10);
@@ -368,7 +369,7 @@ void FileWipeWorkerTest::anEmptyFileBesideAFullOneIsNotOpenedInThePasses()
     QVERIFY(QDir(job.path({})).isEmpty());
 }
 
-void FileWipeWorkerTest::aMethodWithoutPassesGoesStraightToTheDeletion()
+void tst_FileWipeWorker::aMethodWithoutPassesGoesStraightToTheDeletion()
 {
     FileJob job;
     job.setPasses({});
@@ -378,7 +379,7 @@ void FileWipeWorkerTest::aMethodWithoutPassesGoesStraightToTheDeletion()
     QVERIFY(job.files.opened(OpenMode::Overwrite).isEmpty());
 }
 
-void FileWipeWorkerTest::theSameFileGivenTwiceIsWipedOnce()
+void tst_FileWipeWorker::theSameFileGivenTwiceIsWipedOnce()
 {
     FileJob job;
     const QString file = job.makeFile(QStringLiteral("t/a"), 10);
@@ -388,7 +389,7 @@ void FileWipeWorkerTest::theSameFileGivenTwiceIsWipedOnce()
     QVERIFY(QDir(job.path({})).isEmpty());
 }
 
-void FileWipeWorkerTest::aFileThatVanishesBeforeItsPassIsNoFailure()
+void tst_FileWipeWorker::aFileThatVanishesBeforeItsPassIsNoFailure()
 {
     FileJob job;
     const QString first = job.makeFile(QStringLiteral("first"), 10);
@@ -403,7 +404,7 @@ void FileWipeWorkerTest::aFileThatVanishesBeforeItsPassIsNoFailure()
     QCOMPARE(job.task.report().totalBytes, 30U);
 }
 
-void FileWipeWorkerTest::aFileThatVanishesBeforeItsDeletionIsNoFailure()
+void tst_FileWipeWorker::aFileThatVanishesBeforeItsDeletionIsNoFailure()
 {
     FileJob job;
     const QString file = job.makeFile(QStringLiteral("a"), 10);
@@ -415,7 +416,7 @@ void FileWipeWorkerTest::aFileThatVanishesBeforeItsDeletionIsNoFailure()
     QVERIFY(job.lines().contains(said::allDone(1)));
 }
 
-void FileWipeWorkerTest::aFileThatGrewIsOverwrittenToItsEnd()
+void tst_FileWipeWorker::aFileThatGrewIsOverwrittenToItsEnd()
 {
     FileJob job;
     Contents contents;
@@ -430,7 +431,7 @@ void FileWipeWorkerTest::aFileThatGrewIsOverwrittenToItsEnd()
     QCOMPARE(job.task.report().totalBytes, 10U);
 }
 
-void FileWipeWorkerTest::aPathOfMoreThan260Characters()
+void tst_FileWipeWorker::aPathOfMoreThan260Characters()
 {
     FileJob job;
     const QString name = QStringLiteral("t/") + QString(120, QLatin1Char('x')) + QLatin1Char('/') +
@@ -441,7 +442,7 @@ void FileWipeWorkerTest::aPathOfMoreThan260Characters()
     QVERIFY(QDir(job.path({})).isEmpty());
 }
 
-void FileWipeWorkerTest::filesOutsideTheTargetsAreLeftAlone()
+void tst_FileWipeWorker::filesOutsideTheTargetsAreLeftAlone()
 {
     FileJob job;
     const QString beside = job.makeFile(QStringLiteral("t/beside"), QByteArray("keep"));
@@ -452,7 +453,7 @@ void FileWipeWorkerTest::filesOutsideTheTargetsAreLeftAlone()
     QCOMPARE(QDir(job.path(QStringLiteral("t"))).entryList(QDir::Files).size(), 2);
 }
 
-void FileWipeWorkerTest::severalFoldersAreRemoved()
+void tst_FileWipeWorker::severalFoldersAreRemoved()
 {
     FileJob job;
     job.makeFile(QStringLiteral("one/a"), 10);
@@ -466,14 +467,14 @@ void FileWipeWorkerTest::severalFoldersAreRemoved()
 
 // ---- Overwriting
 
-void FileWipeWorkerTest::everyMethodWritesItsPasses_data()
+void tst_FileWipeWorker::everyMethodWritesItsPasses_data()
 {
     QTest::addColumn<int>("type");
     for (int type = 0; type < 5; ++type)
         QTest::addRow("%s", qPrintable(WipeMethod::fromType(type).name)) << type;
 }
 
-void FileWipeWorkerTest::everyMethodWritesItsPasses()
+void tst_FileWipeWorker::everyMethodWritesItsPasses()
 {
     QFETCH(int, type);
     FileJob job;
@@ -509,7 +510,7 @@ void FileWipeWorkerTest::everyMethodWritesItsPasses()
     QCOMPARE(contents.beforeDeletion, QList<QByteArray>{contents.afterPass.last()});
 }
 
-void FileWipeWorkerTest::aHundredBytesAreOneChunk()
+void tst_FileWipeWorker::aHundredBytesAreOneChunk()
 {
     FileJob job;
     QVERIFY(job.run({job.makeFile(QStringLiteral("a"), 100)}));
@@ -520,7 +521,7 @@ void FileWipeWorkerTest::aHundredBytesAreOneChunk()
         QCOMPARE(seek.position, 0);
 }
 
-void FileWipeWorkerTest::chunksHaveTheSizeOfTheBuffer_data()
+void tst_FileWipeWorker::chunksHaveTheSizeOfTheBuffer_data()
 {
     QTest::addColumn<int>("bufferSizeMB");
     QTest::addColumn<qint64>("fileSize");
@@ -533,7 +534,7 @@ void FileWipeWorkerTest::chunksHaveTheSizeOfTheBuffer_data()
     QTest::newRow("1024 is limited to the file") << 1024 << 3 * MiB << QList<qint64>{3 * MiB};
 }
 
-void FileWipeWorkerTest::chunksHaveTheSizeOfTheBuffer()
+void tst_FileWipeWorker::chunksHaveTheSizeOfTheBuffer()
 {
     QFETCH(int, bufferSizeMB);
     QFETCH(qint64, fileSize);
@@ -558,7 +559,7 @@ void FileWipeWorkerTest::chunksHaveTheSizeOfTheBuffer()
     QCOMPARE(written, chunks);
 }
 
-void FileWipeWorkerTest::randomBytesAreFreshInEveryChunkAndFile()
+void tst_FileWipeWorker::randomBytesAreFreshInEveryChunkAndFile()
 {
     FileJob job;
     job.setPasses({{PatternType::Random, 0, false}});
@@ -576,7 +577,7 @@ void FileWipeWorkerTest::randomBytesAreFreshInEveryChunkAndFile()
     QCOMPARE(halves.size(), 4);
 }
 
-void FileWipeWorkerTest::complementPassesInvertTheBuffer()
+void tst_FileWipeWorker::complementPassesInvertTheBuffer()
 {
     FileJob job;
     job.setPasses({verified(PatternType::Complement)});
@@ -588,7 +589,7 @@ void FileWipeWorkerTest::complementPassesInvertTheBuffer()
     QCOMPARE(contents.afterPass, QList<QByteArray>{QByteArray(MiB, '\xFF') + QByteArray(MiB, '\0')});
 }
 
-void FileWipeWorkerTest::unknownPatternsWriteTheEmptyBuffer()
+void tst_FileWipeWorker::unknownPatternsWriteTheEmptyBuffer()
 {
     FileJob job;
     job.setPasses({verified(static_cast<PatternType>(9), 0x55)});
@@ -598,7 +599,7 @@ void FileWipeWorkerTest::unknownPatternsWriteTheEmptyBuffer()
     QCOMPARE(contents.afterPass, QList<QByteArray>{QByteArray(50, '\0')});
 }
 
-void FileWipeWorkerTest::readOnlyIsClearedBeforeOverwritingAndBeforeDeletion()
+void tst_FileWipeWorker::readOnlyIsClearedBeforeOverwritingAndBeforeDeletion()
 {
     FileJob job;
     job.task.setMethod(WipeMethod::fromType(WipeMethod::BritishHmgIs5));
@@ -613,7 +614,7 @@ void FileWipeWorkerTest::readOnlyIsClearedBeforeOverwritingAndBeforeDeletion()
     QCOMPARE(order.join(QLatin1Char(' ')), QStringLiteral("clear overwrite clear overwrite clear cut"));
 }
 
-void FileWipeWorkerTest::aReadOnlyFileIsWiped()
+void tst_FileWipeWorker::aReadOnlyFileIsWiped()
 {
     FileJob job;
     const QString file = job.makeFile(QStringLiteral("a"), 10);
@@ -630,7 +631,7 @@ void FileWipeWorkerTest::aReadOnlyFileIsWiped()
     QVERIFY(atOpening->testFlag(QFileDevice::WriteOwner));
 }
 
-void FileWipeWorkerTest::shortWritesAreContinued()
+void tst_FileWipeWorker::shortWritesAreContinued()
 {
     FileJob job;
     job.setPasses({{PatternType::Random, 0, false}});
@@ -660,7 +661,7 @@ QStringList failedFirstPass(const QStringList &why, int passes = 1)
 
 } // namespace
 
-void FileWipeWorkerTest::aFileThatDoesNotOpen()
+void tst_FileWipeWorker::aFileThatDoesNotOpen()
 {
     FileJob job;
     job.files.hook = [](const FileCall &call) {
@@ -672,7 +673,7 @@ void FileWipeWorkerTest::aFileThatDoesNotOpen()
     QCOMPARE(FileJob::contentOf(file), QByteArray(10, 'M'));
 }
 
-void FileWipeWorkerTest::aSeekThatFails()
+void tst_FileWipeWorker::aSeekThatFails()
 {
     FileJob job;
     job.files.hook = [](const FileCall &call) {
@@ -684,7 +685,7 @@ void FileWipeWorkerTest::aSeekThatFails()
     QVERIFY(job.files.calls(FaultPlan::Write).isEmpty());
 }
 
-void FileWipeWorkerTest::aWriteThatFails()
+void tst_FileWipeWorker::aWriteThatFails()
 {
     FileJob job;
     job.files.hook = [](const FileCall &call) {
@@ -697,7 +698,7 @@ void FileWipeWorkerTest::aWriteThatFails()
     QVERIFY(QFileInfo::exists(file));
 }
 
-void FileWipeWorkerTest::aWriteWithoutProgress()
+void tst_FileWipeWorker::aWriteWithoutProgress()
 {
     FileJob job;
     int calls = 0;
@@ -712,7 +713,7 @@ void FileWipeWorkerTest::aWriteWithoutProgress()
     QCOMPARE(FileJob::contentOf(file), QByteArray(4, '\0') + QByteArray(6, 'M'));
 }
 
-void FileWipeWorkerTest::aFlushThatFails()
+void tst_FileWipeWorker::aFlushThatFails()
 {
     FileJob job;
     job.files.hook = [](const FileCall &call) {
@@ -725,7 +726,7 @@ void FileWipeWorkerTest::aFlushThatFails()
     QVERIFY(QFileInfo::exists(file));
 }
 
-void FileWipeWorkerTest::theSystemsErrorGoesToTheDebugOutput()
+void tst_FileWipeWorker::theSystemsErrorGoesToTheDebugOutput()
 {
     const MessageCapture capture;
     FileJob job;
@@ -739,7 +740,7 @@ void FileWipeWorkerTest::theSystemsErrorGoesToTheDebugOutput()
     QVERIFY2(capture.texts().contains(expected), qPrintable(capture.texts().join(QLatin1Char('\n'))));
 }
 
-void FileWipeWorkerTest::aFileThatCannotBeLookedAtFailsInThePass()
+void tst_FileWipeWorker::aFileThatCannotBeLookedAtFailsInThePass()
 {
     FileJob job;
     const QString file = job.makeFile(QStringLiteral("a"), 10);
@@ -757,7 +758,7 @@ void FileWipeWorkerTest::aFileThatCannotBeLookedAtFailsInThePass()
     QCOMPARE(FileJob::contentOf(other), QByteArray(10, '\0'));
 }
 
-void FileWipeWorkerTest::sizesThatCannotBeToldAreNotTakenForEmpty()
+void tst_FileWipeWorker::sizesThatCannotBeToldAreNotTakenForEmpty()
 {
     FileJob job;
     Contents contents;
@@ -777,7 +778,7 @@ void FileWipeWorkerTest::sizesThatCannotBeToldAreNotTakenForEmpty()
     QCOMPARE(contents.beforeDeletion, QList<QByteArray>{QByteArray(10, '\0')});
 }
 
-void FileWipeWorkerTest::oneFailedFileKeepsAllFilesAndEndsThePasses()
+void tst_FileWipeWorker::oneFailedFileKeepsAllFilesAndEndsThePasses()
 {
     FileJob job;
     job.task.setMethod(WipeMethod::fromType(WipeMethod::Dod522022M));
@@ -810,7 +811,7 @@ void FileWipeWorkerTest::oneFailedFileKeepsAllFilesAndEndsThePasses()
     QVERIFY(job.files.opened(OpenMode::Truncate).isEmpty());
 }
 
-void FileWipeWorkerTest::failuresOfSeveralFilesAreCounted()
+void tst_FileWipeWorker::failuresOfSeveralFilesAreCounted()
 {
     FileJob job;
     job.task.setThreadCount(2);
@@ -829,7 +830,7 @@ void FileWipeWorkerTest::failuresOfSeveralFilesAreCounted()
         QCOMPARE(lines.count(said::cannotOpen(files[i])), 1);
 }
 
-void FileWipeWorkerTest::outOfMemoryInTheScan()
+void tst_FileWipeWorker::outOfMemoryInTheScan()
 {
     FileJob job;
     job.files.hook = [](const FileCall &) -> Status { throw std::bad_alloc(); };
@@ -837,7 +838,7 @@ void FileWipeWorkerTest::outOfMemoryInTheScan()
     QCOMPARE(job.lines(), (QStringList{said::scanning, QStringLiteral("error 内存分配失败"), said::failed}));
 }
 
-void FileWipeWorkerTest::outOfMemoryWithinAPass()
+void tst_FileWipeWorker::outOfMemoryWithinAPass()
 {
     FileJob job;
     job.task.setThreadCount(3);
@@ -855,7 +856,7 @@ void FileWipeWorkerTest::outOfMemoryWithinAPass()
                                        said::passFailed(1, 1, 1), said::someFailed(1), said::failed}));
 }
 
-void FileWipeWorkerTest::noBufferForAFile()
+void tst_FileWipeWorker::noBufferForAFile()
 {
 #if !defined(Q_OS_LINUX)
     QSKIP("SKIPPED: only on Linux can a test forbid its process further memory");
@@ -892,7 +893,7 @@ void FileWipeWorkerTest::noBufferForAFile()
 
 // ---- Reading back
 
-void FileWipeWorkerTest::samplesAreReadWithinTheFile_data()
+void tst_FileWipeWorker::samplesAreReadWithinTheFile_data()
 {
     QTest::addColumn<qint64>("size");
     QTest::addColumn<qint64>("end"); // offsets lie below
@@ -904,7 +905,7 @@ void FileWipeWorkerTest::samplesAreReadWithinTheFile_data()
     QTest::newRow("5000 bytes") << qint64(5000) << qint64(5000 - 1024);
 }
 
-void FileWipeWorkerTest::samplesAreReadWithinTheFile()
+void tst_FileWipeWorker::samplesAreReadWithinTheFile()
 {
     QFETCH(qint64, size);
     QFETCH(qint64, end);
@@ -926,7 +927,7 @@ void FileWipeWorkerTest::samplesAreReadWithinTheFile()
     }
 }
 
-void FileWipeWorkerTest::samplesAreSpreadOverTheFile()
+void tst_FileWipeWorker::samplesAreSpreadOverTheFile()
 {
     QSet<qint64> offsets;
     FileJob job;
@@ -949,7 +950,7 @@ void FileWipeWorkerTest::samplesAreSpreadOverTheFile()
     QVERIFY(highest > MiB / 2);
 }
 
-void FileWipeWorkerTest::onlyPassesThatAskForItAreReadBack()
+void tst_FileWipeWorker::onlyPassesThatAskForItAreReadBack()
 {
     FileJob job;
     job.setPasses(
@@ -959,7 +960,7 @@ void FileWipeWorkerTest::onlyPassesThatAskForItAreReadBack()
     QCOMPARE(job.files.opened(OpenMode::Verify).size(), 2);
 }
 
-void FileWipeWorkerTest::aTaskMaySwitchReadingBackOff()
+void tst_FileWipeWorker::aTaskMaySwitchReadingBackOff()
 {
     FileJob job;
     job.task.setVerifyAfterWipe(false);
@@ -967,7 +968,7 @@ void FileWipeWorkerTest::aTaskMaySwitchReadingBackOff()
     QVERIFY(job.files.opened(OpenMode::Verify).isEmpty());
 }
 
-void FileWipeWorkerTest::bytesThatDifferFailTheFile()
+void tst_FileWipeWorker::bytesThatDifferFailTheFile()
 {
     FileJob job;
     // A device that accepts the bytes and forgets them.
@@ -980,7 +981,7 @@ void FileWipeWorkerTest::bytesThatDifferFailTheFile()
     QCOMPARE(FileJob::contentOf(file), QByteArray(10, 'M'));
 }
 
-void FileWipeWorkerTest::aDifferenceBehindTheFirstSampleIsFound()
+void tst_FileWipeWorker::aDifferenceBehindTheFirstSampleIsFound()
 {
     FileJob job;
     int reads = 0;
@@ -997,7 +998,7 @@ void FileWipeWorkerTest::aDifferenceBehindTheFirstSampleIsFound()
     QCOMPARE(job.task.report().verificationSampleSize, 3);
 }
 
-void FileWipeWorkerTest::randomPassesAlwaysPass()
+void tst_FileWipeWorker::randomPassesAlwaysPass()
 {
     FileJob job;
     job.setPasses({verified(PatternType::Random)});
@@ -1010,7 +1011,7 @@ void FileWipeWorkerTest::randomPassesAlwaysPass()
     QVERIFY(job.run({job.makeFile(QStringLiteral("a"), 10)}));
 }
 
-void FileWipeWorkerTest::failuresToReadBackAreSilent_data()
+void tst_FileWipeWorker::failuresToReadBackAreSilent_data()
 {
     QTest::addColumn<quint32>("kind");
     QTest::addColumn<int>("samples");
@@ -1019,7 +1020,7 @@ void FileWipeWorkerTest::failuresToReadBackAreSilent_data()
     QTest::newRow("read") << quint32(FaultPlan::Read) << 0;
 }
 
-void FileWipeWorkerTest::failuresToReadBackAreSilent()
+void tst_FileWipeWorker::failuresToReadBackAreSilent()
 {
     QFETCH(quint32, kind);
     QFETCH(int, samples);
@@ -1034,7 +1035,7 @@ void FileWipeWorkerTest::failuresToReadBackAreSilent()
     QVERIFY(QFileInfo::exists(file));
 }
 
-void FileWipeWorkerTest::anEmptyReadFailsTheFile()
+void tst_FileWipeWorker::anEmptyReadFailsTheFile()
 {
     FileJob job;
     int reads = 0;
@@ -1048,7 +1049,7 @@ void FileWipeWorkerTest::anEmptyReadFailsTheFile()
 
 // ---- Deletion
 
-void FileWipeWorkerTest::aFileThatCannotBeDeletedIsCounted()
+void tst_FileWipeWorker::aFileThatCannotBeDeletedIsCounted()
 {
     FileJob job;
     job.files.hook = [](const FileCall &call) {
@@ -1062,7 +1063,7 @@ void FileWipeWorkerTest::aFileThatCannotBeDeletedIsCounted()
     QCOMPARE(FileJob::contentOf(file), QByteArray());
 }
 
-void FileWipeWorkerTest::aRenamedFileThatCannotBeDeletedIsNotCounted()
+void tst_FileWipeWorker::aRenamedFileThatCannotBeDeletedIsNotCounted()
 {
     FileJob job;
     job.files.hook = [](const FileCall &call) {
@@ -1077,7 +1078,7 @@ void FileWipeWorkerTest::aRenamedFileThatCannotBeDeletedIsNotCounted()
     QCOMPARE(left[0].size(), 0);
 }
 
-void FileWipeWorkerTest::aFailedDeletionDoesNotEndTheOthers()
+void tst_FileWipeWorker::aFailedDeletionDoesNotEndTheOthers()
 {
     FileJob job;
     QStringList files;
@@ -1098,7 +1099,7 @@ void FileWipeWorkerTest::aFailedDeletionDoesNotEndTheOthers()
     QVERIFY(!QFileInfo::exists(files[3]));
 }
 
-void FileWipeWorkerTest::aFileHeldOpenIsTriedTenTimes()
+void tst_FileWipeWorker::aFileHeldOpenIsTriedTenTimes()
 {
     FileJob job;
     job.files.hook = [](const FileCall &call) {
@@ -1114,7 +1115,7 @@ void FileWipeWorkerTest::aFileHeldOpenIsTriedTenTimes()
     QVERIFY(job.lines().contains(said::deletionFailed(file)));
 }
 
-void FileWipeWorkerTest::aFolderThatCannotBeRemovedIsLogged()
+void tst_FileWipeWorker::aFolderThatCannotBeRemovedIsLogged()
 {
     FaultPlan plan(FaultPlan::RemoveTree, 1, platform::SharingViolation);
     FaultyFolders folders(platform::Platform::current().folders(), plan);
@@ -1133,7 +1134,7 @@ void FileWipeWorkerTest::aFolderThatCannotBeRemovedIsLogged()
     QVERIFY(!QFileInfo::exists(job.path(QStringLiteral("two"))));
 }
 
-void FileWipeWorkerTest::aFolderThatVanishedNeedsNoRemoval()
+void tst_FileWipeWorker::aFolderThatVanishedNeedsNoRemoval()
 {
     FileJob job;
     job.makeFile(QStringLiteral("t/a"), 10);
@@ -1148,7 +1149,7 @@ void FileWipeWorkerTest::aFolderThatVanishedNeedsNoRemoval()
 
 // ---- What could not be looked into
 
-void FileWipeWorkerTest::aFolderThatCannotBeListedFailsTheJob()
+void tst_FileWipeWorker::aFolderThatCannotBeListedFailsTheJob()
 {
     FaultPlan plan(FaultPlan::List, 1, platform::AccessDenied);
     FaultyFolders folders(platform::Platform::current().folders(), plan,
@@ -1166,7 +1167,7 @@ void FileWipeWorkerTest::aFolderThatCannotBeListedFailsTheJob()
     QCOMPARE(FileJob::contentOf(unseen), QByteArray(10, 'M'));
 }
 
-void FileWipeWorkerTest::aFolderThatCannotBeListedKeepsItsTarget()
+void tst_FileWipeWorker::aFolderThatCannotBeListedKeepsItsTarget()
 {
     FaultPlan plan(FaultPlan::List, 1, platform::IoDevice);
     FaultyFolders folders(platform::Platform::current().folders(), plan);
@@ -1178,7 +1179,7 @@ void FileWipeWorkerTest::aFolderThatCannotBeListedKeepsItsTarget()
     QVERIFY(!QFileInfo::exists(job.path(QStringLiteral("two"))));
 }
 
-void FileWipeWorkerTest::aTargetThatCannotBeLookedAtFailsTheJob()
+void tst_FileWipeWorker::aTargetThatCannotBeLookedAtFailsTheJob()
 {
     FileJob job;
     const QString bad = job.makeFile(QStringLiteral("bad"), 10);
@@ -1194,7 +1195,7 @@ void FileWipeWorkerTest::aTargetThatCannotBeLookedAtFailsTheJob()
 
 // ---- Figures
 
-void FileWipeWorkerTest::theReportCarriesCountAndSize()
+void tst_FileWipeWorker::theReportCarriesCountAndSize()
 {
     FileJob job;
     job.makeFile(QStringLiteral("t/a"), 1'000);
@@ -1210,7 +1211,7 @@ void FileWipeWorkerTest::theReportCarriesCountAndSize()
     QCOMPARE(job.task.report(), expected);
 }
 
-void FileWipeWorkerTest::theReportCarriesTheSamplesReadBack()
+void tst_FileWipeWorker::theReportCarriesTheSamplesReadBack()
 {
     FileJob job;
     job.task.setThreadCount(4);
@@ -1222,7 +1223,7 @@ void FileWipeWorkerTest::theReportCarriesTheSamplesReadBack()
     QCOMPARE(job.task.report().verificationMethod, QStringLiteral("random sampling, 3 samples per file"));
 }
 
-void FileWipeWorkerTest::theReportSaysWhenNothingWasReadBack()
+void tst_FileWipeWorker::theReportSaysWhenNothingWasReadBack()
 {
     const auto check = [](const FileJob &job) {
         QCOMPARE(job.task.report().verificationSampleSize, 0);
@@ -1245,7 +1246,7 @@ void FileWipeWorkerTest::theReportSaysWhenNothingWasReadBack()
     check(outOfMemory);
 }
 
-void FileWipeWorkerTest::progressComesAtMostEveryTenthOfASecond()
+void tst_FileWipeWorker::progressComesAtMostEveryTenthOfASecond()
 {
     FileJob job;
     job.task.setThreadCount(4);
@@ -1260,7 +1261,7 @@ void FileWipeWorkerTest::progressComesAtMostEveryTenthOfASecond()
                  QStringLiteral("%1 reports in %2 ms").arg(job.said.percents().size()).arg(timer.elapsed())));
 }
 
-void FileWipeWorkerTest::progressRunsAheadInLaterPasses()
+void tst_FileWipeWorker::progressRunsAheadInLaterPasses()
 {
     FileJob job;
     job.task.setMethod(WipeMethod::fromType(WipeMethod::BritishHmgIs5));
@@ -1278,5 +1279,5 @@ void FileWipeWorkerTest::progressRunsAheadInLaterPasses()
     QCOMPARE(job.said.bytes(), (QList<qint64>{100, 200, 300, 700, 800, 900}));
 }
 
-QTEST_GUILESS_MAIN(FileWipeWorkerTest)
+QUORVEX_SUITE(tst_FileWipeWorker, QCoreApplication)
 #include "tst_filewipeworker.moc"

@@ -1,4 +1,5 @@
 #include "engine/freespacefixture.h"
+#include "support/suite.h"
 
 #include <utility>
 
@@ -8,7 +9,7 @@ using namespace Qt::StringLiterals;
 Q_DECLARE_METATYPE(platform::ErrorCode)
 
 // What goes wrong in a free-space job, and what it leaves.
-class TestFreeSpaceWipeFaults : public QObject
+class tst_FreeSpaceWipeFaults : public QObject
 {
     Q_OBJECT
 
@@ -177,12 +178,12 @@ int nextCall(int call, const MemoryVolume &volume)
 
 } // namespace
 
-void TestFreeSpaceWipeFaults::faultLoop_data()
+void tst_FreeSpaceWipeFaults::faultLoop_data()
 {
     addKinds();
 }
 
-void TestFreeSpaceWipeFaults::faultLoop()
+void tst_FreeSpaceWipeFaults::faultLoop()
 {
     QFETCH(const quint32, kind);
     int fired = 0;
@@ -227,12 +228,12 @@ void TestFreeSpaceWipeFaults::faultLoop()
     QVERIFY2(fired > 0, "this kind of call never happens");
 }
 
-void TestFreeSpaceWipeFaults::lastingFaultLoop_data()
+void tst_FreeSpaceWipeFaults::lastingFaultLoop_data()
 {
     addKinds();
 }
 
-void TestFreeSpaceWipeFaults::lastingFaultLoop()
+void tst_FreeSpaceWipeFaults::lastingFaultLoop()
 {
     QFETCH(const quint32, kind);
     for (int call = 1;;) {
@@ -264,7 +265,7 @@ void TestFreeSpaceWipeFaults::lastingFaultLoop()
     }
 }
 
-void TestFreeSpaceWipeFaults::outOfMemoryLoop()
+void tst_FreeSpaceWipeFaults::outOfMemoryLoop()
 {
     for (int call = 1;; call += call < 60 ? 1 : 97) {
         Machine machine;
@@ -300,7 +301,7 @@ void TestFreeSpaceWipeFaults::outOfMemoryLoop()
     }
 }
 
-void TestFreeSpaceWipeFaults::fullVolumeEndsTheFileOnly_data()
+void tst_FreeSpaceWipeFaults::fullVolumeEndsTheFileOnly_data()
 {
     QTest::addColumn<quint32>("kind");
     QTest::addColumn<platform::ErrorCode>("error");
@@ -310,7 +311,7 @@ void TestFreeSpaceWipeFaults::fullVolumeEndsTheFileOnly_data()
     QTest::newRow("flush, file too large") << quint32{FaultPlan::Flush} << platform::FileTooLarge;
 }
 
-void TestFreeSpaceWipeFaults::fullVolumeEndsTheFileOnly()
+void tst_FreeSpaceWipeFaults::fullVolumeEndsTheFileOnly()
 {
     QFETCH(const quint32, kind);
     QFETCH(const platform::ErrorCode, error);
@@ -335,7 +336,7 @@ void TestFreeSpaceWipeFaults::fullVolumeEndsTheFileOnly()
         QCOMPARE(line.level, 0);
 }
 
-void TestFreeSpaceWipeFaults::shortWriteIsCountedAndGoneOnFrom()
+void tst_FreeSpaceWipeFaults::shortWriteIsCountedAndGoneOnFrom()
 {
     // Room for less than the free bytes promised.
     Machine machine;
@@ -353,7 +354,7 @@ void TestFreeSpaceWipeFaults::shortWriteIsCountedAndGoneOnFrom()
     QVERIFY(job.logged(u"已写入: 1.50 MB"_s, 0));
 }
 
-void TestFreeSpaceWipeFaults::fileSizeLimitBeginsAnotherFile()
+void tst_FreeSpaceWipeFaults::fileSizeLimitBeginsAnotherFile()
 {
     Machine machine;
     furnish(machine.volume, Reserve + 5 * MiB);
@@ -370,7 +371,7 @@ void TestFreeSpaceWipeFaults::fileSizeLimitBeginsAnotherFile()
     QVERIFY(job.logged(u"已写入: 5.00 MB"_s, 0));
 }
 
-void TestFreeSpaceWipeFaults::failedWriteIsNeverASuccess_data()
+void tst_FreeSpaceWipeFaults::failedWriteIsNeverASuccess_data()
 {
     QTest::addColumn<platform::ErrorCode>("error");
     QTest::newRow("input/output") << platform::IoDevice;
@@ -381,7 +382,7 @@ void TestFreeSpaceWipeFaults::failedWriteIsNeverASuccess_data()
     QTest::newRow("general") << platform::GeneralFailure;
 }
 
-void TestFreeSpaceWipeFaults::failedWriteIsNeverASuccess()
+void tst_FreeSpaceWipeFaults::failedWriteIsNeverASuccess()
 {
     QFETCH(const platform::ErrorCode, error);
     Machine machine;
@@ -399,7 +400,7 @@ void TestFreeSpaceWipeFaults::failedWriteIsNeverASuccess()
     QCOMPARE(job.wipedSectors(), 0u);
 }
 
-void TestFreeSpaceWipeFaults::failedFlushIsAFailedWrite()
+void tst_FreeSpaceWipeFaults::failedFlushIsAFailedWrite()
 {
     Machine machine;
     furnish(machine.volume, Reserve + 5 * MiB);
@@ -414,7 +415,7 @@ void TestFreeSpaceWipeFaults::failedFlushIsAFailedWrite()
     QCOMPARE(job.errors, QStringList{u"填充空闲空间失败"_s});
 }
 
-void TestFreeSpaceWipeFaults::fillFileThatCannotBeCreatedEndsThePass()
+void tst_FreeSpaceWipeFaults::fillFileThatCannotBeCreatedEndsThePass()
 {
     Machine machine;
     furnish(machine.volume, Reserve + 2 * MiB);
@@ -435,7 +436,7 @@ void TestFreeSpaceWipeFaults::fillFileThatCannotBeCreatedEndsThePass()
     QCOMPARE(job.wipedSectors(), 0u);
 }
 
-void TestFreeSpaceWipeFaults::fillFileThatCannotBeCreatedOnALostVolumeFails_data()
+void tst_FreeSpaceWipeFaults::fillFileThatCannotBeCreatedOnALostVolumeFails_data()
 {
     QTest::addColumn<platform::ErrorCode>("error");
     QTest::newRow("not ready") << platform::NotReady;
@@ -444,7 +445,7 @@ void TestFreeSpaceWipeFaults::fillFileThatCannotBeCreatedOnALostVolumeFails_data
     QTest::newRow("read-only after an error") << platform::WriteProtect;
 }
 
-void TestFreeSpaceWipeFaults::fillFileThatCannotBeCreatedOnALostVolumeFails()
+void tst_FreeSpaceWipeFaults::fillFileThatCannotBeCreatedOnALostVolumeFails()
 {
     QFETCH(const platform::ErrorCode, error);
     Machine machine;
@@ -462,7 +463,7 @@ void TestFreeSpaceWipeFaults::fillFileThatCannotBeCreatedOnALostVolumeFails()
     QCOMPARE(job.errors, QStringList{u"填充空闲空间失败"_s});
 }
 
-void TestFreeSpaceWipeFaults::fillFileThatCannotBeRemovedDoesNotStopTheOthers()
+void tst_FreeSpaceWipeFaults::fillFileThatCannotBeRemovedDoesNotStopTheOthers()
 {
     Machine machine;
     furnish(machine.volume, Reserve + 5 * MiB);
@@ -482,7 +483,7 @@ void TestFreeSpaceWipeFaults::fillFileThatCannotBeRemovedDoesNotStopTheOthers()
 }
 
 // A quota, or what is kept for the administrator: there is room that this job does not get.
-void TestFreeSpaceWipeFaults::roomThatIsNotGivenIsTold()
+void tst_FreeSpaceWipeFaults::roomThatIsNotGivenIsTold()
 {
     Machine machine;
     furnish(machine.volume, Reserve + 5 * MiB);
@@ -497,7 +498,7 @@ void TestFreeSpaceWipeFaults::roomThatIsNotGivenIsTold()
     QVERIFY(job.logged(u"警告: 文件系统不再接受数据，仍有 5.00 MB 空闲空间未填满"_s, 1));
 }
 
-void TestFreeSpaceWipeFaults::roomThatOthersGiveBackIsNoCompression()
+void tst_FreeSpaceWipeFaults::roomThatOthersGiveBackIsNoCompression()
 {
     Machine machine;
     furnish(machine.volume, Reserve + 60 * MiB);
@@ -515,7 +516,7 @@ void TestFreeSpaceWipeFaults::roomThatOthersGiveBackIsNoCompression()
     QCOMPARE(job.wipedSectors(), static_cast<quint64>((60 * MiB + 3 * GiB) / 512));
 }
 
-void TestFreeSpaceWipeFaults::volumeThatCompressesIsNotFilledForEver()
+void tst_FreeSpaceWipeFaults::volumeThatCompressesIsNotFilledForEver()
 {
     Machine machine;
     furnish(machine.volume, Reserve + 60 * MiB);
@@ -535,7 +536,7 @@ void TestFreeSpaceWipeFaults::volumeThatCompressesIsNotFilledForEver()
     QCOMPARE(fillFilesLeft(machine.volume), QStringList());
 }
 
-void TestFreeSpaceWipeFaults::volumeThatCompressesALittleIsFilledInEveryPass()
+void tst_FreeSpaceWipeFaults::volumeThatCompressesALittleIsFilledInEveryPass()
 {
     Machine machine;
     furnish(machine.volume, Reserve + 8 * MiB);
@@ -552,7 +553,7 @@ void TestFreeSpaceWipeFaults::volumeThatCompressesALittleIsFilledInEveryPass()
     QVERIFY(written > 2 * 31 * MiB && written <= 2 * 32 * MiB);
 }
 
-void TestFreeSpaceWipeFaults::spaceThatComesBackLateIsWaitedFor()
+void tst_FreeSpaceWipeFaults::spaceThatComesBackLateIsWaitedFor()
 {
     Machine machine;
     furnish(machine.volume, Reserve + 12 * MiB);
@@ -565,7 +566,7 @@ void TestFreeSpaceWipeFaults::spaceThatComesBackLateIsWaitedFor()
     QCOMPARE(job.wipedSectors(), static_cast<quint64>(12 * MiB / 512));
 }
 
-void TestFreeSpaceWipeFaults::spaceThatNeverComesBackFailsTheJob()
+void tst_FreeSpaceWipeFaults::spaceThatNeverComesBackFailsTheJob()
 {
     Machine machine;
     furnish(machine.volume, Reserve + 12 * MiB);
@@ -581,7 +582,7 @@ void TestFreeSpaceWipeFaults::spaceThatNeverComesBackFailsTheJob()
     QCOMPARE(fillFilesLeft(machine.volume), QStringList());
 }
 
-void TestFreeSpaceWipeFaults::spaceThatSomebodyElseTakesIsNotWaitedFor()
+void tst_FreeSpaceWipeFaults::spaceThatSomebodyElseTakesIsNotWaitedFor()
 {
     Machine machine;
     furnish(machine.volume, Reserve + 12 * MiB);
@@ -599,7 +600,7 @@ void TestFreeSpaceWipeFaults::spaceThatSomebodyElseTakesIsNotWaitedFor()
     QVERIFY(job.logged(u"已写入: 7.00 MB"_s, 0));
 }
 
-void TestFreeSpaceWipeFaults::stopEndsTheWaitForSpace()
+void tst_FreeSpaceWipeFaults::stopEndsTheWaitForSpace()
 {
     Machine machine;
     furnish(machine.volume, Reserve + 12 * MiB);
@@ -621,7 +622,7 @@ void TestFreeSpaceWipeFaults::stopEndsTheWaitForSpace()
     QCOMPARE(fillFilesLeft(machine.volume), QStringList());
 }
 
-void TestFreeSpaceWipeFaults::spaceOfFilesDeletedJustBeforeIsFilledToo()
+void tst_FreeSpaceWipeFaults::spaceOfFilesDeletedJustBeforeIsFilledToo()
 {
     Machine machine;
     furnish(machine.volume, Reserve / 2);
@@ -638,7 +639,7 @@ void TestFreeSpaceWipeFaults::spaceOfFilesDeletedJustBeforeIsFilledToo()
     QCOMPARE(job.count(u"已写入: 50.00 MB"_s, 0), 2);
 }
 
-void TestFreeSpaceWipeFaults::unfinishedMethodWipedNothing()
+void tst_FreeSpaceWipeFaults::unfinishedMethodWipedNothing()
 {
     // The second of two passes never writes: the space has not had the method.
     Machine machine;
@@ -652,7 +653,7 @@ void TestFreeSpaceWipeFaults::unfinishedMethodWipedNothing()
     QCOMPARE(job.wipedSectors(), 0u);
 }
 
-void TestFreeSpaceWipeFaults::residueThatCannotBeCleanedIsTold()
+void tst_FreeSpaceWipeFaults::residueThatCannotBeCleanedIsTold()
 {
     Machine machine;
     furnish(machine.volume, Reserve + 4 * MiB);
@@ -673,7 +674,7 @@ void TestFreeSpaceWipeFaults::residueThatCannotBeCleanedIsTold()
                                          }));
 }
 
-void TestFreeSpaceWipeFaults::volumeGoneAtTheStart()
+void tst_FreeSpaceWipeFaults::volumeGoneAtTheStart()
 {
     Machine machine;
     furnish(machine.volume, Reserve + 4 * MiB);
@@ -690,14 +691,14 @@ void TestFreeSpaceWipeFaults::volumeGoneAtTheStart()
     QCOMPARE(job.errors, QStringList{u"卷不再可用，错误码: 21"_s});
 }
 
-void TestFreeSpaceWipeFaults::volumeThatIsNotMountedAnyMore_data()
+void tst_FreeSpaceWipeFaults::volumeThatIsNotMountedAnyMore_data()
 {
     QTest::addColumn<QString>("name");
     QTest::newRow("as listed") << u"/media/data"_s;
     QTest::newRow("with a slash") << u"/media/data/"_s;
 }
 
-void TestFreeSpaceWipeFaults::volumeThatIsNotMountedAnyMore()
+void tst_FreeSpaceWipeFaults::volumeThatIsNotMountedAnyMore()
 {
     QFETCH(const QString, name);
     // The folder still stands, and the free space under it is the parent volume's.
@@ -716,7 +717,7 @@ void TestFreeSpaceWipeFaults::volumeThatIsNotMountedAnyMore()
     QCOMPARE(machine.volume.pathsBelow(Root), before);
 }
 
-void TestFreeSpaceWipeFaults::crashedVolumeGoneAtTheStart()
+void tst_FreeSpaceWipeFaults::crashedVolumeGoneAtTheStart()
 {
     Machine machine;
     machine.volume.freeBytes[Root] = Reserve + 4 * MiB;
@@ -734,7 +735,7 @@ void TestFreeSpaceWipeFaults::crashedVolumeGoneAtTheStart()
     QCOMPARE(job.errors, QStringList{u"填充空闲空间失败"_s});
 }
 
-void TestFreeSpaceWipeFaults::volumeThatVanishesLoop_data()
+void tst_FreeSpaceWipeFaults::volumeThatVanishesLoop_data()
 {
     QTest::addColumn<platform::ErrorCode>("error");
     QTest::newRow("pulled out") << platform::NotReady;
@@ -742,7 +743,7 @@ void TestFreeSpaceWipeFaults::volumeThatVanishesLoop_data()
     QTest::newRow("no longer there") << platform::PathNotFound;
 }
 
-void TestFreeSpaceWipeFaults::volumeThatVanishesLoop()
+void tst_FreeSpaceWipeFaults::volumeThatVanishesLoop()
 {
     QFETCH(const platform::ErrorCode, error);
     int failures = 0;
@@ -779,7 +780,7 @@ void TestFreeSpaceWipeFaults::volumeThatVanishesLoop()
     QVERIFY(failures > 20);
 }
 
-void TestFreeSpaceWipeFaults::unmountedVolumeIsNotReplacedByItsParent_data()
+void tst_FreeSpaceWipeFaults::unmountedVolumeIsNotReplacedByItsParent_data()
 {
     QTest::addColumn<quint32>("kind");
     QTest::addColumn<int>("call");
@@ -791,7 +792,7 @@ void TestFreeSpaceWipeFaults::unmountedVolumeIsNotReplacedByItsParent_data()
     QTest::newRow("after the last pass") << quint32{FaultPlan::RemoveFolder} << 2;
 }
 
-void TestFreeSpaceWipeFaults::unmountedVolumeIsNotReplacedByItsParent()
+void tst_FreeSpaceWipeFaults::unmountedVolumeIsNotReplacedByItsParent()
 {
     QFETCH(const quint32, kind);
     QFETCH(const int, call);
@@ -820,7 +821,7 @@ void TestFreeSpaceWipeFaults::unmountedVolumeIsNotReplacedByItsParent()
     QVERIFY(machine.volume.writes.size() <= writesBefore + (kind == FaultPlan::Write));
 }
 
-void TestFreeSpaceWipeFaults::temporaryFolderTakenAwayEndsTheJob()
+void tst_FreeSpaceWipeFaults::temporaryFolderTakenAwayEndsTheJob()
 {
     Machine machine;
     furnish(machine.volume, Reserve + 5 * MiB);
@@ -838,7 +839,7 @@ void TestFreeSpaceWipeFaults::temporaryFolderTakenAwayEndsTheJob()
     QVERIFY(userFilesStand(machine.volume));
 }
 
-void TestFreeSpaceWipeFaults::fillFilesOfACrashAreRemovedFirst()
+void tst_FreeSpaceWipeFaults::fillFilesOfACrashAreRemovedFirst()
 {
     Machine machine;
     machine.volume.freeBytes[Root] = Reserve + 4 * MiB;
@@ -865,7 +866,7 @@ void TestFreeSpaceWipeFaults::fillFilesOfACrashAreRemovedFirst()
     QVERIFY(!machine.volume.entries.contains(Root + u".quorvex_temp_89abcdef"_s));
 }
 
-void TestFreeSpaceWipeFaults::leftOverFilesThatCannotBeRemovedAreNotAnnounced()
+void tst_FreeSpaceWipeFaults::leftOverFilesThatCannotBeRemovedAreNotAnnounced()
 {
     Machine machine;
     furnish(machine.volume, Reserve + MiB);
@@ -879,7 +880,7 @@ void TestFreeSpaceWipeFaults::leftOverFilesThatCannotBeRemovedAreNotAnnounced()
     QVERIFY(machine.volume.entries.contains(Root + u".quorvex_temp_0badcafe/fill_000000.tmp"_s));
 }
 
-void TestFreeSpaceWipeFaults::nothingElseOfALeftOverIsTouched()
+void tst_FreeSpaceWipeFaults::nothingElseOfALeftOverIsTouched()
 {
     Machine machine;
     MemoryVolume &volume = machine.volume;
@@ -922,7 +923,7 @@ void TestFreeSpaceWipeFaults::nothingElseOfALeftOverIsTouched()
         QVERIFY2(volume.entries.contains(path), qPrintable(path));
 }
 
-void TestFreeSpaceWipeFaults::leftOverFileWithAFurtherNameGivesNoSpaceBack()
+void tst_FreeSpaceWipeFaults::leftOverFileWithAFurtherNameGivesNoSpaceBack()
 {
     Machine machine;
     machine.volume.freeBytes[Root] = Reserve + MiB;
@@ -939,7 +940,7 @@ void TestFreeSpaceWipeFaults::leftOverFileWithAFurtherNameGivesNoSpaceBack()
     QVERIFY(job.logged(u"已写入: 1.00 MB"_s, 0));
 }
 
-void TestFreeSpaceWipeFaults::emptyResidueFolderOfAnEarlierJobGoesQuietly()
+void tst_FreeSpaceWipeFaults::emptyResidueFolderOfAnEarlierJobGoesQuietly()
 {
     Machine machine;
     machine.volume.freeBytes[Root] = Reserve + MiB;
@@ -953,7 +954,7 @@ void TestFreeSpaceWipeFaults::emptyResidueFolderOfAnEarlierJobGoesQuietly()
         QVERIFY(!line.text.startsWith(u"已清理"_s));
 }
 
-void TestFreeSpaceWipeFaults::volumeThatACrashLeftFullIsWiped()
+void tst_FreeSpaceWipeFaults::volumeThatACrashLeftFullIsWiped()
 {
     Machine machine;
     machine.volume.releaseDelay = 2;
@@ -967,7 +968,7 @@ void TestFreeSpaceWipeFaults::volumeThatACrashLeftFullIsWiped()
     QVERIFY(job.logged(u"已写入: 3.00 MB"_s, 0));
 }
 
-void TestFreeSpaceWipeFaults::stopBeforeTheStart()
+void tst_FreeSpaceWipeFaults::stopBeforeTheStart()
 {
     Machine machine;
     furnish(machine.volume, Reserve + MiB);
@@ -981,7 +982,7 @@ void TestFreeSpaceWipeFaults::stopBeforeTheStart()
     QCOMPARE(machine.volume.calls, 0);
 }
 
-void TestFreeSpaceWipeFaults::stopInEveryStage_data()
+void tst_FreeSpaceWipeFaults::stopInEveryStage_data()
 {
     QTest::addColumn<quint32>("kind");
     QTest::addColumn<QString>("place");
@@ -1010,7 +1011,7 @@ void TestFreeSpaceWipeFaults::stopInEveryStage_data()
     QTest::newRow("removing the folders") << quint32{FaultPlan::RemoveTree} << u"dir_clean"_s << 1;
 }
 
-void TestFreeSpaceWipeFaults::stopInEveryStage()
+void tst_FreeSpaceWipeFaults::stopInEveryStage()
 {
     QFETCH(const quint32, kind);
     QFETCH(const QString, place);
@@ -1049,7 +1050,7 @@ void TestFreeSpaceWipeFaults::stopInEveryStage()
     QCOMPARE(machine.volume.removedUnflushed.filter(u"/fill_"_s), QStringList());
 }
 
-void TestFreeSpaceWipeFaults::stopBetweenVolumesLeavesTheNextAlone()
+void tst_FreeSpaceWipeFaults::stopBetweenVolumesLeavesTheNextAlone()
 {
     Machine machine;
     machine.volume.freeBytes = {{u"E:/"_s, Reserve + MiB}, {u"F:/"_s, Reserve + MiB}};
@@ -1067,7 +1068,7 @@ void TestFreeSpaceWipeFaults::stopBetweenVolumesLeavesTheNextAlone()
     QCOMPARE(job.wipedSectors(), static_cast<quint64>(MiB / 512));
 }
 
-void TestFreeSpaceWipeFaults::stopDuringAPauseFailsTheFill()
+void tst_FreeSpaceWipeFaults::stopDuringAPauseFailsTheFill()
 {
     // Whether the worker already waits cannot be seen from outside: a stop that comes too early is one
     // between two chunks, which is no failure, and the next try waits longer.
@@ -1100,7 +1101,7 @@ void TestFreeSpaceWipeFaults::stopDuringAPauseFailsTheFill()
     QFAIL("a stop during a pause never failed the fill");
 }
 
-void TestFreeSpaceWipeFaults::workerThatIsNeverRunLeavesQuietly()
+void tst_FreeSpaceWipeFaults::workerThatIsNeverRunLeavesQuietly()
 {
     Machine machine;
     furnish(machine.volume, Reserve + MiB);
@@ -1111,6 +1112,6 @@ void TestFreeSpaceWipeFaults::workerThatIsNeverRunLeavesQuietly()
     QCOMPARE(machine.volume.calls, 0);
 }
 
-QTEST_GUILESS_MAIN(TestFreeSpaceWipeFaults)
+QUORVEX_SUITE(tst_FreeSpaceWipeFaults, QCoreApplication)
 
 #include "tst_freespacewipefaults.moc"

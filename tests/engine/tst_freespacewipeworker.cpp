@@ -1,5 +1,6 @@
 #include "engine/fillfolder.h"
 #include "engine/freespacefixture.h"
+#include "support/suite.h"
 
 using namespace freespace;
 using namespace Qt::StringLiterals;
@@ -17,7 +18,7 @@ constexpr PassPattern custom(quint8 value)
 
 } // namespace
 
-class TestFreeSpaceWipeWorker : public QObject
+class tst_FreeSpaceWipeWorker : public QObject
 {
     Q_OBJECT
 
@@ -76,7 +77,7 @@ private slots:
     void reportSaysThatNothingWasReadBack();
 };
 
-void TestFreeSpaceWipeWorker::oneVolumeJobLogsLineByLine()
+void tst_FreeSpaceWipeWorker::oneVolumeJobLogsLineByLine()
 {
     Machine machine;
     machine.volume.freeBytes[u"E:/"_s] = 112 * MiB;
@@ -106,7 +107,7 @@ void TestFreeSpaceWipeWorker::oneVolumeJobLogsLineByLine()
     QVERIFY(job.errors.isEmpty());
 }
 
-void TestFreeSpaceWipeWorker::twoVolumeJobLogsLineByLine()
+void tst_FreeSpaceWipeWorker::twoVolumeJobLogsLineByLine()
 {
     Machine machine;
     machine.volume.freeBytes[u"/media/a/"_s] = 3 * MiB;
@@ -148,7 +149,7 @@ void TestFreeSpaceWipeWorker::twoVolumeJobLogsLineByLine()
     QVERIFY(job.errors.isEmpty());
 }
 
-void TestFreeSpaceWipeWorker::partitionIsTakenBeforeDisk()
+void tst_FreeSpaceWipeWorker::partitionIsTakenBeforeDisk()
 {
     Machine machine;
     machine.volume.freeBytes = {{u"E:/"_s, 101 * MiB}, {u"F:/"_s, 101 * MiB}};
@@ -162,7 +163,7 @@ void TestFreeSpaceWipeWorker::partitionIsTakenBeforeDisk()
     QVERIFY(machine.volume.pathsBelow(u"F:/"_s).isEmpty());
 }
 
-void TestFreeSpaceWipeWorker::negativeDiskNumberIsAnInvalidTarget()
+void tst_FreeSpaceWipeWorker::negativeDiskNumberIsAnInvalidTarget()
 {
     Machine machine;
     Job job;
@@ -172,7 +173,7 @@ void TestFreeSpaceWipeWorker::negativeDiskNumberIsAnInvalidTarget()
     QVERIFY(compareLogs(job.log, {{u"开始空闲空间擦除..."_s, 0}}));
 }
 
-void TestFreeSpaceWipeWorker::volumesWithoutDriveLetterAreSkipped()
+void tst_FreeSpaceWipeWorker::volumesWithoutDriveLetterAreSkipped()
 {
     Machine machine;
     machine.volume.freeBytes[u"E:/"_s] = 101 * MiB;
@@ -186,7 +187,7 @@ void TestFreeSpaceWipeWorker::volumesWithoutDriveLetterAreSkipped()
              "a single volume has no header");
 }
 
-void TestFreeSpaceWipeWorker::diskWithoutPartitionsIsWipedThroughItsVolume()
+void tst_FreeSpaceWipeWorker::diskWithoutPartitionsIsWipedThroughItsVolume()
 {
     Machine machine;
     machine.volume.freeBytes[u"G:/"_s] = 101 * MiB;
@@ -205,7 +206,7 @@ void TestFreeSpaceWipeWorker::diskWithoutPartitionsIsWipedThroughItsVolume()
     QVERIFY(job.logged(u"已写入: 1.00 MB"_s, 0));
 }
 
-void TestFreeSpaceWipeWorker::diskWithoutAnyVolumeIsDoneWithTheWarning()
+void tst_FreeSpaceWipeWorker::diskWithoutAnyVolumeIsDoneWithTheWarning()
 {
     Machine machine;
     machine.devices.mount(FakeVolume::onDrives(u"G:"_s, {4}));
@@ -221,7 +222,7 @@ void TestFreeSpaceWipeWorker::diskWithoutAnyVolumeIsDoneWithTheWarning()
     QCOMPARE(job.wipedSectors(), 0u);
 }
 
-void TestFreeSpaceWipeWorker::volumeOfADiskIsTheOneWhoseFirstExtentLiesOnIt()
+void tst_FreeSpaceWipeWorker::volumeOfADiskIsTheOneWhoseFirstExtentLiesOnIt()
 {
     Machine machine;
     machine.devices.mount(FakeVolume::onDrives(u"D:"_s, {1, 5}));
@@ -234,7 +235,7 @@ void TestFreeSpaceWipeWorker::volumeOfADiskIsTheOneWhoseFirstExtentLiesOnIt()
     QCOMPARE(machine.devices.mostOpenHandles, 1);
 }
 
-void TestFreeSpaceWipeWorker::volumeOfADiskMayHave33Extents()
+void tst_FreeSpaceWipeWorker::volumeOfADiskMayHave33Extents()
 {
     Machine machine;
     machine.devices.mount(FakeVolume::onDrives(u"E:"_s, QList<int>(34, 5)));
@@ -243,7 +244,7 @@ void TestFreeSpaceWipeWorker::volumeOfADiskMayHave33Extents()
     QCOMPARE(FreeSpaceWipeWorker::findDriveForDisk(5), u"F:"_s);
 }
 
-void TestFreeSpaceWipeWorker::unreadableVolumesArePassedOver()
+void tst_FreeSpaceWipeWorker::unreadableVolumesArePassedOver()
 {
     Machine machine;
     FakeVolume closed = FakeVolume::onDrives(u"A:"_s, {0});
@@ -257,7 +258,7 @@ void TestFreeSpaceWipeWorker::unreadableVolumesArePassedOver()
     QCOMPARE(FreeSpaceWipeWorker::findDriveForDisk(0), u"D:"_s);
 }
 
-void TestFreeSpaceWipeWorker::rootsAreTakenAsGiven_data()
+void tst_FreeSpaceWipeWorker::rootsAreTakenAsGiven_data()
 {
     QTest::addColumn<QString>("drive");
     QTest::addColumn<QString>("root");
@@ -268,7 +269,7 @@ void TestFreeSpaceWipeWorker::rootsAreTakenAsGiven_data()
     QTest::newRow("root of the system") << u"/"_s << u"/"_s;
 }
 
-void TestFreeSpaceWipeWorker::rootsAreTakenAsGiven()
+void tst_FreeSpaceWipeWorker::rootsAreTakenAsGiven()
 {
     QFETCH(const QString, drive);
     QFETCH(const QString, root);
@@ -283,7 +284,7 @@ void TestFreeSpaceWipeWorker::rootsAreTakenAsGiven()
     QVERIFY(job.logged(u"已写入: 1.00 MB"_s, 0));
 }
 
-void TestFreeSpaceWipeWorker::namesWithPlaceholdersAreNotSubstituted()
+void tst_FreeSpaceWipeWorker::namesWithPlaceholdersAreNotSubstituted()
 {
     Machine machine;
     machine.volume.freeBytes = {{u"/m/%1%2%3/"_s, 101 * MiB}, {u"/m/%2/"_s, 101 * MiB}};
@@ -299,7 +300,7 @@ void TestFreeSpaceWipeWorker::namesWithPlaceholdersAreNotSubstituted()
     QCOMPARE(stays, (QStringList{u"/m/%1%2%3/.quorvex_temp_########"_s, u"/m/%2/.quorvex_temp_########"_s}));
 }
 
-void TestFreeSpaceWipeWorker::namesAreShownWithoutControlCharacters()
+void tst_FreeSpaceWipeWorker::namesAreShownWithoutControlCharacters()
 {
     Machine machine;
     const QString drive = u"/media/a\u001b[31m\u202egpj"_s;
@@ -315,7 +316,7 @@ void TestFreeSpaceWipeWorker::namesAreShownWithoutControlCharacters()
     QVERIFY(machine.volume.createdFolders.first().startsWith(drive + u"/.quorvex_temp_"_s));
 }
 
-void TestFreeSpaceWipeWorker::failedVolumeEndsTheJob()
+void tst_FreeSpaceWipeWorker::failedVolumeEndsTheJob()
 {
     Machine machine;
     machine.volume.freeBytes = {{u"E:/"_s, 101 * MiB}, {u"F:/"_s, 101 * MiB}};
@@ -335,7 +336,7 @@ void TestFreeSpaceWipeWorker::failedVolumeEndsTheJob()
     QVERIFY(machine.volume.pathsBelow(u"F:/"_s).isEmpty());
 }
 
-void TestFreeSpaceWipeWorker::noFreeSpaceCountsAsDone()
+void tst_FreeSpaceWipeWorker::noFreeSpaceCountsAsDone()
 {
     Machine machine;
     machine.volume.freeBytes[u"E:/"_s] = 0;
@@ -353,7 +354,7 @@ void TestFreeSpaceWipeWorker::noFreeSpaceCountsAsDone()
     QVERIFY(machine.volume.createdFolders.isEmpty());
 }
 
-void TestFreeSpaceWipeWorker::freeSpaceWithinTheReserveWritesNothingInAnyPass()
+void tst_FreeSpaceWipeWorker::freeSpaceWithinTheReserveWritesNothingInAnyPass()
 {
     Machine machine;
     machine.volume.freeBytes[u"E:/"_s] = Reserve;
@@ -370,7 +371,7 @@ void TestFreeSpaceWipeWorker::freeSpaceWithinTheReserveWritesNothingInAnyPass()
     QCOMPARE(job.wipedSectors(), 0u);
 }
 
-void TestFreeSpaceWipeWorker::ordinaryVolumeKeeps100MiB()
+void tst_FreeSpaceWipeWorker::ordinaryVolumeKeeps100MiB()
 {
     Machine machine;
     machine.volume.freeBytes[u"E:/"_s] = 150 * MiB;
@@ -388,7 +389,7 @@ void TestFreeSpaceWipeWorker::ordinaryVolumeKeeps100MiB()
     QCOMPARE(machine.volume.freeBytes.value(u"E:/"_s), 150 * MiB);
 }
 
-void TestFreeSpaceWipeWorker::systemVolumeKeeps1GiB()
+void tst_FreeSpaceWipeWorker::systemVolumeKeeps1GiB()
 {
     Machine machine;
     machine.volume.freeBytes[u"C:/"_s] = GiB + 50 * MiB;
@@ -406,7 +407,7 @@ void TestFreeSpaceWipeWorker::systemVolumeKeeps1GiB()
     QCOMPARE(job.count(u"检测到系统分区，保留 1 GB 安全空间"_s, 0), 2);
 }
 
-void TestFreeSpaceWipeWorker::oneByteAboveTheReserveIsWritten()
+void tst_FreeSpaceWipeWorker::oneByteAboveTheReserveIsWritten()
 {
     Machine machine;
     machine.volume.freeBytes[u"E:/"_s] = Reserve + 1;
@@ -420,7 +421,7 @@ void TestFreeSpaceWipeWorker::oneByteAboveTheReserveIsWritten()
              (QList<MemoryVolume::Closed>{{u"E:/.quorvex_temp_########/fill_000000.tmp"_s, 1}}));
 }
 
-void TestFreeSpaceWipeWorker::fiveGiBFillThreeFiles()
+void tst_FreeSpaceWipeWorker::fiveGiBFillThreeFiles()
 {
     Machine machine;
     machine.volume.freeBytes[u"E:/"_s] = 5 * GiB + Reserve;
@@ -440,7 +441,7 @@ void TestFreeSpaceWipeWorker::fiveGiBFillThreeFiles()
     QCOMPARE(job.wipedSectors(), static_cast<quint64>(5 * GiB / 512));
 }
 
-void TestFreeSpaceWipeWorker::bufferThatDoesNotDivideAFileEndsItWithAShorterChunk()
+void tst_FreeSpaceWipeWorker::bufferThatDoesNotDivideAFileEndsItWithAShorterChunk()
 {
     Machine machine;
     machine.volume.freeBytes[u"E:/"_s] = 2 * GiB + 10 * MiB + Reserve;
@@ -463,7 +464,7 @@ void TestFreeSpaceWipeWorker::bufferThatDoesNotDivideAFileEndsItWithAShorterChun
     QCOMPARE(sizes, expected);
 }
 
-void TestFreeSpaceWipeWorker::fileBelowOneBufferEndsTheFill()
+void tst_FreeSpaceWipeWorker::fileBelowOneBufferEndsTheFill()
 {
     Machine machine;
     machine.volume.freeBytes[u"E:/"_s] = Reserve + 5 * MiB;
@@ -484,7 +485,7 @@ void TestFreeSpaceWipeWorker::fileBelowOneBufferEndsTheFill()
     QVERIFY(!job.logged(u"空闲空间已填满"_s, 0));
 }
 
-void TestFreeSpaceWipeWorker::wholeBuffersEndWithTheVolumeFull()
+void tst_FreeSpaceWipeWorker::wholeBuffersEndWithTheVolumeFull()
 {
     Machine machine;
     machine.volume.freeBytes[u"E:/"_s] = Reserve + 8 * MiB;
@@ -498,7 +499,7 @@ void TestFreeSpaceWipeWorker::wholeBuffersEndWithTheVolumeFull()
     QCOMPARE(closedFillFiles(machine.volume).size(), 1);
 }
 
-void TestFreeSpaceWipeWorker::everyPassFillsTheWholeSpaceAgain()
+void tst_FreeSpaceWipeWorker::everyPassFillsTheWholeSpaceAgain()
 {
     Machine machine;
     machine.volume.freeBytes[u"E:/"_s] = Reserve + 12 * MiB;
@@ -512,7 +513,7 @@ void TestFreeSpaceWipeWorker::everyPassFillsTheWholeSpaceAgain()
     QCOMPARE(job.count(u"已写入: 12.00 MB"_s, 0), 3);
 }
 
-void TestFreeSpaceWipeWorker::everythingIsFlushedBeforeItIsDeleted()
+void tst_FreeSpaceWipeWorker::everythingIsFlushedBeforeItIsDeleted()
 {
     Machine machine;
     machine.volume.freeBytes[u"E:/"_s] = Reserve + 10 * MiB;
@@ -536,7 +537,7 @@ void TestFreeSpaceWipeWorker::everythingIsFlushedBeforeItIsDeleted()
     QCOMPARE(unflushedChunks, 0);
 }
 
-void TestFreeSpaceWipeWorker::constantPassesWriteTheirByte()
+void tst_FreeSpaceWipeWorker::constantPassesWriteTheirByte()
 {
     Machine machine;
     machine.volume.freeBytes[u"E:/"_s] = Reserve + 5 * MiB / 2;
@@ -554,7 +555,7 @@ void TestFreeSpaceWipeWorker::constantPassesWriteTheirByte()
     }
 }
 
-void TestFreeSpaceWipeWorker::randomPassesWriteFreshBytes()
+void tst_FreeSpaceWipeWorker::randomPassesWriteFreshBytes()
 {
     Machine machine;
     machine.volume.freeBytes[u"E:/"_s] = Reserve + 8 * MiB;
@@ -570,7 +571,7 @@ void TestFreeSpaceWipeWorker::randomPassesWriteFreshBytes()
     QVERIFY(ends.size() > 7);
 }
 
-void TestFreeSpaceWipeWorker::impossibleBufferFailsTheFill()
+void tst_FreeSpaceWipeWorker::impossibleBufferFailsTheFill()
 {
     Machine machine;
     machine.volume.freeBytes[u"E:/"_s] = Reserve + 8 * MiB;
@@ -585,7 +586,7 @@ void TestFreeSpaceWipeWorker::impossibleBufferFailsTheFill()
     QVERIFY(machine.volume.pathsBelow(u"E:/"_s).isEmpty());
 }
 
-void TestFreeSpaceWipeWorker::passLabels_data()
+void tst_FreeSpaceWipeWorker::passLabels_data()
 {
     QTest::addColumn<PassPattern>("pattern");
     QTest::addColumn<QString>("line");
@@ -601,7 +602,7 @@ void TestFreeSpaceWipeWorker::passLabels_data()
         << PassPattern{static_cast<PatternType>(9)} << u"第 1/1 次覆写 (模式: 未知)"_s;
 }
 
-void TestFreeSpaceWipeWorker::passLabels()
+void tst_FreeSpaceWipeWorker::passLabels()
 {
     QFETCH(const PassPattern, pattern);
     QFETCH(const QString, line);
@@ -615,7 +616,7 @@ void TestFreeSpaceWipeWorker::passLabels()
     QCOMPARE(job.count(line, 0), 1);
 }
 
-void TestFreeSpaceWipeWorker::methodWithoutPassesFillsNothing()
+void tst_FreeSpaceWipeWorker::methodWithoutPassesFillsNothing()
 {
     Machine machine;
     machine.volume.freeBytes[u"E:/"_s] = Reserve + MiB;
@@ -628,7 +629,7 @@ void TestFreeSpaceWipeWorker::methodWithoutPassesFillsNothing()
     QCOMPARE(job.wipedSectors(), 0u);
 }
 
-void TestFreeSpaceWipeWorker::temporaryFolderIsHiddenAndNamedAtRandom()
+void tst_FreeSpaceWipeWorker::temporaryFolderIsHiddenAndNamedAtRandom()
 {
     static const QRegularExpression name(u"^E:/\\.quorvex_temp_[0-9a-f]{8}$"_s);
     QSet<QString> names;
@@ -648,7 +649,7 @@ void TestFreeSpaceWipeWorker::temporaryFolderIsHiddenAndNamedAtRandom()
     QCOMPARE(names.size(), 5);
 }
 
-void TestFreeSpaceWipeWorker::fillFileNamesHaveSixDigits()
+void tst_FreeSpaceWipeWorker::fillFileNamesHaveSixDigits()
 {
     QCOMPARE(fillfolder::fileName(0), u"fill_000000.tmp"_s);
     QCOMPARE(fillfolder::fileName(123456), u"fill_123456.tmp"_s);
@@ -670,7 +671,7 @@ void TestFreeSpaceWipeWorker::fillFileNamesHaveSixDigits()
     QVERIFY(!fillfolder::isName(u"quorvex_temp_0123abcd"));
 }
 
-void TestFreeSpaceWipeWorker::recordFilesAndFoldersAreMadeAndRemoved()
+void tst_FreeSpaceWipeWorker::recordFilesAndFoldersAreMadeAndRemoved()
 {
     Machine machine;
     machine.volume.freeBytes[u"E:/"_s] = Reserve + MiB;
@@ -709,7 +710,7 @@ void TestFreeSpaceWipeWorker::recordFilesAndFoldersAreMadeAndRemoved()
     QCOMPARE(QSet<QString>(folders.begin(), folders.end()).size(), 100);
 }
 
-void TestFreeSpaceWipeWorker::emptyTemporaryFolderStaysBehind()
+void tst_FreeSpaceWipeWorker::emptyTemporaryFolderStaysBehind()
 {
     Machine machine;
     machine.volume.freeBytes[u"E:/"_s] = Reserve + MiB;
@@ -722,7 +723,7 @@ void TestFreeSpaceWipeWorker::emptyTemporaryFolderStaysBehind()
              (QStringList{u"E:/.quorvex_temp_########"_s, u"E:/keep.txt"_s}));
 }
 
-void TestFreeSpaceWipeWorker::foreignFileInTheTemporaryFolderStays()
+void tst_FreeSpaceWipeWorker::foreignFileInTheTemporaryFolderStays()
 {
     Machine machine;
     machine.volume.freeBytes[u"E:/"_s] = Reserve + MiB;
@@ -738,7 +739,7 @@ void TestFreeSpaceWipeWorker::foreignFileInTheTemporaryFolderStays()
     QCOMPARE(machine.volume.pathsBelow(u"E:/"_s).filter(u"/foreign.txt"_s).size(), 1);
 }
 
-void TestFreeSpaceWipeWorker::passesAndPercentRestartWithEveryVolume()
+void tst_FreeSpaceWipeWorker::passesAndPercentRestartWithEveryVolume()
 {
     Machine machine;
     machine.volume.freeBytes = {{u"E:/"_s, 2 * Reserve}, {u"F:/"_s, 2 * Reserve}};
@@ -753,7 +754,7 @@ void TestFreeSpaceWipeWorker::passesAndPercentRestartWithEveryVolume()
     QCOMPARE(job.percents, (QList<int>{25, 75, 25, 75}));
 }
 
-void TestFreeSpaceWipeWorker::bytesOfEarlierPassesCountAsTheFreeSpaceAtTheStart()
+void tst_FreeSpaceWipeWorker::bytesOfEarlierPassesCountAsTheFreeSpaceAtTheStart()
 {
     Machine machine;
     machine.volume.freeBytes = {{u"E:/"_s, 2 * Reserve}, {u"F:/"_s, 3 * Reserve}};
@@ -768,7 +769,7 @@ void TestFreeSpaceWipeWorker::bytesOfEarlierPassesCountAsTheFreeSpaceAtTheStart(
                             5 * Reserve, 6 * Reserve, 8 * Reserve, 9 * Reserve})); // F:, 300 MiB free
 }
 
-void TestFreeSpaceWipeWorker::reportTellsWhatEveryPassFilled()
+void tst_FreeSpaceWipeWorker::reportTellsWhatEveryPassFilled()
 {
     Machine machine;
     machine.volume.freeBytes[u"E:/"_s] = Reserve + 10 * MiB;
@@ -786,7 +787,7 @@ void TestFreeSpaceWipeWorker::reportTellsWhatEveryPassFilled()
     QCOMPARE(job.wipedSectors(), static_cast<quint64>(6 * MiB / 512));
 }
 
-void TestFreeSpaceWipeWorker::reportOfTwoVolumesIsTheirSum()
+void tst_FreeSpaceWipeWorker::reportOfTwoVolumesIsTheirSum()
 {
     Machine machine;
     machine.volume.freeBytes = {{u"E:/"_s, Reserve + 2 * MiB}, {u"F:/"_s, Reserve + 5 * MiB}};
@@ -797,7 +798,7 @@ void TestFreeSpaceWipeWorker::reportOfTwoVolumesIsTheirSum()
     QCOMPARE(job.wipedSectors(), static_cast<quint64>(7 * MiB / 512));
 }
 
-void TestFreeSpaceWipeWorker::roomGivenBackMeanwhileIsFilledToo()
+void tst_FreeSpaceWipeWorker::roomGivenBackMeanwhileIsFilledToo()
 {
     Machine machine;
     machine.volume.freeBytes[u"E:/"_s] = Reserve + 2 * MiB;
@@ -815,7 +816,7 @@ void TestFreeSpaceWipeWorker::roomGivenBackMeanwhileIsFilledToo()
     QCOMPARE(job.wipedSectors(), static_cast<quint64>(5 * MiB / 512));
 }
 
-void TestFreeSpaceWipeWorker::reportSaysThatNothingWasReadBack()
+void tst_FreeSpaceWipeWorker::reportSaysThatNothingWasReadBack()
 {
     Machine machine;
     machine.volume.freeBytes[u"E:/"_s] = Reserve + 2 * MiB;
@@ -829,6 +830,6 @@ void TestFreeSpaceWipeWorker::reportSaysThatNothingWasReadBack()
     QCOMPARE(job.task.report().verificationMethod, QString());
 }
 
-QTEST_GUILESS_MAIN(TestFreeSpaceWipeWorker)
+QUORVEX_SUITE(tst_FreeSpaceWipeWorker, QCoreApplication)
 
 #include "tst_freespacewipeworker.moc"

@@ -1,4 +1,5 @@
 #include "engine/patterngenerator.h"
+#include "support/suite.h"
 
 #include <QByteArray>
 #include <QList>
@@ -30,7 +31,7 @@ QByteArray drawn(QRandomGenerator &generator, qint64 size)
 }
 } // namespace
 
-class TestPatternGenerator : public QObject
+class tst_PatternGenerator : public QObject
 {
     Q_OBJECT
 
@@ -48,7 +49,7 @@ private slots:
     void emptyAndNegativeSizesDrawNothing();
 };
 
-void TestPatternGenerator::fixedBytes_data()
+void tst_PatternGenerator::fixedBytes_data()
 {
     QTest::addColumn<quint32>("seed");
     QTest::addColumn<QByteArray>("hex");
@@ -58,7 +59,7 @@ void TestPatternGenerator::fixedBytes_data()
                                 << "3c39bddb33753c0adc5474a963b59c53bbf8d990703f8e165c0ccf4075"_ba;
 }
 
-void TestPatternGenerator::fixedBytes()
+void tst_PatternGenerator::fixedBytes()
 {
     QFETCH(quint32, seed);
     QFETCH(QByteArray, hex);
@@ -66,7 +67,7 @@ void TestPatternGenerator::fixedBytes()
     QCOMPARE(filled(generator, 29).toHex(), hex);
 }
 
-void TestPatternGenerator::singleDrawsAreThoseOfQtsGenerator()
+void tst_PatternGenerator::singleDrawsAreThoseOfQtsGenerator()
 {
     for (quint32 seed = 0; seed < 2000; seed += 7) {
         const quint32 spread = seed * 2654435761U;
@@ -77,7 +78,7 @@ void TestPatternGenerator::singleDrawsAreThoseOfQtsGenerator()
     }
 }
 
-void TestPatternGenerator::everyShortLengthIsDrawnAs64BitWords()
+void tst_PatternGenerator::everyShortLengthIsDrawnAs64BitWords()
 {
     for (qint64 size = 0; size <= 64; ++size) {
         PatternGenerator ours(42);
@@ -87,7 +88,7 @@ void TestPatternGenerator::everyShortLengthIsDrawnAs64BitWords()
     }
 }
 
-void TestPatternGenerator::thirteenBytesConsumeTwoWords()
+void tst_PatternGenerator::thirteenBytesConsumeTwoWords()
 {
     PatternGenerator ours(7);
     QRandomGenerator reference(7);
@@ -100,7 +101,7 @@ void TestPatternGenerator::thirteenBytesConsumeTwoWords()
     QCOMPARE(filled(ours, 8), expected.last(8));
 }
 
-void TestPatternGenerator::longBufferIsDrawnAs64BitWords()
+void tst_PatternGenerator::longBufferIsDrawnAs64BitWords()
 {
     const qint64 size = 1048576 + 5;
     PatternGenerator ours(0x12345678);
@@ -109,7 +110,7 @@ void TestPatternGenerator::longBufferIsDrawnAs64BitWords()
     QCOMPARE(ours.generate(), reference.generate());
 }
 
-void TestPatternGenerator::bulkEqualsPieceByPiece()
+void tst_PatternGenerator::bulkEqualsPieceByPiece()
 {
     PatternGenerator bulk(99);
     PatternGenerator pieces(99);
@@ -119,7 +120,7 @@ void TestPatternGenerator::bulkEqualsPieceByPiece()
     QVERIFY(filled(bulk, joined.size()) == joined);
 }
 
-void TestPatternGenerator::fillsAndSingleDrawsMix()
+void tst_PatternGenerator::fillsAndSingleDrawsMix()
 {
     PatternGenerator ours(5);
     QRandomGenerator reference(5);
@@ -129,7 +130,7 @@ void TestPatternGenerator::fillsAndSingleDrawsMix()
     }
 }
 
-void TestPatternGenerator::nothingBeyondTheSizeIsTouched()
+void tst_PatternGenerator::nothingBeyondTheSizeIsTouched()
 {
     for (qint64 size = 0; size < 40; ++size) {
         QByteArray bytes(64, '\x77');
@@ -139,7 +140,7 @@ void TestPatternGenerator::nothingBeyondTheSizeIsTouched()
     }
 }
 
-void TestPatternGenerator::unalignedDestination()
+void tst_PatternGenerator::unalignedDestination()
 {
     PatternGenerator aligned(11);
     PatternGenerator shifted(11);
@@ -148,7 +149,7 @@ void TestPatternGenerator::unalignedDestination()
     QVERIFY(bytes.sliced(1) == filled(aligned, 10000));
 }
 
-void TestPatternGenerator::emptyAndNegativeSizesDrawNothing()
+void tst_PatternGenerator::emptyAndNegativeSizesDrawNothing()
 {
     PatternGenerator ours(1);
     QRandomGenerator reference(1);
@@ -157,5 +158,5 @@ void TestPatternGenerator::emptyAndNegativeSizesDrawNothing()
     QCOMPARE(ours.generate(), reference.generate());
 }
 
-QTEST_APPLESS_MAIN(TestPatternGenerator)
+QUORVEX_SUITE(tst_PatternGenerator, suites::NoApplication)
 #include "tst_patterngenerator.moc"

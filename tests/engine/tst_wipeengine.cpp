@@ -1,4 +1,5 @@
 #include "engine/wipeengine.h"
+#include "support/suite.h"
 
 #include "model/wipereport.h"
 #include "model/wipetask.h"
@@ -129,7 +130,7 @@ QStringList messages(const QSignalSpy &spy)
 
 } // namespace
 
-class TestWipeEngine : public QObject
+class tst_WipeEngine : public QObject
 {
     Q_OBJECT
 
@@ -161,7 +162,7 @@ private slots:
     void aTaskThatRunsAgainStartsClean();
 };
 
-void TestWipeEngine::signalsInTheirOrder()
+void tst_WipeEngine::signalsInTheirOrder()
 {
     const QMetaObject &meta = WipeEngine::staticMetaObject;
     QStringList names;
@@ -180,7 +181,7 @@ void TestWipeEngine::signalsInTheirOrder()
                          QStringLiteral("verificationCompleted(bool)")}));
 }
 
-void TestWipeEngine::startWithoutTask()
+void tst_WipeEngine::startWithoutTask()
 {
     WipeEngine engine;
     QSignalSpy errors(&engine, &WipeEngine::errorOccurred);
@@ -191,7 +192,7 @@ void TestWipeEngine::startWithoutTask()
     QVERIFY(!engine.isRunning());
 }
 
-void TestWipeEngine::startWithAnInvalidTask()
+void tst_WipeEngine::startWithAnInvalidTask()
 {
     WipeTask task; // a file wipe without files
     const WipeReport before = task.report();
@@ -203,7 +204,7 @@ void TestWipeEngine::startWithAnInvalidTask()
     QCOMPARE(task.report(), before);
 }
 
-void TestWipeEngine::aThreadThatTheSystemRefusesIsTold()
+void tst_WipeEngine::aThreadThatTheSystemRefusesIsTold()
 {
     if (!RefusedThreads::isPossible())
         QSKIP(RefusedThreads::whyNot);
@@ -229,7 +230,7 @@ void TestWipeEngine::aThreadThatTheSystemRefusesIsTold()
     QCOMPARE(engine.report().status, WipeStatus::Completed);
 }
 
-void TestWipeEngine::unknownOperationTypeGivesNoWorker()
+void tst_WipeEngine::unknownOperationTypeGivesNoWorker()
 {
     WipeTask task;
     task.setOperationType(static_cast<OperationType>(9));
@@ -243,7 +244,7 @@ void TestWipeEngine::unknownOperationTypeGivesNoWorker()
     QVERIFY(engine.report().startTime.isValid());
 }
 
-void TestWipeEngine::setTaskWhileRunning()
+void tst_WipeEngine::setTaskWhileRunning()
 {
     ImageMachine machine(2 * MiB, true);
     WipeTask task;
@@ -260,7 +261,7 @@ void TestWipeEngine::setTaskWhileRunning()
     QTRY_VERIFY(!engine.isRunning());
 }
 
-void TestWipeEngine::secondStartWhileRunning()
+void tst_WipeEngine::secondStartWhileRunning()
 {
     ImageMachine machine(2 * MiB, true);
     WipeTask task;
@@ -277,7 +278,7 @@ void TestWipeEngine::secondStartWhileRunning()
     QTRY_COMPARE(engine.report().status, WipeStatus::Completed);
 }
 
-void TestWipeEngine::invalidTaskIsToldEvenWhileRunning()
+void tst_WipeEngine::invalidTaskIsToldEvenWhileRunning()
 {
     ImageMachine machine(2 * MiB, true);
     WipeTask task;
@@ -293,7 +294,7 @@ void TestWipeEngine::invalidTaskIsToldEvenWhileRunning()
     QTRY_VERIFY(!engine.isRunning());
 }
 
-void TestWipeEngine::diskJobFromTaskToReport()
+void tst_WipeEngine::diskJobFromTaskToReport()
 {
     ImageMachine machine(3 * MiB + 512);
     WipeTask task;
@@ -331,7 +332,7 @@ void TestWipeEngine::diskJobFromTaskToReport()
     QVERIFY(report.errorMessage.isEmpty());
 }
 
-void TestWipeEngine::fileJobFromTaskToReport()
+void tst_WipeEngine::fileJobFromTaskToReport()
 {
     const QTemporaryDir folder;
     const QString first = writeFile(folder, QStringLiteral("a"), 10000);
@@ -351,7 +352,7 @@ void TestWipeEngine::fileJobFromTaskToReport()
     QCOMPARE(engine.report().disk, DiskInfo());
 }
 
-void TestWipeEngine::failedJobKeepsItsLastError()
+void tst_WipeEngine::failedJobKeepsItsLastError()
 {
     ImageMachine machine(2 * MiB);
     WipeTask task;
@@ -374,7 +375,7 @@ void TestWipeEngine::failedJobKeepsItsLastError()
     QCOMPARE(machine.content(), QByteArray(2 * MiB, 'M'));
 }
 
-void TestWipeEngine::totalSectorsCount512ByteUnits()
+void tst_WipeEngine::totalSectorsCount512ByteUnits()
 {
     // No drive answers under this number, so the job only gets as far as its report.
     const ImageMachine machine(MiB);
@@ -392,7 +393,7 @@ void TestWipeEngine::totalSectorsCount512ByteUnits()
     QTRY_VERIFY(!engine.isRunning());
 }
 
-void TestWipeEngine::freeBytesOfTheVolumeBecomeTotalBytes()
+void tst_WipeEngine::freeBytesOfTheVolumeBecomeTotalBytes()
 {
     const QTemporaryDir folder;
     WipeTask task;
@@ -408,7 +409,7 @@ void TestWipeEngine::freeBytesOfTheVolumeBecomeTotalBytes()
     engine.stop();
 }
 
-void TestWipeEngine::freeBytesOfAllVolumesOfADisk()
+void tst_WipeEngine::freeBytesOfAllVolumesOfADisk()
 {
     const ImageMachine machine(MiB);
     WipeTask task;
@@ -429,7 +430,7 @@ void TestWipeEngine::freeBytesOfAllVolumesOfADisk()
     QTRY_VERIFY(!engine.isRunning());
 }
 
-void TestWipeEngine::bytesProcessedCarriesNoTotal()
+void tst_WipeEngine::bytesProcessedCarriesNoTotal()
 {
     ImageMachine machine(4 * MiB);
     WipeTask task;
@@ -446,7 +447,7 @@ void TestWipeEngine::bytesProcessedCarriesNoTotal()
     QCOMPARE(bytes.last()[0].toLongLong(), 4 * MiB);
 }
 
-void TestWipeEngine::noSpeedWithinASecond()
+void tst_WipeEngine::noSpeedWithinASecond()
 {
     ImageMachine machine(2 * MiB, true);
     WipeTask task;
@@ -465,7 +466,7 @@ void TestWipeEngine::noSpeedWithinASecond()
     QTRY_VERIFY(!engine.isRunning());
 }
 
-void TestWipeEngine::speedAfterASecond()
+void tst_WipeEngine::speedAfterASecond()
 {
     ImageMachine machine(2 * MiB, true);
     WipeTask task;
@@ -486,7 +487,7 @@ void TestWipeEngine::speedAfterASecond()
     QTRY_VERIFY(!engine.isRunning());
 }
 
-void TestWipeEngine::stopWhenIdle()
+void tst_WipeEngine::stopWhenIdle()
 {
     WipeEngine engine;
     QSignalSpy stopped(&engine, &WipeEngine::stopped);
@@ -496,7 +497,7 @@ void TestWipeEngine::stopWhenIdle()
     QCOMPARE(lines.size(), 0);
 }
 
-void TestWipeEngine::stopDuringAJob()
+void tst_WipeEngine::stopDuringAJob()
 {
     ImageMachine machine(8 * MiB, true);
     WipeTask task;
@@ -521,7 +522,7 @@ void TestWipeEngine::stopDuringAJob()
     delete gate;
 }
 
-void TestWipeEngine::completedFollowsStopped()
+void tst_WipeEngine::completedFollowsStopped()
 {
     ImageMachine machine(8 * MiB, true);
     WipeTask task;
@@ -539,7 +540,7 @@ void TestWipeEngine::completedFollowsStopped()
     QCOMPARE(engine.report().status, WipeStatus::Failed);
 }
 
-void TestWipeEngine::whatAnEarlierJobLeftBehindIsNotHeard()
+void tst_WipeEngine::whatAnEarlierJobLeftBehindIsNotHeard()
 {
     ImageMachine machine(8 * MiB, true);
     WipeTask task;
@@ -559,7 +560,7 @@ void TestWipeEngine::whatAnEarlierJobLeftBehindIsNotHeard()
     QCOMPARE(machine.content(), QByteArray(8 * MiB, '\0'));
 }
 
-void TestWipeEngine::aTaskSetAfterStopIsNotMarked()
+void tst_WipeEngine::aTaskSetAfterStopIsNotMarked()
 {
     ImageMachine machine(8 * MiB, true);
     WipeTask task;
@@ -577,7 +578,7 @@ void TestWipeEngine::aTaskSetAfterStopIsNotMarked()
     QCOMPARE(task.report().status, WipeStatus::Cancelled);
 }
 
-void TestWipeEngine::destructionDuringAJob()
+void tst_WipeEngine::destructionDuringAJob()
 {
     ImageMachine machine(8 * MiB, true);
     WipeTask task;
@@ -592,14 +593,14 @@ void TestWipeEngine::destructionDuringAJob()
     QCOMPARE(task.report().status, WipeStatus::Cancelled);
 }
 
-void TestWipeEngine::reportWithoutTaskIsFresh()
+void tst_WipeEngine::reportWithoutTaskIsFresh()
 {
     const WipeReport report = WipeEngine().report();
     QVERIFY(report.certificateId.startsWith(QStringLiteral("QVX-")));
     QCOMPARE(report.status, WipeStatus::Pending);
 }
 
-void TestWipeEngine::aTaskThatRunsAgainStartsClean()
+void tst_WipeEngine::aTaskThatRunsAgainStartsClean()
 {
     ImageMachine machine(MiB);
     WipeTask task;
@@ -616,5 +617,5 @@ void TestWipeEngine::aTaskThatRunsAgainStartsClean()
     QTRY_COMPARE(engine.report().status, WipeStatus::Completed);
 }
 
-QTEST_GUILESS_MAIN(TestWipeEngine)
+QUORVEX_SUITE(tst_WipeEngine, QCoreApplication)
 #include "tst_wipeengine.moc"

@@ -1,11 +1,12 @@
 #include "markingtranslator.h"
 #include "model/diskinfo.h"
+#include "support/suite.h"
 
 #include <QtTest>
 
 using namespace Qt::StringLiterals;
 
-class DiskInfoTest : public QObject
+class tst_DiskInfo : public QObject
 {
     Q_OBJECT
 
@@ -32,7 +33,7 @@ private slots:
     void travelsInAVariant();
 };
 
-void DiskInfoTest::diskDefaults()
+void tst_DiskInfo::diskDefaults()
 {
     const DiskInfo disk;
     QCOMPARE(disk.diskNumber, -1);
@@ -53,7 +54,7 @@ void DiskInfoTest::diskDefaults()
     QCOMPARE(disk.busTypeName(), u"未知"_s);
 }
 
-void DiskInfoTest::partitionDefaults()
+void tst_DiskInfo::partitionDefaults()
 {
     const PartitionInfo partition;
     QCOMPARE(partition.driveLetter, QString());
@@ -67,7 +68,7 @@ void DiskInfoTest::partitionDefaults()
     QCOMPARE(partition.partitionIndex, 0);
 }
 
-void DiskInfoTest::numbersAreFixed()
+void tst_DiskInfo::numbersAreFixed()
 {
     QCOMPARE(qint32(DiskType::Unknown), 0);
     QCOMPARE(qint32(DiskType::HDD), 1);
@@ -83,7 +84,7 @@ void DiskInfoTest::numbersAreFixed()
     QCOMPARE(qint32(BusType::IDE), 5);
 }
 
-void DiskInfoTest::diskTypeNames_data()
+void tst_DiskInfo::diskTypeNames_data()
 {
     QTest::addColumn<int>("code");
     QTest::addColumn<QString>("name");
@@ -97,7 +98,7 @@ void DiskInfoTest::diskTypeNames_data()
     QTest::newRow("negative") << -1 << u"未知"_s;
 }
 
-void DiskInfoTest::diskTypeNames()
+void tst_DiskInfo::diskTypeNames()
 {
     QFETCH(int, code);
     DiskInfo disk;
@@ -105,7 +106,7 @@ void DiskInfoTest::diskTypeNames()
     QTEST(disk.diskTypeName(), "name");
 }
 
-void DiskInfoTest::busTypeNames_data()
+void tst_DiskInfo::busTypeNames_data()
 {
     QTest::addColumn<int>("code");
     QTest::addColumn<QString>("name");
@@ -119,7 +120,7 @@ void DiskInfoTest::busTypeNames_data()
     QTest::newRow("negative") << -1 << u"未知"_s;
 }
 
-void DiskInfoTest::busTypeNames()
+void tst_DiskInfo::busTypeNames()
 {
     QFETCH(int, code);
     DiskInfo disk;
@@ -127,7 +128,7 @@ void DiskInfoTest::busTypeNames()
     QTEST(disk.busTypeName(), "name");
 }
 
-void DiskInfoTest::namesAreTranslatedInTheObjectContext()
+void tst_DiskInfo::namesAreTranslatedInTheObjectContext()
 {
     const MarkingTranslator translator;
     const QStringList diskNames{u"<QObject>未知"_s,    u"<QObject>机械硬盘"_s, u"<QObject>固态硬盘"_s,
@@ -142,7 +143,7 @@ void DiskInfoTest::namesAreTranslatedInTheObjectContext()
     }
 }
 
-void DiskInfoTest::displayNameWithoutModel()
+void tst_DiskInfo::displayNameWithoutModel()
 {
     DiskInfo disk;
     disk.diskNumber = 3;
@@ -151,7 +152,7 @@ void DiskInfoTest::displayNameWithoutModel()
     QCOMPARE(DiskInfo().displayName(), u"Disk -1 (0 B)"_s);
 }
 
-void DiskInfoTest::displayNameWithModel()
+void tst_DiskInfo::displayNameWithModel()
 {
     DiskInfo disk;
     disk.diskNumber = 3;
@@ -160,7 +161,7 @@ void DiskInfoTest::displayNameWithModel()
     QCOMPARE(disk.displayName(), u"M (931.51 GB)"_s);
 }
 
-void DiskInfoTest::displayNameKeepsPlaceholdersInTheModel()
+void tst_DiskInfo::displayNameKeepsPlaceholdersInTheModel()
 {
     DiskInfo disk;
     disk.model = u"A%1B%2C"_s;
@@ -168,7 +169,7 @@ void DiskInfoTest::displayNameKeepsPlaceholdersInTheModel()
     QCOMPARE(disk.displayName(), u"A%1B%2C (512 B)"_s);
 }
 
-void DiskInfoTest::displayNameDropsWhatReordersText()
+void tst_DiskInfo::displayNameDropsWhatReordersText()
 {
     DiskInfo disk;
     disk.model = u"Contoso\u202E \nX1"_s;
@@ -177,7 +178,7 @@ void DiskInfoTest::displayNameDropsWhatReordersText()
     QCOMPARE(disk.model, u"Contoso\u202E \nX1"_s);
 }
 
-void DiskInfoTest::displayNameOfAModelWithoutVisibleText()
+void tst_DiskInfo::displayNameOfAModelWithoutVisibleText()
 {
     DiskInfo disk;
     disk.diskNumber = 0;
@@ -185,7 +186,7 @@ void DiskInfoTest::displayNameOfAModelWithoutVisibleText()
     QCOMPARE(disk.displayName(), u"Disk 0 (0 B)"_s);
 }
 
-void DiskInfoTest::displayNameIsNotTranslated()
+void tst_DiskInfo::displayNameIsNotTranslated()
 {
     const MarkingTranslator translator;
     DiskInfo disk;
@@ -193,7 +194,7 @@ void DiskInfoTest::displayNameIsNotTranslated()
     QCOMPARE(disk.displayName(), u"Disk 1 (0 B)"_s);
 }
 
-void DiskInfoTest::formattedSizes()
+void tst_DiskInfo::formattedSizes()
 {
     DiskInfo disk;
     disk.sizeBytes = 1536;
@@ -206,7 +207,7 @@ void DiskInfoTest::formattedSizes()
     QCOMPARE(partition.formattedFree(), u"1023 B"_s);
 }
 
-void DiskInfoTest::addingASystemPartitionMakesTheSystemDisk()
+void tst_DiskInfo::addingASystemPartitionMakesTheSystemDisk()
 {
     PartitionInfo data;
     data.driveLetter = u"D:"_s;
@@ -222,7 +223,7 @@ void DiskInfoTest::addingASystemPartitionMakesTheSystemDisk()
     QCOMPARE(disk.partitions, QList<PartitionInfo>({data, system}));
 }
 
-void DiskInfoTest::addingANonSystemPartitionLaterLeavesTheSystemDisk()
+void tst_DiskInfo::addingANonSystemPartitionLaterLeavesTheSystemDisk()
 {
     PartitionInfo system;
     system.isSystem = true;
@@ -233,7 +234,7 @@ void DiskInfoTest::addingANonSystemPartitionLaterLeavesTheSystemDisk()
     QCOMPARE(disk.partitions.size(), 2);
 }
 
-void DiskInfoTest::addingAPartitionChangesNothingElse()
+void tst_DiskInfo::addingAPartitionChangesNothingElse()
 {
     PartitionInfo boot;
     boot.isBoot = true; // only isSystem counts
@@ -245,7 +246,7 @@ void DiskInfoTest::addingAPartitionChangesNothingElse()
     QCOMPARE(disk, expected);
 }
 
-void DiskInfoTest::comparesByValue()
+void tst_DiskInfo::comparesByValue()
 {
     DiskInfo disk;
     disk.addPartition(PartitionInfo());
@@ -258,7 +259,7 @@ void DiskInfoTest::comparesByValue()
     QVERIFY(copy != disk);
 }
 
-void DiskInfoTest::travelsInAVariant()
+void tst_DiskInfo::travelsInAVariant()
 {
     DiskInfo disk;
     disk.model = u"M"_s;
@@ -267,5 +268,5 @@ void DiskInfoTest::travelsInAVariant()
     QVERIFY(QMetaType::fromType<DiskInfo>().isEqualityComparable());
 }
 
-QTEST_GUILESS_MAIN(DiskInfoTest)
+QUORVEX_SUITE(tst_DiskInfo, QCoreApplication)
 #include "tst_diskinfo.moc"

@@ -1,10 +1,11 @@
 #include "model/displaytext.h"
+#include "support/suite.h"
 
 #include <QtTest>
 
 using namespace Qt::StringLiterals;
 
-class DisplayTextTest : public QObject
+class tst_DisplayText : public QObject
 {
     Q_OBJECT
 
@@ -15,7 +16,7 @@ private slots:
     void keepsWhatIsCleanAsItIs();
 };
 
-void DisplayTextTest::cleans_data()
+void tst_DisplayText::cleans_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("expected");
@@ -40,13 +41,13 @@ void DisplayTextTest::cleans_data()
     QTest::newRow("nothing is left") << u"\u202E\n"_s << u""_s;
 }
 
-void DisplayTextTest::cleans()
+void tst_DisplayText::cleans()
 {
     QFETCH(QString, text);
     QTEST(displayText(text), "expected");
 }
 
-void DisplayTextTest::removesEveryControlCharacter()
+void tst_DisplayText::removesEveryControlCharacter()
 {
     for (ushort code = 0; code < 0x20; ++code)
         QCOMPARE(displayText(QChar(code)), QString());
@@ -54,12 +55,12 @@ void DisplayTextTest::removesEveryControlCharacter()
         QCOMPARE(displayText(QChar(code)), QString());
 }
 
-void DisplayTextTest::keepsWhatIsCleanAsItIs()
+void tst_DisplayText::keepsWhatIsCleanAsItIs()
 {
     for (const QString &text : {u"Contoso SSD 1 TB %1 \\ / \"'"_s, u"数据盘 東京 Привет עברית"_s,
                                 u"\U0001F4BE disk"_s, u"e\u0301 \u00A0 \uFFFD \uE000"_s})
         QCOMPARE(displayText(text), text);
 }
 
-QTEST_GUILESS_MAIN(DisplayTextTest)
+QUORVEX_SUITE(tst_DisplayText, QCoreApplication)
 #include "tst_displaytext.moc"

@@ -1,4 +1,5 @@
 #include "model/formatsize.h"
+#include "support/suite.h"
 
 #include <QLocale>
 #include <QtTest>
@@ -7,7 +8,7 @@
 
 using namespace Qt::StringLiterals;
 
-class FormatSizeTest : public QObject
+class tst_FormatSize : public QObject
 {
     Q_OBJECT
 
@@ -17,7 +18,7 @@ private slots:
     void ignoresTheLocale();
 };
 
-void FormatSizeTest::formats_data()
+void tst_FormatSize::formats_data()
 {
     QTest::addColumn<qint64>("bytes");
     QTest::addColumn<QString>("expected");
@@ -41,13 +42,13 @@ void FormatSizeTest::formats_data()
     QTest::newRow("most negative") << std::numeric_limits<qint64>::min() << u"8192.00 PB"_s;
 }
 
-void FormatSizeTest::formats()
+void tst_FormatSize::formats()
 {
     QFETCH(qint64, bytes);
     QTEST(formatSize(bytes), "expected");
 }
 
-void FormatSizeTest::ignoresTheLocale()
+void tst_FormatSize::ignoresTheLocale()
 {
     const QLocale before;
     QLocale::setDefault(QLocale(QLocale::German));
@@ -56,5 +57,5 @@ void FormatSizeTest::ignoresTheLocale()
     QCOMPARE(text, u"1.15 GB"_s);
 }
 
-QTEST_GUILESS_MAIN(FormatSizeTest)
+QUORVEX_SUITE(tst_FormatSize, QCoreApplication)
 #include "tst_formatsize.moc"

@@ -1,4 +1,5 @@
 #include "model/jsonwriter.h"
+#include "support/suite.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -86,7 +87,7 @@ QJsonDocument sample()
 }
 } // namespace
 
-class JsonWriterTest : public QObject
+class tst_JsonWriter : public QObject
 {
     Q_OBJECT
 
@@ -121,7 +122,7 @@ private slots:
     void rawRefusesWhatIsNoDocument();
 };
 
-void JsonWriterTest::indentedLayout()
+void tst_JsonWriter::indentedLayout()
 {
     JsonWriter writer;
     writer.beginObject()
@@ -142,7 +143,7 @@ void JsonWriterTest::indentedLayout()
                                        "}\n"));
 }
 
-void JsonWriterTest::compactLayout()
+void tst_JsonWriter::compactLayout()
 {
     JsonWriter writer(Layout::Compact);
     writer.beginObject()
@@ -157,28 +158,28 @@ void JsonWriterTest::compactLayout()
     QCOMPARE(writer.text(), QByteArray("{\"b\":[1,true],\"a\":null}"));
 }
 
-void JsonWriterTest::keysKeepTheirOrder()
+void tst_JsonWriter::keysKeepTheirOrder()
 {
     JsonWriter writer(Layout::Compact);
     writer.beginObject().member(u"z", 1).member(u"a", 2).member(u"m", 3).endObject();
     QCOMPARE(writer.text(), QByteArray(R"({"z":1,"a":2,"m":3})"));
 }
 
-void JsonWriterTest::indentedLooksLikeQtsOwn()
+void tst_JsonWriter::indentedLooksLikeQtsOwn()
 {
     JsonWriter writer(Layout::Indented);
     write(writer, sample().object());
     QCOMPARE(writer.text(), sample().toJson(QJsonDocument::Indented));
 }
 
-void JsonWriterTest::compactLooksLikeQtsOwn()
+void tst_JsonWriter::compactLooksLikeQtsOwn()
 {
     JsonWriter writer(Layout::Compact);
     write(writer, sample().object());
     QCOMPARE(writer.text(), sample().toJson(QJsonDocument::Compact));
 }
 
-void JsonWriterTest::emptyDocuments()
+void tst_JsonWriter::emptyDocuments()
 {
     for (const Layout layout : bothLayouts) {
         const auto qtLayout = layout == Layout::Indented ? QJsonDocument::Indented : QJsonDocument::Compact;
@@ -191,7 +192,7 @@ void JsonWriterTest::emptyDocuments()
     }
 }
 
-void JsonWriterTest::everyUnitIsEscapedAsQtDoes()
+void tst_JsonWriter::everyUnitIsEscapedAsQtDoes()
 {
     for (uint unit = 0; unit <= 0xFFFF; ++unit) {
         if (QChar::isSurrogate(unit))
@@ -203,7 +204,7 @@ void JsonWriterTest::everyUnitIsEscapedAsQtDoes()
     }
 }
 
-void JsonWriterTest::everyUnitReadsBack()
+void tst_JsonWriter::everyUnitReadsBack()
 {
     for (uint unit = 0; unit <= 0xFFFF; ++unit) {
         if (QChar::isSurrogate(unit))
@@ -214,7 +215,7 @@ void JsonWriterTest::everyUnitReadsBack()
     }
 }
 
-void JsonWriterTest::longTextReadsBack()
+void tst_JsonWriter::longTextReadsBack()
 {
     QString text =
         u"\"quoted\" C:\\path\\u0041 \b\f\n\r\t \u0000 \u001F \u007F \u2028 \U0001F4BE \U0010FFFF 数据 </x>"_s;
@@ -222,7 +223,7 @@ void JsonWriterTest::longTextReadsBack()
     QCOMPARE(QJsonDocument::fromJson(arrayOf(text)).array().at(0).toString(), text);
 }
 
-void JsonWriterTest::loneSurrogatesAreReplaced_data()
+void tst_JsonWriter::loneSurrogatesAreReplaced_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("expected");
@@ -232,7 +233,7 @@ void JsonWriterTest::loneSurrogatesAreReplaced_data()
     QTest::newRow("before a pair") << QChar(0xD83D) + u"\U0001F4BE"_s << u"\uFFFD\U0001F4BE"_s;
 }
 
-void JsonWriterTest::loneSurrogatesAreReplaced()
+void tst_JsonWriter::loneSurrogatesAreReplaced()
 {
     QFETCH(QString, text);
     QFETCH(QString, expected);
@@ -240,7 +241,7 @@ void JsonWriterTest::loneSurrogatesAreReplaced()
     QCOMPARE(QJsonDocument::fromJson(arrayOf(text)).array().at(0).toString(), expected);
 }
 
-void JsonWriterTest::keysAreEscaped()
+void tst_JsonWriter::keysAreEscaped()
 {
     const QString key = u"a\"b\\c\n\u0001"_s;
     JsonWriter writer(Layout::Compact);
@@ -249,14 +250,14 @@ void JsonWriterTest::keysAreEscaped()
     QCOMPARE(QJsonDocument::fromJson(writer.text()).object().value(key).toInt(), 1);
 }
 
-void JsonWriterTest::latin1Strings()
+void tst_JsonWriter::latin1Strings()
 {
     JsonWriter writer(Layout::Compact);
     writer.beginArray().value(QLatin1String("a\xE9")).value("b"_L1).endArray();
     QCOMPARE(writer.text(), QByteArray("[\"a\xC3\xA9\",\"b\"]"));
 }
 
-void JsonWriterTest::integers()
+void tst_JsonWriter::integers()
 {
     JsonWriter writer(Layout::Compact);
     writer.beginArray()
@@ -268,7 +269,7 @@ void JsonWriterTest::integers()
     QCOMPARE(writer.text(), QByteArray("[0,-2147483648,2147483647,-7]"));
 }
 
-void JsonWriterTest::doubles_data()
+void tst_JsonWriter::doubles_data()
 {
     QTest::addColumn<double>("number");
     QTest::newRow("zero") << 0.0;
@@ -281,7 +282,7 @@ void JsonWriterTest::doubles_data()
     QTest::newRow("smallest") << std::numeric_limits<double>::denorm_min();
 }
 
-void JsonWriterTest::doubles()
+void tst_JsonWriter::doubles()
 {
     QFETCH(double, number);
     JsonWriter writer(Layout::Compact);
@@ -293,7 +294,7 @@ void JsonWriterTest::doubles()
     QVERIFY(QJsonDocument::fromJson(text).array().at(0).toDouble() == number);
 }
 
-void JsonWriterTest::notFiniteIsNull()
+void tst_JsonWriter::notFiniteIsNull()
 {
     JsonWriter writer(Layout::Compact);
     writer.beginArray()
@@ -304,7 +305,7 @@ void JsonWriterTest::notFiniteIsNull()
     QCOMPARE(writer.text(), QByteArray("[null,null,null]"));
 }
 
-void JsonWriterTest::decimalsKeepEveryDigit()
+void tst_JsonWriter::decimalsKeepEveryDigit()
 {
     JsonWriter writer(Layout::Compact);
     writer.beginArray()
@@ -315,7 +316,7 @@ void JsonWriterTest::decimalsKeepEveryDigit()
     QCOMPARE(writer.text(), QByteArray(R"(["18446744073709551615","-9223372036854775808","0"])"));
 }
 
-void JsonWriterTest::membersAreKeysWithValues()
+void tst_JsonWriter::membersAreKeysWithValues()
 {
     JsonWriter writer(Layout::Compact);
     writer.beginObject()
@@ -331,14 +332,14 @@ void JsonWriterTest::membersAreKeysWithValues()
                                        R"("double":1.5,"bool":false,"bytes":"5"})"));
 }
 
-void JsonWriterTest::topLevelScalar()
+void tst_JsonWriter::topLevelScalar()
 {
     JsonWriter writer(Layout::Compact);
     writer.value(u"x");
     QCOMPARE(writer.text(), QByteArray("\"x\""));
 }
 
-void JsonWriterTest::rawIsBroughtIntoTheLayout()
+void tst_JsonWriter::rawIsBroughtIntoTheLayout()
 {
     for (const Layout inner : bothLayouts) {
         for (const Layout outer : bothLayouts) {
@@ -356,7 +357,7 @@ void JsonWriterTest::rawIsBroughtIntoTheLayout()
     }
 }
 
-void JsonWriterTest::rawInsideAnArray()
+void tst_JsonWriter::rawInsideAnArray()
 {
     JsonWriter writer(Layout::Compact);
     writer.beginArray().value(1);
@@ -366,29 +367,29 @@ void JsonWriterTest::rawInsideAnArray()
     QCOMPARE(writer.text(), QByteArray("[1,[],{},2]"));
 }
 
-void JsonWriterTest::rawKeepsOrderAndSpelling()
+void tst_JsonWriter::rawKeepsOrderAndSpelling()
 {
     QCOMPARE(compact(" { \"z\" : 1.0 ,\t\"a\" : -0.5E+3 ,\r\n\"m\" : \"\\u0041\\/\" } "),
              QByteArray(R"({"z":1.0,"a":-0.5E+3,"m":"\u0041\/"})"));
 }
 
-void JsonWriterTest::rawStringsWithBracketsAndQuotes()
+void tst_JsonWriter::rawStringsWithBracketsAndQuotes()
 {
     const QByteArray json = R"({"a{}[],: \" \\":"x\\","b":["\\\"]",true,false,null]})";
     QCOMPARE(compact(json), json);
 }
 
-void JsonWriterTest::rawWithByteOrderMark()
+void tst_JsonWriter::rawWithByteOrderMark()
 {
     QCOMPARE(compact("\xEF\xBB\xBF{\"a\": 1}"), QByteArray(R"({"a":1})"));
 }
 
-void JsonWriterTest::rawWithLineFeedInAStringStaysOneLine()
+void tst_JsonWriter::rawWithLineFeedInAStringStaysOneLine()
 {
     QCOMPARE(compact("[\"a\nb\tc\", {\"k\n\": 1}]"), QByteArray(R"(["a\nb\tc",{"k\n":1}])"));
 }
 
-void JsonWriterTest::rawRefusesWhatIsNoDocument_data()
+void tst_JsonWriter::rawRefusesWhatIsNoDocument_data()
 {
     QTest::addColumn<QByteArray>("json");
     QTest::newRow("empty") << QByteArray();
@@ -402,7 +403,7 @@ void JsonWriterTest::rawRefusesWhatIsNoDocument_data()
     QTest::newRow("no UTF-8") << QByteArray("[\"\xFF\"]");
 }
 
-void JsonWriterTest::rawRefusesWhatIsNoDocument()
+void tst_JsonWriter::rawRefusesWhatIsNoDocument()
 {
     QFETCH(QByteArray, json);
     JsonWriter writer(Layout::Compact);
@@ -412,5 +413,5 @@ void JsonWriterTest::rawRefusesWhatIsNoDocument()
     QCOMPARE(writer.text(), QByteArray(R"({"r":null})"));
 }
 
-QTEST_GUILESS_MAIN(JsonWriterTest)
+QUORVEX_SUITE(tst_JsonWriter, QCoreApplication)
 #include "tst_jsonwriter.moc"

@@ -1,5 +1,6 @@
 #include "markingtranslator.h"
 #include "model/wipemethod.h"
+#include "support/suite.h"
 
 #include <QtTest>
 
@@ -35,7 +36,7 @@ QString passesText(const WipeMethod &method)
 }
 } // namespace
 
-class WipeMethodTest : public QObject
+class tst_WipeMethod : public QObject
 {
     Q_OBJECT
 
@@ -60,7 +61,7 @@ private slots:
     void travelsInAVariant();
 };
 
-void WipeMethodTest::patternNumbersAreFixed()
+void tst_WipeMethod::patternNumbersAreFixed()
 {
     QCOMPARE(qint32(PatternType::Zeros), 0);
     QCOMPARE(qint32(PatternType::Ones), 1);
@@ -70,7 +71,7 @@ void WipeMethodTest::patternNumbersAreFixed()
     QCOMPARE(sizeof(PatternType), sizeof(qint32));
 }
 
-void WipeMethodTest::methodNumbersAreFixed()
+void tst_WipeMethod::methodNumbersAreFixed()
 {
     QCOMPARE(qint32(WipeMethod::Nist80088), 0);
     QCOMPARE(qint32(WipeMethod::BritishHmgIs5), 1);
@@ -79,7 +80,7 @@ void WipeMethodTest::methodNumbersAreFixed()
     QCOMPARE(qint32(WipeMethod::Gutmann), 4);
 }
 
-void WipeMethodTest::passDefaults()
+void tst_WipeMethod::passDefaults()
 {
     const PassPattern pass;
     QCOMPARE(pass.type, PatternType::Zeros);
@@ -87,7 +88,7 @@ void WipeMethodTest::passDefaults()
     QVERIFY(!pass.verify);
 }
 
-void WipeMethodTest::standards_data()
+void tst_WipeMethod::standards_data()
 {
     QTest::addColumn<int>("type");
     QTest::addColumn<QString>("name");
@@ -107,7 +108,7 @@ void WipeMethodTest::standards_data()
                                 "92 49 24 6D B6 DB R R R Rv"_s;
 }
 
-void WipeMethodTest::standards()
+void tst_WipeMethod::standards()
 {
     QFETCH(int, type);
     const WipeMethod method = WipeMethod::fromType(type);
@@ -118,7 +119,7 @@ void WipeMethodTest::standards()
     QTEST(passesText(method), "passes");
 }
 
-void WipeMethodTest::defaultIsNist()
+void tst_WipeMethod::defaultIsNist()
 {
     QCOMPARE(WipeMethod(), WipeMethod::fromType(0));
     QCOMPARE(WipeMethod().type, 0);
@@ -126,7 +127,7 @@ void WipeMethodTest::defaultIsNist()
     QCOMPARE(WipeMethod().name, u"NIST 800-88"_s);
 }
 
-void WipeMethodTest::allMethodsComeInTypeOrder()
+void tst_WipeMethod::allMethodsComeInTypeOrder()
 {
     const QList<WipeMethod> methods = WipeMethod::allMethods();
     QCOMPARE(methods.size(), 5);
@@ -134,7 +135,7 @@ void WipeMethodTest::allMethodsComeInTypeOrder()
         QCOMPARE(methods[type], WipeMethod::fromType(type));
 }
 
-void WipeMethodTest::unknownTypeIsNistWithTheNumberAskedFor_data()
+void tst_WipeMethod::unknownTypeIsNistWithTheNumberAskedFor_data()
 {
     QTest::addColumn<int>("type");
     QTest::newRow("7") << 7;
@@ -144,7 +145,7 @@ void WipeMethodTest::unknownTypeIsNistWithTheNumberAskedFor_data()
     QTest::newRow("smallest") << std::numeric_limits<int>::min();
 }
 
-void WipeMethodTest::unknownTypeIsNistWithTheNumberAskedFor()
+void tst_WipeMethod::unknownTypeIsNistWithTheNumberAskedFor()
 {
     QFETCH(int, type);
     WipeMethod expected = WipeMethod::fromType(0);
@@ -153,7 +154,7 @@ void WipeMethodTest::unknownTypeIsNistWithTheNumberAskedFor()
     QCOMPARE(passesText(WipeMethod::fromType(type)), u"0v"_s);
 }
 
-void WipeMethodTest::gutmannEntries()
+void tst_WipeMethod::gutmannEntries()
 {
     const WipeMethod method = WipeMethod::fromType(4);
     const auto entry = [&method](int number) { return method.passes[number - 1]; };
@@ -179,7 +180,7 @@ void WipeMethodTest::gutmannEntries()
         QCOMPARE(entry(number).type, PatternType::Random);
 }
 
-void WipeMethodTest::onlyTheLastPassIsVerified()
+void tst_WipeMethod::onlyTheLastPassIsVerified()
 {
     for (const WipeMethod &method : WipeMethod::allMethods()) {
         for (qsizetype i = 0; i < method.passes.size(); ++i)
@@ -187,7 +188,7 @@ void WipeMethodTest::onlyTheLastPassIsVerified()
     }
 }
 
-void WipeMethodTest::dodHasSevenPassesAtTheLevelOfVsitr()
+void tst_WipeMethod::dodHasSevenPassesAtTheLevelOfVsitr()
 {
     const WipeMethod dod = WipeMethod::fromType(2);
     QCOMPARE(dod.passCount(), 7);
@@ -195,7 +196,7 @@ void WipeMethodTest::dodHasSevenPassesAtTheLevelOfVsitr()
     QCOMPARE(dod.level, WipeMethod::fromType(3).level);
 }
 
-void WipeMethodTest::passCountIsTheLengthOfTheList()
+void tst_WipeMethod::passCountIsTheLengthOfTheList()
 {
     QList<int> counts;
     for (const WipeMethod &method : WipeMethod::allMethods())
@@ -207,7 +208,7 @@ void WipeMethodTest::passCountIsTheLengthOfTheList()
     QCOMPARE(shortened.passCount(), 34);
 }
 
-void WipeMethodTest::levelNames_data()
+void tst_WipeMethod::levelNames_data()
 {
     QTest::addColumn<int>("level");
     QTest::addColumn<QString>("name");
@@ -221,7 +222,7 @@ void WipeMethodTest::levelNames_data()
     QTest::newRow("negative") << -1 << u"未知"_s;
 }
 
-void WipeMethodTest::levelNames()
+void tst_WipeMethod::levelNames()
 {
     QFETCH(int, level);
     WipeMethod method;
@@ -233,7 +234,7 @@ void WipeMethodTest::levelNames()
     QCOMPARE(method.levelName(), u"<WipeMethod>"_s + name);
 }
 
-void WipeMethodTest::descriptionsAndLevelsAreTranslatedAndNamesAreNot()
+void tst_WipeMethod::descriptionsAndLevelsAreTranslatedAndNamesAreNot()
 {
     const QList<WipeMethod> plain = WipeMethod::allMethods();
     const MarkingTranslator translator;
@@ -245,7 +246,7 @@ void WipeMethodTest::descriptionsAndLevelsAreTranslatedAndNamesAreNot()
     }
 }
 
-void WipeMethodTest::comparesByValue()
+void tst_WipeMethod::comparesByValue()
 {
     WipeMethod method = WipeMethod::fromType(2);
     QCOMPARE(method, WipeMethod::fromType(2));
@@ -254,12 +255,12 @@ void WipeMethodTest::comparesByValue()
     QVERIFY(WipeMethod::fromType(2) != WipeMethod::fromType(3));
 }
 
-void WipeMethodTest::travelsInAVariant()
+void tst_WipeMethod::travelsInAVariant()
 {
     const WipeMethod method = WipeMethod::fromType(4);
     QCOMPARE(QVariant::fromValue(method).value<WipeMethod>(), method);
     QVERIFY(QMetaType::fromType<WipeMethod>().isEqualityComparable());
 }
 
-QTEST_GUILESS_MAIN(WipeMethodTest)
+QUORVEX_SUITE(tst_WipeMethod, QCoreApplication)
 #include "tst_wipemethod.moc"

@@ -2,6 +2,7 @@
 #include "markingtranslator.h"
 #include "model/jsonwriter.h"
 #include "model/wipereport.h"
+#include "support/suite.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -100,7 +101,7 @@ WipeReport lasting(qint64 seconds)
 }
 } // namespace
 
-class WipeReportTest : public QObject
+class tst_WipeReport : public QObject
 {
     Q_OBJECT
 
@@ -153,7 +154,7 @@ private slots:
     void travelsInAVariant();
 };
 
-void WipeReportTest::defaults()
+void tst_WipeReport::defaults()
 {
     const WipeReport report;
     QCOMPARE(report.operationType, FileWipe);
@@ -176,7 +177,7 @@ void WipeReportTest::defaults()
     QCOMPARE(report.errorMessage, QString());
 }
 
-void WipeReportTest::operatorAndComputerComeFromTheEnvironment()
+void tst_WipeReport::operatorAndComputerComeFromTheEnvironment()
 {
     const ScopedVariable userName("USERNAME", "安娜");
     const ScopedVariable user("USER", "other");
@@ -186,7 +187,7 @@ void WipeReportTest::operatorAndComputerComeFromTheEnvironment()
     QCOMPARE(report.computerName, u"BENCH-7"_s);
 }
 
-void WipeReportTest::emptyUserNameFallsBack()
+void tst_WipeReport::emptyUserNameFallsBack()
 {
     const ScopedVariable user("USER", "anna");
     {
@@ -197,7 +198,7 @@ void WipeReportTest::emptyUserNameFallsBack()
     QCOMPARE(WipeReport().operatorName, u"anna"_s);
 }
 
-void WipeReportTest::withoutEnvironmentTheNamesAreEmpty()
+void tst_WipeReport::withoutEnvironmentTheNamesAreEmpty()
 {
     const ScopedVariable userName("USERNAME", QByteArray());
     const ScopedVariable user("USER", QByteArray());
@@ -207,7 +208,7 @@ void WipeReportTest::withoutEnvironmentTheNamesAreEmpty()
     QCOMPARE(report.computerName, QString());
 }
 
-void WipeReportTest::itemDefaults()
+void tst_WipeReport::itemDefaults()
 {
     const WipeItem item;
     QCOMPARE(item.path, QString());
@@ -216,7 +217,7 @@ void WipeReportTest::itemDefaults()
     QVERIFY(!item.wiped);
 }
 
-void WipeReportTest::numbersAreFixed()
+void tst_WipeReport::numbersAreFixed()
 {
     QCOMPARE(qint32(WipeStatus::Pending), 0);
     QCOMPARE(qint32(WipeStatus::Running), 1);
@@ -230,7 +231,7 @@ void WipeReportTest::numbersAreFixed()
     QCOMPARE(qint32(FileWipe), 3);
 }
 
-void WipeReportTest::certificateIdFormAndRange()
+void tst_WipeReport::certificateIdFormAndRange()
 {
     static const QRegularExpression form(u"\\AQVX-(\\d{4})-(\\d{4})-(\\d{4})\\z"_s);
     int low = 9999;
@@ -253,7 +254,7 @@ void WipeReportTest::certificateIdFormAndRange()
     QVERIFY2(high >= 9997, qPrintable(QString::number(high)));
 }
 
-void WipeReportTest::everyReportGetsItsOwnCertificateId()
+void tst_WipeReport::everyReportGetsItsOwnCertificateId()
 {
     QSet<QString> ids;
     for (int i = 0; i < 100; ++i)
@@ -264,7 +265,7 @@ void WipeReportTest::everyReportGetsItsOwnCertificateId()
     QCOMPARE(copy.certificateId, report.certificateId);
 }
 
-void WipeReportTest::statusNames_data()
+void tst_WipeReport::statusNames_data()
 {
     QTest::addColumn<int>("status");
     QTest::addColumn<QString>("name");
@@ -279,7 +280,7 @@ void WipeReportTest::statusNames_data()
     QTest::newRow("negative") << -1 << u"Unknown"_s;
 }
 
-void WipeReportTest::statusNames()
+void tst_WipeReport::statusNames()
 {
     QFETCH(int, status);
     QFETCH(QString, name);
@@ -290,7 +291,7 @@ void WipeReportTest::statusNames()
     QCOMPARE(report.statusName(), u"<WipeReport>"_s + name);
 }
 
-void WipeReportTest::operationTypeNames_data()
+void tst_WipeReport::operationTypeNames_data()
 {
     QTest::addColumn<int>("type");
     QTest::addColumn<QString>("name");
@@ -302,7 +303,7 @@ void WipeReportTest::operationTypeNames_data()
     QTest::newRow("negative") << -1 << u"Unknown"_s;
 }
 
-void WipeReportTest::operationTypeNames()
+void tst_WipeReport::operationTypeNames()
 {
     QFETCH(int, type);
     QFETCH(QString, name);
@@ -313,7 +314,7 @@ void WipeReportTest::operationTypeNames()
     QCOMPARE(report.operationTypeName(), u"<WipeReport>"_s + name);
 }
 
-void WipeReportTest::durations_data()
+void tst_WipeReport::durations_data()
 {
     QTest::addColumn<qint64>("seconds");
     QTest::addColumn<QString>("text");
@@ -328,7 +329,7 @@ void WipeReportTest::durations_data()
     QTest::newRow("an end before the start") << qint64(-5) << u"-5s"_s;
 }
 
-void WipeReportTest::durations()
+void tst_WipeReport::durations()
 {
     QFETCH(qint64, seconds);
     QTEST(lasting(seconds).duration(), "text");
@@ -336,7 +337,7 @@ void WipeReportTest::durations()
     QTEST(lasting(seconds).duration(), "text");
 }
 
-void WipeReportTest::durationWithoutStartIsEmpty()
+void tst_WipeReport::durationWithoutStartIsEmpty()
 {
     WipeReport report = lasting(5);
     report.startTime = QDateTime();
@@ -344,7 +345,7 @@ void WipeReportTest::durationWithoutStartIsEmpty()
     QCOMPARE(WipeReport().duration(), QString());
 }
 
-void WipeReportTest::durationWithoutEndRunsUpToNow()
+void tst_WipeReport::durationWithoutEndRunsUpToNow()
 {
     WipeReport report;
     report.startTime = QDateTime::currentDateTime().addSecs(-2 * 3600);
@@ -353,20 +354,20 @@ void WipeReportTest::durationWithoutEndRunsUpToNow()
     QVERIFY2(form.match(text).hasMatch(), qPrintable(text));
 }
 
-void WipeReportTest::durationDropsFractionsOfSeconds()
+void tst_WipeReport::durationDropsFractionsOfSeconds()
 {
     WipeReport report = lasting(0);
     report.endTime = report.startTime.addMSecs(59999);
     QCOMPARE(report.duration(), u"59s"_s);
 }
 
-void WipeReportTest::filledReportAsText()
+void tst_WipeReport::filledReportAsText()
 {
     QCOMPARE(QString::fromUtf8(filledReport().toJson()), QString::fromUtf8(filledText));
     QCOMPARE(filledReport().toJson(), filledText);
 }
 
-void WipeReportTest::freshReportHasEmptyTimesAndArrays()
+void tst_WipeReport::freshReportHasEmptyTimesAndArrays()
 {
     const QByteArray json = WipeReport().toJson();
     const QJsonObject object = QJsonDocument::fromJson(json).object();
@@ -376,7 +377,7 @@ void WipeReportTest::freshReportHasEmptyTimesAndArrays()
     QVERIFY(json.contains("        \"partitions\": [\n        ]\n    },\n    \"wipeItems\": [\n    ],\n"));
 }
 
-void WipeReportTest::keysOfAFreshReportInOrder()
+void tst_WipeReport::keysOfAFreshReportInOrder()
 {
     static const QRegularExpression topLevelKey(u"^    \"(\\w+)\":"_s, QRegularExpression::MultilineOption);
     QStringList keys;
@@ -408,7 +409,7 @@ void WipeReportTest::keysOfAFreshReportInOrder()
                                 u"errorMessage"_s}));
 }
 
-void WipeReportTest::utcTimesKeepTheirZone()
+void tst_WipeReport::utcTimesKeepTheirZone()
 {
     WipeReport report = lasting(1);
     QVERIFY(report.toJson().contains("\"startTime\": \"2026-01-01T00:00:00Z\""));
@@ -417,7 +418,7 @@ void WipeReportTest::utcTimesKeepTheirZone()
     QCOMPARE(read.endTime, report.endTime);
 }
 
-void WipeReportTest::diskNamesAreInTheUsersLanguage()
+void tst_WipeReport::diskNamesAreInTheUsersLanguage()
 {
     WipeReport report;
     report.disk.diskType = DiskType::HDD;
@@ -429,7 +430,7 @@ void WipeReportTest::diskNamesAreInTheUsersLanguage()
     QCOMPARE(disk.value(u"busType"_s).toString(), u"USB"_s);
 }
 
-void WipeReportTest::writeJsonFollowsTheWritersLayout()
+void tst_WipeReport::writeJsonFollowsTheWritersLayout()
 {
     JsonWriter writer(JsonWriter::Layout::Compact);
     writer.beginObject().key(u"report");
@@ -442,7 +443,7 @@ void WipeReportTest::writeJsonFollowsTheWritersLayout()
              QJsonDocument::fromJson(filledText).object());
 }
 
-void WipeReportTest::roundTripKeepsTheScalarFields()
+void tst_WipeReport::roundTripKeepsTheScalarFields()
 {
     const WipeReport report = filledReport();
     const WipeReport read = WipeReport::fromJson(report.toJson());
@@ -456,13 +457,13 @@ void WipeReportTest::roundTripKeepsTheScalarFields()
     QVERIFY(read.wipeItems.isEmpty());
 }
 
-void WipeReportTest::roundTripOfAFreshReport()
+void tst_WipeReport::roundTripOfAFreshReport()
 {
     const WipeReport report;
     QCOMPARE(WipeReport::fromJson(report.toJson()), report);
 }
 
-void WipeReportTest::largestTotalBytesRoundTrips()
+void tst_WipeReport::largestTotalBytesRoundTrips()
 {
     WipeReport report;
     report.totalBytes = std::numeric_limits<quint64>::max();
@@ -470,7 +471,7 @@ void WipeReportTest::largestTotalBytesRoundTrips()
     QCOMPARE(WipeReport::fromJson(report.toJson()).totalBytes, std::numeric_limits<quint64>::max());
 }
 
-void WipeReportTest::gutmannReadsBackWithItsPasses()
+void tst_WipeReport::gutmannReadsBackWithItsPasses()
 {
     WipeReport report;
     report.method = WipeMethod::fromType(4);
@@ -479,7 +480,7 @@ void WipeReportTest::gutmannReadsBackWithItsPasses()
     QCOMPARE(read.method, WipeMethod::fromType(4));
 }
 
-void WipeReportTest::unknownMethodReadsBackAsNistWithItsNumber()
+void tst_WipeReport::unknownMethodReadsBackAsNistWithItsNumber()
 {
     WipeReport report;
     report.method = WipeMethod::fromType(9);
@@ -489,7 +490,7 @@ void WipeReportTest::unknownMethodReadsBackAsNistWithItsNumber()
     QCOMPARE(read.method.type, 9);
 }
 
-void WipeReportTest::methodNameAndPassCountAreNotRead()
+void tst_WipeReport::methodNameAndPassCountAreNotRead()
 {
     WipeReport report;
     report.method.name = u"invented"_s;
@@ -499,7 +500,7 @@ void WipeReportTest::methodNameAndPassCountAreNotRead()
     QCOMPARE(WipeReport::fromJson(report.toJson()).method, WipeMethod::fromType(0));
 }
 
-void WipeReportTest::unknownNumbersOfStatusAndOperationSurvive()
+void tst_WipeReport::unknownNumbersOfStatusAndOperationSurvive()
 {
     WipeReport report;
     report.status = WipeStatus(7);
@@ -509,7 +510,7 @@ void WipeReportTest::unknownNumbersOfStatusAndOperationSurvive()
     QCOMPARE(qint32(read.operationType), 9);
 }
 
-void WipeReportTest::textThatIsNoJsonGivesAFreshReport_data()
+void tst_WipeReport::textThatIsNoJsonGivesAFreshReport_data()
 {
     QTest::addColumn<QByteArray>("text");
     QTest::newRow("null") << QByteArray();
@@ -524,7 +525,7 @@ void WipeReportTest::textThatIsNoJsonGivesAFreshReport_data()
     QTest::newRow("nested too deep") << QByteArray(100000, '[');
 }
 
-void WipeReportTest::textThatIsNoJsonGivesAFreshReport()
+void tst_WipeReport::textThatIsNoJsonGivesAFreshReport()
 {
     QFETCH(QByteArray, text);
     const QString before = WipeReport().certificateId;
@@ -535,18 +536,18 @@ void WipeReportTest::textThatIsNoJsonGivesAFreshReport()
     QVERIFY(!before.isEmpty() && report.certificateId.size() == before.size());
 }
 
-void WipeReportTest::emptyObjectReadsAsMissing()
+void tst_WipeReport::emptyObjectReadsAsMissing()
 {
     QCOMPARE(WipeReport::fromJson("{}"), allMissing());
 }
 
-void WipeReportTest::arrayAtTheTopReadsAsMissing()
+void tst_WipeReport::arrayAtTheTopReadsAsMissing()
 {
     QCOMPARE(WipeReport::fromJson("[]"), allMissing());
     QCOMPARE(WipeReport::fromJson("[" + filledText + "]"), allMissing());
 }
 
-void WipeReportTest::wrongTypesReadAsMissing()
+void tst_WipeReport::wrongTypesReadAsMissing()
 {
     const QJsonObject good = QJsonDocument::fromJson(filledText).object();
     const QList<QJsonValue> values{QJsonValue(), true, 5, u"text"_s, QJsonArray{1}, QJsonObject{{u"a"_s, 1}}};
@@ -560,7 +561,7 @@ void WipeReportTest::wrongTypesReadAsMissing()
     }
 }
 
-void WipeReportTest::numbersOutOf32BitsReadAsZero_data()
+void tst_WipeReport::numbersOutOf32BitsReadAsZero_data()
 {
     QTest::addColumn<double>("number");
     QTest::newRow("above") << 2147483648.0;
@@ -570,7 +571,7 @@ void WipeReportTest::numbersOutOf32BitsReadAsZero_data()
     QTest::newRow("not whole") << 1.5;
 }
 
-void WipeReportTest::numbersOutOf32BitsReadAsZero()
+void tst_WipeReport::numbersOutOf32BitsReadAsZero()
 {
     QFETCH(double, number);
     const auto read = [number](const QString &key) { return WipeReport::fromJson(withValue(key, number)); };
@@ -582,7 +583,7 @@ void WipeReportTest::numbersOutOf32BitsReadAsZero()
     QCOMPARE(read(u"verificationSampleSize"_s).verificationSampleSize, 0);
 }
 
-void WipeReportTest::quantitiesGivenAsJsonNumbersReadAsZero()
+void tst_WipeReport::quantitiesGivenAsJsonNumbersReadAsZero()
 {
     const auto read = [](const QString &key) { return WipeReport::fromJson(withValue(key, 4096)); };
     QCOMPARE(read(u"totalSectors"_s).totalSectors, quint64(0));
@@ -592,7 +593,7 @@ void WipeReportTest::quantitiesGivenAsJsonNumbersReadAsZero()
     QCOMPARE(WipeReport::fromJson(R"({"diskInfo": {"totalSize": 4096}})").disk.sizeBytes, qint64(0));
 }
 
-void WipeReportTest::badDecimalStringsReadAsZero_data()
+void tst_WipeReport::badDecimalStringsReadAsZero_data()
 {
     QTest::addColumn<QString>("text");
     QTest::newRow("empty") << QString();
@@ -605,7 +606,7 @@ void WipeReportTest::badDecimalStringsReadAsZero_data()
     QTest::newRow("something behind it") << u"12 B"_s;
 }
 
-void WipeReportTest::badDecimalStringsReadAsZero()
+void tst_WipeReport::badDecimalStringsReadAsZero()
 {
     QFETCH(QString, text);
     const auto read = [&text](const QString &key) { return WipeReport::fromJson(withValue(key, text)); };
@@ -615,7 +616,7 @@ void WipeReportTest::badDecimalStringsReadAsZero()
     QCOMPARE(read(u"totalBytes"_s).totalBytes, quint64(0));
 }
 
-void WipeReportTest::badTimesReadAsInvalid()
+void tst_WipeReport::badTimesReadAsInvalid()
 {
     for (const QString &text : {u""_s, u"yesterday"_s, u"2026-13-05T14:07:09"_s, u"05.03.2026 14:07"_s}) {
         QVERIFY(!WipeReport::fromJson(withValue(u"startTime"_s, text)).startTime.isValid());
@@ -623,7 +624,7 @@ void WipeReportTest::badTimesReadAsInvalid()
     }
 }
 
-void WipeReportTest::diskInfoOfAnotherTypeIsIgnored()
+void tst_WipeReport::diskInfoOfAnotherTypeIsIgnored()
 {
     WipeReport expected = afterRoundTrip(filledReport());
     expected.disk = DiskInfo();
@@ -631,14 +632,14 @@ void WipeReportTest::diskInfoOfAnotherTypeIsIgnored()
         QCOMPARE(WipeReport::fromJson(withValue(u"diskInfo"_s, value)), expected);
 }
 
-void WipeReportTest::truncatedTextNeverBreaksTheReader()
+void tst_WipeReport::truncatedTextNeverBreaksTheReader()
 {
     const QByteArray complete = filledText.trimmed();
     for (qsizetype size = 0; size < complete.size(); ++size)
         compareFresh(WipeReport::fromJson(complete.first(size)));
 }
 
-void WipeReportTest::damagedTextNeverBreaksTheReader()
+void tst_WipeReport::damagedTextNeverBreaksTheReader()
 {
     const quint32 seed = QRandomGenerator::system()->generate();
     qInfo("seed %u", seed);
@@ -653,7 +654,7 @@ void WipeReportTest::damagedTextNeverBreaksTheReader()
     }
 }
 
-void WipeReportTest::comparesByValue()
+void tst_WipeReport::comparesByValue()
 {
     QCOMPARE(filledReport(), filledReport());
     WipeReport other = filledReport();
@@ -664,11 +665,11 @@ void WipeReportTest::comparesByValue()
     QVERIFY(other != filledReport());
 }
 
-void WipeReportTest::travelsInAVariant()
+void tst_WipeReport::travelsInAVariant()
 {
     QCOMPARE(QVariant::fromValue(filledReport()).value<WipeReport>(), filledReport());
     QVERIFY(QMetaType::fromType<WipeReport>().isEqualityComparable());
 }
 
-QTEST_GUILESS_MAIN(WipeReportTest)
+QUORVEX_SUITE(tst_WipeReport, QCoreApplication)
 #include "tst_wipereport.moc"

@@ -1,5 +1,6 @@
 #include "markingtranslator.h"
 #include "model/wipetask.h"
+#include "support/suite.h"
 
 #include <QFile>
 #include <QRegularExpression>
@@ -86,7 +87,7 @@ void makeFile(const QString &path)
 }
 } // namespace
 
-class WipeTaskTest : public QObject
+class tst_WipeTask : public QObject
 {
     Q_OBJECT
 
@@ -138,7 +139,7 @@ private slots:
     void reportIsSafeAcrossThreads();
 };
 
-void WipeTaskTest::defaults()
+void tst_WipeTask::defaults()
 {
     const WipeTask task;
     QCOMPARE(task.operationType(), FileWipe);
@@ -154,7 +155,7 @@ void WipeTaskTest::defaults()
     QVERIFY(!task.parent());
 }
 
-void WipeTaskTest::idIsAFreshUuidWithoutBraces()
+void tst_WipeTask::idIsAFreshUuidWithoutBraces()
 {
     static const QRegularExpression form(u"\\A[0-9a-f]{8}(-[0-9a-f]{4}){3}-[0-9a-f]{12}\\z"_s);
     const WipeTask first;
@@ -164,7 +165,7 @@ void WipeTaskTest::idIsAFreshUuidWithoutBraces()
     QVERIFY(first.id() != second.id());
 }
 
-void WipeTaskTest::defaultThreadCountIsValid()
+void tst_WipeTask::defaultThreadCountIsValid()
 {
     const int threads = QThread::idealThreadCount();
     const WipeTask task;
@@ -175,7 +176,7 @@ void WipeTaskTest::defaultThreadCountIsValid()
         QCOMPARE(task.threadCount(), threads < 1 ? 1 : 32);
 }
 
-void WipeTaskTest::settersAreReadBack()
+void tst_WipeTask::settersAreReadBack()
 {
     WipeTask task;
     task.setId(u"id"_s);
@@ -205,7 +206,7 @@ void WipeTaskTest::settersAreReadBack()
     QVERIFY(!task.generateReport());
 }
 
-void WipeTaskTest::metaObject()
+void tst_WipeTask::metaObject()
 {
     const WipeTask task;
     QCOMPARE(QByteArray(task.metaObject()->className()), QByteArray("WipeTask"));
@@ -213,7 +214,7 @@ void WipeTaskTest::metaObject()
              QObject::staticMetaObject.methodCount()); // no signals, no slots
 }
 
-void WipeTaskTest::parentOwnsTheTask()
+void tst_WipeTask::parentOwnsTheTask()
 {
     auto parent = std::make_unique<QObject>();
     const QPointer<WipeTask> task = new WipeTask(parent.get());
@@ -222,14 +223,14 @@ void WipeTaskTest::parentOwnsTheTask()
     QVERIFY(task.isNull());
 }
 
-void WipeTaskTest::addFilesKeepsTheOrderOfFirstAppearance()
+void tst_WipeTask::addFilesKeepsTheOrderOfFirstAppearance()
 {
     WipeTask task;
     task.addFiles({u"/c"_s, u"/a"_s, u"/c"_s, u"/b"_s, u"/a"_s});
     QCOMPARE(task.files(), QStringList({u"/c"_s, u"/a"_s, u"/b"_s}));
 }
 
-void WipeTaskTest::addFilesComparesExactly()
+void tst_WipeTask::addFilesComparesExactly()
 {
     WipeTask task;
     task.addFiles({u"/tmp/a"_s});
@@ -239,7 +240,7 @@ void WipeTaskTest::addFilesComparesExactly()
     QCOMPARE(task.files(), QStringList({u"/tmp/a"_s, u"/tmp/A"_s, u"/tmp/a/"_s}));
 }
 
-void WipeTaskTest::addFilesOnTopOfListedOnes()
+void tst_WipeTask::addFilesOnTopOfListedOnes()
 {
     WipeTask task;
     task.setFiles({u"/b"_s, u"/a"_s});
@@ -249,7 +250,7 @@ void WipeTaskTest::addFilesOnTopOfListedOnes()
     QCOMPARE(task.files().size(), 3);
 }
 
-void WipeTaskTest::addFilesTakesAMillionFiles()
+void tst_WipeTask::addFilesTakesAMillionFiles()
 {
     QStringList paths;
     paths.reserve(1000000);
@@ -261,7 +262,7 @@ void WipeTaskTest::addFilesTakesAMillionFiles()
     QVERIFY(task.files() == paths);
 }
 
-void WipeTaskTest::diskWipeWithoutDisk()
+void tst_WipeTask::diskWipeWithoutDisk()
 {
     const auto task = taskOfType(DiskWipe);
     QCOMPARE(task->validationError(), u"Please select a disk to wipe"_s);
@@ -269,7 +270,7 @@ void WipeTaskTest::diskWipeWithoutDisk()
     QCOMPARE(traceOf(*task), traceHead(0) + QStringList({u"FAIL: DiskWipe - disk number < 0"_s}));
 }
 
-void WipeTaskTest::diskWipeOfTheSystemDisk()
+void tst_WipeTask::diskWipeOfTheSystemDisk()
 {
     const auto task = taskOfType(DiskWipe);
     DiskInfo disk = diskNumber(0);
@@ -280,7 +281,7 @@ void WipeTaskTest::diskWipeOfTheSystemDisk()
     QCOMPARE(traceOf(*task).last(), u"FAIL: DiskWipe - is system disk"_s);
 }
 
-void WipeTaskTest::diskWipeOfDiskZero()
+void tst_WipeTask::diskWipeOfDiskZero()
 {
     const auto task = taskOfType(DiskWipe);
     task->setDisk(diskNumber(0));
@@ -289,7 +290,7 @@ void WipeTaskTest::diskWipeOfDiskZero()
     QCOMPARE(traceOf(*task).last(3), traceTail);
 }
 
-void WipeTaskTest::diskChecksComeInOrder()
+void tst_WipeTask::diskChecksComeInOrder()
 {
     const auto task = taskOfType(DiskWipe);
     DiskInfo disk;
@@ -298,7 +299,7 @@ void WipeTaskTest::diskChecksComeInOrder()
     QCOMPARE(task->validationError(), u"Please select a disk to wipe"_s);
 }
 
-void WipeTaskTest::partitionWipeWithoutPartition()
+void tst_WipeTask::partitionWipeWithoutPartition()
 {
     const auto task = taskOfType(PartitionWipe);
     PartitionInfo partition;
@@ -309,7 +310,7 @@ void WipeTaskTest::partitionWipeWithoutPartition()
     QCOMPARE(traceOf(*task), traceHead(1) + QStringList({u"FAIL: PartitionWipe - no partition selected"_s}));
 }
 
-void WipeTaskTest::partitionWipeOfTheSystemPartition()
+void tst_WipeTask::partitionWipeOfTheSystemPartition()
 {
     const auto task = taskOfType(PartitionWipe);
     PartitionInfo partition;
@@ -322,7 +323,7 @@ void WipeTaskTest::partitionWipeOfTheSystemPartition()
              traceHead(1, u"C:"_s) + QStringList({u"FAIL: PartitionWipe - is system partition"_s}));
 }
 
-void WipeTaskTest::partitionWipeByIndexAlone()
+void tst_WipeTask::partitionWipeByIndexAlone()
 {
     const auto task = taskOfType(PartitionWipe);
     QCOMPARE(task->validationError(), QString());
@@ -330,7 +331,7 @@ void WipeTaskTest::partitionWipeByIndexAlone()
     QCOMPARE(traceOf(*task), traceHead(1) + traceTail);
 }
 
-void WipeTaskTest::partitionWipeByLetterAlone()
+void tst_WipeTask::partitionWipeByLetterAlone()
 {
     const auto task = taskOfType(PartitionWipe);
     PartitionInfo partition;
@@ -341,7 +342,7 @@ void WipeTaskTest::partitionWipeByLetterAlone()
     QVERIFY(isValidQuietly(*task));
 }
 
-void WipeTaskTest::partitionChecksComeInOrder()
+void tst_WipeTask::partitionChecksComeInOrder()
 {
     const auto task = taskOfType(PartitionWipe);
     PartitionInfo partition;
@@ -351,7 +352,7 @@ void WipeTaskTest::partitionChecksComeInOrder()
     QCOMPARE(task->validationError(), u"Please select a partition to wipe"_s);
 }
 
-void WipeTaskTest::freeSpaceWithoutTarget()
+void tst_WipeTask::freeSpaceWithoutTarget()
 {
     const auto task = taskOfType(FreeSpaceWipe);
     QCOMPARE(task->validationError(), u"Please select a disk or partition for free space wipe"_s);
@@ -363,7 +364,7 @@ void WipeTaskTest::freeSpaceWithoutTarget()
                               u"FAIL: FreeSpaceWipe - no partition and no disk"_s}));
 }
 
-void WipeTaskTest::freeSpaceByDiskZero()
+void tst_WipeTask::freeSpaceByDiskZero()
 {
     const auto task = taskOfType(FreeSpaceWipe);
     task->setDisk(diskNumber(0));
@@ -374,7 +375,7 @@ void WipeTaskTest::freeSpaceByDiskZero()
                           u"FreeSpaceWipe - validation passed (will find drive in worker)"_s}));
 }
 
-void WipeTaskTest::freeSpaceByLetter()
+void tst_WipeTask::freeSpaceByLetter()
 {
     const auto task = taskOfType(FreeSpaceWipe);
     PartitionInfo partition;
@@ -390,7 +391,7 @@ void WipeTaskTest::freeSpaceByLetter()
                  traceTail);
 }
 
-void WipeTaskTest::fileWipeWithoutFiles()
+void tst_WipeTask::fileWipeWithoutFiles()
 {
     const auto task = taskOfType(FileWipe);
     QCOMPARE(task->validationError(), u"Please add files to wipe"_s);
@@ -398,7 +399,7 @@ void WipeTaskTest::fileWipeWithoutFiles()
     QCOMPARE(traceOf(*task), traceHead(3) + QStringList({u"FAIL: FileWipe - no files"_s}));
 }
 
-void WipeTaskTest::fileWipeOfFileAndFolder()
+void tst_WipeTask::fileWipeOfFileAndFolder()
 {
     QTemporaryDir folder;
     QVERIFY(folder.isValid());
@@ -410,7 +411,7 @@ void WipeTaskTest::fileWipeOfFileAndFolder()
     QCOMPARE(traceOf(*task), traceHead(3) + traceTail);
 }
 
-void WipeTaskTest::fileWipeNamesTheFirstMissingFile()
+void tst_WipeTask::fileWipeNamesTheFirstMissingFile()
 {
     QTemporaryDir folder;
     QVERIFY(folder.isValid());
@@ -423,7 +424,7 @@ void WipeTaskTest::fileWipeNamesTheFirstMissingFile()
     QCOMPARE(traceOf(*task), traceHead(3) + QStringList({u"FAIL: FileWipe - file not found: "_s + first}));
 }
 
-void WipeTaskTest::fileWipeOfADanglingLink()
+void tst_WipeTask::fileWipeOfADanglingLink()
 {
     QTemporaryDir folder;
     QVERIFY(folder.isValid());
@@ -436,7 +437,7 @@ void WipeTaskTest::fileWipeOfADanglingLink()
     QVERIFY(isValidQuietly(*task));
 }
 
-void WipeTaskTest::fileWipeShowsThePathWithoutControlCharacters()
+void tst_WipeTask::fileWipeShowsThePathWithoutControlCharacters()
 {
     const auto task = taskOfType(FileWipe);
     task->setFiles({u"/nowhere/a\nb\u202Ec"_s});
@@ -444,14 +445,14 @@ void WipeTaskTest::fileWipeShowsThePathWithoutControlCharacters()
     QCOMPARE(traceOf(*task).last(), u"FAIL: FileWipe - file not found: /nowhere/abc"_s);
 }
 
-void WipeTaskTest::fileNameWithPlaceholders()
+void tst_WipeTask::fileNameWithPlaceholders()
 {
     const auto task = taskOfType(FileWipe);
     task->setFiles({u"/nowhere/%1%2"_s});
     QCOMPARE(task->validationError(), u"File not found: /nowhere/%1%2"_s);
 }
 
-void WipeTaskTest::unknownTypeSkipsTheTypeChecks()
+void tst_WipeTask::unknownTypeSkipsTheTypeChecks()
 {
     const auto task = taskOfType(9);
     QCOMPARE(qint32(task->operationType()), 9);
@@ -462,7 +463,7 @@ void WipeTaskTest::unknownTypeSkipsTheTypeChecks()
     QVERIFY(!isValidQuietly(*task));
 }
 
-void WipeTaskTest::threadCounts_data()
+void tst_WipeTask::threadCounts_data()
 {
     QTest::addColumn<int>("count");
     QTest::addColumn<bool>("valid");
@@ -475,7 +476,7 @@ void WipeTaskTest::threadCounts_data()
     QTest::newRow("largest") << std::numeric_limits<int>::max() << false;
 }
 
-void WipeTaskTest::threadCounts()
+void tst_WipeTask::threadCounts()
 {
     QFETCH(int, count);
     QFETCH(bool, valid);
@@ -489,7 +490,7 @@ void WipeTaskTest::threadCounts()
     QCOMPARE(traceOf(*task), traceHead(9) + (valid ? passed : failed));
 }
 
-void WipeTaskTest::bufferSizes_data()
+void tst_WipeTask::bufferSizes_data()
 {
     QTest::addColumn<int>("size");
     QTest::addColumn<bool>("valid");
@@ -502,7 +503,7 @@ void WipeTaskTest::bufferSizes_data()
     QTest::newRow("largest") << std::numeric_limits<int>::max() << false;
 }
 
-void WipeTaskTest::bufferSizes()
+void tst_WipeTask::bufferSizes()
 {
     QFETCH(int, size);
     QFETCH(bool, valid);
@@ -515,7 +516,7 @@ void WipeTaskTest::bufferSizes()
              traceHead(9) + QStringList({u"Thread count: 4"_s, u"Buffer size MB: %1"_s.arg(size), last}));
 }
 
-void WipeTaskTest::typeChecksComeBeforeTheRanges()
+void tst_WipeTask::typeChecksComeBeforeTheRanges()
 {
     const auto task = taskOfType(DiskWipe);
     DiskInfo disk = diskNumber(1);
@@ -526,7 +527,7 @@ void WipeTaskTest::typeChecksComeBeforeTheRanges()
     QCOMPARE(traceOf(*task).last(), u"FAIL: DiskWipe - is system disk"_s);
 }
 
-void WipeTaskTest::threadCountComesBeforeBufferSize()
+void tst_WipeTask::threadCountComesBeforeBufferSize()
 {
     const auto task = taskOfType(9);
     task->setThreadCount(0);
@@ -535,7 +536,7 @@ void WipeTaskTest::threadCountComesBeforeBufferSize()
     QCOMPARE(traceOf(*task).last(), u"FAIL: thread count out of range"_s);
 }
 
-void WipeTaskTest::traceShowsTheDisk()
+void tst_WipeTask::traceShowsTheDisk()
 {
     const auto task = taskOfType(DiskWipe);
     DiskInfo disk = diskNumber(4);
@@ -551,14 +552,14 @@ void WipeTaskTest::traceShowsTheDisk()
     QCOMPARE(traceOf(*task), head + traceTail);
 }
 
-void WipeTaskTest::validationErrorIsSilent()
+void tst_WipeTask::validationErrorIsSilent()
 {
     const DebugCapture capture;
     QVERIFY(!taskOfType(FreeSpaceWipe)->validationError().isEmpty());
     QCOMPARE(DebugCapture::lines, QStringList());
 }
 
-void WipeTaskTest::messagesAreTranslatedInTheTasksContext()
+void tst_WipeTask::messagesAreTranslatedInTheTasksContext()
 {
     const MarkingTranslator translator;
     const auto prefixed = [](const QString &text) { return u"<WipeTask>"_s + text; };
@@ -598,7 +599,7 @@ void WipeTaskTest::messagesAreTranslatedInTheTasksContext()
     QCOMPARE(tuning->validationError(), QString());
 }
 
-void WipeTaskTest::reportIsFreshAndCopied()
+void tst_WipeTask::reportIsFreshAndCopied()
 {
     WipeTask task;
     QVERIFY(task.report().certificateId.startsWith(u"QVX-"));
@@ -611,7 +612,7 @@ void WipeTaskTest::reportIsFreshAndCopied()
     QCOMPARE(task.report(), copy);
 }
 
-void WipeTaskTest::updateReportChangesInPlace()
+void tst_WipeTask::updateReportChangesInPlace()
 {
     WipeTask task;
     const QString id = task.report().certificateId;
@@ -621,14 +622,14 @@ void WipeTaskTest::updateReportChangesInPlace()
     QCOMPARE(task.report().certificateId, id);
 }
 
-void WipeTaskTest::updateReportReturnsAValue()
+void tst_WipeTask::updateReportReturnsAValue()
 {
     WipeTask task;
     QCOMPARE(task.updateReport([](WipeReport &report) { return ++report.fileCount; }), 1);
     QCOMPARE(task.updateReport([](WipeReport &report) { return ++report.fileCount; }), 2);
 }
 
-void WipeTaskTest::reportIsSafeAcrossThreads()
+void tst_WipeTask::reportIsSafeAcrossThreads()
 {
     // Writers keep the first and the last field of the record and a count between them in step; a copy that
     // was made without the lock shows them out of step, or a string that is no longer there.
@@ -668,5 +669,5 @@ void WipeTaskTest::reportIsSafeAcrossThreads()
     QCOMPARE(task.report().bytesWritten, updates.load());
 }
 
-QTEST_GUILESS_MAIN(WipeTaskTest)
+QUORVEX_SUITE(tst_WipeTask, QCoreApplication)
 #include "tst_wipetask.moc"

@@ -1,4 +1,5 @@
 #include "platform/alignedbuffer.h"
+#include "support/suite.h"
 
 #include <QTest>
 
@@ -8,7 +9,7 @@
 
 using platform::AlignedBuffer;
 
-class TestAlignedBuffer : public QObject
+class tst_AlignedBuffer : public QObject
 {
     Q_OBJECT
 
@@ -20,14 +21,14 @@ private slots:
     void movingHandsTheMemoryOver();
 };
 
-void TestAlignedBuffer::beginsOnAPageAndIsZero_data()
+void tst_AlignedBuffer::beginsOnAPageAndIsZero_data()
 {
     QTest::addColumn<qint64>("size");
     for (const qint64 size : {1, 511, 4096, 4097, 16 * 1024 * 1024})
         QTest::addRow("%lld", static_cast<long long>(size)) << size;
 }
 
-void TestAlignedBuffer::beginsOnAPageAndIsZero()
+void tst_AlignedBuffer::beginsOnAPageAndIsZero()
 {
     QFETCH(qint64, size);
     AlignedBuffer buffer(size);
@@ -39,7 +40,7 @@ void TestAlignedBuffer::beginsOnAPageAndIsZero()
     QCOMPARE(buffer.data()[size - 1], std::byte{0xFF});
 }
 
-void TestAlignedBuffer::sizesBelowOneGiveNoBuffer()
+void tst_AlignedBuffer::sizesBelowOneGiveNoBuffer()
 {
     QVERIFY(AlignedBuffer().isNull());
     QVERIFY(AlignedBuffer(0).isNull());
@@ -47,14 +48,14 @@ void TestAlignedBuffer::sizesBelowOneGiveNoBuffer()
     QCOMPARE(AlignedBuffer(-1).size(), qint64(0));
 }
 
-void TestAlignedBuffer::whatIsTooLargeGivesNoBuffer()
+void tst_AlignedBuffer::whatIsTooLargeGivesNoBuffer()
 {
     const AlignedBuffer buffer(std::numeric_limits<qint64>::max());
     QVERIFY(buffer.isNull());
     QCOMPARE(buffer.size(), qint64(0));
 }
 
-void TestAlignedBuffer::movingHandsTheMemoryOver()
+void tst_AlignedBuffer::movingHandsTheMemoryOver()
 {
     AlignedBuffer first(4096);
     std::byte *const memory = first.data();
@@ -68,5 +69,5 @@ void TestAlignedBuffer::movingHandsTheMemoryOver()
     QCOMPARE(third.data()[0], std::byte{7});
 }
 
-QTEST_APPLESS_MAIN(TestAlignedBuffer)
+QUORVEX_SUITE(tst_AlignedBuffer, suites::NoApplication)
 #include "tst_alignedbuffer.moc"

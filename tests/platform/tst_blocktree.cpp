@@ -2,6 +2,7 @@
 #include "platform/linux/linuxdevices.h"
 #include "platform/linux/linuxsession.h"
 #include "support/fakesystemtree.h"
+#include "support/suite.h"
 
 #include <QTest>
 
@@ -14,7 +15,7 @@ constexpr qint64 MiB = 1024 * 1024;
 } // namespace
 
 // What stands on what, on machines laid out as trees of files.
-class TestBlockTree : public QObject
+class tst_BlockTree : public QObject
 {
     Q_OBJECT
 
@@ -35,7 +36,7 @@ private slots:
     void laterMountHidesTheEarlier();
 };
 
-void TestBlockTree::aDriveIsItsOwnExtent()
+void tst_BlockTree::aDriveIsItsOwnExtent()
 {
     FakeSystemTree fake;
     fake.addDrive(QStringLiteral("sda"), "8:0", 100 * MiB);
@@ -45,7 +46,7 @@ void TestBlockTree::aDriveIsItsOwnExtent()
     QCOMPARE(blocks.node("8:0"), fake.path(QStringLiteral("dev/sda")));
 }
 
-void TestBlockTree::aPartitionLiesOnItsDrive()
+void tst_BlockTree::aPartitionLiesOnItsDrive()
 {
     FakeSystemTree fake;
     fake.addDrive(QStringLiteral("sda"), "8:0", 100 * MiB);
@@ -53,7 +54,7 @@ void TestBlockTree::aPartitionLiesOnItsDrive()
     QCOMPARE(BlockTree(fake.tree()).extentsOf("8:1"), QList<DriveExtent>({{"8:0", MiB, 50 * MiB}}));
 }
 
-void TestBlockTree::lvmOverTwoDrives()
+void tst_BlockTree::lvmOverTwoDrives()
 {
     FakeSystemTree fake;
     fake.addDrive(QStringLiteral("sda"), "8:0", 100 * MiB);
@@ -65,7 +66,7 @@ void TestBlockTree::lvmOverTwoDrives()
              QList<DriveExtent>({{"8:0", 2 * MiB, 50 * MiB}, {"8:16", 0, 200 * MiB}}));
 }
 
-void TestBlockTree::encryptedVolumeInLvm()
+void tst_BlockTree::encryptedVolumeInLvm()
 {
     FakeSystemTree fake;
     fake.addDrive(QStringLiteral("nvme0n1"), "259:0", 100 * MiB);
@@ -75,7 +76,7 @@ void TestBlockTree::encryptedVolumeInLvm()
     QCOMPARE(BlockTree(fake.tree()).extentsOf("253:1"), QList<DriveExtent>({{"259:0", MiB, 90 * MiB}}));
 }
 
-void TestBlockTree::partitionOfAnMdMirror()
+void tst_BlockTree::partitionOfAnMdMirror()
 {
     FakeSystemTree fake;
     fake.addDrive(QStringLiteral("sda"), "8:0", 100 * MiB);
@@ -86,7 +87,7 @@ void TestBlockTree::partitionOfAnMdMirror()
              QList<DriveExtent>({{"8:0", 0, 100 * MiB}, {"8:16", 0, 100 * MiB}}));
 }
 
-void TestBlockTree::btrfsMembers()
+void tst_BlockTree::btrfsMembers()
 {
     FakeSystemTree fake;
     fake.addDrive(QStringLiteral("sda"), "8:0", 100 * MiB);
@@ -98,7 +99,7 @@ void TestBlockTree::btrfsMembers()
     QCOMPARE(blocks.fileSystemMembers("8:32"), QList<QByteArray>({"8:32"}));
 }
 
-void TestBlockTree::aDeviceThatIsGone()
+void tst_BlockTree::aDeviceThatIsGone()
 {
     FakeSystemTree fake;
     const BlockTree blocks(fake.tree());
@@ -107,7 +108,7 @@ void TestBlockTree::aDeviceThatIsGone()
     QCOMPARE(blocks.extentsOf("8:0"), QList<DriveExtent>());
 }
 
-void TestBlockTree::systemVolumesAreTracedThroughLvm()
+void tst_BlockTree::systemVolumesAreTracedThroughLvm()
 {
     FakeSystemTree fake;
     fake.addDrive(QStringLiteral("sda"), "8:0", 100 * MiB);
@@ -128,7 +129,7 @@ void TestBlockTree::systemVolumesAreTracedThroughLvm()
     QCOMPARE(extents.value(), QList<Extent>({{0, MiB, 50 * MiB}, {1, 0, 200 * MiB}}));
 }
 
-void TestBlockTree::systemOnAMultiDeviceBtrfs()
+void tst_BlockTree::systemOnAMultiDeviceBtrfs()
 {
     // The node that the mount names is no block device here, so the device number has to be the file system's
     // own; a single-device tree stands for it, the members come from /sys/fs.
@@ -148,7 +149,7 @@ void TestBlockTree::systemOnAMultiDeviceBtrfs()
     QCOMPARE(extents.value()[1].diskNumber, 0);
 }
 
-void TestBlockTree::swapInMemoryIsNoSystemVolume()
+void tst_BlockTree::swapInMemoryIsNoSystemVolume()
 {
     FakeSystemTree fake;
     fake.addDrive(QStringLiteral("sda"), "8:0", 100 * MiB);
@@ -158,7 +159,7 @@ void TestBlockTree::swapInMemoryIsNoSystemVolume()
     QCOMPARE(LinuxSession(fake.tree()).systemVolumes(), QStringList());
 }
 
-void TestBlockTree::swapPartitionAndSwapFile()
+void tst_BlockTree::swapPartitionAndSwapFile()
 {
     FakeSystemTree fake;
     fake.addDrive(QStringLiteral("sda"), "8:0", 100 * MiB);
@@ -170,7 +171,7 @@ void TestBlockTree::swapPartitionAndSwapFile()
     QCOMPARE(LinuxSession(fake.tree()).systemVolumes(), QStringList({QStringLiteral("/data/deep")}));
 }
 
-void TestBlockTree::aSystemRunningFromMemoryHasNoSystemVolume()
+void tst_BlockTree::aSystemRunningFromMemoryHasNoSystemVolume()
 {
     FakeSystemTree fake;
     fake.addDrive(QStringLiteral("sda"), "8:0", 100 * MiB);
@@ -178,7 +179,7 @@ void TestBlockTree::aSystemRunningFromMemoryHasNoSystemVolume()
     QCOMPARE(LinuxSession(fake.tree()).systemVolumes(), QStringList());
 }
 
-void TestBlockTree::oneVolumePerDevice()
+void tst_BlockTree::oneVolumePerDevice()
 {
     FakeSystemTree fake;
     fake.addDrive(QStringLiteral("sda"), "8:0", 100 * MiB);
@@ -191,7 +192,7 @@ void TestBlockTree::oneVolumePerDevice()
              QStringList({QStringLiteral("/second"), QStringLiteral("/first")}));
 }
 
-void TestBlockTree::laterMountHidesTheEarlier()
+void tst_BlockTree::laterMountHidesTheEarlier()
 {
     FakeSystemTree fake;
     fake.addDrive(QStringLiteral("sda"), "8:0", 100 * MiB);
@@ -201,5 +202,5 @@ void TestBlockTree::laterMountHidesTheEarlier()
     QCOMPARE(VolumeTable(fake.tree()).byName(QStringLiteral("/mnt")).device, QByteArray("8:16"));
 }
 
-QTEST_APPLESS_MAIN(TestBlockTree)
+QUORVEX_SUITE(tst_BlockTree, suites::NoApplication)
 #include "tst_blocktree.moc"

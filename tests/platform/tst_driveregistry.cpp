@@ -1,5 +1,6 @@
 #include "platform/linux/driveregistry.h"
 #include "support/fakesystemtree.h"
+#include "support/suite.h"
 
 #include <QTest>
 
@@ -19,7 +20,7 @@ QStringList names(const QList<Drive> &drives)
 
 } // namespace
 
-class TestDriveRegistry : public QObject
+class tst_DriveRegistry : public QObject
 {
     Q_OBJECT
 
@@ -34,7 +35,7 @@ private slots:
     void aSpareNumberNeverGoesToADriveThatCouldBeConfused();
 };
 
-void TestDriveRegistry::naturalNameOrder()
+void tst_DriveRegistry::naturalNameOrder()
 {
     FakeSystemTree fake;
     fake.addDrive(QStringLiteral("sdaa"), "65:160", GiB);
@@ -50,7 +51,7 @@ void TestDriveRegistry::naturalNameOrder()
     QCOMPARE(registry.byDevice("65:160")->number, 4);
 }
 
-void TestDriveRegistry::whatIsNoDrive()
+void tst_DriveRegistry::whatIsNoDrive()
 {
     FakeSystemTree fake;
     const QStringList others{QStringLiteral("zram0"), QStringLiteral("ram0"), QStringLiteral("dm-0"),
@@ -67,7 +68,7 @@ void TestDriveRegistry::whatIsNoDrive()
     QCOMPARE(names(registry.drives()), QStringList({QStringLiteral("mmcblk0")}));
 }
 
-void TestDriveRegistry::unpluggingRenumbersNobody()
+void tst_DriveRegistry::unpluggingRenumbersNobody()
 {
     FakeSystemTree fake;
     fake.addDrive(QStringLiteral("sda"), "8:0", GiB, "A");
@@ -83,7 +84,7 @@ void TestDriveRegistry::unpluggingRenumbersNobody()
     QCOMPARE(registry.byDevice("8:16")->number, 1);
 }
 
-void TestDriveRegistry::aDriveThatComesBackHasItsNumber()
+void tst_DriveRegistry::aDriveThatComesBackHasItsNumber()
 {
     FakeSystemTree fake;
     fake.addDrive(QStringLiteral("sda"), "8:0", GiB, "A");
@@ -96,7 +97,7 @@ void TestDriveRegistry::aDriveThatComesBackHasItsNumber()
     QCOMPARE(registry.byDevice("8:0")->number, 0);
 }
 
-void TestDriveRegistry::anotherDriveUnderTheSameNodeGetsANewNumber()
+void tst_DriveRegistry::anotherDriveUnderTheSameNodeGetsANewNumber()
 {
     FakeSystemTree fake;
     fake.addDrive(QStringLiteral("sda"), "8:0", GiB, "A");
@@ -108,7 +109,7 @@ void TestDriveRegistry::anotherDriveUnderTheSameNodeGetsANewNumber()
     QVERIFY(!registry.byNumber(0));
 }
 
-void TestDriveRegistry::driveWithoutSerialIsToldByItsAttachment()
+void tst_DriveRegistry::driveWithoutSerialIsToldByItsAttachment()
 {
     FakeSystemTree fake;
     fake.addDrive(QStringLiteral("loop0"), "7:0", GiB);
@@ -119,7 +120,7 @@ void TestDriveRegistry::driveWithoutSerialIsToldByItsAttachment()
     QCOMPARE(registry.byDevice("7:0")->number, 1);
 }
 
-void TestDriveRegistry::numbersStayInReachOfEnumeration()
+void tst_DriveRegistry::numbersStayInReachOfEnumeration()
 {
     FakeSystemTree fake;
     DriveRegistry registry(fake.tree());
@@ -136,7 +137,7 @@ void TestDriveRegistry::numbersStayInReachOfEnumeration()
     QCOMPARE(registry.byDevice("8:0")->number, 0);
 }
 
-void TestDriveRegistry::aSpareNumberNeverGoesToADriveThatCouldBeConfused()
+void tst_DriveRegistry::aSpareNumberNeverGoesToADriveThatCouldBeConfused()
 {
     FakeSystemTree fake;
     DriveRegistry registry(fake.tree());
@@ -148,5 +149,5 @@ void TestDriveRegistry::aSpareNumberNeverGoesToADriveThatCouldBeConfused()
     }
 }
 
-QTEST_APPLESS_MAIN(TestDriveRegistry)
+QUORVEX_SUITE(tst_DriveRegistry, suites::NoApplication)
 #include "tst_driveregistry.moc"

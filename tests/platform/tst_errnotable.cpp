@@ -1,4 +1,5 @@
 #include "platform/linux/errnotable.h"
+#include "support/suite.h"
 
 #include <QTest>
 
@@ -8,7 +9,7 @@
 
 using platform::ErrorCode;
 
-class TestErrnoTable : public QObject
+class tst_ErrnoTable : public QObject
 {
     Q_OBJECT
 
@@ -19,7 +20,7 @@ private slots:
     void keepsNumberAndOperation();
 };
 
-void TestErrnoTable::everyListedError_data()
+void tst_ErrnoTable::everyListedError_data()
 {
     QTest::addColumn<int>("error");
     QTest::addColumn<quint32>("code");
@@ -65,7 +66,7 @@ void TestErrnoTable::everyListedError_data()
     row("ENOTTY", ENOTTY, 50);
 }
 
-void TestErrnoTable::everyListedError()
+void tst_ErrnoTable::everyListedError()
 {
     QFETCH(int, error);
     QFETCH(quint32, code);
@@ -74,13 +75,13 @@ void TestErrnoTable::everyListedError()
     QVERIFY(!status.ok());
 }
 
-void TestErrnoTable::everythingElseIsAGeneralFailure()
+void tst_ErrnoTable::everythingElseIsAGeneralFailure()
 {
     for (const int error : {EBADF, EFAULT, EINTR, ESPIPE, EPIPE, ECANCELED, 0, -1, 100000})
         QCOMPARE(platform::statusFromErrno(error, "call").code, quint32(ErrorCode::GeneralFailure));
 }
 
-void TestErrnoTable::keepsNumberAndOperation()
+void tst_ErrnoTable::keepsNumberAndOperation()
 {
     const platform::Status status = platform::statusFromErrno(EBUSY, "open");
     QCOMPARE(status.native, EBUSY);
@@ -89,5 +90,5 @@ void TestErrnoTable::keepsNumberAndOperation()
     QCOMPARE(platform::Status{}.systemText(), QString());
 }
 
-QTEST_APPLESS_MAIN(TestErrnoTable)
+QUORVEX_SUITE(tst_ErrnoTable, suites::NoApplication)
 #include "tst_errnotable.moc"

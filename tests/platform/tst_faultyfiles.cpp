@@ -1,4 +1,5 @@
 #include "support/faultyfiles.h"
+#include "support/suite.h"
 
 #include "platform/platform.h"
 
@@ -11,7 +12,7 @@ using namespace platform;
 using namespace Qt::StringLiterals;
 
 // The double itself: what is planned fails and does nothing, everything else reaches the real system.
-class TestFaultyFiles : public QObject
+class tst_FaultyFiles : public QObject
 {
     Q_OBJECT
 
@@ -35,7 +36,7 @@ private:
     std::unique_ptr<QTemporaryDir> m_folder;
 };
 
-void TestFaultyFiles::init()
+void tst_FaultyFiles::init()
 {
     m_folder = std::make_unique<QTemporaryDir>();
     QFile file(path(u"file"_s));
@@ -44,7 +45,7 @@ void TestFaultyFiles::init()
     QVERIFY(QDir().mkdir(path(u"folder"_s)));
 }
 
-void TestFaultyFiles::withoutAPlanEverythingPasses()
+void tst_FaultyFiles::withoutAPlanEverythingPasses()
 {
     FaultPlan plan;
     FaultyFiles files(m_machine->files(), plan);
@@ -70,7 +71,7 @@ void TestFaultyFiles::withoutAPlanEverythingPasses()
     QCOMPARE(plan.fired(), 0);
 }
 
-void TestFaultyFiles::everyFileCallFails_data()
+void tst_FaultyFiles::everyFileCallFails_data()
 {
     QTest::addColumn<int>("kind");
     QTest::newRow("info") << int(FaultPlan::Info);
@@ -80,7 +81,7 @@ void TestFaultyFiles::everyFileCallFails_data()
     QTest::newRow("remove") << int(FaultPlan::Remove);
 }
 
-void TestFaultyFiles::everyFileCallFails()
+void tst_FaultyFiles::everyFileCallFails()
 {
     QFETCH(int, kind);
     FaultPlan plan(quint32(kind), 1, IoDevice, FaultPlan::FromThenOn);
@@ -98,7 +99,7 @@ void TestFaultyFiles::everyFileCallFails()
     QCOMPARE(plan.fired(), 1);
 }
 
-void TestFaultyFiles::everyHandleCallFails_data()
+void tst_FaultyFiles::everyHandleCallFails_data()
 {
     QTest::addColumn<int>("kind");
     QTest::newRow("seek") << int(FaultPlan::Seek);
@@ -108,7 +109,7 @@ void TestFaultyFiles::everyHandleCallFails_data()
     QTest::newRow("flush") << int(FaultPlan::Flush);
 }
 
-void TestFaultyFiles::everyHandleCallFails()
+void tst_FaultyFiles::everyHandleCallFails()
 {
     QFETCH(int, kind);
     FaultPlan plan(quint32(kind), 1, WriteFault, FaultPlan::FromThenOn);
@@ -131,7 +132,7 @@ void TestFaultyFiles::everyHandleCallFails()
     QCOMPARE(after.readAll(), kind == FaultPlan::Write ? QByteArray() : QByteArray("xyz"));
 }
 
-void TestFaultyFiles::everyFolderCallFails_data()
+void tst_FaultyFiles::everyFolderCallFails_data()
 {
     QTest::addColumn<int>("kind");
     QTest::newRow("forEachEntry") << int(FaultPlan::List);
@@ -142,7 +143,7 @@ void TestFaultyFiles::everyFolderCallFails_data()
     QTest::newRow("space") << int(FaultPlan::Space);
 }
 
-void TestFaultyFiles::everyFolderCallFails()
+void tst_FaultyFiles::everyFolderCallFails()
 {
     QFETCH(int, kind);
     FaultPlan plan(quint32(kind), 1, AccessDenied, FaultPlan::FromThenOn);
@@ -166,7 +167,7 @@ void TestFaultyFiles::everyFolderCallFails()
     QCOMPARE(plan.fired(), 1);
 }
 
-void TestFaultyFiles::theNthCallFailsOnce()
+void tst_FaultyFiles::theNthCallFailsOnce()
 {
     FaultPlan plan(FaultPlan::Write, 3, DiskFull);
     FaultyFiles files(m_machine->files(), plan);
@@ -180,7 +181,7 @@ void TestFaultyFiles::theNthCallFailsOnce()
     QCOMPARE(plan.fired(), 1);
 }
 
-void TestFaultyFiles::fromThenOn()
+void tst_FaultyFiles::fromThenOn()
 {
     FaultPlan plan(FaultPlan::Open | FaultPlan::Info, 2, NotReady, FaultPlan::FromThenOn);
     FaultyFiles files(m_machine->files(), plan);
@@ -191,7 +192,7 @@ void TestFaultyFiles::fromThenOn()
     QCOMPARE(plan.fired(), 2);
 }
 
-void TestFaultyFiles::otherPathsAreNotCounted()
+void tst_FaultyFiles::otherPathsAreNotCounted()
 {
     FaultPlan plan(FaultPlan::Every, 1, SharingViolation, FaultPlan::FromThenOn);
     FaultyFiles files(m_machine->files(), plan, [](const QString &name) { return name.endsWith(u"held"_s); });
@@ -200,5 +201,5 @@ void TestFaultyFiles::otherPathsAreNotCounted()
     QCOMPARE(plan.seen(), 1);
 }
 
-QTEST_GUILESS_MAIN(TestFaultyFiles)
+QUORVEX_SUITE(tst_FaultyFiles, QCoreApplication)
 #include "tst_faultyfiles.moc"

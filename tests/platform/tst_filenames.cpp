@@ -1,4 +1,5 @@
 #include "platform/filenames.h"
+#include "support/suite.h"
 
 #include <QRandomGenerator>
 #include <QTest>
@@ -7,7 +8,7 @@ using platform::decodeName;
 using platform::encodeName;
 using platform::encodePath;
 
-class TestFileNames : public QObject
+class tst_FileNames : public QObject
 {
     Q_OBJECT
 
@@ -25,7 +26,7 @@ private slots:
     void pathWithAZeroIsRefused();
 };
 
-void TestFileNames::textIsUtf8_data()
+void tst_FileNames::textIsUtf8_data()
 {
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<QString>("name");
@@ -41,7 +42,7 @@ void TestFileNames::textIsUtf8_data()
     QTest::newRow("replacement character") << QByteArray("\xEF\xBF\xBD") << QStringLiteral("\uFFFD");
 }
 
-void TestFileNames::textIsUtf8()
+void tst_FileNames::textIsUtf8()
 {
     QFETCH(QByteArray, bytes);
     QFETCH(QString, name);
@@ -49,7 +50,7 @@ void TestFileNames::textIsUtf8()
     QCOMPARE(encodeName(name), bytes);
 }
 
-void TestFileNames::undecodableBytesBecomeLoneSurrogates_data()
+void tst_FileNames::undecodableBytesBecomeLoneSurrogates_data()
 {
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<QString>("name");
@@ -70,7 +71,7 @@ void TestFileNames::undecodableBytesBecomeLoneSurrogates_data()
     QTest::newRow("after a pair") << QByteArray("\xF0\x9F\x97\x91\x91") << name({0xD83D, 0xDDD1, 0xDC91});
 }
 
-void TestFileNames::undecodableBytesBecomeLoneSurrogates()
+void tst_FileNames::undecodableBytesBecomeLoneSurrogates()
 {
     QFETCH(QByteArray, bytes);
     QFETCH(QString, name);
@@ -78,7 +79,7 @@ void TestFileNames::undecodableBytesBecomeLoneSurrogates()
     QCOMPARE(encodeName(name), bytes);
 }
 
-void TestFileNames::everyPairOfBytesComesBack()
+void tst_FileNames::everyPairOfBytesComesBack()
 {
     for (int first = 1; first < 256; ++first) {
         for (int second = 1; second < 256; ++second) {
@@ -88,7 +89,7 @@ void TestFileNames::everyPairOfBytesComesBack()
     }
 }
 
-void TestFileNames::anyBytesComeBack()
+void tst_FileNames::anyBytesComeBack()
 {
     const quint32 seed = QRandomGenerator::global()->generate();
     qInfo("seed %u", seed);
@@ -102,7 +103,7 @@ void TestFileNames::anyBytesComeBack()
     }
 }
 
-void TestFileNames::differentBytesGiveDifferentNames()
+void tst_FileNames::differentBytesGiveDifferentNames()
 {
     // Every one of these is shown, or read by a lax decoder, as the same.
     const QByteArrayList alike{"\xC3\xA9", "\xE9", "e\xCC\x81", "\xE0\x83\xA9", "\xEF\xBB\xBF\xC3\xA9"};
@@ -112,7 +113,7 @@ void TestFileNames::differentBytesGiveDifferentNames()
     QCOMPARE(names.removeDuplicates(), 0);
 }
 
-void TestFileNames::surrogatesThatAreNoBytesNameNothingElse()
+void tst_FileNames::surrogatesThatAreNoBytesNameNothingElse()
 {
     for (const char16_t unit : {char16_t(0xD800), char16_t(0xDBFF), char16_t(0xDC00), char16_t(0xDC7F),
                                 char16_t(0xDD00), char16_t(0xDFFF)}) {
@@ -122,7 +123,7 @@ void TestFileNames::surrogatesThatAreNoBytesNameNothingElse()
     }
 }
 
-void TestFileNames::pathLosesItsLastSlashes_data()
+void tst_FileNames::pathLosesItsLastSlashes_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<QByteArray>("bytes");
@@ -134,7 +135,7 @@ void TestFileNames::pathLosesItsLastSlashes_data()
     QTest::newRow("empty") << QString() << QByteArray();
 }
 
-void TestFileNames::pathLosesItsLastSlashes()
+void tst_FileNames::pathLosesItsLastSlashes()
 {
     QFETCH(QString, path);
     QFETCH(QByteArray, bytes);
@@ -143,11 +144,11 @@ void TestFileNames::pathLosesItsLastSlashes()
     QCOMPARE(encoded.value(), bytes);
 }
 
-void TestFileNames::pathWithAZeroIsRefused()
+void tst_FileNames::pathWithAZeroIsRefused()
 {
     QCOMPARE(encodePath(QStringLiteral("/a") + QChar(u'\0') + QStringLiteral("b")).code(),
              quint32(platform::InvalidParameter));
 }
 
-QTEST_APPLESS_MAIN(TestFileNames)
+QUORVEX_SUITE(tst_FileNames, suites::NoApplication)
 #include "tst_filenames.moc"

@@ -1,4 +1,5 @@
 #include "platform/linux/linuxsession.h"
+#include "support/suite.h"
 
 #include <QProcess>
 #include <QTest>
@@ -7,7 +8,7 @@ using namespace Qt::StringLiterals;
 using namespace platform;
 
 // What the session knows beside its volumes (tst_blocktree).
-class TestLinuxSession : public QObject
+class tst_LinuxSession : public QObject
 {
     Q_OBJECT
 
@@ -16,7 +17,7 @@ private slots:
     void rootsOfTheSystem();
 };
 
-void TestLinuxSession::userIsNamedByTheNumber()
+void tst_LinuxSession::userIsNamedByTheNumber()
 {
     QProcess id;
     id.start(u"id"_s, {u"-u"_s});
@@ -24,7 +25,7 @@ void TestLinuxSession::userIsNamedByTheNumber()
     QCOMPARE(LinuxSession().userId(), QString::fromLatin1(id.readAllStandardOutput().trimmed()));
 }
 
-void TestLinuxSession::rootsOfTheSystem()
+void tst_LinuxSession::rootsOfTheSystem()
 {
     LinuxSession session;
     for (const QString &root : {u"/"_s, u"/boot"_s, u"/boot/efi"_s, u"/usr"_s, u"/var/"_s, u"/home"_s}) {
@@ -35,5 +36,5 @@ void TestLinuxSession::rootsOfTheSystem()
     QVERIFY(!session.holdsSystemFiles(u"/homes"_s));
 }
 
-QTEST_GUILESS_MAIN(TestLinuxSession)
+QUORVEX_SUITE(tst_LinuxSession, QCoreApplication)
 #include "tst_linuxsession.moc"

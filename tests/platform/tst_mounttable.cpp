@@ -1,10 +1,11 @@
 #include "platform/linux/mounttable.h"
+#include "support/suite.h"
 
 #include <QTest>
 
 using namespace platform;
 
-class TestMountTable : public QObject
+class tst_MountTable : public QObject
 {
     Q_OBJECT
 
@@ -18,7 +19,7 @@ private slots:
     void swapsOfAMachineWithoutAny();
 };
 
-void TestMountTable::plainLine()
+void tst_MountTable::plainLine()
 {
     const QList<MountEntry> entries =
         parseMountInfo("36 35 8:1 / /media/data rw,noatime - ext4 /dev/sda1 rw\n");
@@ -30,7 +31,7 @@ void TestMountTable::plainLine()
     QCOMPARE(entries[0].source, QStringLiteral("/dev/sda1"));
 }
 
-void TestMountTable::optionalFieldsAreSkipped()
+void tst_MountTable::optionalFieldsAreSkipped()
 {
     const QList<MountEntry> entries = parseMountInfo(
         "36 35 0:42 /home /home rw shared:7 master:1 propagate_from:2 - btrfs /dev/sdb rw,subvol=/home");
@@ -40,7 +41,7 @@ void TestMountTable::optionalFieldsAreSkipped()
     QCOMPARE(entries[0].source, QStringLiteral("/dev/sdb"));
 }
 
-void TestMountTable::octalEscapesAreDecoded()
+void tst_MountTable::octalEscapesAreDecoded()
 {
     const QList<MountEntry> entries =
         parseMountInfo("1 2 8:1 / /media/My\\040Disk\\134x\\012y\\04 rw - vfat /dev/sd\\141 rw");
@@ -49,7 +50,7 @@ void TestMountTable::octalEscapesAreDecoded()
     QCOMPARE(entries[0].source, QStringLiteral("/dev/sda"));
 }
 
-void TestMountTable::orderIsKept()
+void tst_MountTable::orderIsKept()
 {
     const QList<MountEntry> entries =
         parseMountInfo("1 0 8:2 / /z rw - ext4 /dev/sda2 rw\n2 0 8:1 / /a rw - ext4 /dev/sda1 rw\n");
@@ -58,14 +59,14 @@ void TestMountTable::orderIsKept()
     QCOMPARE(entries[1].mountPoint, QStringLiteral("/a"));
 }
 
-void TestMountTable::damagedLinesArePassedOver()
+void tst_MountTable::damagedLinesArePassedOver()
 {
     QCOMPARE(parseMountInfo({}).size(), 0);
     QCOMPARE(parseMountInfo("no separator in this line at all here\n").size(), 0);
     QCOMPARE(parseMountInfo("1 2 8:1 / /a rw -\n1 2 8:1 / /a rw - ext4\n").size(), 0);
 }
 
-void TestMountTable::swapAreas()
+void tst_MountTable::swapAreas()
 {
     const QByteArray text = "Filename\t\t\t\tType\t\tSize\t\tUsed\t\tPriority\n"
                             "/dev/sda2                               partition\t8388604\t0\t-2\n"
@@ -73,10 +74,10 @@ void TestMountTable::swapAreas()
     QCOMPARE(parseSwaps(text), QStringList({QStringLiteral("/dev/sda2"), QStringLiteral("/swap file")}));
 }
 
-void TestMountTable::swapsOfAMachineWithoutAny()
+void tst_MountTable::swapsOfAMachineWithoutAny()
 {
     QCOMPARE(parseSwaps("Filename\t\t\t\tType\t\tSize\t\tUsed\t\tPriority\n"), QStringList());
 }
 
-QTEST_APPLESS_MAIN(TestMountTable)
+QUORVEX_SUITE(tst_MountTable, suites::NoApplication)
 #include "tst_mounttable.moc"

@@ -1,4 +1,5 @@
 #include "platform/storagereplies.h"
+#include "support/suite.h"
 
 #include <QRandomGenerator>
 #include <QTest>
@@ -411,5 +412,5 @@ void tst_StorageReplies::randomRepliesAreSafe()
     }
 }
 
-QTEST_APPLESS_MAIN(tst_StorageReplies)
+QUORVEX_SUITE(tst_StorageReplies, suites::NoApplication)
 #include "tst_storagereplies.moc"

@@ -1,4 +1,5 @@
 #include "services/applog.h"
+#include "support/suite.h"
 
 #include "support/messagecapture.h"
 
@@ -85,7 +86,7 @@ struct Run
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         useHome(environment, home);
         process.setProcessEnvironment(environment);
-        process.start(QCoreApplication::applicationFilePath(), QStringList{u"--run"_s} + arguments);
+        process.start(QCoreApplication::applicationFilePath(), QStringList{u"tst_applog"_s, u"--run"_s} + arguments);
     }
     int exitCode()
     {
@@ -595,7 +596,7 @@ void tst_AppLog::threadsNeverShareALine()
     QCOMPARE(echoed, written);
 }
 
-int main(int argc, char *argv[])
+static int runSuite(int argc, char *argv[])
 {
 #ifdef Q_OS_WIN
     // What the variables below are elsewhere: the folders of Windows come from the registry.
@@ -615,5 +616,5 @@ int main(int argc, char *argv[])
     tst_AppLog test;
     return QTest::qExec(&test, argc, argv);
 }
-
+QUORVEX_SUITE_RUN(tst_AppLog, runSuite)
 #include "tst_applog.moc"

@@ -1,4 +1,5 @@
 #include "services/diskmanager.h"
+#include "support/suite.h"
 
 #include "support/fakedevices.h"
 #include "support/messagecapture.h"
@@ -674,5 +675,5 @@ void tst_DiskManager::noHandleStaysOpen()
     QCOMPARE(pc.devices.mostOpenHandles, 1);
 }
 
-QTEST_GUILESS_MAIN(tst_DiskManager)
+QUORVEX_SUITE(tst_DiskManager, QCoreApplication)
 #include "tst_diskmanager.moc"

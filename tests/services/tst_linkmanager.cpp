@@ -1,4 +1,5 @@
 #include "services/linkmanager.h"
+#include "support/suite.h"
 
 #include "support/messagecapture.h"
 
@@ -652,7 +653,7 @@ void tst_LinkManager::metadataOfAnotherShapeLeavesNoLanguage()
     QCOMPARE(capture.texts().filter(u"加载链接配置失败"_s).size(), 0);
 }
 
-int main(int argc, char *argv[])
+static int runSuite(int argc, char *argv[])
 {
     // The program's own settings are read by its instance, and never written here; not the user's anyway.
     const QTemporaryDir home;
@@ -661,5 +662,5 @@ int main(int argc, char *argv[])
     tst_LinkManager test;
     return QTest::qExec(&test, argc, argv);
 }
-
+QUORVEX_SUITE_RUN(tst_LinkManager, runSuite)
 #include "tst_linkmanager.moc"

@@ -1,4 +1,5 @@
 #include "services/recyclebininfofile.h"
+#include "support/suite.h"
 
 #include "services/infofiles.h"
 
@@ -299,5 +300,5 @@ void tst_RecycleBinInfoFile::anythingCanBeParsed()
     QVERIFY(withPath > 500);
 }
 
-QTEST_GUILESS_MAIN(tst_RecycleBinInfoFile)
+QUORVEX_SUITE(tst_RecycleBinInfoFile, QCoreApplication)
 #include "tst_recyclebininfofile.moc"

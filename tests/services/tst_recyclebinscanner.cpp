@@ -1,4 +1,5 @@
 #include "services/recyclebinscanner.h"
+#include "support/suite.h"
 
 #include "platform/forwarding.h"
 #include "services/infofiles.h"
@@ -487,5 +488,5 @@ void tst_RecycleBinScanner::aScanRunsOnAnyThread()
     QVERIFY(sameThread);
 }
 
-QTEST_GUILESS_MAIN(tst_RecycleBinScanner)
+QUORVEX_SUITE(tst_RecycleBinScanner, QCoreApplication)
 #include "tst_recyclebinscanner.moc"

@@ -1,4 +1,5 @@
 #include "services/reportdatabase.h"
+#include "support/suite.h"
 
 #include "model/filledreport.h"
 
@@ -220,7 +221,7 @@ public:
     explicit Run(const QStringList &arguments)
     {
         m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        m_process.start(QCoreApplication::applicationFilePath(), QStringList{u"--run"_s} + arguments);
+        m_process.start(QCoreApplication::applicationFilePath(), QStringList{u"tst_reportdatabase"_s, u"--run"_s} + arguments);
     }
     ~Run()
     {
@@ -1169,7 +1170,7 @@ void tst_ReportDatabase::onlyTheOwnerReadsAFileThatWasThere()
 #endif
 }
 
-int main(int argc, char *argv[])
+static int runSuite(int argc, char *argv[])
 {
 #ifdef Q_OS_WIN
     // What the variable of init() is elsewhere: the folders of Windows come from the registry.
@@ -1182,5 +1183,5 @@ int main(int argc, char *argv[])
     tst_ReportDatabase test;
     return QTest::qExec(&test, argc, argv);
 }
-
+QUORVEX_SUITE_RUN(tst_ReportDatabase, runSuite)
 #include "tst_reportdatabase.moc"

@@ -2,6 +2,7 @@
 #include "services/trashinfofile.h"
 #include "services/trashscan.h"
 #include "services/trashsizes.h"
+#include "support/suite.h"
 
 #include "platform/forwarding.h"
 #include "support/fakedevices.h"
@@ -684,5 +685,5 @@ void tst_TrashScan::theFoldersOfAScanAreNamedOnce()
     QCOMPARE(trashFoldersOf(info), (QStringList{pc.home().folder, stick.folder}));
 }
 
-QTEST_GUILESS_MAIN(tst_TrashScan)
+QUORVEX_SUITE(tst_TrashScan, QCoreApplication)
 #include "tst_trashscan.moc"

@@ -1,6 +1,7 @@
 #include "engine/filedeletion.h"
 #include "platform/windows/longpath.h"
 #include "platform/windows/winhandle.h"
+#include "support/suite.h"
 #include "windows/win32faults.h"
 
 #include <QDir>
@@ -13,7 +14,7 @@ using namespace std::chrono_literals;
 using namespace platform;
 
 // The engine's deletion over files that somebody else has open, as virus scanners do for moments.
-class TestWindowsDeletion : public QObject
+class tst_WindowsDeletion : public QObject
 {
     Q_OBJECT
 
@@ -36,7 +37,7 @@ private:
     QString m_file;
 };
 
-void TestWindowsDeletion::init()
+void tst_WindowsDeletion::init()
 {
     m_folder = std::make_unique<QTemporaryDir>();
     m_file = m_folder->filePath(u"secret.txt"_s);
@@ -44,7 +45,7 @@ void TestWindowsDeletion::init()
     QVERIFY(file.open(QIODevice::WriteOnly) && file.write("secret") == 6);
 }
 
-void TestWindowsDeletion::aHeldFileIsTriedTenTimes()
+void tst_WindowsDeletion::aHeldFileIsTriedTenTimes()
 {
     const WinHandle other = hold(m_file);
     QVERIFY(other.isValid());
@@ -61,7 +62,7 @@ void TestWindowsDeletion::aHeldFileIsTriedTenTimes()
     QCOMPARE(calls.openHandles(), 0);
 }
 
-void TestWindowsDeletion::aFileThatIsLetGoIsDeleted()
+void tst_WindowsDeletion::aFileThatIsLetGoIsDeleted()
 {
     WinHandle other = hold(m_file);
     QVERIFY(other.isValid());
@@ -77,7 +78,7 @@ void TestWindowsDeletion::aFileThatIsLetGoIsDeleted()
     QCOMPARE(entries(), QStringList());
 }
 
-void TestWindowsDeletion::otherErrorsAreNotTriedAgain()
+void tst_WindowsDeletion::otherErrorsAreNotTriedAgain()
 {
     Win32Faults calls;
     calls.fail(Win32Faults::DeleteFile_, 1, ERROR_WRITE_PROTECT, Win32Faults::FromThenOn);
@@ -90,7 +91,7 @@ void TestWindowsDeletion::otherErrorsAreNotTriedAgain()
     QCOMPARE(QFileInfo(m_folder->filePath(entries().constFirst())).size(), 0);
 }
 
-void TestWindowsDeletion::aReadOnlyFileIsDeleted()
+void tst_WindowsDeletion::aReadOnlyFileIsDeleted()
 {
     QVERIFY(
         ::SetFileAttributesW(toLongPath(m_file).c_str(), FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_HIDDEN));
@@ -101,5 +102,5 @@ void TestWindowsDeletion::aReadOnlyFileIsDeleted()
     QCOMPARE(entries(), QStringList());
 }
 
-QTEST_GUILESS_MAIN(TestWindowsDeletion)
+QUORVEX_SUITE(tst_WindowsDeletion, QCoreApplication)
 #include "tst_windowsdeletion.moc"

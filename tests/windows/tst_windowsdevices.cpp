@@ -2,6 +2,7 @@
 #include "platform/storagereplies.h"
 #include "platform/windows/windowsdevices.h"
 #include "platform/windows/windowsrawdevice.h"
+#include "support/suite.h"
 #include "windows/scriptedmachine.h"
 
 #include <QHash>
@@ -875,5 +876,5 @@ void tst_WindowsDevices::onlyFixedAndRemovableDrivesAreLocal()
     }
 }
 
-QTEST_GUILESS_MAIN(tst_WindowsDevices)
+QUORVEX_SUITE(tst_WindowsDevices, QCoreApplication)
 #include "tst_windowsdevices.moc"

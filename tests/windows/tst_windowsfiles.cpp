@@ -1,4 +1,5 @@
-#include "contract/filecontents.h"
+#include "platform/filecontents.h"
+#include "support/suite.h"
 #include "windows/win32faults.h"
 
 #include "platform/windows/longpath.h"
@@ -232,7 +233,7 @@ const QList<Operation> &operations()
 } // namespace
 
 // What only Windows has, and every call of the system failing once.
-class TestWindowsFiles : public QObject
+class tst_WindowsFiles : public QObject
 {
     Q_OBJECT
 
@@ -289,19 +290,19 @@ private:
     std::optional<QTemporaryDir> m_folder;
 };
 
-void TestWindowsFiles::init()
+void tst_WindowsFiles::init()
 {
     m_folder.emplace();
     QVERIFY(m_folder->isValid());
 }
 
-void TestWindowsFiles::cleanup()
+void tst_WindowsFiles::cleanup()
 {
     QVERIFY(folders.removeTree(m_folder->path()).ok());
     m_folder.reset();
 }
 
-void TestWindowsFiles::longPaths_data()
+void tst_WindowsFiles::longPaths_data()
 {
     QTest::addColumn<QString>("given");
     QTest::addColumn<QString>("expected");
@@ -313,13 +314,13 @@ void TestWindowsFiles::longPaths_data()
     QTest::newRow("prefixed network") << uR"(\\?\UNC\s\h\a)"_s << uR"(\\?\UNC\s\h\a)"_s;
 }
 
-void TestWindowsFiles::longPaths()
+void tst_WindowsFiles::longPaths()
 {
     QFETCH(QString, given);
     QTEST(QString::fromStdWString(toLongPath(given)), "expected");
 }
 
-void TestWindowsFiles::encodedPaths_data()
+void tst_WindowsFiles::encodedPaths_data()
 {
     QTest::addColumn<QString>("given");
     QTest::addColumn<QString>("expected");
@@ -335,7 +336,7 @@ void TestWindowsFiles::encodedPaths_data()
     QTest::newRow("dots and blanks in names") << u"C:/a /b./..."_s << uR"(\\?\C:\a \b.\...)"_s;
 }
 
-void TestWindowsFiles::encodedPaths()
+void tst_WindowsFiles::encodedPaths()
 {
     QFETCH(QString, given);
     const Result<std::wstring> encoded = encodePath(given);
@@ -343,7 +344,7 @@ void TestWindowsFiles::encodedPaths()
     QTEST(QString::fromStdWString(encoded.value()), "expected");
 }
 
-void TestWindowsFiles::namesKeepEveryCharacter()
+void tst_WindowsFiles::namesKeepEveryCharacter()
 {
     for (const std::wstring name : {L"\uFEFFa", L"\uFFFEa", L"\xDC80", L"a\xD83D", L"a"}) {
         const QString decoded = decodeName(name);
@@ -352,7 +353,7 @@ void TestWindowsFiles::namesKeepEveryCharacter()
     }
 }
 
-void TestWindowsFiles::opensWithWhatItPromises()
+void tst_WindowsFiles::opensWithWhatItPromises()
 {
     QVERIFY(makeFile(path(u"file"_s), "abc"));
     Win32Faults faults;
@@ -377,7 +378,7 @@ void TestWindowsFiles::opensWithWhatItPromises()
 }
 
 // No call that would cut before it is known what is cut.
-void TestWindowsFiles::fillOverAFileDoesNotFollowOrReplace()
+void tst_WindowsFiles::fillOverAFileDoesNotFollowOrReplace()
 {
     QVERIFY(makeFile(path(u"file"_s), "abc"));
     Win32Faults faults;
@@ -389,7 +390,7 @@ void TestWindowsFiles::fillOverAFileDoesNotFollowOrReplace()
     QCOMPARE(contentsOf(path(u"file"_s)), QByteArray());
 }
 
-void TestWindowsFiles::verificationDropsTheCacheFirst()
+void tst_WindowsFiles::verificationDropsTheCacheFirst()
 {
     QVERIFY(makeFile(path(u"file"_s), "abc"));
     Win32Faults faults;
@@ -399,7 +400,7 @@ void TestWindowsFiles::verificationDropsTheCacheFirst()
     QVERIFY(!(faults.openings().constLast().flags & FILE_FLAG_NO_BUFFERING));
 }
 
-void TestWindowsFiles::renamesWithWhatItPromises()
+void tst_WindowsFiles::renamesWithWhatItPromises()
 {
     static DWORD s_flags = 0;
     Win32Faults faults;
@@ -412,7 +413,7 @@ void TestWindowsFiles::renamesWithWhatItPromises()
     QCOMPARE(s_flags, DWORD(3));
 }
 
-void TestWindowsFiles::readOnlyFiles()
+void tst_WindowsFiles::readOnlyFiles()
 {
     const QString name = path(u"file"_s);
     QVERIFY(makeFile(name, "abc"));
@@ -428,7 +429,7 @@ void TestWindowsFiles::readOnlyFiles()
     QVERIFY(files.remove(name).ok());
 }
 
-void TestWindowsFiles::clearReadOnlyKeepsTheOtherAttributes()
+void tst_WindowsFiles::clearReadOnlyKeepsTheOtherAttributes()
 {
     const QString name = path(u"file"_s);
     QVERIFY(makeFile(name, "abc"));
@@ -439,7 +440,7 @@ void TestWindowsFiles::clearReadOnlyKeepsTheOtherAttributes()
     QCOMPARE(attributesAt(name), before & ~DWORD(FILE_ATTRIBUTE_READONLY));
 }
 
-void TestWindowsFiles::hiddenFileIsFilled()
+void tst_WindowsFiles::hiddenFileIsFilled()
 {
     const QString name = path(u"file"_s);
     QVERIFY(makeFile(name, "abc"));
@@ -452,7 +453,7 @@ void TestWindowsFiles::hiddenFileIsFilled()
     QCOMPARE(contentsOf(name), QByteArray("z"));
 }
 
-void TestWindowsFiles::hideSetsBothAttributes()
+void tst_WindowsFiles::hideSetsBothAttributes()
 {
     QVERIFY(makeFile(path(u"file"_s), "abc"));
     QVERIFY(folders.hide(path(u"file"_s)).ok());
@@ -460,7 +461,7 @@ void TestWindowsFiles::hideSetsBothAttributes()
     QCOMPARE(attributesAt(path(u"file"_s)) & Both, Both);
 }
 
-void TestWindowsFiles::fileInUse()
+void tst_WindowsFiles::fileInUse()
 {
     const QString name = path(u"file"_s);
     QVERIFY(makeFile(name, "abc"));
@@ -480,7 +481,7 @@ void TestWindowsFiles::fileInUse()
 }
 
 // Until the last handle is closed the name is there or not, as the system likes.
-void TestWindowsFiles::deletedWhileOpen()
+void tst_WindowsFiles::deletedWhileOpen()
 {
     constexpr DWORD Everything = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
     const QString name = path(u"file"_s);
@@ -501,7 +502,7 @@ void TestWindowsFiles::deletedWhileOpen()
         QSKIP("SKIPPED: this system lets a deleted file be opened as long as somebody has it open");
 }
 
-void TestWindowsFiles::renameOverAReadOnlyFile()
+void tst_WindowsFiles::renameOverAReadOnlyFile()
 {
     QVERIFY(makeFile(path(u"file"_s), "abc"));
     QVERIFY(makeFile(path(u"new"_s), "another"));
@@ -515,7 +516,7 @@ void TestWindowsFiles::renameOverAReadOnlyFile()
     QCOMPARE(contentsOf(path(u"new"_s)), QByteArray("abc"));
 }
 
-void TestWindowsFiles::beyond260Characters()
+void tst_WindowsFiles::beyond260Characters()
 {
     QString folder = path(u"tree"_s);
     for (int i = 0; i < 5; ++i)
@@ -543,7 +544,7 @@ void TestWindowsFiles::beyond260Characters()
     QCOMPARE(files.info(path(u"tree"_s)).code(), quint32(FileNotFound));
 }
 
-void TestWindowsFiles::namesThatAreNoText()
+void tst_WindowsFiles::namesThatAreNoText()
 {
     const QString name = u"a"_s + QChar(0xD83D) + u"b"_s;
     const WinHandle made(::CreateFileW(toLongPath(path(name)).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
@@ -563,7 +564,7 @@ void TestWindowsFiles::namesThatAreNoText()
 }
 
 // "C:" with the prefix alone would be the volume as a device.
-void TestWindowsFiles::rootsAreFolders()
+void tst_WindowsFiles::rootsAreFolders()
 {
     const QString drive = QDir::rootPath().left(2);
     for (const QString &root : {drive, drive + u'/', drive + u"//"_s}) {
@@ -580,7 +581,7 @@ void TestWindowsFiles::rootsAreFolders()
     QVERIFY(QDir(path(u"folder"_s)).exists());
 }
 
-void TestWindowsFiles::removeTreeTakesReadOnlyEntries()
+void tst_WindowsFiles::removeTreeTakesReadOnlyEntries()
 {
     QVERIFY(QDir().mkpath(path(u"tree/a/b"_s)));
     for (const QString &name : {u"tree/file"_s, u"tree/a/b/file"_s}) {
@@ -594,7 +595,7 @@ void TestWindowsFiles::removeTreeTakesReadOnlyEntries()
     QVERIFY(snapshot(m_folder->path()).isEmpty());
 }
 
-void TestWindowsFiles::removeTreeGoesOnPastWhatIsInUse()
+void tst_WindowsFiles::removeTreeGoesOnPastWhatIsInUse()
 {
     QVERIFY(QDir().mkpath(path(u"tree/a/b"_s)));
     QVERIFY(QDir().mkpath(path(u"tree/c"_s)));
@@ -607,7 +608,7 @@ void TestWindowsFiles::removeTreeGoesOnPastWhatIsInUse()
                                                              path(u"tree/a/b"_s), path(u"tree/a/b/used"_s)}));
 }
 
-void TestWindowsFiles::linksAreSeen()
+void tst_WindowsFiles::linksAreSeen()
 {
     QVERIFY(makeFile(path(u"a link"_s), "abc"));
     QVERIFY(QDir().mkdir(path(u"b link"_s)));
@@ -632,7 +633,7 @@ void TestWindowsFiles::linksAreSeen()
     QCOMPARE(seen, expected);
 }
 
-void TestWindowsFiles::openOfALinkIsRefused()
+void tst_WindowsFiles::openOfALinkIsRefused()
 {
     QVERIFY(makeFile(path(u"link"_s), "abc"));
     PretendedLinks links;
@@ -643,7 +644,7 @@ void TestWindowsFiles::openOfALinkIsRefused()
 }
 
 // At the first look there was still a file.
-void TestWindowsFiles::openOfALinkThatIsSwappedIn()
+void tst_WindowsFiles::openOfALinkThatIsSwappedIn()
 {
     QVERIFY(makeFile(path(u"link"_s), "abc"));
     PretendedLinks links;
@@ -655,7 +656,7 @@ void TestWindowsFiles::openOfALinkThatIsSwappedIn()
 }
 
 // Deduplicated files and placeholders are no links: who removed them would call them erased.
-void TestWindowsFiles::filesWhoseBytesLieElsewhere()
+void tst_WindowsFiles::filesWhoseBytesLieElsewhere()
 {
     QVERIFY(makeFile(path(u"link"_s), "abc"));
     PretendedLinks deduplicated(IO_REPARSE_TAG_DEDUP);
@@ -677,7 +678,7 @@ void TestWindowsFiles::filesWhoseBytesLieElsewhere()
     QCOMPARE(contentsOf(path(u"link"_s)), QByteArray("abc"));
 }
 
-void TestWindowsFiles::linksAreNoFolders()
+void tst_WindowsFiles::linksAreNoFolders()
 {
     QVERIFY(QDir().mkdir(path(u"link"_s)));
     PretendedLinks links;
@@ -696,7 +697,7 @@ void TestWindowsFiles::linksAreNoFolders()
 }
 
 // Being a folder in truth, the link cannot be removed while something is in it.
-void TestWindowsFiles::removeTreeDoesNotEnterLinks()
+void tst_WindowsFiles::removeTreeDoesNotEnterLinks()
 {
     QVERIFY(QDir().mkpath(path(u"tree/a/link"_s)));
     QVERIFY(makeFile(path(u"tree/a/link/file"_s), "abc"));
@@ -709,7 +710,7 @@ void TestWindowsFiles::removeTreeDoesNotEnterLinks()
     QVERIFY(!QFile::exists(path(u"tree/b"_s)));
 }
 
-void TestWindowsFiles::junctionsAreRemovedThemselves()
+void tst_WindowsFiles::junctionsAreRemovedThemselves()
 {
     QVERIFY(QDir().mkpath(path(u"tree"_s)));
     QVERIFY(QDir().mkpath(path(u"outside"_s)));
@@ -727,7 +728,7 @@ void TestWindowsFiles::junctionsAreRemovedThemselves()
     QCOMPARE(contentsOf(path(u"outside/file"_s)), QByteArray("abc"));
 }
 
-void TestWindowsFiles::transfersGoOnAfterShortOnes()
+void tst_WindowsFiles::transfersGoOnAfterShortOnes()
 {
     QVERIFY(makeFile(path(u"file"_s), QByteArray(5000, 'a')));
     Win32Faults faults;
@@ -751,7 +752,7 @@ void TestWindowsFiles::transfersGoOnAfterShortOnes()
 }
 
 // More than a length of 32 bits holds; the memory is only reserved, nobody looks at it.
-void TestWindowsFiles::transfersGoInPieces()
+void tst_WindowsFiles::transfersGoInPieces()
 {
     constexpr qint64 Size = 5LL * 1024 * 1024 * 1024 + 77;
     void *const memory = ::VirtualAlloc(nullptr, SIZE_T(Size), MEM_RESERVE, PAGE_NOACCESS);
@@ -775,7 +776,7 @@ void TestWindowsFiles::transfersGoInPieces()
     QVERIFY(::VirtualFree(memory, 0, MEM_RELEASE));
 }
 
-void TestWindowsFiles::endOfFileIsNoFailure()
+void tst_WindowsFiles::endOfFileIsNoFailure()
 {
     QVERIFY(makeFile(path(u"file"_s), "abc"));
     Win32Faults faults;
@@ -789,7 +790,7 @@ void TestWindowsFiles::endOfFileIsNoFailure()
     QCOMPARE(file.value()->read(bytes, 100).code(), quint32(ERROR_CRC));
 }
 
-void TestWindowsFiles::noRoomEndsAWrite()
+void tst_WindowsFiles::noRoomEndsAWrite()
 {
     QVERIFY(makeFile(path(u"file"_s), "abc"));
     Win32Faults faults;
@@ -810,7 +811,7 @@ void TestWindowsFiles::noRoomEndsAWrite()
 }
 
 // The call had moved the file pointer before it failed.
-void TestWindowsFiles::positionAfterAFailure()
+void tst_WindowsFiles::positionAfterAFailure()
 {
     const QString name = path(u"file"_s);
     QVERIFY(makeFile(name, "abcdef"));
@@ -830,7 +831,7 @@ void TestWindowsFiles::positionAfterAFailure()
     QCOMPARE(contentsOf(name), QByteArray("axydef"));
 }
 
-void TestWindowsFiles::failedFlushStaysFailed()
+void tst_WindowsFiles::failedFlushStaysFailed()
 {
     QVERIFY(makeFile(path(u"file"_s), "abc"));
     Win32Faults faults;
@@ -841,14 +842,14 @@ void TestWindowsFiles::failedFlushStaysFailed()
     QCOMPARE(file.value()->flush().code, quint32(Injected));
 }
 
-void TestWindowsFiles::everyCallFailsOnce_data()
+void tst_WindowsFiles::everyCallFailsOnce_data()
 {
     QTest::addColumn<int>("operation");
     for (int i = 0; i < operations().size(); ++i)
         QTest::newRow(operations().at(i).name) << i;
 }
 
-void TestWindowsFiles::fillFolder()
+void tst_WindowsFiles::fillFolder()
 {
     QVERIFY(QDir().mkpath(path(u"at/tree/a/b"_s)));
     QVERIFY(QDir().mkpath(path(u"at/tree/c"_s)));
@@ -859,7 +860,7 @@ void TestWindowsFiles::fillFolder()
     QVERIFY(setAttributes(path(u"at/tree/read-only"_s), FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_HIDDEN));
 }
 
-void TestWindowsFiles::everyCallFailsOnce()
+void tst_WindowsFiles::everyCallFailsOnce()
 {
     QFETCH(int, operation);
     const Operation &scenario = operations().at(operation);
@@ -895,7 +896,7 @@ void TestWindowsFiles::everyCallFailsOnce()
     QVERIFY(fired > 0);
 }
 
-void TestWindowsFiles::systemVolume()
+void tst_WindowsFiles::systemVolume()
 {
     WindowsSession session;
     const QByteArray before = qgetenv("SystemDrive");
@@ -916,7 +917,7 @@ void TestWindowsFiles::systemVolume()
     QVERIFY(!session.holdsSystemFiles(u"C:/"_s));
 }
 
-void TestWindowsFiles::userIsNamedByTheSid()
+void tst_WindowsFiles::userIsNamedByTheSid()
 {
     WindowsSession session;
     const QString user = session.userId();
@@ -941,5 +942,5 @@ void TestWindowsFiles::userIsNamedByTheSid()
     QCOMPARE(faults.openMemory(), 0);
 }
 
-QTEST_GUILESS_MAIN(TestWindowsFiles)
+QUORVEX_SUITE(tst_WindowsFiles, QCoreApplication)
 #include "tst_windowsfiles.moc"

@@ -1,3 +1,5 @@
+#include "support/suite.h"
+
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
@@ -47,7 +49,7 @@ int waitForInterrupt()
 bool isControlToldOfInterrupt()
 {
     QProcess control;
-    control.start(QCoreApplication::applicationFilePath(), {u"--wait-for-interrupt"_s});
+    control.start(QCoreApplication::applicationFilePath(), {u"tst_windowsprogram"_s, u"--wait-for-interrupt"_s});
     if (!control.waitForReadyRead())
         return false;
     ::GenerateConsoleCtrlEvent(CTRL_C_EVENT, 0);
@@ -66,7 +68,7 @@ struct Finished
 
 // The program itself, with the arguments, streams and console of Windows. It sees no real drive and no folder
 // of the user.
-class TestWindowsProgram : public QObject
+class tst_WindowsProgram : public QObject
 {
     Q_OBJECT
 
@@ -138,7 +140,7 @@ private:
     std::unique_ptr<QTemporaryDir> m_folder;
 };
 
-void TestWindowsProgram::initTestCase()
+void tst_WindowsProgram::initTestCase()
 {
     // The program inherits the console, and with it who is told of Ctrl+C. One of our own: what was inherited
     // here may be a console without a window or input.
@@ -147,13 +149,13 @@ void TestWindowsProgram::initTestCase()
     QVERIFY(::SetConsoleCtrlHandler(noteControl, TRUE));
 }
 
-void TestWindowsProgram::init()
+void tst_WindowsProgram::init()
 {
     m_folder = std::make_unique<QTemporaryDir>();
     QVERIFY(m_folder->isValid());
 }
 
-void TestWindowsProgram::itCarriesItsResources()
+void tst_WindowsProgram::itCarriesItsResources()
 {
     const QString program = QCoreApplication::applicationDirPath() + u'/' + QStringLiteral(QUORVEX_CLI);
     const HMODULE module =
@@ -178,7 +180,7 @@ void TestWindowsProgram::itCarriesItsResources()
     ::FreeLibrary(module);
 }
 
-void TestWindowsProgram::itTellsItsVersion()
+void tst_WindowsProgram::itTellsItsVersion()
 {
     const Finished finished = run({u"--version"_s});
     QCOMPARE(finished.code, 0);
@@ -186,7 +188,7 @@ void TestWindowsProgram::itTellsItsVersion()
     QCOMPARE(finished.err, QByteArray());
 }
 
-void TestWindowsProgram::itListsTheMethods()
+void tst_WindowsProgram::itListsTheMethods()
 {
     const Finished finished = run({u"methods"_s, u"--json"_s});
     QCOMPARE(finished.code, 0);
@@ -195,7 +197,7 @@ void TestWindowsProgram::itListsTheMethods()
     QCOMPARE(methods.at(4).toObject().value(u"passes"_s).toArray().size(), 35);
 }
 
-void TestWindowsProgram::itListsTheImage()
+void tst_WindowsProgram::itListsTheImage()
 {
     const Finished finished = run({u"disks"_s, u"--json"_s, u"--image"_s, image(1'000'448)});
     QCOMPARE(finished.code, 0);
@@ -205,7 +207,7 @@ void TestWindowsProgram::itListsTheImage()
     QCOMPARE(disks.at(0).toObject().value(u"isSystemDisk"_s), QJsonValue(false));
 }
 
-void TestWindowsProgram::anImageIsErasedToTheLastByte()
+void tst_WindowsProgram::anImageIsErasedToTheLastByte()
 {
     const QString path = image(5'000'700); // no whole number of sectors
     const QString report = m_folder->filePath(u"证书 ü.json"_s);
@@ -219,7 +221,7 @@ void TestWindowsProgram::anImageIsErasedToTheLastByte()
     QCOMPARE(json.value(u"computerName"_s), QJsonValue(qEnvironmentVariable("COMPUTERNAME")));
 }
 
-void TestWindowsProgram::filesAreErasedWhateverTheirNames_data()
+void tst_WindowsProgram::filesAreErasedWhateverTheirNames_data()
 {
     QTest::addColumn<QString>("name");
     QTest::newRow("plain") << u"plain.txt"_s;
@@ -230,7 +232,7 @@ void TestWindowsProgram::filesAreErasedWhateverTheirNames_data()
     QTest::newRow("lone surrogate") << QString(u"lone"_s) + QChar(0xD800) + u".txt"_s;
 }
 
-void TestWindowsProgram::filesAreErasedWhateverTheirNames()
+void tst_WindowsProgram::filesAreErasedWhateverTheirNames()
 {
     QFETCH(const QString, name);
     const QString path = m_folder->filePath(name);
@@ -246,7 +248,7 @@ void TestWindowsProgram::filesAreErasedWhateverTheirNames()
     QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files), QStringList());
 }
 
-void TestWindowsProgram::aFolderIsErased()
+void tst_WindowsProgram::aFolderIsErased()
 {
     const QString folder = m_folder->filePath(u"项目/b/c"_s);
     QVERIFY(QDir().mkpath(folder));
@@ -260,7 +262,7 @@ void TestWindowsProgram::aFolderIsErased()
     QVERIFY(!QFile::exists(m_folder->filePath(u"项目"_s)));
 }
 
-void TestWindowsProgram::aLongPathIsErased()
+void tst_WindowsProgram::aLongPathIsErased()
 {
     QString folder = m_folder->path();
     while (folder.size() < 300)
@@ -272,7 +274,7 @@ void TestWindowsProgram::aLongPathIsErased()
     QVERIFY(!QFile::exists(folder + u"/file"_s));
 }
 
-void TestWindowsProgram::namesComeOutAsUtf8()
+void tst_WindowsProgram::namesComeOutAsUtf8()
 {
     const QString path = m_folder->filePath(u"没有.txt"_s);
     const Finished finished = run({u"wipe"_s, u"files"_s, path, u"--yes"_s});
@@ -280,7 +282,7 @@ void TestWindowsProgram::namesComeOutAsUtf8()
     QVERIFY2(finished.err.contains("没有.txt"), finished.err.constData());
 }
 
-void TestWindowsProgram::withoutAConsoleItRefuses()
+void tst_WindowsProgram::withoutAConsoleItRefuses()
 {
     // Its standard input is a pipe: nobody can type the word.
     const QString path = image();
@@ -289,7 +291,7 @@ void TestWindowsProgram::withoutAConsoleItRefuses()
     QCOMPARE(content(path), QByteArray(1 << 20, 'x'));
 }
 
-void TestWindowsProgram::exitCodes_data()
+void tst_WindowsProgram::exitCodes_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<int>("code");
@@ -302,7 +304,7 @@ void TestWindowsProgram::exitCodes_data()
     QTest::newRow("no such image") << QStringList{u"disks"_s, u"--image"_s, u"C:\\no such image"_s} << 3;
 }
 
-void TestWindowsProgram::exitCodes()
+void tst_WindowsProgram::exitCodes()
 {
     QFETCH(const QStringList, arguments);
     QFETCH(const int, code);
@@ -311,7 +313,7 @@ void TestWindowsProgram::exitCodes()
     QVERIFY2(finished.code == code, (QByteArray::number(finished.code) + ": " + finished.err).constData());
 }
 
-void TestWindowsProgram::interruptCancelsTheJob()
+void tst_WindowsProgram::interruptCancelsTheJob()
 {
     s_interrupted = false;
     // Long enough for the event to come before the end, whatever else the machine does.
@@ -340,13 +342,13 @@ void TestWindowsProgram::interruptCancelsTheJob()
     QCOMPARE(QJsonDocument::fromJson(content(report)).object(), last.value(u"report"_s).toObject());
 }
 
-int main(int argc, char *argv[])
+static int runSuite(int argc, char *argv[])
 {
     if (argc > 1 && qstrcmp(argv[1], "--wait-for-interrupt") == 0)
         return waitForInterrupt();
     const QCoreApplication application(argc, argv);
-    TestWindowsProgram test;
+    tst_WindowsProgram test;
     return QTest::qExec(&test, argc, argv);
 }
-
+QUORVEX_SUITE_RUN(tst_WindowsProgram, runSuite)
 #include "tst_windowsprogram.moc"

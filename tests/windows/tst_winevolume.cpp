@@ -1,6 +1,7 @@
 #include "engine/diskwipeworker.h"
 #include "model/wipetask.h"
 #include "platform/windows/win32calls.h"
+#include "support/suite.h"
 #include "support/workerrecord.h"
 
 #include <QFile>
@@ -113,7 +114,7 @@ private:
 } // namespace
 
 // Volumes opened, locked and written to by the system's own calls.
-class TestWineVolume : public QObject
+class tst_WineVolume : public QObject
 {
     Q_OBJECT
 
@@ -122,7 +123,7 @@ private slots:
     void everyByteIsWrittenThroughTheVolume();
 };
 
-void TestWineVolume::everyByteIsWrittenThroughTheVolume_data()
+void tst_WineVolume::everyByteIsWrittenThroughTheVolume_data()
 {
     QTest::addColumn<QString>("volume");
     QTest::addColumn<int>("method");
@@ -135,7 +136,7 @@ void TestWineVolume::everyByteIsWrittenThroughTheVolume_data()
     QTest::newRow("block device") << u"F:"_s << 3 << VolumeSize + 5 * 1024 * 1024;
 }
 
-void TestWineVolume::everyByteIsWrittenThroughTheVolume()
+void tst_WineVolume::everyByteIsWrittenThroughTheVolume()
 {
     QFETCH(const QString, volume);
     QFETCH(const int, method);
@@ -185,5 +186,5 @@ void TestWineVolume::everyByteIsWrittenThroughTheVolume()
     QCOMPARE(drive.readAll(), QByteArray(512, 'd'));
 }
 
-QTEST_GUILESS_MAIN(TestWineVolume)
+QUORVEX_SUITE(tst_WineVolume, QCoreApplication)
 #include "tst_winevolume.moc"

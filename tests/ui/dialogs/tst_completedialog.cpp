@@ -1,3 +1,4 @@
+#include "support/suite.h"
 #include "ui/dialogs/completedialog.h"
 
 #include "ui/style/uiresources.h"
@@ -184,5 +185,5 @@ void tst_CompleteDialog::textsFitIntoTheDialog()
     }
 }
 
-QTEST_MAIN(tst_CompleteDialog)
+QUORVEX_SUITE(tst_CompleteDialog, QApplication)
 #include "tst_completedialog.moc"

@@ -1,3 +1,4 @@
+#include "support/suite.h"
 #include "ui/dialogs/confirmdialog.h"
 
 #include <QApplication>
@@ -256,5 +257,5 @@ void tst_ConfirmDialog::enterAcceptsOnlyAfterTheWord()
     QCOMPARE(rejected.count(), 0);
 }
 
-QTEST_MAIN(tst_ConfirmDialog)
+QUORVEX_SUITE(tst_ConfirmDialog, QApplication)
 #include "tst_confirmdialog.moc"

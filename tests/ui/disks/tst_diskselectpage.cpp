@@ -1,3 +1,4 @@
+#include "support/suite.h"
 #include "ui/disks/diskselectpage.h"
 
 #include "support/fakedevices.h"
@@ -642,5 +643,5 @@ void tst_DiskSelectPage::everyControlHasAName()
     }
 }
 
-QTEST_MAIN(tst_DiskSelectPage)
+QUORVEX_SUITE(tst_DiskSelectPage, QApplication)
 #include "tst_diskselectpage.moc"

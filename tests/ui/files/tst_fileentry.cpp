@@ -1,3 +1,4 @@
+#include "support/suite.h"
 #include "ui/files/fileentry.h"
 
 #include "support/links.h"
@@ -181,5 +182,5 @@ void tst_FileEntry::listTexts()
     QCOMPARE(entry.listText(), text);
 }
 
-QTEST_MAIN(tst_FileEntry)
+QUORVEX_SUITE(tst_FileEntry, QApplication)
 #include "tst_fileentry.moc"

@@ -1,3 +1,4 @@
+#include "support/suite.h"
 #include "ui/files/fileselectpage.h"
 
 #include "support/scriptedprompts.h"
@@ -764,5 +765,5 @@ void tst_FileSelectPage::everyControlHasAName()
     }
 }
 
-QTEST_MAIN(tst_FileSelectPage)
+QUORVEX_SUITE(tst_FileSelectPage, QApplication)
 #include "tst_fileselectpage.moc"

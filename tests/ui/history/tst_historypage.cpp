@@ -1,3 +1,4 @@
+#include "support/suite.h"
 #include "ui/history/historypage.h"
 
 #include "model/filledreport.h"
@@ -645,7 +646,7 @@ void tst_HistoryPage::clearingRemovesWhatIsLoaded()
     QCOMPARE(prompts.boxes.last().text, u"所有记录已清除"_s);
 }
 
-int main(int argc, char *argv[])
+static int runSuite(int argc, char *argv[])
 {
 #ifdef Q_OS_WIN
     // What the variable of init() is elsewhere: the folders of Windows come from the registry.
@@ -657,5 +658,5 @@ int main(int argc, char *argv[])
     tst_HistoryPage test;
     return QTest::qExec(&test, argc, argv);
 }
-
+QUORVEX_SUITE_RUN(tst_HistoryPage, runSuite)
 #include "tst_historypage.moc"

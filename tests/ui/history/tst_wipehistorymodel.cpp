@@ -1,3 +1,4 @@
+#include "support/suite.h"
 #include "ui/history/wipehistorymodel.h"
 
 #include "model/filledreport.h"
@@ -202,5 +203,5 @@ void tst_WipeHistoryModel::theToolkitsTesterIsContent()
     QCOMPARE(model.rowCount(), 0);
 }
 
-QTEST_MAIN(tst_WipeHistoryModel)
+QUORVEX_SUITE(tst_WipeHistoryModel, QApplication)
 #include "tst_wipehistorymodel.moc"

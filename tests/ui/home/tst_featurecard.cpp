@@ -1,3 +1,4 @@
+#include "support/suite.h"
 #include "ui/home/featurecard.h"
 
 #include "ui/style/uiresources.h"
@@ -262,5 +263,5 @@ void tst_FeatureCard::isAButtonToAssistiveTechnology()
     QCOMPARE(clicked.count(), 1);
 }
 
-QTEST_MAIN(tst_FeatureCard)
+QUORVEX_SUITE(tst_FeatureCard, QApplication)
 #include "tst_featurecard.moc"

@@ -1,3 +1,4 @@
+#include "support/suite.h"
 #include "ui/home/homepage.h"
 
 #include "ui/home/featurecard.h"
@@ -176,5 +177,5 @@ void tst_HomePage::tabGoesFromCardToCard()
     }
 }
 
-QTEST_MAIN(tst_HomePage)
+QUORVEX_SUITE(tst_HomePage, QApplication)
 #include "tst_homepage.moc"

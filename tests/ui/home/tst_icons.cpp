@@ -1,3 +1,4 @@
+#include "support/suite.h"
 #include "ui/style/uiresources.h"
 
 #include <QFile>
@@ -109,5 +110,5 @@ void tst_Icons::menuIconsDifferInColourOnly()
     QCOMPARE(alpha(u":/icons/%1.svg"_s.arg(name)), alpha(u":/icons/%1_active.svg"_s.arg(name)));
 }
 
-QTEST_MAIN(tst_Icons)
+QUORVEX_SUITE(tst_Icons, QApplication)
 #include "tst_icons.moc"

@@ -1,3 +1,4 @@
+#include "support/suite.h"
 #include "ui/mainwindow/windowfixture.h"
 
 #include "support/fakedevices.h"
@@ -10,7 +11,7 @@
 using namespace Qt::StringLiterals;
 
 // Free space of a mounted file system, from the card on the home page to the stored report and its PDF.
-class TestFreeSpaceFlow : public QObject
+class tst_FreeSpaceFlow : public QObject
 {
     Q_OBJECT
 
@@ -62,13 +63,13 @@ constexpr qint64 Size = qint64(192) << 20;
 
 } // namespace
 
-void TestFreeSpaceFlow::initTestCase()
+void tst_FreeSpaceFlow::initTestCase()
 {
     if (const QString reason = LoopMount::unavailableReason(LoopMount::Ext4); !reason.isEmpty())
         QSKIP(qPrintable(reason));
 }
 
-void TestFreeSpaceFlow::freeSpaceIsErasedAndFilesStay()
+void tst_FreeSpaceFlow::freeSpaceIsErasedAndFilesStay()
 {
     const QTemporaryDir folder;
     const QTemporaryDir exports;
@@ -96,7 +97,7 @@ void TestFreeSpaceFlow::freeSpaceIsErasedAndFilesStay()
     QVERIFY(contentOfTestFile(pdf).startsWith("%PDF-"));
 }
 
-void TestFreeSpaceFlow::aVolumeThatIsGoneFailsTheJob()
+void tst_FreeSpaceFlow::aVolumeThatIsGoneFailsTheJob()
 {
     const QTemporaryDir folder;
     LoopMount volume(folder.path(), {.fileSystem = LoopMount::Ext4, .sizeBytes = Size});
@@ -111,5 +112,5 @@ void TestFreeSpaceFlow::aVolumeThatIsGoneFailsTheJob()
     QVERIFY(QDir(volume.mountPoint()).isEmpty());
 }
 
-QTEST_MAIN(TestFreeSpaceFlow)
+QUORVEX_SUITE(tst_FreeSpaceFlow, QApplication)
 #include "tst_freespaceflow.moc"

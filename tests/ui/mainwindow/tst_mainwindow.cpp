@@ -1,3 +1,4 @@
+#include "support/suite.h"
 #include "ui/mainwindow/windowfixture.h"
 
 #include "ui/home/featurecard.h"
@@ -9,7 +10,7 @@
 using namespace Qt::StringLiterals;
 
 // The window itself: pages, menu, frame, boxes.
-class TestMainWindow : public QObject
+class tst_MainWindow : public QObject
 {
     Q_OBJECT
 
@@ -43,7 +44,7 @@ static WinButton *titleButton(const WindowFixture &fixture, WinButton::Kind kind
     return nullptr;
 }
 
-void TestMainWindow::theWindowIsAsItShouldBe()
+void tst_MainWindow::theWindowIsAsItShouldBe()
 {
     WindowFixture fixture;
     const MainWindow &window = *fixture.window;
@@ -69,7 +70,7 @@ void TestMainWindow::theWindowIsAsItShouldBe()
     QCOMPARE(window.currentPage(), int(MainWindow::Home));
 }
 
-void TestMainWindow::theMenuLeadsToItsPages()
+void tst_MainWindow::theMenuLeadsToItsPages()
 {
     WindowFixture fixture;
     auto *menu = fixture.child<QListWidget>("menuList");
@@ -81,7 +82,7 @@ void TestMainWindow::theMenuLeadsToItsPages()
     }
 }
 
-void TestMainWindow::aPageSelectsItsMenuRow_data()
+void tst_MainWindow::aPageSelectsItsMenuRow_data()
 {
     QTest::addColumn<int>("page");
     QTest::addColumn<int>("row");
@@ -91,7 +92,7 @@ void TestMainWindow::aPageSelectsItsMenuRow_data()
     QTest::newRow("settings") << int(MainWindow::Settings) << 2;
 }
 
-void TestMainWindow::aPageSelectsItsMenuRow()
+void tst_MainWindow::aPageSelectsItsMenuRow()
 {
     QFETCH(int, page);
     QFETCH(int, row);
@@ -101,7 +102,7 @@ void TestMainWindow::aPageSelectsItsMenuRow()
     QCOMPARE(fixture.child<QListWidget>("menuList")->currentRow(), row);
 }
 
-void TestMainWindow::indexesWithoutAPageChangeNothing()
+void tst_MainWindow::indexesWithoutAPageChangeNothing()
 {
     WindowFixture fixture;
     fixture.window->onNavigateToPage(5);
@@ -112,7 +113,7 @@ void TestMainWindow::indexesWithoutAPageChangeNothing()
     QCOMPARE(fixture.child<QListWidget>("menuList")->currentRow(), 1);
 }
 
-void TestMainWindow::eachCardLeadsToItsFlow_data()
+void tst_MainWindow::eachCardLeadsToItsFlow_data()
 {
     QTest::addColumn<QString>("card");
     QTest::addColumn<int>("page");
@@ -126,7 +127,7 @@ void TestMainWindow::eachCardLeadsToItsFlow_data()
     row(u"Recycle Bin Wipe"_s, MainWindow::FileSelect, u"Recycle Bin Wipe"_s);
 }
 
-void TestMainWindow::eachCardLeadsToItsFlow()
+void tst_MainWindow::eachCardLeadsToItsFlow()
 {
     QFETCH(QString, card);
     QFETCH(int, page);
@@ -141,7 +142,7 @@ void TestMainWindow::eachCardLeadsToItsFlow()
     QCOMPARE(fixture.page()->findChild<QLabel *>(u"pageTitle"_s)->text(), title);
 }
 
-void TestMainWindow::backLeadsHome()
+void tst_MainWindow::backLeadsHome()
 {
     WindowFixture fixture;
     fixture.window->onDiskWipeClicked();
@@ -155,7 +156,7 @@ void TestMainWindow::backLeadsHome()
     QCOMPARE(fixture.window->currentPage(), int(MainWindow::Progress));
 }
 
-void TestMainWindow::backFromTheMethodsLeadsToWhatWasChosen()
+void tst_MainWindow::backFromTheMethodsLeadsToWhatWasChosen()
 {
     WindowFixture fixture;
     fixture.window->onFileWipeClicked();
@@ -169,7 +170,7 @@ void TestMainWindow::backFromTheMethodsLeadsToWhatWasChosen()
     QCOMPARE(fixture.window->currentPage(), int(MainWindow::DiskSelect));
 }
 
-void TestMainWindow::maximiseAndRestore()
+void tst_MainWindow::maximiseAndRestore()
 {
     WindowFixture fixture;
     WinButton *button = titleButton(fixture, WinButton::Maximize);
@@ -184,14 +185,14 @@ void TestMainWindow::maximiseAndRestore()
     QTRY_COMPARE(button->toolTip(), u"Restore"_s);
 }
 
-void TestMainWindow::theMinimiseButtonMinimises()
+void tst_MainWindow::theMinimiseButtonMinimises()
 {
     WindowFixture fixture;
     QTest::mouseClick(titleButton(fixture, WinButton::Minimize), Qt::LeftButton);
     QTRY_VERIFY(fixture.window->isMinimized());
 }
 
-void TestMainWindow::theWindowIsDraggedByItsTop_data()
+void tst_MainWindow::theWindowIsDraggedByItsTop_data()
 {
     QTest::addColumn<int>("y");
     QTest::addColumn<bool>("moves");
@@ -202,7 +203,7 @@ void TestMainWindow::theWindowIsDraggedByItsTop_data()
 }
 
 // Presses where the window itself, or a widget that lets the press through, is under the cursor.
-void TestMainWindow::theWindowIsDraggedByItsTop()
+void tst_MainWindow::theWindowIsDraggedByItsTop()
 {
     QFETCH(int, y);
     QFETCH(bool, moves);
@@ -228,7 +229,7 @@ void TestMainWindow::theWindowIsDraggedByItsTop()
     QCOMPARE(fixture.window->pos() - before, moves ? QPoint(30, 20) : QPoint()); // released
 }
 
-void TestMainWindow::aPressOnAButtonDoesNotDrag()
+void tst_MainWindow::aPressOnAButtonDoesNotDrag()
 {
     WindowFixture fixture;
     QVERIFY(QTest::qWaitForWindowExposed(fixture.window.get()));
@@ -245,7 +246,7 @@ void TestMainWindow::aPressOnAButtonDoesNotDrag()
     QCOMPARE(fixture.window->pos(), before);
 }
 
-void TestMainWindow::anIdleWindowClosesAtOnce()
+void tst_MainWindow::anIdleWindowClosesAtOnce()
 {
     WindowFixture fixture;
     QTest::mouseClick(titleButton(fixture, WinButton::Close), Qt::LeftButton);
@@ -253,7 +254,7 @@ void TestMainWindow::anIdleWindowClosesAtOnce()
     QCOMPARE(fixture.prompts.boxes.size(), 0);
 }
 
-void TestMainWindow::theAboutBoxTellsTheVersion()
+void tst_MainWindow::theAboutBoxTellsTheVersion()
 {
     WindowFixture fixture;
     fixture.window->onAboutClicked();
@@ -264,12 +265,12 @@ void TestMainWindow::theAboutBoxTellsTheVersion()
     QVERIFY(box.styleSheet.contains(u"#333333"_s));
 }
 
-void TestMainWindow::everyPageHasTheSheetOfTheApplication()
+void tst_MainWindow::everyPageHasTheSheetOfTheApplication()
 {
     WindowFixture fixture;
     QVERIFY(fixture.window->styleSheet().contains(u"#primaryBtn"_s));
     QVERIFY(fixture.window->styleSheet().contains(u"#menuList::item:selected"_s));
 }
 
-QTEST_MAIN(TestMainWindow)
+QUORVEX_SUITE(tst_MainWindow, QApplication)
 #include "tst_mainwindow.moc"

@@ -1,3 +1,4 @@
+#include "support/suite.h"
 #include "ui/mainwindow/windowfixture.h"
 
 #include "ui/files/fileselectpage.h"
@@ -18,7 +19,7 @@
 using namespace Qt::StringLiterals;
 
 // The Recycle Bin on the main window, on a Trash of the test's own.
-class TestRecycleBinFlow : public QObject
+class tst_RecycleBinFlow : public QObject
 {
     Q_OBJECT
 
@@ -45,19 +46,19 @@ private:
     static QString trash(const WindowFixture &fixture, const QString &name = {});
 };
 
-void TestRecycleBinFlow::initTestCase()
+void tst_RecycleBinFlow::initTestCase()
 {
 #ifdef Q_OS_WIN
     QSKIP("SKIPPED: the bins of Windows lie on its drives, of which a test sees none");
 #endif
 }
 
-QString TestRecycleBinFlow::trash(const WindowFixture &fixture, const QString &name)
+QString tst_RecycleBinFlow::trash(const WindowFixture &fixture, const QString &name)
 {
     return fixture.homePath(u"data/Trash/"_s) + name;
 }
 
-void TestRecycleBinFlow::addTrash(const WindowFixture &fixture, int count)
+void tst_RecycleBinFlow::addTrash(const WindowFixture &fixture, int count)
 {
     QVERIFY(QDir().mkpath(trash(fixture, u"info"_s)));
     for (int i = 0; i < count; ++i) {
@@ -68,7 +69,7 @@ void TestRecycleBinFlow::addTrash(const WindowFixture &fixture, int count)
     }
 }
 
-void TestRecycleBinFlow::theBinIsShownInPieces()
+void tst_RecycleBinFlow::theBinIsShownInPieces()
 {
     WindowFixture fixture;
     addTrash(fixture, 45);
@@ -96,7 +97,7 @@ void TestRecycleBinFlow::theBinIsShownInPieces()
     QCOMPARE(page->list()->count(), 45);
 }
 
-void TestRecycleBinFlow::theShownBinIsErasedAndFreeSpaceOffered()
+void tst_RecycleBinFlow::theShownBinIsErasedAndFreeSpaceOffered()
 {
     WindowFixture fixture;
     addTrash(fixture, 3);
@@ -113,7 +114,7 @@ void TestRecycleBinFlow::theShownBinIsErasedAndFreeSpaceOffered()
     QCOMPARE(fixture.reports().size(), 1);
 }
 
-void TestRecycleBinFlow::anEmptyBinLeadsHomeAndOffersFreeSpace_data()
+void tst_RecycleBinFlow::anEmptyBinLeadsHomeAndOffersFreeSpace_data()
 {
     QTest::addColumn<int>("answer");
     QTest::addColumn<int>("page");
@@ -121,7 +122,7 @@ void TestRecycleBinFlow::anEmptyBinLeadsHomeAndOffersFreeSpace_data()
     QTest::newRow("yes") << int(QMessageBox::Yes) << int(MainWindow::DiskSelect);
 }
 
-void TestRecycleBinFlow::anEmptyBinLeadsHomeAndOffersFreeSpace()
+void tst_RecycleBinFlow::anEmptyBinLeadsHomeAndOffersFreeSpace()
 {
     QFETCH(int, answer);
     QFETCH(int, page);
@@ -133,7 +134,7 @@ void TestRecycleBinFlow::anEmptyBinLeadsHomeAndOffersFreeSpace()
     QCOMPARE(fixture.window->currentPage(), page);
 }
 
-void TestRecycleBinFlow::backDuringTheScanDropsItsResult()
+void tst_RecycleBinFlow::backDuringTheScanDropsItsResult()
 {
     WindowFixture fixture;
     addTrash(fixture, 5);
@@ -151,7 +152,7 @@ void TestRecycleBinFlow::backDuringTheScanDropsItsResult()
     QVERIFY(fixture.button(u"📄 Add Files"_s)->isVisible());
 }
 
-void TestRecycleBinFlow::backAfterTheScanRestoresThePage()
+void tst_RecycleBinFlow::backAfterTheScanRestoresThePage()
 {
     WindowFixture fixture;
     addTrash(fixture, 5);
@@ -167,7 +168,7 @@ void TestRecycleBinFlow::backAfterTheScanRestoresThePage()
 }
 
 // The menu leads home from a page of the bin without a way back.
-void TestRecycleBinFlow::anotherFlowLeavesTheBin()
+void tst_RecycleBinFlow::anotherFlowLeavesTheBin()
 {
     WindowFixture fixture;
     addTrash(fixture, 3);
@@ -186,7 +187,7 @@ void TestRecycleBinFlow::anotherFlowLeavesTheBin()
     QCOMPARE(fixture.prompts.boxes.size(), 0); // no offer of the bin
 }
 
-void TestRecycleBinFlow::aFileJobAfterTheBinHasItsPageBack()
+void tst_RecycleBinFlow::aFileJobAfterTheBinHasItsPageBack()
 {
     WindowFixture fixture;
     addTrash(fixture, 3);
@@ -200,7 +201,7 @@ void TestRecycleBinFlow::aFileJobAfterTheBinHasItsPageBack()
     QCOMPARE(fixture.page()->findChild<QLabel *>(u"pageTitle"_s)->text(), u"Select Files to Shred"_s);
 }
 
-void TestRecycleBinFlow::namesOfErasedFoldersLeaveTheRecords()
+void tst_RecycleBinFlow::namesOfErasedFoldersLeaveTheRecords()
 {
     WindowFixture fixture;
     QVERIFY(QDir().mkpath(trash(fixture, u"info"_s)));
@@ -215,7 +216,7 @@ void TestRecycleBinFlow::namesOfErasedFoldersLeaveTheRecords()
     QVERIFY(!contentOfTestFile(trash(fixture, u"directorysizes"_s)).contains("project"));
 }
 
-void TestRecycleBinFlow::aNameThatIsNoUnicodeIsErasedToo()
+void tst_RecycleBinFlow::aNameThatIsNoUnicodeIsErasedToo()
 {
 #ifdef Q_OS_UNIX
     WindowFixture fixture;
@@ -244,7 +245,7 @@ void TestRecycleBinFlow::aNameThatIsNoUnicodeIsErasedToo()
 }
 
 // They would be listed, and not be erased with the rest.
-void TestRecycleBinFlow::dropsOnTheShownBinAreIgnored()
+void tst_RecycleBinFlow::dropsOnTheShownBinAreIgnored()
 {
     WindowFixture fixture;
     addTrash(fixture, 3);
@@ -261,7 +262,7 @@ void TestRecycleBinFlow::dropsOnTheShownBinAreIgnored()
     QVERIFY(page->files().isEmpty());
 }
 
-void TestRecycleBinFlow::backFromTheMethodsKeepsTheBin()
+void tst_RecycleBinFlow::backFromTheMethodsKeepsTheBin()
 {
     WindowFixture fixture;
     addTrash(fixture, 5);
@@ -275,7 +276,7 @@ void TestRecycleBinFlow::backFromTheMethodsKeepsTheBin()
     QVERIFY(page->nextButton()->isEnabled());
 }
 
-void TestRecycleBinFlow::whatVanishesAfterTheScanStopsTheJob()
+void tst_RecycleBinFlow::whatVanishesAfterTheScanStopsTheJob()
 {
     WindowFixture fixture;
     addTrash(fixture, 2);
@@ -292,5 +293,5 @@ void TestRecycleBinFlow::whatVanishesAfterTheScanStopsTheJob()
     QVERIFY(QFile::exists(trash(fixture, u"files/file001.txt"_s)));
 }
 
-QTEST_MAIN(TestRecycleBinFlow)
+QUORVEX_SUITE(tst_RecycleBinFlow, QApplication)
 #include "tst_recyclebinflow.moc"

@@ -1,10 +1,11 @@
+#include "support/suite.h"
 #include "ui/mainwindow/shadowcanvas.h"
 
 #include <QTest>
 #include <QVBoxLayout>
 
 // The shadow behind the window's box.
-class TestShadowCanvas : public QObject
+class tst_ShadowCanvas : public QObject
 {
     Q_OBJECT
 
@@ -50,7 +51,7 @@ int alpha(const QImage &picture, int x, int y)
 
 } // namespace
 
-void TestShadowCanvas::fadesAroundTheBox()
+void tst_ShadowCanvas::fadesAroundTheBox()
 {
     Shown shown;
     const QImage picture = shown.picture();
@@ -67,7 +68,7 @@ void TestShadowCanvas::fadesAroundTheBox()
     QCOMPARE(QColor(picture.pixel(middle, bottom)).rgb(), QColor(Qt::black).rgb());
 }
 
-void TestShadowCanvas::fallsDownwards()
+void tst_ShadowCanvas::fallsDownwards()
 {
     Shown shown;
     const QImage picture = shown.picture();
@@ -79,7 +80,7 @@ void TestShadowCanvas::fallsDownwards()
 }
 
 // Nothing shines through a box that is not opaque.
-void TestShadowCanvas::leavesTheBoxItself()
+void tst_ShadowCanvas::leavesTheBoxItself()
 {
     Shown shown;
     const QImage picture = shown.picture();
@@ -89,7 +90,7 @@ void TestShadowCanvas::leavesTheBoxItself()
     QVERIFY(alpha(picture, Margin + 1, Margin + 198) > 0); // beyond the round corner
 }
 
-void TestShadowCanvas::followsTheSizeOfTheBox()
+void tst_ShadowCanvas::followsTheSizeOfTheBox()
 {
     Shown shown;
     const int below = alpha(shown.picture(), 100, Margin + 200 + 2);
@@ -99,7 +100,7 @@ void TestShadowCanvas::followsTheSizeOfTheBox()
     QCOMPARE(alpha(picture, 100, Margin + 200 + 2), 0);
 }
 
-void TestShadowCanvas::isSharpOnEveryScreen()
+void tst_ShadowCanvas::isSharpOnEveryScreen()
 {
     Shown shown;
     const QImage one = shown.picture();
@@ -110,5 +111,5 @@ void TestShadowCanvas::isSharpOnEveryScreen()
     }
 }
 
-QTEST_MAIN(TestShadowCanvas)
+QUORVEX_SUITE(tst_ShadowCanvas, QApplication)
 #include "tst_shadowcanvas.moc"

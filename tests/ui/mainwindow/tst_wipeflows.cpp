@@ -1,3 +1,4 @@
+#include "support/suite.h"
 #include "ui/mainwindow/windowfixture.h"
 
 #include "certificate/certificatedialog.h"
@@ -14,7 +15,7 @@
 using namespace Qt::StringLiterals;
 
 // Jobs from the first click to the completion dialog, with the real engine and workers.
-class TestWipeFlows : public QObject
+class tst_WipeFlows : public QObject
 {
     Q_OBJECT
 
@@ -95,7 +96,7 @@ void startLongJob(WindowFixture &fixture, const QTemporaryDir &folder)
 
 } // namespace
 
-void TestWipeFlows::aDiskIsErasedAndItsReportKept()
+void tst_WipeFlows::aDiskIsErasedAndItsReportKept()
 {
     const QString path = image();
     WindowFixture fixture({path});
@@ -112,7 +113,7 @@ void TestWipeFlows::aDiskIsErasedAndItsReportKept()
     QCOMPARE(fixture.child<QListWidget>("menuList")->styleSheet(), QString());
 }
 
-void TestWipeFlows::filesAreErased()
+void tst_WipeFlows::filesAreErased()
 {
     const QString one = m_folder.filePath(u"one.txt"_s);
     QVERIFY(writeTestFile(one, "one"));
@@ -124,7 +125,7 @@ void TestWipeFlows::filesAreErased()
     QCOMPARE(fixture.reports().constFirst().fileCount, 1);
 }
 
-void TestWipeFlows::cancellingTheConfirmationStartsNothing()
+void tst_WipeFlows::cancellingTheConfirmationStartsNothing()
 {
     const QString one = m_folder.filePath(u"one.txt"_s);
     QVERIFY(writeTestFile(one, "one"));
@@ -137,7 +138,7 @@ void TestWipeFlows::cancellingTheConfirmationStartsNothing()
     QCOMPARE(contentOfTestFile(one), QByteArray("one"));
 }
 
-void TestWipeFlows::theMenuIsDisabledWhileAJobRuns()
+void tst_WipeFlows::theMenuIsDisabledWhileAJobRuns()
 {
     WindowFixture fixture;
     startLongJob(fixture, m_folder);
@@ -148,7 +149,7 @@ void TestWipeFlows::theMenuIsDisabledWhileAJobRuns()
     QVERIFY(fixture.child<QListWidget>("menuList")->isEnabled());
 }
 
-void TestWipeFlows::stoppingAsksFirst()
+void tst_WipeFlows::stoppingAsksFirst()
 {
     WindowFixture fixture;
     startLongJob(fixture, m_folder);
@@ -162,7 +163,7 @@ void TestWipeFlows::stoppingAsksFirst()
     QVERIFY(!isJobRunning(fixture));
 }
 
-void TestWipeFlows::aStoppedJobLeavesItsReport()
+void tst_WipeFlows::aStoppedJobLeavesItsReport()
 {
     WindowFixture fixture;
     startLongJob(fixture, m_folder);
@@ -176,7 +177,7 @@ void TestWipeFlows::aStoppedJobLeavesItsReport()
     QCOMPARE(fixture.dialogs.titles.constLast(), u"Erase Failed"_s);
 }
 
-void TestWipeFlows::closingDuringAJobAsksFirst()
+void tst_WipeFlows::closingDuringAJobAsksFirst()
 {
     WindowFixture fixture;
     startLongJob(fixture, m_folder);
@@ -189,7 +190,7 @@ void TestWipeFlows::closingDuringAJobAsksFirst()
     QVERIFY(!isJobRunning(fixture));
 }
 
-void TestWipeFlows::aRefusedTaskIsToldInTheLog()
+void tst_WipeFlows::aRefusedTaskIsToldInTheLog()
 {
     WindowFixture fixture;
     fixture.window->onFileWipeClicked();
@@ -206,7 +207,7 @@ void TestWipeFlows::aRefusedTaskIsToldInTheLog()
     QCOMPARE(fixture.reports().size(), 0);
 }
 
-void TestWipeFlows::aFailedJobIsStoredAndNotExported()
+void tst_WipeFlows::aFailedJobIsStoredAndNotExported()
 {
     const QString path = image();
     WindowFixture fixture({path});
@@ -222,7 +223,7 @@ void TestWipeFlows::aFailedJobIsStoredAndNotExported()
     QVERIFY(QDir(exports.path()).isEmpty());
 }
 
-void TestWipeFlows::withoutReportsNothingIsStoredOrExported()
+void tst_WipeFlows::withoutReportsNothingIsStoredOrExported()
 {
     const QString path = image();
     WindowFixture fixture({path});
@@ -247,7 +248,7 @@ void TestWipeFlows::withoutReportsNothingIsStoredOrExported()
     QVERIFY(QDir(exports.path()).isEmpty());
 }
 
-void TestWipeFlows::theCertificateIsExportedWhenWanted()
+void tst_WipeFlows::theCertificateIsExportedWhenWanted()
 {
     const QString path = image();
     WindowFixture fixture({path});
@@ -263,7 +264,7 @@ void TestWipeFlows::theCertificateIsExportedWhenWanted()
     QCOMPARE(fixture.prompts.boxes.size(), 0);
 }
 
-void TestWipeFlows::aMissingExportFolderIsSkipped()
+void tst_WipeFlows::aMissingExportFolderIsSkipped()
 {
     const QString path = image();
     WindowFixture fixture({path});
@@ -275,7 +276,7 @@ void TestWipeFlows::aMissingExportFolderIsSkipped()
     QVERIFY(!QFile::exists(m_folder.filePath(u"gone"_s)));
 }
 
-void TestWipeFlows::theCertificateOpensFromTheCompletionDialog()
+void tst_WipeFlows::theCertificateOpensFromTheCompletionDialog()
 {
     const QString path = image();
     WindowFixture fixture({path});
@@ -292,7 +293,7 @@ void TestWipeFlows::theCertificateOpensFromTheCompletionDialog()
     QVERIFY(isCertificate);
 }
 
-void TestWipeFlows::theCertificateOpensFromTheHistory()
+void tst_WipeFlows::theCertificateOpensFromTheHistory()
 {
     const QString path = image();
     WindowFixture fixture({path});
@@ -310,7 +311,7 @@ void TestWipeFlows::theCertificateOpensFromTheHistory()
     QCOMPARE(title, u"Erasure Certificate - "_s + fixture.reports().constFirst().certificateId);
 }
 
-void TestWipeFlows::aDatabaseThatDoesNotTakeTheReportIsTold()
+void tst_WipeFlows::aDatabaseThatDoesNotTakeTheReportIsTold()
 {
     const QString path = image();
     WindowFixture fixture({path});
@@ -341,7 +342,7 @@ void TestWipeFlows::aDatabaseThatDoesNotTakeTheReportIsTold()
     QCOMPARE(shown, u"Erasure Certificate - "_s + told);
 }
 
-void TestWipeFlows::aReportThatIsNotThereHasNoCertificate()
+void tst_WipeFlows::aReportThatIsNotThereHasNoCertificate()
 {
     WindowFixture fixture;
     fixture.window->onViewCertificate(u"QVX-2026-0101-0001"_s);
@@ -350,7 +351,7 @@ void TestWipeFlows::aReportThatIsNotThereHasNoCertificate()
     QCOMPARE(fixture.dialogs.titles.size(), 0);
 }
 
-void TestWipeFlows::comingBackDoesNotDoubleTheFiles()
+void tst_WipeFlows::comingBackDoesNotDoubleTheFiles()
 {
     const QString one = m_folder.filePath(u"one.txt"_s);
     QVERIFY(writeTestFile(one, "one"));
@@ -362,5 +363,5 @@ void TestWipeFlows::comingBackDoesNotDoubleTheFiles()
     QCOMPARE(fixture.reports().constFirst().fileCount, 1);
 }
 
-QTEST_MAIN(TestWipeFlows)
+QUORVEX_SUITE(tst_WipeFlows, QApplication)
 #include "tst_wipeflows.moc"

@@ -1,3 +1,4 @@
+#include "support/suite.h"
 #include "ui/methods/methodcard.h"
 
 #include <QImage>
@@ -208,5 +209,5 @@ void tst_MethodCard::speaksOfTheMethod()
     QCOMPARE(m_card->findChild<QLabel *>(u"methodLevel"_s)->accessibleName(), u"安全级别: 最高"_s);
 }
 
-QTEST_MAIN(tst_MethodCard)
+QUORVEX_SUITE(tst_MethodCard, QApplication)
 #include "tst_methodcard.moc"

@@ -1,3 +1,4 @@
+#include "support/suite.h"
 #include "ui/methods/methodselectpage.h"
 
 #include "ui/methods/methodcard.h"
@@ -188,5 +189,5 @@ void tst_MethodSelectPage::buttonsEmit()
     QCOMPARE(start.count(), 1);
 }
 
-QTEST_MAIN(tst_MethodSelectPage)
+QUORVEX_SUITE(tst_MethodSelectPage, QApplication)
 #include "tst_methodselectpage.moc"

@@ -1,3 +1,4 @@
+#include "support/suite.h"
 #include "ui/progress/logwidget.h"
 
 #include "support/scriptedprompts.h"
@@ -225,5 +226,5 @@ void tst_LogWidget::fileThatCannotBeOpenedIsPassedOver()
     QVERIFY(text().endsWith(u"line"_s));
 }
 
-QTEST_MAIN(tst_LogWidget)
+QUORVEX_SUITE(tst_LogWidget, QApplication)
 #include "tst_logwidget.moc"

@@ -1,3 +1,4 @@
+#include "support/suite.h"
 #include "ui/progress/progresspage.h"
 
 #include <QLabel>
@@ -417,5 +418,5 @@ void tst_ProgressPage::tabReachesTheButtons()
     QVERIFY(stopButton()->hasFocus());
 }
 
-QTEST_MAIN(tst_ProgressPage)
+QUORVEX_SUITE(tst_ProgressPage, QApplication)
 #include "tst_progresspage.moc"

@@ -1,3 +1,4 @@
+#include "support/suite.h"
 #include "ui/progress/wiperate.h"
 
 #include <QLocale>
@@ -86,5 +87,5 @@ void tst_WipeRate::remainingSeconds()
     QCOMPARE(wiperate::remainingSeconds(percent, speed).value_or(-1), seconds);
 }
 
-QTEST_MAIN(tst_WipeRate)
+QUORVEX_SUITE(tst_WipeRate, QApplication)
 #include "tst_wiperate.moc"

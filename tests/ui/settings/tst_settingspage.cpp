@@ -1,3 +1,4 @@
+#include "support/suite.h"
 #include "ui/settings/settingspage.h"
 
 #include "support/scriptedprompts.h"
@@ -351,5 +352,5 @@ void tst_SettingsPage::theLabelLeadsToTheField()
     QCOMPARE(shown.page.findChild<QLabel *>(u"exportPathLabel"_s)->buddy(), &shown.path);
 }
 
-QTEST_MAIN(tst_SettingsPage)
+QUORVEX_SUITE(tst_SettingsPage, QApplication)
 #include "tst_settingspage.moc"

@@ -1,3 +1,4 @@
+#include "support/suite.h"
 #include "ui/startup/language.h"
 
 #include "services/applog.h"
@@ -65,7 +66,7 @@ int choose(int argc, char **argv)
 } // namespace
 
 // Which language the program speaks, and how it says so.
-class TestStartupLanguage : public QObject
+class tst_StartupLanguage : public QObject
 {
     Q_OBJECT
 
@@ -95,7 +96,7 @@ private:
     QString m_settings = m_folder.filePath(u"settings.ini"_s);
 };
 
-void TestStartupLanguage::store(const QString &language)
+void tst_StartupLanguage::store(const QString &language)
 {
     QFile::remove(m_settings);
     QSettings settings(m_settings, QSettings::IniFormat);
@@ -104,9 +105,9 @@ void TestStartupLanguage::store(const QString &language)
         settings.setValue(u"language"_s, language);
 }
 
-TestStartupLanguage::Outcome TestStartupLanguage::run(const QString &locale, const QString &way)
+tst_StartupLanguage::Outcome tst_StartupLanguage::run(const QString &locale, const QString &way)
 {
-    QStringList arguments{u"--choose"_s, m_settings, locale};
+    QStringList arguments{u"tst_startuplanguage"_s, u"--choose"_s, m_settings, locale};
     if (!way.isEmpty())
         arguments.append(way);
     QProcess process;
@@ -139,7 +140,7 @@ TestStartupLanguage::Outcome TestStartupLanguage::run(const QString &locale, con
     return outcome;
 }
 
-QStringList TestStartupLanguage::expectedTrace(const QStringList &choice, const QString &code, bool exists,
+QStringList tst_StartupLanguage::expectedTrace(const QStringList &choice, const QString &code, bool exists,
                                                const QStringList &ending) const
 {
     return QStringList{u"debug ========== Translation Init =========="_s,
@@ -150,7 +151,7 @@ QStringList TestStartupLanguage::expectedTrace(const QStringList &choice, const 
            ending + QStringList{u"debug ======================================="_s};
 }
 
-void TestStartupLanguage::theSystemDecidesUnlessTheUserDid_data()
+void tst_StartupLanguage::theSystemDecidesUnlessTheUserDid_data()
 {
     QTest::addColumn<QString>("stored");
     QTest::addColumn<QString>("locale");
@@ -187,7 +188,7 @@ void TestStartupLanguage::theSystemDecidesUnlessTheUserDid_data()
     chosen("stored, in capitals", u"FR"_s, false);
 }
 
-void TestStartupLanguage::theSystemDecidesUnlessTheUserDid()
+void tst_StartupLanguage::theSystemDecidesUnlessTheUserDid()
 {
     QFETCH(const QString, stored);
     QFETCH(const QString, locale);
@@ -227,14 +228,14 @@ void TestStartupLanguage::theSystemDecidesUnlessTheUserDid()
     QCOMPARE(outcome.storedKeys.size(), stored.isEmpty() ? 1 : 2);
 }
 
-void TestStartupLanguage::everyLanguageButTheSourceHasACatalogue_data()
+void tst_StartupLanguage::everyLanguageButTheSourceHasACatalogue_data()
 {
     QTest::addColumn<QString>("code");
     for (const char *code : {"en", "fr", "de", "ja", "es", "ko", "nl", "pt", "it", "zh_TW"})
         QTest::newRow(code) << QString::fromLatin1(code);
 }
 
-void TestStartupLanguage::everyLanguageButTheSourceHasACatalogue()
+void tst_StartupLanguage::everyLanguageButTheSourceHasACatalogue()
 {
     QFETCH(const QString, code);
     QTranslator catalogue;
@@ -246,7 +247,7 @@ void TestStartupLanguage::everyLanguageButTheSourceHasACatalogue()
 }
 
 // Qt takes no translator before there is an application.
-void TestStartupLanguage::aRefusedInstallationIsTold()
+void tst_StartupLanguage::aRefusedInstallationIsTold()
 {
     store(u"fr"_s);
     const Outcome outcome = run(u"de_DE"_s, u"without-application"_s);
@@ -258,7 +259,7 @@ void TestStartupLanguage::aRefusedInstallationIsTold()
     QCOMPARE(outcome.text, QString::fromUtf8(sample));
 }
 
-int main(int argc, char **argv)
+static int runSuite(int argc, char *argv[])
 {
 #ifdef Q_OS_WIN
     QStandardPaths::setTestModeEnabled(true); // the folders of Windows come from the registry
@@ -266,7 +267,8 @@ int main(int argc, char **argv)
     if (argc > 3 && qstrcmp(argv[1], "--choose") == 0)
         return choose(argc, argv);
     QCoreApplication application(argc, argv);
-    TestStartupLanguage suite;
+    tst_StartupLanguage suite;
     return QTest::qExec(&suite, argc, argv);
 }
+QUORVEX_SUITE_RUN(tst_StartupLanguage, runSuite)
 #include "tst_startuplanguage.moc"

@@ -1,3 +1,5 @@
+#include "support/suite.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
@@ -42,7 +44,7 @@ QByteArray contentOf(const QString &path)
 
 // The program itself, from its start to its end, in a home of its own and without real drives.
 // windowdriver.cpp is its user.
-class TestStartupProgram : public QObject
+class tst_StartupProgram : public QObject
 {
     Q_OBJECT
 
@@ -75,7 +77,7 @@ private:
     QString m_locale;
 };
 
-void TestStartupProgram::init()
+void tst_StartupProgram::init()
 {
     m_home = std::make_unique<QTemporaryDir>();
     QVERIFY(m_home->isValid());
@@ -87,7 +89,7 @@ void TestStartupProgram::init()
 }
 
 // No process outlives its test, least of all one that the program started.
-void TestStartupProgram::cleanup()
+void tst_StartupProgram::cleanup()
 {
     m_program.reset();
     for (int run = 1; !runNumber(run).isEmpty(); ++run) {
@@ -99,23 +101,23 @@ void TestStartupProgram::cleanup()
     m_home.reset();
 }
 
-QString TestStartupProgram::stored() const
+QString tst_StartupProgram::stored() const
 {
     return QSettings(settingsFile(), QSettings::IniFormat).value(u"language"_s).toString();
 }
 
-void TestStartupProgram::store(const QString &language) const
+void tst_StartupProgram::store(const QString &language) const
 {
     QSettings(settingsFile(), QSettings::IniFormat).setValue(u"language"_s, language);
 }
 
 // What the program's window was like in that run; empty before it was shown.
-QJsonObject TestStartupProgram::runNumber(int number) const
+QJsonObject tst_StartupProgram::runNumber(int number) const
 {
     return QJsonDocument::fromJson(contentOf(home(u"driver/run%1.json"_s.arg(number)))).object();
 }
 
-void TestStartupProgram::prepare(const QStringList &steps)
+void tst_StartupProgram::prepare(const QStringList &steps)
 {
     QFile file(home(u"driver/steps"_s));
     QVERIFY(file.open(QIODevice::WriteOnly));
@@ -147,7 +149,7 @@ void TestStartupProgram::prepare(const QStringList &steps)
     m_program->setProcessEnvironment(environment);
 }
 
-void TestStartupProgram::start(const QStringList &steps, const QStringList &arguments)
+void tst_StartupProgram::start(const QStringList &steps, const QStringList &arguments)
 {
     prepare(steps);
     // Not a pipe, which breaks with the end of the first program for one that it started.
@@ -158,13 +160,13 @@ void TestStartupProgram::start(const QStringList &steps, const QStringList &argu
 }
 
 // By itself and with success.
-bool TestStartupProgram::ends()
+bool tst_StartupProgram::ends()
 {
     return m_program->waitForFinished(Patience) && m_program->exitStatus() == QProcess::NormalExit &&
            m_program->exitCode() == 0;
 }
 
-void TestStartupProgram::startsStepByStep_data()
+void tst_StartupProgram::startsStepByStep_data()
 {
     QTest::addColumn<QString>("stored");
     QTest::addColumn<QString>("code");
@@ -175,7 +177,7 @@ void TestStartupProgram::startsStepByStep_data()
     QTest::newRow("stored, unsupported") << u"xx"_s << u"xx"_s << false << u"Close"_s;
 }
 
-void TestStartupProgram::startsStepByStep()
+void tst_StartupProgram::startsStepByStep()
 {
     QFETCH(const QString, stored);
     QFETCH(const QString, code);
@@ -203,7 +205,7 @@ void TestStartupProgram::startsStepByStep()
 }
 
 // Up to the end of the trace, on a system that speaks French.
-QStringList TestStartupProgram::expectedBeginning(const QString &stored, const QString &code,
+QStringList tst_StartupProgram::expectedBeginning(const QString &stored, const QString &code,
                                                   bool hasCatalogue) const
 {
     QStringList lines{u"[INFO] Application started"_s, u"[INFO] Version: 5.0"_s,
@@ -226,7 +228,7 @@ QStringList TestStartupProgram::expectedBeginning(const QString &stored, const Q
     return lines << u"======================================="_s;
 }
 
-void TestStartupProgram::bearsItsNamesAndItsFont()
+void tst_StartupProgram::bearsItsNamesAndItsFont()
 {
     start({u"close"_s});
     QVERIFY(ends());
@@ -249,7 +251,7 @@ void TestStartupProgram::bearsItsNamesAndItsFont()
     QCOMPARE(run.value(u"isChild"), QJsonValue(false));
 }
 
-void TestStartupProgram::argumentsMeanNothing()
+void tst_StartupProgram::argumentsMeanNothing()
 {
     const QStringList arguments{u"--help"_s, u"--version"_s, u"de"_s};
     start({u"close"_s}, arguments);
@@ -260,7 +262,7 @@ void TestStartupProgram::argumentsMeanNothing()
                                  u"[INFO] Application exiting"_s}));
 }
 
-void TestStartupProgram::startsWithoutADataFolder()
+void tst_StartupProgram::startsWithoutADataFolder()
 {
     QFile obstacle(home(u"data"_s));
     QVERIFY(obstacle.open(QIODevice::WriteOnly));
@@ -273,7 +275,7 @@ void TestStartupProgram::startsWithoutADataFolder()
     QVERIFY(lines.contains(u"[INFO] Application exiting"_s));
 }
 
-void TestStartupProgram::livesOnWithoutAReaderOfItsTrace()
+void tst_StartupProgram::livesOnWithoutAReaderOfItsTrace()
 {
     const QString pipe = home(u"pipe"_s);
     QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
@@ -288,7 +290,7 @@ void TestStartupProgram::livesOnWithoutAReaderOfItsTrace()
     QCOMPARE(log().constLast(), u"[INFO] Application exiting"_s);
 }
 
-void TestStartupProgram::aNewLanguageStartsTheProgramAnew()
+void tst_StartupProgram::aNewLanguageStartsTheProgramAnew()
 {
     store(u"en"_s);
     start({u"language de"_s, u"close"_s}, {u"kept"_s});
@@ -312,5 +314,5 @@ void TestStartupProgram::aNewLanguageStartsTheProgramAnew()
                                   u"[INFO] Loaded translation: de"_s, u"[INFO] Main window displayed"_s}));
 }
 
-QTEST_GUILESS_MAIN(TestStartupProgram)
+QUORVEX_SUITE(tst_StartupProgram, QCoreApplication)
 #include "tst_startupprogram.moc"

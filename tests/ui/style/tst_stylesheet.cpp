@@ -1,3 +1,4 @@
+#include "support/suite.h"
 #include "ui/style/pagestyle.h"
 #include "ui/style/palette.h"
 #include "ui/style/uiresources.h"
@@ -230,5 +231,5 @@ void tst_StyleSheet::theNavigationButtonsAreAsDrawn()
     QCOMPARE(back.grab().toImage().pixelColor(20, 22).name(), u"#ffffff"_s);
 }
 
-QTEST_MAIN(tst_StyleSheet)
+QUORVEX_SUITE(tst_StyleSheet, QApplication)
 #include "tst_stylesheet.moc"

@@ -1,3 +1,4 @@
+#include "support/suite.h"
 #include "ui/titlebar/programrestart.h"
 
 #include <QApplication>
@@ -70,7 +71,7 @@ void tst_ProgramRestart::startsTheProgramAndLeavesTheLoop()
     QVERIFY(window.isVisible());
 }
 
-int main(int argc, char *argv[])
+static int runSuite(int argc, char *argv[])
 {
     // One argument that must be handed on, kept from the test framework.
     QByteArray extra("--kept");
@@ -81,4 +82,5 @@ int main(int argc, char *argv[])
     tst_ProgramRestart suite;
     return QTest::qExec(&suite, argc, argv);
 }
+QUORVEX_SUITE_RUN(tst_ProgramRestart, runSuite)
 #include "tst_programrestart.moc"

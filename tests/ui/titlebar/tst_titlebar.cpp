@@ -1,3 +1,4 @@
+#include "support/suite.h"
 #include "ui/titlebar/titlebar.h"
 
 #include "services/linkmanager.h"
@@ -348,5 +349,5 @@ void tst_TitleBar::choosingTheCheckedLanguageDoesNothing()
     QCOMPARE(it.checkedLanguages(), QStringList({u"fr"_s}));
 }
 
-QTEST_MAIN(tst_TitleBar)
+QUORVEX_SUITE(tst_TitleBar, QApplication)
 #include "tst_titlebar.moc"

@@ -1,3 +1,4 @@
+#include "support/suite.h"
 #include "ui/titlebar/winbutton.h"
 
 #include <QImage>
@@ -144,5 +145,5 @@ void tst_WinButton::keyPresses()
     QCOMPARE(clicked.count(), 1);
 }
 
-QTEST_MAIN(tst_WinButton)
+QUORVEX_SUITE(tst_WinButton, QApplication)
 #include "tst_winbutton.moc"

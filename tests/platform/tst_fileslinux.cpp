@@ -1,5 +1,6 @@
-#include "contract/filecontents.h"
-#include "contract/places.h"
+#include "platform/filecontents.h"
+#include "platform/places.h"
+#include "support/suite.h"
 
 #include "platform/filenames.h"
 #include "platform/files.h"
@@ -60,7 +61,7 @@ int openFlags(const QString &path)
 } // namespace
 
 // What only Linux has: names that are no text, links and special files that everybody may create.
-class TestFilesLinux : public ContractSuite
+class tst_FilesLinux : public ContractSuite
 {
     Q_OBJECT
 
@@ -91,7 +92,7 @@ private slots:
     void longestName();
 };
 
-void TestFilesLinux::opensWithTheFlagsItPromises()
+void tst_FilesLinux::opensWithTheFlagsItPromises()
 {
     const QString name = path(u"file"_s);
     QVERIFY(makeFile(name, QByteArray(10000, 'a')));
@@ -110,7 +111,7 @@ void TestFilesLinux::opensWithTheFlagsItPromises()
     QCOMPARE(openFlags(name), -1); // closed with the handle
 }
 
-void TestFilesLinux::overwriteKeepsTheInode()
+void tst_FilesLinux::overwriteKeepsTheInode()
 {
     const QString name = path(u"file"_s);
     for (const qint64 length : {1, 512, 4097, 100000}) {
@@ -129,7 +130,7 @@ void TestFilesLinux::overwriteKeepsTheInode()
     }
 }
 
-void TestFilesLinux::overwriteFillsHoles()
+void tst_FilesLinux::overwriteFillsHoles()
 {
     const QString name = path(u"file"_s);
     const qint64 length = 300000;
@@ -146,14 +147,14 @@ void TestFilesLinux::overwriteFillsHoles()
         QVERIFY(statusOf(name).st_blocks * 512 >= length);
 }
 
-void TestFilesLinux::createFillIsForItsOwnerAlone()
+void tst_FilesLinux::createFillIsForItsOwnerAlone()
 {
     const QString name = path(u"file"_s);
     QVERIFY(files().open(name, OpenMode::CreateFill).ok());
     QCOMPARE(statusOf(name).st_mode & 0777u, 0600u);
 }
 
-void TestFilesLinux::clearReadOnlyKeepsTheOtherPermissions_data()
+void tst_FilesLinux::clearReadOnlyKeepsTheOtherPermissions_data()
 {
     QTest::addColumn<uint>("before");
     QTest::addColumn<uint>("after");
@@ -166,7 +167,7 @@ void TestFilesLinux::clearReadOnlyKeepsTheOtherPermissions_data()
     QTest::newRow("writable already") << 0640u << 0640u;
 }
 
-void TestFilesLinux::clearReadOnlyKeepsTheOtherPermissions()
+void tst_FilesLinux::clearReadOnlyKeepsTheOtherPermissions()
 {
     QFETCH(uint, before);
     QFETCH(uint, after);
@@ -177,7 +178,7 @@ void TestFilesLinux::clearReadOnlyKeepsTheOtherPermissions()
     QCOMPARE(uint(statusOf(name).st_mode & ALLPERMS), after);
 }
 
-void TestFilesLinux::clearReadOnlyLeavesALinkAndItsTarget()
+void tst_FilesLinux::clearReadOnlyLeavesALinkAndItsTarget()
 {
     QVERIFY(makeFile(path(u"target"_s), "abc"));
     QCOMPARE(::chmod(encodeName(path(u"target"_s)).constData(), 0400), 0);
@@ -188,7 +189,7 @@ void TestFilesLinux::clearReadOnlyLeavesALinkAndItsTarget()
     QCOMPARE(uint(statusOf(path(u"target"_s)).st_mode & ALLPERMS), 0400u);
 }
 
-void TestFilesLinux::infoOfLinks()
+void tst_FilesLinux::infoOfLinks()
 {
     QVERIFY(makeFile(path(u"target"_s), QByteArray(5000, 'a')));
     QVERIFY(QDir().mkdir(path(u"folder"_s)));
@@ -204,7 +205,7 @@ void TestFilesLinux::infoOfLinks()
     }
 }
 
-void TestFilesLinux::openOfALinkIsRefused()
+void tst_FilesLinux::openOfALinkIsRefused()
 {
     QVERIFY(makeFile(path(u"target"_s), "abc"));
     QVERIFY(QDir().mkdir(path(u"folder"_s)));
@@ -217,7 +218,7 @@ void TestFilesLinux::openOfALinkIsRefused()
     QCOMPARE(contentsOf(path(u"target"_s)), QByteArray("abc"));
 }
 
-void TestFilesLinux::openOfADanglingLinkCreatesNothing()
+void tst_FilesLinux::openOfADanglingLinkCreatesNothing()
 {
     QVERIFY(makeLink(path(u"none"_s), path(u"link"_s)));
     for (const OpenMode mode : EveryMode)
@@ -225,7 +226,7 @@ void TestFilesLinux::openOfADanglingLinkCreatesNothing()
     QVERIFY(!QFileInfo::exists(path(u"none"_s)));
 }
 
-void TestFilesLinux::slashAfterALinkDoesNotFollowIt()
+void tst_FilesLinux::slashAfterALinkDoesNotFollowIt()
 {
     QVERIFY(QDir().mkdir(path(u"folder"_s)));
     QVERIFY(makeFile(path(u"folder/file"_s), "abc"));
@@ -236,7 +237,7 @@ void TestFilesLinux::slashAfterALinkDoesNotFollowIt()
     QCOMPARE(contentsOf(path(u"folder/file"_s)), QByteArray("abc"));
 }
 
-void TestFilesLinux::linksOnTheWayAreFollowed()
+void tst_FilesLinux::linksOnTheWayAreFollowed()
 {
     QVERIFY(QDir().mkdir(path(u"folder"_s)));
     QVERIFY(makeFile(path(u"folder/file"_s), "abc"));
@@ -252,7 +253,7 @@ void TestFilesLinux::linksOnTheWayAreFollowed()
 }
 
 // Somebody else keeps exchanging the file for a link to one that must not be touched.
-void TestFilesLinux::openNeverFollowsALinkThatIsSwappedIn()
+void tst_FilesLinux::openNeverFollowsALinkThatIsSwappedIn()
 {
     const QByteArray precious(512, 'p');
     QVERIFY(makeFile(path(u"precious"_s), precious));
@@ -290,7 +291,7 @@ void TestFilesLinux::openNeverFollowsALinkThatIsSwappedIn()
     QCOMPARE(contentsOf(path(u"precious"_s)), precious);
 }
 
-void TestFilesLinux::removeOfALinkKeepsItsTarget()
+void tst_FilesLinux::removeOfALinkKeepsItsTarget()
 {
     QVERIFY(makeFile(path(u"target"_s), "abc"));
     QVERIFY(QDir().mkdir(path(u"folder"_s)));
@@ -305,7 +306,7 @@ void TestFilesLinux::removeOfALinkKeepsItsTarget()
     QVERIFY(QFileInfo(path(u"folder"_s)).isDir());
 }
 
-void TestFilesLinux::renameOfALinkKeepsItsTarget()
+void tst_FilesLinux::renameOfALinkKeepsItsTarget()
 {
     QVERIFY(makeFile(path(u"target"_s), "abc"));
     QVERIFY(makeLink(path(u"target"_s), path(u"link"_s)));
@@ -314,7 +315,7 @@ void TestFilesLinux::renameOfALinkKeepsItsTarget()
     QCOMPARE(contentsOf(path(u"target"_s)), QByteArray("abc"));
 }
 
-void TestFilesLinux::renameOverALinkKeepsItsTarget()
+void tst_FilesLinux::renameOverALinkKeepsItsTarget()
 {
     QVERIFY(makeFile(path(u"target"_s), "abc"));
     QVERIFY(makeFile(path(u"file"_s), "xyz"));
@@ -324,7 +325,7 @@ void TestFilesLinux::renameOverALinkKeepsItsTarget()
     QCOMPARE(contentsOf(path(u"target"_s)), QByteArray("abc"));
 }
 
-void TestFilesLinux::specialFilesAreRefused_data()
+void tst_FilesLinux::specialFilesAreRefused_data()
 {
     QTest::addColumn<uint>("type");
     QTest::newRow("pipe") << uint(S_IFIFO);
@@ -333,7 +334,7 @@ void TestFilesLinux::specialFilesAreRefused_data()
     QTest::newRow("block device") << uint(S_IFBLK);
 }
 
-void TestFilesLinux::specialFilesAreRefused()
+void tst_FilesLinux::specialFilesAreRefused()
 {
     QFETCH(uint, type);
     const bool isDevice = type == S_IFCHR || type == S_IFBLK;
@@ -354,7 +355,7 @@ void TestFilesLinux::specialFilesAreRefused()
 }
 
 // Opening for writing and closing again would tell whoever reads from the pipe that nothing more comes.
-void TestFilesLinux::pipeIsNotEvenOpened()
+void tst_FilesLinux::pipeIsNotEvenOpened()
 {
     const QString name = path(u"pipe"_s);
     QCOMPARE(::mkfifo(encodeName(name).constData(), 0600), 0);
@@ -373,7 +374,7 @@ void TestFilesLinux::pipeIsNotEvenOpened()
     QVERIFY(noticed.revents & POLLHUP);
 }
 
-void TestFilesLinux::namesThatAreNoText_data()
+void tst_FilesLinux::namesThatAreNoText_data()
 {
     QTest::addColumn<QByteArray>("name");
     QTest::newRow("Latin-1") << QByteArray("caf\xE9.txt");
@@ -388,7 +389,7 @@ void TestFilesLinux::namesThatAreNoText_data()
     QTest::newRow("byte order mark") << QByteArray("\xEF\xBB\xBF.txt");
 }
 
-void TestFilesLinux::namesThatAreNoText()
+void tst_FilesLinux::namesThatAreNoText()
 {
     QFETCH(QByteArray, name);
     const QByteArray bytes = encodeName(m_folder) + '/' + name;
@@ -414,7 +415,7 @@ void TestFilesLinux::namesThatAreNoText()
     QVERIFY(::lstat(bytes.constData(), &found) != 0);
 }
 
-void TestFilesLinux::namesDifferInEveryByte()
+void tst_FilesLinux::namesDifferInEveryByte()
 {
     const QByteArrayList names{"\xC3\xA9", "\xE9", "e\xCC\x81", "\xEF\xBB\xBF\xC3\xA9", "\xC3\x89"};
     for (const QByteArray &name : names) {
@@ -433,7 +434,7 @@ void TestFilesLinux::namesDifferInEveryByte()
     }
 }
 
-void TestFilesLinux::backslashIsPartOfAName()
+void tst_FilesLinux::backslashIsPartOfAName()
 {
     QVERIFY(QDir().mkdir(path(u"a"_s)));
     QVERIFY(makeFile(path(u"a/b"_s), "below"));
@@ -443,7 +444,7 @@ void TestFilesLinux::backslashIsPartOfAName()
     QCOMPARE(contentsOf(path(u"a/b"_s)), QByteArray("below"));
 }
 
-void TestFilesLinux::longestName()
+void tst_FilesLinux::longestName()
 {
     const QString name = path(QString(255, u'n'));
     QVERIFY(makeFile(name, "abc"));
@@ -457,5 +458,5 @@ void TestFilesLinux::longestName()
     QCOMPARE(files().remove(tooLong).code, quint32(FileNameTooLong));
 }
 
-QTEST_GUILESS_MAIN(TestFilesLinux)
-#include "tst_files_linux.moc"
+QUORVEX_SUITE(tst_FilesLinux, QCoreApplication)
+#include "tst_fileslinux.moc"

@@ -1,5 +1,6 @@
-#include "residue/realjob.h"
+#include "realjob.h"
 #include "support/loopmount.h"
+#include "support/suite.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -55,7 +56,7 @@ int repeatedBlocks(LoopMount &drive, qint64 size)
 } // namespace
 
 // Whole drives of the test's own, wiped by the real backend and looked at below it.
-class TestDiskResidue : public QObject
+class tst_DiskResidue : public QObject
 {
     Q_OBJECT
 
@@ -71,14 +72,14 @@ private slots:
     void otherDriveUnderTheNumberIsLeftAlone();
 };
 
-void TestDiskResidue::initTestCase()
+void tst_DiskResidue::initTestCase()
 {
     const QString reason = LoopMount::unavailableReason(LoopMount::Ext4);
     if (!reason.isEmpty())
         QSKIP(qPrintable(reason));
 }
 
-void TestDiskResidue::everyByteIsOfTheLastPass_data()
+void tst_DiskResidue::everyByteIsOfTheLastPass_data()
 {
     QTest::addColumn<int>("method");
     QTest::addColumn<qint64>("size");
@@ -96,7 +97,7 @@ void TestDiskResidue::everyByteIsOfTheLastPass_data()
     QTest::newRow("HMG, one sector of 4096") << 1 << qint64(4096) << 4096 << 1 << -1;
 }
 
-void TestDiskResidue::everyByteIsOfTheLastPass()
+void tst_DiskResidue::everyByteIsOfTheLastPass()
 {
     QFETCH(int, method);
     QFETCH(qint64, size);
@@ -132,7 +133,7 @@ void TestDiskResidue::everyByteIsOfTheLastPass()
         QCOMPARE(repeatedBlocks(drive, size), 0);
 }
 
-void TestDiskResidue::mountedVolumeIsUnmountedAndWiped()
+void tst_DiskResidue::mountedVolumeIsUnmountedAndWiped()
 {
     const QTemporaryDir folder;
     LoopMount drive(folder.path(), {});
@@ -153,7 +154,7 @@ void TestDiskResidue::mountedVolumeIsUnmountedAndWiped()
     QCOMPARE(firstOther(drive, task.disk().sizeBytes, '\0'), -1);
 }
 
-void TestDiskResidue::busyVolumeIsLeftAlone()
+void tst_DiskResidue::busyVolumeIsLeftAlone()
 {
     const QTemporaryDir folder;
     LoopMount drive(folder.path(), {});
@@ -179,7 +180,7 @@ void TestDiskResidue::busyVolumeIsLeftAlone()
     QVERIFY(drive.countInImage(marker()) > 0);
 }
 
-void TestDiskResidue::driveHeldBySomebodyElseIsLeftAlone()
+void tst_DiskResidue::driveHeldBySomebodyElseIsLeftAlone()
 {
     const QTemporaryDir folder;
     LoopMount::Options options;
@@ -202,7 +203,7 @@ void TestDiskResidue::driveHeldBySomebodyElseIsLeftAlone()
     QVERIFY(drive.countInImage(marker()) > 0);
 }
 
-void TestDiskResidue::fullBackingIsAFailure()
+void tst_DiskResidue::fullBackingIsAFailure()
 {
     // A drive that promises more than there is behind it, as thin provisioning does.
     const QTemporaryDir folder;
@@ -229,7 +230,7 @@ void TestDiskResidue::fullBackingIsAFailure()
     QCOMPARE(job.report.status, WipeStatus::Failed);
 }
 
-void TestDiskResidue::driveThatShrinksDuringTheJobIsAFailure()
+void tst_DiskResidue::driveThatShrinksDuringTheJobIsAFailure()
 {
     const QTemporaryDir folder;
     LoopMount::Options options;
@@ -262,7 +263,7 @@ void TestDiskResidue::driveThatShrinksDuringTheJobIsAFailure()
     QVERIFY2(!lines.filter(QStringLiteral("写入错误，位置: ")).isEmpty(), qPrintable(lines.join(u'\n')));
 }
 
-void TestDiskResidue::otherDriveUnderTheNumberIsLeftAlone()
+void tst_DiskResidue::otherDriveUnderTheNumberIsLeftAlone()
 {
     const QTemporaryDir folder;
     LoopMount::Options options;
@@ -287,5 +288,5 @@ void TestDiskResidue::otherDriveUnderTheNumberIsLeftAlone()
     QVERIFY(second.countInImage(marker()) > 0);
 }
 
-QTEST_GUILESS_MAIN(TestDiskResidue)
+QUORVEX_SUITE(tst_DiskResidue, QCoreApplication)
 #include "tst_diskresidue.moc"

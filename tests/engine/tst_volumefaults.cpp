@@ -1,4 +1,5 @@
-#include "fault/faultjob.h"
+#include "faultjob.h"
+#include "support/suite.h"
 
 using namespace faultjob;
 
@@ -43,7 +44,7 @@ struct PlacedFile
 } // namespace
 
 // Jobs on the files and the free space of volumes whose device really fails.
-class TestVolumeFaults : public QObject
+class tst_VolumeFaults : public QObject
 {
     Q_OBJECT
 
@@ -56,13 +57,13 @@ private slots:
     void volumeUnmountedBeforeTheFillIsLeftAlone();
 };
 
-void TestVolumeFaults::initTestCase()
+void tst_VolumeFaults::initTestCase()
 {
     if (const QString reason = FaultyDrive::unavailableReason(); !reason.isEmpty())
         QSKIP(qPrintable(reason));
 }
 
-void TestVolumeFaults::writeErrorKeepsTheFile()
+void tst_VolumeFaults::writeErrorKeepsTheFile()
 {
     FaultyDrive drive(64 * MiB, LoopMount::Ext4);
     QVERIFY(drive.isReady());
@@ -81,7 +82,7 @@ void TestVolumeFaults::writeErrorKeepsTheFile()
     QVERIFY(drive.content().mid(file.position + MiB, 4096) == stretchOf(Old, 4096));
 }
 
-void TestVolumeFaults::readErrorInAFileFailsItsVerification()
+void tst_VolumeFaults::readErrorInAFileFailsItsVerification()
 {
     FaultyDrive drive(64 * MiB, LoopMount::Ext4);
     QVERIFY(drive.isReady());
@@ -100,7 +101,7 @@ void TestVolumeFaults::readErrorInAFileFailsItsVerification()
     QVERIFY(drive.content().mid(file.position, file.content.size()) == stretchOf('\0', file.content.size()));
 }
 
-void TestVolumeFaults::vanishedVolumeEndsTheFileJob()
+void tst_VolumeFaults::vanishedVolumeEndsTheFileJob()
 {
     FaultyDrive drive(64 * MiB, LoopMount::Ext4);
     QVERIFY(drive.isReady());
@@ -117,7 +118,7 @@ void TestVolumeFaults::vanishedVolumeEndsTheFileJob()
     QVERIFY(drive.content().count(Old) > MiB / 2);
 }
 
-void TestVolumeFaults::vanishedVolumeEndsTheFill()
+void tst_VolumeFaults::vanishedVolumeEndsTheFill()
 {
     FaultyDrive drive(192 * MiB, LoopMount::Ext4);
     QVERIFY(drive.isReady());
@@ -133,7 +134,7 @@ void TestVolumeFaults::vanishedVolumeEndsTheFill()
     QCOMPARE(job.report.wipedSectors, quint64(0));
 }
 
-void TestVolumeFaults::volumeUnmountedBeforeTheFillIsLeftAlone()
+void tst_VolumeFaults::volumeUnmountedBeforeTheFillIsLeftAlone()
 {
     FaultyDrive drive(192 * MiB, LoopMount::Ext4);
     QVERIFY(drive.isReady());
@@ -149,5 +150,5 @@ void TestVolumeFaults::volumeUnmountedBeforeTheFillIsLeftAlone()
              QStringList());
 }
 
-QTEST_GUILESS_MAIN(TestVolumeFaults)
+QUORVEX_SUITE(tst_VolumeFaults, QCoreApplication)
 #include "tst_volumefaults.moc"

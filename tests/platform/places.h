@@ -64,8 +64,7 @@ private:
 #endif
 
 // The file systems on which a suite runs, as global data of it: each test function runs once per place, in a
-// folder of its own there. Two programs are built of a suite, one for what everybody can write to, one for
-// what root mounts.
+// folder of its own there. A suite runs twice: on what everybody can write to, and on what root mounts.
 class Places
 {
 public:
@@ -137,12 +136,15 @@ public:
         return m_problem;
     }
 
+    // Whether the places are those that root mounts, not those that everybody can write to.
+    static bool areMounted() { return qEnvironmentVariableIsSet("QUORVEX_TEST_MOUNTED_PLACES"); }
+
     static QStringList names()
     {
-#ifdef QUORVEX_MOUNTED_PLACES
-        return {QStringLiteral("ext4"), QStringLiteral("ext4 on 4096-byte sectors"), QStringLiteral("xfs"),
-                QStringLiteral("btrfs"), QStringLiteral("ramfs")};
-#elif defined(Q_OS_LINUX)
+#ifdef Q_OS_LINUX
+        if (areMounted())
+            return {QStringLiteral("ext4"), QStringLiteral("ext4 on 4096-byte sectors"),
+                    QStringLiteral("xfs"), QStringLiteral("btrfs"), QStringLiteral("ramfs")};
         return {QStringLiteral("temporary folder"), QStringLiteral("tmpfs")};
 #else
         return {QStringLiteral("temporary folder")};
@@ -165,9 +167,10 @@ public:
 private:
     QString rootOf(const QString &place)
     {
-#ifdef QUORVEX_MOUNTED_PLACES
-        return mounted(place);
-#else
+#ifdef Q_OS_LINUX
+        if (areMounted())
+            return mounted(place);
+#endif
         const bool isMemory = place == QLatin1String("tmpfs");
         m_temporary = std::make_unique<QTemporaryDir>(
             (isMemory ? QStringLiteral("/dev/shm") : QDir::tempPath()) + QStringLiteral("/contract-XXXXXX"));
@@ -175,10 +178,9 @@ private:
             return m_temporary->path();
         (isMemory ? m_unavailable : m_problem) = QStringLiteral("SKIPPED: ") + m_temporary->errorString();
         return {};
-#endif
     }
 
-#ifdef QUORVEX_MOUNTED_PLACES
+#ifdef Q_OS_LINUX
     QString mounted(const QString &place)
     {
         LoopMount::Options options;

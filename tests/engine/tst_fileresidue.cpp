@@ -1,5 +1,6 @@
-#include "residue/realjob.h"
+#include "realjob.h"
 #include "support/loopmount.h"
+#include "support/suite.h"
 
 #include <QDir>
 #include <QFile>
@@ -25,7 +26,7 @@ bool writeMarkers(const QString &path, qint64 size)
 } // namespace
 
 // Files on real file systems, shredded by the real backend; then the raw image is searched.
-class TestFileResidue : public QObject
+class tst_FileResidue : public QObject
 {
     Q_OBJECT
 
@@ -36,7 +37,7 @@ private slots:
     void keptFilesStayAsTheyAre();
 };
 
-void TestFileResidue::noMarkerIsLeft_data()
+void tst_FileResidue::noMarkerIsLeft_data()
 {
     QTest::addColumn<int>("fileSystem");
     QTest::addColumn<int>("method");
@@ -46,7 +47,7 @@ void TestFileResidue::noMarkerIsLeft_data()
     QTest::newRow("xfs, HMG") << int(LoopMount::Xfs) << 1;
 }
 
-void TestFileResidue::noMarkerIsLeft()
+void tst_FileResidue::noMarkerIsLeft()
 {
     QFETCH(int, fileSystem);
     QFETCH(int, method);
@@ -82,14 +83,14 @@ void TestFileResidue::noMarkerIsLeft()
     QCOMPARE(volume.countInImage(marker()), 0);
 }
 
-void TestFileResidue::keptFilesStayAsTheyAre_data()
+void tst_FileResidue::keptFilesStayAsTheyAre_data()
 {
     QTest::addColumn<int>("fileSystem");
     QTest::newRow("ext4") << int(LoopMount::Ext4);
     QTest::newRow("xfs") << int(LoopMount::Xfs);
 }
 
-void TestFileResidue::keptFilesStayAsTheyAre()
+void tst_FileResidue::keptFilesStayAsTheyAre()
 {
     QFETCH(int, fileSystem);
     const auto kind = static_cast<LoopMount::FileSystem>(fileSystem);
@@ -118,5 +119,5 @@ void TestFileResidue::keptFilesStayAsTheyAre()
     QCOMPARE(content.count(marker()), 1234567 / marker().size());
 }
 
-QTEST_GUILESS_MAIN(TestFileResidue)
+QUORVEX_SUITE(tst_FileResidue, QCoreApplication)
 #include "tst_fileresidue.moc"

@@ -4,6 +4,7 @@
 #include "platform/forwarding.h"
 #include "platform/platform.h"
 #include "support/loopmount.h"
+#include "support/suite.h"
 #include "support/workerrecord.h"
 
 #include <QCryptographicHash>
@@ -29,7 +30,7 @@ Q_DECLARE_METATYPE(LoopMount::FileSystem)
 // is written, and deleted too. It is the largest stretch of free space and the last that was allocated from,
 // so that allocation goes on behind it, comes back to the space of the markers, and only then enters the
 // filler's, part of which stays over.
-class TestFreeSpaceResidue : public QObject
+class tst_FreeSpaceResidue : public QObject
 {
     Q_OBJECT
 
@@ -203,18 +204,18 @@ struct Job
 
 } // namespace
 
-void TestFreeSpaceResidue::initTestCase()
+void tst_FreeSpaceResidue::initTestCase()
 {
     m_seed = QRandomGenerator::system()->generate();
     qInfo() << "seed" << m_seed;
 }
 
-void TestFreeSpaceResidue::deletedDataIsGone_data()
+void tst_FreeSpaceResidue::deletedDataIsGone_data()
 {
     addFileSystems();
 }
 
-void TestFreeSpaceResidue::deletedDataIsGone()
+void tst_FreeSpaceResidue::deletedDataIsGone()
 {
     QFETCH(const LoopMount::FileSystem, fileSystem);
     if (const QString reason = LoopMount::unavailableReason(fileSystem); !reason.isEmpty())
@@ -245,7 +246,7 @@ void TestFreeSpaceResidue::deletedDataIsGone()
     QVERIFY(volume.keptFilesAreWhole());
 }
 
-void TestFreeSpaceResidue::deletedDataBetweenFilesIsGone()
+void tst_FreeSpaceResidue::deletedDataBetweenFilesIsGone()
 {
     if (const QString reason = LoopMount::unavailableReason(LoopMount::Ext4); !reason.isEmpty())
         QSKIP(qPrintable(reason));
@@ -275,12 +276,12 @@ void TestFreeSpaceResidue::deletedDataBetweenFilesIsGone()
     QVERIFY(volume.keptFilesAreWhole());
 }
 
-void TestFreeSpaceResidue::deletedDataStaysWithoutTheJob_data()
+void tst_FreeSpaceResidue::deletedDataStaysWithoutTheJob_data()
 {
     addFileSystems();
 }
 
-void TestFreeSpaceResidue::deletedDataStaysWithoutTheJob()
+void tst_FreeSpaceResidue::deletedDataStaysWithoutTheJob()
 {
     QFETCH(const LoopMount::FileSystem, fileSystem);
     if (const QString reason = LoopMount::unavailableReason(fileSystem); !reason.isEmpty())
@@ -295,12 +296,12 @@ void TestFreeSpaceResidue::deletedDataStaysWithoutTheJob()
     QCOMPARE(volume.markersInImage(), volume.markerCount());
 }
 
-void TestFreeSpaceResidue::stoppedJobLeavesTheVolumeAsItWas_data()
+void tst_FreeSpaceResidue::stoppedJobLeavesTheVolumeAsItWas_data()
 {
     addFileSystems();
 }
 
-void TestFreeSpaceResidue::stoppedJobLeavesTheVolumeAsItWas()
+void tst_FreeSpaceResidue::stoppedJobLeavesTheVolumeAsItWas()
 {
     QFETCH(const LoopMount::FileSystem, fileSystem);
     if (const QString reason = LoopMount::unavailableReason(fileSystem); !reason.isEmpty())
@@ -326,6 +327,6 @@ void TestFreeSpaceResidue::stoppedJobLeavesTheVolumeAsItWas()
     QVERIFY(volume.keptFilesAreWhole());
 }
 
-QTEST_GUILESS_MAIN(TestFreeSpaceResidue)
+QUORVEX_SUITE(tst_FreeSpaceResidue, QCoreApplication)
 
 #include "tst_freespaceresidue.moc"

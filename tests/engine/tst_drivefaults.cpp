@@ -1,4 +1,5 @@
-#include "fault/faultjob.h"
+#include "faultjob.h"
+#include "support/suite.h"
 
 using namespace faultjob;
 
@@ -7,7 +8,7 @@ constexpr qint64 DriveBytes = 16 * MiB;
 }
 
 // Disk jobs on devices that really fail: the errors come from the kernel.
-class TestDriveFaults : public QObject
+class tst_DriveFaults : public QObject
 {
     Q_OBJECT
 
@@ -27,13 +28,13 @@ private slots:
     void vanishedDriveCannotBeVerified();
 };
 
-void TestDriveFaults::initTestCase()
+void tst_DriveFaults::initTestCase()
 {
     if (const QString reason = FaultyDrive::unavailableReason(); !reason.isEmpty())
         QSKIP(qPrintable(reason));
 }
 
-void TestDriveFaults::withoutAFaultTheDriveIsErased()
+void tst_DriveFaults::withoutAFaultTheDriveIsErased()
 {
     FaultyDrive drive(DriveBytes);
     QVERIFY(drive.isReady());
@@ -47,7 +48,7 @@ void TestDriveFaults::withoutAFaultTheDriveIsErased()
     QVERIFY(drive.content().count(Old) < DriveBytes / 128); // what random data has of them, and a margin
 }
 
-void TestDriveFaults::writeErrorEndsTheJobAtItsPosition_data()
+void tst_DriveFaults::writeErrorEndsTheJobAtItsPosition_data()
 {
     QTest::addColumn<qint64>("first");
     QTest::addColumn<qint64>("end");
@@ -57,7 +58,7 @@ void TestDriveFaults::writeErrorEndsTheJobAtItsPosition_data()
     QTest::newRow("the last sector") << DriveBytes - 512 << DriveBytes << DriveBytes - MiB;
 }
 
-void TestDriveFaults::writeErrorEndsTheJobAtItsPosition()
+void tst_DriveFaults::writeErrorEndsTheJobAtItsPosition()
 {
     QFETCH(qint64, first);
     QFETCH(qint64, end);
@@ -84,7 +85,7 @@ void TestDriveFaults::writeErrorEndsTheJobAtItsPosition()
     QCOMPARE(content.mid(first, end - first), stretchOf(Old, end - first));
 }
 
-void TestDriveFaults::writeErrorInALaterPassLeavesNothingWiped()
+void tst_DriveFaults::writeErrorInALaterPassLeavesNothingWiped()
 {
     FaultyDrive drive(DriveBytes);
     QVERIFY(drive.isReady());
@@ -103,7 +104,7 @@ void TestDriveFaults::writeErrorInALaterPassLeavesNothingWiped()
     QCOMPARE(job.report.wipedSectors, quint64(0)); // no sector has had all seven passes
 }
 
-void TestDriveFaults::writeErrorOfAVolumeIsNamed()
+void tst_DriveFaults::writeErrorOfAVolumeIsNamed()
 {
     FaultyDrive drive(64 * MiB, LoopMount::Ext4);
     QVERIFY(drive.isReady());
@@ -122,7 +123,7 @@ void TestDriveFaults::writeErrorOfAVolumeIsNamed()
     QCOMPARE(job.report.wipedSectors, quint64(33 * MiB / 512));
 }
 
-void TestDriveFaults::failedFlushIsAFailure()
+void tst_DriveFaults::failedFlushIsAFailure()
 {
     FaultyDrive drive(DriveBytes);
     QVERIFY(drive.isReady());
@@ -139,7 +140,7 @@ void TestDriveFaults::failedFlushIsAFailure()
     QCOMPARE(job.report.wipedSectors, quint64(0));
 }
 
-void TestDriveFaults::mediumWithoutRoomIsAFailure()
+void tst_DriveFaults::mediumWithoutRoomIsAFailure()
 {
     FaultyDrive drive(DriveBytes);
     QVERIFY(drive.isReady());
@@ -157,7 +158,7 @@ void TestDriveFaults::mediumWithoutRoomIsAFailure()
     QCOMPARE(job.report.wipedSectors, quint64(9 * MiB / 512));
 }
 
-void TestDriveFaults::readErrorFailsTheVerification()
+void tst_DriveFaults::readErrorFailsTheVerification()
 {
     FaultyDrive drive(DriveBytes);
     QVERIFY(drive.isReady());
@@ -178,7 +179,7 @@ void TestDriveFaults::readErrorFailsTheVerification()
     QCOMPARE(drive.content(), stretchOf('\0', DriveBytes)); // everything was written all the same
 }
 
-void TestDriveFaults::readErrorWithoutVerificationIsNoFailure()
+void tst_DriveFaults::readErrorWithoutVerificationIsNoFailure()
 {
     FaultyDrive drive(DriveBytes);
     QVERIFY(drive.isReady());
@@ -192,7 +193,7 @@ void TestDriveFaults::readErrorWithoutVerificationIsNoFailure()
     QCOMPARE(drive.content(), stretchOf('\0', DriveBytes));
 }
 
-void TestDriveFaults::vanishedDriveEndsTheJob_data()
+void tst_DriveFaults::vanishedDriveEndsTheJob_data()
 {
     QTest::addColumn<int>("fileSystem");
     QTest::addColumn<qint64>("size");
@@ -200,7 +201,7 @@ void TestDriveFaults::vanishedDriveEndsTheJob_data()
     QTest::newRow("volume") << int(LoopMount::Ext4) << 64 * MiB;
 }
 
-void TestDriveFaults::vanishedDriveEndsTheJob()
+void tst_DriveFaults::vanishedDriveEndsTheJob()
 {
     QFETCH(int, fileSystem);
     QFETCH(qint64, size);
@@ -220,7 +221,7 @@ void TestDriveFaults::vanishedDriveEndsTheJob()
     QCOMPARE(job.report.verificationSampleSize, 0);
 }
 
-void TestDriveFaults::vanishedDriveCannotBeVerified()
+void tst_DriveFaults::vanishedDriveCannotBeVerified()
 {
     FaultyDrive drive(DriveBytes);
     QVERIFY(drive.isReady());
@@ -247,5 +248,5 @@ void TestDriveFaults::vanishedDriveCannotBeVerified()
     QVERIFY(engine.report().verificationSampleSize < 2'000'000);
 }
 
-QTEST_GUILESS_MAIN(TestDriveFaults)
+QUORVEX_SUITE(tst_DriveFaults, QCoreApplication)
 #include "tst_drivefaults.moc"

@@ -1,5 +1,6 @@
 #include "cli/programrun.h"
-#include "fault/faultjob.h"
+#include "engine/faultjob.h"
+#include "support/suite.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -49,7 +50,7 @@ struct ProgramOnDrive
 } // namespace
 
 // The program, started as by a script, on devices that really fail.
-class TestProgramFaults : public QObject
+class tst_ProgramFaults : public QObject
 {
     Q_OBJECT
 
@@ -60,13 +61,13 @@ private slots:
     void anImageOnAFailingMediumIsReported();
 };
 
-void TestProgramFaults::initTestCase()
+void tst_ProgramFaults::initTestCase()
 {
     if (const QString reason = FaultyDrive::unavailableReason(); !reason.isEmpty())
         QSKIP(qPrintable(reason));
 }
 
-void TestProgramFaults::aWriteErrorIsReported()
+void tst_ProgramFaults::aWriteErrorIsReported()
 {
     FaultyDrive drive(DriveBytes);
     QVERIFY(drive.isReady());
@@ -81,7 +82,7 @@ void TestProgramFaults::aWriteErrorIsReported()
     QCOMPARE(run.report.value(u"wipedSectors").toString(), QString::number(7 * MiB / 512));
 }
 
-void TestProgramFaults::aVanishedDriveIsReported()
+void tst_ProgramFaults::aVanishedDriveIsReported()
 {
     FaultyDrive drive(DriveBytes);
     QVERIFY(drive.isReady());
@@ -94,7 +95,7 @@ void TestProgramFaults::aVanishedDriveIsReported()
     QVERIFY(!run.output.contains("DONE: "));
 }
 
-void TestProgramFaults::anImageOnAFailingMediumIsReported()
+void tst_ProgramFaults::anImageOnAFailingMediumIsReported()
 {
     const QTemporaryDir folder;
     FaultyFolder faults(folder.path());
@@ -114,5 +115,5 @@ void TestProgramFaults::anImageOnAFailingMediumIsReported()
     QVERIFY(!jsonOf(report).value(u"errorMessage").toString().isEmpty());
 }
 
-QTEST_GUILESS_MAIN(TestProgramFaults)
+QUORVEX_SUITE(tst_ProgramFaults, QCoreApplication)
 #include "tst_programfaults.moc"

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "fault/faultydrive.h"
-#include "residue/realjob.h"
+#include "realjob.h"
+#include "support/faultydrive.h"
 
 // The jobs of these suites: chunks of 1 MiB, so that positions tell something.
 namespace faultjob {

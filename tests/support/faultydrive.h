@@ -1,6 +1,6 @@
 #pragma once
 
-#include "fault/faultyfolder.h"
+#include "support/faultyfolder.h"
 #include "support/loopmount.h"
 
 #include <QByteArray>

@@ -1,5 +1,6 @@
-#include "contract/filecontents.h"
-#include "contract/places.h"
+#include "platform/filecontents.h"
+#include "platform/places.h"
+#include "support/suite.h"
 
 #include "platform/alignedbuffer.h"
 #include "platform/files.h"
@@ -26,7 +27,7 @@ Files &files()
 } // namespace
 
 // What the headers promise of files, on every backend and file system.
-class TestFiles : public ContractSuite
+class tst_Files : public ContractSuite
 {
     Q_OBJECT
 
@@ -84,7 +85,7 @@ private slots:
 
 static const QList<qint64> Lengths{1, 100, 511, 512, 513, 4095, 4096, 4097, 65535, 65536, 70000, MiB + 3};
 
-void TestFiles::overwriteKeepsLengthAndReplacesEveryByte_data()
+void tst_Files::overwriteKeepsLengthAndReplacesEveryByte_data()
 {
     QTest::addColumn<qint64>("length");
     QTest::newRow("0") << qint64(0);
@@ -92,7 +93,7 @@ void TestFiles::overwriteKeepsLengthAndReplacesEveryByte_data()
         QTest::addRow("%lld", static_cast<long long>(length)) << length;
 }
 
-void TestFiles::overwriteKeepsLengthAndReplacesEveryByte()
+void tst_Files::overwriteKeepsLengthAndReplacesEveryByte()
 {
     QFETCH(qint64, length);
     const QString name = path(u"file"_s);
@@ -111,7 +112,7 @@ void TestFiles::overwriteKeepsLengthAndReplacesEveryByte()
     QCOMPARE(firstDifference(contentsOf(name), bytes), -1);
 }
 
-void TestFiles::writeLeavesItsNeighboursAlone()
+void tst_Files::writeLeavesItsNeighboursAlone()
 {
     const QString name = path(u"file"_s);
     const QByteArray before(3 * 4096 + 77, 'a');
@@ -136,7 +137,7 @@ void TestFiles::writeLeavesItsNeighboursAlone()
     }
 }
 
-void TestFiles::longWriteLeavesItsNeighboursAlone()
+void tst_Files::longWriteLeavesItsNeighboursAlone()
 {
     const QString name = path(u"file"_s);
     const QByteArray before(2 * MiB + 77, 'a');
@@ -155,7 +156,7 @@ void TestFiles::longWriteLeavesItsNeighboursAlone()
     }
 }
 
-void TestFiles::writeTakesBuffersThatAreNotAligned()
+void tst_Files::writeTakesBuffersThatAreNotAligned()
 {
     const QString name = path(u"file"_s);
     QRandomGenerator random = printedRandom();
@@ -173,7 +174,7 @@ void TestFiles::writeTakesBuffersThatAreNotAligned()
     }
 }
 
-void TestFiles::overwriteDoesNotCut()
+void tst_Files::overwriteDoesNotCut()
 {
     const QString name = path(u"file"_s);
     const QByteArray bytes(5000, 'a');
@@ -182,7 +183,7 @@ void TestFiles::overwriteDoesNotCut()
     QCOMPARE(contentsOf(name), bytes);
 }
 
-void TestFiles::overwriteDoesNotCreate()
+void tst_Files::overwriteDoesNotCreate()
 {
     const QString name = path(u"file"_s);
     for (const OpenMode mode : {OpenMode::Overwrite, OpenMode::Verify, OpenMode::Truncate}) {
@@ -191,7 +192,7 @@ void TestFiles::overwriteDoesNotCreate()
     }
 }
 
-void TestFiles::readAnswersWhatIsThere()
+void tst_Files::readAnswersWhatIsThere()
 {
     const QString name = path(u"file"_s);
     QRandomGenerator random = printedRandom();
@@ -215,7 +216,7 @@ void TestFiles::readAnswersWhatIsThere()
     }
 }
 
-void TestFiles::readEndsAtTheEndOfTheFile()
+void tst_Files::readEndsAtTheEndOfTheFile()
 {
     const QString name = path(u"file"_s);
     for (const qint64 length : Lengths) {
@@ -230,7 +231,7 @@ void TestFiles::readEndsAtTheEndOfTheFile()
     }
 }
 
-void TestFiles::readTakesBuffersThatAreNotAligned()
+void tst_Files::readTakesBuffersThatAreNotAligned()
 {
     const QString name = path(u"file"_s);
     QRandomGenerator random = printedRandom();
@@ -248,7 +249,7 @@ void TestFiles::readTakesBuffersThatAreNotAligned()
 }
 
 // Against a plain array that knows nothing of sectors.
-void TestFiles::anyOrderOfOperations()
+void tst_Files::anyOrderOfOperations()
 {
     const QString name = path(u"file"_s);
     QRandomGenerator random = printedRandom();
@@ -301,7 +302,7 @@ void TestFiles::anyOrderOfOperations()
     QCOMPARE(firstDifference(contentsOf(name), model), -1);
 }
 
-void TestFiles::largeChunksFromAnAlignedBuffer()
+void tst_Files::largeChunksFromAnAlignedBuffer()
 {
     const QString name = path(u"file"_s);
     const qint64 length = 32 * MiB + 1000;
@@ -322,7 +323,7 @@ void TestFiles::largeChunksFromAnAlignedBuffer()
     QCOMPARE(firstDifference(contentsOf(name), bytes), -1);
 }
 
-void TestFiles::sizesOfZeroAndBelow()
+void tst_Files::sizesOfZeroAndBelow()
 {
     const QString name = path(u"file"_s);
     QVERIFY(makeFile(name, "abc"));
@@ -337,7 +338,7 @@ void TestFiles::sizesOfZeroAndBelow()
     QCOMPARE(contentsOf(name), QByteArray("abc"));
 }
 
-void TestFiles::positionsBelowZeroAreRefused()
+void tst_Files::positionsBelowZeroAreRefused()
 {
     const QString name = path(u"file"_s);
     QVERIFY(makeFile(name, "abc"));
@@ -350,7 +351,7 @@ void TestFiles::positionsBelowZeroAreRefused()
     QCOMPARE(byte, 'b'); // the position stayed
 }
 
-void TestFiles::positionsBeyondAnyFileAreRefused()
+void tst_Files::positionsBeyondAnyFileAreRefused()
 {
     const QString name = path(u"file"_s);
     QVERIFY(makeFile(name, "abc"));
@@ -363,7 +364,7 @@ void TestFiles::positionsBeyondAnyFileAreRefused()
     QCOMPARE(contentsOf(name), QByteArray("abc"));
 }
 
-void TestFiles::seekBeyondTheEndIsAllowed()
+void tst_Files::seekBeyondTheEndIsAllowed()
 {
     const QString name = path(u"file"_s);
     QVERIFY(makeFile(name, "abc"));
@@ -376,7 +377,7 @@ void TestFiles::seekBeyondTheEndIsAllowed()
     QCOMPARE(firstDifference(contentsOf(name), "abc" + QByteArray(9997, '\0') + "z"), -1);
 }
 
-void TestFiles::setEndCutsAtThePosition()
+void tst_Files::setEndCutsAtThePosition()
 {
     const QString name = path(u"file"_s);
     const QByteArray bytes(10000, 'a');
@@ -393,7 +394,7 @@ void TestFiles::setEndCutsAtThePosition()
     }
 }
 
-void TestFiles::setEndLengthensWithZeros()
+void tst_Files::setEndLengthensWithZeros()
 {
     const QString name = path(u"file"_s);
     QVERIFY(makeFile(name, "abc"));
@@ -405,7 +406,7 @@ void TestFiles::setEndLengthensWithZeros()
     QCOMPARE(contentsOf(name), "abc" + QByteArray(5997, '\0'));
 }
 
-void TestFiles::truncateOpensWithoutCutting()
+void tst_Files::truncateOpensWithoutCutting()
 {
     const QString name = path(u"file"_s);
     QVERIFY(makeFile(name, "abc"));
@@ -418,7 +419,7 @@ void TestFiles::truncateOpensWithoutCutting()
     QCOMPARE(contentsOf(name), QByteArray("azc"));
 }
 
-void TestFiles::truncateCutsWithoutReading()
+void tst_Files::truncateCutsWithoutReading()
 {
     const QString name = path(u"file"_s);
     QVERIFY(makeFile(name, "abc"));
@@ -428,7 +429,7 @@ void TestFiles::truncateCutsWithoutReading()
     QVERIFY(!file.value()->read(&byte, 1).ok());
 }
 
-void TestFiles::verifyDoesNotWrite()
+void tst_Files::verifyDoesNotWrite()
 {
     const QString name = path(u"file"_s);
     const QByteArray bytes(8192, 'a');
@@ -443,7 +444,7 @@ void TestFiles::verifyDoesNotWrite()
     QCOMPARE(contentsOf(name), bytes);
 }
 
-void TestFiles::verifyWhileOverwriting()
+void tst_Files::verifyWhileOverwriting()
 {
     const QString name = path(u"file"_s);
     QVERIFY(makeFile(name, QByteArray(10001, 'a')));
@@ -458,7 +459,7 @@ void TestFiles::verifyWhileOverwriting()
     QCOMPARE(firstDifference(found, QByteArray(10001, 'z')), -1);
 }
 
-void TestFiles::createFillCreates()
+void tst_Files::createFillCreates()
 {
     const QString name = path(u"fill_000000.tmp"_s);
     auto file = files().open(name, OpenMode::CreateFill);
@@ -472,7 +473,7 @@ void TestFiles::createFillCreates()
     QCOMPARE(firstDifference(contentsOf(name), bytes), -1);
 }
 
-void TestFiles::createFillCutsAnExistingFile()
+void tst_Files::createFillCutsAnExistingFile()
 {
     const QString name = path(u"file"_s);
     QVERIFY(makeFile(name, QByteArray(10000, 'a')));
@@ -484,7 +485,7 @@ void TestFiles::createFillCutsAnExistingFile()
     QCOMPARE(contentsOf(name), QByteArray("z"));
 }
 
-void TestFiles::createFillTakesAnyChunk_data()
+void tst_Files::createFillTakesAnyChunk_data()
 {
     QTest::addColumn<qint64>("chunk");
     for (const qint64 chunk : {1000, 4096, 5000, 65536, 100003})
@@ -492,7 +493,7 @@ void TestFiles::createFillTakesAnyChunk_data()
 }
 
 // A fill ends with a chunk that is as long as the room that is left.
-void TestFiles::createFillTakesAnyChunk()
+void tst_Files::createFillTakesAnyChunk()
 {
     QFETCH(qint64, chunk);
     const QString name = path(u"file"_s);
@@ -508,7 +509,7 @@ void TestFiles::createFillTakesAnyChunk()
     QCOMPARE(firstDifference(contentsOf(name), bytes), -1);
 }
 
-void TestFiles::createFillCannotRead()
+void tst_Files::createFillCannotRead()
 {
     auto file = files().open(path(u"file"_s), OpenMode::CreateFill);
     QVERIFY(file.ok());
@@ -527,12 +528,12 @@ static void addModes()
     QTest::newRow("CreateFill") << OpenMode::CreateFill;
 }
 
-void TestFiles::openOfNothing_data()
+void tst_Files::openOfNothing_data()
 {
     addModes();
 }
 
-void TestFiles::openOfNothing()
+void tst_Files::openOfNothing()
 {
     QFETCH(OpenMode, mode);
     QVERIFY(makeFile(path(u"file"_s), "abc"));
@@ -543,12 +544,12 @@ void TestFiles::openOfNothing()
     QCOMPARE(contentsOf(path(u"file"_s)), QByteArray("abc"));
 }
 
-void TestFiles::openOfAFolderIsRefused_data()
+void tst_Files::openOfAFolderIsRefused_data()
 {
     addModes();
 }
 
-void TestFiles::openOfAFolderIsRefused()
+void tst_Files::openOfAFolderIsRefused()
 {
     QFETCH(OpenMode, mode);
     QVERIFY(QDir().mkdir(path(u"folder"_s)));
@@ -557,7 +558,7 @@ void TestFiles::openOfAFolderIsRefused()
     QVERIFY(QFileInfo(path(u"folder"_s)).isDir());
 }
 
-void TestFiles::infoOfAFile()
+void tst_Files::infoOfAFile()
 {
     QVERIFY(makeFile(path(u"empty"_s), {}));
     QVERIFY(makeFile(path(u"file"_s), QByteArray(12345, 'a')));
@@ -572,7 +573,7 @@ void TestFiles::infoOfAFile()
     QCOMPARE(file.value().linkCount, 1);
 }
 
-void TestFiles::infoCountsHardLinks()
+void tst_Files::infoCountsHardLinks()
 {
     QVERIFY(makeFile(path(u"file"_s), "abc"));
     for (int links = 2; links <= 4; ++links) {
@@ -583,7 +584,7 @@ void TestFiles::infoCountsHardLinks()
     }
 }
 
-void TestFiles::infoOfAFolder()
+void tst_Files::infoOfAFolder()
 {
     QVERIFY(QDir().mkdir(path(u"folder"_s)));
     for (const QString &name : {u"folder"_s, u"folder/"_s}) {
@@ -595,7 +596,7 @@ void TestFiles::infoOfAFolder()
     }
 }
 
-void TestFiles::infoOfNothing()
+void tst_Files::infoOfNothing()
 {
     QVERIFY(makeFile(path(u"file"_s), "abc"));
     QCOMPARE(files().info(path(u"none"_s)).code(), quint32(FileNotFound));
@@ -604,7 +605,7 @@ void TestFiles::infoOfNothing()
     QCOMPARE(files().info(path(u"file/none"_s)).code(), quint32(PathNotFound));
 }
 
-void TestFiles::clearReadOnlyMakesWritable()
+void tst_Files::clearReadOnlyMakesWritable()
 {
     const QString name = path(u"file"_s);
     QVERIFY(makeFile(name, "abc"));
@@ -617,14 +618,14 @@ void TestFiles::clearReadOnlyMakesWritable()
     QCOMPARE(contentsOf(name), QByteArray("abc"));
 }
 
-void TestFiles::clearReadOnlyOfNothingIsSuccess()
+void tst_Files::clearReadOnlyOfNothingIsSuccess()
 {
     QVERIFY(files().clearReadOnly(path(u"none"_s)).ok());
     QVERIFY(files().clearReadOnly(path(u"none/none"_s)).ok());
     QVERIFY(QDir(m_folder).isEmpty());
 }
 
-void TestFiles::renameKeepsTheContents()
+void tst_Files::renameKeepsTheContents()
 {
     QVERIFY(makeFile(path(u"old"_s), "abc"));
     QVERIFY(files().rename(path(u"old"_s), path(u"A1B2C3D4E5F6.tmp"_s)).ok());
@@ -632,7 +633,7 @@ void TestFiles::renameKeepsTheContents()
     QCOMPARE(contentsOf(path(u"A1B2C3D4E5F6.tmp"_s)), QByteArray("abc"));
 }
 
-void TestFiles::renameReplaces()
+void tst_Files::renameReplaces()
 {
     QVERIFY(makeFile(path(u"old"_s), "abc"));
     QVERIFY(makeFile(path(u"new"_s), "another"));
@@ -641,14 +642,14 @@ void TestFiles::renameReplaces()
     QCOMPARE(contentsOf(path(u"new"_s)), QByteArray("abc"));
 }
 
-void TestFiles::renameOfNothing()
+void tst_Files::renameOfNothing()
 {
     QVERIFY(makeFile(path(u"new"_s), "another"));
     QCOMPARE(files().rename(path(u"old"_s), path(u"new"_s)).code, quint32(FileNotFound));
     QCOMPARE(contentsOf(path(u"new"_s)), QByteArray("another"));
 }
 
-void TestFiles::removeRemovesTheName()
+void tst_Files::removeRemovesTheName()
 {
     QVERIFY(makeFile(path(u"file"_s), "abc"));
     QVERIFY(makeFile(path(u"other"_s), "other"));
@@ -656,7 +657,7 @@ void TestFiles::removeRemovesTheName()
     QCOMPARE(QDir(m_folder).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList{u"other"_s});
 }
 
-void TestFiles::removeOfOneHardLinkKeepsTheOthers()
+void tst_Files::removeOfOneHardLinkKeepsTheOthers()
 {
     QVERIFY(makeFile(path(u"file"_s), "abc"));
     std::filesystem::create_hard_link(nativePath(path(u"file"_s)), nativePath(path(u"link"_s)));
@@ -664,19 +665,19 @@ void TestFiles::removeOfOneHardLinkKeepsTheOthers()
     QCOMPARE(contentsOf(path(u"link"_s)), QByteArray("abc"));
 }
 
-void TestFiles::removeOfNothing()
+void tst_Files::removeOfNothing()
 {
     QCOMPARE(files().remove(path(u"none"_s)).code, quint32(FileNotFound));
 }
 
-void TestFiles::removeOfAFolderIsRefused()
+void tst_Files::removeOfAFolderIsRefused()
 {
     QVERIFY(QDir().mkdir(path(u"folder"_s)));
     QCOMPARE(files().remove(path(u"folder"_s)).code, quint32(AccessDenied));
     QVERIFY(QFileInfo(path(u"folder"_s)).isDir());
 }
 
-void TestFiles::namesOutsideAscii_data()
+void tst_Files::namesOutsideAscii_data()
 {
     QTest::addColumn<QString>("name");
     QTest::newRow("Chinese") << u"文件粉碎.txt"_s;
@@ -686,7 +687,7 @@ void TestFiles::namesOutsideAscii_data()
     QTest::newRow("leading dot") << u".hidden"_s;
 }
 
-void TestFiles::namesOutsideAscii()
+void tst_Files::namesOutsideAscii()
 {
     QFETCH(QString, name);
     QVERIFY(makeFile(path(name), "abc"));
@@ -704,7 +705,7 @@ void TestFiles::namesOutsideAscii()
     QVERIFY(QDir(m_folder).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot));
 }
 
-void TestFiles::longPaths()
+void tst_Files::longPaths()
 {
     // Well beyond the 260 characters at which Windows needs another form of path.
     QString folder = m_folder;
@@ -725,7 +726,7 @@ void TestFiles::longPaths()
 }
 
 // "file\0.txt" would end at the zero and name "file".
-void TestFiles::zeroInAPathIsRefused()
+void tst_Files::zeroInAPathIsRefused()
 {
     QVERIFY(makeFile(path(u"file"_s), "abc"));
     const QString name = path(u"file"_s) + QChar(u'\0') + u".txt"_s;
@@ -739,7 +740,7 @@ void TestFiles::zeroInAPathIsRefused()
     QCOMPARE(contentsOf(path(u"file"_s)), QByteArray("abc"));
 }
 
-void TestFiles::manyThreadsWithAFileEach()
+void tst_Files::manyThreadsWithAFileEach()
 {
     constexpr int Count = 8;
     for (int i = 0; i < Count; ++i)
@@ -763,5 +764,5 @@ void TestFiles::manyThreadsWithAFileEach()
         QCOMPARE(contentsOf(path(QString::number(i))), QByteArray(20000 + i, char('b' + i)));
 }
 
-QTEST_GUILESS_MAIN(TestFiles)
+QUORVEX_SUITE(tst_Files, QCoreApplication)
 #include "tst_files.moc"

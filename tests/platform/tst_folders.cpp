@@ -1,5 +1,6 @@
-#include "contract/filecontents.h"
-#include "contract/places.h"
+#include "platform/filecontents.h"
+#include "platform/places.h"
+#include "support/suite.h"
 
 #include "platform/folders.h"
 
@@ -25,7 +26,7 @@ bool isEmptyFolder(const QString &path)
 } // namespace
 
 // What the headers promise of folders, on every backend and file system.
-class TestFolders : public ContractSuite
+class tst_Folders : public ContractSuite
 {
     Q_OBJECT
 
@@ -65,7 +66,7 @@ private:
     QMap<QString, FileKind> listed(const QString &folder);
 };
 
-QMap<QString, FileKind> TestFolders::listed(const QString &folder)
+QMap<QString, FileKind> tst_Folders::listed(const QString &folder)
 {
     QMap<QString, FileKind> entries;
     int calls = 0;
@@ -79,7 +80,7 @@ QMap<QString, FileKind> TestFolders::listed(const QString &folder)
     return entries;
 }
 
-void TestFolders::listingSeesEveryEntryOnce()
+void tst_Folders::listingSeesEveryEntryOnce()
 {
     QStringList names{u".hidden"_s, u"文件.txt"_s, u"a b"_s, u"file"_s, u".quorvex_temp_0a1b2c3d"_s};
 #ifndef Q_OS_WIN
@@ -92,7 +93,7 @@ void TestFolders::listingSeesEveryEntryOnce()
     QCOMPARE(QStringList(listed(m_folder).keys()), expected);
 }
 
-void TestFolders::listingNamesTheKinds()
+void tst_Folders::listingNamesTheKinds()
 {
     QVERIFY(makeFile(path(u"file"_s), "abc"));
     QVERIFY(QDir().mkdir(path(u"folder"_s)));
@@ -101,19 +102,19 @@ void TestFolders::listingNamesTheKinds()
     QCOMPARE(listed(m_folder + u'/'), expected);
 }
 
-void TestFolders::listingOfAnEmptyFolder()
+void tst_Folders::listingOfAnEmptyFolder()
 {
     QVERIFY(listed(m_folder).isEmpty());
 }
 
-void TestFolders::listingOfManyEntries()
+void tst_Folders::listingOfManyEntries()
 {
     for (int i = 0; i < 3000; ++i)
         QVERIFY(makeFile(path(u"a somewhat longer name, so that one read does not do %1"_s.arg(i)), {}));
     QCOMPARE(listed(m_folder).size(), 3000);
 }
 
-void TestFolders::visitorEndsTheListing()
+void tst_Folders::visitorEndsTheListing()
 {
     for (int i = 0; i < 5; ++i)
         QVERIFY(makeFile(path(QString::number(i)), {}));
@@ -124,7 +125,7 @@ void TestFolders::visitorEndsTheListing()
     QCOMPARE(calls, 3);
 }
 
-void TestFolders::visitorMayRemoveWhatItSees()
+void tst_Folders::visitorMayRemoveWhatItSees()
 {
     for (int i = 0; i < 500; ++i)
         QVERIFY(makeFile(path(QString::number(i)), {}));
@@ -139,7 +140,7 @@ void TestFolders::visitorMayRemoveWhatItSees()
     QVERIFY(isEmptyFolder(m_folder));
 }
 
-void TestFolders::listingsNest()
+void tst_Folders::listingsNest()
 {
     QVERIFY(QDir().mkpath(path(u"a/b/c/d"_s)));
     QStringList seen;
@@ -154,7 +155,7 @@ void TestFolders::listingsNest()
     QCOMPARE(seen, (QStringList{u"a"_s, u"b"_s, u"c"_s, u"d"_s}));
 }
 
-void TestFolders::listingOfNothing()
+void tst_Folders::listingOfNothing()
 {
     const auto visit = [](const QString &, FileKind) {
         QTest::qFail("nothing was to be seen", __FILE__, __LINE__);
@@ -165,13 +166,13 @@ void TestFolders::listingOfNothing()
     QVERIFY(!folders().forEachEntry(QString(), visit).ok());
 }
 
-void TestFolders::listingOfAFileIsRefused()
+void tst_Folders::listingOfAFileIsRefused()
 {
     QVERIFY(makeFile(path(u"file"_s), "abc"));
     QVERIFY(!folders().forEachEntry(path(u"file"_s), [](const QString &, FileKind) { return true; }).ok());
 }
 
-void TestFolders::createWithMissingParents()
+void tst_Folders::createWithMissingParents()
 {
     QVERIFY(folders().create(path(u"one"_s)).ok());
     QVERIFY(folders().create(path(u"a/b//c/d/"_s)).ok());
@@ -181,7 +182,7 @@ void TestFolders::createWithMissingParents()
     QVERIFY(isEmptyFolder(path(u"a/b/c/d"_s)));
 }
 
-void TestFolders::createOfWhatExists()
+void tst_Folders::createOfWhatExists()
 {
     QVERIFY(makeFile(path(u"file"_s), "abc"));
     QVERIFY(folders().create(m_folder).ok());
@@ -190,14 +191,14 @@ void TestFolders::createOfWhatExists()
     QCOMPARE(contentsOf(path(u"file"_s)), QByteArray("abc"));
 }
 
-void TestFolders::createOverAFileIsRefused()
+void tst_Folders::createOverAFileIsRefused()
 {
     QVERIFY(makeFile(path(u"file"_s), "abc"));
     QCOMPARE(folders().create(path(u"file"_s)).code, quint32(AlreadyExists));
     QCOMPARE(contentsOf(path(u"file"_s)), QByteArray("abc"));
 }
 
-void TestFolders::createBelowAFileIsRefused()
+void tst_Folders::createBelowAFileIsRefused()
 {
     QVERIFY(makeFile(path(u"file"_s), "abc"));
     QCOMPARE(folders().create(path(u"file/folder"_s)).code, quint32(PathNotFound));
@@ -205,7 +206,7 @@ void TestFolders::createBelowAFileIsRefused()
     QCOMPARE(contentsOf(path(u"file"_s)), QByteArray("abc"));
 }
 
-void TestFolders::removeEmptyRemoves()
+void tst_Folders::removeEmptyRemoves()
 {
     QVERIFY(QDir().mkpath(path(u"a/b"_s)));
     QVERIFY(folders().removeEmpty(path(u"a/b/"_s)).ok());
@@ -213,7 +214,7 @@ void TestFolders::removeEmptyRemoves()
     QVERIFY(isEmptyFolder(m_folder));
 }
 
-void TestFolders::removeEmptyKeepsAFullFolder()
+void tst_Folders::removeEmptyKeepsAFullFolder()
 {
     QVERIFY(QDir().mkpath(path(u"a/b"_s)));
     QCOMPARE(folders().removeEmpty(path(u"a"_s)).code, quint32(DirectoryNotEmpty));
@@ -223,19 +224,19 @@ void TestFolders::removeEmptyKeepsAFullFolder()
     QVERIFY(QFileInfo::exists(path(u"a/b/.hidden"_s)));
 }
 
-void TestFolders::removeEmptyOfAFileIsRefused()
+void tst_Folders::removeEmptyOfAFileIsRefused()
 {
     QVERIFY(makeFile(path(u"file"_s), {}));
     QVERIFY(!folders().removeEmpty(path(u"file"_s)).ok());
     QVERIFY(QFileInfo::exists(path(u"file"_s)));
 }
 
-void TestFolders::removeEmptyOfNothing()
+void tst_Folders::removeEmptyOfNothing()
 {
     QCOMPARE(folders().removeEmpty(path(u"none"_s)).code, quint32(FileNotFound));
 }
 
-void TestFolders::removeTreeRemovesEverything()
+void tst_Folders::removeTreeRemovesEverything()
 {
     QVERIFY(QDir().mkpath(path(u"tree/a/b/c"_s)));
     QVERIFY(QDir().mkpath(path(u"tree/a/d"_s)));
@@ -250,7 +251,7 @@ void TestFolders::removeTreeRemovesEverything()
     QCOMPARE(listed(m_folder).keys(), QStringList{u"beside"_s});
 }
 
-void TestFolders::removeTreeOfManyEntries()
+void tst_Folders::removeTreeOfManyEntries()
 {
     QVERIFY(QDir().mkdir(path(u"mft_clean"_s)));
     for (int i = 0; i < 3000; ++i)
@@ -259,7 +260,7 @@ void TestFolders::removeTreeOfManyEntries()
     QVERIFY(isEmptyFolder(m_folder));
 }
 
-void TestFolders::removeTreeOfManyFolders()
+void tst_Folders::removeTreeOfManyFolders()
 {
     for (int i = 0; i < 300; ++i)
         QVERIFY(QDir().mkpath(path(u"dir_clean/%1/%2"_s.arg(i).arg(i % 7))));
@@ -267,14 +268,14 @@ void TestFolders::removeTreeOfManyFolders()
     QVERIFY(isEmptyFolder(m_folder));
 }
 
-void TestFolders::removeTreeTakesNamesWithSlashes_data()
+void tst_Folders::removeTreeTakesNamesWithSlashes_data()
 {
     QTest::addColumn<QString>("name");
     QTest::newRow("at the end") << u"a/b/"_s;
     QTest::newRow("doubled") << u"a//b"_s;
 }
 
-void TestFolders::removeTreeTakesNamesWithSlashes()
+void tst_Folders::removeTreeTakesNamesWithSlashes()
 {
     QFETCH(QString, name);
     QVERIFY(QDir().mkpath(path(u"a/b/c"_s)));
@@ -282,27 +283,27 @@ void TestFolders::removeTreeTakesNamesWithSlashes()
     QVERIFY(isEmptyFolder(path(u"a"_s)));
 }
 
-void TestFolders::removeTreeOfAnEmptyFolder()
+void tst_Folders::removeTreeOfAnEmptyFolder()
 {
     QVERIFY(QDir().mkdir(path(u"a"_s)));
     QVERIFY(folders().removeTree(path(u"a"_s)).ok());
     QVERIFY(isEmptyFolder(m_folder));
 }
 
-void TestFolders::removeTreeOfAFileIsRefused()
+void tst_Folders::removeTreeOfAFileIsRefused()
 {
     QVERIFY(makeFile(path(u"file"_s), "abc"));
     QVERIFY(!folders().removeTree(path(u"file"_s)).ok());
     QCOMPARE(contentsOf(path(u"file"_s)), QByteArray("abc"));
 }
 
-void TestFolders::removeTreeOfNothing()
+void tst_Folders::removeTreeOfNothing()
 {
     QCOMPARE(folders().removeTree(path(u"none"_s)).code, quint32(FileNotFound));
     QVERIFY(!folders().removeTree(QString()).ok());
 }
 
-void TestFolders::hideOfAnEntry()
+void tst_Folders::hideOfAnEntry()
 {
     QVERIFY(QDir().mkdir(path(u".folder"_s)));
     QVERIFY(makeFile(path(u".file"_s), "abc"));
@@ -313,12 +314,12 @@ void TestFolders::hideOfAnEntry()
     QCOMPARE(contentsOf(path(u".file"_s)), QByteArray("abc"));
 }
 
-void TestFolders::hideOfNothing()
+void tst_Folders::hideOfNothing()
 {
     QCOMPARE(folders().hide(path(u"none"_s)).code, quint32(FileNotFound));
 }
 
-void TestFolders::spaceOfTheVolume()
+void tst_Folders::spaceOfTheVolume()
 {
     QVERIFY(makeFile(path(u"file"_s), "abc"));
     const QStorageInfo storage(m_folder);
@@ -331,7 +332,7 @@ void TestFolders::spaceOfTheVolume()
     }
 }
 
-void TestFolders::spaceOfAVanishedPath()
+void tst_Folders::spaceOfAVanishedPath()
 {
     QVERIFY(QDir().mkdir(path(u"a"_s)));
     QVERIFY(folders().space(path(u"a"_s)).ok());
@@ -340,7 +341,7 @@ void TestFolders::spaceOfAVanishedPath()
     QVERIFY(!folders().space(path(u"a/b"_s)).ok());
 }
 
-void TestFolders::zeroInAPathIsRefused()
+void tst_Folders::zeroInAPathIsRefused()
 {
     QVERIFY(QDir().mkdir(path(u"a"_s)));
     const QString name = path(u"a"_s) + QChar(u'\0') + u"b"_s;
@@ -354,5 +355,5 @@ void TestFolders::zeroInAPathIsRefused()
     QVERIFY(QFileInfo(path(u"a"_s)).isDir());
 }
 
-QTEST_GUILESS_MAIN(TestFolders)
+QUORVEX_SUITE(tst_Folders, QCoreApplication)
 #include "tst_folders.moc"

@@ -1,4 +1,4 @@
-#include "fault/faultyfolder.h"
+#include "support/faultyfolder.h"
 
 #include <QByteArray>
 #include <QDir>

@@ -3,6 +3,7 @@
 #include "platform/platform.h"
 #include "platform/storagereplies.h"
 #include "support/loopmount.h"
+#include "support/suite.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -35,7 +36,7 @@ DriveIdentity identityOf(Devices &devices, int number)
 } // namespace
 
 // Volumes of the Linux backend on loop devices with real file systems.
-class TestLinuxVolumes : public QObject
+class tst_LinuxVolumes : public QObject
 {
     Q_OBJECT
 
@@ -66,14 +67,14 @@ private:
     Devices &devices() { return m_platform->devices(); }
 };
 
-void TestLinuxVolumes::initTestCase()
+void tst_LinuxVolumes::initTestCase()
 {
     const QString reason = LoopMount::unavailableReason(LoopMount::Ext4);
     if (!reason.isEmpty())
         QSKIP(qPrintable(reason));
 }
 
-void TestLinuxVolumes::init()
+void tst_LinuxVolumes::init()
 {
     m_folder = std::make_unique<QTemporaryDir>();
     LoopMount::Options options;
@@ -87,14 +88,14 @@ void TestLinuxVolumes::init()
     m_identity = identityOf(devices(), m_number);
 }
 
-void TestLinuxVolumes::cleanup()
+void tst_LinuxVolumes::cleanup()
 {
     m_platform.reset();
     m_volume.reset();
     m_folder.reset();
 }
 
-void TestLinuxVolumes::mountedVolumeIsListedWithItsRoom()
+void tst_LinuxVolumes::mountedVolumeIsListedWithItsRoom()
 {
     const QList<MountedVolume> volumes = devices().mountedVolumes();
     const auto mine = std::find_if(volumes.begin(), volumes.end(), [this](const MountedVolume &volume) {
@@ -110,14 +111,14 @@ void TestLinuxVolumes::mountedVolumeIsListedWithItsRoom()
     QVERIFY(mine->freeBytes > 0 && mine->freeBytes <= mine->totalBytes);
 }
 
-void TestLinuxVolumes::extentsNameTheDrive()
+void tst_LinuxVolumes::extentsNameTheDrive()
 {
     auto query = devices().queryVolume(m_volume->mountPoint());
     QVERIFY(query.ok());
     QCOMPARE(query.value()->extents(OneExtent).value(), QList<Extent>({{m_number, 0, m_identity.sizeBytes}}));
 }
 
-void TestLinuxVolumes::lockUnmountsEverywhere()
+void tst_LinuxVolumes::lockUnmountsEverywhere()
 {
     const QString second = m_folder->filePath(QStringLiteral("second"));
     QVERIFY(QDir().mkpath(second));
@@ -130,7 +131,7 @@ void TestLinuxVolumes::lockUnmountsEverywhere()
     QVERIFY(!devices().volumeNames().contains(second));
 }
 
-void TestLinuxVolumes::busyVolumeIsNotLocked()
+void tst_LinuxVolumes::busyVolumeIsNotLocked()
 {
     QFile open(m_volume->mountPoint() + QStringLiteral("/open"));
     QVERIFY(open.open(QIODevice::WriteOnly));
@@ -143,7 +144,7 @@ void TestLinuxVolumes::busyVolumeIsNotLocked()
     QVERIFY(volume.value()->lock().ok());
 }
 
-void TestLinuxVolumes::unlockedVolumeTakesNoWrites()
+void tst_LinuxVolumes::unlockedVolumeTakesNoWrites()
 {
     const QByteArray before = m_volume->readImage(0, 4096);
     auto volume = devices().openVolume(m_volume->mountPoint(), m_identity);
@@ -154,7 +155,7 @@ void TestLinuxVolumes::unlockedVolumeTakesNoWrites()
     QCOMPARE(m_volume->readImage(0, 4096), before);
 }
 
-void TestLinuxVolumes::lockedVolumeTakesWrites()
+void tst_LinuxVolumes::lockedVolumeTakesWrites()
 {
     auto volume = devices().openVolume(m_volume->mountPoint(), m_identity);
     QVERIFY(volume.ok());
@@ -167,7 +168,7 @@ void TestLinuxVolumes::lockedVolumeTakesWrites()
     QCOMPARE(volume.value()->write(data.data(), data.size()).code(), quint32(SharingViolation));
 }
 
-void TestLinuxVolumes::lockIsExclusive()
+void tst_LinuxVolumes::lockIsExclusive()
 {
     auto first = devices().openVolume(m_volume->mountPoint(), m_identity);
     auto second = devices().openVolume(m_volume->mountPoint(), m_identity);
@@ -179,7 +180,7 @@ void TestLinuxVolumes::lockIsExclusive()
     QVERIFY(second.value()->lock().ok());
 }
 
-void TestLinuxVolumes::volumeOfAnotherDriveIsRefused()
+void tst_LinuxVolumes::volumeOfAnotherDriveIsRefused()
 {
     DriveIdentity other = m_identity;
     other.number = m_number + 100;
@@ -187,7 +188,7 @@ void TestLinuxVolumes::volumeOfAnotherDriveIsRefused()
     QVERIFY(m_volume->isMounted());
 }
 
-void TestLinuxVolumes::changedDriveIsRefused()
+void tst_LinuxVolumes::changedDriveIsRefused()
 {
     DriveIdentity other = m_identity;
     other.sizeBytes -= 512;
@@ -195,12 +196,12 @@ void TestLinuxVolumes::changedDriveIsRefused()
     QVERIFY(m_volume->isMounted());
 }
 
-void TestLinuxVolumes::driveInUseIsNotOpenedAlone()
+void tst_LinuxVolumes::driveInUseIsNotOpenedAlone()
 {
     QCOMPARE(devices().openDrive(m_identity, DriveAccess::Alone).code(), quint32(SharingViolation));
 }
 
-void TestLinuxVolumes::driveOpensBesideOwnVolumes()
+void tst_LinuxVolumes::driveOpensBesideOwnVolumes()
 {
     auto volume = devices().openVolume(m_volume->mountPoint(), m_identity);
     QVERIFY(volume.ok());
@@ -210,7 +211,7 @@ void TestLinuxVolumes::driveOpensBesideOwnVolumes()
     QCOMPARE(drive.value()->length().value(), m_identity.sizeBytes);
 }
 
-void TestLinuxVolumes::newAttachmentIsAnotherDrive()
+void tst_LinuxVolumes::newAttachmentIsAnotherDrive()
 {
     QVERIFY(m_volume->unmount());
     QVERIFY(m_volume->close());
@@ -225,5 +226,5 @@ void TestLinuxVolumes::newAttachmentIsAnotherDrive()
     QCOMPARE(other.countInImage(QByteArray(1, 'x')), 0);
 }
 
-QTEST_GUILESS_MAIN(TestLinuxVolumes)
+QUORVEX_SUITE(tst_LinuxVolumes, QCoreApplication)
 #include "tst_linuxvolumes.moc"

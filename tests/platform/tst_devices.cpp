@@ -2,6 +2,7 @@
 #include "platform/devices.h"
 #include "platform/platform.h"
 #include "platform/storagereplies.h"
+#include "support/suite.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -116,7 +117,7 @@ AlignedBuffer filled(qint64 size, char value)
 } // namespace
 
 // What devices.h promises, of every backend that has drives.
-class TestDevices : public QObject
+class tst_Devices : public QObject
 {
     Q_OBJECT
 
@@ -158,7 +159,7 @@ static QString unavailable(const QString &kind)
     Backing name(kind);                                                                                      \
     QVERIFY(name.isReady())
 
-void TestDevices::initTestCase_data()
+void tst_Devices::initTestCase_data()
 {
     QTest::addColumn<QString>("kind");
     QTest::addColumn<int>("sector");
@@ -171,7 +172,7 @@ void TestDevices::initTestCase_data()
 #endif
 }
 
-void TestDevices::geometryAndLength()
+void tst_Devices::geometryAndLength()
 {
     BACKING(drive);
     QFETCH_GLOBAL(int, sector);
@@ -187,7 +188,7 @@ void TestDevices::geometryAndLength()
     QCOMPARE(device.value()->length().value(), size);
 }
 
-void TestDevices::describesItself()
+void tst_Devices::describesItself()
 {
     BACKING(drive);
     auto query = drive.devices().queryDrive(drive.number());
@@ -199,13 +200,13 @@ void TestDevices::describesItself()
     QVERIFY(!descriptor.removableMedia);
 }
 
-void TestDevices::pathOpensTheDrive()
+void tst_Devices::pathOpensTheDrive()
 {
     BACKING(drive);
     QVERIFY(QFile::exists(drive.devices().drivePath(drive.number())));
 }
 
-void TestDevices::writeReachesTheMediumAtItsPlace()
+void tst_Devices::writeReachesTheMediumAtItsPlace()
 {
     BACKING(drive);
     QFETCH_GLOBAL(int, sector);
@@ -220,7 +221,7 @@ void TestDevices::writeReachesTheMediumAtItsPlace()
     QCOMPARE(drive.bytes(8 * sector, sector), QByteArray(sector, '\0'));
 }
 
-void TestDevices::readSeesTheMedium()
+void tst_Devices::readSeesTheMedium()
 {
     BACKING(drive);
     QFETCH_GLOBAL(int, sector);
@@ -243,7 +244,7 @@ void TestDevices::readSeesTheMedium()
     QCOMPARE(QByteArray(reinterpret_cast<const char *>(data.data()), sector), QByteArray(sector, 'N'));
 }
 
-void TestDevices::positionAdvances()
+void tst_Devices::positionAdvances()
 {
     BACKING(drive);
     QFETCH_GLOBAL(int, sector);
@@ -255,7 +256,7 @@ void TestDevices::positionAdvances()
     QCOMPARE(drive.bytes(0, 2 * sector), QByteArray(sector, 'A') + QByteArray(sector, 'B'));
 }
 
-void TestDevices::writeAtTheEndIsShort()
+void tst_Devices::writeAtTheEndIsShort()
 {
     BACKING(drive);
     QFETCH_GLOBAL(int, sector);
@@ -268,7 +269,7 @@ void TestDevices::writeAtTheEndIsShort()
     QCOMPARE(drive.bytes(size - sector, 4 * sector), QByteArray(sector, 'E'));
 }
 
-void TestDevices::writeBeyondTheEndIsRefused()
+void tst_Devices::writeBeyondTheEndIsRefused()
 {
     BACKING(drive);
     QFETCH_GLOBAL(int, sector);
@@ -280,7 +281,7 @@ void TestDevices::writeBeyondTheEndIsRefused()
     QCOMPARE(QFileInfo(drive.image()).size(), size);
 }
 
-void TestDevices::readAtTheEndIsShort()
+void tst_Devices::readAtTheEndIsShort()
 {
     BACKING(drive);
     QFETCH_GLOBAL(int, sector);
@@ -293,7 +294,7 @@ void TestDevices::readAtTheEndIsShort()
     QCOMPARE(device.value()->read(data.data(), data.size()).value(), 0);
 }
 
-void TestDevices::unalignedTransfersAreRefused()
+void tst_Devices::unalignedTransfersAreRefused()
 {
     BACKING(drive);
     QFETCH_GLOBAL(int, sector);
@@ -306,7 +307,7 @@ void TestDevices::unalignedTransfersAreRefused()
     QCOMPARE(device.value()->read(data.data(), sector + 1).code(), quint32(InvalidParameter));
 }
 
-void TestDevices::otherSerialNumberIsRefused()
+void tst_Devices::otherSerialNumberIsRefused()
 {
     BACKING(drive);
     DriveIdentity identity = drive.identity();
@@ -314,7 +315,7 @@ void TestDevices::otherSerialNumberIsRefused()
     QCOMPARE(drive.devices().openDrive(identity, DriveAccess::Alone).code(), quint32(NotReady));
 }
 
-void TestDevices::otherSizeIsRefused()
+void tst_Devices::otherSizeIsRefused()
 {
     BACKING(drive);
     DriveIdentity identity = drive.identity();
@@ -322,14 +323,14 @@ void TestDevices::otherSizeIsRefused()
     QCOMPARE(drive.devices().openDrive(identity, DriveAccess::Alone).code(), quint32(NotReady));
 }
 
-void TestDevices::unknownNumberIsRefused()
+void tst_Devices::unknownNumberIsRefused()
 {
     BACKING(drive);
     QCOMPARE(drive.devices().queryDrive(4711).code(), quint32(FileNotFound));
     QVERIFY(!drive.devices().openDrive({4711, {}, 0}, DriveAccess::Alone).ok());
 }
 
-void TestDevices::flushSucceeds()
+void tst_Devices::flushSucceeds()
 {
     BACKING(drive);
     auto device = drive.devices().openDrive(drive.identity(), DriveAccess::Alone);
@@ -337,7 +338,7 @@ void TestDevices::flushSucceeds()
     QVERIFY(device.value()->flush().ok());
 }
 
-void TestDevices::readOnlyReadsAndNeverWrites()
+void tst_Devices::readOnlyReadsAndNeverWrites()
 {
     BACKING(drive);
     QFETCH_GLOBAL(int, sector);
@@ -353,7 +354,7 @@ void TestDevices::readOnlyReadsAndNeverWrites()
     QCOMPARE(drive.bytes(0, MiB), before);
 }
 
-void TestDevices::readOnlyLeavesTheDriveToOthers()
+void tst_Devices::readOnlyLeavesTheDriveToOthers()
 {
     BACKING(drive);
     auto reader = drive.devices().openDrive(drive.identity(), DriveAccess::ReadOnly);
@@ -364,5 +365,5 @@ void TestDevices::readOnlyLeavesTheDriveToOthers()
     QVERIFY(drive.devices().openDrive(drive.identity(), DriveAccess::Alone).ok());
 }
 
-QTEST_GUILESS_MAIN(TestDevices)
+QUORVEX_SUITE(tst_Devices, QCoreApplication)
 #include "tst_devices.moc"

@@ -1,5 +1,6 @@
-#include "contract/filecontents.h"
-#include "contract/places.h"
+#include "platform/filecontents.h"
+#include "platform/places.h"
+#include "support/suite.h"
 
 #include "platform/alignedbuffer.h"
 #include "platform/filenames.h"
@@ -117,7 +118,7 @@ bool setImmutable(const QString &path, bool immutable)
 } // namespace
 
 // What reaches the medium and what comes from it, on file systems that write in place.
-class TestFilesMedium : public ContractSuite
+class tst_FilesMedium : public ContractSuite
 {
     Q_OBJECT
 
@@ -142,13 +143,13 @@ private slots:
     void fullVolumeEndsAWriteWithTheCountThatFitted();
 };
 
-void TestFilesMedium::initTestCase_data()
+void tst_FilesMedium::initTestCase_data()
 {
     // btrfs writes elsewhere at every change, and a memory file system has no medium.
     Places::addRows({u"ext4"_s, u"ext4 on 4096-byte sectors"_s, u"xfs"_s});
 }
 
-void TestFilesMedium::overwriteKeepsTheBlocks()
+void tst_FilesMedium::overwriteKeepsTheBlocks()
 {
     const QString name = path(u"file"_s);
     const qint64 length = 3 * MiB + 700;
@@ -162,7 +163,7 @@ void TestFilesMedium::overwriteKeepsTheBlocks()
     QCOMPARE(stretchesOf(name), before);
 }
 
-void TestFilesMedium::overwrittenBytesLeaveTheImage()
+void tst_FilesMedium::overwrittenBytesLeaveTheImage()
 {
     const QByteArray marker = "the bytes that must not stay " + QByteArray(5, '\x7F');
     const QString name = path(u"file"_s);
@@ -177,7 +178,7 @@ void TestFilesMedium::overwrittenBytesLeaveTheImage()
 }
 
 // Without a flush: what a power cut after the call would leave.
-void TestFilesMedium::writtenBytesAreOnTheMediumAtOnce()
+void tst_FilesMedium::writtenBytesAreOnTheMediumAtOnce()
 {
     const QString name = path(u"file"_s);
     QVERIFY(makeSettledFile(name, QByteArray(10000, 'a')));
@@ -189,14 +190,14 @@ void TestFilesMedium::writtenBytesAreOnTheMediumAtOnce()
     QCOMPARE(m_places.loop()->readImage(qint64(stretches[0].physical), 10000), QByteArray(10000, 'z'));
 }
 
-void TestFilesMedium::everyWriteHasTheDeviceFlushed_data()
+void tst_FilesMedium::everyWriteHasTheDeviceFlushed_data()
 {
     QTest::addColumn<qint64>("size");
     for (const qint64 size : {1, 700, 4096, 16384, 100000, 1048576, 1048577})
         QTest::addRow("%lld", static_cast<long long>(size)) << size;
 }
 
-void TestFilesMedium::everyWriteHasTheDeviceFlushed()
+void tst_FilesMedium::everyWriteHasTheDeviceFlushed()
 {
     QFETCH(qint64, size);
     const QString name = path(u"file"_s);
@@ -216,7 +217,7 @@ void TestFilesMedium::everyWriteHasTheDeviceFlushed()
     }
 }
 
-void TestFilesMedium::flushHasTheDeviceFlushed()
+void tst_FilesMedium::flushHasTheDeviceFlushed()
 {
     const QString name = path(u"file"_s);
     const QString device = m_places.loop()->device();
@@ -240,7 +241,7 @@ void TestFilesMedium::flushHasTheDeviceFlushed()
 }
 
 // A flush is what a small file costs, so that one too many doubles the time of a job.
-void TestFilesMedium::smallWritesFlushTheDeviceOnce()
+void tst_FilesMedium::smallWritesFlushTheDeviceOnce()
 {
     const QString device = m_places.loop()->device();
     for (const qint64 size : {16384, 5000}) {
@@ -261,7 +262,7 @@ void TestFilesMedium::smallWritesFlushTheDeviceOnce()
     }
 }
 
-void TestFilesMedium::readDoesNotComeFromTheCache_data()
+void tst_FilesMedium::readDoesNotComeFromTheCache_data()
 {
     QTest::addColumn<OpenMode>("mode");
     QTest::newRow("Overwrite") << OpenMode::Overwrite;
@@ -269,7 +270,7 @@ void TestFilesMedium::readDoesNotComeFromTheCache_data()
 }
 
 // The medium is changed below the file system, which cannot know of it.
-void TestFilesMedium::readDoesNotComeFromTheCache()
+void tst_FilesMedium::readDoesNotComeFromTheCache()
 {
     QFETCH(OpenMode, mode);
     const QString name = path(u"file"_s);
@@ -296,7 +297,7 @@ void TestFilesMedium::readDoesNotComeFromTheCache()
     QCOMPARE(firstDifference(whole, QByteArray(length, 'm')), -1);
 }
 
-void TestFilesMedium::readWithoutDirectTransfersDoesNotComeFromTheCache()
+void tst_FilesMedium::readWithoutDirectTransfersDoesNotComeFromTheCache()
 {
     const QString name = path(u"file"_s);
     const qint64 length = 16 * Page;
@@ -317,7 +318,7 @@ void TestFilesMedium::readWithoutDirectTransfersDoesNotComeFromTheCache()
 }
 
 // Pages that are still to be written must not be lost, nor answer in place of the medium.
-void TestFilesMedium::readWithoutDirectTransfersSeesWhatWasJustWritten()
+void tst_FilesMedium::readWithoutDirectTransfersSeesWhatWasJustWritten()
 {
     const QString name = path(u"file"_s);
     QVERIFY(makeSettledFile(name, QByteArray(3 * Page, 'a')));
@@ -335,7 +336,7 @@ void TestFilesMedium::readWithoutDirectTransfersSeesWhatWasJustWritten()
     }
 }
 
-void TestFilesMedium::verifyLeavesNothingInTheCache()
+void tst_FilesMedium::verifyLeavesNothingInTheCache()
 {
     const QString name = path(u"file"_s);
     const qint64 length = 64 * Page + 100;
@@ -350,7 +351,7 @@ void TestFilesMedium::verifyLeavesNothingInTheCache()
 }
 
 // Some file systems take O_DIRECT when a file is opened, and refuse the transfer.
-void TestFilesMedium::refusedFirstTransferGoesThroughTheCache()
+void tst_FilesMedium::refusedFirstTransferGoesThroughTheCache()
 {
     const QString name = path(u"file"_s);
     QVERIFY(makeSettledFile(name, QByteArray(5000, 'a')));
@@ -375,7 +376,7 @@ void TestFilesMedium::refusedFirstTransferGoesThroughTheCache()
     QCOMPARE(found.left(4992), expected.mid(8));
 }
 
-void TestFilesMedium::unreadableBlocksAnswerIoDevice()
+void tst_FilesMedium::unreadableBlocksAnswerIoDevice()
 {
     QTemporaryDir folder;
     LoopMount volume(folder.path(), {.fileSystem = LoopMount::Ext4});
@@ -395,7 +396,7 @@ void TestFilesMedium::unreadableBlocksAnswerIoDevice()
     QVERIFY(QFile::resize(volume.image(), LoopMount::defaultSize(LoopMount::Ext4)));
 }
 
-void TestFilesMedium::readOnlyVolume()
+void tst_FilesMedium::readOnlyVolume()
 {
     const QString name = path(u"file"_s);
     QVERIFY(makeSettledFile(name, "abc"));
@@ -410,7 +411,7 @@ void TestFilesMedium::readOnlyVolume()
     QCOMPARE(contentsOf(name), QByteArray("abc"));
 }
 
-void TestFilesMedium::immutableFile()
+void tst_FilesMedium::immutableFile()
 {
     const QString name = path(u"file"_s);
     QVERIFY(makeSettledFile(name, "abc"));
@@ -423,7 +424,7 @@ void TestFilesMedium::immutableFile()
     QCOMPARE(contentsOf(name), QByteArray("abc"));
 }
 
-void TestFilesMedium::fullVolumeEndsAWriteWithTheCountThatFitted()
+void tst_FilesMedium::fullVolumeEndsAWriteWithTheCountThatFitted()
 {
     const QString name = path(u"fill"_s);
     auto file = files().open(name, OpenMode::CreateFill);
@@ -455,5 +456,5 @@ void TestFilesMedium::fullVolumeEndsAWriteWithTheCountThatFitted()
     QCOMPARE(firstDifference(last, QByteArray(MiB, 'z')), -1);
 }
 
-QTEST_GUILESS_MAIN(TestFilesMedium)
-#include "tst_files_medium.moc"
+QUORVEX_SUITE(tst_FilesMedium, QCoreApplication)
+#include "tst_filesmedium.moc"

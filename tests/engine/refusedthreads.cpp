@@ -1,0 +1,60 @@
+#include "refusedthreads.h"
+
+// A sanitizer starts threads through the same function, in its own way.
+#if defined(Q_OS_LINUX) && !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
+
+#include <dlfcn.h>
+#include <pthread.h>
+
+#include <cerrno>
+#include <memory>
+#include <unistd.h>
+
+bool RefusedThreads::isPossible()
+{
+    return true;
+}
+
+namespace {
+
+// What a late thread does, once it does something.
+struct LateThread
+{
+    void *(*body)(void *);
+    void *argument;
+
+    static void *run(void *self)
+    {
+        const std::unique_ptr<LateThread> late(static_cast<LateThread *>(self));
+        ::sleep(static_cast<unsigned>(RefusedThreads::lateBySeconds.load()));
+        return late->body(late->argument);
+    }
+};
+
+} // namespace
+
+// In the place of the system's, for every library of this process.
+extern "C" int pthread_create(pthread_t *thread, const pthread_attr_t *attributes, void *(*body)(void *),
+                              void *argument) noexcept
+{
+    using Create = int (*)(pthread_t *, const pthread_attr_t *, void *(*)(void *), void *);
+    static const auto system = reinterpret_cast<Create>(::dlsym(RTLD_NEXT, "pthread_create"));
+    if (RefusedThreads::refuseNext())
+        return EAGAIN;
+    if (RefusedThreads::lateBySeconds == 0)
+        return system(thread, attributes, body, argument);
+    auto late = std::make_unique<LateThread>(LateThread{body, argument});
+    const int refusal = system(thread, attributes, &LateThread::run, late.get());
+    if (refusal == 0)
+        static_cast<void>(late.release());
+    return refusal;
+}
+
+#else
+
+bool RefusedThreads::isPossible()
+{
+    return false;
+}
+
+#endif
