@@ -117,7 +117,9 @@ build() {
     shift
     cd "$root"
     if command -v ccache >/dev/null; then
+        # Without the second line it keeps nothing of what is compiled with a precompiled header.
         export CMAKE_CXX_COMPILER_LAUNCHER=ccache
+        export CCACHE_SLOPPINESS=pch_defines,time_macros
     fi
     cmake --preset "$preset" --log-level=NOTICE
     cmake --build --preset "$preset" --parallel "$(jobs_count)" "$@"
