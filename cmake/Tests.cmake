@@ -43,8 +43,9 @@ add_custom_target(quorvex_tests)
 # quorvex_suite(FILE PROGRAM program LABEL label [NAME name] [NEEDS_ROOT] [TIMEOUT seconds] [ENVIRONMENT name=value...])
 #
 # FILE is the suite's source without ".cpp", and its last part the suite's name; NAME is the test's where it is another,
-# for a suite that runs more than once. Labels: unit, contract, fault, residue, cli, gui, windows. Suites that need root
-# or loop devices carry NEEDS_ROOT, and share one lock, since they attach devices and mount file systems.
+# for a suite that runs more than once. Labels: unit, contract, fault, residue, cli, gui, windows; and root, by NEEDS_ROOT,
+# for suites that attach loop devices or mount file systems. These run side by side like all others: each looks at what
+# it attached itself only, as on a machine where others plug in drives.
 function(quorvex_suite file)
   cmake_parse_arguments(PARSE_ARGV 1 arg "NEEDS_ROOT" "PROGRAM;LABEL;NAME;TIMEOUT" "ENVIRONMENT")
   get_filename_component(suite "${file}" NAME)
@@ -65,7 +66,7 @@ function(quorvex_suite file)
     TIMEOUT ${arg_TIMEOUT}
     ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;${arg_ENVIRONMENT}")
   if(arg_NEEDS_ROOT)
-    set_tests_properties(${arg_NAME} PROPERTIES RESOURCE_LOCK block_devices)
+    set_property(TEST ${arg_NAME} APPEND PROPERTY LABELS root)
   endif()
 endfunction()
 

@@ -21,5 +21,6 @@ step "packages" install_packages "${packages_build[@]}" "${packages_test[@]}" "$
 if [[ $preset == tsan ]]; then
     step "Qt for the thread sanitizer" "$root/scripts/tsan-qt.sh"
 fi
-step "build ($preset)" build "$preset"
+# Only what the tests run: neither benches nor pictures.
+step "build ($preset)" build "$preset" --target quorvex_tests
 step "tests ($preset)" run_tests "$preset" "$@"

@@ -147,8 +147,9 @@ GlyphTexts readRanges(const QByteArray &block)
         const int last = tokens[i + 1].toInt(nullptr, 16);
         i += 2;
         if (tokens[i] == "[") {
-            for (int glyph = first; ++i < tokens.size() && tokens[i] != "]"; ++glyph)
-                texts.insert(glyph, utf16FromHex(tokens[i]));
+            int glyph = first;
+            for (++i; i < tokens.size() && tokens[i] != "]"; ++i)
+                texts.insert(glyph++, utf16FromHex(tokens[i]));
             continue;
         }
         const ushort base = tokens[i].toUShort(nullptr, 16);

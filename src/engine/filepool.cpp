@@ -13,13 +13,6 @@
 #include <memory>
 #include <utility>
 
-namespace {
-
-// A thread that has not begun by then was refused, or is late enough to be done without.
-constexpr std::chrono::seconds ThreadPatience{5};
-
-} // namespace
-
 // Shared with every thread that was asked for: a late one finds nothing left, but finds it.
 struct FilePool::Batch
 {
@@ -34,8 +27,9 @@ struct FilePool::Batch
     bool hasLeft() const { return next < jobs.size(); }
 };
 
-FilePool::FilePool(int threads, QObject *parent)
+FilePool::FilePool(int threads, QObject *parent, std::chrono::milliseconds patience)
     : m_threads(new QThreadPool(parent))
+    , m_patience(patience)
 {
     m_threads->setMaxThreadCount(threads);
 }
@@ -43,7 +37,7 @@ FilePool::FilePool(int threads, QObject *parent)
 FilePool::~FilePool()
 {
     m_threads->clear();
-    const std::chrono::milliseconds patience = m_hasThreads ? ThreadPatience : std::chrono::seconds::zero();
+    const std::chrono::milliseconds patience = m_hasThreads ? m_patience : std::chrono::milliseconds::zero();
     if (m_threads->waitForDone(static_cast<int>(patience.count()))) {
         delete m_threads;
         return;
@@ -98,7 +92,7 @@ void FilePool::finish(Batch &batch)
     while (batch.hasLeft() || batch.running > 0) {
         // Whoever is at work, even a thread that came late, tells when it is through.
         if (m_hasThreads || batch.running > 0) {
-            const QDeadlineTimer patience(ThreadPatience);
+            const QDeadlineTimer patience(m_patience);
             if (batch.changed.wait(&batch.mutex, patience) || batch.running > 0)
                 continue;
         }

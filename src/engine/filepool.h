@@ -2,6 +2,7 @@
 
 #include <QtGlobal>
 
+#include <chrono>
 #include <functional>
 #include <vector>
 
@@ -20,8 +21,11 @@ public:
     // Returns whether it succeeded; does not throw.
     using Job = std::function<bool()>;
 
+    // A thread that has not begun by then was refused, or is late enough to be done without.
+    static constexpr std::chrono::milliseconds DefaultPatience{5000};
+
     // The thread pool becomes a child of the parent, which outlives this.
-    FilePool(int threads, QObject *parent);
+    FilePool(int threads, QObject *parent, std::chrono::milliseconds patience = DefaultPatience);
     ~FilePool();
     FilePool(const FilePool &) = delete;
     FilePool &operator=(const FilePool &) = delete;
@@ -40,5 +44,6 @@ private:
     void finish(Batch &batch);
 
     QThreadPool *m_threads;
+    const std::chrono::milliseconds m_patience;
     bool m_hasThreads = true;
 };

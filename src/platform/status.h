@@ -98,7 +98,12 @@ public:
         Q_ASSERT(ok());
         return std::move(*m_value);
     }
-    T valueOr(T otherwise) const { return ok() ? *m_value : std::move(otherwise); }
+    T valueOr(T otherwise) const
+    {
+        if (ok())
+            return *m_value;
+        return otherwise;
+    }
 
 private:
     std::optional<T> m_value;

@@ -7,8 +7,9 @@
 #include <pthread.h>
 
 #include <cerrno>
+#include <chrono>
 #include <memory>
-#include <unistd.h>
+#include <thread>
 
 bool RefusedThreads::isPossible()
 {
@@ -26,7 +27,7 @@ struct LateThread
     static void *run(void *self)
     {
         const std::unique_ptr<LateThread> late(static_cast<LateThread *>(self));
-        ::sleep(static_cast<unsigned>(RefusedThreads::lateBySeconds.load()));
+        std::this_thread::sleep_for(std::chrono::milliseconds(RefusedThreads::lateByMs.load()));
         return late->body(late->argument);
     }
 };
@@ -41,7 +42,7 @@ extern "C" int pthread_create(pthread_t *thread, const pthread_attr_t *attribute
     static const auto system = reinterpret_cast<Create>(::dlsym(RTLD_NEXT, "pthread_create"));
     if (RefusedThreads::refuseNext())
         return EAGAIN;
-    if (RefusedThreads::lateBySeconds == 0)
+    if (RefusedThreads::lateByMs == 0)
         return system(thread, attributes, body, argument);
     auto late = std::make_unique<LateThread>(LateThread{body, argument});
     const int refusal = system(thread, attributes, &LateThread::run, late.get());

@@ -24,8 +24,8 @@ public:
 
     int count() const { return s_refused; }
 
-    // For that long, threads do nothing after their start. Until set to 0.
-    static inline std::atomic<int> lateBySeconds{0};
+    // For that many milliseconds threads do nothing after their start. Until set to 0.
+    static inline std::atomic<int> lateByMs{0};
 
     // Whether the thread that is asked for now is one of them.
     static bool refuseNext()

@@ -8,6 +8,7 @@
 #include <QThread>
 
 #include <atomic>
+#include <chrono>
 #include <vector>
 
 class tst_FilePool : public QObject
@@ -26,6 +27,9 @@ private slots:
 };
 
 namespace {
+
+// For threads that never come, or come after it.
+constexpr std::chrono::milliseconds ShortPatience{100};
 
 // Jobs that count themselves and those that ran on the thread that made them.
 struct Counting
@@ -93,7 +97,7 @@ void tst_FilePool::oneRefusedThreadIsDoneWithout()
     if (!RefusedThreads::isPossible())
         QSKIP(RefusedThreads::whyNot);
     QObject parent;
-    FilePool pool(3, &parent);
+    FilePool pool(3, &parent, ShortPatience);
     Counting counting;
     const RefusedThreads refused(1);
     QCOMPARE(pool.run(counting.jobs(30)), 0);
@@ -107,7 +111,7 @@ void tst_FilePool::withoutThreadsTheCallerDoesTheWork()
     if (!RefusedThreads::isPossible())
         QSKIP(RefusedThreads::whyNot);
     QObject parent;
-    FilePool pool(2, &parent);
+    FilePool pool(2, &parent, ShortPatience);
     const RefusedThreads refused;
     for (int round = 0; round < 3; ++round) {
         Counting counting;
@@ -124,15 +128,15 @@ void tst_FilePool::threadsThatComeLateAreWaitedFor()
     if (!RefusedThreads::isPossible())
         QSKIP(RefusedThreads::whyNot);
     QObject parent;
-    FilePool pool(2, &parent);
+    FilePool pool(2, &parent, ShortPatience);
     std::atomic<int> ran{0};
-    RefusedThreads::lateBySeconds = 6;
+    RefusedThreads::lateByMs = 300;
     const int failures = pool.run(std::vector<FilePool::Job>(4, [&ran] {
-        QTest::qSleep(1500);
+        QTest::qSleep(150);
         ++ran;
         return true;
     }));
-    RefusedThreads::lateBySeconds = 0;
+    RefusedThreads::lateByMs = 0;
     QCOMPARE(failures, 0);
     QCOMPARE(ran.load(), 4);
 }

@@ -23,8 +23,9 @@ Result<FileKind> kindOf(DIR *stream, const dirent &entry)
 {
     if (entry.d_type != DT_UNKNOWN)
         return fileKindFromMode(DTTOIF(entry.d_type));
+    const int folder = ::dirfd(stream);
     struct stat file = {};
-    if (::fstatat(::dirfd(stream), entry.d_name, &file, AT_SYMLINK_NOFOLLOW) != 0)
+    if (folder < 0 || ::fstatat(folder, entry.d_name, &file, AT_SYMLINK_NOFOLLOW) != 0)
         return statusFromErrno(errno, "fstatat");
     return fileKindFromMode(file.st_mode);
 }
