@@ -8,14 +8,17 @@
 
 #include <algorithm>
 #include <cstring>
+#include <utility>
+
+namespace {
+constexpr std::chrono::milliseconds SpeedInterval{500};
+}
 
 BaseWipeWorker::BaseWipeWorker(WipeTask *task, QObject *parent)
     : QObject(parent)
     , m_task(task)
     , m_random(static_cast<quint32>(QRandomGenerator64::global()->generate()))
-{
-    m_speedTimer.start();
-}
+{}
 
 BaseWipeWorker::~BaseWipeWorker() = default;
 
@@ -26,6 +29,12 @@ void BaseWipeWorker::stop()
     // The lock closes the gap between a waiter's look at the flags and its wait.
     QMutexLocker lock(&m_pauseMutex);
     m_pauseCondition.wakeAll();
+}
+
+void BaseWipeWorker::setClock(Clock clock)
+{
+    m_clock = std::move(clock);
+    m_lastSpeedTime = m_clock();
 }
 
 bool BaseWipeWorker::checkPauseStop()
@@ -112,12 +121,13 @@ void BaseWipeWorker::updateProgress(qint64 done, qint64 total)
     const qint64 current = m_bytesBeforePass + done;
     emit bytesWritten(current);
 
-    const qint64 elapsed = m_speedTimer.elapsed();
-    if (elapsed < 500)
+    const auto now = m_clock();
+    const auto elapsed = std::chrono::duration_cast<std::chrono::milliseconds>(now - m_lastSpeedTime);
+    if (elapsed < SpeedInterval)
         return;
     const qint64 delta = current - m_lastSpeedBytes;
     if (delta > 0)
-        emit speedUpdated(static_cast<double>(delta) * 1000.0 / static_cast<double>(elapsed));
+        emit speedUpdated(static_cast<double>(delta) * 1000.0 / static_cast<double>(elapsed.count()));
     m_lastSpeedBytes = current;
-    m_speedTimer.restart();
+    m_lastSpeedTime = now;
 }

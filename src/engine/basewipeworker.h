@@ -3,7 +3,6 @@
 #include "engine/patterngenerator.h"
 #include "model/wipemethod.h"
 
-#include <QElapsedTimer>
 #include <QMutex>
 #include <QObject>
 #include <QString>
@@ -12,6 +11,7 @@
 #include <atomic>
 #include <chrono>
 #include <cstddef>
+#include <functional>
 
 class WipeTask;
 
@@ -32,6 +32,10 @@ public:
 
     // Ends the job at its next check. Any thread; wakes a worker that is paused or waiting.
     void stop();
+
+    // What speeds are measured by, the system's steady clock unless set before process().
+    using Clock = std::function<std::chrono::steady_clock::time_point()>;
+    void setClock(Clock clock);
 
 public slots:
     virtual void process() = 0;
@@ -84,6 +88,7 @@ private:
     QMutex m_pauseMutex;
     QWaitCondition m_pauseCondition;
     PatternGenerator m_random;
-    QElapsedTimer m_speedTimer;
+    Clock m_clock = std::chrono::steady_clock::now;
+    std::chrono::steady_clock::time_point m_lastSpeedTime = m_clock();
     qint64 m_lastSpeedBytes = 0;
 };

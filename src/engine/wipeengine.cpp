@@ -10,12 +10,10 @@
 #include <QDebug>
 #include <QThread>
 
-#include <chrono>
 #include <numeric>
 
 namespace {
 
-constexpr std::chrono::milliseconds StopPatience{5000};
 constexpr qint64 SpeedIntervalMs = 1000;
 
 quint64 freeBytesOf(const WipeTask &task)
@@ -92,7 +90,7 @@ void WipeEngine::start()
     m_stopRequested = false;
     m_progress = 0;
     m_bytesWritten = 0;
-    m_startTime = QDateTime::currentDateTime();
+    m_startTime = m_clock();
     m_lastSpeedTime = m_startTime;
     m_lastSpeedBytes = 0;
     m_totalPasses = m_task->method().passCount();
@@ -122,7 +120,7 @@ void WipeEngine::beginReport()
         report.errorMessage.clear();
         report.operationType = type;
         report.method = m_task->method();
-        report.startTime = QDateTime::currentDateTime();
+        report.startTime = m_clock();
         report.status = WipeStatus::Running;
         if (type == DiskWipe || type == PartitionWipe || type == FreeSpaceWipe)
             report.disk = m_task->disk();
@@ -198,13 +196,13 @@ void WipeEngine::stop()
     m_worker->stop();
     if (m_thread->isRunning()) {
         m_thread->quit();
-        m_thread->wait(QDeadlineTimer(StopPatience));
+        m_thread->wait(QDeadlineTimer(m_stopPatience));
     }
     m_running = false;
     if (m_task) {
-        m_task->updateReport([](WipeReport &report) {
+        m_task->updateReport([this](WipeReport &report) {
             report.status = WipeStatus::Cancelled;
-            report.endTime = QDateTime::currentDateTime();
+            report.endTime = m_clock();
         });
     }
     emit stopped();
@@ -221,7 +219,7 @@ void WipeEngine::onWorkerProgress(double percent)
     m_progress = percent;
     emit progressChanged(static_cast<int>(percent));
 
-    const QDateTime now = QDateTime::currentDateTime();
+    const QDateTime now = m_clock();
     const qint64 elapsed = m_lastSpeedTime.msecsTo(now);
     if (elapsed < SpeedIntervalMs)
         return;
@@ -268,7 +266,7 @@ void WipeEngine::onWorkerFinished(bool success)
     if (!m_task)
         return;
     m_task->updateReport([this, success](WipeReport &report) {
-        report.endTime = QDateTime::currentDateTime();
+        report.endTime = m_clock();
         report.bytesWritten = static_cast<quint64>(m_bytesWritten);
         report.status = success ? WipeStatus::Completed : WipeStatus::Failed;
         if (success)

@@ -7,6 +7,10 @@
 #include <QPointer>
 #include <QString>
 
+#include <chrono>
+#include <functional>
+#include <utility>
+
 class BaseWipeWorker;
 class QThread;
 
@@ -33,7 +37,7 @@ public:
     // Starts the job; a refusal is told by errorOccurred and leaves everything as it was.
     void start();
 
-    // Ends the running job: asks the worker to stop, waits at most 5000 ms for it and marks the report
+    // Ends the running job: asks the worker to stop, waits at most stopPatience() for it and marks the report
     // cancelled. A worker that ends only after that is still reported by completed(). Nothing happens when no
     // job runs.
     void stop();
@@ -41,6 +45,14 @@ public:
     // A copy of the task's report; without a task a fresh one. Any time on the interface thread.
     WipeReport report() const;
     bool isRunning() const { return m_running; }
+
+    // The longest wait of stop(), 5000 ms unless set.
+    std::chrono::milliseconds stopPatience() const { return m_stopPatience; }
+    void setStopPatience(std::chrono::milliseconds patience) { m_stopPatience = patience; }
+
+    // The time of the report and of the speeds, the system's unless set.
+    using Clock = std::function<QDateTime()>;
+    void setClock(Clock clock) { m_clock = std::move(clock); }
 
 signals:
     void progressChanged(int percent);
@@ -104,4 +116,6 @@ private:
     QDateTime m_lastSpeedTime;
     double m_currentSpeed = 0;
     QString m_lastError;
+    std::chrono::milliseconds m_stopPatience{5000};
+    Clock m_clock = [] { return QDateTime::currentDateTime(); };
 };

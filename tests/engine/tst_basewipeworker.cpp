@@ -3,14 +3,20 @@
 
 #include "model/wipetask.h"
 
+#include <QElapsedTimer>
 #include <QMetaMethod>
 #include <QRandomGenerator>
 #include <QSignalSpy>
 #include <QTest>
 #include <QtEndian>
 
+#include <atomic>
+#include <chrono>
 #include <cstring>
+#include <future>
+#include <memory>
 #include <thread>
+#include <utility>
 
 using namespace std::chrono_literals;
 
@@ -45,6 +51,36 @@ std::byte *bytes(QByteArray &data)
 {
     return reinterpret_cast<std::byte *>(data.data());
 }
+
+// A wait on another thread. One that never ends is left to itself, with its worker, so that the test fails
+// and does not hang.
+class Waiting
+{
+public:
+    template <typename Wait>
+    Waiting(const std::shared_ptr<OpenWorker> &worker, Wait wait)
+    {
+        std::packaged_task<bool()> task([worker, wait] { return wait(*worker); });
+        m_wentOn = task.get_future();
+        std::thread(std::move(task)).detach();
+    }
+    bool isOver(std::chrono::milliseconds patience) const
+    {
+        return m_wentOn.wait_for(patience) == std::future_status::ready;
+    }
+    // Once it is over.
+    bool wentOn() { return m_wentOn.get(); }
+
+private:
+    std::future<bool> m_wentOn;
+};
+
+bool pauseOf(OpenWorker &worker)
+{
+    return worker.checkPauseStop();
+}
+
+constexpr auto Patience = 60s; // in vain only
 
 constexpr PassPattern patternOf(PatternType type, quint8 value = 0)
 {
@@ -84,8 +120,10 @@ private slots:
     void percentCountsTheEarlierPasses_data();
     void percentCountsTheEarlierPasses();
     void bytesCountTheEarlierPasses();
-    void speedIsSampledAfterHalfASecond();
+    void speedIsSampledEveryHalfSecond();
     void aSampleWithoutNewBytesOnlyRestartsTheTimer();
+    void aSampleOfFewerBytesIsWhereTheNextOneBegins();
+    void speedIsOfTheSystemsTimeUnlessSet();
 };
 
 void tst_BaseWipeWorker::signalsStandInTheirOrder()
@@ -144,34 +182,26 @@ void tst_BaseWipeWorker::stopEndsAPause()
 
 void tst_BaseWipeWorker::aPausedWorkerWaitsUntilItIsStopped()
 {
-    OpenWorker worker;
-    worker.m_paused = true;
-    std::atomic<bool> returned{false};
-    std::atomic<bool> wentOn{true};
-    std::thread job([&] {
-        wentOn = worker.checkPauseStop();
-        returned = true;
-    });
+    const auto worker = std::make_shared<OpenWorker>();
+    worker->m_paused = true;
+    Waiting pause(worker, pauseOf);
     // Nothing may wake it by itself; an early return shows here most of the time, never a late one.
-    QTest::qWait(30);
-    const bool early = returned;
-    worker.stop();
-    job.join();
-    QVERIFY(!early);
-    QVERIFY(!wentOn);
+    QVERIFY(!pause.isOver(30ms));
+    worker->stop();
+    QVERIFY(pause.isOver(Patience));
+    QVERIFY(!pause.wentOn());
 }
 
 void tst_BaseWipeWorker::aStopBeforeThePauseIsNotMissed()
 {
     // The stop comes at any moment between the waiter's look at the flag and its wait.
     for (int round = 0; round < 500; ++round) {
-        OpenWorker worker;
-        worker.m_paused = true;
-        std::thread job([&worker] { worker.checkPauseStop(); });
-        worker.stop();
-        job.join();
+        const auto worker = std::make_shared<OpenWorker>();
+        worker->m_paused = true;
+        const Waiting pause(worker, pauseOf);
+        worker->stop();
+        QVERIFY2(pause.isOver(Patience), qPrintable(QStringLiteral("missed in round %1").arg(round)));
     }
-    QVERIFY(true); // a missed wake-up hangs in join()
 }
 
 void tst_BaseWipeWorker::waitsForTheTimeGiven()
@@ -185,11 +215,13 @@ void tst_BaseWipeWorker::waitsForTheTimeGiven()
 
 void tst_BaseWipeWorker::aWaitEndsWithAStop()
 {
-    OpenWorker worker;
-    std::thread job([&worker] { worker.stop(); });
-    QVERIFY(!worker.waitUnlessStopped(1h));
-    job.join();
-    QVERIFY(!worker.waitUnlessStopped(1h));
+    const auto worker = std::make_shared<OpenWorker>();
+    for (int round = 0; round < 2; ++round) {
+        Waiting wait(worker, [](OpenWorker &waiter) { return waiter.waitUnlessStopped(1h); });
+        worker->stop();
+        QVERIFY(wait.isOver(Patience));
+        QVERIFY(!wait.wentOn());
+    }
 }
 
 void tst_BaseWipeWorker::fillsTheBuffer_data()
@@ -377,44 +409,77 @@ void tst_BaseWipeWorker::bytesCountTheEarlierPasses()
     QCOMPARE(counts[0][0].toLongLong(), 1'050);
 }
 
-void tst_BaseWipeWorker::speedIsSampledAfterHalfASecond()
+namespace {
+// A worker in the only pass of its job, whose time goes on when told to, and the speeds it reports.
+class TimedWorker : public OpenWorker
 {
-    OpenWorker worker;
-    worker.m_currentPass = 1;
-    worker.m_totalPasses = 1;
+public:
+    TimedWorker()
+        : speeds(this, &BaseWipeWorker::speedUpdated)
+    {
+        m_currentPass = 1;
+        m_totalPasses = 1;
+        setClock([this] { return m_now; });
+    }
+    // The speed that progress after so long reports, -1 for none.
+    double speedAt(qint64 done, std::chrono::milliseconds later)
+    {
+        m_now += later;
+        updateProgress(done, 1'000'000'000);
+        return speeds.isEmpty() ? -1.0 : speeds.takeFirst()[0].toDouble();
+    }
+
+    QSignalSpy speeds;
+
+private:
+    std::chrono::steady_clock::time_point m_now = std::chrono::steady_clock::now();
+};
+} // namespace
+
+void tst_BaseWipeWorker::speedIsSampledEveryHalfSecond()
+{
+    TimedWorker worker;
     worker.m_bytesBeforePass = 500;
-    QSignalSpy speeds(&worker, &BaseWipeWorker::speedUpdated);
-    QElapsedTimer timer;
-    timer.start();
-    worker.updateProgress(1, 10'000);
-    if (timer.elapsed() < 400)
-        QCOMPARE(speeds.size(), 0);
-    QTest::qWait(510);
-    worker.updateProgress(1'500, 10'000);
-    const qint64 longest = timer.elapsed() + 1;
-    QVERIFY(!speeds.isEmpty());
-    // 2000 bytes since the beginning, in at least the time waited.
-    const double speed = speeds.last()[0].toDouble();
-    QVERIFY2(speed <= 2'000 * 1000.0 / 500, qPrintable(QString::number(speed)));
-    QVERIFY2(speed >= 1'499 * 1000.0 / static_cast<double>(longest), qPrintable(QString::number(speed)));
+    QCOMPARE(worker.speedAt(1, 0ms), -1.0);
+    QCOMPARE(worker.speedAt(1'000, 499ms), -1.0);
+    QCOMPARE(worker.speedAt(1'500, 1ms), 2'000 / 0.5); // since the beginning, with the earlier passes
+    QCOMPARE(worker.speedAt(9'000, 499ms), -1.0);
+    QCOMPARE(worker.speedAt(9'500, 301ms), 8'000 / 0.8); // since the last sample
 }
 
 void tst_BaseWipeWorker::aSampleWithoutNewBytesOnlyRestartsTheTimer()
 {
+    TimedWorker worker;
+    QCOMPARE(worker.speedAt(0, 510ms), -1.0);
+    // Had the timer not been restarted, this would be a sample.
+    QCOMPARE(worker.speedAt(10, 499ms), -1.0);
+    QCOMPARE(worker.speedAt(10, 1ms), 20.0);
+}
+
+void tst_BaseWipeWorker::aSampleOfFewerBytesIsWhereTheNextOneBegins()
+{
+    TimedWorker worker;
+    QCOMPARE(worker.speedAt(5'000, 1s), 5'000.0);
+    QCOMPARE(worker.speedAt(2'000, 1s), -1.0);
+    QCOMPARE(worker.speedAt(2'700, 1s), 700.0);
+}
+
+void tst_BaseWipeWorker::speedIsOfTheSystemsTimeUnlessSet()
+{
+    QElapsedTimer timer;
+    timer.start();
     OpenWorker worker;
     worker.m_currentPass = 1;
     worker.m_totalPasses = 1;
     QSignalSpy speeds(&worker, &BaseWipeWorker::speedUpdated);
     QTest::qWait(510);
-    QElapsedTimer timer;
-    timer.start();
-    worker.updateProgress(0, 10);
-    QCOMPARE(speeds.size(), 0);
-    // Had the timer not been restarted, this would be a sample.
-    worker.updateProgress(10, 10);
-    if (timer.elapsed() >= 500)
-        QSKIP("SKIPPED: this machine stood still for half a second, so the second sample was due");
-    QCOMPARE(speeds.size(), 0);
+    worker.updateProgress(2'000, 10'000);
+    const qint64 longest = timer.elapsed() + 1;
+    QCOMPARE(speeds.size(), 1);
+    // In at least the time waited.
+    const double speed = speeds[0][0].toDouble();
+    QVERIFY2(speed <= 2'000 * 1000.0 / 500, qPrintable(QString::number(speed)));
+    QVERIFY2(speed >= 2'000 * 1000.0 / static_cast<double>(longest), qPrintable(QString::number(speed)));
 }
 
 QUORVEX_SUITE(tst_BaseWipeWorker, QCoreApplication)

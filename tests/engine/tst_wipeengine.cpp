@@ -16,10 +16,16 @@
 #include <QTest>
 
 #include <atomic>
+#include <chrono>
+#include <optional>
+#include <thread>
+
+using namespace std::chrono_literals;
 
 namespace {
 
 constexpr qint64 MiB = 1024 * 1024;
+constexpr int Patience = 60'000; // in vain only, in ms
 
 QString writeFile(const QTemporaryDir &folder, const QString &name, qint64 size)
 {
@@ -34,11 +40,15 @@ class GatedDevice : public platform::ForwardingRawDevice
 {
 public:
     GatedDevice(std::unique_ptr<platform::RawDevice> target, std::atomic<bool> &open,
-                std::atomic<int> &waiting)
+                std::atomic<int> &waiting, std::atomic<int> &handles)
         : platform::ForwardingRawDevice(std::move(target))
         , m_open(open)
         , m_waiting(waiting)
-    {}
+        , m_handles(handles)
+    {
+        ++m_handles;
+    }
+    ~GatedDevice() override { --m_handles; }
     platform::Result<qint64> write(const void *data, qint64 size) override
     {
         ++m_waiting;
@@ -49,6 +59,7 @@ public:
 private:
     std::atomic<bool> &m_open;
     std::atomic<int> &m_waiting;
+    std::atomic<int> &m_handles;
 };
 
 class GatedDevices : public platform::ForwardingDevices
@@ -62,7 +73,7 @@ public:
         if (!device)
             return device.status();
         return std::unique_ptr<platform::RawDevice>(
-            std::make_unique<GatedDevice>(device.take(), open, waiting));
+            std::make_unique<GatedDevice>(device.take(), open, waiting, handles));
     }
     void letGo()
     {
@@ -72,6 +83,7 @@ public:
 
     std::atomic<bool> open{false};
     std::atomic<int> waiting{0};
+    std::atomic<int> handles{0}; // open now
 };
 
 // An image drive of its own, as the only drive there is, whose writes can be held up.
@@ -120,11 +132,78 @@ void makeDiskTask(WipeTask &task, const ImageMachine &machine)
     task.setBufferSizeMB(1);
 }
 
+// A disk job whose first write is held up until it is let go. However a test ends, the job is let go first:
+// the engine waits for it.
+class GatedJob
+{
+public:
+    explicit GatedJob(qint64 size)
+        : machine(size, true)
+    {
+        makeDiskTask(task, machine);
+        engine->setTask(&task);
+    }
+    ~GatedJob() { letGo(); }
+    GatedJob(const GatedJob &) = delete;
+    GatedJob &operator=(const GatedJob &) = delete;
+
+    bool isWriting() const { return machine.devices.waiting > 0; }
+    bool isDriveOpen() const { return machine.devices.handles > 0; }
+    void letGo() { machine.devices.letGo(); }
+
+    // From here on the engine's time is `now`.
+    void stopTheClock()
+    {
+        engine->setClock([this] { return now; });
+    }
+    // What the worker would say.
+    void reportBytes(qint64 bytes)
+    {
+        QMetaObject::invokeMethod(&*engine, "onWorkerBytesWritten", Q_ARG(qint64, bytes));
+    }
+    void reportPercent(double percent)
+    {
+        QMetaObject::invokeMethod(&*engine, "onWorkerProgress", Q_ARG(double, percent));
+    }
+
+    // Stops the engine while the worker is in a write, which ends by itself after the time given, unless
+    // stop() returns before. Whether stop() waited for the worker.
+    bool stopWaits(std::chrono::milliseconds writeTime)
+    {
+        std::atomic<bool> returned{false};
+        std::thread device([&] {
+            for (auto time = 0ms; time < writeTime && !returned; time += 1ms)
+                std::this_thread::sleep_for(1ms);
+            if (!returned)
+                letGo();
+        });
+        engine->stop();
+        const bool ended = !isDriveOpen();
+        returned = true;
+        device.join();
+        return ended;
+    }
+
+    ImageMachine machine;
+    WipeTask task;
+    QDateTime now = QDateTime::currentDateTime();
+    std::optional<WipeEngine> engine{std::in_place};
+};
+
 QStringList messages(const QSignalSpy &spy)
 {
     QStringList list;
     for (const QList<QVariant> &arguments : spy)
         list.append(arguments.at(0).toString());
+    return list;
+}
+
+// Lines of the log, each with its level in front.
+QStringList linesWithLevels(const QSignalSpy &spy)
+{
+    QStringList list;
+    for (const QList<QVariant> &arguments : spy)
+        list.append(QStringLiteral("%1 ").arg(arguments.at(1).toInt()) + arguments.at(0).toString());
     return list;
 }
 
@@ -146,14 +225,20 @@ private slots:
     void diskJobFromTaskToReport();
     void fileJobFromTaskToReport();
     void failedJobKeepsItsLastError();
+    void driveOfTheJobIsInItsReport_data();
+    void driveOfTheJobIsInItsReport();
     void totalSectorsCount512ByteUnits();
     void freeBytesOfTheVolumeBecomeTotalBytes();
     void freeBytesOfAllVolumesOfADisk();
     void bytesProcessedCarriesNoTotal();
     void noSpeedWithinASecond();
-    void speedAfterASecond();
+    void speedIsOfTheTimeSinceTheLastSample();
+    void figuresOfALaterJobBeginAnew();
+    void aLaterJobThatWroteNothingReportsNothing();
+    void timesAreTheClocks();
     void stopWhenIdle();
     void stopDuringAJob();
+    void stopLeavesAWorkerThatDoesNotEnd();
     void completedFollowsStopped();
     void whatAnEarlierJobLeftBehindIsNotHeard();
     void aTaskSetAfterStopIsNotMarked();
@@ -226,7 +311,7 @@ void tst_WipeEngine::aThreadThatTheSystemRefusesIsTold()
     QCOMPARE(starts.size(), 0);
     // The next attempt is not in its way.
     engine.start();
-    QTRY_COMPARE(ends.size(), 1);
+    QTRY_COMPARE_WITH_TIMEOUT(ends.size(), 1, Patience);
     QCOMPARE(engine.report().status, WipeStatus::Completed);
 }
 
@@ -246,52 +331,40 @@ void tst_WipeEngine::unknownOperationTypeGivesNoWorker()
 
 void tst_WipeEngine::setTaskWhileRunning()
 {
-    ImageMachine machine(2 * MiB, true);
-    WipeTask task;
-    makeDiskTask(task, machine);
+    GatedJob job(2 * MiB);
     WipeTask other;
-    WipeEngine engine;
-    engine.setTask(&task);
-    engine.start();
-    QSignalSpy errors(&engine, &WipeEngine::errorOccurred);
-    engine.setTask(&other);
+    job.engine->start();
+    QSignalSpy errors(&*job.engine, &WipeEngine::errorOccurred);
+    job.engine->setTask(&other);
     QCOMPARE(messages(errors), QStringList({QStringLiteral("无法在运行时更改任务")}));
-    QCOMPARE(engine.report().certificateId, task.report().certificateId);
-    machine.devices.letGo();
-    QTRY_VERIFY(!engine.isRunning());
+    QCOMPARE(job.engine->report().certificateId, job.task.report().certificateId);
+    job.letGo();
+    QTRY_VERIFY_WITH_TIMEOUT(!job.engine->isRunning(), Patience);
 }
 
 void tst_WipeEngine::secondStartWhileRunning()
 {
-    ImageMachine machine(2 * MiB, true);
-    WipeTask task;
-    makeDiskTask(task, machine);
-    WipeEngine engine;
-    engine.setTask(&task);
-    engine.start();
-    const QDateTime start = engine.report().startTime;
-    QSignalSpy errors(&engine, &WipeEngine::errorOccurred);
-    engine.start();
+    GatedJob job(2 * MiB);
+    job.engine->start();
+    const QDateTime start = job.engine->report().startTime;
+    QSignalSpy errors(&*job.engine, &WipeEngine::errorOccurred);
+    job.engine->start();
     QCOMPARE(messages(errors), QStringList({QStringLiteral("任务已在运行")}));
-    QCOMPARE(engine.report().startTime, start);
-    machine.devices.letGo();
-    QTRY_COMPARE(engine.report().status, WipeStatus::Completed);
+    QCOMPARE(job.engine->report().startTime, start);
+    job.letGo();
+    QTRY_COMPARE_WITH_TIMEOUT(job.engine->report().status, WipeStatus::Completed, Patience);
 }
 
 void tst_WipeEngine::invalidTaskIsToldEvenWhileRunning()
 {
-    ImageMachine machine(2 * MiB, true);
-    WipeTask task;
-    makeDiskTask(task, machine);
-    WipeEngine engine;
-    engine.setTask(&task);
-    engine.start();
-    task.setThreadCount(0);
-    QSignalSpy errors(&engine, &WipeEngine::errorOccurred);
-    engine.start();
+    GatedJob job(2 * MiB);
+    job.engine->start();
+    job.task.setThreadCount(0);
+    QSignalSpy errors(&*job.engine, &WipeEngine::errorOccurred);
+    job.engine->start();
     QCOMPARE(messages(errors), QStringList({QStringLiteral("线程数必须在1-32之间")}));
-    machine.devices.letGo();
-    QTRY_VERIFY(!engine.isRunning());
+    job.letGo();
+    QTRY_VERIFY_WITH_TIMEOUT(!job.engine->isRunning(), Patience);
 }
 
 void tst_WipeEngine::diskJobFromTaskToReport()
@@ -309,13 +382,13 @@ void tst_WipeEngine::diskJobFromTaskToReport()
     engine.start();
     QCOMPARE(started.size(), 1);
     QVERIFY(engine.isRunning());
-    QCOMPARE(messages(lines), QStringList({QStringLiteral("开始擦除任务..."),
-                                           QStringLiteral("擦除方法: German VSITR (7次覆写)")}));
-    QTRY_COMPARE(completed.size(), 1);
+    QCOMPARE(linesWithLevels(lines), QStringList({QStringLiteral("0 开始擦除任务..."),
+                                                  QStringLiteral("0 擦除方法: German VSITR (7次覆写)")}));
+    QTRY_COMPARE_WITH_TIMEOUT(completed.size(), 1, Patience);
     QCOMPARE(completed[0][0].toBool(), true);
     QCOMPARE(passes.size(), 7);
-    QVERIFY(messages(lines).contains(QStringLiteral("第 7/7 次覆写")));
-    QCOMPARE(messages(lines).last(), QStringLiteral("擦除完成!"));
+    QVERIFY(linesWithLevels(lines).contains(QStringLiteral("0 第 7/7 次覆写")));
+    QCOMPARE(linesWithLevels(lines).last(), QStringLiteral("0 擦除完成!"));
 
     QCOMPARE(machine.content(), QByteArray(3 * MiB + 512, '\xAA'));
     const WipeReport report = engine.report();
@@ -343,7 +416,7 @@ void tst_WipeEngine::fileJobFromTaskToReport()
     QSignalSpy completed(&engine, &WipeEngine::completed);
     engine.setTask(&task);
     engine.start();
-    QTRY_COMPARE(completed.size(), 1);
+    QTRY_COMPARE_WITH_TIMEOUT(completed.size(), 1, Patience);
     QCOMPARE(completed[0][0].toBool(), true);
     QVERIFY(!QFile::exists(first));
     QVERIFY(!QFile::exists(second));
@@ -365,14 +438,43 @@ void tst_WipeEngine::failedJobKeepsItsLastError()
     QSignalSpy lines(&engine, &WipeEngine::logMessage);
     engine.setTask(&task);
     engine.start();
-    QTRY_COMPARE(completed.size(), 1);
+    QTRY_COMPARE_WITH_TIMEOUT(completed.size(), 1, Patience);
     QCOMPARE(completed[0][0].toBool(), false);
     QCOMPARE(engine.report().status, WipeStatus::Failed);
     QVERIFY(!engine.report().verificationPassed);
     QCOMPARE(engine.report().errorMessage, QStringLiteral("无法获取磁盘信息"));
-    QVERIFY(messages(lines).contains(QStringLiteral("错误: 无法获取磁盘信息")));
-    QCOMPARE(messages(lines).last(), QStringLiteral("擦除失败"));
+    QVERIFY(linesWithLevels(lines).contains(QStringLiteral("2 错误: 无法获取磁盘信息")));
+    QCOMPARE(linesWithLevels(lines).last(), QStringLiteral("2 擦除失败"));
     QCOMPARE(machine.content(), QByteArray(2 * MiB, 'M'));
+}
+
+void tst_WipeEngine::driveOfTheJobIsInItsReport_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::newRow("disk") << static_cast<int>(DiskWipe);
+    QTest::newRow("partition") << static_cast<int>(PartitionWipe);
+    QTest::newRow("free space") << static_cast<int>(FreeSpaceWipe);
+}
+
+void tst_WipeEngine::driveOfTheJobIsInItsReport()
+{
+    QFETCH(int, type);
+    const ImageMachine machine(MiB); // no drive answers under the number
+    WipeTask task;
+    task.setOperationType(static_cast<OperationType>(type));
+    DiskInfo disk;
+    disk.diskNumber = 31;
+    disk.model = QStringLiteral("Model");
+    disk.serialNumber = QStringLiteral("S-31");
+    disk.sizeBytes = 4 * MiB;
+    task.setDisk(disk);
+    WipeEngine engine;
+    engine.setTask(&task);
+    engine.start();
+    QCOMPARE(engine.report().operationType, static_cast<OperationType>(type));
+    QCOMPARE(engine.report().disk, disk);
+    QTRY_VERIFY_WITH_TIMEOUT(!engine.isRunning(), Patience);
+    QCOMPARE(engine.report().disk, disk);
 }
 
 void tst_WipeEngine::totalSectorsCount512ByteUnits()
@@ -390,7 +492,7 @@ void tst_WipeEngine::totalSectorsCount512ByteUnits()
     engine.setTask(&task);
     engine.start();
     QCOMPARE(engine.report().totalSectors, quint64(976562500));
-    QTRY_VERIFY(!engine.isRunning());
+    QTRY_VERIFY_WITH_TIMEOUT(!engine.isRunning(), Patience);
 }
 
 void tst_WipeEngine::freeBytesOfTheVolumeBecomeTotalBytes()
@@ -427,7 +529,7 @@ void tst_WipeEngine::freeBytesOfAllVolumesOfADisk()
     engine.start();
     QCOMPARE(engine.report().totalBytes, quint64(1234));
     QCOMPARE(engine.report().disk, disk);
-    QTRY_VERIFY(!engine.isRunning());
+    QTRY_VERIFY_WITH_TIMEOUT(!engine.isRunning(), Patience);
 }
 
 void tst_WipeEngine::bytesProcessedCarriesNoTotal()
@@ -440,7 +542,7 @@ void tst_WipeEngine::bytesProcessedCarriesNoTotal()
     QSignalSpy completed(&engine, &WipeEngine::completed);
     engine.setTask(&task);
     engine.start();
-    QTRY_COMPARE(completed.size(), 1);
+    QTRY_COMPARE_WITH_TIMEOUT(completed.size(), 1, Patience);
     QVERIFY(!bytes.isEmpty());
     for (const QList<QVariant> &arguments : bytes)
         QCOMPARE(arguments[1].toLongLong(), 0);
@@ -449,42 +551,110 @@ void tst_WipeEngine::bytesProcessedCarriesNoTotal()
 
 void tst_WipeEngine::noSpeedWithinASecond()
 {
-    ImageMachine machine(2 * MiB, true);
-    WipeTask task;
-    makeDiskTask(task, machine);
-    WipeEngine engine;
-    engine.setTask(&task);
-    engine.start();
-    QSignalSpy speed(&engine, &WipeEngine::speedUpdated);
-    QMetaObject::invokeMethod(&engine, "onWorkerProgress", Q_ARG(double, 10.9));
-    QTest::qWait(400);
-    QSignalSpy percent(&engine, &WipeEngine::progressChanged);
-    QMetaObject::invokeMethod(&engine, "onWorkerProgress", Q_ARG(double, 11.9));
-    QCOMPARE(speed.size(), 0);
-    QCOMPARE(percent[0][0].toInt(), 11);
-    machine.devices.letGo();
-    QTRY_VERIFY(!engine.isRunning());
+    GatedJob job(2 * MiB);
+    job.stopTheClock();
+    job.engine->start();
+    QSignalSpy speeds(&*job.engine, &WipeEngine::speedUpdated);
+    QSignalSpy percents(&*job.engine, &WipeEngine::progressChanged);
+    job.reportBytes(500);
+    job.reportPercent(10.9);
+    job.now = job.now.addMSecs(999);
+    job.reportPercent(11.9);
+    QCOMPARE(speeds.size(), 0);
+    QCOMPARE(percents.size(), 2);
+    QCOMPARE(percents[1][0].toInt(), 11);
+    job.now = job.now.addMSecs(1);
+    job.reportPercent(12.0);
+    QCOMPARE(speeds.size(), 1);
 }
 
-void tst_WipeEngine::speedAfterASecond()
+void tst_WipeEngine::speedIsOfTheTimeSinceTheLastSample()
 {
-    ImageMachine machine(2 * MiB, true);
+    GatedJob job(2 * MiB);
+    job.stopTheClock();
+    job.engine->start();
+    QSignalSpy speeds(&*job.engine, &WipeEngine::speedUpdated);
+    const auto sample = [&](qint64 bytes, qint64 ms) {
+        job.now = job.now.addMSecs(ms);
+        job.reportBytes(bytes);
+        job.reportPercent(50.0);
+        return speeds.isEmpty() ? -1.0 : speeds.takeFirst()[0].toDouble();
+    };
+    QCOMPARE(sample(1'000'000, 2'000), 500'000.0);
+    QCOMPARE(sample(1'100'000, 999), -1.0);
+    // What came since the last sample, not since the beginning or the last report.
+    QCOMPARE(sample(1'300'000, 501), 200'000.0);
+    QCOMPARE(sample(1'300'000, 1'000), 0.0);
+    QCOMPARE(sample(1'300'500, 1'250), 400.0);
+}
+
+void tst_WipeEngine::figuresOfALaterJobBeginAnew()
+{
+    GatedJob job(2 * MiB);
+    job.stopTheClock();
+    job.engine->start();
+    job.reportBytes(8'000'000);
+    job.now = job.now.addMSecs(1'000);
+    job.reportPercent(50.0);
+    job.letGo();
+    job.engine->stop();
+
+    job.machine.devices.open = false;
+    job.now = job.now.addMSecs(10'000);
+    job.engine->start();
+    QSignalSpy speeds(&*job.engine, &WipeEngine::speedUpdated);
+    job.now = job.now.addMSecs(1'000);
+    job.reportBytes(3'000);
+    job.reportPercent(10.0);
+    QCOMPARE(speeds.size(), 1);
+    QCOMPARE(speeds[0][0].toDouble(), 3'000.0);
+}
+
+void tst_WipeEngine::aLaterJobThatWroteNothingReportsNothing()
+{
+    ImageMachine machine(2 * MiB);
+    WipeTask task;
+    makeDiskTask(task, machine);
+    WipeEngine engine;
+    QSignalSpy completed(&engine, &WipeEngine::completed);
+    engine.setTask(&task);
+    engine.start();
+    QTRY_COMPARE_WITH_TIMEOUT(completed.size(), 1, Patience);
+    QCOMPARE(engine.report().bytesWritten, quint64(2 * MiB));
+
+    WipeTask next;
+    makeDiskTask(next, machine);
+    DiskInfo other = machine.disk;
+    other.serialNumber = QStringLiteral("ANOTHER");
+    next.setDisk(other);
+    engine.setTask(&next);
+    engine.start();
+    QTRY_COMPARE_WITH_TIMEOUT(completed.size(), 2, Patience);
+    QCOMPARE(engine.report().status, WipeStatus::Failed);
+    QCOMPARE(engine.report().bytesWritten, quint64(0));
+}
+
+void tst_WipeEngine::timesAreTheClocks()
+{
+    ImageMachine machine(MiB);
     WipeTask task;
     makeDiskTask(task, machine);
     WipeEngine engine;
     engine.setTask(&task);
+    const QDateTime before = QDateTime::currentDateTime();
     engine.start();
-    QSignalSpy speed(&engine, &WipeEngine::speedUpdated);
-    QTest::qWait(1010);
-    QMetaObject::invokeMethod(&engine, "onWorkerBytesWritten", Q_ARG(qint64, 1000000));
-    QMetaObject::invokeMethod(&engine, "onWorkerProgress", Q_ARG(double, 50.0));
-    QCOMPARE(speed.size(), 1);
-    const double first = speed[0][0].toDouble();
-    QVERIFY2(first > 0 && first <= 1000000 / 1.0, qPrintable(QString::number(first)));
-    QMetaObject::invokeMethod(&engine, "onWorkerProgress", Q_ARG(double, 51.0));
-    QCOMPARE(speed.size(), 1);
-    machine.devices.letGo();
-    QTRY_VERIFY(!engine.isRunning());
+    QTRY_VERIFY_WITH_TIMEOUT(!engine.isRunning(), Patience);
+    const QDateTime after = QDateTime::currentDateTime();
+    QVERIFY(engine.report().startTime >= before);
+    QVERIFY(engine.report().endTime >= engine.report().startTime);
+    QVERIFY(engine.report().endTime <= after);
+
+    const QDateTime noon(QDate(2020, 2, 29), QTime(12, 0));
+    engine.setClock([noon] { return noon; });
+    engine.start();
+    QCOMPARE(engine.report().startTime, noon);
+    QTRY_VERIFY_WITH_TIMEOUT(!engine.isRunning(), Patience);
+    QCOMPARE(engine.report().endTime, noon);
 }
 
 void tst_WipeEngine::stopWhenIdle()
@@ -499,98 +669,96 @@ void tst_WipeEngine::stopWhenIdle()
 
 void tst_WipeEngine::stopDuringAJob()
 {
-    ImageMachine machine(8 * MiB, true);
-    WipeTask task;
-    makeDiskTask(task, machine);
-    WipeEngine engine;
-    QSignalSpy stopped(&engine, &WipeEngine::stopped);
-    QSignalSpy lines(&engine, &WipeEngine::logMessage);
-    engine.setTask(&task);
-    engine.start();
-    QTRY_VERIFY(machine.devices.waiting > 0);
+    GatedJob job(8 * MiB);
+    QCOMPARE(job.engine->stopPatience(), 5000ms);
+    job.engine->setStopPatience(1h);
+    QSignalSpy lines(&*job.engine, &WipeEngine::logMessage);
+    QStringList order;
+    connect(&*job.engine, &WipeEngine::stopped, this, [&order] { order.append(QStringLiteral("stopped")); });
+    connect(&*job.engine, &WipeEngine::logMessage, this,
+            [&order](const QString &line) { order.append(line); });
+    job.engine->start();
+    QTRY_VERIFY_WITH_TIMEOUT(job.isWriting(), Patience);
+    order.clear();
     // The write under way ends only while stop() waits, as a slow device's does.
-    QThread *gate = QThread::create([&machine] { machine.devices.letGo(); });
-    gate->start();
-    engine.stop();
+    QVERIFY(job.stopWaits(200ms));
+    QVERIFY(!job.engine->isRunning());
+    QCOMPARE(job.engine->report().status, WipeStatus::Cancelled);
+    QVERIFY(job.engine->report().endTime.isValid());
+    QCOMPARE(linesWithLevels(lines).last(), QStringLiteral("1 任务已停止"));
+    QCOMPARE(order, QStringList({QStringLiteral("stopped"), QStringLiteral("任务已停止")}));
+}
+
+void tst_WipeEngine::stopLeavesAWorkerThatDoesNotEnd()
+{
+    GatedJob job(8 * MiB);
+    job.engine->setStopPatience(0ms);
+    QSignalSpy stopped(&*job.engine, &WipeEngine::stopped);
+    QSignalSpy completed(&*job.engine, &WipeEngine::completed);
+    job.engine->start();
+    QTRY_VERIFY_WITH_TIMEOUT(job.isWriting(), Patience);
+    QVERIFY(!job.stopWaits(30s));
     QCOMPARE(stopped.size(), 1);
-    QVERIFY(!engine.isRunning());
-    QCOMPARE(engine.report().status, WipeStatus::Cancelled);
-    QVERIFY(engine.report().endTime.isValid());
-    QCOMPARE(lines.last()[0].toString(), QStringLiteral("任务已停止"));
-    QCOMPARE(lines.last()[1].toInt(), 1);
-    gate->wait();
-    delete gate;
+    QCOMPARE(job.engine->report().status, WipeStatus::Cancelled);
+    QCOMPARE(completed.size(), 0);
+    job.letGo();
+    QTRY_COMPARE_WITH_TIMEOUT(completed.size(), 1, Patience);
+    QCOMPARE(completed[0][0].toBool(), false);
 }
 
 void tst_WipeEngine::completedFollowsStopped()
 {
-    ImageMachine machine(8 * MiB, true);
-    WipeTask task;
-    makeDiskTask(task, machine);
-    WipeEngine engine;
-    QSignalSpy completed(&engine, &WipeEngine::completed);
-    engine.setTask(&task);
-    engine.start();
-    QTRY_VERIFY(machine.devices.waiting > 0);
-    machine.devices.letGo();
-    engine.stop();
+    GatedJob job(8 * MiB);
+    QSignalSpy completed(&*job.engine, &WipeEngine::completed);
+    job.engine->start();
+    QTRY_VERIFY_WITH_TIMEOUT(job.isWriting(), Patience);
+    job.letGo();
+    job.engine->stop();
     QCOMPARE(completed.size(), 0);
-    QTRY_COMPARE(completed.size(), 1);
+    QTRY_COMPARE_WITH_TIMEOUT(completed.size(), 1, Patience);
     QCOMPARE(completed[0][0].toBool(), false);
-    QCOMPARE(engine.report().status, WipeStatus::Failed);
+    QCOMPARE(job.engine->report().status, WipeStatus::Failed);
 }
 
 void tst_WipeEngine::whatAnEarlierJobLeftBehindIsNotHeard()
 {
-    ImageMachine machine(8 * MiB, true);
-    WipeTask task;
-    makeDiskTask(task, machine);
-    WipeEngine engine;
-    engine.setTask(&task);
-    engine.start();
-    QTRY_VERIFY(machine.devices.waiting > 0);
-    machine.devices.letGo();
-    engine.stop(); // its finished(false) now waits in the event queue
-    QSignalSpy completed(&engine, &WipeEngine::completed);
-    engine.start();
-    QVERIFY(engine.isRunning());
-    QTRY_COMPARE(completed.size(), 1);
+    GatedJob job(8 * MiB);
+    job.engine->start();
+    QTRY_VERIFY_WITH_TIMEOUT(job.isWriting(), Patience);
+    job.letGo();
+    job.engine->stop(); // its finished(false) now waits in the event queue
+    QSignalSpy completed(&*job.engine, &WipeEngine::completed);
+    job.engine->start();
+    QVERIFY(job.engine->isRunning());
+    QTRY_COMPARE_WITH_TIMEOUT(completed.size(), 1, Patience);
     QCOMPARE(completed[0][0].toBool(), true);
-    QCOMPARE(engine.report().status, WipeStatus::Completed);
-    QCOMPARE(machine.content(), QByteArray(8 * MiB, '\0'));
+    QCOMPARE(job.engine->report().status, WipeStatus::Completed);
+    QCOMPARE(job.machine.content(), QByteArray(8 * MiB, '\0'));
 }
 
 void tst_WipeEngine::aTaskSetAfterStopIsNotMarked()
 {
-    ImageMachine machine(8 * MiB, true);
-    WipeTask task;
-    makeDiskTask(task, machine);
+    GatedJob job(8 * MiB);
     WipeTask next;
-    WipeEngine engine;
-    engine.setTask(&task);
-    engine.start();
-    QTRY_VERIFY(machine.devices.waiting > 0);
-    machine.devices.letGo();
-    engine.stop();
-    engine.setTask(&next);
+    job.engine->start();
+    QTRY_VERIFY_WITH_TIMEOUT(job.isWriting(), Patience);
+    job.letGo();
+    job.engine->stop();
+    job.engine->setTask(&next);
     QCoreApplication::processEvents();
     QCOMPARE(next.report().status, WipeStatus::Pending);
-    QCOMPARE(task.report().status, WipeStatus::Cancelled);
+    QCOMPARE(job.task.report().status, WipeStatus::Cancelled);
 }
 
 void tst_WipeEngine::destructionDuringAJob()
 {
-    ImageMachine machine(8 * MiB, true);
-    WipeTask task;
-    makeDiskTask(task, machine);
-    {
-        WipeEngine engine;
-        engine.setTask(&task);
-        engine.start();
-        QTRY_VERIFY(machine.devices.waiting > 0);
-        machine.devices.letGo();
-    }
-    QCOMPARE(task.report().status, WipeStatus::Cancelled);
+    GatedJob job(8 * MiB);
+    job.engine->start();
+    QTRY_VERIFY_WITH_TIMEOUT(job.isWriting(), Patience);
+    job.letGo();
+    job.engine.reset();
+    QCOMPARE(job.task.report().status, WipeStatus::Cancelled);
+    QVERIFY(!job.isDriveOpen());
 }
 
 void tst_WipeEngine::reportWithoutTaskIsFresh()
@@ -614,7 +782,7 @@ void tst_WipeEngine::aTaskThatRunsAgainStartsClean()
     engine.start();
     QVERIFY(!engine.report().verificationPassed);
     QVERIFY(engine.report().errorMessage.isEmpty());
-    QTRY_COMPARE(engine.report().status, WipeStatus::Completed);
+    QTRY_COMPARE_WITH_TIMEOUT(engine.report().status, WipeStatus::Completed, Patience);
 }
 
 QUORVEX_SUITE(tst_WipeEngine, QCoreApplication)
