@@ -29,6 +29,7 @@ public:
     ~DiskWipeWorker() override;
 
     // The wait after each failed attempt to lock a volume, 500 ms unless set before process().
+    std::chrono::milliseconds lockRetryDelay() const { return m_lockRetryDelay; }
     void setLockRetryDelay(std::chrono::milliseconds delay) { m_lockRetryDelay = delay; }
 
 public slots:

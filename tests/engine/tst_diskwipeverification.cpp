@@ -98,7 +98,12 @@ private slots:
     void smallFirstVolumeIsVerified();
     void volumeThatEndsWithinASectorIsVerified();
     void volumeWithLargerSectorsThanItsDriveIsVerified();
+    void samplesLieWithinTheFirstVolumesShare();
+    void volumeOfUnknownLengthIsVerifiedWhereItWasWritten();
     void nothingIsReadWhenSwitchedOff();
+    void nothingIsReadAfterAStop_data();
+    void nothingIsReadAfterAStop();
+    void stopBetweenTwoSamples();
     void nothingIsReadWithoutSamples_data();
     void nothingIsReadWithoutSamples();
     void readThatDeliversNothingIsFound_data();
@@ -119,7 +124,9 @@ private slots:
     void nothingReadBackIsReportedAsNothing();
     void wipedSectorsOfTheLeastPass();
     void wipedSectorsBeforeTheLastPass();
+    void wipedSectorsAfterAFailedSeek();
     void wipedSectorsOfTwoVolumesStoppedInBetween();
+    void volumeAfterAStopIsNotBegun();
     void wipedSectorsNeverExceedTheDisk();
 };
 
@@ -259,6 +266,47 @@ void tst_DiskWipeVerification::volumeWithLargerSectorsThanItsDriveIsVerified()
     QCOMPARE(job.report().verificationSampleSize, 200);
 }
 
+void tst_DiskWipeVerification::samplesLieWithinTheFirstVolumesShare()
+{
+    // Two volumes: the first stands for half of the drive, although it is larger than that.
+    MemoryDevices memory;
+    memory.addDrive(markedDrive(1, 4 * MiB));
+    memory.addVolume(u"E:"_s, 1, 0, 3 * MiB);
+    memory.addVolume(u"F:"_s, 1, 3 * MiB, MiB);
+    SampleReads reads;
+    InterposedDevices devices(memory, reads.before());
+    DiskWipeJob job;
+    job.task.setVerifySampleSize(400);
+    job.chooseDrive(memory.drive(1));
+    QVERIFY(job.run(devices));
+    QCOMPARE(reads.targets.count(u"E:"_s), 400);
+    const qint64 largest = *std::max_element(reads.positions.begin(), reads.positions.end());
+    QVERIFY(largest < 2 * MiB);
+    QVERIFY(largest >= MiB); // fails once in 2^400
+}
+
+void tst_DiskWipeVerification::volumeOfUnknownLengthIsVerifiedWhereItWasWritten()
+{
+    // Taken for half of the drive, it ends after an eighth.
+    MemoryDevices memory;
+    addDriveWithVolumes(memory, 512 * KiB, 2 * MiB);
+    SampleReads reads;
+    InterposedDevices devices(memory, [&reads](const DeviceCall &call) {
+        if (call.method == "length"_L1 && call.target == u"E:"_s)
+            return platform::Status{platform::NotSupported, 0, "planned fault"};
+        return reads.before()(call);
+    });
+    DiskWipeJob job;
+    job.task.setVerifySampleSize(200);
+    job.chooseDrive(memory.drive(1));
+    QVERIFY2(job.run(devices), qPrintable(job.log().join(u'\n')));
+    QVERIFY(job.log().contains(u"0 使用估算卷大小: 2.00 MB"_s));
+    QCOMPARE(reads.positions.size(), 200);
+    const qint64 largest = *std::max_element(reads.positions.begin(), reads.positions.end());
+    QVERIFY(largest < 512 * KiB);
+    QVERIFY(largest >= 256 * KiB); // fails once in 2^200
+}
+
 void tst_DiskWipeVerification::nothingIsReadWhenSwitchedOff()
 {
     MemoryDevices memory;
@@ -271,6 +319,54 @@ void tst_DiskWipeVerification::nothingIsReadWhenSwitchedOff()
     QVERIFY(job.run(devices));
     QVERIFY(job.log().filter(u"验证"_s).isEmpty());
     QVERIFY(reads.positions.isEmpty());
+}
+
+void tst_DiskWipeVerification::nothingIsReadAfterAStop_data()
+{
+    QTest::addColumn<bool>("hasVolume");
+    QTest::newRow("drive") << false;
+    QTest::newRow("volume") << true;
+}
+
+void tst_DiskWipeVerification::nothingIsReadAfterAStop()
+{
+    QFETCH(bool, hasVolume);
+    MemoryDevices memory;
+    memory.addDrive(markedDrive(1, MiB));
+    if (hasVolume)
+        memory.addVolume(u"E:"_s, 1, 0, MiB);
+    DiskWipeJob job;
+    SampleReads reads;
+    InterposedDevices devices(memory, [&](const DeviceCall &call) {
+        if (call.kind == FaultPlan::Flush)
+            job.worker.stop(); // the pass is written
+        return reads.before()(call);
+    });
+    job.chooseDrive(memory.drive(1));
+    QVERIFY(!job.run(devices));
+    QVERIFY(memory.medium(1) == QByteArray(MiB, '\0'));
+    QVERIFY(!job.log().contains(u"0 正在验证..."_s));
+    QVERIFY(reads.positions.isEmpty());
+    QCOMPARE(job.log().last(), u"1 擦除已取消"_s);
+}
+
+void tst_DiskWipeVerification::stopBetweenTwoSamples()
+{
+    MemoryDevices memory;
+    memory.addDrive(markedDrive(1, MiB));
+    DiskWipeJob job;
+    SampleReads reads;
+    InterposedDevices devices(memory, [&](const DeviceCall &call) {
+        const platform::Status status = reads.before()(call);
+        if (reads.positions.size() == 3)
+            job.worker.stop();
+        return status;
+    });
+    job.chooseDrive(memory.drive(1));
+    QVERIFY(!job.run(devices));
+    QCOMPARE(reads.positions.size(), 3);
+    QCOMPARE(job.log().last(2), QStringList({u"0 正在验证..."_s, u"1 擦除已取消"_s}));
+    QCOMPARE(job.report().verificationSampleSize, 3);
 }
 
 void tst_DiskWipeVerification::nothingIsReadWithoutSamples_data()
@@ -580,6 +676,24 @@ void tst_DiskWipeVerification::wipedSectorsBeforeTheLastPass()
     QCOMPARE(job.report().wipedSectors, 0ULL);
 }
 
+void tst_DiskWipeVerification::wipedSectorsAfterAFailedSeek()
+{
+    // The volume is written from wherever it stands, here its start, which nobody knows.
+    MemoryDevices memory;
+    memory.addDrive(markedDrive(1, 2 * MiB));
+    memory.addVolume(u"E:"_s, 1, 0, 2 * MiB);
+    FaultPlan plan(FaultPlan::Seek, 1, platform::IoDevice);
+    FaultyDevices devices(memory, plan);
+    DiskWipeJob job;
+    job.task.setVerifyAfterWipe(false);
+    job.chooseDrive(memory.drive(1));
+    QVERIFY(job.run(devices));
+    QCOMPARE(plan.fired(), 1);
+    QVERIFY(memory.medium(1) == QByteArray(2 * MiB, '\0'));
+    QCOMPARE(job.report().wipedSectors, 0ULL);
+    QVERIFY(job.log().contains(u"1 卷 1 有 2.00 MB 未被覆写"_s));
+}
+
 void tst_DiskWipeVerification::wipedSectorsOfTwoVolumesStoppedInBetween()
 {
     MemoryDevices memory;
@@ -599,6 +713,22 @@ void tst_DiskWipeVerification::wipedSectorsOfTwoVolumesStoppedInBetween()
     QVERIFY(job.errors().isEmpty());
     QCOMPARE(job.report().wipedSectors, quint64(3 * MiB / 512));
     QCOMPARE(memory.heldLocks(), 0);
+}
+
+void tst_DiskWipeVerification::volumeAfterAStopIsNotBegun()
+{
+    MemoryDevices memory;
+    addDriveWithVolumes(memory, 2 * MiB, 2 * MiB);
+    DiskWipeJob job;
+    InterposedDevices devices(memory, [&job](const DeviceCall &call) {
+        if (call.kind == FaultPlan::Flush)
+            job.worker.stop(); // the first volume is complete
+        return platform::Status{};
+    });
+    job.chooseDrive(memory.drive(1));
+    QVERIFY(!job.run(devices));
+    QCOMPARE(job.log().last(2), QStringList({u"0 卷 1 擦除完成，已写入: 2.00 MB"_s, u"1 擦除已取消"_s}));
+    QCOMPARE(job.report().wipedSectors, quint64(2 * MiB / 512));
 }
 
 void tst_DiskWipeVerification::wipedSectorsNeverExceedTheDisk()

@@ -6,9 +6,11 @@
 #include <QTest>
 #include <QtEndian>
 
+#include <chrono>
 #include <limits>
 #include <random>
 #include <sstream>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -124,6 +126,9 @@ private slots:
     void driveReplacedByAnotherOne_data();
     void driveReplacedByAnotherOne();
     void driveOpenedAloneOnlyWithoutVolumes();
+    void everyVolumeIsHeldAndReleased_data();
+    void everyVolumeIsHeldAndReleased();
+    void lockAttemptsAreHalfASecondApart();
     void lockIsTriedThirtyTimes();
     void lockThatSucceedsAtTheThirdAttempt();
     void dismountFailureIsOnlyLogged();
@@ -567,6 +572,51 @@ void tst_DiskWipeWorker::driveOpenedAloneOnlyWithoutVolumes()
         QCOMPARE(devices.asked,
                  QList({hasVolume ? platform::DriveAccess::BesideOwnVolumes : platform::DriveAccess::Alone}));
     }
+}
+
+void tst_DiskWipeWorker::everyVolumeIsHeldAndReleased_data()
+{
+    QTest::addColumn<int>("failingWrite");
+    QTest::newRow("whole job") << 0;
+    QTest::newRow("failed pass") << 1;
+}
+
+void tst_DiskWipeWorker::everyVolumeIsHeldAndReleased()
+{
+    QFETCH(int, failingWrite);
+    MemoryDevices memory;
+    addTwoVolumeDrive(memory);
+    FaultPlan plan(FaultPlan::Write, failingWrite, platform::IoDevice);
+    FaultyDevices faulty(memory, plan);
+    QList<DeviceCall> calls;
+    InterposedDevices devices(faulty, recorder(calls));
+    DiskWipeJob job;
+    job.chooseDrive(memory.drive(3));
+    QCOMPARE(job.run(devices), failingWrite == 0);
+    // All is held before the first write, and the last calls let go of all.
+    QStringList held;
+    for (const DeviceCall &call : std::as_const(calls)) {
+        if (call.kind == FaultPlan::Write)
+            break;
+        const bool holds = call.method == "openVolume"_L1 || call.method == "lock"_L1 ||
+                           call.method == "dismount"_L1 || call.method == "allowExtendedIo"_L1;
+        if (holds)
+            held += call.method + u' ' + call.target;
+    }
+    QCOMPARE(held, QStringList({u"openVolume E:"_s, u"lock E:"_s, u"dismount E:"_s, u"allowExtendedIo E:"_s,
+                                u"openVolume /mnt/x"_s, u"lock /mnt/x"_s, u"dismount /mnt/x"_s,
+                                u"allowExtendedIo /mnt/x"_s}));
+    QStringList released;
+    for (const DeviceCall &call : calls.last(2))
+        released += call.method + u' ' + call.target;
+    QCOMPARE(released, QStringList({u"unlock E:"_s, u"unlock /mnt/x"_s}));
+    QCOMPARE(callsOf(calls, "unlock"_L1).size(), 2);
+}
+
+void tst_DiskWipeWorker::lockAttemptsAreHalfASecondApart()
+{
+    WipeTask task;
+    QCOMPARE(DiskWipeWorker(&task).lockRetryDelay(), std::chrono::milliseconds(500));
 }
 
 void tst_DiskWipeWorker::lockIsTriedThirtyTimes()
