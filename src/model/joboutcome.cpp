@@ -31,7 +31,7 @@ struct KindEntry
 // In the order of ShortfallKind.
 constexpr std::array kinds{
     KindEntry{ShortfallKind::OnlyVolumes, "only-volumes", true,
-              QT_TRANSLATE_NOOP("OutcomeRecord", "only the mounted volumes were erased, not the rest of the "
+              QT_TRANSLATE_NOOP("OutcomeRecord", "only the mounted volumes are erased, not the rest of the "
                                                  "drive")},
     KindEntry{ShortfallKind::VolumeNotOpened, "volume-not-opened", true,
               QT_TRANSLATE_NOOP("OutcomeRecord", "volumes could not be opened and were not erased")},
@@ -51,7 +51,7 @@ constexpr std::array kinds{
     KindEntry{ShortfallKind::RoomLeft, "room-left", true,
               QT_TRANSLATE_NOOP("OutcomeRecord", "free space was left that could not be filled")},
     KindEntry{ShortfallKind::LargeReserve, "large-reserve", true,
-              QT_TRANSLATE_NOOP("OutcomeRecord", "more than 10 % of the free space was left as a reserve")},
+              QT_TRANSLATE_NOOP("OutcomeRecord", "more than 10 % of the free space is left as a reserve")},
     KindEntry{ShortfallKind::FillFilesLeft, "fill-files-left", true,
               QT_TRANSLATE_NOOP("OutcomeRecord", "fill files were left behind")},
     KindEntry{ShortfallKind::EntryVanished, "entry-vanished", true,
@@ -64,16 +64,16 @@ constexpr std::array kinds{
               QT_TRANSLATE_NOOP("OutcomeRecord", "entries could not be removed")},
     KindEntry{ShortfallKind::ContentElsewhere, "content-elsewhere", true,
               QT_TRANSLATE_NOOP("OutcomeRecord",
-                                "the file system may keep the content elsewhere, where it was "
+                                "the file system may keep the content elsewhere, where it is "
                                 "not overwritten")},
     KindEntry{ShortfallKind::LinkTarget, "link-target", true,
-              QT_TRANSLATE_NOOP("OutcomeRecord", "links were removed, what they lead to was not erased")},
+              QT_TRANSLATE_NOOP("OutcomeRecord", "links are removed, what they lead to is not erased")},
     KindEntry{ShortfallKind::NotReadBack, "not-read-back", false,
               QT_TRANSLATE_NOOP("OutcomeRecord", "what was written was not read back")},
     KindEntry{ShortfallKind::ReadBackImpossible, "read-back-impossible", false,
               QT_TRANSLATE_NOOP("OutcomeRecord", "what was written cannot be compared when it is read back")},
     KindEntry{ShortfallKind::ReserveKept, "reserve-kept", false,
-              QT_TRANSLATE_NOOP("OutcomeRecord", "a small part of the free space was left as a reserve")},
+              QT_TRANSLATE_NOOP("OutcomeRecord", "a small part of the free space is left as a reserve")},
     KindEntry{ShortfallKind::OtherNames, "other-names", false,
               QT_TRANSLATE_NOOP("OutcomeRecord",
                                 "files had further names, which stay and lead to overwritten "
@@ -254,15 +254,28 @@ QString OutcomeRecord::line(ShortfallKind kind) const
 
 QString OutcomeRecord::summary() const
 {
+    QStringList texts;
+    for (const ShortfallKind kind : shortfallKinds())
+        texts.append(kindText(kind));
+    return summaryOf(texts);
+}
+
+QString OutcomeRecord::fullSummary() const
+{
+    return summaryOf(shortfallLines());
+}
+
+QString OutcomeRecord::summaryOf(const QStringList &texts) const
+{
     switch (m_outcome) {
     case JobOutcome::Complete:
         break;
     case JobOutcome::Partial:
-        return tr("Partly erased: %1").arg(shortfallLines().join(u"; "_s));
+        return tr("Partly erased: %1").arg(texts.join(u"; "_s));
     case JobOutcome::Failed:
-        return tr("Not erased: the job failed");
+        return tr("Not completely erased: the job failed");
     case JobOutcome::Cancelled:
-        return tr("Not erased: the job was cancelled");
+        return tr("Not completely erased: the job was cancelled");
     }
     return {};
 }
@@ -270,16 +283,19 @@ QString OutcomeRecord::summary() const
 QByteArray OutcomeRecord::toJson() const
 {
     JsonWriter writer(JsonWriter::Layout::Compact);
-    writer.beginObject()
-        .member(u"schemaVersion", SchemaVersion)
-        .member(u"outcome", machineName(m_outcome))
-        .key(u"shortfalls")
-        .beginArray();
+    writer.beginObject().member(u"schemaVersion", SchemaVersion);
+    writeMembers(writer);
+    return writer.endObject().text();
+}
+
+void OutcomeRecord::writeMembers(JsonWriter &writer, bool withTexts) const
+{
+    writer.member(u"outcome", machineName(m_outcome)).key(u"shortfalls").beginArray();
     for (const Shortfall &shortfall : shortfalls())
-        shortfall.writeJson(writer);
+        shortfall.writeJson(writer, withTexts);
     writer.endArray().key(u"notes").beginArray();
     for (const Shortfall &shortfall : notes())
-        shortfall.writeJson(writer);
+        shortfall.writeJson(writer, withTexts);
     writer.endArray().key(u"further").beginArray();
     for (auto entry = m_further.cbegin(); entry != m_further.cend(); ++entry) {
         writer.beginObject()
@@ -288,8 +304,7 @@ QByteArray OutcomeRecord::toJson() const
         writeAmount(writer, u"bytes", entry.value().bytes);
         writer.endObject();
     }
-    writer.endArray().endObject();
-    return writer.text();
+    writer.endArray();
 }
 
 std::optional<OutcomeRecord> OutcomeRecord::fromJson(const QByteArray &json)

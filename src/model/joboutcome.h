@@ -119,14 +119,18 @@ public:
     /// One line for each kind: its text, some of its places, its bytes. Translated, cleaned for display.
     QStringList shortfallLines() const { return lines(true); }
     QStringList noteLines() const { return lines(false); }
-    /// "Partly erased: ..." and so on for an outcome in one line; empty when the job is complete.
+    /// "Partly erased: ..." and so on, the kinds without their places; empty when the job is complete.
     QString summary() const;
+    /// The same with places and bytes.
+    QString fullSummary() const;
 
     /// One line of text, an object.
     QByteArray toJson() const;
     /// Nothing for a text that toJson() of this or a later version has not written. What a later version has
     /// added is passed over.
     static std::optional<OutcomeRecord> fromJson(const QByteArray &json);
+    /// The members of toJson() but the version, into the object that is being written.
+    void writeMembers(JsonWriter &writer, bool withTexts = false) const;
 
     bool operator==(const OutcomeRecord &) const = default;
 
@@ -134,6 +138,7 @@ private:
     QList<Shortfall> listed(bool partial) const;
     QStringList lines(bool partial) const;
     QString line(ShortfallKind kind) const;
+    QString summaryOf(const QStringList &texts) const;
 
     JobOutcome m_outcome = JobOutcome::Failed;
     QMap<ShortfallKind, QList<Shortfall>> m_places;
