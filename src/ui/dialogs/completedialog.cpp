@@ -1,5 +1,7 @@
 #include "ui/dialogs/completedialog.h"
 
+#include "ui/style/tooltip.h"
+
 #include <QIcon>
 #include <QLabel>
 #include <QPixmap>
@@ -12,6 +14,7 @@ namespace {
 
 constexpr QSize IconSize(80, 80);
 constexpr QSize ButtonSize(150, 42);
+constexpr int MostOutcomeHeight = 76; // what the fixed size of the window leaves
 
 // The application's padding would cut long labels in buttons of fixed width, and its focus frame cannot be
 // told from the blue button.
@@ -35,10 +38,12 @@ QPushButton *makeButton(const QString &text, const QString &name, const QString 
 
 } // namespace
 
-CompleteDialog::CompleteDialog(bool success, const QString &certificateId, QWidget *parent)
+CompleteDialog::CompleteDialog(bool success, const QString &certificateId, QWidget *parent,
+                               const OutcomeRecord &outcome)
     : QDialog(parent)
     , m_success(success)
     , m_certificateId(certificateId)
+    , m_outcome(outcome)
 {
     setWindowTitle(m_success ? tr("Erasing Complete") : tr("Erase Failed"));
     setFixedSize(450, 420);
@@ -48,6 +53,8 @@ CompleteDialog::CompleteDialog(bool success, const QString &certificateId, QWidg
     layout->setSpacing(12);
     addIcon(layout);
     addTexts(layout);
+    if (m_success && m_outcome.outcome() == JobOutcome::Partial)
+        addOutcome(layout);
     if (offersCertificate())
         addCertificateId(layout);
     layout->addStretch();
@@ -95,6 +102,21 @@ void CompleteDialog::addTexts(QBoxLayout *layout)
     message->setWordWrap(true);
     message->setStyleSheet(u"color: #64748b; font-size: 14px; line-height: 1.5;"_s);
     layout->addWidget(message);
+}
+
+// As many kinds as there may be, the window keeps its size: the tip holds everything.
+void CompleteDialog::addOutcome(QBoxLayout *layout)
+{
+    auto *const label = new QLabel(m_outcome.summary());
+    label->setObjectName(u"outcomeLabel"_s);
+    label->setTextFormat(Qt::PlainText);
+    label->setAlignment(Qt::AlignCenter);
+    label->setWordWrap(true);
+    label->setStyleSheet(u"color: #f59e0b; font-size: 13px; font-weight: bold;"_s);
+    label->setToolTip(plainTip(m_outcome.fullSummary()));
+    label->setAccessibleDescription(m_outcome.fullSummary());
+    label->setMaximumHeight(MostOutcomeHeight);
+    layout->addWidget(label);
 }
 
 void CompleteDialog::addCertificateId(QBoxLayout *layout)
