@@ -546,6 +546,7 @@ void tst_CliWipeDisk::theLastLinesTellWhatWasNotErased()
         run(wipeDrive(0) + (quiet ? QStringList{u"--quiet"_s} : QStringList()));
         QCOMPARE(run.code, 1);
         const QByteArrayList lines = run.io.out.trimmed().split('\n');
+        QVERIFY2(lines.size() >= 2, run.io.out.constData());
         QVERIFY2(lines.at(lines.size() - 2).startsWith("PARTLY DONE: memory drive 0, "),
                  run.io.out.constData());
         QCOMPARE(lines.constLast(),

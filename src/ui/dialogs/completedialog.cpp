@@ -14,7 +14,6 @@ namespace {
 
 constexpr QSize IconSize(80, 80);
 constexpr QSize ButtonSize(150, 42);
-constexpr int MostOutcomeHeight = 76; // what the fixed size of the window leaves
 
 // The application's padding would cut long labels in buttons of fixed width, and its focus frame cannot be
 // told from the blue button.
@@ -104,18 +103,17 @@ void CompleteDialog::addTexts(QBoxLayout *layout)
     layout->addWidget(message);
 }
 
-// As many kinds as there may be, the window keeps its size: the tip holds everything.
+// However many kinds there are, the window keeps its size: the beginning is seen, the tip holds everything.
 void CompleteDialog::addOutcome(QBoxLayout *layout)
 {
     auto *const label = new QLabel(m_outcome.summary());
     label->setObjectName(u"outcomeLabel"_s);
     label->setTextFormat(Qt::PlainText);
-    label->setAlignment(Qt::AlignCenter);
+    label->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
     label->setWordWrap(true);
     label->setStyleSheet(u"color: #f59e0b; font-size: 13px; font-weight: bold;"_s);
     label->setToolTip(plainTip(m_outcome.fullSummary()));
     label->setAccessibleDescription(m_outcome.fullSummary());
-    label->setMaximumHeight(MostOutcomeHeight);
     layout->addWidget(label);
 }
 

@@ -234,6 +234,11 @@ void tst_CompleteDialog::manyShortfallsFitIntoTheDialog()
     const auto *const label = dialog.findChild<QLabel *>(u"outcomeLabel"_s);
     const auto *const box = dialog.findChild<QWidget *>(u"certIdWidget"_s);
     QVERIFY(label->height() >= 2 * label->fontMetrics().height());
+    QVERIFY(label->alignment().testFlag(Qt::AlignTop)); // how it begins is never cut
+    for (const QString &name : {u"dialogTitle"_s, u"dialogMessage"_s}) {
+        const auto *const given = dialog.findChild<QLabel *>(name);
+        QVERIFY2(given->height() >= given->heightForWidth(given->width()), qPrintable(name));
+    }
     QVERIFY(label->geometry().bottom() < box->geometry().top());
     QVERIFY(box->geometry().bottom() < button(dialog, u"Done"_s)->geometry().top());
     QVERIFY(dialog.rect().contains(button(dialog, u"Done"_s)->geometry()));
