@@ -44,9 +44,11 @@ QPushButton *makeButton(const QString &text, QStringView style, QWidget *parent)
 
 } // namespace
 
-CertificateDialog::CertificateDialog(const WipeReport &report, QWidget *parent)
+CertificateDialog::CertificateDialog(const WipeReport &report, QWidget *parent,
+                                     const std::optional<OutcomeRecord> &outcome)
     : QDialog(parent)
     , m_report(report)
+    , m_outcome(outcome)
 {
     setWindowTitle(tr("Erasure Certificate - %1").arg(displayText(m_report.certificateId)));
     setMinimumSize(700, 800);
@@ -54,7 +56,7 @@ CertificateDialog::CertificateDialog(const WipeReport &report, QWidget *parent)
 
     auto *scroll = new QScrollArea(this);
     scroll->setWidgetResizable(true);
-    scroll->setWidget(makeCertificateView(m_report, scroll));
+    scroll->setWidget(makeCertificateView(m_report, m_outcome, scroll));
 
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 15);
@@ -98,7 +100,7 @@ void CertificateDialog::onExportPdf()
         prompts.fileToSave(this, tr("Export Certificate"), proposedFile(), tr("PDF Files (*.pdf)"));
     if (path.isEmpty())
         return;
-    if (CertificateRenderer().exportToPdf(m_report, path)) {
+    if (CertificateRenderer().exportToPdf(m_report, path, m_outcome)) {
         prompts.information(this, tr("Export Successful"), tr("Certificate exported to:\n%1").arg(path));
     } else {
         prompts.warning(this, tr("Export Failed"),
@@ -111,5 +113,5 @@ void CertificateDialog::onPrint()
     QPrinter printer(QPrinter::HighResolution);
     printer.setPageSize(QPageSize(QPageSize::A4));
     if (Prompts::current().print(this, tr("Print Certificate"), printer))
-        CertificateRenderer().print(m_report, &printer);
+        CertificateRenderer().print(m_report, &printer, m_outcome);
 }

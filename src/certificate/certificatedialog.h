@@ -1,19 +1,23 @@
 #pragma once
 
+#include "model/joboutcome.h"
 #include "model/wipereport.h"
 
 #include <QDialog>
 
+#include <optional>
+
 QT_FORWARD_DECLARE_CLASS(QPushButton)
 
 /// Shows the certificate of a finished job, and exports or prints it. The view is built once, from a copy of
-/// the report.
+/// the report. Of a job that is known not to be complete all of them say so.
 class CertificateDialog : public QDialog
 {
     Q_OBJECT
 
 public:
-    explicit CertificateDialog(const WipeReport &report, QWidget *parent = nullptr);
+    explicit CertificateDialog(const WipeReport &report, QWidget *parent = nullptr,
+                               const std::optional<OutcomeRecord> &outcome = {});
 
 private slots:
     void onExportPdf();
@@ -24,6 +28,7 @@ private:
     QString proposedFile() const;
 
     const WipeReport m_report;
+    const std::optional<OutcomeRecord> m_outcome;
     QPushButton *m_exportButton;
     QPushButton *m_printButton;
     QPushButton *m_closeButton;

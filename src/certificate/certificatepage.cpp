@@ -10,6 +10,8 @@
 #include <QDateTime>
 #include <QPainter>
 
+#include <array>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -22,6 +24,8 @@ constexpr int rowHeight = 6;
 // The one length that does not grow with the resolution: the certificates of all versions cut long values
 // at the same pixel.
 constexpr int valueWidthPixels = 500;
+
+constexpr std::array outcomePoints{10, 9, 8, 7, 6, 5, 4};
 
 constexpr int centred = Qt::AlignCenter;
 constexpr int leftCentred = Qt::AlignLeft | Qt::AlignVCenter;
@@ -47,7 +51,7 @@ CertificatePage::CertificatePage(QPainter &painter, const CertificatePalette &pa
     , m_y(m_left)
 {}
 
-void CertificatePage::paint(const WipeReport &report)
+void CertificatePage::paint(const WipeReport &report, const std::optional<OutcomeRecord> &outcome)
 {
     m_painter.setRenderHint(QPainter::Antialiasing);
     m_painter.setRenderHint(QPainter::TextAntialiasing);
@@ -56,6 +60,8 @@ void CertificatePage::paint(const WipeReport &report)
     paintTitles();
     paintIdentity(displayText(report.certificateId));
     paintRule();
+    if (outcome)
+        paintOutcome(outcome->summary());
     bool isFirst = true;
     for (const CertificateSection &section : certificateContent(report)) {
         if (!isFirst)
@@ -118,6 +124,24 @@ void CertificatePage::paintRule()
     m_painter.setPen(QPen(ruleColour, 1));
     m_painter.drawLine(m_left, m_y, m_left + m_width, m_y);
     moveDown(8);
+}
+
+// Between the rule and the first section, where nothing else has to move: what stands further down may
+// already pass the end of the page. Letters are as large as the room allows.
+void CertificatePage::paintOutcome(const QString &summary)
+{
+    if (summary.isEmpty())
+        return;
+    const QRect box(m_left, m_y - pixels(8) + 1, m_width, pixels(8) - 1);
+    constexpr int flags = Qt::AlignCenter | Qt::TextWordWrap;
+    QFont font;
+    for (const int points : outcomePoints) {
+        font = certificatefonts::text(points, QFont::Bold);
+        m_painter.setFont(font);
+        if (box.contains(m_painter.boundingRect(box, flags, summary)))
+            break;
+    }
+    write(box, flags, summary, font, colour(CertificateColour::Failure));
 }
 
 void CertificatePage::paintSection(const CertificateSection &section)

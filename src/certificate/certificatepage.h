@@ -1,9 +1,12 @@
 #pragma once
 
 #include "certificate/certificatepalette.h"
+#include "model/joboutcome.h"
 
 #include <QRect>
 #include <QString>
+
+#include <optional>
 
 QT_FORWARD_DECLARE_CLASS(QFont)
 QT_FORWARD_DECLARE_CLASS(QPainter)
@@ -19,7 +22,7 @@ class CertificatePage
 public:
     CertificatePage(QPainter &painter, const CertificatePalette &palette, int width, int height, int dpi);
 
-    void paint(const WipeReport &report);
+    void paint(const WipeReport &report, const std::optional<OutcomeRecord> &outcome);
 
     /// Everything that was written on the page.
     QString text() const { return m_text; }
@@ -34,6 +37,7 @@ private:
     void paintTitles();
     void paintIdentity(const QString &certificateId);
     void paintRule();
+    void paintOutcome(const QString &summary);
     void paintSection(const CertificateSection &section);
     void paintHeading(const QString &title);
     void paintRow(const CertificateRow &row);

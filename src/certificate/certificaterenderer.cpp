@@ -18,7 +18,8 @@ CertificateRenderer::CertificateRenderer()
                 QColor(0xf8, 0xfa, 0xfc), QColor(0x22, 0xc5, 0x5e), QColor(0xef, 0x44, 0x44)}
 {}
 
-bool CertificateRenderer::exportToPdf(const WipeReport &report, const QString &filePath) const
+bool CertificateRenderer::exportToPdf(const WipeReport &report, const QString &filePath,
+                                      const std::optional<OutcomeRecord> &outcome) const
 {
     WholeFile file(filePath);
     if (!file.open())
@@ -37,13 +38,14 @@ bool CertificateRenderer::exportToPdf(const WipeReport &report, const QString &f
     if (!painter.isActive())
         return false;
     CertificatePage page(painter, m_palette, writer.width(), writer.height(), writer.resolution());
-    page.paint(report);
+    page.paint(report, outcome);
     if (!painter.end())
         return false;
     return file.commit(withSearchableText(buffer.data(), page.text(), certificatefonts::rawTextFonts()));
 }
 
-bool CertificateRenderer::print(const WipeReport &report, QPrinter *printer) const
+bool CertificateRenderer::print(const WipeReport &report, QPrinter *printer,
+                                const std::optional<OutcomeRecord> &outcome) const
 {
     if (printer == nullptr)
         return false;
@@ -51,12 +53,12 @@ bool CertificateRenderer::print(const WipeReport &report, QPrinter *printer) con
     QPainter painter(printer);
     if (!painter.isActive())
         return false;
-    render(painter, report, printer->width(), printer->height(), printer->resolution());
+    render(painter, report, printer->width(), printer->height(), printer->resolution(), outcome);
     return true;
 }
 
-void CertificateRenderer::render(QPainter &painter, const WipeReport &report, int width, int height,
-                                 int dpi) const
+void CertificateRenderer::render(QPainter &painter, const WipeReport &report, int width, int height, int dpi,
+                                 const std::optional<OutcomeRecord> &outcome) const
 {
-    CertificatePage(painter, m_palette, width, height, dpi).paint(report);
+    CertificatePage(painter, m_palette, width, height, dpi).paint(report, outcome);
 }

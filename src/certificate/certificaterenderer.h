@@ -1,9 +1,12 @@
 #pragma once
 
 #include "certificate/certificatepalette.h"
+#include "model/joboutcome.h"
 
 #include <QCoreApplication>
 #include <QString>
+
+#include <optional>
 
 QT_FORWARD_DECLARE_CLASS(QPainter)
 QT_FORWARD_DECLARE_CLASS(QPrinter)
@@ -22,14 +25,20 @@ public:
     /// Writes the page as a PDF file: whole, or not at all. On false whatever lay under the name is as it
     /// was. A file is replaced, also behind a link; a folder, a device or a pipe is refused, and so is a
     /// folder in which no file can be made.
-    bool exportToPdf(const WipeReport &report, const QString &filePath) const;
+    ///
+    /// Of a job that is known not to be complete each of these says so in a line; a report whose outcome is
+    /// not known says what it says itself.
+    bool exportToPdf(const WipeReport &report, const QString &filePath,
+                     const std::optional<OutcomeRecord> &outcome = {}) const;
 
     /// False without a printer, or when it does not take the job. Sets the paper to A4.
-    bool print(const WipeReport &report, QPrinter *printer) const;
+    bool print(const WipeReport &report, QPrinter *printer,
+               const std::optional<OutcomeRecord> &outcome = {}) const;
 
     /// Paints one page of width by height device pixels. `dpi` is the resolution of the painter's own device:
     /// letters take their size from there. What does not fit the page is painted below it.
-    void render(QPainter &painter, const WipeReport &report, int width, int height, int dpi) const;
+    void render(QPainter &painter, const WipeReport &report, int width, int height, int dpi,
+                const std::optional<OutcomeRecord> &outcome = {}) const;
 
 private:
     CertificatePalette m_palette;

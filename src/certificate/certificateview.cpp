@@ -188,6 +188,15 @@ void addIdentity(QVBoxLayout *layout, const WipeReport &report, QWidget *page)
     layout->addLayout(row);
 }
 
+void addOutcome(QVBoxLayout *layout, const OutcomeRecord &outcome, QWidget *page)
+{
+    QLabel *label = makeLabel(outcome.fullSummary(), certificatestyles::BadValue, page);
+    label->setObjectName(u"outcomeLabel"_s);
+    label->setWordWrap(true);
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    layout->addWidget(label);
+}
+
 QWidget *makeRow(const ViewRow &row, QWidget *parent)
 {
     auto *widget = new QWidget(parent);
@@ -235,7 +244,8 @@ void addDisclaimer(QVBoxLayout *layout, QWidget *page)
 
 } // namespace
 
-QWidget *makeCertificateView(const WipeReport &report, QWidget *parent)
+QWidget *makeCertificateView(const WipeReport &report, const std::optional<OutcomeRecord> &outcome,
+                             QWidget *parent)
 {
     auto *page = new QWidget(parent);
     page->setStyleSheet(certificatestyles::Page.toString());
@@ -243,6 +253,8 @@ QWidget *makeCertificateView(const WipeReport &report, QWidget *parent)
     layout->setContentsMargins(50, 40, 50, 40);
     addHeader(layout, page);
     addIdentity(layout, report, page);
+    if (outcome && outcome->outcome() != JobOutcome::Complete)
+        addOutcome(layout, *outcome, page);
     for (const ViewSection &section : sectionsOf(report))
         addSection(layout, section, page);
     addDisclaimer(layout, page);

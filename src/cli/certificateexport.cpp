@@ -36,9 +36,10 @@ std::unique_ptr<QCoreApplication> makeApplication(int &argc, char **argv)
     return application;
 }
 
-bool exportCertificate(const WipeReport &report, const QString &path)
+bool exportCertificate(const WipeReport &report, const std::optional<OutcomeRecord> &outcome,
+                       const QString &path)
 {
-    return CertificateRenderer().exportToPdf(report, path);
+    return CertificateRenderer().exportToPdf(report, path, outcome);
 }
 
 } // namespace cli

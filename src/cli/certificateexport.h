@@ -1,9 +1,12 @@
 #pragma once
 
+#include "model/joboutcome.h"
+
 #include <QCoreApplication>
 #include <QString>
 
 #include <memory>
+#include <optional>
 
 struct WipeReport;
 
@@ -17,7 +20,8 @@ bool canExportCertificates();
 // The application object that the program needs, which takes no display. argc must outlive it.
 std::unique_ptr<QCoreApplication> makeApplication(int &argc, char **argv);
 
-// Writes the certificate as a PDF, as a whole or not at all.
-bool exportCertificate(const WipeReport &report, const QString &path);
+// Writes the certificate as a PDF, as a whole or not at all, with the outcome if it is known.
+bool exportCertificate(const WipeReport &report, const std::optional<OutcomeRecord> &outcome,
+                       const QString &path);
 
 } // namespace cli

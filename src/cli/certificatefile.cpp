@@ -38,10 +38,10 @@ bool CertificateFile::isWritable() const
     return fileFor(u"certificate"_s).isWritable();
 }
 
-QString CertificateFile::write(const WipeReport &report) const
+QString CertificateFile::write(const WipeReport &report, const std::optional<OutcomeRecord> &outcome) const
 {
     const QString path = fileFor(report.certificateId).path();
-    return exportCertificate(report, path) ? path : QString();
+    return exportCertificate(report, outcome, path) ? path : QString();
 }
 
 OutputFile CertificateFile::fileFor(const QString &certificateId) const

@@ -1,9 +1,12 @@
 #pragma once
 
 #include "cli/outputfile.h"
+#include "model/joboutcome.h"
 
 #include <QString>
 #include <QStringList>
+
+#include <optional>
 
 struct WipeReport;
 
@@ -29,8 +32,9 @@ public:
     bool liesWithin(const QStringList &paths) const;
     // Tries whether one could be written; changes nothing.
     bool isWritable() const;
-    // Writes the certificate as a whole or not at all. The path, empty when that failed.
-    QString write(const WipeReport &report) const;
+    // Writes the certificate as a whole or not at all, with the outcome if it is known. The path, empty when
+    // that failed.
+    QString write(const WipeReport &report, const std::optional<OutcomeRecord> &outcome) const;
 
 private:
     OutputFile fileFor(const QString &certificateId) const;

@@ -18,19 +18,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString endName(JobResult::End end)
+QString endName(const JobResult &result)
 {
-    switch (end) {
-    case JobResult::End::Succeeded:
-        return u"succeeded"_s;
-    case JobResult::End::Failed:
-        return u"failed"_s;
-    case JobResult::End::Cancelled:
-        return u"cancelled"_s;
-    case JobResult::End::NotStarted:
-        break;
-    }
-    return u"not started"_s;
+    if (!result.wasStarted)
+        return u"not started"_s;
+    const JobOutcome outcome = result.outcome.outcome();
+    return outcome == JobOutcome::Complete ? u"succeeded"_s : machineName(outcome);
 }
 
 } // namespace
@@ -74,8 +67,10 @@ void logJobEnd(const JobResult &result)
 {
     const WipeReport &report = result.report;
     AppLog::instance().info(u"Job %1, certificate %2, %3 bytes written %4"_s.arg(
-        endName(result.end), report.certificateId, QString::number(report.bytesWritten),
+        endName(result), report.certificateId, QString::number(report.bytesWritten),
         displayText(report.errorMessage)));
+    for (const QString &line : result.outcome.shortfallLines())
+        AppLog::instance().warning(line);
 }
 
 } // namespace cli

@@ -5,6 +5,7 @@
 #include "cli/translate.h"
 #include "cli/wipeoptions.h"
 #include "model/displaytext.h"
+#include "model/joboutcome.h"
 #include "model/wipereport.h"
 #include "services/reportdatabase.h"
 
@@ -62,10 +63,11 @@ Outcome<JobRecords> JobRecords::prepare(const WipeOptions &options, const Comman
     return records;
 }
 
-JobRecords::Written JobRecords::write(const WipeReport &report, bool succeeded) const
+JobRecords::Written JobRecords::write(const WipeReport &report, const OutcomeRecord &outcome,
+                                      bool withCertificate) const
 {
     Written written;
-    if (m_store && !m_store->database().saveReport(report)) {
+    if (m_store && !m_store->database().saveReport(report, outcome)) {
         written.problems.append(Cli::tr("report %1 could not be stored in the database: %2")
                                     .arg(report.certificateId, displayText(m_store->database().lastError())));
     }
@@ -76,8 +78,8 @@ JobRecords::Written JobRecords::write(const WipeReport &report, bool succeeded) 
             written.problems.append(
                 Cli::tr("the report file %1 could not be written").arg(displayText(m_reportFile.path())));
     }
-    if (m_certificate.isWanted() && succeeded) {
-        written.certificate = m_certificate.write(report);
+    if (m_certificate.isWanted() && withCertificate) {
+        written.certificate = m_certificate.write(report, outcome);
         if (written.certificate.isEmpty())
             written.problems.append(
                 Cli::tr("the certificate %1 could not be written").arg(displayText(m_certificate.path())));

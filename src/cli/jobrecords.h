@@ -11,6 +11,7 @@
 #include <memory>
 #include <optional>
 
+class OutcomeRecord;
 struct WipeReport;
 
 namespace cli {
@@ -35,7 +36,7 @@ public:
     static Outcome<JobRecords> prepare(const WipeOptions &options, const CommandContext &context,
                                        const QStringList &doomedPaths, const QStringList &commandWords);
 
-    Written write(const WipeReport &report, bool succeeded) const;
+    Written write(const WipeReport &report, const OutcomeRecord &outcome, bool withCertificate) const;
 
 private:
     std::unique_ptr<ReportStore> m_store; // null: not wanted

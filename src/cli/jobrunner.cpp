@@ -35,6 +35,8 @@ public:
             if (m_stop.isRequested())
                 m_engine.stop();
             m_loop.exec();
+            m_result.outcome = m_engine.outcome();
+            m_result.wasStarted = true;
         }
         m_result.report = m_engine.report();
         return m_result;
@@ -76,12 +78,7 @@ void Run::connectEngine()
     // Comes after the percentage of the same moment.
     QObject::connect(&m_engine, &WipeEngine::bytesProcessed, &m_loop,
                      [this](qint64 bytes) { onBytesProcessed(bytes); });
-    QObject::connect(&m_engine, &WipeEngine::completed, &m_loop, [this](bool success) {
-        m_result.end = success                ? JobResult::End::Succeeded
-                       : m_stop.isRequested() ? JobResult::End::Cancelled
-                                              : JobResult::End::Failed;
-        m_loop.quit();
-    });
+    QObject::connect(&m_engine, &WipeEngine::completed, &m_loop, &QEventLoop::quit);
     // The worker's end, not stopped(), ends the job: stop() waits only so long for it.
     QObject::connect(&m_stop, &StopRequest::requested, &m_engine, &WipeEngine::stop);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "cli/jobrecords.h"
+#include "model/joboutcome.h"
 #include "model/wipereport.h"
 
 #include <QString>
@@ -21,25 +22,10 @@ struct JobProgress
 
 struct JobResult
 {
-    enum class End {
-        Succeeded,
-        Failed,
-        Cancelled,
-        NotStarted, // the engine refused the job, nothing was written
-    };
-    End end = End::NotStarted;
-    QString lastError; // in words for the user
+    bool wasStarted = false; // else the engine refused the job, nothing was written
+    QString lastError;       // in words for the user
     WipeReport report;
-
-    // A drive that holds mounted volumes is overwritten through these alone: the engine then has done what it
-    // does, but what lies between them keeps its bytes, which nobody must take for erased.
-    bool isPartial() const
-    {
-        return end == End::Succeeded && report.operationType == DiskWipe &&
-               report.wipedSectors < report.totalSectors;
-    }
-    // Whether everything that was asked for is erased.
-    bool isComplete() const { return end == End::Succeeded && !isPartial(); }
+    OutcomeRecord outcome;
 };
 
 // Shows a running job to a person or to a program. On the thread that runs the command.

@@ -82,11 +82,13 @@ void JsonJobView::problem(const QString &message)
 void JsonJobView::finished(const JobResult &result, const JobRecords::Written &)
 {
     JsonWriter event = beginEvent("finished");
-    event.member(u"success", result.isComplete())
-        .member(u"cancelled", result.end == JobResult::End::Cancelled)
+    const JobOutcome outcome = result.outcome.outcome();
+    event.member(u"success", outcome == JobOutcome::Complete)
+        .member(u"cancelled", outcome == JobOutcome::Cancelled)
         .member(u"certificateId", result.report.certificateId)
         .key(u"report");
     result.report.writeJson(event);
+    result.outcome.writeMembers(event, true);
     event.endObject();
     print(event);
 }

@@ -12,7 +12,7 @@ std::unique_ptr<QCoreApplication> makeApplication(int &argc, char **argv)
     return std::make_unique<QCoreApplication>(argc, argv);
 }
 
-bool exportCertificate(const WipeReport &, const QString &)
+bool exportCertificate(const WipeReport &, const std::optional<OutcomeRecord> &, const QString &)
 {
     return false;
 }

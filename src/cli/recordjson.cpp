@@ -94,4 +94,18 @@ void writeTrash(JsonWriter &writer, const RecycleBinInfo &trash)
     writer.endObject();
 }
 
+bool writeStoredReport(JsonWriter &writer, const QByteArray &json,
+                       const std::optional<OutcomeRecord> &outcome)
+{
+    JsonWriter report(JsonWriter::Layout::Compact);
+    if (!report.raw(json))
+        return false;
+    QByteArray text = report.text();
+    if (outcome && text.endsWith('}')) {
+        text.chop(1);
+        text += (text.endsWith('{') ? "" : ",") + QByteArrayLiteral("\"annex\":") + outcome->toJson() + '}';
+    }
+    return writer.raw(text);
+}
+
 } // namespace cli

@@ -35,6 +35,17 @@ void addTarget(Table &table, const WipeReport &report)
     table.addRow({Cli::tr("Bad sectors"), QString::number(report.badSectors)});
 }
 
+void addOutcome(Table &table, const std::optional<OutcomeRecord> &outcome)
+{
+    table.addRow({Cli::tr("Outcome"), outcomeText(outcome)});
+    if (!outcome)
+        return;
+    for (const QString &line : outcome->shortfallLines())
+        table.addRow({Cli::tr("Shortfall"), line});
+    for (const QString &line : outcome->noteLines())
+        table.addRow({Cli::tr("Note"), line});
+}
+
 void addVerification(Table &table, const WipeReport &report)
 {
     const bool isReadBack = report.verificationSampleSize > 0 || !report.verificationPassed;
@@ -61,7 +72,24 @@ QString targetText(const WipeReport &report)
     return displayText(report.disk.displayName());
 }
 
-QString reportText(const WipeReport &report)
+QString outcomeText(const std::optional<OutcomeRecord> &outcome)
+{
+    if (!outcome)
+        return Cli::tr("unknown");
+    switch (outcome->outcome()) {
+    case JobOutcome::Complete:
+        return Cli::tr("complete");
+    case JobOutcome::Partial:
+        return Cli::tr("partial");
+    case JobOutcome::Cancelled:
+        return Cli::tr("cancelled");
+    case JobOutcome::Failed:
+        break;
+    }
+    return Cli::tr("failed");
+}
+
+QString reportText(const WipeReport &report, const std::optional<OutcomeRecord> &outcome)
 {
     Table table;
     table.addRow({Cli::tr("Certificate"), displayText(report.certificateId)});
@@ -69,6 +97,7 @@ QString reportText(const WipeReport &report)
     table.addRow({Cli::tr("Method"),
                   displayText(report.method.name) + u", "_s + passCountText(report.method.passCount())});
     table.addRow({Cli::tr("Status"), report.statusName()});
+    addOutcome(table, outcome);
     table.addRow({Cli::tr("Started"), displayTime(report.startTime)});
     table.addRow({Cli::tr("Ended"), displayTime(report.endTime)});
     table.addRow({Cli::tr("Duration"), report.endTime.isValid() ? report.duration() : QString()});

@@ -1,9 +1,12 @@
 #pragma once
 
+#include "model/joboutcome.h"
 #include "model/wipereport.h"
 
 #include <QByteArray>
 #include <QString>
+
+#include <optional>
 
 namespace cli {
 
@@ -13,7 +16,10 @@ bool isReportText(const QByteArray &json);
 // What the job was about, in a few words with cleaned names: the drive, or how many files.
 QString targetText(const WipeReport &report);
 
-// The whole report for a person, a field a line, with cleaned names.
-QString reportText(const WipeReport &report);
+// The whole report for a person, a field a line, with cleaned names, and how the job went.
+QString reportText(const WipeReport &report, const std::optional<OutcomeRecord> &outcome);
+
+// In one word; also for one that is not known.
+QString outcomeText(const std::optional<OutcomeRecord> &outcome);
 
 } // namespace cli

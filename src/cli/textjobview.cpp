@@ -22,28 +22,19 @@ QString levelMark(int level)
     return level == WarningLevel ? Cli::tr("[warning]") : Cli::tr("[info]");
 }
 
-QString resultText(const JobResult &result)
+QString resultText(JobOutcome outcome)
 {
-    switch (result.end) {
-    case JobResult::End::Succeeded:
-        return result.isPartial() ? Cli::tr("PARTLY DONE") : Cli::tr("DONE");
-    case JobResult::End::Cancelled:
+    switch (outcome) {
+    case JobOutcome::Complete:
+        return Cli::tr("DONE");
+    case JobOutcome::Partial:
+        return Cli::tr("PARTLY DONE");
+    case JobOutcome::Cancelled:
         return Cli::tr("CANCELLED");
-    case JobResult::End::Failed:
-    case JobResult::End::NotStarted:
+    case JobOutcome::Failed:
         break;
     }
     return Cli::tr("FAILED");
-}
-
-QString coverageText(const JobResult &result)
-{
-    const WipeReport &report = result.report;
-    if (!result.isPartial())
-        return {};
-    return Cli::tr(", ONLY THE VOLUMES: %1 of %2 sectors erased")
-        .arg(report.wipedSectors)
-        .arg(report.totalSectors);
 }
 
 // A file job reports its bytes by the way only, and the last of them not at all; what it was to do is exact.
@@ -98,14 +89,15 @@ void TextJobView::finished(const JobResult &result, const JobRecords::Written &w
     m_progressLine.end();
     const WipeReport &report = result.report;
     QString line = Cli::tr("%1: %2, %3, %4 in %5, certificate %6")
-                       .arg(resultText(result), displayText(m_target), report.method.name, amountText(report),
-                            report.duration(), report.certificateId);
-    line += coverageText(result);
+                       .arg(resultText(result.outcome.outcome()), displayText(m_target), report.method.name,
+                            amountText(report), report.duration(), report.certificateId);
     if (!written.report.isEmpty())
         line += Cli::tr(", report %1").arg(displayText(written.report));
     if (!written.certificate.isEmpty())
         line += Cli::tr(", PDF %1").arg(displayText(written.certificate));
     m_io.printLine(line);
+    for (const QString &shortfall : result.outcome.shortfallLines())
+        m_io.printLine(u"  "_s + shortfall);
 }
 
 } // namespace cli

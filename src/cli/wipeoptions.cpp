@@ -5,6 +5,7 @@
 #include "model/displaytext.h"
 #include "model/wipetask.h"
 
+#include <algorithm>
 #include <limits>
 #include <optional>
 
@@ -26,6 +27,16 @@ std::optional<WipeMethod> findMethod(const QString &nameOrNumber)
             return method;
     }
     return std::nullopt;
+}
+
+QString shortfallNames()
+{
+    QStringList names;
+    for (const ShortfallKind kind : allShortfallKinds()) {
+        if (makesPartial(kind))
+            names.append(kindName(kind));
+    }
+    return names.join(u", "_s);
 }
 
 // Reads the values of options one after the other and keeps the first thing that is wrong.
@@ -61,6 +72,17 @@ public:
             method = *found;
         else
             refuse(Cli::tr("unknown method '%1', 'quorvex-cli methods' lists them").arg(displayText(given)));
+    }
+
+    void readKinds(QList<ShortfallKind> &kinds)
+    {
+        for (const QString &given : m_options.values(u"accept"_s)) {
+            if (const auto kind = kindFromName(given))
+                kinds.append(*kind);
+            else
+                refuse(Cli::tr("unknown kind of shortfall '%1', there are: %2")
+                           .arg(displayText(given), shortfallNames()));
+        }
     }
 
     // File is OutputFile or CertificateFile.
@@ -104,6 +126,8 @@ QList<QCommandLineOption> wipeOptions()
         {u"no-report"_s, Cli::tr("Do not store the report in the database")},
         {u"pdf"_s, Cli::tr("After a success write the certificate as PDF, into this file or folder"),
          u"FILE|DIR"_s},
+        {u"accept"_s, Cli::tr("A shortfall of this kind is no failure; may be given several times"),
+         u"KIND"_s},
         {u"yes"_s, Cli::tr("Do not ask for the word ERASE")},
     };
 }
@@ -115,6 +139,14 @@ void WipeOptions::applyTo(WipeTask &task) const
     task.setVerifySampleSize(samples);
     task.setThreadCount(threads);
     task.setBufferSizeMB(bufferMB);
+}
+
+bool WipeOptions::accepts(const OutcomeRecord &outcome) const
+{
+    const QList<ShortfallKind> kinds = outcome.shortfallKinds();
+    return outcome.outcome() == JobOutcome::Complete ||
+           (outcome.outcome() == JobOutcome::Partial && !kinds.isEmpty() &&
+            std::ranges::all_of(kinds, [this](ShortfallKind kind) { return accepted.contains(kind); }));
 }
 
 Outcome<WipeOptions> readWipeOptions(const CommandContext &context, const QStringList &commandWords)
@@ -134,6 +166,7 @@ Outcome<WipeOptions> readWipeOptions(const CommandContext &context, const QStrin
     reader.readNumber(u"samples"_s, 1, std::numeric_limits<int>::max(), options.samples);
     reader.readNumber(u"threads"_s, 1, MostThreads, options.threads);
     reader.readNumber(u"buffer-mb"_s, 1, LargestBufferMB, options.bufferMB);
+    reader.readKinds(options.accepted);
     reader.readFile(u"report"_s, options.reportFile);
     reader.readFile(u"pdf"_s, options.certificate);
     if (reader.refusal())

@@ -3,6 +3,7 @@
 #include "cli/certificatefile.h"
 #include "cli/command.h"
 #include "cli/outputfile.h"
+#include "model/joboutcome.h"
 #include "model/wipemethod.h"
 
 class WipeTask;
@@ -23,6 +24,10 @@ struct WipeOptions
     OutputFile reportFile;
     CertificateFile certificate;
     bool skipQuestion = false;
+    QList<ShortfallKind> accepted; // which do not make the exit code that of a failed job
+
+    // Whether the outcome is what the user asked for: complete, or short of nothing else than was accepted.
+    bool accepts(const OutcomeRecord &outcome) const;
 
     void applyTo(WipeTask &task) const;
 };

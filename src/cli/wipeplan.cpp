@@ -11,10 +11,10 @@
 #include "cli/names.h"
 #include "cli/textjobview.h"
 #include "cli/translate.h"
+#include "engine/foreseeable.h"
 #include "model/displaytext.h"
 
 #include <QScopeGuard>
-#include <QSet>
 
 #include <algorithm>
 
@@ -53,8 +53,10 @@ std::optional<Refusal> checkTasks(const WipePlan &plan)
 class Session
 {
 public:
-    Session(const WipePlan &plan, const JobRecords &records, const CommandContext &context)
+    Session(const WipePlan &plan, const WipeOptions &options, const JobRecords &records,
+            const CommandContext &context)
         : m_plan(plan)
+        , m_options(options)
         , m_records(records)
         , m_stop(context.io.stopRequest())
     {
@@ -71,12 +73,14 @@ public:
 
 private:
     const WipePlan &m_plan;
+    const WipeOptions &m_options;
     const JobRecords &m_records;
     StopRequest &m_stop;
     std::unique_ptr<JobView> m_view;
-    QSet<JobResult::End> m_ends;
-    QString m_engineRefusal;
-    bool m_hasPartialJob = false;
+    int m_started = 0;
+    std::optional<QString> m_engineRefusal;
+    bool m_isCancelled = false;
+    bool m_hasFailed = false; // or fell short
     bool m_hasProblem = false;
 };
 
@@ -85,44 +89,59 @@ bool Session::run(const PlannedJob &job)
     logJobStart(*job.task, job.target);
     const JobResult result = runJob(*job.task, job.target, *m_view, m_stop);
     logJobEnd(result);
-    m_ends.insert(result.end);
-    if (result.end == JobResult::End::NotStarted) {
+    if (!result.wasStarted) {
         m_engineRefusal = result.lastError;
-        if (m_ends.size() > 1)
+        if (m_started > 0)
             m_view->problem(result.lastError);
         return false;
     }
-    if (result.isPartial()) {
-        m_hasPartialJob = true;
-        m_view->problem(
-            Cli::tr("only the mounted volumes were erased; unmount them to erase the whole drive"));
-    }
-    const JobRecords::Written written = m_records.write(result.report, result.isComplete());
+    ++m_started;
+    const bool isAccepted = m_options.accepts(result.outcome);
+    const bool isCancelled = result.outcome.outcome() == JobOutcome::Cancelled;
+    m_isCancelled = m_isCancelled || isCancelled;
+    m_hasFailed = m_hasFailed || !isAccepted;
+    const JobRecords::Written written = m_records.write(result.report, result.outcome, isAccepted);
     const QStringList problems = written.problems + (m_plan.afterwards ? m_plan.afterwards() : QStringList());
     for (const QString &problem : problems)
         m_view->problem(problem);
     m_hasProblem = m_hasProblem || !problems.isEmpty();
     m_view->finished(result, written);
-    return result.end != JobResult::End::Cancelled;
+    return !isCancelled;
 }
 
 Outcome<ExitCode> Session::result() const
 {
-    if (m_ends == QSet{JobResult::End::NotStarted})
-        return Refusal{Refused, m_engineRefusal};
-    if (m_ends.contains(JobResult::End::Cancelled))
+    if (m_engineRefusal && m_started == 0)
+        return Refusal{Refused, *m_engineRefusal};
+    if (m_isCancelled)
         return Cancelled;
-    if (m_ends.contains(JobResult::End::Failed) || m_ends.contains(JobResult::End::NotStarted) ||
-        m_hasPartialJob)
+    if (m_hasFailed || m_engineRefusal)
         return JobFailed;
     return m_hasProblem ? SurroundingsFailed : Done;
+}
+
+// What the jobs will fall short of, in lines; the user decides whether they are started all the same.
+QStringList foreseenLines(const WipePlan &plan)
+{
+    OutcomeRecord foreseen;
+    for (const PlannedJob &job : plan.jobs) {
+        for (const Shortfall &shortfall : foreseeableShortfalls(*job.task).shortfalls())
+            foreseen.note(shortfall);
+    }
+    QStringList lines;
+    for (const QString &line : foreseen.shortfallLines())
+        lines.append(u"    "_s + line);
+    if (!lines.isEmpty())
+        lines.prepend(Cli::tr("  not everything will be erased:"));
+    return lines;
 }
 
 std::optional<Refusal> ask(const WipePlan &plan, const WipeOptions &options, const CommandContext &context)
 {
     const ConfirmationOptions how{options.skipQuestion, wantsJson(context.options),
                                   wantsQuiet(context.options)};
-    return confirm(plan.summary + QStringList{methodLine(plan, options)}, how, context.io);
+    return confirm(plan.summary + QStringList{methodLine(plan, options)} + foreseenLines(plan), how,
+                   context.io);
 }
 
 } // namespace
@@ -149,7 +168,7 @@ Outcome<ExitCode> carryOut(WipePlan &plan, const WipeOptions &options, const Com
             return *refusal;
     }
 
-    Session session(plan, *records, context);
+    Session session(plan, options, *records, context);
     for (const PlannedJob &job : plan.jobs) {
         if (!session.run(job))
             break;

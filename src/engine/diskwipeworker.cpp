@@ -138,6 +138,7 @@ bool DiskWipeWorker::writePasses()
 {
     const QList<PassPattern> passes = task().method().passes;
     m_totalPasses = static_cast<int>(passes.size());
+    m_writesVolumes = !m_volumes.empty();
     m_chunks.emplace([this](std::byte *data, qint64 size, const PassPattern &pattern) {
         fillBuffer(data, size, pattern);
     });
@@ -196,6 +197,20 @@ void DiskWipeWorker::fillReport()
         report.verificationMethod = method;
         report.dataHash = m_verification.hash();
     });
+    noteShortfalls(wiped);
+}
+
+// A job on a drive that was written through its volumes has done what it does, but what lies between them
+// keeps its bytes, which nobody must take for erased. A partition is one of these volumes.
+void DiskWipeWorker::noteShortfalls(quint64 wipedSectors)
+{
+    if (m_totalPasses == 0)
+        return;
+    noteReadBack(true);
+    const quint64 sectors = static_cast<quint64>(task().disk().sizeBytes) >> 9;
+    if (task().operationType() == DiskWipe && m_writesVolumes && wipedSectors < sectors)
+        task().noteShortfall(
+            {ShortfallKind::OnlyVolumes, {}, static_cast<qint64>((sectors - wipedSectors) << 9)});
 }
 
 platform::DriveIdentity DiskWipeWorker::identity() const

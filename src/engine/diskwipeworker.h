@@ -54,6 +54,7 @@ private:
     static QString patternLabel(const PassPattern &pattern);
     void closeDevices();
     void fillReport();
+    void noteShortfalls(quint64 wipedSectors);
     void note(const QString &message, LogLevel level = Information) { emit logMessage(message, level); }
 
     // diskwipevolumes.cpp: finding, locking and releasing volumes
@@ -82,6 +83,7 @@ private:
 
     std::unique_ptr<platform::RawDevice> m_drive;
     std::vector<HeldVolume> m_volumes; // in the order in which they were found
+    bool m_writesVolumes = false;      // as long as a volume is held when the passes begin
     qint64 m_diskSize = 0;
     qint32 m_sectorSize = 512;
     quint64 m_sectorCount = 0;

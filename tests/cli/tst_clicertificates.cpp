@@ -1,3 +1,4 @@
+#include "certificate/pdfreader.h"
 #include "cli/memorymachine.h"
 #include "cli/testio.h"
 #include "support/suite.h"
@@ -23,6 +24,8 @@ private slots:
     void severalVolumesNeedAFolder();
     void aStoredReportIsExported();
     void bothFormsAreExportedAtOnce();
+    void aPartialJobLeavesNoneUnlessThatIsAccepted();
+    void noCertificateOfAPartialJobReadsLikeAWholeOne();
 
 private:
     QTemporaryDir m_home;
@@ -44,6 +47,11 @@ bool isPdf(const QString &path)
 {
     const QByteArray content = contentOf(path);
     return content.startsWith("%PDF-") && content.trimmed().endsWith("%%EOF");
+}
+
+bool saysPartly(const QString &path)
+{
+    return PdfReader(contentOf(path)).text().remove(u' ').contains(u"Partlyerased:onlythemountedvolumes"_s);
 }
 
 } // namespace
@@ -164,6 +172,43 @@ void tst_CliCertificates::bothFormsAreExportedAtOnce()
              0);
     QVERIFY(isPdf(run.folder() + u'/' + id + u".pdf"_s));
     QCOMPARE(QJsonDocument::fromJson(io.out).object().value(u"certificateId"), QJsonValue(id));
+}
+
+void tst_CliCertificates::aPartialJobLeavesNoneUnlessThatIsAccepted()
+{
+    MemoryMachine machine;
+    addDrive(machine);
+    machine.memory.addVolume(u"/media/stick"_s, 0, 65536, 65536);
+    CliRun run;
+    const QString path = run.folder() + u"/c.pdf"_s;
+    run(wipeDrive(path));
+    QCOMPARE(run.code, 1);
+    QVERIFY(!QFile::exists(path));
+    run(wipeDrive(path, {u"--accept"_s, u"only-volumes"_s}));
+    QCOMPARE(run.code, 0);
+    QVERIFY2(saysPartly(path), "the certificate does not say that the job was partial");
+}
+
+void tst_CliCertificates::noCertificateOfAPartialJobReadsLikeAWholeOne()
+{
+    MemoryMachine machine;
+    addDrive(machine);
+    CliRun run;
+    const auto exported = [&run] {
+        const QString id = run.io.events().constLast().value(u"certificateId").toString();
+        TestIo io;
+        const QString path = run.folder() + u'/' + id + u".pdf"_s;
+        const QStringList words{u"reports"_s, u"export"_s,     id,          u"--pdf"_s,
+                                path,         u"--data-dir"_s, run.folder()};
+        return cli::runCli(words, io, SourceTexts) == 0 ? path : QString();
+    };
+    run({u"wipe"_s, u"disk"_s, u"0"_s, u"--yes"_s, u"--json"_s});
+    QVERIFY(isPdf(exported()));
+    QVERIFY(!saysPartly(exported()));
+    machine.memory.addVolume(u"/media/stick"_s, 0, 65536, 65536);
+    run({u"wipe"_s, u"disk"_s, u"0"_s, u"--yes"_s, u"--json"_s});
+    QVERIFY(isPdf(exported()));
+    QVERIFY(saysPartly(exported()));
 }
 
 QUORVEX_SUITE(tst_CliCertificates, QApplication)

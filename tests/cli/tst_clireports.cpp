@@ -37,6 +37,8 @@ private slots:
     void damagedTextIsListedAsSuch();
     void aReportIsShown();
     void aReportIsShownToMachines();
+    void outcomesAreListedAndShown();
+    void theOutcomeOfAJobIsStored();
     void anUnknownIdIsRefused_data();
     void anUnknownIdIsRefused();
     void damagedTextIsNotShown();
@@ -344,6 +346,69 @@ void tst_CliReports::aReportIsShownToMachines()
     run({u"reports"_s, u"show"_s, u"QVX-A"_s, u"--json"_s});
     QCOMPARE(run.io.documents().size(), 1);
     QCOMPARE(run.io.documents().constFirst().object(), QJsonDocument::fromJson(report.toJson()).object());
+}
+
+// Of jobs that the database knows more of than their report says.
+void tst_CliReports::outcomesAreListedAndShown()
+{
+    CliRun run;
+    OutcomeRecord partial(JobOutcome::Complete);
+    partial.note({ShortfallKind::VolumeInUse, u"E:"_s, 2048});
+    partial.note({ShortfallKind::NotReadBack});
+    QVERIFY(store(run.folder(), {reportOf(u"QVX-A"_s, 1)}));
+    {
+        TestIo io;
+        QVERIFY(ReportDatabase::instance().initialize(run.folder()));
+        QVERIFY(ReportDatabase::instance().saveReport(reportOf(u"QVX-B"_s, 2), partial));
+        QVERIFY(ReportDatabase::instance().saveReport(reportOf(u"QVX-C"_s, 3),
+                                                      OutcomeRecord(JobOutcome::Cancelled)));
+        ReportDatabase::instance().close();
+    }
+    const auto output = [&run](const QStringList &arguments) {
+        TestIo io;
+        const int code =
+            cli::runCli(QStringList{u"reports"_s} + arguments + QStringList{u"--data-dir"_s, run.folder()},
+                        io, SourceTexts);
+        return code == 0 ? io.out : QByteArray("failed");
+    };
+    const QByteArrayList lines = output({u"list"_s}).split('\n');
+    QVERIFY2(lines.at(0).contains("Outcome"), lines.at(0).constData());
+    QVERIFY2(lines.at(1).contains("cancelled"), lines.at(1).constData());
+    QVERIFY2(lines.at(2).contains("partial"), lines.at(2).constData());
+    QVERIFY2(lines.at(3).contains("unknown"), lines.at(3).constData());
+
+    const QByteArray shown = output({u"show"_s, u"QVX-B"_s});
+    for (const char *part :
+         {"Outcome", "partial", "Shortfall", "volumes were in use while they were overwritten: E: (2.00 KB)",
+          "Note", "what was written was not read back"})
+        QVERIFY2(shown.contains(part), part);
+    QVERIFY(output({u"show"_s, u"QVX-A"_s}).contains("unknown"));
+
+    const QJsonObject annex = QJsonDocument::fromJson(partial.toJson()).object();
+    const QJsonObject machine =
+        QJsonDocument::fromJson(output({u"show"_s, u"QVX-B"_s, u"--json"_s})).object();
+    QCOMPARE(machine.value(u"annex"), QJsonValue(annex));
+    const QJsonArray listed = QJsonDocument::fromJson(output({u"list"_s, u"--json"_s})).array();
+    QCOMPARE(listed.at(1).toObject(), machine);
+    QVERIFY(!listed.at(2).toObject().contains(u"annex"));
+    // What is exported is the record.
+    QCOMPARE(output({u"export"_s, u"QVX-B"_s, u"--json-file"_s, u"-"_s}), reportOf(u"QVX-B"_s, 2).toJson());
+}
+
+void tst_CliReports::theOutcomeOfAJobIsStored()
+{
+    MemoryMachine machine;
+    addDrive(machine);
+    machine.memory.addVolume(u"/media/stick"_s, 0, 65536, 65536);
+    CliRun run;
+    run(wipeDrive({u"--json"_s}));
+    const QString id = run.io.events().constLast().value(u"certificateId").toString();
+    QVERIFY(ReportDatabase::instance().initialize(run.folder()));
+    const auto outcome = ReportDatabase::instance().outcome(id);
+    ReportDatabase::instance().close();
+    QVERIFY(outcome);
+    QCOMPARE(outcome->outcome(), JobOutcome::Partial);
+    QCOMPARE(outcome->shortfallKinds(), QList{ShortfallKind::OnlyVolumes});
 }
 
 void tst_CliReports::anUnknownIdIsRefused_data()

@@ -36,6 +36,7 @@ private slots:
     void aDamagedRecordIsErasedWithItsFile();
 #ifdef Q_OS_UNIX
     void theDesktopsTrashIsErasedWithItsRecords();
+    void aLinkInTheBinMakesNothingPartial();
     void namesOfErasedFoldersLeaveTheRecords();
     void recordsThatCannotBeMendedAreTold();
     void aTrashThatIsALinkIsLeftAlone();
@@ -299,6 +300,24 @@ void tst_CliTrash::theDesktopsTrashIsErasedWithItsRecords()
     QCOMPARE(erasing.code, 0);
     QVERIFY(QDir(trash + u"/files"_s).isEmpty());
     QVERIFY(QDir(trash + u"/info"_s).isEmpty());
+}
+
+// What a link leads to was never in the bin.
+void tst_CliTrash::aLinkInTheBinMakesNothingPartial()
+{
+    const QTemporaryDir elsewhere;
+    const QString trash = m_home.filePath(u"Trash"_s);
+    QVERIFY(QDir().mkpath(trash + u"/files"_s));
+    QVERIFY(QDir().mkpath(trash + u"/info"_s));
+    if (!makeLink(elsewhere.path(), trash + u"/files/link"_s))
+        QSKIP(NoLinks);
+    QVERIFY(writeFile(trash + u"/info/link.trashinfo"_s, "[Trash Info]\nPath=/tmp/link\n"));
+    CliRun run;
+    run({u"wipe"_s, u"trash"_s, u"--yes"_s, u"--json"_s});
+    QCOMPARE(run.code, 0);
+    QCOMPARE(run.io.events().constLast().value(u"outcome"), QJsonValue(u"complete"_s));
+    QVERIFY(QDir(trash + u"/files"_s).isEmpty());
+    QVERIFY(QFileInfo(elsewhere.path()).isDir());
 }
 
 void tst_CliTrash::namesOfErasedFoldersLeaveTheRecords()

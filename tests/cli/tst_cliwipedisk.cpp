@@ -43,8 +43,13 @@ private slots:
     void quietPrintsTheFinalLineOnly();
     void quietEventsAreErrorsAndTheEnd();
     void theLastLineTellsEverything();
-    void theLastLineTellsWhatWasNotErased();
+    void theLastLinesTellWhatWasNotErased();
     void aPartOfADriveIsNoSuccess();
+    void notesAreNoShortfalls();
+    void whatWillStayIsToldBeforeTheQuestion();
+    void acceptedShortfallsAreNoFailure();
+    void anAcceptedShortfallIsNoExcuseForAFailure();
+    void anUnknownKindIsAWrongLine();
 
     void theReportIsWrittenAfterSuccess();
     void theReportIsWrittenAfterFailure();
@@ -71,6 +76,11 @@ QStringList wipeDrive(int number, const QStringList &options = {u"--yes"_s})
 void addDrive(MemoryMachine &machine, int number = 0)
 {
     machine.memory.addDrive(MemoryDrive(number, Size));
+}
+
+void addVolume(MemoryMachine &machine)
+{
+    machine.memory.addVolume(u"/media/stick"_s, 0, 65536, 65536);
 }
 
 bool isZero(const QByteArray &bytes)
@@ -424,8 +434,11 @@ void tst_CliWipeDisk::eventsFollowTheContract()
 
     const QJsonObject finished = events.constLast();
     QCOMPARE(finished.keys(),
-             (QStringList{u"cancelled"_s, u"certificateId"_s, u"event"_s, u"report"_s, u"success"_s}));
+             (QStringList{u"cancelled"_s, u"certificateId"_s, u"event"_s, u"further"_s, u"notes"_s,
+                          u"outcome"_s, u"report"_s, u"shortfalls"_s, u"success"_s}));
     QCOMPARE(finished.value(u"success"), QJsonValue(true));
+    QCOMPARE(finished.value(u"outcome"), QJsonValue(u"complete"_s));
+    QCOMPARE(finished.value(u"shortfalls"), QJsonValue(QJsonArray()));
     QCOMPARE(finished.value(u"cancelled"), QJsonValue(false));
     const QJsonObject report = finished.value(u"report").toObject();
     QCOMPARE(report.value(u"certificateId"), finished.value(u"certificateId"));
@@ -520,20 +533,28 @@ void tst_CliWipeDisk::theLastLineTellsEverything()
         QVERIFY2(last.contains(part), last.constData());
 }
 
-void tst_CliWipeDisk::theLastLineTellsWhatWasNotErased()
+void tst_CliWipeDisk::theLastLinesTellWhatWasNotErased()
 {
     MemoryMachine machine;
     addDrive(machine);
     CliRun whole;
     whole(wipeDrive(0));
-    QVERIFY(!whole.io.out.contains("ONLY"));
-    machine.memory.addVolume(u"/media/stick"_s, 0, 65536, 65536);
-    CliRun run;
-    run(wipeDrive(0));
-    QCOMPARE(run.code, 1);
-    QVERIFY2(run.io.out.contains(", ONLY THE VOLUMES: 128 of 8192 sectors erased"), run.io.out.constData());
-    QVERIFY(run.io.out.contains("PARTLY DONE: "));
-    QVERIFY(run.complains("unmount them to erase the whole drive"));
+    QVERIFY(!whole.io.out.contains("PARTLY") && !whole.io.out.contains("only"));
+    addVolume(machine);
+    for (const bool quiet : {false, true}) {
+        CliRun run;
+        run(wipeDrive(0) + (quiet ? QStringList{u"--quiet"_s} : QStringList()));
+        QCOMPARE(run.code, 1);
+        const QByteArrayList lines = run.io.out.trimmed().split('\n');
+        QVERIFY2(lines.size() >= 2, run.io.out.constData());
+        QVERIFY2(lines.at(lines.size() - 2).startsWith("PARTLY DONE: memory drive 0, "),
+                 run.io.out.constData());
+        QCOMPARE(lines.constLast(),
+                 QByteArray("  only the mounted volumes are erased, not the rest of the drive (3.94 MB)"));
+        QCOMPARE(run.io.err, QByteArray());
+        QVERIFY(run.log().contains("Job partial"));
+        QVERIFY(run.log().contains("only the mounted volumes"));
+    }
 }
 
 // Nothing that a script reads says that the drive is erased.
@@ -541,16 +562,103 @@ void tst_CliWipeDisk::aPartOfADriveIsNoSuccess()
 {
     MemoryMachine machine;
     addDrive(machine);
-    machine.memory.addVolume(u"/media/stick"_s, 0, 65536, 65536);
+    addVolume(machine);
+    for (const bool quiet : {false, true}) {
+        CliRun run;
+        run(wipeDrive(0) + QStringList{u"--json"_s} + (quiet ? QStringList{u"--quiet"_s} : QStringList()));
+        QCOMPARE(run.code, 1);
+        const QJsonObject finished = run.io.events().constLast();
+        QCOMPARE(finished.value(u"success"), QJsonValue(false));
+        QCOMPARE(finished.value(u"cancelled"), QJsonValue(false));
+        QCOMPARE(finished.value(u"outcome"), QJsonValue(u"partial"_s));
+        QCOMPARE(finished.value(u"shortfalls").toArray(),
+                 (QJsonArray{QJsonObject{
+                     {u"kind"_s, u"only-volumes"_s},
+                     {u"place"_s, QString()},
+                     {u"bytes"_s, QString::number(Size - 65536)},
+                     {u"text"_s, u"only the mounted volumes are erased, not the rest of the drive"_s}}}));
+        QCOMPARE(finished.value(u"notes"), QJsonValue(QJsonArray()));
+    }
+}
+
+void tst_CliWipeDisk::notesAreNoShortfalls()
+{
+    MemoryMachine machine;
+    addDrive(machine);
     CliRun run;
-    run(wipeDrive(0) + QStringList{u"--json"_s});
+    run(wipeDrive(0) + QStringList{u"--json"_s, u"--no-verify"_s});
+    QCOMPARE(run.code, 0);
+    const QJsonObject finished = run.io.events().constLast();
+    QCOMPARE(finished.value(u"outcome"), QJsonValue(u"complete"_s));
+    QCOMPARE(finished.value(u"notes").toArray().at(0).toObject().value(u"kind"),
+             QJsonValue(u"not-read-back"_s));
+}
+
+void tst_CliWipeDisk::whatWillStayIsToldBeforeTheQuestion()
+{
+    MemoryMachine machine;
+    addDrive(machine);
+    const auto asked = [&machine] {
+        CliRun run;
+        run.io.inputIsTerminal = run.io.outputIsTerminal = true;
+        run.io.input = QStringList{u"no"_s};
+        run(wipeDrive(0, {}));
+        return run.io.out;
+    };
+    QVERIFY(!asked().contains("not everything"));
+    addVolume(machine);
+    QVERIFY2(
+        asked().contains("  not everything will be erased:\n    only the mounted volumes are erased, not the "
+                         "rest of the drive (3.94 MB)\n"),
+        asked().constData());
+}
+
+void tst_CliWipeDisk::acceptedShortfallsAreNoFailure()
+{
+    MemoryMachine machine;
+    addDrive(machine);
+    addVolume(machine);
+    for (const QStringList &accepted :
+         {QStringList{u"--accept"_s, u"only-volumes"_s},
+          QStringList{u"--accept"_s, u"room-left"_s, u"--accept"_s, u"only-volumes"_s}}) {
+        CliRun run;
+        run(wipeDrive(0) + accepted + QStringList{u"--json"_s});
+        QCOMPARE(run.code, 0);
+        // It is what it is all the same.
+        QCOMPARE(run.io.events().constLast().value(u"outcome"), QJsonValue(u"partial"_s));
+        QCOMPARE(run.io.events().constLast().value(u"success"), QJsonValue(false));
+    }
+    CliRun other;
+    other(wipeDrive(0) + QStringList{u"--accept"_s, u"room-left"_s});
+    QCOMPARE(other.code, 1);
+}
+
+void tst_CliWipeDisk::anAcceptedShortfallIsNoExcuseForAFailure()
+{
+    MemoryMachine machine;
+    addDrive(machine);
+    addVolume(machine);
+    machine.answer = [](const DeviceCall &call) {
+        return call.method == "write"_L1 ? platform::Status{1117, 0, "write"} : platform::Status{};
+    };
+    CliRun run;
+    run(wipeDrive(0) + QStringList{u"--accept"_s, u"only-volumes"_s, u"--json"_s});
     QCOMPARE(run.code, 1);
-    QVERIFY(run.io.events(u"error"_s)
-                .constLast()
-                .value(u"message")
-                .toString()
-                .contains(u"only the mounted volumes"));
-    QCOMPARE(run.io.events().constLast().value(u"success"), QJsonValue(false));
+    QCOMPARE(run.io.events().constLast().value(u"outcome"), QJsonValue(u"failed"_s));
+}
+
+void tst_CliWipeDisk::anUnknownKindIsAWrongLine()
+{
+    MemoryMachine machine;
+    addDrive(machine);
+    for (const QString &kind : {u"everything"_s, u""_s, u"Only-Volumes"_s}) {
+        CliRun run;
+        run(wipeDrive(0) + QStringList{u"--accept"_s, u"room-left"_s, u"--accept"_s, kind});
+        QCOMPARE(run.code, 2);
+        QVERIFY2(run.complains("unknown kind of shortfall"), run.io.err.constData());
+        QVERIFY(run.io.err.contains("only-volumes, "));
+        QVERIFY(isUntouched(machine, 0));
+    }
 }
 
 void tst_CliWipeDisk::theReportIsWrittenAfterSuccess()

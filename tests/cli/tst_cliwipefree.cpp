@@ -30,6 +30,8 @@ private slots:
     void oneFailureFailsTheWholeButNotTheOthers();
     void aStopSparesTheVolumesBehind();
     void theReportNamesVolumeAndDrive();
+    void aLargeReserveIsToldBeforeAndAfter();
+    void whatOneVolumeFallsShortOfIsNotForgottenOverTheNext();
 
 private:
     QTemporaryDir m_home;
@@ -79,6 +81,12 @@ QStringList wipeFree(const QStringList &volumes)
            QStringList{u"--yes"_s, u"--json"_s, u"--buffer-mb"_s, u"1"_s};
 }
 
+// On these small volumes the reserve is most of the free space.
+QStringList wipeSmall(const QStringList &volumes)
+{
+    return wipeFree(volumes) + QStringList{u"--accept"_s, u"large-reserve"_s};
+}
+
 QStringList targets(const CliRun &run)
 {
     QStringList targets;
@@ -96,7 +104,7 @@ void tst_CliWipeFree::aVolumeIsNamedByItsMountPoint()
         machine.add(u"/media/a"_s);
         machine.add(u"/media/b"_s);
         CliRun run;
-        run(wipeFree({name}));
+        run(wipeSmall({name}));
         QCOMPARE(run.code, 0);
         QCOMPARE(machine.filled(u"/media/a"_s), 8 * MiB);
         QCOMPARE(machine.filled(u"/media/b"_s), qint64(0));
@@ -126,7 +134,7 @@ void tst_CliWipeFree::aVolumeIsNamedByItsLetter()
         Machine machine;
         machine.add(u"E:"_s);
         CliRun run;
-        run(wipeFree({name}));
+        run(wipeSmall({name}));
         QCOMPARE(run.code, 0);
         QCOMPARE(targets(run), QStringList{u"E:"_s});
         QCOMPARE(machine.filled(u"E:"_s), 8 * MiB);
@@ -141,7 +149,7 @@ void tst_CliWipeFree::aDriveNumberMeansAllItsVolumes()
     machine.add(u"/media/b"_s);
     machine.add(u"/media/stick"_s, {1});
     CliRun run;
-    run(wipeFree({u"0"_s}));
+    run(wipeSmall({u"0"_s}));
     QCOMPARE(run.code, 0);
     QCOMPARE(run.io.events(u"finished"_s).size(), 1);
     QCOMPARE(machine.filled(u"/media/a"_s), 8 * MiB);
@@ -155,7 +163,7 @@ void tst_CliWipeFree::aVolumeOfSeveralDrivesIsFound()
     machine.devices.drives.insert(1, FakeDrive::usbStick());
     machine.add(u"/media/pool"_s, {0, 1});
     CliRun run;
-    run(wipeFree({u"/media/pool"_s}));
+    run(wipeSmall({u"/media/pool"_s}));
     QCOMPARE(run.code, 0);
     QCOMPARE(machine.filled(u"/media/pool"_s), 8 * MiB);
 }
@@ -181,7 +189,7 @@ void tst_CliWipeFree::aSystemVolumeIsAllowed()
     machine.session.systemRoots = QStringList{u"/system"_s, u"/system/"_s};
     machine.volume.freeBytes.insert(u"/system/"_s, 1024 * MiB + 4 * MiB); // a system volume keeps 1 GiB
     CliRun run;
-    run(wipeFree({u"/system"_s}));
+    run(wipeSmall({u"/system"_s}));
     QCOMPARE(run.code, 0);
     QCOMPARE(machine.filled(u"/system"_s), 4 * MiB);
 }
@@ -192,7 +200,7 @@ void tst_CliWipeFree::severalVolumesAreSeveralJobs()
     machine.add(u"/media/a"_s);
     machine.add(u"/media/b"_s);
     CliRun run;
-    run(wipeFree({u"/media/b"_s, u"/media/a"_s}));
+    run(wipeSmall({u"/media/b"_s, u"/media/a"_s}));
     QCOMPARE(run.code, 0);
     QCOMPARE(targets(run), (QStringList{u"/media/b"_s, u"/media/a"_s}));
     QStringList order;
@@ -213,7 +221,7 @@ void tst_CliWipeFree::theSameVolumeTwiceIsOneJob()
     Machine machine;
     machine.add(u"/media/a"_s);
     CliRun run;
-    run(wipeFree({u"/media/a"_s, u"/media/a/"_s}));
+    run(wipeSmall({u"/media/a"_s, u"/media/a/"_s}));
     QCOMPARE(run.code, 0);
     QCOMPARE(run.io.events(u"started"_s).size(), 1);
 }
@@ -231,7 +239,8 @@ void tst_CliWipeFree::oneFailureFailsTheWholeButNotTheOthers()
     const QList<QJsonObject> finished = run.io.events(u"finished"_s);
     QCOMPARE(finished.size(), 2);
     QCOMPARE(finished.at(0).value(u"success"), QJsonValue(false));
-    QCOMPARE(finished.at(1).value(u"success"), QJsonValue(true));
+    QCOMPARE(finished.at(0).value(u"outcome"), QJsonValue(u"failed"_s));
+    QCOMPARE(finished.at(1).value(u"outcome"), QJsonValue(u"partial"_s));
     QCOMPARE(machine.filled(u"/media/a"_s), qint64(0));
     QCOMPARE(machine.filled(u"/media/b"_s), 8 * MiB);
 }
@@ -266,12 +275,51 @@ void tst_CliWipeFree::theReportNamesVolumeAndDrive()
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"r.json"_s);
     CliRun run;
-    run(wipeFree({u"/media/a"_s, u"--report"_s, path}));
+    run(wipeSmall({u"/media/a"_s, u"--report"_s, path}));
     QCOMPARE(run.code, 0);
     const QJsonObject report = QJsonDocument::fromJson(contentOf(path)).object();
     QCOMPARE(report.value(u"operationType"), QJsonValue(2));
     QCOMPARE(report.value(u"totalBytes"), QJsonValue(QString::number(Reserve + 8 * MiB)));
     QCOMPARE(report.value(u"diskInfo").toObject().value(u"serialNumber"), QJsonValue(u"S/N 1"_s));
+}
+
+void tst_CliWipeFree::aLargeReserveIsToldBeforeAndAfter()
+{
+    Machine machine;
+    machine.add(u"/media/a"_s);
+    CliRun run;
+    run.io.inputIsTerminal = run.io.outputIsTerminal = true;
+    run.io.input = QStringList{u"ERASE"_s};
+    QByteArray asked;
+    run.io.onQuestion = [&] { asked = run.io.out; };
+    run({u"wipe"_s, u"free"_s, u"/media/a"_s, u"--buffer-mb"_s, u"1"_s});
+    QCOMPARE(run.code, 1);
+    const QByteArray line = "more than 10 % of the free space is left as a reserve: /media/a";
+    QVERIFY2(asked.contains("  not everything will be erased:\n    " + line + " (100.00 MB)\n"),
+             asked.constData());
+    const QByteArray end = run.io.out.mid(run.io.out.indexOf("PARTLY DONE: "));
+    QVERIFY2(end.contains("\n  " + line), run.io.out.constData());
+
+    machine.devices.volumes[u"/media/a"_s].mounted.freeBytes = 1000 * MiB;
+    machine.volume.freeBytes.insert(u"/media/a/"_s, 1000 * MiB);
+    CliRun large;
+    large(wipeFree({u"/media/a"_s}));
+    QCOMPARE(large.code, 0);
+    QVERIFY2(!large.io.err.contains("not everything"), large.io.err.constData());
+}
+
+void tst_CliWipeFree::whatOneVolumeFallsShortOfIsNotForgottenOverTheNext()
+{
+    Machine machine;
+    machine.add(u"/media/a"_s);
+    machine.add(u"/media/b"_s);
+    machine.volume.freeBytes.insert(u"/media/b/"_s, 1000 * MiB);
+    CliRun run;
+    run(wipeFree({u"/media/a"_s, u"/media/b"_s}));
+    QCOMPARE(run.code, 1);
+    const QList<QJsonObject> finished = run.io.events(u"finished"_s);
+    QCOMPARE(finished.at(0).value(u"outcome"), QJsonValue(u"partial"_s));
+    QCOMPARE(finished.at(1).value(u"outcome"), QJsonValue(u"complete"_s));
 }
 
 QUORVEX_SUITE(tst_CliWipeFree, QCoreApplication)

@@ -1,6 +1,8 @@
 #include "engine/copyonwrite.h"
 #include "support/suite.h"
 
+#include "engine/foreseeable.h"
+#include "engine/freespacewipeworker.h"
 #include "filejob.h"
 #include "platform/filenames.h"
 #include "support/loopmount.h"
@@ -19,6 +21,8 @@ private slots:
     void anOrdinaryJobSaysNothing();
     void aFileSystemIsNamedOnce();
     void theJobSaysSoAfterThePreparation();
+    void theJobIsForeseenToFallShort();
+    void aFreeSpaceJobNotesIt();
     void aMountPointIsJudgedByItself();
     void foldersWhoseNamesAreNoText();
 };
@@ -106,6 +110,42 @@ void tst_CopyOnWrite::theJobSaysSoAfterThePreparation()
     QCOMPARE(job.lines(), (QStringList{said::scanning, said::preparing(3, QStringLiteral("18 B")),
                                        warningAbout(QStringLiteral("btrfs")), said::pass(1, 1),
                                        said::deleting, said::allDone(3), said::succeeded}));
+    const QList<Shortfall> told{{ShortfallKind::ContentElsewhere, QStringLiteral("btrfs")}};
+    QCOMPARE(job.task.outcome().shortfalls(), told);
+}
+
+void tst_CopyOnWrite::theJobIsForeseenToFallShort()
+{
+    if (const QString reason = LoopMount::unavailableReason(LoopMount::Btrfs); !reason.isEmpty())
+        QSKIP(qPrintable(reason));
+    QTemporaryDir folder;
+    const LoopMount volume(folder.path(), {.fileSystem = LoopMount::Btrfs});
+    QVERIFY2(volume.isReady(), qPrintable(volume.error()));
+    const QString file = volume.mountPoint() + QStringLiteral("/a");
+    makeFile(file);
+    WipeTask task;
+    task.setFiles({file});
+    const QList<Shortfall> told{{ShortfallKind::ContentElsewhere, QStringLiteral("btrfs")}};
+    QCOMPARE(foreseeableShortfalls(task).shortfalls(), told);
+}
+
+// Free space is filled wherever it is; what stays is in snapshots, for instance.
+void tst_CopyOnWrite::aFreeSpaceJobNotesIt()
+{
+    if (const QString reason = LoopMount::unavailableReason(LoopMount::Btrfs); !reason.isEmpty())
+        QSKIP(qPrintable(reason));
+    QTemporaryDir folder;
+    const LoopMount volume(folder.path(), {.fileSystem = LoopMount::Btrfs});
+    QVERIFY2(volume.isReady(), qPrintable(volume.error()));
+    WipeTask task;
+    task.setOperationType(FreeSpaceWipe);
+    PartitionInfo partition;
+    partition.driveLetter = volume.mountPoint();
+    task.setPartition(partition);
+    FreeSpaceWipeWorker worker(&task);
+    worker.process();
+    QVERIFY(task.outcome().has(ShortfallKind::CopyOnWrite));
+    QVERIFY(!task.outcome().has(ShortfallKind::ContentElsewhere));
 }
 
 void tst_CopyOnWrite::aMountPointIsJudgedByItself()

@@ -8,6 +8,7 @@
 #include "cli/translate.h"
 #include "model/displaytext.h"
 #include "model/jsonwriter.h"
+#include "services/reportdatabase.h"
 
 namespace cli {
 
@@ -97,7 +98,8 @@ Outcome<ExitCode> run(const CommandContext &context)
     tellPath(destinations->json.path(), context);
     if (!destinations->certificate.isWanted())
         return Done;
-    const QString pdf = destinations->certificate.write(WipeReport::fromJson(*json));
+    const QString pdf = destinations->certificate.write(
+        WipeReport::fromJson(*json), (*store)->database().outcome(context.arguments.constFirst()));
     if (pdf.isEmpty())
         return notWritten(destinations->certificate.path());
     tellPath(pdf, context);

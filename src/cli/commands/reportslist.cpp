@@ -1,6 +1,7 @@
 #include "cli/cliio.h"
 #include "cli/commandline.h"
 #include "cli/listoutput.h"
+#include "cli/recordjson.h"
 #include "cli/reportstore.h"
 #include "cli/reporttext.h"
 #include "cli/table.h"
@@ -15,7 +16,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-using StoredReport = ReportDatabase::StoredReport;
+struct StoredReport : ReportDatabase::StoredReport
+{
+    std::optional<OutcomeRecord> outcome;
+};
 
 QStringList words()
 {
@@ -25,7 +29,7 @@ QStringList words()
 // Text that is no report any more must not look like one that is.
 void writeStored(JsonWriter &writer, const StoredReport &stored)
 {
-    if (!writer.raw(stored.json))
+    if (!writeStoredReport(writer, stored.json, stored.outcome))
         writer.beginObject()
             .member(u"certificateId", stored.certificateId)
             .member(u"damaged", true)
@@ -41,6 +45,7 @@ QStringList rowOf(const StoredReport &stored)
     return {id,
             displayTime(report.startTime),
             report.statusName(),
+            outcomeText(stored.outcome),
             report.operationTypeName(),
             displayText(report.method.name),
             targetText(report)};
@@ -51,8 +56,8 @@ QString listText(const QList<StoredReport> &reports)
     if (reports.isEmpty())
         return Cli::tr("No reports.") + u'\n';
     Table table;
-    table.addRow({Cli::tr("Certificate"), Cli::tr("Started"), Cli::tr("Status"), Cli::tr("Operation"),
-                  Cli::tr("Method"), Cli::tr("Target")});
+    table.addRow({Cli::tr("Certificate"), Cli::tr("Started"), Cli::tr("Status"), Cli::tr("Outcome"),
+                  Cli::tr("Operation"), Cli::tr("Method"), Cli::tr("Target")});
     for (const StoredReport &stored : reports)
         table.addRow(rowOf(stored));
     return table.text();
@@ -84,7 +89,10 @@ Outcome<ExitCode> run(const CommandContext &context)
     const auto reports = (*store)->database().storedReports(*limit, *offset);
     if (!reports)
         return (*store)->unreadable();
-    return printList(context, *reports, writeStored, listText);
+    QList<StoredReport> listed;
+    for (const ReportDatabase::StoredReport &report : *reports)
+        listed.append({report, (*store)->database().outcome(report.certificateId)});
+    return printList(context, listed, writeStored, listText);
 }
 
 } // namespace

@@ -1,10 +1,12 @@
 #include "cli/cliio.h"
 #include "cli/command.h"
 #include "cli/globaloptions.h"
+#include "cli/recordjson.h"
 #include "cli/reportstore.h"
 #include "cli/reporttext.h"
 #include "cli/translate.h"
 #include "model/jsonwriter.h"
+#include "services/reportdatabase.h"
 
 namespace cli {
 
@@ -20,12 +22,13 @@ Outcome<ExitCode> run(const CommandContext &context)
     const auto json = readStoredReport(**store, context.arguments.constFirst());
     if (!json)
         return json.refusal();
+    const auto outcome = (*store)->database().outcome(context.arguments.constFirst());
     if (wantsJson(context.options)) {
         JsonWriter writer(JsonWriter::Layout::Compact);
-        if (writer.raw(*json))
+        if (writeStoredReport(writer, *json, outcome))
             context.io.printLine(writer.text());
     } else {
-        context.io.print(reportText(WipeReport::fromJson(*json)));
+        context.io.print(reportText(WipeReport::fromJson(*json), outcome));
     }
     return Done;
 }

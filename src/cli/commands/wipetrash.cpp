@@ -4,6 +4,7 @@
 #include "cli/translate.h"
 #include "cli/trashtarget.h"
 #include "cli/wipeplan.h"
+#include "model/joboutcome.h"
 #include "model/jsonwriter.h"
 #include "services/binrecords.h"
 
@@ -37,6 +38,7 @@ ExitCode tellEmpty(const CommandContext &context)
         JsonWriter end(JsonWriter::Layout::Compact);
         end.beginObject().member(u"event", u"finished").member(u"success", true).member(u"cancelled", false);
         end.member(u"certificateId", QString()).key(u"report").beginObject().endObject();
+        OutcomeRecord(JobOutcome::Complete).writeMembers(end, true);
         context.io.printLine(end.endObject().text());
     } else {
         context.io.printLine(message);
@@ -68,6 +70,7 @@ Outcome<ExitCode> run(const CommandContext &context)
     auto task = std::make_unique<WipeTask>();
     task->setOperationType(FileWipe);
     task->addFiles(found->filePaths);
+    task->setTargetsAreNamed(false);
     WipePlan plan;
     plan.summary = summaryOf(*found);
     plan.doomedPaths = task->files();

@@ -1,5 +1,7 @@
 #include "ui/dialogs/completedialog.h"
 
+#include "ui/style/tooltip.h"
+
 #include <QIcon>
 #include <QLabel>
 #include <QPixmap>
@@ -35,10 +37,12 @@ QPushButton *makeButton(const QString &text, const QString &name, const QString 
 
 } // namespace
 
-CompleteDialog::CompleteDialog(bool success, const QString &certificateId, QWidget *parent)
+CompleteDialog::CompleteDialog(bool success, const QString &certificateId, QWidget *parent,
+                               const OutcomeRecord &outcome)
     : QDialog(parent)
     , m_success(success)
     , m_certificateId(certificateId)
+    , m_outcome(outcome)
 {
     setWindowTitle(m_success ? tr("Erasing Complete") : tr("Erase Failed"));
     setFixedSize(450, 420);
@@ -48,6 +52,8 @@ CompleteDialog::CompleteDialog(bool success, const QString &certificateId, QWidg
     layout->setSpacing(12);
     addIcon(layout);
     addTexts(layout);
+    if (m_success && m_outcome.outcome() == JobOutcome::Partial)
+        addOutcome(layout);
     if (offersCertificate())
         addCertificateId(layout);
     layout->addStretch();
@@ -95,6 +101,20 @@ void CompleteDialog::addTexts(QBoxLayout *layout)
     message->setWordWrap(true);
     message->setStyleSheet(u"color: #64748b; font-size: 14px; line-height: 1.5;"_s);
     layout->addWidget(message);
+}
+
+// However many kinds there are, the window keeps its size: the beginning is seen, the tip holds everything.
+void CompleteDialog::addOutcome(QBoxLayout *layout)
+{
+    auto *const label = new QLabel(m_outcome.summary());
+    label->setObjectName(u"outcomeLabel"_s);
+    label->setTextFormat(Qt::PlainText);
+    label->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    label->setWordWrap(true);
+    label->setStyleSheet(u"color: #f59e0b; font-size: 13px; font-weight: bold;"_s);
+    label->setToolTip(plainTip(m_outcome.fullSummary()));
+    label->setAccessibleDescription(m_outcome.fullSummary());
+    layout->addWidget(label);
 }
 
 void CompleteDialog::addCertificateId(QBoxLayout *layout)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "model/joboutcome.h"
+
 #include <QDialog>
 #include <QString>
 
@@ -12,7 +14,9 @@ class CompleteDialog : public QDialog
 
 public:
     /// An empty id means that there is no certificate. After a failure none is offered, whatever the id.
-    CompleteDialog(bool success, const QString &certificateId, QWidget *parent = nullptr);
+    /// A job that succeeded and yet is not complete is told as such below the message.
+    CompleteDialog(bool success, const QString &certificateId, QWidget *parent = nullptr,
+                   const OutcomeRecord &outcome = OutcomeRecord(JobOutcome::Complete));
 
 signals:
     /// Emitted before the dialog closes.
@@ -23,10 +27,12 @@ private:
     QString messageText() const;
     void addIcon(QBoxLayout *layout);
     void addTexts(QBoxLayout *layout);
+    void addOutcome(QBoxLayout *layout);
     void addCertificateId(QBoxLayout *layout);
     void addButtons(QBoxLayout *layout);
     void onViewCertificateClicked();
 
     bool m_success;
     QString m_certificateId;
+    OutcomeRecord m_outcome;
 };

@@ -13,6 +13,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
+#include <QStyle>
 #include <QTableWidget>
 
 #include <utility>
@@ -47,9 +48,18 @@ QTableWidgetItem *createItem(const QString &text)
     return item;
 }
 
-bool exportWithRenderer(const WipeReport &report, const QString &file)
+bool exportWithRenderer(const WipeReport &report, const std::optional<OutcomeRecord> &outcome,
+                        const QString &file)
 {
-    return CertificateRenderer().exportToPdf(report, file);
+    return CertificateRenderer().exportToPdf(report, file, outcome);
+}
+
+// Whether the stored status does not tell how the job went: it calls a partial job completed, and one that
+// was stopped in time for its worker to say so failed.
+bool isMoreThanTheStatusTells(const WipeReport &report, const OutcomeRecord &outcome)
+{
+    return outcome.outcome() == JobOutcome::Partial ||
+           (outcome.outcome() == JobOutcome::Cancelled && report.status != WipeStatus::Cancelled);
 }
 
 } // namespace
@@ -155,6 +165,11 @@ QBoxLayout *HistoryPage::createButtons()
 void HistoryPage::loadHistory()
 {
     m_reports = ReportDatabase::instance().getReports(LoadedReports, 0);
+    m_outcomes.clear();
+    for (const WipeReport &report : std::as_const(m_reports)) {
+        if (const auto outcome = ReportDatabase::instance().outcome(report.certificateId))
+            m_outcomes.insert(report.certificateId, *outcome);
+    }
     fillTable(m_reports);
 }
 
@@ -175,6 +190,7 @@ void HistoryPage::addRow(const WipeReport &report)
 
     QTableWidgetItem *target = createItem(targetText(report));
     target->setData(CertificateIdRole, report.certificateId);
+    showOutcome(report, *target);
     m_table->setItem(row, TargetColumn, target);
     m_table->setItem(row, MethodColumn, createItem(displayText(report.method.name)));
     m_table->setItem(row, TimeColumn, createItem(report.startTime.toString(u"MM-dd HH:mm"_s)));
@@ -195,6 +211,17 @@ void HistoryPage::addRow(const WipeReport &report)
     connect(view, &QPushButton::clicked, this,
             [this, id = report.certificateId] { emit viewCertificate(id); });
     m_table->setCellWidget(row, ActionColumn, view);
+}
+
+// Beside the target: the column of the status has room for its word only.
+void HistoryPage::showOutcome(const WipeReport &report, QTableWidgetItem &item) const
+{
+    const auto outcome = m_outcomes.constFind(report.certificateId);
+    if (outcome == m_outcomes.cend() || !isMoreThanTheStatusTells(report, *outcome))
+        return;
+    item.setIcon(style()->standardIcon(QStyle::SP_MessageBoxWarning));
+    item.setToolTip(plainTip(outcome->fullSummary()));
+    item.setData(Qt::AccessibleDescriptionRole, outcome->fullSummary());
 }
 
 QString HistoryPage::targetText(const WipeReport &report) const
@@ -275,7 +302,7 @@ void HistoryPage::onExportClicked()
                                                        tr("PDF文件 (*.pdf)"));
     if (file.isEmpty())
         return;
-    if (m_exporter(report, file))
+    if (m_exporter(report, ReportDatabase::instance().outcome(*certificateId), file))
         Prompts::current().information(this, tr("导出成功"), tr("证书已导出到: %1").arg(file));
     else
         Prompts::current().warning(this, tr("导出失败"), tr("无法导出证书文件"));

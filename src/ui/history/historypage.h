@@ -1,7 +1,9 @@
 #pragma once
 
+#include "model/joboutcome.h"
 #include "model/wipereport.h"
 
+#include <QHash>
 #include <QList>
 #include <QWidget>
 
@@ -12,6 +14,7 @@ QT_FORWARD_DECLARE_CLASS(QBoxLayout)
 QT_FORWARD_DECLARE_CLASS(QComboBox)
 QT_FORWARD_DECLARE_CLASS(QPushButton)
 QT_FORWARD_DECLARE_CLASS(QTableWidget)
+QT_FORWARD_DECLARE_CLASS(QTableWidgetItem)
 
 /// Lists the latest stored reports and lets the user view, export and delete them. Reads ReportDatabase,
 /// which must be open already. Interface thread.
@@ -20,8 +23,10 @@ class HistoryPage : public QWidget
     Q_OBJECT
 
 public:
-    /// Writes the report's certificate into the file; false when it could not.
-    using Exporter = std::function<bool(const WipeReport &report, const QString &file)>;
+    /// Writes the report's certificate, with the outcome of the job if it is known, into the file; false when
+    /// it could not.
+    using Exporter = std::function<bool(const WipeReport &report, const std::optional<OutcomeRecord> &outcome,
+                                        const QString &file)>;
 
     explicit HistoryPage(QWidget *parent = nullptr);
 
@@ -52,6 +57,7 @@ private:
     QBoxLayout *createButtons();
     void fillTable(const QList<WipeReport> &shown);
     void addRow(const WipeReport &report);
+    void showOutcome(const WipeReport &report, QTableWidgetItem &item) const;
     QString targetText(const WipeReport &report) const;
     // Of the current row, if there is one.
     std::optional<QString> currentCertificateId() const;
@@ -59,6 +65,7 @@ private:
 
     Exporter m_exporter;
     QList<WipeReport> m_reports;
+    QHash<QString, OutcomeRecord> m_outcomes; // by certificate id, those that are known
     QComboBox *m_filter;
     QTableWidget *m_table;
     QPushButton *m_view;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/joboutcome.h"
 #include "model/wipereport.h"
 #include "services/recyclebininfo.h"
 
@@ -88,10 +89,10 @@ private:
     void takeDiskSelection();
     void setMenuEnabled(bool enabled);
 
-    bool keepReport(const WipeReport &report);
-    void viewCertificate(bool isStored, const WipeReport &report);
+    bool keepReport(const WipeReport &report, const OutcomeRecord &outcome);
+    void viewCertificate(bool isStored, const WipeReport &report, const OutcomeRecord &outcome);
     void updateRecycleBinRecords();
-    void exportCertificate(const WipeReport &report) const;
+    void exportCertificate(const WipeReport &report, const OutcomeRecord &outcome) const;
     void leaveCompletedJob(bool success);
 
     void startRecycleBinScan();

@@ -28,37 +28,38 @@ void MainWindow::onWipeCompleted(bool success)
     if (m_isRecycleBinMode)
         updateRecycleBinRecords();
     const WipeReport report = m_engine->report();
+    const OutcomeRecord outcome = m_engine->outcome();
     const bool keepsReport =
         usersettings::readBool(*usersettings::open(), usersettings::GenerateReport, true);
     bool isStored = false;
     if (keepsReport)
-        isStored = keepReport(report);
+        isStored = keepReport(report, outcome);
     else
         qDebug() << "[Certificate] Skipped saving to database (disabled in settings)";
     if (success && keepsReport)
-        exportCertificate(report);
+        exportCertificate(report, outcome);
 
-    CompleteDialog dialog(success, keepsReport ? report.certificateId : QString(), this);
+    CompleteDialog dialog(success, keepsReport ? report.certificateId : QString(), this, outcome);
     if (keepsReport) {
         connect(&dialog, &CompleteDialog::viewCertificateClicked, this,
-                [this, isStored, &report] { viewCertificate(isStored, report); });
+                [this, isStored, &report, &outcome] { viewCertificate(isStored, report, outcome); });
     }
     dialog.exec();
     leaveCompletedJob(success);
 }
 
 // The stored record where there is one: that is what an auditor will see.
-void MainWindow::viewCertificate(bool isStored, const WipeReport &report)
+void MainWindow::viewCertificate(bool isStored, const WipeReport &report, const OutcomeRecord &outcome)
 {
     if (isStored)
         onViewCertificate(report.certificateId);
     else
-        CertificateDialog(report, this).exec();
+        CertificateDialog(report, this, outcome).exec();
 }
 
-bool MainWindow::keepReport(const WipeReport &report)
+bool MainWindow::keepReport(const WipeReport &report, const OutcomeRecord &outcome)
 {
-    if (ReportDatabase::instance().saveReport(report)) {
+    if (ReportDatabase::instance().saveReport(report, outcome)) {
         m_historyPage->loadHistory();
         qDebug() << "[Certificate] Report saved to database:" << report.certificateId;
         return true;
@@ -79,7 +80,7 @@ void MainWindow::updateRecycleBinRecords()
         qWarning() << "[RecycleBin] The bin's own list still names what was erased:" << updated.diagnostic();
 }
 
-void MainWindow::exportCertificate(const WipeReport &report) const
+void MainWindow::exportCertificate(const WipeReport &report, const OutcomeRecord &outcome) const
 {
     const auto store = usersettings::open();
     const QString folder = usersettings::readString(*store, usersettings::ExportPath);
@@ -87,7 +88,7 @@ void MainWindow::exportCertificate(const WipeReport &report) const
         !QDir(folder).exists())
         return;
     const QString file = folder + u'/' + report.certificateId + u".pdf"_s;
-    if (CertificateRenderer().exportToPdf(report, file))
+    if (CertificateRenderer().exportToPdf(report, file, outcome))
         qDebug() << "[AutoExport] Certificate exported to:" << file;
     else
         qWarning() << "[AutoExport] Failed to export certificate to:" << file;
@@ -118,5 +119,5 @@ void MainWindow::onViewCertificate(const QString &certificateId)
                                    tr("There is no report %1 in the database.").arg(certificateId));
         return;
     }
-    CertificateDialog(report, this).exec();
+    CertificateDialog(report, this, ReportDatabase::instance().outcome(certificateId)).exec();
 }

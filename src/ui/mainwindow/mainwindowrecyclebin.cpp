@@ -115,7 +115,9 @@ void MainWindow::takeRecycleBin(const RecycleBinInfo &found)
 {
     m_filePage->setHeader(tr("Recycle Bin Wipe"),
                           tr("The following deleted files were found in the Recycle Bin"));
-    newTask(FileWipe).setFiles(existing(found.filePaths));
+    WipeTask &task = newTask(FileWipe);
+    task.setFiles(existing(found.filePaths));
+    task.setTargetsAreNamed(false);
     m_recycleBin = found;
     m_loadedRecycleBinCount = 0;
 

@@ -31,6 +31,9 @@ private slots:
     void closingButtonAccepts_data();
     void closingButtonAccepts();
     void textsFitIntoTheDialog();
+    void aPartialJobIsToldBelowTheMessage();
+    void everythingElseHasNoFurtherLine();
+    void manyShortfallsFitIntoTheDialog();
 
 private:
     static QString textOf(const QWidget &dialog, const QString &name)
@@ -183,6 +186,62 @@ void tst_CompleteDialog::textsFitIntoTheDialog()
         QVERIFY(dialog.layout()->totalHeightForWidth(dialog.width()) <= dialog.height());
         QVERIFY(dialog.layout()->totalMinimumSize().width() <= dialog.width());
     }
+}
+
+void tst_CompleteDialog::aPartialJobIsToldBelowTheMessage()
+{
+    OutcomeRecord outcome(JobOutcome::Complete);
+    outcome.note({ShortfallKind::VolumeInUse, u"E:"_s, 1024});
+    for (const QString &id : {QString(), someId}) {
+        const CompleteDialog dialog(true, id, nullptr, outcome);
+        const CompleteDialog whole(true, id, nullptr);
+        QCOMPARE(textOf(dialog, u"outcomeLabel"_s), u"Partly erased: volumes were in use while they were "
+                                                    "overwritten"_s);
+        const auto *const label = dialog.findChild<QLabel *>(u"outcomeLabel"_s);
+        QVERIFY(label->toolTip().contains(u"E: (1.00 KB)"_s));
+        QVERIFY(label->wordWrap());
+        // The given texts stand as ever.
+        for (const QString &name : {u"dialogTitle"_s, u"dialogMessage"_s}) {
+            QCOMPARE(textOf(dialog, name), textOf(whole, name));
+            QCOMPARE(dialog.findChild<QLabel *>(name)->styleSheet(),
+                     whole.findChild<QLabel *>(name)->styleSheet());
+        }
+        QCOMPARE(dialog.size(), whole.size());
+        QCOMPARE(buttonTexts(dialog), buttonTexts(whole));
+        QCOMPARE(dialog.layout()->indexOf(label),
+                 dialog.layout()->indexOf(dialog.findChild<QLabel *>(u"dialogMessage"_s)) + 1);
+    }
+}
+
+void tst_CompleteDialog::everythingElseHasNoFurtherLine()
+{
+    OutcomeRecord complete(JobOutcome::Complete);
+    complete.note({ShortfallKind::NotReadBack});
+    QVERIFY(!CompleteDialog(true, someId, nullptr, complete).findChild<QLabel *>(u"outcomeLabel"_s));
+    QVERIFY(!CompleteDialog(true, someId).findChild<QLabel *>(u"outcomeLabel"_s));
+    for (const JobOutcome outcome : {JobOutcome::Failed, JobOutcome::Cancelled})
+        QVERIFY(!CompleteDialog(false, someId, nullptr, OutcomeRecord(outcome))
+                     .findChild<QLabel *>(u"outcomeLabel"_s));
+}
+
+void tst_CompleteDialog::manyShortfallsFitIntoTheDialog()
+{
+    OutcomeRecord outcome(JobOutcome::Complete);
+    for (const ShortfallKind kind : allShortfallKinds())
+        outcome.note({kind});
+    CompleteDialog dialog(true, someId, nullptr, outcome);
+    dialog.show();
+    const auto *const label = dialog.findChild<QLabel *>(u"outcomeLabel"_s);
+    const auto *const box = dialog.findChild<QWidget *>(u"certIdWidget"_s);
+    QVERIFY(label->height() >= 2 * label->fontMetrics().height());
+    QVERIFY(label->alignment().testFlag(Qt::AlignTop)); // how it begins is never cut
+    for (const QString &name : {u"dialogTitle"_s, u"dialogMessage"_s}) {
+        const auto *const given = dialog.findChild<QLabel *>(name);
+        QVERIFY2(given->height() >= given->heightForWidth(given->width()), qPrintable(name));
+    }
+    QVERIFY(label->geometry().bottom() < box->geometry().top());
+    QVERIFY(box->geometry().bottom() < button(dialog, u"Done"_s)->geometry().top());
+    QVERIFY(dialog.rect().contains(button(dialog, u"Done"_s)->geometry()));
 }
 
 QUORVEX_SUITE(tst_CompleteDialog, QApplication)

@@ -24,6 +24,7 @@
 #include <QTextDocumentFragment>
 
 #include <memory>
+#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -124,6 +125,10 @@ private slots:
     void aDamagedReportDoesNotBreakThePage_data();
     void aDamagedReportDoesNotBreakThePage();
     void aClosedDatabaseShowsAnEmptyTable();
+
+    void whatTheStatusDoesNotTellHasAnIcon_data();
+    void whatTheStatusDoesNotTellHasAnIcon();
+    void anExportCarriesTheOutcome();
 
     void theFilterShowsOneStatus();
     void filteringAsksTheDatabaseNothing();
@@ -372,6 +377,60 @@ void tst_HistoryPage::aClosedDatabaseShowsAnEmptyTable()
     QVERIFY(prompts.boxes.isEmpty());
 }
 
+void tst_HistoryPage::whatTheStatusDoesNotTellHasAnIcon_data()
+{
+    QTest::addColumn<WipeStatus>("status");
+    QTest::addColumn<std::optional<OutcomeRecord>>("outcome");
+    QTest::addColumn<bool>("marked");
+    OutcomeRecord partial(JobOutcome::Complete);
+    partial.note({ShortfallKind::VolumeInUse, u"<b>E:</b>"_s});
+    const auto record = [](JobOutcome outcome) { return std::optional(OutcomeRecord(outcome)); };
+    QTest::newRow("complete") << WipeStatus::Completed << record(JobOutcome::Complete) << false;
+    QTest::newRow("unknown") << WipeStatus::Completed << std::optional<OutcomeRecord>() << false;
+    QTest::newRow("partial") << WipeStatus::Completed << std::optional(partial) << true;
+    QTest::newRow("failed") << WipeStatus::Failed << record(JobOutcome::Failed) << false;
+    QTest::newRow("cancelled, failed by status")
+        << WipeStatus::Failed << record(JobOutcome::Cancelled) << true;
+    QTest::newRow("cancelled") << WipeStatus::Cancelled << record(JobOutcome::Cancelled) << false;
+}
+
+void tst_HistoryPage::whatTheStatusDoesNotTellHasAnIcon()
+{
+    QFETCH(WipeStatus, status);
+    QFETCH(std::optional<OutcomeRecord>, outcome);
+    QFETCH(bool, marked);
+    const WipeReport report = reportOf(1, status);
+    QVERIFY(database().saveReport(report, outcome));
+    const Shown shown;
+    const QTableWidgetItem *item = shown.table.item(0, 0);
+    QCOMPARE(item->icon().isNull(), !marked);
+    const QString tip = QTextDocumentFragment::fromHtml(item->toolTip()).toPlainText();
+    QCOMPARE(tip, marked ? outcome->fullSummary() : item->text());
+    // The status says what it says.
+    QCOMPARE(shown.table.item(0, 3)->text(), report.statusName());
+    QVERIFY(shown.table.item(0, 3)->icon().isNull());
+}
+
+void tst_HistoryPage::anExportCarriesTheOutcome()
+{
+    OutcomeRecord partial(JobOutcome::Complete);
+    partial.note({ShortfallKind::RoomLeft});
+    const WipeReport report = reportOf(1);
+    QVERIFY(database().saveReport(report, partial));
+    ScriptedPrompts prompts;
+    prompts.filesToSaveAnswers = {u"/somewhere/c.pdf"_s};
+    Shown shown;
+    std::optional<OutcomeRecord> exported;
+    shown.page.setExporter(
+        [&exported](const WipeReport &, const std::optional<OutcomeRecord> &outcome, const QString &) {
+            exported = outcome;
+            return true;
+        });
+    shown.clickRow(0);
+    shown.click(shown.exportPdf);
+    QCOMPARE(exported, partial);
+}
+
 void tst_HistoryPage::theFilterShowsOneStatus()
 {
     store({reportOf(1, WipeStatus::Completed), reportOf(2, WipeStatus::Failed),
@@ -499,10 +558,11 @@ void tst_HistoryPage::exportingAsksForAFile()
     prompts.filesToSaveAnswers = {u"/certificates/%1 x.pdf"_s};
     Shown shown;
     QList<std::pair<QString, QString>> exported;
-    shown.page.setExporter([&exported](const WipeReport &report, const QString &file) {
-        exported.append({report.certificateId, file});
-        return true;
-    });
+    shown.page.setExporter(
+        [&exported](const WipeReport &report, const std::optional<OutcomeRecord> &, const QString &file) {
+            exported.append({report.certificateId, file});
+            return true;
+        });
     shown.clickRow(0);
     shown.click(shown.exportPdf);
     QCOMPARE(prompts.asked, QStringList{u"导出证书"_s});
@@ -523,7 +583,7 @@ void tst_HistoryPage::aCancelledExportDoesNothing()
     const ScriptedPrompts prompts;
     Shown shown;
     bool exported = false;
-    shown.page.setExporter([&exported](const WipeReport &, const QString &) { return exported = true; });
+    shown.page.setExporter([&exported](auto &&...) { return exported = true; });
     shown.clickRow(0);
     shown.click(shown.exportPdf);
     QCOMPARE(prompts.asked.size(), 1);
@@ -537,7 +597,7 @@ void tst_HistoryPage::aFailedExportWarns()
     ScriptedPrompts prompts;
     prompts.filesToSaveAnswers = {u"/certificates/a.pdf"_s};
     Shown shown;
-    shown.page.setExporter([](const WipeReport &, const QString &) { return false; });
+    shown.page.setExporter([](auto &&...) { return false; });
     shown.clickRow(0);
     shown.click(shown.exportPdf);
     QCOMPARE(prompts.boxes.size(), 1);

@@ -1,3 +1,5 @@
+#include "certificate/pdfreader.h"
+#include "support/links.h"
 #include "support/suite.h"
 #include "ui/mainwindow/windowfixture.h"
 
@@ -7,6 +9,7 @@
 #include "ui/dialogs/confirmdialog.h"
 
 #include <QSignalSpy>
+#include <QTableWidget>
 #include <QTextEdit>
 #include <QTreeWidget>
 
@@ -32,6 +35,7 @@ private slots:
     void withoutReportsNothingIsStoredOrExported();
     void theCertificateIsExportedWhenWanted();
     void aMissingExportFolderIsSkipped();
+    void aPartialJobIsToldAsSuchEverywhere();
     void theCertificateOpensFromTheCompletionDialog();
     void theCertificateOpensFromTheHistory();
     void aDatabaseThatDoesNotTakeTheReportIsTold();
@@ -66,6 +70,12 @@ void chooseFiles(WindowFixture &fixture, const QStringList &files)
     fixture.prompts.filesToOpenAnswers = {files};
     QVERIFY(fixture.click(u"📄 Add Files"_s));
     QVERIFY(fixture.click(u"Next →"_s));
+}
+
+QString textOfLabel(const QDialog &dialog, const QString &name)
+{
+    const auto *label = dialog.findChild<QLabel *>(name);
+    return label ? label->text() : u"(no label)"_s;
 }
 
 bool isJobRunning(const WindowFixture &fixture)
@@ -175,6 +185,9 @@ void tst_WipeFlows::aStoppedJobLeavesItsReport()
     // The worker's own end, which comes after the stop, has the last word.
     QCOMPARE(fixture.reports().constFirst().status, WipeStatus::Failed);
     QCOMPARE(fixture.dialogs.titles.constLast(), u"Erase Failed"_s);
+    const auto outcome = ReportDatabase::instance().outcome(fixture.reports().constFirst().certificateId);
+    QVERIFY(outcome);
+    QCOMPARE(outcome->outcome(), JobOutcome::Cancelled);
 }
 
 void tst_WipeFlows::closingDuringAJobAsksFirst()
@@ -262,6 +275,44 @@ void tst_WipeFlows::theCertificateIsExportedWhenWanted()
     QCOMPARE(QDir(exports.path()).entryList(QDir::Files), QStringList{pdf});
     QVERIFY(contentOfTestFile(exports.filePath(pdf)).startsWith("%PDF-"));
     QCOMPARE(fixture.prompts.boxes.size(), 0);
+}
+
+void tst_WipeFlows::aPartialJobIsToldAsSuchEverywhere()
+{
+    const QString link = m_folder.filePath(u"link"_s);
+    if (!makeLink(m_folder.path(), link))
+        QSKIP("SKIPPED: the system makes no symbolic links here");
+    WindowFixture fixture;
+    const QTemporaryDir exports;
+    fixture.settings.set(usersettings::AutoExport, true);
+    fixture.settings.set(usersettings::ExportPath, exports.path());
+    chooseFiles(fixture, {link});
+    QString told;
+    QString shown;
+    const auto view = [&](QDialog &dialog) {
+        told = textOfLabel(dialog, u"outcomeLabel"_s);
+        WindowFixture::pressButton(u"View Certificate"_s)(dialog);
+    };
+    const auto look = [&](QDialog &dialog) {
+        shown = textOfLabel(dialog, u"outcomeLabel"_s);
+        dialog.reject();
+    };
+    fixture.dialogs.answers = {WindowFixture::typeErase, view, look};
+    QVERIFY(fixture.click(u"Start"_s));
+    QTRY_COMPARE(fixture.window->currentPage(), int(MainWindow::Home));
+    QVERIFY(fixture.dialogs.answers.isEmpty());
+    const QString id = fixture.reports().constFirst().certificateId;
+    QCOMPARE(fixture.reports().constFirst().status, WipeStatus::Completed);
+    const auto outcome = ReportDatabase::instance().outcome(id);
+    QVERIFY(outcome);
+    QCOMPARE(outcome->shortfalls(), (QList<Shortfall>{{ShortfallKind::LinkTarget, link}}));
+    QCOMPARE(told, outcome->summary());
+    QVERIFY2(told.startsWith(u"Partly erased: "_s), qPrintable(told));
+    QCOMPARE(shown, outcome->fullSummary());
+    const auto *table = fixture.window->findChild<QTableWidget *>(u"historyTable"_s);
+    QVERIFY(!table->item(0, 0)->icon().isNull());
+    const QString paper = PdfReader(contentOfTestFile(exports.filePath(id + u".pdf"_s))).text();
+    QVERIFY2(QString(paper).remove(u' ').contains(u"Partlyerased:"_s), qPrintable(paper));
 }
 
 void tst_WipeFlows::aMissingExportFolderIsSkipped()
