@@ -200,6 +200,30 @@ void WipeTask::setReport(const WipeReport &report)
     m_report = report;
 }
 
+OutcomeRecord WipeTask::outcome() const
+{
+    const QMutexLocker locker(&m_outcomeMutex);
+    return m_outcome;
+}
+
+void WipeTask::noteShortfall(const Shortfall &shortfall)
+{
+    const QMutexLocker locker(&m_outcomeMutex);
+    m_outcome.note(shortfall);
+}
+
+void WipeTask::setOutcome(JobOutcome outcome)
+{
+    const QMutexLocker locker(&m_outcomeMutex);
+    m_outcome.setOutcome(outcome);
+}
+
+void WipeTask::clearOutcome()
+{
+    const QMutexLocker locker(&m_outcomeMutex);
+    m_outcome = OutcomeRecord();
+}
+
 bool WipeTask::isValid() const
 {
     const Trace trace = [](const QString &line) { qDebug().noquote() << line; };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/diskinfo.h"
+#include "model/joboutcome.h"
 #include "model/operationtype.h"
 #include "model/partitioninfo.h"
 #include "model/wipemethod.h"
@@ -12,8 +13,8 @@
 #include <QStringList>
 
 /// One job, filled before the engine starts and not changed while it runs, so that workers read the fields
-/// from their own threads without a lock. Only the report changes meanwhile; its functions may be called from
-/// any thread.
+/// from their own threads without a lock. Only the report and the outcome change meanwhile; their functions
+/// may be called from any thread.
 class WipeTask : public QObject
 {
     Q_OBJECT
@@ -72,6 +73,15 @@ public:
         return change(m_report);
     }
 
+    /// How the job went, with what it fell short of so far; failed as long as it has not ended.
+    OutcomeRecord outcome() const;
+    /// To be called where it happens, by workers.
+    void noteShortfall(const Shortfall &shortfall);
+    /// The end of the job; complete becomes partial where that was noted.
+    void setOutcome(JobOutcome outcome);
+    /// Forgets what an earlier run has left.
+    void clearOutcome();
+
     /// Whether the job can be started; traces its checks to the debug output.
     bool isValid() const;
     /// The translated message for the first failed check of isValid(), empty when all pass.
@@ -90,5 +100,7 @@ private:
     bool m_generateReport = true;
     mutable QMutex m_reportMutex;
     WipeReport m_report;
+    mutable QMutex m_outcomeMutex; // of its own, so that a change of the report may note something
+    OutcomeRecord m_outcome;
     QString m_id;
 };
