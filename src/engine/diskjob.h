@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/joboutcome.h"
 #include "model/wipemethod.h"
 #include "platform/status.h"
 
@@ -21,6 +22,7 @@ public:
     virtual void reportError(const QString &message) = 0;
     // What the system answered, for the debug output.
     virtual void diagnose(const platform::Status &failure) = 0;
+    virtual void noteShortfall(const Shortfall &shortfall) = 0;
 
     virtual bool isStopping() const = 0;
     // Waits while the job is paused. False to give up.

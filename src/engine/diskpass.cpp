@@ -121,13 +121,29 @@ bool DiskPass::writeVolume(qsizetype index, qint64 &total)
     const qint64 covered = flushed && sought ? std::min(position, size) : 0;
     m_coverage.addVolume(index, held.extents, {size, covered});
     held.readable = length ? size : position;
-    // Less than a sector is what rounding to whole sectors leaves.
     const bool ended = end == VolumeEnd::Complete || end == VolumeEnd::Boundary;
-    if (flushed && ended && length && size - covered >= m_medium.sectorSize)
-        m_job.note(tr("卷 %1 有 %2 未被覆写").arg(QString::number(index + 1), formatSize(size - covered)),
-                   DiskJob::Warning);
+    if (flushed && ended && length)
+        noteUncovered(index, size - covered);
+    // Behind an estimate that was used up there may be more of the volume.
+    if (flushed && end == VolumeEnd::Complete && !length)
+        m_job.noteShortfall({.kind = ShortfallKind::VolumeEndedEarly, .place = held.name});
+    if (!held.isLocked && position > 0)
+        m_job.noteShortfall({.kind = ShortfallKind::VolumeInUse, .place = held.name});
     m_job.note(tr("卷 %1 擦除完成，已写入: %2").arg(QString::number(index + 1), formatSize(position)));
     return end != VolumeEnd::Failed && flushed;
+}
+
+void DiskPass::noteUncovered(qsizetype index, qint64 bytes)
+{
+    const QString name = m_medium.volumes.at(index).name;
+    if (bytes >= m_medium.sectorSize) {
+        m_job.note(tr("卷 %1 有 %2 未被覆写").arg(QString::number(index + 1), formatSize(bytes)),
+                   DiskJob::Warning);
+        m_job.noteShortfall({.kind = ShortfallKind::VolumeEndedEarly, .place = name, .bytes = bytes});
+    } else if (bytes > 0) {
+        // What rounding to whole sectors leaves.
+        m_job.noteShortfall({.kind = ShortfallKind::DriveEndUnreached, .place = name, .bytes = bytes});
+    }
 }
 
 DiskPass::VolumeEnd DiskPass::writeVolumeChunks(platform::VolumeDevice &volume, qint64 size, qint64 &position,

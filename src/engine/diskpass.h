@@ -51,6 +51,7 @@ private:
     bool writeDriveChunks(qint64 &offset);
     bool writeVolumes();
     bool writeVolume(qsizetype index, qint64 &total);
+    void noteUncovered(qsizetype index, qint64 bytes);
     VolumeEnd writeVolumeChunks(platform::VolumeDevice &volume, qint64 size, qint64 &position, qint64 &total);
     VolumeEnd endOfVolume(const platform::Status &failure, qint64 position);
     bool flush(platform::RawDevice &device);

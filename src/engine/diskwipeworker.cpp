@@ -95,6 +95,7 @@ bool DiskWipeWorker::measureDisk()
         if (measured) {
             m_medium.size = geometry.value().sizeBytes;
             m_medium.sectorSize = geometry.value().bytesPerSector;
+            noteUnreachedEnd();
         }
     } else {
         note(tr("无法打开磁盘，错误码: %1").arg(opened.code), DiskJob::Error);
@@ -107,6 +108,17 @@ bool DiskWipeWorker::measureDisk()
     note(tr("扇区大小: %1 字节").arg(m_medium.sectorSize));
     note(tr("总扇区数: %1").arg(m_medium.sectorCount()));
     return true;
+}
+
+// A drive need not end with a whole sector, and of one that is empty nothing can be erased: neither is a
+// failure, and neither may pass for done.
+void DiskWipeWorker::noteUnreachedEnd()
+{
+    const qint64 length = m_medium.drive->length().valueOr(m_medium.size);
+    if (m_medium.size == 0)
+        noteShortfall({.kind = ShortfallKind::DriveEmpty});
+    else if (length > m_medium.size)
+        noteShortfall({.kind = ShortfallKind::DriveEndUnreached, .bytes = length - m_medium.size});
 }
 
 platform::Status DiskWipeWorker::openDisk()
@@ -201,6 +213,8 @@ void DiskWipeWorker::fillReport()
     // Measured through its volumes, a drive is larger than what was measured.
     const qint64 driveSize = std::max(m_medium.size, task().disk().sizeBytes);
     const quint64 wiped = static_cast<quint64>(m_pass.coverage().bytes(m_totalPasses, driveSize)) >> 9;
+    if (const qint64 beyond = m_pass.coverage().bytesBeyond(driveSize); beyond > 0)
+        noteShortfall({.kind = ShortfallKind::BeyondDrive, .bytes = beyond});
     const DiskVerification &verification = m_pass.verification();
     const int samples = verification.samples();
     const QString method =
@@ -227,6 +241,11 @@ void DiskWipeWorker::note(const QString &message, NoteLevel level)
 void DiskWipeWorker::diagnose(const platform::Status &failure)
 {
     qDebug().noquote() << "[DiskWipe]" << failure.diagnostic();
+}
+
+void DiskWipeWorker::noteShortfall(const Shortfall &shortfall)
+{
+    task().noteShortfall(shortfall);
 }
 
 void DiskWipeWorker::fill(std::byte *data, qint64 size, const PassPattern &pattern)

@@ -41,12 +41,14 @@ private:
     static QString patternLabel(const PassPattern &pattern);
     void closeDevices();
     void releaseVolumes();
+    void noteUnreachedEnd();
     void fillReport();
     platform::DriveIdentity identity() const;
 
     void note(const QString &message, NoteLevel level = DiskJob::Information) override;
     void reportError(const QString &message) override { emit errorOccurred(message); }
     void diagnose(const platform::Status &failure) override;
+    void noteShortfall(const Shortfall &shortfall) override;
     bool isStopping() const override { return isStopRequested(); }
     bool mayGoOn() override { return checkPauseStop(); }
     bool wait(std::chrono::milliseconds time) override { return waitUnlessStopped(time); }

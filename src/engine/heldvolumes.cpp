@@ -59,12 +59,13 @@ void HeldVolumes::hold(const Found &found, const platform::DriveIdentity &drive)
         m_job.note(tr("无法打开卷 %1，错误码: %2").arg(shownName, QString::number(opened.code())),
                    DiskJob::Error);
         m_job.diagnose(opened.status());
+        m_job.noteShortfall({.kind = ShortfallKind::VolumeNotOpened, .place = found.name});
         return;
     }
     // Held from here on, so that every way out releases it.
-    m_volumes.push_back({opened.take(), found.extents});
+    m_volumes.push_back({.name = found.name, .device = opened.take(), .extents = found.extents});
     platform::VolumeDevice &volume = *m_volumes.back().device;
-    lockVolume(volume, shownName);
+    m_volumes.back().isLocked = lockVolume(volume, shownName);
     if (m_job.isStopping())
         return;
     dismountVolume(volume, shownName);
@@ -72,7 +73,7 @@ void HeldVolumes::hold(const Found &found, const platform::DriveIdentity &drive)
     static_cast<void>(volume.allowExtendedIo());
 }
 
-void HeldVolumes::lockVolume(platform::VolumeDevice &volume, const QString &shownName)
+bool HeldVolumes::lockVolume(platform::VolumeDevice &volume, const QString &shownName)
 {
     m_job.note(tr("正在锁定卷 %1...").arg(shownName));
     platform::Status locked;
@@ -80,14 +81,15 @@ void HeldVolumes::lockVolume(platform::VolumeDevice &volume, const QString &show
         locked = volume.lock();
         if (locked) {
             m_job.note(tr("卷 %1 锁定成功").arg(shownName));
-            return;
+            return true;
         }
         if (!m_job.wait(m_lockRetryDelay))
-            return;
+            return false;
     }
     m_job.note(tr("警告: 卷 %1 锁定失败，错误码: %2").arg(shownName, QString::number(locked.code)),
                DiskJob::Warning);
     m_job.diagnose(locked);
+    return false;
 }
 
 void HeldVolumes::dismountVolume(platform::VolumeDevice &volume, const QString &shownName)

@@ -20,9 +20,11 @@ class HeldVolumes
 public:
     struct Volume
     {
+        QString name;
         std::unique_ptr<platform::VolumeDevice> device;
         QList<platform::Extent> extents; // where it lies
-        qint64 readable = 0;             // bytes that a verification may expect to read, after a pass
+        bool isLocked = false;
+        qint64 readable = 0; // bytes that a verification may expect to read, after a pass
     };
 
     explicit HeldVolumes(DiskJob &job);
@@ -50,7 +52,7 @@ private:
 
     QList<Found> find(int driveNumber);
     void hold(const Found &found, const platform::DriveIdentity &drive);
-    void lockVolume(platform::VolumeDevice &volume, const QString &shownName);
+    bool lockVolume(platform::VolumeDevice &volume, const QString &shownName);
     void dismountVolume(platform::VolumeDevice &volume, const QString &shownName);
 
     DiskJob &m_job;

@@ -84,7 +84,8 @@ public:
     virtual Result<Geometry> geometry() = 0;
     // Logical sector in bytes. Windows: IOCTL_DISK_GET_DRIVE_GEOMETRY. Linux: BLKSSZGET.
     virtual Result<qint32> bytesPerSector() = 0;
-    // Length in bytes. Windows: IOCTL_DISK_GET_LENGTH_INFO. Linux: BLKGETSIZE64.
+    // Length in bytes, which need not be whole sectors. Windows: IOCTL_DISK_GET_LENGTH_INFO. Linux:
+    // BLKGETSIZE64.
     virtual Result<qint64> length() = 0;
 
     // Windows: SetFilePointerEx(FILE_BEGIN). Linux: remembered for pread and pwrite.

@@ -56,6 +56,7 @@ struct MemoryDrive
     QString serialNumber;
     qint64 sizeBytes = 0;
     qint32 sectorSize = 512;
+    qint64 unreachableBytes = 0; // behind the last whole sector
     QByteArray medium;
     // What a write at the end of the medium answers; NoError stands for success with 0 bytes.
     platform::ErrorCode endError = platform::SectorNotFound;
@@ -318,6 +319,7 @@ public:
     Drive(MemoryDevices &devices, const MemoryDrive &drive)
         : Transfers(devices, {{drive.number, 0, drive.medium.size()}}, drive.sectorSize, drive.endError)
         , m_sizeBytes(drive.sizeBytes)
+        , m_length(drive.sizeBytes + drive.unreachableBytes)
     {
         ++m_devices.m_openHandles;
         ++m_devices.m_openings;
@@ -331,10 +333,11 @@ public:
     {
         return platform::Geometry{m_sizeBytes, m_sectorSize};
     }
-    platform::Result<qint64> length() override { return m_sizeBytes; }
+    platform::Result<qint64> length() override { return m_length; }
 
 private:
     qint64 m_sizeBytes;
+    qint64 m_length;
 };
 
 class MemoryDevices::Volume : public Transfers<platform::VolumeDevice>
