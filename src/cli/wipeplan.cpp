@@ -92,6 +92,9 @@ bool Session::run(const PlannedJob &job)
             m_view->problem(result.lastError);
         return false;
     }
+    const QStringList dismounted = job.task->dismountedVolumes();
+    if (result.end == JobResult::End::Failed && !dismounted.isEmpty())
+        m_view->problem(Cli::tr("left unmounted: %1").arg(displayText(dismounted.join(QLatin1String(", ")))));
     if (result.isPartial()) {
         m_hasPartialJob = true;
         m_view->problem(

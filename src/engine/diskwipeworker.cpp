@@ -1,5 +1,6 @@
 #include "engine/diskwipeworker.h"
 
+#include "engine/driveidentity.h"
 #include "model/displaytext.h"
 #include "model/formatsize.h"
 #include "model/wipetask.h"
@@ -28,6 +29,7 @@ void DiskWipeWorker::process()
         emit errorOccurred(tr("内存分配失败"));
     }
     closeDevices();
+    task().setDismountedVolumes(m_medium.volumes.dismounted());
     fillReport();
     emit finished(success);
 }
@@ -81,7 +83,7 @@ void DiskWipeWorker::noteTarget()
 
 bool DiskWipeWorker::lockVolumes()
 {
-    return m_medium.volumes.lock(identity());
+    return m_medium.volumes.lock(identityOf(task().disk()));
 }
 
 bool DiskWipeWorker::measureDisk()
@@ -127,7 +129,8 @@ platform::Status DiskWipeWorker::openDisk()
     const platform::DriveAccess access =
         m_medium.volumes.isEmpty() ? platform::DriveAccess::Alone : platform::DriveAccess::BesideOwnVolumes;
     qDebug() << "[DiskWipe] Opening device:" << devices.drivePath(task().disk().diskNumber);
-    platform::Result<std::unique_ptr<platform::RawDevice>> drive = devices.openDrive(identity(), access);
+    platform::Result<std::unique_ptr<platform::RawDevice>> drive =
+        devices.openDrive(identityOf(task().disk()), access);
     if (!drive) {
         qDebug() << "[DiskWipe] CreateFile failed, error:" << drive.code();
         diagnose(drive.status());
@@ -225,12 +228,6 @@ void DiskWipeWorker::fillReport()
         report.verificationMethod = method;
         report.dataHash = verification.hash();
     });
-}
-
-platform::DriveIdentity DiskWipeWorker::identity() const
-{
-    const DiskInfo disk = task().disk();
-    return {disk.diskNumber, disk.serialNumber, disk.sizeBytes};
 }
 
 void DiskWipeWorker::note(const QString &message, NoteLevel level)

@@ -43,7 +43,6 @@ private:
     void releaseVolumes();
     void noteUnreachedEnd();
     void fillReport();
-    platform::DriveIdentity identity() const;
 
     void note(const QString &message, NoteLevel level = DiskJob::Information) override;
     void reportError(const QString &message) override { emit errorOccurred(message); }

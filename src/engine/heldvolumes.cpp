@@ -68,7 +68,8 @@ void HeldVolumes::hold(const Found &found, const platform::DriveIdentity &drive)
     m_volumes.back().isLocked = lockVolume(volume, shownName);
     if (m_job.isStopping())
         return;
-    dismountVolume(volume, shownName);
+    if (dismountVolume(volume, shownName))
+        m_dismounted.append(found.name);
     // Without it the last sectors of some volumes are out of reach; writing tells.
     static_cast<void>(volume.allowExtendedIo());
 }
@@ -92,17 +93,18 @@ bool HeldVolumes::lockVolume(platform::VolumeDevice &volume, const QString &show
     return false;
 }
 
-void HeldVolumes::dismountVolume(platform::VolumeDevice &volume, const QString &shownName)
+bool HeldVolumes::dismountVolume(platform::VolumeDevice &volume, const QString &shownName)
 {
     m_job.note(tr("正在卸载卷 %1...").arg(shownName));
     const platform::Status dismounted = volume.dismount();
     if (dismounted) {
         m_job.note(tr("卷 %1 卸载成功").arg(shownName));
-        return;
+        return true;
     }
     m_job.note(tr("警告: 卷 %1 卸载失败，错误码: %2").arg(shownName, QString::number(dismounted.code)),
                DiskJob::Warning);
     m_job.diagnose(dismounted);
+    return false;
 }
 
 void HeldVolumes::release()

@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 #include <chrono>
 #include <memory>
@@ -37,6 +38,9 @@ public:
     bool lock(const platform::DriveIdentity &drive);
     void release();
 
+    // Everything that was dismounted, by name, released or not. Nothing mounts it again.
+    QStringList dismounted() const { return m_dismounted; }
+
     bool isEmpty() const { return m_volumes.empty(); }
     qsizetype count() const { return std::ssize(m_volumes); }
     // In the order in which they were found.
@@ -53,9 +57,10 @@ private:
     QList<Found> find(int driveNumber);
     void hold(const Found &found, const platform::DriveIdentity &drive);
     bool lockVolume(platform::VolumeDevice &volume, const QString &shownName);
-    void dismountVolume(platform::VolumeDevice &volume, const QString &shownName);
+    bool dismountVolume(platform::VolumeDevice &volume, const QString &shownName);
 
     DiskJob &m_job;
     std::chrono::milliseconds m_lockRetryDelay{500};
     std::vector<Volume> m_volumes;
+    QStringList m_dismounted;
 };

@@ -49,6 +49,8 @@ private slots:
     void aVolumeInUse();
     void aVolumeInUseThatIsNotWritten();
     void aVolumeThatDoesNotOpen();
+    void aVolumeOnTwoDrivesIsNotOpened();
+    void whatWasDismountedIsKept();
     void aVolumeBeyondTheDrive();
     void twoNamesForOneVolume();
     void everyVolumeIsLockedBeforeTheFirstWrite();
@@ -203,6 +205,43 @@ void tst_DiskWipeShortfalls::aVolumeThatDoesNotOpen()
     QCOMPARE(ofKind(job, ShortfallKind::VolumeNotOpened),
              QList<Shortfall>({{.kind = ShortfallKind::VolumeNotOpened, .place = u"E:"_s}}));
     QCOMPARE(job.report().wipedSectors, quint64(2 * MiB / 512));
+}
+
+void tst_DiskWipeShortfalls::aVolumeOnTwoDrivesIsNotOpened()
+{
+    MemoryDevices devices;
+    devices.addDrive(markedDrive(1, 4 * MiB));
+    devices.addDrive(markedDrive(2, 4 * MiB));
+    MemoryDriveVolume mirror;
+    mirror.name = u"M:"_s;
+    mirror.extents = {{1, 0, 2 * MiB}, {2, 0, 2 * MiB}};
+    devices.addVolume(mirror);
+    devices.addVolume(u"E:"_s, 1, 2 * MiB, 2 * MiB);
+    DiskWipeJob job;
+    job.chooseDrive(devices.drive(1));
+    QVERIFY(job.run(devices));
+    QVERIFY(job.log().contains(u"2 无法打开卷 M:，错误码: 21"_s));
+    QCOMPARE(ofKind(job, ShortfallKind::VolumeNotOpened),
+             QList<Shortfall>({{.kind = ShortfallKind::VolumeNotOpened, .place = u"M:"_s}}));
+    QVERIFY(devices.medium(1).startsWith(markedMedium(2 * MiB)));
+    QVERIFY(devices.medium(2) == markedMedium(4 * MiB));
+    QCOMPARE(job.report().wipedSectors, quint64(2 * MiB / 512));
+}
+
+void tst_DiskWipeShortfalls::whatWasDismountedIsKept()
+{
+    MemoryDevices memory;
+    memory.addDrive(markedDrive(1, 4 * MiB));
+    memory.addVolume(u"E:"_s, 1, 0, MiB);
+    memory.addVolume(u"F:"_s, 1, MiB, MiB);
+    memory.addVolume(u"G:"_s, 1, 2 * MiB, MiB);
+    memory.volume(u"G:"_s).dismountError = platform::AccessDenied;
+    FaultPlan plan(FaultPlan::Write, 1, platform::IoDevice);
+    FaultyDevices devices(memory, plan);
+    DiskWipeJob job;
+    job.chooseDrive(memory.drive(1));
+    QVERIFY(!job.run(devices));
+    QCOMPARE(job.task.dismountedVolumes(), (QStringList{u"E:"_s, u"F:"_s}));
 }
 
 void tst_DiskWipeShortfalls::aVolumeBeyondTheDrive()

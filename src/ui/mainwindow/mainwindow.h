@@ -86,6 +86,8 @@ private:
     void showHome();
     WipeTask &newTask(OperationType type);
     void takeDiskSelection();
+    bool hasObstacles();
+    QString erasedVolumesText() const;
     void setMenuEnabled(bool enabled);
 
     bool keepReport(const WipeReport &report);
