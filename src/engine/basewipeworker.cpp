@@ -99,6 +99,19 @@ bool BaseWipeWorker::verifyBuffer(const std::byte *buffer, qint64 size, const Pa
     return true;
 }
 
+void BaseWipeWorker::noteReadBack(bool readsBack)
+{
+    const QList<PassPattern> passes = m_task->method().passes;
+    const bool isAsked = m_task->verifyAfterWipe() && std::ranges::any_of(passes, &PassPattern::verify);
+    const bool isComparable = std::ranges::any_of(passes, [](const PassPattern &pass) {
+        return pass.verify && pass.type != PatternType::Random && pass.type != PatternType::Complement;
+    });
+    if (!isAsked)
+        m_task->noteShortfall({ShortfallKind::NotReadBack});
+    else if (!readsBack || !isComparable)
+        m_task->noteShortfall({ShortfallKind::ReadBackImpossible});
+}
+
 void BaseWipeWorker::updateProgress(qint64 done, qint64 total)
 {
     if (total == 0) {

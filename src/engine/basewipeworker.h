@@ -69,6 +69,10 @@ protected:
     // content cannot be predicted (Random, Complement).
     static bool verifyBuffer(const std::byte *buffer, qint64 size, const PassPattern &pattern);
 
+    // Tells the task that what the method writes is read back by nobody, or to no use. readsBack: the worker
+    // reads passes back when it is asked to.
+    void noteReadBack(bool readsBack);
+
     // Reports percent, bytes and speed. Both counts are bytes of the current pass; total 0 reports 0 percent
     // alone. One thread at a time.
     void updateProgress(qint64 done, qint64 total);

@@ -159,6 +159,8 @@ bool DiskWipeWorker::writePasses()
 {
     const QList<PassPattern> passes = task().method().passes;
     m_totalPasses = static_cast<int>(passes.size());
+    m_writesVolumes = !m_medium.volumes.isEmpty();
+
     bool success = true;
     for (const PassPattern &pattern : passes) {
         if (!success || isStopRequested())
@@ -228,6 +230,20 @@ void DiskWipeWorker::fillReport()
         report.verificationMethod = method;
         report.dataHash = verification.hash();
     });
+    noteShortfalls(wiped);
+}
+
+// A job on a drive that was written through its volumes has done what it does, but what lies between them
+// keeps its bytes, which nobody must take for erased. A partition is one of these volumes.
+void DiskWipeWorker::noteShortfalls(quint64 wipedSectors)
+{
+    if (m_totalPasses == 0)
+        return;
+    noteReadBack(true);
+    const quint64 sectors = static_cast<quint64>(task().disk().sizeBytes) >> 9;
+    if (task().operationType() == DiskWipe && m_writesVolumes && wipedSectors < sectors)
+        task().noteShortfall(
+            {ShortfallKind::OnlyVolumes, {}, static_cast<qint64>((sectors - wipedSectors) << 9)});
 }
 
 void DiskWipeWorker::note(const QString &message, NoteLevel level)

@@ -43,6 +43,7 @@ private:
     void releaseVolumes();
     void noteUnreachedEnd();
     void fillReport();
+    void noteShortfalls(quint64 wipedSectors);
 
     void note(const QString &message, NoteLevel level = DiskJob::Information) override;
     void reportError(const QString &message) override { emit errorOccurred(message); }
@@ -57,4 +58,5 @@ private:
 
     DiskMedium m_medium{.drive = {}, .volumes = HeldVolumes(*this)};
     DiskPass m_pass;
+    bool m_writesVolumes = false; // as long as a volume is held when the passes begin
 };

@@ -4,6 +4,7 @@
 #include "engine/filedeletion.h"
 #include "engine/filepresence.h"
 #include "engine/filetrace.h"
+#include "engine/foreseeable.h"
 #include "model/displaytext.h"
 #include "model/formatsize.h"
 #include "model/wipetask.h"
@@ -155,14 +156,18 @@ void FileWipeWorker::measureFiles()
         const auto info = files().info(path);
         if (!info) {
             m_isTotalCertain = m_isTotalCertain && isAbsent(info.status());
+            if (isAbsent(info.status()))
+                task().noteShortfall({ShortfallKind::EntryVanished, path});
             continue;
         }
         if (info.value().kind != FileKind::Regular)
             continue;
         m_singlePassTotal += info.value().size;
         if (info.value().linkCount > 1) {
-            const QString others = QString::number(info.value().linkCount - 1);
-            emit logMessage(tr("文件还有 %1 个其他硬链接: %2").arg(others, displayText(path)), Warning);
+            const qint64 others = info.value().linkCount - 1;
+            emit logMessage(
+                tr("文件还有 %1 个其他硬链接: %2").arg(QString::number(others), displayText(path)), Warning);
+            task().noteShortfall({ShortfallKind::OtherNames, path, -1, others});
         }
     }
 }
@@ -180,7 +185,12 @@ void FileWipeWorker::announceFiles()
     for (const QByteArray &type : fileSystemsWritingElsewhere(task().files())) {
         emit logMessage(
             tr("文件系统 %1 不在原位置写入，旧数据可能仍留在介质上").arg(QString::fromLatin1(type)), Warning);
+        task().noteShortfall({ShortfallKind::ContentElsewhere, QString::fromLatin1(type)});
     }
+    if (!task().targetsAreNamed())
+        return;
+    for (const QString &link : linksAmong(task().files()))
+        task().noteShortfall({ShortfallKind::LinkTarget, link});
 }
 
 bool FileWipeWorker::overwriteAll()
@@ -193,6 +203,7 @@ bool FileWipeWorker::overwriteAll()
         emit logMessage(tr("所有文件为空，跳过数据覆写"), Information);
         return !isStopRequested();
     }
+    noteReadBack(true);
     const QList<PassPattern> passes = task().method().passes;
     for (const PassPattern &pattern : passes) {
         if (isStopRequested())
@@ -255,8 +266,12 @@ bool FileWipeWorker::overwriteJob(const QString &path, const PassPattern &patter
 bool FileWipeWorker::overwriteExisting(const QString &path, const PassPattern &pattern, quint32 seed)
 {
     const auto info = files().info(path);
+    if (!info && !isAbsent(info.status()))
+        return failFile(tr("无法打开文件(WinAPI): %1"), path, info.status());
     if (!info) {
-        return isAbsent(info.status()) || failFile(tr("无法打开文件(WinAPI): %1"), path, info.status());
+        // Not a failure, but nobody knows where its content is now.
+        task().noteShortfall({ShortfallKind::EntryVanished, path});
+        return true;
     }
     if (info.value().kind != FileKind::Regular)
         return true;
@@ -343,6 +358,7 @@ bool FileWipeWorker::deleteAll()
         if (!deletion.secureDeleteFile(path) && mayStand(path)) {
             ++failures;
             emit logMessage(tr("删除失败: %1").arg(displayText(path)), Warning);
+            task().noteShortfall({ShortfallKind::EntryNotRemoved, path});
         }
         ++m_processedCount;
     }
@@ -365,6 +381,7 @@ void FileWipeWorker::removeFolders()
         emit logMessage(
             tr("无法删除文件夹: %1，错误码: %2").arg(displayText(folder), QString::number(removed.code)),
             Warning);
+        task().noteShortfall({ShortfallKind::EntryNotRemoved, folder});
         traceFile(folder, removed);
     }
 }

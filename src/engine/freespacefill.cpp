@@ -2,6 +2,7 @@
 
 #include "engine/chunkpipeline.h"
 #include "engine/fillfolder.h"
+#include "engine/foreseeable.h"
 #include "model/formatsize.h"
 #include "model/wipetask.h"
 #include "platform/folders.h"
@@ -124,18 +125,24 @@ bool FreeSpaceWipeWorker::fillFreeSpace(const PassPattern &pattern, ChunkPipelin
         return false;
     }
     fill.reserve = reserveForVolume();
+    task().noteShortfall(keptReserve(m_root, m_freeAtStart, fill.reserve));
     if (!isStopRequested() && !writeFillFiles(fill))
         return false;
     log(tr("已写入: %1").arg(formatSize(fill.written)));
     return true;
 }
 
+qint64 FreeSpaceWipeWorker::reserveFor(const QString &root)
+{
+    return platform::Platform::current().session().holdsSystemFiles(root) ? SystemReserve : Reserve;
+}
+
 qint64 FreeSpaceWipeWorker::reserveForVolume()
 {
-    if (!platform::Platform::current().session().holdsSystemFiles(m_root))
-        return Reserve;
-    log(tr("检测到系统分区，保留 1 GB 安全空间"));
-    return SystemReserve;
+    const qint64 reserve = reserveFor(m_root);
+    if (reserve == SystemReserve)
+        log(tr("检测到系统分区，保留 1 GB 安全空间"));
+    return reserve;
 }
 
 bool FreeSpaceWipeWorker::writeFillFiles(Fill &fill)
@@ -163,38 +170,47 @@ bool FreeSpaceWipeWorker::writeFillFiles(Fill &fill)
             const auto file =
                 platform::Platform::current().files().open(path, platform::OpenMode::CreateFill);
             if (!file)
-                return endsWithoutFile(file.status());
+                return endsWithoutFile(file.status(), fill);
             if (!writeFillFile(*file.value(), fill, bytesInFile))
                 return false;
         }
         if (bytesInFile < fill.chunkLimit || isStopRequested()) {
             if (!isStopRequested())
-                warnOfRoomLeft(fill);
+                noteRoomLeft(fill);
             return true;
         }
     }
 }
 
 // Quotas, and what a file system keeps for its administrator.
-void FreeSpaceWipeWorker::warnOfRoomLeft(const Fill &fill)
+void FreeSpaceWipeWorker::noteRoomLeft(const Fill &fill)
 {
     const auto free = freeBytes(m_temporaryFolder);
-    if (!free || free.value() - fill.reserve < fill.chunkLimit)
-        return;
-    log(tr("警告: 文件系统不再接受数据，仍有 %1 空闲空间未填满").arg(formatSize(free.value() - fill.reserve)),
-        Warning);
+    const qint64 room = free.valueOr(0) - fill.reserve;
+    // Less than a chunk is what file systems take for themselves on the way.
+    if (room >= fill.chunkLimit) {
+        log(tr("警告: 文件系统不再接受数据，仍有 %1 空闲空间未填满").arg(formatSize(room)), Warning);
+        task().noteShortfall({ShortfallKind::RoomLeft, m_root, room});
+    }
+    if (room > 0 && fill.written == 0)
+        task().noteShortfall({ShortfallKind::NothingWritten, m_root, room});
 }
 
-bool FreeSpaceWipeWorker::endsWithoutFile(const platform::Status &status)
+bool FreeSpaceWipeWorker::endsWithoutFile(const platform::Status &status, const Fill &fill)
 {
     qDebug().noquote() << "[FreeSpaceWipe] fill file" << status.diagnostic();
     const QString reason = status.systemText();
     log(tr("无法创建填充文件: %1").arg(reason.isEmpty() ? tr("错误码: %1").arg(status.code) : reason),
         Warning);
-    if (!isVolumeGone(status.code))
-        return true;
-    logVolumeGone(status);
-    return false;
+    if (isVolumeGone(status.code)) {
+        logVolumeGone(status);
+        return false;
+    }
+    // There was room when the file was to be made.
+    const ShortfallKind kind = fill.written == 0 ? ShortfallKind::NothingWritten : ShortfallKind::RoomLeft;
+    const auto free = freeBytes(m_temporaryFolder);
+    task().noteShortfall({kind, m_root, free ? std::max<qint64>(free.value() - fill.reserve, 0) : -1});
+    return true;
 }
 
 bool FreeSpaceWipeWorker::writeFillFile(platform::FileHandle &file, Fill &fill, qint64 &bytesInFile)

@@ -1,6 +1,8 @@
 #include "engine/freespacewipeworker.h"
 
 #include "engine/chunkpipeline.h"
+#include "engine/copyonwrite.h"
+#include "engine/filepresence.h"
 #include "engine/fillfolder.h"
 #include "model/displaytext.h"
 #include "model/formatsize.h"
@@ -83,8 +85,11 @@ bool FreeSpaceWipeWorker::run()
         return false;
     }
     const QStringList volumes = volumesOf(disk);
+    if (!volumes.isEmpty())
+        return wipeVolumes(volumes);
     // A disk without a usable volume has no free space to wipe: done, with the warning that volumesOf() gave.
-    return volumes.isEmpty() || wipeVolumes(volumes);
+    task().noteShortfall({ShortfallKind::NoFreeByte, disk.displayName()});
+    return true;
 }
 
 QStringList FreeSpaceWipeWorker::volumesOf(const PartitionInfo &partition)
@@ -199,6 +204,7 @@ bool FreeSpaceWipeWorker::wipeVolume(const QString &root)
     log(tr("空闲空间: %1").arg(formatSize(m_freeAtStart)));
     if (m_freeAtStart == 0) {
         log(tr("没有空闲空间需要擦除"));
+        task().noteShortfall({ShortfallKind::NoFreeByte, root});
         return free || failVolumeGone(free.status());
     }
 
@@ -280,6 +286,9 @@ bool FreeSpaceWipeWorker::runPasses()
     ChunkPipeline chunks([this](std::byte *data, qint64 size, const PassPattern &pattern) {
         fillBuffer(data, size, pattern);
     });
+    if (!fileSystemsWritingElsewhere({m_root}).isEmpty())
+        task().noteShortfall({ShortfallKind::CopyOnWrite, m_root});
+    noteReadBack(false);
     qint64 filledInEvery = std::numeric_limits<qint64>::max();
     int passesRun = 0;
     bool filled = true;
@@ -327,8 +336,10 @@ qint64 FreeSpaceWipeWorker::removeFillFiles()
     for (const FillFile &file : std::as_const(m_fillFiles)) {
         if (const platform::Status removed = platform::Platform::current().files().remove(file.path); removed)
             bytes += file.bytes;
-        else
+        else if (!isAbsent(removed)) {
             qDebug().noquote() << "[FreeSpaceWipe] fill file" << file.path << removed.diagnostic();
+            task().noteShortfall({ShortfallKind::FillFilesLeft, file.path, file.bytes});
+        }
     }
     m_fillFiles.clear();
     return bytes;
@@ -361,7 +372,7 @@ platform::Status FreeSpaceWipeWorker::cleanFileRecords()
     platform::Status first = system.folders().create(folder);
     remember(first, system.folders().hide(m_temporaryFolder));
     {
-        const auto cleanUp = qScopeGuard([&] { remember(first, system.folders().removeTree(folder)); });
+        const auto cleanUp = qScopeGuard([&] { remember(first, removeResidueFolder(folder)); });
         std::array<std::byte, RecordFileBytes> content{};
         for (int i = 0; i < RecordFiles && !isStopRequested(); ++i) {
             const auto file = system.files().open(u"%1/%2.tmp"_s.arg(folder, QString::number(i)),
@@ -386,11 +397,19 @@ platform::Status FreeSpaceWipeWorker::cleanDirectoryEntries()
     const QString folder = m_temporaryFolder + "/dir_clean"_L1;
     platform::Status first;
     {
-        const auto cleanUp = qScopeGuard([&] { remember(first, folders.removeTree(folder)); });
+        const auto cleanUp = qScopeGuard([&] { remember(first, removeResidueFolder(folder)); });
         for (int i = 0; i < RecordFolders && !isStopRequested(); ++i) {
             const QString name = QUuid::createUuid().toString(QUuid::WithoutBraces);
             remember(first, folders.create(u"%1/%2"_s.arg(folder, name)));
         }
     }
     return first;
+}
+
+platform::Status FreeSpaceWipeWorker::removeResidueFolder(const QString &folder)
+{
+    const platform::Status removed = platform::Platform::current().folders().removeTree(folder);
+    if (!removed && !isAbsent(removed))
+        task().noteShortfall({ShortfallKind::FillFilesLeft, folder});
+    return removed;
 }

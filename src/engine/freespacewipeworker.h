@@ -31,6 +31,9 @@ public:
     // The first volume whose first extent lies on the drive, as Devices names it; empty when there is none.
     static QString findDriveForDisk(int diskNumber);
 
+    // How many bytes of a volume's free space are never filled.
+    static qint64 reserveFor(const QString &root);
+
 public slots:
     void process() override;
 
@@ -81,8 +84,8 @@ private:
     bool fillFreeSpace(const PassPattern &pattern, ChunkPipeline &chunks);
     qint64 reserveForVolume();
     bool writeFillFiles(Fill &fill);
-    void warnOfRoomLeft(const Fill &fill);
-    bool endsWithoutFile(const platform::Status &status);
+    void noteRoomLeft(const Fill &fill);
+    bool endsWithoutFile(const platform::Status &status, const Fill &fill);
     bool writeFillFile(platform::FileHandle &file, Fill &fill, qint64 &bytesInFile);
     platform::Result<qint64> writeChunk(platform::FileHandle &file, const Fill &fill, qint64 size,
                                         qint64 nextSize);
@@ -94,6 +97,7 @@ private:
     void cleanResidue();
     platform::Status cleanFileRecords();
     platform::Status cleanDirectoryEntries();
+    platform::Status removeResidueFolder(const QString &folder);
 
     QString m_root; // of the current volume, ends in "/" or "\"
     QString m_temporaryFolder;

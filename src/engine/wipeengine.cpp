@@ -3,6 +3,7 @@
 #include "engine/diskwipeworker.h"
 #include "engine/filewipeworker.h"
 #include "engine/freespacewipeworker.h"
+#include "model/joboutcome.h"
 #include "model/wipereport.h"
 #include "model/wipetask.h"
 
@@ -116,8 +117,9 @@ void WipeEngine::start()
 void WipeEngine::beginReport()
 {
     const OperationType type = m_task->operationType();
+    // A task that ran before starts with a clean slate.
+    m_task->clearOutcome();
     m_task->updateReport([this, type](WipeReport &report) {
-        // A task that ran before starts with a clean slate.
         report.verificationPassed = false;
         report.errorMessage.clear();
         report.operationType = type;
@@ -206,9 +208,15 @@ void WipeEngine::stop()
             report.status = WipeStatus::Cancelled;
             report.endTime = QDateTime::currentDateTime();
         });
+        m_task->setOutcome(JobOutcome::Cancelled);
     }
     emit stopped();
     emit logMessage(tr("任务已停止"), 1);
+}
+
+OutcomeRecord WipeEngine::outcome() const
+{
+    return m_task ? m_task->outcome() : OutcomeRecord();
 }
 
 WipeReport WipeEngine::report() const
@@ -276,6 +284,9 @@ void WipeEngine::onWorkerFinished(bool success)
         else
             report.errorMessage = m_lastError;
     });
+    m_task->setOutcome(success           ? JobOutcome::Complete
+                       : m_stopRequested ? JobOutcome::Cancelled
+                                         : JobOutcome::Failed);
     emit logMessage(success ? tr("擦除完成!") : tr("擦除失败"), success ? 0 : 2);
     emit completed(success);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/joboutcome.h"
 #include "model/wipetask.h"
 
 #include <QDateTime>
@@ -40,6 +41,9 @@ public:
 
     // A copy of the task's report; without a task a fresh one. Any time on the interface thread.
     WipeReport report() const;
+    // How the task's job went, from completed() or stopped() on; failed without a task. Completed and yet not
+    // complete is a job that fell short of something.
+    OutcomeRecord outcome() const;
     bool isRunning() const { return m_running; }
 
 signals:

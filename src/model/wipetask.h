@@ -42,6 +42,10 @@ public:
     void setFiles(const QStringList &files) { m_files = files; }
     /// Appends the paths that are not yet listed, compared exactly, in the order of their first appearance.
     void addFiles(const QStringList &paths);
+    /// Whether the user has named them one by one; not when a Recycle Bin is emptied. What a link leads to is
+    /// missed only where the link was named.
+    bool targetsAreNamed() const { return m_targetsAreNamed; }
+    void setTargetsAreNamed(bool named) { m_targetsAreNamed = named; }
 
     /// Parallelism of a file wipe, valid from 1 to 32.
     qint32 threadCount() const { return m_threadCount; }
@@ -98,6 +102,7 @@ private:
     DiskInfo m_disk;
     PartitionInfo m_partition;
     QStringList m_files;
+    bool m_targetsAreNamed = true;
     qint32 m_threadCount;
     qint32 m_bufferSizeMB = 64;
     bool m_verifyAfterWipe = true;

@@ -71,6 +71,16 @@ const QString selectStoredPage =
 const QString selectOne = u"SELECT report_json FROM wipe_reports WHERE certificate_id = ?"_s;
 const QString deleteOne = u"DELETE FROM wipe_reports WHERE certificate_id = ?"_s;
 
+// Beside the table of the reports, whose columns other programs know.
+const QString createAnnexTable = u"CREATE TABLE IF NOT EXISTS report_annex ("
+                                 "certificate_id TEXT PRIMARY KEY NOT NULL, "
+                                 "schema_version INTEGER NOT NULL, "
+                                 "annex_json TEXT NOT NULL)"_s;
+const QString insertOneAnnex =
+    u"INSERT INTO report_annex (certificate_id, schema_version, annex_json) VALUES (?, ?, ?)"_s;
+const QString selectOneAnnex = u"SELECT annex_json FROM report_annex WHERE certificate_id = ?"_s;
+const QString deleteOneAnnex = u"DELETE FROM report_annex WHERE certificate_id = ?"_s;
+
 constexpr QFile::Permissions OwnerMayReadAndWrite = QFile::ReadOwner | QFile::WriteOwner;
 constexpr QFile::Permissions AnyOwnerPermission = OwnerMayReadAndWrite | QFile::ExeOwner;
 constexpr QFile::Permissions AnyPermissionOfOthers = QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup |
@@ -136,6 +146,39 @@ void bindReport(QSqlQuery &query, const WipeReport &report)
     query.addBindValue(QString::fromUtf8(report.toJson()));
 }
 
+// Takes back what was not committed. A savepoint, which may also stand within a transaction.
+class Transaction
+{
+public:
+    explicit Transaction(const QSqlDatabase &database)
+        : m_query(database)
+        , m_isOpen(m_query.exec(u"SAVEPOINT report"_s))
+    {}
+    ~Transaction()
+    {
+        if (!m_isOpen)
+            return;
+        m_query.exec(u"ROLLBACK TO report"_s);
+        m_query.exec(u"RELEASE report"_s);
+    }
+    Transaction(const Transaction &) = delete;
+    Transaction &operator=(const Transaction &) = delete;
+
+    bool isOpen() const { return m_isOpen; }
+    bool commit()
+    {
+        // One that failed is still open.
+        const bool committed = m_query.exec(u"RELEASE report"_s);
+        m_isOpen = !committed;
+        return committed;
+    }
+    QString error() const { return m_query.lastError().text(); }
+
+private:
+    QSqlQuery m_query;
+    bool m_isOpen;
+};
+
 WipeReport storedReport(const QSqlQuery &query)
 {
     return WipeReport::fromJson(query.value(0).toString().toUtf8());
@@ -173,6 +216,8 @@ bool ReportDatabase::initialize(const QString &folder)
     QSqlQuery query(m_db);
     for (const QString &statement : createIndexes)
         query.exec(statement);
+    // A file of an earlier version that cannot be written can be read all the same.
+    query.exec(createAnnexTable);
     m_initialized = true;
     return true;
 }
@@ -215,12 +260,27 @@ void ReportDatabase::close()
     QSqlDatabase::removeDatabase(QLatin1StringView(QSqlDatabase::defaultConnection));
 }
 
-bool ReportDatabase::saveReport(const WipeReport &report)
+bool ReportDatabase::saveReport(const WipeReport &report, const std::optional<OutcomeRecord> &outcome)
 {
     if (!m_initialized) {
         m_lastError = u"数据库未初始化"_s;
         return false;
     }
+    Transaction transaction(m_db);
+    if (!transaction.isOpen()) {
+        m_lastError = transaction.error();
+        return false;
+    }
+    if (!insert(report) || !execute(createAnnexTable) || !replaceAnnex(report.certificateId, outcome))
+        return false;
+    if (transaction.commit())
+        return true;
+    m_lastError = transaction.error();
+    return false;
+}
+
+bool ReportDatabase::insert(const WipeReport &report)
+{
     QSqlQuery query(m_db);
     // What failed to prepare has the error that tells; executing it would put another in its place.
     bool saved = query.prepare(insertReport);
@@ -231,6 +291,25 @@ bool ReportDatabase::saveReport(const WipeReport &report)
     if (!saved)
         m_lastError = query.lastError().text();
     return saved;
+}
+
+// What belongs to the report that was there before says nothing about the new one.
+bool ReportDatabase::replaceAnnex(const QString &certificateId, const std::optional<OutcomeRecord> &outcome)
+{
+    QSqlError error = erase(deleteOneAnnex, certificateId);
+    if (error.type() == QSqlError::NoError && outcome) {
+        QSqlQuery query(m_db);
+        query.prepare(insertOneAnnex);
+        query.addBindValue(text(certificateId));
+        query.addBindValue(OutcomeRecord::SchemaVersion);
+        query.addBindValue(QString::fromUtf8(outcome->toJson()));
+        query.exec();
+        error = query.lastError();
+    }
+    if (error.type() == QSqlError::NoError)
+        return true;
+    m_lastError = error.text();
+    return false;
 }
 
 QList<WipeReport> ReportDatabase::getReports(int limit, int offset)
@@ -259,6 +338,20 @@ WipeReport ReportDatabase::getReport(const QString &certificateId)
     query.addBindValue(text(certificateId));
     query.exec();
     return query.next() ? storedReport(query) : WipeReport();
+}
+
+std::optional<OutcomeRecord> ReportDatabase::outcome(const QString &certificateId)
+{
+    if (!m_initialized)
+        return std::nullopt;
+    QSqlQuery query(m_db);
+    query.setForwardOnly(true);
+    query.prepare(selectOneAnnex);
+    query.addBindValue(text(certificateId));
+    query.exec();
+    if (!query.next())
+        return std::nullopt;
+    return OutcomeRecord::fromJson(query.value(0).toString().toUtf8());
 }
 
 std::optional<QList<ReportDatabase::StoredReport>> ReportDatabase::storedReports(int limit, int offset)
@@ -306,8 +399,17 @@ bool ReportDatabase::deleteReport(const QString &certificateId)
 {
     if (!m_initialized)
         return false;
+    Transaction transaction(m_db);
+    QSqlQuery(m_db).exec(createAnnexTable);
+    return transaction.isOpen() && erase(deleteOne, certificateId).type() == QSqlError::NoError &&
+           erase(deleteOneAnnex, certificateId).type() == QSqlError::NoError && transaction.commit();
+}
+
+QSqlError ReportDatabase::erase(const QString &statement, const QString &certificateId)
+{
     QSqlQuery query(m_db);
-    query.prepare(deleteOne);
+    query.prepare(statement);
     query.addBindValue(text(certificateId));
-    return query.exec();
+    query.exec();
+    return query.lastError();
 }

@@ -1,23 +1,25 @@
 #pragma once
 
+#include "model/joboutcome.h"
 #include "model/wipereport.h"
 
 #include <QByteArray>
 #include <QList>
 #include <QSqlDatabase>
+#include <QSqlError>
 #include <QString>
 
 #include <optional>
 
 QT_FORWARD_DECLARE_CLASS(QSqlQuery)
 
-/// The reports of all finished jobs, in one SQLite file of the user, "quorvex.db" in the application's data
-/// folder. A report that saveReport() took is on the medium when the call returns and survives a kill or a
-/// power cut; the bytes of a deleted one leave the file. Readable by its owner only.
+/// The reports of all finished jobs with their outcomes, in one SQLite file of the user, "quorvex.db" in the
+/// application's data folder. A report that saveReport() took is on the medium when the call returns and
+/// survives a kill or a power cut; the bytes of a deleted one leave the file. Readable by its owner only.
 ///
 /// Other programs may have the file open: a call waits up to ten seconds for them. One thread, that of
-/// initialize(). getReports(), getReport() and deleteReport() leave lastError() as it is; the others set it
-/// when they fail.
+/// initialize(). getReports(), getReport(), outcome() and deleteReport() leave lastError() as it is; the
+/// others set it when they fail.
 class ReportDatabase
 {
 public:
@@ -35,8 +37,9 @@ public:
     /// Lets go of the file and the default connection, until initialize().
     void close();
 
-    /// Stores the report in the place of the one with the same certificate id, if there is one.
-    bool saveReport(const WipeReport &report);
+    /// Stores the report in the place of the one with the same certificate id, if there is one, and its
+    /// outcome with it: both or none. Without an outcome that of the report stays, or becomes, unknown.
+    bool saveReport(const WipeReport &report, const std::optional<OutcomeRecord> &outcome = {});
 
     /// A page of reports, latest start first; those that started at once in no stated order. A negative limit
     /// is none. Text that is no report any more reads as WipeReport::fromJson() says.
@@ -44,6 +47,10 @@ public:
 
     /// A fresh report when there is none of that id.
     WipeReport getReport(const QString &certificateId);
+
+    /// How the job of a report went. Nothing when that is unknown: stored by a version that did not ask,
+    /// damaged, or not to be read.
+    std::optional<OutcomeRecord> outcome(const QString &certificateId);
 
     /// A report as it was stored, whatever became of its text since.
     struct StoredReport
@@ -58,7 +65,7 @@ public:
     /// The text of one report: null when there is none of that id, nothing when the file could not be read.
     std::optional<QByteArray> storedJson(const QString &certificateId);
 
-    /// True as well when there is no report of that id.
+    /// Its outcome goes with it. True as well when there is no report of that id.
     bool deleteReport(const QString &certificateId);
 
     /// Text of the last failure.
@@ -71,6 +78,9 @@ private:
     bool open(const QString &folder);
     bool execute(const QString &statement);
     bool hasAnswered(const QSqlQuery &query);
+    bool insert(const WipeReport &report);
+    bool replaceAnnex(const QString &certificateId, const std::optional<OutcomeRecord> &outcome);
+    QSqlError erase(const QString &statement, const QString &certificateId);
 
     QSqlDatabase m_db;
     QString m_lastError;

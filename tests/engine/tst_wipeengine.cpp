@@ -160,6 +160,12 @@ private slots:
     void destructionDuringAJob();
     void reportWithoutTaskIsFresh();
     void aTaskThatRunsAgainStartsClean();
+    void outcomeOfACompleteJob();
+    void outcomeOfAJobThatFellShort();
+    void outcomeOfAFailedJob();
+    void outcomeOfAStoppedJob();
+    void outcomeOfAJobThatWasStoppedTooLate();
+    void outcomeWithoutTask();
 };
 
 void tst_WipeEngine::signalsInTheirOrder()
@@ -615,6 +621,100 @@ void tst_WipeEngine::aTaskThatRunsAgainStartsClean()
     QVERIFY(!engine.report().verificationPassed);
     QVERIFY(engine.report().errorMessage.isEmpty());
     QTRY_COMPARE(engine.report().status, WipeStatus::Completed);
+}
+
+void tst_WipeEngine::outcomeOfACompleteJob()
+{
+    ImageMachine machine(MiB);
+    WipeTask task;
+    makeDiskTask(task, machine);
+    task.noteShortfall({ShortfallKind::RoomLeft}); // of an earlier run
+    WipeEngine engine;
+    QSignalSpy completed(&engine, &WipeEngine::completed);
+    engine.setTask(&task);
+    engine.start();
+    QCOMPARE(engine.outcome().outcome(), JobOutcome::Failed); // as long as it has not ended
+    QTRY_COMPARE(completed.size(), 1);
+    QCOMPARE(engine.outcome(), OutcomeRecord(JobOutcome::Complete));
+    QCOMPARE(task.outcome(), engine.outcome());
+}
+
+void tst_WipeEngine::outcomeOfAJobThatFellShort()
+{
+    ImageMachine machine(MiB, true);
+    WipeTask task;
+    makeDiskTask(task, machine);
+    WipeEngine engine;
+    QSignalSpy completed(&engine, &WipeEngine::completed);
+    engine.setTask(&task);
+    engine.start();
+    task.noteShortfall({ShortfallKind::VolumeInUse, QStringLiteral("E:")});
+    machine.devices.letGo();
+    QTRY_COMPARE(completed.size(), 1);
+    // The signal and the stored status say that the job did what it does.
+    QCOMPARE(completed[0][0].toBool(), true);
+    QCOMPARE(engine.report().status, WipeStatus::Completed);
+    QCOMPARE(engine.outcome().outcome(), JobOutcome::Partial);
+}
+
+void tst_WipeEngine::outcomeOfAFailedJob()
+{
+    ImageMachine machine(MiB);
+    WipeTask task;
+    makeDiskTask(task, machine);
+    DiskInfo other = machine.disk;
+    other.serialNumber = QStringLiteral("ANOTHER");
+    task.setDisk(other);
+    WipeEngine engine;
+    QSignalSpy completed(&engine, &WipeEngine::completed);
+    engine.setTask(&task);
+    engine.start();
+    QTRY_COMPARE(completed.size(), 1);
+    QCOMPARE(engine.outcome(), OutcomeRecord(JobOutcome::Failed));
+}
+
+void tst_WipeEngine::outcomeOfAStoppedJob()
+{
+    ImageMachine machine(8 * MiB, true);
+    WipeTask task;
+    makeDiskTask(task, machine);
+    WipeEngine engine;
+    QSignalSpy stopped(&engine, &WipeEngine::stopped);
+    QSignalSpy completed(&engine, &WipeEngine::completed);
+    QList<JobOutcome> whenStopped;
+    QObject::connect(&engine, &WipeEngine::stopped, &engine,
+                     [&] { whenStopped.append(engine.outcome().outcome()); });
+    engine.setTask(&task);
+    engine.start();
+    QTRY_VERIFY(machine.devices.waiting > 0);
+    machine.devices.letGo();
+    engine.stop();
+    QCOMPARE(whenStopped, QList{JobOutcome::Cancelled});
+    QTRY_COMPARE(completed.size(), 1);
+    // Which the stored status cannot say any more.
+    QCOMPARE(engine.report().status, WipeStatus::Failed);
+    QCOMPARE(engine.outcome().outcome(), JobOutcome::Cancelled);
+}
+
+void tst_WipeEngine::outcomeOfAJobThatWasStoppedTooLate()
+{
+    ImageMachine machine(8 * MiB, true);
+    WipeTask task;
+    makeDiskTask(task, machine);
+    WipeEngine engine;
+    engine.setTask(&task);
+    engine.start();
+    QTRY_VERIFY(machine.devices.waiting > 0);
+    machine.devices.letGo();
+    engine.stop();
+    // A worker that was through when it was told to stop has erased everything.
+    QMetaObject::invokeMethod(&engine, "onWorkerFinished", Q_ARG(bool, true));
+    QCOMPARE(engine.outcome().outcome(), JobOutcome::Complete);
+}
+
+void tst_WipeEngine::outcomeWithoutTask()
+{
+    QCOMPARE(WipeEngine().outcome(), OutcomeRecord());
 }
 
 QUORVEX_SUITE(tst_WipeEngine, QCoreApplication)

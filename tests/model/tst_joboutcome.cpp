@@ -11,6 +11,7 @@
 #include <QThread>
 #include <QtTest>
 
+#include <atomic>
 #include <limits>
 #include <memory>
 #include <vector>
@@ -312,23 +313,28 @@ void tst_JobOutcome::taskIsSafeAcrossThreads()
     constexpr int writers = 4;
     constexpr int places = 25; // all of them together are just kept
     WipeTask task;
+    std::atomic<bool> go = false;
     std::vector<std::unique_ptr<QThread>> threads;
     for (int i = 0; i < writers; ++i) {
-        threads.emplace_back(QThread::create([&task, i] {
-            for (int place = 0; place < places; ++place) {
-                for (int again = 0; again < 40; ++again)
-                    task.noteShortfall({ShortfallKind::EntryVanished, u"%1/%2"_s.arg(i).arg(place), 1});
+        threads.emplace_back(QThread::create([&task, &go, i] {
+            go.wait(false);
+            for (int again = 0; again < 1000; ++again) {
+                for (int place = 0; place < places; ++place)
+                    task.noteShortfall({ShortfallKind::EntryVanished, u"%1/%2"_s.arg(i).arg(place), again});
             }
         }));
+        threads.back()->start();
     }
-    for (const auto &thread : threads)
-        thread->start();
+    go = true;
+    go.notify_all();
     for (int i = 0; i < 2000; ++i)
         QVERIFY(task.outcome().shortfalls().size() <= writers * places);
     for (const auto &thread : threads)
         thread->wait();
     QCOMPARE(task.outcome().shortfalls().size(), writers * places);
     QCOMPARE(task.outcome().further(ShortfallKind::EntryVanished).places, 0);
+    for (const Shortfall &shortfall : task.outcome().shortfalls())
+        QCOMPARE(shortfall.bytes, 999);
 }
 
 QUORVEX_SUITE(tst_JobOutcome, QCoreApplication)

@@ -158,6 +158,14 @@ QStringList idsOf(const QList<WipeReport> &reports)
     return ids;
 }
 
+OutcomeRecord partialOutcome()
+{
+    OutcomeRecord outcome(JobOutcome::Complete);
+    outcome.note({ShortfallKind::VolumeInUse, u"E: \U0001F4BE"_s, 4096, 2});
+    outcome.note({ShortfallKind::NotReadBack});
+    return outcome;
+}
+
 // A report whose parts all tell its number, large enough to fill many pages of the file.
 WipeReport numberedReport(int number)
 {
@@ -221,7 +229,8 @@ public:
     explicit Run(const QStringList &arguments)
     {
         m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        m_process.start(QCoreApplication::applicationFilePath(), QStringList{u"tst_reportdatabase"_s, u"--run"_s} + arguments);
+        m_process.start(QCoreApplication::applicationFilePath(),
+                        QStringList{u"tst_reportdatabase"_s, u"--run"_s} + arguments);
     }
     ~Run()
     {
@@ -344,6 +353,18 @@ private slots:
     void deletingWhatIsNotThereSucceeds();
     void theBytesOfADeletedReportLeaveTheFile();
 
+    void anOutcomeIsStoredWithItsReport();
+    void theAnnexStandsBesideTheRecord();
+    void anOutcomeIsReplacedWithItsReport();
+    void anOutcomeGoesWithItsReport();
+    void aReportWithoutAnOutcomeHasNone();
+    void aFileOfAnEarlierVersionGetsOutcomes();
+    void aDamagedOutcomeIsUnknown();
+    void reportAndOutcomeAreStoredTogetherOrNot();
+    void reportAndOutcomeAreDeletedTogetherOrNot();
+    void storingWithinATransactionCommitsNothing();
+    void anEarlierFileOnAReadOnlyVolumeIsRead();
+
     void idsAreNeverTakenForStatements_data();
     void idsAreNeverTakenForStatements();
     void anyTextComesBack_data();
@@ -422,7 +443,7 @@ void tst_ReportDatabase::initializeMakesFolderFileTableAndIndexes()
     OtherProgram other;
     QCOMPARE(
         other.column(u"SELECT name FROM sqlite_master WHERE type = 'table' AND name NOT LIKE 'sqlite_%'"_s),
-        QVariantList{u"wipe_reports"_s});
+        (QVariantList{u"wipe_reports"_s, u"report_annex"_s}));
     const QString columns =
         u"id INTEGER PRIMARY KEY AUTOINCREMENT,|certificate_id TEXT UNIQUE NOT NULL,|"
         "operation_type INTEGER NOT NULL,|method_name TEXT NOT NULL,|method_type INTEGER NOT NULL,|"
@@ -713,6 +734,152 @@ void tst_ReportDatabase::theBytesOfADeletedReportLeaveTheFile()
     QVERIFY(database().deleteReport(u"one"_s));
     QCOMPARE(markers(), 0);
     QCOMPARE(QDir(dataFolder()).entryList(QDir::Files), QStringList{u"quorvex.db"_s});
+}
+
+void tst_ReportDatabase::anOutcomeIsStoredWithItsReport()
+{
+    QVERIFY(!database().outcome(u"one"_s));
+    QVERIFY(database().initialize());
+    QVERIFY(database().saveReport(reportOf(u"one"_s), partialOutcome()));
+    QVERIFY(database().saveReport(reportOf(u"two"_s), OutcomeRecord(JobOutcome::Complete)));
+    QCOMPARE(database().outcome(u"one"_s), partialOutcome());
+    QCOMPARE(database().outcome(u"two"_s), OutcomeRecord(JobOutcome::Complete));
+    QVERIFY(!database().outcome(u"three"_s));
+    database().close();
+    QVERIFY(!database().outcome(u"one"_s));
+    QVERIFY(database().initialize());
+    QCOMPARE(database().outcome(u"one"_s), partialOutcome());
+}
+
+void tst_ReportDatabase::theAnnexStandsBesideTheRecord()
+{
+    QVERIFY(database().initialize());
+    QVERIFY(database().saveReport(reportOf(u"one"_s), partialOutcome()));
+    OtherProgram other;
+    QCOMPARE(other.value(u"SELECT certificate_id FROM report_annex"_s).toString(), u"one"_s);
+    QCOMPARE(other.value(u"SELECT schema_version FROM report_annex"_s).toInt(), 1);
+    QCOMPARE(other.value(u"SELECT annex_json FROM report_annex"_s).toString().toUtf8(),
+             partialOutcome().toJson());
+    // The record is byte for byte what it is without.
+    QCOMPARE(other.value(u"SELECT report_json FROM wipe_reports"_s).toString().toUtf8(),
+             reportOf(u"one"_s).toJson());
+}
+
+void tst_ReportDatabase::anOutcomeIsReplacedWithItsReport()
+{
+    QVERIFY(database().initialize());
+    QVERIFY(database().saveReport(reportOf(u"one"_s), partialOutcome()));
+    QVERIFY(database().saveReport(reportOf(u"one"_s), OutcomeRecord(JobOutcome::Cancelled)));
+    QCOMPARE(database().outcome(u"one"_s), OutcomeRecord(JobOutcome::Cancelled));
+    // What was said of another job says nothing of this one.
+    QVERIFY(database().saveReport(reportOf(u"one"_s)));
+    QVERIFY(!database().outcome(u"one"_s));
+}
+
+void tst_ReportDatabase::anOutcomeGoesWithItsReport()
+{
+    QVERIFY(database().initialize());
+    QVERIFY(database().saveReport(reportOf(u"one"_s), partialOutcome()));
+    QVERIFY(database().saveReport(reportOf(u"two"_s), partialOutcome()));
+    QVERIFY(database().deleteReport(u"one"_s));
+    QVERIFY(!database().outcome(u"one"_s));
+    QVERIFY(database().outcome(u"two"_s));
+    QCOMPARE(onOwnConnection(u"SELECT count(*) FROM report_annex"_s), QVariant(1));
+}
+
+void tst_ReportDatabase::aReportWithoutAnOutcomeHasNone()
+{
+    QVERIFY(database().initialize());
+    QVERIFY(database().saveReport(reportOf(u"one"_s)));
+    QVERIFY(!database().outcome(u"one"_s));
+    QCOMPARE(onOwnConnection(u"SELECT count(*) FROM report_annex"_s), QVariant(0));
+}
+
+void tst_ReportDatabase::aFileOfAnEarlierVersionGetsOutcomes()
+{
+    QVERIFY(database().initialize());
+    QVERIFY(database().saveReport(reportOf(u"old"_s)));
+    onOwnConnection(u"DROP TABLE report_annex"_s);
+    QVERIFY(!database().outcome(u"old"_s));
+    database().close();
+
+    QVERIFY(database().initialize());
+    QCOMPARE(onOwnConnection(u"SELECT count(*) FROM report_annex"_s), QVariant(0));
+    QCOMPARE(idsOf(database().getReports(NoLimit, 0)), QStringList{u"old"_s});
+    QVERIFY(database().saveReport(reportOf(u"new"_s), partialOutcome()));
+    QCOMPARE(database().outcome(u"new"_s), partialOutcome());
+    QVERIFY(!database().outcome(u"old"_s));
+    // Also when the table goes meanwhile.
+    onOwnConnection(u"DROP TABLE report_annex"_s);
+    QVERIFY(database().saveReport(reportOf(u"newer"_s), partialOutcome()));
+    onOwnConnection(u"DROP TABLE report_annex"_s);
+    QVERIFY(database().deleteReport(u"old"_s));
+}
+
+void tst_ReportDatabase::aDamagedOutcomeIsUnknown()
+{
+    QVERIFY(database().initialize());
+    QVERIFY(database().saveReport(reportOf(u"one"_s), partialOutcome()));
+    for (const QString &text : {u""_s, u"{}"_s, u"[1]"_s, u"{\"schemaVersion\":1,\"outcome\":\"comp"_s}) {
+        OtherProgram other;
+        QVERIFY(other.execute(u"UPDATE report_annex SET annex_json = ?"_s, {text}));
+        QVERIFY2(!database().outcome(u"one"_s), qPrintable(text));
+    }
+}
+
+void tst_ReportDatabase::reportAndOutcomeAreStoredTogetherOrNot()
+{
+    QVERIFY(database().initialize());
+    onOwnConnection(u"CREATE TRIGGER refuse BEFORE INSERT ON report_annex BEGIN "
+                    "SELECT RAISE(ABORT, 'refused for a test'); END"_s);
+    QVERIFY(!database().saveReport(reportOf(u"one"_s), partialOutcome()));
+    QVERIFY2(database().lastError().contains(u"refused for a test"_s), qPrintable(database().lastError()));
+    QVERIFY(database().getReports(NoLimit, 0).isEmpty());
+    onOwnConnection(u"DROP TRIGGER refuse"_s);
+    QVERIFY(database().saveReport(reportOf(u"one"_s), partialOutcome()));
+    QCOMPARE(database().outcome(u"one"_s), partialOutcome());
+}
+
+void tst_ReportDatabase::reportAndOutcomeAreDeletedTogetherOrNot()
+{
+    QVERIFY(database().initialize());
+    QVERIFY(database().saveReport(reportOf(u"one"_s), partialOutcome()));
+    onOwnConnection(u"CREATE TRIGGER refuse BEFORE DELETE ON report_annex BEGIN "
+                    "SELECT RAISE(ABORT, 'refused for a test'); END"_s);
+    QVERIFY(!database().deleteReport(u"one"_s));
+    QCOMPARE(idsOf(database().getReports(NoLimit, 0)), QStringList{u"one"_s});
+    QCOMPARE(database().outcome(u"one"_s), partialOutcome());
+    // The transaction is over.
+    onOwnConnection(u"DROP TRIGGER refuse"_s);
+    QVERIFY(database().deleteReport(u"one"_s));
+    QVERIFY(database().getReports(NoLimit, 0).isEmpty());
+}
+
+void tst_ReportDatabase::storingWithinATransactionCommitsNothing()
+{
+    QVERIFY(database().initialize());
+    QVERIFY(database().saveReport(reportOf(u"one"_s), partialOutcome()));
+    onOwnConnection(u"BEGIN"_s);
+    QVERIFY(database().saveReport(reportOf(u"two"_s), partialOutcome()));
+    onOwnConnection(u"ROLLBACK"_s);
+    QCOMPARE(idsOf(database().getReports(NoLimit, 0)), QStringList{u"one"_s});
+    QVERIFY(!database().outcome(u"two"_s));
+}
+
+void tst_ReportDatabase::anEarlierFileOnAReadOnlyVolumeIsRead()
+{
+    if (const QString reason = MemoryVolume::unavailableReason(); !reason.isEmpty())
+        QSKIP(qPrintable(reason));
+    MemoryVolume volume(dataFolder(), u"size=4m"_s);
+    QVERIFY(volume.isMounted());
+    QVERIFY(database().initialize());
+    QVERIFY(database().saveReport(reportOf(u"old"_s)));
+    onOwnConnection(u"DROP TABLE report_annex"_s);
+    database().close();
+    QVERIFY(volume.remount(u"ro"_s));
+    QVERIFY2(database().initialize(), qPrintable(database().lastError()));
+    QCOMPARE(idsOf(database().getReports(NoLimit, 0)), QStringList{u"old"_s});
+    QVERIFY(!database().outcome(u"old"_s));
 }
 
 void tst_ReportDatabase::idsAreNeverTakenForStatements_data()

@@ -1,0 +1,90 @@
+#include "engine/foreseeable.h"
+
+#include "engine/copyonwrite.h"
+#include "engine/freespacewipeworker.h"
+#include "model/wipetask.h"
+#include "platform/files.h"
+#include "platform/platform.h"
+
+#include <algorithm>
+
+namespace {
+
+// More than a tenth of the free space is no small rest.
+constexpr qint64 SmallPart = 10;
+
+void foreseeDisk(const DiskInfo &disk, OutcomeRecord &record)
+{
+    qint64 rest = disk.sizeBytes;
+    bool hasVolume = false;
+    for (const PartitionInfo &partition : disk.partitions) {
+        hasVolume = hasVolume || !partition.driveLetter.isEmpty();
+        rest -= partition.totalBytes;
+    }
+    if (hasVolume)
+        record.note({ShortfallKind::OnlyVolumes, {}, std::max<qint64>(rest, -1)});
+}
+
+void foreseeVolume(const PartitionInfo &partition, OutcomeRecord &record)
+{
+    const QString &name = partition.driveLetter;
+    if (name.isEmpty() || partition.freeBytes <= 0)
+        return;
+    const Shortfall kept = keptReserve(name, partition.freeBytes, FreeSpaceWipeWorker::reserveFor(name));
+    if (makesPartial(kept.kind))
+        record.note(kept);
+}
+
+void foreseeFiles(const WipeTask &task, OutcomeRecord &record)
+{
+    for (const QByteArray &type : fileSystemsWritingElsewhere(task.files()))
+        record.note({ShortfallKind::ContentElsewhere, QString::fromLatin1(type)});
+    if (!task.targetsAreNamed())
+        return;
+    for (const QString &link : linksAmong(task.files()))
+        record.note({ShortfallKind::LinkTarget, link});
+}
+
+} // namespace
+
+OutcomeRecord foreseeableShortfalls(const WipeTask &task)
+{
+    OutcomeRecord record;
+    switch (task.operationType()) {
+    case DiskWipe:
+        foreseeDisk(task.disk(), record);
+        break;
+    case PartitionWipe:
+        break;
+    case FreeSpaceWipe:
+        if (!task.partition().driveLetter.isEmpty()) {
+            foreseeVolume(task.partition(), record);
+        } else {
+            for (const PartitionInfo &partition : task.disk().partitions)
+                foreseeVolume(partition, record);
+        }
+        break;
+    case FileWipe:
+        foreseeFiles(task, record);
+        break;
+    }
+    return record;
+}
+
+QStringList linksAmong(const QStringList &paths)
+{
+    QStringList links;
+    for (const QString &path : paths) {
+        const auto info = platform::Platform::current().files().info(path);
+        if (info && info.value().kind == platform::FileKind::Link)
+            links.append(path);
+    }
+    return links;
+}
+
+Shortfall keptReserve(const QString &volume, qint64 freeBytes, qint64 reserve)
+{
+    const qint64 kept = std::min(freeBytes, reserve);
+    const bool isLarge = kept > freeBytes / SmallPart;
+    return {isLarge ? ShortfallKind::LargeReserve : ShortfallKind::ReserveKept, volume, kept};
+}
