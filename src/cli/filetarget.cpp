@@ -8,6 +8,7 @@
 #include "platform/folders.h"
 #include "platform/platform.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QSet>
 #include <QStorageInfo>
@@ -30,11 +31,13 @@ Refusal noFile(const QString &shown)
     return refused(Cli::tr("%1 is no file or folder; a drive is erased with 'wipe disk'").arg(shown));
 }
 
-// Whether the folder is where a file system begins; wiping it would take everything on that file system.
-bool isMountPoint(const QString &folder)
+// Whether the folder is where a file system or, in a changed root, all that can be seen begins; wiping it
+// would take everything.
+bool isTop(const QString &folder)
 {
     const QString canonical = QFileInfo(folder).canonicalFilePath();
-    return !canonical.isEmpty() && QStorageInfo(canonical).rootPath() == canonical;
+    return !canonical.isEmpty() &&
+           (QDir(canonical).isRoot() || QStorageInfo(canonical).rootPath() == canonical);
 }
 
 Outcome<QString> findFile(const QString &given)
@@ -52,7 +55,7 @@ Outcome<QString> findFile(const QString &given)
         return refused(Cli::tr("%1 cannot be looked at, error %2").arg(shown).arg(info.code()));
     if (info.value().kind == platform::FileKind::Special)
         return noFile(shown);
-    if (info.value().kind == platform::FileKind::Folder && isMountPoint(path))
+    if (info.value().kind == platform::FileKind::Folder && isTop(path))
         return refused(Cli::tr("%1 is the root of a volume; name what is to be erased in it").arg(shown));
     return path;
 }

@@ -252,10 +252,12 @@ void tst_BlockTree::swapInMemoryIsNoSystemVolume()
 {
     FakeSystemTree fake;
     fake.addDrive(QStringLiteral("sda"), "8:0", 100 * MiB);
-    fake.write(QStringLiteral("proc/self/mountinfo"), "1 0 8:0 / /dev rw - ext4 /dev/sda rw\n");
+    fake.addDrive(QStringLiteral("sdb"), "8:16", 100 * MiB);
+    fake.write(QStringLiteral("proc/self/mountinfo"), "1 0 8:16 / / rw - ext4 /dev/sdb rw\n"
+                                                      "2 1 8:0 / /dev rw - ext4 /dev/sda rw\n");
     fake.write(QStringLiteral("proc/swaps"),
                "Filename Type Size Used Priority\n/dev/zram0 partition 1 0 100\n");
-    QCOMPARE(LinuxSession(fake.tree()).systemVolumes(), QStringList());
+    QCOMPARE(LinuxSession(fake.tree()).systemVolumes(), QStringList{QStringLiteral("/")});
 }
 
 void tst_BlockTree::swapPartitionAndSwapFile()
@@ -263,11 +265,14 @@ void tst_BlockTree::swapPartitionAndSwapFile()
     FakeSystemTree fake;
     fake.addDrive(QStringLiteral("sda"), "8:0", 100 * MiB);
     fake.addDrive(QStringLiteral("sdb"), "8:16", 100 * MiB);
-    fake.write(QStringLiteral("proc/self/mountinfo"), "1 0 8:0 / /data rw - ext4 /dev/sda rw\n"
+    fake.addDrive(QStringLiteral("sdc"), "8:32", 100 * MiB);
+    fake.write(QStringLiteral("proc/self/mountinfo"), "3 0 8:32 / / rw - ext4 /dev/sdc rw\n"
+                                                      "1 0 8:0 / /data rw - ext4 /dev/sda rw\n"
                                                       "2 0 8:16 / /data/deep rw - ext4 /dev/sdb rw\n");
     fake.write(QStringLiteral("proc/swaps"),
                "Filename Type Size Used Priority\n/data/deep/swapfile file 1 0 -2\n");
-    QCOMPARE(LinuxSession(fake.tree()).systemVolumes(), QStringList({QStringLiteral("/data/deep")}));
+    QCOMPARE(LinuxSession(fake.tree()).systemVolumes(),
+             QStringList({QStringLiteral("/"), QStringLiteral("/data/deep")}));
 }
 
 void tst_BlockTree::aSystemRunningFromMemoryHasNoSystemVolume()
