@@ -20,9 +20,6 @@ constexpr int LastDrive = 31;
 // Taken for the system disk when a system volume does not tell where it lies.
 constexpr int LikelySystemDisk = 0;
 
-// What a volume says of a stretch that lies on no numbered disk.
-constexpr int NoDisk = -1;
-
 struct BusMeaning
 {
     quint32 reported;
@@ -65,7 +62,8 @@ QSet<int> disksOf(platform::DeviceQuery &volume)
 }
 
 // The disks under a system volume. One that does not tell counts as lying on the likely disk: better to guard
-// one disk too many than to offer the running system for wiping.
+// one disk too many than to offer the running system for wiping. A device without a number (-1) does tell: it
+// is on no disk that could be offered.
 QSet<int> disksUnder(const QString &systemVolume)
 {
     QSet<int> disks;
@@ -81,8 +79,6 @@ QSet<int> disksUnder(const QString &systemVolume)
     }
     if (disks.isEmpty())
         disks.insert(LikelySystemDisk);
-    // What lies on a device without a number does tell where: on no disk that could be offered.
-    disks.remove(NoDisk);
     return disks;
 }
 

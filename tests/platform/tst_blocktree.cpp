@@ -30,6 +30,7 @@ private slots:
     void systemVolumesAreTracedThroughLvm();
     void systemOnAMultiDeviceBtrfs();
     void holdersOfADrive();
+    void aHolderReachedOnTwoWaysComesAboveBoth();
     void whatReleasesADrive();
     void aDriveThatNobodyHolds();
     void aStretchOnNoDriveIsTold();
@@ -195,6 +196,19 @@ void tst_BlockTree::holdersOfADrive()
     auto volume = devices.queryVolume(QStringLiteral("/data"));
     QVERIFY(volume.ok());
     QCOMPARE(volume.value()->extents(ManyExtents).value().size(), 2);
+}
+
+void tst_BlockTree::aHolderReachedOnTwoWaysComesAboveBoth()
+{
+    // Volumes on a partition and on an array that stands on another one.
+    FakeSystemTree fake;
+    fake.addDrive(QStringLiteral("sda"), "8:0", 100 * MiB);
+    fake.addPartition(QStringLiteral("sda"), QStringLiteral("sda1"), "8:1", MiB, 40 * MiB);
+    fake.addPartition(QStringLiteral("sda"), QStringLiteral("sda2"), "8:2", 50 * MiB, 40 * MiB);
+    fake.addStacked(QStringLiteral("md0"), "9:0", 40 * MiB, {QStringLiteral("sda2")});
+    fake.addStacked(QStringLiteral("dm-0"), "253:0", 80 * MiB,
+                    {QStringLiteral("sda1"), QStringLiteral("md0")});
+    QCOMPARE(BlockTree(fake.tree()).holdersOf("8:0"), QList<QByteArray>({"9:0", "253:0"}));
 }
 
 void tst_BlockTree::whatReleasesADrive()
