@@ -15,8 +15,7 @@ options=(
     -DFEATURE_vulkan=OFF
     # Debian's source package comes without the header of the tablet interface and without SQLite.
     -DFEATURE_tabletevent=OFF
-    # A second way to draw windows, and pictures that no page shows.
-    -DFEATURE_direct2d=OFF
+    # Pictures that no page shows. (Without Direct2D there would be no DirectWrite, whose fonts the program is drawn with.)
     -DFEATURE_gif=OFF
     -DFEATURE_jpeg=OFF
     # Widgets and dialogs that the program has none of.

@@ -2,10 +2,12 @@
 
 #include "cli/paths.h"
 #include "cli/translate.h"
+#include "engine/driveidentity.h"
 #include "model/displaytext.h"
 #include "model/formatsize.h"
 #include "platform/devices.h"
 #include "platform/platform.h"
+#include "services/diskmanager.h"
 
 #include <QFileInfo>
 
@@ -54,6 +56,22 @@ const DiskInfo *findDriveOfPart(const QString &given, const QList<DiskInfo> &dis
     return findDisk(disks, [number](const DiskInfo &disk) { return disk.diskNumber == number; });
 }
 
+// A device that cannot be written is in no list of drives.
+bool isReadOnlyDevice(const QString &path)
+{
+    const QString canonical = QFileInfo(path).canonicalFilePath();
+    const auto query = platform::Platform::current().devices().queryVolume(canonical);
+    return query && query.value()->use().valueOr({}).isReadOnly;
+}
+
+QString otherDisksText(const SpanningVolume &volume)
+{
+    QStringList others;
+    for (const int number : volume.otherDisks)
+        others.append(number < 0 ? Cli::tr("a device that is no drive") : Cli::tr("drive %1").arg(number));
+    return others.join(QLatin1String(", "));
+}
+
 QString orUnknown(const QString &name)
 {
     return name.isEmpty() ? Cli::tr("unknown") : displayText(name);
@@ -83,6 +101,8 @@ Outcome<DiskInfo> findDrive(const QString &numberOrPath, const QList<DiskInfo> &
         return noSuchDrive(numberOrPath);
     if (!disk) {
         const DiskInfo *whole = findDriveOfPart(numberOrPath, disks);
+        if (!whole && isReadOnlyDevice(path))
+            return Refusal{Refused, Cli::tr("%1 is read-only").arg(displayText(numberOrPath))};
         if (!whole)
             return noSuchDrive(numberOrPath);
         return Refusal{Refused, Cli::tr("%1 is a part of drive %2; a whole drive must be given")
@@ -102,16 +122,41 @@ Outcome<DiskInfo> findDriveToErase(const QString &numberOrPath, const QList<Disk
     return disk;
 }
 
+std::optional<Refusal> checkObstacles(const DiskInfo &disk)
+{
+    const DiskObstacles obstacles = DiskManager::obstacles(disk.diskNumber);
+    if (obstacles.isReadOnly)
+        return Refusal{Refused, Cli::tr("drive %1 is read-only").arg(disk.diskNumber)};
+    QStringList reasons;
+    for (const SpanningVolume &volume : obstacles.spanningVolumes) {
+        reasons.append(
+            Cli::tr("volume %1 lies on drive %2 and also on %3")
+                .arg(displayText(volume.name), QString::number(disk.diskNumber), otherDisksText(volume)));
+    }
+    if (!obstacles.holders.isEmpty()) {
+        reasons.append(Cli::tr("drive %1 is held by %2")
+                           .arg(QString::number(disk.diskNumber),
+                                displayText(obstacles.holders.join(QLatin1String(", ")))));
+    }
+    if (reasons.isEmpty())
+        return std::nullopt;
+    if (!obstacles.releaseCommands.isEmpty())
+        reasons.append(Cli::tr("to release it: %1")
+                           .arg(displayText(obstacles.releaseCommands.join(QLatin1String(" && ")))));
+    return Refusal{Refused, reasons.join(QLatin1String("; "))};
+}
+
 std::optional<Refusal> probeDrive(const DiskInfo &disk)
 {
-    const platform::DriveIdentity identity{disk.diskNumber, disk.serialNumber, disk.sizeBytes};
-    const auto opened =
-        platform::Platform::current().devices().openDrive(identity, platform::DriveAccess::BesideOwnVolumes);
+    const auto opened = platform::Platform::current().devices().openDrive(
+        identityOf(disk), platform::DriveAccess::BesideOwnVolumes);
     if (opened.code() == platform::AccessDenied)
         return Refusal{Refused, Cli::tr("not permitted to write to drive %1").arg(disk.diskNumber)};
     if (opened.code() == platform::NotReady)
         return Refusal{Refused,
                        Cli::tr("drive %1 is gone, or another one has taken its place").arg(disk.diskNumber)};
+    if (opened.code() == platform::WriteProtect)
+        return Refusal{Refused, Cli::tr("drive %1 is read-only").arg(disk.diskNumber)};
     // Whatever else is wrong, the job knows other ways to the drive and tells what it meets.
     return std::nullopt;
 }

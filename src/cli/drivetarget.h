@@ -21,6 +21,10 @@ Outcome<DiskInfo> findDrive(const QString &numberOrPath, const QList<DiskInfo> &
 // The same; refused for a system disk.
 Outcome<DiskInfo> findDriveToErase(const QString &numberOrPath, const QList<DiskInfo> &disks);
 
+// Why the drive is not to be erased as it is: it is read-only, something is built on it, or a volume on it
+// lies on other drives too. Nothing when none of that is so.
+std::optional<Refusal> checkObstacles(const DiskInfo &disk);
+
 // Whether the drive can be opened for writing, nothing being written: a refusal without the rights and when
 // another drive has taken its place, nothing otherwise.
 std::optional<Refusal> probeDrive(const DiskInfo &disk);

@@ -4,6 +4,7 @@
 #include "cli/paths.h"
 #include "cli/stoprequest.h"
 #include "cli/translate.h"
+#include "engine/driveidentity.h"
 #include "model/displaytext.h"
 #include "platform/alignedbuffer.h"
 #include "platform/devices.h"
@@ -80,9 +81,8 @@ Outcome<ZeroCheck> checkFile(const QString &path, qint64 size, const StopRequest
 Outcome<ZeroCheck> checkDrive(const DiskInfo &disk, const StopRequest &stop)
 {
     const QString shown = displayText(disk.devicePath);
-    const platform::DriveIdentity identity{disk.diskNumber, disk.serialNumber, disk.sizeBytes};
     auto opened =
-        platform::Platform::current().devices().openDrive(identity, platform::DriveAccess::ReadOnly);
+        platform::Platform::current().devices().openDrive(identityOf(disk), platform::DriveAccess::ReadOnly);
     if (!opened)
         return cannotOpen(shown, opened.code());
     const std::unique_ptr<platform::RawDevice> drive = opened.take();

@@ -1,5 +1,6 @@
 #include "engine/diskwipeworker.h"
 
+#include "engine/driveidentity.h"
 #include "model/displaytext.h"
 #include "model/formatsize.h"
 #include "model/wipetask.h"
@@ -14,6 +15,7 @@ using namespace Qt::StringLiterals;
 
 DiskWipeWorker::DiskWipeWorker(WipeTask *task, QObject *parent)
     : BaseWipeWorker(task, parent)
+    , m_pass(*this, *task, m_medium)
 {}
 
 DiskWipeWorker::~DiskWipeWorker() = default;
@@ -27,6 +29,7 @@ void DiskWipeWorker::process()
         emit errorOccurred(tr("内存分配失败"));
     }
     closeDevices();
+    task().setDismountedVolumes(m_medium.volumes.dismounted());
     fillReport();
     emit finished(success);
 }
@@ -65,7 +68,7 @@ bool DiskWipeWorker::run()
 bool DiskWipeWorker::cancelled()
 {
     closeDevices();
-    note(tr("擦除已取消"), Warning);
+    note(tr("擦除已取消"), DiskJob::Warning);
     return false;
 }
 
@@ -78,70 +81,85 @@ void DiskWipeWorker::noteTarget()
     note(tr("序列号: %1").arg(displayText(disk.serialNumber)));
 }
 
+bool DiskWipeWorker::lockVolumes()
+{
+    return m_medium.volumes.lock(identityOf(task().disk()));
+}
+
 bool DiskWipeWorker::measureDisk()
 {
     note(tr("正在打开磁盘..."));
     bool measured = false;
     if (const platform::Status opened = openDisk()) {
         note(tr("磁盘打开成功"));
-        const platform::Result<platform::Geometry> geometry = m_drive->geometry();
+        const platform::Result<platform::Geometry> geometry = m_medium.drive->geometry();
         measured = geometry && geometry.value().bytesPerSector > 0 && geometry.value().sizeBytes >= 0;
         if (measured) {
-            m_diskSize = geometry.value().sizeBytes;
-            m_sectorSize = geometry.value().bytesPerSector;
+            m_medium.size = geometry.value().sizeBytes;
+            m_medium.sectorSize = geometry.value().bytesPerSector;
+            noteUnreachedEnd();
         }
     } else {
-        note(tr("无法打开磁盘，错误码: %1").arg(opened.code), Error);
+        note(tr("无法打开磁盘，错误码: %1").arg(opened.code), DiskJob::Error);
         note(tr("将通过卷句柄进行擦除"));
     }
     if (!measured && !measureVolumes())
         return false;
 
-    m_sectorCount = static_cast<quint64>(m_diskSize / m_sectorSize);
-    note(tr("磁盘大小: %1").arg(formatSize(m_diskSize)));
-    note(tr("扇区大小: %1 字节").arg(m_sectorSize));
-    note(tr("总扇区数: %1").arg(m_sectorCount));
+    note(tr("磁盘大小: %1").arg(formatSize(m_medium.size)));
+    note(tr("扇区大小: %1 字节").arg(m_medium.sectorSize));
+    note(tr("总扇区数: %1").arg(m_medium.sectorCount()));
     return true;
+}
+
+// A drive need not end with a whole sector, and of one that is empty nothing can be erased: neither is a
+// failure, and neither may pass for done.
+void DiskWipeWorker::noteUnreachedEnd()
+{
+    const qint64 length = m_medium.drive->length().valueOr(m_medium.size);
+    if (m_medium.size == 0)
+        noteShortfall({.kind = ShortfallKind::DriveEmpty});
+    else if (length > m_medium.size)
+        noteShortfall({.kind = ShortfallKind::DriveEndUnreached, .bytes = length - m_medium.size});
 }
 
 platform::Status DiskWipeWorker::openDisk()
 {
     platform::Devices &devices = platform::Platform::current().devices();
     const platform::DriveAccess access =
-        m_volumes.empty() ? platform::DriveAccess::Alone : platform::DriveAccess::BesideOwnVolumes;
+        m_medium.volumes.isEmpty() ? platform::DriveAccess::Alone : platform::DriveAccess::BesideOwnVolumes;
     qDebug() << "[DiskWipe] Opening device:" << devices.drivePath(task().disk().diskNumber);
-    platform::Result<std::unique_ptr<platform::RawDevice>> drive = devices.openDrive(identity(), access);
+    platform::Result<std::unique_ptr<platform::RawDevice>> drive =
+        devices.openDrive(identityOf(task().disk()), access);
     if (!drive) {
         qDebug() << "[DiskWipe] CreateFile failed, error:" << drive.code();
         diagnose(drive.status());
         return drive.status();
     }
     qDebug() << "[DiskWipe] Disk opened successfully";
-    m_drive = drive.take();
+    m_medium.drive = drive.take();
     return {};
 }
 
 bool DiskWipeWorker::measureVolumes()
 {
-    m_diskSize = 0;
-    m_sectorSize = 512;
-    for (const HeldVolume &volume : m_volumes) {
-        m_diskSize += std::max<qint64>(volume.device->length().valueOr(0), 0);
+    m_medium.size = 0;
+    m_medium.sectorSize = 512;
+    for (qsizetype i = 0; i < m_medium.volumes.count(); ++i) {
+        const HeldVolumes::Volume &volume = m_medium.volumes.at(i);
+        m_medium.size += std::max<qint64>(volume.device->length().valueOr(0), 0);
         const qint32 sectorSize = volume.device->bytesPerSector().valueOr(0);
         if (sectorSize > 0)
-            m_sectorSize = sectorSize;
+            m_medium.sectorSize = sectorSize;
     }
-    return m_diskSize > 0;
+    return m_medium.size > 0;
 }
 
 bool DiskWipeWorker::writePasses()
 {
     const QList<PassPattern> passes = task().method().passes;
     m_totalPasses = static_cast<int>(passes.size());
-    m_writesVolumes = !m_volumes.empty();
-    m_chunks.emplace([this](std::byte *data, qint64 size, const PassPattern &pattern) {
-        fillBuffer(data, size, pattern);
-    });
+    m_writesVolumes = !m_medium.volumes.isEmpty();
 
     bool success = true;
     for (const PassPattern &pattern : passes) {
@@ -156,9 +174,14 @@ bool DiskWipeWorker::writePasses()
         success = writePass(pattern);
         if (!success)
             emit errorOccurred(tr("覆写失败"));
-        m_bytesBeforePass += m_diskSize;
+        m_bytesBeforePass += m_medium.size;
     }
     return success;
+}
+
+bool DiskWipeWorker::writePass(const PassPattern &pattern)
+{
+    return m_pass.write(pattern);
 }
 
 QString DiskWipeWorker::patternLabel(const PassPattern &pattern)
@@ -180,22 +203,32 @@ QString DiskWipeWorker::patternLabel(const PassPattern &pattern)
 
 void DiskWipeWorker::closeDevices()
 {
-    m_chunks.reset();
-    m_drive.reset();
+    m_pass.releaseBuffers();
+    m_medium.drive.reset();
     releaseVolumes();
+}
+
+void DiskWipeWorker::releaseVolumes()
+{
+    m_medium.volumes.release();
 }
 
 void DiskWipeWorker::fillReport()
 {
-    const quint64 wiped = std::min(m_coverage.sectors(m_totalPasses), static_cast<quint64>(m_diskSize) >> 9);
-    const int samples = m_verification.samples();
+    // Measured through its volumes, a drive is larger than what was measured.
+    const qint64 driveSize = std::max(m_medium.size, task().disk().sizeBytes);
+    const quint64 wiped = static_cast<quint64>(m_pass.coverage().bytes(m_totalPasses, driveSize)) >> 9;
+    if (const qint64 beyond = m_pass.coverage().bytesBeyond(driveSize); beyond > 0)
+        noteShortfall({.kind = ShortfallKind::BeyondDrive, .bytes = beyond});
+    const DiskVerification &verification = m_pass.verification();
+    const int samples = verification.samples();
     const QString method =
-        samples > 0 ? u"random sampling, %1 sectors"_s.arg(m_verification.samplesOfPass()) : QString();
+        samples > 0 ? u"random sampling, %1 sectors"_s.arg(verification.samplesOfPass()) : QString();
     task().updateReport([&](WipeReport &report) {
         report.wipedSectors = wiped;
         report.verificationSampleSize = samples;
         report.verificationMethod = method;
-        report.dataHash = m_verification.hash();
+        report.dataHash = verification.hash();
     });
     noteShortfalls(wiped);
 }
@@ -213,13 +246,27 @@ void DiskWipeWorker::noteShortfalls(quint64 wipedSectors)
             {ShortfallKind::OnlyVolumes, {}, static_cast<qint64>((sectors - wipedSectors) << 9)});
 }
 
-platform::DriveIdentity DiskWipeWorker::identity() const
+void DiskWipeWorker::note(const QString &message, NoteLevel level)
 {
-    const DiskInfo disk = task().disk();
-    return {disk.diskNumber, disk.serialNumber, disk.sizeBytes};
+    emit logMessage(message, level);
 }
 
 void DiskWipeWorker::diagnose(const platform::Status &failure)
 {
     qDebug().noquote() << "[DiskWipe]" << failure.diagnostic();
+}
+
+void DiskWipeWorker::noteShortfall(const Shortfall &shortfall)
+{
+    task().noteShortfall(shortfall);
+}
+
+void DiskWipeWorker::fill(std::byte *data, qint64 size, const PassPattern &pattern)
+{
+    fillBuffer(data, size, pattern);
+}
+
+bool DiskWipeWorker::matches(const std::byte *data, qint64 size, const PassPattern &pattern) const
+{
+    return verifyBuffer(data, size, pattern);
 }

@@ -4,7 +4,6 @@
 #include "engine/copyonwrite.h"
 #include "engine/filepresence.h"
 #include "engine/fillfolder.h"
-#include "engine/wipecoverage.h"
 #include "model/displaytext.h"
 #include "model/formatsize.h"
 #include "model/wipetask.h"
@@ -17,8 +16,10 @@
 #include <QScopeGuard>
 #include <QUuid>
 
+#include <algorithm>
 #include <array>
 #include <chrono>
+#include <limits>
 #include <new>
 
 using namespace Qt::StringLiterals;
@@ -288,7 +289,8 @@ bool FreeSpaceWipeWorker::runPasses()
     if (!fileSystemsWritingElsewhere({m_root}).isEmpty())
         task().noteShortfall({ShortfallKind::CopyOnWrite, m_root});
     noteReadBack(false);
-    WipeCoverage coverage;
+    qint64 filledInEvery = std::numeric_limits<qint64>::max();
+    int passesRun = 0;
     bool filled = true;
     for (int pass = 1; pass <= m_totalPasses && filled && !isStopRequested(); ++pass) {
         m_currentPass = pass;
@@ -298,13 +300,16 @@ bool FreeSpaceWipeWorker::runPasses()
                 .arg(QString::number(pass), QString::number(m_totalPasses), patternLabel(pattern)));
         m_filledInPass = 0;
         filled = reclaimSpace() && fillFreeSpace(pattern, chunks);
-        coverage.addPass({m_filledInPass});
+        filledInEvery = std::min(filledInEvery, m_filledInPass);
+        ++passesRun;
         if (!filled)
             emit errorOccurred(tr("填充空闲空间失败"));
         // The figure that the percentage is based on, not what was written: the two differ by the reserve.
         m_bytesBeforePass += m_freeAtStart;
     }
-    m_wipedSectors += coverage.sectors(m_totalPasses);
+    // Before the last pass has begun, nothing has received all of them.
+    if (passesRun > 0 && passesRun == m_totalPasses)
+        m_wipedSectors += static_cast<quint64>(filledInEvery) >> 9;
     return filled;
 }
 

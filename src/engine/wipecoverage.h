@@ -1,37 +1,45 @@
 #pragma once
 
+#include "engine/byteranges.h"
+#include "platform/devices.h"
+
 #include <QList>
 #include <QtGlobal>
 
-#include <algorithm>
-
-// How much of a job's targets (a drive, or volumes) every pass has reached. A pass goes through a target from
-// its start without gaps, so that one byte count says what it covered.
+// What of a drive every pass has reached. Places count, not transfers: what is written under two names is
+// covered once.
 class WipeCoverage
 {
 public:
-    // One entry per target, the same targets for every pass. A target that the pass did not reach has 0.
-    void addPass(const QList<qint64> &bytesPerTarget)
+    // How a pass went through a volume: from its start without gaps.
+    struct Written
     {
-        if (m_passes++ == 0) {
-            m_bytes = bytesPerTarget;
-            return;
-        }
-        Q_ASSERT(bytesPerTarget.size() == m_bytes.size());
-        for (qsizetype i = 0; i < m_bytes.size(); ++i)
-            m_bytes[i] = std::min(m_bytes[i], bytesPerTarget[i]);
-    }
+        qint64 length = 0;  // of the volume, bytes
+        qint64 covered = 0; // of these, from the first on
+    };
 
-    // The 512-byte units that received all of so many passes: none before the last has begun.
-    quint64 sectors(int passCount) const
-    {
-        quint64 sum = 0;
-        for (const qint64 bytes : m_bytes)
-            sum += static_cast<quint64>(bytes) >> 9;
-        return m_passes >= passCount ? sum : 0;
-    }
+    void beginPass();
+    // A stretch of the drive itself.
+    void addStretch(qint64 begin, qint64 length);
+    // A volume of the drive, the same index in every pass. The extents say where it lies; of a volume that
+    // begins somewhere inside of them (LVM, encryption) only the amount is known.
+    void addVolume(qsizetype index, const QList<platform::Extent> &extents, const Written &written);
+    void endPass();
+
+    // Bytes that received all of so many passes: none before the last has ended. Places beyond the end of a
+    // drive of that size do not count.
+    qint64 bytes(int passCount, qint64 driveSize) const;
+    // Bytes that were written somewhere beyond the end of a drive of that size.
+    qint64 bytesBeyond(qint64 driveSize) const;
 
 private:
-    QList<qint64> m_bytes;
+    struct Pass
+    {
+        ByteRanges ranges;
+        QList<qint64> unplaced; // by volume
+    };
+
+    Pass m_pass;
+    Pass m_all; // what all passes so far have in common
     int m_passes = 0;
 };

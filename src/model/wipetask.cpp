@@ -224,6 +224,18 @@ void WipeTask::clearOutcome()
     m_outcome = OutcomeRecord();
 }
 
+QStringList WipeTask::dismountedVolumes() const
+{
+    const QMutexLocker locker(&m_reportMutex);
+    return m_dismountedVolumes;
+}
+
+void WipeTask::setDismountedVolumes(const QStringList &volumes)
+{
+    const QMutexLocker locker(&m_reportMutex);
+    m_dismountedVolumes = volumes;
+}
+
 bool WipeTask::isValid() const
 {
     const Trace trace = [](const QString &line) { qDebug().noquote() << line; };

@@ -86,6 +86,11 @@ public:
     /// Forgets what an earlier run has left.
     void clearOutcome();
 
+    /// The volumes that a disk job has dismounted, by name: whatever became of the job, nothing mounts them
+    /// again. Set by its worker at the end.
+    QStringList dismountedVolumes() const;
+    void setDismountedVolumes(const QStringList &volumes);
+
     /// Whether the job can be started; traces its checks to the debug output.
     bool isValid() const;
     /// The translated message for the first failed check of isValid(), empty when all pass.
@@ -105,6 +110,7 @@ private:
     bool m_generateReport = true;
     mutable QMutex m_reportMutex;
     WipeReport m_report;
+    QStringList m_dismountedVolumes;
     mutable QMutex m_outcomeMutex; // of its own, so that a change of the report may note something
     OutcomeRecord m_outcome;
     QString m_id;

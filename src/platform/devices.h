@@ -27,9 +27,20 @@ struct Extent
     bool operator==(const Extent &) const = default;
 };
 
+// What is in the way of writing to a drive or volume.
+struct DeviceUse
+{
+    bool isReadOnly = false;
+    // What the system has built on a drive, the lowest first, named as its tools name it: "LUKS secret".
+    QStringList holders;
+    // What frees a drive of them, and what unmounts a volume, as commands in the order to be given.
+    QStringList releaseCommands;
+};
+
 // How many extents the two sizes of reply have room for: the header takes 8 bytes, each extent 24.
 inline constexpr int OneExtent = 1;    // 32-byte reply
 inline constexpr int ManyExtents = 33; // 800-byte reply
+inline constexpr int AllExtents = 4096;
 
 // A drive or volume opened to ask it about itself; needs no administrator rights and changes nothing. Each
 // question may fail on its own: NotSupported where the device does not know the answer. One thread at a time;
@@ -61,7 +72,11 @@ public:
     // Windows: StorageDeviceTrimProperty. Linux: queue/discard_max_bytes above 0.
     virtual Result<bool> trimEnabled() = 0;
 
-    // Where a volume lies, first extent first. MoreData when there are more than maxExtents; at least one on
+    // Who stands on the device. Windows: IOCTL_DISK_IS_WRITABLE; nobody is known to hold a drive there. Linux:
+    // ro, and holders of the drive and of its partitions.
+    virtual Result<DeviceUse> use() = 0;
+
+    // Where a volume lies, first extent first; a stretch that is on no drive with a number has -1. MoreData when there are more than maxExtents; at least one on
     // success is not promised. Windows: IOCTL_VOLUME_GET_VOLUME_DISK_EXTENTS with a reply of 8 + 24 *
     // maxExtents bytes. Linux: the drives below the mounted device, through LVM, dm-crypt, md and btrfs
     // members.
@@ -84,7 +99,8 @@ public:
     virtual Result<Geometry> geometry() = 0;
     // Logical sector in bytes. Windows: IOCTL_DISK_GET_DRIVE_GEOMETRY. Linux: BLKSSZGET.
     virtual Result<qint32> bytesPerSector() = 0;
-    // Length in bytes. Windows: IOCTL_DISK_GET_LENGTH_INFO. Linux: BLKGETSIZE64.
+    // Length in bytes, which need not be whole sectors. Windows: IOCTL_DISK_GET_LENGTH_INFO. Linux:
+    // BLKGETSIZE64.
     virtual Result<qint64> length() = 0;
 
     // Windows: SetFilePointerEx(FILE_BEGIN). Linux: remembered for pread and pwrite.
@@ -177,8 +193,8 @@ public:
     virtual Result<std::unique_ptr<RawDevice>> openDrive(const DriveIdentity &drive, DriveAccess access) = 0;
 
     // Opens a volume of that drive for writing, flags as above, neither locked nor dismounted. NotReady, with
-    // nothing opened, when the drive is no longer the one of the identity or the volume no longer begins on
-    // it.
+    // nothing opened, when the drive is no longer the one of the identity or the volume is not wholly on it:
+    // whatever lies on another drive too would be overwritten there with it.
     virtual Result<std::unique_ptr<VolumeDevice>> openVolume(const QString &name,
                                                              const DriveIdentity &drive) = 0;
 

@@ -77,6 +77,7 @@ public:
     Result<QByteArray> descriptor() override { return m_target->descriptor(); }
     Result<bool> seekPenalty() override { return m_target->seekPenalty(); }
     Result<bool> trimEnabled() override { return m_target->trimEnabled(); }
+    Result<DeviceUse> use() override { return m_target->use(); }
     Result<QList<Extent>> extents(int maxExtents) override { return m_target->extents(maxExtents); }
 
 protected:

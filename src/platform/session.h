@@ -16,9 +16,10 @@ public:
 
     // Volumes that the running system needs, as Devices::queryVolume takes them. Every drive under one of
     // them is a system disk. Windows: one, the environment variable "SystemDrive", "C:" when it is empty.
-    // Linux: what is mounted on "/",
-    // "/boot", "/boot/efi", "/usr", "/var" and "/home" from a block device, and every active swap device;
-    // empty on a system that runs from memory.
+    // Linux: the media under what is mounted on "/", "/boot", "/boot/efi", "/efi", "/usr", "/var", "/home"
+    // and
+    // "/nix", through overlays and image files, and every active swap device. When the root leads to no
+    // medium in sight, every mounted volume of a block device.
     virtual QStringList systemVolumes() = 0;
 
     // Whether the root path is that of the volume shown to users as the system volume.

@@ -149,6 +149,13 @@ QByteArray encodeExtents(const QList<Extent> &extents)
     return reply;
 }
 
+bool liesOnlyOn(const QList<Extent> &extents, int driveNumber)
+{
+    return !extents.isEmpty() && std::ranges::all_of(extents, [driveNumber](const Extent &extent) {
+        return extent.diskNumber == driveNumber;
+    });
+}
+
 bool isSameDrive(const DriveIdentity &chosen, const QByteArray &descriptorReply, qint64 sizeBytes)
 {
     return chosen.sizeBytes == sizeBytes &&

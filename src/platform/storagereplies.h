@@ -49,6 +49,9 @@ QByteArray encodeDeviceDescriptor(const DeviceDescriptor &descriptor);
 QList<Extent> decodeExtents(const QByteArray &reply);
 QByteArray encodeExtents(const QList<Extent> &extents);
 
+// Whether a volume lies on that drive and nowhere else; false when it does not tell where.
+bool liesOnlyOn(const QList<Extent> &extents, int driveNumber);
+
 // Whether a device that describes itself so is the drive that was chosen: same serial number, same size. An
 // empty descriptor stands for a device that does not describe itself.
 bool isSameDrive(const DriveIdentity &chosen, const QByteArray &descriptorReply, qint64 sizeBytes);

@@ -53,8 +53,17 @@ QSet<int> diskNumbers(const QList<platform::Extent> &extents)
     return numbers;
 }
 
+QSet<int> disksOf(platform::DeviceQuery &volume)
+{
+    auto extents = volume.extents(platform::ManyExtents);
+    if (extents.code() == platform::MoreData)
+        extents = volume.extents(platform::AllExtents);
+    return diskNumbers(extents.valueOr({}));
+}
+
 // The disks under a system volume. One that does not tell counts as lying on the likely disk: better to guard
-// one disk too many than to offer the running system for wiping.
+// one disk too many than to offer the running system for wiping. A device without a number (-1) does tell: it
+// is on no disk that could be offered.
 QSet<int> disksUnder(const QString &systemVolume)
 {
     QSet<int> disks;
@@ -80,6 +89,23 @@ QSet<int> systemDisks()
     for (const QString &volume : volumes)
         disks.unite(disksUnder(volume));
     return disks;
+}
+
+// One drive that is reached in two ways. Nothing tells that of drives without a serial number.
+bool isSameUnit(const DiskInfo &a, const DiskInfo &b)
+{
+    return !a.serialNumber.isEmpty() && a.serialNumber == b.serialNumber && a.model == b.model &&
+           a.sizeBytes == b.sizeBytes;
+}
+
+void guardOtherWays(QList<DiskInfo> &disks)
+{
+    const QList<DiskInfo> known = disks;
+    for (DiskInfo &disk : disks) {
+        disk.isSystemDisk = std::ranges::any_of(known, [&disk](const DiskInfo &other) {
+            return other.isSystemDisk && (other.diskNumber == disk.diskNumber || isSameUnit(other, disk));
+        });
+    }
 }
 
 void readGeometry(platform::DeviceQuery &drive, DiskInfo &disk)
@@ -175,6 +201,7 @@ QList<DiskInfo> DiskManager::enumerateDisks()
             disk->addPartition(partition);
         disks.append(*disk);
     }
+    guardOtherWays(disks);
     return disks;
 }
 
@@ -190,6 +217,45 @@ QList<PartitionInfo> DiskManager::partitionsForDisk(int diskNumber)
         partitions.append(partition);
     }
     return partitions;
+}
+
+QList<SpanningVolume> DiskManager::spanningVolumesForDisk(int diskNumber)
+{
+    platform::Devices &devices = platform::Platform::current().devices();
+    QList<SpanningVolume> spanning;
+    for (const platform::MountedVolume &volume : devices.mountedVolumes()) {
+        const auto query = devices.queryVolume(volume.name);
+        if (!query)
+            continue;
+        QSet<int> disks = disksOf(*query.value());
+        if (!disks.remove(diskNumber) || disks.isEmpty())
+            continue;
+        QList<int> others(disks.cbegin(), disks.cend());
+        std::ranges::sort(others);
+        spanning.append({volume.name, others});
+    }
+    return spanning;
+}
+
+DiskObstacles DiskManager::obstacles(int diskNumber)
+{
+    platform::Devices &devices = platform::Platform::current().devices();
+    DiskObstacles obstacles;
+    obstacles.spanningVolumes = spanningVolumesForDisk(diskNumber);
+    for (const SpanningVolume &volume : std::as_const(obstacles.spanningVolumes)) {
+        const auto query = devices.queryVolume(volume.name);
+        if (query)
+            obstacles.releaseCommands += query.value()->use().valueOr({}).releaseCommands;
+    }
+    const auto drive = devices.queryDrive(diskNumber);
+    if (drive) {
+        const platform::DeviceUse use = drive.value()->use().valueOr({});
+        obstacles.isReadOnly = use.isReadOnly;
+        obstacles.holders = use.holders;
+        obstacles.releaseCommands += use.releaseCommands;
+    }
+    obstacles.releaseCommands.removeDuplicates();
+    return obstacles;
 }
 
 DiskType DiskManager::detectDiskType(int diskNumber)

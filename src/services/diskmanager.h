@@ -2,6 +2,7 @@
 
 #include "model/diskinfo.h"
 #include "model/partitioninfo.h"
+#include "model/spanningvolume.h"
 
 #include <QList>
 
@@ -22,6 +23,13 @@ public:
     /// The mounted volumes that lie wholly on that disk, in the order of the system's list. `driveLetter` is
     /// the name that opens the volume and is kept as it is; labels are safe to show.
     static QList<PartitionInfo> partitionsForDisk(int diskNumber);
+
+    /// The mounted volumes that lie on that disk and elsewhere too, in the order of the system's list. They
+    /// are in no list of partitionsForDisk().
+    static QList<SpanningVolume> spanningVolumesForDisk(int diskNumber);
+
+    /// What is in the way of erasing that disk; of one that cannot be asked, nothing is known to be.
+    static DiskObstacles obstacles(int diskNumber);
 
     /// SSD when the disk has no seek penalty or takes trim commands, HDD when it claims neither, Unknown when
     /// it cannot be opened.

@@ -26,6 +26,10 @@ private slots:
     void theSystemDiskIsRefusedUnopened_data();
     void theSystemDiskIsRefusedUnopened();
     void aPartOfADriveIsRefused();
+    void aVolumeOnAnotherDriveTooIsRefused();
+    void aDriveThatIsHeldIsRefused();
+    void aReadOnlyDriveIsRefused();
+    void whatComesInTheWayDuringTheQuestionIsRefused();
     void anUnknownDriveIsRefused_data();
     void anUnknownDriveIsRefused();
     void withoutPermissionNothingIsAttempted();
@@ -33,6 +37,7 @@ private slots:
     void withoutConfirmationNothingIsOpened();
     void typingEraseRunsTheJob();
     void aFailedJobIsToldAsSuch();
+    void aFailedJobNamesWhatItLeftUnmounted();
     void aStopEndsTheJobCleanly();
     void aSecondStopChangesNothing();
     void aStopBeforeTheJobWritesNothing();
@@ -240,6 +245,85 @@ void tst_CliWipeDisk::aPartOfADriveIsRefused()
     QVERIFY(isUntouched(machine, 1));
 }
 
+void tst_CliWipeDisk::aVolumeOnAnotherDriveTooIsRefused()
+{
+    MemoryMachine machine;
+    for (const int number : {0, 1, 2})
+        addDrive(machine, number);
+    MemoryDriveVolume mirror;
+    mirror.name = u"/media/mirror"_s;
+    mirror.extents = {{1, 4096, 65536}, {2, 4096, 65536}};
+    machine.memory.addVolume(mirror);
+    for (const int number : {1, 2}) {
+        CliRun run;
+        run(wipeDrive(number));
+        QCOMPARE(run.code, 3);
+        const QByteArray message = u"volume /media/mirror lies on drive %1 and also on drive %2; "
+                                   "to release it: umount /media/mirror"_s.arg(number)
+                                       .arg(3 - number)
+                                       .toUtf8();
+        QVERIFY2(run.complains(message), run.io.err.constData());
+        QVERIFY(isUntouched(machine, 1));
+        QVERIFY(isUntouched(machine, 2));
+    }
+    QCOMPARE(machine.openings(), QStringList());
+    CliRun other;
+    other(wipeDrive(0));
+    QCOMPARE(other.code, 0);
+}
+
+void tst_CliWipeDisk::aDriveThatIsHeldIsRefused()
+{
+    MemoryMachine machine;
+    addDrive(machine, 1);
+    machine.memory.drive(1).use = {false, {u"LUKS secret"_s, u"LVM vg-data"_s}, {u"one"_s, u"two"_s}};
+    CliRun run;
+    run(wipeDrive(1));
+    QCOMPARE(run.code, 3);
+    QVERIFY2(run.complains("drive 1 is held by LUKS secret, LVM vg-data; to release it: one && two"),
+             run.io.err.constData());
+    QCOMPARE(run.io.out, QByteArray()); // there is nothing to ask for
+    QCOMPARE(machine.openings(), QStringList());
+    QVERIFY(isUntouched(machine, 1));
+}
+
+void tst_CliWipeDisk::aReadOnlyDriveIsRefused()
+{
+    MemoryMachine machine;
+    addDrive(machine, 1);
+    machine.memory.drive(1).use.isReadOnly = true;
+    CliRun run;
+    run(wipeDrive(1));
+    QCOMPARE(run.code, 3);
+    QVERIFY2(run.complains("drive 1 is read-only"), run.io.err.constData());
+    QCOMPARE(machine.openings(), QStringList());
+
+    machine.memory.drive(1).use.isReadOnly = false;
+    machine.answer = [](const DeviceCall &call) {
+        return call.method == QLatin1String("openDrive") ? fakeFailure(platform::WriteProtect)
+                                                         : platform::Status{};
+    };
+    CliRun opened;
+    opened(wipeDrive(1));
+    QCOMPARE(opened.code, 3);
+    QVERIFY2(opened.complains("drive 1 is read-only"), opened.io.err.constData());
+    QVERIFY(isUntouched(machine, 1));
+}
+
+void tst_CliWipeDisk::whatComesInTheWayDuringTheQuestionIsRefused()
+{
+    MemoryMachine machine;
+    addDrive(machine);
+    CliRun run;
+    run.io.inputIsTerminal = run.io.outputIsTerminal = true;
+    run.io.input = QStringList{u"ERASE"_s};
+    run.io.onQuestion = [&machine] { machine.memory.drive(0).use.holders = QStringList{u"RAID md0"_s}; };
+    run(wipeDrive(0, {}));
+    QCOMPARE(run.code, 3);
+    QVERIFY2(run.complains("held by RAID md0"), run.io.err.constData());
+    QVERIFY(isUntouched(machine, 0));
+}
+
 void tst_CliWipeDisk::anUnknownDriveIsRefused_data()
 {
     QTest::addColumn<QString>("name");
@@ -350,6 +434,24 @@ void tst_CliWipeDisk::aFailedJobIsToldAsSuch()
     QCOMPARE(finished.value(u"cancelled"), QJsonValue(false));
     QVERIFY(!json.io.events(u"error"_s).isEmpty());
     QVERIFY(!finished.value(u"report").toObject().value(u"errorMessage").toString().isEmpty());
+}
+
+void tst_CliWipeDisk::aFailedJobNamesWhatItLeftUnmounted()
+{
+    for (const bool fails : {true, false}) {
+        MemoryMachine machine;
+        addDrive(machine);
+        machine.memory.addVolume(u"/media/a"_s, 0, 0, Size / 2);
+        machine.memory.addVolume(u"/media/b"_s, 0, Size / 2, Size / 2);
+        machine.answer = [fails](const DeviceCall &call) {
+            return fails && call.kind == FaultPlan::Write ? fakeFailure(platform::IoDevice)
+                                                          : platform::Status{};
+        };
+        CliRun run;
+        run(wipeDrive(0));
+        QCOMPARE(run.code, fails ? 1 : 0);
+        QCOMPARE((run.io.out + run.io.err).contains("left unmounted: /media/a, /media/b"), fails);
+    }
 }
 
 void tst_CliWipeDisk::aStopEndsTheJobCleanly()

@@ -29,9 +29,20 @@ private slots:
     void aDeviceThatIsGone();
     void systemVolumesAreTracedThroughLvm();
     void systemOnAMultiDeviceBtrfs();
+    void holdersOfADrive();
+    void aHolderReachedOnTwoWaysComesAboveBoth();
+    void whatReleasesADrive();
+    void aDriveThatNobodyHolds();
+    void aStretchOnNoDriveIsTold();
+    void aReadOnlyDeviceSaysSo();
     void swapInMemoryIsNoSystemVolume();
     void swapPartitionAndSwapFile();
     void aSystemRunningFromMemoryHasNoSystemVolume();
+    void aLiveSystemGuardsItsMedium();
+    void anOverlayOverOtherDrives();
+    void aRootWithoutAMediumGuardsEveryMountedDrive();
+    void anOverlayOverItselfEnds();
+    void otherPlacesOfTheSystem();
     void oneVolumePerDevice();
     void laterMountHidesTheEarlier();
 };
@@ -149,14 +160,118 @@ void tst_BlockTree::systemOnAMultiDeviceBtrfs()
     QCOMPARE(extents.value()[1].diskNumber, 0);
 }
 
+// A mirror of two partitions, with encryption on it, a group of volumes in that, and one of them mounted.
+static void layOutStack(FakeSystemTree &fake)
+{
+    fake.addDrive(QStringLiteral("sda"), "8:0", 100 * MiB);
+    fake.addPartition(QStringLiteral("sda"), QStringLiteral("sda1"), "8:1", MiB, 50 * MiB);
+    fake.addDrive(QStringLiteral("sdb"), "8:16", 100 * MiB);
+    fake.addPartition(QStringLiteral("sdb"), QStringLiteral("sdb1"), "8:17", MiB, 50 * MiB);
+    fake.addDrive(QStringLiteral("sdc"), "8:32", 100 * MiB);
+    fake.addStacked(QStringLiteral("md0"), "9:0", 50 * MiB, {QStringLiteral("sda1"), QStringLiteral("sdb1")});
+    fake.addStacked(QStringLiteral("dm-1"), "253:1", 48 * MiB, {QStringLiteral("md0")});
+    fake.write(QStringLiteral("sys/block/dm-1/dm/name"), "secret\n");
+    fake.write(QStringLiteral("sys/block/dm-1/dm/uuid"), "CRYPT-LUKS2-0123-secret\n");
+    fake.addStacked(QStringLiteral("dm-0"), "253:0", 20 * MiB, {QStringLiteral("dm-1")});
+    fake.write(QStringLiteral("sys/block/dm-0/dm/name"), "vg-my data\n");
+    fake.write(QStringLiteral("sys/block/dm-0/dm/uuid"), "LVM-abc\n");
+    fake.write(QStringLiteral("proc/self/mountinfo"), "1 0 253:0 / /data rw - ext4 /dev/dm-0 rw\n"
+                                                      "2 0 253:0 / /data/again rw - ext4 /dev/dm-0 rw\n");
+}
+
+void tst_BlockTree::holdersOfADrive()
+{
+    FakeSystemTree fake;
+    layOutStack(fake);
+    LinuxDevices devices(fake.tree());
+    const QStringList holders{QStringLiteral("RAID md0"), QStringLiteral("LUKS secret"),
+                              QStringLiteral("LVM vg-my data")};
+    for (const int number : {0, 1}) {
+        auto query = devices.queryDrive(number);
+        QVERIFY(query.ok());
+        QCOMPARE(query.value()->use().value().holders, holders);
+        QVERIFY(!query.value()->use().value().isReadOnly);
+    }
+    // The volume that is mounted lies on both.
+    auto volume = devices.queryVolume(QStringLiteral("/data"));
+    QVERIFY(volume.ok());
+    QCOMPARE(volume.value()->extents(ManyExtents).value().size(), 2);
+}
+
+void tst_BlockTree::aHolderReachedOnTwoWaysComesAboveBoth()
+{
+    // Volumes on a partition and on an array that stands on another one.
+    FakeSystemTree fake;
+    fake.addDrive(QStringLiteral("sda"), "8:0", 100 * MiB);
+    fake.addPartition(QStringLiteral("sda"), QStringLiteral("sda1"), "8:1", MiB, 40 * MiB);
+    fake.addPartition(QStringLiteral("sda"), QStringLiteral("sda2"), "8:2", 50 * MiB, 40 * MiB);
+    fake.addStacked(QStringLiteral("md0"), "9:0", 40 * MiB, {QStringLiteral("sda2")});
+    fake.addStacked(QStringLiteral("dm-0"), "253:0", 80 * MiB,
+                    {QStringLiteral("sda1"), QStringLiteral("md0")});
+    QCOMPARE(BlockTree(fake.tree()).holdersOf("8:0"), QList<QByteArray>({"9:0", "253:0"}));
+}
+
+void tst_BlockTree::whatReleasesADrive()
+{
+    FakeSystemTree fake;
+    layOutStack(fake);
+    LinuxDevices devices(fake.tree());
+    auto query = devices.queryDrive(1);
+    QVERIFY(query.ok());
+    QCOMPARE(query.value()->use().value().releaseCommands,
+             QStringList({QStringLiteral("umount /data/again"), QStringLiteral("umount /data"),
+                          QStringLiteral("lvchange -an '/dev/mapper/vg-my data'"),
+                          QStringLiteral("cryptsetup close secret"),
+                          QStringLiteral("mdadm --stop ") + fake.path(QStringLiteral("dev/md0"))}));
+    auto volume = devices.queryVolume(QStringLiteral("/data"));
+    QCOMPARE(volume.value()->use().value().releaseCommands,
+             QStringList({QStringLiteral("umount /data/again"), QStringLiteral("umount /data")}));
+}
+
+void tst_BlockTree::aDriveThatNobodyHolds()
+{
+    FakeSystemTree fake;
+    layOutStack(fake);
+    LinuxDevices devices(fake.tree());
+    auto query = devices.queryDrive(2);
+    QVERIFY(query.ok());
+    QVERIFY(query.value()->use().value().holders.isEmpty());
+    QVERIFY(query.value()->use().value().releaseCommands.isEmpty());
+}
+
+void tst_BlockTree::aStretchOnNoDriveIsTold()
+{
+    // The second member of the mirror is a read-only drive, which has no number.
+    FakeSystemTree fake;
+    layOutStack(fake);
+    fake.write(QStringLiteral("sys/block/sdb/ro"), "1\n");
+    LinuxDevices devices(fake.tree());
+    auto volume = devices.queryVolume(QStringLiteral("/data"));
+    QVERIFY(volume.ok());
+    const Result<QList<Extent>> extents = volume.value()->extents(ManyExtents);
+    QVERIFY(extents.ok());
+    QCOMPARE(extents.value(), QList<Extent>({{0, MiB, 50 * MiB}, {-1, MiB, 50 * MiB}}));
+}
+
+void tst_BlockTree::aReadOnlyDeviceSaysSo()
+{
+    FakeSystemTree fake;
+    layOutStack(fake);
+    fake.write(QStringLiteral("sys/block/dm-0/ro"), "1\n");
+    LinuxDevices devices(fake.tree());
+    QVERIFY(devices.queryVolume(QStringLiteral("/data")).value()->use().value().isReadOnly);
+}
+
 void tst_BlockTree::swapInMemoryIsNoSystemVolume()
 {
     FakeSystemTree fake;
     fake.addDrive(QStringLiteral("sda"), "8:0", 100 * MiB);
-    fake.write(QStringLiteral("proc/self/mountinfo"), "1 0 8:0 / /dev rw - ext4 /dev/sda rw\n");
+    fake.addDrive(QStringLiteral("sdb"), "8:16", 100 * MiB);
+    fake.write(QStringLiteral("proc/self/mountinfo"), "1 0 8:16 / / rw - ext4 /dev/sdb rw\n"
+                                                      "2 1 8:0 / /dev rw - ext4 /dev/sda rw\n");
     fake.write(QStringLiteral("proc/swaps"),
                "Filename Type Size Used Priority\n/dev/zram0 partition 1 0 100\n");
-    QCOMPARE(LinuxSession(fake.tree()).systemVolumes(), QStringList());
+    QCOMPARE(LinuxSession(fake.tree()).systemVolumes(), QStringList{QStringLiteral("/")});
 }
 
 void tst_BlockTree::swapPartitionAndSwapFile()
@@ -164,11 +279,14 @@ void tst_BlockTree::swapPartitionAndSwapFile()
     FakeSystemTree fake;
     fake.addDrive(QStringLiteral("sda"), "8:0", 100 * MiB);
     fake.addDrive(QStringLiteral("sdb"), "8:16", 100 * MiB);
-    fake.write(QStringLiteral("proc/self/mountinfo"), "1 0 8:0 / /data rw - ext4 /dev/sda rw\n"
+    fake.addDrive(QStringLiteral("sdc"), "8:32", 100 * MiB);
+    fake.write(QStringLiteral("proc/self/mountinfo"), "3 0 8:32 / / rw - ext4 /dev/sdc rw\n"
+                                                      "1 0 8:0 / /data rw - ext4 /dev/sda rw\n"
                                                       "2 0 8:16 / /data/deep rw - ext4 /dev/sdb rw\n");
     fake.write(QStringLiteral("proc/swaps"),
                "Filename Type Size Used Priority\n/data/deep/swapfile file 1 0 -2\n");
-    QCOMPARE(LinuxSession(fake.tree()).systemVolumes(), QStringList({QStringLiteral("/data/deep")}));
+    QCOMPARE(LinuxSession(fake.tree()).systemVolumes(),
+             QStringList({QStringLiteral("/"), QStringLiteral("/data/deep")}));
 }
 
 void tst_BlockTree::aSystemRunningFromMemoryHasNoSystemVolume()
@@ -177,6 +295,75 @@ void tst_BlockTree::aSystemRunningFromMemoryHasNoSystemVolume()
     fake.addDrive(QStringLiteral("sda"), "8:0", 100 * MiB);
     fake.write(QStringLiteral("proc/self/mountinfo"), "1 0 0:20 / / rw - overlay overlay rw,lowerdir=/a\n");
     QCOMPARE(LinuxSession(fake.tree()).systemVolumes(), QStringList());
+}
+
+void tst_BlockTree::aLiveSystemGuardsItsMedium()
+{
+    // A stick with an image in it; the internal drive is mounted to be looked at, and stays erasable.
+    FakeSystemTree fake;
+    fake.addDrive(QStringLiteral("sda"), "8:0", 100 * MiB);
+    fake.addDrive(QStringLiteral("sdb"), "8:16", 100 * MiB);
+    fake.addDrive(QStringLiteral("loop0"), "7:0", 50 * MiB);
+    fake.write(QStringLiteral("sys/block/loop0/ro"), "1\n");
+    fake.write(QStringLiteral("sys/block/loop0/loop/backing_file"), "/run/live/medium/live/root.squashfs\n");
+    fake.write(QStringLiteral("proc/self/mountinfo"),
+               "1 0 0:20 / / rw - overlay overlay rw,lowerdir=/run/live/rootfs,upperdir=/run/live/cow/rw\n"
+               "2 1 8:16 / /run/live/medium ro - vfat /dev/sdb ro\n"
+               "3 1 7:0 / /run/live/rootfs ro - squashfs /dev/loop0 ro\n"
+               "4 1 0:21 / /run/live/cow rw - tmpfs tmpfs rw\n"
+               "5 1 8:0 / /mnt rw - ext4 /dev/sda rw\n");
+    QCOMPARE(LinuxSession(fake.tree()).systemVolumes(),
+             QStringList({QStringLiteral("/run/live/rootfs"), QStringLiteral("/run/live/medium")}));
+}
+
+void tst_BlockTree::anOverlayOverOtherDrives()
+{
+    FakeSystemTree fake;
+    fake.addDrive(QStringLiteral("sda"), "8:0", 100 * MiB);
+    fake.addDrive(QStringLiteral("sdb"), "8:16", 100 * MiB);
+    fake.addDrive(QStringLiteral("sdc"), "8:32", 100 * MiB);
+    fake.write(QStringLiteral("proc/self/mountinfo"),
+               "1 0 0:20 / / rw - overlay overlay rw,lowerdir=/ro/one:/ro/two,upperdir=/rw/up\n"
+               "2 1 8:0 / /ro ro - ext4 /dev/sda ro\n"
+               "3 1 8:16 / /ro/two ro - ext4 /dev/sdb ro\n"
+               "4 1 8:32 / /rw rw - ext4 /dev/sdc rw\n");
+    QCOMPARE(LinuxSession(fake.tree()).systemVolumes(),
+             QStringList({QStringLiteral("/ro"), QStringLiteral("/ro/two"), QStringLiteral("/rw")}));
+}
+
+void tst_BlockTree::aRootWithoutAMediumGuardsEveryMountedDrive()
+{
+    FakeSystemTree fake;
+    fake.addDrive(QStringLiteral("sda"), "8:0", 100 * MiB);
+    fake.addDrive(QStringLiteral("sdb"), "8:16", 100 * MiB);
+    fake.addDrive(QStringLiteral("loop0"), "7:0", 50 * MiB);
+    fake.write(QStringLiteral("sys/block/loop0/loop/backing_file"), "/data/image\n");
+    fake.write(QStringLiteral("proc/self/mountinfo"), "1 0 0:20 / / rw - tmpfs tmpfs rw\n"
+                                                      "2 1 8:0 / /data rw - ext4 /dev/sda rw\n"
+                                                      "3 1 7:0 / /image rw - ext4 /dev/loop0 rw\n");
+    QCOMPARE(LinuxSession(fake.tree()).systemVolumes(),
+             QStringList({QStringLiteral("/data"), QStringLiteral("/image")}));
+}
+
+void tst_BlockTree::anOverlayOverItselfEnds()
+{
+    FakeSystemTree fake;
+    fake.write(QStringLiteral("proc/self/mountinfo"),
+               "1 0 0:20 / / rw - overlay overlay rw,lowerdir=/a:/b,upperdir=/c\n");
+    QCOMPARE(LinuxSession(fake.tree()).systemVolumes(), QStringList());
+}
+
+void tst_BlockTree::otherPlacesOfTheSystem()
+{
+    FakeSystemTree fake;
+    fake.addDrive(QStringLiteral("sda"), "8:0", 100 * MiB);
+    fake.addDrive(QStringLiteral("sdb"), "8:16", 100 * MiB);
+    fake.addDrive(QStringLiteral("sdc"), "8:32", 100 * MiB);
+    fake.write(QStringLiteral("proc/self/mountinfo"), "1 0 8:0 / / rw - ext4 /dev/sda rw\n"
+                                                      "2 1 8:16 / /efi rw - vfat /dev/sdb rw\n"
+                                                      "3 1 8:32 / /nix rw - ext4 /dev/sdc rw\n");
+    QCOMPARE(LinuxSession(fake.tree()).systemVolumes(),
+             QStringList({QStringLiteral("/"), QStringLiteral("/efi"), QStringLiteral("/nix")}));
 }
 
 void tst_BlockTree::oneVolumePerDevice()

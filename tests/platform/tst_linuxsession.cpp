@@ -28,7 +28,8 @@ void tst_LinuxSession::userIsNamedByTheNumber()
 void tst_LinuxSession::rootsOfTheSystem()
 {
     LinuxSession session;
-    for (const QString &root : {u"/"_s, u"/boot"_s, u"/boot/efi"_s, u"/usr"_s, u"/var/"_s, u"/home"_s}) {
+    for (const QString &root :
+         {u"/"_s, u"/boot"_s, u"/boot/efi"_s, u"/usr"_s, u"/var/"_s, u"/home"_s, u"/efi"_s, u"/nix"_s}) {
         QVERIFY2(session.isSystemRoot(root), qPrintable(root));
         QVERIFY2(session.holdsSystemFiles(root), qPrintable(root));
     }

@@ -50,8 +50,10 @@ private slots:
     void busyVolumeIsNotLocked();
     void unlockedVolumeTakesNoWrites();
     void lockedVolumeTakesWrites();
+    void readOnlyMountIsUnmountedAndWritten();
     void lockIsExclusive();
     void volumeOfAnotherDriveIsRefused();
+    void volumeOnTwoDrivesIsRefusedForEither();
     void changedDriveIsRefused();
     void driveInUseIsNotOpenedAlone();
     void driveOpensBesideOwnVolumes();
@@ -168,6 +170,20 @@ void tst_LinuxVolumes::lockedVolumeTakesWrites()
     QCOMPARE(volume.value()->write(data.data(), data.size()).code(), quint32(SharingViolation));
 }
 
+void tst_LinuxVolumes::readOnlyMountIsUnmountedAndWritten()
+{
+    QVERIFY(m_volume->remount(QStringLiteral("ro")));
+    auto query = devices().queryVolume(m_volume->mountPoint());
+    QVERIFY(query.ok());
+    QVERIFY(!query.value()->use().value().isReadOnly);
+    auto volume = devices().openVolume(m_volume->mountPoint(), m_identity);
+    QVERIFY(volume.ok());
+    QVERIFY(volume.value()->lock().ok());
+    AlignedBuffer data(4096);
+    QCOMPARE(volume.value()->write(data.data(), data.size()).value(), data.size());
+    QCOMPARE(m_volume->readImage(0, 4096), QByteArray(4096, '\0'));
+}
+
 void tst_LinuxVolumes::lockIsExclusive()
 {
     auto first = devices().openVolume(m_volume->mountPoint(), m_identity);
@@ -186,6 +202,33 @@ void tst_LinuxVolumes::volumeOfAnotherDriveIsRefused()
     other.number = m_number + 100;
     QCOMPARE(devices().openVolume(m_volume->mountPoint(), other).code(), quint32(NotReady));
     QVERIFY(m_volume->isMounted());
+}
+
+void tst_LinuxVolumes::volumeOnTwoDrivesIsRefusedForEither()
+{
+    if (const QString reason = LoopMount::unavailableReason(LoopMount::Btrfs); !reason.isEmpty())
+        QSKIP(qPrintable(reason));
+    LoopMount::Options bare;
+    bare.fileSystem = LoopMount::NoFileSystem;
+    bare.sizeBytes = qint64(160) << 20;
+    const LoopMount second(m_folder->path(), bare, QStringLiteral("second"));
+    QVERIFY2(second.isReady(), qPrintable(second.error()));
+    LoopMount::Options both;
+    both.fileSystem = LoopMount::Btrfs;
+    both.sizeBytes = bare.sizeBytes;
+    both.makeArguments = {QStringLiteral("-f"), second.device()};
+    const LoopMount first(m_folder->path(), both, QStringLiteral("first"));
+    QVERIFY2(first.isReady(), qPrintable(first.error()));
+
+    auto query = devices().queryVolume(first.mountPoint());
+    QVERIFY(query.ok());
+    QCOMPARE(query.value()->extents(ManyExtents).value().size(), 2);
+    for (const QString &device : {first.device(), second.device()}) {
+        const DriveIdentity identity = identityOf(devices(), numberOf(devices(), device));
+        QVERIFY(identity.number >= 0);
+        QCOMPARE(devices().openVolume(first.mountPoint(), identity).code(), quint32(NotReady));
+    }
+    QVERIFY(first.isMounted());
 }
 
 void tst_LinuxVolumes::changedDriveIsRefused()

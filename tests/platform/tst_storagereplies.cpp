@@ -72,6 +72,7 @@ class tst_StorageReplies : public QObject
     Q_OBJECT
 
 private slots:
+    void volumeOnOneDriveOnly();
     void aSataReplyGivesTrimmedTexts();
     void everyShorterReplyIsSafe();
     void anOffsetOf0MeansNoText();
@@ -410,6 +411,17 @@ void tst_StorageReplies::randomRepliesAreSafe()
         QVERIFY(extents.size() * 24 + 8 <= std::max<qsizetype>(reply.size(), 8));
         QCOMPARE(platform::decodeExtents(platform::encodeExtents(extents)), extents);
     }
+}
+
+void tst_StorageReplies::volumeOnOneDriveOnly()
+{
+    using platform::liesOnlyOn;
+    QVERIFY(liesOnlyOn({{2, 0, 512}}, 2));
+    QVERIFY(liesOnlyOn({{2, 0, 512}, {2, 4096, 512}}, 2));
+    QVERIFY(!liesOnlyOn({{2, 0, 512}, {3, 0, 512}}, 2));
+    QVERIFY(!liesOnlyOn({{3, 0, 512}, {2, 0, 512}}, 2));
+    QVERIFY(!liesOnlyOn({{2, 0, 512}, {-1, 0, 512}}, 2));
+    QVERIFY(!liesOnlyOn({}, 2));
 }
 
 QUORVEX_SUITE(tst_StorageReplies, suites::NoApplication)

@@ -47,8 +47,11 @@ struct FourDrives
 
     FourDrives()
     {
-        for (int number = 0; number < 4; ++number)
-            devices.drives.insert(number, FakeDrive::rotating());
+        for (int number = 0; number < 4; ++number) {
+            FakeDrive drive = FakeDrive::rotating();
+            drive.geometry = platform::Geometry{(number + 1) * qint64(1'000'000'512), 512};
+            devices.drives.insert(number, drive);
+        }
     }
     void mount(const QString &name, const QList<int> &drives)
     {
@@ -72,6 +75,13 @@ class tst_DiskManager : public QObject
     Q_OBJECT
 
 private slots:
+    void aVolumeOnTwoDisksIsListedForBoth();
+    void aVolumeBesideADeviceWithoutANumberSpansToo();
+    void aSystemVolumeOnADeviceWithoutANumberGuardsNoDisk();
+    void theSameUnitOnAnotherWayIsASystemDiskToo();
+    void moreExtentsThanAShortReplyHasRoomFor();
+    void obstaclesOfADisk();
+    void aDiskThatAnswersNothingHasNoObstacle();
     void noDriveGivesAnEmptyList();
     void aGapDoesNotEndTheScan();
     void every32NumbersAreProbedInOrderAndNoMore();
@@ -659,6 +669,98 @@ void tst_DiskManager::nothingIsKeptBetweenCalls()
     QCOMPARE(driveLetters(disks.last().partitions), QStringList{u"U:"_s});
     pc.devices.mountOrder.clear();
     QVERIFY(DiskManager::enumerateDisks().last().partitions.isEmpty());
+}
+
+void tst_DiskManager::aVolumeOnTwoDisksIsListedForBoth()
+{
+    FourDrives pc;
+    pc.mount(u"D:"_s, {1});
+    pc.mount(u"M:"_s, {3, 1, 2});
+    pc.mount(u"E:"_s, {1, 1});
+    QCOMPARE(DiskManager::spanningVolumesForDisk(1), QList<SpanningVolume>({{u"M:"_s, {2, 3}}}));
+    QCOMPARE(DiskManager::spanningVolumesForDisk(3), QList<SpanningVolume>({{u"M:"_s, {1, 2}}}));
+    QVERIFY(DiskManager::spanningVolumesForDisk(0).isEmpty());
+    QCOMPARE(driveLetters(DiskManager::partitionsForDisk(1)), QStringList{u"D:"_s});
+}
+
+void tst_DiskManager::aVolumeBesideADeviceWithoutANumberSpansToo()
+{
+    FourDrives pc;
+    pc.mount(u"M:"_s, {1, -1});
+    QCOMPARE(DiskManager::spanningVolumesForDisk(1), QList<SpanningVolume>({{u"M:"_s, {-1}}}));
+    pc.machine.fakeSession.systemVolumeNames = {u"M:"_s};
+    QCOMPARE(pc.systemDisks(), QList<int>{1});
+}
+
+void tst_DiskManager::aSystemVolumeOnADeviceWithoutANumberGuardsNoDisk()
+{
+    FourDrives pc;
+    pc.mount(u"/rootfs"_s, {-1});
+    pc.mount(u"/medium"_s, {2});
+    pc.machine.fakeSession.systemVolumeNames = {u"/rootfs"_s, u"/medium"_s};
+    pc.devices.drives[2] = FakeDrive::usbStick();
+    QCOMPARE(pc.systemDisks(), QList<int>{2});
+}
+
+void tst_DiskManager::theSameUnitOnAnotherWayIsASystemDiskToo()
+{
+    const auto named = [](const QString &model, const QString &serial, qint64 size) {
+        FakeDrive drive = FakeDrive::rotating();
+        drive.descriptor = platform::encodeDeviceDescriptor({.productId = model,
+                                                             .serialNumber = serial,
+                                                             .removableMedia = false,
+                                                             .busType = platform::BusSas});
+        drive.geometry = platform::Geometry{size, 512};
+        return drive;
+    };
+    FourDrives pc;
+    pc.devices.drives = {{0, named(u"A"_s, u"1"_s, 1 << 20)},
+                         {1, named(u"A"_s, u"1"_s, 1 << 20)},
+                         {2, named(u"A"_s, u"2"_s, 1 << 20)},
+                         {3, named(u"A"_s, u"1"_s, 2 << 20)},
+                         {4, named(u"B"_s, u"1"_s, 1 << 20)}};
+    pc.mount(u"C:"_s, {1});
+    pc.machine.fakeSession.systemVolumeNames = {u"C:"_s};
+    QCOMPARE(pc.systemDisks(), QList<int>({0, 1}));
+
+    for (FakeDrive &drive : pc.devices.drives)
+        drive = named(u"A"_s, {}, 1 << 20);
+    QCOMPARE(pc.systemDisks(), QList<int>{1});
+}
+
+void tst_DiskManager::moreExtentsThanAShortReplyHasRoomFor()
+{
+    FourDrives pc;
+    QList<int> drives(platform::ManyExtents, 1);
+    drives.append(2);
+    pc.mount(u"M:"_s, drives);
+    QCOMPARE(DiskManager::spanningVolumesForDisk(1), QList<SpanningVolume>({{u"M:"_s, {2}}}));
+}
+
+void tst_DiskManager::obstaclesOfADisk()
+{
+    FourDrives pc;
+    pc.devices.drives[1].use = platform::DeviceUse{false, {u"RAID md0"_s}, {u"umount /m"_s, u"stop md0"_s}};
+    pc.devices.drives[2].use = platform::DeviceUse{true, {}, {}};
+    pc.mount(u"M:"_s, {1, 3});
+    pc.devices.volumes[u"M:"_s].use = platform::DeviceUse{false, {}, {u"umount /m"_s, u"umount /n"_s}};
+    const DiskObstacles first = DiskManager::obstacles(1);
+    QVERIFY(!first.isEmpty() && !first.isReadOnly);
+    QCOMPARE(first.spanningVolumes, QList<SpanningVolume>({{u"M:"_s, {3}}}));
+    QCOMPARE(first.holders, QStringList{u"RAID md0"_s});
+    QCOMPARE(first.releaseCommands, (QStringList{u"umount /m"_s, u"umount /n"_s, u"stop md0"_s}));
+    QVERIFY(DiskManager::obstacles(2).isReadOnly);
+    QVERIFY(!DiskManager::obstacles(2).isEmpty());
+    QVERIFY(!DiskManager::obstacles(3).isEmpty());
+    QVERIFY(DiskManager::obstacles(0).isEmpty());
+}
+
+void tst_DiskManager::aDiskThatAnswersNothingHasNoObstacle()
+{
+    FourDrives pc;
+    pc.devices.drives[1].use = fakeFailure(platform::NotSupported);
+    QVERIFY(DiskManager::obstacles(1).isEmpty());
+    QVERIFY(DiskManager::obstacles(30).isEmpty());
 }
 
 void tst_DiskManager::noHandleStaysOpen()

@@ -32,6 +32,7 @@ struct FakeDrive
     platform::Result<QByteArray> descriptor = QByteArray();
     platform::Result<bool> seekPenalty = true;
     platform::Result<bool> trim = false;
+    platform::Result<platform::DeviceUse> use = platform::DeviceUse();
 
     static FakeDrive onBus(quint32 bus)
     {
@@ -61,7 +62,11 @@ struct FakeDrive
     }
     static FakeDrive nvme()
     {
-        FakeDrive drive = onBus(platform::BusNvme);
+        FakeDrive drive;
+        drive.descriptor = platform::encodeDeviceDescriptor({.productId = QStringLiteral("Drive"),
+                                                             .serialNumber = QStringLiteral("N1"),
+                                                             .removableMedia = false,
+                                                             .busType = platform::BusNvme});
         drive.seekPenalty = false;
         drive.trim = true;
         return drive;
@@ -101,6 +106,7 @@ struct FakeVolume
     platform::Status opening;
     platform::Status extentsAnswer; // MoreData comes by itself
     QList<platform::Extent> extents;
+    platform::DeviceUse use;
 
     static FakeVolume onDrives(const QString &name, const QList<int> &drives)
     {
@@ -206,6 +212,7 @@ private:
         platform::Result<QByteArray> descriptor() override { return fakeFailure(platform::NotSupported); }
         platform::Result<bool> seekPenalty() override { return fakeFailure(platform::NotSupported); }
         platform::Result<bool> trimEnabled() override { return fakeFailure(platform::NotSupported); }
+        platform::Result<platform::DeviceUse> use() override { return fakeFailure(platform::NotSupported); }
         platform::Result<QList<platform::Extent>> extents(int) override
         {
             return fakeFailure(platform::NotSupported);
@@ -243,6 +250,7 @@ private:
             ++m_asked.trim;
             return m_drive.trim;
         }
+        platform::Result<platform::DeviceUse> use() override { return m_drive.use; }
 
     private:
         const FakeDrive m_drive;
@@ -264,6 +272,7 @@ private:
                 return fakeFailure(platform::MoreData);
             return m_volume.extents;
         }
+        platform::Result<platform::DeviceUse> use() override { return m_volume.use; }
 
     private:
         const FakeVolume m_volume;

@@ -47,6 +47,8 @@ public:
         addDrive(name, number, size);
         for (const QString &slave : slaves)
             QDir().mkpath(path(QStringLiteral("sys/devices/%1/slaves/%2").arg(name, slave)));
+        for (const QString &slave : slaves)
+            QDir().mkpath(path(QStringLiteral("sys/class/block/%1/holders/%2").arg(slave, name)));
     }
 
     void addBtrfs(const QString &uuid, const QStringList &members)

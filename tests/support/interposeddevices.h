@@ -72,6 +72,10 @@ public:
     {
         return asked("trimEnabled", [this] { return m_target->trimEnabled(); });
     }
+    platform::Result<platform::DeviceUse> use() override
+    {
+        return asked("use", [this] { return m_target->use(); });
+    }
     platform::Result<QList<platform::Extent>> extents(int maxExtents) override
     {
         return asked("extents", [this, maxExtents] { return m_target->extents(maxExtents); });

@@ -56,6 +56,8 @@ struct MemoryDrive
     QString serialNumber;
     qint64 sizeBytes = 0;
     qint32 sectorSize = 512;
+    qint64 unreachableBytes = 0; // behind the last whole sector
+    platform::DeviceUse use;
     QByteArray medium;
     // What a write at the end of the medium answers; NoError stands for success with 0 bytes.
     platform::ErrorCode endError = platform::SectorNotFound;
@@ -182,6 +184,7 @@ public:
     }
     platform::Result<bool> seekPenalty() override { return false; }
     platform::Result<bool> trimEnabled() override { return false; }
+    platform::Result<platform::DeviceUse> use() override { return m_drive.use; }
     platform::Result<QList<platform::Extent>> extents(int) override
     {
         return platform::Status{platform::NotSupported, 0, "extents"};
@@ -201,6 +204,10 @@ public:
     platform::Result<QByteArray> descriptor() override { return unsupported(); }
     platform::Result<bool> seekPenalty() override { return unsupported(); }
     platform::Result<bool> trimEnabled() override { return unsupported(); }
+    platform::Result<platform::DeviceUse> use() override
+    {
+        return platform::DeviceUse{false, {}, {QStringLiteral("umount ") + m_volume.name}};
+    }
     platform::Result<QList<platform::Extent>> extents(int maxExtents) override
     {
         if (m_volume.extents.size() > maxExtents)
@@ -318,6 +325,7 @@ public:
     Drive(MemoryDevices &devices, const MemoryDrive &drive)
         : Transfers(devices, {{drive.number, 0, drive.medium.size()}}, drive.sectorSize, drive.endError)
         , m_sizeBytes(drive.sizeBytes)
+        , m_length(drive.sizeBytes + drive.unreachableBytes)
     {
         ++m_devices.m_openHandles;
         ++m_devices.m_openings;
@@ -331,10 +339,11 @@ public:
     {
         return platform::Geometry{m_sizeBytes, m_sectorSize};
     }
-    platform::Result<qint64> length() override { return m_sizeBytes; }
+    platform::Result<qint64> length() override { return m_length; }
 
 private:
     qint64 m_sizeBytes;
+    qint64 m_length;
 };
 
 class MemoryDevices::Volume : public Transfers<platform::VolumeDevice>
@@ -456,7 +465,7 @@ MemoryDevices::openVolume(const QString &name, const platform::DriveIdentity &id
     const MemoryDriveVolume *volume = find(name);
     if (!volume || volume->extents.isEmpty())
         return platform::Status{platform::FileNotFound, 0, "open volume"};
-    if (!isSame(identity) || volume->extents.first().diskNumber != identity.number)
+    if (!isSame(identity) || !platform::liesOnlyOn(volume->extents, identity.number))
         return platform::Status{platform::NotReady, 0, "identity check"};
     return std::unique_ptr<platform::VolumeDevice>(
         std::make_unique<Volume>(*this, *volume, m_drives.at(identity.number)));

@@ -22,6 +22,8 @@ Outcome<ExitCode> run(const CommandContext &context)
     const auto disk = findDriveToErase(context.arguments.constFirst(), DiskManager::enumerateDisks());
     if (!disk)
         return disk.refusal();
+    if (const auto refusal = checkObstacles(*disk))
+        return *refusal;
 
     auto task = std::make_unique<WipeTask>();
     task->setOperationType(DiskWipe);
@@ -32,7 +34,10 @@ Outcome<ExitCode> run(const CommandContext &context)
     plan.doomedPaths.append(disk->devicePath);
     for (const PartitionInfo &partition : disk->partitions)
         plan.doomedPaths.append(partition.driveLetter);
-    plan.lastCheck = [&disk] { return probeDrive(*disk); };
+    plan.lastCheck = [&disk] {
+        const auto refusal = checkObstacles(*disk);
+        return refusal ? refusal : probeDrive(*disk);
+    };
     return carryOut(plan, *options, context, words());
 }
 

@@ -48,6 +48,7 @@ public:
     Result<QByteArray> descriptor() override { return descriptorOf(m_path); }
     Result<bool> seekPenalty() override { return Status{NotSupported, 0, "seek penalty"}; }
     Result<bool> trimEnabled() override { return Status{NotSupported, 0, "trim"}; }
+    Result<DeviceUse> use() override { return DeviceUse{}; }
     Result<QList<Extent>> extents(int) override { return Status{NotSupported, 0, "extents"}; }
 
 private:

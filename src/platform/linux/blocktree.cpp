@@ -79,6 +79,46 @@ DriveExtent BlockTree::leafExtent(const QByteArray &device) const
     return {drive, readNumber(path + QLatin1String("/start")) * KernelSector, length};
 }
 
+bool BlockTree::isReadOnly(const QByteArray &device) const
+{
+    return readNumber(folder(device) + QLatin1String("/ro")) != 0;
+}
+
+QStringList BlockTree::partitionsOf(const QByteArray &device) const
+{
+    const QDir whole(folder(device));
+    QStringList partitions = whole.entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+    partitions.removeIf([&whole](const QString &name) {
+        return !QFileInfo::exists(whole.filePath(name + QLatin1String("/partition")));
+    });
+    return partitions;
+}
+
+QList<QByteArray> BlockTree::holdersOf(const QByteArray &device) const
+{
+    QList<QByteArray> holders;
+    QList<QByteArray> open{device};
+    while (!open.isEmpty()) {
+        const QByteArray next = open.takeFirst();
+        if (!exists(next))
+            continue;
+        for (const QString &partition : partitionsOf(next))
+            open.append(deviceOfName(partition));
+        const QStringList above = QDir(folder(next) + QLatin1String("/holders"))
+                                      .entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot);
+        for (const QString &name : above) {
+            const QByteArray holder = deviceOfName(name);
+            if (holder.isEmpty())
+                continue;
+            // Reached on a longer way it belongs further up.
+            holders.removeAll(holder);
+            holders.append(holder);
+            open.append(holder);
+        }
+    }
+    return holders;
+}
+
 QList<DriveExtent> BlockTree::extentsOf(const QByteArray &device) const
 {
     QList<DriveExtent> extents;

@@ -44,7 +44,12 @@ public:
     // is its own only extent.
     QList<DriveExtent> extentsOf(const QByteArray &device) const;
 
+    // What is built on a device or on its partitions: a device never comes before one that it stands on.
+    QList<QByteArray> holdersOf(const QByteArray &device) const;
+    bool isReadOnly(const QByteArray &device) const;
+
 private:
+    QStringList partitionsOf(const QByteArray &device) const;
     QString folder(const QByteArray &device) const;
     DriveExtent leafExtent(const QByteArray &device) const;
 

@@ -1,6 +1,7 @@
 #include "platform/linux/linuxdevices.h"
 
 #include "platform/filenames.h"
+#include "platform/linux/devicerelease.h"
 #include "platform/linux/drivedescription.h"
 #include "platform/linux/volumelabel.h"
 #include "platform/storagereplies.h"
@@ -18,15 +19,16 @@ Status noSuchDrive()
     return {FileNotFound, 0, "drive number"};
 }
 
-// A whole drive or a volume, by its kernel name and the extents found when it was opened.
+// A whole drive or a volume, by its kernel name and what was found when it was opened.
 class LinuxQuery : public DeviceQuery
 {
 public:
-    LinuxQuery(SystemTree tree, const QString &kernelName, QList<Extent> extents)
+    LinuxQuery(SystemTree tree, const QString &kernelName, QList<Extent> extents, DeviceUse use = {})
         : m_tree(std::move(tree))
         , m_name(kernelName)
         , m_queue(m_tree.sys + QLatin1String("/block/") + kernelName + QLatin1String("/queue/"))
         , m_extents(std::move(extents))
+        , m_use(std::move(use))
     {}
 
     Result<Geometry> geometry() override
@@ -50,6 +52,7 @@ public:
     {
         return readNumber(m_queue + QLatin1String("discard_max_bytes")) > 0;
     }
+    Result<DeviceUse> use() override { return m_use; }
     Result<QList<Extent>> extents(int maxExtents) override
     {
         if (m_extents.size() > maxExtents)
@@ -62,6 +65,7 @@ private:
     QString m_name;
     QString m_queue;
     QList<Extent> m_extents;
+    DeviceUse m_use;
 };
 
 bool isOnLocalDrive(const QString &kernelName)
@@ -91,7 +95,11 @@ Result<std::unique_ptr<DeviceQuery>> LinuxDevices::queryDrive(int number)
     if (!drive)
         return noSuchDrive();
     const QList<Extent> itself{{number, 0, drive->sizeBytes}};
-    return std::unique_ptr<DeviceQuery>(std::make_unique<LinuxQuery>(m_tree, drive->kernelName, itself));
+    const DeviceRelease release(m_tree);
+    DeviceUse use{m_blocks.isReadOnly(drive->device), release.holders(drive->device),
+                  release.commands(drive->device)};
+    return std::unique_ptr<DeviceQuery>(
+        std::make_unique<LinuxQuery>(m_tree, drive->kernelName, itself, std::move(use)));
 }
 
 QList<Extent> LinuxDevices::extentsOf(const QByteArray &device)
@@ -105,10 +113,9 @@ QList<Extent> LinuxDevices::extentsOf(const QByteArray &device)
     members.prepend(device);
     for (const QByteArray &member : std::as_const(members)) {
         for (const DriveExtent &found : m_blocks.extentsOf(member)) {
-            for (const Drive &drive : drives) {
-                if (drive.device == found.drive)
-                    extents.append({drive.number, found.startingOffset, found.length});
-            }
+            const auto drive = std::ranges::find(drives, found.drive, &Drive::device);
+            const int number = drive == drives.end() ? -1 : drive->number;
+            extents.append({number, found.startingOffset, found.length});
         }
     }
     return extents;
@@ -119,8 +126,10 @@ Result<std::unique_ptr<DeviceQuery>> LinuxDevices::queryVolume(const QString &na
     const VolumeTable::Volume volume = m_volumes.byName(name);
     if (volume.device.isEmpty())
         return Status{FileNotFound, 0, "volume name"};
-    return std::unique_ptr<DeviceQuery>(
-        std::make_unique<LinuxQuery>(m_tree, m_blocks.kernelName(volume.device), extentsOf(volume.device)));
+    DeviceUse use{
+        m_blocks.isReadOnly(volume.device), {}, DeviceRelease(m_tree).unmountCommands(volume.device)};
+    return std::unique_ptr<DeviceQuery>(std::make_unique<LinuxQuery>(
+        m_tree, m_blocks.kernelName(volume.device), extentsOf(volume.device), std::move(use)));
 }
 
 Status LinuxDevices::checkIdentity(const DriveIdentity &chosen, const Drive &present) const
@@ -165,7 +174,7 @@ Result<std::unique_ptr<VolumeDevice>> LinuxDevices::openVolume(const QString &na
         return fd.status();
     const QList<Extent> extents = extentsOf(volume.device);
     const std::optional<Drive> present = m_registry.byNumber(drive.number);
-    if (!present || extents.isEmpty() || extents.first().diskNumber != drive.number)
+    if (!present || !liesOnlyOn(extents, drive.number))
         return Status{NotReady, 0, "identity check"};
     const Status identity = checkIdentity(drive, *present);
     if (!identity)

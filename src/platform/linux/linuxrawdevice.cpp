@@ -62,7 +62,7 @@ Result<BlockTransfers> BlockTransfers::on(FileDescriptor fd)
     if (sector <= 0)
         return Status{NotReady, 0, "BLKSSZGET"};
     const auto whole = static_cast<qint64>(size) / sector * sector;
-    return BlockTransfers(std::move(fd), Geometry{whole, sector});
+    return BlockTransfers(std::move(fd), Geometry{whole, sector}, static_cast<qint64>(size));
 }
 
 bool BlockTransfers::isAligned(const void *data, qint64 size) const

@@ -12,11 +12,13 @@ namespace platform {
 class BlockTransfers
 {
 public:
-    // Takes over a descriptor of a block device and asks it for its size. Bytes beyond the last whole logical
-    // sector cannot be addressed and do not count.
+    // Takes over a descriptor of a block device and asks it for its size.
     static Result<BlockTransfers> on(FileDescriptor fd);
 
+    // What can be addressed, in whole sectors.
     Geometry geometry() const { return m_geometry; }
+    // Of the device, also of bytes behind the last whole sector.
+    qint64 length() const { return m_length; }
     Status seek(qint64 position);
     Result<qint64> read(void *data, qint64 size);
     Result<qint64> write(const void *data, qint64 size);
@@ -24,14 +26,16 @@ public:
     void exchangeDescriptor(FileDescriptor fd) { m_fd = std::move(fd); }
 
 private:
-    BlockTransfers(FileDescriptor fd, Geometry geometry)
+    BlockTransfers(FileDescriptor fd, Geometry geometry, qint64 length)
         : m_fd(std::move(fd))
         , m_geometry(geometry)
+        , m_length(length)
     {}
     bool isAligned(const void *data, qint64 size) const;
 
     FileDescriptor m_fd;
     Geometry m_geometry;
+    qint64 m_length;
     qint64 m_position = 0;
 };
 
@@ -49,7 +53,7 @@ public:
     {}
     Result<Geometry> geometry() override { return m_transfers.geometry(); }
     Result<qint32> bytesPerSector() override { return m_transfers.geometry().bytesPerSector; }
-    Result<qint64> length() override { return m_transfers.geometry().sizeBytes; }
+    Result<qint64> length() override { return m_transfers.length(); }
     Status seek(qint64 position) override { return m_transfers.seek(position); }
     Result<qint64> read(void *data, qint64 size) override { return m_transfers.read(data, size); }
     Result<qint64> write(const void *data, qint64 size) override { return m_transfers.write(data, size); }

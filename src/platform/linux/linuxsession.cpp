@@ -1,5 +1,7 @@
 #include "platform/linux/linuxsession.h"
 
+#include "platform/linux/mediumtrace.h"
+
 #include <QDir>
 
 #include <unistd.h>
@@ -10,9 +12,9 @@ namespace {
 
 const QStringList &systemMountPoints()
 {
-    static const QStringList points{QStringLiteral("/"),         QStringLiteral("/boot"),
-                                    QStringLiteral("/boot/efi"), QStringLiteral("/usr"),
-                                    QStringLiteral("/var"),      QStringLiteral("/home")};
+    static const QStringList points{
+        QStringLiteral("/"),    QStringLiteral("/boot"), QStringLiteral("/boot/efi"), QStringLiteral("/usr"),
+        QStringLiteral("/var"), QStringLiteral("/home"), QStringLiteral("/efi"),      QStringLiteral("/nix")};
     return points;
 }
 
@@ -31,12 +33,16 @@ LinuxSession::LinuxSession(const SystemTree &tree)
 
 QStringList LinuxSession::systemVolumes()
 {
+    const MediumTrace trace(m_tree);
     QStringList volumes;
-    for (const QString &point : systemMountPoints()) {
-        const VolumeTable::Volume volume = m_volumes.byName(point);
-        if (volume.isMounted && !volume.device.isEmpty())
-            volumes.append(point);
+    for (const QString &point : systemMountPoints())
+        volumes += trace.volumesUnder(point);
+    // A root that leads to no medium in sight may stand on any that is in use.
+    if (trace.volumesUnder(QStringLiteral("/")).isEmpty()) {
+        for (const VolumeTable::Volume &volume : m_volumes.mounted())
+            volumes += trace.volumesUnder(volume.name);
     }
+    volumes.removeDuplicates();
     for (const QString &area : parseSwaps(readAttribute(m_tree.proc + QLatin1String("/swaps")))) {
         if (isInMemory(area))
             continue;

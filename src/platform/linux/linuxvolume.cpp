@@ -54,14 +54,21 @@ VolumeTable::Volume VolumeTable::byName(const QString &name) const
     return {name, BlockTree::deviceOfNode(name), {}, false};
 }
 
-QString VolumeTable::mountPointOver(const QString &path) const
+MountEntry VolumeTable::entryOver(const QString &path) const
 {
     MountEntry nearest;
     for (const MountEntry &entry : entries()) {
-        const bool isAbove = entry.mountPoint == u"/" || path.startsWith(entry.mountPoint + u'/');
+        const bool isAbove =
+            entry.mountPoint == u"/" || path == entry.mountPoint || path.startsWith(entry.mountPoint + u'/');
         if (isAbove && entry.mountPoint.size() >= nearest.mountPoint.size())
             nearest = entry;
     }
+    return nearest;
+}
+
+QString VolumeTable::mountPointOver(const QString &path) const
+{
+    const MountEntry nearest = entryOver(path);
     return nearest.mountPoint.isEmpty() || deviceOf(nearest).isEmpty() ? QString() : nearest.mountPoint;
 }
 

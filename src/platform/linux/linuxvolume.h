@@ -27,6 +27,8 @@ public:
     QList<Volume> mounted() const;
     // By mount point or node; an empty device means that there is none.
     Volume byName(const QString &name) const;
+    // The mount that a path lies on, the latest of several on one place.
+    MountEntry entryOver(const QString &path) const;
     // The mount point of the block device that holds the file of that path (a swap file, say); empty when
     // none does.
     QString mountPointOver(const QString &path) const;

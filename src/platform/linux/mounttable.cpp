@@ -36,7 +36,7 @@ QList<MountEntry> parseMountInfo(const QByteArray &text)
         if (separator < 0 || fields.size() < separator + 3)
             continue;
         entries.append({fields[2], unescaped(fields[3]), unescaped(fields[4]), fields[separator + 1],
-                        unescaped(fields[separator + 2])});
+                        unescaped(fields[separator + 2]), unescaped(fields.value(separator + 3))});
     }
     return entries;
 }

@@ -14,7 +14,8 @@ struct MountEntry
     QString root;            // the part of the file system that is mounted, "/" for all of it
     QString mountPoint;
     QByteArray fileSystem;
-    QString source; // usually a device node
+    QString source;    // usually a device node
+    QString options{}; // the file system's own
 };
 
 // Pure; lines that are not of the form are passed over. Order as in the text, which is the order of mounting.

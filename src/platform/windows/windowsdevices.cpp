@@ -37,14 +37,14 @@ Status checkIdentity(const DriveIdentity &chosen, HANDLE drive)
     return {NotReady, unanswered.native, "identity check"};
 }
 
-// The volume itself names the drive it begins on; a drive under that number which cannot even be opened tells
+// The volume itself names the drives it lies on; a drive under that number which cannot even be opened tells
 // nothing.
 Status checkVolume(HANDLE volume, const DriveIdentity &chosen, const QString &drivePath)
 {
     const Result<QList<Extent>> extents = askExtents(volume, ManyExtents);
     if (!extents)
         return {NotReady, extents.status().native, "volume extents"};
-    if (extents.value().isEmpty() || extents.value().first().diskNumber != chosen.number)
+    if (!liesOnlyOn(extents.value(), chosen.number))
         return {NotReady, 0, "volume extents"};
     const Result<WinHandle> drive = openForQuery(drivePath);
     if (drive)
@@ -84,7 +84,9 @@ Result<std::unique_ptr<DeviceQuery>> WindowsDevices::queryVolume(const QString &
     Result<WinHandle> volume = openForQuery(path);
     if (!volume)
         return volume.status();
-    return std::unique_ptr<DeviceQuery>(std::make_unique<WindowsQuery>(volume.take()));
+    // Takes the volume's letter and the volume offline.
+    const QStringList release{QStringLiteral("mountvol %1 /P").arg(name)};
+    return std::unique_ptr<DeviceQuery>(std::make_unique<WindowsQuery>(volume.take(), release));
 }
 
 Result<std::unique_ptr<RawDevice>> WindowsDevices::openDrive(const DriveIdentity &drive, DriveAccess access)

@@ -125,6 +125,15 @@ Result<bool> WindowsQuery::seekPenalty()
                    "StorageDeviceSeekPenaltyProperty");
 }
 
+Result<DeviceUse> WindowsQuery::use()
+{
+    DWORD returned = 0;
+    const Status writable = statusOf(win32().deviceIoControl(m_device.get(), IOCTL_DISK_IS_WRITABLE, nullptr,
+                                                             0, nullptr, 0, &returned, nullptr),
+                                     "IOCTL_DISK_IS_WRITABLE");
+    return DeviceUse{writable.code == WriteProtect, {}, m_releaseCommands};
+}
+
 Result<bool> WindowsQuery::trimEnabled()
 {
     return askFlag(m_device.get(), StorageDeviceTrimProperty, offsetof(DEVICE_TRIM_DESCRIPTOR, TrimEnabled),

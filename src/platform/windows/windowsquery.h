@@ -5,6 +5,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
 
 namespace platform {
 
@@ -29,18 +30,21 @@ Result<QList<Extent>> askExtents(HANDLE volume, int maxExtents);
 class WindowsQuery : public DeviceQuery
 {
 public:
-    explicit WindowsQuery(WinHandle device)
+    explicit WindowsQuery(WinHandle device, QStringList releaseCommands = {})
         : m_device(std::move(device))
+        , m_releaseCommands(std::move(releaseCommands))
     {}
 
     Result<Geometry> geometry() override { return askGeometry(m_device.get()); }
     Result<QByteArray> descriptor() override { return askDescriptor(m_device.get()); }
     Result<bool> seekPenalty() override;
     Result<bool> trimEnabled() override;
+    Result<DeviceUse> use() override;
     Result<QList<Extent>> extents(int maxExtents) override { return askExtents(m_device.get(), maxExtents); }
 
 private:
     WinHandle m_device;
+    QStringList m_releaseCommands;
 };
 
 } // namespace platform

@@ -78,6 +78,17 @@ void ConfirmDialog::addTexts(QBoxLayout *layout)
     layout->addWidget(prompt);
 }
 
+void ConfirmDialog::addNotice(const QString &text)
+{
+    QLabel *const notice = centredLabel(text, u"color: #92400e;"_s);
+    notice->setObjectName(u"dialogNotice"_s);
+    notice->setTextFormat(Qt::PlainText);
+    notice->setWordWrap(true);
+    auto *const column = qobject_cast<QBoxLayout *>(layout());
+    column->insertWidget(column->indexOf(findChild<QLabel *>(u"dialogPrompt"_s)), notice);
+    setFixedHeight(height() + notice->heightForWidth(width() - 2 * Margin) + column->spacing());
+}
+
 void ConfirmDialog::addInput(QBoxLayout *layout)
 {
     m_input = new QLineEdit;

@@ -16,6 +16,9 @@ class ConfirmDialog : public QDialog
 public:
     explicit ConfirmDialog(QWidget *parent = nullptr);
 
+    /// One more line under the message, plain text; the dialog grows by what it takes.
+    void addNotice(const QString &text);
+
 private slots:
     void onTextChanged(const QString &text);
     void onConfirmClicked();

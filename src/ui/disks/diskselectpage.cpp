@@ -3,6 +3,7 @@
 #include "services/diskmanager.h"
 #include "ui/disks/disktree.h"
 #include "ui/disks/disktreerows.h"
+#include "ui/disks/obstaclestext.h"
 #include "ui/style/pagestyle.h"
 
 #include <QBoxLayout>
@@ -143,6 +144,10 @@ void DiskSelectPage::refresh()
     for (int index = 0; index < m_disks.size(); ++index) {
         QTreeWidgetItem *row = DiskTreeRows::create(m_disks.at(index), index);
         m_tree->addTopLevelItem(row);
+        QStringList spanning;
+        for (const SpanningVolume &volume : DiskManager::spanningVolumesForDisk(m_disks.at(index).diskNumber))
+            spanning.append(ObstaclesText::of(volume));
+        row->setToolTip(DiskTreeRows::NameColumn, spanning.join(u'\n'));
         row->setExpanded(row->childCount() > 0);
     }
     m_tree->fitColumns();

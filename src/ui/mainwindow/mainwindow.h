@@ -87,6 +87,8 @@ private:
     void showHome();
     WipeTask &newTask(OperationType type);
     void takeDiskSelection();
+    bool hasObstacles();
+    QString erasedVolumesText() const;
     void setMenuEnabled(bool enabled);
 
     bool keepReport(const WipeReport &report, const OutcomeRecord &outcome);

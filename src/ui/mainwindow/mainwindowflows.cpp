@@ -2,10 +2,13 @@
 #include "ui/mainwindow/mainwindow.h"
 
 #include "engine/wipeengine.h"
+#include "model/displaytext.h"
 #include "model/wipetask.h"
 #include "prompts/prompts.h"
+#include "services/diskmanager.h"
 #include "ui/dialogs/confirmdialog.h"
 #include "ui/disks/diskselectpage.h"
+#include "ui/disks/obstaclestext.h"
 #include "ui/files/fileselectpage.h"
 #include "ui/methods/methodselectpage.h"
 #include "ui/progress/progresspage.h"
@@ -101,13 +104,47 @@ void MainWindow::takeDiskSelection()
         m_currentTask->setOperationType(isWholeDisk ? DiskWipe : PartitionWipe);
 }
 
+// Tells what is in the way of erasing the disk of the current task.
+bool MainWindow::hasObstacles()
+{
+    const OperationType type = m_currentTask->operationType();
+    if (type != DiskWipe && type != PartitionWipe)
+        return false;
+    const QString obstacles = ObstaclesText::of(DiskManager::obstacles(m_currentTask->disk().diskNumber));
+    if (obstacles.isEmpty())
+        return false;
+    Prompts::current().show(this, {QMessageBox::Warning,
+                                   tr("This Disk Cannot Be Erased"),
+                                   obstacles,
+                                   QMessageBox::Ok,
+                                   QMessageBox::NoButton,
+                                   {},
+                                   Qt::PlainText});
+    return true;
+}
+
+// A job on one partition goes over all volumes of its disk; empty when that says nothing new.
+QString MainWindow::erasedVolumesText() const
+{
+    const QList<PartitionInfo> partitions = m_currentTask->disk().partitions;
+    if (m_currentTask->operationType() != PartitionWipe || partitions.size() < 2)
+        return {};
+    QStringList names;
+    for (const PartitionInfo &partition : partitions)
+        names.append(displayText(partition.driveLetter));
+    return tr("All of these will be erased, not only %1\n%2")
+        .arg(displayText(m_currentTask->partition().driveLetter), names.join(QStringLiteral(", ")));
+}
+
 void MainWindow::onStartWipe()
 {
-    if (!m_currentTask)
+    if (!m_currentTask || hasObstacles())
         return;
     const WipeMethod method = m_methodPage->selectedMethod();
     m_currentTask->setMethod(method);
     ConfirmDialog confirmation(this);
+    if (const QString volumes = erasedVolumesText(); !volumes.isEmpty())
+        confirmation.addNotice(volumes);
     if (confirmation.exec() != QDialog::Accepted)
         return;
 

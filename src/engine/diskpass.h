@@ -1,0 +1,68 @@
+#pragma once
+
+#include "engine/chunkpipeline.h"
+#include "engine/diskjob.h"
+#include "engine/diskverification.h"
+#include "engine/heldvolumes.h"
+#include "engine/wipecoverage.h"
+#include "platform/devices.h"
+
+#include <QCoreApplication>
+#include <QString>
+
+#include <memory>
+#include <optional>
+
+class WipeTask;
+
+// What a disk job writes to: as long as a volume is held the volumes, else the drive itself.
+struct DiskMedium
+{
+    std::unique_ptr<platform::RawDevice> drive; // null when it could not be opened
+    HeldVolumes volumes;
+    qint64 size = 0; // bytes
+    qint32 sectorSize = 512;
+
+    qint64 sectorCount() const { return size / sectorSize; }
+};
+
+// Writes the passes of a disk job one after the other, reads back where the method asks for it, and keeps
+// what every pass has reached. One thread.
+class DiskPass
+{
+    Q_DECLARE_TR_FUNCTIONS(DiskWipeWorker)
+
+public:
+    // All outlive this.
+    DiskPass(DiskJob &job, const WipeTask &task, DiskMedium &medium);
+
+    // True also when it was left by a stop.
+    bool write(const PassPattern &pattern);
+    void releaseBuffers() { m_chunks.reset(); }
+
+    // Of all passes so far.
+    const WipeCoverage &coverage() const { return m_coverage; }
+    const DiskVerification &verification() const { return m_verification; }
+
+private:
+    enum class VolumeEnd { Complete, Boundary, Stopped, Failed };
+
+    bool writeDrive();
+    bool writeDriveChunks(qint64 &offset);
+    bool writeVolumes();
+    bool writeVolume(qsizetype index, qint64 &total);
+    void noteUncovered(qsizetype index, qint64 bytes);
+    VolumeEnd writeVolumeChunks(platform::VolumeDevice &volume, qint64 size, qint64 &position, qint64 &total);
+    VolumeEnd endOfVolume(const platform::Status &failure, qint64 position);
+    bool flush(platform::RawDevice &device);
+    bool verify(const PassPattern &pattern);
+    qint64 bufferSize() const;
+    qint64 chunkSize(qint64 remaining) const;
+
+    DiskJob &m_job;
+    const WipeTask &m_task;
+    DiskMedium &m_medium;
+    std::optional<ChunkPipeline> m_chunks;
+    DiskVerification m_verification;
+    WipeCoverage m_coverage;
+};

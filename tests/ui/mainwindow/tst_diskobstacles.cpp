@@ -1,0 +1,209 @@
+#include "support/suite.h"
+#include "ui/mainwindow/windowfixture.h"
+
+#include "support/fakedevices.h"
+#include "support/memorydevices.h"
+#include "ui/dialogs/confirmdialog.h"
+
+#include <QTreeWidget>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+constexpr qint64 Size = 4 << 20;
+
+// Drives in memory, and no files but those of the program.
+class DriveMachine : public platform::Platform
+{
+public:
+    MemoryDevices memory;
+    FakeSession fakeSession;
+
+    DriveMachine()
+    {
+        for (const int number : {0, 1})
+            memory.addDrive(MemoryDrive(number, Size));
+    }
+    platform::Files &files() override { return m_files->files(); }
+    platform::Folders &folders() override { return m_files->folders(); }
+    platform::Devices &devices() override { return memory; }
+    platform::Session &session() override { return fakeSession; }
+
+private:
+    std::unique_ptr<platform::Platform> m_files = platform::createPlatform({{}, true});
+};
+
+struct DriveWindow
+{
+    std::unique_ptr<DriveMachine> owned = std::make_unique<DriveMachine>();
+    DriveMachine &machine = *owned;
+    MemoryDevices &memory = machine.memory;
+
+    MemoryDriveVolume mirror()
+    {
+        MemoryDriveVolume volume;
+        volume.name = u"M:"_s;
+        volume.extents = {{0, 0, Size / 2}, {1, 0, Size / 2}};
+        return volume;
+    }
+};
+
+QTreeWidgetItem *diskRow(const WindowFixture &fixture, int index)
+{
+    return fixture.page()->findChild<QTreeWidget *>(u"diskTree"_s)->topLevelItem(index);
+}
+
+void choose(const WindowFixture &fixture, QTreeWidgetItem *row)
+{
+    row->treeWidget()->setCurrentItem(row);
+    QVERIFY(fixture.click(u"Next →"_s));
+}
+} // namespace
+
+// What the user is told before a drive is confirmed.
+class tst_DiskObstacles : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void aDiskWithASpanningVolumeIsNotConfirmed();
+    void aHeldDiskIsNotConfirmed();
+    void aReadOnlyDiskIsNotConfirmed();
+    void freeSpaceIsNotHindered();
+    void theRowTellsOfASpanningVolume();
+    void aPartitionJobListsEveryVolume();
+    void aDiskJobHasTheGivenDialog();
+    void aLonePartitionHasTheGivenDialog();
+};
+
+void tst_DiskObstacles::aDiskWithASpanningVolumeIsNotConfirmed()
+{
+    DriveWindow drives;
+    drives.memory.addVolume(drives.mirror());
+    WindowFixture fixture(std::move(drives.owned));
+    fixture.window->onDiskWipeClicked();
+    choose(fixture, diskRow(fixture, 1));
+    QVERIFY(fixture.click(u"Start"_s));
+    QCOMPARE(fixture.prompts.boxes.size(), 1);
+    QCOMPARE(fixture.prompts.boxes.first().title, u"This Disk Cannot Be Erased"_s);
+    QCOMPARE(fixture.prompts.boxes.first().text, u"Volume M: lies on this disk and also on disk 0.\n\n"
+                                                 "These commands release it:\numount M:"_s);
+    QCOMPARE(fixture.dialogs.unexpected, 0);
+    QCOMPARE(fixture.window->currentPage(), int(MainWindow::MethodSelect));
+    QCOMPARE(drives.memory.openings(), 0);
+}
+
+void tst_DiskObstacles::aHeldDiskIsNotConfirmed()
+{
+    DriveWindow drives;
+    drives.memory.drive(0).use.holders = QStringList{u"RAID md0"_s, u"LVM a-b"_s};
+    WindowFixture fixture(std::move(drives.owned));
+    fixture.window->onDiskWipeClicked();
+    choose(fixture, diskRow(fixture, 0));
+    QVERIFY(fixture.click(u"Start"_s));
+    QCOMPARE(fixture.prompts.boxes.size(), 1);
+    QCOMPARE(fixture.prompts.boxes.first().text, u"The disk is held by: RAID md0, LVM a-b"_s);
+    QCOMPARE(drives.memory.openings(), 0);
+}
+
+void tst_DiskObstacles::aReadOnlyDiskIsNotConfirmed()
+{
+    DriveWindow drives;
+    drives.memory.drive(0).use = {true, {}, {u"unused"_s}};
+    WindowFixture fixture(std::move(drives.owned));
+    fixture.window->onDiskWipeClicked();
+    choose(fixture, diskRow(fixture, 0));
+    QVERIFY(fixture.click(u"Start"_s));
+    QCOMPARE(fixture.prompts.boxes.size(), 1);
+    QCOMPARE(fixture.prompts.boxes.first().text, u"The disk is read-only."_s);
+}
+
+void tst_DiskObstacles::freeSpaceIsNotHindered()
+{
+    DriveWindow drives;
+    drives.memory.addVolume(drives.mirror());
+    WindowFixture fixture(std::move(drives.owned));
+    fixture.window->onFreeSpaceWipeClicked();
+    choose(fixture, diskRow(fixture, 1));
+    bool asked = false;
+    fixture.dialogs.answers = {[&asked](QDialog &dialog) {
+        asked = qobject_cast<ConfirmDialog *>(&dialog) != nullptr;
+        dialog.reject();
+    }};
+    QVERIFY(fixture.click(u"Start"_s));
+    QVERIFY(asked);
+    QVERIFY(fixture.prompts.boxes.isEmpty());
+}
+
+void tst_DiskObstacles::theRowTellsOfASpanningVolume()
+{
+    DriveWindow drives;
+    drives.memory.addDrive(MemoryDrive(2, Size));
+    drives.memory.addVolume(drives.mirror());
+    WindowFixture fixture(std::move(drives.owned));
+    fixture.window->onDiskWipeClicked();
+    QCOMPARE(diskRow(fixture, 0)->toolTip(0), u"Volume M: lies on this disk and also on disk 1."_s);
+    QCOMPARE(diskRow(fixture, 1)->toolTip(0), u"Volume M: lies on this disk and also on disk 0."_s);
+    QCOMPARE(diskRow(fixture, 2)->toolTip(0), QString());
+}
+
+void tst_DiskObstacles::aPartitionJobListsEveryVolume()
+{
+    DriveWindow drives;
+    drives.memory.addVolume(u"E:"_s, 0, 0, Size / 2);
+    drives.memory.addVolume(u"F:"_s, 0, Size / 2, Size / 2);
+    WindowFixture fixture(std::move(drives.owned));
+    fixture.window->onDiskWipeClicked();
+    choose(fixture, diskRow(fixture, 0)->child(0));
+    QString notice;
+    QSize size;
+    bool fits = false;
+    fixture.dialogs.answers = {[&](QDialog &dialog) {
+        const auto *label = dialog.findChild<QLabel *>(u"dialogNotice"_s);
+        notice = label ? label->text() : QString();
+        fits = label && label->height() >= label->heightForWidth(label->width());
+        size = dialog.size();
+        dialog.reject();
+    }};
+    QVERIFY(fixture.click(u"Start"_s));
+    QCOMPARE(notice, u"All of these will be erased, not only E:\nE:, F:"_s);
+    QCOMPARE(size.width(), 400);
+    QVERIFY(size.height() > 320);
+    QVERIFY(fits);
+}
+
+void tst_DiskObstacles::aDiskJobHasTheGivenDialog()
+{
+    DriveWindow drives;
+    drives.memory.addVolume(u"E:"_s, 0, 0, Size / 2);
+    drives.memory.addVolume(u"F:"_s, 0, Size / 2, Size / 2);
+    WindowFixture fixture(std::move(drives.owned));
+    fixture.window->onDiskWipeClicked();
+    choose(fixture, diskRow(fixture, 0));
+    QSize size;
+    fixture.dialogs.answers = {[&](QDialog &dialog) {
+        size = dialog.findChild<QLabel *>(u"dialogNotice"_s) ? QSize() : dialog.size();
+        dialog.reject();
+    }};
+    QVERIFY(fixture.click(u"Start"_s));
+    QCOMPARE(size, QSize(400, 320));
+}
+
+void tst_DiskObstacles::aLonePartitionHasTheGivenDialog()
+{
+    DriveWindow drives;
+    drives.memory.addVolume(u"E:"_s, 0, 0, Size / 2);
+    WindowFixture fixture(std::move(drives.owned));
+    fixture.window->onDiskWipeClicked();
+    choose(fixture, diskRow(fixture, 0)->child(0));
+    QSize size;
+    fixture.dialogs.answers = {[&](QDialog &dialog) {
+        size = dialog.findChild<QLabel *>(u"dialogNotice"_s) ? QSize() : dialog.size();
+        dialog.reject();
+    }};
+    QVERIFY(fixture.click(u"Start"_s));
+    QCOMPARE(size, QSize(400, 320));
+}
+
+QUORVEX_SUITE(tst_DiskObstacles, QApplication)
+#include "tst_diskobstacles.moc"
