@@ -1040,10 +1040,6 @@
         <translation>FEHLGESCHLAGEN</translation>
     </message>
     <message>
-        <source>, ONLY THE VOLUMES: %1 of %2 sectors erased</source>
-        <translation>, NUR DIE VOLUMES: %1 von %2 Sektoren gelöscht</translation>
-    </message>
-    <message>
         <source>%1 written</source>
         <translation>%1 geschrieben</translation>
     </message>
@@ -1208,12 +1204,72 @@
         <translation>TEILWEISE FERTIG</translation>
     </message>
     <message>
-        <source>only the mounted volumes were erased; unmount them to erase the whole drive</source>
-        <translation>nur die eingehängten Volumes wurden gelöscht; hängen Sie sie aus, um das ganze Laufwerk zu löschen</translation>
-    </message>
-    <message>
         <source>%1 is empty, there is nothing to check</source>
         <translation>%1 ist leer, es gibt nichts zu prüfen</translation>
+    </message>
+    <message>
+        <source>Outcome</source>
+        <translation>Ergebnis</translation>
+    </message>
+    <message>
+        <source>a device that is no drive</source>
+        <translation>einem Gerät, das kein Datenträger ist</translation>
+    </message>
+    <message>
+        <source>%1 is read-only</source>
+        <translation>%1 ist schreibgeschützt</translation>
+    </message>
+    <message>
+        <source>drive %1 is read-only</source>
+        <translation>Datenträger %1 ist schreibgeschützt</translation>
+    </message>
+    <message>
+        <source>volume %1 lies on drive %2 and also on %3</source>
+        <translation>Volume %1 liegt auf Datenträger %2 und auch auf %3</translation>
+    </message>
+    <message>
+        <source>drive %1 is held by %2</source>
+        <translation>Datenträger %1 wird von %2 belegt</translation>
+    </message>
+    <message>
+        <source>to release it: %1</source>
+        <translation>zum Freigeben: %1</translation>
+    </message>
+    <message>
+        <source>Shortfall</source>
+        <translation>Lücke</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Hinweis</translation>
+    </message>
+    <message>
+        <source>complete</source>
+        <translation>vollständig</translation>
+    </message>
+    <message>
+        <source>partial</source>
+        <translation>teilweise</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>unknown kind of shortfall &apos;%1&apos;, there are: %2</source>
+        <translation>unbekannte Art von Lücke &apos;%1&apos;, es gibt: %2</translation>
+    </message>
+    <message>
+        <source>A shortfall of this kind is no failure; may be given several times</source>
+        <translation>Eine Lücke dieser Art gilt nicht als Fehlschlag (wiederholbar)</translation>
+    </message>
+    <message>
+        <source>left unmounted: %1</source>
+        <translation>ausgehängt geblieben: %1</translation>
+    </message>
+    <message>
+        <source>  not everything will be erased:</source>
+        <translation>  es wird nicht alles gelöscht:</translation>
     </message>
 </context>
 <context>
@@ -1399,6 +1455,30 @@ Ein Löschzertifikat wurde erstellt.</translation>
     <message>
         <source>⚠️ Boot</source>
         <translation>⚠️ Boot</translation>
+    </message>
+    <message>
+        <source>a device that is no disk</source>
+        <translation>einem Gerät, das kein Datenträger ist</translation>
+    </message>
+    <message>
+        <source>disk %1</source>
+        <translation>Datenträger %1</translation>
+    </message>
+    <message>
+        <source>Volume %1 lies on this disk and also on %2.</source>
+        <translation>Volume %1 liegt auf diesem Datenträger und auch auf %2.</translation>
+    </message>
+    <message>
+        <source>The disk is read-only.</source>
+        <translation>Der Datenträger ist schreibgeschützt.</translation>
+    </message>
+    <message>
+        <source>The disk is held by: %1</source>
+        <translation>Der Datenträger wird belegt von: %1</translation>
+    </message>
+    <message>
+        <source>These commands release it:</source>
+        <translation>Diese Befehle geben ihn frei:</translation>
     </message>
 </context>
 <context>
@@ -2311,6 +2391,16 @@ Möchten Sie den freien Speicherplatz löschen, damit dies nicht mehr möglich i
         <source>There is no report %1 in the database.</source>
         <translation>Die Datenbank enthält keinen Bericht %1.</translation>
     </message>
+    <message>
+        <source>This Disk Cannot Be Erased</source>
+        <translation>Dieser Datenträger kann nicht gelöscht werden</translation>
+    </message>
+    <message>
+        <source>All of these will be erased, not only %1
+%2</source>
+        <translation>Dies alles wird gelöscht, nicht nur %1
+%2</translation>
+    </message>
 </context>
 <context>
     <name>MethodCard</name>
@@ -2340,6 +2430,117 @@ Möchten Sie den freien Speicherplatz löschen, damit dies nicht mehr möglich i
     <message>
         <source>Start</source>
         <translation>Starten</translation>
+    </message>
+</context>
+<context>
+    <name>OutcomeRecord</name>
+    <message>
+        <source>only the mounted volumes are erased, not the rest of the drive</source>
+        <translation>nur die eingehängten Volumes werden gelöscht, nicht der Rest des Datenträgers</translation>
+    </message>
+    <message>
+        <source>volumes could not be opened and were not erased</source>
+        <translation>Volumes konnten nicht geöffnet werden und wurden nicht gelöscht</translation>
+    </message>
+    <message>
+        <source>volumes took no more data before their end</source>
+        <translation>Volumes nahmen schon vor ihrem Ende keine Daten mehr an</translation>
+    </message>
+    <message>
+        <source>volumes were in use while they were overwritten</source>
+        <translation>Volumes wurden verwendet, während sie überschrieben wurden</translation>
+    </message>
+    <message>
+        <source>the end of the drive is no whole sector and was not overwritten</source>
+        <translation>das Ende des Datenträgers ist kein ganzer Sektor und wurde nicht überschrieben</translation>
+    </message>
+    <message>
+        <source>the drive says that it has no size, nothing was written</source>
+        <translation>der Datenträger gibt seine Größe mit null an, es wurde nichts geschrieben</translation>
+    </message>
+    <message>
+        <source>volumes reach beyond the drive</source>
+        <translation>Volumes reichen über den Datenträger hinaus</translation>
+    </message>
+    <message>
+        <source>nothing was written although there was free space</source>
+        <translation>es wurde nichts geschrieben, obwohl freier Speicherplatz vorhanden war</translation>
+    </message>
+    <message>
+        <source>free space was left that could not be filled</source>
+        <translation>es blieb freier Speicherplatz übrig, der nicht gefüllt werden konnte</translation>
+    </message>
+    <message>
+        <source>more than 10 % of the free space is left as a reserve</source>
+        <translation>mehr als 10 % des freien Speicherplatzes bleiben als Reserve frei</translation>
+    </message>
+    <message>
+        <source>fill files were left behind</source>
+        <translation>Fülldateien sind zurückgeblieben</translation>
+    </message>
+    <message>
+        <source>entries were gone before they could be erased</source>
+        <translation>Elemente waren nicht mehr da, bevor sie gelöscht werden konnten</translation>
+    </message>
+    <message>
+        <source>entries were replaced by others meanwhile</source>
+        <translation>Elemente wurden zwischenzeitlich durch andere ersetzt</translation>
+    </message>
+    <message>
+        <source>files grew after they were overwritten</source>
+        <translation>Dateien wurden größer, nachdem sie überschrieben worden waren</translation>
+    </message>
+    <message>
+        <source>entries could not be removed</source>
+        <translation>Elemente konnten nicht entfernt werden</translation>
+    </message>
+    <message>
+        <source>the file system may keep the content elsewhere, where it is not overwritten</source>
+        <translation>das Dateisystem bewahrt den Inhalt möglicherweise an anderer Stelle auf, wo er nicht überschrieben wird</translation>
+    </message>
+    <message>
+        <source>links are removed, what they lead to is not erased</source>
+        <translation>Links werden entfernt, ihre Ziele werden nicht gelöscht</translation>
+    </message>
+    <message>
+        <source>what was written was not read back</source>
+        <translation>die geschriebenen Daten wurden nicht zurückgelesen</translation>
+    </message>
+    <message>
+        <source>what was written cannot be compared when it is read back</source>
+        <translation>die geschriebenen Daten lassen sich beim Zurücklesen nicht vergleichen</translation>
+    </message>
+    <message>
+        <source>a small part of the free space is left as a reserve</source>
+        <translation>ein kleiner Teil des freien Speicherplatzes bleibt als Reserve frei</translation>
+    </message>
+    <message>
+        <source>files had further names, which stay and lead to overwritten content</source>
+        <translation>Dateien hatten weitere Namen, die bestehen bleiben und auf überschriebenen Inhalt verweisen</translation>
+    </message>
+    <message>
+        <source>the file system writes to new places and may keep earlier content, in snapshots for instance</source>
+        <translation>das Dateisystem schreibt an neue Stellen und bewahrt früheren Inhalt möglicherweise auf, etwa in Snapshots</translation>
+    </message>
+    <message>
+        <source>there was no free space to overwrite</source>
+        <translation>es gab keinen freien Speicherplatz zum Überschreiben</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>und %1 weitere</translation>
+    </message>
+    <message>
+        <source>Partly erased: %1</source>
+        <translation>Teilweise gelöscht: %1</translation>
+    </message>
+    <message>
+        <source>Not completely erased: the job failed</source>
+        <translation>Nicht vollständig gelöscht: Der Auftrag ist fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>Not completely erased: the job was cancelled</source>
+        <translation>Nicht vollständig gelöscht: Der Auftrag wurde abgebrochen</translation>
     </message>
 </context>
 <context>

@@ -1040,10 +1040,6 @@
         <translation>FAILED</translation>
     </message>
     <message>
-        <source>, ONLY THE VOLUMES: %1 of %2 sectors erased</source>
-        <translation>, ONLY THE VOLUMES: %1 of %2 sectors erased</translation>
-    </message>
-    <message>
         <source>%1 written</source>
         <translation>%1 written</translation>
     </message>
@@ -1208,12 +1204,72 @@
         <translation>PARTLY DONE</translation>
     </message>
     <message>
-        <source>only the mounted volumes were erased; unmount them to erase the whole drive</source>
-        <translation>only the mounted volumes were erased; unmount them to erase the whole drive</translation>
-    </message>
-    <message>
         <source>%1 is empty, there is nothing to check</source>
         <translation>%1 is empty, there is nothing to check</translation>
+    </message>
+    <message>
+        <source>Outcome</source>
+        <translation>Outcome</translation>
+    </message>
+    <message>
+        <source>a device that is no drive</source>
+        <translation>a device that is no drive</translation>
+    </message>
+    <message>
+        <source>%1 is read-only</source>
+        <translation>%1 is read-only</translation>
+    </message>
+    <message>
+        <source>drive %1 is read-only</source>
+        <translation>drive %1 is read-only</translation>
+    </message>
+    <message>
+        <source>volume %1 lies on drive %2 and also on %3</source>
+        <translation>volume %1 lies on drive %2 and also on %3</translation>
+    </message>
+    <message>
+        <source>drive %1 is held by %2</source>
+        <translation>drive %1 is held by %2</translation>
+    </message>
+    <message>
+        <source>to release it: %1</source>
+        <translation>to release it: %1</translation>
+    </message>
+    <message>
+        <source>Shortfall</source>
+        <translation>Shortfall</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Note</translation>
+    </message>
+    <message>
+        <source>complete</source>
+        <translation>complete</translation>
+    </message>
+    <message>
+        <source>partial</source>
+        <translation>partial</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>failed</translation>
+    </message>
+    <message>
+        <source>unknown kind of shortfall &apos;%1&apos;, there are: %2</source>
+        <translation>unknown kind of shortfall &apos;%1&apos;, there are: %2</translation>
+    </message>
+    <message>
+        <source>A shortfall of this kind is no failure; may be given several times</source>
+        <translation>A shortfall of this kind is no failure; may be given several times</translation>
+    </message>
+    <message>
+        <source>left unmounted: %1</source>
+        <translation>left unmounted: %1</translation>
+    </message>
+    <message>
+        <source>  not everything will be erased:</source>
+        <translation>  not everything will be erased:</translation>
     </message>
 </context>
 <context>
@@ -1399,6 +1455,30 @@ An erasure certificate has been generated.</translation>
     <message>
         <source>⚠️ Boot</source>
         <translation>⚠️ Boot</translation>
+    </message>
+    <message>
+        <source>a device that is no disk</source>
+        <translation>a device that is no disk</translation>
+    </message>
+    <message>
+        <source>disk %1</source>
+        <translation>disk %1</translation>
+    </message>
+    <message>
+        <source>Volume %1 lies on this disk and also on %2.</source>
+        <translation>Volume %1 lies on this disk and also on %2.</translation>
+    </message>
+    <message>
+        <source>The disk is read-only.</source>
+        <translation>The disk is read-only.</translation>
+    </message>
+    <message>
+        <source>The disk is held by: %1</source>
+        <translation>The disk is held by: %1</translation>
+    </message>
+    <message>
+        <source>These commands release it:</source>
+        <translation>These commands release it:</translation>
     </message>
 </context>
 <context>
@@ -2311,6 +2391,16 @@ Would you like to wipe free space to ensure they cannot be recovered?</translati
         <source>There is no report %1 in the database.</source>
         <translation>There is no report %1 in the database.</translation>
     </message>
+    <message>
+        <source>This Disk Cannot Be Erased</source>
+        <translation>This Disk Cannot Be Erased</translation>
+    </message>
+    <message>
+        <source>All of these will be erased, not only %1
+%2</source>
+        <translation>All of these will be erased, not only %1
+%2</translation>
+    </message>
 </context>
 <context>
     <name>MethodCard</name>
@@ -2340,6 +2430,117 @@ Would you like to wipe free space to ensure they cannot be recovered?</translati
     <message>
         <source>Start</source>
         <translation>Start</translation>
+    </message>
+</context>
+<context>
+    <name>OutcomeRecord</name>
+    <message>
+        <source>only the mounted volumes are erased, not the rest of the drive</source>
+        <translation>only the mounted volumes are erased, not the rest of the drive</translation>
+    </message>
+    <message>
+        <source>volumes could not be opened and were not erased</source>
+        <translation>volumes could not be opened and were not erased</translation>
+    </message>
+    <message>
+        <source>volumes took no more data before their end</source>
+        <translation>volumes took no more data before their end</translation>
+    </message>
+    <message>
+        <source>volumes were in use while they were overwritten</source>
+        <translation>volumes were in use while they were overwritten</translation>
+    </message>
+    <message>
+        <source>the end of the drive is no whole sector and was not overwritten</source>
+        <translation>the end of the drive is no whole sector and was not overwritten</translation>
+    </message>
+    <message>
+        <source>the drive says that it has no size, nothing was written</source>
+        <translation>the drive says that it has no size, nothing was written</translation>
+    </message>
+    <message>
+        <source>volumes reach beyond the drive</source>
+        <translation>volumes reach beyond the drive</translation>
+    </message>
+    <message>
+        <source>nothing was written although there was free space</source>
+        <translation>nothing was written although there was free space</translation>
+    </message>
+    <message>
+        <source>free space was left that could not be filled</source>
+        <translation>free space was left that could not be filled</translation>
+    </message>
+    <message>
+        <source>more than 10 % of the free space is left as a reserve</source>
+        <translation>more than 10 % of the free space is left as a reserve</translation>
+    </message>
+    <message>
+        <source>fill files were left behind</source>
+        <translation>fill files were left behind</translation>
+    </message>
+    <message>
+        <source>entries were gone before they could be erased</source>
+        <translation>entries were gone before they could be erased</translation>
+    </message>
+    <message>
+        <source>entries were replaced by others meanwhile</source>
+        <translation>entries were replaced by others meanwhile</translation>
+    </message>
+    <message>
+        <source>files grew after they were overwritten</source>
+        <translation>files grew after they were overwritten</translation>
+    </message>
+    <message>
+        <source>entries could not be removed</source>
+        <translation>entries could not be removed</translation>
+    </message>
+    <message>
+        <source>the file system may keep the content elsewhere, where it is not overwritten</source>
+        <translation>the file system may keep the content elsewhere, where it is not overwritten</translation>
+    </message>
+    <message>
+        <source>links are removed, what they lead to is not erased</source>
+        <translation>links are removed, what they lead to is not erased</translation>
+    </message>
+    <message>
+        <source>what was written was not read back</source>
+        <translation>what was written was not read back</translation>
+    </message>
+    <message>
+        <source>what was written cannot be compared when it is read back</source>
+        <translation>what was written cannot be compared when it is read back</translation>
+    </message>
+    <message>
+        <source>a small part of the free space is left as a reserve</source>
+        <translation>a small part of the free space is left as a reserve</translation>
+    </message>
+    <message>
+        <source>files had further names, which stay and lead to overwritten content</source>
+        <translation>files had further names, which stay and lead to overwritten content</translation>
+    </message>
+    <message>
+        <source>the file system writes to new places and may keep earlier content, in snapshots for instance</source>
+        <translation>the file system writes to new places and may keep earlier content, in snapshots for instance</translation>
+    </message>
+    <message>
+        <source>there was no free space to overwrite</source>
+        <translation>there was no free space to overwrite</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>and %1 more</translation>
+    </message>
+    <message>
+        <source>Partly erased: %1</source>
+        <translation>Partly erased: %1</translation>
+    </message>
+    <message>
+        <source>Not completely erased: the job failed</source>
+        <translation>Not completely erased: the job failed</translation>
+    </message>
+    <message>
+        <source>Not completely erased: the job was cancelled</source>
+        <translation>Not completely erased: the job was cancelled</translation>
     </message>
 </context>
 <context>

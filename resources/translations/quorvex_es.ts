@@ -1040,10 +1040,6 @@
         <translation>FALLIDO</translation>
     </message>
     <message>
-        <source>, ONLY THE VOLUMES: %1 of %2 sectors erased</source>
-        <translation>, SOLO LOS VOLÚMENES: %1 de %2 sectores borrados</translation>
-    </message>
-    <message>
         <source>%1 written</source>
         <translation>%1 escritos</translation>
     </message>
@@ -1208,12 +1204,72 @@
         <translation>HECHO EN PARTE</translation>
     </message>
     <message>
-        <source>only the mounted volumes were erased; unmount them to erase the whole drive</source>
-        <translation>solo se han borrado los volúmenes montados; desmóntelos para borrar toda la unidad</translation>
-    </message>
-    <message>
         <source>%1 is empty, there is nothing to check</source>
         <translation>%1 está vacío, no hay nada que comprobar</translation>
+    </message>
+    <message>
+        <source>Outcome</source>
+        <translation>Resultado</translation>
+    </message>
+    <message>
+        <source>a device that is no drive</source>
+        <translation>dispositivo que no es una unidad</translation>
+    </message>
+    <message>
+        <source>%1 is read-only</source>
+        <translation>%1 es de solo lectura</translation>
+    </message>
+    <message>
+        <source>drive %1 is read-only</source>
+        <translation>la unidad %1 es de solo lectura</translation>
+    </message>
+    <message>
+        <source>volume %1 lies on drive %2 and also on %3</source>
+        <translation>el volumen %1 está en la unidad %2 y también en: %3</translation>
+    </message>
+    <message>
+        <source>drive %1 is held by %2</source>
+        <translation>la unidad %1 está ocupada por %2</translation>
+    </message>
+    <message>
+        <source>to release it: %1</source>
+        <translation>para liberarla: %1</translation>
+    </message>
+    <message>
+        <source>Shortfall</source>
+        <translation>Carencia</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Nota</translation>
+    </message>
+    <message>
+        <source>complete</source>
+        <translation>completo</translation>
+    </message>
+    <message>
+        <source>partial</source>
+        <translation>parcial</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>fallido</translation>
+    </message>
+    <message>
+        <source>unknown kind of shortfall &apos;%1&apos;, there are: %2</source>
+        <translation>tipo de carencia desconocido: &apos;%1&apos;; los disponibles son: %2</translation>
+    </message>
+    <message>
+        <source>A shortfall of this kind is no failure; may be given several times</source>
+        <translation>Una carencia de este tipo no cuenta como fallo (repetible)</translation>
+    </message>
+    <message>
+        <source>left unmounted: %1</source>
+        <translation>volúmenes que siguen desmontados: %1</translation>
+    </message>
+    <message>
+        <source>  not everything will be erased:</source>
+        <translation>  no se borrará todo:</translation>
     </message>
 </context>
 <context>
@@ -1399,6 +1455,30 @@ Se ha generado un certificado de borrado.</translation>
     <message>
         <source>⚠️ Boot</source>
         <translation>⚠️ Arranque</translation>
+    </message>
+    <message>
+        <source>a device that is no disk</source>
+        <translation>un dispositivo que no es un disco</translation>
+    </message>
+    <message>
+        <source>disk %1</source>
+        <translation>el disco %1</translation>
+    </message>
+    <message>
+        <source>Volume %1 lies on this disk and also on %2.</source>
+        <translation>El volumen %1 está en este disco y también en %2.</translation>
+    </message>
+    <message>
+        <source>The disk is read-only.</source>
+        <translation>El disco es de solo lectura.</translation>
+    </message>
+    <message>
+        <source>The disk is held by: %1</source>
+        <translation>El disco está ocupado por: %1</translation>
+    </message>
+    <message>
+        <source>These commands release it:</source>
+        <translation>Estos comandos lo liberan:</translation>
     </message>
 </context>
 <context>
@@ -2311,6 +2391,16 @@ Sin embargo, es posible que los archivos eliminados anteriormente aún se puedan
         <source>There is no report %1 in the database.</source>
         <translation>No hay ningún informe %1 en la base de datos.</translation>
     </message>
+    <message>
+        <source>This Disk Cannot Be Erased</source>
+        <translation>Este disco no se puede borrar</translation>
+    </message>
+    <message>
+        <source>All of these will be erased, not only %1
+%2</source>
+        <translation>Se borrará todo esto, no solo %1
+%2</translation>
+    </message>
 </context>
 <context>
     <name>MethodCard</name>
@@ -2340,6 +2430,117 @@ Sin embargo, es posible que los archivos eliminados anteriormente aún se puedan
     <message>
         <source>Start</source>
         <translation>Iniciar</translation>
+    </message>
+</context>
+<context>
+    <name>OutcomeRecord</name>
+    <message>
+        <source>only the mounted volumes are erased, not the rest of the drive</source>
+        <translation>solo se borran los volúmenes montados, no el resto de la unidad</translation>
+    </message>
+    <message>
+        <source>volumes could not be opened and were not erased</source>
+        <translation>volúmenes que no se pudieron abrir y no se han borrado</translation>
+    </message>
+    <message>
+        <source>volumes took no more data before their end</source>
+        <translation>volúmenes que dejaron de aceptar datos antes de su final</translation>
+    </message>
+    <message>
+        <source>volumes were in use while they were overwritten</source>
+        <translation>volúmenes que estaban en uso mientras se sobrescribían</translation>
+    </message>
+    <message>
+        <source>the end of the drive is no whole sector and was not overwritten</source>
+        <translation>el final de la unidad no es un sector completo y no se ha sobrescrito</translation>
+    </message>
+    <message>
+        <source>the drive says that it has no size, nothing was written</source>
+        <translation>la unidad indica un tamaño de cero, no se ha escrito nada</translation>
+    </message>
+    <message>
+        <source>volumes reach beyond the drive</source>
+        <translation>volúmenes que se extienden más allá de la unidad</translation>
+    </message>
+    <message>
+        <source>nothing was written although there was free space</source>
+        <translation>no se ha escrito nada aunque había espacio libre</translation>
+    </message>
+    <message>
+        <source>free space was left that could not be filled</source>
+        <translation>ha quedado espacio libre que no se pudo llenar</translation>
+    </message>
+    <message>
+        <source>more than 10 % of the free space is left as a reserve</source>
+        <translation>más del 10 % del espacio libre se deja como reserva</translation>
+    </message>
+    <message>
+        <source>fill files were left behind</source>
+        <translation>han quedado archivos de relleno</translation>
+    </message>
+    <message>
+        <source>entries were gone before they could be erased</source>
+        <translation>elementos que ya no estaban antes de poder borrarlos</translation>
+    </message>
+    <message>
+        <source>entries were replaced by others meanwhile</source>
+        <translation>elementos que entretanto fueron sustituidos por otros</translation>
+    </message>
+    <message>
+        <source>files grew after they were overwritten</source>
+        <translation>archivos que crecieron después de sobrescribirse</translation>
+    </message>
+    <message>
+        <source>entries could not be removed</source>
+        <translation>elementos que no se pudieron eliminar</translation>
+    </message>
+    <message>
+        <source>the file system may keep the content elsewhere, where it is not overwritten</source>
+        <translation>es posible que el sistema de archivos conserve el contenido en otro lugar, donde no se sobrescribe</translation>
+    </message>
+    <message>
+        <source>links are removed, what they lead to is not erased</source>
+        <translation>los enlaces se eliminan, aquello a lo que apuntan no se borra</translation>
+    </message>
+    <message>
+        <source>what was written was not read back</source>
+        <translation>lo escrito no se ha leído para verificarlo</translation>
+    </message>
+    <message>
+        <source>what was written cannot be compared when it is read back</source>
+        <translation>lo escrito no se puede comparar al leerlo para verificarlo</translation>
+    </message>
+    <message>
+        <source>a small part of the free space is left as a reserve</source>
+        <translation>una pequeña parte del espacio libre se deja como reserva</translation>
+    </message>
+    <message>
+        <source>files had further names, which stay and lead to overwritten content</source>
+        <translation>archivos que tenían otros nombres, que permanecen y apuntan a contenido sobrescrito</translation>
+    </message>
+    <message>
+        <source>the file system writes to new places and may keep earlier content, in snapshots for instance</source>
+        <translation>el sistema de archivos escribe en lugares nuevos y puede conservar contenido anterior, por ejemplo en instantáneas</translation>
+    </message>
+    <message>
+        <source>there was no free space to overwrite</source>
+        <translation>no había espacio libre que sobrescribir</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>y %1 más</translation>
+    </message>
+    <message>
+        <source>Partly erased: %1</source>
+        <translation>Borrado en parte: %1</translation>
+    </message>
+    <message>
+        <source>Not completely erased: the job failed</source>
+        <translation>No se ha borrado por completo: la tarea ha fallado</translation>
+    </message>
+    <message>
+        <source>Not completely erased: the job was cancelled</source>
+        <translation>No se ha borrado por completo: la tarea se ha cancelado</translation>
     </message>
 </context>
 <context>

@@ -1040,10 +1040,6 @@
         <translation>ÉCHEC</translation>
     </message>
     <message>
-        <source>, ONLY THE VOLUMES: %1 of %2 sectors erased</source>
-        <translation>, VOLUMES UNIQUEMENT&#xa0;: %1 secteurs effacés sur %2</translation>
-    </message>
-    <message>
         <source>%1 written</source>
         <translation>%1 écrits</translation>
     </message>
@@ -1208,12 +1204,72 @@
         <translation>FAIT EN PARTIE</translation>
     </message>
     <message>
-        <source>only the mounted volumes were erased; unmount them to erase the whole drive</source>
-        <translation>seuls les volumes montés ont été effacés&#xa0;; démontez-les pour effacer tout le lecteur</translation>
-    </message>
-    <message>
         <source>%1 is empty, there is nothing to check</source>
         <translation>%1 est vide, il n&apos;y a rien à vérifier</translation>
+    </message>
+    <message>
+        <source>Outcome</source>
+        <translation>Résultat</translation>
+    </message>
+    <message>
+        <source>a device that is no drive</source>
+        <translation>périphérique qui n&apos;est pas un disque</translation>
+    </message>
+    <message>
+        <source>%1 is read-only</source>
+        <translation>%1 est en lecture seule</translation>
+    </message>
+    <message>
+        <source>drive %1 is read-only</source>
+        <translation>le disque %1 est en lecture seule</translation>
+    </message>
+    <message>
+        <source>volume %1 lies on drive %2 and also on %3</source>
+        <translation>le volume %1 se trouve sur le disque %2 et aussi sur : %3</translation>
+    </message>
+    <message>
+        <source>drive %1 is held by %2</source>
+        <translation>le disque %1 est occupé par %2</translation>
+    </message>
+    <message>
+        <source>to release it: %1</source>
+        <translation>pour le libérer : %1</translation>
+    </message>
+    <message>
+        <source>Shortfall</source>
+        <translation>Lacune</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Remarque</translation>
+    </message>
+    <message>
+        <source>complete</source>
+        <translation>complet</translation>
+    </message>
+    <message>
+        <source>partial</source>
+        <translation>partiel</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>échec</translation>
+    </message>
+    <message>
+        <source>unknown kind of shortfall &apos;%1&apos;, there are: %2</source>
+        <translation>type de lacune inconnu &apos;%1&apos;, types possibles : %2</translation>
+    </message>
+    <message>
+        <source>A shortfall of this kind is no failure; may be given several times</source>
+        <translation>Une lacune de ce type ne compte pas comme un échec (répétable)</translation>
+    </message>
+    <message>
+        <source>left unmounted: %1</source>
+        <translation>volumes restés démontés : %1</translation>
+    </message>
+    <message>
+        <source>  not everything will be erased:</source>
+        <translation>  une partie ne sera pas effacée :</translation>
     </message>
 </context>
 <context>
@@ -1399,6 +1455,30 @@ Un certificat d&apos;effacement a été généré.</translation>
     <message>
         <source>⚠️ Boot</source>
         <translation>⚠️ Démarrage</translation>
+    </message>
+    <message>
+        <source>a device that is no disk</source>
+        <translation>un périphérique qui n&apos;est pas un disque</translation>
+    </message>
+    <message>
+        <source>disk %1</source>
+        <translation>le disque %1</translation>
+    </message>
+    <message>
+        <source>Volume %1 lies on this disk and also on %2.</source>
+        <translation>Le volume %1 se trouve sur ce disque et aussi sur %2.</translation>
+    </message>
+    <message>
+        <source>The disk is read-only.</source>
+        <translation>Le disque est en lecture seule.</translation>
+    </message>
+    <message>
+        <source>The disk is held by: %1</source>
+        <translation>Le disque est occupé par : %1</translation>
+    </message>
+    <message>
+        <source>These commands release it:</source>
+        <translation>Ces commandes le libèrent :</translation>
     </message>
 </context>
 <context>
@@ -2311,6 +2391,16 @@ Voulez-vous effacer l&apos;espace libre afin qu&apos;ils ne puissent pas être r
         <source>There is no report %1 in the database.</source>
         <translation>La base de données ne contient pas de rapport %1.</translation>
     </message>
+    <message>
+        <source>This Disk Cannot Be Erased</source>
+        <translation>Ce disque ne peut pas être effacé</translation>
+    </message>
+    <message>
+        <source>All of these will be erased, not only %1
+%2</source>
+        <translation>Tout ceci sera effacé, pas seulement %1
+%2</translation>
+    </message>
 </context>
 <context>
     <name>MethodCard</name>
@@ -2340,6 +2430,117 @@ Voulez-vous effacer l&apos;espace libre afin qu&apos;ils ne puissent pas être r
     <message>
         <source>Start</source>
         <translation>Démarrer</translation>
+    </message>
+</context>
+<context>
+    <name>OutcomeRecord</name>
+    <message>
+        <source>only the mounted volumes are erased, not the rest of the drive</source>
+        <translation>seuls les volumes montés sont effacés, pas le reste du disque</translation>
+    </message>
+    <message>
+        <source>volumes could not be opened and were not erased</source>
+        <translation>des volumes n&apos;ont pas pu être ouverts et n&apos;ont pas été effacés</translation>
+    </message>
+    <message>
+        <source>volumes took no more data before their end</source>
+        <translation>des volumes n&apos;acceptaient plus de données avant d&apos;avoir atteint leur fin</translation>
+    </message>
+    <message>
+        <source>volumes were in use while they were overwritten</source>
+        <translation>des volumes étaient en cours d&apos;utilisation pendant leur écrasement</translation>
+    </message>
+    <message>
+        <source>the end of the drive is no whole sector and was not overwritten</source>
+        <translation>la fin du disque n&apos;est pas un secteur entier et n&apos;a pas été écrasée</translation>
+    </message>
+    <message>
+        <source>the drive says that it has no size, nothing was written</source>
+        <translation>le disque indique une taille nulle, rien n&apos;a été écrit</translation>
+    </message>
+    <message>
+        <source>volumes reach beyond the drive</source>
+        <translation>des volumes s&apos;étendent au-delà de la fin du disque</translation>
+    </message>
+    <message>
+        <source>nothing was written although there was free space</source>
+        <translation>rien n&apos;a été écrit alors qu&apos;il y avait de l&apos;espace libre</translation>
+    </message>
+    <message>
+        <source>free space was left that could not be filled</source>
+        <translation>il est resté de l&apos;espace libre qui n&apos;a pas pu être rempli</translation>
+    </message>
+    <message>
+        <source>more than 10 % of the free space is left as a reserve</source>
+        <translation>plus de 10 % de l&apos;espace libre est laissé en réserve</translation>
+    </message>
+    <message>
+        <source>fill files were left behind</source>
+        <translation>des fichiers de remplissage sont restés</translation>
+    </message>
+    <message>
+        <source>entries were gone before they could be erased</source>
+        <translation>des éléments avaient disparu avant de pouvoir être effacés</translation>
+    </message>
+    <message>
+        <source>entries were replaced by others meanwhile</source>
+        <translation>des éléments ont été entre-temps remplacés par d&apos;autres</translation>
+    </message>
+    <message>
+        <source>files grew after they were overwritten</source>
+        <translation>des fichiers se sont agrandis après leur écrasement</translation>
+    </message>
+    <message>
+        <source>entries could not be removed</source>
+        <translation>des éléments n&apos;ont pas pu être supprimés</translation>
+    </message>
+    <message>
+        <source>the file system may keep the content elsewhere, where it is not overwritten</source>
+        <translation>il se peut que le système de fichiers conserve le contenu ailleurs, où il n&apos;est pas écrasé</translation>
+    </message>
+    <message>
+        <source>links are removed, what they lead to is not erased</source>
+        <translation>les liens sont supprimés, leurs cibles ne sont pas effacées</translation>
+    </message>
+    <message>
+        <source>what was written was not read back</source>
+        <translation>ce qui a été écrit n&apos;a pas été relu</translation>
+    </message>
+    <message>
+        <source>what was written cannot be compared when it is read back</source>
+        <translation>ce qui a été écrit ne peut pas être comparé lors de la relecture</translation>
+    </message>
+    <message>
+        <source>a small part of the free space is left as a reserve</source>
+        <translation>une petite partie de l&apos;espace libre est laissée en réserve</translation>
+    </message>
+    <message>
+        <source>files had further names, which stay and lead to overwritten content</source>
+        <translation>des fichiers avaient d&apos;autres noms, qui subsistent et mènent au contenu écrasé</translation>
+    </message>
+    <message>
+        <source>the file system writes to new places and may keep earlier content, in snapshots for instance</source>
+        <translation>le système de fichiers écrit à de nouveaux emplacements et conserve peut-être le contenu antérieur, par exemple dans des instantanés</translation>
+    </message>
+    <message>
+        <source>there was no free space to overwrite</source>
+        <translation>il n&apos;y avait pas d&apos;espace libre à écraser</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>et %1 de plus</translation>
+    </message>
+    <message>
+        <source>Partly erased: %1</source>
+        <translation>Effacé en partie : %1</translation>
+    </message>
+    <message>
+        <source>Not completely erased: the job failed</source>
+        <translation>Pas entièrement effacé : la tâche a échoué</translation>
+    </message>
+    <message>
+        <source>Not completely erased: the job was cancelled</source>
+        <translation>Pas entièrement effacé : la tâche a été annulée</translation>
     </message>
 </context>
 <context>

@@ -1040,10 +1040,6 @@
         <translation>FALLITO</translation>
     </message>
     <message>
-        <source>, ONLY THE VOLUMES: %1 of %2 sectors erased</source>
-        <translation>, SOLO I VOLUMI: %1 settori cancellati su %2</translation>
-    </message>
-    <message>
         <source>%1 written</source>
         <translation>%1 scritti</translation>
     </message>
@@ -1208,12 +1204,72 @@
         <translation>FATTO IN PARTE</translation>
     </message>
     <message>
-        <source>only the mounted volumes were erased; unmount them to erase the whole drive</source>
-        <translation>sono stati cancellati solo i volumi montati; smontarli per cancellare l&apos;intera unità</translation>
-    </message>
-    <message>
         <source>%1 is empty, there is nothing to check</source>
         <translation>%1 è vuoto, non c&apos;è nulla da controllare</translation>
+    </message>
+    <message>
+        <source>Outcome</source>
+        <translation>Esito</translation>
+    </message>
+    <message>
+        <source>a device that is no drive</source>
+        <translation>dispositivo che non è un disco</translation>
+    </message>
+    <message>
+        <source>%1 is read-only</source>
+        <translation>%1 è di sola lettura</translation>
+    </message>
+    <message>
+        <source>drive %1 is read-only</source>
+        <translation>il disco %1 è di sola lettura</translation>
+    </message>
+    <message>
+        <source>volume %1 lies on drive %2 and also on %3</source>
+        <translation>il volume %1 si trova sul disco %2 e anche su: %3</translation>
+    </message>
+    <message>
+        <source>drive %1 is held by %2</source>
+        <translation>il disco %1 è occupato da %2</translation>
+    </message>
+    <message>
+        <source>to release it: %1</source>
+        <translation>per liberarlo: %1</translation>
+    </message>
+    <message>
+        <source>Shortfall</source>
+        <translation>Lacuna</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Nota</translation>
+    </message>
+    <message>
+        <source>complete</source>
+        <translation>completo</translation>
+    </message>
+    <message>
+        <source>partial</source>
+        <translation>parziale</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>fallito</translation>
+    </message>
+    <message>
+        <source>unknown kind of shortfall &apos;%1&apos;, there are: %2</source>
+        <translation>tipo di lacuna sconosciuto &apos;%1&apos;, quelli disponibili sono: %2</translation>
+    </message>
+    <message>
+        <source>A shortfall of this kind is no failure; may be given several times</source>
+        <translation>Una lacuna di questo tipo non è considerata un errore (ripetibile)</translation>
+    </message>
+    <message>
+        <source>left unmounted: %1</source>
+        <translation>volumi rimasti smontati: %1</translation>
+    </message>
+    <message>
+        <source>  not everything will be erased:</source>
+        <translation>  non verrà cancellato tutto:</translation>
     </message>
 </context>
 <context>
@@ -1399,6 +1455,30 @@ An erasure certificate has been generated.</source>
     <message>
         <source>⚠️ Boot</source>
         <translation>⚠️ Avvio</translation>
+    </message>
+    <message>
+        <source>a device that is no disk</source>
+        <translation>un dispositivo che non è un disco</translation>
+    </message>
+    <message>
+        <source>disk %1</source>
+        <translation>disco %1</translation>
+    </message>
+    <message>
+        <source>Volume %1 lies on this disk and also on %2.</source>
+        <translation>Il volume %1 si trova su questo disco e anche su %2.</translation>
+    </message>
+    <message>
+        <source>The disk is read-only.</source>
+        <translation>Il disco è di sola lettura.</translation>
+    </message>
+    <message>
+        <source>The disk is held by: %1</source>
+        <translation>Il disco è occupato da: %1</translation>
+    </message>
+    <message>
+        <source>These commands release it:</source>
+        <translation>Questi comandi lo liberano:</translation>
     </message>
 </context>
 <context>
@@ -2311,6 +2391,16 @@ Cancellare lo spazio libero in modo che non possano essere recuperati?</translat
         <source>There is no report %1 in the database.</source>
         <translation>Nel database non è presente il rapporto %1.</translation>
     </message>
+    <message>
+        <source>This Disk Cannot Be Erased</source>
+        <translation>Questo disco non può essere cancellato</translation>
+    </message>
+    <message>
+        <source>All of these will be erased, not only %1
+%2</source>
+        <translation>Verrà cancellato tutto questo, non solo %1
+%2</translation>
+    </message>
 </context>
 <context>
     <name>MethodCard</name>
@@ -2340,6 +2430,117 @@ Cancellare lo spazio libero in modo che non possano essere recuperati?</translat
     <message>
         <source>Start</source>
         <translation>Avvia</translation>
+    </message>
+</context>
+<context>
+    <name>OutcomeRecord</name>
+    <message>
+        <source>only the mounted volumes are erased, not the rest of the drive</source>
+        <translation>vengono cancellati solo i volumi montati, non il resto del disco</translation>
+    </message>
+    <message>
+        <source>volumes could not be opened and were not erased</source>
+        <translation>volumi che non è stato possibile aprire e che non sono stati cancellati</translation>
+    </message>
+    <message>
+        <source>volumes took no more data before their end</source>
+        <translation>volumi che non accettavano più dati prima della propria fine</translation>
+    </message>
+    <message>
+        <source>volumes were in use while they were overwritten</source>
+        <translation>volumi che erano in uso durante la sovrascrittura</translation>
+    </message>
+    <message>
+        <source>the end of the drive is no whole sector and was not overwritten</source>
+        <translation>la fine del disco non è un settore intero e non è stata sovrascritta</translation>
+    </message>
+    <message>
+        <source>the drive says that it has no size, nothing was written</source>
+        <translation>il disco indica una dimensione pari a zero, non è stato scritto nulla</translation>
+    </message>
+    <message>
+        <source>volumes reach beyond the drive</source>
+        <translation>volumi che si estendono oltre il disco</translation>
+    </message>
+    <message>
+        <source>nothing was written although there was free space</source>
+        <translation>non è stato scritto nulla benché ci fosse spazio libero</translation>
+    </message>
+    <message>
+        <source>free space was left that could not be filled</source>
+        <translation>è rimasto spazio libero che non è stato possibile riempire</translation>
+    </message>
+    <message>
+        <source>more than 10 % of the free space is left as a reserve</source>
+        <translation>più del 10% dello spazio libero viene lasciato come riserva</translation>
+    </message>
+    <message>
+        <source>fill files were left behind</source>
+        <translation>sono rimasti file di riempimento</translation>
+    </message>
+    <message>
+        <source>entries were gone before they could be erased</source>
+        <translation>elementi scomparsi prima di poter essere cancellati</translation>
+    </message>
+    <message>
+        <source>entries were replaced by others meanwhile</source>
+        <translation>elementi sostituiti nel frattempo da altri</translation>
+    </message>
+    <message>
+        <source>files grew after they were overwritten</source>
+        <translation>file cresciuti dopo la sovrascrittura</translation>
+    </message>
+    <message>
+        <source>entries could not be removed</source>
+        <translation>elementi che non è stato possibile rimuovere</translation>
+    </message>
+    <message>
+        <source>the file system may keep the content elsewhere, where it is not overwritten</source>
+        <translation>il file system potrebbe conservare il contenuto altrove, dove non viene sovrascritto</translation>
+    </message>
+    <message>
+        <source>links are removed, what they lead to is not erased</source>
+        <translation>i collegamenti vengono rimossi, ciò a cui puntano non viene cancellato</translation>
+    </message>
+    <message>
+        <source>what was written was not read back</source>
+        <translation>ciò che è stato scritto non è stato riletto</translation>
+    </message>
+    <message>
+        <source>what was written cannot be compared when it is read back</source>
+        <translation>ciò che è stato scritto non può essere confrontato alla rilettura</translation>
+    </message>
+    <message>
+        <source>a small part of the free space is left as a reserve</source>
+        <translation>una piccola parte dello spazio libero viene lasciata come riserva</translation>
+    </message>
+    <message>
+        <source>files had further names, which stay and lead to overwritten content</source>
+        <translation>file che avevano altri nomi, che rimangono e puntano a contenuto sovrascritto</translation>
+    </message>
+    <message>
+        <source>the file system writes to new places and may keep earlier content, in snapshots for instance</source>
+        <translation>il file system scrive in posizioni nuove e potrebbe conservare il contenuto precedente, ad esempio in snapshot</translation>
+    </message>
+    <message>
+        <source>there was no free space to overwrite</source>
+        <translation>non c&apos;era spazio libero da sovrascrivere</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>e altri %1</translation>
+    </message>
+    <message>
+        <source>Partly erased: %1</source>
+        <translation>Cancellato in parte: %1</translation>
+    </message>
+    <message>
+        <source>Not completely erased: the job failed</source>
+        <translation>Non cancellato completamente: l&apos;attività non è riuscita</translation>
+    </message>
+    <message>
+        <source>Not completely erased: the job was cancelled</source>
+        <translation>Non cancellato completamente: l&apos;attività è stata annullata</translation>
     </message>
 </context>
 <context>

@@ -1040,10 +1040,6 @@
         <translation>失敗</translation>
     </message>
     <message>
-        <source>, ONLY THE VOLUMES: %1 of %2 sectors erased</source>
-        <translation>, ボリュームのみ消去: 全 %2 セクター中 %1 セクター</translation>
-    </message>
-    <message>
         <source>%1 written</source>
         <translation>書き込み量 %1</translation>
     </message>
@@ -1208,12 +1204,72 @@
         <translation>一部完了</translation>
     </message>
     <message>
-        <source>only the mounted volumes were erased; unmount them to erase the whole drive</source>
-        <translation>マウントされているボリュームのみが消去されました。ドライブ全体を消去するにはボリュームをアンマウントしてください</translation>
-    </message>
-    <message>
         <source>%1 is empty, there is nothing to check</source>
         <translation>%1 は空です。確認するものがありません</translation>
+    </message>
+    <message>
+        <source>Outcome</source>
+        <translation>結果</translation>
+    </message>
+    <message>
+        <source>a device that is no drive</source>
+        <translation>ドライブではないデバイス</translation>
+    </message>
+    <message>
+        <source>%1 is read-only</source>
+        <translation>%1 は読み取り専用です</translation>
+    </message>
+    <message>
+        <source>drive %1 is read-only</source>
+        <translation>ドライブ %1 は読み取り専用です</translation>
+    </message>
+    <message>
+        <source>volume %1 lies on drive %2 and also on %3</source>
+        <translation>ボリューム %1 はドライブ %2 のほか、%3 にもまたがっています</translation>
+    </message>
+    <message>
+        <source>drive %1 is held by %2</source>
+        <translation>ドライブ %1 は %2 によって占有されています</translation>
+    </message>
+    <message>
+        <source>to release it: %1</source>
+        <translation>解放するには: %1</translation>
+    </message>
+    <message>
+        <source>Shortfall</source>
+        <translation>未達事項</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>備考</translation>
+    </message>
+    <message>
+        <source>complete</source>
+        <translation>すべて完了</translation>
+    </message>
+    <message>
+        <source>partial</source>
+        <translation>一部完了</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>失敗</translation>
+    </message>
+    <message>
+        <source>unknown kind of shortfall &apos;%1&apos;, there are: %2</source>
+        <translation>不明な未達事項の種類です: &apos;%1&apos; (指定できる種類: %2)</translation>
+    </message>
+    <message>
+        <source>A shortfall of this kind is no failure; may be given several times</source>
+        <translation>この種類の未達事項を失敗とみなさない (複数指定可)</translation>
+    </message>
+    <message>
+        <source>left unmounted: %1</source>
+        <translation>マウント解除されたままのボリューム: %1</translation>
+    </message>
+    <message>
+        <source>  not everything will be erased:</source>
+        <translation>  一部は消去されません:</translation>
     </message>
 </context>
 <context>
@@ -1399,6 +1455,30 @@ An erasure certificate has been generated.</source>
     <message>
         <source>⚠️ Boot</source>
         <translation>⚠️ ブート</translation>
+    </message>
+    <message>
+        <source>a device that is no disk</source>
+        <translation>ディスクではないデバイス</translation>
+    </message>
+    <message>
+        <source>disk %1</source>
+        <translation>ディスク %1</translation>
+    </message>
+    <message>
+        <source>Volume %1 lies on this disk and also on %2.</source>
+        <translation>ボリューム %1 はこのディスクのほか、%2 にもまたがっています。</translation>
+    </message>
+    <message>
+        <source>The disk is read-only.</source>
+        <translation>このディスクは読み取り専用です。</translation>
+    </message>
+    <message>
+        <source>The disk is held by: %1</source>
+        <translation>このディスクは次により占有されています: %1</translation>
+    </message>
+    <message>
+        <source>These commands release it:</source>
+        <translation>次のコマンドで解放できます:</translation>
     </message>
 </context>
 <context>
@@ -2311,6 +2391,16 @@ Would you like to wipe free space to ensure they cannot be recovered?</source>
         <source>There is no report %1 in the database.</source>
         <translation>データベースにレポート %1 はありません。</translation>
     </message>
+    <message>
+        <source>This Disk Cannot Be Erased</source>
+        <translation>このディスクは消去できません</translation>
+    </message>
+    <message>
+        <source>All of these will be erased, not only %1
+%2</source>
+        <translation>%1 だけでなく、次のすべてが消去されます
+%2</translation>
+    </message>
 </context>
 <context>
     <name>MethodCard</name>
@@ -2340,6 +2430,117 @@ Would you like to wipe free space to ensure they cannot be recovered?</source>
     <message>
         <source>Start</source>
         <translation>開始</translation>
+    </message>
+</context>
+<context>
+    <name>OutcomeRecord</name>
+    <message>
+        <source>only the mounted volumes are erased, not the rest of the drive</source>
+        <translation>マウントされたボリュームのみを消去し、ドライブの残りの部分は消去しません</translation>
+    </message>
+    <message>
+        <source>volumes could not be opened and were not erased</source>
+        <translation>ボリュームを開けず、消去していません</translation>
+    </message>
+    <message>
+        <source>volumes took no more data before their end</source>
+        <translation>ボリュームが末尾に達する前にデータを受け付けなくなりました</translation>
+    </message>
+    <message>
+        <source>volumes were in use while they were overwritten</source>
+        <translation>上書き中にボリュームが使用されていました</translation>
+    </message>
+    <message>
+        <source>the end of the drive is no whole sector and was not overwritten</source>
+        <translation>ドライブの末尾が 1 セクターに満たず、上書きされていません</translation>
+    </message>
+    <message>
+        <source>the drive says that it has no size, nothing was written</source>
+        <translation>ドライブが報告する容量が 0 であり、何も書き込まれていません</translation>
+    </message>
+    <message>
+        <source>volumes reach beyond the drive</source>
+        <translation>ボリュームがドライブの範囲を超えています</translation>
+    </message>
+    <message>
+        <source>nothing was written although there was free space</source>
+        <translation>空き領域があったにもかかわらず、何も書き込まれていません</translation>
+    </message>
+    <message>
+        <source>free space was left that could not be filled</source>
+        <translation>充填できなかった空き領域が残りました</translation>
+    </message>
+    <message>
+        <source>more than 10 % of the free space is left as a reserve</source>
+        <translation>予備として残す領域が空き領域の 10% を超えます</translation>
+    </message>
+    <message>
+        <source>fill files were left behind</source>
+        <translation>充填ファイルが残っています</translation>
+    </message>
+    <message>
+        <source>entries were gone before they could be erased</source>
+        <translation>消去する前に項目がなくなっていました</translation>
+    </message>
+    <message>
+        <source>entries were replaced by others meanwhile</source>
+        <translation>途中で項目が別のものに置き換わりました</translation>
+    </message>
+    <message>
+        <source>files grew after they were overwritten</source>
+        <translation>上書き後にファイルが大きくなりました</translation>
+    </message>
+    <message>
+        <source>entries could not be removed</source>
+        <translation>項目を削除できませんでした</translation>
+    </message>
+    <message>
+        <source>the file system may keep the content elsewhere, where it is not overwritten</source>
+        <translation>ファイルシステムが内容を別の場所に保持している可能性があり、そこは上書きされません</translation>
+    </message>
+    <message>
+        <source>links are removed, what they lead to is not erased</source>
+        <translation>リンクは削除されますが、リンク先は消去されません</translation>
+    </message>
+    <message>
+        <source>what was written was not read back</source>
+        <translation>書き込んだデータは読み戻されていません</translation>
+    </message>
+    <message>
+        <source>what was written cannot be compared when it is read back</source>
+        <translation>書き込んだデータは、読み戻しても照合できません</translation>
+    </message>
+    <message>
+        <source>a small part of the free space is left as a reserve</source>
+        <translation>空き領域のごく一部を予備として残します</translation>
+    </message>
+    <message>
+        <source>files had further names, which stay and lead to overwritten content</source>
+        <translation>ファイルに別の名前があり、その名前は残って上書き後の内容を指します</translation>
+    </message>
+    <message>
+        <source>the file system writes to new places and may keep earlier content, in snapshots for instance</source>
+        <translation>ファイルシステムが新しい場所に書き込み、以前の内容をスナップショットなどに保持している可能性があります</translation>
+    </message>
+    <message>
+        <source>there was no free space to overwrite</source>
+        <translation>上書きする空き領域がありませんでした</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>ほか %1 件</translation>
+    </message>
+    <message>
+        <source>Partly erased: %1</source>
+        <translation>一部のみ消去: %1</translation>
+    </message>
+    <message>
+        <source>Not completely erased: the job failed</source>
+        <translation>完全には消去されていません: 処理が失敗しました</translation>
+    </message>
+    <message>
+        <source>Not completely erased: the job was cancelled</source>
+        <translation>完全には消去されていません: 処理が中止されました</translation>
     </message>
 </context>
 <context>

@@ -1040,10 +1040,6 @@
         <translation>실패</translation>
     </message>
     <message>
-        <source>, ONLY THE VOLUMES: %1 of %2 sectors erased</source>
-        <translation>, 볼륨만 소거됨: 전체 %2개 섹터 중 %1개</translation>
-    </message>
-    <message>
         <source>%1 written</source>
         <translation>쓰기 %1</translation>
     </message>
@@ -1208,12 +1204,72 @@
         <translation>일부 완료</translation>
     </message>
     <message>
-        <source>only the mounted volumes were erased; unmount them to erase the whole drive</source>
-        <translation>마운트된 볼륨만 삭제되었습니다. 드라이브 전체를 삭제하려면 볼륨을 마운트 해제하십시오</translation>
-    </message>
-    <message>
         <source>%1 is empty, there is nothing to check</source>
         <translation>%1은(는) 비어 있어 확인할 것이 없습니다</translation>
+    </message>
+    <message>
+        <source>Outcome</source>
+        <translation>결과</translation>
+    </message>
+    <message>
+        <source>a device that is no drive</source>
+        <translation>드라이브가 아닌 장치</translation>
+    </message>
+    <message>
+        <source>%1 is read-only</source>
+        <translation>%1은(는) 읽기 전용입니다</translation>
+    </message>
+    <message>
+        <source>drive %1 is read-only</source>
+        <translation>드라이브 %1은(는) 읽기 전용입니다</translation>
+    </message>
+    <message>
+        <source>volume %1 lies on drive %2 and also on %3</source>
+        <translation>볼륨 %1은(는) 드라이브 %2 외에 다음에도 걸쳐 있습니다: %3</translation>
+    </message>
+    <message>
+        <source>drive %1 is held by %2</source>
+        <translation>드라이브 %1을(를) %2에서 점유하고 있습니다</translation>
+    </message>
+    <message>
+        <source>to release it: %1</source>
+        <translation>점유를 해제하려면: %1</translation>
+    </message>
+    <message>
+        <source>Shortfall</source>
+        <translation>미비 사항</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>참고</translation>
+    </message>
+    <message>
+        <source>complete</source>
+        <translation>모두 완료</translation>
+    </message>
+    <message>
+        <source>partial</source>
+        <translation>일부 완료</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>실패</translation>
+    </message>
+    <message>
+        <source>unknown kind of shortfall &apos;%1&apos;, there are: %2</source>
+        <translation>알 수 없는 미비 사항 종류입니다: &apos;%1&apos; (사용 가능: %2)</translation>
+    </message>
+    <message>
+        <source>A shortfall of this kind is no failure; may be given several times</source>
+        <translation>이 종류의 미비 사항을 실패로 보지 않음 (반복 지정 가능)</translation>
+    </message>
+    <message>
+        <source>left unmounted: %1</source>
+        <translation>마운트 해제된 상태로 남은 볼륨: %1</translation>
+    </message>
+    <message>
+        <source>  not everything will be erased:</source>
+        <translation>  일부는 소거되지 않습니다:</translation>
     </message>
 </context>
 <context>
@@ -1399,6 +1455,30 @@ An erasure certificate has been generated.</source>
     <message>
         <source>⚠️ Boot</source>
         <translation>⚠️ 부팅</translation>
+    </message>
+    <message>
+        <source>a device that is no disk</source>
+        <translation>디스크가 아닌 장치</translation>
+    </message>
+    <message>
+        <source>disk %1</source>
+        <translation>디스크 %1</translation>
+    </message>
+    <message>
+        <source>Volume %1 lies on this disk and also on %2.</source>
+        <translation>볼륨 %1은(는) 이 디스크 외에 %2에도 걸쳐 있습니다.</translation>
+    </message>
+    <message>
+        <source>The disk is read-only.</source>
+        <translation>이 디스크는 읽기 전용입니다.</translation>
+    </message>
+    <message>
+        <source>The disk is held by: %1</source>
+        <translation>이 디스크를 점유하고 있는 대상: %1</translation>
+    </message>
+    <message>
+        <source>These commands release it:</source>
+        <translation>다음 명령으로 점유를 해제할 수 있습니다:</translation>
     </message>
 </context>
 <context>
@@ -2311,6 +2391,16 @@ Would you like to wipe free space to ensure they cannot be recovered?</source>
         <source>There is no report %1 in the database.</source>
         <translation>데이터베이스에 보고서 %1이(가) 없습니다.</translation>
     </message>
+    <message>
+        <source>This Disk Cannot Be Erased</source>
+        <translation>이 디스크는 소거할 수 없음</translation>
+    </message>
+    <message>
+        <source>All of these will be erased, not only %1
+%2</source>
+        <translation>%1뿐만 아니라 다음이 모두 소거됩니다
+%2</translation>
+    </message>
 </context>
 <context>
     <name>MethodCard</name>
@@ -2340,6 +2430,117 @@ Would you like to wipe free space to ensure they cannot be recovered?</source>
     <message>
         <source>Start</source>
         <translation>시작</translation>
+    </message>
+</context>
+<context>
+    <name>OutcomeRecord</name>
+    <message>
+        <source>only the mounted volumes are erased, not the rest of the drive</source>
+        <translation>마운트된 볼륨만 소거되고 드라이브의 나머지 부분은 소거되지 않습니다</translation>
+    </message>
+    <message>
+        <source>volumes could not be opened and were not erased</source>
+        <translation>볼륨을 열 수 없어 소거하지 못했습니다</translation>
+    </message>
+    <message>
+        <source>volumes took no more data before their end</source>
+        <translation>볼륨이 끝에 도달하기 전에 더 이상 데이터를 받지 않았습니다</translation>
+    </message>
+    <message>
+        <source>volumes were in use while they were overwritten</source>
+        <translation>덮어쓰는 동안 볼륨이 사용 중이었습니다</translation>
+    </message>
+    <message>
+        <source>the end of the drive is no whole sector and was not overwritten</source>
+        <translation>드라이브 끝부분이 온전한 한 섹터가 아니어서 덮어쓰지 않았습니다</translation>
+    </message>
+    <message>
+        <source>the drive says that it has no size, nothing was written</source>
+        <translation>드라이브가 보고한 크기가 0이며, 아무것도 쓰지 않았습니다</translation>
+    </message>
+    <message>
+        <source>volumes reach beyond the drive</source>
+        <translation>볼륨이 드라이브 범위를 벗어납니다</translation>
+    </message>
+    <message>
+        <source>nothing was written although there was free space</source>
+        <translation>여유 공간이 있었지만 아무것도 쓰지 않았습니다</translation>
+    </message>
+    <message>
+        <source>free space was left that could not be filled</source>
+        <translation>채울 수 없는 여유 공간이 남았습니다</translation>
+    </message>
+    <message>
+        <source>more than 10 % of the free space is left as a reserve</source>
+        <translation>예비 공간으로 남겨 두는 부분이 여유 공간의 10%를 넘습니다</translation>
+    </message>
+    <message>
+        <source>fill files were left behind</source>
+        <translation>채우기 파일이 남아 있습니다</translation>
+    </message>
+    <message>
+        <source>entries were gone before they could be erased</source>
+        <translation>소거하기 전에 항목이 사라졌습니다</translation>
+    </message>
+    <message>
+        <source>entries were replaced by others meanwhile</source>
+        <translation>도중에 항목이 다른 것으로 바뀌었습니다</translation>
+    </message>
+    <message>
+        <source>files grew after they were overwritten</source>
+        <translation>덮어쓴 후에 파일이 커졌습니다</translation>
+    </message>
+    <message>
+        <source>entries could not be removed</source>
+        <translation>항목을 제거할 수 없었습니다</translation>
+    </message>
+    <message>
+        <source>the file system may keep the content elsewhere, where it is not overwritten</source>
+        <translation>파일 시스템이 다른 위치에 내용을 보관하고 있을 수 있으며, 그 위치는 덮어쓰지 않습니다</translation>
+    </message>
+    <message>
+        <source>links are removed, what they lead to is not erased</source>
+        <translation>링크는 제거되지만 링크 대상은 소거되지 않습니다</translation>
+    </message>
+    <message>
+        <source>what was written was not read back</source>
+        <translation>쓴 데이터를 다시 읽지 않았습니다</translation>
+    </message>
+    <message>
+        <source>what was written cannot be compared when it is read back</source>
+        <translation>쓴 데이터를 다시 읽어도 비교할 수 없습니다</translation>
+    </message>
+    <message>
+        <source>a small part of the free space is left as a reserve</source>
+        <translation>여유 공간의 작은 일부를 예비 공간으로 남겨 둡니다</translation>
+    </message>
+    <message>
+        <source>files had further names, which stay and lead to overwritten content</source>
+        <translation>파일에 다른 이름이 더 있으며, 그 이름은 남아서 덮어쓴 내용을 가리킵니다</translation>
+    </message>
+    <message>
+        <source>the file system writes to new places and may keep earlier content, in snapshots for instance</source>
+        <translation>파일 시스템이 새 위치에 쓰며 이전 내용을 스냅샷 등에 보관하고 있을 수 있습니다</translation>
+    </message>
+    <message>
+        <source>there was no free space to overwrite</source>
+        <translation>덮어쓸 여유 공간이 없었습니다</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>외 %1개</translation>
+    </message>
+    <message>
+        <source>Partly erased: %1</source>
+        <translation>일부만 소거됨: %1</translation>
+    </message>
+    <message>
+        <source>Not completely erased: the job failed</source>
+        <translation>완전히 소거되지 않음: 작업이 실패했습니다</translation>
+    </message>
+    <message>
+        <source>Not completely erased: the job was cancelled</source>
+        <translation>완전히 소거되지 않음: 작업이 취소되었습니다</translation>
     </message>
 </context>
 <context>

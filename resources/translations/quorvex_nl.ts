@@ -1040,10 +1040,6 @@
         <translation>MISLUKT</translation>
     </message>
     <message>
-        <source>, ONLY THE VOLUMES: %1 of %2 sectors erased</source>
-        <translation>, ALLEEN DE VOLUMES: %1 van %2 sectoren gewist</translation>
-    </message>
-    <message>
         <source>%1 written</source>
         <translation>%1 geschreven</translation>
     </message>
@@ -1208,12 +1204,72 @@
         <translation>DEELS KLAAR</translation>
     </message>
     <message>
-        <source>only the mounted volumes were erased; unmount them to erase the whole drive</source>
-        <translation>alleen de gekoppelde volumes zijn gewist; ontkoppel ze om het hele station te wissen</translation>
-    </message>
-    <message>
         <source>%1 is empty, there is nothing to check</source>
         <translation>%1 is leeg, er valt niets te controleren</translation>
+    </message>
+    <message>
+        <source>Outcome</source>
+        <translation>Resultaat</translation>
+    </message>
+    <message>
+        <source>a device that is no drive</source>
+        <translation>een apparaat dat geen schijf is</translation>
+    </message>
+    <message>
+        <source>%1 is read-only</source>
+        <translation>%1 is alleen-lezen</translation>
+    </message>
+    <message>
+        <source>drive %1 is read-only</source>
+        <translation>schijf %1 is alleen-lezen</translation>
+    </message>
+    <message>
+        <source>volume %1 lies on drive %2 and also on %3</source>
+        <translation>volume %1 ligt op schijf %2 en ook op %3</translation>
+    </message>
+    <message>
+        <source>drive %1 is held by %2</source>
+        <translation>schijf %1 wordt bezet gehouden door %2</translation>
+    </message>
+    <message>
+        <source>to release it: %1</source>
+        <translation>om de schijf vrij te geven: %1</translation>
+    </message>
+    <message>
+        <source>Shortfall</source>
+        <translation>Tekortkoming</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Opmerking</translation>
+    </message>
+    <message>
+        <source>complete</source>
+        <translation>volledig</translation>
+    </message>
+    <message>
+        <source>partial</source>
+        <translation>gedeeltelijk</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>mislukt</translation>
+    </message>
+    <message>
+        <source>unknown kind of shortfall &apos;%1&apos;, there are: %2</source>
+        <translation>onbekend soort tekortkoming &apos;%1&apos;, bekend zijn: %2</translation>
+    </message>
+    <message>
+        <source>A shortfall of this kind is no failure; may be given several times</source>
+        <translation>Een tekortkoming van dit soort geldt niet als mislukking (herhaalbaar)</translation>
+    </message>
+    <message>
+        <source>left unmounted: %1</source>
+        <translation>ontkoppeld gebleven: %1</translation>
+    </message>
+    <message>
+        <source>  not everything will be erased:</source>
+        <translation>  niet alles wordt gewist:</translation>
     </message>
 </context>
 <context>
@@ -1399,6 +1455,30 @@ Er is een wiscertificaat aangemaakt.</translation>
     <message>
         <source>⚠️ Boot</source>
         <translation>⚠️ Boot</translation>
+    </message>
+    <message>
+        <source>a device that is no disk</source>
+        <translation>een apparaat dat geen schijf is</translation>
+    </message>
+    <message>
+        <source>disk %1</source>
+        <translation>schijf %1</translation>
+    </message>
+    <message>
+        <source>Volume %1 lies on this disk and also on %2.</source>
+        <translation>Volume %1 ligt op deze schijf en ook op %2.</translation>
+    </message>
+    <message>
+        <source>The disk is read-only.</source>
+        <translation>De schijf is alleen-lezen.</translation>
+    </message>
+    <message>
+        <source>The disk is held by: %1</source>
+        <translation>De schijf wordt bezet gehouden door: %1</translation>
+    </message>
+    <message>
+        <source>These commands release it:</source>
+        <translation>Deze opdrachten geven de schijf vrij:</translation>
     </message>
 </context>
 <context>
@@ -2311,6 +2391,16 @@ Wilt u de vrije ruimte wissen, zodat ze niet meer kunnen worden hersteld?</trans
         <source>There is no report %1 in the database.</source>
         <translation>Er is geen rapport %1 in de database.</translation>
     </message>
+    <message>
+        <source>This Disk Cannot Be Erased</source>
+        <translation>Deze schijf kan niet worden gewist</translation>
+    </message>
+    <message>
+        <source>All of these will be erased, not only %1
+%2</source>
+        <translation>Dit alles wordt gewist, niet alleen %1
+%2</translation>
+    </message>
 </context>
 <context>
     <name>MethodCard</name>
@@ -2340,6 +2430,117 @@ Wilt u de vrije ruimte wissen, zodat ze niet meer kunnen worden hersteld?</trans
     <message>
         <source>Start</source>
         <translation>Starten</translation>
+    </message>
+</context>
+<context>
+    <name>OutcomeRecord</name>
+    <message>
+        <source>only the mounted volumes are erased, not the rest of the drive</source>
+        <translation>alleen de gekoppelde volumes worden gewist, niet de rest van de schijf</translation>
+    </message>
+    <message>
+        <source>volumes could not be opened and were not erased</source>
+        <translation>volumes konden niet worden geopend en zijn niet gewist</translation>
+    </message>
+    <message>
+        <source>volumes took no more data before their end</source>
+        <translation>volumes namen vóór hun einde al geen gegevens meer aan</translation>
+    </message>
+    <message>
+        <source>volumes were in use while they were overwritten</source>
+        <translation>volumes waren in gebruik terwijl ze werden overschreven</translation>
+    </message>
+    <message>
+        <source>the end of the drive is no whole sector and was not overwritten</source>
+        <translation>het einde van de schijf is geen hele sector en is niet overschreven</translation>
+    </message>
+    <message>
+        <source>the drive says that it has no size, nothing was written</source>
+        <translation>de schijf meldt een grootte van nul, er is niets geschreven</translation>
+    </message>
+    <message>
+        <source>volumes reach beyond the drive</source>
+        <translation>volumes reiken voorbij het einde van de schijf</translation>
+    </message>
+    <message>
+        <source>nothing was written although there was free space</source>
+        <translation>er is niets geschreven, hoewel er vrije ruimte was</translation>
+    </message>
+    <message>
+        <source>free space was left that could not be filled</source>
+        <translation>er bleef vrije ruimte over die niet kon worden gevuld</translation>
+    </message>
+    <message>
+        <source>more than 10 % of the free space is left as a reserve</source>
+        <translation>meer dan 10% van de vrije ruimte blijft vrij als reserve</translation>
+    </message>
+    <message>
+        <source>fill files were left behind</source>
+        <translation>vulbestanden zijn achtergebleven</translation>
+    </message>
+    <message>
+        <source>entries were gone before they could be erased</source>
+        <translation>items waren al weg voordat ze konden worden gewist</translation>
+    </message>
+    <message>
+        <source>entries were replaced by others meanwhile</source>
+        <translation>items zijn intussen door andere vervangen</translation>
+    </message>
+    <message>
+        <source>files grew after they were overwritten</source>
+        <translation>bestanden zijn gegroeid nadat ze waren overschreven</translation>
+    </message>
+    <message>
+        <source>entries could not be removed</source>
+        <translation>items konden niet worden verwijderd</translation>
+    </message>
+    <message>
+        <source>the file system may keep the content elsewhere, where it is not overwritten</source>
+        <translation>het bestandssysteem bewaart de inhoud mogelijk elders, waar die niet wordt overschreven</translation>
+    </message>
+    <message>
+        <source>links are removed, what they lead to is not erased</source>
+        <translation>koppelingen worden verwijderd, het doel ervan wordt niet gewist</translation>
+    </message>
+    <message>
+        <source>what was written was not read back</source>
+        <translation>wat is geschreven, is niet teruggelezen</translation>
+    </message>
+    <message>
+        <source>what was written cannot be compared when it is read back</source>
+        <translation>wat is geschreven, kan bij het teruglezen niet worden vergeleken</translation>
+    </message>
+    <message>
+        <source>a small part of the free space is left as a reserve</source>
+        <translation>een klein deel van de vrije ruimte blijft vrij als reserve</translation>
+    </message>
+    <message>
+        <source>files had further names, which stay and lead to overwritten content</source>
+        <translation>bestanden hadden nog andere namen, die blijven bestaan en naar overschreven inhoud leiden</translation>
+    </message>
+    <message>
+        <source>the file system writes to new places and may keep earlier content, in snapshots for instance</source>
+        <translation>het bestandssysteem schrijft naar nieuwe plaatsen en bewaart mogelijk eerdere inhoud, bijvoorbeeld in snapshots</translation>
+    </message>
+    <message>
+        <source>there was no free space to overwrite</source>
+        <translation>er was geen vrije ruimte om te overschrijven</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>en nog %1</translation>
+    </message>
+    <message>
+        <source>Partly erased: %1</source>
+        <translation>Deels gewist: %1</translation>
+    </message>
+    <message>
+        <source>Not completely erased: the job failed</source>
+        <translation>Niet volledig gewist: de taak is mislukt</translation>
+    </message>
+    <message>
+        <source>Not completely erased: the job was cancelled</source>
+        <translation>Niet volledig gewist: de taak is afgebroken</translation>
     </message>
 </context>
 <context>

@@ -1040,10 +1040,6 @@
         <translation>FALHOU</translation>
     </message>
     <message>
-        <source>, ONLY THE VOLUMES: %1 of %2 sectors erased</source>
-        <translation>, SOMENTE OS VOLUMES: %1 de %2 setores apagados</translation>
-    </message>
-    <message>
         <source>%1 written</source>
         <translation>%1 gravados</translation>
     </message>
@@ -1208,12 +1204,72 @@
         <translation>FEITO EM PARTE</translation>
     </message>
     <message>
-        <source>only the mounted volumes were erased; unmount them to erase the whole drive</source>
-        <translation>somente os volumes montados foram apagados; desmonte-os para apagar a unidade inteira</translation>
-    </message>
-    <message>
         <source>%1 is empty, there is nothing to check</source>
         <translation>%1 está vazio, não há nada a verificar</translation>
+    </message>
+    <message>
+        <source>Outcome</source>
+        <translation>Resultado</translation>
+    </message>
+    <message>
+        <source>a device that is no drive</source>
+        <translation>dispositivo que não é uma unidade</translation>
+    </message>
+    <message>
+        <source>%1 is read-only</source>
+        <translation>%1 é somente leitura</translation>
+    </message>
+    <message>
+        <source>drive %1 is read-only</source>
+        <translation>a unidade %1 é somente leitura</translation>
+    </message>
+    <message>
+        <source>volume %1 lies on drive %2 and also on %3</source>
+        <translation>o volume %1 está na unidade %2 e também em: %3</translation>
+    </message>
+    <message>
+        <source>drive %1 is held by %2</source>
+        <translation>a unidade %1 está ocupada por %2</translation>
+    </message>
+    <message>
+        <source>to release it: %1</source>
+        <translation>para liberá-la: %1</translation>
+    </message>
+    <message>
+        <source>Shortfall</source>
+        <translation>Lacuna</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Observação</translation>
+    </message>
+    <message>
+        <source>complete</source>
+        <translation>completo</translation>
+    </message>
+    <message>
+        <source>partial</source>
+        <translation>parcial</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>falhou</translation>
+    </message>
+    <message>
+        <source>unknown kind of shortfall &apos;%1&apos;, there are: %2</source>
+        <translation>tipo de lacuna desconhecido: &apos;%1&apos;; os disponíveis são: %2</translation>
+    </message>
+    <message>
+        <source>A shortfall of this kind is no failure; may be given several times</source>
+        <translation>Uma lacuna deste tipo não conta como falha (repetível)</translation>
+    </message>
+    <message>
+        <source>left unmounted: %1</source>
+        <translation>volumes que continuam desmontados: %1</translation>
+    </message>
+    <message>
+        <source>  not everything will be erased:</source>
+        <translation>  nem tudo será apagado:</translation>
     </message>
 </context>
 <context>
@@ -1399,6 +1455,30 @@ Um certificado de apagamento foi gerado.</translation>
     <message>
         <source>⚠️ Boot</source>
         <translation>⚠️ Inicialização</translation>
+    </message>
+    <message>
+        <source>a device that is no disk</source>
+        <translation>um dispositivo que não é um disco</translation>
+    </message>
+    <message>
+        <source>disk %1</source>
+        <translation>o disco %1</translation>
+    </message>
+    <message>
+        <source>Volume %1 lies on this disk and also on %2.</source>
+        <translation>O volume %1 abrange este disco e também %2.</translation>
+    </message>
+    <message>
+        <source>The disk is read-only.</source>
+        <translation>O disco é somente leitura.</translation>
+    </message>
+    <message>
+        <source>The disk is held by: %1</source>
+        <translation>O disco está ocupado por: %1</translation>
+    </message>
+    <message>
+        <source>These commands release it:</source>
+        <translation>Estes comandos o liberam:</translation>
     </message>
 </context>
 <context>
@@ -2311,6 +2391,16 @@ Deseja apagar o espaço livre para que eles não possam ser recuperados?</transl
         <source>There is no report %1 in the database.</source>
         <translation>Não há nenhum relatório %1 no banco de dados.</translation>
     </message>
+    <message>
+        <source>This Disk Cannot Be Erased</source>
+        <translation>Este disco não pode ser apagado</translation>
+    </message>
+    <message>
+        <source>All of these will be erased, not only %1
+%2</source>
+        <translation>Tudo isto será apagado, não apenas %1
+%2</translation>
+    </message>
 </context>
 <context>
     <name>MethodCard</name>
@@ -2340,6 +2430,117 @@ Deseja apagar o espaço livre para que eles não possam ser recuperados?</transl
     <message>
         <source>Start</source>
         <translation>Iniciar</translation>
+    </message>
+</context>
+<context>
+    <name>OutcomeRecord</name>
+    <message>
+        <source>only the mounted volumes are erased, not the rest of the drive</source>
+        <translation>somente os volumes montados são apagados, não o resto da unidade</translation>
+    </message>
+    <message>
+        <source>volumes could not be opened and were not erased</source>
+        <translation>volumes não puderam ser abertos e não foram apagados</translation>
+    </message>
+    <message>
+        <source>volumes took no more data before their end</source>
+        <translation>volumes deixaram de aceitar dados antes do seu fim</translation>
+    </message>
+    <message>
+        <source>volumes were in use while they were overwritten</source>
+        <translation>volumes estavam em uso enquanto eram sobrescritos</translation>
+    </message>
+    <message>
+        <source>the end of the drive is no whole sector and was not overwritten</source>
+        <translation>o fim da unidade não é um setor inteiro e não foi sobrescrito</translation>
+    </message>
+    <message>
+        <source>the drive says that it has no size, nothing was written</source>
+        <translation>a unidade informa tamanho zero, nada foi gravado</translation>
+    </message>
+    <message>
+        <source>volumes reach beyond the drive</source>
+        <translation>volumes se estendem além da unidade</translation>
+    </message>
+    <message>
+        <source>nothing was written although there was free space</source>
+        <translation>nada foi gravado, embora houvesse espaço livre</translation>
+    </message>
+    <message>
+        <source>free space was left that could not be filled</source>
+        <translation>restou espaço livre que não pôde ser preenchido</translation>
+    </message>
+    <message>
+        <source>more than 10 % of the free space is left as a reserve</source>
+        <translation>mais de 10% do espaço livre é deixado como reserva</translation>
+    </message>
+    <message>
+        <source>fill files were left behind</source>
+        <translation>restaram arquivos de preenchimento</translation>
+    </message>
+    <message>
+        <source>entries were gone before they could be erased</source>
+        <translation>itens já não existiam antes de poderem ser apagados</translation>
+    </message>
+    <message>
+        <source>entries were replaced by others meanwhile</source>
+        <translation>itens foram substituídos por outros nesse meio-tempo</translation>
+    </message>
+    <message>
+        <source>files grew after they were overwritten</source>
+        <translation>arquivos cresceram depois de sobrescritos</translation>
+    </message>
+    <message>
+        <source>entries could not be removed</source>
+        <translation>itens não puderam ser removidos</translation>
+    </message>
+    <message>
+        <source>the file system may keep the content elsewhere, where it is not overwritten</source>
+        <translation>o sistema de arquivos talvez mantenha o conteúdo em outro lugar, onde ele não é sobrescrito</translation>
+    </message>
+    <message>
+        <source>links are removed, what they lead to is not erased</source>
+        <translation>os links são removidos, aquilo para que apontam não é apagado</translation>
+    </message>
+    <message>
+        <source>what was written was not read back</source>
+        <translation>o que foi gravado não foi lido para verificação</translation>
+    </message>
+    <message>
+        <source>what was written cannot be compared when it is read back</source>
+        <translation>o que foi gravado não pode ser comparado na leitura de verificação</translation>
+    </message>
+    <message>
+        <source>a small part of the free space is left as a reserve</source>
+        <translation>uma pequena parte do espaço livre é deixada como reserva</translation>
+    </message>
+    <message>
+        <source>files had further names, which stay and lead to overwritten content</source>
+        <translation>arquivos tinham outros nomes, que permanecem e levam a conteúdo sobrescrito</translation>
+    </message>
+    <message>
+        <source>the file system writes to new places and may keep earlier content, in snapshots for instance</source>
+        <translation>o sistema de arquivos grava em novos lugares e talvez mantenha conteúdo anterior, por exemplo em snapshots</translation>
+    </message>
+    <message>
+        <source>there was no free space to overwrite</source>
+        <translation>não havia espaço livre para sobrescrever</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>e mais %1</translation>
+    </message>
+    <message>
+        <source>Partly erased: %1</source>
+        <translation>Apagado em parte: %1</translation>
+    </message>
+    <message>
+        <source>Not completely erased: the job failed</source>
+        <translation>Não apagado por completo: a tarefa falhou</translation>
+    </message>
+    <message>
+        <source>Not completely erased: the job was cancelled</source>
+        <translation>Não apagado por completo: a tarefa foi cancelada</translation>
     </message>
 </context>
 <context>

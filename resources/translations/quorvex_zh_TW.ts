@@ -1040,10 +1040,6 @@
         <translation>失敗</translation>
     </message>
     <message>
-        <source>, ONLY THE VOLUMES: %1 of %2 sectors erased</source>
-        <translation>，僅抹除磁碟區：已抹除 %1 個磁區，共 %2 個</translation>
-    </message>
-    <message>
         <source>%1 written</source>
         <translation>已寫入 %1</translation>
     </message>
@@ -1208,12 +1204,72 @@
         <translation>部分完成</translation>
     </message>
     <message>
-        <source>only the mounted volumes were erased; unmount them to erase the whole drive</source>
-        <translation>僅抹除了已掛載的磁碟區；請卸載這些磁碟區以抹除整個磁碟機</translation>
-    </message>
-    <message>
         <source>%1 is empty, there is nothing to check</source>
         <translation>%1 是空的，沒有可檢查的內容</translation>
+    </message>
+    <message>
+        <source>Outcome</source>
+        <translation>結果</translation>
+    </message>
+    <message>
+        <source>a device that is no drive</source>
+        <translation>不是磁碟機的裝置</translation>
+    </message>
+    <message>
+        <source>%1 is read-only</source>
+        <translation>%1 為唯讀</translation>
+    </message>
+    <message>
+        <source>drive %1 is read-only</source>
+        <translation>磁碟機 %1 為唯讀</translation>
+    </message>
+    <message>
+        <source>volume %1 lies on drive %2 and also on %3</source>
+        <translation>磁碟區 %1 位於磁碟機 %2，同時也位於 %3</translation>
+    </message>
+    <message>
+        <source>drive %1 is held by %2</source>
+        <translation>磁碟機 %1 正由 %2 佔用</translation>
+    </message>
+    <message>
+        <source>to release it: %1</source>
+        <translation>解除佔用：%1</translation>
+    </message>
+    <message>
+        <source>Shortfall</source>
+        <translation>缺失</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>備註</translation>
+    </message>
+    <message>
+        <source>complete</source>
+        <translation>全部完成</translation>
+    </message>
+    <message>
+        <source>partial</source>
+        <translation>部分完成</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>失敗</translation>
+    </message>
+    <message>
+        <source>unknown kind of shortfall &apos;%1&apos;, there are: %2</source>
+        <translation>未知的缺失類型「%1」，可用的類型：%2</translation>
+    </message>
+    <message>
+        <source>A shortfall of this kind is no failure; may be given several times</source>
+        <translation>此類缺失不視為失敗 (可重複指定)</translation>
+    </message>
+    <message>
+        <source>left unmounted: %1</source>
+        <translation>仍處於卸載狀態：%1</translation>
+    </message>
+    <message>
+        <source>  not everything will be erased:</source>
+        <translation>  並非所有內容都會被抹除：</translation>
     </message>
 </context>
 <context>
@@ -1399,6 +1455,30 @@ An erasure certificate has been generated.</source>
     <message>
         <source>⚠️ Boot</source>
         <translation>⚠️ 開機</translation>
+    </message>
+    <message>
+        <source>a device that is no disk</source>
+        <translation>不是磁碟的裝置</translation>
+    </message>
+    <message>
+        <source>disk %1</source>
+        <translation>磁碟 %1</translation>
+    </message>
+    <message>
+        <source>Volume %1 lies on this disk and also on %2.</source>
+        <translation>磁碟區 %1 位於此磁碟，同時也位於 %2。</translation>
+    </message>
+    <message>
+        <source>The disk is read-only.</source>
+        <translation>此磁碟為唯讀。</translation>
+    </message>
+    <message>
+        <source>The disk is held by: %1</source>
+        <translation>此磁碟正由下列項目佔用：%1</translation>
+    </message>
+    <message>
+        <source>These commands release it:</source>
+        <translation>下列命令可解除佔用：</translation>
     </message>
 </context>
 <context>
@@ -2311,6 +2391,16 @@ Would you like to wipe free space to ensure they cannot be recovered?</source>
         <source>There is no report %1 in the database.</source>
         <translation>資料庫中沒有報告 %1。</translation>
     </message>
+    <message>
+        <source>This Disk Cannot Be Erased</source>
+        <translation>無法抹除此磁碟</translation>
+    </message>
+    <message>
+        <source>All of these will be erased, not only %1
+%2</source>
+        <translation>不僅 %1，下列項目全部都會被抹除
+%2</translation>
+    </message>
 </context>
 <context>
     <name>MethodCard</name>
@@ -2340,6 +2430,117 @@ Would you like to wipe free space to ensure they cannot be recovered?</source>
     <message>
         <source>Start</source>
         <translation>開始</translation>
+    </message>
+</context>
+<context>
+    <name>OutcomeRecord</name>
+    <message>
+        <source>only the mounted volumes are erased, not the rest of the drive</source>
+        <translation>僅抹除已掛載的磁碟區，不抹除磁碟機的其餘部分</translation>
+    </message>
+    <message>
+        <source>volumes could not be opened and were not erased</source>
+        <translation>無法開啟磁碟區，未予抹除</translation>
+    </message>
+    <message>
+        <source>volumes took no more data before their end</source>
+        <translation>磁碟區在到達結尾前就不再接受資料</translation>
+    </message>
+    <message>
+        <source>volumes were in use while they were overwritten</source>
+        <translation>磁碟區在覆寫期間正在使用中</translation>
+    </message>
+    <message>
+        <source>the end of the drive is no whole sector and was not overwritten</source>
+        <translation>磁碟機的結尾不是完整磁區，未被覆寫</translation>
+    </message>
+    <message>
+        <source>the drive says that it has no size, nothing was written</source>
+        <translation>磁碟機回報的容量為零，未寫入任何資料</translation>
+    </message>
+    <message>
+        <source>volumes reach beyond the drive</source>
+        <translation>磁碟區超出磁碟機的範圍</translation>
+    </message>
+    <message>
+        <source>nothing was written although there was free space</source>
+        <translation>雖有可用空間，但未寫入任何資料</translation>
+    </message>
+    <message>
+        <source>free space was left that could not be filled</source>
+        <translation>仍有無法填滿的可用空間</translation>
+    </message>
+    <message>
+        <source>more than 10 % of the free space is left as a reserve</source>
+        <translation>超過 10% 的可用空間會留作預留空間</translation>
+    </message>
+    <message>
+        <source>fill files were left behind</source>
+        <translation>填充檔案遺留未刪除</translation>
+    </message>
+    <message>
+        <source>entries were gone before they could be erased</source>
+        <translation>項目在抹除之前已不存在</translation>
+    </message>
+    <message>
+        <source>entries were replaced by others meanwhile</source>
+        <translation>項目在過程中已被其他項目取代</translation>
+    </message>
+    <message>
+        <source>files grew after they were overwritten</source>
+        <translation>檔案在覆寫後變大</translation>
+    </message>
+    <message>
+        <source>entries could not be removed</source>
+        <translation>無法移除項目</translation>
+    </message>
+    <message>
+        <source>the file system may keep the content elsewhere, where it is not overwritten</source>
+        <translation>檔案系統可能將內容保留在其他位置，該處不會被覆寫</translation>
+    </message>
+    <message>
+        <source>links are removed, what they lead to is not erased</source>
+        <translation>連結會被移除，但其所指向的內容不會被抹除</translation>
+    </message>
+    <message>
+        <source>what was written was not read back</source>
+        <translation>未回讀已寫入的內容</translation>
+    </message>
+    <message>
+        <source>what was written cannot be compared when it is read back</source>
+        <translation>已寫入的內容在回讀時無法比對</translation>
+    </message>
+    <message>
+        <source>a small part of the free space is left as a reserve</source>
+        <translation>一小部分可用空間會留作預留空間</translation>
+    </message>
+    <message>
+        <source>files had further names, which stay and lead to overwritten content</source>
+        <translation>檔案另有其他名稱，這些名稱會保留並指向已覆寫的內容</translation>
+    </message>
+    <message>
+        <source>the file system writes to new places and may keep earlier content, in snapshots for instance</source>
+        <translation>檔案系統會寫入新的位置，可能保留先前的內容，例如在快照中</translation>
+    </message>
+    <message>
+        <source>there was no free space to overwrite</source>
+        <translation>沒有可供覆寫的可用空間</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>及其他 %1 項</translation>
+    </message>
+    <message>
+        <source>Partly erased: %1</source>
+        <translation>僅部分抹除：%1</translation>
+    </message>
+    <message>
+        <source>Not completely erased: the job failed</source>
+        <translation>未完全抹除：工作失敗</translation>
+    </message>
+    <message>
+        <source>Not completely erased: the job was cancelled</source>
+        <translation>未完全抹除：工作已取消</translation>
     </message>
 </context>
 <context>
