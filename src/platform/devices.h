@@ -72,14 +72,14 @@ public:
     // Windows: StorageDeviceTrimProperty. Linux: queue/discard_max_bytes above 0.
     virtual Result<bool> trimEnabled() = 0;
 
-    // Who stands on the device. Windows: IOCTL_DISK_IS_WRITABLE; nobody is known to hold a drive there. Linux:
-    // ro, and holders of the drive and of its partitions.
+    // Who stands on the device. Windows: IOCTL_DISK_IS_WRITABLE; nobody is known to hold a drive there.
+    // Linux: ro, and holders of the drive and of its partitions.
     virtual Result<DeviceUse> use() = 0;
 
-    // Where a volume lies, first extent first; a stretch that is on no drive with a number has -1. MoreData when there are more than maxExtents; at least one on
-    // success is not promised. Windows: IOCTL_VOLUME_GET_VOLUME_DISK_EXTENTS with a reply of 8 + 24 *
-    // maxExtents bytes. Linux: the drives below the mounted device, through LVM, dm-crypt, md and btrfs
-    // members.
+    // Where a volume lies, first extent first; a stretch that is on no drive with a number has -1. MoreData
+    // when there are more than maxExtents; at least one on success is not promised. Windows:
+    // IOCTL_VOLUME_GET_VOLUME_DISK_EXTENTS with a reply of 8 + 24 * maxExtents bytes. Linux: the drives below
+    // the mounted device, through LVM, dm-crypt, md and btrfs members.
     virtual Result<QList<Extent>> extents(int maxExtents) = 0;
 };
 

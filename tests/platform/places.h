@@ -137,7 +137,10 @@ public:
     }
 
     // Whether the places are those that root mounts, not those that everybody can write to.
-    static bool areMounted() { return qEnvironmentVariableIsSet("QUORVEX_TEST_MOUNTED_PLACES"); }
+    static bool areMounted()
+    {
+        return qEnvironmentVariableIsSet("QUORVEX_TEST_MOUNTED_PLACES");
+    }
 
     static QStringList names()
     {

@@ -86,7 +86,8 @@ struct Run
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         useHome(environment, home);
         process.setProcessEnvironment(environment);
-        process.start(QCoreApplication::applicationFilePath(), QStringList{u"tst_applog"_s, u"--run"_s} + arguments);
+        process.start(QCoreApplication::applicationFilePath(),
+                      QStringList{u"tst_applog"_s, u"--run"_s} + arguments);
     }
     int exitCode()
     {

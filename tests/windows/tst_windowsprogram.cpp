@@ -49,7 +49,8 @@ int waitForInterrupt()
 bool isControlToldOfInterrupt()
 {
     QProcess control;
-    control.start(QCoreApplication::applicationFilePath(), {u"tst_windowsprogram"_s, u"--wait-for-interrupt"_s});
+    control.start(QCoreApplication::applicationFilePath(),
+                  {u"tst_windowsprogram"_s, u"--wait-for-interrupt"_s});
     if (!control.waitForReadyRead())
         return false;
     ::GenerateConsoleCtrlEvent(CTRL_C_EVENT, 0);
