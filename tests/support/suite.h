@@ -40,5 +40,5 @@ int run(int argc, char *argv[])
 #define QUORVEX_SUITE(Suite, Application) QUORVEX_SUITE_RUN(Suite, (&suites::run<Suite, Application>))
 
 // A suite with a function of its own, which may also be what the suite starts as another process.
-#define QUORVEX_SUITE_RUN(Suite, function) \
+#define QUORVEX_SUITE_RUN(Suite, function)                                                                   \
     static const suites::Registration registrationOf_##Suite(#Suite, function);

@@ -19,15 +19,15 @@ std::map<QByteArray, suites::Run> &registered()
 
 int usage(const char *program, const char *wrong)
 {
-    std::fprintf(stderr, "%s: no such suite: %s\nUsage: %s [SUITE [OPTION of Qt Test...]]\nSuites:\n", program,
-                 wrong, program);
+    std::fprintf(stderr, "%s: no such suite: %s\nUsage: %s [SUITE [OPTION of Qt Test...]]\nSuites:\n",
+                 program, wrong, program);
     for (const auto &[name, run] : registered())
         std::fprintf(stderr, "  %s\n", name.constData());
     return 2;
 }
 
-// Each in a process of its own: what is one for the whole process (database, log, settings, environment) is not
-// handed from suite to suite.
+// Each in a process of its own: what is one for the whole process (database, log, settings, environment) is
+// not handed from suite to suite.
 int runAll(int argc, char *argv[])
 {
     const QCoreApplication application(argc, argv);
