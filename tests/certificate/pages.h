@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/filledreport.h"
+#include "support/filledreport.h"
 
 // A job on files, all of whose rows lie on the paper.
 inline WipeReport shortReport()

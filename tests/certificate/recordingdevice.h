@@ -1,13 +1,16 @@
 #pragma once
 
-#include <QColor>
+#include <QBrush>
 #include <QFont>
 #include <QLineF>
 #include <QList>
 #include <QPaintDevice>
 #include <QPaintEngine>
-#include <QPainter>
 #include <QPainterPath>
+#include <QPen>
+#include <QPointF>
+#include <QRectF>
+#include <QString>
 
 // One thing that was painted, in device pixels.
 struct Painted
@@ -40,21 +43,9 @@ public:
     void updateState(const QPaintEngineState &) override {}
     Type type() const override { return User; }
 
-    void drawTextItem(const QPointF &position, const QTextItem &item) override
-    {
-        Painted &text = add(Painted::Text);
-        text.text = item.text();
-        text.font = item.font();
-        text.position = position;
-        if (painter()->hasClipping())
-            text.clip = painter()->clipBoundingRect();
-    }
+    void drawTextItem(const QPointF &position, const QTextItem &item) override;
     using QPaintEngine::drawLines;
-    void drawLines(const QLineF *lines, int count) override
-    {
-        for (int i = 0; i < count; ++i)
-            add(Painted::Line).line = lines[i];
-    }
+    void drawLines(const QLineF *lines, int count) override;
     using QPaintEngine::drawEllipse;
     void drawEllipse(const QRectF &bounds) override { add(Painted::Ellipse).bounds = bounds; }
     void drawPath(const QPainterPath &path) override { add(Painted::Path).path = path; }
@@ -63,17 +54,7 @@ public:
     void drawPolygon(const QPointF *, int, PolygonDrawMode) override { add(Painted::Other); }
 
 private:
-    Painted &add(Painted::Kind kind)
-    {
-        Painted one;
-        one.kind = kind;
-        one.pen = painter()->pen();
-        one.brush = painter()->brush();
-        one.isSmooth = painter()->testRenderHint(QPainter::Antialiasing) &&
-                       painter()->testRenderHint(QPainter::TextAntialiasing);
-        painted.append(one);
-        return painted.last();
-    }
+    Painted &add(Painted::Kind kind);
 };
 
 // Paper that remembers what was painted on it, and how.
@@ -89,32 +70,7 @@ public:
     const QList<Painted> &painted() const { return m_engine.painted; }
 
 protected:
-    int metric(PaintDeviceMetric metric) const override
-    {
-        switch (metric) {
-        case PdmWidth:
-            return m_width;
-        case PdmHeight:
-            return m_height;
-        case PdmWidthMM:
-            return qRound(m_width * 25.4 / m_dpi);
-        case PdmHeightMM:
-            return qRound(m_height * 25.4 / m_dpi);
-        case PdmDpiX:
-        case PdmDpiY:
-        case PdmPhysicalDpiX:
-        case PdmPhysicalDpiY:
-            return m_dpi;
-        case PdmDepth:
-            return 32;
-        case PdmDevicePixelRatio:
-            return 1;
-        case PdmDevicePixelRatioScaled:
-            return qRound(devicePixelRatioFScale());
-        default:
-            return QPaintDevice::metric(metric);
-        }
-    }
+    int metric(PaintDeviceMetric metric) const override;
 
 private:
     const int m_width;

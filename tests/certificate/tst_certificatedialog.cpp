@@ -4,17 +4,19 @@
 
 #include "certificate/certificatedialog.h"
 #include "model/markingtranslator.h"
+#include "model/wipereport.h"
 #include "support/scriptedprompts.h"
 #include "support/temporarysettings.h"
+#include "support/testfiles.h"
 
 #include <QApplication>
 #include <QBoxLayout>
 #include <QDateTime>
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QLabel>
+#include <QMessageBox>
 #include <QPrinter>
 #include <QPushButton>
 #include <QScrollArea>
@@ -105,12 +107,6 @@ QPushButton *button(const CertificateDialog &dialog, const QString &text)
 QString secondText()
 {
     return QDateTime::currentDateTime().toString(u"yyyy-MM-dd HH:mm:ss");
-}
-
-QByteArray bytesOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 } // namespace
@@ -584,7 +580,7 @@ void tst_CertificateDialog::exportWritesTheChosenFileAndTellsSo()
     prompts.filesToSaveAnswers = {path};
     const CertificateDialog dialog(filledReport());
     button(dialog, u"📄 Export PDF"_s)->click();
-    QVERIFY(bytesOf(path).startsWith("%PDF-1."));
+    QVERIFY(contentOf(path).startsWith("%PDF-1."));
     QCOMPARE(prompts.boxes.size(), 1);
     QCOMPARE(prompts.boxes[0].icon, QMessageBox::Information);
     QCOMPARE(prompts.boxes[0].title, u"Export Successful"_s);
@@ -623,7 +619,7 @@ void tst_CertificateDialog::acceptedPrintPrintsOnThatPrinter()
     QCOMPARE(prompts.asked, QStringList{u"Print Certificate"_s});
     QCOMPARE(paper, QPageSize::A4);
     QVERIFY2(resolution >= 600, qPrintable(QString::number(resolution)));
-    const PdfReader pdf(bytesOf(path));
+    const PdfReader pdf(contentOf(path));
     QCOMPARE(pdf.objectsWith("/Type /Page\n").size(), 1);
     QVERIFY(pdf.text().contains(u"2026"_s));
     QVERIFY(prompts.boxes.isEmpty());

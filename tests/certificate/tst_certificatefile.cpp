@@ -1,5 +1,6 @@
 #include "pages.h"
 #include "support/suite.h"
+#include "support/testfiles.h"
 
 #include "certificate/certificaterenderer.h"
 
@@ -24,18 +25,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QByteArray previous = "the certificate of before";
-
-QByteArray bytesOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<unreadable>");
-}
-
-bool create(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(previous) == previous.size();
-}
 
 bool exportTo(const QString &path)
 {
@@ -131,7 +120,7 @@ void tst_CertificateFile::newFileIsWritten()
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"证书 100% &.pdf"_s);
     QVERIFY(exportTo(path));
-    QVERIFY(isPdf(bytesOf(path)));
+    QVERIFY(isPdf(contentOf(path)));
     QCOMPARE(entriesOf(folder.path()).size(), 1);
 }
 
@@ -139,9 +128,9 @@ void tst_CertificateFile::existingFileIsReplaced()
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"c.pdf"_s);
-    QVERIFY(create(path));
+    writeFile(path, previous);
     QVERIFY(exportTo(path));
-    QVERIFY(isPdf(bytesOf(path)));
+    QVERIFY(isPdf(contentOf(path)));
     QCOMPARE(entriesOf(folder.path()), QStringList{u"c.pdf"_s});
 }
 
@@ -168,11 +157,11 @@ void tst_CertificateFile::folderInThePlaceOfTheFileFails()
 {
     const QTemporaryDir folder;
     QVERIFY(QDir(folder.path()).mkdir(u"c.pdf"_s));
-    QVERIFY(create(folder.filePath(u"c.pdf/inside"_s)));
+    writeFile(folder.filePath(u"c.pdf/inside"_s), previous);
     QVERIFY(!exportTo(folder.filePath(u"c.pdf"_s)));
     QVERIFY(!exportTo(folder.path()));
     QCOMPARE(entriesOf(folder.path()), QStringList{u"c.pdf"_s});
-    QCOMPARE(bytesOf(folder.filePath(u"c.pdf/inside"_s)), previous);
+    QCOMPARE(contentOf(folder.filePath(u"c.pdf/inside"_s)), previous);
 }
 
 #ifdef Q_OS_LINUX
@@ -183,14 +172,14 @@ void tst_CertificateFile::readOnlyFolderFails()
     const QString path = folder.filePath(u"c.pdf"_s);
     const AsNobody nobody;
     QVERIFY(exportTo(path)); // the same person may, as long as the folder lets him
-    QVERIFY(create(path));
+    writeFile(path, previous);
     QVERIFY(QFile::setPermissions(folder.path(), QFile::ReadOwner | QFile::ExeOwner));
     const bool replaced = exportTo(path);
     const bool added = exportTo(folder.filePath(u"d.pdf"_s));
     QVERIFY(QFile::setPermissions(folder.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
     QVERIFY(!replaced);
     QVERIFY(!added);
-    QCOMPARE(bytesOf(path), previous);
+    QCOMPARE(contentOf(path), previous);
     QCOMPARE(entriesOf(folder.path()), QStringList{u"c.pdf"_s});
 }
 
@@ -199,7 +188,7 @@ void tst_CertificateFile::readOnlyFileFails()
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"c.pdf"_s);
-    QVERIFY(create(path));
+    writeFile(path, previous);
     QVERIFY(QFile::setPermissions(path, QFile::ReadOwner));
     QVERIFY(AsNobody::give(folder.path()));
     QVERIFY(AsNobody::give(path));
@@ -215,7 +204,7 @@ void tst_CertificateFile::readOnlyFileFails()
     QCOMPARE(::waitpid(child, &status, 0), child);
     QVERIFY(WIFEXITED(status));
     QCOMPARE(WEXITSTATUS(status), 1); // a new file beside it, and nothing else
-    QCOMPARE(bytesOf(path), previous);
+    QCOMPARE(contentOf(path), previous);
 }
 
 void tst_CertificateFile::fullDiskKeepsThePreviousFile()
@@ -226,14 +215,14 @@ void tst_CertificateFile::fullDiskKeepsThePreviousFile()
     const qint64 size = QFileInfo(path).size();
     for (const qint64 room : {qint64(0), qint64(1), qint64(4096), size / 2, size - 512}) {
         QVERIFY(QFile::remove(path));
-        QVERIFY(create(path));
+        writeFile(path, previous);
         bool done = false;
         {
             const LargestFile limit(room);
             done = exportTo(path);
         }
         QVERIFY2(!done, qPrintable(QString::number(room)));
-        QCOMPARE(bytesOf(path), previous);
+        QCOMPARE(contentOf(path), previous);
         QCOMPARE(entriesOf(folder.path()), QStringList{u"c.pdf"_s});
     }
     QVERIFY(exportTo(path)); // there was nothing else in the way
@@ -244,7 +233,7 @@ void tst_CertificateFile::killedProgramKeepsThePreviousFile()
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"c.pdf"_s);
-    QVERIFY(create(path));
+    writeFile(path, previous);
     const pid_t child = ::fork();
     if (child == 0) {
         const rlimit limit{4096, 4096};
@@ -259,7 +248,7 @@ void tst_CertificateFile::killedProgramKeepsThePreviousFile()
     QCOMPARE(::waitpid(child, &status, 0), child);
     QVERIFY(WIFSIGNALED(status));
     QCOMPARE(WTERMSIG(status), SIGXFSZ);
-    QCOMPARE(bytesOf(path), previous);
+    QCOMPARE(contentOf(path), previous);
 }
 
 void tst_CertificateFile::deviceIsRefusedAndStays()
@@ -289,11 +278,11 @@ void tst_CertificateFile::linkIsFollowed()
     const QTemporaryDir folder;
     const QString target = folder.filePath(u"real.pdf"_s);
     const QString link = folder.filePath(u"c.pdf"_s);
-    QVERIFY(create(target));
+    writeFile(target, previous);
     QVERIFY(QFile::link(target, link));
     QVERIFY(exportTo(link));
     QVERIFY(QFileInfo(link).isSymLink());
-    QVERIFY(isPdf(bytesOf(target)));
+    QVERIFY(isPdf(contentOf(target)));
 }
 
 void tst_CertificateFile::danglingLinkMakesItsFile()
@@ -304,7 +293,7 @@ void tst_CertificateFile::danglingLinkMakesItsFile()
     QVERIFY(QFile::link(target, link));
     QVERIFY(exportTo(link));
     QVERIFY(QFileInfo(link).isSymLink());
-    QVERIFY(isPdf(bytesOf(target)));
+    QVERIFY(isPdf(contentOf(target)));
 }
 #endif
 

@@ -1,10 +1,13 @@
+#include "model/wipereport.h"
 #include "recordingdevice.h"
+#include "support/filledreport.h"
 #include "support/suite.h"
 
 #include "certificate/certificaterenderer.h"
-#include "model/filledreport.h"
 #include "model/markingtranslator.h"
 
+#include <QApplication>
+#include <QColor>
 #include <QDateTime>
 #include <QGlyphRun>
 #include <QPainter>

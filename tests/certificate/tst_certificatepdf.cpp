@@ -1,14 +1,17 @@
+#include "model/wipereport.h"
 #include "pages.h"
 #include "pdfreader.h"
 #include "support/suite.h"
+#include "support/testfiles.h"
 
 #include "certificate/certificaterenderer.h"
 
+#include <QCoreApplication>
 #include <QDir>
-#include <QFile>
 #include <QGuiApplication>
 #include <QPrinter>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
@@ -44,12 +47,6 @@ private:
 };
 
 namespace {
-
-QByteArray bytesOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 // Blanks between words depend on the reader program.
 QString withoutBlanks(QString text)
@@ -101,7 +98,7 @@ QStringList valuesOfShortReport()
 QByteArray tst_CertificatePdf::exported(const WipeReport &report) const
 {
     const QString path = pathFor(u"certificate.pdf"_s);
-    return CertificateRenderer().exportToPdf(report, path) ? bytesOf(path) : QByteArray();
+    return CertificateRenderer().exportToPdf(report, path) ? contentOf(path) : QByteArray();
 }
 
 void tst_CertificatePdf::isOneA4Page()
@@ -268,7 +265,7 @@ void tst_CertificatePdf::printsTheSameOnOneA4Page()
     QVERIFY(CertificateRenderer().print(shortReport(), &printer));
     QCOMPARE(printer.pageLayout().pageSize().id(), QPageSize::A4);
 
-    const PdfReader pdf(bytesOf(printer.outputFileName()));
+    const PdfReader pdf(contentOf(printer.outputFileName()));
     QCOMPARE(pdf.objectsWith("/Type /Page\n").size(), 1);
     QVERIFY(pdf.objectsWith("/Type /Page\n")[0].contains("/MediaBox [0 0 595.000000 842.000000]"));
     const QString text = withoutBlanks(pdf.text());

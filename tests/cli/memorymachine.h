@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/forwarding.h"
+#include "platform/platform.h"
 #include "support/fakedevices.h"
 #include "support/interposeddevices.h"
 #include "support/memorydevices.h"
@@ -21,21 +22,10 @@ public:
     std::function<platform::Status(const DeviceCall &)> answer; // any thread; may be empty
 
     // "openDrive 1", "openVolume /media/a", in order.
-    QStringList openings() const
-    {
-        const QMutexLocker lock(&m_mutex);
-        return m_openings;
-    }
+    QStringList openings() const;
 
 private:
-    platform::Status before(const DeviceCall &call)
-    {
-        if (call.method == QLatin1String("openDrive") || call.method == QLatin1String("openVolume")) {
-            const QMutexLocker lock(&m_mutex);
-            m_openings.append(call.method + QLatin1Char(' ') + call.target);
-        }
-        return answer ? answer(call) : platform::Status{};
-    }
+    platform::Status before(const DeviceCall &call);
 
     mutable QMutex m_mutex;
     QStringList m_openings;

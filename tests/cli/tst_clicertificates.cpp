@@ -1,9 +1,19 @@
 #include "certificate/pdfreader.h"
 #include "cli/memorymachine.h"
+#include "cli/runcli.h"
 #include "cli/testio.h"
+#include "support/interposeddevices.h"
 #include "support/suite.h"
+#include "support/testfiles.h"
 
+#include <QApplication>
 #include <QDir>
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QJsonValue>
+#include <QTemporaryDir>
+#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -99,7 +109,7 @@ void tst_CliCertificates::aFailureLeavesNone()
 void tst_CliCertificates::aCertificateInWhatIsErasedIsRefused()
 {
     const QTemporaryDir target;
-    QVERIFY(writeFile(target.filePath(u"secret.txt"_s), "secret"));
+    writeFile(target.filePath(u"secret.txt"_s), "secret");
     CliRun run;
     run({u"wipe"_s, u"files"_s, target.path(), u"--yes"_s, u"--pdf"_s, target.path()});
     QCOMPARE(run.code, 2);

@@ -1,6 +1,15 @@
 #include "cli/memorymachine.h"
 #include "cli/testio.h"
+#include "support/interposeddevices.h"
+#include "support/links.h"
 #include "support/suite.h"
+#include "support/testfiles.h"
+
+#include <QCoreApplication>
+#include <QJsonObject>
+#include <QJsonValue>
+#include <QTemporaryDir>
+#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -45,7 +54,7 @@ void tst_CliCheckZeros::anEmptyFileDoesNotPass()
 {
     CliRun run;
     const QString path = run.folder() + u"/a.img"_s;
-    QVERIFY(writeFile(path, {}));
+    writeFile(path, {});
     run(check(path));
     QCOMPARE(run.code, 1);
     QVERIFY(run.complains("is empty, there is nothing to check"));
@@ -64,7 +73,7 @@ void tst_CliCheckZeros::aFileOfZerosPasses()
     QFETCH(qsizetype, size);
     CliRun run;
     const QString path = run.folder() + u"/a.img"_s;
-    QVERIFY(writeFile(path, QByteArray(size, '\0')));
+    writeFile(path, QByteArray(size, '\0'));
     run(check(path));
     QCOMPARE(run.code, 0);
     const QByteArray expected = "ALL ZERO: every one of the " + QByteArray::number(size) + " bytes of ";
@@ -92,7 +101,7 @@ void tst_CliCheckZeros::theFirstOtherByteIsTold()
     QByteArray content(size, '\0');
     content[place] = '\x0f';
     content[size - 1] = content[size - 1] == '\0' ? '\x01' : content[size - 1];
-    QVERIFY(writeFile(path, content));
+    writeFile(path, content);
     run(check(path));
     QCOMPARE(run.code, 1);
     QCOMPARE(run.io.out,
@@ -103,7 +112,7 @@ void tst_CliCheckZeros::theAnswerForMachines()
 {
     CliRun run;
     const QString path = run.folder() + u"/a.img"_s;
-    QVERIFY(writeFile(path, QByteArray(600, '\0') + '\xff'));
+    writeFile(path, QByteArray(600, '\0') + '\xff');
     run(check(path, {u"--json"_s}));
     QCOMPARE(run.code, 1);
     const QJsonObject answer = run.io.documents().constFirst().object();
@@ -116,7 +125,7 @@ void tst_CliCheckZeros::aLinkToAnImageIsFollowed()
 {
     CliRun run;
     const QString path = run.folder() + u"/a.img"_s;
-    QVERIFY(writeFile(path, QByteArray(600, '\0')));
+    writeFile(path, QByteArray(600, '\0'));
     if (!makeLink(path, run.folder() + u"/link"_s))
         QSKIP(NoLinks);
     run(check(run.folder() + u"/link"_s));
@@ -127,10 +136,10 @@ void tst_CliCheckZeros::anImageDriveIsReadByItsNumber()
 {
     CliRun run;
     const QString path = run.folder() + u"/a.img"_s;
-    QVERIFY(writeFile(path, QByteArray(8192, '\0')));
+    writeFile(path, QByteArray(8192, '\0'));
     run(check(u"0"_s, {u"--only-images"_s, u"--image"_s, path}));
     QCOMPARE(run.code, 0);
-    QVERIFY(writeFile(path, QByteArray(8191, '\0') + 'x'));
+    writeFile(path, QByteArray(8191, '\0') + 'x');
     CliRun other;
     other(check(u"0"_s, {u"--only-images"_s, u"--image"_s, path}));
     QCOMPARE(other.code, 1);
@@ -183,7 +192,7 @@ void tst_CliCheckZeros::aStopEndsTheReading()
 {
     CliRun run;
     const QString path = run.folder() + u"/a.img"_s;
-    QVERIFY(writeFile(path, QByteArray(600, '\0')));
+    writeFile(path, QByteArray(600, '\0'));
     run.io.stopRequest().request();
     run(check(path));
     QCOMPARE(run.code, 4);

@@ -1,9 +1,17 @@
+#include "cli/runcli.h"
 #include "cli/testio.h"
+#include "support/links.h"
 #include "support/suite.h"
+#include "support/testfiles.h"
 
 #include "cli/commandtable.h"
 
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
 #include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
 
 class tst_CliCommandLine : public QObject
 {
@@ -210,7 +218,7 @@ void tst_CliCommandLine::nothingIsDoneOnAWrongLine()
 {
     const QTemporaryDir folder;
     const QString file = folder.filePath(u"precious"_s);
-    QVERIFY(writeFile(file, "precious"));
+    writeFile(file, "precious");
     CliRun run;
     run({u"wipe"_s, u"files"_s, file, u"--yes"_s, u"--threads=99"_s});
     QCOMPARE(run.code, 2);
@@ -290,7 +298,7 @@ void tst_CliCommandLine::anImageMustBeARegularFile()
 void tst_CliCommandLine::anImageMayBeGivenThroughALink()
 {
     const QTemporaryDir folder;
-    QVERIFY(writeFile(folder.filePath(u"a.img"_s), QByteArray(4096, 'x')));
+    writeFile(folder.filePath(u"a.img"_s), QByteArray(4096, 'x'));
     if (!makeLink(folder.filePath(u"a.img"_s), folder.filePath(u"link"_s)))
         QSKIP(NoLinks);
     CliRun run;
@@ -304,7 +312,7 @@ void tst_CliCommandLine::anImageMayBeGivenThroughALink()
 void tst_CliCommandLine::anImageGivenTwiceIsOneDrive()
 {
     const QTemporaryDir folder;
-    QVERIFY(writeFile(folder.filePath(u"a.img"_s), QByteArray(4096, 'x')));
+    writeFile(folder.filePath(u"a.img"_s), QByteArray(4096, 'x'));
     QStringList names{folder.filePath(u"a.img"_s), folder.filePath(u"./a.img"_s)};
     if (QFileInfo::exists(folder.filePath(u"A.IMG"_s))) // where case makes no difference
         names.append(folder.filePath(u"A.IMG"_s));

@@ -3,6 +3,13 @@
 
 #include "cli/memorymachine.h"
 
+#include <QCoreApplication>
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QJsonValue>
+#include <QTemporaryDir>
+#include <QTest>
+
 using namespace Qt::StringLiterals;
 
 class tst_CliLists : public QObject

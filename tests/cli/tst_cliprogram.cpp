@@ -1,10 +1,23 @@
 #include "cli/programrun.h"
 #include "support/suite.h"
+#include "support/testfiles.h"
 
+#include <QCoreApplication>
 #include <QDir>
+#include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QJsonValue>
+#include <QProcess>
 #include <QSysInfo>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <csignal>
 
 using namespace Qt::StringLiterals;
 
@@ -39,10 +52,7 @@ private slots:
 private:
     QByteArray image(qint64 size = 1 << 20)
     {
-        QFile file(m_folder->filePath(u"disk.img"_s));
-        if (!file.open(QIODevice::WriteOnly) || file.write(QByteArray(size, 'x')) != size)
-            qFatal("no image");
-        return file.fileName().toUtf8();
+        return writeFile(m_folder->filePath(u"disk.img"_s), QByteArray(size, 'x')).toUtf8();
     }
     QByteArray content(const QByteArray &path) const
     {

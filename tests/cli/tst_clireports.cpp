@@ -1,12 +1,27 @@
 #include "cli/memorymachine.h"
+#include "cli/runcli.h"
 #include "cli/testio.h"
+#include "support/interposeddevices.h"
 #include "support/suite.h"
+#include "support/testfiles.h"
 
 #include "model/wipereport.h"
 #include "services/reportdatabase.h"
 
+#include <QCoreApplication>
+#include <QDate>
+#include <QDateTime>
 #include <QDir>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QJsonValue>
+#include <QSqlDatabase>
 #include <QSqlQuery>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTime>
 
 using namespace Qt::StringLiterals;
 
@@ -179,7 +194,7 @@ void tst_CliReports::aDatabaseThatCannotBeOpenedStopsBeforeAnythingIs()
     MemoryMachine machine;
     addDrive(machine);
     CliRun run;
-    QVERIFY(writeFile(run.folder() + u"/quorvex.db"_s, QByteArray(4096, 'n')));
+    writeFile(run.folder() + u"/quorvex.db"_s, QByteArray(4096, 'n'));
     run(wipeDrive());
     QCOMPARE(run.code, 5);
     QVERIFY2(run.complains("report database"), run.io.err.constData());
@@ -192,7 +207,7 @@ void tst_CliReports::withNoReportABadDatabaseDoesNotMatter()
     MemoryMachine machine;
     addDrive(machine);
     CliRun run;
-    QVERIFY(writeFile(run.folder() + u"/quorvex.db"_s, QByteArray(4096, 'n')));
+    writeFile(run.folder() + u"/quorvex.db"_s, QByteArray(4096, 'n'));
     run(wipeDrive({u"--no-report"_s}));
     QCOMPARE(run.code, 0);
 }
@@ -200,7 +215,7 @@ void tst_CliReports::withNoReportABadDatabaseDoesNotMatter()
 void tst_CliReports::theLogInWhatIsErasedIsRefused()
 {
     CliRun run;
-    QVERIFY(writeFile(run.folder() + u"/secret.txt"_s, "secret"));
+    writeFile(run.folder() + u"/secret.txt"_s, "secret");
     run({u"wipe"_s, u"files"_s, run.folder(), u"--yes"_s, u"--no-report"_s});
     QCOMPARE(run.code, 3);
     QVERIFY2(run.complains("the program's log in "), run.io.err.constData());
@@ -224,7 +239,7 @@ void tst_CliReports::whatWasNotReadBackIsNotCalledSo()
 void tst_CliReports::aDatabaseInWhatIsErasedIsRefused()
 {
     CliRun run;
-    QVERIFY(writeFile(run.folder() + u"/secret.txt"_s, "secret"));
+    writeFile(run.folder() + u"/secret.txt"_s, "secret");
     run({u"wipe"_s, u"files"_s, run.folder(), u"--yes"_s});
     QCOMPARE(run.code, 3);
     QVERIFY2(run.complains("lies in what is to be erased"), run.io.err.constData());
@@ -507,7 +522,7 @@ void tst_CliReports::theExportedReportIsTheSame()
     CliRun run;
     QVERIFY(store(run.folder(), {reportOf(u"QVX-A"_s)}));
     const QString path = run.folder() + u"/out.json"_s;
-    QVERIFY(writeFile(path, storedText(run.folder(), u"QVX-A"_s)));
+    writeFile(path, storedText(run.folder(), u"QVX-A"_s));
     run({u"check"_s, path});
     QCOMPARE(run.code, 0);
     QVERIFY2(run.io.out.startsWith("THE SAME: "), run.io.out.constData());
@@ -554,7 +569,7 @@ void tst_CliReports::theFirstFieldThatDiffersIsNamed()
     QByteArray text = storedText(run.folder(), u"QVX-A"_s);
     QVERIFY(text.contains(from));
     const QString path = run.folder() + u"/out.json"_s;
-    QVERIFY(writeFile(path, text.replace(from, to)));
+    writeFile(path, text.replace(from, to));
     run({u"check"_s, path});
     QCOMPARE(run.code, 1);
     const QByteArray expected = "NOT THE SAME: the first field that differs is " + field.toUtf8() + ": ";
@@ -570,7 +585,7 @@ void tst_CliReports::anotherWritingOfTheSameFieldsIsToldApart()
     QVERIFY(store(run.folder(), {reportOf(u"QVX-A"_s)}));
     const QByteArray text = storedText(run.folder(), u"QVX-A"_s);
     const QString path = run.folder() + u"/out.json"_s;
-    QVERIFY(writeFile(path, text + '\n'));
+    writeFile(path, text + '\n');
     run({u"check"_s, path});
     QCOMPARE(run.code, 1);
     const QByteArray place = "from byte " + QByteArray::number(text.size()) + " on";
@@ -581,7 +596,7 @@ void tst_CliReports::aReportWithoutRecordIsNotTheSame()
 {
     CliRun run;
     const QString path = run.folder() + u"/out.json"_s;
-    QVERIFY(writeFile(path, reportOf(u"QVX-A"_s).toJson()));
+    writeFile(path, reportOf(u"QVX-A"_s).toJson());
     run({u"check"_s, path});
     QCOMPARE(run.code, 1);
     QVERIFY2(run.io.out.contains("no record of QVX-A"), run.io.out.constData());
@@ -602,7 +617,7 @@ void tst_CliReports::whatIsNoReportIsNotTheSame()
     QFETCH(QByteArray, content);
     CliRun run;
     const QString path = run.folder() + u"/out.json"_s;
-    QVERIFY(writeFile(path, content));
+    writeFile(path, content);
     run({u"check"_s, path});
     QCOMPARE(run.code, 1);
     QVERIFY2(run.io.out.contains("is no report"), run.io.out.constData());

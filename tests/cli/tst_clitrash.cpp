@@ -1,9 +1,17 @@
 #include "cli/testio.h"
+#include "support/infofiles.h"
+#include "support/links.h"
 #include "support/suite.h"
+#include "support/testfiles.h"
 
-#include "services/infofiles.h"
-
+#include <QCoreApplication>
 #include <QDir>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QJsonValue>
+#include <QTemporaryDir>
+#include <QTest>
 
 #include <memory>
 
@@ -56,8 +64,8 @@ private:
                     const QByteArray &content)
     {
         QVERIFY(QDir().mkpath(bin(sid, {})));
-        QVERIFY(writeFile(bin(sid, u"$I"_s + name), infoVersion2(original, quint64(content.size()))));
-        QVERIFY(writeFile(bin(sid, u"$R"_s + name), content));
+        writeFile(bin(sid, u"$I"_s + name), infoVersion2(original, quint64(content.size())));
+        writeFile(bin(sid, u"$R"_s + name), content);
     }
     QStringList list(const QStringList &more = {}) const
     {
@@ -190,9 +198,9 @@ void tst_CliTrash::whatWasListedIsErased()
     addDeleted(Bob, u"BBBBBB"_s, u"C:\\folder"_s, {});
     QVERIFY(QFile::remove(bin(Bob, u"$RBBBBBB"_s)));
     QVERIFY(QDir().mkpath(bin(Bob, u"$RBBBBBB/sub"_s)));
-    QVERIFY(writeFile(bin(Bob, u"$RBBBBBB/sub/deep.txt"_s), "deep"));
-    QVERIFY(writeFile(bin(Bob, u"desktop.ini"_s), "kept"));
-    QVERIFY(writeFile(path(u"kept.txt"_s), "kept"));
+    writeFile(bin(Bob, u"$RBBBBBB/sub/deep.txt"_s), "deep");
+    writeFile(bin(Bob, u"desktop.ini"_s), "kept");
+    writeFile(path(u"kept.txt"_s), "kept");
     CliRun run;
     run(wipe());
     QCOMPARE(run.code, 0);
@@ -248,8 +256,8 @@ void tst_CliTrash::aBinThatIsALinkIsLeftAlone()
 {
     const QTemporaryDir elsewhere;
     QVERIFY(QDir().mkpath(elsewhere.filePath(Alice)));
-    QVERIFY(writeFile(elsewhere.filePath(Alice + u"/$IAAAAAA.txt"_s), infoVersion2(u"C:\\a.txt"_s, 1)));
-    QVERIFY(writeFile(elsewhere.filePath(Alice + u"/$RAAAAAA.txt"_s), "a"));
+    writeFile(elsewhere.filePath(Alice + u"/$IAAAAAA.txt"_s), infoVersion2(u"C:\\a.txt"_s, 1));
+    writeFile(elsewhere.filePath(Alice + u"/$RAAAAAA.txt"_s), "a");
     if (!makeLink(elsewhere.path(), path(u"$Recycle.Bin"_s)))
         QSKIP(NoLinks);
     CliRun run;
@@ -260,7 +268,7 @@ void tst_CliTrash::aBinThatIsALinkIsLeftAlone()
 
 void tst_CliTrash::aRecordThatLeadsElsewhereErasesNothingThere()
 {
-    QVERIFY(writeFile(path(u"victim.txt"_s), "kept"));
+    writeFile(path(u"victim.txt"_s), "kept");
     addDeleted(Alice, u"AAAAAA.txt"_s, path(u"victim.txt"_s), "a");
     addDeleted(Alice, u"BBBBBB.txt"_s, u"../../victim.txt"_s, "b");
     CliRun run;
@@ -272,8 +280,8 @@ void tst_CliTrash::aRecordThatLeadsElsewhereErasesNothingThere()
 void tst_CliTrash::aDamagedRecordIsErasedWithItsFile()
 {
     QVERIFY(QDir().mkpath(bin(Alice, {})));
-    QVERIFY(writeFile(bin(Alice, u"$IAAAAAA.txt"_s), "\x02"));
-    QVERIFY(writeFile(bin(Alice, u"$RAAAAAA.txt"_s), "secret"));
+    writeFile(bin(Alice, u"$IAAAAAA.txt"_s), "\x02");
+    writeFile(bin(Alice, u"$RAAAAAA.txt"_s), "secret");
     CliRun run;
     run(wipe());
     QCOMPARE(run.code, 0);
@@ -287,9 +295,9 @@ void tst_CliTrash::theDesktopsTrashIsErasedWithItsRecords()
     const QString trash = m_home.filePath(u"Trash"_s);
     QVERIFY(QDir().mkpath(trash + u"/files"_s));
     QVERIFY(QDir().mkpath(trash + u"/info"_s));
-    QVERIFY(writeFile(trash + u"/files/letter.txt"_s, QByteArray(100, 'l')));
-    QVERIFY(writeFile(trash + u"/info/letter.txt.trashinfo"_s, "[Trash Info]\nPath=/tmp/a%20letter.txt\n"));
-    QVERIFY(writeFile(trash + u"/files/stray"_s, "stray"));
+    writeFile(trash + u"/files/letter.txt"_s, QByteArray(100, 'l'));
+    writeFile(trash + u"/info/letter.txt.trashinfo"_s, "[Trash Info]\nPath=/tmp/a%20letter.txt\n");
+    writeFile(trash + u"/files/stray"_s, "stray");
     CliRun run;
     run({u"trash"_s, u"list"_s});
     QCOMPARE(run.code, 0);
@@ -325,9 +333,9 @@ void tst_CliTrash::namesOfErasedFoldersLeaveTheRecords()
     const QString trash = m_home.filePath(u"Trash"_s);
     QVERIFY(QDir().mkpath(trash + u"/files/project"_s));
     QVERIFY(QDir().mkpath(trash + u"/info"_s));
-    QVERIFY(writeFile(trash + u"/files/project/plan.txt"_s, "plan"));
-    QVERIFY(writeFile(trash + u"/info/project.trashinfo"_s, "[Trash Info]\nPath=/tmp/project\n"));
-    QVERIFY(writeFile(trash + u"/directorysizes"_s, "4 1700000000 project\n"));
+    writeFile(trash + u"/files/project/plan.txt"_s, "plan");
+    writeFile(trash + u"/info/project.trashinfo"_s, "[Trash Info]\nPath=/tmp/project\n");
+    writeFile(trash + u"/directorysizes"_s, "4 1700000000 project\n");
     CliRun run;
     run({u"wipe"_s, u"trash"_s, u"--yes"_s});
     QCOMPARE(run.code, 0);
@@ -339,7 +347,7 @@ void tst_CliTrash::recordsThatCannotBeMendedAreTold()
     const QString trash = m_home.filePath(u"Trash"_s);
     QVERIFY(QDir().mkpath(trash + u"/files"_s));
     QVERIFY(QDir().mkpath(trash + u"/info"_s));
-    QVERIFY(writeFile(trash + u"/files/a"_s, "a"));
+    writeFile(trash + u"/files/a"_s, "a");
     // What stands there is no file that could be read.
     QVERIFY(QDir().mkpath(trash + u"/directorysizes/x"_s));
     CliRun run;
@@ -354,7 +362,7 @@ void tst_CliTrash::aTrashThatIsALinkIsLeftAlone()
 {
     const QTemporaryDir elsewhere;
     QVERIFY(QDir().mkpath(elsewhere.filePath(u"files"_s)));
-    QVERIFY(writeFile(elsewhere.filePath(u"files/kept.txt"_s), "kept"));
+    writeFile(elsewhere.filePath(u"files/kept.txt"_s), "kept");
     QVERIFY(makeLink(elsewhere.path(), m_home.filePath(u"Trash"_s)));
     CliRun run;
     run({u"wipe"_s, u"trash"_s, u"--yes"_s});

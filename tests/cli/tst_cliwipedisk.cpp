@@ -1,9 +1,23 @@
+#include "cli/runcli.h"
 #include "cli/testio.h"
+#include "support/faultplan.h"
+#include "support/interposeddevices.h"
+#include "support/links.h"
 #include "support/suite.h"
+#include "support/testfiles.h"
 
 #include "cli/memorymachine.h"
 
+#include <QCoreApplication>
+#include <QDir>
 #include <QElapsedTimer>
+#include <QFileInfo>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QJsonValue>
+#include <QMetaObject>
+#include <QTemporaryDir>
+#include <QTest>
 
 #include <algorithm>
 #include <chrono>
@@ -125,9 +139,9 @@ void tst_CliWipeDisk::anImageIsErasedToTheLastByte()
 {
     const QTemporaryDir folder;
     const QString image = folder.filePath(u"a.img"_s);
-    QVERIFY(writeFile(image, QByteArray(Size, 'x')));
+    writeFile(image, QByteArray(Size, 'x'));
     const QString other = folder.filePath(u"b.img"_s);
-    QVERIFY(writeFile(other, QByteArray(Size, 'y')));
+    writeFile(other, QByteArray(Size, 'y'));
     CliRun run;
     run(wipeDrive(0) + QStringList{u"--only-images"_s, u"--image"_s, image, u"--image"_s, other});
     QCOMPARE(run.code, 0);
@@ -145,7 +159,7 @@ void tst_CliWipeDisk::aDriveIsNamedByNumberPathOrLink()
     if (hasLink)
         names.append(folder.filePath(u"link"_s));
     for (const QString &name : std::as_const(names)) {
-        QVERIFY(writeFile(image, QByteArray(65536, 'x')));
+        writeFile(image, QByteArray(65536, 'x'));
         CliRun run;
         run({u"wipe"_s, u"disk"_s, name, u"--yes"_s, u"--only-images"_s, u"--image"_s, image});
         QCOMPARE(run.code, 0);
@@ -836,7 +850,7 @@ void tst_CliWipeDisk::aReportMustNotReplaceTheDrive()
 {
     const QTemporaryDir folder;
     const QString image = folder.filePath(u"a.img"_s);
-    QVERIFY(writeFile(image, QByteArray(65536, 'x')));
+    writeFile(image, QByteArray(65536, 'x'));
     CliRun run;
     run(wipeDrive(0) + QStringList{u"--only-images"_s, u"--image"_s, image, u"--report"_s, image});
     QCOMPARE(run.code, 2);
@@ -861,7 +875,7 @@ void tst_CliWipeDisk::theJobIsInTheLogOfTheDataFolder()
 void tst_CliWipeDisk::aDataFolderThatCannotBeMadeStopsBeforeAnythingIs()
 {
     const QTemporaryDir folder;
-    QVERIFY(writeFile(folder.filePath(u"file"_s), "x"));
+    writeFile(folder.filePath(u"file"_s), "x");
     MemoryMachine machine;
     addDrive(machine);
     TestIo io;

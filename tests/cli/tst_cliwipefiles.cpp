@@ -1,10 +1,17 @@
+#include "cli/runcli.h"
 #include "cli/testio.h"
+#include "support/links.h"
 #include "support/suite.h"
+#include "support/testfiles.h"
 
 #include "cli/filetarget.h"
 
+#include <QCoreApplication>
 #include <QDir>
+#include <QFileInfo>
 #include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
 
 #include <memory>
 
@@ -62,10 +69,10 @@ void tst_CliWipeFiles::init()
     QVERIFY(QDir::setCurrent(m_folder->path()));
     QVERIFY(QDir().mkpath(u"keep"_s));
     QVERIFY(QDir().mkpath(u"folder/sub"_s));
-    QVERIFY(writeFile(u"keep/kept.txt"_s, "kept"));
-    QVERIFY(writeFile(u"one.txt"_s, QByteArray(1000, '1')));
-    QVERIFY(writeFile(u"folder/two.txt"_s, QByteArray(2000, '2')));
-    QVERIFY(writeFile(u"folder/sub/three.txt"_s, QByteArray(3000, '3')));
+    writeFile(u"keep/kept.txt"_s, "kept");
+    writeFile(u"one.txt"_s, QByteArray(1000, '1'));
+    writeFile(u"folder/two.txt"_s, QByteArray(2000, '2'));
+    writeFile(u"folder/sub/three.txt"_s, QByteArray(3000, '3'));
 }
 
 void tst_CliWipeFiles::cleanup()
@@ -179,8 +186,8 @@ void tst_CliWipeFiles::anEmptyPathDoesNotMeanTheCurrentFolder()
 
 void tst_CliWipeFiles::aPathThatLooksLikeAnOptionIsErased()
 {
-    QVERIFY(writeFile(u"--quiet"_s, "x"));
-    QVERIFY(writeFile(path(u":resource"_s), "x"));
+    writeFile(u"--quiet"_s, "x");
+    writeFile(path(u":resource"_s), "x");
     TestIo io;
     const int code = cli::runCli(
         {u"wipe"_s, u"files"_s, u"--only-images"_s, u"--yes"_s, u"--"_s, u"--quiet"_s, u":resource"_s}, io,
@@ -208,7 +215,7 @@ void tst_CliWipeFiles::aLongListIsCutShort()
     QStringList names;
     for (int i = 0; i < 25; ++i) {
         names.append(u"file-%1"_s.arg(i));
-        QVERIFY(writeFile(names.constLast(), "x"));
+        writeFile(names.constLast(), "x");
     }
     CliRun run;
     run(wipeFiles(names, {}));
@@ -225,7 +232,7 @@ void tst_CliWipeFiles::namesCannotSteerTheTerminal()
 #else
     const QString name = u"na\x1b[2Jme\n\u202Etxt"_s;
 #endif
-    QVERIFY(writeFile(name, "x"));
+    writeFile(name, "x");
     CliRun run;
     run(wipeFiles({name, u"missing\x1b[2J\n"_s}));
     QCOMPARE(run.code, 3);

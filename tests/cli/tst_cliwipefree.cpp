@@ -3,8 +3,17 @@
 
 #include "platform/forwarding.h"
 #include "support/fakedevices.h"
+#include "support/faultplan.h"
 #include "support/memoryvolume.h"
+#include "support/testfiles.h"
 
+#include <QCoreApplication>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QJsonValue>
+#include <QMetaObject>
+#include <QTemporaryDir>
+#include <QTest>
 #include <QThread>
 
 #include <atomic>

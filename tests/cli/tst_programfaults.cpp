@@ -1,21 +1,29 @@
 #include "cli/programrun.h"
-#include "engine/faultjob.h"
+#include "model/wipemethod.h"
+#include "model/wipereport.h"
+#include "support/faultydrive.h"
+#include "support/faultyfolder.h"
 #include "support/suite.h"
+#include "support/testfiles.h"
 
+#include <QCoreApplication>
+#include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QJsonValue>
+#include <QProcess>
 #include <QProcessEnvironment>
-
-using namespace faultjob;
+#include <QTemporaryDir>
+#include <QTest>
 
 namespace {
 
+constexpr qint64 MiB = 1024 * 1024;
 constexpr qint64 DriveBytes = 16 * MiB;
 
 QJsonObject jsonOf(const QString &path)
 {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? QJsonDocument::fromJson(file.readAll()).object() : QJsonObject();
+    return QJsonDocument::fromJson(contentOf(path)).object();
 }
 
 // The program as a script calls it, on a device node. It is told which drive; the image list that its other
@@ -100,14 +108,12 @@ void tst_ProgramFaults::anImageOnAFailingMediumIsReported()
     const QTemporaryDir folder;
     FaultyFolder faults(folder.path());
     QVERIFY(faults.isReady());
-    QFile image(faults.path() + QStringLiteral("/disk.img"));
-    QVERIFY(image.open(QIODevice::WriteOnly) && image.resize(DriveBytes));
-    image.close();
+    const QString image = writeZeros(faults.path() + QStringLiteral("/disk.img"), DriveBytes);
     faults.failWrites(7 * MiB, 7 * MiB + 512);
     const QString report = folder.filePath(QStringLiteral("report.json"));
     ProgramRun run;
-    run({"wipe", "disk", "0", "--image", QFile::encodeName(image.fileName()), "--yes", "--buffer-mb", "1",
-         "--report", QFile::encodeName(report)});
+    run({"wipe", "disk", "0", "--image", QFile::encodeName(image), "--yes", "--buffer-mb", "1", "--report",
+         QFile::encodeName(report)});
     QVERIFY(faults.failedWrites() > 0);
     QVERIFY2(run.code == 1, (run.out + run.err).constData());
     QVERIFY2((run.out + run.err).contains(QByteArray::number(7 * MiB)), (run.out + run.err).constData());

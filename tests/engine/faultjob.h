@@ -1,7 +1,12 @@
 #pragma once
 
-#include "realjob.h"
+#include "engine/realjob.h"
+#include "model/wipemethod.h"
+#include "model/wipetask.h"
 #include "support/faultydrive.h"
+
+#include <QByteArray>
+#include <QString>
 
 // The jobs of these suites: chunks of 1 MiB, so that positions tell something.
 namespace faultjob {
@@ -9,22 +14,10 @@ namespace faultjob {
 inline constexpr qint64 MiB = 1024 * 1024;
 inline constexpr char Old = 'o'; // what the drives hold before
 
-inline void setUpDisk(WipeTask &task, const FaultyDrive &drive, WipeMethod::Type method)
-{
-    task.setOperationType(DiskWipe);
-    task.setDisk(diskAt(drive.device()));
-    task.setMethod(WipeMethod::fromType(method));
-    task.setBufferSizeMB(1);
-}
+void setUpDisk(WipeTask &task, const FaultyDrive &drive, WipeMethod::Type method);
 
-inline QString writeErrorAt(qint64 position, int error)
-{
-    return QStringLiteral("写入错误，位置: %1，错误码: %2").arg(position).arg(error);
-}
+QString writeErrorAt(qint64 position, int error);
 
-inline QByteArray stretchOf(char character, qint64 size)
-{
-    return QByteArray(size, character);
-}
+QByteArray stretchOf(char character, qint64 size);
 
 } // namespace faultjob

@@ -2,21 +2,18 @@
 
 #include "engine/filewipeworker.h"
 #include "model/wipetask.h"
+#include "platform/forwarding.h"
 #include "platform/platform.h"
 #include "support/observedfiles.h"
 #include "support/workerrecord.h"
 
 #include <QByteArray>
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
 #include <QList>
 #include <QString>
 #include <QStringList>
 #include <QTemporaryDir>
 
 #include <memory>
-#include <thread>
 
 // A file job in a folder of its own, on the machine's own files, every call of which is observed. Everything
 // that the job is to leave alone may stand in the same folder: only targets are wiped.
@@ -25,16 +22,7 @@ class FileJob
 public:
     // Other files or folders than the machine's own; they outlive the job.
     explicit FileJob(platform::Files &below = platform::Platform::current().files(),
-                     platform::Folders &folders = platform::Platform::current().folders())
-        : files(below)
-        , m_platform(files, folders, platform::Platform::current().devices(),
-                     platform::Platform::current().session())
-        , m_scope(m_platform)
-    {
-        if (!m_folder.isValid())
-            qFatal("no temporary folder");
-        task.setThreadCount(1);
-    }
+                     platform::Folders &folders = platform::Platform::current().folders());
 
     WipeTask task;
     ObservedFiles files;
@@ -43,55 +31,17 @@ public:
     QString path(const QString &name) const { return m_folder.filePath(name); }
 
     // Both make what is missing above, and answer the path.
-    QString makeFolder(const QString &name)
-    {
-        if (!QDir().mkpath(path(name)))
-            qFatal("cannot create %s", qPrintable(name));
-        return path(name);
-    }
-    QString makeFile(const QString &name, const QByteArray &content)
-    {
-        QDir().mkpath(QFileInfo(path(name)).path());
-        QFile file(path(name));
-        if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-            qFatal("cannot write %s", qPrintable(name));
-        return file.fileName();
-    }
+    QString makeFolder(const QString &name);
+    QString makeFile(const QString &name, const QByteArray &content);
     QString makeFile(const QString &name, qsizetype size) { return makeFile(name, QByteArray(size, 'M')); }
 
-    static QByteArray contentOf(const QString &path)
-    {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("cannot be read");
-    }
-
-    void setPasses(const QList<PassPattern> &passes)
-    {
-        WipeMethod method;
-        method.passes = passes;
-        task.setMethod(method);
-    }
+    void setPasses(const QList<PassPattern> &passes);
 
     // The worker is made at first use, with the task as it is then.
-    FileWipeWorker &worker()
-    {
-        if (!m_worker) {
-            m_worker = std::make_unique<FileWipeWorker>(&task);
-            said.attach(*m_worker);
-        }
-        return *m_worker;
-    }
-    bool run(const QStringList &targets)
-    {
-        task.setFiles(targets);
-        worker().process();
-        return said.succeeded();
-    }
+    FileWipeWorker &worker();
+    bool run(const QStringList &targets);
     // As the interface stops a job: from a thread that is not the worker's.
-    void stop()
-    {
-        std::thread([this] { m_worker->stop(); }).join();
-    }
+    void stop();
 
     QStringList lines() const { return said.lines(); }
 
@@ -113,37 +63,13 @@ inline const QString cancelled = QStringLiteral("1 擦除任务已由用户取�
 inline const QString succeeded = QStringLiteral("finished true");
 inline const QString failed = QStringLiteral("finished false");
 
-inline QString preparing(int files, const QString &size)
-{
-    return QStringLiteral("0 准备擦除 %1 个文件，单遍总大小 %2").arg(files).arg(size);
-}
-inline QString pass(int pass, int passes)
-{
-    return QStringLiteral("pass %1/%2").arg(pass).arg(passes);
-}
-inline QString passFailed(int pass, int passes, int failures)
-{
-    return QStringLiteral("2 第 %1/%2 遍覆写出现失败文件，失败数: %3").arg(pass).arg(passes).arg(failures);
-}
-inline QString allDone(int files)
-{
-    return QStringLiteral("0 所有文件擦除成功！共处理 %1 个文件").arg(files);
-}
-inline QString someFailed(int files)
-{
-    return QStringLiteral("2 擦除完成，但有 %1 个文件失败。数据可能不安全！").arg(files);
-}
-inline QString cannotOpen(const QString &path)
-{
-    return QStringLiteral("2 无法打开文件(WinAPI): ") + path;
-}
-inline QString deletionFailed(const QString &path)
-{
-    return QStringLiteral("1 删除失败: ") + path;
-}
-inline QString folderUnreadable(const QString &path, quint32 code)
-{
-    return QStringLiteral("2 无法读取文件夹: ") + path + QStringLiteral("，错误码: %1").arg(code);
-}
+QString preparing(int files, const QString &size);
+QString pass(int pass, int passes);
+QString passFailed(int pass, int passes, int failures);
+QString allDone(int files);
+QString someFailed(int files);
+QString cannotOpen(const QString &path);
+QString deletionFailed(const QString &path);
+QString folderUnreadable(const QString &path, quint32 code);
 
 } // namespace said

@@ -3,19 +3,18 @@
 #include "engine/freespacewipeworker.h"
 #include "model/wipetask.h"
 #include "platform/forwarding.h"
+#include "platform/platform.h"
 #include "support/fakedevices.h"
 #include "support/memoryvolume.h"
 
 #include <QList>
 #include <QObject>
-#include <QRegularExpression>
 #include <QString>
 #include <QStringList>
-#include <QtTest>
 
 #include <chrono>
-#include <new>
-#include <thread>
+#include <memory>
+#include <utility>
 
 // A machine of memory volumes for free-space jobs, and what a job told.
 
@@ -32,12 +31,7 @@ class NamedDevices : public FakeDevices
 public:
     QStringList unmounted;
 
-    platform::Result<std::unique_ptr<platform::DeviceQuery>> queryVolume(const QString &name) override
-    {
-        if (!unmounted.contains(name) && !volumes.contains(name))
-            volumes.insert(name, FakeVolume::onDrives(name, {}));
-        return FakeDevices::queryVolume(name);
-    }
+    platform::Result<std::unique_ptr<platform::DeviceQuery>> queryVolume(const QString &name) override;
 };
 
 // In force as long as it lives.
@@ -59,21 +53,13 @@ struct LogLine
 };
 
 // Folder names are random; in what is compared they all end in the same digits.
-inline QString withoutRandom(QString text)
-{
-    static const QRegularExpression digits(QStringLiteral("\\.quorvex_temp_[0-9a-f]{8}(?![0-9a-f])"));
-    return text.replace(digits, QStringLiteral(".quorvex_temp_########"));
-}
+QString withoutRandom(QString text);
 
 // Opens what only tests need: pausing, which nothing offers yet, and shorter waits.
 class TestedWorker : public FreeSpaceWipeWorker
 {
 public:
-    explicit TestedWorker(WipeTask *task)
-        : FreeSpaceWipeWorker(task)
-    {
-        m_releasePoll = std::chrono::milliseconds(0);
-    }
+    explicit TestedWorker(WipeTask *task);
     void pause() { m_paused = true; }
     void setReleasePoll(std::chrono::milliseconds interval) { m_releasePoll = interval; }
     void setReleasePatience(std::chrono::milliseconds patience) { m_releasePatience = patience; }
@@ -94,137 +80,35 @@ public:
     QList<bool> finished;
     bool signalledAfterTheEnd = false;
 
-    Job()
-    {
-        task.setOperationType(FreeSpaceWipe);
-        task.setBufferSizeMB(1);
-        const auto note = [this](auto &list, const auto &entry) {
-            signalledAfterTheEnd |= !finished.isEmpty();
-            list.append(entry);
-        };
-        constexpr auto direct = Qt::DirectConnection;
-        connect(
-            &worker, &BaseWipeWorker::logMessage, this,
-            [this, note](const QString &text, int level) {
-                note(log, LogLine{withoutRandom(text), level});
-            },
-            direct);
-        connect(
-            &worker, &BaseWipeWorker::errorOccurred, this,
-            [this, note](const QString &text) { note(errors, withoutRandom(text)); }, direct);
-        connect(
-            &worker, &BaseWipeWorker::passChanged, this,
-            [this, note](int pass, int count) { note(passes, std::pair(pass, count)); }, direct);
-        connect(
-            &worker, &BaseWipeWorker::progressChanged, this,
-            [this, note](int percent) { note(percents, percent); }, direct);
-        connect(
-            &worker, &BaseWipeWorker::bytesWritten, this, [this, note](qint64 count) { note(bytes, count); },
-            direct);
-        connect(
-            &worker, &BaseWipeWorker::finished, this, [this, note](bool success) { note(finished, success); },
-            direct);
-    }
+    Job();
 
-    void setVolume(const QString &drive)
-    {
-        PartitionInfo partition;
-        partition.driveLetter = drive;
-        partition.fileSystem = QStringLiteral("NTFS");
-        partition.totalBytes = 8 * GiB;
-        task.setPartition(partition);
-    }
-    void setDisk(int number, const QStringList &drives)
-    {
-        DiskInfo disk;
-        disk.diskNumber = number;
-        disk.model = QStringLiteral("Model");
-        disk.sizeBytes = 16 * GiB;
-        for (const QString &drive : drives) {
-            PartitionInfo partition;
-            partition.driveLetter = drive;
-            disk.addPartition(partition);
-        }
-        task.setDisk(disk);
-    }
-    void setPasses(const QList<PassPattern> &list)
-    {
-        WipeMethod method;
-        method.passes = list;
-        task.setMethod(method);
-    }
+    void setVolume(const QString &drive);
+    void setDisk(int number, const QStringList &drives);
+    void setPasses(const QList<PassPattern> &list);
 
     void run() { worker.process(); }
     // As the interface stops a job: from a thread that is not the worker's.
-    void stopFromElsewhere()
-    {
-        std::thread([this] { worker.stop(); }).join();
-    }
+    void stopFromElsewhere();
 
     bool succeeded() const { return finished == QList<bool>{true} && !signalledAfterTheEnd; }
     bool failed() const { return finished == QList<bool>{false} && !signalledAfterTheEnd; }
-    int count(const QString &text, int level) const
-    {
-        return static_cast<int>(log.count(LogLine{text, level}));
-    }
+    int count(const QString &text, int level) const;
     bool logged(const QString &text, int level) const { return count(text, level) > 0; }
     quint64 wipedSectors() const { return task.report().wipedSectors; }
 };
 
 // Files with the names of fill files, wherever they are.
-inline QStringList fillFiles(const MemoryVolume &volume)
-{
-    static const QRegularExpression name(QStringLiteral("/fill_[0-9]{6}\\.tmp$"));
-    return volume.pathsBelow(QString()).filter(name);
-}
+QStringList fillFiles(const MemoryVolume &volume);
 
-inline QStringList withoutRandom(const QStringList &texts)
-{
-    QStringList shown;
-    for (const QString &text : texts)
-        shown.append(withoutRandom(text));
-    return shown;
-}
+QStringList withoutRandom(const QStringList &texts);
 
-inline QList<MemoryVolume::Closed> closedFillFiles(const MemoryVolume &volume)
-{
-    QList<MemoryVolume::Closed> files;
-    for (const MemoryVolume::Closed &file : volume.closed) {
-        if (file.path.contains(QLatin1String("/fill_")))
-            files.append({withoutRandom(file.path), file.size});
-    }
-    return files;
-}
+QList<MemoryVolume::Closed> closedFillFiles(const MemoryVolume &volume);
 
-inline QList<MemoryVolume::Write> fillWrites(const MemoryVolume &volume)
-{
-    QList<MemoryVolume::Write> writes;
-    for (const MemoryVolume::Write &write : volume.writes) {
-        if (write.path.contains(QLatin1String("/fill_")))
-            writes.append(write);
-    }
-    return writes;
-}
+QList<MemoryVolume::Write> fillWrites(const MemoryVolume &volume);
 
 // So that a comparison that fails shows both logs line by line.
-inline char *toString(const LogLine &line)
-{
-    return QTest::toString(QStringLiteral("[%1] %2").arg(line.level).arg(line.text));
-}
+char *toString(const LogLine &line);
 
-inline bool compareLogs(const QList<LogLine> &actual, const QList<LogLine> &expected)
-{
-    for (qsizetype i = 0; i < std::max(actual.size(), expected.size()); ++i) {
-        const LogLine none{QStringLiteral("(no line)"), -1};
-        const LogLine &is = i < actual.size() ? actual.at(i) : none;
-        const LogLine &shouldBe = i < expected.size() ? expected.at(i) : none;
-        if (is == shouldBe)
-            continue;
-        qWarning().noquote() << "line" << i + 1 << "is" << is.level << is.text << "and should be"
-                             << shouldBe.level << shouldBe.text;
-        return false;
-    }
-    return true;
-}
+bool compareLogs(const QList<LogLine> &actual, const QList<LogLine> &expected);
 
 } // namespace freespace

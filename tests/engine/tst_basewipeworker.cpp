@@ -3,8 +3,10 @@
 
 #include "model/wipetask.h"
 
+#include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QMetaMethod>
+#include <QMetaObject>
 #include <QRandomGenerator>
 #include <QSignalSpy>
 #include <QTest>

@@ -6,9 +6,15 @@
 #include "filejob.h"
 #include "platform/filenames.h"
 #include "support/loopmount.h"
+#include "support/testfiles.h"
 
+#include <QCoreApplication>
+#include <QFile>
 #include <QStorageInfo>
+#include <QTemporaryDir>
 #include <QTest>
+
+#include <sys/stat.h>
 
 class tst_CopyOnWrite : public QObject
 {
@@ -32,13 +38,6 @@ namespace {
 QString warningAbout(const QString &type)
 {
     return QStringLiteral("1 文件系统 ") + type + QStringLiteral(" 不在原位置写入，旧数据可能仍留在介质上");
-}
-
-void makeFile(const QString &path)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write("secret") != 6)
-        qFatal("cannot write %s", qPrintable(path));
 }
 
 } // namespace
@@ -66,7 +65,7 @@ void tst_CopyOnWrite::ordinaryFileSystemsAreNotNamed()
     const LoopMount volume(folder.path(), {.fileSystem = LoopMount::Ext4});
     QVERIFY2(volume.isReady(), qPrintable(volume.error()));
     const QString file = volume.mountPoint() + QStringLiteral("/a");
-    makeFile(file);
+    writeFile(file, "secret");
     QVERIFY(fileSystemsWritingElsewhere({volume.mountPoint(), file, file + QStringLiteral("/nothing")})
                 .isEmpty());
 }
@@ -88,7 +87,7 @@ void tst_CopyOnWrite::aFileSystemIsNamedOnce()
     const LoopMount volume(folder.path(), {.fileSystem = LoopMount::Btrfs});
     QVERIFY2(volume.isReady(), qPrintable(volume.error()));
     const QString file = volume.mountPoint() + QStringLiteral("/a");
-    makeFile(file);
+    writeFile(file, "secret");
     QCOMPARE(fileSystemsWritingElsewhere({file, volume.mountPoint(), file, folder.path()}),
              QByteArrayList{"btrfs"});
 }
@@ -104,7 +103,7 @@ void tst_CopyOnWrite::theJobSaysSoAfterThePreparation()
     QStringList files;
     for (const char *name : {"/a", "/b", "/c"}) {
         files += volume.mountPoint() + QString::fromLatin1(name);
-        makeFile(files.last());
+        writeFile(files.last(), "secret");
     }
     QVERIFY(job.run(files));
     QCOMPARE(job.lines(), (QStringList{said::scanning, said::preparing(3, QStringLiteral("18 B")),

@@ -1,9 +1,19 @@
+#include "engine/wipeengine.h"
+#include "model/wipetask.h"
 #include "realjob.h"
 #include "support/loopmount.h"
 #include "support/suite.h"
+#include "support/testfiles.h"
 
+#include <QCoreApplication>
 #include <QFile>
+#include <QProcess>
+#include <QSignalSpy>
 #include <QTemporaryDir>
+#include <QTest>
+
+#include <fcntl.h>
+#include <unistd.h>
 
 namespace {
 
@@ -138,9 +148,7 @@ void tst_DiskResidue::mountedVolumeIsUnmountedAndWiped()
     const QTemporaryDir folder;
     LoopMount drive(folder.path(), {});
     QVERIFY2(drive.isReady(), qPrintable(drive.error()));
-    QFile file(drive.mountPoint() + QStringLiteral("/secret"));
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(marker()) == marker().size());
-    file.close();
+    writeFile(drive.mountPoint() + QStringLiteral("/secret"), marker());
     QVERIFY(drive.countInImage(marker()) > 0);
 
     WipeTask task;

@@ -1,9 +1,16 @@
 #include "diskwipejob.h"
+#include "model/wipereport.h"
+#include "model/wipetask.h"
+#include "support/deviceplatform.h"
+#include "support/faultplan.h"
 #include "support/faultydevices.h"
+#include "support/interposeddevices.h"
+#include "support/memorydevices.h"
 #include "support/powercutdevices.h"
 #include "support/slowdevices.h"
 #include "support/suite.h"
 
+#include <QCoreApplication>
 #include <QLoggingCategory>
 #include <QRandomGenerator>
 #include <QRegularExpression>

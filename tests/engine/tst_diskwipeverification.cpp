@@ -1,8 +1,12 @@
 #include "diskwipejob.h"
+#include "support/faultplan.h"
 #include "support/faultydevices.h"
+#include "support/interposeddevices.h"
 #include "support/lyingdevices.h"
+#include "support/memorydevices.h"
 #include "support/suite.h"
 
+#include <QCoreApplication>
 #include <QCryptographicHash>
 #include <QTest>
 #include <QtEndian>

@@ -1,7 +1,11 @@
 #include "diskwipejob.h"
+#include "support/faultplan.h"
 #include "support/faultydevices.h"
+#include "support/interposeddevices.h"
+#include "support/memorydevices.h"
 #include "support/suite.h"
 
+#include <QCoreApplication>
 #include <QRegularExpression>
 #include <QTest>
 #include <QtEndian>

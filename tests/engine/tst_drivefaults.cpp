@@ -1,5 +1,13 @@
+#include "engine/wipeengine.h"
 #include "faultjob.h"
+#include "model/wipetask.h"
+#include "support/faultydrive.h"
+#include "support/loopmount.h"
 #include "support/suite.h"
+
+#include <QCoreApplication>
+#include <QSignalSpy>
+#include <QTest>
 
 using namespace faultjob;
 

@@ -2,8 +2,12 @@
 #include "support/suite.h"
 
 #include "filejob.h"
+#include "support/faultplan.h"
 #include "support/faultyfiles.h"
+#include "support/observedfiles.h"
 
+#include <QCoreApplication>
+#include <QDir>
 #include <QTest>
 
 #include <algorithm>

@@ -1,9 +1,17 @@
 #include "engine/filedeletion.h"
+#include "support/faultplan.h"
+#include "support/observedfiles.h"
 #include "support/suite.h"
+#include "support/testfiles.h"
 
 #include "filejob.h"
 
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QRegularExpression>
+#include <QSet>
 #include <QTest>
 
 using namespace std::chrono_literals;
@@ -199,7 +207,7 @@ void tst_FileDeletion::theNewNameIsRandomInTheSameFolder()
         QCOMPARE(info.path(), job.path(QStringLiteral("in/a folder.d")));
         QVERIFY2(form.match(info.fileName()).hasMatch(), qPrintable(info.fileName()));
         QVERIFY(!QFileInfo::exists(file));
-        QCOMPARE(FileJob::contentOf(renamed), QByteArray("content"));
+        QCOMPARE(contentOf(renamed), QByteArray("content"));
         names.insert(info.fileName());
     }
     QCOMPARE(names.size(), 50);

@@ -1,9 +1,12 @@
 #include "engine/filepool.h"
+#include "support/faultplan.h"
 #include "support/suite.h"
 
 #include "filejob.h"
 #include "refusedthreads.h"
 
+#include <QCoreApplication>
+#include <QFile>
 #include <QTest>
 #include <QThread>
 

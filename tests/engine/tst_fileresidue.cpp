@@ -1,10 +1,14 @@
+#include "model/wipetask.h"
 #include "realjob.h"
 #include "support/loopmount.h"
 #include "support/suite.h"
+#include "support/testfiles.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
+#include <QTest>
 
 namespace {
 
@@ -14,13 +18,12 @@ const QByteArray &marker()
     return text;
 }
 
-bool writeMarkers(const QString &path, qint64 size)
+void writeMarkers(const QString &path, qint64 size)
 {
     QByteArray content;
     while (content.size() < size)
         content += marker();
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(content.left(size)) == size && file.flush();
+    writeFile(path, content.left(size));
 }
 
 } // namespace
@@ -64,8 +67,8 @@ void tst_FileResidue::noMarkerIsLeft()
     QVERIFY(root.mkpath(QStringLiteral("deep/er")));
     const QList<qint64> sizes{20, 511, 4096, 4097, 70000, 3 * 1024 * 1024 + 17};
     for (qsizetype i = 0; i < sizes.size(); ++i)
-        QVERIFY(writeMarkers(root.filePath(QStringLiteral("deep/er/file%1").arg(i)), sizes[i]));
-    QVERIFY(writeMarkers(root.filePath(QStringLiteral("single")), 9999));
+        writeMarkers(root.filePath(QStringLiteral("deep/er/file%1").arg(i)), sizes[i]);
+    writeMarkers(root.filePath(QStringLiteral("single")), 9999);
     QVERIFY(volume.unmount());
     const qint64 before = volume.countInImage(marker());
     QVERIFY2(before > 150000, qPrintable(QString::number(before))); // the control: all of it is on the medium
@@ -102,8 +105,8 @@ void tst_FileResidue::keptFilesStayAsTheyAre()
     LoopMount volume(folder.path(), options);
     QVERIFY2(volume.isReady(), qPrintable(volume.error()));
     const QDir root(volume.mountPoint());
-    QVERIFY(writeMarkers(root.filePath(QStringLiteral("kept")), 1234567));
-    QVERIFY(writeMarkers(root.filePath(QStringLiteral("gone")), 1234567));
+    writeMarkers(root.filePath(QStringLiteral("kept")), 1234567);
+    writeMarkers(root.filePath(QStringLiteral("gone")), 1234567);
     QVERIFY(root.mkdir(QStringLiteral("folder")));
     QVERIFY(QFile::link(root.filePath(QStringLiteral("kept")), root.filePath(QStringLiteral("folder/link"))));
 
@@ -112,9 +115,7 @@ void tst_FileResidue::keptFilesStayAsTheyAre()
     const RealJob job = runRealJob(task);
     QVERIFY2(job.success, qPrintable(job.log.join(u'\n')));
     QVERIFY(!root.exists(QStringLiteral("folder")));
-    QFile kept(root.filePath(QStringLiteral("kept")));
-    QVERIFY(kept.open(QIODevice::ReadOnly));
-    const QByteArray content = kept.readAll();
+    const QByteArray content = contentOf(root.filePath(QStringLiteral("kept")));
     QCOMPARE(content.size(), 1234567);
     QCOMPARE(content.count(marker()), 1234567 / marker().size());
 }

@@ -1,8 +1,14 @@
 #include "filejob.h"
+#include "support/faultplan.h"
 #include "support/faultyfiles.h"
 #include "support/suite.h"
+#include "support/testfiles.h"
 
+#include <QCoreApplication>
+#include <QDir>
 #include <QDirIterator>
+#include <QFile>
+#include <QFileInfo>
 #include <QTest>
 
 using platform::Status;
@@ -74,7 +80,7 @@ struct Scenario
                            QDirIterator::Subdirectories);
         while (files.hasNext()) {
             const QString file = files.next();
-            if (file != outside && FileJob::contentOf(file).contains(marker))
+            if (file != outside && contentOf(file).contains(marker))
                 ++secrets;
         }
         return secrets;
@@ -140,7 +146,7 @@ void tst_FileWipeFaults::loop(quint32 kinds, platform::ErrorCode error, FaultPla
 
         QVERIFY2(scenario.job.said.finishedCount() == 1, context.constData());
         QVERIFY2(scenario.job.lines().last().startsWith(QStringLiteral("finished ")), context.constData());
-        QVERIFY2(FileJob::contentOf(scenario.outside) == scenario.outsideContent, context.constData());
+        QVERIFY2(contentOf(scenario.outside) == scenario.outsideContent, context.constData());
         const QStringList beside = QDir(scenario.job.path(QStringLiteral("outside"))).entryList(QDir::Files);
         QVERIFY2(beside == QStringList{QStringLiteral("other")}, context.constData());
         if (success) {

@@ -1,7 +1,15 @@
 #include "filejob.h"
 #include "platform/filenames.h"
+#include "support/faultplan.h"
+#include "support/links.h"
+#include "support/observedfiles.h"
 #include "support/suite.h"
+#include "support/testfiles.h"
 
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QTest>
 
 #include <fcntl.h>
@@ -15,12 +23,6 @@ using platform::OpenMode;
 using platform::Status;
 
 namespace {
-
-void makeLink(const QString &target, const QString &path)
-{
-    if (::symlink(QFile::encodeName(target).constData(), QFile::encodeName(path).constData()) != 0)
-        qFatal("cannot make the link %s", qPrintable(path));
-}
 
 // Whether a name stands there, be it a link to nothing.
 bool stands(const QString &path)
@@ -67,13 +69,13 @@ void tst_FileWipeKinds::aGivenLinkIsRemovedItself()
     FileJob job;
     const QString target = job.makeFile(QStringLiteral("target"), 100);
     const QString link = job.path(QStringLiteral("link"));
-    makeLink(target, link);
+    QVERIFY(makeLink(target, link));
     const QString file = job.makeFile(QStringLiteral("file"), 10);
     QVERIFY(job.run({link, file}));
     QCOMPARE(job.lines(), (QStringList{said::scanning, said::preparing(2, QStringLiteral("10 B")),
                                        said::pass(1, 1), said::deleting, said::allDone(2), said::succeeded}));
     QVERIFY(!stands(link));
-    QCOMPARE(FileJob::contentOf(target), QByteArray(100, 'M'));
+    QCOMPARE(contentOf(target), QByteArray(100, 'M'));
     for (const FileCall &call : job.files.calls(FaultPlan::Open))
         QCOMPARE(call.path, file);
     // Renamed first, as everything is.
@@ -93,10 +95,10 @@ void tst_FileWipeKinds::aGivenLinkToAFolderIsRemovedItself()
     FileJob job;
     const QString inside = job.makeFile(QStringLiteral("folder/inside"), 100);
     const QString link = job.path(QStringLiteral("link"));
-    makeLink(job.path(QStringLiteral("folder")), link);
+    QVERIFY(makeLink(job.path(QStringLiteral("folder")), link));
     QVERIFY(job.run({link + end}));
     QVERIFY(!stands(link));
-    QCOMPARE(FileJob::contentOf(inside), QByteArray(100, 'M'));
+    QCOMPARE(contentOf(inside), QByteArray(100, 'M'));
     QCOMPARE(job.files.calls(FaultPlan::Open).size(), 0);
 }
 
@@ -104,7 +106,7 @@ void tst_FileWipeKinds::aGivenLinkToNothingIsRemoved()
 {
     FileJob job;
     const QString link = job.path(QStringLiteral("link"));
-    makeLink(job.path(QStringLiteral("nothing")), link);
+    QVERIFY(makeLink(job.path(QStringLiteral("nothing")), link));
     QVERIFY(job.run({link}));
     QVERIFY(!stands(link));
     QVERIFY(job.lines().contains(said::allDone(1)));
@@ -116,17 +118,17 @@ void tst_FileWipeKinds::linksInsideAFolderAreRemovedThemselves()
     const QString target = job.makeFile(QStringLiteral("target"), 100);
     const QString inside = job.makeFile(QStringLiteral("folder/inside"), 100);
     job.makeFile(QStringLiteral("t/file"), 10);
-    makeLink(target, job.path(QStringLiteral("t/to a file")));
-    makeLink(job.path(QStringLiteral("folder")), job.path(QStringLiteral("t/to a folder")));
-    makeLink(QStringLiteral(".."), job.path(QStringLiteral("t/upwards")));
-    makeLink(QStringLiteral("."), job.path(QStringLiteral("t/to itself")));
-    makeLink(QStringLiteral("/nothing here"), job.path(QStringLiteral("t/to nothing")));
+    QVERIFY(makeLink(target, job.path(QStringLiteral("t/to a file"))));
+    QVERIFY(makeLink(job.path(QStringLiteral("folder")), job.path(QStringLiteral("t/to a folder"))));
+    QVERIFY(makeLink(QStringLiteral(".."), job.path(QStringLiteral("t/upwards"))));
+    QVERIFY(makeLink(QStringLiteral("."), job.path(QStringLiteral("t/to itself"))));
+    QVERIFY(makeLink(QStringLiteral("/nothing here"), job.path(QStringLiteral("t/to nothing"))));
     QVERIFY(job.run({job.path(QStringLiteral("t"))}));
     QVERIFY(job.lines().contains(said::preparing(6, QStringLiteral("10 B"))));
     QVERIFY(job.lines().contains(said::allDone(6)));
     QVERIFY(!stands(job.path(QStringLiteral("t"))));
-    QCOMPARE(FileJob::contentOf(target), QByteArray(100, 'M'));
-    QCOMPARE(FileJob::contentOf(inside), QByteArray(100, 'M'));
+    QCOMPARE(contentOf(target), QByteArray(100, 'M'));
+    QCOMPARE(contentOf(inside), QByteArray(100, 'M'));
     for (const FileCall &call : job.files.calls(FaultPlan::Open))
         QCOMPARE(call.path, job.path(QStringLiteral("t/file")));
 }
@@ -135,7 +137,7 @@ void tst_FileWipeKinds::onlyLinksCountAsEmptyFiles()
 {
     FileJob job;
     const QString link = job.path(QStringLiteral("link"));
-    makeLink(job.makeFile(QStringLiteral("target"), 100), link);
+    QVERIFY(makeLink(job.makeFile(QStringLiteral("target"), 100), link));
     QVERIFY(job.run({link}));
     QCOMPARE(job.lines(), (QStringList{said::scanning, said::preparing(1, QStringLiteral("0 B")),
                                        said::allEmpty, said::deleting, said::allDone(1), said::succeeded}));
@@ -150,16 +152,14 @@ void tst_FileWipeKinds::aLinkThatTakesTheFilesPlaceIsNotFollowed()
     bool swapped = false;
     job.files.hook = [&](const FileCall &call) {
         if (!swapped && call.kind == FaultPlan::Open) {
-            swapped = true;
-            QFile::remove(file);
-            makeLink(victim, file);
+            swapped = QFile::remove(file) && makeLink(victim, file);
         }
         return Status();
     };
     QVERIFY(!job.run({file}));
     QVERIFY(swapped);
     QVERIFY(job.lines().contains(said::cannotOpen(file)));
-    QCOMPARE(FileJob::contentOf(victim), QByteArray(10, 'M'));
+    QCOMPARE(contentOf(victim), QByteArray(10, 'M'));
 }
 
 void tst_FileWipeKinds::aFolderThatTurnsIntoALinkIsNotRemoved()
@@ -168,17 +168,17 @@ void tst_FileWipeKinds::aFolderThatTurnsIntoALinkIsNotRemoved()
     const QString victim = job.makeFile(QStringLiteral("victims/victim"), 10);
     job.makeFile(QStringLiteral("t/file"), 10);
     const QString folder = job.path(QStringLiteral("t"));
+    bool swapped = false;
     job.files.hook = [&](const FileCall &call) {
         if (call.kind == FaultPlan::Info && call.path == folder &&
-            !QFileInfo::exists(folder + QStringLiteral("/file"))) {
-            QDir().rmdir(folder);
-            makeLink(job.path(QStringLiteral("victims")), folder);
-        }
+            !QFileInfo::exists(folder + QStringLiteral("/file")))
+            swapped = QDir().rmdir(folder) && makeLink(job.path(QStringLiteral("victims")), folder);
         return Status();
     };
     QVERIFY(job.run({folder}));
+    QVERIFY(swapped);
     QVERIFY(stands(folder));
-    QCOMPARE(FileJob::contentOf(victim), QByteArray(10, 'M'));
+    QCOMPARE(contentOf(victim), QByteArray(10, 'M'));
 }
 
 void tst_FileWipeKinds::specialFilesInsideAFolderAreRemovedUnopened()
@@ -252,7 +252,7 @@ void tst_FileWipeKinds::aFileWithOtherNamesIsOverwrittenAndTold()
              (QStringList{said::scanning, told, said::preparing(1, QStringLiteral("10 B")), said::pass(1, 2),
                           said::pass(2, 2), said::deleting, said::allDone(1), said::succeeded}));
     // The other names stay; the content that they share is gone.
-    QCOMPARE(FileJob::contentOf(job.path(QStringLiteral("second"))), QByteArray());
+    QCOMPARE(contentOf(job.path(QStringLiteral("second"))), QByteArray());
 }
 
 void tst_FileWipeKinds::twoNamesOfOneFileAreBothTold()
@@ -305,7 +305,7 @@ void tst_FileWipeKinds::aTargetWhoseNameIsNoTextIsWiped()
     QVERIFY(job.run({target}));
     QVERIFY(job.lines().contains(said::preparing(1, QStringLiteral("10 B"))));
     QVERIFY(!stands(target));
-    QCOMPARE(FileJob::contentOf(job.path(QStringLiteral("caf"))), QByteArray(10, 'M'));
+    QCOMPARE(contentOf(job.path(QStringLiteral("caf"))), QByteArray(10, 'M'));
 }
 
 QUORVEX_SUITE(tst_FileWipeKinds, QCoreApplication)

@@ -1,6 +1,15 @@
 #include "filejob.h"
+#include "support/faultplan.h"
+#include "support/observedfiles.h"
 #include "support/suite.h"
+#include "support/testfiles.h"
 
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QMutex>
+#include <QMutexLocker>
 #include <QPointer>
 #include <QSignalSpy>
 #include <QTest>
@@ -182,7 +191,7 @@ void tst_FileWipeThreads::aStopBeforeTheJob()
     job.worker().stop();
     QVERIFY(!job.run({file}));
     QCOMPARE(job.lines(), (QStringList{said::scanning, said::cancelled, said::failed}));
-    QCOMPARE(FileJob::contentOf(file), QByteArray(10, 'M'));
+    QCOMPARE(contentOf(file), QByteArray(10, 'M'));
 }
 
 void tst_FileWipeThreads::aStopDuringTheScan()
@@ -252,8 +261,8 @@ void tst_FileWipeThreads::aStopBetweenTwoBatches()
     QVERIFY(!job.run(files));
     QCOMPARE(job.lines(), (QStringList{said::scanning, said::preparing(4, QStringLiteral("40 B")),
                                        said::pass(1, 1), said::cancelled, said::failed}));
-    QCOMPARE(FileJob::contentOf(files[0]), QByteArray(10, '\xFF'));
-    QCOMPARE(FileJob::contentOf(files[2]), QByteArray(10, 'M'));
+    QCOMPARE(contentOf(files[0]), QByteArray(10, '\xFF'));
+    QCOMPARE(contentOf(files[2]), QByteArray(10, 'M'));
 }
 
 void tst_FileWipeThreads::aStopBetweenTwoPasses()
@@ -269,7 +278,7 @@ void tst_FileWipeThreads::aStopBetweenTwoPasses()
     QCOMPARE(job.lines(),
              (QStringList{said::scanning, said::preparing(1, QStringLiteral("10 B")), said::pass(1, 7),
                           said::pass(2, 7), said::pass(3, 7), said::cancelled, said::failed}));
-    QCOMPARE(FileJob::contentOf(file), QByteArray(10, '\xFF'));
+    QCOMPARE(contentOf(file), QByteArray(10, '\xFF'));
 }
 
 void tst_FileWipeThreads::aStopEndsTheFileAfterTheChunk()
@@ -291,7 +300,7 @@ void tst_FileWipeThreads::aStopEndsTheFileAfterTheChunk()
     QCOMPARE(job.lines(),
              (QStringList{said::scanning, said::preparing(1, QStringLiteral("4.00 MB")), said::pass(1, 1),
                           said::passFailed(1, 1, 1), said::cancelled, said::failed}));
-    QCOMPARE(FileJob::contentOf(file), QByteArray(2 * MiB, '\0') + QByteArray(2 * MiB, 'M'));
+    QCOMPARE(contentOf(file), QByteArray(2 * MiB, '\0') + QByteArray(2 * MiB, 'M'));
 }
 
 void tst_FileWipeThreads::aStopDuringTheFlushFailsTheFile()
@@ -340,7 +349,7 @@ void tst_FileWipeThreads::aStopAfterThePasses()
     QVERIFY(!job.lines().contains(said::deleting));
     QCOMPARE(job.lines().mid(job.lines().size() - 2), (QStringList{said::cancelled, said::failed}));
     // Without a deletion stage the folder stays too.
-    QCOMPARE(FileJob::contentOf(file), QByteArray(10, '\0'));
+    QCOMPARE(contentOf(file), QByteArray(10, '\0'));
 }
 
 void tst_FileWipeThreads::aStopDuringTheDeletionStillRemovesTheFolders()
@@ -431,7 +440,7 @@ void tst_FileWipeThreads::aStopAtAnyCall()
         const bool success = job.run({job.path(QStringLiteral("t")), single});
         QCOMPARE(job.said.finishedCount(), 1);
         QVERIFY(job.lines().last().startsWith(QStringLiteral("finished ")));
-        QCOMPARE(FileJob::contentOf(outside), QByteArray("keep"));
+        QCOMPARE(contentOf(outside), QByteArray("keep"));
         if (calls < at) {
             QVERIFY(success);
             break;
@@ -551,7 +560,7 @@ void tst_FileWipeThreads::isStoppedInItsThread()
     QVERIFY(job.files.calls(FaultPlan::Write).size() <= 2);
     int untouched = 0;
     for (const QString &file : files)
-        untouched += FileJob::contentOf(file) == QByteArray(10, 'M') ? 1 : 0;
+        untouched += contentOf(file) == QByteArray(10, 'M') ? 1 : 0;
     QVERIFY(untouched >= 18);
 }
 

@@ -2,12 +2,19 @@
 #include "support/suite.h"
 
 #include "model/wipereport.h"
+#include "support/faultplan.h"
 #include "support/faultyfiles.h"
 #include "support/messagecapture.h"
+#include "support/observedfiles.h"
+#include "support/testfiles.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QElapsedTimer>
+#include <QFile>
+#include <QFileInfo>
 #include <QRegularExpression>
+#include <QSet>
 #include <QTest>
 #include <QThread>
 #include <QTranslator>
@@ -80,9 +87,9 @@ struct Contents
     {
         job.files.hook = [this](const FileCall &call) {
             if (call.kind == FaultPlan::Flush && call.mode == OpenMode::Overwrite)
-                afterPass.append(FileJob::contentOf(call.path));
+                afterPass.append(contentOf(call.path));
             if (call.kind == FaultPlan::Open && call.mode == OpenMode::Truncate)
-                beforeDeletion.append(FileJob::contentOf(call.path));
+                beforeDeletion.append(contentOf(call.path));
             return Status();
         };
     }
@@ -448,8 +455,8 @@ void tst_FileWipeWorker::filesOutsideTheTargetsAreLeftAlone()
     const QString beside = job.makeFile(QStringLiteral("t/beside"), QByteArray("keep"));
     const QString similar = job.makeFile(QStringLiteral("t/target2"), QByteArray("keep too"));
     QVERIFY(job.run({job.makeFile(QStringLiteral("t/target"), 10)}));
-    QCOMPARE(FileJob::contentOf(beside), QByteArray("keep"));
-    QCOMPARE(FileJob::contentOf(similar), QByteArray("keep too"));
+    QCOMPARE(contentOf(beside), QByteArray("keep"));
+    QCOMPARE(contentOf(similar), QByteArray("keep too"));
     QCOMPARE(QDir(job.path(QStringLiteral("t"))).entryList(QDir::Files).size(), 2);
 }
 
@@ -670,7 +677,7 @@ void tst_FileWipeWorker::aFileThatDoesNotOpen()
     const QString file = job.makeFile(QStringLiteral("a"), 10);
     QVERIFY(!job.run({file}));
     QCOMPARE(job.lines(), failedFirstPass({said::cannotOpen(file)}));
-    QCOMPARE(FileJob::contentOf(file), QByteArray(10, 'M'));
+    QCOMPARE(contentOf(file), QByteArray(10, 'M'));
 }
 
 void tst_FileWipeWorker::aSeekThatFails()
@@ -710,7 +717,7 @@ void tst_FileWipeWorker::aWriteWithoutProgress()
     QVERIFY(!job.run({file}));
     QCOMPARE(calls, 2);
     QCOMPARE(job.lines(), failedFirstPass({QStringLiteral("2 WriteFile 失败: ") + file}));
-    QCOMPARE(FileJob::contentOf(file), QByteArray(4, '\0') + QByteArray(6, 'M'));
+    QCOMPARE(contentOf(file), QByteArray(4, '\0') + QByteArray(6, 'M'));
 }
 
 void tst_FileWipeWorker::aFlushThatFails()
@@ -754,8 +761,8 @@ void tst_FileWipeWorker::aFileThatCannotBeLookedAtFailsInThePass()
     QCOMPARE(job.lines(), (QStringList{said::scanning, said::preparing(2, QStringLiteral("20 B")),
                                        said::pass(1, 1), said::cannotOpen(file), said::passFailed(1, 1, 1),
                                        said::someFailed(1), said::failed}));
-    QCOMPARE(FileJob::contentOf(file), QByteArray(10, 'M'));
-    QCOMPARE(FileJob::contentOf(other), QByteArray(10, '\0'));
+    QCOMPARE(contentOf(file), QByteArray(10, 'M'));
+    QCOMPARE(contentOf(other), QByteArray(10, '\0'));
 }
 
 void tst_FileWipeWorker::sizesThatCannotBeToldAreNotTakenForEmpty()
@@ -804,10 +811,10 @@ void tst_FileWipeWorker::oneFailedFileKeepsAllFilesAndEndsThePasses()
     QCOMPARE(job.lines(), expected);
     for (const QString &file : files)
         QCOMPARE(QFileInfo(file).size(), 10);
-    QCOMPARE(FileJob::contentOf(files[1]), QByteArray(10, '\xFF'));
+    QCOMPARE(contentOf(files[1]), QByteArray(10, '\xFF'));
     // The other files of that pass were written nevertheless.
     for (const int i : {0, 2, 3, 4})
-        QVERIFY(FileJob::contentOf(files[i]) != QByteArray(10, '\xFF'));
+        QVERIFY(contentOf(files[i]) != QByteArray(10, '\xFF'));
     QVERIFY(job.files.opened(OpenMode::Truncate).isEmpty());
 }
 
@@ -978,7 +985,7 @@ void tst_FileWipeWorker::bytesThatDifferFailTheFile()
     const QString file = job.makeFile(QStringLiteral("a"), 10);
     QVERIFY(!job.run({file}));
     QCOMPARE(job.lines(), failedFirstPass({QStringLiteral("2 验证失败: ") + file}));
-    QCOMPARE(FileJob::contentOf(file), QByteArray(10, 'M'));
+    QCOMPARE(contentOf(file), QByteArray(10, 'M'));
 }
 
 void tst_FileWipeWorker::aDifferenceBehindTheFirstSampleIsFound()
@@ -1060,7 +1067,7 @@ void tst_FileWipeWorker::aFileThatCannotBeDeletedIsCounted()
     QCOMPARE(job.lines(),
              (QStringList{said::scanning, said::preparing(1, QStringLiteral("10 B")), said::pass(1, 1),
                           said::deleting, said::deletionFailed(file), said::someFailed(1), said::failed}));
-    QCOMPARE(FileJob::contentOf(file), QByteArray());
+    QCOMPARE(contentOf(file), QByteArray());
 }
 
 void tst_FileWipeWorker::aRenamedFileThatCannotBeDeletedIsNotCounted()
@@ -1164,7 +1171,7 @@ void tst_FileWipeWorker::aFolderThatCannotBeListedFailsTheJob()
                           said::someFailed(1), said::failed}));
     QVERIFY(!QFileInfo::exists(seen));
     // Removed without having been overwritten it would be on the medium, and nobody could wipe it any more.
-    QCOMPARE(FileJob::contentOf(unseen), QByteArray(10, 'M'));
+    QCOMPARE(contentOf(unseen), QByteArray(10, 'M'));
 }
 
 void tst_FileWipeWorker::aFolderThatCannotBeListedKeepsItsTarget()
@@ -1175,7 +1182,7 @@ void tst_FileWipeWorker::aFolderThatCannotBeListedKeepsItsTarget()
     job.makeFile(QStringLiteral("one/a"), 10);
     job.makeFile(QStringLiteral("two/b"), 10);
     QVERIFY(!job.run({job.path(QStringLiteral("one")), job.path(QStringLiteral("two"))}));
-    QCOMPARE(FileJob::contentOf(job.path(QStringLiteral("one/a"))), QByteArray(10, 'M'));
+    QCOMPARE(contentOf(job.path(QStringLiteral("one/a"))), QByteArray(10, 'M'));
     QVERIFY(!QFileInfo::exists(job.path(QStringLiteral("two"))));
 }
 
@@ -1190,7 +1197,7 @@ void tst_FileWipeWorker::aTargetThatCannotBeLookedAtFailsTheJob()
         (QStringList{said::scanning, QStringLiteral("2 无法访问: ") + bad + QStringLiteral("，错误码: 1117"),
                      said::preparing(1, QStringLiteral("10 B")), said::pass(1, 1), said::deleting,
                      said::someFailed(1), said::failed}));
-    QCOMPARE(FileJob::contentOf(bad), QByteArray(10, 'M'));
+    QCOMPARE(contentOf(bad), QByteArray(10, 'M'));
 }
 
 // ---- Figures

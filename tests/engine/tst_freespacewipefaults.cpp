@@ -1,5 +1,13 @@
 #include "engine/freespacefixture.h"
+#include "support/faultplan.h"
+#include "support/memoryvolume.h"
 #include "support/suite.h"
+
+#include <QCoreApplication>
+#include <QRegularExpression>
+#include <QSemaphore>
+#include <QTest>
+#include <QThread>
 
 #include <utility>
 

@@ -1,6 +1,14 @@
 #include "engine/fillfolder.h"
 #include "engine/freespacefixture.h"
+#include "model/wipereport.h"
+#include "support/faultplan.h"
+#include "support/memoryvolume.h"
 #include "support/suite.h"
+
+#include <QCoreApplication>
+#include <QRegularExpression>
+#include <QSet>
+#include <QTest>
 
 using namespace freespace;
 using namespace Qt::StringLiterals;

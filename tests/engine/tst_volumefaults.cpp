@@ -1,5 +1,15 @@
 #include "faultjob.h"
+#include "model/wipetask.h"
+#include "support/faultydrive.h"
+#include "support/loopmount.h"
 #include "support/suite.h"
+#include "support/testfiles.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QTest>
 
 using namespace faultjob;
 
@@ -29,10 +39,7 @@ struct PlacedFile
         : path(drive.mountPoint() + QStringLiteral("/secret"))
         , content("begin of the secret" + stretchOf(Old, 3 * MiB - 19))
     {
-        QFile file(path);
-        if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() || !file.flush() ||
-            ::fsync(file.handle()) != 0)
-            return;
+        writeThrough(path, content);
         position = drive.content().indexOf(content.left(19)); // in one piece on a fresh volume
     }
 

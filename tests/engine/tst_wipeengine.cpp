@@ -1,5 +1,6 @@
 #include "engine/wipeengine.h"
 #include "support/suite.h"
+#include "support/testfiles.h"
 
 #include "model/wipereport.h"
 #include "model/wipetask.h"
@@ -9,11 +10,15 @@
 #include "platform/storagereplies.h"
 #include "refusedthreads.h"
 
+#include <QCoreApplication>
+#include <QDateTime>
 #include <QFile>
 #include <QMetaMethod>
+#include <QMetaObject>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QThread>
 
 #include <atomic>
 #include <chrono>
@@ -26,14 +31,6 @@ namespace {
 
 constexpr qint64 MiB = 1024 * 1024;
 constexpr int Patience = 60'000; // in vain only, in ms
-
-QString writeFile(const QTemporaryDir &folder, const QString &name, qint64 size)
-{
-    QFile file(folder.filePath(name));
-    if (!file.open(QIODevice::WriteOnly) || file.write(QByteArray(static_cast<qsizetype>(size), 'M')) != size)
-        qFatal("cannot write %s", qPrintable(file.fileName()));
-    return file.fileName();
-}
 
 // A raw device that waits at every write until it is let go.
 class GatedDevice : public platform::ForwardingRawDevice
@@ -91,7 +88,7 @@ class ImageMachine
 {
 public:
     explicit ImageMachine(qint64 size, bool gated = false)
-        : m_image(writeFile(m_folder, QStringLiteral("disk.img"), size))
+        : m_image(writeFile(m_folder.filePath(QStringLiteral("disk.img")), QByteArray(size, 'M')))
         , m_platform(platform::createPlatform({{m_image}, true}))
         , devices(m_platform->devices())
         , m_gated(m_platform->files(), m_platform->folders(), devices, m_platform->session())
@@ -105,11 +102,7 @@ public:
         disk.totalSectors = size / 512;
     }
 
-    QByteArray content() const
-    {
-        QFile file(m_image);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
+    QByteArray content() const { return contentOf(m_image); }
 
 private:
     QTemporaryDir m_folder;
@@ -302,7 +295,7 @@ void tst_WipeEngine::aThreadThatTheSystemRefusesIsTold()
     const QTemporaryDir folder;
     WipeTask task;
     task.setOperationType(FileWipe);
-    task.setFiles({writeFile(folder, QStringLiteral("a"), 1000)});
+    task.setFiles({writeFile(folder.filePath(QStringLiteral("a")), QByteArray(1000, 'M'))});
     WipeEngine engine;
     QSignalSpy errors(&engine, &WipeEngine::errorOccurred);
     QSignalSpy starts(&engine, &WipeEngine::started);
@@ -414,8 +407,8 @@ void tst_WipeEngine::diskJobFromTaskToReport()
 void tst_WipeEngine::fileJobFromTaskToReport()
 {
     const QTemporaryDir folder;
-    const QString first = writeFile(folder, QStringLiteral("a"), 10000);
-    const QString second = writeFile(folder, QStringLiteral("b"), 5);
+    const QString first = writeFile(folder.filePath(QStringLiteral("a")), QByteArray(10000, 'M'));
+    const QString second = writeFile(folder.filePath(QStringLiteral("b")), QByteArray(5, 'M'));
     WipeTask task;
     task.addFiles({first, second});
     WipeEngine engine;

@@ -2,7 +2,8 @@
 #include "model/diskinfo.h"
 #include "support/suite.h"
 
-#include <QtTest>
+#include <QCoreApplication>
+#include <QTest>
 
 using namespace Qt::StringLiterals;
 

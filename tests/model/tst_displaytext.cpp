@@ -1,7 +1,8 @@
 #include "model/displaytext.h"
 #include "support/suite.h"
 
-#include <QtTest>
+#include <QCoreApplication>
+#include <QTest>
 
 using namespace Qt::StringLiterals;
 

@@ -1,8 +1,9 @@
 #include "model/formatsize.h"
 #include "support/suite.h"
 
+#include <QCoreApplication>
 #include <QLocale>
-#include <QtTest>
+#include <QTest>
 
 #include <limits>
 

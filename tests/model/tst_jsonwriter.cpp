@@ -1,10 +1,12 @@
 #include "model/jsonwriter.h"
 #include "support/suite.h"
 
+#include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QtTest>
+#include <QJsonValue>
+#include <QTest>
 
 #include <cmath>
 #include <limits>

@@ -2,7 +2,8 @@
 #include "model/wipemethod.h"
 #include "support/suite.h"
 
-#include <QtTest>
+#include <QCoreApplication>
+#include <QTest>
 
 #include <limits>
 

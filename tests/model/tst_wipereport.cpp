@@ -1,56 +1,29 @@
-#include "filledreport.h"
 #include "markingtranslator.h"
 #include "model/jsonwriter.h"
 #include "model/wipereport.h"
+#include "support/filledreport.h"
+#include "support/scopedvariable.h"
 #include "support/suite.h"
 
+#include <QCoreApplication>
+#include <QDate>
+#include <QDateTime>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QJsonValue>
 #include <QRandomGenerator>
 #include <QRegularExpression>
+#include <QSet>
+#include <QTest>
+#include <QTime>
 #include <QTimeZone>
-#include <QtTest>
 
 #include <limits>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-/// Sets an environment variable for a scope; a null value removes it.
-class ScopedVariable
-{
-public:
-    ScopedVariable(const char *name, const QByteArray &value)
-        : m_name(name)
-        , m_before(qgetenv(name))
-        , m_wasSet(qEnvironmentVariableIsSet(name))
-    {
-        set(value, !value.isNull());
-    }
-    ~ScopedVariable() { set(m_before, m_wasSet); }
-    Q_DISABLE_COPY_MOVE(ScopedVariable)
-
-private:
-    void set(const QByteArray &value, bool isSet)
-    {
-#ifdef Q_OS_WIN
-        // The narrow calls know the characters of one code page only.
-        const std::wstring text = QString::fromUtf8(value).toStdWString();
-        ::_wputenv_s(QString::fromLatin1(m_name).toStdWString().c_str(), isSet ? text.c_str() : L"");
-#else
-        if (isSet)
-            qputenv(m_name, value);
-        else
-            qunsetenv(m_name);
-#endif
-    }
-
-    const char *m_name;
-    QByteArray m_before;
-    bool m_wasSet;
-};
-
 /// What a report becomes by being written and read back.
 WipeReport afterRoundTrip(const WipeReport &report)
 {

@@ -1,12 +1,17 @@
 #include "markingtranslator.h"
+#include "model/wipereport.h"
 #include "model/wipetask.h"
+#include "support/messagecapture.h"
 #include "support/suite.h"
+#include "support/testfiles.h"
 
+#include <QCoreApplication>
 #include <QFile>
+#include <QPointer>
 #include <QRegularExpression>
 #include <QTemporaryDir>
+#include <QTest>
 #include <QThread>
-#include <QtTest>
 
 #include <atomic>
 #include <limits>
@@ -16,40 +21,16 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-/// Collects the debug output of a scope.
-class DebugCapture
-{
-public:
-    DebugCapture()
-        : m_before(qInstallMessageHandler(&DebugCapture::handle))
-    {
-        lines.clear();
-    }
-    ~DebugCapture() { qInstallMessageHandler(m_before); }
-    Q_DISABLE_COPY_MOVE(DebugCapture)
-
-    inline static QStringList lines;
-
-private:
-    static void handle(QtMsgType type, const QMessageLogContext &, const QString &text)
-    {
-        if (type == QtDebugMsg)
-            lines.append(text);
-    }
-
-    QtMessageHandler m_before;
-};
-
 QStringList traceOf(const WipeTask &task)
 {
-    const DebugCapture capture;
+    const MessageCapture capture;
     task.isValid();
-    return DebugCapture::lines;
+    return capture.texts(QtDebugMsg);
 }
 
 bool isValidQuietly(const WipeTask &task)
 {
-    const DebugCapture capture;
+    const MessageCapture capture;
     return task.isValid();
 }
 
@@ -80,11 +61,6 @@ std::unique_ptr<WipeTask> taskOfType(int type)
     return task;
 }
 
-void makeFile(const QString &path)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-}
 } // namespace
 
 class tst_WipeTask : public QObject
@@ -403,7 +379,7 @@ void tst_WipeTask::fileWipeOfFileAndFolder()
 {
     QTemporaryDir folder;
     QVERIFY(folder.isValid());
-    makeFile(folder.filePath(u"文件"_s));
+    writeFile(folder.filePath(u"文件"_s), {});
     const auto task = taskOfType(FileWipe);
     task->setFiles({folder.filePath(u"文件"_s), folder.path()});
     QCOMPARE(task->validationError(), QString());
@@ -554,9 +530,9 @@ void tst_WipeTask::traceShowsTheDisk()
 
 void tst_WipeTask::validationErrorIsSilent()
 {
-    const DebugCapture capture;
+    const MessageCapture capture;
     QVERIFY(!taskOfType(FreeSpaceWipe)->validationError().isEmpty());
-    QCOMPARE(DebugCapture::lines, QStringList());
+    QCOMPARE(capture.texts(QtDebugMsg), QStringList());
 }
 
 void tst_WipeTask::messagesAreTranslatedInTheTasksContext()

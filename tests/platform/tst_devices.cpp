@@ -4,7 +4,9 @@
 #include "platform/storagereplies.h"
 #include "support/suite.h"
 
+#include <QCoreApplication>
 #include <QFile>
+#include <QFileInfo>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -13,6 +15,7 @@
 
 #ifdef Q_OS_LINUX
 #include "support/loopmount.h"
+#include "support/testfiles.h"
 #endif
 
 using namespace platform;
@@ -46,10 +49,7 @@ public:
     // An image file whose length may be no multiple of a sector.
     void makeImage(qint64 size)
     {
-        m_image = m_folder.filePath(QStringLiteral("disk.img"));
-        QFile file(m_image);
-        if (!file.open(QIODevice::WriteOnly) || !file.resize(size))
-            qFatal("cannot make %s", qPrintable(m_image));
+        m_image = writeZeros(m_folder.filePath(QStringLiteral("disk.img")), size);
         m_platform = createPlatform({{m_image}, true});
         m_number = 0;
     }

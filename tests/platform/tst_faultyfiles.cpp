@@ -1,9 +1,12 @@
+#include "support/faultplan.h"
 #include "support/faultyfiles.h"
 #include "support/suite.h"
+#include "support/testfiles.h"
 
 #include "platform/platform.h"
 
-#include <QFile>
+#include <QCoreApplication>
+#include <QDir>
 #include <QFileInfo>
 #include <QTemporaryDir>
 #include <QTest>
@@ -39,9 +42,7 @@ private:
 void tst_FaultyFiles::init()
 {
     m_folder = std::make_unique<QTemporaryDir>();
-    QFile file(path(u"file"_s));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write("abc"), 3);
+    writeFile(path(u"file"_s), "abc");
     QVERIFY(QDir().mkdir(path(u"folder"_s)));
 }
 
@@ -126,10 +127,8 @@ void tst_FaultyFiles::everyHandleCallFails()
     QCOMPARE(file.value()->read(bytes, 3).code(), expected(FaultPlan::Read));
     QCOMPARE(file.value()->flush().code, expected(FaultPlan::Flush));
     QCOMPARE(plan.fired(), 1);
-    QFile after(path(u"file"_s));
-    QVERIFY(after.open(QIODevice::ReadOnly));
     // A write that fails leaves the position at the start, where the file is then cut.
-    QCOMPARE(after.readAll(), kind == FaultPlan::Write ? QByteArray() : QByteArray("xyz"));
+    QCOMPARE(contentOf(path(u"file"_s)), kind == FaultPlan::Write ? QByteArray() : QByteArray("xyz"));
 }
 
 void tst_FaultyFiles::everyFolderCallFails_data()

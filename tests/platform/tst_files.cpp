@@ -1,11 +1,17 @@
-#include "platform/filecontents.h"
 #include "platform/places.h"
+#include "support/bytes.h"
 #include "support/suite.h"
+#include "support/testfiles.h"
 
 #include "platform/alignedbuffer.h"
 #include "platform/files.h"
 
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
 #include <QFileInfo>
+#include <QRandomGenerator>
+#include <QTest>
 
 #include <cstring>
 #include <filesystem>
@@ -97,7 +103,7 @@ void tst_Files::overwriteKeepsLengthAndReplacesEveryByte()
 {
     QFETCH(qint64, length);
     const QString name = path(u"file"_s);
-    QVERIFY(makeFile(name, QByteArray(length, 'a')));
+    writeFile(name, QByteArray(length, 'a'));
     auto file = files().open(name, OpenMode::Overwrite);
     QVERIFY2(file.ok(), qPrintable(file.status().diagnostic()));
     const QByteArray bytes(length, 'z');
@@ -109,7 +115,7 @@ void tst_Files::overwriteKeepsLengthAndReplacesEveryByte()
     QCOMPARE(QFileInfo(name).size(), length);
     file.take().reset();
     QCOMPARE(QFileInfo(name).size(), length);
-    QCOMPARE(firstDifference(contentsOf(name), bytes), -1);
+    QCOMPARE(firstDifference(contentOf(name), bytes), -1);
 }
 
 void tst_Files::writeLeavesItsNeighboursAlone()
@@ -120,7 +126,7 @@ void tst_Files::writeLeavesItsNeighboursAlone()
         for (const qint64 size : {1, 511, 512, 4096, 4097, 8192}) {
             if (offset + size > before.size())
                 continue;
-            QVERIFY(makeFile(name, before));
+            writeFile(name, before);
             auto file = files().open(name, OpenMode::Overwrite);
             QVERIFY(file.ok());
             QVERIFY(file.value()->seek(offset).ok());
@@ -128,7 +134,7 @@ void tst_Files::writeLeavesItsNeighboursAlone()
             file.take().reset();
             QByteArray after = before;
             std::memset(after.data() + offset, 'z', static_cast<std::size_t>(size));
-            const QByteArray found = contentsOf(name);
+            const QByteArray found = contentOf(name);
             QVERIFY2(found == after, qPrintable(u"%1 bytes at %2: differs at %3 of %4"_s.arg(size)
                                                     .arg(offset)
                                                     .arg(firstDifference(found, after))
@@ -143,7 +149,7 @@ void tst_Files::longWriteLeavesItsNeighboursAlone()
     const QByteArray before(2 * MiB + 77, 'a');
     for (const qint64 offset : {0, 1, 777, 4096, 69999}) {
         for (const qint64 size : {MiB, MiB + 3, MiB + 4096, before.size() - offset}) {
-            QVERIFY(makeFile(name, before));
+            writeFile(name, before);
             auto file = files().open(name, OpenMode::Overwrite);
             QVERIFY(file.ok());
             QVERIFY(file.value()->seek(offset).ok());
@@ -151,7 +157,7 @@ void tst_Files::longWriteLeavesItsNeighboursAlone()
             file.take().reset();
             QByteArray after = before;
             std::memset(after.data() + offset, 'z', static_cast<std::size_t>(size));
-            QCOMPARE(firstDifference(contentsOf(name), after), -1);
+            QCOMPARE(firstDifference(contentOf(name), after), -1);
         }
     }
 }
@@ -165,12 +171,12 @@ void tst_Files::writeTakesBuffersThatAreNotAligned()
     for (const qint64 shift : {0, 1, 8, 16, 512, 2048}) {
         AlignedBuffer buffer(length + shift);
         std::memcpy(buffer.data() + shift, bytes.constData(), static_cast<std::size_t>(length));
-        QVERIFY(makeFile(name, QByteArray(length, 'a')));
+        writeFile(name, QByteArray(length, 'a'));
         auto file = files().open(name, OpenMode::Overwrite);
         QVERIFY(file.ok());
         QCOMPARE(file.value()->write(buffer.data() + shift, length).valueOr(-1), length);
         file.take().reset();
-        QCOMPARE(firstDifference(contentsOf(name), bytes), -1);
+        QCOMPARE(firstDifference(contentOf(name), bytes), -1);
     }
 }
 
@@ -178,9 +184,9 @@ void tst_Files::overwriteDoesNotCut()
 {
     const QString name = path(u"file"_s);
     const QByteArray bytes(5000, 'a');
-    QVERIFY(makeFile(name, bytes));
+    writeFile(name, bytes);
     QVERIFY(files().open(name, OpenMode::Overwrite).ok());
-    QCOMPARE(contentsOf(name), bytes);
+    QCOMPARE(contentOf(name), bytes);
 }
 
 void tst_Files::overwriteDoesNotCreate()
@@ -197,7 +203,7 @@ void tst_Files::readAnswersWhatIsThere()
     const QString name = path(u"file"_s);
     QRandomGenerator random = printedRandom();
     const QByteArray bytes = randomBytes(random, 3 * 4096 + 77);
-    QVERIFY(makeFile(name, bytes));
+    writeFile(name, bytes);
     for (const OpenMode mode : {OpenMode::Overwrite, OpenMode::Verify}) {
         auto file = files().open(name, mode);
         QVERIFY(file.ok());
@@ -220,7 +226,7 @@ void tst_Files::readEndsAtTheEndOfTheFile()
 {
     const QString name = path(u"file"_s);
     for (const qint64 length : Lengths) {
-        QVERIFY(makeFile(name, QByteArray(length, 'a')));
+        writeFile(name, QByteArray(length, 'a'));
         auto file = files().open(name, OpenMode::Verify);
         QVERIFY(file.ok());
         QByteArray buffer(length + 10000, 'x');
@@ -237,7 +243,7 @@ void tst_Files::readTakesBuffersThatAreNotAligned()
     QRandomGenerator random = printedRandom();
     const qint64 length = 3 * MiB + 5;
     const QByteArray bytes = randomBytes(random, length);
-    QVERIFY(makeFile(name, bytes));
+    writeFile(name, bytes);
     auto file = files().open(name, OpenMode::Verify);
     QVERIFY(file.ok());
     for (const qint64 shift : {0, 1, 8, 512, 2048}) {
@@ -254,7 +260,7 @@ void tst_Files::anyOrderOfOperations()
     const QString name = path(u"file"_s);
     QRandomGenerator random = printedRandom();
     QByteArray model = randomBytes(random, 1000000);
-    QVERIFY(makeFile(name, model));
+    writeFile(name, model);
     auto opened = files().open(name, OpenMode::Overwrite);
     QVERIFY(opened.ok());
     FileHandle &file = *opened.value();
@@ -299,7 +305,7 @@ void tst_Files::anyOrderOfOperations()
         }
     }
     opened.take().reset();
-    QCOMPARE(firstDifference(contentsOf(name), model), -1);
+    QCOMPARE(firstDifference(contentOf(name), model), -1);
 }
 
 void tst_Files::largeChunksFromAnAlignedBuffer()
@@ -308,7 +314,7 @@ void tst_Files::largeChunksFromAnAlignedBuffer()
     const qint64 length = 32 * MiB + 1000;
     QRandomGenerator random = printedRandom();
     const QByteArray bytes = randomBytes(random, length);
-    QVERIFY(makeFile(name, QByteArray(length, 'a')));
+    writeFile(name, QByteArray(length, 'a'));
     auto file = files().open(name, OpenMode::Overwrite);
     QVERIFY(file.ok());
     AlignedBuffer buffer(16 * MiB);
@@ -320,13 +326,13 @@ void tst_Files::largeChunksFromAnAlignedBuffer()
     }
     QVERIFY(file.value()->flush().ok());
     file.take().reset();
-    QCOMPARE(firstDifference(contentsOf(name), bytes), -1);
+    QCOMPARE(firstDifference(contentOf(name), bytes), -1);
 }
 
 void tst_Files::sizesOfZeroAndBelow()
 {
     const QString name = path(u"file"_s);
-    QVERIFY(makeFile(name, "abc"));
+    writeFile(name, "abc");
     auto file = files().open(name, OpenMode::Overwrite);
     QVERIFY(file.ok());
     char byte = 'x';
@@ -335,13 +341,13 @@ void tst_Files::sizesOfZeroAndBelow()
     QCOMPARE(file.value()->write(&byte, -1).code(), quint32(InvalidParameter));
     QCOMPARE(file.value()->read(&byte, -1).code(), quint32(InvalidParameter));
     QCOMPARE(byte, 'x');
-    QCOMPARE(contentsOf(name), QByteArray("abc"));
+    QCOMPARE(contentOf(name), QByteArray("abc"));
 }
 
 void tst_Files::positionsBelowZeroAreRefused()
 {
     const QString name = path(u"file"_s);
-    QVERIFY(makeFile(name, "abc"));
+    writeFile(name, "abc");
     auto file = files().open(name, OpenMode::Verify);
     QVERIFY(file.ok());
     QVERIFY(file.value()->seek(1).ok());
@@ -354,27 +360,27 @@ void tst_Files::positionsBelowZeroAreRefused()
 void tst_Files::positionsBeyondAnyFileAreRefused()
 {
     const QString name = path(u"file"_s);
-    QVERIFY(makeFile(name, "abc"));
+    writeFile(name, "abc");
     auto file = files().open(name, OpenMode::Overwrite);
     QVERIFY(file.ok());
     QVERIFY(file.value()->seek(std::numeric_limits<qint64>::max()).ok());
     char byte = 'x';
     QVERIFY(!file.value()->write(&byte, 1).ok());
     QVERIFY(!file.value()->read(&byte, 1).ok());
-    QCOMPARE(contentsOf(name), QByteArray("abc"));
+    QCOMPARE(contentOf(name), QByteArray("abc"));
 }
 
 void tst_Files::seekBeyondTheEndIsAllowed()
 {
     const QString name = path(u"file"_s);
-    QVERIFY(makeFile(name, "abc"));
+    writeFile(name, "abc");
     auto file = files().open(name, OpenMode::Overwrite);
     QVERIFY(file.ok());
     QVERIFY(file.value()->seek(10000).ok());
     QCOMPARE(QFileInfo(name).size(), 3);
     QCOMPARE(file.value()->write("z", 1).valueOr(-1), 1);
     file.take().reset();
-    QCOMPARE(firstDifference(contentsOf(name), "abc" + QByteArray(9997, '\0') + "z"), -1);
+    QCOMPARE(firstDifference(contentOf(name), "abc" + QByteArray(9997, '\0') + "z"), -1);
 }
 
 void tst_Files::setEndCutsAtThePosition()
@@ -383,13 +389,13 @@ void tst_Files::setEndCutsAtThePosition()
     const QByteArray bytes(10000, 'a');
     for (const OpenMode mode : {OpenMode::Overwrite, OpenMode::Truncate}) {
         for (const qint64 length : {9999, 8192, 513, 1, 0}) {
-            QVERIFY(makeFile(name, bytes));
+            writeFile(name, bytes);
             auto file = files().open(name, mode);
             QVERIFY(file.ok());
             QVERIFY(file.value()->seek(length).ok());
             QVERIFY(file.value()->setEnd().ok());
             QVERIFY(file.value()->flush().ok());
-            QCOMPARE(contentsOf(name), bytes.left(length));
+            QCOMPARE(contentOf(name), bytes.left(length));
         }
     }
 }
@@ -397,32 +403,32 @@ void tst_Files::setEndCutsAtThePosition()
 void tst_Files::setEndLengthensWithZeros()
 {
     const QString name = path(u"file"_s);
-    QVERIFY(makeFile(name, "abc"));
+    writeFile(name, "abc");
     auto file = files().open(name, OpenMode::Truncate);
     QVERIFY(file.ok());
     QVERIFY(file.value()->seek(6000).ok());
     QVERIFY(file.value()->setEnd().ok());
     QVERIFY(file.value()->flush().ok());
-    QCOMPARE(contentsOf(name), "abc" + QByteArray(5997, '\0'));
+    QCOMPARE(contentOf(name), "abc" + QByteArray(5997, '\0'));
 }
 
 void tst_Files::truncateOpensWithoutCutting()
 {
     const QString name = path(u"file"_s);
-    QVERIFY(makeFile(name, "abc"));
+    writeFile(name, "abc");
     auto file = files().open(name, OpenMode::Truncate);
     QVERIFY(file.ok());
-    QCOMPARE(contentsOf(name), QByteArray("abc"));
+    QCOMPARE(contentOf(name), QByteArray("abc"));
     QVERIFY(file.value()->seek(1).ok());
     QCOMPARE(file.value()->write("z", 1).valueOr(-1), 1);
     QVERIFY(file.value()->flush().ok());
-    QCOMPARE(contentsOf(name), QByteArray("azc"));
+    QCOMPARE(contentOf(name), QByteArray("azc"));
 }
 
 void tst_Files::truncateCutsWithoutReading()
 {
     const QString name = path(u"file"_s);
-    QVERIFY(makeFile(name, "abc"));
+    writeFile(name, "abc");
     auto file = files().open(name, OpenMode::Truncate);
     QVERIFY(file.ok());
     char byte = 0;
@@ -433,7 +439,7 @@ void tst_Files::verifyDoesNotWrite()
 {
     const QString name = path(u"file"_s);
     const QByteArray bytes(8192, 'a');
-    QVERIFY(makeFile(name, bytes));
+    writeFile(name, bytes);
     auto file = files().open(name, OpenMode::Verify);
     QVERIFY(file.ok());
     for (const qint64 size : {1, 4096}) {
@@ -441,13 +447,13 @@ void tst_Files::verifyDoesNotWrite()
         QVERIFY(!file.value()->write(QByteArray(size, 'z').constData(), size).ok());
     }
     QVERIFY(!file.value()->setEnd().ok());
-    QCOMPARE(contentsOf(name), bytes);
+    QCOMPARE(contentOf(name), bytes);
 }
 
 void tst_Files::verifyWhileOverwriting()
 {
     const QString name = path(u"file"_s);
-    QVERIFY(makeFile(name, QByteArray(10001, 'a')));
+    writeFile(name, QByteArray(10001, 'a'));
     auto writer = files().open(name, OpenMode::Overwrite);
     QVERIFY(writer.ok());
     QCOMPARE(writer.value()->write(QByteArray(10001, 'z').constData(), 10001).valueOr(-1), 10001);
@@ -470,19 +476,19 @@ void tst_Files::createFillCreates()
     QVERIFY(file.value()->flush().ok());
     QCOMPARE(QFileInfo(name).size(), bytes.size());
     file.take().reset();
-    QCOMPARE(firstDifference(contentsOf(name), bytes), -1);
+    QCOMPARE(firstDifference(contentOf(name), bytes), -1);
 }
 
 void tst_Files::createFillCutsAnExistingFile()
 {
     const QString name = path(u"file"_s);
-    QVERIFY(makeFile(name, QByteArray(10000, 'a')));
+    writeFile(name, QByteArray(10000, 'a'));
     auto file = files().open(name, OpenMode::CreateFill);
     QVERIFY(file.ok());
     QCOMPARE(file.value()->write("z", 1).valueOr(-1), 1);
     QVERIFY(file.value()->flush().ok());
     file.take().reset();
-    QCOMPARE(contentsOf(name), QByteArray("z"));
+    QCOMPARE(contentOf(name), QByteArray("z"));
 }
 
 void tst_Files::createFillTakesAnyChunk_data()
@@ -506,7 +512,7 @@ void tst_Files::createFillTakesAnyChunk()
         QVERIFY(file.value()->flush().ok());
     }
     file.take().reset();
-    QCOMPARE(firstDifference(contentsOf(name), bytes), -1);
+    QCOMPARE(firstDifference(contentOf(name), bytes), -1);
 }
 
 void tst_Files::createFillCannotRead()
@@ -536,12 +542,12 @@ void tst_Files::openOfNothing_data()
 void tst_Files::openOfNothing()
 {
     QFETCH(OpenMode, mode);
-    QVERIFY(makeFile(path(u"file"_s), "abc"));
+    writeFile(path(u"file"_s), "abc");
     const quint32 noFolder = files().open(path(u"none/file"_s), mode).code();
     QVERIFY(noFolder == FileNotFound || noFolder == PathNotFound);
     QCOMPARE(files().open(path(u"file/below"_s), mode).code(), quint32(PathNotFound));
     QVERIFY(!files().open(QString(), mode).ok());
-    QCOMPARE(contentsOf(path(u"file"_s)), QByteArray("abc"));
+    QCOMPARE(contentOf(path(u"file"_s)), QByteArray("abc"));
 }
 
 void tst_Files::openOfAFolderIsRefused_data()
@@ -560,8 +566,8 @@ void tst_Files::openOfAFolderIsRefused()
 
 void tst_Files::infoOfAFile()
 {
-    QVERIFY(makeFile(path(u"empty"_s), {}));
-    QVERIFY(makeFile(path(u"file"_s), QByteArray(12345, 'a')));
+    writeFile(path(u"empty"_s), {});
+    writeFile(path(u"file"_s), QByteArray(12345, 'a'));
     const Result<FileInfo> empty = files().info(path(u"empty"_s));
     QVERIFY(empty.ok());
     QCOMPARE(empty.value().kind, FileKind::Regular);
@@ -575,7 +581,7 @@ void tst_Files::infoOfAFile()
 
 void tst_Files::infoCountsHardLinks()
 {
-    QVERIFY(makeFile(path(u"file"_s), "abc"));
+    writeFile(path(u"file"_s), "abc");
     for (int links = 2; links <= 4; ++links) {
         std::filesystem::create_hard_link(nativePath(path(u"file"_s)),
                                           nativePath(path(u"link%1"_s.arg(links))));
@@ -598,7 +604,7 @@ void tst_Files::infoOfAFolder()
 
 void tst_Files::infoOfNothing()
 {
-    QVERIFY(makeFile(path(u"file"_s), "abc"));
+    writeFile(path(u"file"_s), "abc");
     QCOMPARE(files().info(path(u"none"_s)).code(), quint32(FileNotFound));
     const quint32 noFolder = files().info(path(u"none/none"_s)).code();
     QVERIFY(noFolder == FileNotFound || noFolder == PathNotFound);
@@ -608,14 +614,14 @@ void tst_Files::infoOfNothing()
 void tst_Files::clearReadOnlyMakesWritable()
 {
     const QString name = path(u"file"_s);
-    QVERIFY(makeFile(name, "abc"));
+    writeFile(name, "abc");
     QVERIFY(QFile::setPermissions(name, QFileDevice::ReadOwner | QFileDevice::ReadUser));
     QVERIFY(!(QFile::permissions(name) & QFileDevice::WriteOwner));
     QVERIFY(files().clearReadOnly(name).ok());
     QVERIFY(QFile::permissions(name) & QFileDevice::WriteOwner);
     QVERIFY(files().clearReadOnly(name).ok()); // nothing to change any more
     QVERIFY(files().open(name, OpenMode::Overwrite).ok());
-    QCOMPARE(contentsOf(name), QByteArray("abc"));
+    QCOMPARE(contentOf(name), QByteArray("abc"));
 }
 
 void tst_Files::clearReadOnlyOfNothingIsSuccess()
@@ -627,42 +633,42 @@ void tst_Files::clearReadOnlyOfNothingIsSuccess()
 
 void tst_Files::renameKeepsTheContents()
 {
-    QVERIFY(makeFile(path(u"old"_s), "abc"));
+    writeFile(path(u"old"_s), "abc");
     QVERIFY(files().rename(path(u"old"_s), path(u"A1B2C3D4E5F6.tmp"_s)).ok());
     QVERIFY(!QFileInfo::exists(path(u"old"_s)));
-    QCOMPARE(contentsOf(path(u"A1B2C3D4E5F6.tmp"_s)), QByteArray("abc"));
+    QCOMPARE(contentOf(path(u"A1B2C3D4E5F6.tmp"_s)), QByteArray("abc"));
 }
 
 void tst_Files::renameReplaces()
 {
-    QVERIFY(makeFile(path(u"old"_s), "abc"));
-    QVERIFY(makeFile(path(u"new"_s), "another"));
+    writeFile(path(u"old"_s), "abc");
+    writeFile(path(u"new"_s), "another");
     QVERIFY(files().rename(path(u"old"_s), path(u"new"_s)).ok());
     QVERIFY(!QFileInfo::exists(path(u"old"_s)));
-    QCOMPARE(contentsOf(path(u"new"_s)), QByteArray("abc"));
+    QCOMPARE(contentOf(path(u"new"_s)), QByteArray("abc"));
 }
 
 void tst_Files::renameOfNothing()
 {
-    QVERIFY(makeFile(path(u"new"_s), "another"));
+    writeFile(path(u"new"_s), "another");
     QCOMPARE(files().rename(path(u"old"_s), path(u"new"_s)).code, quint32(FileNotFound));
-    QCOMPARE(contentsOf(path(u"new"_s)), QByteArray("another"));
+    QCOMPARE(contentOf(path(u"new"_s)), QByteArray("another"));
 }
 
 void tst_Files::removeRemovesTheName()
 {
-    QVERIFY(makeFile(path(u"file"_s), "abc"));
-    QVERIFY(makeFile(path(u"other"_s), "other"));
+    writeFile(path(u"file"_s), "abc");
+    writeFile(path(u"other"_s), "other");
     QVERIFY(files().remove(path(u"file"_s)).ok());
     QCOMPARE(QDir(m_folder).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList{u"other"_s});
 }
 
 void tst_Files::removeOfOneHardLinkKeepsTheOthers()
 {
-    QVERIFY(makeFile(path(u"file"_s), "abc"));
+    writeFile(path(u"file"_s), "abc");
     std::filesystem::create_hard_link(nativePath(path(u"file"_s)), nativePath(path(u"link"_s)));
     QVERIFY(files().remove(path(u"file"_s)).ok());
-    QCOMPARE(contentsOf(path(u"link"_s)), QByteArray("abc"));
+    QCOMPARE(contentOf(path(u"link"_s)), QByteArray("abc"));
 }
 
 void tst_Files::removeOfNothing()
@@ -690,14 +696,14 @@ void tst_Files::namesOutsideAscii_data()
 void tst_Files::namesOutsideAscii()
 {
     QFETCH(QString, name);
-    QVERIFY(makeFile(path(name), "abc"));
+    writeFile(path(name), "abc");
     QCOMPARE(files().info(path(name)).value().size, 3);
     {
         auto file = files().open(path(name), OpenMode::Overwrite);
         QVERIFY(file.ok());
         QCOMPARE(file.value()->write("xyz", 3).valueOr(-1), 3);
     }
-    QCOMPARE(contentsOf(path(name)), QByteArray("xyz"));
+    QCOMPARE(contentOf(path(name)), QByteArray("xyz"));
     QVERIFY(files().rename(path(name), path(u"plain"_s)).ok());
     QVERIFY(files().rename(path(u"plain"_s), path(name)).ok());
     QVERIFY(files().clearReadOnly(path(name)).ok());
@@ -713,13 +719,13 @@ void tst_Files::longPaths()
         folder += u'/' + QString(100, QChar(u'a' + i));
     QVERIFY(QDir().mkpath(folder));
     const QString name = folder + u"/file"_s;
-    QVERIFY(makeFile(name, "abc"));
+    writeFile(name, "abc");
     {
         auto file = files().open(name, OpenMode::Overwrite);
         QVERIFY(file.ok());
         QCOMPARE(file.value()->write("xyz", 3).valueOr(-1), 3);
     }
-    QCOMPARE(contentsOf(name), QByteArray("xyz"));
+    QCOMPARE(contentOf(name), QByteArray("xyz"));
     QVERIFY(files().rename(name, folder + u"/other"_s).ok());
     QVERIFY(files().remove(folder + u"/other"_s).ok());
     QVERIFY(QDir(folder).isEmpty());
@@ -728,7 +734,7 @@ void tst_Files::longPaths()
 // "file\0.txt" would end at the zero and name "file".
 void tst_Files::zeroInAPathIsRefused()
 {
-    QVERIFY(makeFile(path(u"file"_s), "abc"));
+    writeFile(path(u"file"_s), "abc");
     const QString name = path(u"file"_s) + QChar(u'\0') + u".txt"_s;
     QCOMPARE(files().info(name).code(), quint32(InvalidParameter));
     QCOMPARE(files().open(name, OpenMode::Overwrite).code(), quint32(InvalidParameter));
@@ -737,14 +743,14 @@ void tst_Files::zeroInAPathIsRefused()
     QCOMPARE(files().rename(name, path(u"other"_s)).code, quint32(InvalidParameter));
     QCOMPARE(files().rename(path(u"file"_s), name).code, quint32(InvalidParameter));
     QCOMPARE(files().remove(name).code, quint32(InvalidParameter));
-    QCOMPARE(contentsOf(path(u"file"_s)), QByteArray("abc"));
+    QCOMPARE(contentOf(path(u"file"_s)), QByteArray("abc"));
 }
 
 void tst_Files::manyThreadsWithAFileEach()
 {
     constexpr int Count = 8;
     for (int i = 0; i < Count; ++i)
-        QVERIFY(makeFile(path(QString::number(i)), QByteArray(20000 + i, 'a')));
+        writeFile(path(QString::number(i)), QByteArray(20000 + i, 'a'));
     std::atomic<int> good{0};
     std::vector<std::thread> threads;
     for (int i = 0; i < Count; ++i) {
@@ -761,7 +767,7 @@ void tst_Files::manyThreadsWithAFileEach()
         thread.join();
     QCOMPARE(good.load(), Count);
     for (int i = 0; i < Count; ++i)
-        QCOMPARE(contentsOf(path(QString::number(i))), QByteArray(20000 + i, char('b' + i)));
+        QCOMPARE(contentOf(path(QString::number(i))), QByteArray(20000 + i, char('b' + i)));
 }
 
 QUORVEX_SUITE(tst_Files, QCoreApplication)

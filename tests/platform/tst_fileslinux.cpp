@@ -1,12 +1,18 @@
-#include "platform/filecontents.h"
 #include "platform/places.h"
+#include "support/bytes.h"
+#include "support/links.h"
 #include "support/suite.h"
+#include "support/testfiles.h"
 
 #include "platform/filenames.h"
 #include "platform/files.h"
 #include "platform/linux/filedescriptor.h"
 
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
 #include <QFileInfo>
+#include <QTest>
 
 #include <fcntl.h>
 #include <poll.h>
@@ -30,11 +36,6 @@ Files &files()
 constexpr OpenMode EveryMode[] = {OpenMode::Overwrite, OpenMode::Verify, OpenMode::Truncate,
                                   OpenMode::CreateFill};
 
-bool makeLink(const QString &target, const QString &link)
-{
-    return ::symlink(encodeName(target).constData(), encodeName(link).constData()) == 0;
-}
-
 struct stat statusOf(const QString &path)
 {
     struct stat status = {};
@@ -50,7 +51,7 @@ int openFlags(const QString &path)
     for (const QString &number : QDir(u"/proc/self/fd"_s).entryList(QDir::AllEntries | QDir::System)) {
         if (QFile::symLinkTarget(u"/proc/self/fd/"_s + number) != wanted)
             continue;
-        for (const QByteArray &line : contentsOf(u"/proc/self/fdinfo/"_s + number).split('\n')) {
+        for (const QByteArray &line : contentOf(u"/proc/self/fdinfo/"_s + number).split('\n')) {
             if (line.startsWith("flags:"))
                 return line.mid(6).trimmed().toInt(nullptr, 8);
         }
@@ -95,7 +96,7 @@ private slots:
 void tst_FilesLinux::opensWithTheFlagsItPromises()
 {
     const QString name = path(u"file"_s);
-    QVERIFY(makeFile(name, QByteArray(10000, 'a')));
+    writeFile(name, QByteArray(10000, 'a'));
     QFETCH_GLOBAL(QString, place);
     // It keeps files in the page cache alone and refuses the flag.
     const int direct = place == u"ramfs"_s ? 0 : O_DIRECT;
@@ -115,7 +116,7 @@ void tst_FilesLinux::overwriteKeepsTheInode()
 {
     const QString name = path(u"file"_s);
     for (const qint64 length : {1, 512, 4097, 100000}) {
-        QVERIFY(makeFile(name, QByteArray(length, 'a')));
+        writeFile(name, QByteArray(length, 'a'));
         const struct stat before = statusOf(name);
         {
             auto file = files().open(name, OpenMode::Overwrite);
@@ -134,14 +135,14 @@ void tst_FilesLinux::overwriteFillsHoles()
 {
     const QString name = path(u"file"_s);
     const qint64 length = 300000;
-    QVERIFY(makeFile(name, {}));
+    writeFile(name, {});
     QVERIFY(QFile::resize(name, length));
     auto file = files().open(name, OpenMode::Overwrite);
     QVERIFY(file.ok());
     QCOMPARE(file.value()->write(QByteArray(length, 'z').constData(), length).valueOr(-1), length);
     QVERIFY(file.value()->flush().ok());
     file.take().reset();
-    QCOMPARE(firstDifference(contentsOf(name), QByteArray(length, 'z')), -1);
+    QCOMPARE(firstDifference(contentOf(name), QByteArray(length, 'z')), -1);
     QFETCH_GLOBAL(QString, place);
     if (place != u"ramfs"_s) // counts no blocks
         QVERIFY(statusOf(name).st_blocks * 512 >= length);
@@ -172,7 +173,7 @@ void tst_FilesLinux::clearReadOnlyKeepsTheOtherPermissions()
     QFETCH(uint, before);
     QFETCH(uint, after);
     const QString name = path(u"file"_s);
-    QVERIFY(makeFile(name, "abc"));
+    writeFile(name, "abc");
     QCOMPARE(::chmod(encodeName(name).constData(), before), 0);
     QVERIFY(files().clearReadOnly(name).ok());
     QCOMPARE(uint(statusOf(name).st_mode & ALLPERMS), after);
@@ -180,7 +181,7 @@ void tst_FilesLinux::clearReadOnlyKeepsTheOtherPermissions()
 
 void tst_FilesLinux::clearReadOnlyLeavesALinkAndItsTarget()
 {
-    QVERIFY(makeFile(path(u"target"_s), "abc"));
+    writeFile(path(u"target"_s), "abc");
     QCOMPARE(::chmod(encodeName(path(u"target"_s)).constData(), 0400), 0);
     QVERIFY(makeLink(path(u"target"_s), path(u"link"_s)));
     QVERIFY(makeLink(path(u"none"_s), path(u"dangling"_s)));
@@ -191,7 +192,7 @@ void tst_FilesLinux::clearReadOnlyLeavesALinkAndItsTarget()
 
 void tst_FilesLinux::infoOfLinks()
 {
-    QVERIFY(makeFile(path(u"target"_s), QByteArray(5000, 'a')));
+    writeFile(path(u"target"_s), QByteArray(5000, 'a'));
     QVERIFY(QDir().mkdir(path(u"folder"_s)));
     QVERIFY(makeLink(path(u"target"_s), path(u"to file"_s)));
     QVERIFY(makeLink(path(u"folder"_s), path(u"to folder"_s)));
@@ -207,7 +208,7 @@ void tst_FilesLinux::infoOfLinks()
 
 void tst_FilesLinux::openOfALinkIsRefused()
 {
-    QVERIFY(makeFile(path(u"target"_s), "abc"));
+    writeFile(path(u"target"_s), "abc");
     QVERIFY(QDir().mkdir(path(u"folder"_s)));
     QVERIFY(makeLink(path(u"target"_s), path(u"to file"_s)));
     QVERIFY(makeLink(path(u"folder"_s), path(u"to folder"_s)));
@@ -215,7 +216,7 @@ void tst_FilesLinux::openOfALinkIsRefused()
         QCOMPARE(files().open(path(u"to file"_s), mode).code(), quint32(CannotAccessFile));
         QCOMPARE(files().open(path(u"to folder"_s), mode).code(), quint32(CannotAccessFile));
     }
-    QCOMPARE(contentsOf(path(u"target"_s)), QByteArray("abc"));
+    QCOMPARE(contentOf(path(u"target"_s)), QByteArray("abc"));
 }
 
 void tst_FilesLinux::openOfADanglingLinkCreatesNothing()
@@ -229,25 +230,25 @@ void tst_FilesLinux::openOfADanglingLinkCreatesNothing()
 void tst_FilesLinux::slashAfterALinkDoesNotFollowIt()
 {
     QVERIFY(QDir().mkdir(path(u"folder"_s)));
-    QVERIFY(makeFile(path(u"folder/file"_s), "abc"));
+    writeFile(path(u"folder/file"_s), "abc");
     QVERIFY(makeLink(path(u"folder"_s), path(u"link"_s)));
     QCOMPARE(files().info(path(u"link/"_s)).value().kind, FileKind::Link);
     QVERIFY(files().rename(path(u"link/"_s), path(u"other/"_s)).ok());
     QVERIFY(files().remove(path(u"other//"_s)).ok());
-    QCOMPARE(contentsOf(path(u"folder/file"_s)), QByteArray("abc"));
+    QCOMPARE(contentOf(path(u"folder/file"_s)), QByteArray("abc"));
 }
 
 void tst_FilesLinux::linksOnTheWayAreFollowed()
 {
     QVERIFY(QDir().mkdir(path(u"folder"_s)));
-    QVERIFY(makeFile(path(u"folder/file"_s), "abc"));
+    writeFile(path(u"folder/file"_s), "abc");
     QVERIFY(makeLink(path(u"folder"_s), path(u"link"_s)));
     {
         auto file = files().open(path(u"link/file"_s), OpenMode::Overwrite);
         QVERIFY(file.ok());
         QCOMPARE(file.value()->write("xyz", 3).valueOr(-1), 3);
     }
-    QCOMPARE(contentsOf(path(u"folder/file"_s)), QByteArray("xyz"));
+    QCOMPARE(contentOf(path(u"folder/file"_s)), QByteArray("xyz"));
     QVERIFY(files().remove(path(u"link/file"_s)).ok());
     QVERIFY(QDir(path(u"folder"_s)).isEmpty());
 }
@@ -256,8 +257,8 @@ void tst_FilesLinux::linksOnTheWayAreFollowed()
 void tst_FilesLinux::openNeverFollowsALinkThatIsSwappedIn()
 {
     const QByteArray precious(512, 'p');
-    QVERIFY(makeFile(path(u"precious"_s), precious));
-    QVERIFY(makeFile(path(u"victim"_s), QByteArray(512, 'a')));
+    writeFile(path(u"precious"_s), precious);
+    writeFile(path(u"victim"_s), QByteArray(512, 'a'));
     std::atomic<bool> ended{false};
     std::atomic<bool> swapping{true};
     std::thread swapper([&] {
@@ -288,12 +289,12 @@ void tst_FilesLinux::openNeverFollowsALinkThatIsSwappedIn()
     QVERIFY(swapping);
     QVERIFY(opened > 0);
     QVERIFY(refused > 0);
-    QCOMPARE(contentsOf(path(u"precious"_s)), precious);
+    QCOMPARE(contentOf(path(u"precious"_s)), precious);
 }
 
 void tst_FilesLinux::removeOfALinkKeepsItsTarget()
 {
-    QVERIFY(makeFile(path(u"target"_s), "abc"));
+    writeFile(path(u"target"_s), "abc");
     QVERIFY(QDir().mkdir(path(u"folder"_s)));
     QVERIFY(makeLink(path(u"target"_s), path(u"to file"_s)));
     QVERIFY(makeLink(path(u"folder"_s), path(u"to folder"_s)));
@@ -302,27 +303,27 @@ void tst_FilesLinux::removeOfALinkKeepsItsTarget()
         QVERIFY(files().remove(path(name)).ok());
         QCOMPARE(files().info(path(name)).code(), quint32(FileNotFound));
     }
-    QCOMPARE(contentsOf(path(u"target"_s)), QByteArray("abc"));
+    QCOMPARE(contentOf(path(u"target"_s)), QByteArray("abc"));
     QVERIFY(QFileInfo(path(u"folder"_s)).isDir());
 }
 
 void tst_FilesLinux::renameOfALinkKeepsItsTarget()
 {
-    QVERIFY(makeFile(path(u"target"_s), "abc"));
+    writeFile(path(u"target"_s), "abc");
     QVERIFY(makeLink(path(u"target"_s), path(u"link"_s)));
     QVERIFY(files().rename(path(u"link"_s), path(u"other"_s)).ok());
     QCOMPARE(files().info(path(u"other"_s)).value().kind, FileKind::Link);
-    QCOMPARE(contentsOf(path(u"target"_s)), QByteArray("abc"));
+    QCOMPARE(contentOf(path(u"target"_s)), QByteArray("abc"));
 }
 
 void tst_FilesLinux::renameOverALinkKeepsItsTarget()
 {
-    QVERIFY(makeFile(path(u"target"_s), "abc"));
-    QVERIFY(makeFile(path(u"file"_s), "xyz"));
+    writeFile(path(u"target"_s), "abc");
+    writeFile(path(u"file"_s), "xyz");
     QVERIFY(makeLink(path(u"target"_s), path(u"link"_s)));
     QVERIFY(files().rename(path(u"file"_s), path(u"link"_s)).ok());
     QCOMPARE(files().info(path(u"link"_s)).value().kind, FileKind::Regular);
-    QCOMPARE(contentsOf(path(u"target"_s)), QByteArray("abc"));
+    QCOMPARE(contentOf(path(u"target"_s)), QByteArray("abc"));
 }
 
 void tst_FilesLinux::specialFilesAreRefused_data()
@@ -407,7 +408,7 @@ void tst_FilesLinux::namesThatAreNoText()
         QCOMPARE(file.value()->write("xyz", 3).valueOr(-1), 3);
     }
     QVERIFY(files().rename(decoded, path(u"plain"_s)).ok());
-    QCOMPARE(contentsOf(path(u"plain"_s)), QByteArray("xyz"));
+    QCOMPARE(contentOf(path(u"plain"_s)), QByteArray("xyz"));
     QVERIFY(files().rename(path(u"plain"_s), decoded).ok());
     struct stat found = {};
     QCOMPARE(::lstat(bytes.constData(), &found), 0);
@@ -437,17 +438,17 @@ void tst_FilesLinux::namesDifferInEveryByte()
 void tst_FilesLinux::backslashIsPartOfAName()
 {
     QVERIFY(QDir().mkdir(path(u"a"_s)));
-    QVERIFY(makeFile(path(u"a/b"_s), "below"));
-    QVERIFY(makeFile(path(u"a\\b"_s), "beside"));
+    writeFile(path(u"a/b"_s), "below");
+    writeFile(path(u"a\\b"_s), "beside");
     QCOMPARE(files().info(path(u"a\\b"_s)).value().size, 6);
     QVERIFY(files().remove(path(u"a\\b"_s)).ok());
-    QCOMPARE(contentsOf(path(u"a/b"_s)), QByteArray("below"));
+    QCOMPARE(contentOf(path(u"a/b"_s)), QByteArray("below"));
 }
 
 void tst_FilesLinux::longestName()
 {
     const QString name = path(QString(255, u'n'));
-    QVERIFY(makeFile(name, "abc"));
+    writeFile(name, "abc");
     QVERIFY(files().open(name, OpenMode::Overwrite).ok());
     QVERIFY(files().rename(name, path(u"short"_s)).ok());
     QVERIFY(files().rename(path(u"short"_s), name).ok());

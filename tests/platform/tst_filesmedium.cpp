@@ -1,6 +1,9 @@
-#include "platform/filecontents.h"
+#include "platform/fileflags.h"
 #include "platform/places.h"
+#include "support/bytes.h"
+#include "support/loopmount.h"
 #include "support/suite.h"
+#include "support/testfiles.h"
 
 #include "platform/alignedbuffer.h"
 #include "platform/filenames.h"
@@ -8,7 +11,11 @@
 #include "platform/linux/filedescriptor.h"
 #include "platform/linux/linuxfilehandle.h"
 
+#include <QCoreApplication>
+#include <QFile>
 #include <QFileInfo>
+#include <QTemporaryDir>
+#include <QTest>
 
 #include <fcntl.h>
 #include <linux/fiemap.h>
@@ -82,14 +89,6 @@ int cachedPages(const QString &path)
         std::count_if(resident.begin(), resident.end(), [](unsigned char r) { return r & 1; }));
 }
 
-// On the medium, so that its pages are clean and can be dropped.
-bool makeSettledFile(const QString &path, const QByteArray &contents)
-{
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(contents) == contents.size() && file.flush() &&
-           ::fsync(file.handle()) == 0;
-}
-
 OpenedFile opened(const QString &path, int flags)
 {
     OpenedFile file;
@@ -101,18 +100,8 @@ OpenedFile opened(const QString &path, int flags)
 qint64 flushesOf(const QString &device)
 {
     const QString name = QFileInfo(device).fileName();
-    const QList<QByteArray> counts = contentsOf(u"/sys/block/%1/stat"_s.arg(name)).simplified().split(' ');
+    const QList<QByteArray> counts = contentOf(u"/sys/block/%1/stat"_s.arg(name)).simplified().split(' ');
     return counts.size() > 15 ? counts[15].toLongLong() : -1;
-}
-
-bool setImmutable(const QString &path, bool immutable)
-{
-    const FileDescriptor file(::open(encodeName(path).constData(), O_RDONLY | O_CLOEXEC));
-    int flags = 0;
-    if (!file.isValid() || ::ioctl(file.get(), FS_IOC_GETFLAGS, &flags) != 0)
-        return false;
-    flags = immutable ? flags | FS_IMMUTABLE_FL : flags & ~FS_IMMUTABLE_FL;
-    return ::ioctl(file.get(), FS_IOC_SETFLAGS, &flags) == 0;
 }
 
 } // namespace
@@ -153,7 +142,7 @@ void tst_FilesMedium::overwriteKeepsTheBlocks()
 {
     const QString name = path(u"file"_s);
     const qint64 length = 3 * MiB + 700;
-    QVERIFY(makeSettledFile(name, QByteArray(length, 'a')));
+    writeThrough(name, QByteArray(length, 'a'));
     const QList<Stretch> before = stretchesOf(name);
     QVERIFY(!before.isEmpty());
     auto file = files().open(name, OpenMode::Overwrite);
@@ -167,7 +156,7 @@ void tst_FilesMedium::overwrittenBytesLeaveTheImage()
 {
     const QByteArray marker = "the bytes that must not stay " + QByteArray(5, '\x7F');
     const QString name = path(u"file"_s);
-    QVERIFY(makeSettledFile(name, marker.repeated(9000) + "odd"));
+    writeThrough(name, marker.repeated(9000) + "odd");
     QCOMPARE(m_places.loop()->countInImage(marker), 9000);
     const qint64 length = QFileInfo(name).size();
     auto file = files().open(name, OpenMode::Overwrite);
@@ -181,7 +170,7 @@ void tst_FilesMedium::overwrittenBytesLeaveTheImage()
 void tst_FilesMedium::writtenBytesAreOnTheMediumAtOnce()
 {
     const QString name = path(u"file"_s);
-    QVERIFY(makeSettledFile(name, QByteArray(10000, 'a')));
+    writeThrough(name, QByteArray(10000, 'a'));
     const QList<Stretch> stretches = stretchesOf(name);
     QCOMPARE(stretches.size(), 1);
     auto file = files().open(name, OpenMode::Overwrite);
@@ -201,7 +190,7 @@ void tst_FilesMedium::everyWriteHasTheDeviceFlushed()
 {
     QFETCH(qint64, size);
     const QString name = path(u"file"_s);
-    QVERIFY(makeSettledFile(name, QByteArray(size, 'a')));
+    writeThrough(name, QByteArray(size, 'a'));
     const QList<Stretch> stretches = stretchesOf(name);
     auto file = files().open(name, OpenMode::Overwrite);
     QVERIFY(file.ok());
@@ -246,7 +235,7 @@ void tst_FilesMedium::smallWritesFlushTheDeviceOnce()
     const QString device = m_places.loop()->device();
     for (const qint64 size : {16384, 5000}) {
         const QString name = path(u"file%1"_s.arg(size));
-        QVERIFY(makeSettledFile(name, QByteArray(size, 'a')));
+        writeThrough(name, QByteArray(size, 'a'));
         auto file = files().open(name, OpenMode::Overwrite);
         QVERIFY(file.ok());
         // The fewest of several, since the file system writes its journal every few seconds.
@@ -275,14 +264,14 @@ void tst_FilesMedium::readDoesNotComeFromTheCache()
     QFETCH(OpenMode, mode);
     const QString name = path(u"file"_s);
     const qint64 length = 16 * Page;
-    QVERIFY(makeSettledFile(name, QByteArray(length, 'a')));
-    QCOMPARE(contentsOf(name), QByteArray(length, 'a'));
+    writeThrough(name, QByteArray(length, 'a'));
+    QCOMPARE(contentOf(name), QByteArray(length, 'a'));
     const QList<Stretch> stretches = stretchesOf(name);
     QCOMPARE(stretches.size(), 1);
     auto file = files().open(name, mode);
     QVERIFY(file.ok());
     QVERIFY(m_places.loop()->writeImage(qint64(stretches[0].physical), QByteArray(length, 'm')));
-    QCOMPARE(contentsOf(name), QByteArray(length, 'a')); // an ordinary read is none the wiser
+    QCOMPARE(contentOf(name), QByteArray(length, 'a')); // an ordinary read is none the wiser
 
     QByteArray sample(1024, '\0');
     for (const qint64 offset : {qint64(0), 3 * Page, 3 * Page + 77, length - 1024}) {
@@ -301,12 +290,12 @@ void tst_FilesMedium::readWithoutDirectTransfersDoesNotComeFromTheCache()
 {
     const QString name = path(u"file"_s);
     const qint64 length = 16 * Page;
-    QVERIFY(makeSettledFile(name, QByteArray(length, 'a')));
+    writeThrough(name, QByteArray(length, 'a'));
     const QList<Stretch> stretches = stretchesOf(name);
     QCOMPARE(stretches.size(), 1);
     LinuxFileHandle file(opened(name, O_RDONLY));
     for (const char byte : {'m', 'n'}) {
-        QCOMPARE(contentsOf(name).size(), length); // in the cache, whole
+        QCOMPARE(contentOf(name).size(), length); // in the cache, whole
         QVERIFY(m_places.loop()->writeImage(qint64(stretches[0].physical), QByteArray(length, byte)));
         for (const qint64 offset : {qint64(0), 3 * Page + 77, length - 1024}) {
             QByteArray sample(1024, '\0');
@@ -321,7 +310,7 @@ void tst_FilesMedium::readWithoutDirectTransfersDoesNotComeFromTheCache()
 void tst_FilesMedium::readWithoutDirectTransfersSeesWhatWasJustWritten()
 {
     const QString name = path(u"file"_s);
-    QVERIFY(makeSettledFile(name, QByteArray(3 * Page, 'a')));
+    writeThrough(name, QByteArray(3 * Page, 'a'));
     const QList<Stretch> stretches = stretchesOf(name);
     LinuxFileHandle file(opened(name, O_RDWR));
     for (const char byte : {'y', 'z'}) {
@@ -340,8 +329,8 @@ void tst_FilesMedium::verifyLeavesNothingInTheCache()
 {
     const QString name = path(u"file"_s);
     const qint64 length = 64 * Page + 100;
-    QVERIFY(makeSettledFile(name, QByteArray(length, 'a')));
-    QCOMPARE(contentsOf(name).size(), length);
+    writeThrough(name, QByteArray(length, 'a'));
+    QCOMPARE(contentOf(name).size(), length);
     QVERIFY(cachedPages(name) >= 64); // the control; a last page that is not full may count as absent
     auto file = files().open(name, OpenMode::Verify);
     QVERIFY(file.ok());
@@ -354,7 +343,7 @@ void tst_FilesMedium::verifyLeavesNothingInTheCache()
 void tst_FilesMedium::refusedFirstTransferGoesThroughTheCache()
 {
     const QString name = path(u"file"_s);
-    QVERIFY(makeSettledFile(name, QByteArray(5000, 'a')));
+    writeThrough(name, QByteArray(5000, 'a'));
     const auto openedWithWrongUnits = [&] {
         OpenedFile file = opened(name, O_RDWR | O_DIRECT | O_DSYNC);
         file.direct = {true, 1, 8};
@@ -368,7 +357,7 @@ void tst_FilesMedium::refusedFirstTransferGoesThroughTheCache()
         QCOMPARE(file.write(QByteArray(808, 'z').constData(), 808).valueOr(-1), 808);
         std::memset(expected.data() + 8, 'z', 808);
     }
-    QCOMPARE(contentsOf(name), expected);
+    QCOMPARE(contentOf(name), expected);
     LinuxFileHandle file(openedWithWrongUnits());
     QByteArray found(5000, '\0');
     QVERIFY(file.seek(8).ok());
@@ -382,7 +371,7 @@ void tst_FilesMedium::unreadableBlocksAnswerIoDevice()
     LoopMount volume(folder.path(), {.fileSystem = LoopMount::Ext4});
     QVERIFY2(volume.isReady(), qPrintable(volume.error()));
     const QString name = volume.mountPoint() + u"/file"_s;
-    QVERIFY(makeSettledFile(name, QByteArray(10 * Page, 'a')));
+    writeThrough(name, QByteArray(10 * Page, 'a'));
     const QList<Stretch> stretches = stretchesOf(name);
     QVERIFY(!stretches.isEmpty());
     auto file = files().open(name, OpenMode::Verify);
@@ -399,7 +388,7 @@ void tst_FilesMedium::unreadableBlocksAnswerIoDevice()
 void tst_FilesMedium::readOnlyVolume()
 {
     const QString name = path(u"file"_s);
-    QVERIFY(makeSettledFile(name, "abc"));
+    writeThrough(name, "abc");
     QVERIFY(m_places.loop()->remount(u"ro"_s));
     const auto restore = qScopeGuard([this] { m_places.loop()->remount(u"rw"_s); });
     QCOMPARE(files().open(name, OpenMode::Overwrite).code(), quint32(WriteProtect));
@@ -408,20 +397,20 @@ void tst_FilesMedium::readOnlyVolume()
     QCOMPARE(files().rename(name, path(u"new"_s)).code, quint32(WriteProtect));
     QCOMPARE(files().remove(name).code, quint32(WriteProtect));
     QVERIFY(files().open(name, OpenMode::Verify).ok());
-    QCOMPARE(contentsOf(name), QByteArray("abc"));
+    QCOMPARE(contentOf(name), QByteArray("abc"));
 }
 
 void tst_FilesMedium::immutableFile()
 {
     const QString name = path(u"file"_s);
-    QVERIFY(makeSettledFile(name, "abc"));
+    writeThrough(name, "abc");
     QVERIFY(setImmutable(name, true));
     const auto restore = qScopeGuard([&] { setImmutable(name, false); });
     QCOMPARE(files().open(name, OpenMode::Overwrite).code(), quint32(AccessDenied));
     QCOMPARE(files().rename(name, path(u"new"_s)).code, quint32(AccessDenied));
     QCOMPARE(files().remove(name).code, quint32(AccessDenied));
     QCOMPARE(::chmod(encodeName(name).constData(), 0400), -1);
-    QCOMPARE(contentsOf(name), QByteArray("abc"));
+    QCOMPARE(contentOf(name), QByteArray("abc"));
 }
 
 void tst_FilesMedium::fullVolumeEndsAWriteWithTheCountThatFitted()

@@ -1,12 +1,18 @@
-#include "platform/filecontents.h"
 #include "platform/places.h"
 #include "support/suite.h"
+#include "support/testfiles.h"
 
 #include "platform/folders.h"
 
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QMap>
 #include <QString>
+#include <QTest>
+
+#include <filesystem>
 
 using namespace platform;
 using namespace Qt::StringLiterals;
@@ -87,7 +93,7 @@ void tst_Folders::listingSeesEveryEntryOnce()
     names.append(u"..."_s); // Windows takes dots away from the end of names
 #endif
     for (const QString &name : names)
-        QVERIFY(makeFile(path(name), "abc"));
+        writeFile(path(name), "abc");
     QStringList expected = names;
     expected.sort();
     QCOMPARE(QStringList(listed(m_folder).keys()), expected);
@@ -95,7 +101,7 @@ void tst_Folders::listingSeesEveryEntryOnce()
 
 void tst_Folders::listingNamesTheKinds()
 {
-    QVERIFY(makeFile(path(u"file"_s), "abc"));
+    writeFile(path(u"file"_s), "abc");
     QVERIFY(QDir().mkdir(path(u"folder"_s)));
     const QMap<QString, FileKind> expected{{u"file"_s, FileKind::Regular}, {u"folder"_s, FileKind::Folder}};
     QCOMPARE(listed(m_folder), expected);
@@ -110,14 +116,14 @@ void tst_Folders::listingOfAnEmptyFolder()
 void tst_Folders::listingOfManyEntries()
 {
     for (int i = 0; i < 3000; ++i)
-        QVERIFY(makeFile(path(u"a somewhat longer name, so that one read does not do %1"_s.arg(i)), {}));
+        writeFile(path(u"a somewhat longer name, so that one read does not do %1"_s.arg(i)), {});
     QCOMPARE(listed(m_folder).size(), 3000);
 }
 
 void tst_Folders::visitorEndsTheListing()
 {
     for (int i = 0; i < 5; ++i)
-        QVERIFY(makeFile(path(QString::number(i)), {}));
+        writeFile(path(QString::number(i)), {});
     int calls = 0;
     const Status status =
         folders().forEachEntry(m_folder, [&](const QString &, FileKind) { return ++calls < 3; });
@@ -128,7 +134,7 @@ void tst_Folders::visitorEndsTheListing()
 void tst_Folders::visitorMayRemoveWhatItSees()
 {
     for (int i = 0; i < 500; ++i)
-        QVERIFY(makeFile(path(QString::number(i)), {}));
+        writeFile(path(QString::number(i)), {});
     QStringList seen;
     const Status status = folders().forEachEntry(m_folder, [&](const QString &name, FileKind) {
         seen.append(name);
@@ -168,7 +174,7 @@ void tst_Folders::listingOfNothing()
 
 void tst_Folders::listingOfAFileIsRefused()
 {
-    QVERIFY(makeFile(path(u"file"_s), "abc"));
+    writeFile(path(u"file"_s), "abc");
     QVERIFY(!folders().forEachEntry(path(u"file"_s), [](const QString &, FileKind) { return true; }).ok());
 }
 
@@ -184,26 +190,26 @@ void tst_Folders::createWithMissingParents()
 
 void tst_Folders::createOfWhatExists()
 {
-    QVERIFY(makeFile(path(u"file"_s), "abc"));
+    writeFile(path(u"file"_s), "abc");
     QVERIFY(folders().create(m_folder).ok());
     QVERIFY(folders().create(m_folder + u'/').ok());
     QVERIFY(folders().create(QDir::rootPath()).ok());
-    QCOMPARE(contentsOf(path(u"file"_s)), QByteArray("abc"));
+    QCOMPARE(contentOf(path(u"file"_s)), QByteArray("abc"));
 }
 
 void tst_Folders::createOverAFileIsRefused()
 {
-    QVERIFY(makeFile(path(u"file"_s), "abc"));
+    writeFile(path(u"file"_s), "abc");
     QCOMPARE(folders().create(path(u"file"_s)).code, quint32(AlreadyExists));
-    QCOMPARE(contentsOf(path(u"file"_s)), QByteArray("abc"));
+    QCOMPARE(contentOf(path(u"file"_s)), QByteArray("abc"));
 }
 
 void tst_Folders::createBelowAFileIsRefused()
 {
-    QVERIFY(makeFile(path(u"file"_s), "abc"));
+    writeFile(path(u"file"_s), "abc");
     QCOMPARE(folders().create(path(u"file/folder"_s)).code, quint32(PathNotFound));
     QCOMPARE(folders().create(path(u"file/folder/folder"_s)).code, quint32(PathNotFound));
-    QCOMPARE(contentsOf(path(u"file"_s)), QByteArray("abc"));
+    QCOMPARE(contentOf(path(u"file"_s)), QByteArray("abc"));
 }
 
 void tst_Folders::removeEmptyRemoves()
@@ -219,14 +225,14 @@ void tst_Folders::removeEmptyKeepsAFullFolder()
     QVERIFY(QDir().mkpath(path(u"a/b"_s)));
     QCOMPARE(folders().removeEmpty(path(u"a"_s)).code, quint32(DirectoryNotEmpty));
     QVERIFY(QFileInfo(path(u"a/b"_s)).isDir());
-    QVERIFY(makeFile(path(u"a/b/.hidden"_s), {}));
+    writeFile(path(u"a/b/.hidden"_s), {});
     QCOMPARE(folders().removeEmpty(path(u"a/b"_s)).code, quint32(DirectoryNotEmpty));
     QVERIFY(QFileInfo::exists(path(u"a/b/.hidden"_s)));
 }
 
 void tst_Folders::removeEmptyOfAFileIsRefused()
 {
-    QVERIFY(makeFile(path(u"file"_s), {}));
+    writeFile(path(u"file"_s), {});
     QVERIFY(!folders().removeEmpty(path(u"file"_s)).ok());
     QVERIFY(QFileInfo::exists(path(u"file"_s)));
 }
@@ -243,9 +249,9 @@ void tst_Folders::removeTreeRemovesEverything()
     QVERIFY(QDir().mkpath(path(u"tree/.e/文件夹"_s)));
     for (const QString &name :
          {u"tree/file"_s, u"tree/.hidden"_s, u"tree/a/b/c/文件"_s, u"tree/.e/文件夹/x"_s})
-        QVERIFY(makeFile(path(name), "abc"));
+        writeFile(path(name), "abc");
     QVERIFY(QFile::setPermissions(path(u"tree/file"_s), QFileDevice::ReadOwner));
-    QVERIFY(makeFile(path(u"beside"_s), "abc"));
+    writeFile(path(u"beside"_s), "abc");
     const Status status = folders().removeTree(path(u"tree"_s));
     QVERIFY2(status.ok(), qPrintable(status.diagnostic()));
     QCOMPARE(listed(m_folder).keys(), QStringList{u"beside"_s});
@@ -255,7 +261,7 @@ void tst_Folders::removeTreeOfManyEntries()
 {
     QVERIFY(QDir().mkdir(path(u"mft_clean"_s)));
     for (int i = 0; i < 3000; ++i)
-        QVERIFY(makeFile(path(u"mft_clean/%1.tmp"_s.arg(i)), QByteArray(i % 3, 'x')));
+        writeFile(path(u"mft_clean/%1.tmp"_s.arg(i)), QByteArray(i % 3, 'x'));
     QVERIFY(folders().removeTree(path(u"mft_clean"_s)).ok());
     QVERIFY(isEmptyFolder(m_folder));
 }
@@ -292,9 +298,9 @@ void tst_Folders::removeTreeOfAnEmptyFolder()
 
 void tst_Folders::removeTreeOfAFileIsRefused()
 {
-    QVERIFY(makeFile(path(u"file"_s), "abc"));
+    writeFile(path(u"file"_s), "abc");
     QVERIFY(!folders().removeTree(path(u"file"_s)).ok());
-    QCOMPARE(contentsOf(path(u"file"_s)), QByteArray("abc"));
+    QCOMPARE(contentOf(path(u"file"_s)), QByteArray("abc"));
 }
 
 void tst_Folders::removeTreeOfNothing()
@@ -306,12 +312,12 @@ void tst_Folders::removeTreeOfNothing()
 void tst_Folders::hideOfAnEntry()
 {
     QVERIFY(QDir().mkdir(path(u".folder"_s)));
-    QVERIFY(makeFile(path(u".file"_s), "abc"));
+    writeFile(path(u".file"_s), "abc");
     for (const QString &name : {u".folder"_s, u".file"_s}) {
         QVERIFY(folders().hide(path(name)).ok());
         QVERIFY(QFileInfo(path(name)).isHidden());
     }
-    QCOMPARE(contentsOf(path(u".file"_s)), QByteArray("abc"));
+    QCOMPARE(contentOf(path(u".file"_s)), QByteArray("abc"));
 }
 
 void tst_Folders::hideOfNothing()
@@ -321,7 +327,7 @@ void tst_Folders::hideOfNothing()
 
 void tst_Folders::spaceOfTheVolume()
 {
-    QVERIFY(makeFile(path(u"file"_s), "abc"));
+    writeFile(path(u"file"_s), "abc");
     const std::uintmax_t total = std::filesystem::space(nativePath(m_folder)).capacity;
     for (const QString &name : {m_folder, m_folder + u'/', path(u"file"_s)}) {
         const Result<SpaceInfo> space = folders().space(name);

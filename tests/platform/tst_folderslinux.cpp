@@ -1,17 +1,21 @@
-#include "platform/filecontents.h"
+#include "platform/fileflags.h"
 #include "platform/places.h"
+#include "support/links.h"
 #include "support/suite.h"
+#include "support/testfiles.h"
 
 #include "platform/filenames.h"
 #include "platform/folders.h"
 #include "platform/linux/filedescriptor.h"
 
+#include <QCoreApplication>
+#include <QDir>
 #include <QFileInfo>
 #include <QMap>
+#include <QTest>
 
 #include <fcntl.h>
-#include <linux/fs.h>
-#include <sys/ioctl.h>
+#include <sys/mount.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/statvfs.h>
@@ -31,25 +35,10 @@ Folders &folders()
     return backend().folders();
 }
 
-bool makeLink(const QString &target, const QString &link)
-{
-    return ::symlink(encodeName(target).constData(), encodeName(link).constData()) == 0;
-}
-
 bool exists(const QString &path)
 {
     struct stat found = {};
     return ::lstat(encodeName(path).constData(), &found) == 0;
-}
-
-bool setImmutable(const QString &path, bool immutable)
-{
-    const FileDescriptor file(::open(encodeName(path).constData(), O_RDONLY | O_CLOEXEC));
-    int flags = 0;
-    if (!file.isValid() || ::ioctl(file.get(), FS_IOC_GETFLAGS, &flags) != 0)
-        return false;
-    flags = immutable ? flags | FS_IMMUTABLE_FL : flags & ~FS_IMMUTABLE_FL;
-    return ::ioctl(file.get(), FS_IOC_SETFLAGS, &flags) == 0;
 }
 
 // Folders in folders, with a file in every hundredth; deeper than any path could name.
@@ -129,7 +118,7 @@ private slots:
 
 void tst_FoldersLinux::listingNamesEveryKind()
 {
-    QVERIFY(makeFile(path(u"file"_s), "abc"));
+    writeFile(path(u"file"_s), "abc");
     QVERIFY(QDir().mkdir(path(u"folder"_s)));
     QVERIFY(makeLink(path(u"folder"_s), path(u"link to folder"_s)));
     QVERIFY(makeLink(path(u"none"_s), path(u"link to nothing"_s)));
@@ -227,7 +216,7 @@ void tst_FoldersLinux::removeEmptyOfALinkIsRefused()
 void tst_FoldersLinux::removeTreeKeepsWhatLinksLeadTo()
 {
     QVERIFY(QDir().mkpath(path(u"outside/folder"_s)));
-    QVERIFY(makeFile(path(u"outside/file"_s), "abc"));
+    writeFile(path(u"outside/file"_s), "abc");
     QVERIFY(QDir().mkpath(path(u"tree/a"_s)));
     QVERIFY(makeLink(path(u"outside"_s), path(u"tree/to folder"_s)));
     QVERIFY(makeLink(u"../../outside"_s, path(u"tree/a/relative"_s)));
@@ -236,19 +225,19 @@ void tst_FoldersLinux::removeTreeKeepsWhatLinksLeadTo()
     QVERIFY(makeLink(u"."_s, path(u"tree/a/round"_s)));
     QVERIFY(folders().removeTree(path(u"tree"_s)).ok());
     QVERIFY(!exists(path(u"tree"_s)));
-    QCOMPARE(contentsOf(path(u"outside/file"_s)), QByteArray("abc"));
+    QCOMPARE(contentOf(path(u"outside/file"_s)), QByteArray("abc"));
     QVERIFY(exists(path(u"outside/folder"_s)));
 }
 
 void tst_FoldersLinux::removeTreeOfALinkIsRefused()
 {
     QVERIFY(QDir().mkdir(path(u"folder"_s)));
-    QVERIFY(makeFile(path(u"folder/file"_s), "abc"));
+    writeFile(path(u"folder/file"_s), "abc");
     QVERIFY(makeLink(path(u"folder"_s), path(u"link"_s)));
     QVERIFY(!folders().removeTree(path(u"link"_s)).ok());
     QVERIFY(!folders().removeTree(path(u"link/"_s)).ok());
     QVERIFY(exists(path(u"link"_s)));
-    QCOMPARE(contentsOf(path(u"folder/file"_s)), QByteArray("abc"));
+    QCOMPARE(contentOf(path(u"folder/file"_s)), QByteArray("abc"));
 }
 
 void tst_FoldersLinux::removeTreeOfEveryKind()
@@ -261,7 +250,7 @@ void tst_FoldersLinux::removeTreeOfEveryKind()
                  0);
     else
         qInfo("without a device node, which only root makes");
-    QVERIFY(makeFile(path(u"tree/file"_s), "abc"));
+    writeFile(path(u"tree/file"_s), "abc");
     QVERIFY(folders().removeTree(path(u"tree"_s)).ok());
     QVERIFY(!exists(path(u"tree"_s)));
 }
@@ -305,10 +294,10 @@ void tst_FoldersLinux::removeTreeClosesItsDescriptors()
 void tst_FoldersLinux::removeTreeRefusesNamesThatAreNone()
 {
     QVERIFY(QDir().mkpath(path(u"a/b"_s)));
-    QVERIFY(makeFile(path(u"a/file"_s), "abc"));
+    writeFile(path(u"a/file"_s), "abc");
     for (const QString &name : {u"a/."_s, u"a/b/.."_s, u"a/b/../"_s})
         QCOMPARE(folders().removeTree(path(name)).code, quint32(InvalidParameter));
-    QCOMPARE(contentsOf(path(u"a/file"_s)), QByteArray("abc"));
+    QCOMPARE(contentOf(path(u"a/file"_s)), QByteArray("abc"));
     QVERIFY(exists(path(u"a/b"_s)));
 }
 
@@ -321,7 +310,7 @@ void tst_FoldersLinux::removeTreeGoesOnPastWhatCannotBeRemoved()
     QVERIFY(QDir().mkpath(path(u"tree/e"_s)));
     for (const QString &name :
          {u"tree/a/1"_s, u"tree/c/stays"_s, u"tree/c/2"_s, u"tree/c/d/3"_s, u"tree/e/4"_s})
-        QVERIFY(makeFile(path(name), "abc"));
+        writeFile(path(name), "abc");
     if (!setImmutable(path(u"tree/c/stays"_s), true))
         QSKIP("SKIPPED: this file system has no immutable files");
     const Status status = folders().removeTree(path(u"tree"_s));
@@ -339,15 +328,15 @@ void tst_FoldersLinux::removeTreeStaysOutOfAMountedVolume()
     if (::geteuid() != 0)
         QSKIP("SKIPPED: only root mounts");
     QVERIFY(QDir().mkpath(path(u"tree/a/mounted"_s)));
-    QVERIFY(makeFile(path(u"tree/a/file"_s), "abc"));
-    QVERIFY(makeFile(path(u"tree/z"_s), "abc"));
+    writeFile(path(u"tree/a/file"_s), "abc");
+    writeFile(path(u"tree/z"_s), "abc");
     {
         const PlainMount mount("tmpfs", u"inside"_s, path(u"tree/a/mounted"_s));
         QVERIFY(mount.isMounted());
         QVERIFY(QDir().mkdir(path(u"tree/a/mounted/folder"_s)));
-        QVERIFY(makeFile(path(u"tree/a/mounted/file"_s), "abc"));
+        writeFile(path(u"tree/a/mounted/file"_s), "abc");
         QCOMPARE(folders().removeTree(path(u"tree"_s)).code, quint32(SharingViolation));
-        QCOMPARE(contentsOf(path(u"tree/a/mounted/file"_s)), QByteArray("abc"));
+        QCOMPARE(contentOf(path(u"tree/a/mounted/file"_s)), QByteArray("abc"));
         QVERIFY(exists(path(u"tree/a/mounted/folder"_s)));
         QVERIFY(!exists(path(u"tree/a/file"_s)));
         QVERIFY(!exists(path(u"tree/z"_s)));
@@ -362,15 +351,15 @@ void tst_FoldersLinux::removeTreeStaysOutOfAFolderMountedFromElsewhere()
         QSKIP("SKIPPED: only root mounts");
     QVERIFY(QDir().mkpath(path(u"tree/mounted"_s)));
     QVERIFY(QDir().mkdir(path(u"elsewhere"_s)));
-    QVERIFY(makeFile(path(u"elsewhere/file"_s), "abc"));
+    writeFile(path(u"elsewhere/file"_s), "abc");
     {
         const PlainMount mount("", path(u"elsewhere"_s), path(u"tree/mounted"_s), MS_BIND);
         QVERIFY(mount.isMounted());
         QCOMPARE(folders().removeTree(path(u"tree"_s)).code, quint32(SharingViolation));
-        QCOMPARE(contentsOf(path(u"elsewhere/file"_s)), QByteArray("abc"));
+        QCOMPARE(contentOf(path(u"elsewhere/file"_s)), QByteArray("abc"));
     }
     QVERIFY(folders().removeTree(path(u"tree"_s)).ok());
-    QCOMPARE(contentsOf(path(u"elsewhere/file"_s)), QByteArray("abc"));
+    QCOMPARE(contentOf(path(u"elsewhere/file"_s)), QByteArray("abc"));
 }
 
 void tst_FoldersLinux::removeTreeOfAMountPointEmptiesIt()
@@ -390,7 +379,7 @@ void tst_FoldersLinux::removeTreeOfAMountPointEmptiesIt()
 void tst_FoldersLinux::removeTreeNeverFollowsALinkThatIsSwappedIn()
 {
     QVERIFY(QDir().mkpath(path(u"precious/folder"_s)));
-    QVERIFY(makeFile(path(u"precious/file"_s), "abc"));
+    writeFile(path(u"precious/file"_s), "abc");
     std::atomic<bool> ended{false};
     std::thread swapper([&] {
         const QByteArray target = encodeName(path(u"precious"_s));
@@ -413,7 +402,7 @@ void tst_FoldersLinux::removeTreeNeverFollowsALinkThatIsSwappedIn()
     ended = true;
     swapper.join();
     QVERIFY(removed > 0);
-    QCOMPARE(contentsOf(path(u"precious/file"_s)), QByteArray("abc"));
+    QCOMPARE(contentOf(path(u"precious/file"_s)), QByteArray("abc"));
     QVERIFY(exists(path(u"precious/folder"_s)));
 }
 

@@ -1,6 +1,7 @@
 #include "platform/linux/linuxsession.h"
 #include "support/suite.h"
 
+#include <QCoreApplication>
 #include <QProcess>
 #include <QTest>
 

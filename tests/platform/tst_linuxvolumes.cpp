@@ -5,7 +5,10 @@
 #include "support/loopmount.h"
 #include "support/suite.h"
 
+#include <QCoreApplication>
+#include <QDir>
 #include <QFile>
+#include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
 

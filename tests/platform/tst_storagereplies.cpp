@@ -1,6 +1,7 @@
 #include "platform/storagereplies.h"
 #include "support/suite.h"
 
+#include <QDebug>
 #include <QRandomGenerator>
 #include <QTest>
 

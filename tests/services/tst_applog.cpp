@@ -2,16 +2,19 @@
 #include "support/suite.h"
 
 #include "support/messagecapture.h"
+#include "support/testfiles.h"
+#include "support/userdata.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QLibrary>
 #include <QMap>
 #include <QProcess>
+#include <QProcessEnvironment>
 #include <QRegularExpression>
-#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -37,16 +40,10 @@ using namespace Qt::StringLiterals;
 namespace {
 const QString timeFormat = u"yyyy-MM-dd HH:mm:ss.zzz"_s;
 
-QByteArray fileBytes(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly | QIODevice::Text) ? file.readAll() : QByteArray("no such file");
-}
-
 // The lines without time, in file order.
 QStringList linesOf(const QString &path)
 {
-    QStringList lines = QString::fromUtf8(fileBytes(path)).split(u'\n');
+    QStringList lines = QString::fromUtf8(textOf(path)).split(u'\n');
     // What follows the last line feed is no line.
     lines.removeLast();
     for (QString &line : lines)
@@ -64,12 +61,6 @@ QFile::Permissions permissionsOf(const QString &path)
     --qt_ntfs_permission_lookup;
 #endif
     return permissions;
-}
-
-void useProgramIdentity()
-{
-    QCoreApplication::setApplicationName(u"Quorvex"_s);
-    QCoreApplication::setOrganizationName(u"Veltrano"_s);
 }
 
 void useHome(QProcessEnvironment &environment, const QString &home)
@@ -103,7 +94,7 @@ QString dataFolder(const QString &home)
 {
 #ifdef Q_OS_WIN
     Q_UNUSED(home)
-    return QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+    return userdata::folder();
 #else
     return home + u"/Veltrano/Quorvex"_s;
 #endif
@@ -112,25 +103,6 @@ QString dataFolder(const QString &home)
 QString defaultLog(const QString &home)
 {
     return dataFolder(home) + u"/quorvex.log"_s;
-}
-
-#ifdef Q_OS_WIN
-void removeDataFolder()
-{
-    const QString folder = dataFolder({});
-    QFile::remove(folder);
-    QDir(folder).removeRecursively();
-}
-#endif
-
-// Whether the data folder is one for tests: the user's own log stays untouched.
-bool isTestFolder(const QString &folder)
-{
-#ifdef Q_OS_WIN
-    return folder.contains(u"/qttest/"_s);
-#else
-    return folder.startsWith(qEnvironmentVariable("XDG_DATA_HOME"));
-#endif
 }
 
 // What Run starts. The exit codes are chosen so that none is that of a crash or of a sanitizer.
@@ -182,9 +154,8 @@ int logThroughAFullVolume(const QStringList &)
 
 int runChild(const QStringList &arguments)
 {
-    useProgramIdentity();
-    const QString folder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
-    if (!isTestFolder(folder))
+    userdata::useProgramIdentity();
+    if (!userdata::isOfTests())
         return WrongFolder;
     const QString what = arguments.value(0);
     const QStringList rest = arguments.mid(1);
@@ -244,8 +215,8 @@ private:
 
 void tst_AppLog::initTestCase()
 {
-    const QString folder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
-    QVERIFY2(isTestFolder(folder), qPrintable(folder));
+    // The user's own log stays untouched.
+    QVERIFY2(userdata::isOfTests(), qPrintable(userdata::folder()));
 }
 
 void tst_AppLog::init()
@@ -254,9 +225,7 @@ void tst_AppLog::init()
     QVERIFY(m_dir->isValid());
     m_path = m_dir->filePath(u"quorvex.log"_s);
     AppLog::instance().setLogFile(m_path);
-#ifdef Q_OS_WIN
-    removeDataFolder(); // of the test before, or of a run before
-#endif
+    userdata::clear();
 }
 
 void tst_AppLog::cleanup()
@@ -313,16 +282,13 @@ void tst_AppLog::withoutAFolderLinesAreStillEchoed()
 {
     // A file where the folder should be refuses everybody, root included.
     const QString folder = dataFolder(m_dir->path());
-    QVERIFY(QDir().mkpath(QFileInfo(folder).path()));
-    QFile file(folder);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.close();
+    writeFile(folder, {});
     Run run(m_dir->path(), {u"end"_s, u"still here"_s});
     QCOMPARE(run.exitCode(), Done);
     const QByteArray output = run.process.readAllStandardError();
     QVERIFY2(output.contains("[INFO] still here"), output.constData());
     QVERIFY(QFileInfo(folder).isFile());
-    QVERIFY(fileBytes(folder).isEmpty());
+    QVERIFY(textOf(folder).isEmpty());
 }
 
 void tst_AppLog::linesOfAnotherProgramAreNotOverwritten()
@@ -388,7 +354,7 @@ void tst_AppLog::aLineHasTimeLevelAndMessage()
     const QDateTime before = QDateTime::currentDateTime();
     AppLog::instance().info(u"Application started"_s);
     const QDateTime after = QDateTime::currentDateTime();
-    const QString text = QString::fromUtf8(fileBytes(m_path));
+    const QString text = QString::fromUtf8(textOf(m_path));
     const QRegularExpression shape(
         u"^\\[(\\d{4}-\\d\\d-\\d\\d \\d\\d:\\d\\d:\\d\\d\\.\\d{3})\\] \\[INFO\\] Application started\\n$"_s);
     const QRegularExpressionMatch match = shape.match(text);
@@ -426,7 +392,7 @@ void tst_AppLog::levelsHaveNamesAndOutputs()
         QVERIFY(capture.messages().isEmpty());
         return;
     }
-    const QString line = QString::fromUtf8(fileBytes(m_path)).chopped(1);
+    const QString line = QString::fromUtf8(textOf(m_path)).chopped(1);
     QCOMPARE(capture.messages(), (QList<MessageCapture::Message>{{output, line}}));
 }
 
@@ -435,7 +401,7 @@ void tst_AppLog::debugLinesAreDroppedByDefault()
     const MessageCapture capture;
     AppLog::instance().debug(u"quiet"_s);
     AppLog::instance().log(LogLevel(-1), u"quieter"_s);
-    QVERIFY(fileBytes(m_path).isEmpty());
+    QVERIFY(textOf(m_path).isEmpty());
     QVERIFY(capture.messages().isEmpty());
     AppLog::instance().warning(u"w"_s);
     AppLog::instance().error(u"e"_s);
@@ -468,7 +434,7 @@ void tst_AppLog::textIsWrittenAsUtf8AndEchoedUnquoted()
     const QString message = u"\u64e6\u9664 \"C:\\Users\\J\u00f6rg\" \U0001F4BE "_s;
     const MessageCapture capture;
     AppLog::instance().info(message);
-    const QByteArray bytes = fileBytes(m_path);
+    const QByteArray bytes = textOf(m_path);
     QVERIFY(bytes.endsWith("\xe6\x93\xa6\xe9\x99\xa4 \"C:\\Users\\J\xc3\xb6rg\" \xf0\x9f\x92\xbe \n"));
     QCOMPARE(capture.texts(), QStringList{QString::fromUtf8(bytes).chopped(1)});
 }
@@ -516,16 +482,12 @@ void tst_AppLog::aClosedFileGetsNoMoreLines()
 
 void tst_AppLog::anExistingFileIsNeverCut()
 {
-    const QString other = m_dir->filePath(u"other.log"_s);
-    QFile file(other);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write("what was there\n");
-    file.close();
-    const QFile::Permissions permissions = file.permissions();
+    const QString other = writeFile(m_dir->filePath(u"other.log"_s), "what was there\n");
+    const QFile::Permissions permissions = QFile::permissions(other);
     AppLog::instance().setLogFile(other);
     AppLog::instance().info(u"new"_s);
-    QVERIFY(fileBytes(other).startsWith("what was there\n["));
-    QVERIFY(fileBytes(other).endsWith("[INFO] new\n"));
+    QVERIFY(textOf(other).startsWith("what was there\n["));
+    QVERIFY(textOf(other).endsWith("[INFO] new\n"));
     QCOMPARE(QFile::permissions(other), permissions);
 }
 
@@ -577,7 +539,7 @@ void tst_AppLog::threadsNeverShareALine()
     done = true;
     reopening.join();
 
-    QStringList written = QString::fromUtf8(fileBytes(m_path)).split(u'\n');
+    QStringList written = QString::fromUtf8(textOf(m_path)).split(u'\n');
     QVERIFY(written.takeLast().isEmpty());
     QCOMPARE(written.size(), Threads * Lines);
     QList<int> next(Threads, 0);
@@ -599,10 +561,7 @@ void tst_AppLog::threadsNeverShareALine()
 
 static int runSuite(int argc, char *argv[])
 {
-#ifdef Q_OS_WIN
-    // What the variables below are elsewhere: the folders of Windows come from the registry.
-    QStandardPaths::setTestModeEnabled(true);
-#endif
+    userdata::hide();
     const bool isChild = argc > 1 && qstrcmp(argv[1], "--run") == 0;
     if (isChild) {
         const QCoreApplication application(argc, argv);
@@ -611,9 +570,9 @@ static int runSuite(int argc, char *argv[])
     // The instance opens its default file at first use: not in the folder of whoever runs the tests.
     const QTemporaryDir home;
     qputenv("HOME", QFile::encodeName(home.path()));
-    qputenv("XDG_DATA_HOME", QFile::encodeName(home.path()));
+    userdata::moveTo(home.path());
     const QCoreApplication application(argc, argv);
-    useProgramIdentity();
+    userdata::useProgramIdentity();
     tst_AppLog test;
     return QTest::qExec(&test, argc, argv);
 }

@@ -4,6 +4,7 @@
 #include "support/fakedevices.h"
 #include "support/messagecapture.h"
 
+#include <QCoreApplication>
 #include <QTest>
 
 #include <algorithm>

@@ -2,12 +2,15 @@
 #include "support/suite.h"
 
 #include "support/messagecapture.h"
+#include "support/testfiles.h"
 
+#include <QCoreApplication>
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QJsonObject>
+#include <QJsonValue>
 #include <QLocale>
 #include <QSettings>
 #include <QTemporaryDir>
@@ -35,12 +38,6 @@ const QByteArray smallCatalogue = "{\"metadata\": {\"version\": \"2.1\", \"last_
 
 const QStringList programLanguages{u"en"_s, u"fr"_s,    u"de"_s, u"ja"_s, u"es"_s,
                                    u"ko"_s, u"zh_TW"_s, u"nl"_s, u"pt"_s, u"it"_s};
-
-QString catalogueText(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-}
 
 bool logged(const MessageCapture &capture, const QString &line)
 {
@@ -121,10 +118,7 @@ private:
     LinkSources sources(const QString &locale, const QByteArray &catalogue = smallCatalogue)
     {
         LinkSources sources = programSources(locale);
-        sources.catalogue = m_dir->filePath(u"links.json"_s);
-        QFile file(sources.catalogue);
-        if (!file.open(QIODevice::WriteOnly) || file.write(catalogue) != catalogue.size())
-            qFatal("cannot write the catalogue");
+        sources.catalogue = writeFile(m_dir->filePath(u"links.json"_s), catalogue);
         return sources;
     }
     // With the program's catalogue.
@@ -191,7 +185,7 @@ void tst_LinkManager::theProgramsSourcesAreItsOwn()
 
 void tst_LinkManager::theCatalogueHasItsMetadata()
 {
-    const QString text = catalogueText(LinkSources::ofProgram().catalogue);
+    const QString text = QString::fromUtf8(contentOf(LinkSources::ofProgram().catalogue));
     const QJsonObject metadata =
         QJsonDocument::fromJson(text.toUtf8()).object().value(u"metadata").toObject();
     QCOMPARE(metadata.value(u"version").toString(), u"1.0.0"_s);
@@ -244,7 +238,7 @@ void tst_LinkManager::theCatalogueHasEveryPageInEveryLanguage()
 
 void tst_LinkManager::theCatalogueHasNoOtherCategories()
 {
-    const QString text = catalogueText(LinkSources::ofProgram().catalogue);
+    const QString text = QString::fromUtf8(contentOf(LinkSources::ofProgram().catalogue));
     const QJsonObject catalogue = QJsonDocument::fromJson(text.toUtf8()).object();
     QCOMPARE(catalogue.keys(), (QStringList{u"menu"_s, u"metadata"_s, u"support"_s, u"website"_s}));
     QCOMPARE(catalogue.value(u"support").toObject().keys(),

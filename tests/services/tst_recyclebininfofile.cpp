@@ -1,8 +1,8 @@
 #include "services/recyclebininfofile.h"
+#include "support/infofiles.h"
 #include "support/suite.h"
 
-#include "services/infofiles.h"
-
+#include <QCoreApplication>
 #include <QRandomGenerator>
 #include <QTest>
 

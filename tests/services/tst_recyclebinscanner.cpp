@@ -2,11 +2,14 @@
 #include "support/suite.h"
 
 #include "platform/forwarding.h"
-#include "services/infofiles.h"
 #include "support/fakedevices.h"
+#include "support/infofiles.h"
 #include "support/links.h"
 #include "support/messagecapture.h"
+#include "support/scopedvariable.h"
+#include "support/testfiles.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
@@ -21,14 +24,6 @@ namespace {
 const QString Ann = u"S-1-5-21-1-2-3-1001"_s;
 const QString Ben = u"S-1-5-21-1-2-3-1002"_s;
 
-void write(const QString &path, const QByteArray &contents)
-{
-    QVERIFY(QDir().mkpath(path.left(path.lastIndexOf(u'/'))));
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(contents), contents.size());
-}
-
 // Drives are folders of ours; files are real.
 class Machine
 {
@@ -39,11 +34,7 @@ public:
         , m_scope(m_platform)
     {
         m_session.user = Ann;
-        // Where no Trash is: the user's own must not be listed.
-        qputenv("XDG_DATA_HOME", QFile::encodeName(m_folder.path() + u"/data"_s));
     }
-    ~Machine() { qunsetenv("XDG_DATA_HOME"); }
-    Q_DISABLE_COPY_MOVE(Machine)
 
     QString drive(const QString &name) const { return m_folder.path() + u'/' + name; }
     static QString binOf(const QString &drive, const QString &sid = Ann)
@@ -62,6 +53,8 @@ public:
 
 private:
     QTemporaryDir m_folder;
+    // Where no Trash is: the user's own must not be listed.
+    ScopedVariable m_dataHome{"XDG_DATA_HOME", QFile::encodeName(m_folder.path() + u"/data"_s)};
     std::unique_ptr<platform::Platform> m_native;
     FakeDevices m_devices;
     FakeSession m_session;
@@ -117,7 +110,7 @@ private slots:
 void tst_RecycleBinScanner::anUnknownUserGivesAnEmptyResult()
 {
     Machine pc;
-    write(Machine::binOf(pc.mount(u"c"_s)) + u"/$I1.txt"_s, infoVersion2(u"C:\\a"_s, 1));
+    writeFile(Machine::binOf(pc.mount(u"c"_s)) + u"/$I1.txt"_s, infoVersion2(u"C:\\a"_s, 1));
     pc.setUser({});
     const MessageCapture capture;
     int calls = 0;
@@ -157,8 +150,8 @@ void tst_RecycleBinScanner::anItemCarriesBothPaths()
     Machine pc;
     const QString drive = pc.mount(u"c"_s);
     const QString bin = Machine::binOf(drive);
-    write(bin + u"/$IABC123.txt"_s, infoVersion2(u"C:\\Users\\Ann\\letter.txt"_s, 42));
-    write(bin + u"/$RABC123.txt"_s, "three");
+    writeFile(bin + u"/$IABC123.txt"_s, infoVersion2(u"C:\\Users\\Ann\\letter.txt"_s, 42));
+    writeFile(bin + u"/$RABC123.txt"_s, "three");
     RecycleBinItem item;
     item.fileName = u"letter.txt"_s;
     item.originalPath = u"C:\\Users\\Ann\\letter.txt"_s;
@@ -178,8 +171,8 @@ void tst_RecycleBinScanner::aFolderKeepsItsRecordedSize()
 {
     Machine pc;
     const QString bin = Machine::binOf(pc.mount(u"c"_s));
-    write(bin + u"/$I1"_s, infoVersion2(u"C:\\photos"_s, 1000));
-    write(bin + u"/$R1/inside.jpg"_s, "12345");
+    writeFile(bin + u"/$I1"_s, infoVersion2(u"C:\\photos"_s, 1000));
+    writeFile(bin + u"/$R1/inside.jpg"_s, "12345");
     const RecycleBinInfo info = RecycleBinScanner().scan();
     QCOMPARE(info.fileCount, 1);
     QVERIFY(info.items.first().isDirectory);
@@ -191,7 +184,7 @@ void tst_RecycleBinScanner::aMissingDataFileKeepsTheItem()
 {
     Machine pc;
     const QString bin = Machine::binOf(pc.mount(u"c"_s));
-    write(bin + u"/$I1.doc"_s, infoVersion2(u"C:\\gone.doc"_s, 10));
+    writeFile(bin + u"/$I1.doc"_s, infoVersion2(u"C:\\gone.doc"_s, 10));
     const RecycleBinInfo info = RecycleBinScanner().scan();
     QCOMPARE(info.fileCount, 1);
     QCOMPARE(info.totalSize, quint64(10));
@@ -204,8 +197,8 @@ void tst_RecycleBinScanner::aSizeOf0IsThatOfTheDataFile()
 {
     Machine pc;
     const QString bin = Machine::binOf(pc.mount(u"c"_s));
-    write(bin + u"/$I1.doc"_s, infoVersion2(u"C:\\a.doc"_s, 0));
-    write(bin + u"/$R1.doc"_s, "12345");
+    writeFile(bin + u"/$I1.doc"_s, infoVersion2(u"C:\\a.doc"_s, 0));
+    writeFile(bin + u"/$R1.doc"_s, "12345");
     QCOMPARE(RecycleBinScanner().scan().items.first().size, quint64(5));
     QCOMPARE(RecycleBinScanner().scan().totalSize, quint64(5));
 }
@@ -214,8 +207,8 @@ void tst_RecycleBinScanner::aSizeOf0OfAFolderStays()
 {
     Machine pc;
     const QString bin = Machine::binOf(pc.mount(u"c"_s));
-    write(bin + u"/$I1"_s, infoVersion2(u"C:\\photos"_s, 0));
-    write(bin + u"/$R1/inside.jpg"_s, "12345");
+    writeFile(bin + u"/$I1"_s, infoVersion2(u"C:\\photos"_s, 0));
+    writeFile(bin + u"/$R1/inside.jpg"_s, "12345");
     QCOMPARE(RecycleBinScanner().scan().items.first().size, quint64(0));
 }
 
@@ -237,8 +230,8 @@ void tst_RecycleBinScanner::anUnreadableRecordIsListedUnderTheDataFilesName()
     QFETCH(quint64, size);
     Machine pc;
     const QString bin = Machine::binOf(pc.mount(u"c"_s));
-    write(bin + u"/$I1.doc"_s, contents);
-    write(bin + u"/$R1.doc"_s, "12345");
+    writeFile(bin + u"/$I1.doc"_s, contents);
+    writeFile(bin + u"/$R1.doc"_s, "12345");
     const RecycleBinInfo info = RecycleBinScanner().scan();
     QCOMPARE(info.fileCount, 1);
     QCOMPARE(info.items.first().fileName, u"$R1.doc"_s);
@@ -251,9 +244,9 @@ void tst_RecycleBinScanner::lowerCaseNamesArePairedWithUpperCaseOnes()
 {
     Machine pc;
     const QString bin = Machine::binOf(pc.mount(u"c"_s));
-    write(bin + u"/$i1.doc"_s, infoVersion2(u"C:\\a.doc"_s, 1));
-    write(bin + u"/$R1.doc"_s, "12345");
-    write(bin + u"/$i2.doc"_s, infoVersion2(u"C:\\b.doc"_s, 1));
+    writeFile(bin + u"/$i1.doc"_s, infoVersion2(u"C:\\a.doc"_s, 1));
+    writeFile(bin + u"/$R1.doc"_s, "12345");
+    writeFile(bin + u"/$i2.doc"_s, infoVersion2(u"C:\\b.doc"_s, 1));
     const RecycleBinInfo info = RecycleBinScanner().scan();
     QCOMPARE(names(info), (QStringList{u"a.doc"_s, u"b.doc"_s}));
     QVERIFY(info.filePaths.contains(bin + u"/$R1.doc"_s));
@@ -264,9 +257,9 @@ void tst_RecycleBinScanner::otherFilesAreNoItems()
 {
     Machine pc;
     const QString bin = Machine::binOf(pc.mount(u"c"_s));
-    write(bin + u"/desktop.ini"_s, "[x]");
-    write(bin + u"/$R5.txt"_s, "data without a record");
-    write(bin + u"/I$.txt"_s, infoVersion2(u"C:\\a.doc"_s, 1));
+    writeFile(bin + u"/desktop.ini"_s, "[x]");
+    writeFile(bin + u"/$R5.txt"_s, "data without a record");
+    writeFile(bin + u"/I$.txt"_s, infoVersion2(u"C:\\a.doc"_s, 1));
     QVERIFY(QDir().mkpath(bin + u"/$I7"_s));
     QCOMPARE(RecycleBinScanner().scan(), RecycleBinInfo());
 }
@@ -275,8 +268,8 @@ void tst_RecycleBinScanner::recordsInSubfoldersAreFound()
 {
     Machine pc;
     const QString bin = Machine::binOf(pc.mount(u"c"_s));
-    write(bin + u"/$R1/.hidden/$I9.txt"_s, infoVersion2(u"C:\\a.txt"_s, 1));
-    write(bin + u"/$R1/.hidden/$R9.txt"_s, "x");
+    writeFile(bin + u"/$R1/.hidden/$I9.txt"_s, infoVersion2(u"C:\\a.txt"_s, 1));
+    writeFile(bin + u"/$R1/.hidden/$R9.txt"_s, "x");
     const RecycleBinInfo info = RecycleBinScanner().scan();
     QCOMPARE(info.filePaths, (QStringList{bin + u"/$R1/.hidden/$I9.txt"_s, bin + u"/$R1/.hidden/$R9.txt"_s}));
 }
@@ -288,7 +281,7 @@ void tst_RecycleBinScanner::deepFoldersAreWalked()
     QString deep = bin + u"/$R1"_s;
     for (int level = 0; level < 100; ++level)
         deep += u"/d"_s;
-    write(deep + u"/$I9.txt"_s, infoVersion2(u"C:\\a.txt"_s, 1));
+    writeFile(deep + u"/$I9.txt"_s, infoVersion2(u"C:\\a.txt"_s, 1));
     QCOMPARE(RecycleBinScanner().scan().fileCount, 1);
 }
 
@@ -297,8 +290,8 @@ void tst_RecycleBinScanner::linksAreNotFollowed()
     Machine pc;
     const QString bin = Machine::binOf(pc.mount(u"c"_s));
     const QString outside = pc.drive(u"outside"_s);
-    write(outside + u"/$I5.txt"_s, infoVersion2(u"C:\\mine.txt"_s, 1));
-    write(bin + u"/$I1.txt"_s, infoVersion2(u"C:\\a.txt"_s, 0));
+    writeFile(outside + u"/$I5.txt"_s, infoVersion2(u"C:\\mine.txt"_s, 1));
+    writeFile(bin + u"/$I1.txt"_s, infoVersion2(u"C:\\a.txt"_s, 0));
     if (!makeLink(outside, bin + u"/$R1.txt"_s))
         QSKIP("SKIPPED: the system makes no links");
     QVERIFY(makeLink(outside, bin + u"/folder"_s));
@@ -318,7 +311,7 @@ void tst_RecycleBinScanner::aBinThatIsALinkIsNotScanned()
 {
     Machine pc;
     const QString real = pc.drive(u"elsewhere"_s);
-    write(Machine::binOf(real) + u"/$I1"_s, infoVersion2(u"C:\\a"_s, 1));
+    writeFile(Machine::binOf(real) + u"/$I1"_s, infoVersion2(u"C:\\a"_s, 1));
     const QString one = pc.mount(u"c"_s);
     if (!makeLink(real + u"/$Recycle.Bin"_s, one + u"/$Recycle.Bin"_s))
         QSKIP("SKIPPED: the system makes no links");
@@ -334,8 +327,8 @@ void tst_RecycleBinScanner::onlyTheUsersOwnFolderIsScanned()
 {
     Machine pc;
     const QString drive = pc.mount(u"c"_s);
-    write(Machine::binOf(drive, Ann) + u"/$I1"_s, infoVersion2(u"C:\\ann"_s, 1));
-    write(Machine::binOf(drive, Ben) + u"/$I1"_s, infoVersion2(u"C:\\ben"_s, 1));
+    writeFile(Machine::binOf(drive, Ann) + u"/$I1"_s, infoVersion2(u"C:\\ann"_s, 1));
+    writeFile(Machine::binOf(drive, Ben) + u"/$I1"_s, infoVersion2(u"C:\\ben"_s, 1));
     QCOMPARE(names(RecycleBinScanner().scan()), QStringList{u"ann"_s});
     pc.setUser(Ben);
     QCOMPARE(names(RecycleBinScanner().scan()), QStringList{u"ben"_s});
@@ -347,14 +340,14 @@ void tst_RecycleBinScanner::drivesAreScannedInOrderAndAnnounced()
     const QString g = pc.mount(u"g"_s);
     const QString c = pc.mount(u"c"_s);
     const QString e = pc.mount(u"e"_s);
-    write(Machine::binOf(g) + u"/$I1"_s, infoVersion2(u"G:\\on g"_s, 1));
-    write(Machine::binOf(e) + u"/$I1"_s, infoVersion2(u"E:\\on e"_s, 2));
+    writeFile(Machine::binOf(g) + u"/$I1"_s, infoVersion2(u"G:\\on g"_s, 1));
+    writeFile(Machine::binOf(e) + u"/$I1"_s, infoVersion2(u"E:\\on e"_s, 2));
     QStringList announced;
     const RecycleBinInfo info = RecycleBinScanner().scan([&](const QString &drive, int index, int count) {
         announced.append(u"%1 %2/%3"_s.arg(drive).arg(index).arg(count));
         // What is announced is still to be scanned.
         if (drive == e)
-            write(Machine::binOf(e) + u"/$I2"_s, infoVersion2(u"E:\\late"_s, 3));
+            writeFile(Machine::binOf(e) + u"/$I2"_s, infoVersion2(u"E:\\late"_s, 3));
     });
     QCOMPARE(announced, (QStringList{g + u" 0/3"_s, c + u" 1/3"_s, e + u" 2/3"_s}));
     QCOMPARE(info.drives, (QStringList{g, e}));
@@ -367,7 +360,7 @@ void tst_RecycleBinScanner::drivesThatAreNotLocalOrNotReadyAreSkipped()
 {
     Machine pc;
     for (const QString &name : {u"network"_s, u"empty"_s, u"stick"_s})
-        write(Machine::binOf(pc.mount(name)) + u"/$I1"_s, infoVersion2(u"X:\\"_s + name, 1));
+        writeFile(Machine::binOf(pc.mount(name)) + u"/$I1"_s, infoVersion2(u"X:\\"_s + name, 1));
     pc.volume(u"network"_s).isLocal = false;
     pc.volume(u"empty"_s).isReady = false;
     QStringList announced;
@@ -380,7 +373,7 @@ void tst_RecycleBinScanner::drivesThatAreNotLocalOrNotReadyAreSkipped()
 void tst_RecycleBinScanner::aDriveListedTwiceIsScannedOnce()
 {
     Machine pc;
-    write(Machine::binOf(pc.mount(u"c"_s)) + u"/$I1"_s, infoVersion2(u"C:\\a"_s, 1));
+    writeFile(Machine::binOf(pc.mount(u"c"_s)) + u"/$I1"_s, infoVersion2(u"C:\\a"_s, 1));
     pc.mount(u"c"_s);
     QCOMPARE(RecycleBinScanner().scan().fileCount, 1);
 }
@@ -389,7 +382,7 @@ void tst_RecycleBinScanner::theScanTellsWhatItDid()
 {
     Machine pc;
     const QString drive = pc.mount(u"c"_s);
-    write(Machine::binOf(drive) + u"/$I1"_s, infoVersion2(u"C:\\a\\b.txt"_s, 12));
+    writeFile(Machine::binOf(drive) + u"/$I1"_s, infoVersion2(u"C:\\a\\b.txt"_s, 12));
     const MessageCapture capture;
     RecycleBinScanner().scan();
     const QStringList expected{
@@ -404,7 +397,7 @@ void tst_RecycleBinScanner::parsingTellsWhatItDid()
     const QTemporaryDir folder;
     const QString missing = folder.filePath(u"$I1"_s);
     const QString small = folder.filePath(u"$I2"_s);
-    write(small, QByteArray(27, 'x'));
+    writeFile(small, QByteArray(27, 'x'));
     const MessageCapture capture;
     QCOMPARE(RecycleBinScanner::parseInfoFile(missing), RecycleBinItem());
     QCOMPARE(RecycleBinScanner::parseInfoFile(small), RecycleBinItem());
@@ -419,8 +412,8 @@ void tst_RecycleBinScanner::aRootOfAnotherMachineIsScannedForASid()
 {
     Machine pc;
     const QString root = pc.drive(u"copy"_s);
-    write(Machine::binOf(root, Ann) + u"/$I1"_s, infoVersion2(u"C:\\ann"_s, 1));
-    write(Machine::binOf(root, Ben) + u"/$I1"_s, infoVersion2(u"C:\\ben"_s, 2));
+    writeFile(Machine::binOf(root, Ann) + u"/$I1"_s, infoVersion2(u"C:\\ann"_s, 1));
+    writeFile(Machine::binOf(root, Ben) + u"/$I1"_s, infoVersion2(u"C:\\ben"_s, 2));
     pc.mount(u"c"_s); // not looked at
     QStringList announced;
     const RecycleBinInfo info =
@@ -438,9 +431,9 @@ void tst_RecycleBinScanner::withoutSidEverySidIsScanned()
 {
     Machine pc;
     const QString root = pc.drive(u"copy"_s);
-    write(Machine::binOf(root, Ann) + u"/$I1"_s, infoVersion2(u"C:\\ann"_s, 1));
-    write(Machine::binOf(root, Ben) + u"/$I1"_s, infoVersion2(u"C:\\ben"_s, 2));
-    write(Machine::binOf(root, u"other"_s) + u"/$I1"_s, infoVersion2(u"C:\\other"_s, 4));
+    writeFile(Machine::binOf(root, Ann) + u"/$I1"_s, infoVersion2(u"C:\\ann"_s, 1));
+    writeFile(Machine::binOf(root, Ben) + u"/$I1"_s, infoVersion2(u"C:\\ben"_s, 2));
+    writeFile(Machine::binOf(root, u"other"_s) + u"/$I1"_s, infoVersion2(u"C:\\other"_s, 4));
     const RecycleBinInfo info = RecycleBinScanner().scanRoots({root});
     QCOMPARE(names(info), (QStringList{u"ann"_s, u"ben"_s}));
     QCOMPARE(info.totalSize, quint64(3));
@@ -451,7 +444,7 @@ void tst_RecycleBinScanner::aBinInCapitalsIsFoundInARoot()
 {
     Machine pc;
     const QString root = pc.drive(u"copy"_s);
-    write(root + u"/$RECYCLE.BIN/"_s + Ann + u"/$I1"_s, infoVersion2(u"C:\\ann"_s, 1));
+    writeFile(root + u"/$RECYCLE.BIN/"_s + Ann + u"/$I1"_s, infoVersion2(u"C:\\ann"_s, 1));
     QCOMPARE(names(RecycleBinScanner().scanRoots({root}, Ann.toLower())), QStringList{u"ann"_s});
 }
 
@@ -459,7 +452,7 @@ void tst_RecycleBinScanner::aSidIsOnlyAName()
 {
     Machine pc;
     const QString root = pc.drive(u"copy"_s);
-    write(root + u"/mine/$I1"_s, infoVersion2(u"C:\\mine"_s, 1));
+    writeFile(root + u"/mine/$I1"_s, infoVersion2(u"C:\\mine"_s, 1));
     QVERIFY(QDir().mkpath(root + u"/$Recycle.Bin"_s));
     for (const QString &sid : {u"../mine"_s, u".."_s, u"."_s, u"*"_s})
         QCOMPARE(RecycleBinScanner().scanRoots({root}, sid), RecycleBinInfo());
@@ -475,7 +468,7 @@ void tst_RecycleBinScanner::missingRootsGiveNothing()
 void tst_RecycleBinScanner::aScanRunsOnAnyThread()
 {
     Machine pc;
-    write(Machine::binOf(pc.mount(u"c"_s)) + u"/$I1"_s, infoVersion2(u"C:\\a"_s, 1));
+    writeFile(Machine::binOf(pc.mount(u"c"_s)) + u"/$I1"_s, infoVersion2(u"C:\\a"_s, 1));
     RecycleBinInfo info;
     bool sameThread = false;
     const std::unique_ptr<QThread> thread(QThread::create([&] {

@@ -1,9 +1,14 @@
+#include "model/wipereport.h"
 #include "services/reportdatabase.h"
+#include "support/filledreport.h"
 #include "support/suite.h"
-
-#include "model/filledreport.h"
+#include "support/testfiles.h"
+#include "support/userdata.h"
 
 #include <QCoreApplication>
+#include <QDate>
+#include <QDateTime>
+#include <QDebug>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -15,9 +20,9 @@
 #include <QSqlDatabase>
 #include <QSqlError>
 #include <QSqlQuery>
-#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTime>
 
 #include <atomic>
 #include <cstdio>
@@ -42,31 +47,9 @@ ReportDatabase &database()
     return ReportDatabase::instance();
 }
 
-void useProgramIdentity()
-{
-    QCoreApplication::setApplicationName(u"Quorvex"_s);
-    QCoreApplication::setOrganizationName(u"Veltrano"_s);
-}
-
-QString dataFolder()
-{
-    return QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
-}
-
-// The file of reports itself stays untouched: that of the user of this account.
-bool isTestFolder()
-{
-#ifdef Q_OS_WIN
-    return dataFolder().contains(u"/qttest/"_s);
-#else
-    return !qEnvironmentVariableIsEmpty("XDG_DATA_HOME") &&
-           dataFolder().startsWith(qEnvironmentVariable("XDG_DATA_HOME"));
-#endif
-}
-
 QString databasePath()
 {
-    return dataFolder() + u"/quorvex.db"_s;
+    return userdata::folder() + u"/quorvex.db"_s;
 }
 
 // Another program's connection to the file. Made and used on one thread.
@@ -207,8 +190,8 @@ int stopInTransaction()
 
 int runChild(const QStringList &arguments)
 {
-    useProgramIdentity();
-    if (!isTestFolder())
+    userdata::useProgramIdentity();
+    if (!userdata::isOfTests())
         return WrongFolder;
     if (!database().initialize())
         return NotStored;
@@ -403,19 +386,18 @@ void tst_ReportDatabase::init()
 {
     m_dir = std::make_unique<QTemporaryDir>();
     QVERIFY(m_dir->isValid());
-    qputenv("XDG_DATA_HOME", QFile::encodeName(m_dir->path()));
-    QVERIFY(isTestFolder());
-#ifdef Q_OS_WIN
-    QDir(dataFolder()).removeRecursively();
-#endif
-    QVERIFY(!QFileInfo::exists(dataFolder()));
+    userdata::moveTo(m_dir->path());
+    // The user's own reports stay untouched.
+    QVERIFY(userdata::isOfTests());
+    userdata::clear();
+    QVERIFY(!QFileInfo::exists(userdata::folder()));
 }
 
 void tst_ReportDatabase::cleanup()
 {
     database().close();
 #ifdef Q_OS_WIN
-    QVERIFY(QDir(dataFolder()).removeRecursively());
+    QVERIFY(QDir(userdata::folder()).removeRecursively());
 #endif
     QVERIFY(m_dir->remove());
 }
@@ -434,7 +416,7 @@ void tst_ReportDatabase::nothingWorksBeforeInitialize()
     QVERIFY(database().getReport(report.certificateId).certificateId != report.certificateId);
     QVERIFY(!database().deleteReport(report.certificateId));
     QCOMPARE(database().lastError(), u"数据库未初始化"_s);
-    QVERIFY(!QFileInfo::exists(dataFolder()));
+    QVERIFY(!QFileInfo::exists(userdata::folder()));
 }
 
 void tst_ReportDatabase::initializeMakesFolderFileTableAndIndexes()
@@ -501,7 +483,7 @@ void tst_ReportDatabase::aFileOfAnEarlierRunIsReused()
 
 void tst_ReportDatabase::aTableWithOtherColumnsStaysAndRefusesReports()
 {
-    QVERIFY(QDir().mkpath(dataFolder()));
+    QVERIFY(QDir().mkpath(userdata::folder()));
     const QString table =
         u"CREATE TABLE wipe_reports (certificate_id TEXT, start_time TEXT, report_json TEXT)"_s;
     {
@@ -724,16 +706,13 @@ void tst_ReportDatabase::theBytesOfADeletedReportLeaveTheFile()
     QVERIFY(database().initialize());
     WipeReport report = reportOf(u"one"_s);
     report.errorMessage = u"7f3a-marker "_s.repeated(5000);
-    const auto markers = [] {
-        QFile file(databasePath());
-        return file.open(QIODevice::ReadOnly) ? file.readAll().count("7f3a-marker") : -1;
-    };
+    const auto markers = [] { return contentOf(databasePath()).count("7f3a-marker"); };
     QVERIFY(database().saveReport(report));
     QVERIFY(database().saveReport(reportOf(u"two"_s)));
     QVERIFY(markers() >= 9000); // in a column and in the JSON text, but for those across two pages
     QVERIFY(database().deleteReport(u"one"_s));
     QCOMPARE(markers(), 0);
-    QCOMPARE(QDir(dataFolder()).entryList(QDir::Files), QStringList{u"quorvex.db"_s});
+    QCOMPARE(QDir(userdata::folder()).entryList(QDir::Files), QStringList{u"quorvex.db"_s});
 }
 
 void tst_ReportDatabase::anOutcomeIsStoredWithItsReport()
@@ -1072,7 +1051,7 @@ void tst_ReportDatabase::anOrdinaryEndLeavesOneFile()
 {
     Run run({u"one"_s, u"x"_s});
     QCOMPARE(run.exitCode(), Done);
-    QCOMPARE(QDir(dataFolder()).entryList(QDir::Files | QDir::Hidden), QStringList{u"quorvex.db"_s});
+    QCOMPARE(QDir(userdata::folder()).entryList(QDir::Files | QDir::Hidden), QStringList{u"quorvex.db"_s});
     QVERIFY(database().initialize());
     QCOMPARE(database().getReport(u"x"_s), readBack(reportOf(u"x"_s)));
 }
@@ -1139,11 +1118,7 @@ void tst_ReportDatabase::aFileThatIsNoDatabaseIsRefused_data()
 void tst_ReportDatabase::aFileThatIsNoDatabaseIsRefused()
 {
     QFETCH(QByteArray, content);
-    QVERIFY(QDir().mkpath(dataFolder()));
-    QFile file(databasePath());
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(content), content.size());
-    file.close();
+    writeFile(databasePath(), content);
 
     QVERIFY(!database().initialize());
     QVERIFY2(database().lastError().contains(u"file is not a database"_s),
@@ -1152,9 +1127,7 @@ void tst_ReportDatabase::aFileThatIsNoDatabaseIsRefused()
     QVERIFY(!database().saveReport(filledReport()));
     QCOMPARE(database().lastError(), u"数据库未初始化"_s);
     QVERIFY(database().getReports(NoLimit, 0).isEmpty());
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QCOMPARE(file.readAll(), content);
-    file.close();
+    QCOMPARE(contentOf(databasePath()), content);
 
     // Not held any more, and tried anew once the user has moved it away.
     QVERIFY(QFile::rename(databasePath(), databasePath() + u".old"_s));
@@ -1173,23 +1146,17 @@ void tst_ReportDatabase::aFolderInPlaceOfTheFileIsRefused()
 
 void tst_ReportDatabase::aFileInPlaceOfTheFolderIsRefused()
 {
-    QVERIFY(QDir().mkpath(QFileInfo(dataFolder()).path()));
-    QFile file(dataFolder());
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.close();
+    writeFile(userdata::folder(), {});
     QVERIFY(!database().initialize());
     QVERIFY2(database().lastError().contains(u"unable to open database file"_s),
              qPrintable(database().lastError()));
-    QVERIFY(QFile::remove(dataFolder()));
+    QVERIFY(QFile::remove(userdata::folder()));
     QVERIFY(database().initialize());
 }
 
 void tst_ReportDatabase::aReadOnlyFileIsRefused()
 {
-    QVERIFY(QDir().mkpath(dataFolder()));
-    QFile file(databasePath());
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.close();
+    QFile file(writeFile(databasePath(), {}));
     QVERIFY(file.setPermissions(QFile::ReadOwner));
     const bool isWritable = file.open(QIODevice::ReadWrite);
     file.close();
@@ -1207,7 +1174,7 @@ void tst_ReportDatabase::onAReadOnlyVolumeReportsAreReadButNotStored()
 {
     if (const QString reason = MemoryVolume::unavailableReason(); !reason.isEmpty())
         QSKIP(qPrintable(reason));
-    MemoryVolume volume(dataFolder(), u"size=4m"_s);
+    MemoryVolume volume(userdata::folder(), u"size=4m"_s);
     QVERIFY(volume.isMounted());
     QVERIFY(database().initialize());
     QVERIFY(database().saveReport(filledReport()));
@@ -1225,7 +1192,7 @@ void tst_ReportDatabase::onAReadOnlyVolumeNoFileIsMade()
 {
     if (const QString reason = MemoryVolume::unavailableReason(); !reason.isEmpty())
         QSKIP(qPrintable(reason));
-    MemoryVolume volume(dataFolder(), u"size=4m,ro"_s);
+    MemoryVolume volume(userdata::folder(), u"size=4m,ro"_s);
     QVERIFY(volume.isMounted());
     QVERIFY(!database().initialize());
     QVERIFY2(database().lastError().contains(u"unable to open database file"_s),
@@ -1257,7 +1224,7 @@ void tst_ReportDatabase::aFullVolumeRefusesReportsAndKeepsTheRest()
 {
     if (const QString reason = MemoryVolume::unavailableReason(); !reason.isEmpty())
         QSKIP(qPrintable(reason));
-    MemoryVolume volume(dataFolder(), u"size=1m"_s);
+    MemoryVolume volume(userdata::folder(), u"size=1m"_s);
     QVERIFY(volume.isMounted());
     QVERIFY(database().initialize());
     int stored = 0;
@@ -1277,9 +1244,9 @@ void tst_ReportDatabase::onAFullVolumeNoDatabaseIsMade()
 {
     if (const QString reason = MemoryVolume::unavailableReason(); !reason.isEmpty())
         QSKIP(qPrintable(reason));
-    MemoryVolume volume(dataFolder(), u"size=64k"_s);
+    MemoryVolume volume(userdata::folder(), u"size=64k"_s);
     QVERIFY(volume.isMounted());
-    QFile filler(dataFolder() + u"/filler"_s);
+    QFile filler(userdata::folder() + u"/filler"_s);
     QVERIFY(filler.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
     const QByteArray page(4096, 'x');
     while (filler.write(page) == page.size()) {
@@ -1339,14 +1306,11 @@ void tst_ReportDatabase::onlyTheOwnerReadsAFileThatWasThere()
 
 static int runSuite(int argc, char *argv[])
 {
-#ifdef Q_OS_WIN
-    // What the variable of init() is elsewhere: the folders of Windows come from the registry.
-    QStandardPaths::setTestModeEnabled(true);
-#endif
+    userdata::hide();
     const QCoreApplication application(argc, argv);
     if (argc > 1 && qstrcmp(argv[1], "--run") == 0)
         return runChild(QCoreApplication::arguments().mid(2));
-    useProgramIdentity();
+    userdata::useProgramIdentity();
     tst_ReportDatabase test;
     return QTest::qExec(&test, argc, argv);
 }

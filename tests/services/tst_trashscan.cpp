@@ -7,7 +7,10 @@
 #include "platform/forwarding.h"
 #include "support/fakedevices.h"
 #include "support/messagecapture.h"
+#include "support/scopedvariable.h"
+#include "support/testfiles.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QRandomGenerator>
@@ -25,20 +28,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 const QString User = QString::number(::geteuid());
-
-void write(const QString &path, const QByteArray &contents)
-{
-    QVERIFY(QDir().mkpath(path.left(path.lastIndexOf(u'/'))));
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(contents), contents.size());
-}
-
-QByteArray read(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
-}
 
 void setMode(const QString &path, mode_t mode)
 {
@@ -59,8 +48,8 @@ struct Trash
     QString file(const QString &name) const { return folder + u"/files/"_s + name; }
     void add(const QString &name, const QByteArray &path, const QByteArray &contents) const
     {
-        write(info(name), record(path));
-        write(file(name), contents);
+        writeFile(info(name), record(path));
+        writeFile(file(name), contents);
     }
 };
 
@@ -74,10 +63,7 @@ public:
         , m_scope(m_platform)
     {
         m_session.user = User;
-        qputenv("XDG_DATA_HOME", QFile::encodeName(path(u"data"_s)));
     }
-    ~Machine() { qunsetenv("XDG_DATA_HOME"); }
-    Q_DISABLE_COPY_MOVE(Machine)
 
     FakeDevices devices;
 
@@ -104,6 +90,7 @@ public:
 
 private:
     QTemporaryDir m_folder;
+    ScopedVariable m_dataHome{"XDG_DATA_HOME", QFile::encodeName(path(u"data"_s))};
     std::unique_ptr<platform::Platform> m_native;
     FakeSession m_session;
     platform::ForwardingPlatform m_platform;
@@ -273,9 +260,9 @@ void tst_TrashScan::aFolderHasTheSizeOfItsTree()
     const Trash trash = pc.home();
     trash.add(u"photos/.a.jpg"_s, "unused", "12345");
     QVERIFY(QDir(trash.folder + u"/info"_s).removeRecursively());
-    write(trash.info(u"photos"_s), record("/users/ann/photos"));
-    write(trash.file(u"photos/b/c/d.jpg"_s), "1234567");
-    write(pc.path(u"outside.jpg"_s), QByteArray(1000, 'x'));
+    writeFile(trash.info(u"photos"_s), record("/users/ann/photos"));
+    writeFile(trash.file(u"photos/b/c/d.jpg"_s), "1234567");
+    writeFile(pc.path(u"outside.jpg"_s), QByteArray(1000, 'x'));
     QVERIFY(QFile::link(pc.path(u"outside.jpg"_s), trash.file(u"photos/b/link.jpg"_s)));
     const RecycleBinItem item = onlyItem();
     QCOMPARE(item.fileName, u"photos"_s);
@@ -286,7 +273,7 @@ void tst_TrashScan::aFolderHasTheSizeOfItsTree()
 void tst_TrashScan::anEntryWithoutRecordIsListed()
 {
     const Machine pc;
-    write(pc.home().file(u"alone.txt"_s), "123");
+    writeFile(pc.home().file(u"alone.txt"_s), "123");
     RecycleBinItem item;
     item.fileName = u"alone.txt"_s;
     item.recyclePath = pc.home().file(u"alone.txt"_s);
@@ -298,7 +285,7 @@ void tst_TrashScan::anEntryWithoutRecordIsListed()
 void tst_TrashScan::aRecordWithoutEntryIsListed()
 {
     const Machine pc;
-    write(pc.home().info(u"gone.2"_s), record("/users/ann/gone"));
+    writeFile(pc.home().info(u"gone.2"_s), record("/users/ann/gone"));
     RecycleBinItem item;
     item.fileName = u"gone"_s;
     item.originalPath = u"/users/ann/gone"_s;
@@ -321,8 +308,8 @@ void tst_TrashScan::aDamagedRecordLeavesTheEntrysName()
     QFETCH(QByteArray, contents);
     const Machine pc;
     const Trash trash = pc.home();
-    write(trash.info(u"a.3.txt"_s), contents);
-    write(trash.file(u"a.3.txt"_s), "123");
+    writeFile(trash.info(u"a.3.txt"_s), contents);
+    writeFile(trash.file(u"a.3.txt"_s), "123");
     const RecycleBinItem item = onlyItem();
     QCOMPARE(item.fileName, u"a.3.txt"_s);
     QCOMPARE(item.originalPath, QString());
@@ -333,7 +320,7 @@ void tst_TrashScan::aDamagedRecordLeavesTheEntrysName()
 void tst_TrashScan::aPathThatLeadsOutIsOnlyText()
 {
     Machine pc;
-    write(pc.path(u"x"_s), "mine");
+    writeFile(pc.path(u"x"_s), "mine");
     const Trash trash = Machine::own(pc.mount(u"stick"_s));
     trash.add(u"x"_s, "../x", "12");
     const RecycleBinItem item = onlyItem();
@@ -347,8 +334,8 @@ void tst_TrashScan::linksInTheTrashAreNotFollowed()
 {
     const Machine pc;
     const Trash trash = pc.home();
-    write(pc.path(u"outside/mine.txt"_s), "12345");
-    write(pc.path(u"outside/record"_s), record("/users/ann/secret"));
+    writeFile(pc.path(u"outside/mine.txt"_s), "12345");
+    writeFile(pc.path(u"outside/record"_s), record("/users/ann/secret"));
     trash.add(u"plain"_s, "/users/ann/plain", "1");
     QVERIFY(QFile::link(pc.path(u"outside"_s), trash.file(u"link"_s)));
     QVERIFY(QFile::link(pc.path(u"outside/record"_s), trash.info(u"link"_s)));
@@ -401,8 +388,8 @@ void tst_TrashScan::otherFilesBesideRecordsAreNoItems()
     const Machine pc;
     const Trash trash = pc.home();
     trash.add(u"a"_s, "/users/ann/a", "1");
-    write(trash.folder + u"/info/note.txt"_s, "x");
-    write(trash.folder + u"/directorysizes"_s, "x");
+    writeFile(trash.folder + u"/info/note.txt"_s, "x");
+    writeFile(trash.folder + u"/directorysizes"_s, "x");
     QVERIFY(QDir().mkpath(trash.info(u"folder"_s)));
     QCOMPARE(names(scan()), QStringList{u"a"_s});
 }
@@ -415,17 +402,14 @@ void tst_TrashScan::theHomeTrashIsFoundByItsVariable()
     const TrashFolder inVariable{pc.home().folder, QDir::homePath(), {}};
     QCOMPARE(homeTrashFolder(), std::optional(inVariable));
 
-    const QByteArray home = qgetenv("HOME");
-    qputenv("HOME", QFile::encodeName(pc.path(u"ann"_s)));
+    const ScopedVariable home("HOME", QFile::encodeName(pc.path(u"ann"_s)));
     const QString byDefault = pc.path(u"ann/.local/share/Trash"_s);
-    const bool made = QDir().mkpath(byDefault);
+    QVERIFY(QDir().mkpath(byDefault));
     QList<std::optional<TrashFolder>> found;
     for (const char *value : {"", "relative"}) {
-        qputenv("XDG_DATA_HOME", value);
+        const ScopedVariable dataHome("XDG_DATA_HOME", value);
         found.append(homeTrashFolder());
     }
-    qputenv("HOME", home);
-    QVERIFY(made);
     const TrashFolder inHome{byDefault, pc.path(u"ann"_s), {}};
     QCOMPARE(found, (QList{std::optional(inHome), std::optional(inHome)}));
 }
@@ -490,7 +474,7 @@ void tst_TrashScan::pathsOnAVolumeAreRelativeToItsRoot()
     const Trash trash = Machine::own(root);
     trash.add(u"a"_s, "docs/a.txt", "1");
     QCOMPARE(onlyItem().originalPath, root + u"/docs/a.txt"_s);
-    write(trash.info(u"a"_s), record("/elsewhere/a.txt"));
+    writeFile(trash.info(u"a"_s), record("/elsewhere/a.txt"));
     QCOMPARE(onlyItem().originalPath, u"/elsewhere/a.txt"_s);
 }
 
@@ -572,17 +556,17 @@ void tst_TrashScan::whatIsGoneIsTakenOutOfTheSizes()
     const Machine pc;
     const QString folder = pc.home().folder;
     const QString sizes = folder + u"/directorysizes"_s;
-    write(sizes, "100 1700000000000 still%20here\n"
-                 "200 1700000000000 gone\n"
-                 "300 1700000000000 a%20file\n"
-                 "nonsense\n"
-                 "400 1700000000000 ..%2Ffiles\n"
-                 "500 1700000000000 caf%C3%A9\n");
+    writeFile(sizes, "100 1700000000000 still%20here\n"
+                     "200 1700000000000 gone\n"
+                     "300 1700000000000 a%20file\n"
+                     "nonsense\n"
+                     "400 1700000000000 ..%2Ffiles\n"
+                     "500 1700000000000 caf%C3%A9\n");
     QVERIFY(QDir().mkpath(pc.home().file(u"still here"_s)));
     QVERIFY(QDir().mkpath(pc.home().file(u"caf\u00e9"_s)));
-    write(pc.home().file(u"a file"_s), "1");
+    writeFile(pc.home().file(u"a file"_s), "1");
     QVERIFY(pruneDirectorySizes(folder).ok());
-    QCOMPARE(read(sizes), QByteArray("100 1700000000000 still%20here\n500 1700000000000 caf%C3%A9\n"));
+    QCOMPARE(contentOf(sizes), QByteArray("100 1700000000000 still%20here\n500 1700000000000 caf%C3%A9\n"));
     QCOMPARE(QDir(folder).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden),
              (QStringList{u"directorysizes"_s, u"files"_s}));
 }
@@ -591,7 +575,7 @@ void tst_TrashScan::sizesWithoutGoneNamesStayUntouched()
 {
     const Machine pc;
     const QString sizes = pc.home().folder + u"/directorysizes"_s;
-    write(sizes, "100 1700000000000 here\n");
+    writeFile(sizes, "100 1700000000000 here\n");
     QVERIFY(QDir().mkpath(pc.home().file(u"here"_s)));
     struct stat before = {};
     struct stat after = {};
@@ -608,7 +592,7 @@ void tst_TrashScan::theOldSizesAreOverwritten()
     QByteArray contents;
     for (int i = 0; i < 30000; ++i)
         contents += "100 1700000000000 secret%20folder\n";
-    write(sizes, contents);
+    writeFile(sizes, contents);
     const int old = ::open(QFile::encodeName(sizes).constData(), O_RDONLY | O_CLOEXEC);
     QVERIFY(old >= 0);
     const bool pruned = pruneDirectorySizes(pc.home().folder).ok();
@@ -618,7 +602,7 @@ void tst_TrashScan::theOldSizesAreOverwritten()
     QVERIFY(pruned);
     QCOMPARE(qint64(count), contents.size());
     QCOMPARE(left.first(count), QByteArray(count, '\0'));
-    QCOMPARE(read(sizes), QByteArray());
+    QCOMPARE(contentOf(sizes), QByteArray());
 }
 
 void tst_TrashScan::sizesThatCannotBeReplacedStay()
@@ -634,13 +618,13 @@ void tst_TrashScan::sizesThatCannotBeReplacedStay()
     };
     const Machine pc;
     const QString folder = pc.home().folder;
-    write(folder + u"/directorysizes"_s, "100 1700000000000 gone\n");
+    writeFile(folder + u"/directorysizes"_s, "100 1700000000000 gone\n");
     platform::Platform &native = platform::Platform::current();
     NoRename files(native.files());
     platform::ForwardingPlatform refusing(files, native.folders(), native.devices(), native.session());
     const platform::ScopedPlatform scope(refusing);
     QCOMPARE(pruneDirectorySizes(folder).code, quint32(platform::AccessDenied));
-    QCOMPARE(read(folder + u"/directorysizes"_s), QByteArray("100 1700000000000 gone\n"));
+    QCOMPARE(contentOf(folder + u"/directorysizes"_s), QByteArray("100 1700000000000 gone\n"));
     QCOMPARE(QDir(folder).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden),
              QStringList{u"directorysizes"_s});
 }
@@ -650,10 +634,10 @@ void tst_TrashScan::sizesThatAreALinkAreLeftAlone()
     const Machine pc;
     const QString folder = pc.home().folder;
     QVERIFY(QDir().mkpath(folder));
-    write(pc.path(u"mine"_s), "100 1700000000000 gone\n");
+    writeFile(pc.path(u"mine"_s), "100 1700000000000 gone\n");
     QVERIFY(QFile::link(pc.path(u"mine"_s), folder + u"/directorysizes"_s));
     QVERIFY(!pruneDirectorySizes(folder).ok());
-    QCOMPARE(read(pc.path(u"mine"_s)), QByteArray("100 1700000000000 gone\n"));
+    QCOMPARE(contentOf(pc.path(u"mine"_s)), QByteArray("100 1700000000000 gone\n"));
 }
 
 void tst_TrashScan::noSizesAreNoFailure()
@@ -667,9 +651,9 @@ void tst_TrashScan::noSizesAreNoFailure()
 void tst_TrashScan::anEmptiedTrashKeepsNoNames()
 {
     const Machine pc;
-    write(pc.home().folder + u"/directorysizes"_s, "100 1700000000000 gone");
+    writeFile(pc.home().folder + u"/directorysizes"_s, "100 1700000000000 gone");
     QVERIFY(pruneDirectorySizes(pc.home().folder).ok());
-    QCOMPARE(read(pc.home().folder + u"/directorysizes"_s), QByteArray());
+    QCOMPARE(contentOf(pc.home().folder + u"/directorysizes"_s), QByteArray());
 }
 
 void tst_TrashScan::theFoldersOfAScanAreNamedOnce()
@@ -678,8 +662,8 @@ void tst_TrashScan::theFoldersOfAScanAreNamedOnce()
     const Trash stick = Machine::own(pc.mount(u"stick"_s));
     pc.home().add(u"a"_s, "/users/ann/a", "1");
     pc.home().add(u"b"_s, "/users/ann/b", "1");
-    write(stick.file(u"c"_s), "1");
-    write(pc.path(u"stick/$Recycle.Bin/"_s) + User + u"/$I1"_s, QByteArray(28, '\0'));
+    writeFile(stick.file(u"c"_s), "1");
+    writeFile(pc.path(u"stick/$Recycle.Bin/"_s) + User + u"/$I1"_s, QByteArray(28, '\0'));
     const RecycleBinInfo info = scan();
     QCOMPARE(info.fileCount, 4);
     QCOMPARE(trashFoldersOf(info), (QStringList{pc.home().folder, stick.folder}));

@@ -2,7 +2,7 @@
 
 #include "platform/status.h"
 
-#include <QString>
+#include <QtGlobal>
 
 #include <atomic>
 
@@ -49,17 +49,8 @@ public:
     {}
 
     // To be called once per call of the interface: whether this one is to fail.
-    bool fires(Kind kind)
-    {
-        if (!(m_kinds & kind))
-            return false;
-        const int call = ++m_seen;
-        if (call != m_call && !(m_repeat == FromThenOn && call > m_call))
-            return false;
-        ++m_fired;
-        return true;
-    }
-    platform::Status status() const { return {m_error, 0, "planned fault"}; }
+    bool fires(Kind kind);
+    platform::Status status() const;
 
     int seen() const { return m_seen; }
     int fired() const { return m_fired; }

@@ -1,9 +1,10 @@
 #pragma once
 
-#include <QApplication>
 #include <QDialog>
 #include <QList>
+#include <QObject>
 #include <QPointer>
+#include <QStringList>
 #include <QTimer>
 
 #include <functional>
@@ -16,34 +17,14 @@ class ModalDialogs : public QObject
 public:
     using Answer = std::function<void(QDialog &dialog)>;
 
-    ModalDialogs()
-    {
-        m_timer.setInterval(5);
-        connect(&m_timer, &QTimer::timeout, this, &ModalDialogs::serve);
-        m_timer.start();
-    }
+    ModalDialogs();
 
     QList<Answer> answers;
     int unexpected = 0;
     QStringList titles; // of all that were shown
 
 private:
-    void serve()
-    {
-        auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
-        if (!dialog || dialog == m_served)
-            return;
-        m_served = dialog;
-        titles.append(dialog->windowTitle());
-        if (answers.isEmpty()) {
-            ++unexpected;
-            dialog->reject();
-            return;
-        }
-        // Not from here: an answer may open the next dialog, and a timer does not fire within itself.
-        QMetaObject::invokeMethod(
-            dialog, [dialog, answer = answers.takeFirst()] { answer(*dialog); }, Qt::QueuedConnection);
-    }
+    void serve();
 
     QTimer m_timer;
     QPointer<QDialog> m_served;

@@ -5,13 +5,10 @@
 
 #include <QList>
 #include <QMutex>
-#include <QMutexLocker>
 #include <QString>
-#include <QStringList>
 
 #include <functional>
 #include <memory>
-#include <utility>
 
 // One call of the file operations, or of a handle that they opened.
 struct FileCall
@@ -38,130 +35,21 @@ public:
                                                         const FileCall &)>
         wrap;
 
-    QList<FileCall> calls() const
-    {
-        const QMutexLocker locker(&m_mutex);
-        return m_calls;
-    }
-    QList<FileCall> calls(quint32 kinds) const
-    {
-        QList<FileCall> found;
-        for (const FileCall &call : calls()) {
-            if (call.kind & kinds)
-                found.append(call);
-        }
-        return found;
-    }
-    QList<FileCall> opened(platform::OpenMode mode) const
-    {
-        QList<FileCall> found;
-        for (const FileCall &call : calls(FaultPlan::Open)) {
-            if (call.mode == mode)
-                found.append(call);
-        }
-        return found;
-    }
+    QList<FileCall> calls() const;
+    QList<FileCall> calls(quint32 kinds) const;
+    QList<FileCall> opened(platform::OpenMode mode) const;
 
-    platform::Result<platform::FileInfo> info(const QString &path) override
-    {
-        const platform::Status answer = observe({.kind = FaultPlan::Info, .path = path});
-        if (!answer)
-            return answer;
-        return ForwardingFiles::info(path);
-    }
+    platform::Result<platform::FileInfo> info(const QString &path) override;
     platform::Result<std::unique_ptr<platform::FileHandle>> open(const QString &path,
-                                                                 platform::OpenMode mode) override
-    {
-        const FileCall call{.kind = FaultPlan::Open, .path = path, .mode = mode};
-        const platform::Status answer = observe(call);
-        if (!answer)
-            return answer;
-        auto opened = ForwardingFiles::open(path, mode);
-        if (!opened)
-            return opened.status();
-        std::unique_ptr<platform::FileHandle> handle = opened.take();
-        if (wrap)
-            handle = wrap(std::move(handle), call);
-        return std::unique_ptr<platform::FileHandle>(
-            std::make_unique<Handle>(std::move(handle), *this, call));
-    }
-    platform::Status clearReadOnly(const QString &path) override
-    {
-        const platform::Status answer = observe({.kind = FaultPlan::ClearReadOnly, .path = path});
-        return answer ? ForwardingFiles::clearReadOnly(path) : answer;
-    }
-    platform::Status rename(const QString &from, const QString &to) override
-    {
-        const platform::Status answer = observe({.kind = FaultPlan::Rename, .path = from, .to = to});
-        return answer ? ForwardingFiles::rename(from, to) : answer;
-    }
-    platform::Status remove(const QString &path) override
-    {
-        const platform::Status answer = observe({.kind = FaultPlan::Remove, .path = path});
-        return answer ? ForwardingFiles::remove(path) : answer;
-    }
+                                                                 platform::OpenMode mode) override;
+    platform::Status clearReadOnly(const QString &path) override;
+    platform::Status rename(const QString &from, const QString &to) override;
+    platform::Status remove(const QString &path) override;
 
 private:
-    class Handle : public platform::ForwardingFileHandle
-    {
-    public:
-        Handle(std::unique_ptr<platform::FileHandle> target, ObservedFiles &files, FileCall opened)
-            : ForwardingFileHandle(std::move(target))
-            , m_files(files)
-            , m_call(std::move(opened))
-        {}
-        platform::Status seek(qint64 position) override
-        {
-            const platform::Status answer = observe(FaultPlan::Seek, position, 0);
-            return answer ? ForwardingFileHandle::seek(position) : answer;
-        }
-        platform::Result<qint64> read(void *data, qint64 size) override
-        {
-            const platform::Status answer = observe(FaultPlan::Read, 0, size);
-            if (!answer)
-                return answer;
-            return ForwardingFileHandle::read(data, size);
-        }
-        platform::Result<qint64> write(const void *data, qint64 size) override
-        {
-            const platform::Status answer = observe(FaultPlan::Write, 0, size);
-            if (!answer)
-                return answer;
-            return ForwardingFileHandle::write(data, size);
-        }
-        platform::Status setEnd() override
-        {
-            const platform::Status answer = observe(FaultPlan::SetEnd, 0, 0);
-            return answer ? ForwardingFileHandle::setEnd() : answer;
-        }
-        platform::Status flush() override
-        {
-            const platform::Status answer = observe(FaultPlan::Flush, 0, 0);
-            return answer ? ForwardingFileHandle::flush() : answer;
-        }
+    class Handle;
 
-    private:
-        platform::Status observe(FaultPlan::Kind kind, qint64 position, qint64 size)
-        {
-            FileCall call = m_call;
-            call.kind = kind;
-            call.position = position;
-            call.size = size;
-            return m_files.observe(call);
-        }
-
-        ObservedFiles &m_files;
-        const FileCall m_call;
-    };
-
-    platform::Status observe(const FileCall &call)
-    {
-        {
-            const QMutexLocker locker(&m_mutex);
-            m_calls.append(call);
-        }
-        return hook ? hook(call) : platform::Status();
-    }
+    platform::Status observe(const FileCall &call);
 
     mutable QMutex m_mutex;
     QList<FileCall> m_calls;

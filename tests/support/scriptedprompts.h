@@ -3,6 +3,9 @@
 #include "prompts/prompts.h"
 
 #include <QList>
+#include <QMessageBox>
+#include <QString>
+#include <QStringList>
 
 #include <functional>
 
@@ -22,44 +25,12 @@ public:
     QStringList proposals; // of fileToSave, and starts of folder
     QStringList filters;
 
-    QMessageBox::StandardButton show(QWidget *, const Box &box) override
-    {
-        boxes.append(box);
-        if (box.buttons == QMessageBox::Ok)
-            return QMessageBox::Ok;
-        if (!buttons.isEmpty())
-            return buttons.takeFirst();
-        return box.buttons.testFlag(QMessageBox::Cancel) ? QMessageBox::Cancel : QMessageBox::No;
-    }
-
+    QMessageBox::StandardButton show(QWidget *, const Box &box) override;
     QString fileToSave(QWidget *, const QString &caption, const QString &proposal,
-                       const QString &filter) override
-    {
-        asked.append(caption);
-        proposals.append(proposal);
-        filters.append(filter);
-        return filesToSaveAnswers.isEmpty() ? QString() : filesToSaveAnswers.takeFirst();
-    }
-
-    QStringList filesToOpen(QWidget *, const QString &caption, const QString &filter) override
-    {
-        asked.append(caption);
-        filters.append(filter);
-        return filesToOpenAnswers.isEmpty() ? QStringList() : filesToOpenAnswers.takeFirst();
-    }
-
-    QString folder(QWidget *, const QString &caption, const QString &start) override
-    {
-        asked.append(caption);
-        proposals.append(start);
-        return folderAnswers.isEmpty() ? QString() : folderAnswers.takeFirst();
-    }
-
-    bool print(QWidget *, const QString &title, QPrinter &printer) override
-    {
-        asked.append(title);
-        return printAnswer && printAnswer(printer);
-    }
+                       const QString &filter) override;
+    QStringList filesToOpen(QWidget *, const QString &caption, const QString &filter) override;
+    QString folder(QWidget *, const QString &caption, const QString &start) override;
+    bool print(QWidget *, const QString &title, QPrinter &printer) override;
 
 private:
     ScopedPrompts m_scope{*this};

@@ -3,7 +3,11 @@
 #include "model/usersettings.h"
 
 #include <QSettings>
+#include <QString>
 #include <QTemporaryDir>
+#include <QVariant>
+
+#include <memory>
 
 // A settings store of the test's own in the place of the user's, empty at first.
 class TemporarySettings
@@ -11,11 +15,8 @@ class TemporarySettings
 public:
     QString path() const { return m_folder.filePath(QStringLiteral("settings.ini")); }
 
-    void set(QStringView key, const QVariant &value) const
-    {
-        usersettings::open()->setValue(key.toString(), value);
-    }
-    QVariant value(QStringView key) const { return usersettings::open()->value(key.toString()); }
+    void set(QStringView key, const QVariant &value) const;
+    QVariant value(QStringView key) const;
 
 private:
     QTemporaryDir m_folder;

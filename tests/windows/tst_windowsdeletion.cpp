@@ -2,10 +2,12 @@
 #include "platform/windows/longpath.h"
 #include "platform/windows/winhandle.h"
 #include "support/suite.h"
+#include "support/testfiles.h"
 #include "windows/win32faults.h"
 
+#include <QCoreApplication>
 #include <QDir>
-#include <QFile>
+#include <QFileInfo>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -40,9 +42,7 @@ private:
 void tst_WindowsDeletion::init()
 {
     m_folder = std::make_unique<QTemporaryDir>();
-    m_file = m_folder->filePath(u"secret.txt"_s);
-    QFile file(m_file);
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write("secret") == 6);
+    m_file = writeFile(m_folder->filePath(u"secret.txt"_s), "secret");
 }
 
 void tst_WindowsDeletion::aHeldFileIsTriedTenTimes()

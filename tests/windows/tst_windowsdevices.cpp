@@ -5,8 +5,10 @@
 #include "support/suite.h"
 #include "windows/scriptedmachine.h"
 
+#include <QCoreApplication>
 #include <QHash>
 #include <QStorageInfo>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include <algorithm>

@@ -1,5 +1,6 @@
-#include "platform/filecontents.h"
+#include "support/bytes.h"
 #include "support/suite.h"
+#include "support/testfiles.h"
 #include "windows/win32faults.h"
 
 #include "platform/windows/longpath.h"
@@ -9,10 +10,15 @@
 #include "platform/windows/windowssession.h"
 #include "platform/windows/winhandle.h"
 
+#include <QCoreApplication>
+#include <QDir>
 #include <QDirIterator>
+#include <QFile>
 #include <QMap>
+#include <QRandomGenerator>
 #include <QRegularExpression>
 #include <QTemporaryDir>
+#include <QTest>
 
 #include <optional>
 
@@ -59,7 +65,7 @@ QMap<QString, QByteArray> snapshot(const QString &folder)
                     QDirIterator::Subdirectories);
     while (at.hasNext()) {
         const QString path = at.next();
-        const QByteArray contents = at.fileInfo().isDir() ? QByteArray("folder") : contentsOf(path);
+        const QByteArray contents = at.fileInfo().isDir() ? QByteArray("folder") : contentOf(path);
         entries.insert(path, QByteArray::number(uint(attributesAt(path))) + ' ' + contents);
     }
     return entries;
@@ -355,7 +361,7 @@ void tst_WindowsFiles::namesKeepEveryCharacter()
 
 void tst_WindowsFiles::opensWithWhatItPromises()
 {
-    QVERIFY(makeFile(path(u"file"_s), "abc"));
+    writeFile(path(u"file"_s), "abc");
     Win32Faults faults;
     const auto lastOpening = [&](const QString &name, OpenMode mode) {
         faults.forget();
@@ -380,19 +386,19 @@ void tst_WindowsFiles::opensWithWhatItPromises()
 // No call that would cut before it is known what is cut.
 void tst_WindowsFiles::fillOverAFileDoesNotFollowOrReplace()
 {
-    QVERIFY(makeFile(path(u"file"_s), "abc"));
+    writeFile(path(u"file"_s), "abc");
     Win32Faults faults;
     QVERIFY(files.open(path(u"file"_s), OpenMode::CreateFill).ok());
     for (const Win32Faults::Opening &opening : faults.openings()) {
         QVERIFY(opening.disposition == CREATE_NEW || opening.disposition == OPEN_EXISTING);
         QVERIFY(opening.flags & FILE_FLAG_OPEN_REPARSE_POINT);
     }
-    QCOMPARE(contentsOf(path(u"file"_s)), QByteArray());
+    QCOMPARE(contentOf(path(u"file"_s)), QByteArray());
 }
 
 void tst_WindowsFiles::verificationDropsTheCacheFirst()
 {
-    QVERIFY(makeFile(path(u"file"_s), "abc"));
+    writeFile(path(u"file"_s), "abc");
     Win32Faults faults;
     QVERIFY(files.open(path(u"file"_s), OpenMode::Verify).ok());
     QCOMPARE(faults.openings().size(), 2);
@@ -408,7 +414,7 @@ void tst_WindowsFiles::renamesWithWhatItPromises()
         s_flags = flags;
         return ::MoveFileExW(from, to, flags);
     };
-    QVERIFY(makeFile(path(u"file"_s), "abc"));
+    writeFile(path(u"file"_s), "abc");
     QVERIFY(files.rename(path(u"file"_s), path(u"new"_s)).ok());
     QCOMPARE(s_flags, DWORD(3));
 }
@@ -416,14 +422,14 @@ void tst_WindowsFiles::renamesWithWhatItPromises()
 void tst_WindowsFiles::readOnlyFiles()
 {
     const QString name = path(u"file"_s);
-    QVERIFY(makeFile(name, "abc"));
+    writeFile(name, "abc");
     QVERIFY(setAttributes(name, FILE_ATTRIBUTE_READONLY));
     if (!isReadOnlyRespected(name))
         QSKIP("SKIPPED: this system writes to read-only files");
     for (const OpenMode mode : {OpenMode::Overwrite, OpenMode::Truncate, OpenMode::CreateFill})
         QCOMPARE(files.open(name, mode).code(), quint32(AccessDenied));
     QVERIFY(files.open(name, OpenMode::Verify).ok());
-    QCOMPARE(contentsOf(name), QByteArray("abc"));
+    QCOMPARE(contentOf(name), QByteArray("abc"));
     QVERIFY(files.clearReadOnly(name).ok());
     QVERIFY(files.open(name, OpenMode::Overwrite).ok());
     QVERIFY(files.remove(name).ok());
@@ -432,7 +438,7 @@ void tst_WindowsFiles::readOnlyFiles()
 void tst_WindowsFiles::clearReadOnlyKeepsTheOtherAttributes()
 {
     const QString name = path(u"file"_s);
-    QVERIFY(makeFile(name, "abc"));
+    writeFile(name, "abc");
     QVERIFY(setAttributes(name, FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM));
     const DWORD before = attributesAt(name);
     QVERIFY(before & FILE_ATTRIBUTE_READONLY);
@@ -443,19 +449,19 @@ void tst_WindowsFiles::clearReadOnlyKeepsTheOtherAttributes()
 void tst_WindowsFiles::hiddenFileIsFilled()
 {
     const QString name = path(u"file"_s);
-    QVERIFY(makeFile(name, "abc"));
+    writeFile(name, "abc");
     QVERIFY(folders.hide(name).ok());
     {
         const auto file = files.open(name, OpenMode::CreateFill);
         QVERIFY(file.ok());
         QCOMPARE(file.value()->write("z", 1).valueOr(-1), 1);
     }
-    QCOMPARE(contentsOf(name), QByteArray("z"));
+    QCOMPARE(contentOf(name), QByteArray("z"));
 }
 
 void tst_WindowsFiles::hideSetsBothAttributes()
 {
-    QVERIFY(makeFile(path(u"file"_s), "abc"));
+    writeFile(path(u"file"_s), "abc");
     QVERIFY(folders.hide(path(u"file"_s)).ok());
     constexpr DWORD Both = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM;
     QCOMPARE(attributesAt(path(u"file"_s)) & Both, Both);
@@ -464,7 +470,7 @@ void tst_WindowsFiles::hideSetsBothAttributes()
 void tst_WindowsFiles::fileInUse()
 {
     const QString name = path(u"file"_s);
-    QVERIFY(makeFile(name, "abc"));
+    writeFile(name, "abc");
     {
         const WinHandle other = otherHandle(name, GENERIC_READ, 0);
         QVERIFY(other.isValid());
@@ -476,7 +482,7 @@ void tst_WindowsFiles::fileInUse()
         QVERIFY(info.ok());
         QCOMPARE(info.value().size, 3);
     }
-    QCOMPARE(contentsOf(name), QByteArray("abc"));
+    QCOMPARE(contentOf(name), QByteArray("abc"));
     QVERIFY(files.remove(name).ok());
 }
 
@@ -485,7 +491,7 @@ void tst_WindowsFiles::deletedWhileOpen()
 {
     constexpr DWORD Everything = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
     const QString name = path(u"file"_s);
-    QVERIFY(makeFile(name, "abc"));
+    writeFile(name, "abc");
     bool isPending = false;
     {
         const WinHandle other = otherHandle(name, GENERIC_READ, Everything);
@@ -504,16 +510,16 @@ void tst_WindowsFiles::deletedWhileOpen()
 
 void tst_WindowsFiles::renameOverAReadOnlyFile()
 {
-    QVERIFY(makeFile(path(u"file"_s), "abc"));
-    QVERIFY(makeFile(path(u"new"_s), "another"));
+    writeFile(path(u"file"_s), "abc");
+    writeFile(path(u"new"_s), "another");
     QVERIFY(setAttributes(path(u"new"_s), FILE_ATTRIBUTE_READONLY));
     if (!isReadOnlyRespected(path(u"new"_s)))
         QSKIP("SKIPPED: this system writes to read-only files");
     QCOMPARE(files.rename(path(u"file"_s), path(u"new"_s)).code, quint32(AccessDenied));
-    QCOMPARE(contentsOf(path(u"new"_s)), QByteArray("another"));
+    QCOMPARE(contentOf(path(u"new"_s)), QByteArray("another"));
     QVERIFY(files.clearReadOnly(path(u"new"_s)).ok());
     QVERIFY(files.rename(path(u"file"_s), path(u"new"_s)).ok());
-    QCOMPARE(contentsOf(path(u"new"_s)), QByteArray("abc"));
+    QCOMPARE(contentOf(path(u"new"_s)), QByteArray("abc"));
 }
 
 void tst_WindowsFiles::beyond260Characters()
@@ -585,7 +591,7 @@ void tst_WindowsFiles::removeTreeTakesReadOnlyEntries()
 {
     QVERIFY(QDir().mkpath(path(u"tree/a/b"_s)));
     for (const QString &name : {u"tree/file"_s, u"tree/a/b/file"_s}) {
-        QVERIFY(makeFile(path(name), "abc"));
+        writeFile(path(name), "abc");
         QVERIFY(setAttributes(path(name), FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_HIDDEN));
     }
     for (const QString &name : {u"tree/a/b"_s, u"tree/a"_s, u"tree"_s})
@@ -600,7 +606,7 @@ void tst_WindowsFiles::removeTreeGoesOnPastWhatIsInUse()
     QVERIFY(QDir().mkpath(path(u"tree/a/b"_s)));
     QVERIFY(QDir().mkpath(path(u"tree/c"_s)));
     for (const QString &name : {u"tree/1"_s, u"tree/3"_s, u"tree/a/b/used"_s, u"tree/a/b/z"_s, u"tree/c/4"_s})
-        QVERIFY(makeFile(path(name), "abc"));
+        writeFile(path(name), "abc");
     const WinHandle other = otherHandle(path(u"tree/a/b/used"_s), GENERIC_READ, FILE_SHARE_READ);
     QVERIFY(other.isValid());
     QCOMPARE(folders.removeTree(path(u"tree"_s)).code, quint32(SharingViolation));
@@ -610,9 +616,9 @@ void tst_WindowsFiles::removeTreeGoesOnPastWhatIsInUse()
 
 void tst_WindowsFiles::linksAreSeen()
 {
-    QVERIFY(makeFile(path(u"a link"_s), "abc"));
+    writeFile(path(u"a link"_s), "abc");
     QVERIFY(QDir().mkdir(path(u"b link"_s)));
-    QVERIFY(makeFile(path(u"file"_s), "abc"));
+    writeFile(path(u"file"_s), "abc");
     PretendedLinks links;
     for (const QString &name : {u"a link"_s, u"b link"_s}) {
         const Result<FileInfo> info = files.info(path(name));
@@ -635,30 +641,30 @@ void tst_WindowsFiles::linksAreSeen()
 
 void tst_WindowsFiles::openOfALinkIsRefused()
 {
-    QVERIFY(makeFile(path(u"link"_s), "abc"));
+    writeFile(path(u"link"_s), "abc");
     PretendedLinks links;
     for (const OpenMode mode : EveryMode)
         QCOMPARE(files.open(path(u"link"_s), mode).code(), quint32(CannotAccessFile));
-    QCOMPARE(contentsOf(path(u"link"_s)), QByteArray("abc"));
+    QCOMPARE(contentOf(path(u"link"_s)), QByteArray("abc"));
     QCOMPARE(links.faults().openHandles(), 0);
 }
 
 // At the first look there was still a file.
 void tst_WindowsFiles::openOfALinkThatIsSwappedIn()
 {
-    QVERIFY(makeFile(path(u"link"_s), "abc"));
+    writeFile(path(u"link"_s), "abc");
     PretendedLinks links;
     links.faults().target().getFileAttributes = &::GetFileAttributesW;
     for (const OpenMode mode : EveryMode)
         QCOMPARE(files.open(path(u"link"_s), mode).code(), quint32(CannotAccessFile));
-    QCOMPARE(contentsOf(path(u"link"_s)), QByteArray("abc"));
+    QCOMPARE(contentOf(path(u"link"_s)), QByteArray("abc"));
     QCOMPARE(links.faults().openHandles(), 0);
 }
 
 // Deduplicated files and placeholders are no links: who removed them would call them erased.
 void tst_WindowsFiles::filesWhoseBytesLieElsewhere()
 {
-    QVERIFY(makeFile(path(u"link"_s), "abc"));
+    writeFile(path(u"link"_s), "abc");
     PretendedLinks deduplicated(IO_REPARSE_TAG_DEDUP);
     const Result<FileInfo> info = files.info(path(u"link"_s));
     QVERIFY(info.ok());
@@ -675,7 +681,7 @@ void tst_WindowsFiles::filesWhoseBytesLieElsewhere()
     QCOMPARE(seen, QList<FileKind>{FileKind::Regular});
     for (const OpenMode mode : EveryMode)
         QCOMPARE(files.open(path(u"link"_s), mode).code(), quint32(CannotAccessFile));
-    QCOMPARE(contentsOf(path(u"link"_s)), QByteArray("abc"));
+    QCOMPARE(contentOf(path(u"link"_s)), QByteArray("abc"));
 }
 
 void tst_WindowsFiles::linksAreNoFolders()
@@ -700,13 +706,13 @@ void tst_WindowsFiles::linksAreNoFolders()
 void tst_WindowsFiles::removeTreeDoesNotEnterLinks()
 {
     QVERIFY(QDir().mkpath(path(u"tree/a/link"_s)));
-    QVERIFY(makeFile(path(u"tree/a/link/file"_s), "abc"));
-    QVERIFY(makeFile(path(u"tree/b"_s), "abc"));
+    writeFile(path(u"tree/a/link/file"_s), "abc");
+    writeFile(path(u"tree/b"_s), "abc");
     {
         PretendedLinks links;
         QCOMPARE(folders.removeTree(path(u"tree"_s)).code, quint32(DirectoryNotEmpty));
     }
-    QCOMPARE(contentsOf(path(u"tree/a/link/file"_s)), QByteArray("abc"));
+    QCOMPARE(contentOf(path(u"tree/a/link/file"_s)), QByteArray("abc"));
     QVERIFY(!QFile::exists(path(u"tree/b"_s)));
 }
 
@@ -714,7 +720,7 @@ void tst_WindowsFiles::junctionsAreRemovedThemselves()
 {
     QVERIFY(QDir().mkpath(path(u"tree"_s)));
     QVERIFY(QDir().mkpath(path(u"outside"_s)));
-    QVERIFY(makeFile(path(u"outside/file"_s), "abc"));
+    writeFile(path(u"outside/file"_s), "abc");
     const QString link = path(u"tree/junction"_s);
     ::CreateSymbolicLinkW(toLongPath(link).c_str(),
                           QDir::toNativeSeparators(path(u"outside"_s)).toStdWString().c_str(),
@@ -725,12 +731,12 @@ void tst_WindowsFiles::junctionsAreRemovedThemselves()
     QCOMPARE(files.info(link).value().kind, FileKind::Link);
     QCOMPARE(files.open(link, OpenMode::Overwrite).code(), quint32(CannotAccessFile));
     QVERIFY(folders.removeTree(path(u"tree"_s)).ok());
-    QCOMPARE(contentsOf(path(u"outside/file"_s)), QByteArray("abc"));
+    QCOMPARE(contentOf(path(u"outside/file"_s)), QByteArray("abc"));
 }
 
 void tst_WindowsFiles::transfersGoOnAfterShortOnes()
 {
-    QVERIFY(makeFile(path(u"file"_s), QByteArray(5000, 'a')));
+    writeFile(path(u"file"_s), QByteArray(5000, 'a'));
     Win32Faults faults;
     faults.target().writeFile = [](HANDLE file, LPCVOID data, DWORD size, LPDWORD count,
                                    LPOVERLAPPED overlapped) -> BOOL {
@@ -757,7 +763,7 @@ void tst_WindowsFiles::transfersGoInPieces()
     constexpr qint64 Size = 5LL * 1024 * 1024 * 1024 + 77;
     void *const memory = ::VirtualAlloc(nullptr, SIZE_T(Size), MEM_RESERVE, PAGE_NOACCESS);
     QVERIFY(memory);
-    QVERIFY(makeFile(path(u"file"_s), {}));
+    writeFile(path(u"file"_s), {});
     Win32Faults faults;
     faults.target().writeFile = &answeredWrite;
     faults.target().readFile = &answeredRead;
@@ -778,7 +784,7 @@ void tst_WindowsFiles::transfersGoInPieces()
 
 void tst_WindowsFiles::endOfFileIsNoFailure()
 {
-    QVERIFY(makeFile(path(u"file"_s), "abc"));
+    writeFile(path(u"file"_s), "abc");
     Win32Faults faults;
     faults.target().readFile = &answeredRead;
     const auto file = files.open(path(u"file"_s), OpenMode::Verify);
@@ -792,7 +798,7 @@ void tst_WindowsFiles::endOfFileIsNoFailure()
 
 void tst_WindowsFiles::noRoomEndsAWrite()
 {
-    QVERIFY(makeFile(path(u"file"_s), "abc"));
+    writeFile(path(u"file"_s), "abc");
     Win32Faults faults;
     faults.target().writeFile = &answeredWrite;
     const auto file = files.open(path(u"file"_s), OpenMode::Overwrite);
@@ -814,7 +820,7 @@ void tst_WindowsFiles::noRoomEndsAWrite()
 void tst_WindowsFiles::positionAfterAFailure()
 {
     const QString name = path(u"file"_s);
-    QVERIFY(makeFile(name, "abcdef"));
+    writeFile(name, "abcdef");
     Win32Faults faults;
     const auto file = files.open(name, OpenMode::Overwrite);
     QVERIFY(file.ok());
@@ -828,12 +834,12 @@ void tst_WindowsFiles::positionAfterAFailure()
     QCOMPARE(file.value()->write("12", 2).code(), quint32(Injected));
     faults.target().writeFile = &::WriteFile;
     QCOMPARE(file.value()->write("xy", 2).valueOr(-1), 2);
-    QCOMPARE(contentsOf(name), QByteArray("axydef"));
+    QCOMPARE(contentOf(name), QByteArray("axydef"));
 }
 
 void tst_WindowsFiles::failedFlushStaysFailed()
 {
-    QVERIFY(makeFile(path(u"file"_s), "abc"));
+    writeFile(path(u"file"_s), "abc");
     Win32Faults faults;
     const auto file = files.open(path(u"file"_s), OpenMode::Overwrite);
     QVERIFY(file.ok());
@@ -856,7 +862,7 @@ void tst_WindowsFiles::fillFolder()
     QVERIFY(QDir().mkpath(path(u"at/empty"_s)));
     for (const QString &name : {u"beside"_s, u"at/file"_s, u"at/tree/1"_s, u"at/tree/read-only"_s,
                                 u"at/tree/a/2"_s, u"at/tree/a/b/3"_s})
-        QVERIFY(makeFile(path(name), "abc"));
+        writeFile(path(name), "abc");
     QVERIFY(setAttributes(path(u"at/tree/read-only"_s), FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_HIDDEN));
 }
 
@@ -876,7 +882,7 @@ void tst_WindowsFiles::everyCallFailsOnce()
             const QByteArray where =
                 "call " + QByteArray::number(call) + ", number " + QByteArray::number(nth);
             QVERIFY2(faults.openHandles() == 0, where.constData());
-            QCOMPARE(contentsOf(path(u"beside"_s)), QByteArray("abc"));
+            QCOMPARE(contentOf(path(u"beside"_s)), QByteArray("abc"));
             const bool isOver = faults.fired() == 0;
             const bool isClosing = call == Win32Faults::CloseHandle_ || call == Win32Faults::FindClose_;
             if (isOver || isClosing || scenario.forgiven.contains({call, nth})) {

@@ -1,12 +1,16 @@
 #include "support/suite.h"
+#include "support/testfiles.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QJsonValue>
 #include <QProcess>
+#include <QProcessEnvironment>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -95,20 +99,7 @@ private slots:
 private:
     QString image(qint64 size = 1 << 20)
     {
-        const QString name = m_folder->filePath(u"disk.img"_s);
-        makeFile(name, QByteArray(size, 'x'));
-        return name;
-    }
-    static void makeFile(const QString &name, const QByteArray &bytes)
-    {
-        QFile file(name);
-        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-            qFatal("no file");
-    }
-    static QByteArray content(const QString &name)
-    {
-        QFile file(name);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("not there");
+        return writeFile(m_folder->filePath(u"disk.img"_s), QByteArray(size, 'x'));
     }
     Finished run(const QStringList &arguments, const std::function<void()> &onProgress = {})
     {
@@ -215,9 +206,9 @@ void tst_WindowsProgram::anImageIsErasedToTheLastByte()
     const Finished finished =
         run({u"wipe"_s, u"disk"_s, u"0"_s, u"--image"_s, path, u"--report"_s, report, u"--yes"_s});
     QCOMPARE(finished.code, 0);
-    QCOMPARE(content(path), QByteArray(5'000'700, '\0'));
+    QCOMPARE(contentOf(path), QByteArray(5'000'700, '\0'));
     QVERIFY(finished.out.trimmed().split('\n').constLast().startsWith("DONE: "));
-    const QJsonObject json = QJsonDocument::fromJson(content(report)).object();
+    const QJsonObject json = QJsonDocument::fromJson(contentOf(report)).object();
     QVERIFY(json.value(u"verificationPassed"_s).toBool());
     QCOMPARE(json.value(u"computerName"_s), QJsonValue(qEnvironmentVariable("COMPUTERNAME")));
 }
@@ -253,10 +244,10 @@ void tst_WindowsProgram::aFolderIsErased()
 {
     const QString folder = m_folder->filePath(u"项目/b/c"_s);
     QVERIFY(QDir().mkpath(folder));
-    makeFile(folder + u"/one"_s, "1");
-    makeFile(folder + u"/two"_s, QByteArray(1 << 20, '2'));
+    writeFile(folder + u"/one"_s, "1");
+    writeFile(folder + u"/two"_s, QByteArray(1 << 20, '2'));
     const QString readOnly = folder + u"/read only"_s;
-    makeFile(readOnly, "3");
+    writeFile(readOnly, "3");
     QVERIFY(QFile::setPermissions(readOnly, QFile::ReadOwner | QFile::ReadUser));
     const Finished finished = run({u"wipe"_s, u"files"_s, m_folder->filePath(u"项目"_s), u"--yes"_s});
     QCOMPARE(finished.code, 0);
@@ -269,7 +260,7 @@ void tst_WindowsProgram::aLongPathIsErased()
     while (folder.size() < 300)
         folder += u"/0123456789012345678901234567890123456789"_s;
     QVERIFY(QDir().mkpath(folder));
-    makeFile(folder + u"/file"_s, "secret");
+    writeFile(folder + u"/file"_s, "secret");
     const Finished finished = run({u"wipe"_s, u"files"_s, folder + u"/file"_s, u"--yes"_s});
     QCOMPARE(finished.code, 0);
     QVERIFY(!QFile::exists(folder + u"/file"_s));
@@ -289,7 +280,7 @@ void tst_WindowsProgram::withoutAConsoleItRefuses()
     const QString path = image();
     const Finished finished = run({u"wipe"_s, u"disk"_s, u"0"_s, u"--image"_s, path});
     QCOMPARE(finished.code, 3);
-    QCOMPARE(content(path), QByteArray(1 << 20, 'x'));
+    QCOMPARE(contentOf(path), QByteArray(1 << 20, 'x'));
 }
 
 void tst_WindowsProgram::exitCodes_data()
@@ -340,7 +331,7 @@ void tst_WindowsProgram::interruptCancelsTheJob()
     QCOMPARE(last.value(u"event"_s), QJsonValue(u"finished"_s));
     QCOMPARE(last.value(u"cancelled"_s), QJsonValue(true));
     QCOMPARE(last.value(u"success"_s), QJsonValue(false));
-    QCOMPARE(QJsonDocument::fromJson(content(report)).object(), last.value(u"report"_s).toObject());
+    QCOMPARE(QJsonDocument::fromJson(contentOf(report)).object(), last.value(u"report"_s).toObject());
 }
 
 static int runSuite(int argc, char *argv[])

@@ -2,11 +2,13 @@
 #include "model/wipetask.h"
 #include "platform/windows/win32calls.h"
 #include "support/suite.h"
+#include "support/testfiles.h"
 #include "support/workerrecord.h"
 
-#include <QFile>
+#include <QCoreApplication>
 #include <QHash>
 #include <QMutex>
+#include <QMutexLocker>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -142,10 +144,7 @@ void tst_WineVolume::everyByteIsWrittenThroughTheVolume()
     QFETCH(const int, method);
     QFETCH(const qint64, driveSize);
     const QTemporaryDir folder;
-    const QString standIn = folder.filePath(u"drive"_s);
-    QFile drive(standIn);
-    QVERIFY(drive.open(QIODevice::WriteOnly) && drive.write(QByteArray(512, 'd')) == 512);
-    drive.close();
+    const QString standIn = writeFile(folder.filePath(u"drive"_s), QByteArray(512, 'd'));
     DriveBehindVolumes behind(standIn, driveSize);
     behind.volume = volume;
 
@@ -182,8 +181,7 @@ void tst_WineVolume::everyByteIsWrittenThroughTheVolume()
     QVERIFY2(lines.contains(u"0 验证通过"_s) == task.method().passes.constLast().verify, qPrintable(all));
 
     // The drive itself stays as it is: what is held is its volume.
-    QVERIFY(drive.open(QIODevice::ReadOnly));
-    QCOMPARE(drive.readAll(), QByteArray(512, 'd'));
+    QCOMPARE(contentOf(standIn), QByteArray(512, 'd'));
 }
 
 QUORVEX_SUITE(tst_WineVolume, QCoreApplication)

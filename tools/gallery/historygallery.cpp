@@ -1,6 +1,7 @@
 #include "gallery.h"
 #include "pageframe.h"
 
+#include "model/wipereport.h"
 #include "services/reportdatabase.h"
 #include "ui/history/historypage.h"
 

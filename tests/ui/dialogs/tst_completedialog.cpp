@@ -3,11 +3,15 @@
 
 #include "ui/style/uiresources.h"
 
+#include <QApplication>
+#include <QColor>
+#include <QDialog>
 #include <QLabel>
 #include <QLayout>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
+#include <QWidget>
 
 using namespace Qt::StringLiterals;
 

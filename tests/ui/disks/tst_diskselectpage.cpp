@@ -2,6 +2,7 @@
 #include "ui/disks/diskselectpage.h"
 
 #include "support/fakedevices.h"
+#include "support/testfiles.h"
 #include "ui/style/uiresources.h"
 
 #include <QAccessible>
@@ -17,6 +18,8 @@
 #include <QTest>
 #include <QTextDocumentFragment>
 #include <QTreeWidget>
+#include <QTreeWidgetItem>
+#include <QWidget>
 
 #include <memory>
 
@@ -535,10 +538,8 @@ void tst_DiskSelectPage::aVanishedDiskIsNoLongerOffered()
 void tst_DiskSelectPage::imageFilesAppearAsDrives()
 {
     const QTemporaryDir folder;
-    QFile image(folder.filePath(u"drive.img"_s));
-    QVERIFY(image.open(QIODevice::WriteOnly) && image.resize(1 << 20));
-    image.close();
-    const std::unique_ptr<platform::Platform> images = platform::createPlatform({{image.fileName()}, true});
+    const QString image = writeZeros(folder.filePath(u"drive.img"_s), 1 << 20);
+    const std::unique_ptr<platform::Platform> images = platform::createPlatform({{image}, true});
     const platform::ScopedPlatform scope(*images);
     const Shown shown;
     QCOMPARE(shown.tree.topLevelItemCount(), 1);

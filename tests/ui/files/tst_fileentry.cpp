@@ -2,7 +2,9 @@
 #include "ui/files/fileentry.h"
 
 #include "support/links.h"
+#include "support/testfiles.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
@@ -46,13 +48,7 @@ private slots:
 
 private:
     QString path(const QString &name) const { return m_folder->filePath(name); }
-    void write(const QString &name, qint64 size) const
-    {
-        QVERIFY(QFileInfo(path(name)).dir().mkpath(u"."_s));
-        QFile file(path(name));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        QCOMPARE(file.write(QByteArray(size, 'x')), size);
-    }
+    void write(const QString &name, qint64 size) const { writeFile(path(name), QByteArray(size, 'x')); }
 
     std::unique_ptr<QTemporaryDir> m_folder;
 };

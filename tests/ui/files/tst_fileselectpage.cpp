@@ -2,15 +2,16 @@
 #include "ui/files/fileselectpage.h"
 
 #include "support/scriptedprompts.h"
+#include "support/testfiles.h"
 
 #include <QAccessible>
 #include <QApplication>
 #include <QDir>
 #include <QDragEnterEvent>
-#include <QFile>
 #include <QLabel>
 #include <QLayout>
 #include <QListWidget>
+#include <QMessageBox>
 #include <QMimeData>
 #include <QProgressBar>
 #include <QPushButton>
@@ -20,6 +21,7 @@
 #include <QTest>
 #include <QTextDocumentFragment>
 #include <QUrl>
+#include <QWidget>
 
 #include <memory>
 
@@ -183,11 +185,7 @@ private:
     QString path(const QString &name) const { return m_folder->filePath(name); }
     QString written(const QString &name, qint64 size = 1) const
     {
-        QFile file(path(name));
-        if (!QFileInfo(file.fileName()).dir().mkpath(u"."_s) || !file.open(QIODevice::WriteOnly) ||
-            file.write(QByteArray(size, 'x')) != size)
-            qFatal("cannot write a file to add");
-        return file.fileName();
+        return writeFile(path(name), QByteArray(size, 'x'));
     }
     static void add(FileSelectPage &page, const QStringList &paths)
     {

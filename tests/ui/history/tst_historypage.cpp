@@ -1,27 +1,32 @@
 #include "support/suite.h"
 #include "ui/history/historypage.h"
 
-#include "model/filledreport.h"
+#include "model/wipereport.h"
 #include "services/reportdatabase.h"
+#include "support/filledreport.h"
 #include "support/scriptedprompts.h"
+#include "support/testfiles.h"
+#include "support/userdata.h"
 
 #include <QApplication>
 #include <QComboBox>
-#include <QDir>
-#include <QFile>
+#include <QDate>
+#include <QDateTime>
 #include <QFileInfo>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLayout>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QSqlDatabase>
 #include <QSqlQuery>
-#include <QStandardPaths>
 #include <QTableWidget>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTextDocumentFragment>
+#include <QTime>
+#include <QWidget>
 
 #include <memory>
 #include <optional>
@@ -160,15 +165,10 @@ void tst_HistoryPage::init()
 {
     m_folder = std::make_unique<QTemporaryDir>();
     QVERIFY(m_folder->isValid());
-    qputenv("XDG_DATA_HOME", QFile::encodeName(m_folder->path()));
-    const QString folder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
-#ifdef Q_OS_WIN
+    userdata::moveTo(m_folder->path());
     // Never the reports of the user of this account.
-    QVERIFY(folder.contains(u"/qttest/"_s));
-    QDir(folder).removeRecursively();
-#else
-    QVERIFY(folder.startsWith(m_folder->path()));
-#endif
+    QVERIFY(userdata::isOfTests());
+    userdata::clear();
     QVERIFY(database().initialize());
 }
 
@@ -616,9 +616,7 @@ void tst_HistoryPage::theRealRendererWritesAPdf()
     shown.clickRow(0);
     shown.click(shown.exportPdf);
     QCOMPARE(prompts.boxes.first().title, u"导出成功"_s);
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QCOMPARE(file.read(5), "%PDF-");
+    QVERIFY(contentOf(path).startsWith("%PDF-"));
 }
 
 void tst_HistoryPage::deletingAsksFirst()
@@ -708,13 +706,9 @@ void tst_HistoryPage::clearingRemovesWhatIsLoaded()
 
 static int runSuite(int argc, char *argv[])
 {
-#ifdef Q_OS_WIN
-    // What the variable of init() is elsewhere: the folders of Windows come from the registry.
-    QStandardPaths::setTestModeEnabled(true);
-#endif
+    userdata::hide();
     const QApplication application(argc, argv);
-    QCoreApplication::setApplicationName(u"Quorvex"_s);
-    QCoreApplication::setOrganizationName(u"Veltrano"_s);
+    userdata::useProgramIdentity();
     tst_HistoryPage test;
     return QTest::qExec(&test, argc, argv);
 }

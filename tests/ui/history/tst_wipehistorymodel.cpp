@@ -1,9 +1,10 @@
+#include "model/wipereport.h"
+#include "support/filledreport.h"
 #include "support/suite.h"
 #include "ui/history/wipehistorymodel.h"
 
-#include "model/filledreport.h"
-
 #include <QAbstractItemModelTester>
+#include <QApplication>
 #include <QColor>
 #include <QSignalSpy>
 #include <QStandardItemModel>

@@ -4,12 +4,17 @@
 #include "ui/style/uiresources.h"
 
 #include <QAccessible>
+#include <QApplication>
 #include <QFrame>
+#include <QImage>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLayout>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
+#include <QVBoxLayout>
+#include <QWidget>
 
 #include <memory>
 

@@ -4,10 +4,12 @@
 #include "ui/home/featurecard.h"
 #include "ui/style/uiresources.h"
 
+#include <QApplication>
 #include <QLabel>
 #include <QLayout>
 #include <QSignalSpy>
 #include <QTest>
+#include <QWidget>
 
 using namespace Qt::StringLiterals;
 

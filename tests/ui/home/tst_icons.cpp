@@ -1,6 +1,8 @@
 #include "support/suite.h"
 #include "ui/style/uiresources.h"
 
+#include <QApplication>
+#include <QColor>
 #include <QFile>
 #include <QIcon>
 #include <QImage>

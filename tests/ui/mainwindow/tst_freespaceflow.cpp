@@ -1,11 +1,18 @@
 #include "support/suite.h"
 #include "ui/mainwindow/windowfixture.h"
 
+#include "model/wipereport.h"
 #include "support/fakedevices.h"
 #include "support/loopmount.h"
 #include "support/onlythisdrive.h"
+#include "support/testfiles.h"
 #include "ui/home/featurecard.h"
+#include "ui/mainwindow/mainwindow.h"
 
+#include <QApplication>
+#include <QDir>
+#include <QTemporaryDir>
+#include <QTest>
 #include <QTreeWidget>
 
 using namespace Qt::StringLiterals;
@@ -76,7 +83,7 @@ void tst_FreeSpaceFlow::freeSpaceIsErasedAndFilesStay()
     const LoopMount volume(folder.path(), {.fileSystem = LoopMount::Ext4, .sizeBytes = Size});
     QVERIFY2(volume.isReady(), qPrintable(volume.error()));
     const QString kept = volume.mountPoint() + u"/letters/kept.txt"_s;
-    QVERIFY(writeTestFile(kept, "stays"));
+    writeFile(kept, "stays");
     const QStringList before = QDir(volume.mountPoint()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot);
 
     WindowFixture fixture(std::make_unique<Machine>(volume));
@@ -91,10 +98,10 @@ void tst_FreeSpaceFlow::freeSpaceIsErasedAndFilesStay()
     QCOMPARE(report.status, WipeStatus::Completed);
     QCOMPARE(report.disk.sizeBytes, quint64(Size));
     QVERIFY2(report.bytesWritten > quint64(Size) / 4, qPrintable(QString::number(report.bytesWritten)));
-    QCOMPARE(contentOfTestFile(kept), QByteArray("stays"));
+    QCOMPARE(contentOf(kept), QByteArray("stays"));
     QCOMPARE(QDir(volume.mountPoint()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), before);
     const QString pdf = exports.filePath(report.certificateId + u".pdf"_s);
-    QVERIFY(contentOfTestFile(pdf).startsWith("%PDF-"));
+    QVERIFY(contentOf(pdf).startsWith("%PDF-"));
 }
 
 void tst_FreeSpaceFlow::aVolumeThatIsGoneFailsTheJob()

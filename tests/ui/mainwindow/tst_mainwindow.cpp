@@ -4,8 +4,14 @@
 #include "ui/home/featurecard.h"
 #include "ui/titlebar/winbutton.h"
 
+#include <QApplication>
+#include <QLabel>
+#include <QListWidget>
 #include <QMouseEvent>
 #include <QSignalSpy>
+#include <QStackedWidget>
+#include <QTest>
+#include <QWidget>
 
 using namespace Qt::StringLiterals;
 

@@ -1,11 +1,21 @@
 #include "support/suite.h"
+#include "support/testfiles.h"
+#include "ui/mainwindow/mainwindow.h"
 #include "ui/mainwindow/windowfixture.h"
 
 #include "ui/files/fileselectpage.h"
 
+#include <QApplication>
+#include <QDir>
 #include <QDropEvent>
+#include <QFile>
+#include <QLabel>
+#include <QListWidget>
+#include <QMessageBox>
 #include <QMimeData>
 #include <QScrollBar>
+#include <QStackedWidget>
+#include <QTest>
 #include <QTextEdit>
 #include <QUrl>
 
@@ -63,9 +73,9 @@ void tst_RecycleBinFlow::addTrash(const WindowFixture &fixture, int count)
     QVERIFY(QDir().mkpath(trash(fixture, u"info"_s)));
     for (int i = 0; i < count; ++i) {
         const QString name = u"file%1.txt"_s.arg(i, 3, 10, QChar(u'0'));
-        QVERIFY(writeTestFile(trash(fixture, u"files/"_s + name), "deleted"));
-        QVERIFY(writeTestFile(trash(fixture, u"info/"_s + name + u".trashinfo"_s),
-                              "[Trash Info]\nPath=/tmp/" + name.toUtf8() + "\n"));
+        writeFile(trash(fixture, u"files/"_s + name), "deleted");
+        writeFile(trash(fixture, u"info/"_s + name + u".trashinfo"_s),
+                  "[Trash Info]\nPath=/tmp/" + name.toUtf8() + "\n");
     }
 }
 
@@ -173,7 +183,7 @@ void tst_RecycleBinFlow::anotherFlowLeavesTheBin()
     WindowFixture fixture;
     addTrash(fixture, 3);
     const QString chosen = fixture.homePath(u"chosen.txt"_s);
-    QVERIFY(writeTestFile(chosen, "chosen"));
+    writeFile(chosen, "chosen");
     fixture.window->onRecycleBinWipeClicked();
     QTRY_VERIFY(fixture.button(u"Next →"_s)->isEnabled());
     fixture.window->onMenuItemClicked(0);
@@ -205,15 +215,15 @@ void tst_RecycleBinFlow::namesOfErasedFoldersLeaveTheRecords()
 {
     WindowFixture fixture;
     QVERIFY(QDir().mkpath(trash(fixture, u"info"_s)));
-    QVERIFY(writeTestFile(trash(fixture, u"files/project/plan.txt"_s), "plan"));
-    QVERIFY(writeTestFile(trash(fixture, u"info/project.trashinfo"_s), "[Trash Info]\nPath=/tmp/project\n"));
-    QVERIFY(writeTestFile(trash(fixture, u"directorysizes"_s), "4 1700000000 project\n"));
+    writeFile(trash(fixture, u"files/project/plan.txt"_s), "plan");
+    writeFile(trash(fixture, u"info/project.trashinfo"_s), "[Trash Info]\nPath=/tmp/project\n");
+    writeFile(trash(fixture, u"directorysizes"_s), "4 1700000000 project\n");
     fixture.window->onRecycleBinWipeClicked();
     QTRY_VERIFY(fixture.button(u"Next →"_s)->isEnabled());
     QVERIFY(fixture.click(u"Next →"_s));
     fixture.prompts.buttons = {QMessageBox::No};
     fixture.runJob();
-    QVERIFY(!contentOfTestFile(trash(fixture, u"directorysizes"_s)).contains("project"));
+    QVERIFY(!contentOf(trash(fixture, u"directorysizes"_s)).contains("project"));
 }
 
 void tst_RecycleBinFlow::aNameThatIsNoUnicodeIsErasedToo()

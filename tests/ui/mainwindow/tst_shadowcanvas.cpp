@@ -1,8 +1,12 @@
 #include "support/suite.h"
 #include "ui/mainwindow/shadowcanvas.h"
 
+#include <QApplication>
+#include <QColor>
+#include <QImage>
 #include <QTest>
 #include <QVBoxLayout>
+#include <QWidget>
 
 // The shadow behind the window's box.
 class tst_ShadowCanvas : public QObject

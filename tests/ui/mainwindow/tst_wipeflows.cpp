@@ -1,6 +1,10 @@
 #include "certificate/pdfreader.h"
+#include "model/wipereport.h"
+#include "services/reportdatabase.h"
 #include "support/links.h"
 #include "support/suite.h"
+#include "support/testfiles.h"
+#include "ui/mainwindow/mainwindow.h"
 #include "ui/mainwindow/windowfixture.h"
 
 #include "certificate/certificatedialog.h"
@@ -8,8 +12,18 @@
 #include "ui/dialogs/completedialog.h"
 #include "ui/dialogs/confirmdialog.h"
 
+#include <QApplication>
+#include <QDialog>
+#include <QDir>
+#include <QFile>
+#include <QLabel>
+#include <QListWidget>
+#include <QMessageBox>
+#include <QPushButton>
 #include <QSignalSpy>
 #include <QTableWidget>
+#include <QTemporaryDir>
+#include <QTest>
 #include <QTextEdit>
 #include <QTreeWidget>
 
@@ -45,9 +59,7 @@ private slots:
 private:
     QString image(const QString &name = u"disk.img"_s, qsizetype size = 4 << 20)
     {
-        const QString path = m_folder.filePath(name);
-        [&] { QVERIFY(writeTestFile(path, QByteArray(size, 'x'))); }();
-        return path;
+        return writeFile(m_folder.filePath(name), QByteArray(size, 'x'));
     }
 
     QTemporaryDir m_folder;
@@ -86,13 +98,7 @@ bool isJobRunning(const WindowFixture &fixture)
 // A file that takes a while.
 QString longFile(const QTemporaryDir &folder)
 {
-    const QString path = folder.filePath(u"long.bin"_s);
-    QFile file(path);
-    [&] {
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        QVERIFY(file.resize(qint64(256) << 20));
-    }();
-    return path;
+    return writeZeros(folder.filePath(u"long.bin"_s), qint64(256) << 20);
 }
 
 void startLongJob(WindowFixture &fixture, const QTemporaryDir &folder)
@@ -112,7 +118,7 @@ void tst_WipeFlows::aDiskIsErasedAndItsReportKept()
     WindowFixture fixture({path});
     chooseDisk(fixture);
     fixture.runJob();
-    QCOMPARE(contentOfTestFile(path), QByteArray(4 << 20, '\0'));
+    QCOMPARE(contentOf(path), QByteArray(4 << 20, '\0'));
     const QList<WipeReport> reports = fixture.reports();
     QCOMPARE(reports.size(), 1);
     QCOMPARE(reports.constFirst().status, WipeStatus::Completed);
@@ -126,7 +132,7 @@ void tst_WipeFlows::aDiskIsErasedAndItsReportKept()
 void tst_WipeFlows::filesAreErased()
 {
     const QString one = m_folder.filePath(u"one.txt"_s);
-    QVERIFY(writeTestFile(one, "one"));
+    writeFile(one, "one");
     WindowFixture fixture;
     chooseFiles(fixture, {one});
     fixture.runJob();
@@ -138,14 +144,14 @@ void tst_WipeFlows::filesAreErased()
 void tst_WipeFlows::cancellingTheConfirmationStartsNothing()
 {
     const QString one = m_folder.filePath(u"one.txt"_s);
-    QVERIFY(writeTestFile(one, "one"));
+    writeFile(one, "one");
     WindowFixture fixture;
     chooseFiles(fixture, {one});
     fixture.dialogs.answers = {WindowFixture::pressButton(u"Cancel"_s)};
     QVERIFY(fixture.click(u"Start"_s));
     QCOMPARE(fixture.window->currentPage(), int(MainWindow::MethodSelect));
     QVERIFY(!isJobRunning(fixture));
-    QCOMPARE(contentOfTestFile(one), QByteArray("one"));
+    QCOMPARE(contentOf(one), QByteArray("one"));
 }
 
 void tst_WipeFlows::theMenuIsDisabledWhileAJobRuns()
@@ -273,7 +279,7 @@ void tst_WipeFlows::theCertificateIsExportedWhenWanted()
     QCOMPARE(fixture.reports().size(), 1);
     const QString pdf = fixture.reports().constFirst().certificateId + u".pdf"_s;
     QCOMPARE(QDir(exports.path()).entryList(QDir::Files), QStringList{pdf});
-    QVERIFY(contentOfTestFile(exports.filePath(pdf)).startsWith("%PDF-"));
+    QVERIFY(contentOf(exports.filePath(pdf)).startsWith("%PDF-"));
     QCOMPARE(fixture.prompts.boxes.size(), 0);
 }
 
@@ -405,7 +411,7 @@ void tst_WipeFlows::aReportThatIsNotThereHasNoCertificate()
 void tst_WipeFlows::comingBackDoesNotDoubleTheFiles()
 {
     const QString one = m_folder.filePath(u"one.txt"_s);
-    QVERIFY(writeTestFile(one, "one"));
+    writeFile(one, "one");
     WindowFixture fixture;
     chooseFiles(fixture, {one});
     QVERIFY(fixture.click(u"← 返回"_s));

@@ -1,12 +1,15 @@
 #include "support/suite.h"
 #include "ui/methods/methodcard.h"
 
+#include <QApplication>
+#include <QColor>
 #include <QImage>
 #include <QLabel>
 #include <QLayout>
 #include <QRadioButton>
 #include <QSignalSpy>
 #include <QTest>
+#include <QWidget>
 
 using namespace Qt::StringLiterals;
 

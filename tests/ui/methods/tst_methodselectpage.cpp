@@ -3,7 +3,9 @@
 
 #include "ui/methods/methodcard.h"
 
+#include <QApplication>
 #include <QButtonGroup>
+#include <QColor>
 #include <QLabel>
 #include <QLayout>
 #include <QPushButton>
@@ -11,6 +13,7 @@
 #include <QScrollArea>
 #include <QSignalSpy>
 #include <QTest>
+#include <QWidget>
 
 using namespace Qt::StringLiterals;
 

@@ -2,9 +2,11 @@
 #include "ui/progress/logwidget.h"
 
 #include "support/scriptedprompts.h"
+#include "support/testfiles.h"
 
 #include <QApplication>
 #include <QClipboard>
+#include <QColor>
 #include <QDateTime>
 #include <QFile>
 #include <QLayout>
@@ -52,12 +54,6 @@ private:
         }
         QFAIL("no such button");
     }
-    static QByteArray contentOf(const QString &path)
-    {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly | QIODevice::Text) ? file.readAll() : "(unreadable)";
-    }
-
     std::unique_ptr<LogWidget> m_log;
 };
 
@@ -183,7 +179,7 @@ void tst_LogWidget::saveWritesPlainText()
     m_log->addInfo(u"擦除 <完成>"_s);
     m_log->addError(u"second"_s);
     press(u"保存日志"_s);
-    QCOMPARE(QString::fromUtf8(contentOf(path)), text());
+    QCOMPARE(QString::fromUtf8(textOf(path)), text());
     QVERIFY(prompts.boxes.isEmpty());
 }
 
@@ -191,15 +187,12 @@ void tst_LogWidget::saveReplacesWhatTheFileHeld()
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"log.txt"_s);
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(QByteArray(5000, 'x'));
-    file.close();
+    writeFile(path, QByteArray(5000, 'x'));
     ScriptedPrompts prompts;
     prompts.filesToSaveAnswers = {path};
     m_log->addInfo(u"short"_s);
     press(u"保存日志"_s);
-    QCOMPARE(QString::fromUtf8(contentOf(path)), text());
+    QCOMPARE(QString::fromUtf8(textOf(path)), text());
 }
 
 void tst_LogWidget::cancelledSaveWritesNothing()

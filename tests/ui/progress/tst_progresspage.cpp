@@ -1,9 +1,12 @@
 #include "support/suite.h"
 #include "ui/progress/progresspage.h"
 
+#include <QApplication>
+#include <QColor>
 #include <QLabel>
 #include <QLayout>
 #include <QMetaMethod>
+#include <QMetaObject>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRegularExpression>
@@ -11,7 +14,9 @@
 #include <QSignalSpy>
 #include <QTest>
 #include <QTextEdit>
+#include <QTime>
 #include <QTimer>
+#include <QWidget>
 
 using namespace Qt::StringLiterals;
 

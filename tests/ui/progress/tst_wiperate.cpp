@@ -1,6 +1,7 @@
 #include "support/suite.h"
 #include "ui/progress/wiperate.h"
 
+#include <QApplication>
 #include <QLocale>
 #include <QTest>
 

@@ -3,16 +3,20 @@
 
 #include "support/scriptedprompts.h"
 #include "support/temporarysettings.h"
+#include "support/testfiles.h"
 
+#include <QApplication>
 #include <QCheckBox>
-#include <QFile>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLayout>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QSettings>
 #include <QTest>
+#include <QWidget>
 
 using namespace Qt::StringLiterals;
 
@@ -48,8 +52,7 @@ struct Shown
 
 QString store(const TemporarySettings &settings)
 {
-    QFile file(settings.path());
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+    return QString::fromUtf8(contentIfAny(settings.path()));
 }
 
 } // namespace
@@ -247,8 +250,7 @@ void tst_SettingsPage::otherSettingsStay()
 void tst_SettingsPage::settingsThatCannotBeSavedAreToldSo()
 {
     const TemporarySettings settings;
-    QFile notAFolder(settings.path());
-    QVERIFY(notAFolder.open(QIODevice::WriteOnly));
+    writeFile(settings.path(), {}); // no folder
     const usersettings::ScopedStore unwritable{[path = settings.path() + u"/settings.ini"_s] {
         return std::make_unique<QSettings>(path, QSettings::IniFormat);
     }};

@@ -4,13 +4,14 @@
 #include "services/applog.h"
 #include "services/translations.h"
 #include "support/messagecapture.h"
+#include "support/userdata.h"
 
 #include <QCoreApplication>
 #include <QFile>
 #include <QProcess>
+#include <QProcessEnvironment>
 #include <QRegularExpression>
 #include <QSettings>
-#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTranslator>
@@ -261,9 +262,7 @@ void tst_StartupLanguage::aRefusedInstallationIsTold()
 
 static int runSuite(int argc, char *argv[])
 {
-#ifdef Q_OS_WIN
-    QStandardPaths::setTestModeEnabled(true); // the folders of Windows come from the registry
-#endif
+    userdata::hide();
     if (argc > 3 && qstrcmp(argv[1], "--choose") == 0)
         return choose(argc, argv);
     QCoreApplication application(argc, argv);

@@ -1,4 +1,5 @@
 #include "support/suite.h"
+#include "support/testfiles.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -7,7 +8,9 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QJsonValue>
 #include <QProcess>
+#include <QProcessEnvironment>
 #include <QRegularExpression>
 #include <QSettings>
 #include <QTemporaryDir>
@@ -34,12 +37,6 @@ QStringList withoutTimes(const QByteArray &text)
     return lines;
 }
 
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 } // namespace
 
 // The program itself, from its start to its end, in a home of its own and without real drives.
@@ -62,8 +59,11 @@ private slots:
 private:
     QString home(const QString &name) const { return m_home->filePath(name); }
     QString settingsFile() const { return home(u"config/Veltrano/Quorvex.conf"_s); }
-    QStringList log() const { return withoutTimes(contentOf(home(u"data/Veltrano/Quorvex/quorvex.log"_s))); }
-    QStringList output() const { return withoutTimes(contentOf(home(u"output"_s))); }
+    QStringList log() const
+    {
+        return withoutTimes(contentIfAny(home(u"data/Veltrano/Quorvex/quorvex.log"_s)));
+    }
+    QStringList output() const { return withoutTimes(contentIfAny(home(u"output"_s))); }
     QString stored() const;
     void store(const QString &language) const;
     QJsonObject runNumber(int number) const;
@@ -114,15 +114,12 @@ void tst_StartupProgram::store(const QString &language) const
 // What the program's window was like in that run; empty before it was shown.
 QJsonObject tst_StartupProgram::runNumber(int number) const
 {
-    return QJsonDocument::fromJson(contentOf(home(u"driver/run%1.json"_s.arg(number)))).object();
+    return QJsonDocument::fromJson(contentIfAny(home(u"driver/run%1.json"_s.arg(number)))).object();
 }
 
 void tst_StartupProgram::prepare(const QStringList &steps)
 {
-    QFile file(home(u"driver/steps"_s));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(steps.join(u'\n').toUtf8());
-    file.close();
+    writeFile(home(u"driver/steps"_s), steps.join(u'\n').toUtf8());
 
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(u"HOME"_s, m_home->path());
@@ -264,8 +261,7 @@ void tst_StartupProgram::argumentsMeanNothing()
 
 void tst_StartupProgram::startsWithoutADataFolder()
 {
-    QFile obstacle(home(u"data"_s));
-    QVERIFY(obstacle.open(QIODevice::WriteOnly));
+    writeFile(home(u"data"_s), {}); // in the way
     start({u"close"_s});
     QVERIFY(ends());
     QCOMPARE(runNumber(1).value(u"windows").toArray(), QJsonArray{u"MainWindow"_s});

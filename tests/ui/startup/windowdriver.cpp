@@ -1,6 +1,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QDir>
+#include <QFile>
 #include <QFont>
 #include <QGenericPlugin>
 #include <QJsonArray>
@@ -11,6 +12,7 @@
 #include <QPushButton>
 #include <QSaveFile>
 #include <QTimer>
+#include <QWidget>
 
 #include <chrono>
 #include <cstdlib>

@@ -4,10 +4,14 @@
 #include "ui/style/uiresources.h"
 
 #include "support/messagecapture.h"
+#include "support/testfiles.h"
 
+#include <QApplication>
 #include <QCheckBox>
+#include <QColor>
 #include <QComboBox>
 #include <QFile>
+#include <QImage>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -15,6 +19,7 @@
 #include <QTableWidget>
 #include <QTest>
 #include <QVBoxLayout>
+#include <QWidget>
 
 using namespace Qt::StringLiterals;
 
@@ -22,8 +27,7 @@ namespace {
 
 QString sheet()
 {
-    QFile file(u":/styles/style.qss"_s);
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+    return QString::fromUtf8(contentOf(u":/styles/style.qss"_s));
 }
 
 // The texts between url( and ).

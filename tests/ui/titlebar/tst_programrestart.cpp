@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QRegularExpression>
 #include <QTest>
 #include <QTimer>
 #include <QWidget>

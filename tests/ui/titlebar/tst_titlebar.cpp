@@ -7,12 +7,18 @@
 #include "ui/style/uiresources.h"
 #include "ui/titlebar/winbutton.h"
 
+#include <QAction>
 #include <QActionGroup>
+#include <QApplication>
+#include <QColor>
+#include <QImage>
 #include <QLabel>
 #include <QLayout>
 #include <QMenu>
+#include <QMessageBox>
 #include <QSignalSpy>
 #include <QTest>
+#include <QWidget>
 
 using namespace Qt::StringLiterals;
 

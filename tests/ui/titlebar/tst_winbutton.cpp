@@ -1,9 +1,13 @@
 #include "support/suite.h"
 #include "ui/titlebar/winbutton.h"
 
+#include <QApplication>
+#include <QColor>
 #include <QImage>
+#include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
+#include <QWidget>
 
 using namespace Qt::StringLiterals;
 

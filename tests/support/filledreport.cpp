@@ -1,12 +1,12 @@
-#pragma once
+#include "support/filledreport.h"
 
-#include "model/wipereport.h"
-
-#include <QByteArray>
+#include <QDate>
+#include <QDateTime>
+#include <QTime>
 
 #include <limits>
 
-inline DiskInfo filledDisk()
+DiskInfo filledDisk()
 {
     using namespace Qt::StringLiterals;
 
@@ -33,8 +33,7 @@ inline DiskInfo filledDisk()
     return disk;
 }
 
-/// A report with every field set.
-inline WipeReport filledReport()
+WipeReport filledReport()
 {
     using namespace Qt::StringLiterals;
 
@@ -64,9 +63,7 @@ inline WipeReport filledReport()
     return report;
 }
 
-/// The JSON text of filledReport(). It stands apart from the suites, since moc loses its way in a raw string
-/// of many lines.
-inline const QByteArray filledText = R"({
+const QByteArray filledText = R"({
     "certificateId": "QVX-2026-0305-4821",
     "operationType": 0,
     "methodName": "DoD 5220.22-M",

@@ -1,0 +1,7 @@
+#pragma once
+
+#include <QString>
+
+// Sets or takes back the flag with which nobody, root included, changes or removes a file. False where that
+// cannot be done.
+bool setImmutable(const QString &path, bool immutable);

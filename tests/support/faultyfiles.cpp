@@ -1,0 +1,123 @@
+#include "support/faultyfiles.h"
+
+namespace {
+
+// A handle whose calls fail as planned; whatever does not fail reaches the real one.
+class FaultyFileHandle : public platform::ForwardingFileHandle
+{
+public:
+    FaultyFileHandle(std::unique_ptr<platform::FileHandle> target, FaultPlan &plan)
+        : ForwardingFileHandle(std::move(target))
+        , m_plan(plan)
+    {}
+    platform::Status seek(qint64 position) override
+    {
+        return m_plan.fires(FaultPlan::Seek) ? m_plan.status() : ForwardingFileHandle::seek(position);
+    }
+    platform::Result<qint64> read(void *data, qint64 size) override
+    {
+        if (m_plan.fires(FaultPlan::Read))
+            return m_plan.status();
+        return ForwardingFileHandle::read(data, size);
+    }
+    // Nothing of a write that fails is written.
+    platform::Result<qint64> write(const void *data, qint64 size) override
+    {
+        if (m_plan.fires(FaultPlan::Write))
+            return m_plan.status();
+        return ForwardingFileHandle::write(data, size);
+    }
+    platform::Status setEnd() override
+    {
+        return m_plan.fires(FaultPlan::SetEnd) ? m_plan.status() : ForwardingFileHandle::setEnd();
+    }
+    platform::Status flush() override
+    {
+        return m_plan.fires(FaultPlan::Flush) ? m_plan.status() : ForwardingFileHandle::flush();
+    }
+
+private:
+    FaultPlan &m_plan;
+};
+
+} // namespace
+
+platform::Result<platform::FileInfo> FaultyFiles::info(const QString &path)
+{
+    if (fires(FaultPlan::Info, path))
+        return m_plan.status();
+    return ForwardingFiles::info(path);
+}
+
+platform::Result<std::unique_ptr<platform::FileHandle>> FaultyFiles::open(const QString &path,
+                                                                          platform::OpenMode mode)
+{
+    if (fires(FaultPlan::Open, path))
+        return m_plan.status();
+    auto handle = ForwardingFiles::open(path, mode);
+    if (!handle || !concerns(path))
+        return handle;
+    return std::unique_ptr<platform::FileHandle>(std::make_unique<FaultyFileHandle>(handle.take(), m_plan));
+}
+
+platform::Status FaultyFiles::clearReadOnly(const QString &path)
+{
+    return fires(FaultPlan::ClearReadOnly, path) ? m_plan.status() : ForwardingFiles::clearReadOnly(path);
+}
+
+platform::Status FaultyFiles::rename(const QString &from, const QString &to)
+{
+    return fires(FaultPlan::Rename, from) ? m_plan.status() : ForwardingFiles::rename(from, to);
+}
+
+platform::Status FaultyFiles::remove(const QString &path)
+{
+    return fires(FaultPlan::Remove, path) ? m_plan.status() : ForwardingFiles::remove(path);
+}
+
+bool FaultyFiles::concerns(const QString &path) const
+{
+    return !m_paths || m_paths(path);
+}
+
+bool FaultyFiles::fires(FaultPlan::Kind kind, const QString &path)
+{
+    return concerns(path) && m_plan.fires(kind);
+}
+
+platform::Status FaultyFolders::forEachEntry(const QString &folder, const Visitor &visit)
+{
+    return fires(FaultPlan::List, folder) ? m_plan.status() : ForwardingFolders::forEachEntry(folder, visit);
+}
+
+platform::Status FaultyFolders::create(const QString &folder)
+{
+    return fires(FaultPlan::CreateFolder, folder) ? m_plan.status() : ForwardingFolders::create(folder);
+}
+
+platform::Status FaultyFolders::removeEmpty(const QString &folder)
+{
+    return fires(FaultPlan::RemoveFolder, folder) ? m_plan.status() : ForwardingFolders::removeEmpty(folder);
+}
+
+platform::Status FaultyFolders::removeTree(const QString &folder)
+{
+    return fires(FaultPlan::RemoveTree, folder) ? m_plan.status() : ForwardingFolders::removeTree(folder);
+}
+
+platform::Status FaultyFolders::hide(const QString &path)
+{
+    return fires(FaultPlan::Hide, path) ? m_plan.status() : ForwardingFolders::hide(path);
+}
+
+platform::Result<platform::SpaceInfo> FaultyFolders::space(const QString &path)
+{
+    if (fires(FaultPlan::Space, path))
+        return m_plan.status();
+    return ForwardingFolders::space(path);
+}
+
+bool FaultyFolders::fires(FaultPlan::Kind kind, const QString &path)
+{
+    return (!m_paths || m_paths(path)) && m_plan.fires(kind);
+}

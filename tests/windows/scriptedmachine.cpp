@@ -1,0 +1,118 @@
+#include "windows/scriptedmachine.h"
+
+#include "support/testfiles.h"
+
+#include <QFile>
+
+namespace replies {
+
+QByteArray geometry(qint32 sector)
+{
+    return number<qint64>(130) + number<quint32>(12) + number<quint32>(255) + number<quint32>(63) +
+           number<qint32>(sector);
+}
+
+QByteArray geometryEx(qint64 size, qint32 sector)
+{
+    return geometry(sector) + number<qint64>(size) + QByteArray(8, '\0');
+}
+
+QByteArray length(qint64 bytes)
+{
+    return number<qint64>(bytes);
+}
+
+QByteArray descriptor(const QByteArray &serialNumber)
+{
+    return QByteArray::fromHex("28000000"
+                               "40000000"
+                               "00000001"
+                               "00000000"
+                               "24000000"
+                               "00000000"
+                               "2C000000"
+                               "0B000000"
+                               "00000000") +
+           QByteArray("MODEL 9\0", 8) + "  " + serialNumber + ' ' + QByteArray(1, '\0');
+}
+
+QByteArray flag(bool value)
+{
+    return number<quint32>(12) + number<quint32>(12) + char(value ? 1 : 0) + QByteArray(3, '\0');
+}
+
+QByteArray extentsHeader(quint32 count)
+{
+    return number<quint32>(count) + QByteArray(4, '\xAA');
+}
+
+QByteArray extent(qint32 disk, qint64 offset, qint64 bytes)
+{
+    return number<qint32>(disk) + QByteArray(4, '\xBB') + number<qint64>(offset) + number<qint64>(bytes);
+}
+
+} // namespace replies
+
+ScriptedMachine::ScriptedMachine()
+{
+    restoreImages();
+    faults.addDevice(drive, driveImage, DriveSize);
+    faults.addDevice(volume, volumeImage, VolumeSize);
+    describe();
+    script(drive, IOCTL_DISK_GET_DRIVE_GEOMETRY, replies::geometry(Sector));
+    script(drive, IOCTL_DISK_GET_LENGTH_INFO, replies::length(DriveSize));
+    faults.setPropertyReply(drive, StorageDeviceSeekPenaltyProperty, {0, replies::flag(true), {}});
+    faults.setPropertyReply(drive, StorageDeviceTrimProperty, {0, replies::flag(true), {}});
+    script(volume, IOCTL_DISK_GET_DRIVE_GEOMETRY, replies::geometry(Sector));
+    script(volume, IOCTL_DISK_GET_LENGTH_INFO, replies::length(VolumeSize));
+    placeVolume(Number);
+    for (const DWORD code :
+         {FSCTL_LOCK_VOLUME, FSCTL_DISMOUNT_VOLUME, FSCTL_ALLOW_EXTENDED_DASD_IO, FSCTL_UNLOCK_VOLUME})
+        script(volume, code, {});
+}
+
+void ScriptedMachine::script(const QString &path, DWORD code, const QByteArray &bytes)
+{
+    faults.setReply(path, code, {ERROR_SUCCESS, bytes, {}});
+}
+
+void ScriptedMachine::refuse(const QString &path, DWORD code, DWORD error)
+{
+    faults.setReply(path, code, {error, {}, {}});
+}
+
+void ScriptedMachine::describe(const QByteArray &serialNumber, qint64 size)
+{
+    script(drive, IOCTL_DISK_GET_DRIVE_GEOMETRY_EX, replies::geometryEx(size, Sector));
+    faults.setPropertyReply(drive, StorageDeviceProperty, {0, replies::descriptor(serialNumber), {}});
+}
+
+void ScriptedMachine::describeNothing(DWORD error)
+{
+    refuse(drive, IOCTL_DISK_GET_DRIVE_GEOMETRY_EX, error);
+    faults.setPropertyReply(drive, StorageDeviceProperty, {error, {}, {}});
+}
+
+void ScriptedMachine::placeVolume(qint32 disk)
+{
+    script(volume, IOCTL_VOLUME_GET_VOLUME_DISK_EXTENTS,
+           replies::extentsHeader(1) + replies::extent(disk, 1048576, VolumeSize));
+}
+
+QByteArray ScriptedMachine::bytes(const QString &image, qint64 offset, qint64 size)
+{
+    QFile file(image);
+    return file.open(QIODevice::ReadOnly) && file.seek(offset) ? file.read(size) : QByteArray();
+}
+
+bool ScriptedMachine::isUntouched(const QString &image)
+{
+    const QByteArray all = bytes(image, 0, 2 * DriveSize);
+    return !all.isEmpty() && all == QByteArray(all.size(), '.');
+}
+
+void ScriptedMachine::restoreImages()
+{
+    writeFile(driveImage, QByteArray(DriveSize, '.'));
+    writeFile(volumeImage, QByteArray(VolumeSize, '.'));
+}
