@@ -1,5 +1,5 @@
 #include "pages.h"
-#include "pdfreader.h"
+#include "support/pdfreader.h"
 #include "support/suite.h"
 
 #include "certificate/certificatedialog.h"

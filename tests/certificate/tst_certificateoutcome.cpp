@@ -1,6 +1,6 @@
 #include "pages.h"
-#include "pdfreader.h"
 #include "recordingdevice.h"
+#include "support/pdfreader.h"
 #include "support/suite.h"
 
 #include "certificate/certificatedialog.h"

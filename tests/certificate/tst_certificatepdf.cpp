@@ -1,6 +1,6 @@
 #include "model/wipereport.h"
 #include "pages.h"
-#include "pdfreader.h"
+#include "support/pdfreader.h"
 #include "support/suite.h"
 #include "support/testfiles.h"
 

@@ -1,8 +1,8 @@
-#include "certificate/pdfreader.h"
 #include "cli/memorymachine.h"
 #include "cli/runcli.h"
 #include "cli/testio.h"
 #include "support/interposeddevices.h"
+#include "support/pdfreader.h"
 #include "support/suite.h"
 #include "support/testfiles.h"
 

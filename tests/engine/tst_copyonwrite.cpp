@@ -121,7 +121,7 @@ void tst_CopyOnWrite::theJobIsForeseenToFallShort()
     const LoopMount volume(folder.path(), {.fileSystem = LoopMount::Btrfs});
     QVERIFY2(volume.isReady(), qPrintable(volume.error()));
     const QString file = volume.mountPoint() + QStringLiteral("/a");
-    makeFile(file);
+    writeFile(file, "secret");
     WipeTask task;
     task.setFiles({file});
     const QList<Shortfall> told{{ShortfallKind::ContentElsewhere, QStringLiteral("btrfs")}};

@@ -60,10 +60,7 @@ public:
     QString problem() const { return m_problem; }
 
     // Whether the places are those that root mounts, not those that everybody can write to.
-    static bool areMounted()
-    {
-        return qEnvironmentVariableIsSet("QUORVEX_TEST_MOUNTED_PLACES");
-    }
+    static bool areMounted() { return qEnvironmentVariableIsSet("QUORVEX_TEST_MOUNTED_PLACES"); }
 
     static QStringList names();
 

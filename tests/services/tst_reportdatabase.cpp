@@ -849,7 +849,7 @@ void tst_ReportDatabase::anEarlierFileOnAReadOnlyVolumeIsRead()
 {
     if (const QString reason = MemoryVolume::unavailableReason(); !reason.isEmpty())
         QSKIP(qPrintable(reason));
-    MemoryVolume volume(dataFolder(), u"size=4m"_s);
+    MemoryVolume volume(userdata::folder(), u"size=4m"_s);
     QVERIFY(volume.isMounted());
     QVERIFY(database().initialize());
     QVERIFY(database().saveReport(reportOf(u"old"_s)));

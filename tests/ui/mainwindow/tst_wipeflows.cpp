@@ -1,7 +1,7 @@
-#include "certificate/pdfreader.h"
 #include "model/wipereport.h"
 #include "services/reportdatabase.h"
 #include "support/links.h"
+#include "support/pdfreader.h"
 #include "support/suite.h"
 #include "support/testfiles.h"
 #include "ui/mainwindow/mainwindow.h"
@@ -317,7 +317,7 @@ void tst_WipeFlows::aPartialJobIsToldAsSuchEverywhere()
     QCOMPARE(shown, outcome->fullSummary());
     const auto *table = fixture.window->findChild<QTableWidget *>(u"historyTable"_s);
     QVERIFY(!table->item(0, 0)->icon().isNull());
-    const QString paper = PdfReader(contentOfTestFile(exports.filePath(id + u".pdf"_s))).text();
+    const QString paper = PdfReader(contentOf(exports.filePath(id + u".pdf"_s))).text();
     QVERIFY2(QString(paper).remove(u' ').contains(u"Partlyerased:"_s), qPrintable(paper));
 }
 

@@ -1,4 +1,4 @@
-#include "certificate/pdfreader.h"
+#include "support/pdfreader.h"
 
 #include <QRegularExpression>
 #include <QtEndian>
