@@ -316,14 +316,14 @@ std::optional<OutcomeRecord> OutcomeRecord::fromJson(const QByteArray &json)
     OutcomeRecord record;
     for (const QString &key : {u"shortfalls"_s, u"notes"_s}) {
         const QJsonArray entries = object.value(key).toArray();
-        for (const QJsonValue &entry : entries) {
+        for (const QJsonValue entry : entries) {
             if (const auto kind = kindFromName(entry[u"kind"_s].toString()))
                 record.note({*kind, entry[u"place"_s].toString(), amount(entry[u"bytes"_s]),
                              amount(entry[u"count"_s])});
         }
     }
     const QJsonArray further = object.value(u"further"_s).toArray();
-    for (const QJsonValue &entry : further) {
+    for (const QJsonValue entry : further) {
         const auto kind = kindFromName(entry[u"kind"_s].toString());
         const qint64 places = amount(entry[u"places"_s]);
         // Without a place that is kept there is none that is only counted.
