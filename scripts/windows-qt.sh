@@ -18,12 +18,10 @@ options=(
     # Pictures that no page shows. (Without Direct2D there would be no DirectWrite, whose fonts the program is drawn with.)
     -DFEATURE_gif=OFF
     -DFEATURE_jpeg=OFF
-    # Widgets and dialogs that the program has none of.
-    -DFEATURE_calendarwidget=OFF
+    # Widgets and dialogs that the program has none of. (The print dialog asks dates.)
     -DFEATURE_colordialog=OFF
     -DFEATURE_columnview=OFF
     -DFEATURE_datawidgetmapper=OFF
-    -DFEATURE_datetimeedit=OFF
     -DFEATURE_dial=OFF
     -DFEATURE_dockwidget=OFF
     -DFEATURE_errormessage=OFF
@@ -67,6 +65,9 @@ build_windows_qt() {
         plugins/{platforms/qwindows,platforms/qoffscreen,sqldrivers/qsqlite}.dll; do
         [[ -e $work/stage$prefix/$file ]] || fail "the build of Qt left no $file"
     done
+    # A feature goes without a word where one that it needs is switched off.
+    grep -q 'QT_FEATURE_printdialog 1' "$work/stage$prefix/include/QtPrintSupport/qtprintsupport-config.h" ||
+        fail "Qt was built without a print dialog"
 }
 
 install_packages "${packages_qt_source[@]}" "${packages_windows[@]}"

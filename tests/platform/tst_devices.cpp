@@ -3,6 +3,7 @@
 #include "platform/platform.h"
 #include "platform/storagereplies.h"
 #include "support/suite.h"
+#include "support/testfiles.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -15,7 +16,6 @@
 
 #ifdef Q_OS_LINUX
 #include "support/loopmount.h"
-#include "support/testfiles.h"
 #endif
 
 using namespace platform;
