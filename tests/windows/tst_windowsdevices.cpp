@@ -421,6 +421,7 @@ void tst_WindowsDevices::goodReplies()
     QCOMPARE(volume.value()->extents(ManyExtents).value(), expected);
     // Two do not fit where one was asked for, and the system says so.
     QCOMPARE(volume.value()->extents(OneExtent).code(), quint32(MoreData));
+    machine.placeVolume(ScriptedMachine::Number);
     auto raw = devices.openVolume(QStringLiteral("E:"), machine.identity);
     QCOMPARE(raw.value()->bytesPerSector().value(), 4096);
     QCOMPARE(raw.value()->length().value(), ScriptedMachine::VolumeSize);
@@ -641,6 +642,11 @@ void tst_WindowsDevices::aVolumeElsewhereIsRefused()
     const auto code = [&] { return devices.openVolume(QStringLiteral("E:"), machine.undescribed).code(); };
     QCOMPARE(code(), quint32(NoError));
     machine.placeVolume(ScriptedMachine::Number + 1);
+    QCOMPARE(code(), quint32(NotReady));
+    // It begins on the drive, but what it goes on to was not chosen.
+    machine.script(machine.volume, IOCTL_VOLUME_GET_VOLUME_DISK_EXTENTS,
+                   replies::extentsHeader(2) + replies::extent(ScriptedMachine::Number, 0, 4096) +
+                       replies::extent(1, 0, 4096));
     QCOMPARE(code(), quint32(NotReady));
     machine.script(machine.volume, IOCTL_VOLUME_GET_VOLUME_DISK_EXTENTS,
                    replies::extentsHeader(2) + replies::extent(1, 0, 4096) +
