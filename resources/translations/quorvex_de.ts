@@ -2472,7 +2472,7 @@ Möchten Sie den freien Speicherplatz löschen, damit dies nicht mehr möglich i
     </message>
     <message>
         <source>more than 10 % of the free space is left as a reserve</source>
-        <translation>mehr als 10 % des freien Speicherplatzes bleiben als Reserve frei</translation>
+        <translation>mehr als 10&#xa0;% des freien Speicherplatzes bleiben als Reserve frei</translation>
     </message>
     <message>
         <source>fill files were left behind</source>

@@ -2472,7 +2472,7 @@ Sin embargo, es posible que los archivos eliminados anteriormente aún se puedan
     </message>
     <message>
         <source>more than 10 % of the free space is left as a reserve</source>
-        <translation>más del 10 % del espacio libre se deja como reserva</translation>
+        <translation>más del 10&#xa0;% del espacio libre se deja como reserva</translation>
     </message>
     <message>
         <source>fill files were left behind</source>

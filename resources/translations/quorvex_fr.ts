@@ -1225,7 +1225,7 @@
     </message>
     <message>
         <source>volume %1 lies on drive %2 and also on %3</source>
-        <translation>le volume %1 se trouve sur le disque %2 et aussi sur : %3</translation>
+        <translation>le volume %1 se trouve sur le disque %2 et aussi sur&#xa0;: %3</translation>
     </message>
     <message>
         <source>drive %1 is held by %2</source>
@@ -1233,7 +1233,7 @@
     </message>
     <message>
         <source>to release it: %1</source>
-        <translation>pour le libérer : %1</translation>
+        <translation>pour le libérer&#xa0;: %1</translation>
     </message>
     <message>
         <source>Shortfall</source>
@@ -1257,7 +1257,7 @@
     </message>
     <message>
         <source>unknown kind of shortfall &apos;%1&apos;, there are: %2</source>
-        <translation>type de lacune inconnu &apos;%1&apos;, types possibles : %2</translation>
+        <translation>type de lacune inconnu &apos;%1&apos;, types possibles&#xa0;: %2</translation>
     </message>
     <message>
         <source>A shortfall of this kind is no failure; may be given several times</source>
@@ -1265,11 +1265,11 @@
     </message>
     <message>
         <source>left unmounted: %1</source>
-        <translation>volumes restés démontés : %1</translation>
+        <translation>volumes restés démontés&#xa0;: %1</translation>
     </message>
     <message>
         <source>  not everything will be erased:</source>
-        <translation>  une partie ne sera pas effacée :</translation>
+        <translation>  une partie ne sera pas effacée&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -1474,11 +1474,11 @@ Un certificat d&apos;effacement a été généré.</translation>
     </message>
     <message>
         <source>The disk is held by: %1</source>
-        <translation>Le disque est occupé par : %1</translation>
+        <translation>Le disque est occupé par&#xa0;: %1</translation>
     </message>
     <message>
         <source>These commands release it:</source>
-        <translation>Ces commandes le libèrent :</translation>
+        <translation>Ces commandes le libèrent&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -2472,7 +2472,7 @@ Voulez-vous effacer l&apos;espace libre afin qu&apos;ils ne puissent pas être r
     </message>
     <message>
         <source>more than 10 % of the free space is left as a reserve</source>
-        <translation>plus de 10 % de l&apos;espace libre est laissé en réserve</translation>
+        <translation>plus de 10&#xa0;% de l&apos;espace libre est laissé en réserve</translation>
     </message>
     <message>
         <source>fill files were left behind</source>
@@ -2532,15 +2532,15 @@ Voulez-vous effacer l&apos;espace libre afin qu&apos;ils ne puissent pas être r
     </message>
     <message>
         <source>Partly erased: %1</source>
-        <translation>Effacé en partie : %1</translation>
+        <translation>Effacé en partie&#xa0;: %1</translation>
     </message>
     <message>
         <source>Not completely erased: the job failed</source>
-        <translation>Pas entièrement effacé : la tâche a échoué</translation>
+        <translation>Pas entièrement effacé&#xa0;: la tâche a échoué</translation>
     </message>
     <message>
         <source>Not completely erased: the job was cancelled</source>
-        <translation>Pas entièrement effacé : la tâche a été annulée</translation>
+        <translation>Pas entièrement effacé&#xa0;: la tâche a été annulée</translation>
     </message>
 </context>
 <context>
