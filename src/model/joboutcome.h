@@ -1,5 +1,7 @@
 #pragma once
 
+#include "model/shortfall.h"
+
 #include <QByteArray>
 #include <QCoreApplication>
 #include <QList>
@@ -22,58 +24,6 @@ enum class JobOutcome {
 
 /// "complete", "partial", "failed", "cancelled": the same in every language.
 QString machineName(JobOutcome outcome);
-
-/// What a job may fall short of. The names that kindName() gives are stored; the order is that of display.
-enum class ShortfallKind {
-    // These make a job partial.
-    OnlyVolumes,
-    VolumeNotOpened,
-    VolumeEndedEarly,
-    VolumeInUse,
-    DriveEndUnreached,
-    DriveEmpty,
-    BeyondDrive,
-    NothingWritten,
-    RoomLeft,
-    LargeReserve,
-    FillFilesLeft,
-    EntryVanished,
-    EntryReplaced,
-    EntryGrew,
-    EntryNotRemoved,
-    ContentElsewhere,
-    LinkTarget,
-    // These are worth a word and take nothing from the job.
-    NotReadBack,
-    ReadBackImpossible,
-    ReserveKept,
-    OtherNames,
-    CopyOnWrite,
-    NoFreeByte,
-};
-
-QList<ShortfallKind> allShortfallKinds();
-/// The kind as one word for machines and command lines, such as "only-volumes".
-QString kindName(ShortfallKind kind);
-std::optional<ShortfallKind> kindFromName(const QString &name);
-/// False for a note.
-bool makesPartial(ShortfallKind kind);
-/// One translated line, without a full stop and not capitalised.
-QString kindText(ShortfallKind kind);
-
-/// One thing that a job did not do, or that is worth a word.
-struct Shortfall
-{
-    ShortfallKind kind = ShortfallKind::OnlyVolumes;
-    QString place{}; ///< a volume, a path; as it is, to be cleaned for display; empty for the job as a whole
-    qint64 bytes = -1; ///< below 0: unknown
-    qint64 count = -1; ///< of files, names, whatever the kind speaks of; below 0: unknown
-
-    bool operator==(const Shortfall &) const = default;
-
-    /// An object with the members that are known; with `text` also the kind's line.
-    void writeJson(JsonWriter &writer, bool withText = false) const;
-};
 
 /// The outcome of a job with what it fell short of. A plain value; what has not ended counts as failed.
 class OutcomeRecord

@@ -78,9 +78,11 @@ private:
     bool open(const QString &folder);
     bool execute(const QString &statement);
     bool hasAnswered(const QSqlQuery &query);
-    bool insert(const WipeReport &report);
-    bool replaceAnnex(const QString &certificateId, const std::optional<OutcomeRecord> &outcome);
-    QSqlError erase(const QString &statement, const QString &certificateId);
+    // False, with the text kept, for an error.
+    bool succeeded(const QSqlError &error);
+    QSqlQuery page(int limit, int offset) const;
+    QSqlQuery one(const QString &certificateId) const;
+    QSqlError erase(const QString &statement, const QString &certificateId) const;
 
     QSqlDatabase m_db;
     QString m_lastError;

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QSqlDatabase>
+#include <QSqlError>
+#include <QSqlQuery>
+#include <QString>
+
+// Takes back what was not committed. A savepoint, which may also stand within a transaction.
+class Savepoint
+{
+public:
+    explicit Savepoint(const QSqlDatabase &database)
+        : m_query(database)
+        , m_isOpen(m_query.exec(QStringLiteral("SAVEPOINT report")))
+    {}
+    ~Savepoint()
+    {
+        if (!m_isOpen)
+            return;
+        m_query.exec(QStringLiteral("ROLLBACK TO report"));
+        m_query.exec(QStringLiteral("RELEASE report"));
+    }
+    Savepoint(const Savepoint &) = delete;
+    Savepoint &operator=(const Savepoint &) = delete;
+
+    bool isOpen() const { return m_isOpen; }
+    bool commit()
+    {
+        // One that failed is still open.
+        const bool committed = m_query.exec(QStringLiteral("RELEASE report"));
+        m_isOpen = !committed;
+        return committed;
+    }
+    QString error() const { return m_query.lastError().text(); }
+
+private:
+    QSqlQuery m_query;
+    bool m_isOpen;
+};
