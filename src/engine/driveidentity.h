@@ -6,5 +6,5 @@
 // What tells the disk of a record from another that takes its number later.
 inline platform::DriveIdentity identityOf(const DiskInfo &disk)
 {
-    return {disk.diskNumber, disk.serialNumber, disk.sizeBytes};
+    return {disk.diskNumber, disk.serialNumber, disk.sizeBytes, disk.model, disk.worldWideName};
 }

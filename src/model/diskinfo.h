@@ -43,6 +43,7 @@ struct DiskInfo
     bool isRemovable = false;
     bool isSystemDisk = false;
     bool isAvailable = true;
+    QString worldWideName; ///< "naa.5000c500a1b2c3d4"; empty when the drive has none
 
     /// Model (or the disk's number) and size. Safe to show: see displayText().
     QString displayName() const;

@@ -65,6 +65,11 @@ public:
     // filled from /sys and udev.
     virtual Result<QByteArray> descriptor() = 0;
 
+    // The name that no other unit in the world has, with its form before a full stop: "naa.5000c500a1b2c3d4",
+    // "eui.0025385b71b0a1c2". NotSupported where the device has none.
+    // Windows: IOCTL_STORAGE_QUERY_PROPERTY, StorageDeviceIdProperty, 1024-byte reply. Linux: wwid.
+    virtual Result<QString> worldWideName() = 0;
+
     // Whether reading elsewhere costs time, as it does on rotating media.
     // Windows: StorageDeviceSeekPenaltyProperty. Linux: queue/rotational.
     virtual Result<bool> seekPenalty() = 0;
@@ -84,9 +89,10 @@ public:
 };
 
 // A drive or volume opened for raw, unbuffered, write-through transfers. Buffers begin on a page boundary
-// (AlignedBuffer); positions and sizes are multiples of the logical sector, everything else fails with
-// InvalidParameter. Transfers loop over interruptions and short counts. One thread at a time; closes on
-// destruction.
+// (AlignedBuffer), else a transfer fails with MisalignedBuffer before the system is asked, whose own answer
+// is that of a device at its end; positions and sizes are multiples of the logical sector, everything else
+// fails with InvalidParameter. Transfers loop over interruptions and short counts. One thread at a time;
+// closes on destruction.
 class RawDevice
 {
 public:
@@ -136,12 +142,17 @@ public:
     virtual Status unlock() = 0;
 };
 
-// The drive that somebody chose: its number, and what tells it from another that takes its number later.
+// The drive that somebody chose: its number, and what tells it from another that takes its number later. What
+// the drive does not tell stays empty.
 struct DriveIdentity
 {
     int number = -1;
-    QString serialNumber;
+    QString serialNumber{};
     qint64 sizeBytes = 0;
+    QString product{};
+    QString worldWideName{}; // see DeviceQuery::worldWideName
+
+    bool operator==(const DriveIdentity &) const = default;
 };
 
 enum class DriveAccess {
@@ -184,8 +195,8 @@ public:
     // A volume by its name: "E:" on Windows, a mount point or a device node on Linux.
     virtual Result<std::unique_ptr<DeviceQuery>> queryVolume(const QString &name) = 0;
 
-    // Opens a drive for writing, or only for reading. NotReady, with nothing opened, when serial number or
-    // size are no longer those of the identity; AccessDenied without the rights; SharingViolation when
+    // Opens a drive for writing, or only for reading. NotReady, with nothing opened, when anything
+    // in the identity is no longer as it was; AccessDenied without the rights; SharingViolation when
     // somebody else holds it. Windows: CreateFileW with GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ |
     // FILE_SHARE_WRITE, OPEN_EXISTING, FILE_FLAG_WRITE_THROUGH | FILE_FLAG_NO_BUFFERING, with GENERIC_READ
     // alone when ReadOnly; who else holds the drive is the system's affair there. Linux: O_RDWR | O_DIRECT |

@@ -75,6 +75,7 @@ public:
     {}
     Result<Geometry> geometry() override { return m_target->geometry(); }
     Result<QByteArray> descriptor() override { return m_target->descriptor(); }
+    Result<QString> worldWideName() override { return m_target->worldWideName(); }
     Result<bool> seekPenalty() override { return m_target->seekPenalty(); }
     Result<bool> trimEnabled() override { return m_target->trimEnabled(); }
     Result<DeviceUse> use() override { return m_target->use(); }

@@ -38,6 +38,7 @@ enum ErrorCode : quint32 {
     FileTooLarge = 223,
     MoreData = 234,
     IoDevice = 1117,
+    MisalignedBuffer = 1132,
     DiskQuotaExceeded = 1295,
     CannotAccessFile = 1920,
 };

@@ -31,6 +31,23 @@ constexpr qsizetype Length = 16;
 constexpr qsizetype ExtentSize = 24;
 } // namespace extentfield
 
+// STORAGE_DEVICE_ID_DESCRIPTOR, and within it STORAGE_IDENTIFIER: the designators of SCSI's vital product
+// data page 0x83.
+namespace idfield {
+constexpr qsizetype Count = 8;
+constexpr qsizetype FirstIdentifier = 12;
+constexpr qsizetype CodeSet = 0;
+constexpr qsizetype Type = 4;
+constexpr qsizetype IdentifierSize = 8;
+constexpr qsizetype NextOffset = 10;
+constexpr qsizetype Association = 12;
+constexpr qsizetype Identifier = 16;
+constexpr quint32 Binary = 1;
+constexpr quint32 Eui64 = 2;
+constexpr quint32 Naa = 3;
+constexpr quint32 OfUnit = 0; // and not of the port or of the target device
+} // namespace idfield
+
 template <typename Number>
 Number numberAt(QByteArrayView bytes, qsizetype offset)
 {
@@ -156,10 +173,45 @@ bool liesOnlyOn(const QList<Extent> &extents, int driveNumber)
     });
 }
 
-bool isSameDrive(const DriveIdentity &chosen, const QByteArray &descriptorReply, qint64 sizeBytes)
+QString decodeWorldWideName(const QByteArray &reply)
 {
-    return chosen.sizeBytes == sizeBytes &&
-           chosen.serialNumber == decodeDeviceDescriptor(descriptorReply).serialNumber;
+    if (reply.size() < idfield::FirstIdentifier)
+        return {};
+    const quint32 count = numberAt<quint32>(reply, idfield::Count);
+    QString name;
+    qint64 at = idfield::FirstIdentifier;
+    for (quint32 i = 0; i < count && at + idfield::Identifier <= reply.size(); ++i) {
+        const QByteArrayView entry = QByteArrayView(reply).sliced(qsizetype(at));
+        const quint32 type = numberAt<quint32>(entry, idfield::Type);
+        const qsizetype size = numberAt<quint16>(entry, idfield::IdentifierSize);
+        const bool isOfUnit = numberAt<quint32>(entry, idfield::Association) == idfield::OfUnit;
+        const bool isBinary = numberAt<quint32>(entry, idfield::CodeSet) == idfield::Binary;
+        if (isOfUnit && isBinary && size > 0 && idfield::Identifier + size <= entry.size()) {
+            const QByteArray hex = entry.sliced(idfield::Identifier, size).toByteArray().toHex();
+            if (type == idfield::Naa)
+                return QLatin1String("naa.") + QString::fromLatin1(hex);
+            if (type == idfield::Eui64 && name.isEmpty())
+                name = QLatin1String("eui.") + QString::fromLatin1(hex);
+        }
+        const quint16 next = numberAt<quint16>(entry, idfield::NextOffset);
+        if (next == 0)
+            break;
+        at += next;
+    }
+    return name;
+}
+
+DriveIdentity identityFrom(int number, const QByteArray &descriptorReply, qint64 sizeBytes,
+                           const QString &worldWideName)
+{
+    const DeviceDescriptor descriptor = decodeDeviceDescriptor(descriptorReply);
+    return {number, descriptor.serialNumber, sizeBytes, descriptor.productId, worldWideName};
+}
+
+DriveIdentity identityOf(int number, DeviceQuery &drive)
+{
+    return identityFrom(number, drive.descriptor().valueOr({}), drive.geometry().valueOr({}).sizeBytes,
+                        drive.worldWideName().valueOr({}));
 }
 
 } // namespace platform

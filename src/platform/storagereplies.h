@@ -52,8 +52,14 @@ QByteArray encodeExtents(const QList<Extent> &extents);
 // Whether a volume lies on that drive and nowhere else; false when it does not tell where.
 bool liesOnlyOn(const QList<Extent> &extents, int driveNumber);
 
-// Whether a device that describes itself so is the drive that was chosen: same serial number, same size. An
-// empty descriptor stands for a device that does not describe itself.
-bool isSameDrive(const DriveIdentity &chosen, const QByteArray &descriptorReply, qint64 sizeBytes);
+// The world-wide name among the identifiers in a reply (STORAGE_DEVICE_ID_DESCRIPTOR): of those that name the
+// unit itself the NAA one, else the EUI-64. Empty when there is neither.
+QString decodeWorldWideName(const QByteArray &reply);
+
+// A drive as it describes itself now. What it did not answer is empty or 0.
+DriveIdentity identityFrom(int number, const QByteArray &descriptorReply, qint64 sizeBytes,
+                           const QString &worldWideName);
+// The same, asked.
+DriveIdentity identityOf(int number, DeviceQuery &drive);
 
 } // namespace platform

@@ -91,9 +91,11 @@ QSet<int> systemDisks()
     return disks;
 }
 
-// One drive that is reached in two ways. Nothing tells that of drives without a serial number.
+// One drive that is reached in two ways. Nothing tells that of drives without a name or serial number.
 bool isSameUnit(const DiskInfo &a, const DiskInfo &b)
 {
+    if (!a.worldWideName.isEmpty() && a.worldWideName == b.worldWideName)
+        return true;
     return !a.serialNumber.isEmpty() && a.serialNumber == b.serialNumber && a.model == b.model &&
            a.sizeBytes == b.sizeBytes;
 }
@@ -153,6 +155,7 @@ std::optional<DiskInfo> describeDrive(int number)
     disk.isAvailable = true;
     readGeometry(*drive.value(), disk);
     readDescriptor(*drive.value(), disk);
+    disk.worldWideName = drive.value()->worldWideName().valueOr({});
     return disk;
 }
 

@@ -41,6 +41,10 @@ private slots:
     void aLiveSystemGuardsItsMedium();
     void anOverlayOverOtherDrives();
     void aRootWithoutAMediumGuardsEveryMountedDrive();
+    void aRootWithoutAMediumGuardsWhatIsBuiltOn();
+    void aRootWithAMediumGuardsNothingElse();
+    void worldWideNames_data();
+    void worldWideNames();
     void anOverlayOverItselfEnds();
     void otherPlacesOfTheSystem();
     void oneVolumePerDevice();
@@ -343,6 +347,86 @@ void tst_BlockTree::aRootWithoutAMediumGuardsEveryMountedDrive()
                                                       "3 1 7:0 / /image rw - ext4 /dev/loop0 rw\n");
     QCOMPARE(LinuxSession(fake.tree()).systemVolumes(),
              QStringList({QStringLiteral("/data"), QStringLiteral("/image")}));
+}
+
+namespace {
+
+// An array on sda1, a member of a group on sdb, a locked container on sdc2, and sdd, which holds nothing.
+void layOutMembers(FakeSystemTree &fake)
+{
+    fake.addDrive(QStringLiteral("sda"), "8:0", 100 * MiB);
+    fake.addPartition(QStringLiteral("sda"), QStringLiteral("sda1"), "8:1", MiB, 50 * MiB);
+    fake.addStacked(QStringLiteral("md0"), "9:0", 50 * MiB, {QStringLiteral("sda1")});
+    fake.addDrive(QStringLiteral("sdb"), "8:16", 100 * MiB);
+    fake.write(QStringLiteral("udev/b8:16"), "E:ID_FS_TYPE=LVM2_member\nE:ID_FS_USAGE=raid\n");
+    fake.addDrive(QStringLiteral("sdc"), "8:32", 100 * MiB);
+    fake.addPartition(QStringLiteral("sdc"), QStringLiteral("sdc2"), "8:34", MiB, 50 * MiB);
+    fake.write(QStringLiteral("udev/b8:34"), "E:ID_FS_TYPE=crypto_LUKS\nE:ID_FS_USAGE=crypto\n");
+    fake.addDrive(QStringLiteral("sdd"), "8:48", 100 * MiB);
+    fake.write(QStringLiteral("udev/b8:48"), "E:ID_FS_TYPE=ext4\nE:ID_FS_USAGE=filesystem\n");
+}
+
+} // namespace
+
+void tst_BlockTree::aRootWithoutAMediumGuardsWhatIsBuiltOn()
+{
+    FakeSystemTree fake;
+    layOutMembers(fake);
+    fake.write(QStringLiteral("proc/self/mountinfo"), "1 0 0:20 / / rw - tmpfs tmpfs rw\n");
+    const QStringList volumes = LinuxSession(fake.tree()).systemVolumes();
+    QSet<int> drives;
+    LinuxDevices devices(fake.tree());
+    for (const QString &volume : volumes) {
+        // The nodes here are no block devices: their kernel names stand for them.
+        const QString name = volume.section(u'/', -1);
+        for (const QString &drive :
+             {QStringLiteral("sda"), QStringLiteral("sdb"), QStringLiteral("sdc"), QStringLiteral("sdd")}) {
+            if (name.startsWith(drive))
+                drives.insert(drive.back().unicode() - u'a');
+        }
+    }
+    QCOMPARE(drives, QSet<int>({0, 1, 2}));
+    QVERIFY(volumes.contains(fake.path(QStringLiteral("dev/sdc2"))));
+}
+
+void tst_BlockTree::aRootWithAMediumGuardsNothingElse()
+{
+    FakeSystemTree fake;
+    layOutMembers(fake);
+    fake.addDrive(QStringLiteral("sde"), "8:64", 100 * MiB);
+    fake.write(QStringLiteral("proc/self/mountinfo"), "1 0 8:64 / / rw - ext4 /dev/sde rw\n");
+    QCOMPARE(LinuxSession(fake.tree()).systemVolumes(), QStringList{QStringLiteral("/")});
+}
+
+void tst_BlockTree::worldWideNames_data()
+{
+    QTest::addColumn<QString>("attribute");
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QString>("name");
+    const QString own = QStringLiteral("sys/block/sda/wwid");
+    const QString devices = QStringLiteral("sys/block/sda/device/wwid");
+    QTest::newRow("none") << QStringLiteral("sys/block/sda/other") << QByteArray("naa.5000") << QString();
+    QTest::newRow("ATA, SCSI") << devices << QByteArray("naa.5000c500a1b2c3d4\n")
+                               << QStringLiteral("naa.5000c500a1b2c3d4");
+    QTest::newRow("NVMe") << own << QByteArray("eui.0025385b71b0a1c2\n")
+                          << QStringLiteral("eui.0025385b71b0a1c2");
+    QTest::newRow("NVMe, UUID") << own << QByteArray("uuid.4f1a\n") << QStringLiteral("uuid.4f1a");
+    QTest::newRow("maker's text") << devices << QByteArray("t10.ATA     DISK  1 \n") << QString();
+    QTest::newRow("NVMe, put together") << own << QByteArray("nvme.1b36-31-51-0001\n") << QString();
+}
+
+void tst_BlockTree::worldWideNames()
+{
+    QFETCH(QString, attribute);
+    QFETCH(QByteArray, text);
+    QFETCH(QString, name);
+    FakeSystemTree fake;
+    fake.addDrive(QStringLiteral("sda"), "8:0", 100 * MiB);
+    fake.write(attribute, text);
+    LinuxDevices devices(fake.tree());
+    const Result<QString> told = devices.queryDrive(0).value()->worldWideName();
+    QCOMPARE(told.valueOr({}), name);
+    QCOMPARE(told.code(), quint32(name.isEmpty() ? NotSupported : NoError));
 }
 
 void tst_BlockTree::anOverlayOverItselfEnds()

@@ -76,8 +76,7 @@ public:
         auto query = devices().queryDrive(m_number);
         if (!query)
             return {};
-        return {m_number, decodeDeviceDescriptor(query.value()->descriptor().value()).serialNumber,
-                query.value()->geometry().value().sizeBytes};
+        return identityOf(m_number, *query.value());
     }
 
     QByteArray bytes(qint64 offset, qint64 size) const
@@ -134,6 +133,8 @@ private slots:
     void readAtTheEndIsShort();
     void unalignedTransfersAreRefused();
     void otherSerialNumberIsRefused();
+    void otherProductIsRefused();
+    void otherWorldWideNameIsRefused();
     void otherSizeIsRefused();
     void unknownNumberIsRefused();
     void flushSucceeds();
@@ -305,6 +306,11 @@ void tst_Devices::unalignedTransfersAreRefused()
     QCOMPARE(device.value()->seek(-sector).code, quint32(InvalidParameter));
     QCOMPARE(device.value()->write(data.data(), sector - 1).code(), quint32(InvalidParameter));
     QCOMPARE(device.value()->read(data.data(), sector + 1).code(), quint32(InvalidParameter));
+    // What a device at its end answers must not be mistaken for a fault of this program.
+    const QByteArray before = drive.bytes(0, MiB);
+    QCOMPARE(device.value()->write(data.data() + 8, sector).code(), quint32(MisalignedBuffer));
+    QCOMPARE(device.value()->read(data.data() + 8, sector).code(), quint32(MisalignedBuffer));
+    QCOMPARE(drive.bytes(0, MiB), before);
 }
 
 void tst_Devices::otherSerialNumberIsRefused()
@@ -312,6 +318,22 @@ void tst_Devices::otherSerialNumberIsRefused()
     BACKING(drive);
     DriveIdentity identity = drive.identity();
     identity.serialNumber = QStringLiteral("SOMEBODY ELSE");
+    QCOMPARE(drive.devices().openDrive(identity, DriveAccess::Alone).code(), quint32(NotReady));
+}
+
+void tst_Devices::otherProductIsRefused()
+{
+    BACKING(drive);
+    DriveIdentity identity = drive.identity();
+    identity.product += u'2';
+    QCOMPARE(drive.devices().openDrive(identity, DriveAccess::Alone).code(), quint32(NotReady));
+}
+
+void tst_Devices::otherWorldWideNameIsRefused()
+{
+    BACKING(drive);
+    DriveIdentity identity = drive.identity();
+    identity.worldWideName = QStringLiteral("naa.5000c500a1b2c3d4");
     QCOMPARE(drive.devices().openDrive(identity, DriveAccess::Alone).code(), quint32(NotReady));
 }
 
@@ -327,7 +349,7 @@ void tst_Devices::unknownNumberIsRefused()
 {
     BACKING(drive);
     QCOMPARE(drive.devices().queryDrive(4711).code(), quint32(FileNotFound));
-    QVERIFY(!drive.devices().openDrive({4711, {}, 0}, DriveAccess::Alone).ok());
+    QVERIFY(!drive.devices().openDrive({.number = 4711}, DriveAccess::Alone).ok());
 }
 
 void tst_Devices::flushSucceeds()

@@ -1,7 +1,9 @@
 #include "platform/alignedbuffer.h"
 #include "platform/devices.h"
+#include "platform/linux/linuxsession.h"
 #include "platform/platform.h"
 #include "platform/storagereplies.h"
+#include "support/fakesystemtree.h"
 #include "support/loopmount.h"
 #include "support/suite.h"
 
@@ -32,8 +34,7 @@ DriveIdentity identityOf(Devices &devices, int number)
     auto query = devices.queryDrive(number);
     if (!query)
         return {};
-    return {number, decodeDeviceDescriptor(query.value()->descriptor().value()).serialNumber,
-            query.value()->geometry().value().sizeBytes};
+    return platform::identityOf(number, *query.value());
 }
 
 } // namespace
@@ -61,6 +62,7 @@ private slots:
     void driveInUseIsNotOpenedAlone();
     void driveOpensBesideOwnVolumes();
     void newAttachmentIsAnotherDrive();
+    void theMediumOfALoopDeviceIsFoundWithoutItsMount();
 
 private:
     std::unique_ptr<QTemporaryDir> m_folder;
@@ -270,6 +272,23 @@ void tst_LinuxVolumes::newAttachmentIsAnotherDrive()
     QVERIFY(!devices().openDrive(m_identity, DriveAccess::Alone).ok());
     QVERIFY(numberOf(devices(), other.device()) != m_number);
     QCOMPARE(other.countInImage(QByteArray(1, 'x')), 0);
+}
+
+void tst_LinuxVolumes::theMediumOfALoopDeviceIsFoundWithoutItsMount()
+{
+    LoopMount::Options inner;
+    inner.fileSystem = LoopMount::NoFileSystem;
+    inner.sizeBytes = 1024 * 1024;
+    LoopMount image(m_volume->mountPoint(), inner, QStringLiteral("inner"));
+    QVERIFY2(image.isReady(), qPrintable(image.error()));
+    // The mount table of a system whose media were taken out of sight at boot.
+    FakeSystemTree fake;
+    fake.write(QStringLiteral("proc/self/mountinfo"), "1 0 0:20 / / rw - tmpfs tmpfs rw\n");
+    platform::SystemTree tree;
+    tree.proc = fake.tree().proc;
+    const QStringList volumes = platform::LinuxSession(tree).systemVolumes();
+    QVERIFY(volumes.contains(m_volume->device()));
+    QVERIFY(!volumes.contains(image.device()));
 }
 
 QUORVEX_SUITE(tst_LinuxVolumes, QCoreApplication)

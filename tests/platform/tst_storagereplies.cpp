@@ -33,6 +33,38 @@ const QByteArray twoExtents = QByteArray::fromHex("02000000AAAAAAAA"
                                                   "03000000BBBBBBBB00001000000000000000004000000000"
                                                   "01000000CCCCCCCC0000100000000000000000A0E8000000");
 
+// Four designators of an SSD: the port's NAA name, the maker's text, the unit's EUI-64, the unit's NAA name.
+const QByteArray fourIdentifiers = QByteArray::fromHex("88000000" // Version
+                                                       "8C000000" // Size: 140
+                                                       "04000000" // NumberOfIdentifiers
+                                                       "01000000"
+                                                       "03000000" // binary, NAA
+                                                       "0800"
+                                                       "1800"
+                                                       "01000000" // 8 bytes, port
+                                                       "50000000000000AA"
+                                                       "02000000"
+                                                       "01000000" // ASCII, maker's
+                                                       "0400"
+                                                       "1400"
+                                                       "00000000" // 4 bytes, unit
+                                                       "41434D45"
+                                                       "01000000"
+                                                       "02000000" // binary, EUI-64
+                                                       "0800"
+                                                       "1800"
+                                                       "00000000" // 8 bytes, unit
+                                                       "0025385B71B0A1C2"
+                                                       "01000000"
+                                                       "03000000" // binary, NAA
+                                                       "0800"
+                                                       "0000"
+                                                       "00000000" // 8 bytes, unit, the last
+                                                       "5000C500A1B2C3D4");
+constexpr int FirstIdentifier = 12;
+constexpr int EuiIdentifier = 12 + 24 + 20;
+constexpr int NaaIdentifier = EuiIdentifier + 24;
+
 constexpr int ProductIdOffset = 16;
 constexpr int SerialNumberOffset = 24;
 constexpr int FixedPart = 36;
@@ -99,6 +131,13 @@ private slots:
     void aDriveNumberTooLargeIsNoDrive();
     void encodedExtentsDecodeToTheSame();
     void encodedExtentsHaveTheLayoutOfTheStorageStack();
+
+    void theNaaNameOfTheUnitComesFirst();
+    void theEuiNameServesWithoutANaaName();
+    void onlyABinaryNameOfTheUnitCounts_data();
+    void onlyABinaryNameOfTheUnitCounts();
+    void everyShorterIdentifierReplyIsSafe();
+    void identifiersBehindTheCountOrTheLastAreNotRead();
 
     void theSameDriveHasSerialNumberAndSize_data();
     void theSameDriveHasSerialNumberAndSize();
@@ -352,6 +391,64 @@ void tst_StorageReplies::encodedExtentsHaveTheLayoutOfTheStorageStack()
     QCOMPARE(platform::encodeExtents(QList<Extent>(platform::ManyExtents)).size(), 800);
 }
 
+void tst_StorageReplies::theNaaNameOfTheUnitComesFirst()
+{
+    QCOMPARE(fourIdentifiers.size(), NaaIdentifier + 24);
+    QCOMPARE(decodeExactly(platform::decodeWorldWideName, fourIdentifiers), u"naa.5000c500a1b2c3d4"_s);
+}
+
+void tst_StorageReplies::theEuiNameServesWithoutANaaName()
+{
+    QByteArray reply = fourIdentifiers;
+    putOffset(reply, 8, 3);
+    QCOMPARE(decodeExactly(platform::decodeWorldWideName, reply), u"eui.0025385b71b0a1c2"_s);
+}
+
+void tst_StorageReplies::onlyABinaryNameOfTheUnitCounts_data()
+{
+    QTest::addColumn<int>("field");
+    QTest::addColumn<quint32>("value");
+    QTest::newRow("text") << 0 << 2u;
+    QTest::newRow("maker's own") << 4 << 1u;
+    QTest::newRow("target port group") << 4 << 5u;
+    QTest::newRow("of the port") << 12 << 1u;
+    QTest::newRow("of the target device") << 12 << 2u;
+}
+
+void tst_StorageReplies::onlyABinaryNameOfTheUnitCounts()
+{
+    QFETCH(int, field);
+    QFETCH(quint32, value);
+    QByteArray reply = fourIdentifiers;
+    putOffset(reply, NaaIdentifier + field, value);
+    QCOMPARE(platform::decodeWorldWideName(reply), u"eui.0025385b71b0a1c2"_s);
+    putOffset(reply, EuiIdentifier + field, value);
+    QCOMPARE(platform::decodeWorldWideName(reply), QString());
+}
+
+void tst_StorageReplies::everyShorterIdentifierReplyIsSafe()
+{
+    for (qsizetype length = 0; length < fourIdentifiers.size(); ++length) {
+        const QString name = decodeExactly(platform::decodeWorldWideName, fourIdentifiers.first(length));
+        QCOMPARE(name, length < NaaIdentifier ? QString() : u"eui.0025385b71b0a1c2"_s);
+    }
+}
+
+void tst_StorageReplies::identifiersBehindTheCountOrTheLastAreNotRead()
+{
+    QByteArray reply = fourIdentifiers;
+    putOffset(reply, 8, 0);
+    QCOMPARE(platform::decodeWorldWideName(reply), QString());
+    reply = fourIdentifiers;
+    reply[EuiIdentifier + 10] = 0; // the last, by its next offset
+    QCOMPARE(platform::decodeWorldWideName(reply), u"eui.0025385b71b0a1c2"_s);
+    // A chain that leads nowhere ends.
+    reply = fourIdentifiers;
+    putOffset(reply, 8, 0xFFFFFFFF);
+    reply[FirstIdentifier + 10] = 1;
+    decodeExactly(platform::decodeWorldWideName, reply);
+}
+
 void tst_StorageReplies::theSameDriveHasSerialNumberAndSize_data()
 {
     QTest::addColumn<QString>("serial");
@@ -382,7 +479,9 @@ void tst_StorageReplies::theSameDriveHasSerialNumberAndSize()
     QFETCH(qint64, foundSize);
     QFETCH(bool, same);
     const platform::DriveIdentity chosen{.number = 1, .serialNumber = serial, .sizeBytes = size};
-    QCOMPARE(platform::isSameDrive(chosen, reply, foundSize), same);
+    platform::DriveIdentity present = platform::identityFrom(1, reply, foundSize, {});
+    present.product.clear();
+    QCOMPARE(present == chosen, same);
 }
 
 void tst_StorageReplies::randomRepliesAreSafe()
@@ -408,6 +507,8 @@ void tst_StorageReplies::randomRepliesAreSafe()
             platform::decodeDeviceDescriptor(platform::encodeDeviceDescriptor(descriptor));
         QCOMPARE(again.productId, descriptor.productId);
         QCOMPARE(again.serialNumber, descriptor.serialNumber);
+        const QString name = decodeExactly(platform::decodeWorldWideName, reply);
+        QVERIFY(name.isEmpty() || name.startsWith(u"naa."_s) || name.startsWith(u"eui."_s));
         const QList<Extent> extents = decodeExactly(platform::decodeExtents, reply);
         QVERIFY(extents.size() * 24 + 8 <= std::max<qsizetype>(reply.size(), 8));
         QCOMPARE(platform::decodeExtents(platform::encodeExtents(extents)), extents);

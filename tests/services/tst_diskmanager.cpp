@@ -727,6 +727,13 @@ void tst_DiskManager::theSameUnitOnAnotherWayIsASystemDiskToo()
     for (FakeDrive &drive : pc.devices.drives)
         drive = named(u"A"_s, {}, 1 << 20);
     QCOMPARE(pc.systemDisks(), QList<int>{1});
+
+    // A bridge may tell another model, and its own serial number; it passes the unit's name on.
+    pc.devices.drives[0] = named(u"Bridge"_s, u"9"_s, 1 << 20);
+    pc.devices.drives[0].worldWideName = u"naa.5000c500a1b2c3d4"_s;
+    pc.devices.drives[1].worldWideName = u"naa.5000c500a1b2c3d4"_s;
+    pc.devices.drives[2].worldWideName = u"naa.5000c500a1b2c3d5"_s;
+    QCOMPARE(pc.systemDisks(), QList<int>({0, 1}));
 }
 
 void tst_DiskManager::moreExtentsThanAShortReplyHasRoomFor()

@@ -101,6 +101,7 @@ public:
     ~Query() override { --m_devices.openHandles; }
     platform::Result<platform::Geometry> geometry() override { return fakeFailure(platform::NotSupported); }
     platform::Result<QByteArray> descriptor() override { return fakeFailure(platform::NotSupported); }
+    platform::Result<QString> worldWideName() override { return fakeFailure(platform::NotSupported); }
     platform::Result<bool> seekPenalty() override { return fakeFailure(platform::NotSupported); }
     platform::Result<bool> trimEnabled() override { return fakeFailure(platform::NotSupported); }
     platform::Result<platform::DeviceUse> use() override { return fakeFailure(platform::NotSupported); }
@@ -131,6 +132,7 @@ public:
         ++m_asked.descriptor;
         return m_drive.descriptor;
     }
+    platform::Result<QString> worldWideName() override { return m_drive.worldWideName; }
     platform::Result<bool> seekPenalty() override
     {
         ++m_asked.seekPenalty;

@@ -25,6 +25,7 @@ struct FakeDrive
     platform::Status opening;
     platform::Result<platform::Geometry> geometry = platform::Geometry{500'107'862'016, 512};
     platform::Result<QByteArray> descriptor = QByteArray();
+    platform::Result<QString> worldWideName = QString();
     platform::Result<bool> seekPenalty = true;
     platform::Result<bool> trim = false;
     platform::Result<platform::DeviceUse> use = platform::DeviceUse();

@@ -18,6 +18,10 @@ public:
     {
         return asked("descriptor", [this] { return m_target->descriptor(); });
     }
+    platform::Result<QString> worldWideName() override
+    {
+        return asked("worldWideName", [this] { return m_target->worldWideName(); });
+    }
     platform::Result<bool> seekPenalty() override
     {
         return asked("seekPenalty", [this] { return m_target->seekPenalty(); });

@@ -132,7 +132,9 @@ OverstatedDevices::openDrive(const platform::DriveIdentity &drive, platform::Dri
 {
     if (drive.sizeBytes != m_statedSize)
         return platform::Status{platform::NotReady, 0, "identity check"};
-    auto target = m_target.openDrive({drive.number, drive.serialNumber, m_realSize}, access);
+    platform::DriveIdentity real = drive;
+    real.sizeBytes = m_realSize;
+    auto target = m_target.openDrive(real, access);
     if (!target)
         return target.status();
     return std::unique_ptr<platform::RawDevice>(std::make_unique<Drive>(target.take(), *this));

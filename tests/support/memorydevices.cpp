@@ -1,5 +1,7 @@
 #include "support/memorydevices.h"
 
+#include "platform/transfercheck.h"
+
 #include <QMutexLocker>
 
 #include <algorithm>
@@ -32,6 +34,7 @@ public:
         descriptor.busType = platform::BusVirtual;
         return platform::encodeDeviceDescriptor(descriptor);
     }
+    platform::Result<QString> worldWideName() override { return m_drive.worldWideName; }
     platform::Result<bool> seekPenalty() override { return false; }
     platform::Result<bool> trimEnabled() override { return false; }
     platform::Result<platform::DeviceUse> use() override { return m_drive.use; }
@@ -52,6 +55,7 @@ public:
     {}
     platform::Result<platform::Geometry> geometry() override { return unsupported(); }
     platform::Result<QByteArray> descriptor() override { return unsupported(); }
+    platform::Result<QString> worldWideName() override { return unsupported(); }
     platform::Result<bool> seekPenalty() override { return unsupported(); }
     platform::Result<bool> trimEnabled() override { return unsupported(); }
     platform::Result<platform::DeviceUse> use() override
@@ -95,8 +99,9 @@ public:
 
     platform::Result<qint64> read(void *data, qint64 size) override
     {
-        if (!isAligned(data, size))
-            return platform::Status{platform::InvalidParameter, 0, "read"};
+        if (const platform::Status refusal = platform::checkTransfer(data, size, m_sectorSize, "read");
+            !refusal)
+            return refusal;
         const QMutexLocker locker(&m_devices.m_mutex);
         auto *to = static_cast<char *>(data);
         return transfer(size, [&to](char *medium, qint64 count) {
@@ -107,8 +112,9 @@ public:
 
     platform::Result<qint64> write(const void *data, qint64 size) override
     {
-        if (!isAligned(data, size))
-            return platform::Status{platform::InvalidParameter, 0, "write"};
+        if (const platform::Status refusal = platform::checkTransfer(data, size, m_sectorSize, "write");
+            !refusal)
+            return refusal;
         const QMutexLocker locker(&m_devices.m_mutex);
         ++m_devices.m_writes;
         const auto *from = static_cast<const char *>(data);
@@ -129,11 +135,6 @@ protected:
     qint32 m_sectorSize;
 
 private:
-    bool isAligned(const void *data, qint64 size) const
-    {
-        return size >= 0 && size % m_sectorSize == 0 && reinterpret_cast<quintptr>(data) % 4096 == 0;
-    }
-
     // Goes through the stretches of media that the range lies on; what is behind the end is left out.
     template <typename Copy>
     qint64 transfer(qint64 size, Copy copy)
@@ -318,8 +319,10 @@ platform::Result<std::unique_ptr<platform::DeviceQuery>> MemoryDevices::notFound
 bool MemoryDevices::isSame(const platform::DriveIdentity &identity) const
 {
     const auto found = m_drives.find(identity.number);
-    return found != m_drives.end() && found->second.serialNumber == identity.serialNumber &&
-           found->second.sizeBytes == identity.sizeBytes;
+    if (found == m_drives.end())
+        return false;
+    DriveQuery drive(found->second);
+    return platform::identityOf(identity.number, drive) == identity;
 }
 
 platform::Result<std::unique_ptr<platform::DeviceQuery>> MemoryDevices::queryDrive(int number)

@@ -44,6 +44,7 @@ struct MemoryDrive
     int number = -1;
     QString model = QStringLiteral("Memory drive");
     QString serialNumber;
+    QString worldWideName;
     qint64 sizeBytes = 0;
     qint32 sectorSize = 512;
     qint64 unreachableBytes = 0; // behind the last whole sector

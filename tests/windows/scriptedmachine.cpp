@@ -36,6 +36,14 @@ QByteArray descriptor(const QByteArray &serialNumber)
            QByteArray("MODEL 9\0", 8) + "  " + serialNumber + ' ' + QByteArray(1, '\0');
 }
 
+QByteArray naaIdentifier(const QByteArray &digits)
+{
+    const QByteArray name = QByteArray::fromHex(digits);
+    return number<quint32>(12) + number<quint32>(quint32(28 + name.size())) + number<quint32>(1) +
+           number<quint32>(1) + number<quint32>(3) + number<quint16>(quint16(name.size())) +
+           number<quint16>(0) + number<quint32>(0) + name;
+}
+
 QByteArray flag(bool value)
 {
     return number<quint32>(12) + number<quint32>(12) + char(value ? 1 : 0) + QByteArray(3, '\0');

@@ -28,6 +28,8 @@ QByteArray descriptor(const QByteArray &serialNumber);
 
 // Both flags have the same place.
 QByteArray flag(bool value);
+// One designator of the unit, in hexadecimal digits.
+QByteArray naaIdentifier(const QByteArray &digits);
 
 QByteArray extentsHeader(quint32 count);
 QByteArray extent(qint32 disk, qint64 offset, qint64 bytes);
@@ -59,8 +61,9 @@ public:
 
     const QString drive = QStringLiteral(R"(\\.\PhysicalDrive3)");
     const QString volume = QStringLiteral(R"(\\.\E:)");
-    const platform::DriveIdentity identity{Number, QStringLiteral("W621ABCD"), DriveSize};
-    const platform::DriveIdentity undescribed{Number, {}, 0};
+    const platform::DriveIdentity identity{
+        Number, QStringLiteral("W621ABCD"), DriveSize, QStringLiteral("MODEL 9"), {}};
+    const platform::DriveIdentity undescribed{.number = Number};
 
 private:
     QTemporaryDir m_folder;

@@ -224,6 +224,7 @@ private slots:
 
     void anotherDriveIsRefused_data();
     void anotherDriveIsRefused();
+    void aDriveWithAnotherProductOrNameIsRefused();
     void aDriveThatNeverDescribedItselfIsAccepted_data();
     void aDriveThatNeverDescribedItselfIsAccepted();
     void aVolumeElsewhereIsRefused();
@@ -603,13 +604,37 @@ void tst_WindowsDevices::anotherDriveIsRefused()
     ScriptedMachine machine;
     if (!describes)
         machine.describeNothing();
-    const DriveIdentity chosen{ScriptedMachine::Number, chosenSerial, chosenSize};
+    const DriveIdentity chosen{.number = ScriptedMachine::Number,
+                               .serialNumber = chosenSerial,
+                               .sizeBytes = chosenSize,
+                               .product = describes ? machine.identity.product : QString()};
     WindowsDevices devices;
     QCOMPARE(devices.openDrive(chosen, DriveAccess::Alone).code(), quint32(NotReady));
     QCOMPARE(devices.openDrive(chosen, DriveAccess::BesideOwnVolumes).code(), quint32(NotReady));
     QCOMPARE(devices.openVolume(QStringLiteral("E:"), chosen).code(), quint32(NotReady));
     QCOMPARE(machine.faults.openHandles(), 0);
     QCOMPARE(machine.faults.seen(Win32Faults::WriteFile_), 0);
+    QVERIFY(machine.isUntouched());
+}
+
+void tst_WindowsDevices::aDriveWithAnotherProductOrNameIsRefused()
+{
+    ScriptedMachine machine;
+    WindowsDevices devices;
+    DriveIdentity chosen = machine.identity;
+    chosen.product = QStringLiteral("MODEL 8");
+    QCOMPARE(devices.openDrive(chosen, DriveAccess::Alone).code(), quint32(NotReady));
+
+    const QString name = QStringLiteral("naa.5000c500a1b2c3d4");
+    machine.faults.setPropertyReply(machine.drive, StorageDeviceIdProperty,
+                                    {0, replies::naaIdentifier("5000C500A1B2C3D4"), {}});
+    QCOMPARE(devices.queryDrive(ScriptedMachine::Number).value()->worldWideName().value(), name);
+    QCOMPARE(devices.openDrive(machine.identity, DriveAccess::Alone).code(), quint32(NotReady));
+    QCOMPARE(devices.openVolume(QStringLiteral("E:"), machine.identity).code(), quint32(NotReady));
+    chosen = machine.identity;
+    chosen.worldWideName = name;
+    QVERIFY(devices.openDrive(chosen, DriveAccess::Alone).ok());
+    QVERIFY(devices.openVolume(QStringLiteral("E:"), chosen).ok());
     QVERIFY(machine.isUntouched());
 }
 
@@ -740,12 +765,12 @@ void tst_WindowsDevices::misalignedTransfersAreRefused()
     QCOMPARE(drive.value()->seek(-Sector).code, quint32(InvalidParameter));
     QCOMPARE(drive.value()->write(data.data(), Sector - 1).code(), quint32(InvalidParameter));
     QCOMPARE(drive.value()->write(data.data(), -Sector).code(), quint32(InvalidParameter));
-    QCOMPARE(drive.value()->write(data.data() + 1, Sector).code(), quint32(InvalidParameter));
+    QCOMPARE(drive.value()->write(data.data() + 1, Sector).code(), quint32(MisalignedBuffer));
     QCOMPARE(drive.value()->read(data.data(), Sector + 1).code(), quint32(InvalidParameter));
-    QCOMPARE(drive.value()->read(data.data() + 8, Sector).code(), quint32(InvalidParameter));
+    QCOMPARE(drive.value()->read(data.data() + 8, Sector).code(), quint32(MisalignedBuffer));
     QCOMPARE(volume.value()->seek(Sector).code, quint32(InvalidParameter));
     QCOMPARE(volume.value()->write(data.data(), Sector).code(), quint32(InvalidParameter));
-    QCOMPARE(volume.value()->read(data.data() + Sector, 4096).code(), quint32(InvalidParameter));
+    QCOMPARE(volume.value()->read(data.data() + Sector, 4096).code(), quint32(MisalignedBuffer));
     QCOMPARE(machine.faults.seen(Win32Faults::SetFilePointer_), 0);
     QCOMPARE(machine.faults.seen(Win32Faults::WriteFile_), 0);
     QCOMPARE(machine.faults.seen(Win32Faults::ReadFile_), 0);

@@ -1,6 +1,7 @@
 #include "platform/image/imagedevices.h"
 
 #include "platform/storagereplies.h"
+#include "platform/transfercheck.h"
 
 #include <QCryptographicHash>
 #include <QFileInfo>
@@ -46,6 +47,7 @@ public:
 
     Result<Geometry> geometry() override { return Geometry{m_size, SectorSize}; }
     Result<QByteArray> descriptor() override { return descriptorOf(m_path); }
+    Result<QString> worldWideName() override { return Status{NotSupported, 0, "world-wide name"}; }
     Result<bool> seekPenalty() override { return Status{NotSupported, 0, "seek penalty"}; }
     Result<bool> trimEnabled() override { return Status{NotSupported, 0, "trim"}; }
     Result<DeviceUse> use() override { return DeviceUse{}; }
@@ -78,8 +80,8 @@ public:
 
     Result<qint64> read(void *data, qint64 size) override
     {
-        if (size < 0 || size % SectorSize != 0)
-            return Status{InvalidParameter, 0, "read"};
+        if (const Status refusal = checkTransfer(data, size, SectorSize, "read"); !refusal)
+            return refusal;
         const Status sought = m_file->seek(m_position);
         if (!sought)
             return sought;
@@ -88,8 +90,8 @@ public:
 
     Result<qint64> write(const void *data, qint64 size) override
     {
-        if (size < 0 || size % SectorSize != 0)
-            return Status{InvalidParameter, 0, "write"};
+        if (const Status refusal = checkTransfer(data, size, SectorSize, "write"); !refusal)
+            return refusal;
         if (size > 0 && remaining() == 0)
             return Status{SectorNotFound, 0, "write"};
         const Status sought = m_file->seek(m_position);
@@ -187,7 +189,8 @@ Result<std::unique_ptr<RawDevice>> ImageDevices::openDrive(const DriveIdentity &
     const Result<qint64> size = imageSize(m_files, path);
     if (!size)
         return size.status();
-    if (!isSameDrive(drive, descriptorOf(path), size.value()))
+    ImageQuery present(path, size.value());
+    if (identityOf(drive.number, present) != drive)
         return Status{NotReady, 0, "identity check"};
     return std::unique_ptr<RawDevice>(std::make_unique<ImageRawDevice>(file.take(), size.value()));
 }

@@ -1,26 +1,12 @@
 #include "platform/linux/drivedescription.h"
 
-#include <QDir>
+#include "platform/linux/udevdatabase.h"
+
 #include <QFileInfo>
-#include <QHash>
 
 namespace platform {
 
 namespace {
-
-using Properties = QHash<QByteArray, QByteArray>;
-
-Properties udevProperties(const SystemTree &tree, const QByteArray &device)
-{
-    Properties properties;
-    const QByteArray text = readAttribute(tree.udev + QLatin1String("/b") + QString::fromLatin1(device));
-    for (const QByteArray &line : text.split('\n')) {
-        const qsizetype equals = line.indexOf('=');
-        if (line.startsWith("E:") && equals > 2)
-            properties.insert(line.mid(2, equals - 2), line.mid(equals + 1));
-    }
-    return properties;
-}
 
 // Vital product data page 0x80 of a SCSI device: a 4-byte header, then the serial number.
 QByteArray serialPage(const QString &deviceFolder)
@@ -41,7 +27,7 @@ QByteArray usbSerial(QString folder, const QString &top)
 }
 
 quint32 busOf(const QString &name, const QString &devicePath, const QString &deviceFolder,
-              const Properties &udev)
+              const UdevProperties &udev)
 {
     if (name.startsWith(QLatin1String("nvme")))
         return BusNvme;
@@ -76,7 +62,7 @@ QString modelOf(const QString &name, const QString &folder)
     return QString::fromUtf8(readAttribute(folder + QLatin1String("/device/name"))).trimmed(); // cards
 }
 
-QString serialOf(const QString &sys, const QString &folder, const Properties &udev)
+QString serialOf(const QString &sys, const QString &folder, const UdevProperties &udev)
 {
     const QString deviceFolder = folder + QLatin1String("/device");
     const QString devicePath = QFileInfo(deviceFolder).canonicalFilePath();
@@ -100,7 +86,7 @@ DeviceDescriptor describeDrive(const SystemTree &tree, const QString &kernelName
 {
     const QString folder = tree.sys + QLatin1String("/block/") + kernelName;
     const QString devicePath = QFileInfo(folder).canonicalFilePath();
-    const Properties udev = udevProperties(tree, readAttribute(folder + QLatin1String("/dev")));
+    const UdevProperties udev = udevProperties(tree, readAttribute(folder + QLatin1String("/dev")));
 
     DeviceDescriptor descriptor;
     descriptor.productId = modelOf(kernelName, folder);
@@ -108,6 +94,18 @@ DeviceDescriptor describeDrive(const SystemTree &tree, const QString &kernelName
     descriptor.removableMedia = readNumber(folder + QLatin1String("/removable")) != 0;
     descriptor.busType = busOf(kernelName, devicePath, folder + QLatin1String("/device"), udev);
     return descriptor;
+}
+
+QString worldWideName(const SystemTree &tree, const QString &kernelName)
+{
+    const QString folder = tree.sys + QLatin1String("/block/") + kernelName;
+    for (const QLatin1String attribute : {QLatin1String("/wwid"), QLatin1String("/device/wwid")}) {
+        const QString name = QString::fromUtf8(readAttribute(folder + attribute)).trimmed();
+        if (name.startsWith(QLatin1String("naa.")) || name.startsWith(QLatin1String("eui.")) ||
+            name.startsWith(QLatin1String("uuid.")))
+            return name;
+    }
+    return {};
 }
 
 } // namespace platform

@@ -11,4 +11,8 @@ namespace platform {
 // Missing facts stay empty.
 DeviceDescriptor describeDrive(const SystemTree &tree, const QString &kernelName);
 
+// "naa.5000c500a1b2c3d4", also with "eui." or "uuid." before it. The forms that put together what the maker
+// wrote ("t10.", "nvme.") are left out: such names are not unique in the world. Empty when there is none.
+QString worldWideName(const SystemTree &tree, const QString &kernelName);
+
 } // namespace platform

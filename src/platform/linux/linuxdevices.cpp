@@ -41,6 +41,13 @@ public:
         return Geometry{size / sector * sector, sector};
     }
     Result<QByteArray> descriptor() override { return encodeDeviceDescriptor(describeDrive(m_tree, m_name)); }
+    Result<QString> worldWideName() override
+    {
+        const QString name = platform::worldWideName(m_tree, m_name);
+        if (name.isEmpty())
+            return Status{NotSupported, 0, "wwid"};
+        return name;
+    }
     Result<bool> seekPenalty() override
     {
         const QByteArray rotational = readAttribute(m_queue + QLatin1String("rotational"));
@@ -134,12 +141,10 @@ Result<std::unique_ptr<DeviceQuery>> LinuxDevices::queryVolume(const QString &na
 
 Status LinuxDevices::checkIdentity(const DriveIdentity &chosen, const Drive &present) const
 {
-    const QByteArray descriptor = encodeDeviceDescriptor(describeDrive(m_tree, present.kernelName));
     LinuxQuery query(m_tree, present.kernelName, {});
-    const Result<Geometry> geometry = query.geometry();
-    if (!geometry || !isSameDrive(chosen, descriptor, geometry.value().sizeBytes))
-        return {NotReady, 0, "identity check"};
-    return {};
+    if (query.geometry() && identityOf(chosen.number, query) == chosen)
+        return {};
+    return {NotReady, 0, "identity check"};
 }
 
 Result<std::unique_ptr<RawDevice>> LinuxDevices::openDrive(const DriveIdentity &drive, DriveAccess access)

@@ -2,12 +2,12 @@
 
 #include "platform/filenames.h"
 #include "platform/linux/errnotable.h"
+#include "platform/transfercheck.h"
 
 #include <QtGlobal>
 
 #include <algorithm>
 #include <cerrno>
-#include <cstdint>
 
 #include <fcntl.h>
 #include <linux/fs.h>
@@ -65,13 +65,6 @@ Result<BlockTransfers> BlockTransfers::on(FileDescriptor fd)
     return BlockTransfers(std::move(fd), Geometry{whole, sector}, static_cast<qint64>(size));
 }
 
-bool BlockTransfers::isAligned(const void *data, qint64 size) const
-{
-    const qint64 sector = m_geometry.bytesPerSector;
-    return size >= 0 && size % sector == 0 &&
-           reinterpret_cast<std::uintptr_t>(data) % static_cast<quint64>(sector) == 0;
-}
-
 Status BlockTransfers::seek(qint64 position)
 {
     if (position < 0 || position % m_geometry.bytesPerSector != 0)
@@ -82,8 +75,8 @@ Status BlockTransfers::seek(qint64 position)
 
 Result<qint64> BlockTransfers::read(void *data, qint64 size)
 {
-    if (!isAligned(data, size))
-        return Status{InvalidParameter, 0, "read"};
+    if (const Status refusal = checkTransfer(data, size, m_geometry.bytesPerSector, "read"); !refusal)
+        return refusal;
     qint64 done = 0;
     while (done < size) {
         const ssize_t count = ::pread(m_fd.get(), static_cast<char *>(data) + done,
@@ -102,8 +95,8 @@ Result<qint64> BlockTransfers::read(void *data, qint64 size)
 
 Result<qint64> BlockTransfers::write(const void *data, qint64 size)
 {
-    if (!isAligned(data, size))
-        return Status{InvalidParameter, 0, "write"};
+    if (const Status refusal = checkTransfer(data, size, m_geometry.bytesPerSector, "write"); !refusal)
+        return refusal;
     const qint64 room = std::max<qint64>(m_geometry.sizeBytes - m_position, 0);
     if (size > 0 && room == 0)
         return Status{SectorNotFound, 0, "write"};

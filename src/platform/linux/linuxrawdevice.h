@@ -31,7 +31,6 @@ private:
         , m_geometry(geometry)
         , m_length(length)
     {}
-    bool isAligned(const void *data, qint64 size) const;
 
     FileDescriptor m_fd;
     Geometry m_geometry;

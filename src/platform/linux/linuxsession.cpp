@@ -1,5 +1,6 @@
 #include "platform/linux/linuxsession.h"
 
+#include "platform/linux/devicesinuse.h"
 #include "platform/linux/mediumtrace.h"
 
 #include <QDir>
@@ -41,6 +42,7 @@ QStringList LinuxSession::systemVolumes()
     if (trace.volumesUnder(QStringLiteral("/")).isEmpty()) {
         for (const VolumeTable::Volume &volume : m_volumes.mounted())
             volumes += trace.volumesUnder(volume.name);
+        volumes += devicesInUse(m_tree);
     }
     volumes.removeDuplicates();
     for (const QString &area : parseSwaps(readAttribute(m_tree.proc + QLatin1String("/swaps")))) {

@@ -2,8 +2,7 @@
 
 #include "platform/filenames.h"
 #include "platform/linux/filedescriptor.h"
-
-#include <QList>
+#include "platform/linux/udevdatabase.h"
 
 #include <array>
 
@@ -15,11 +14,9 @@ namespace platform {
 
 QString volumeLabel(const SystemTree &tree, const QByteArray &device, const QString &mountPoint)
 {
-    const QByteArray udev = readAttribute(tree.udev + QLatin1String("/b") + QString::fromLatin1(device));
-    for (const QByteArray &line : udev.split('\n')) {
-        if (line.startsWith("E:ID_FS_LABEL="))
-            return QString::fromUtf8(line.mid(14));
-    }
+    const UdevProperties udev = udevProperties(tree, device);
+    if (udev.contains("ID_FS_LABEL"))
+        return QString::fromUtf8(udev.value("ID_FS_LABEL"));
 
     const FileDescriptor root(::open(encodeName(mountPoint).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     std::array<char, FSLABEL_MAX + 1> label = {};

@@ -31,7 +31,10 @@ Status checkIdentity(const DriveIdentity &chosen, HANDLE drive)
 {
     const Result<Geometry> geometry = askGeometry(drive);
     const Result<QByteArray> descriptor = askDescriptor(drive);
-    if (isSameDrive(chosen, descriptor.valueOr({}), geometry.valueOr({}).sizeBytes))
+    const DriveIdentity present =
+        identityFrom(chosen.number, descriptor.valueOr({}), geometry.valueOr({}).sizeBytes,
+                     askWorldWideName(drive).valueOr({}));
+    if (present == chosen)
         return {};
     const Status &unanswered = geometry ? descriptor.status() : geometry.status();
     return {NotReady, unanswered.native, "identity check"};
@@ -49,7 +52,9 @@ Status checkVolume(HANDLE volume, const DriveIdentity &chosen, const QString &dr
     const Result<WinHandle> drive = openForQuery(drivePath);
     if (drive)
         return checkIdentity(chosen, drive.value().get());
-    return isSameDrive(chosen, {}, 0) ? Status{} : Status{NotReady, drive.status().native, "identity check"};
+    return chosen == DriveIdentity{.number = chosen.number}
+               ? Status{}
+               : Status{NotReady, drive.status().native, "identity check"};
 }
 
 // The call wants the root with its separator, and only that of the system is sure to be understood.

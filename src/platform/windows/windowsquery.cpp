@@ -12,6 +12,7 @@ namespace platform {
 namespace {
 
 constexpr DWORD DescriptorRoom = 10000;
+constexpr DWORD IdentifiersRoom = 1024;
 constexpr DWORD ExtentsHeader = 8;
 constexpr DWORD ExtentSize = 24;
 
@@ -100,6 +101,19 @@ Result<QByteArray> askDescriptor(HANDLE drive)
 {
     return askProperty(drive, StorageDeviceProperty, {sizeof(STORAGE_DESCRIPTOR_HEADER), DescriptorRoom},
                        "StorageDeviceProperty");
+}
+
+Result<QString> askWorldWideName(HANDLE drive)
+{
+    constexpr const char *Operation = "StorageDeviceIdProperty";
+    const Result<QByteArray> reply = askProperty(
+        drive, StorageDeviceIdProperty, {sizeof(STORAGE_DESCRIPTOR_HEADER), IdentifiersRoom}, Operation);
+    if (!reply)
+        return reply.status();
+    const QString name = decodeWorldWideName(reply.value());
+    if (name.isEmpty())
+        return Status{NotSupported, 0, Operation};
+    return name;
 }
 
 Result<QList<Extent>> askExtents(HANDLE volume, int maxExtents)

@@ -24,6 +24,7 @@ Result<QByteArray> deviceReply(HANDLE device, DWORD code, ReplySize size, const 
 // Questions that any handle of a drive or volume answers, whatever it was opened for.
 Result<Geometry> askGeometry(HANDLE drive);
 Result<QByteArray> askDescriptor(HANDLE drive);
+Result<QString> askWorldWideName(HANDLE drive);
 Result<QList<Extent>> askExtents(HANDLE volume, int maxExtents);
 
 // A drive or volume, by a handle to ask it.
@@ -37,6 +38,7 @@ public:
 
     Result<Geometry> geometry() override { return askGeometry(m_device.get()); }
     Result<QByteArray> descriptor() override { return askDescriptor(m_device.get()); }
+    Result<QString> worldWideName() override { return askWorldWideName(m_device.get()); }
     Result<bool> seekPenalty() override;
     Result<bool> trimEnabled() override;
     Result<DeviceUse> use() override;

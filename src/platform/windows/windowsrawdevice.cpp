@@ -1,10 +1,10 @@
 #include "platform/windows/windowsrawdevice.h"
 
 #include "platform/alignedbuffer.h"
+#include "platform/transfercheck.h"
 #include "platform/windows/lasterror.h"
 
 #include <algorithm>
-#include <cstdint>
 #include <cstring>
 
 namespace platform {
@@ -69,12 +69,6 @@ Result<qint64> DeviceTransfers::length() const
     return qint64(information.Length.QuadPart);
 }
 
-bool DeviceTransfers::isAligned(const void *data, qint64 size) const
-{
-    return size >= 0 && size % m_sector == 0 &&
-           reinterpret_cast<std::uintptr_t>(data) % std::uintptr_t(m_sector) == 0;
-}
-
 // A device refuses a transfer across its end as a whole, which would leave its last sectors out of reach.
 qint64 DeviceTransfers::withinDevice(qint64 size) const
 {
@@ -107,8 +101,8 @@ Status DeviceTransfers::seek(qint64 position)
 
 Result<qint64> DeviceTransfers::read(void *data, qint64 size)
 {
-    if (!isAligned(data, size))
-        return Status{InvalidParameter, 0, "read"};
+    if (const Status refusal = checkTransfer(data, size, m_sector, "read"); !refusal)
+        return refusal;
     const qint64 wanted = withinDevice(size);
     qint64 done = 0;
     while (done < wanted) {
@@ -130,8 +124,8 @@ Result<qint64> DeviceTransfers::read(void *data, qint64 size)
 
 Result<qint64> DeviceTransfers::write(const void *data, qint64 size)
 {
-    if (!isAligned(data, size))
-        return Status{InvalidParameter, 0, "write"};
+    if (const Status refusal = checkTransfer(data, size, m_sector, "write"); !refusal)
+        return refusal;
     const qint64 wanted = withinDevice(size);
     if (size > 0 && wanted == 0)
         return Status{SectorNotFound, 0, "write"};

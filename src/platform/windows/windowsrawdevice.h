@@ -30,7 +30,6 @@ public:
     Status flush();
 
 private:
-    bool isAligned(const void *data, qint64 size) const;
     qint64 withinDevice(qint64 size) const;
     bool isAtUntoldEnd();
 
