@@ -13,7 +13,8 @@ inline Status checkTransfer(const void *data, qint64 size, qint32 sectorSize, co
 {
     if (size < 0 || size % sectorSize != 0)
         return {InvalidParameter, 0, operation};
-    if (reinterpret_cast<std::uintptr_t>(data) % static_cast<std::uintptr_t>(sectorSize) != 0)
+    const qint32 alignment = sectorSize & -sectorSize;
+    if (reinterpret_cast<std::uintptr_t>(data) % static_cast<std::uintptr_t>(alignment) != 0)
         return {MisalignedBuffer, 0, operation};
     return {};
 }

@@ -97,6 +97,7 @@ public:
         const QByteArray descriptor = m_platform->devices().queryDrive(0).value()->descriptor().value();
         disk.diskNumber = 0;
         disk.serialNumber = platform::decodeDeviceDescriptor(descriptor).serialNumber;
+        disk.model = platform::decodeDeviceDescriptor(descriptor).productId;
         disk.sizeBytes = size;
         disk.bytesPerSector = 512;
         disk.totalSectors = size / 512;

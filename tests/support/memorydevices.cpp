@@ -321,8 +321,9 @@ bool MemoryDevices::isSame(const platform::DriveIdentity &identity) const
     const auto found = m_drives.find(identity.number);
     if (found == m_drives.end())
         return false;
-    DriveQuery drive(found->second);
-    return platform::identityOf(identity.number, drive) == identity;
+    const MemoryDrive &drive = found->second;
+    return identity == platform::DriveIdentity{drive.number, drive.serialNumber, drive.sizeBytes, drive.model,
+                                               drive.worldWideName};
 }
 
 platform::Result<std::unique_ptr<platform::DeviceQuery>> MemoryDevices::queryDrive(int number)
