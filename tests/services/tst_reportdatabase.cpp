@@ -259,7 +259,7 @@ private:
 };
 
 // A small file system in memory in the place of the data folder, for what only a volume of its own shows.
-class MemoryVolume
+class TmpfsVolume
 {
 public:
     static QString unavailableReason()
@@ -270,19 +270,19 @@ public:
         return u"SKIPPED: volumes in memory are mounted on Linux only"_s;
 #endif
     }
-    MemoryVolume(const QString &folder, const QString &options)
+    TmpfsVolume(const QString &folder, const QString &options)
         : m_folder(folder)
         , m_mounted(QDir().mkpath(folder) &&
                     mount({u"-t"_s, u"tmpfs"_s, u"-o"_s, options, u"tmpfs"_s, folder}))
     {}
-    ~MemoryVolume()
+    ~TmpfsVolume()
     {
         database().close();
         if (m_mounted && QProcess::execute(u"umount"_s, {m_folder}) != 0)
             QTest::qFail("the volume stays mounted", __FILE__, __LINE__);
     }
-    MemoryVolume(const MemoryVolume &) = delete;
-    MemoryVolume &operator=(const MemoryVolume &) = delete;
+    TmpfsVolume(const TmpfsVolume &) = delete;
+    TmpfsVolume &operator=(const TmpfsVolume &) = delete;
 
     bool isMounted() const
     {
@@ -847,9 +847,9 @@ void tst_ReportDatabase::storingWithinATransactionCommitsNothing()
 
 void tst_ReportDatabase::anEarlierFileOnAReadOnlyVolumeIsRead()
 {
-    if (const QString reason = MemoryVolume::unavailableReason(); !reason.isEmpty())
+    if (const QString reason = TmpfsVolume::unavailableReason(); !reason.isEmpty())
         QSKIP(qPrintable(reason));
-    MemoryVolume volume(userdata::folder(), u"size=4m"_s);
+    TmpfsVolume volume(userdata::folder(), u"size=4m"_s);
     QVERIFY(volume.isMounted());
     QVERIFY(database().initialize());
     QVERIFY(database().saveReport(reportOf(u"old"_s)));
@@ -1172,9 +1172,9 @@ void tst_ReportDatabase::aReadOnlyFileIsRefused()
 
 void tst_ReportDatabase::onAReadOnlyVolumeReportsAreReadButNotStored()
 {
-    if (const QString reason = MemoryVolume::unavailableReason(); !reason.isEmpty())
+    if (const QString reason = TmpfsVolume::unavailableReason(); !reason.isEmpty())
         QSKIP(qPrintable(reason));
-    MemoryVolume volume(userdata::folder(), u"size=4m"_s);
+    TmpfsVolume volume(userdata::folder(), u"size=4m"_s);
     QVERIFY(volume.isMounted());
     QVERIFY(database().initialize());
     QVERIFY(database().saveReport(filledReport()));
@@ -1190,9 +1190,9 @@ void tst_ReportDatabase::onAReadOnlyVolumeReportsAreReadButNotStored()
 
 void tst_ReportDatabase::onAReadOnlyVolumeNoFileIsMade()
 {
-    if (const QString reason = MemoryVolume::unavailableReason(); !reason.isEmpty())
+    if (const QString reason = TmpfsVolume::unavailableReason(); !reason.isEmpty())
         QSKIP(qPrintable(reason));
-    MemoryVolume volume(userdata::folder(), u"size=4m,ro"_s);
+    TmpfsVolume volume(userdata::folder(), u"size=4m,ro"_s);
     QVERIFY(volume.isMounted());
     QVERIFY(!database().initialize());
     QVERIFY2(database().lastError().contains(u"unable to open database file"_s),
@@ -1222,9 +1222,9 @@ void tst_ReportDatabase::aFullFileRefusesReportsAndKeepsTheRest()
 
 void tst_ReportDatabase::aFullVolumeRefusesReportsAndKeepsTheRest()
 {
-    if (const QString reason = MemoryVolume::unavailableReason(); !reason.isEmpty())
+    if (const QString reason = TmpfsVolume::unavailableReason(); !reason.isEmpty())
         QSKIP(qPrintable(reason));
-    MemoryVolume volume(userdata::folder(), u"size=1m"_s);
+    TmpfsVolume volume(userdata::folder(), u"size=1m"_s);
     QVERIFY(volume.isMounted());
     QVERIFY(database().initialize());
     int stored = 0;
@@ -1242,9 +1242,9 @@ void tst_ReportDatabase::aFullVolumeRefusesReportsAndKeepsTheRest()
 
 void tst_ReportDatabase::onAFullVolumeNoDatabaseIsMade()
 {
-    if (const QString reason = MemoryVolume::unavailableReason(); !reason.isEmpty())
+    if (const QString reason = TmpfsVolume::unavailableReason(); !reason.isEmpty())
         QSKIP(qPrintable(reason));
-    MemoryVolume volume(userdata::folder(), u"size=64k"_s);
+    TmpfsVolume volume(userdata::folder(), u"size=64k"_s);
     QVERIFY(volume.isMounted());
     QFile filler(userdata::folder() + u"/filler"_s);
     QVERIFY(filler.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
