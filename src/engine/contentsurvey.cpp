@@ -1,61 +1,101 @@
-#include "engine/copyonwrite.h"
+#include "engine/contentsurvey.h"
 
+#include "platform/contentplace.h"
 #include "platform/files.h"
+#include "platform/folders.h"
 #include "platform/platform.h"
 
-#include <QSet>
-#include <QStorageInfo>
-#include <QString>
-
-#include <algorithm>
-#include <array>
+using platform::Elsewhere;
+using platform::FileKind;
 
 namespace {
 
-QString parentFolder(const QString &path)
+// Folders without files cost time too.
+constexpr int MostFolders = 1000;
+
+bool isElsewhere(const QString &path)
 {
-    const qsizetype separator = path.lastIndexOf(u'/');
-    return separator > 0 ? path.left(separator) : path.left(separator + 1);
+    const auto place = platform::Platform::current().files().contentPlace(path);
+    return place && place.value().elsewhere;
 }
 
-QString placeOf(const QString &path)
+class Survey
 {
-    const auto info = platform::Platform::current().files().info(path);
-    const bool isFolder = info && info.value().kind == platform::FileKind::Folder;
-    return isFolder ? path : parentFolder(path);
-}
+public:
+    explicit Survey(int mostFiles)
+        : m_filesLeft(mostFiles)
+    {}
 
-// A folder whose name Unicode cannot express is unknown to QStorageInfo; one of its parents is not.
-QByteArray fileSystemType(QString folder)
-{
-    QStorageInfo storage(folder);
-    while (!storage.isValid() && folder.size() > 1) {
-        folder = parentFolder(folder);
-        storage.setPath(folder);
+    bool hasMore() const { return m_filesLeft > 0; }
+
+    bool isTargetElsewhere(const QString &target)
+    {
+        const auto info = platform::Platform::current().files().info(target);
+        if (!info)
+            return false;
+        switch (info.value().kind) {
+        case FileKind::Regular:
+            --m_filesLeft;
+            return isElsewhere(target);
+        case FileKind::Folder:
+            return isContentElsewhere(target);
+        case FileKind::Link:
+        case FileKind::Special:
+            break;
+        }
+        return false;
     }
-    return storage.fileSystemType();
-}
+
+private:
+    bool isContentElsewhere(const QString &target)
+    {
+        QStringList pending{target};
+        bool isFound = false;
+        while (!pending.isEmpty() && !isFound) {
+            if (m_filesLeft <= 0 || m_foldersLeft <= 0)
+                return isElsewhere(target);
+            const QString folder = pending.takeLast();
+            --m_foldersLeft;
+            const auto visit = [&](const QString &name, FileKind kind) {
+                const QString path = folder.endsWith(u'/') ? folder + name : folder + u'/' + name;
+                if (kind == FileKind::Folder)
+                    pending.append(path);
+                if (kind != FileKind::Regular)
+                    return true;
+                --m_filesLeft;
+                isFound = isElsewhere(path);
+                return !isFound && m_filesLeft > 0;
+            };
+            // What cannot be listed the job itself will tell.
+            static_cast<void>(platform::Platform::current().folders().forEachEntry(folder, visit));
+            if (!isFound && m_filesLeft <= 0)
+                return isElsewhere(target);
+        }
+        return isFound;
+    }
+
+    int m_filesLeft;
+    int m_foldersLeft = MostFolders;
+};
 
 } // namespace
 
-bool writesElsewhere(const QByteArray &fileSystemType)
+QStringList targetsKeptElsewhere(const QStringList &targets, int mostFiles)
 {
-    static constexpr std::array types{"btrfs", "zfs", "f2fs", "nilfs2", "bcachefs", "overlay", "ReFS"};
-    return std::any_of(types.begin(), types.end(), [&](const char *type) { return fileSystemType == type; });
-}
-
-QByteArrayList fileSystemsWritingElsewhere(const QStringList &paths)
-{
-    QByteArrayList found;
-    QSet<QString> judged; // a trash holds thousands of paths in one folder
-    for (const QString &path : paths) {
-        const QString place = placeOf(path);
-        if (judged.contains(place))
-            continue;
-        judged.insert(place);
-        const QByteArray type = fileSystemType(place);
-        if (writesElsewhere(type) && !found.contains(type))
-            found.append(type);
+    Survey survey(mostFiles);
+    QStringList found;
+    for (const QString &target : targets) {
+        if (!survey.hasMore())
+            break;
+        if (survey.isTargetElsewhere(target))
+            found.append(target);
     }
     return found;
+}
+
+bool writesToNewPlaces(const QString &folder)
+{
+    const auto place = platform::Platform::current().files().contentPlace(folder);
+    return place &&
+           (place.value().elsewhere & (Elsewhere::Relocating | Elsewhere::Shared | Elsewhere::LowerLayer));
 }

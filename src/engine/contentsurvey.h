@@ -1,14 +1,13 @@
 #pragma once
 
-#include <QByteArray>
-#include <QByteArrayList>
+#include <QString>
 #include <QStringList>
 
-// Whether a file system of this type (as QStorageInfo names it) puts new data elsewhere than where the old
-// data lies, so that overwriting a file does not overwrite what the medium held.
-bool writesElsewhere(const QByteArray &fileSystemType);
+// Those of a file job's targets whose content may outlast being overwritten, as far as a quick look tells: of
+// a folder the first files are looked at, and the folder itself when there are more of them. So many
+// files at most, over all targets.
+QStringList targetsKeptElsewhere(const QStringList &targets, int mostFiles = 1000);
 
-// The types of such file systems that hold the paths, each once, in the order of their first appearance. A
-// path is judged by the folder it stands in, a folder by itself; what is mounted deeper below it is not
-// looked at.
-QByteArrayList fileSystemsWritingElsewhere(const QStringList &paths);
+// Whether the file system puts what is written to new places, so that filling its free space does not reach
+// what it keeps of earlier content.
+bool writesToNewPlaces(const QString &folder);
