@@ -93,6 +93,27 @@ void clone(const QString &from, const QString &to)
     run(u"cp"_s, {u"--reflink=always"_s, from, to});
 }
 
+// So many pieces that the kernel does not show them at one time, the last of which another file has too.
+void cloneLastOfMany(const QString &path, const QString &copy)
+{
+    constexpr int Block = 4 * KiB;
+    constexpr int Pieces = 300;
+    const int file = ::open(platform::encodeName(path).constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
+    const int other = ::open(platform::encodeName(copy).constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
+    const QByteArray content = secret(Block);
+    bool isDone = file >= 0 && other >= 0;
+    for (int i = 0; i < Pieces; ++i)
+        isDone = isDone && ::pwrite(file, content.constData(), Block, qint64(i) * 2 * Block) == Block;
+    file_clone_range range = {};
+    range.src_fd = file;
+    range.src_offset = quint64(Pieces - 1) * 2 * Block;
+    range.src_length = Block;
+    if (!isDone || ::fsync(file) != 0 || ::ioctl(other, FICLONERANGE, &range) != 0)
+        QTest::qFail("nothing is shared", __FILE__, __LINE__);
+    ::close(file);
+    ::close(other);
+}
+
 // How a file comes to lie where it lies, and what the job is to say of it.
 struct Case
 {
@@ -155,6 +176,11 @@ const QList<Case> &cases()
              append(file, secret(Size));
          },
          16 * KiB},
+        {"xfs, the last of many pieces shared",
+         xfs,
+         {},
+         [](const QString &file, const QString &root) { cloneLastOfMany(file, root + u"/copy"_s); },
+         4 * KiB},
         {"xfs, no longer shared",
          xfs,
          {},

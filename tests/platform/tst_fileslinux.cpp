@@ -76,6 +76,7 @@ private slots:
     void clearReadOnlyLeavesALinkAndItsTarget();
     void infoOfLinks();
     void contentPlaceSaysWhereItIsOverwritten();
+    void contentPlaceWhereNoExtentsAreShown();
     void contentPlaceOpensNothingButFilesAndFolders();
     void openOfALinkIsRefused();
     void openOfADanglingLinkCreatesNothing();
@@ -204,6 +205,15 @@ void tst_FilesLinux::contentPlaceSaysWhereItIsOverwritten()
         QCOMPARE(files().open(path(u"file"_s), mode).value()->contentPlace().value(), expected);
     QCOMPARE(files().contentPlace(m_folder).value(), (ContentPlace{reasons, -1}));
     QCOMPARE(contentOf(path(u"file"_s)), QByteArray(12345, 'a'));
+}
+
+// A file system that is known for nothing, the kernel's own.
+void tst_FilesLinux::contentPlaceWhereNoExtentsAreShown()
+{
+    const QString file = u"/sys/class/net/lo/mtu"_s;
+    const qint64 size = statusOf(file).st_size;
+    QVERIFY(size > 0);
+    QCOMPARE(files().contentPlace(file).value(), (ContentPlace{Elsewhere::Unknown, size}));
 }
 
 void tst_FilesLinux::contentPlaceOpensNothingButFilesAndFolders()
