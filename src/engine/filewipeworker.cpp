@@ -1,6 +1,5 @@
 #include "engine/filewipeworker.h"
 
-#include "engine/copyonwrite.h"
 #include "engine/filedeletion.h"
 #include "engine/filepresence.h"
 #include "engine/filetrace.h"
@@ -109,7 +108,9 @@ bool FileWipeWorker::run()
     if (isStopRequested())
         return concludeJob(false);
     announceFiles();
-    if (!overwriteAll())
+    const bool isOverwritten = overwriteAll();
+    logContentElsewhere();
+    if (!isOverwritten)
         return concludeJob(false);
     const bool success = deleteAll();
     removeFolders();
@@ -150,9 +151,11 @@ void FileWipeWorker::measureFiles()
 {
     m_singlePassTotal = 0;
     m_isTotalCertain = true;
-    for (const QString &path : std::as_const(m_list.files)) {
+    m_watched.resize(static_cast<std::size_t>(m_list.files.size()));
+    for (qsizetype i = 0; i < m_list.files.size(); ++i) {
         if (!checkPauseStop())
             return;
+        const QString &path = m_list.files.at(i);
         const auto info = files().info(path);
         if (!info) {
             m_isTotalCertain = m_isTotalCertain && isAbsent(info.status());
@@ -160,15 +163,26 @@ void FileWipeWorker::measureFiles()
                 task().noteShortfall({ShortfallKind::EntryVanished, path});
             continue;
         }
-        if (info.value().kind != FileKind::Regular)
-            continue;
-        m_singlePassTotal += info.value().size;
-        if (info.value().linkCount > 1) {
-            const qint64 others = info.value().linkCount - 1;
-            emit logMessage(
-                tr("文件还有 %1 个其他硬链接: %2").arg(QString::number(others), displayText(path)), Warning);
-            task().noteShortfall({ShortfallKind::OtherNames, path, -1, others});
-        }
+        watched(i).find(info.value());
+        if (info.value().kind == FileKind::Regular)
+            measureFile(path, info.value());
+    }
+}
+
+void FileWipeWorker::measureFile(const QString &path, const platform::FileInfo &info)
+{
+    m_singlePassTotal += info.size;
+    // No pass opens it, and yet there may be streams beside the one that is empty.
+    if (info.size == 0) {
+        const auto place = files().contentPlace(path);
+        if (!isAbsent(place.status()))
+            notePlace(path, place);
+    }
+    if (info.linkCount > 1) {
+        const qint64 others = info.linkCount - 1;
+        emit logMessage(tr("文件还有 %1 个其他硬链接: %2").arg(QString::number(others), displayText(path)),
+                        Warning);
+        task().noteShortfall({ShortfallKind::OtherNames, path, -1, others});
     }
 }
 
@@ -182,11 +196,6 @@ void FileWipeWorker::announceFiles()
     emit logMessage(tr("准备擦除 %1 个文件，单遍总大小 %2")
                         .arg(QString::number(m_list.files.size()), formatSize(m_singlePassTotal)),
                     Information);
-    for (const QByteArray &type : fileSystemsWritingElsewhere(task().files())) {
-        emit logMessage(
-            tr("文件系统 %1 不在原位置写入，旧数据可能仍留在介质上").arg(QString::fromLatin1(type)), Warning);
-        task().noteShortfall({ShortfallKind::ContentElsewhere, QString::fromLatin1(type)});
-    }
     if (!task().targetsAreNamed())
         return;
     for (const QString &link : linksAmong(task().files()))
@@ -246,25 +255,24 @@ int FileWipeWorker::overwriteBatch(qsizetype first, qsizetype count, const PassP
     std::vector<FilePool::Job> jobs;
     jobs.reserve(static_cast<std::size_t>(count));
     for (qsizetype i = first; i < first + count; ++i) {
-        jobs.push_back([this, path = m_list.files.at(i), pattern, seed = drawSeed()] {
-            return overwriteJob(path, pattern, seed);
-        });
+        jobs.push_back([this, i, pattern, seed = drawSeed()] { return overwriteJob(i, pattern, seed); });
     }
     return m_pool.run(std::move(jobs));
 }
 
-bool FileWipeWorker::overwriteJob(const QString &path, const PassPattern &pattern, quint32 seed) noexcept
+bool FileWipeWorker::overwriteJob(qsizetype index, const PassPattern &pattern, quint32 seed) noexcept
 {
     try {
-        return overwriteExisting(path, pattern, seed);
+        return overwriteExisting(index, pattern, seed);
     } catch (const std::bad_alloc &) {
         logOutOfMemory();
     }
     return false;
 }
 
-bool FileWipeWorker::overwriteExisting(const QString &path, const PassPattern &pattern, quint32 seed)
+bool FileWipeWorker::overwriteExisting(qsizetype index, const PassPattern &pattern, quint32 seed)
 {
+    const QString &path = m_list.files.at(index);
     const auto info = files().info(path);
     if (!info && !isAbsent(info.status()))
         return failFile(tr("无法打开文件(WinAPI): %1"), path, info.status());
@@ -273,13 +281,22 @@ bool FileWipeWorker::overwriteExisting(const QString &path, const PassPattern &p
         task().noteShortfall({ShortfallKind::EntryVanished, path});
         return true;
     }
+    watched(index).find(info.value());
+    // What took its place was not chosen, and where its content is now nobody knows.
+    if (watched(index).isReplacedBy(info.value())) {
+        noteReplaced(path);
+        return true;
+    }
     if (info.value().kind != FileKind::Regular)
         return true;
-    return overwriteFile(path, info.value().size, pattern, seed);
+    return overwriteFile(index, info.value().size, pattern, seed);
 }
 
-bool FileWipeWorker::overwriteFile(const QString &path, qint64 size, const PassPattern &pattern, quint32 seed)
+bool FileWipeWorker::overwriteFile(qsizetype index, qint64 size, const PassPattern &pattern, quint32 seed)
 {
+    const QString &path = m_list.files.at(index);
+    if (const qint64 lost = watched(index).beginPass(size); lost > 0)
+        task().noteShortfall({ShortfallKind::EntryVanished, path, lost});
     if (size < 1)
         return true;
     if (isStopRequested())
@@ -295,6 +312,13 @@ bool FileWipeWorker::overwriteFile(const QString &path, qint64 size, const PassP
         if (!opened)
             return failFile(tr("无法打开文件(WinAPI): %1"), path, opened.status());
         platform::FileHandle &file = *opened.value();
+        if (watched(index).isReplacedBy(file)) {
+            noteReplaced(path);
+            return true;
+        }
+        // The first write may already change the answer.
+        if (watched(index).isToBeLocated())
+            notePlace(path, file.contentPlace());
         if (!writeChunks(file, path, size, pattern, seed, buffer))
             return false;
         const Status flushed = file.flush();
@@ -342,6 +366,30 @@ bool FileWipeWorker::verifyFile(const QString &path, qint64 size, const PassPatt
     return outcome == FileSampling::Outcome::Passed;
 }
 
+void FileWipeWorker::noteReplaced(const QString &path)
+{
+    emit logMessage(tr("文件已被替换，保持原样: %1").arg(displayText(path)), Warning);
+    task().noteShortfall({ShortfallKind::EntryReplaced, path});
+}
+
+// What could not be found out counts as elsewhere.
+void FileWipeWorker::notePlace(const QString &path, const platform::Result<platform::ContentPlace> &place)
+{
+    traceFile(path, place.status());
+    if (place && !place.value().elsewhere)
+        return;
+    ++m_elsewhereCount;
+    task().noteShortfall({ShortfallKind::ContentElsewhere, path, place ? place.value().bytes : -1});
+}
+
+// One line for all of them: there may be as many as files.
+void FileWipeWorker::logContentElsewhere()
+{
+    if (m_elsewhereCount > 0)
+        emit logMessage(tr("%1 个文件的内容可能还保存在别处，未被覆写").arg(m_elsewhereCount.load()),
+                        Warning);
+}
+
 bool FileWipeWorker::deleteAll()
 {
     emit logMessage(tr("正在执行安全删除及元数据清理..."), Information);
@@ -352,10 +400,11 @@ bool FileWipeWorker::deleteAll()
     };
     FileDeletion deletion([this](std::chrono::milliseconds time) { return waitUnlessStopped(time); });
     int failures = 0;
-    for (const QString &path : std::as_const(m_list.files)) {
+    for (qsizetype i = 0; i < m_list.files.size(); ++i) {
         if (isStopRequested())
             break;
-        if (!deletion.secureDeleteFile(path) && mayStand(path)) {
+        const QString &path = m_list.files.at(i);
+        if (isToBeDeleted(i) && !deletion.secureDeleteFile(path) && mayStand(path)) {
             ++failures;
             emit logMessage(tr("删除失败: %1").arg(displayText(path)), Warning);
             task().noteShortfall({ShortfallKind::EntryNotRemoved, path});
@@ -364,6 +413,30 @@ bool FileWipeWorker::deleteAll()
     }
     m_failedCount += failures;
     return failures == 0;
+}
+
+// Notes what has become of the entry since it was overwritten.
+bool FileWipeWorker::isToBeDeleted(qsizetype index)
+{
+    const QString &path = m_list.files.at(index);
+    const WatchedFile &file = watched(index);
+    const auto info = files().info(path);
+    const auto &found = file.found();
+    if (!info) {
+        const bool isRemoved = found && m_removed.contains(found->id);
+        if (isAbsent(info.status()) && !isRemoved)
+            task().noteShortfall({ShortfallKind::EntryVanished, path});
+        return true;
+    }
+    if (file.isReplacedBy(info.value())) {
+        noteReplaced(path);
+        return false;
+    }
+    if (const qint64 grown = file.grownBy(info.value()); grown > 0)
+        task().noteShortfall({ShortfallKind::EntryGrew, path, grown});
+    if (task().files().size() > 1 && info.value().id.number != 0)
+        m_removed.insert(info.value().id);
+    return true;
 }
 
 // Only folders whose content was in the list: what could not be listed was not overwritten, and removing it

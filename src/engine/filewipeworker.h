@@ -5,6 +5,12 @@
 #include "engine/filepool.h"
 #include "engine/fileprogress.h"
 #include "engine/filesampling.h"
+#include "engine/watchedfile.h"
+
+#include <QSet>
+
+#include <atomic>
+#include <vector>
 
 namespace platform {
 class AlignedBuffer;
@@ -30,8 +36,11 @@ private:
     bool run();
     bool concludeJob(bool success);
 
+    WatchedFile &watched(qsizetype index) { return m_watched[static_cast<std::size_t>(index)]; }
+
     FileList collectFiles(const QStringList &targets);
     void measureFiles();
+    void measureFile(const QString &path, const platform::FileInfo &info);
     void announceFiles();
 
     // False when the job is not to delete anything.
@@ -41,15 +50,19 @@ private:
     int overwriteBatch(qsizetype first, qsizetype count, const PassPattern &pattern);
 
     // On pool threads, from here ...
-    bool overwriteJob(const QString &path, const PassPattern &pattern, quint32 seed) noexcept;
-    bool overwriteExisting(const QString &path, const PassPattern &pattern, quint32 seed);
-    bool overwriteFile(const QString &path, qint64 size, const PassPattern &pattern, quint32 seed);
+    bool overwriteJob(qsizetype index, const PassPattern &pattern, quint32 seed) noexcept;
+    bool overwriteExisting(qsizetype index, const PassPattern &pattern, quint32 seed);
+    bool overwriteFile(qsizetype index, qint64 size, const PassPattern &pattern, quint32 seed);
     bool writeChunks(platform::FileHandle &file, const QString &path, qint64 size, const PassPattern &pattern,
                      quint32 seed, platform::AlignedBuffer &buffer);
     bool verifyFile(const QString &path, qint64 size, const PassPattern &pattern);
+    void noteReplaced(const QString &path);
+    void notePlace(const QString &path, const platform::Result<platform::ContentPlace> &place);
     // ... to here.
+    void logContentElsewhere();
 
     bool deleteAll();
+    bool isToBeDeleted(qsizetype index);
     void removeFolders();
     void reportVerification();
 
@@ -57,8 +70,11 @@ private:
     bool failFile(const QString &message, const QString &path, const platform::Status &status);
 
     FileList m_list;
-    qint64 m_singlePassTotal = 0; // bytes
-    bool m_isTotalCertain = true; // the size of every file that stands was told
+    std::vector<WatchedFile> m_watched;   // the files of the list; each used by the one job that has its file
+    QSet<platform::FileId> m_removed;     // where a file may be in the list under two spellings of its path
+    std::atomic<int> m_elsewhereCount{0}; // files whose content may lie elsewhere too
+    qint64 m_singlePassTotal = 0;         // bytes
+    bool m_isTotalCertain = true;         // the size of every file that stands was told
     int m_processedCount = 0;
     int m_failedCount = 0;
 

@@ -1,6 +1,6 @@
 #include "engine/foreseeable.h"
 
-#include "engine/copyonwrite.h"
+#include "engine/contentsurvey.h"
 #include "engine/freespacewipeworker.h"
 #include "model/wipetask.h"
 #include "platform/files.h"
@@ -37,8 +37,8 @@ void foreseeVolume(const PartitionInfo &partition, OutcomeRecord &record)
 
 void foreseeFiles(const WipeTask &task, OutcomeRecord &record)
 {
-    for (const QByteArray &type : fileSystemsWritingElsewhere(task.files()))
-        record.note({ShortfallKind::ContentElsewhere, QString::fromLatin1(type)});
+    for (const QString &target : targetsKeptElsewhere(task.files()))
+        record.note({ShortfallKind::ContentElsewhere, target});
     if (!task.targetsAreNamed())
         return;
     for (const QString &link : linksAmong(task.files()))

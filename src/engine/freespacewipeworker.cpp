@@ -1,7 +1,7 @@
 #include "engine/freespacewipeworker.h"
 
 #include "engine/chunkpipeline.h"
-#include "engine/copyonwrite.h"
+#include "engine/contentsurvey.h"
 #include "engine/filepresence.h"
 #include "engine/fillfolder.h"
 #include "model/displaytext.h"
@@ -286,7 +286,7 @@ bool FreeSpaceWipeWorker::runPasses()
     ChunkPipeline chunks([this](std::byte *data, qint64 size, const PassPattern &pattern) {
         fillBuffer(data, size, pattern);
     });
-    if (!fileSystemsWritingElsewhere({m_root}).isEmpty())
+    if (writesToNewPlaces(m_root))
         task().noteShortfall({ShortfallKind::CopyOnWrite, m_root});
     noteReadBack(false);
     qint64 filledInEvery = std::numeric_limits<qint64>::max();

@@ -1,7 +1,9 @@
 #pragma once
 
+#include "platform/contentplace.h"
 #include "platform/status.h"
 
+#include <QHashFunctions>
 #include <QString>
 
 #include <memory>
@@ -15,11 +17,28 @@ enum class FileKind {
     Special, // pipe, socket, device node
 };
 
+// What tells a file from every other one, under whatever name. The number of a deleted file may be given
+// again; the time of birth, where the file system keeps one, tells the two apart.
+struct FileId
+{
+    quint64 device = 0;
+    quint64 number = 0;
+    qint64 born = 0; // ns since 1970, 0 without one
+
+    bool operator==(const FileId &) const = default;
+};
+
+inline size_t qHash(const FileId &id, size_t seed = 0)
+{
+    return qHashMulti(seed, id.device, id.number, id.born);
+}
+
 struct FileInfo
 {
     FileKind kind = FileKind::Regular;
     qint64 size = 0;   // bytes; 0 for everything but regular files
     int linkCount = 1; // names that the file has (hard links), at least 1
+    FileId id{};       // only to be compared where FileHandle::id() answers
 };
 
 // An open file. Positions and lengths are bytes. Transfers loop over short ones and interruptions by
@@ -61,6 +80,19 @@ public:
     // written is not; it is never to be retried as if nothing had happened. Windows: FlushFileBuffers. Linux:
     // fsync after setEnd, else fdatasync; nothing where each write is known to have waited for the device.
     virtual Status flush() = 0;
+
+    // The same as FileInfo::id. NotSupported where the file system gives its files other numbers whenever it
+    // likes (FAT on Linux, file systems in user space, most of the network), so that another number says
+    // nothing. Windows: GetFileInformationByHandle. Linux: statx.
+    virtual Result<FileId> id() = 0;
+
+    // Where the content lies, none of a file without content. To be asked before the first write, which may
+    // already change the answer. What the system still holds back is written out first. A failure leaves the
+    // question open.
+    // Windows: GetFileInformationByHandle(Ex), GetVolumeInformationByHandleW,
+    // FSCTL_GET_INTEGRITY_INFORMATION, FSCTL_GET_RETRIEVAL_POINTERS. Linux: fstatfs, FS_IOC_GETFLAGS,
+    // FS_IOC_FIEMAP, /proc/fs/ext4.
+    virtual Result<ContentPlace> contentPlace() = 0;
 };
 
 enum class OpenMode {
@@ -98,7 +130,7 @@ public:
 
     // What stands under the path itself. FileNotFound or PathNotFound when there is nothing.
     // Windows: GetFileAttributesExW, FindFirstFileExW for the tag of a reparse point,
-    // GetFileInformationByHandle for the link count. Linux: lstat.
+    // GetFileInformationByHandle for link count and identity. Linux: statx.
     virtual Result<FileInfo> info(const QString &path) = 0;
 
     // Opens a regular file. Everything else is refused with CannotAccessFile, a folder with AccessDenied,
@@ -106,6 +138,10 @@ public:
     // keeps elsewhere. Windows: CreateFileW with FILE_FLAG_OPEN_REPARSE_POINT; any reparse point is refused.
     // Linux: open with O_NOFOLLOW | O_NONBLOCK, then fstat.
     virtual Result<std::unique_ptr<FileHandle>> open(const QString &path, OpenMode mode) = 0;
+
+    // FileHandle::contentPlace() of a regular file; for a folder what holds for new files in it, without a
+    // count of bytes. Everything else is refused as by open(). Needs no permission to write.
+    virtual Result<ContentPlace> contentPlace(const QString &path) = 0;
 
     // Makes the file writable for its owner. Success when nothing had to change, or when nothing stands
     // there. Windows: clears FILE_ATTRIBUTE_READONLY, keeps the other attributes. Linux: adds the owner's

@@ -23,6 +23,8 @@ public:
     Result<qint64> write(const void *data, qint64 size) override { return m_target->write(data, size); }
     Status setEnd() override { return m_target->setEnd(); }
     Status flush() override { return m_target->flush(); }
+    Result<FileId> id() override { return m_target->id(); }
+    Result<ContentPlace> contentPlace() override { return m_target->contentPlace(); }
 
 protected:
     std::unique_ptr<FileHandle> m_target;
@@ -39,6 +41,7 @@ public:
     {
         return m_target.open(path, mode);
     }
+    Result<ContentPlace> contentPlace(const QString &path) override { return m_target.contentPlace(path); }
     Status clearReadOnly(const QString &path) override { return m_target.clearReadOnly(path); }
     Status rename(const QString &from, const QString &to) override { return m_target.rename(from, to); }
     Status remove(const QString &path) override { return m_target.remove(path); }

@@ -34,6 +34,8 @@ constexpr FaultKind faultKinds[] = {
     {"clearReadOnly", FaultPlan::ClearReadOnly},
     {"rename", FaultPlan::Rename},
     {"remove", FaultPlan::Remove},
+    {"identify", FaultPlan::Identify},
+    {"locate", FaultPlan::Locate},
     {"rename and remove", FaultPlan::Rename | FaultPlan::Remove},
     {"list", FaultPlan::List},
     {"removeTree", FaultPlan::RemoveTree},

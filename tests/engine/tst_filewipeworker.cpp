@@ -243,9 +243,9 @@ void tst_FileWipeWorker::allCallsForOneFileInOrder()
     }
     using F = FaultPlan;
     const QList<int> expected{
-        F::ClearReadOnly, F::Open, F::Seek, F::Write,  F::Flush,                        // overwrite
-        F::Open,          F::Seek, F::Read, F::Seek,   F::Read,  F::Seek,   F::Read,    // read back
-        F::ClearReadOnly, F::Open, F::Seek, F::SetEnd, F::Flush, F::Rename, F::Remove}; // delete
+        F::ClearReadOnly, F::Open, F::Identify, F::Locate, F::Seek,  F::Write,  F::Flush,   // overwrite
+        F::Open,          F::Seek, F::Read,     F::Seek,   F::Read,  F::Seek,   F::Read,    // read back
+        F::ClearReadOnly, F::Open, F::Seek,     F::SetEnd, F::Flush, F::Rename, F::Remove}; // delete
     QCOMPARE(kinds, expected);
     const QList<FileCall> opened = job.files.calls(FaultPlan::Open);
     QCOMPARE(opened[0].mode, OpenMode::Overwrite);

@@ -73,6 +73,10 @@ private slots:
     void infoCountsHardLinks();
     void infoOfAFolder();
     void infoOfNothing();
+    void theIdStaysWithTheFile();
+    void anotherFileHasAnotherId();
+    void contentPlaceOfAnEmptyFile();
+    void contentPlaceOfNothing();
     void clearReadOnlyMakesWritable();
     void clearReadOnlyOfNothingIsSuccess();
     void renameKeepsTheContents();
@@ -600,6 +604,60 @@ void tst_Files::infoOfAFolder()
         QCOMPARE(folder.value().size, 0);
         QVERIFY(folder.value().linkCount >= 1);
     }
+}
+
+// Whatever happens to name, content and the files around it.
+void tst_Files::theIdStaysWithTheFile()
+{
+    writeFile(path(u"file"_s), "abc");
+    const FileId id = files().info(path(u"file"_s)).value().id;
+    {
+        const auto opened = files().open(path(u"file"_s), OpenMode::Overwrite);
+        QVERIFY(opened.ok());
+        if (opened.value()->id().code() == NotSupported)
+            QSKIP("SKIPPED: files have no lasting numbers here");
+        QCOMPARE(opened.value()->id().value(), id);
+        QVERIFY(opened.value()->write("xyzuvw", 6).ok());
+        QVERIFY(opened.value()->flush().ok());
+        QCOMPARE(opened.value()->id().value(), id);
+    }
+    QVERIFY(files().rename(path(u"file"_s), path(u"other"_s)).ok());
+    QCOMPARE(files().info(path(u"other"_s)).value().id, id);
+    for (const OpenMode mode : {OpenMode::Verify, OpenMode::Truncate, OpenMode::CreateFill}) {
+        const auto opened = files().open(path(u"other"_s), mode);
+        QVERIFY(opened.ok());
+        QCOMPARE(opened.value()->id().value(), id);
+    }
+}
+
+void tst_Files::anotherFileHasAnotherId()
+{
+    writeFile(path(u"file"_s), "abc");
+    const FileId id = files().info(path(u"file"_s)).value().id;
+    if (files().open(path(u"file"_s), OpenMode::Verify).value()->id().code() == NotSupported)
+        QSKIP("SKIPPED: files have no lasting numbers here");
+    writeFile(path(u"beside"_s), "abc");
+    QVERIFY(files().info(path(u"beside"_s)).value().id != id);
+    // Some file systems give a number again at once; births a few milliseconds apart are told apart.
+    QTest::qSleep(50);
+    QVERIFY(files().remove(path(u"file"_s)).ok());
+    writeFile(path(u"file"_s), "abc");
+    QVERIFY(files().info(path(u"file"_s)).value().id != id);
+    QVERIFY(files().open(path(u"file"_s), OpenMode::Verify).value()->id().value() != id);
+}
+
+void tst_Files::contentPlaceOfAnEmptyFile()
+{
+    writeFile(path(u"empty"_s), {});
+    const ContentPlace nowhere{.elsewhere = {}, .bytes = 0};
+    QCOMPARE(files().contentPlace(path(u"empty"_s)).value(), nowhere);
+    QCOMPARE(files().open(path(u"empty"_s), OpenMode::Overwrite).value()->contentPlace().value(), nowhere);
+}
+
+void tst_Files::contentPlaceOfNothing()
+{
+    QCOMPARE(files().contentPlace(path(u"none"_s)).code(), quint32(FileNotFound));
+    QVERIFY(!files().contentPlace(path(u"none/file"_s)).ok());
 }
 
 void tst_Files::infoOfNothing()

@@ -75,6 +75,9 @@ private slots:
     void clearReadOnlyKeepsTheOtherPermissions();
     void clearReadOnlyLeavesALinkAndItsTarget();
     void infoOfLinks();
+    void contentPlaceSaysWhereItIsOverwritten();
+    void contentPlaceWhereNoExtentsAreShown();
+    void contentPlaceOpensNothingButFilesAndFolders();
     void openOfALinkIsRefused();
     void openOfADanglingLinkCreatesNothing();
     void slashAfterALinkDoesNotFollowIt();
@@ -188,6 +191,39 @@ void tst_FilesLinux::clearReadOnlyLeavesALinkAndItsTarget()
     QVERIFY(files().clearReadOnly(path(u"link"_s)).ok());
     QVERIFY(files().clearReadOnly(path(u"dangling"_s)).ok());
     QCOMPARE(uint(statusOf(path(u"target"_s)).st_mode & ALLPERMS), 0400u);
+}
+
+void tst_FilesLinux::contentPlaceSaysWhereItIsOverwritten()
+{
+    QFETCH_GLOBAL(QString, place);
+    const bool isElsewhere = place == u"btrfs"_s;
+    const ElsewhereReasons reasons = isElsewhere ? Elsewhere::Relocating : ElsewhereReasons();
+    writeFile(path(u"file"_s), QByteArray(12345, 'a'));
+    const ContentPlace expected{reasons, isElsewhere ? 12345 : 0};
+    QCOMPARE(files().contentPlace(path(u"file"_s)).value(), expected);
+    for (const OpenMode mode : {OpenMode::Overwrite, OpenMode::Verify})
+        QCOMPARE(files().open(path(u"file"_s), mode).value()->contentPlace().value(), expected);
+    QCOMPARE(files().contentPlace(m_folder).value(), (ContentPlace{reasons, -1}));
+    QCOMPARE(contentOf(path(u"file"_s)), QByteArray(12345, 'a'));
+}
+
+// A file system that is known for nothing, the kernel's own.
+void tst_FilesLinux::contentPlaceWhereNoExtentsAreShown()
+{
+    const QString file = u"/sys/class/net/lo/mtu"_s;
+    const qint64 size = statusOf(file).st_size;
+    QVERIFY(size > 0);
+    QCOMPARE(files().contentPlace(file).value(), (ContentPlace{Elsewhere::Unknown, size}));
+}
+
+void tst_FilesLinux::contentPlaceOpensNothingButFilesAndFolders()
+{
+    writeFile(path(u"file"_s), "abc");
+    QVERIFY(makeLink(path(u"file"_s), path(u"link"_s)));
+    QVERIFY(makeLink(m_folder, path(u"to a folder"_s)));
+    QCOMPARE(::mkfifo(encodeName(path(u"pipe"_s)).constData(), 0600), 0);
+    for (const QString &name : {u"link"_s, u"to a folder"_s, u"pipe"_s})
+        QCOMPARE(files().contentPlace(path(name)).code(), quint32(CannotAccessFile));
 }
 
 void tst_FilesLinux::infoOfLinks()

@@ -34,6 +34,8 @@ public:
         Lock = 1 << 17,
         Dismount = 1 << 18,
         Unlock = 1 << 19,
+        Identify = 1 << 20, // id of an open file
+        Locate = 1 << 21,   // contentPlace
         Every = 0xFFFFFFFF,
     };
     enum Repeat { Once, FromThenOn };

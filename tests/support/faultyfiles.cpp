@@ -35,6 +35,18 @@ public:
     {
         return m_plan.fires(FaultPlan::Flush) ? m_plan.status() : ForwardingFileHandle::flush();
     }
+    platform::Result<platform::FileId> id() override
+    {
+        if (m_plan.fires(FaultPlan::Identify))
+            return m_plan.status();
+        return ForwardingFileHandle::id();
+    }
+    platform::Result<platform::ContentPlace> contentPlace() override
+    {
+        if (m_plan.fires(FaultPlan::Locate))
+            return m_plan.status();
+        return ForwardingFileHandle::contentPlace();
+    }
 
 private:
     FaultPlan &m_plan;
@@ -58,6 +70,13 @@ platform::Result<std::unique_ptr<platform::FileHandle>> FaultyFiles::open(const 
     if (!handle || !concerns(path))
         return handle;
     return std::unique_ptr<platform::FileHandle>(std::make_unique<FaultyFileHandle>(handle.take(), m_plan));
+}
+
+platform::Result<platform::ContentPlace> FaultyFiles::contentPlace(const QString &path)
+{
+    if (fires(FaultPlan::Locate, path))
+        return m_plan.status();
+    return ForwardingFiles::contentPlace(path);
 }
 
 platform::Status FaultyFiles::clearReadOnly(const QString &path)

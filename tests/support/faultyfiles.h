@@ -25,6 +25,7 @@ public:
     // Nothing is created or cut by an opening that fails.
     platform::Result<std::unique_ptr<platform::FileHandle>> open(const QString &path,
                                                                  platform::OpenMode mode) override;
+    platform::Result<platform::ContentPlace> contentPlace(const QString &path) override;
     platform::Status clearReadOnly(const QString &path) override;
     // It is the old name that counts.
     platform::Status rename(const QString &from, const QString &to) override;

@@ -35,6 +35,8 @@ public:
             entry->unflushed = 0;
         return {};
     }
+    platform::Result<platform::FileId> id() override { return failure(platform::NotSupported); }
+    platform::Result<platform::ContentPlace> contentPlace() override { return m_volume.contentPlace(m_path); }
 
 private:
     MemoryVolume &m_volume;
@@ -103,6 +105,11 @@ platform::Result<std::unique_ptr<platform::FileHandle>> MemoryVolume::open(const
     freeBytes[rootOf(path)] += standing.size;
     entries.insert(path, {});
     return std::unique_ptr<platform::FileHandle>(std::make_unique<Handle>(*this, path));
+}
+
+platform::Result<platform::ContentPlace> MemoryVolume::contentPlace(const QString &)
+{
+    return platform::ContentPlace{.elsewhere = elsewhere, .bytes = -1};
 }
 
 platform::Status MemoryVolume::clearReadOnly(const QString &path)

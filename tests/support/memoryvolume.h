@@ -50,10 +50,11 @@ public:
     QMap<QString, Entry> entries;                                     // by full path
     std::function<void(FaultPlan::Kind, const QString &path)> onCall; // before every call
     std::optional<platform::ErrorCode> answerOfSpace;                 // space() of every path fails
-    int storedPercent = 100; // of what is written, by a file system that compresses
-    int releaseDelay = 0;    // calls of space() until the room of deleted files is free again
-    qint64 largestFile = 0;  // 0: any size
-    QStringList unremovable; // remove() fails with SharingViolation
+    int storedPercent = 100;              // of what is written, by a file system that compresses
+    int releaseDelay = 0;                 // calls of space() until the room of deleted files is free again
+    qint64 largestFile = 0;               // 0: any size
+    platform::ElsewhereReasons elsewhere; // what contentPlace() tells of every path
+    QStringList unremovable;              // remove() fails with SharingViolation
 
     // What tests look at.
     QList<Write> writes;
@@ -83,6 +84,7 @@ public:
     platform::Result<platform::FileInfo> info(const QString &path) override;
     platform::Result<std::unique_ptr<platform::FileHandle>> open(const QString &path,
                                                                  platform::OpenMode mode) override;
+    platform::Result<platform::ContentPlace> contentPlace(const QString &path) override;
     platform::Status clearReadOnly(const QString &path) override;
     platform::Status rename(const QString &, const QString &) override;
     platform::Status remove(const QString &path) override;

@@ -41,6 +41,20 @@ public:
         const platform::Status answer = observe(FaultPlan::Flush, 0, 0);
         return answer ? ForwardingFileHandle::flush() : answer;
     }
+    platform::Result<platform::FileId> id() override
+    {
+        const platform::Status answer = observe(FaultPlan::Identify, 0, 0);
+        if (!answer)
+            return answer;
+        return ForwardingFileHandle::id();
+    }
+    platform::Result<platform::ContentPlace> contentPlace() override
+    {
+        const platform::Status answer = observe(FaultPlan::Locate, 0, 0);
+        if (!answer)
+            return answer;
+        return ForwardingFileHandle::contentPlace();
+    }
 
 private:
     platform::Status observe(FaultPlan::Kind kind, qint64 position, qint64 size)
@@ -104,6 +118,14 @@ platform::Result<std::unique_ptr<platform::FileHandle>> ObservedFiles::open(cons
     if (wrap)
         handle = wrap(std::move(handle), call);
     return std::unique_ptr<platform::FileHandle>(std::make_unique<Handle>(std::move(handle), *this, call));
+}
+
+platform::Result<platform::ContentPlace> ObservedFiles::contentPlace(const QString &path)
+{
+    const platform::Status answer = observe({.kind = FaultPlan::Locate, .path = path});
+    if (!answer)
+        return answer;
+    return ForwardingFiles::contentPlace(path);
 }
 
 platform::Status ObservedFiles::clearReadOnly(const QString &path)

@@ -120,6 +120,8 @@ Win32Faults::Win32Faults()
     hook<SetEndOfFile_, &Win32Calls::setEndOfFile>();
     hook<FlushFileBuffers_, &Win32Calls::flushFileBuffers>();
     hook<GetFileInformation_, &Win32Calls::getFileInformation>();
+    hook<GetFileInformationEx_, &Win32Calls::getFileInformationEx>();
+    hook<GetVolumeInformation_, &Win32Calls::getVolumeInformation>();
     hook<GetFileAttributes_, &Win32Calls::getFileAttributes>();
     hook<GetFileAttributesEx_, &Win32Calls::getFileAttributesEx>();
     hook<SetFileAttributes_, &Win32Calls::setFileAttributes>();

@@ -31,6 +31,8 @@ public:
         SetEndOfFile_,
         FlushFileBuffers_,
         GetFileInformation_,
+        GetFileInformationEx_,
+        GetVolumeInformation_,
         GetFileAttributes_,
         GetFileAttributesEx_,
         SetFileAttributes_,

@@ -1,6 +1,8 @@
 #include "platform/linux/linuxfilehandle.h"
 
 #include "platform/linux/errnotable.h"
+#include "platform/linux/linuxcontentplace.h"
+#include "platform/linux/linuxfileid.h"
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -237,6 +239,16 @@ Status LinuxFileHandle::flush()
     m_endMoved = false;
     m_writeFailed = false;
     return {};
+}
+
+Result<FileId> LinuxFileHandle::id()
+{
+    return fileIdOf(m_file.get());
+}
+
+Result<ContentPlace> LinuxFileHandle::contentPlace()
+{
+    return contentPlaceOf(m_file.get());
 }
 
 bool LinuxFileHandle::fitsMemory(const std::byte *data) const

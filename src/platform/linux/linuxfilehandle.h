@@ -35,6 +35,8 @@ public:
     Result<qint64> write(const void *data, qint64 size) override;
     Status setEnd() override;
     Status flush() override;
+    Result<FileId> id() override;
+    Result<ContentPlace> contentPlace() override;
 
 private:
     Result<qint64> readSome(qint64 position, std::byte *data, qint64 size);

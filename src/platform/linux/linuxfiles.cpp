@@ -3,7 +3,9 @@
 #include "platform/filenames.h"
 #include "platform/linux/errnotable.h"
 #include "platform/linux/filekind.h"
+#include "platform/linux/linuxcontentplace.h"
 #include "platform/linux/linuxfilehandle.h"
+#include "platform/linux/linuxfileid.h"
 
 #include <fcntl.h>
 #include <linux/magic.h>
@@ -106,13 +108,16 @@ Result<FileInfo> LinuxFiles::info(const QString &path)
     const Result<QByteArray> name = encodePath(path);
     if (!name)
         return name.status();
-    struct stat file = {};
-    if (::lstat(name.value().constData(), &file) != 0)
-        return statusFromErrno(errno, "lstat");
+    constexpr unsigned int Wanted = STATX_TYPE | STATX_SIZE | STATX_NLINK;
+    struct statx file = {};
+    if (::statx(AT_FDCWD, name.value().constData(), AT_SYMLINK_NOFOLLOW | AT_NO_AUTOMOUNT,
+                Wanted | FileIdMask, &file) != 0)
+        return statusFromErrno(errno, "statx");
     FileInfo info;
-    info.kind = fileKindFromMode(file.st_mode);
-    info.size = info.kind == FileKind::Regular ? file.st_size : 0;
-    info.linkCount = qMax(1, static_cast<int>(file.st_nlink));
+    info.kind = fileKindFromMode(file.stx_mode);
+    info.size = info.kind == FileKind::Regular ? static_cast<qint64>(file.stx_size) : 0;
+    info.linkCount = qMax(1, static_cast<int>(file.stx_nlink));
+    info.id = fileIdFrom(file);
     return info;
 }
 
@@ -157,6 +162,34 @@ Result<std::unique_ptr<FileHandle>> LinuxFiles::open(const QString &path, OpenMo
     handle.writeThrough = (flags & O_DSYNC) != 0 && keepsWriteThrough(file.get());
     handle.descriptor = std::move(file);
     return std::unique_ptr<FileHandle>(std::make_unique<LinuxFileHandle>(std::move(handle)));
+}
+
+Result<ContentPlace> LinuxFiles::contentPlace(const QString &path)
+{
+    const Result<QByteArray> name = encodePath(path);
+    if (!name)
+        return name.status();
+    // Opening alone already has effects on special files, and a file without content needs no opening.
+    struct stat found = {};
+    if (::lstat(name.value().constData(), &found) != 0)
+        return statusFromErrno(errno, "lstat");
+    if (!S_ISDIR(found.st_mode)) {
+        if (const Status refusal = refusalOf(found.st_mode, "lstat"); !refusal)
+            return refusal;
+        if (found.st_size <= 0)
+            return ContentPlace{.elsewhere = {}, .bytes = 0};
+    }
+    const FileDescriptor file = openFile(name.value().constData(), O_RDONLY);
+    if (!file.isValid())
+        return statusFromErrno(errno, "open");
+    struct stat opened = {};
+    if (::fstat(file.get(), &opened) != 0)
+        return statusFromErrno(errno, "fstat");
+    if (!S_ISDIR(opened.st_mode)) {
+        if (const Status refusal = refusalOf(opened.st_mode, "fstat"); !refusal)
+            return refusal;
+    }
+    return contentPlaceOf(file.get());
 }
 
 Status LinuxFiles::clearReadOnly(const QString &path)

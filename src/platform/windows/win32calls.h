@@ -33,6 +33,8 @@ struct Win32Calls
     decltype(&::SetEndOfFile) setEndOfFile = &::SetEndOfFile;
     decltype(&::FlushFileBuffers) flushFileBuffers = &::FlushFileBuffers;
     decltype(&::GetFileInformationByHandle) getFileInformation = &::GetFileInformationByHandle;
+    decltype(&::GetFileInformationByHandleEx) getFileInformationEx = &::GetFileInformationByHandleEx;
+    decltype(&::GetVolumeInformationByHandleW) getVolumeInformation = &::GetVolumeInformationByHandleW;
 
     decltype(&::GetFileAttributesW) getFileAttributes = &::GetFileAttributesW;
     decltype(&::GetFileAttributesExW) getFileAttributesEx = &::GetFileAttributesExW;

@@ -1,6 +1,8 @@
 #include "platform/windows/windowsfilehandle.h"
 
 #include "platform/windows/lasterror.h"
+#include "platform/windows/windowscontentplace.h"
+#include "platform/windows/windowsfileid.h"
 
 #include <limits>
 
@@ -134,6 +136,22 @@ Status WindowsFileHandle::flush()
     if (m_flushFailure)
         m_flushFailure = statusOf(win32().flushFileBuffers(m_file.get()), "FlushFileBuffers");
     return m_flushFailure;
+}
+
+Result<FileId> WindowsFileHandle::id()
+{
+    BY_HANDLE_FILE_INFORMATION opened = {};
+    if (!win32().getFileInformation(m_file.get(), &opened))
+        return statusFromLastError("GetFileInformationByHandle");
+    const FileId id = fileIdFrom(opened);
+    if (id.number == 0)
+        return Status{NotSupported, ERROR_NOT_SUPPORTED, "GetFileInformationByHandle"};
+    return id;
+}
+
+Result<ContentPlace> WindowsFileHandle::contentPlace()
+{
+    return contentPlaceOf(m_file.get());
 }
 
 } // namespace platform

@@ -19,6 +19,8 @@ public:
     Result<qint64> write(const void *data, qint64 size) override;
     Status setEnd() override;
     Status flush() override;
+    Result<FileId> id() override;
+    Result<ContentPlace> contentPlace() override;
 
 private:
     Status provideFilePointer();

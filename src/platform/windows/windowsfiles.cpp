@@ -3,7 +3,9 @@
 #include "platform/windows/fileattributes.h"
 #include "platform/windows/filekind.h"
 #include "platform/windows/lasterror.h"
+#include "platform/windows/windowscontentplace.h"
 #include "platform/windows/windowsfilehandle.h"
+#include "platform/windows/windowsfileid.h"
 #include "platform/windows/windowspaths.h"
 #include "platform/windows/winhandle.h"
 
@@ -99,8 +101,8 @@ Result<WinHandle> createOrCut(const std::wstring &path)
     return existing;
 }
 
-// How many names the file has, which only an open handle tells.
-Result<int> linkCountOf(const std::wstring &path)
+// How many names the file has, and which it is: only an open handle tells.
+Result<BY_HANDLE_FILE_INFORMATION> openedInfo(const std::wstring &path)
 {
     const WinHandle file = openFile(path, {FILE_READ_ATTRIBUTES, ShareAll, 0}, OPEN_EXISTING);
     if (!file.isValid())
@@ -108,8 +110,13 @@ Result<int> linkCountOf(const std::wstring &path)
     BY_HANDLE_FILE_INFORMATION opened = {};
     if (!win32().getFileInformation(file.get(), &opened))
         return statusFromLastError("GetFileInformationByHandle");
+    return opened;
+}
+
+int linkCountOf(const BY_HANDLE_FILE_INFORMATION &file)
+{
     constexpr DWORD Most = std::numeric_limits<int>::max();
-    return static_cast<int>(qBound(DWORD(1), opened.nNumberOfLinks, Most));
+    return static_cast<int>(qBound(DWORD(1), file.nNumberOfLinks, Most));
 }
 
 } // namespace
@@ -134,10 +141,11 @@ Result<FileInfo> WindowsFiles::info(const QString &path)
     if (info.kind != FileKind::Regular)
         return info;
     info.size = static_cast<qint64>(quint64(found.nFileSizeHigh) << 32 | found.nFileSizeLow);
-    const Result<int> links = linkCountOf(name.value());
-    if (!links)
-        return links.status();
-    info.linkCount = links.value();
+    const auto opened = openedInfo(name.value());
+    if (!opened)
+        return opened.status();
+    info.linkCount = linkCountOf(opened.value());
+    info.id = fileIdFrom(opened.value());
     return info;
 }
 
@@ -151,6 +159,25 @@ Result<std::unique_ptr<FileHandle>> WindowsFiles::open(const QString &path, Open
     if (!file)
         return file.status();
     return std::unique_ptr<FileHandle>(std::make_unique<WindowsFileHandle>(file.take()));
+}
+
+Result<ContentPlace> WindowsFiles::contentPlace(const QString &path)
+{
+    const Result<std::wstring> name = encodePath(path);
+    if (!name)
+        return name.status();
+    const Result<DWORD> found = attributesOf(name.value());
+    if (!found)
+        return found.status();
+    if (!isPlainFolder(found.value())) {
+        if (const Status refusal = refusalOf(found.value(), "GetFileAttributes"); !refusal)
+            return refusal;
+    }
+    const WinHandle file =
+        openFile(name.value(), {FILE_READ_ATTRIBUTES, ShareAll, FILE_FLAG_BACKUP_SEMANTICS}, OPEN_EXISTING);
+    if (!file.isValid())
+        return statusFromLastError("CreateFile");
+    return contentPlaceOf(file.get());
 }
 
 Status WindowsFiles::clearReadOnly(const QString &path)

@@ -10,6 +10,7 @@ class WindowsFiles final : public Files
 public:
     Result<FileInfo> info(const QString &path) override;
     Result<std::unique_ptr<FileHandle>> open(const QString &path, OpenMode mode) override;
+    Result<ContentPlace> contentPlace(const QString &path) override;
     Status clearReadOnly(const QString &path) override;
     Status rename(const QString &from, const QString &to) override;
     Status remove(const QString &path) override;

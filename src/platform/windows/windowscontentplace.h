@@ -1,0 +1,12 @@
+#pragma once
+
+#include "platform/contentplace.h"
+#include "platform/status.h"
+#include "platform/windows/win32calls.h"
+
+namespace platform {
+
+// Of an open file or folder. Attributes may be all that it was opened for.
+Result<ContentPlace> contentPlaceOf(HANDLE file);
+
+} // namespace platform

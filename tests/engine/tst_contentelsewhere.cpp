@@ -1,0 +1,304 @@
+#include "engine/contentsurvey.h"
+#include "support/suite.h"
+
+#include "engine/foreseeable.h"
+#include "filejob.h"
+#include "freespacefixture.h"
+#include "model/joboutcome.h"
+#include "model/wipetask.h"
+#include "support/faultplan.h"
+#include "support/links.h"
+#include "support/placedfiles.h"
+#include "support/testfiles.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using platform::ContentPlace;
+using platform::Elsewhere;
+using platform::ElsewhereReasons;
+using platform::FileKind;
+using platform::Status;
+
+namespace {
+
+constexpr ContentPlace InPlace{.elsewhere = {}, .bytes = 0};
+
+QString warning(int files)
+{
+    return u"1 %1 个文件的内容可能还保存在别处，未被覆写"_s.arg(files);
+}
+
+// By the name of the file: what it says is where it lies.
+platform::Result<ContentPlace> placeByName(const QString &path)
+{
+    const QString name = QFileInfo(path).fileName();
+    if (name.startsWith(u"shared"_s))
+        return ContentPlace{Elsewhere::Shared, 6};
+    if (name.startsWith(u"streams"_s))
+        return ContentPlace{Elsewhere::NamedStreams, 20};
+    if (name.startsWith(u"refused"_s))
+        return Status{platform::IoDevice, 0, "planned"};
+    return InPlace;
+}
+
+// The machine's files, lying where placeByName() says, in a folder of the test's own.
+struct Machine
+{
+    PlacedFiles files{platform::Platform::current().files(), placeByName};
+    platform::ForwardingPlatform platform{files, platform::Platform::current().folders(),
+                                          platform::Platform::current().devices(),
+                                          platform::Platform::current().session()};
+    platform::ScopedPlatform scope{platform};
+    QTemporaryDir folder;
+
+    QString make(const QString &name) const { return writeFile(folder.filePath(name), "abc"); }
+};
+
+} // namespace
+
+Q_DECLARE_METATYPE(ElsewhereReasons)
+
+// What a job makes of content that lies elsewhere.
+class tst_ContentElsewhere : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void theQuestionComesBeforeTheFirstWrite();
+    void whatLiesElsewhereIsTold();
+    void aJobThatFailsTellsItAsWell();
+    void nothingIsToldOfContentInPlace();
+    void emptyFilesAreAskedAbout();
+    void anEmptyFileThatCannotBeAsked();
+    void filesThatAreFilledMeanwhile();
+
+    void surveyOfFiles();
+    void surveyOfFolders();
+    void surveyEndsAtTheFirstFind();
+    void surveyHasAnEnd();
+    void surveyHasAnEndInFoldersToo();
+    void surveyLooksAtNoLinks();
+    void theJobIsForeseenToFallShort();
+
+    void freeSpace_data();
+    void freeSpace();
+};
+
+void tst_ContentElsewhere::theQuestionComesBeforeTheFirstWrite()
+{
+    FileJob job;
+    job.setPasses({{PatternType::Zeros}, {PatternType::Ones}});
+    QVERIFY(job.run({job.makeFile(u"a"_s, 10), job.makeFile(u"b"_s, 10)}));
+    for (const QString &name : {u"a"_s, u"b"_s}) {
+        QList<FaultPlan::Kind> order;
+        for (const FileCall &call : job.files.calls(FaultPlan::Locate | FaultPlan::Write)) {
+            if (call.path == job.path(name))
+                order.append(call.kind);
+        }
+        QCOMPARE(order, (QList<FaultPlan::Kind>{FaultPlan::Locate, FaultPlan::Write, FaultPlan::Write}));
+    }
+}
+
+void tst_ContentElsewhere::whatLiesElsewhereIsTold()
+{
+    PlacedFiles files(platform::Platform::current().files(), placeByName);
+    FileJob job(files);
+    job.setPasses({{PatternType::Zeros}, {PatternType::Ones}});
+    const QString shared = job.makeFile(u"shared"_s, 10);
+    const QString refused = job.makeFile(u"refused"_s, 10);
+    QVERIFY(job.run({job.makeFile(u"plain"_s, 10), shared, refused}));
+    QCOMPARE(job.lines(),
+             (QStringList{said::scanning, said::preparing(3, u"30 B"_s), said::pass(1, 2), said::pass(2, 2),
+                          warning(2), said::deleting, said::allDone(3), said::succeeded}));
+    // Where it lies cannot be excluded to be elsewhere when nobody says.
+    QCOMPARE(job.task.outcome().shortfalls(), (QList<Shortfall>{{ShortfallKind::ContentElsewhere, shared, 6},
+                                                                {ShortfallKind::ContentElsewhere, refused}}));
+}
+
+void tst_ContentElsewhere::aJobThatFailsTellsItAsWell()
+{
+    PlacedFiles files(platform::Platform::current().files(), placeByName);
+    FileJob job(files);
+    const QString shared = job.makeFile(u"shared"_s, 10);
+    job.files.hook = [](const FileCall &call) {
+        return call.kind == FaultPlan::Write ? Status{platform::IoDevice, 0, "planned"} : Status();
+    };
+    QVERIFY(!job.run({shared}));
+    QVERIFY(job.lines().contains(warning(1)));
+    QVERIFY(job.task.outcome().has(ShortfallKind::ContentElsewhere));
+}
+
+void tst_ContentElsewhere::nothingIsToldOfContentInPlace()
+{
+    PlacedFiles files(platform::Platform::current().files(), placeByName);
+    FileJob job(files);
+    QVERIFY(job.run({job.makeFile(u"plain"_s, 10), job.makeFile(u"empty"_s, 0)}));
+    QVERIFY(job.lines().filter(u"别处"_s).isEmpty());
+    QVERIFY(job.task.outcome().shortfalls().isEmpty());
+}
+
+// No pass opens them.
+void tst_ContentElsewhere::emptyFilesAreAskedAbout()
+{
+    PlacedFiles files(platform::Platform::current().files(), placeByName);
+    FileJob job(files);
+    const QString file = job.makeFile(u"streams"_s, QByteArray());
+    QVERIFY(job.run({file}));
+    QVERIFY(job.files.calls(FaultPlan::Write).isEmpty());
+    QCOMPARE(job.lines(), (QStringList{said::scanning, said::preparing(1, u"0 B"_s), said::allEmpty,
+                                       warning(1), said::deleting, said::allDone(1), said::succeeded}));
+    QCOMPARE(job.task.outcome().shortfalls(),
+             (QList<Shortfall>{{ShortfallKind::ContentElsewhere, file, 20}}));
+}
+
+void tst_ContentElsewhere::anEmptyFileThatCannotBeAsked()
+{
+    FileJob job;
+    const QString gone = job.makeFile(u"gone"_s, QByteArray());
+    const QString closed = job.makeFile(u"closed"_s, QByteArray());
+    job.files.hook = [&](const FileCall &call) {
+        if (call.kind != FaultPlan::Locate)
+            return Status();
+        if (call.path == gone)
+            QFile::remove(gone);
+        return Status{call.path == gone ? platform::FileNotFound : platform::AccessDenied, 0, "planned"};
+    };
+    QVERIFY(job.run({gone, closed}));
+    QCOMPARE(job.task.outcome().shortfalls(), (QList<Shortfall>{{ShortfallKind::EntryVanished, gone},
+                                                                {ShortfallKind::ContentElsewhere, closed}}));
+}
+
+// Empty when it was found and in the first pass.
+void tst_ContentElsewhere::filesThatAreFilledMeanwhile()
+{
+    FileJob job;
+    job.setPasses({{PatternType::Zeros}, {PatternType::Ones}});
+    const QString file = job.makeFile(u"a"_s, QByteArray());
+    job.said.onLine = [&](const QString &line) {
+        if (line == said::pass(2, 2))
+            writeFile(file, "abc");
+    };
+    QVERIFY(job.run({file, job.makeFile(u"b"_s, 10)}));
+    QList<FaultPlan::Kind> order;
+    for (const FileCall &call : job.files.calls(FaultPlan::Locate | FaultPlan::Write)) {
+        if (call.path == file)
+            order.append(call.kind);
+    }
+    QCOMPARE(order, (QList<FaultPlan::Kind>{FaultPlan::Locate, FaultPlan::Locate, FaultPlan::Write}));
+}
+
+void tst_ContentElsewhere::surveyOfFiles()
+{
+    const Machine machine;
+    const QStringList targets{machine.make(u"shared1"_s), machine.make(u"plain"_s),
+                              machine.make(u"refused"_s), machine.make(u"streams"_s),
+                              machine.folder.filePath(u"nothing"_s)};
+    QCOMPARE(targetsKeptElsewhere(targets), (QStringList{targets.at(0), targets.at(3)}));
+}
+
+void tst_ContentElsewhere::surveyOfFolders()
+{
+    const Machine machine;
+    machine.make(u"a/b/c/shared"_s);
+    machine.make(u"a/plain"_s);
+    machine.make(u"d/plain"_s);
+    const QStringList targets{machine.folder.filePath(u"a"_s), machine.folder.filePath(u"d"_s)};
+    QCOMPARE(targetsKeptElsewhere(targets), QStringList{targets.at(0)});
+    // All that there is was looked at: the folder itself says nothing more.
+    QVERIFY(!machine.files.asked.contains(targets.at(1)));
+}
+
+void tst_ContentElsewhere::surveyEndsAtTheFirstFind()
+{
+    const Machine machine;
+    for (int i = 0; i < 20; ++i)
+        machine.make(u"a/shared%1"_s.arg(i));
+    QCOMPARE(targetsKeptElsewhere({machine.folder.filePath(u"a"_s)}).size(), 1);
+    QCOMPARE(machine.files.asked.size(), 1);
+}
+
+void tst_ContentElsewhere::surveyHasAnEnd()
+{
+    const Machine machine;
+    for (int i = 0; i < 20; ++i)
+        machine.make(u"shared folder/plain%1"_s.arg(i));
+    const QString folder = machine.folder.filePath(u"shared folder"_s);
+    const QString single = machine.make(u"shared"_s);
+    // Behind the last file that may be looked at the folder speaks for the rest of them.
+    QCOMPARE(targetsKeptElsewhere({folder, single}, 7), QStringList{folder});
+    QCOMPARE(machine.files.asked.size(), 8);
+    QCOMPARE(machine.files.asked.last(), folder);
+    QCOMPARE(targetsKeptElsewhere({single, single, single}, 2).size(), 2);
+    QCOMPARE(targetsKeptElsewhere({folder, single}, 21), QStringList{single});
+}
+
+void tst_ContentElsewhere::surveyHasAnEndInFoldersToo()
+{
+    const Machine machine;
+    QString folder = machine.folder.filePath(u"shared folder"_s);
+    for (int i = 0; i < 1001; ++i)
+        QVERIFY(QDir().mkpath(folder + u"/%1"_s.arg(i)));
+    QCOMPARE(targetsKeptElsewhere({folder}), QStringList{folder});
+    QCOMPARE(machine.files.asked, QStringList{folder});
+    QVERIFY(QDir().rmdir(folder + u"/0"_s));
+    QVERIFY(QDir().rmdir(folder + u"/1"_s));
+    QVERIFY(targetsKeptElsewhere({folder}).isEmpty());
+}
+
+void tst_ContentElsewhere::surveyLooksAtNoLinks()
+{
+    const Machine machine;
+    const QString link = machine.folder.filePath(u"shared link"_s);
+    if (!makeLink(machine.make(u"shared"_s), link))
+        QSKIP("SKIPPED: no symbolic links here");
+    QVERIFY(QDir().mkpath(machine.folder.filePath(u"a"_s)));
+    QVERIFY(makeLink(machine.folder.path(), machine.folder.filePath(u"a/shared"_s)));
+    QVERIFY(targetsKeptElsewhere({link, machine.folder.filePath(u"a"_s)}).isEmpty());
+    QVERIFY(machine.files.asked.isEmpty());
+}
+
+void tst_ContentElsewhere::theJobIsForeseenToFallShort()
+{
+    const Machine machine;
+    WipeTask task;
+    task.setFiles({machine.make(u"plain"_s), machine.make(u"shared"_s)});
+    const QList<Shortfall> told{{ShortfallKind::ContentElsewhere, task.files().at(1)}};
+    QCOMPARE(foreseeableShortfalls(task).shortfalls(), told);
+}
+
+void tst_ContentElsewhere::freeSpace_data()
+{
+    QTest::addColumn<ElsewhereReasons>("elsewhere");
+    QTest::addColumn<bool>("isNoted");
+    QTest::newRow("in place") << ElsewhereReasons() << false;
+    QTest::newRow("relocating") << ElsewhereReasons(Elsewhere::Relocating) << true;
+    QTest::newRow("shared") << ElsewhereReasons(Elsewhere::Shared) << true;
+    QTest::newRow("layers") << ElsewhereReasons(Elsewhere::LowerLayer) << true;
+    QTest::newRow("journal") << ElsewhereReasons(Elsewhere::Journalled) << false;
+    QTest::newRow("compressed") << ElsewhereReasons(Elsewhere::Encoded) << false;
+}
+
+// It is filled wherever it is; what stays is in snapshots, for instance.
+void tst_ContentElsewhere::freeSpace()
+{
+    QFETCH(ElsewhereReasons, elsewhere);
+    freespace::Machine machine;
+    freespace::Job job;
+    machine.volume.freeBytes[u"/media/data/"_s] = 1000 * freespace::MiB;
+    machine.volume.elsewhere = elsewhere;
+    job.setVolume(u"/media/data"_s);
+    job.setPasses({{PatternType::Zeros}});
+    job.run();
+    QVERIFY(job.succeeded());
+    QTEST(job.task.outcome().has(ShortfallKind::CopyOnWrite), "isNoted");
+    QVERIFY(job.task.outcome().shortfalls().isEmpty());
+}
+
+QUORVEX_SUITE(tst_ContentElsewhere, QCoreApplication)
+#include "tst_contentelsewhere.moc"

@@ -1,0 +1,33 @@
+#include "support/placedfiles.h"
+
+#include <utility>
+
+class PlacedFiles::Handle : public platform::ForwardingFileHandle
+{
+public:
+    Handle(std::unique_ptr<platform::FileHandle> target, const Place &place, QString path)
+        : ForwardingFileHandle(std::move(target))
+        , m_place(place)
+        , m_path(std::move(path))
+    {}
+    platform::Result<platform::ContentPlace> contentPlace() override { return m_place(m_path); }
+
+private:
+    const Place &m_place;
+    const QString m_path;
+};
+
+platform::Result<std::unique_ptr<platform::FileHandle>> PlacedFiles::open(const QString &path,
+                                                                          platform::OpenMode mode)
+{
+    auto opened = ForwardingFiles::open(path, mode);
+    if (!opened)
+        return opened;
+    return std::unique_ptr<platform::FileHandle>(std::make_unique<Handle>(opened.take(), m_place, path));
+}
+
+platform::Result<platform::ContentPlace> PlacedFiles::contentPlace(const QString &path)
+{
+    asked.append(path);
+    return m_place(path);
+}

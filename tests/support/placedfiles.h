@@ -1,0 +1,33 @@
+#pragma once
+
+#include "platform/forwarding.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+#include <memory>
+
+// Files that lie where a test says, all else being as below. One thread at a time.
+class PlacedFiles : public platform::ForwardingFiles
+{
+public:
+    using Place = std::function<platform::Result<platform::ContentPlace>(const QString &path)>;
+
+    PlacedFiles(platform::Files &target, Place place)
+        : ForwardingFiles(target)
+        , m_place(std::move(place))
+    {}
+
+    // The paths that contentPlace() was asked about, of handles not.
+    QStringList asked;
+
+    platform::Result<std::unique_ptr<platform::FileHandle>> open(const QString &path,
+                                                                 platform::OpenMode mode) override;
+    platform::Result<platform::ContentPlace> contentPlace(const QString &path) override;
+
+private:
+    class Handle;
+
+    Place m_place;
+};
