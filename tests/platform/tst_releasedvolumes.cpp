@@ -264,11 +264,11 @@ void tst_ReleasedVolumes::subvolumesComeBack()
     LoopMount volume(m_folder->path(), options, u"btrfs"_s);
     QVERIFY2(volume.isReady(), qPrintable(volume.error()));
     const QString root = volume.mountPoint();
-    QCOMPARE(QProcess::execute(u"btrfs"_s, {u"-q"_s, u"subvolume"_s, u"create"_s, root + u"/@home"}), 0);
+    QCOMPARE(QProcess::execute(u"btrfs"_s, {u"-q"_s, u"subvolume"_s, u"create"_s, root + u"/@home"_s}), 0);
     const QString home = m_loop->folder(u"home"_s);
     QVERIFY(PartitionedLoop::mount({u"-osubvol=@home,noatime"_s, volume.device(), home}));
     QVERIFY(QDir(home).mkpath(u"me/deep"_s));
-    QVERIFY(PartitionedLoop::mount({u"--bind"_s, home + u"/me/deep", m_loop->folder(u"deep"_s)}));
+    QVERIFY(PartitionedLoop::mount({u"--bind"_s, home + u"/me/deep"_s, m_loop->folder(u"deep"_s)}));
     m_identity = identityOf(m_platform->devices(), volume.device());
     releaseAndRestore();
     QVERIFY(QDir(home).exists(u"me/deep"_s));

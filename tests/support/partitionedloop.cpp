@@ -12,6 +12,8 @@
 #include <sys/mount.h>
 #include <unistd.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 LoopMount::Options bareDrive()
@@ -38,7 +40,8 @@ QByteArray tableEntry(qint64 start)
 // The fields of the table that tell one mount from another, and not one time from another.
 QString comparable(const QString &line)
 {
-    static const QRegularExpression numbers(QStringLiteral("^\\d+ \\d+ "));
+    // Those of the mounts, and of a file system without a device of its own.
+    static const QRegularExpression numbers(QStringLiteral("^\\d+ \\d+ (0:\\d+)?"));
     static const QRegularExpression peers(QStringLiteral("(shared|master|propagate_from):\\d+"));
     return QString(line).remove(numbers).replace(peers, QStringLiteral("\\1"));
 }
@@ -107,7 +110,8 @@ QStringList PartitionedLoop::mounts() const
 void PartitionedLoop::unmountAll() const
 {
     for (int left = 20; left > 0 && !mounts().isEmpty(); --left) {
-        const QString place = mounts().constLast().section(u' ', 2, 2);
+        const QString place =
+            mounts().constLast().section(u' ', 2, 2).replace(u"\\040"_s, u" "_s).replace(u"\\134"_s, u"\\"_s);
         if (::umount2(QFile::encodeName(place).constData(), MNT_DETACH) != 0)
             break;
     }

@@ -53,8 +53,11 @@ Status unmount(const MountEntry &entry)
 bool mountFileSystem(const QByteArray &source, const QByteArray &point, const MountEntry &entry)
 {
     const MountArguments arguments = MountArguments::of(entry);
-    return ::mount(source.constData(), point.constData(), entry.fileSystem.constData(),
-                   arguments.fileSystemFlags | arguments.mountFlags, arguments.data.constData()) == 0;
+    // A place that is read-only becomes so later: said here, it would make the file system read-only.
+    const unsigned long flags =
+        arguments.fileSystemFlags | (arguments.mountFlags & ~static_cast<unsigned long>(MS_RDONLY));
+    return ::mount(source.constData(), point.constData(), entry.fileSystem.constData(), flags,
+                   arguments.data.constData()) == 0;
 }
 
 Status mountFailure()
