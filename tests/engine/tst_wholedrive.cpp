@@ -1,6 +1,7 @@
 #include "diskwipejob.h"
 #include "engine/foreseeable.h"
 #include "engine/wipeengine.h"
+#include "refusedthreads.h"
 #include "support/deviceplatform.h"
 #include "support/interposeddevices.h"
 #include "support/suite.h"
@@ -116,6 +117,7 @@ private slots:
     void theEndOfTheEngineGivesThemBack();
     void aJobReleasesOnce();
 
+    void aThreadThatTheSystemRefusesGivesThemBack();
     void aDriveThatDoesNotOpenGivesThemBack();
     void aStopBeforeTheFirstWriteGivesThemBack();
     void afterTheFirstWriteTheyStayUnmounted();
@@ -302,6 +304,21 @@ void tst_WholeDrive::aJobReleasesOnce()
     QCOMPARE(job.engine->releaseVolumes(), QString());
     QCOMPARE(machine.memory.releasedDrives(), 1);
     QCOMPARE(machine.memory.restores(), 0);
+}
+
+void tst_WholeDrive::aThreadThatTheSystemRefusesGivesThemBack()
+{
+    if (!RefusedThreads::isPossible())
+        QSKIP(RefusedThreads::whyNot);
+    Machine machine;
+    EngineJob job(machine);
+    QCOMPARE(job.engine->releaseVolumes(), QString());
+    {
+        const RefusedThreads refused;
+        QVERIFY(!job.run());
+    }
+    QVERIFY(!job.engine->isRunning());
+    QCOMPARE(machine.memory.restores(), 1);
 }
 
 void tst_WholeDrive::aDriveThatDoesNotOpenGivesThemBack()
