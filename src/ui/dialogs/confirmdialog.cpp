@@ -91,10 +91,10 @@ void ConfirmDialog::addNotice(const QString &text)
     insertAbovePrompt(notice, notice->heightForWidth(width() - 2 * Margin));
 }
 
-void ConfirmDialog::insertAbovePrompt(QWidget *widget, int itsHeight)
+void ConfirmDialog::insertAbovePrompt(QWidget *widget, int itsHeight, Qt::Alignment alignment)
 {
     auto *const column = qobject_cast<QBoxLayout *>(layout());
-    column->insertWidget(column->indexOf(findChild<QLabel *>(u"dialogPrompt"_s)), widget);
+    column->insertWidget(column->indexOf(findChild<QLabel *>(u"dialogPrompt"_s)), widget, 0, alignment);
     setFixedHeight(height() + itsHeight + column->spacing());
 }
 
@@ -108,7 +108,7 @@ void ConfirmDialog::offerWholeDrive(qint64 bytesLeft)
     m_wholeDrive->setObjectName(u"wholeDriveBox"_s);
     m_wholeDrive->setToolTip(plainTip(tr("Every sector is overwritten, the partition table too. All volumes "
                                          "of the disk are unmounted before.")));
-    insertAbovePrompt(m_wholeDrive, m_wholeDrive->sizeHint().height());
+    insertAbovePrompt(m_wholeDrive, m_wholeDrive->sizeHint().height(), Qt::AlignHCenter);
 }
 
 bool ConfirmDialog::wantsWholeDrive() const

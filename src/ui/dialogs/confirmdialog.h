@@ -33,7 +33,7 @@ private slots:
 private:
     static QString promptText();
     void addTexts(QBoxLayout *layout);
-    void insertAbovePrompt(QWidget *widget, int itsHeight);
+    void insertAbovePrompt(QWidget *widget, int itsHeight, Qt::Alignment alignment = {});
     void addInput(QBoxLayout *layout);
     void addButtons(QBoxLayout *layout);
     void tightenSpacing();
