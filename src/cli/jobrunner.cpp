@@ -29,6 +29,11 @@ public:
     JobResult result()
     {
         m_engine.setTask(&m_task);
+        if (const QString problem = m_engine.releaseVolumes(); !problem.isEmpty()) {
+            m_result.lastError = problem;
+            m_result.report = m_engine.report();
+            return m_result;
+        }
         m_engine.start();
         if (m_engine.isRunning()) {
             // A request that came before the connection has not been heard.

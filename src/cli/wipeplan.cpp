@@ -101,7 +101,8 @@ bool Session::run(const PlannedJob &job)
     m_isCancelled = m_isCancelled || isCancelled;
     m_hasFailed = m_hasFailed || !isAccepted;
     const QStringList dismounted = job.task->dismountedVolumes();
-    if (result.outcome.outcome() == JobOutcome::Failed && !dismounted.isEmpty())
+    const bool isFailed = isCancelled || result.outcome.outcome() == JobOutcome::Failed;
+    if (isFailed && !dismounted.isEmpty())
         m_view->problem(Cli::tr("left unmounted: %1").arg(displayText(dismounted.join(QLatin1String(", ")))));
     const JobRecords::Written written = m_records.write(result.report, result.outcome, isAccepted);
     const QStringList problems = written.problems + (m_plan.afterwards ? m_plan.afterwards() : QStringList());

@@ -71,6 +71,7 @@ bool DiskPass::writeDriveChunks(qint64 &offset)
             m_job.diagnose(sought);
             return false;
         }
+        m_hasBegun = true;
         const platform::Result<qint64> written = m_medium.drive->write(data, chunk);
         if (written.valueOr(0) <= 0) {
             // A drive that takes nothing before its end would keep the loop here for ever.
@@ -158,6 +159,7 @@ DiskPass::VolumeEnd DiskPass::writeVolumeChunks(platform::VolumeDevice &volume, 
         const qint64 chunk = chunkSize(remaining);
         const std::byte *data = m_chunks->take(chunk);
         m_chunks->prepare(chunkSize(remaining - chunk));
+        m_hasBegun = true;
         const platform::Result<qint64> written = volume.write(data, chunk);
         if (!written)
             return endOfVolume(written.status(), position);

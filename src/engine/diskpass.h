@@ -40,6 +40,9 @@ public:
     bool write(const PassPattern &pattern);
     void releaseBuffers() { m_chunks.reset(); }
 
+    // Whether the medium may have changed: from the first attempt to write to it on.
+    bool hasBegun() const { return m_hasBegun; }
+
     // Of all passes so far.
     const WipeCoverage &coverage() const { return m_coverage; }
     const DiskVerification &verification() const { return m_verification; }
@@ -65,4 +68,5 @@ private:
     std::optional<ChunkPipeline> m_chunks;
     DiskVerification m_verification;
     WipeCoverage m_coverage;
+    bool m_hasBegun = false;
 };

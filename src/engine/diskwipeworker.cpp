@@ -30,6 +30,7 @@ void DiskWipeWorker::process()
     }
     closeDevices();
     task().setDismountedVolumes(m_medium.volumes.dismounted());
+    settleReleasedVolumes();
     fillReport();
     emit finished(success);
 }
@@ -43,9 +44,12 @@ bool DiskWipeWorker::run()
     }
 
     note(tr("正在锁定磁盘卷..."));
-    const bool locked = lockVolumes();
+    const bool isWhole = task().operationType() == DiskWipe && task().isWholeDrive();
+    const bool locked = isWhole ? checkVolumesAreGone() : lockVolumes();
     if (isStopRequested())
         return cancelled();
+    if (!locked && isWhole)
+        return false;
     if (!locked) {
         emit errorOccurred(tr("无法锁定磁盘卷，请关闭所有使用该磁盘的程序"));
         return false;
@@ -84,6 +88,17 @@ void DiskWipeWorker::noteTarget()
 bool DiskWipeWorker::lockVolumes()
 {
     return m_medium.volumes.lock(identityOf(task().disk()));
+}
+
+// A volume that came back since would be all that is written, and its file system would go on writing.
+bool DiskWipeWorker::checkVolumesAreGone()
+{
+    QStringList back = m_medium.volumes.inSight(task().disk().diskNumber);
+    back.removeIf([this](const QString &name) { return m_released && m_released->holds(name); });
+    if (back.isEmpty())
+        return true;
+    emit errorOccurred(tr("卷 %1 又被挂载，未写入任何数据").arg(displayText(back.join(u", "_s))));
+    return false;
 }
 
 bool DiskWipeWorker::measureDisk()
@@ -126,8 +141,9 @@ void DiskWipeWorker::noteUnreachedEnd()
 platform::Status DiskWipeWorker::openDisk()
 {
     platform::Devices &devices = platform::Platform::current().devices();
+    const bool isAlone = m_medium.volumes.isEmpty() && !m_released;
     const platform::DriveAccess access =
-        m_medium.volumes.isEmpty() ? platform::DriveAccess::Alone : platform::DriveAccess::BesideOwnVolumes;
+        isAlone ? platform::DriveAccess::Alone : platform::DriveAccess::BesideOwnVolumes;
     qDebug() << "[DiskWipe] Opening device:" << devices.drivePath(task().disk().diskNumber);
     platform::Result<std::unique_ptr<platform::RawDevice>> drive =
         devices.openDrive(identityOf(task().disk()), access);
@@ -211,6 +227,26 @@ void DiskWipeWorker::closeDevices()
 void DiskWipeWorker::releaseVolumes()
 {
     m_medium.volumes.release();
+}
+
+// What was overwritten cannot be mounted again, not even where it is whole by chance.
+void DiskWipeWorker::settleReleasedVolumes()
+{
+    if (!m_released)
+        return;
+    if (m_pass.hasBegun()) {
+        task().setDismountedVolumes(m_released->names());
+        if (const platform::Status kept = m_released->keep(); !kept) {
+            note(tr("磁盘未能恢复联机，错误码: %1").arg(kept.code), DiskJob::Warning);
+            diagnose(kept);
+        }
+    } else {
+        const QStringList lost = m_released->restore();
+        task().setDismountedVolumes(lost);
+        if (lost.isEmpty() && !m_released->names().isEmpty())
+            note(tr("已重新挂载: %1").arg(displayText(m_released->names().join(u", "_s))));
+    }
+    m_released.reset();
 }
 
 void DiskWipeWorker::fillReport()

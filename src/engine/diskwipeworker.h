@@ -6,11 +6,16 @@
 #include "platform/devices.h"
 
 #include <chrono>
+#include <memory>
+#include <utility>
 
 // Overwrites the disk of its task: locks and dismounts every volume on it, opens the drive and writes the
 // passes. As long as a volume is held, they are written through the volumes and what lies outside them stays;
 // the drive itself is written when no volume is found on it. A partition wipe is the same job, with every
 // volume of that disk.
+//
+// A job on the whole drive takes no volume: the drive is rid of them already, or the job fails. It gives back
+// what was released for it when nothing was written.
 //
 // What the job did goes into the task's report before finished(): the sectors that received every pass, and
 // the samples read back.
@@ -21,6 +26,12 @@ class DiskWipeWorker : public BaseWipeWorker, private DiskJob
 public:
     explicit DiskWipeWorker(WipeTask *task, QObject *parent = nullptr);
     ~DiskWipeWorker() override;
+
+    // The volumes that were taken off the drive for a job on all of it. Before process().
+    void setReleasedVolumes(std::unique_ptr<platform::ReleasedVolumes> volumes)
+    {
+        m_released = std::move(volumes);
+    }
 
     // The wait after each failed attempt to lock a volume, 500 ms unless set before process().
     std::chrono::milliseconds lockRetryDelay() const { return m_medium.volumes.lockRetryDelay(); }
@@ -34,6 +45,7 @@ private:
     bool cancelled();
     void noteTarget();
     bool lockVolumes();
+    bool checkVolumesAreGone();
     bool measureDisk();
     platform::Status openDisk();
     bool measureVolumes();
@@ -42,6 +54,7 @@ private:
     static QString patternLabel(const PassPattern &pattern);
     void closeDevices();
     void releaseVolumes();
+    void settleReleasedVolumes();
     void noteUnreachedEnd();
     void fillReport();
     void noteShortfalls(quint64 wipedSectors);
@@ -59,5 +72,6 @@ private:
 
     DiskMedium m_medium{.drive = {}, .volumes = HeldVolumes(*this)};
     DiskPass m_pass;
+    std::unique_ptr<platform::ReleasedVolumes> m_released;
     bool m_writesVolumes = false; // as long as a volume is held when the passes begin
 };

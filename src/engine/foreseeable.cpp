@@ -3,25 +3,42 @@
 #include "engine/contentsurvey.h"
 #include "engine/freespacewipeworker.h"
 #include "model/wipetask.h"
+#include "platform/devices.h"
 #include "platform/files.h"
 #include "platform/platform.h"
 
 #include <algorithm>
+#include <numeric>
 
 namespace {
 
 // More than a tenth of the free space is no small rest.
 constexpr qint64 SmallPart = 10;
 
-void foreseeDisk(const DiskInfo &disk, OutcomeRecord &record)
+// All of the volume, of which its file system shows less; that at least when the volume does not tell.
+qint64 bytesOf(const PartitionInfo &partition)
 {
+    const auto query = platform::Platform::current().devices().queryVolume(partition.driveLetter);
+    if (!query)
+        return partition.totalBytes;
+    const auto extents = query.value()->extents(platform::ManyExtents);
+    if (!extents || extents.value().isEmpty())
+        return partition.totalBytes;
+    const QList<platform::Extent> &all = extents.value();
+    return std::accumulate(all.begin(), all.end(), qint64{0},
+                           [](qint64 sum, const platform::Extent &extent) { return sum + extent.length; });
+}
+
+void foreseeDisk(const WipeTask &task, OutcomeRecord &record)
+{
+    const DiskInfo disk = task.disk();
     qint64 rest = disk.sizeBytes;
     bool hasVolume = false;
     for (const PartitionInfo &partition : disk.partitions) {
         hasVolume = hasVolume || !partition.driveLetter.isEmpty();
-        rest -= partition.totalBytes;
+        rest -= bytesOf(partition);
     }
-    if (hasVolume)
+    if (hasVolume && rest != 0 && !task.isWholeDrive())
         record.note({ShortfallKind::OnlyVolumes, {}, std::max<qint64>(rest, -1)});
 }
 
@@ -52,7 +69,7 @@ OutcomeRecord foreseeableShortfalls(const WipeTask &task)
     OutcomeRecord record;
     switch (task.operationType()) {
     case DiskWipe:
-        foreseeDisk(task.disk(), record);
+        foreseeDisk(task, record);
         break;
     case PartitionWipe:
         break;

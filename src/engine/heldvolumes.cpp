@@ -17,7 +17,7 @@ bool HeldVolumes::lock(const platform::DriveIdentity &drive)
 {
     const QList<Found> volumes = find(drive.number);
     if (volumes.isEmpty()) {
-        m_job.note(tr("警告: 未找到任何卷，可能是无分区磁盘"), DiskJob::Warning);
+        noteNone();
         return true;
     }
     for (const Found &volume : volumes) {
@@ -26,6 +26,21 @@ bool HeldVolumes::lock(const platform::DriveIdentity &drive)
         hold(volume, drive);
     }
     return !m_volumes.empty();
+}
+
+void HeldVolumes::noteNone()
+{
+    m_job.note(tr("警告: 未找到任何卷，可能是无分区磁盘"), DiskJob::Warning);
+}
+
+QStringList HeldVolumes::inSight(int driveNumber)
+{
+    QStringList names;
+    for (const Found &volume : find(driveNumber))
+        names.append(volume.name);
+    if (names.isEmpty())
+        noteNone();
+    return names;
 }
 
 QList<HeldVolumes::Found> HeldVolumes::find(int driveNumber)

@@ -39,6 +39,9 @@ public:
     bool lock(const platform::DriveIdentity &drive);
     void release();
 
+    // The names of the volumes in sight that begin on the drive, none of which is taken.
+    QStringList inSight(int driveNumber);
+
     // Everything that was dismounted, by name, released or not. Nothing mounts it again.
     QStringList dismounted() const { return m_dismounted; }
 
@@ -56,6 +59,7 @@ private:
     };
 
     QList<Found> find(int driveNumber);
+    void noteNone();
     void hold(const Found &found, const platform::DriveIdentity &drive);
     bool lockVolume(platform::VolumeDevice &volume, const QString &shownName);
     bool dismountVolume(platform::VolumeDevice &volume, const QString &shownName);

@@ -1,17 +1,22 @@
 #include "engine/wipeengine.h"
 
 #include "engine/diskwipeworker.h"
+#include "engine/driveidentity.h"
 #include "engine/filewipeworker.h"
 #include "engine/freespacewipeworker.h"
+#include "model/displaytext.h"
 #include "model/joboutcome.h"
 #include "model/wipereport.h"
 #include "model/wipetask.h"
+#include "platform/devices.h"
+#include "platform/platform.h"
 
 #include <QDeadlineTimer>
 #include <QDebug>
 #include <QThread>
 
 #include <numeric>
+#include <utility>
 
 namespace {
 
@@ -46,8 +51,10 @@ void WipeEngine::setTask(WipeTask *task)
         emit errorOccurred(tr("无法在运行时更改任务"));
         return;
     }
-    if (task != m_task)
+    if (task != m_task) {
         ++m_job;
+        m_released.reset();
+    }
     m_task = task;
 }
 
@@ -59,6 +66,38 @@ void WipeEngine::deleteTask(WipeTask *task)
     }
     task->setParent(this);
     connect(m_thread, &QThread::finished, task, &QObject::deleteLater);
+}
+
+QString WipeEngine::releaseVolumes()
+{
+    if (!m_task || m_running || m_released || m_task->operationType() != DiskWipe || !m_task->isWholeDrive())
+        return {};
+    if (const QString error = m_task->validationError(); !error.isEmpty())
+        return error;
+    platform::VolumeRelease release =
+        platform::Platform::current().devices().releaseVolumes(identityOf(m_task->disk()));
+    if (release.volumes)
+        m_released = std::move(release.volumes);
+    return m_released ? QString() : releaseProblem(release);
+}
+
+QString WipeEngine::releaseProblem(const platform::VolumeRelease &release)
+{
+    qDebug().noquote() << "[DiskWipe]" << release.failure.diagnostic();
+    const QString volume = displayText(release.volume);
+    const bool isInUse = release.failure.code == platform::SharingViolation;
+    QString problem;
+    if (volume.isEmpty())
+        problem = isInUse ? tr("The drive is in use by another program.")
+                          : tr("The drive cannot be rid of its volumes, error %1.").arg(release.failure.code);
+    else
+        problem = isInUse ? tr("Volume %1 is in use and cannot be unmounted.").arg(volume)
+                          : tr("Volume %1 cannot be unmounted, error %2.")
+                                .arg(volume, QString::number(release.failure.code));
+    problem += u' ' + tr("Nothing was written.");
+    if (!release.notRestored.isEmpty())
+        problem += u' ' + tr("Not mounted again: %1").arg(displayText(release.notRestored.join(u", ")));
+    return problem;
 }
 
 void WipeEngine::start()
@@ -134,12 +173,19 @@ void WipeEngine::beginReport()
     });
 }
 
-BaseWipeWorker *WipeEngine::makeWorker() const
+BaseWipeWorker *WipeEngine::makeDiskWorker()
+{
+    auto *worker = new DiskWipeWorker(m_task);
+    worker->setReleasedVolumes(std::move(m_released));
+    return worker;
+}
+
+BaseWipeWorker *WipeEngine::makeWorker()
 {
     switch (m_task->operationType()) {
     case DiskWipe:
     case PartitionWipe:
-        return new DiskWipeWorker(m_task);
+        return makeDiskWorker();
     case FreeSpaceWipe:
         return new FreeSpaceWipeWorker(m_task);
     case FileWipe:
@@ -215,6 +261,11 @@ void WipeEngine::stop()
 OutcomeRecord WipeEngine::outcome() const
 {
     return m_task ? m_task->outcome() : OutcomeRecord();
+}
+
+QStringList WipeEngine::dismountedVolumes() const
+{
+    return m_task ? m_task->dismountedVolumes() : QStringList();
 }
 
 WipeReport WipeEngine::report() const

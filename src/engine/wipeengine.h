@@ -7,13 +7,19 @@
 #include <QObject>
 #include <QPointer>
 #include <QString>
+#include <QStringList>
 
 #include <chrono>
 #include <functional>
+#include <memory>
 #include <utility>
 
 class BaseWipeWorker;
 class QThread;
+namespace platform {
+class ReleasedVolumes;
+struct VolumeRelease;
+} // namespace platform
 
 // Runs one task at a time on a thread of its own and keeps the task's report. Lives on the interface thread,
 // which needs an event loop: all signals are emitted there. Levels of logMessage: 0 information, 1 warning, 2
@@ -35,6 +41,13 @@ public:
     // still be in a transfer.
     void deleteTask(WipeTask *task);
 
+    // Takes the volumes off the drive of a job on all of it, before start(), which leaves them to the job: it
+    // gives them back when it ends without having written anything. Given back as well when another task is
+    // set and with the engine. Takes as long as the system needs to write out what it holds back. Returns
+    // what is in the way, in words for the user; nothing is started then and the drive is as it was. Empty
+    // after success, and for other jobs, of which nothing is released.
+    QString releaseVolumes();
+
     // Starts the job; a refusal is told by errorOccurred and leaves everything as it was.
     void start();
 
@@ -48,6 +61,8 @@ public:
     // How the task's job went, from completed() or stopped() on; failed without a task. Completed and yet not
     // complete is a job that fell short of something.
     OutcomeRecord outcome() const;
+    // What the task's job has left dismounted, by name, from completed() on.
+    QStringList dismountedVolumes() const;
     bool isRunning() const { return m_running; }
 
     // The longest wait of stop(), 5000 ms unless set.
@@ -87,8 +102,10 @@ private slots:
 
 private:
     void beginReport();
-    BaseWipeWorker *makeWorker() const;
+    BaseWipeWorker *makeWorker();
+    BaseWipeWorker *makeDiskWorker();
     bool createWorker();
+    static QString releaseProblem(const platform::VolumeRelease &release);
     void connectWorker();
     void cleanUpThread();
     // A slot that hears only the job that is current when the connection is made. What the worker of an
@@ -104,6 +121,7 @@ private:
     }
 
     QPointer<WipeTask> m_task;
+    std::unique_ptr<platform::ReleasedVolumes> m_released; // until the job's worker has them
     quint64 m_job = 0;                  // counts the jobs, and the changes of task between them
     BaseWipeWorker *m_worker = nullptr; // deleted by the end of its thread
     QThread *m_thread = nullptr;

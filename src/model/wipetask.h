@@ -37,6 +37,11 @@ public:
     PartitionInfo partition() const { return m_partition; }
     void setPartition(const PartitionInfo &partition) { m_partition = partition; }
 
+    /// Whether a disk job is to write every sector of its drive, which is rid of its volumes before, instead
+    /// of the volumes alone.
+    bool isWholeDrive() const { return m_isWholeDrive; }
+    void setWholeDrive(bool whole) { m_isWholeDrive = whole; }
+
     /// Absolute paths of files and folders.
     QStringList files() const { return m_files; }
     void setFiles(const QStringList &files) { m_files = files; }
@@ -86,8 +91,8 @@ public:
     /// Forgets what an earlier run has left.
     void clearOutcome();
 
-    /// The volumes that a disk job has dismounted, by name: whatever became of the job, nothing mounts them
-    /// again. Set by its worker at the end.
+    /// The volumes that a disk job has left dismounted, by name: whatever became of the job, nothing mounts
+    /// them again. Set by its worker at the end.
     QStringList dismountedVolumes() const;
     void setDismountedVolumes(const QStringList &volumes);
 
@@ -101,6 +106,7 @@ private:
     WipeMethod m_method;
     DiskInfo m_disk;
     PartitionInfo m_partition;
+    bool m_isWholeDrive = false;
     QStringList m_files;
     bool m_targetsAreNamed = true;
     qint32 m_threadCount;

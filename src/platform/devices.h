@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/releasedvolumes.h"
 #include "platform/status.h"
 
 #include <QByteArray>
@@ -208,6 +209,15 @@ public:
     // whatever lies on another drive too would be overwritten there with it.
     virtual Result<std::unique_ptr<VolumeDevice>> openVolume(const QString &name,
                                                              const DriveIdentity &drive) = 0;
+
+    // Takes every volume off the drive, gently: one that somebody uses is in the way. Failure leaves the
+    // drive as it was, but for what it names: NotReady when the drive is no longer the one of the identity or
+    // a volume lies on another drive too, SharingViolation when something on it is in use, AccessDenied
+    // without the rights. Windows: FSCTL_LOCK_VOLUME on each, then IOCTL_DISK_SET_DISK_ATTRIBUTES takes the
+    // drive offline until it is given back or the system starts anew; media that cannot go offline stay
+    // locked and dismounted instead. Linux: unmounts every place, the latest mount first, and holds the drive
+    // with O_EXCL.
+    virtual VolumeRelease releaseVolumes(const DriveIdentity &drive) = 0;
 
     // Every name that a volume may have, in the order in which they are to be tried; some may not open.
     // Windows: "A:" to "Z:". Linux: the mount points of block devices, one per device, in mount order.

@@ -143,6 +143,10 @@ public:
     {
         return m_target.openVolume(name, drive);
     }
+    VolumeRelease releaseVolumes(const DriveIdentity &drive) override
+    {
+        return m_target.releaseVolumes(drive);
+    }
     QStringList volumeNames() override { return m_target.volumeNames(); }
     QList<MountedVolume> mountedVolumes() override { return m_target.mountedVolumes(); }
 

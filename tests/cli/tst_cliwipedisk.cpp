@@ -71,6 +71,19 @@ private slots:
     void anAcceptedShortfallIsNoExcuseForAFailure();
     void anUnknownKindIsAWrongLine();
 
+    void theWholeDriveIsErased();
+    void theQuestionSaysWhatTheWholeDriveIs();
+    void volumesAreReleasedAfterTheQuestionOnly();
+    void aVolumeInUseIsRefused();
+    void aRefusedWholeDriveIsAnEventToo();
+    void theSystemDiskIsNotReleased();
+    void aDriveThatIsHeldIsNotReleased();
+    void aStopAfterTheReleaseGivesTheVolumesBack();
+    void afterAFailureVolumesStayUnmounted();
+    void afterAStopVolumesStayUnmounted();
+    void onlyADriveCanBeWhole_data();
+    void onlyADriveCanBeWhole();
+
     void theReportIsWrittenAfterSuccess();
     void theReportIsWrittenAfterFailure();
     void aReportThatCannotBeWrittenStopsBeforeAnythingIs();
@@ -776,6 +789,198 @@ void tst_CliWipeDisk::anUnknownKindIsAWrongLine()
         QVERIFY(run.io.err.contains("only-volumes, "));
         QVERIFY(isUntouched(machine, 0));
     }
+}
+
+void tst_CliWipeDisk::theWholeDriveIsErased()
+{
+    MemoryMachine machine;
+    addDrive(machine);
+    addVolume(machine);
+    CliRun run;
+    run(wipeDrive(0) + QStringList{u"--whole"_s, u"--json"_s});
+    QCOMPARE(run.code, 0);
+    QCOMPARE(machine.memory.medium(0), QByteArray(Size, '\0'));
+    QCOMPARE(run.io.events().constLast().value(u"outcome"), QJsonValue(u"complete"_s));
+    QCOMPARE(machine.openings().filter(u"openVolume"_s), QStringList());
+    QCOMPARE(machine.memory.keeps(), 1);
+    QVERIFY(!run.io.out.contains("left unmounted"));
+}
+
+void tst_CliWipeDisk::theQuestionSaysWhatTheWholeDriveIs()
+{
+    MemoryMachine machine;
+    addDrive(machine);
+    addVolume(machine);
+    const auto asked = [](const QStringList &options) {
+        CliRun run;
+        run.io.inputIsTerminal = run.io.outputIsTerminal = true;
+        run.io.input = QStringList{u"no"_s};
+        run(wipeDrive(0, options));
+        return run.io.out;
+    };
+    const QByteArray whole = asked({u"--whole"_s});
+    QVERIFY2(whole.contains("  the whole drive: its partition table and everything between and outside its "
+                            "volumes\n  its volumes are unmounted before, and stay so once something was "
+                            "written\n"),
+             whole.constData());
+    QVERIFY(!whole.contains("not everything"));
+    QVERIFY(!asked({}).contains("whole drive"));
+    MemoryMachine bare;
+    addDrive(bare);
+    const QByteArray withoutVolumes = asked({u"--whole"_s});
+    QVERIFY(withoutVolumes.contains("the whole drive: "));
+    QVERIFY(!withoutVolumes.contains("unmounted before"));
+}
+
+void tst_CliWipeDisk::volumesAreReleasedAfterTheQuestionOnly()
+{
+    MemoryMachine machine;
+    addDrive(machine);
+    addVolume(machine);
+    for (const QString &answer : {u"no"_s, u"ERASE"_s}) {
+        CliRun run;
+        run.io.inputIsTerminal = run.io.outputIsTerminal = true;
+        run.io.input = QStringList{answer};
+        run.io.onQuestion = [&machine] {
+            QCOMPARE(machine.memory.releasedDrives(), 0);
+            QCOMPARE(machine.memory.volumeNames().size(), 1);
+        };
+        run(wipeDrive(0, {u"--whole"_s}));
+        QCOMPARE(run.code, answer == u"no"_s ? 3 : 0);
+        QCOMPARE(machine.memory.keeps() + machine.memory.restores(), answer == u"no"_s ? 0 : 1);
+    }
+}
+
+void tst_CliWipeDisk::aVolumeInUseIsRefused()
+{
+    MemoryMachine machine;
+    addDrive(machine);
+    addVolume(machine);
+    machine.memory.volume(u"/media/stick"_s).releaseError = platform::SharingViolation;
+    const QTemporaryDir folder;
+    const QString report = folder.filePath(u"r.json"_s);
+    CliRun run;
+    run(wipeDrive(0) + QStringList{u"--whole"_s, u"--report"_s, report});
+    QCOMPARE(run.code, 3);
+    QVERIFY2(run.complains("Volume /media/stick is in use and cannot be unmounted. Nothing was written."),
+             run.io.err.constData());
+    QVERIFY(!run.io.out.contains("[info]"));
+    QVERIFY(isUntouched(machine, 0));
+    QVERIFY(!QFileInfo::exists(report));
+    QCOMPARE(machine.memory.volumeNames(), QStringList{u"/media/stick"_s});
+}
+
+void tst_CliWipeDisk::aRefusedWholeDriveIsAnEventToo()
+{
+    MemoryMachine machine;
+    addDrive(machine);
+    addVolume(machine);
+    machine.memory.volume(u"/media/stick"_s).releaseError = platform::SharingViolation;
+    CliRun run;
+    run(wipeDrive(0) + QStringList{u"--whole"_s, u"--json"_s});
+    QCOMPARE(run.code, 3);
+    QCOMPARE(run.io.events().size(), 1);
+    QCOMPARE(run.io.events().constFirst().value(u"event"), QJsonValue(u"error"_s));
+}
+
+void tst_CliWipeDisk::theSystemDiskIsNotReleased()
+{
+    MemoryMachine machine;
+    addDrive(machine);
+    addVolume(machine);
+    machine.session.systemVolumeNames = QStringList{u"/media/stick"_s};
+    CliRun run;
+    run(wipeDrive(0) + QStringList{u"--whole"_s});
+    QCOMPARE(run.code, 3);
+    QVERIFY2(run.complains("system disk"), run.io.err.constData());
+    QCOMPARE(machine.memory.keeps() + machine.memory.restores(), 0);
+    QVERIFY(isUntouched(machine, 0));
+}
+
+void tst_CliWipeDisk::aDriveThatIsHeldIsNotReleased()
+{
+    MemoryMachine machine;
+    addDrive(machine);
+    addVolume(machine);
+    machine.memory.drive(0).use.holders = QStringList{u"LUKS secret"_s};
+    CliRun run;
+    run(wipeDrive(0) + QStringList{u"--whole"_s});
+    QCOMPARE(run.code, 3);
+    QVERIFY2(run.complains("held by LUKS secret"), run.io.err.constData());
+    QCOMPARE(machine.memory.keeps() + machine.memory.restores(), 0);
+}
+
+void tst_CliWipeDisk::aStopAfterTheReleaseGivesTheVolumesBack()
+{
+    MemoryMachine machine;
+    addDrive(machine);
+    addVolume(machine);
+    CliRun run;
+    machine.answer = [&run](const DeviceCall &call) {
+        if (call.method == "releaseVolumes"_L1)
+            run.io.stopRequest().request();
+        return platform::Status{};
+    };
+    run(wipeDrive(0) + QStringList{u"--whole"_s});
+    QCOMPARE(run.code, 4);
+    QVERIFY(isUntouched(machine, 0));
+    QCOMPARE(machine.memory.restores(), 1);
+    QCOMPARE(machine.memory.volumeNames(), QStringList{u"/media/stick"_s});
+    QVERIFY(!(run.io.out + run.io.err).contains("left unmounted"));
+}
+
+void tst_CliWipeDisk::afterAFailureVolumesStayUnmounted()
+{
+    MemoryMachine machine;
+    addDrive(machine);
+    addVolume(machine);
+    machine.answer = [](const DeviceCall &call) {
+        return call.kind == FaultPlan::Write ? fakeFailure(platform::IoDevice) : platform::Status{};
+    };
+    CliRun run;
+    run(wipeDrive(0) + QStringList{u"--whole"_s});
+    QCOMPARE(run.code, 1);
+    QVERIFY((run.io.out + run.io.err).contains("left unmounted: /media/stick"));
+    QCOMPARE(machine.memory.keeps(), 1);
+    QCOMPARE(machine.memory.volumeNames(), QStringList());
+}
+
+void tst_CliWipeDisk::afterAStopVolumesStayUnmounted()
+{
+    for (const QStringList &options : {QStringList(), QStringList{u"--whole"_s}}) {
+        MemoryMachine machine;
+        addDrive(machine);
+        machine.memory.addVolume(u"/media/stick"_s, 0, 0, Size);
+        makeSlow(machine);
+        CliRun run;
+        stopAt(run.io, "\"progress\"");
+        run(wipeDrive(0) + options +
+            QStringList{u"--json"_s, u"--buffer-mb"_s, u"1"_s, u"--method"_s, u"gutmann"_s});
+        QCOMPARE(run.code, 4);
+        QVERIFY((run.io.out + run.io.err).contains("left unmounted: /media/stick"));
+    }
+}
+
+void tst_CliWipeDisk::onlyADriveCanBeWhole_data()
+{
+    QTest::addColumn<QStringList>("words");
+    QTest::newRow("free space") << QStringList{u"wipe"_s, u"free"_s, u"0"_s};
+    QTest::newRow("files") << QStringList{u"wipe"_s, u"files"_s, u"x"_s};
+    QTest::newRow("trash") << QStringList{u"wipe"_s, u"trash"_s};
+    QTest::newRow("disks") << QStringList{u"disks"_s};
+}
+
+void tst_CliWipeDisk::onlyADriveCanBeWhole()
+{
+    QFETCH(const QStringList, words);
+    MemoryMachine machine;
+    addDrive(machine);
+    addVolume(machine);
+    CliRun run;
+    run(words + QStringList{u"--whole"_s});
+    QCOMPARE(run.code, 2);
+    QVERIFY2(run.complains("whole"), run.io.err.constData());
+    QCOMPARE(machine.openings(), QStringList());
 }
 
 void tst_CliWipeDisk::theReportIsWrittenAfterSuccess()

@@ -15,6 +15,10 @@ RealJob runRealJob(WipeTask &task, int patienceMs)
     QObject::connect(&engine, &WipeEngine::errorOccurred, &engine,
                      [&job](const QString &error) { job.errors.append(error); });
     engine.setTask(&task);
+    if (const QString problem = engine.releaseVolumes(); !problem.isEmpty()) {
+        job.errors.append(problem);
+        return job;
+    }
     engine.start();
     if (engine.isRunning() && (!completed.isEmpty() || completed.wait(patienceMs)))
         job.success = completed[0][0].toBool();

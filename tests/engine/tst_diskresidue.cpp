@@ -2,6 +2,7 @@
 #include "model/wipetask.h"
 #include "realjob.h"
 #include "support/loopmount.h"
+#include "support/partitionedloop.h"
 #include "support/suite.h"
 #include "support/testfiles.h"
 
@@ -50,6 +51,15 @@ qint64 firstOther(LoopMount &drive, qint64 size, char expected)
     return -1;
 }
 
+void fillRoomOutside(PartitionedLoop &loop)
+{
+    using Loop = PartitionedLoop;
+    for (const qint64 offset : {Loop::First / 2, Loop::First + Loop::PartitionSize,
+                                Loop::Second + Loop::PartitionSize, Loop::Size - marker().size()})
+        QVERIFY(loop.drive().writeImage(offset, marker()));
+    QCOMPARE(loop.drive().countInImage(marker()), 4);
+}
+
 // The number of 4 KiB blocks that equal the one before.
 int repeatedBlocks(LoopMount &drive, qint64 size)
 {
@@ -75,6 +85,8 @@ private slots:
     void everyByteIsOfTheLastPass_data();
     void everyByteIsOfTheLastPass();
     void mountedVolumeIsUnmountedAndWiped();
+    void wholeDriveIsErasedOutsideItsVolumesToo();
+    void volumesAloneLeaveWhatIsOutside();
     void busyVolumeIsLeftAlone();
     void driveHeldBySomebodyElseIsLeftAlone();
     void fullBackingIsAFailure();
@@ -160,6 +172,45 @@ void tst_DiskResidue::mountedVolumeIsUnmountedAndWiped()
     QVERIFY(job.hasLine(QStringLiteral("通过卷句柄进行擦除...")));
     QVERIFY(!drive.isMounted());
     QCOMPARE(firstOther(drive, task.disk().sizeBytes, '\0'), -1);
+}
+
+void tst_DiskResidue::wholeDriveIsErasedOutsideItsVolumesToo()
+{
+    const QTemporaryDir folder;
+    PartitionedLoop loop(folder.path());
+    QVERIFY2(loop.isReady(), qPrintable(loop.drive().error()));
+    fillRoomOutside(loop);
+    QVERIFY(loop.mount(1, loop.folder(QStringLiteral("one")), QStringLiteral("noexec")));
+    QVERIFY(loop.mount(2, loop.folder(QStringLiteral("two"))));
+    writeFile(loop.folder(QStringLiteral("one")) + QStringLiteral("/secret"), marker());
+    WipeTask task;
+    task.setOperationType(DiskWipe);
+    task.setDisk(diskAt(loop.device()));
+    QCOMPARE(task.disk().partitions.size(), 2);
+    task.setWholeDrive(true);
+    const RealJob job = runRealJob(task);
+    QVERIFY2(job.success, qPrintable((job.log + job.errors).join(u'\n')));
+    QCOMPARE(task.outcome().outcome(), JobOutcome::Complete);
+    QCOMPARE(job.report.wipedSectors, job.report.totalSectors);
+    QCOMPARE(loop.mounts(), QStringList());
+    QCOMPARE(firstOther(loop.drive(), PartitionedLoop::Size, '\0'), -1);
+}
+
+// What the job on all of the drive is for.
+void tst_DiskResidue::volumesAloneLeaveWhatIsOutside()
+{
+    const QTemporaryDir folder;
+    PartitionedLoop loop(folder.path());
+    QVERIFY2(loop.isReady(), qPrintable(loop.drive().error()));
+    fillRoomOutside(loop);
+    QVERIFY(loop.mount(1, loop.folder(QStringLiteral("one"))));
+    WipeTask task;
+    task.setOperationType(DiskWipe);
+    task.setDisk(diskAt(loop.device()));
+    const RealJob job = runRealJob(task);
+    QVERIFY2(job.success, qPrintable(job.log.join(u'\n')));
+    QCOMPARE(task.outcome().outcome(), JobOutcome::Partial);
+    QVERIFY(loop.drive().countInImage(marker()) > 0);
 }
 
 void tst_DiskResidue::busyVolumeIsLeftAlone()

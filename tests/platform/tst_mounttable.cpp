@@ -11,7 +11,7 @@ class tst_MountTable : public QObject
 
 private slots:
     void plainLine();
-    void optionalFieldsAreSkipped();
+    void optionalFieldsAreKeptTogether();
     void octalEscapesAreDecoded();
     void orderIsKept();
     void damagedLinesArePassedOver();
@@ -29,9 +29,14 @@ void tst_MountTable::plainLine()
     QCOMPARE(entries[0].mountPoint, QStringLiteral("/media/data"));
     QCOMPARE(entries[0].fileSystem, QByteArray("ext4"));
     QCOMPARE(entries[0].source, QStringLiteral("/dev/sda1"));
+    QCOMPARE(entries[0].options, QStringLiteral("rw"));
+    QCOMPARE(entries[0].mountOptions, QStringLiteral("rw,noatime"));
+    QCOMPARE(entries[0].propagation, QByteArray());
+    QCOMPARE(entries[0].id, 36);
+    QCOMPARE(entries[0].parent, 35);
 }
 
-void tst_MountTable::optionalFieldsAreSkipped()
+void tst_MountTable::optionalFieldsAreKeptTogether()
 {
     const QList<MountEntry> entries = parseMountInfo(
         "36 35 0:42 /home /home rw shared:7 master:1 propagate_from:2 - btrfs /dev/sdb rw,subvol=/home");
@@ -39,6 +44,9 @@ void tst_MountTable::optionalFieldsAreSkipped()
     QCOMPARE(entries[0].root, QStringLiteral("/home"));
     QCOMPARE(entries[0].fileSystem, QByteArray("btrfs"));
     QCOMPARE(entries[0].source, QStringLiteral("/dev/sdb"));
+    QCOMPARE(entries[0].options, QStringLiteral("rw,subvol=/home"));
+    QCOMPARE(entries[0].mountOptions, QStringLiteral("rw"));
+    QCOMPARE(entries[0].propagation, QByteArray("shared:7 master:1 propagate_from:2"));
 }
 
 void tst_MountTable::octalEscapesAreDecoded()

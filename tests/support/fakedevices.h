@@ -83,6 +83,10 @@ public:
                                                                      platform::DriveAccess) override;
     platform::Result<std::unique_ptr<platform::VolumeDevice>>
     openVolume(const QString &, const platform::DriveIdentity &) override;
+    platform::VolumeRelease releaseVolumes(const platform::DriveIdentity &) override
+    {
+        return {.failure = fakeFailure(platform::NotSupported)};
+    }
     QStringList volumeNames() override { return mountOrder; }
 
     QList<platform::MountedVolume> mountedVolumes() override;

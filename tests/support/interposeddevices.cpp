@@ -183,3 +183,12 @@ InterposedDevices::openVolume(const QString &name, const platform::DriveIdentity
         return target.status();
     return std::unique_ptr<platform::VolumeDevice>(std::make_unique<Volume>(target.take(), m_before, name));
 }
+
+platform::VolumeRelease InterposedDevices::releaseVolumes(const platform::DriveIdentity &drive)
+{
+    const QString name = QString::number(drive.number);
+    const auto status = m_before({FaultPlan::Dismount, QLatin1String("releaseVolumes"), name});
+    if (!status)
+        return {.failure = status};
+    return m_target.releaseVolumes(drive);
+}

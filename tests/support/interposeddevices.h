@@ -33,6 +33,7 @@ public:
                                                                      platform::DriveAccess access) override;
     platform::Result<std::unique_ptr<platform::VolumeDevice>>
     openVolume(const QString &name, const platform::DriveIdentity &drive) override;
+    platform::VolumeRelease releaseVolumes(const platform::DriveIdentity &drive) override;
 
 private:
     class Query;

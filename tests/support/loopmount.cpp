@@ -228,8 +228,10 @@ bool LoopMount::createImage()
 
 bool LoopMount::attach()
 {
-    const QStringList arguments{QStringLiteral("--find"), QStringLiteral("--show"),
-                                QStringLiteral("--sector-size=%1").arg(m_options.sectorSize)};
+    QStringList arguments{QStringLiteral("--find"), QStringLiteral("--show"),
+                          QStringLiteral("--sector-size=%1").arg(m_options.sectorSize)};
+    if (m_options.partitioned)
+        arguments << QStringLiteral("--partscan");
     QString device;
     if (!run(QStringLiteral("losetup"), QStringList(arguments) << m_image, &device))
         return false;

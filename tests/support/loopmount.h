@@ -29,6 +29,7 @@ public:
         bool mounted = true;         // otherwise the file system is made, and mount() mounts it
         QStringList makeArguments{}; // further arguments for mkfs
         QString mountOptions{};      // for mount -o, as "ro,noatime"
+        bool partitioned = false;    // the loop device can have partitions
     };
 
     // Why no LoopMount can be made here, for QSKIP; empty when one can.

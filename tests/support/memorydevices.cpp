@@ -269,6 +269,103 @@ private:
     bool m_locked = false;
 };
 
+class MemoryDevices::Released : public platform::ReleasedVolumes
+{
+public:
+    Released(MemoryDevices &devices, QList<MemoryDriveVolume> volumes)
+        : m_devices(devices)
+        , m_volumes(std::move(volumes))
+    {
+        ++m_devices.m_releasedDrives;
+        for (const MemoryDriveVolume &volume : m_volumes) {
+            if (volume.staysInSight)
+                m_devices.find(volume.name)->mounted = false;
+            else
+                m_devices.m_volumes.removeIf(
+                    [&volume](const MemoryDriveVolume &other) { return other.name == volume.name; });
+        }
+    }
+    ~Released() override
+    {
+        if (!m_isSettled)
+            restore();
+    }
+
+    QStringList names() const override
+    {
+        QStringList names;
+        for (const MemoryDriveVolume &volume : m_volumes)
+            names.append(volume.name);
+        return names;
+    }
+    bool holds(const QString &name) const override
+    {
+        return std::any_of(m_volumes.begin(), m_volumes.end(), [&name](const MemoryDriveVolume &volume) {
+            return volume.name == name && volume.staysInSight;
+        });
+    }
+    QStringList restore() override
+    {
+        const QMutexLocker locker(&m_devices.m_mutex);
+        settle();
+        ++m_devices.m_restores;
+        QStringList lost;
+        for (const MemoryDriveVolume &volume : std::as_const(m_volumes)) {
+            if (volume.isLost)
+                lost.append(volume.name);
+            else if (volume.staysInSight)
+                m_devices.find(volume.name)->mounted = true;
+            else
+                m_devices.m_volumes.append(volume);
+        }
+        return lost;
+    }
+    platform::Status keep() override
+    {
+        const QMutexLocker locker(&m_devices.m_mutex);
+        settle();
+        ++m_devices.m_keeps;
+        return {m_devices.keepError, 0, "keep"};
+    }
+
+private:
+    void settle()
+    {
+        if (m_devices.m_openHandles > 0)
+            qFatal("volumes are given back while the drive is open");
+        --m_devices.m_releasedDrives;
+        m_isSettled = true;
+    }
+
+    MemoryDevices &m_devices;
+    QList<MemoryDriveVolume> m_volumes;
+    bool m_isSettled = false;
+};
+
+platform::VolumeRelease MemoryDevices::releaseVolumes(const platform::DriveIdentity &identity)
+{
+    const QMutexLocker locker(&m_mutex);
+    if (!isSame(identity))
+        return {.failure = {platform::NotReady, 0, "identity check"}};
+    QList<MemoryDriveVolume> volumes = m_volumes;
+    volumes.removeIf([&identity](const MemoryDriveVolume &volume) {
+        return !volume.mounted || volume.extents.isEmpty() ||
+               volume.extents.first().diskNumber != identity.number;
+    });
+    for (const MemoryDriveVolume &volume : std::as_const(volumes)) {
+        if (volume.releaseError == platform::NoError)
+            continue;
+        platform::VolumeRelease refused{.failure = {volume.releaseError, 0, "release"},
+                                        .volume = volume.name};
+        for (const MemoryDriveVolume &other : std::as_const(volumes)) {
+            if (other.isLost)
+                refused.notRestored.append(other.name);
+        }
+        return refused;
+    }
+    return {.volumes = std::make_unique<Released>(*this, volumes)};
+}
+
 void MemoryDevices::addVolume(const QString &name, int driveNumber, qint64 offset, qint64 length)
 {
     MemoryDriveVolume volume;

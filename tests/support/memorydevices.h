@@ -21,6 +21,9 @@ struct MemoryDriveVolume
     int failingLocks = 0; // attempts that fail before one succeeds; below 0: every one fails
     platform::ErrorCode lockError = platform::AccessDenied;
     platform::ErrorCode dismountError = platform::NoError;
+    platform::ErrorCode releaseError = platform::NoError;
+    bool staysInSight = false; // released, it is locked and listed all the same
+    bool isLost = false;       // released, it cannot be given back
     QString label;
     QByteArray fileSystem = "ext4";
     qint64 freeBytes = 0;
@@ -71,11 +74,17 @@ public:
 
     int openHandles() const { return count(m_openHandles); }
     int heldLocks() const { return count(m_heldLocks); }
+    platform::ErrorCode keepError = platform::NoError; // of ReleasedVolumes::keep()
+
     // Since construction.
     int openings() const { return count(m_openings); }
     int lockAttempts() const { return count(m_lockAttempts); }
     int dismounts() const { return count(m_dismounts); }
     int writes() const { return count(m_writes); }
+    // Of volumes that are released now, and how often they were given back or not.
+    int releasedDrives() const { return count(m_releasedDrives); }
+    int restores() const { return count(m_restores); }
+    int keeps() const { return count(m_keeps); }
 
     QString drivePath(int number) override { return QStringLiteral("memory drive %1").arg(number); }
 
@@ -85,6 +94,7 @@ public:
                                                                      platform::DriveAccess access) override;
     platform::Result<std::unique_ptr<platform::VolumeDevice>>
     openVolume(const QString &name, const platform::DriveIdentity &identity) override;
+    platform::VolumeRelease releaseVolumes(const platform::DriveIdentity &identity) override;
     QStringList volumeNames() override;
     QList<platform::MountedVolume> mountedVolumes() override;
 
@@ -95,6 +105,7 @@ private:
     class Transfers;
     class Drive;
     class Volume;
+    class Released;
 
     int count(const int &counter) const;
     MemoryDriveVolume *find(const QString &name);
@@ -110,4 +121,7 @@ private:
     int m_lockAttempts = 0;
     int m_dismounts = 0;
     int m_writes = 0;
+    int m_releasedDrives = 0;
+    int m_restores = 0;
+    int m_keeps = 0;
 };

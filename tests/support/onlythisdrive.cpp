@@ -36,6 +36,13 @@ OnlyThisDrive::openVolume(const QString &name, const platform::DriveIdentity &dr
     return m_target.openVolume(name, drive);
 }
 
+platform::VolumeRelease OnlyThisDrive::releaseVolumes(const platform::DriveIdentity &drive)
+{
+    if (drivePath(drive.number).isEmpty())
+        return {.failure = absent()};
+    return m_target.releaseVolumes(drive);
+}
+
 QStringList OnlyThisDrive::volumeNames()
 {
     QStringList names = m_target.volumeNames();

@@ -306,7 +306,8 @@ BOOL Win32Faults::deviceIoControl(HANDLE handle, DWORD code, LPVOID input, DWORD
                                         overlapped);
     {
         const std::scoped_lock lock(m_mutex);
-        m_controls.append({code, inputSize, outputSize});
+        m_controls.append({code, inputSize, outputSize, pathOf(handle),
+                           QByteArray(static_cast<const char *>(input), qsizetype(inputSize))});
     }
     int property = 0;
     if (code == IOCTL_STORAGE_QUERY_PROPERTY && inputSize >= sizeof(property))

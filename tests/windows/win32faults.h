@@ -79,6 +79,8 @@ public:
         DWORD code = 0;
         DWORD inputSize = 0;
         DWORD outputSize = 0;
+        QString path;
+        QByteArray input;
     };
 
     Win32Faults();

@@ -3,6 +3,8 @@
 #include "cli/wipeplan.h"
 #include "services/diskmanager.h"
 
+#include <QCommandLineParser>
+
 namespace cli {
 
 using namespace Qt::StringLiterals;
@@ -12,6 +14,16 @@ namespace {
 QStringList words()
 {
     return {u"wipe"_s, u"disk"_s};
+}
+
+// What the question says beside the drive and its volumes.
+QStringList wholeDriveLines(const DiskInfo &disk)
+{
+    QStringList lines{
+        Cli::tr("  the whole drive: its partition table and everything between and outside its volumes")};
+    if (!disk.partitions.isEmpty())
+        lines.append(Cli::tr("  its volumes are unmounted before, and stay so once something was written"));
+    return lines;
 }
 
 Outcome<ExitCode> run(const CommandContext &context)
@@ -28,9 +40,12 @@ Outcome<ExitCode> run(const CommandContext &context)
     auto task = std::make_unique<WipeTask>();
     task->setOperationType(DiskWipe);
     task->setDisk(*disk);
+    task->setWholeDrive(context.options.isSet(u"whole"_s));
     WipePlan plan;
-    plan.jobs.push_back({std::move(task), disk->devicePath});
     plan.summary = describeDrive(*disk);
+    if (task->isWholeDrive())
+        plan.summary += wholeDriveLines(*disk);
+    plan.jobs.push_back({std::move(task), disk->devicePath});
     plan.doomedPaths.append(disk->devicePath);
     for (const PartitionInfo &partition : disk->partitions)
         plan.doomedPaths.append(partition.driveLetter);
@@ -49,10 +64,16 @@ Command wipeDiskCommand()
     command.words = words();
     command.synopsis = u"DRIVE"_s;
     command.summary = Cli::tr("Erases a whole drive");
-    command.details = Cli::tr(
-        "DRIVE is the number that 'quorvex-cli disks' shows, or a device path. System disks are refused.");
+    command.details =
+        Cli::tr("DRIVE is the number that 'quorvex-cli disks' shows, or a device path. System disks are "
+                "refused.") +
+        u' ' +
+        Cli::tr("Of a drive with mounted volumes only these are erased; --whole unmounts them and erases "
+                "every sector of the drive.");
     command.example = u"wipe disk 2 --method \"DoD 5220.22-M\" --report drive2.json"_s;
     command.options = wipeOptions();
+    command.options.prepend(
+        {u"whole"_s, Cli::tr("Unmount all volumes of the drive and erase every sector of it")});
     command.minimumArguments = 1;
     command.maximumArguments = 1;
     command.printsEvents = true;

@@ -117,6 +117,16 @@ private:
     qint64 m_position = 0;
 };
 
+// An image has no volumes that anybody could have mounted.
+class NoVolumes : public ReleasedVolumes
+{
+public:
+    QStringList names() const override { return {}; }
+    bool holds(const QString &) const override { return false; }
+    QStringList restore() override { return {}; }
+    Status keep() override { return {}; }
+};
+
 Result<qint64> imageSize(Files &files, const QString &path)
 {
     const Result<FileInfo> info = files.info(path);
@@ -201,6 +211,13 @@ Result<std::unique_ptr<VolumeDevice>> ImageDevices::openVolume(const QString &na
     if (m_onlyImages || m_images.contains(drive.number))
         return noSuchDrive();
     return m_base.openVolume(name, drive);
+}
+
+VolumeRelease ImageDevices::releaseVolumes(const DriveIdentity &drive)
+{
+    if (m_images.contains(drive.number))
+        return {.volumes = std::make_unique<NoVolumes>()};
+    return m_onlyImages ? VolumeRelease{.failure = noSuchDrive()} : m_base.releaseVolumes(drive);
 }
 
 QStringList ImageDevices::volumeNames()

@@ -3,6 +3,7 @@
 #include "platform/filenames.h"
 #include "platform/linux/devicerelease.h"
 #include "platform/linux/drivedescription.h"
+#include "platform/linux/linuxreleasedvolumes.h"
 #include "platform/linux/volumelabel.h"
 #include "platform/storagereplies.h"
 
@@ -147,7 +148,7 @@ Status LinuxDevices::checkIdentity(const DriveIdentity &chosen, const Drive &pre
     return {NotReady, 0, "identity check"};
 }
 
-Result<std::unique_ptr<RawDevice>> LinuxDevices::openDrive(const DriveIdentity &drive, DriveAccess access)
+Result<FileDescriptor> LinuxDevices::openChosen(const DriveIdentity &drive, DriveAccess access)
 {
     const std::optional<Drive> present = m_registry.byNumber(drive.number);
     if (!present)
@@ -161,6 +162,14 @@ Result<std::unique_ptr<RawDevice>> LinuxDevices::openDrive(const DriveIdentity &
                                                                  : Status{NotReady, 0, "identity check"};
     if (!identity)
         return identity;
+    return fd;
+}
+
+Result<std::unique_ptr<RawDevice>> LinuxDevices::openDrive(const DriveIdentity &drive, DriveAccess access)
+{
+    Result<FileDescriptor> fd = openChosen(drive, access);
+    if (!fd)
+        return fd.status();
     Result<BlockTransfers> transfers = BlockTransfers::on(fd.take());
     if (!transfers)
         return transfers.status();
@@ -189,6 +198,49 @@ Result<std::unique_ptr<VolumeDevice>> LinuxDevices::openVolume(const QString &na
         return transfers.status();
     return std::unique_ptr<VolumeDevice>(
         std::make_unique<LinuxVolumeDevice>(transfers.take(), m_volumes, volume.device, node));
+}
+
+QList<VolumeTable::Mount> LinuxDevices::mountsOn(int driveNumber)
+{
+    QList<VolumeTable::Mount> mounts = m_volumes.mounts();
+    mounts.removeIf([this, driveNumber](const VolumeTable::Mount &mount) {
+        const QList<Extent> extents = extentsOf(mount.device);
+        return std::ranges::none_of(
+            extents, [driveNumber](const Extent &extent) { return extent.diskNumber == driveNumber; });
+    });
+    return mounts;
+}
+
+VolumeRelease LinuxDevices::releaseVolumes(const DriveIdentity &drive)
+{
+    const std::optional<Drive> present = m_registry.byNumber(drive.number);
+    const Status identity = present ? checkIdentity(drive, *present) : Status{NotReady, 0, "drive number"};
+    if (!identity)
+        return {.failure = identity};
+    auto released = std::make_unique<LinuxReleasedVolumes>(MountStack(m_tree, mountsOn(drive.number)));
+    MountStack &mounts = released->mounts();
+    for (const VolumeTable::Mount &mount : mounts.mounts()) {
+        if (!liesOnlyOn(extentsOf(mount.device), drive.number))
+            return {.failure = {NotReady, 0, "volume extents"}, .volume = mount.entry.mountPoint};
+    }
+    if (const QString point = mounts.pointUnderOther(); !point.isEmpty())
+        return {.failure = {SharingViolation, 0, "mount table"}, .volume = point};
+
+    VolumeRelease release;
+    release.failure = mounts.takeDown(release.volume);
+    if (release.failure.ok()) {
+        // Only now it shows whether somebody holds a part of the drive without a mount in sight.
+        Result<FileDescriptor> held = openChosen(drive, DriveAccess::Alone);
+        if (held)
+            released->setDrive(held.take());
+        else
+            release.failure = held.status();
+    }
+    if (release.failure.ok())
+        release.volumes = std::move(released);
+    else
+        release.notRestored = released->restore();
+    return release;
 }
 
 QStringList LinuxDevices::volumeNames()

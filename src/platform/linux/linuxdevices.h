@@ -3,6 +3,7 @@
 #include "platform/devices.h"
 #include "platform/linux/blocktree.h"
 #include "platform/linux/driveregistry.h"
+#include "platform/linux/filedescriptor.h"
 #include "platform/linux/linuxvolume.h"
 #include "platform/linux/systemtree.h"
 
@@ -20,11 +21,14 @@ public:
     Result<std::unique_ptr<RawDevice>> openDrive(const DriveIdentity &drive, DriveAccess access) override;
     Result<std::unique_ptr<VolumeDevice>> openVolume(const QString &name,
                                                      const DriveIdentity &drive) override;
+    VolumeRelease releaseVolumes(const DriveIdentity &drive) override;
     QStringList volumeNames() override;
     QList<MountedVolume> mountedVolumes() override;
 
 private:
     Status checkIdentity(const DriveIdentity &chosen, const Drive &present) const;
+    Result<FileDescriptor> openChosen(const DriveIdentity &drive, DriveAccess access);
+    QList<VolumeTable::Mount> mountsOn(int driveNumber);
     QList<Extent> extentsOf(const QByteArray &device);
 
     SystemTree m_tree;

@@ -29,13 +29,23 @@ QByteArray VolumeTable::deviceOf(const MountEntry &entry) const
     return m_blocks.exists(entry.deviceNumber) ? entry.deviceNumber : BlockTree::deviceOfNode(entry.source);
 }
 
+QList<VolumeTable::Mount> VolumeTable::mounts() const
+{
+    QList<Mount> mounts;
+    for (const MountEntry &entry : entries()) {
+        const QByteArray device = deviceOf(entry);
+        if (!device.isEmpty())
+            mounts.append({entry, device});
+    }
+    return mounts;
+}
+
 QList<VolumeTable::Volume> VolumeTable::mounted() const
 {
     QList<Volume> volumes;
     QSet<QByteArray> seen;
-    for (const MountEntry &entry : entries()) {
-        const QByteArray device = deviceOf(entry);
-        if (device.isEmpty() || seen.contains(device))
+    for (const auto &[entry, device] : mounts()) {
+        if (seen.contains(device))
             continue;
         seen.insert(device);
         volumes.append({entry.mountPoint, device, entry.fileSystem, true});

@@ -23,6 +23,17 @@ public:
         bool isMounted = false;
     };
 
+    // A mount and the block device that its file system is on.
+    struct Mount
+    {
+        MountEntry entry;
+        QByteArray device;
+    };
+    // Every mount of a block device, in mount order.
+    QList<Mount> mounts() const;
+    // Every mount there is.
+    QList<MountEntry> entries() const;
+
     // One volume per device, under its first mount point, in mount order.
     QList<Volume> mounted() const;
     // By mount point or node; an empty device means that there is none.
@@ -37,7 +48,6 @@ public:
 
 private:
     QByteArray deviceOf(const MountEntry &entry) const;
-    QList<MountEntry> entries() const;
 
     SystemTree m_tree;
     BlockTree m_blocks;

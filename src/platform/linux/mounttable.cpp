@@ -35,8 +35,17 @@ QList<MountEntry> parseMountInfo(const QByteArray &text)
         const qsizetype separator = fields.indexOf(QByteArray("-"), 6);
         if (separator < 0 || fields.size() < separator + 3)
             continue;
-        entries.append({fields[2], unescaped(fields[3]), unescaped(fields[4]), fields[separator + 1],
-                        unescaped(fields[separator + 2]), unescaped(fields.value(separator + 3))});
+        MountEntry entry{fields[2],
+                         unescaped(fields[3]),
+                         unescaped(fields[4]),
+                         fields[separator + 1],
+                         unescaped(fields[separator + 2]),
+                         unescaped(fields.value(separator + 3))};
+        entry.mountOptions = QString::fromUtf8(fields[5]);
+        entry.propagation = fields.mid(6, separator - 6).join(' ');
+        entry.id = fields[0].toInt();
+        entry.parent = fields[1].toInt();
+        entries.append(entry);
     }
     return entries;
 }

@@ -14,8 +14,12 @@ struct MountEntry
     QString root;            // the part of the file system that is mounted, "/" for all of it
     QString mountPoint;
     QByteArray fileSystem;
-    QString source;    // usually a device node
-    QString options{}; // the file system's own
+    QString source;           // usually a device node
+    QString options{};        // the file system's own
+    QString mountOptions{};   // of this mount alone
+    QByteArray propagation{}; // "shared:7 master:1", as the line has it
+    int id = 0;
+    int parent = 0; // the mount on which it stands
 };
 
 // Pure; lines that are not of the form are passed over. Order as in the text, which is the order of mounting.

@@ -3,10 +3,13 @@
 #include "platform/storagereplies.h"
 #include "platform/windows/windowsquery.h"
 #include "platform/windows/windowsrawdevice.h"
+#include "platform/windows/windowsreleasedvolumes.h"
 #include "platform/windows/windowsvolume.h"
 
 #include <QDir>
 #include <QStorageInfo>
+
+#include <algorithm>
 
 namespace platform {
 
@@ -57,6 +60,20 @@ Status checkVolume(HANDLE volume, const DriveIdentity &chosen, const QString &dr
                : Status{NotReady, drive.status().native, "identity check"};
 }
 
+Result<WinHandle> openChosen(const DriveIdentity &drive, const QString &path, DriveAccess access)
+{
+    if (drive.number < 0)
+        return Status{NotReady, 0, "drive number"};
+    Result<WinHandle> opened = openForTransfers(path, access);
+    if (!opened)
+        return opened.status();
+    // Asked only now that the drive is held: before, it could still be exchanged for another.
+    const Status identity = checkIdentity(drive, opened.value().get());
+    if (!identity)
+        return identity;
+    return opened;
+}
+
 // The call wants the root with its separator, and only that of the system is sure to be understood.
 bool isOnLocalDrive(const QString &root)
 {
@@ -96,15 +113,9 @@ Result<std::unique_ptr<DeviceQuery>> WindowsDevices::queryVolume(const QString &
 
 Result<std::unique_ptr<RawDevice>> WindowsDevices::openDrive(const DriveIdentity &drive, DriveAccess access)
 {
-    if (drive.number < 0)
-        return Status{NotReady, 0, "drive number"};
-    Result<WinHandle> opened = openForTransfers(drivePath(drive.number), access);
+    Result<WinHandle> opened = openChosen(drive, drivePath(drive.number), access);
     if (!opened)
         return opened.status();
-    // Asked only now that the drive is held: before, it could still be exchanged for another.
-    const Status identity = checkIdentity(drive, opened.value().get());
-    if (!identity)
-        return identity;
     return std::unique_ptr<RawDevice>(std::make_unique<WindowsRawDevice>(opened.take()));
 }
 
@@ -121,6 +132,35 @@ Result<std::unique_ptr<VolumeDevice>> WindowsDevices::openVolume(const QString &
     if (!identity)
         return identity;
     return std::unique_ptr<VolumeDevice>(std::make_unique<WindowsVolumeDevice>(opened.take()));
+}
+
+VolumeRelease WindowsDevices::releaseVolumes(const DriveIdentity &drive)
+{
+    Result<WinHandle> opened = openChosen(drive, drivePath(drive.number), DriveAccess::BesideOwnVolumes);
+    if (!opened)
+        return {.failure = opened.status()};
+    auto released = std::make_unique<WindowsReleasedVolumes>(opened.take());
+    for (const QString &name : volumeNames()) {
+        const auto query = queryVolume(name);
+        if (!query)
+            continue;
+        const auto extents = query.value()->extents(AllExtents);
+        const bool isOnDrive =
+            extents && std::ranges::any_of(extents.value(), [&drive](const Extent &extent) {
+                return extent.diskNumber == drive.number;
+            });
+        if (!isOnDrive)
+            continue;
+        auto volume = openVolume(name, drive);
+        const Status locked = volume ? released->lock(name, volume.take()) : volume.status();
+        if (!locked)
+            return {.failure = locked, .volume = name};
+    }
+    QString mounted;
+    const Status away = released->takeAway(mounted);
+    if (!away)
+        return {.failure = away, .volume = mounted};
+    return {.volumes = std::move(released)};
 }
 
 QStringList WindowsDevices::volumeNames()

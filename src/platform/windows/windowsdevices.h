@@ -14,6 +14,7 @@ public:
     Result<std::unique_ptr<RawDevice>> openDrive(const DriveIdentity &drive, DriveAccess access) override;
     Result<std::unique_ptr<VolumeDevice>> openVolume(const QString &name,
                                                      const DriveIdentity &drive) override;
+    VolumeRelease releaseVolumes(const DriveIdentity &drive) override;
     QStringList volumeNames() override;
     QList<MountedVolume> mountedVolumes() override;
 };

@@ -1,5 +1,6 @@
 #include "ui/dialogs/completedialog.h"
 
+#include "model/displaytext.h"
 #include "ui/style/tooltip.h"
 
 #include <QIcon>
@@ -53,7 +54,7 @@ CompleteDialog::CompleteDialog(bool success, const QString &certificateId, QWidg
     addIcon(layout);
     addTexts(layout);
     if (m_success && m_outcome.outcome() == JobOutcome::Partial)
-        addOutcome(layout);
+        addWarning(u"outcomeLabel"_s, m_outcome.summary(), m_outcome.fullSummary());
     if (offersCertificate())
         addCertificateId(layout);
     layout->addStretch();
@@ -104,17 +105,26 @@ void CompleteDialog::addTexts(QBoxLayout *layout)
 }
 
 // However many kinds there are, the window keeps its size: the beginning is seen, the tip holds everything.
-void CompleteDialog::addOutcome(QBoxLayout *layout)
+void CompleteDialog::addWarning(const QString &name, const QString &text, const QString &tip)
 {
-    auto *const label = new QLabel(m_outcome.summary());
-    label->setObjectName(u"outcomeLabel"_s);
+    auto *const label = new QLabel(text);
+    label->setObjectName(name);
     label->setTextFormat(Qt::PlainText);
     label->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
     label->setWordWrap(true);
     label->setStyleSheet(u"color: #f59e0b; font-size: 13px; font-weight: bold;"_s);
-    label->setToolTip(plainTip(m_outcome.fullSummary()));
-    label->setAccessibleDescription(m_outcome.fullSummary());
-    layout->addWidget(label);
+    label->setToolTip(plainTip(tip));
+    label->setAccessibleDescription(tip);
+    auto *const column = qobject_cast<QBoxLayout *>(layout());
+    column->insertWidget(column->indexOf(findChild<QLabel *>(u"dialogMessage"_s)) + 1, label);
+}
+
+void CompleteDialog::addLeftUnmounted(const QStringList &volumes)
+{
+    if (volumes.isEmpty())
+        return;
+    const QString text = tr("Left unmounted: %1").arg(displayText(volumes.join(u", "_s)));
+    addWarning(u"leftUnmountedLabel"_s, text, text);
 }
 
 void CompleteDialog::addCertificateId(QBoxLayout *layout)

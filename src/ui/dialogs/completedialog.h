@@ -4,6 +4,7 @@
 
 #include <QDialog>
 #include <QString>
+#include <QStringList>
 
 QT_FORWARD_DECLARE_CLASS(QBoxLayout)
 
@@ -18,6 +19,10 @@ public:
     CompleteDialog(bool success, const QString &certificateId, QWidget *parent = nullptr,
                    const OutcomeRecord &outcome = OutcomeRecord(JobOutcome::Complete));
 
+    /// Tells below the message which volumes a job that failed has left unmounted; nothing when there are
+    /// none. Names are cleaned for display here.
+    void addLeftUnmounted(const QStringList &volumes);
+
 signals:
     /// Emitted before the dialog closes.
     void viewCertificateClicked();
@@ -25,9 +30,9 @@ signals:
 private:
     bool offersCertificate() const { return m_success && !m_certificateId.isEmpty(); }
     QString messageText() const;
+    void addWarning(const QString &name, const QString &text, const QString &tip);
     void addIcon(QBoxLayout *layout);
     void addTexts(QBoxLayout *layout);
-    void addOutcome(QBoxLayout *layout);
     void addCertificateId(QBoxLayout *layout);
     void addButtons(QBoxLayout *layout);
     void onViewCertificateClicked();

@@ -1,5 +1,9 @@
 #include "ui/dialogs/confirmdialog.h"
 
+#include "model/formatsize.h"
+#include "ui/style/tooltip.h"
+
+#include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -84,9 +88,32 @@ void ConfirmDialog::addNotice(const QString &text)
     notice->setObjectName(u"dialogNotice"_s);
     notice->setTextFormat(Qt::PlainText);
     notice->setWordWrap(true);
+    insertAbovePrompt(notice, notice->heightForWidth(width() - 2 * Margin));
+}
+
+void ConfirmDialog::insertAbovePrompt(QWidget *widget, int itsHeight, Qt::Alignment alignment)
+{
     auto *const column = qobject_cast<QBoxLayout *>(layout());
-    column->insertWidget(column->indexOf(findChild<QLabel *>(u"dialogPrompt"_s)), notice);
-    setFixedHeight(height() + notice->heightForWidth(width() - 2 * Margin) + column->spacing());
+    column->insertWidget(column->indexOf(findChild<QLabel *>(u"dialogPrompt"_s)), widget, 0, alignment);
+    setFixedHeight(height() + itsHeight + column->spacing());
+}
+
+// A check box does not wrap its text; its lines are those of the text.
+void ConfirmDialog::offerWholeDrive(qint64 bytesLeft)
+{
+    m_wholeDrive = new QCheckBox(
+        bytesLeft < 0
+            ? tr("Erase the whole disk\n(otherwise all outside its volumes stays)")
+            : tr("Erase the whole disk\n(otherwise %1 outside its volumes stay)").arg(formatSize(bytesLeft)));
+    m_wholeDrive->setObjectName(u"wholeDriveBox"_s);
+    m_wholeDrive->setToolTip(plainTip(tr("Every sector is overwritten, the partition table too. All volumes "
+                                         "of the disk are unmounted before.")));
+    insertAbovePrompt(m_wholeDrive, m_wholeDrive->sizeHint().height(), Qt::AlignHCenter);
+}
+
+bool ConfirmDialog::wantsWholeDrive() const
+{
+    return m_wholeDrive != nullptr && m_wholeDrive->isChecked();
 }
 
 void ConfirmDialog::addInput(QBoxLayout *layout)

@@ -88,6 +88,8 @@ private:
     WipeTask &newTask(OperationType type);
     void takeDiskSelection();
     bool hasObstacles();
+    bool isConfirmed();
+    bool releaseVolumes();
     QString erasedVolumesText() const;
     void setMenuEnabled(bool enabled);
 

@@ -40,6 +40,8 @@ void MainWindow::onWipeCompleted(bool success)
         exportCertificate(report, outcome);
 
     CompleteDialog dialog(success, keepsReport ? report.certificateId : QString(), this, outcome);
+    if (!success)
+        dialog.addLeftUnmounted(m_engine->dismountedVolumes());
     if (keepsReport) {
         connect(&dialog, &CompleteDialog::viewCertificateClicked, this,
                 [this, isStored, &report, &outcome] { viewCertificate(isStored, report, outcome); });

@@ -1,6 +1,7 @@
 // From the home page to the start of a job.
 #include "ui/mainwindow/mainwindow.h"
 
+#include "engine/foreseeable.h"
 #include "engine/wipeengine.h"
 #include "model/displaytext.h"
 #include "model/wipetask.h"
@@ -12,6 +13,8 @@
 #include "ui/files/fileselectpage.h"
 #include "ui/methods/methodselectpage.h"
 #include "ui/progress/progresspage.h"
+
+#include <QGuiApplication>
 
 // The task before is deleted here, not when its job ends: the engine has its report until then.
 WipeTask &MainWindow::newTask(OperationType type)
@@ -136,19 +139,47 @@ QString MainWindow::erasedVolumesText() const
         .arg(displayText(m_currentTask->partition().driveLetter), names.join(QStringLiteral(", ")));
 }
 
+bool MainWindow::isConfirmed()
+{
+    // What an earlier confirmation has left.
+    m_currentTask->setWholeDrive(false);
+    ConfirmDialog confirmation(this);
+    if (const QString volumes = erasedVolumesText(); !volumes.isEmpty())
+        confirmation.addNotice(volumes);
+    if (m_currentTask->operationType() == DiskWipe) {
+        const QList<Shortfall> foreseen = foreseeableShortfalls(*m_currentTask).shortfalls();
+        if (!foreseen.isEmpty())
+            confirmation.offerWholeDrive(foreseen.constFirst().bytes);
+    }
+    if (confirmation.exec() != QDialog::Accepted)
+        return false;
+    m_currentTask->setWholeDrive(confirmation.wantsWholeDrive());
+    return true;
+}
+
+// The system writes out what it holds back for a volume, which takes its time.
+bool MainWindow::releaseVolumes()
+{
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    const QString problem = m_engine->releaseVolumes();
+    QGuiApplication::restoreOverrideCursor();
+    if (problem.isEmpty())
+        return true;
+    Prompts::current().warning(this, tr("This Disk Cannot Be Erased"), problem);
+    return false;
+}
+
 void MainWindow::onStartWipe()
 {
     if (!m_currentTask || hasObstacles())
         return;
     const WipeMethod method = m_methodPage->selectedMethod();
     m_currentTask->setMethod(method);
-    ConfirmDialog confirmation(this);
-    if (const QString volumes = erasedVolumesText(); !volumes.isEmpty())
-        confirmation.addNotice(volumes);
-    if (confirmation.exec() != QDialog::Accepted)
+    if (!isConfirmed())
         return;
-
     m_engine->setTask(m_currentTask);
+    if (!releaseVolumes())
+        return;
     m_progressPage->reset();
     m_progressPage->setMethod(method.name);
     m_progressPage->setTotalPasses(method.passCount());

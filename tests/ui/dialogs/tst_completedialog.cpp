@@ -38,6 +38,7 @@ private slots:
     void aPartialJobIsToldBelowTheMessage();
     void everythingElseHasNoFurtherLine();
     void manyShortfallsFitIntoTheDialog();
+    void whatIsLeftUnmountedIsTold();
 
 private:
     static QString textOf(const QWidget &dialog, const QString &name)
@@ -246,6 +247,26 @@ void tst_CompleteDialog::manyShortfallsFitIntoTheDialog()
     QVERIFY(label->geometry().bottom() < box->geometry().top());
     QVERIFY(box->geometry().bottom() < button(dialog, u"Done"_s)->geometry().top());
     QVERIFY(dialog.rect().contains(button(dialog, u"Done"_s)->geometry()));
+}
+
+void tst_CompleteDialog::whatIsLeftUnmountedIsTold()
+{
+    CompleteDialog dialog(false, QString());
+    dialog.addLeftUnmounted({});
+    QVERIFY(!dialog.findChild<QLabel *>(u"leftUnmountedLabel"_s));
+    dialog.addLeftUnmounted({u"/media/a"_s, u"/media/b\n"_s});
+    const auto *const label = dialog.findChild<QLabel *>(u"leftUnmountedLabel"_s);
+    QVERIFY(label->text().startsWith(u"Left unmounted: /media/a, /media/b"_s));
+    QVERIFY(!label->text().contains(u'\n'));
+    QVERIFY(label->toolTip().contains(u"/media/a, /media/b"_s));
+    const CompleteDialog given(false, QString());
+    for (const QString &name : {u"dialogTitle"_s, u"dialogMessage"_s})
+        QCOMPARE(textOf(dialog, name), textOf(given, name));
+    QCOMPARE(dialog.size(), given.size());
+    dialog.show();
+    QVERIFY(label->height() >= label->heightForWidth(label->width()));
+    QVERIFY(label->geometry().bottom() < button(dialog, u"Close"_s)->geometry().top());
+    QVERIFY(label->geometry().top() > dialog.findChild<QLabel *>(u"dialogMessage"_s)->geometry().bottom());
 }
 
 QUORVEX_SUITE(tst_CompleteDialog, QApplication)

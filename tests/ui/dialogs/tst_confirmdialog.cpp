@@ -2,6 +2,7 @@
 #include "ui/dialogs/confirmdialog.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QClipboard>
 #include <QDialog>
 #include <QLabel>
@@ -51,6 +52,9 @@ private slots:
     void cancelRejects();
     void escapeRejects();
     void enterAcceptsOnlyAfterTheWord();
+    void offersTheWholeDrive_data();
+    void offersTheWholeDrive();
+    void theWholeDriveIsChosenByItsBox();
 
 private:
     static QLineEdit *input(const QWidget &dialog) { return dialog.findChild<QLineEdit *>(); }
@@ -257,6 +261,58 @@ void tst_ConfirmDialog::enterAcceptsOnlyAfterTheWord()
     QTest::keyClick(input(dialog), Qt::Key_Return);
     QCOMPARE(accepted.count(), 1);
     QCOMPARE(rejected.count(), 0);
+}
+
+void tst_ConfirmDialog::offersTheWholeDrive_data()
+{
+    QTest::addColumn<qint64>("bytes");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("known") << qint64(8 << 20)
+                           << u"Erase the whole disk\n(otherwise 8.00 MB outside its volumes stay)"_s;
+    QTest::newRow("unknown") << qint64(-1)
+                             << u"Erase the whole disk\n(otherwise all outside its volumes stays)"_s;
+}
+
+void tst_ConfirmDialog::offersTheWholeDrive()
+{
+    QFETCH(const qint64, bytes);
+    QFETCH(const QString, text);
+    ConfirmDialog dialog(nullptr);
+    dialog.offerWholeDrive(bytes);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    const auto *const box = dialog.findChild<QCheckBox *>(u"wholeDriveBox"_s);
+    QCOMPARE(box->text(), text);
+    QVERIFY(!box->isChecked());
+    QVERIFY(!box->toolTip().isEmpty());
+    // Nothing is cut, and the given texts stand as ever.
+    QVERIFY(box->height() >= box->sizeHint().height());
+    QVERIFY(box->width() >= box->sizeHint().width());
+    const ConfirmDialog given(nullptr);
+    QCOMPARE(dialog.width(), given.width());
+    QVERIFY(dialog.height() >= given.height() + box->height());
+    for (const QString &name : {u"dialogTitle"_s, u"dialogMessage"_s, u"dialogPrompt"_s}) {
+        const auto *const label = dialog.findChild<QLabel *>(name);
+        QCOMPARE(label->text(), given.findChild<QLabel *>(name)->text());
+        QVERIFY2(label->height() >= label->heightForWidth(label->width()), qPrintable(name));
+    }
+    QVERIFY(box->geometry().top() > dialog.findChild<QLabel *>(u"dialogMessage"_s)->geometry().bottom());
+    QVERIFY(box->geometry().bottom() < dialog.findChild<QLabel *>(u"dialogPrompt"_s)->geometry().top());
+    QVERIFY(confirmButton(dialog)->geometry().bottom() < dialog.height() - 29);
+}
+
+void tst_ConfirmDialog::theWholeDriveIsChosenByItsBox()
+{
+    ConfirmDialog dialog(nullptr);
+    QVERIFY(!dialog.findChild<QCheckBox *>());
+    QVERIFY(!dialog.wantsWholeDrive());
+    dialog.offerWholeDrive(1);
+    QVERIFY(!dialog.wantsWholeDrive());
+    dialog.findChild<QCheckBox *>()->click();
+    QVERIFY(dialog.wantsWholeDrive());
+    QVERIFY(!confirmButton(dialog)->isEnabled());
+    dialog.findChild<QCheckBox *>()->click();
+    QVERIFY(!dialog.wantsWholeDrive());
 }
 
 QUORVEX_SUITE(tst_ConfirmDialog, QApplication)

@@ -1,63 +1,14 @@
 #include "support/suite.h"
-#include "ui/mainwindow/windowfixture.h"
-
-#include "support/fakedevices.h"
-#include "support/memorydevices.h"
 #include "ui/dialogs/confirmdialog.h"
+#include "ui/mainwindow/drivewindow.h"
 
+#include <QLabel>
 #include <QTreeWidget>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-constexpr qint64 Size = 4 << 20;
-
-// Drives in memory, and no files but those of the program.
-class DriveMachine : public platform::Platform
-{
-public:
-    MemoryDevices memory;
-    FakeSession fakeSession;
-
-    DriveMachine()
-    {
-        for (const int number : {0, 1})
-            memory.addDrive(MemoryDrive(number, Size));
-    }
-    platform::Files &files() override { return m_files->files(); }
-    platform::Folders &folders() override { return m_files->folders(); }
-    platform::Devices &devices() override { return memory; }
-    platform::Session &session() override { return fakeSession; }
-
-private:
-    std::unique_ptr<platform::Platform> m_files = platform::createPlatform({{}, true});
-};
-
-struct DriveWindow
-{
-    std::unique_ptr<DriveMachine> owned = std::make_unique<DriveMachine>();
-    DriveMachine &machine = *owned;
-    MemoryDevices &memory = machine.memory;
-
-    MemoryDriveVolume mirror()
-    {
-        MemoryDriveVolume volume;
-        volume.name = u"M:"_s;
-        volume.extents = {{0, 0, Size / 2}, {1, 0, Size / 2}};
-        return volume;
-    }
-};
-
-QTreeWidgetItem *diskRow(const WindowFixture &fixture, int index)
-{
-    return fixture.page()->findChild<QTreeWidget *>(u"diskTree"_s)->topLevelItem(index);
-}
-
-void choose(const WindowFixture &fixture, QTreeWidgetItem *row)
-{
-    row->treeWidget()->setCurrentItem(row);
-    QVERIFY(fixture.click(u"Next →"_s));
-}
+constexpr qint64 Size = DriveMachine::Size;
 } // namespace
 
 // What the user is told before a drive is confirmed.

@@ -1,0 +1,49 @@
+#include "platform/linux/linuxreleasedvolumes.h"
+
+#include <QDebug>
+#include <QSet>
+
+#include <linux/fs.h>
+#include <sys/ioctl.h>
+
+namespace platform {
+
+LinuxReleasedVolumes::~LinuxReleasedVolumes()
+{
+    if (!m_isSettled)
+        restore();
+}
+
+// One for each volume, however often it was mounted.
+QStringList LinuxReleasedVolumes::names() const
+{
+    QStringList names;
+    QSet<QByteArray> seen;
+    for (const VolumeTable::Mount &mount : m_mounts.mounts()) {
+        if (seen.contains(mount.device))
+            continue;
+        seen.insert(mount.device);
+        names.append(mount.entry.mountPoint);
+    }
+    return names;
+}
+
+QStringList LinuxReleasedVolumes::restore()
+{
+    m_isSettled = true;
+    m_drive = {};
+    return m_mounts.putUp();
+}
+
+Status LinuxReleasedVolumes::keep()
+{
+    m_isSettled = true;
+    // Partitions that are gone would still be offered for mounting. A drive without partitions refuses, and
+    // nothing depends on it.
+    if (m_drive.isValid() && ::ioctl(m_drive.get(), BLKRRPART) != 0)
+        qDebug() << "[Mounts] The partition table was not read anew";
+    m_drive = {};
+    return {};
+}
+
+} // namespace platform

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "platform/linux/filedescriptor.h"
+#include "platform/linux/mountstack.h"
+#include "platform/releasedvolumes.h"
+
+namespace platform {
+
+// Mounts that were taken down, and the drive below them, opened with O_EXCL so that nothing on it can be
+// mounted meanwhile.
+class LinuxReleasedVolumes : public ReleasedVolumes
+{
+public:
+    // The drive's descriptor comes once the mounts are down.
+    explicit LinuxReleasedVolumes(MountStack mounts)
+        : m_mounts(std::move(mounts))
+    {}
+    ~LinuxReleasedVolumes() override;
+
+    MountStack &mounts() { return m_mounts; }
+    void setDrive(FileDescriptor drive) { m_drive = std::move(drive); }
+
+    QStringList names() const override;
+    bool holds(const QString &) const override { return false; } // nothing is in sight that is not mounted
+    QStringList restore() override;
+    Status keep() override;
+
+private:
+    MountStack m_mounts;
+    FileDescriptor m_drive;
+    bool m_isSettled = false;
+};
+
+} // namespace platform

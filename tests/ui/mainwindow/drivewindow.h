@@ -1,0 +1,44 @@
+#pragma once
+
+#include "platform/platform.h"
+#include "support/fakedevices.h"
+#include "support/memorydevices.h"
+#include "ui/mainwindow/windowfixture.h"
+
+#include <memory>
+
+QT_FORWARD_DECLARE_CLASS(QTreeWidgetItem)
+
+// Drives 0 and 1 in memory, and no files but those of the program.
+class DriveMachine : public platform::Platform
+{
+public:
+    static constexpr qint64 Size = 4 << 20;
+
+    MemoryDevices memory;
+    FakeSession fakeSession;
+
+    DriveMachine();
+    platform::Files &files() override { return m_files->files(); }
+    platform::Folders &folders() override { return m_files->folders(); }
+    platform::Devices &devices() override { return memory; }
+    platform::Session &session() override { return fakeSession; }
+
+private:
+    std::unique_ptr<platform::Platform> m_files = platform::createPlatform({{}, true});
+};
+
+// The same before a window has it: WindowFixture(std::move(drives.owned)).
+struct DriveWindow
+{
+    std::unique_ptr<DriveMachine> owned = std::make_unique<DriveMachine>();
+    DriveMachine &machine = *owned;
+    MemoryDevices &memory = machine.memory;
+
+    // A volume on both drives.
+    static MemoryDriveVolume mirror();
+};
+
+QTreeWidgetItem *diskRow(const WindowFixture &fixture, int index);
+// On the disk page; goes on to the methods.
+void choose(const WindowFixture &fixture, QTreeWidgetItem *row);

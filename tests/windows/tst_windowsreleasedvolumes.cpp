@@ -1,0 +1,300 @@
+#include "platform/windows/windowsdevices.h"
+#include "support/suite.h"
+#include "support/testfiles.h"
+#include "windows/scriptedmachine.h"
+
+#include <QCoreApplication>
+#include <QStringList>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace platform;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr DWORD Lock = 0x00090018;
+constexpr DWORD Unlock = 0x0009001C;
+constexpr DWORD Dismount = 0x00090020;
+constexpr DWORD GetAttributes = 0x000700F0;
+constexpr DWORD SetAttributes = 0x0007C0F4;
+constexpr DWORD LookAnew = 0x00070140;
+
+// Drive 3 with the volumes E: and F: on it.
+class Machine : public ScriptedMachine
+{
+public:
+    const QString second = QStringLiteral(R"(\\.\F:)");
+
+    Machine()
+    {
+        faults.addDevice(second, writeFile(m_files.filePath(u"second.img"_s), QByteArray(VolumeSize, '.')),
+                         VolumeSize);
+        script(second, IOCTL_DISK_GET_DRIVE_GEOMETRY, replies::geometry(Sector));
+        script(second, IOCTL_DISK_GET_LENGTH_INFO, replies::length(VolumeSize));
+        for (const DWORD code : {Lock, Unlock, Dismount})
+            script(second, code, {});
+        placeSecond(Number);
+        setOffline(false);
+        script(drive, SetAttributes, {});
+        script(drive, LookAnew, {});
+    }
+    void placeSecond(qint32 disk)
+    {
+        script(second, IOCTL_VOLUME_GET_VOLUME_DISK_EXTENTS,
+               replies::extentsHeader(1) + replies::extent(disk, 1048576 + VolumeSize, VolumeSize));
+    }
+    void setOffline(bool offline)
+    {
+        script(drive, GetAttributes,
+               replies::number<quint32>(16) + replies::number<quint32>(0) +
+                   replies::number<quint64>(offline ? 3 : 2));
+    }
+    // What was done to the devices, in order, questions left out.
+    QStringList deeds() const
+    {
+        QStringList all;
+        for (const Win32Faults::Control &control : faults.controls()) {
+            const QString what = nameOf(control);
+            if (!what.isEmpty())
+                all.append(what + u' ' + control.path.mid(4));
+        }
+        return all;
+    }
+
+private:
+    static QString nameOf(const Win32Faults::Control &control)
+    {
+        switch (control.code) {
+        case Lock:
+            return u"lock"_s;
+        case Unlock:
+            return u"unlock"_s;
+        case Dismount:
+            return u"dismount"_s;
+        case LookAnew:
+            return u"look anew"_s;
+        case SetAttributes:
+            return control.input.size() > 8 && control.input.at(8) == 1 ? u"offline"_s : u"online"_s;
+        default:
+            return {};
+        }
+    }
+
+    QTemporaryDir m_files;
+};
+
+VolumeRelease release(const Machine &machine)
+{
+    return WindowsDevices().releaseVolumes(machine.identity);
+}
+
+} // namespace
+
+// Drives of Windows, taken offline and online again.
+class tst_WindowsReleasedVolumes : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void volumesAreLockedBeforeTheDriveGoesOffline();
+    void theRequestIsThatOfTheSystem();
+    void theDriveComesOnlineAgain_data();
+    void theDriveComesOnlineAgain();
+    void aDriveThatIsOfflineStaysSo();
+    void aVolumeInUseIsInTheWay();
+    void aVolumeElsewhereIsNotTouched();
+    void aVolumeElsewhereTooIsInTheWay();
+    void anotherDriveIsNotReleased();
+    void aRefusedDriveIsLeftAsItWas();
+    void mediaThatCannotGoOfflineStayLocked_data();
+    void mediaThatCannotGoOfflineStayLocked();
+    void aVolumeThatStaysMountedIsInTheWay();
+    void aDriveThatStaysOfflineIsTold();
+};
+
+void tst_WindowsReleasedVolumes::volumesAreLockedBeforeTheDriveGoesOffline()
+{
+    Machine machine;
+    const VolumeRelease released = release(machine);
+    QVERIFY2(released.volumes, qPrintable(released.failure.diagnostic()));
+    QCOMPARE(machine.deeds(), (QStringList{u"lock E:"_s, u"lock F:"_s, u"offline PhysicalDrive3"_s}));
+    QCOMPARE(released.volumes->names(), (QStringList{u"E:"_s, u"F:"_s}));
+    // With the drive they have gone.
+    QVERIFY(!released.volumes->holds(u"E:"_s));
+    QCOMPARE(machine.faults.openPaths(), QStringList{machine.drive});
+    QVERIFY(machine.isUntouched());
+}
+
+void tst_WindowsReleasedVolumes::theRequestIsThatOfTheSystem()
+{
+    Machine machine;
+    release(machine).volumes.reset();
+    QList<QByteArray> inputs;
+    for (const Win32Faults::Control &control : machine.faults.controls()) {
+        if (control.code == SetAttributes)
+            inputs.append(control.input);
+    }
+    const QByteArray beginning = replies::number<quint32>(40) + QByteArray(4, '\0'); // not for good
+    const QByteArray end = replies::number<quint64>(1) + QByteArray(16, '\0');
+    QCOMPARE(inputs, (QList<QByteArray>{beginning + replies::number<quint64>(1) + end,
+                                        beginning + replies::number<quint64>(0) + end}));
+    for (const Win32Faults::Opening &opening : machine.faults.openings()) {
+        if (opening.path == machine.drive && opening.access != 0)
+            QCOMPARE(opening.access, DWORD(0xC0000000));
+    }
+}
+
+void tst_WindowsReleasedVolumes::theDriveComesOnlineAgain_data()
+{
+    QTest::addColumn<QString>("end");
+    QTest::newRow("restored") << u"restore"_s;
+    QTest::newRow("kept") << u"keep"_s;
+    QTest::newRow("destroyed") << u"destroy"_s;
+}
+
+void tst_WindowsReleasedVolumes::theDriveComesOnlineAgain()
+{
+    QFETCH(const QString, end);
+    Machine machine;
+    VolumeRelease released = release(machine);
+    QVERIFY(released.volumes);
+    machine.faults.forget();
+    if (end == u"restore"_s)
+        QCOMPARE(released.volumes->restore(), QStringList());
+    else if (end == u"keep"_s)
+        QVERIFY(released.volumes->keep().ok());
+    released.volumes.reset();
+    QCOMPARE(machine.deeds(), (QStringList{u"online PhysicalDrive3"_s, u"look anew PhysicalDrive3"_s}));
+    QCOMPARE(machine.faults.openHandles(), 0);
+}
+
+void tst_WindowsReleasedVolumes::aDriveThatIsOfflineStaysSo()
+{
+    Machine machine;
+    machine.setOffline(true);
+    machine.faults.removeDevice(machine.volume);
+    machine.faults.removeDevice(machine.second);
+    VolumeRelease released = release(machine);
+    QVERIFY(released.volumes);
+    QVERIFY(released.volumes->keep().ok());
+    QCOMPARE(machine.deeds(), QStringList{u"look anew PhysicalDrive3"_s});
+}
+
+void tst_WindowsReleasedVolumes::aVolumeInUseIsInTheWay()
+{
+    Machine machine;
+    machine.refuse(machine.second, Lock, ERROR_ACCESS_DENIED);
+    const VolumeRelease released = release(machine);
+    QVERIFY(!released.volumes);
+    QCOMPARE(released.failure.code, quint32(SharingViolation));
+    QCOMPARE(released.failure.native, int(ERROR_ACCESS_DENIED));
+    QCOMPARE(released.volume, u"F:"_s);
+    const QStringList deeds = machine.deeds();
+    QVERIFY(!deeds.contains(u"offline PhysicalDrive3"_s));
+    QCOMPARE(deeds.count(u"lock E:"_s), 1);
+    QCOMPARE(deeds.count(u"lock F:"_s), 10);
+    QVERIFY(deeds.contains(u"unlock E:"_s));
+    QCOMPARE(machine.faults.openHandles(), 0);
+}
+
+void tst_WindowsReleasedVolumes::aVolumeElsewhereIsNotTouched()
+{
+    Machine machine;
+    machine.placeSecond(1);
+    const VolumeRelease released = release(machine);
+    QVERIFY(released.volumes);
+    QCOMPARE(released.volumes->names(), QStringList{u"E:"_s});
+    QVERIFY(!machine.deeds().contains(u"lock F:"_s));
+}
+
+void tst_WindowsReleasedVolumes::aVolumeElsewhereTooIsInTheWay()
+{
+    Machine machine;
+    // It begins on the other drive.
+    machine.script(machine.second, IOCTL_VOLUME_GET_VOLUME_DISK_EXTENTS,
+                   replies::extentsHeader(2) + replies::extent(1, 0, 4096) + replies::extent(3, 0, 4096));
+    const VolumeRelease released = release(machine);
+    QVERIFY(!released.volumes);
+    QCOMPARE(released.failure.code, quint32(NotReady));
+    QCOMPARE(released.volume, u"F:"_s);
+    QVERIFY(!machine.deeds().contains(u"offline PhysicalDrive3"_s));
+}
+
+void tst_WindowsReleasedVolumes::anotherDriveIsNotReleased()
+{
+    Machine machine;
+    machine.describe("ANOTHER");
+    const VolumeRelease released = release(machine);
+    QVERIFY(!released.volumes);
+    QCOMPARE(released.failure.code, quint32(NotReady));
+    QCOMPARE(machine.deeds(), QStringList());
+}
+
+void tst_WindowsReleasedVolumes::aRefusedDriveIsLeftAsItWas()
+{
+    Machine machine;
+    machine.refuse(machine.drive, SetAttributes, ERROR_ACCESS_DENIED);
+    const VolumeRelease released = release(machine);
+    QVERIFY(!released.volumes);
+    QCOMPARE(released.failure.code, quint32(AccessDenied));
+    QCOMPARE(released.volume, QString());
+    QCOMPARE(machine.deeds(), (QStringList{u"lock E:"_s, u"lock F:"_s, u"offline PhysicalDrive3"_s,
+                                           u"unlock E:"_s, u"unlock F:"_s, u"look anew PhysicalDrive3"_s}));
+    QCOMPARE(machine.faults.openHandles(), 0);
+}
+
+void tst_WindowsReleasedVolumes::mediaThatCannotGoOfflineStayLocked_data()
+{
+    QTest::addColumn<quint32>("error");
+    QTest::newRow("not supported") << quint32(ERROR_NOT_SUPPORTED);
+    QTest::newRow("no such function") << quint32(ERROR_INVALID_FUNCTION);
+}
+
+void tst_WindowsReleasedVolumes::mediaThatCannotGoOfflineStayLocked()
+{
+    QFETCH(const quint32, error);
+    Machine machine;
+    machine.refuse(machine.drive, GetAttributes, error);
+    machine.refuse(machine.drive, SetAttributes, error);
+    VolumeRelease released = release(machine);
+    QVERIFY(released.volumes);
+    QCOMPARE(machine.deeds(), (QStringList{u"lock E:"_s, u"lock F:"_s, u"offline PhysicalDrive3"_s,
+                                           u"dismount E:"_s, u"dismount F:"_s}));
+    QVERIFY(released.volumes->holds(u"E:"_s) && released.volumes->holds(u"F:"_s));
+    QVERIFY(!released.volumes->holds(u"G:"_s));
+    machine.faults.forget();
+    QVERIFY(released.volumes->keep().ok());
+    QCOMPARE(machine.deeds(), (QStringList{u"unlock E:"_s, u"unlock F:"_s, u"look anew PhysicalDrive3"_s}));
+    QCOMPARE(machine.faults.openHandles(), 0);
+}
+
+void tst_WindowsReleasedVolumes::aVolumeThatStaysMountedIsInTheWay()
+{
+    Machine machine;
+    machine.refuse(machine.drive, SetAttributes, ERROR_NOT_SUPPORTED);
+    machine.refuse(machine.second, Dismount, ERROR_ACCESS_DENIED);
+    const VolumeRelease released = release(machine);
+    QVERIFY(!released.volumes);
+    QCOMPARE(released.failure.code, quint32(AccessDenied));
+    QCOMPARE(released.volume, u"F:"_s);
+    QCOMPARE(machine.faults.openHandles(), 0);
+}
+
+void tst_WindowsReleasedVolumes::aDriveThatStaysOfflineIsTold()
+{
+    for (const bool isKept : {true, false}) {
+        Machine machine;
+        VolumeRelease released = release(machine);
+        QVERIFY(released.volumes);
+        machine.refuse(machine.drive, SetAttributes, ERROR_GEN_FAILURE);
+        if (isKept)
+            QCOMPARE(released.volumes->keep().code, quint32(GeneralFailure));
+        else
+            QCOMPARE(released.volumes->restore(), (QStringList{u"E:"_s, u"F:"_s}));
+        QCOMPARE(machine.faults.openHandles(), 0);
+    }
+}
+
+QUORVEX_SUITE(tst_WindowsReleasedVolumes, QCoreApplication)
+#include "tst_windowsreleasedvolumes.moc"
