@@ -49,7 +49,7 @@ Outcome<QString> findFile(const QString &given)
     if (isDeviceName(path))
         return noFile(shown);
     const auto info = platform::Platform::current().files().info(path);
-    if (info.code() == platform::FileNotFound || info.code() == platform::PathNotFound)
+    if (isAbsent(info.status()))
         return refused(WipeTask::tr("File not found: %1").arg(shown));
     if (!info)
         return refused(Cli::tr("%1 cannot be looked at, error %2").arg(shown).arg(info.code()));

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <new>
 #include <utility>
 
 namespace {
@@ -35,6 +36,18 @@ void BaseWipeWorker::setClock(Clock clock)
 {
     m_clock = std::move(clock);
     m_lastSpeedTime = m_clock();
+}
+
+void BaseWipeWorker::runJob()
+{
+    bool success = false;
+    try {
+        success = run();
+    } catch (const std::bad_alloc &) {
+        emit errorOccurred(tr("内存分配失败"));
+    }
+    complete();
+    emit finished(success);
 }
 
 bool BaseWipeWorker::checkPauseStop()

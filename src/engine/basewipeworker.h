@@ -52,6 +52,16 @@ signals:
 protected:
     enum LogLevel { Information = 0, Warning = 1, Error = 2 };
 
+    // What process() does: run(), then complete() whichever way that ended, then finished(). A job that ends
+    // for want of memory has failed.
+    void runJob();
+    // The job; its result is what finished() carries.
+    virtual bool run() = 0;
+    // Lets go of what the job held, and writes what it did into the task's report.
+    virtual void complete() = 0;
+
+    void log(const QString &message, LogLevel level = Information) { emit logMessage(message, level); }
+
     WipeTask &task() const { return *m_task; }
     bool isStopRequested() const { return m_stopRequested.load(); }
 

@@ -9,7 +9,6 @@
 #include <QDebug>
 
 #include <algorithm>
-#include <new>
 
 using namespace Qt::StringLiterals;
 
@@ -22,17 +21,15 @@ DiskWipeWorker::~DiskWipeWorker() = default;
 
 void DiskWipeWorker::process()
 {
-    bool success = false;
-    try {
-        success = run();
-    } catch (const std::bad_alloc &) {
-        emit errorOccurred(tr("内存分配失败"));
-    }
+    runJob();
+}
+
+void DiskWipeWorker::complete()
+{
     closeDevices();
     task().setDismountedVolumes(m_medium.volumes.dismounted());
     settleReleasedVolumes();
     fillReport();
-    emit finished(success);
 }
 
 bool DiskWipeWorker::run()
@@ -284,7 +281,7 @@ void DiskWipeWorker::noteShortfalls(quint64 wipedSectors)
 
 void DiskWipeWorker::note(const QString &message, NoteLevel level)
 {
-    emit logMessage(message, level);
+    log(message, static_cast<LogLevel>(level));
 }
 
 void DiskWipeWorker::diagnose(const platform::Status &failure)

@@ -41,7 +41,8 @@ public slots:
     void process() override;
 
 private:
-    bool run();
+    bool run() override;
+    void complete() override;
     bool cancelled();
     void noteTarget();
     bool lockVolumes();

@@ -1,6 +1,5 @@
 #include "engine/filecollector.h"
 
-#include "engine/filepresence.h"
 #include "platform/files.h"
 #include "platform/folders.h"
 #include "platform/platform.h"

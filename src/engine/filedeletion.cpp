@@ -1,6 +1,5 @@
 #include "engine/filedeletion.h"
 
-#include "engine/filepresence.h"
 #include "engine/filetrace.h"
 #include "platform/files.h"
 #include "platform/platform.h"

@@ -1,7 +1,6 @@
 #include "engine/filewipeworker.h"
 
 #include "engine/filedeletion.h"
-#include "engine/filepresence.h"
 #include "engine/filetrace.h"
 #include "engine/foreseeable.h"
 #include "model/displaytext.h"
@@ -83,20 +82,22 @@ FileWipeWorker::~FileWipeWorker()
 
 void FileWipeWorker::process()
 {
-    bool success = false;
-    try {
-        success = run();
-    } catch (const std::bad_alloc &) {
-        m_list = {};
-        emit errorOccurred(tr("内存分配失败"));
-    }
-    reportVerification();
-    emit finished(success);
+    runJob();
 }
 
 bool FileWipeWorker::run()
 {
-    emit logMessage(tr("正在扫描目标文件..."), Information);
+    try {
+        return shred();
+    } catch (const std::bad_alloc &) {
+        m_list = {}; // where most of the memory is
+        throw;
+    }
+}
+
+bool FileWipeWorker::shred()
+{
+    log(tr("正在扫描目标文件..."));
     m_list = collectFiles(task().files());
     if (isStopRequested())
         return concludeJob(false);
@@ -120,15 +121,15 @@ bool FileWipeWorker::run()
 bool FileWipeWorker::concludeJob(bool success)
 {
     if (isStopRequested()) {
-        emit logMessage(tr("擦除任务已由用户取消"), Warning);
+        log(tr("擦除任务已由用户取消"), Warning);
         return false;
     }
     const int failed = m_failedCount + m_list.unreadable;
     if (success && failed == 0) {
-        emit logMessage(tr("所有文件擦除成功！共处理 %1 个文件").arg(m_processedCount), Information);
+        log(tr("所有文件擦除成功！共处理 %1 个文件").arg(m_processedCount));
         return true;
     }
-    emit logMessage(tr("擦除完成，但有 %1 个文件失败。数据可能不安全！").arg(failed), Error);
+    log(tr("擦除完成，但有 %1 个文件失败。数据可能不安全！").arg(failed), Error);
     return false;
 }
 
@@ -140,7 +141,7 @@ FileList FileWipeWorker::collectFiles(const QStringList &targets)
                                    const Status &status) {
         const QString text = what == FileCollector::Unreadable::Folder ? tr("无法读取文件夹: %1，错误码: %2")
                                                                        : tr("无法访问: %1，错误码: %2");
-        emit logMessage(text.arg(displayText(path), QString::number(status.code)), Error);
+        log(text.arg(displayText(path), QString::number(status.code)), Error);
         traceFile(path, status);
     };
     return FileCollector({.goOn = [this] { return checkPauseStop(); }, .unreadable = unreadable})
@@ -180,8 +181,7 @@ void FileWipeWorker::measureFile(const QString &path, const platform::FileInfo &
     }
     if (info.linkCount > 1) {
         const qint64 others = info.linkCount - 1;
-        emit logMessage(tr("文件还有 %1 个其他硬链接: %2").arg(QString::number(others), displayText(path)),
-                        Warning);
+        log(tr("文件还有 %1 个其他硬链接: %2").arg(QString::number(others), displayText(path)), Warning);
         task().noteShortfall({ShortfallKind::OtherNames, path, -1, others});
     }
 }
@@ -193,9 +193,8 @@ void FileWipeWorker::announceFiles()
         report.fileCount = static_cast<qint32>(m_list.files.size());
         report.totalBytes = static_cast<quint64>(m_singlePassTotal);
     });
-    emit logMessage(tr("准备擦除 %1 个文件，单遍总大小 %2")
-                        .arg(QString::number(m_list.files.size()), formatSize(m_singlePassTotal)),
-                    Information);
+    log(tr("准备擦除 %1 个文件，单遍总大小 %2")
+            .arg(QString::number(m_list.files.size()), formatSize(m_singlePassTotal)));
     if (!task().targetsAreNamed())
         return;
     for (const QString &link : linksAmong(task().files()))
@@ -209,7 +208,7 @@ bool FileWipeWorker::overwriteAll()
     m_bytesBeforePass = 0;
     // A total of 0 proves that there is nothing to overwrite only when every size was told.
     if (m_singlePassTotal <= 0 && m_isTotalCertain) {
-        emit logMessage(tr("所有文件为空，跳过数据覆写"), Information);
+        log(tr("所有文件为空，跳过数据覆写"));
         return !isStopRequested();
     }
     noteReadBack(true);
@@ -220,11 +219,11 @@ bool FileWipeWorker::overwriteAll()
         ++m_currentPass;
         emit passChanged(m_currentPass, m_totalPasses);
         if (!overwritePass(pattern)) {
-            emit logMessage(tr("第 %1/%2 遍覆写出现失败文件，失败数: %3")
-                                .arg(m_currentPass)
-                                .arg(m_totalPasses)
-                                .arg(m_failedCount),
-                            Error);
+            log(tr("第 %1/%2 遍覆写出现失败文件，失败数: %3")
+                    .arg(m_currentPass)
+                    .arg(m_totalPasses)
+                    .arg(m_failedCount),
+                Error);
             return false;
         }
     }
@@ -362,13 +361,13 @@ bool FileWipeWorker::verifyFile(const QString &path, qint64 size, const PassPatt
         return verifyBuffer(data, length, pattern);
     });
     if (outcome == FileSampling::Outcome::Different)
-        emit logMessage(tr("验证失败: %1").arg(displayText(path)), Error);
+        log(tr("验证失败: %1").arg(displayText(path)), Error);
     return outcome == FileSampling::Outcome::Passed;
 }
 
 void FileWipeWorker::noteReplaced(const QString &path)
 {
-    emit logMessage(tr("文件已被替换，保持原样: %1").arg(displayText(path)), Warning);
+    log(tr("文件已被替换，保持原样: %1").arg(displayText(path)), Warning);
     task().noteShortfall({ShortfallKind::EntryReplaced, path});
 }
 
@@ -386,13 +385,12 @@ void FileWipeWorker::notePlace(const QString &path, const platform::Result<platf
 void FileWipeWorker::logContentElsewhere()
 {
     if (m_elsewhereCount > 0)
-        emit logMessage(tr("%1 个文件的内容可能还保存在别处，未被覆写").arg(m_elsewhereCount.load()),
-                        Warning);
+        log(tr("%1 个文件的内容可能还保存在别处，未被覆写").arg(m_elsewhereCount.load()), Warning);
 }
 
 bool FileWipeWorker::deleteAll()
 {
-    emit logMessage(tr("正在执行安全删除及元数据清理..."), Information);
+    log(tr("正在执行安全删除及元数据清理..."));
     // Unknown counts as standing; what a rename took away from under its path counts as gone.
     const auto mayStand = [](const QString &path) {
         const auto info = files().info(path);
@@ -406,7 +404,7 @@ bool FileWipeWorker::deleteAll()
         const QString &path = m_list.files.at(i);
         if (isToBeDeleted(i) && !deletion.secureDeleteFile(path) && mayStand(path)) {
             ++failures;
-            emit logMessage(tr("删除失败: %1").arg(displayText(path)), Warning);
+            log(tr("删除失败: %1").arg(displayText(path)), Warning);
             task().noteShortfall({ShortfallKind::EntryNotRemoved, path});
         }
         ++m_processedCount;
@@ -451,15 +449,14 @@ void FileWipeWorker::removeFolders()
             info ? platform::Platform::current().folders().removeTree(folder) : info.status();
         if (removed || isAbsent(removed))
             continue;
-        emit logMessage(
-            tr("无法删除文件夹: %1，错误码: %2").arg(displayText(folder), QString::number(removed.code)),
+        log(tr("无法删除文件夹: %1，错误码: %2").arg(displayText(folder), QString::number(removed.code)),
             Warning);
         task().noteShortfall({ShortfallKind::EntryNotRemoved, folder});
         traceFile(folder, removed);
     }
 }
 
-void FileWipeWorker::reportVerification()
+void FileWipeWorker::complete()
 {
     const int samples = m_sampling.samplesRead();
     task().updateReport([samples](WipeReport &report) {
@@ -471,7 +468,7 @@ void FileWipeWorker::reportVerification()
 void FileWipeWorker::logOutOfMemory() noexcept
 {
     try {
-        emit logMessage(tr("内存分配失败"), Error);
+        log(tr("内存分配失败"), Error);
     } catch (const std::bad_alloc &) {
         // Only the line is lost: the file counts as failed.
         qWarning("[FileWipe] out of memory");
@@ -481,7 +478,7 @@ void FileWipeWorker::logOutOfMemory() noexcept
 // Says why a file failed; always false.
 bool FileWipeWorker::failFile(const QString &message, const QString &path, const Status &status)
 {
-    emit logMessage(message.arg(displayText(path)), Error);
+    log(message.arg(displayText(path)), Error);
     traceFile(path, status);
     return false;
 }

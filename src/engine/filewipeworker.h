@@ -32,8 +32,9 @@ public slots:
     void process() override;
 
 private:
-    // The job; its result is what finished() carries.
-    bool run();
+    bool run() override;
+    void complete() override;
+    bool shred();
     bool concludeJob(bool success);
 
     WatchedFile &watched(qsizetype index) { return m_watched[static_cast<std::size_t>(index)]; }
@@ -64,7 +65,6 @@ private:
     bool deleteAll();
     bool isToBeDeleted(qsizetype index);
     void removeFolders();
-    void reportVerification();
 
     void logOutOfMemory() noexcept;
     bool failFile(const QString &message, const QString &path, const platform::Status &status);

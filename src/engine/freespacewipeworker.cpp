@@ -2,7 +2,6 @@
 
 #include "engine/chunkpipeline.h"
 #include "engine/contentsurvey.h"
-#include "engine/filepresence.h"
 #include "engine/fillfolder.h"
 #include "model/displaytext.h"
 #include "model/formatsize.h"
@@ -20,7 +19,6 @@
 #include <array>
 #include <chrono>
 #include <limits>
-#include <new>
 
 using namespace Qt::StringLiterals;
 
@@ -54,19 +52,7 @@ FreeSpaceWipeWorker::~FreeSpaceWipeWorker()
 
 void FreeSpaceWipeWorker::process()
 {
-    bool success = false;
-    try {
-        success = run();
-    } catch (const std::bad_alloc &) {
-        emit errorOccurred(tr("内存分配失败"));
-    }
-    completeReport();
-    emit finished(success);
-}
-
-void FreeSpaceWipeWorker::log(const QString &message, LogLevel level)
-{
-    emit logMessage(message, level);
+    runJob();
 }
 
 bool FreeSpaceWipeWorker::run()
@@ -176,7 +162,7 @@ bool FreeSpaceWipeWorker::wipeVolumes(const QStringList &volumes)
     return true;
 }
 
-void FreeSpaceWipeWorker::completeReport()
+void FreeSpaceWipeWorker::complete()
 {
     task().updateReport([this](WipeReport &report) {
         report.wipedSectors = m_wipedSectors;
@@ -234,7 +220,7 @@ platform::Status FreeSpaceWipeWorker::checkMounted(const QString &root)
     while (name.size() > 1 && (name.endsWith(u'/') || name.endsWith(u'\\')))
         name.chop(1);
     const auto volume = platform::Platform::current().devices().queryVolume(name);
-    if (volume.code() == platform::FileNotFound || volume.code() == platform::PathNotFound)
+    if (isAbsent(volume.status()))
         return volume.status();
     return {}; // whatever else it refuses to tell, it is there
 }

@@ -60,13 +60,11 @@ private:
         qint64 givenBack = 0; // by others meanwhile
     };
 
-    void log(const QString &message, LogLevel level = Information);
-
-    bool run();
+    bool run() override;
+    void complete() override;
     QStringList volumesOf(const PartitionInfo &partition);
     QStringList volumesOf(const DiskInfo &disk);
     bool wipeVolumes(const QStringList &volumes);
-    void completeReport();
 
     bool wipeVolume(const QString &root);
     static platform::Status checkMounted(const QString &root);

@@ -3,6 +3,7 @@
 #include "platform/contentplace.h"
 #include "platform/status.h"
 
+#include <QByteArray>
 #include <QHashFunctions>
 #include <QString>
 
@@ -142,6 +143,12 @@ public:
     // FileHandle::contentPlace() of a regular file; for a folder what holds for new files in it, without a
     // count of bytes. Everything else is refused as by open(). Needs no permission to write.
     virtual Result<ContentPlace> contentPlace(const QString &path) = 0;
+
+    // The first bytes of a regular file, at most limit; fewer when it ends before. Read through the system's
+    // cache, for the small files that tell about others. Nothing but a regular file is read
+    // (CannotAccessFile, AccessDenied for a folder), also no pipe waited for. Windows: CreateFileW with
+    // FILE_FLAG_OPEN_REPARSE_POINT and all sharing. Linux: O_NOFOLLOW | O_NONBLOCK.
+    virtual Result<QByteArray> readBeginning(const QString &path, qint64 limit) = 0;
 
     // Makes the file writable for its owner. Success when nothing had to change, or when nothing stands
     // there. Windows: clears FILE_ATTRIBUTE_READONLY, keeps the other attributes. Linux: adds the owner's

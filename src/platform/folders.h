@@ -16,6 +16,12 @@ struct SpaceInfo
     qint64 freeBytes = 0; // all free bytes, also those that only an administrator may use
 };
 
+struct FolderOwner
+{
+    bool isOwn = false;    // belongs to the user in effect
+    bool isSticky = false; // several may put entries in it, and only remove their own
+};
+
 // Operations on folders and on the volume below them. Paths as in Files; no operation follows a link in the
 // last component. Thread-safe.
 class Folders
@@ -49,6 +55,10 @@ public:
     // FindFirstFileExW, DeleteFileW, RemoveDirectoryW. Linux: openat and unlinkat, so that a folder that is
     // swapped for a link meanwhile is not followed.
     virtual Status removeTree(const QString &folder) = 0;
+
+    // Whose the folder is. PathNotFound for a link, wherever it leads, and for everything else that is no
+    // folder. Windows: NotSupported, folders do not belong to numbered users there. Linux: lstat.
+    virtual Result<FolderOwner> owner(const QString &folder) = 0;
 
     // Hides the entry from ordinary listings.
     // Windows: SetFileAttributesW(FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM). Linux: nothing to do, a

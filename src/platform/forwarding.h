@@ -42,6 +42,10 @@ public:
         return m_target.open(path, mode);
     }
     Result<ContentPlace> contentPlace(const QString &path) override { return m_target.contentPlace(path); }
+    Result<QByteArray> readBeginning(const QString &path, qint64 limit) override
+    {
+        return m_target.readBeginning(path, limit);
+    }
     Status clearReadOnly(const QString &path) override { return m_target.clearReadOnly(path); }
     Status rename(const QString &from, const QString &to) override { return m_target.rename(from, to); }
     Status remove(const QString &path) override { return m_target.remove(path); }
@@ -63,6 +67,7 @@ public:
     Status create(const QString &folder) override { return m_target.create(folder); }
     Status removeEmpty(const QString &folder) override { return m_target.removeEmpty(folder); }
     Status removeTree(const QString &folder) override { return m_target.removeTree(folder); }
+    Result<FolderOwner> owner(const QString &folder) override { return m_target.owner(folder); }
     Status hide(const QString &path) override { return m_target.hide(path); }
     Result<SpaceInfo> space(const QString &path) override { return m_target.space(path); }
 

@@ -64,6 +64,13 @@ struct [[nodiscard]] Status
     }
 };
 
+// Whether the answer to a question about a path says that nothing stands there. Every other failure leaves
+// that open: what could not be looked at must never count as gone.
+inline bool isAbsent(const Status &status)
+{
+    return status.code == FileNotFound || status.code == PathNotFound;
+}
+
 // A value, or the Status that says why there is none. Reading the value of a failure is a programming error.
 template <typename T>
 class [[nodiscard]] Result

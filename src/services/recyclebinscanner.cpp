@@ -1,7 +1,6 @@
 #include "services/recyclebinscanner.h"
 
 #include "platform/devices.h"
-#include "platform/filebeginning.h"
 #include "platform/folders.h"
 #include "platform/platform.h"
 #include "platform/session.h"
@@ -31,7 +30,7 @@ void addDataFile(const QString &folder, const QString &name, RecycleBinItem &ite
 {
     const QString path = entryOf(folder, name);
     const auto found = platform::Platform::current().files().info(path);
-    if (found.code() == platform::FileNotFound || found.code() == platform::PathNotFound)
+    if (isAbsent(found.status()))
         return;
     item.recyclePath = path;
     if (item.fileName.isEmpty())
@@ -174,7 +173,7 @@ RecycleBinInfo RecycleBinScanner::scanRoots(const QStringList &roots, const QStr
 
 RecycleBinItem RecycleBinScanner::parseInfoFile(const QString &path)
 {
-    const auto contents = platform::readBeginning(path, LargestInfoFile);
+    const auto contents = platform::Platform::current().files().readBeginning(path, LargestInfoFile);
     if (!contents) {
         qDebug() << "  Cannot open $I file:" << path;
         return {};

@@ -1,8 +1,6 @@
 #include "services/trashscan.h"
 
-#include "platform/filebeginning.h"
 #include "platform/files.h"
-#include "platform/folderowner.h"
 #include "platform/folders.h"
 #include "platform/platform.h"
 #include "services/foldertree.h"
@@ -126,7 +124,7 @@ private:
 
     QString recordedPath(const QString &infoPath) const
     {
-        const auto contents = platform::readBeginning(infoPath, LargestTrashInfo);
+        const auto contents = platform::Platform::current().files().readBeginning(infoPath, LargestTrashInfo);
         if (!contents) {
             qDebug() << "  Cannot open .trashinfo file:" << infoPath << contents.status().diagnostic();
             return {};
@@ -146,13 +144,13 @@ private:
 
 bool isOwn(const QString &folder)
 {
-    const auto owner = platform::ownerOfFolder(folder);
+    const auto owner = platform::Platform::current().folders().owner(folder);
     return owner && owner.value().isOwn;
 }
 
 bool isSticky(const QString &folder)
 {
-    const auto owner = platform::ownerOfFolder(folder);
+    const auto owner = platform::Platform::current().folders().owner(folder);
     return owner && owner.value().isSticky;
 }
 } // namespace

@@ -1,6 +1,5 @@
 #include "services/trashsizes.h"
 
-#include "platform/filebeginning.h"
 #include "platform/filenames.h"
 #include "platform/files.h"
 #include "platform/folders.h"
@@ -52,7 +51,7 @@ platform::Result<QSet<QString>> foldersIn(const QString &folder)
                 names.insert(name);
             return true;
         });
-    if (!seen && seen.code != platform::FileNotFound)
+    if (!seen && !isAbsent(seen))
         return seen;
     return names;
 }
@@ -129,8 +128,8 @@ platform::Status pruneDirectorySizes(const QString &trashFolder)
     const QString path = entryOf(trashFolder, u"directorysizes"_s);
     const auto found = files().info(path);
     if (!found)
-        return found.code() == platform::FileNotFound ? platform::Status{} : found.status();
-    const auto record = platform::readBeginning(path, LargestRecord);
+        return isAbsent(found.status()) ? platform::Status{} : found.status();
+    const auto record = platform::Platform::current().files().readBeginning(path, LargestRecord);
     if (!record)
         return record.status();
     const auto present = foldersIn(entryOf(trashFolder, u"files"_s));

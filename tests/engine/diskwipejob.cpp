@@ -1,6 +1,7 @@
 #include "engine/diskwipejob.h"
 
 #include "platform/platform.h"
+#include "support/describeddisk.h"
 #include "support/deviceplatform.h"
 
 #include <chrono>
@@ -40,13 +41,7 @@ void DiskWipeJob::setPasses(const QList<PassPattern> &passes)
 
 void DiskWipeJob::chooseDrive(const MemoryDrive &drive)
 {
-    DiskInfo disk;
-    disk.diskNumber = drive.number;
-    disk.model = drive.model;
-    disk.serialNumber = drive.serialNumber;
-    disk.sizeBytes = drive.sizeBytes;
-    disk.bytesPerSector = drive.sectorSize;
-    task.setDisk(disk);
+    task.setDisk(describedDisk(drive));
 }
 
 bool DiskWipeJob::run(platform::Devices &devices)

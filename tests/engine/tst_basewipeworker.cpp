@@ -15,8 +15,10 @@
 #include <atomic>
 #include <chrono>
 #include <cstring>
+#include <functional>
 #include <future>
 #include <memory>
+#include <new>
 #include <thread>
 #include <utility>
 
@@ -31,7 +33,12 @@ public:
     OpenWorker()
         : BaseWipeWorker(&m_ownTask)
     {}
-    void process() override { emit finished(true); }
+    void process() override { runJob(); }
+    bool run() override { return job(); }
+    void complete() override { steps.append("complete"); }
+
+    std::function<bool()> job = [] { return true; };
+    QByteArrayList steps;
 
     using BaseWipeWorker::checkPauseStop;
     using BaseWipeWorker::drawSeed;
@@ -98,6 +105,9 @@ class tst_BaseWipeWorker : public QObject
 private slots:
     void signalsStandInTheirOrder();
     void aNewWorkerHasNothingToReport();
+
+    void everyEndOfAJobIsCompletedAndTold_data();
+    void everyEndOfAJobIsCompletedAndTold();
 
     void goesOnWhileNobodyStops();
     void afterAStopGivesUpAtOnce();
@@ -482,6 +492,32 @@ void tst_BaseWipeWorker::speedIsOfTheSystemsTimeUnlessSet()
     const double speed = speeds[0][0].toDouble();
     QVERIFY2(speed <= 2'000 * 1000.0 / 500, qPrintable(QString::number(speed)));
     QVERIFY2(speed >= 2'000 * 1000.0 / static_cast<double>(longest), qPrintable(QString::number(speed)));
+}
+
+void tst_BaseWipeWorker::everyEndOfAJobIsCompletedAndTold_data()
+{
+    QTest::addColumn<int>("end");
+    QTest::addColumn<QByteArrayList>("steps");
+    QTest::newRow("success") << 0 << QByteArrayList{"complete", "finished: true"};
+    QTest::newRow("failure") << 1 << QByteArrayList{"complete", "finished: false"};
+    QTest::newRow("no memory") << 2 << QByteArrayList{"error", "complete", "finished: false"};
+}
+
+void tst_BaseWipeWorker::everyEndOfAJobIsCompletedAndTold()
+{
+    QFETCH(int, end);
+    OpenWorker worker;
+    worker.job = [end] {
+        if (end == 2)
+            throw std::bad_alloc();
+        return end == 0;
+    };
+    connect(&worker, &BaseWipeWorker::errorOccurred, this, [&worker] { worker.steps.append("error"); });
+    connect(&worker, &BaseWipeWorker::finished, this, [&worker](bool success) {
+        worker.steps.append(success ? "finished: true" : "finished: false");
+    });
+    worker.process();
+    QTEST(worker.steps, "steps");
 }
 
 QUORVEX_SUITE(tst_BaseWipeWorker, QCoreApplication)

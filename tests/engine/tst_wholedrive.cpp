@@ -2,6 +2,7 @@
 #include "engine/foreseeable.h"
 #include "engine/wipeengine.h"
 #include "refusedthreads.h"
+#include "support/describeddisk.h"
 #include "support/deviceplatform.h"
 #include "support/interposeddevices.h"
 #include "support/suite.h"
@@ -55,11 +56,7 @@ public:
         task.setBufferSizeMB(1);
         task.setVerifySampleSize(20);
         task.setWholeDrive(true);
-        DiskInfo disk;
-        disk.diskNumber = 3;
-        disk.serialNumber = machine.memory.drive(3).serialNumber;
-        disk.sizeBytes = 4 * MiB;
-        task.setDisk(disk);
+        task.setDisk(describedDisk(machine.memory.drive(3)));
         makeEngine();
     }
 

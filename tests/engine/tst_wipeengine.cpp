@@ -1,4 +1,5 @@
 #include "engine/wipeengine.h"
+#include "support/describeddisk.h"
 #include "support/suite.h"
 #include "support/testfiles.h"
 
@@ -94,13 +95,7 @@ public:
         , m_gated(m_platform->files(), m_platform->folders(), devices, m_platform->session())
         , m_scope(gated ? static_cast<platform::Platform &>(m_gated) : *m_platform)
     {
-        const QByteArray descriptor = m_platform->devices().queryDrive(0).value()->descriptor().value();
-        disk.diskNumber = 0;
-        disk.serialNumber = platform::decodeDeviceDescriptor(descriptor).serialNumber;
-        disk.model = platform::decodeDeviceDescriptor(descriptor).productId;
-        disk.sizeBytes = size;
-        disk.bytesPerSector = 512;
-        disk.totalSectors = size / 512;
+        disk = describedDisk(m_platform->devices(), 0);
     }
 
     QByteArray content() const { return contentOf(m_image); }

@@ -135,6 +135,7 @@ private slots:
     void otherSerialNumberIsRefused();
     void otherProductIsRefused();
     void otherWorldWideNameIsRefused();
+    void anotherImageInItsPlaceIsRefused();
     void otherSizeIsRefused();
     void unknownNumberIsRefused();
     void flushSucceeds();
@@ -335,6 +336,18 @@ void tst_Devices::otherWorldWideNameIsRefused()
     DriveIdentity identity = drive.identity();
     identity.worldWideName = QStringLiteral("naa.5000c500a1b2c3d4");
     QCOMPARE(drive.devices().openDrive(identity, DriveAccess::Alone).code(), quint32(NotReady));
+}
+
+void tst_Devices::anotherImageInItsPlaceIsRefused()
+{
+    QTemporaryDir folder;
+    const QString path = writeZeros(folder.filePath(QStringLiteral("disk.img")), MiB);
+    const QString other = writeZeros(folder.filePath(QStringLiteral("other.img")), MiB);
+    const auto machine = createPlatform({{path}, true});
+    const DriveIdentity chosen = identityOf(0, *machine->devices().queryDrive(0).value());
+    QVERIFY(machine->devices().openDrive(chosen, DriveAccess::Alone).ok());
+    QVERIFY(QFile::rename(path, path + u'x') && QFile::rename(other, path));
+    QCOMPARE(machine->devices().openDrive(chosen, DriveAccess::Alone).code(), quint32(NotReady));
 }
 
 void tst_Devices::otherSizeIsRefused()

@@ -79,6 +79,13 @@ platform::Result<platform::ContentPlace> FaultyFiles::contentPlace(const QString
     return ForwardingFiles::contentPlace(path);
 }
 
+platform::Result<QByteArray> FaultyFiles::readBeginning(const QString &path, qint64 limit)
+{
+    if (fires(FaultPlan::Read, path))
+        return m_plan.status();
+    return ForwardingFiles::readBeginning(path, limit);
+}
+
 platform::Status FaultyFiles::clearReadOnly(const QString &path)
 {
     return fires(FaultPlan::ClearReadOnly, path) ? m_plan.status() : ForwardingFiles::clearReadOnly(path);
@@ -122,6 +129,13 @@ platform::Status FaultyFolders::removeEmpty(const QString &folder)
 platform::Status FaultyFolders::removeTree(const QString &folder)
 {
     return fires(FaultPlan::RemoveTree, folder) ? m_plan.status() : ForwardingFolders::removeTree(folder);
+}
+
+platform::Result<platform::FolderOwner> FaultyFolders::owner(const QString &folder)
+{
+    if (fires(FaultPlan::Info, folder))
+        return m_plan.status();
+    return ForwardingFolders::owner(folder);
 }
 
 platform::Status FaultyFolders::hide(const QString &path)

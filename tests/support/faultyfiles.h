@@ -26,6 +26,7 @@ public:
     platform::Result<std::unique_ptr<platform::FileHandle>> open(const QString &path,
                                                                  platform::OpenMode mode) override;
     platform::Result<platform::ContentPlace> contentPlace(const QString &path) override;
+    platform::Result<QByteArray> readBeginning(const QString &path, qint64 limit) override;
     platform::Status clearReadOnly(const QString &path) override;
     // It is the old name that counts.
     platform::Status rename(const QString &from, const QString &to) override;
@@ -54,6 +55,7 @@ public:
     platform::Status removeEmpty(const QString &folder) override;
     // Removes nothing when it fails.
     platform::Status removeTree(const QString &folder) override;
+    platform::Result<platform::FolderOwner> owner(const QString &folder) override;
     platform::Status hide(const QString &path) override;
     platform::Result<platform::SpaceInfo> space(const QString &path) override;
 

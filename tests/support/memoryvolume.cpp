@@ -112,6 +112,11 @@ platform::Result<platform::ContentPlace> MemoryVolume::contentPlace(const QStrin
     return platform::ContentPlace{.elsewhere = elsewhere, .bytes = -1};
 }
 
+platform::Result<QByteArray> MemoryVolume::readBeginning(const QString &, qint64)
+{
+    return failure(platform::NotSupported); // no content is kept
+}
+
 platform::Status MemoryVolume::clearReadOnly(const QString &path)
 {
     return begin(FaultPlan::ClearReadOnly, path);
@@ -194,6 +199,13 @@ platform::Status MemoryVolume::removeTree(const QString &folder)
         forget(path);
     entries.remove(folder);
     return {};
+}
+
+platform::Result<platform::FolderOwner> MemoryVolume::owner(const QString &folder)
+{
+    if (!isFolder(folder))
+        return failure(platform::PathNotFound);
+    return platform::FolderOwner{.isOwn = true, .isSticky = false};
 }
 
 platform::Status MemoryVolume::hide(const QString &path)

@@ -85,6 +85,7 @@ public:
     platform::Result<std::unique_ptr<platform::FileHandle>> open(const QString &path,
                                                                  platform::OpenMode mode) override;
     platform::Result<platform::ContentPlace> contentPlace(const QString &path) override;
+    platform::Result<QByteArray> readBeginning(const QString &path, qint64 limit) override;
     platform::Status clearReadOnly(const QString &path) override;
     platform::Status rename(const QString &, const QString &) override;
     platform::Status remove(const QString &path) override;
@@ -94,6 +95,7 @@ public:
     platform::Status create(const QString &folder) override;
     platform::Status removeEmpty(const QString &folder) override;
     platform::Status removeTree(const QString &folder) override;
+    platform::Result<platform::FolderOwner> owner(const QString &folder) override;
     platform::Status hide(const QString &path) override;
     platform::Result<platform::SpaceInfo> space(const QString &path) override;
 

@@ -128,6 +128,14 @@ platform::Result<platform::ContentPlace> ObservedFiles::contentPlace(const QStri
     return ForwardingFiles::contentPlace(path);
 }
 
+platform::Result<QByteArray> ObservedFiles::readBeginning(const QString &path, qint64 limit)
+{
+    const platform::Status answer = observe({.kind = FaultPlan::Read, .path = path});
+    if (!answer)
+        return answer;
+    return ForwardingFiles::readBeginning(path, limit);
+}
+
 platform::Status ObservedFiles::clearReadOnly(const QString &path)
 {
     const platform::Status answer = observe({.kind = FaultPlan::ClearReadOnly, .path = path});

@@ -43,6 +43,7 @@ public:
     platform::Result<std::unique_ptr<platform::FileHandle>> open(const QString &path,
                                                                  platform::OpenMode mode) override;
     platform::Result<platform::ContentPlace> contentPlace(const QString &path) override;
+    platform::Result<QByteArray> readBeginning(const QString &path, qint64 limit) override;
     platform::Status clearReadOnly(const QString &path) override;
     platform::Status rename(const QString &from, const QString &to) override;
     platform::Status remove(const QString &path) override;

@@ -40,14 +40,20 @@ QByteArray descriptorOf(const QString &path)
 class ImageQuery : public DeviceQuery
 {
 public:
-    ImageQuery(QString path, qint64 size)
+    ImageQuery(QString path, qint64 size, QString name)
         : m_path(std::move(path))
         , m_size(size)
+        , m_name(std::move(name))
     {}
 
     Result<Geometry> geometry() override { return Geometry{m_size, SectorSize}; }
     Result<QByteArray> descriptor() override { return descriptorOf(m_path); }
-    Result<QString> worldWideName() override { return Status{NotSupported, 0, "world-wide name"}; }
+    Result<QString> worldWideName() override
+    {
+        if (m_name.isEmpty())
+            return Status{NotSupported, 0, "world-wide name"};
+        return m_name;
+    }
     Result<bool> seekPenalty() override { return Status{NotSupported, 0, "seek penalty"}; }
     Result<bool> trimEnabled() override { return Status{NotSupported, 0, "trim"}; }
     Result<DeviceUse> use() override { return DeviceUse{}; }
@@ -56,6 +62,7 @@ public:
 private:
     QString m_path;
     qint64 m_size;
+    QString m_name;
 };
 
 class ImageRawDevice : public RawDevice
@@ -127,6 +134,19 @@ public:
     Status keep() override { return {}; }
 };
 
+// Which file it is, so that another one that takes its path later is another drive. Empty where the file
+// system does not tell.
+QString nameOf(FileHandle &file)
+{
+    const Result<FileId> id = file.id();
+    if (!id)
+        return {};
+    return QStringLiteral("file.%1.%2.%3")
+        .arg(id.value().device, 0, 16)
+        .arg(id.value().number, 0, 16)
+        .arg(id.value().born, 0, 16);
+}
+
 Result<qint64> imageSize(Files &files, const QString &path)
 {
     const Result<FileInfo> info = files.info(path);
@@ -174,7 +194,9 @@ Result<std::unique_ptr<DeviceQuery>> ImageDevices::queryDrive(int number)
     const Result<qint64> size = imageSize(m_files, path);
     if (!size)
         return size.status();
-    return std::unique_ptr<DeviceQuery>(std::make_unique<ImageQuery>(path, size.value()));
+    const Result<std::unique_ptr<FileHandle>> file = m_files.open(path, OpenMode::Verify);
+    const QString name = file ? nameOf(*file.value()) : QString();
+    return std::unique_ptr<DeviceQuery>(std::make_unique<ImageQuery>(path, size.value(), name));
 }
 
 Result<std::unique_ptr<DeviceQuery>> ImageDevices::queryVolume(const QString &name)
@@ -199,7 +221,7 @@ Result<std::unique_ptr<RawDevice>> ImageDevices::openDrive(const DriveIdentity &
     const Result<qint64> size = imageSize(m_files, path);
     if (!size)
         return size.status();
-    ImageQuery present(path, size.value());
+    ImageQuery present(path, size.value(), nameOf(*file.value()));
     if (identityOf(drive.number, present) != drive)
         return Status{NotReady, 0, "identity check"};
     return std::unique_ptr<RawDevice>(std::make_unique<ImageRawDevice>(file.take(), size.value()));

@@ -1,4 +1,4 @@
-#include "platform/filebeginning.h"
+#include "platform/linux/linuxfiles.h"
 
 #include "platform/filenames.h"
 #include "platform/linux/errnotable.h"
@@ -22,7 +22,7 @@ Status refusalOf(const struct stat &file)
 
 } // namespace
 
-Result<QByteArray> readBeginning(const QString &path, qint64 limit)
+Result<QByteArray> LinuxFiles::readBeginning(const QString &path, qint64 limit)
 {
     const Result<QByteArray> name = encodePath(path);
     if (!name)

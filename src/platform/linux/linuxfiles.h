@@ -11,6 +11,7 @@ public:
     Result<FileInfo> info(const QString &path) override;
     Result<std::unique_ptr<FileHandle>> open(const QString &path, OpenMode mode) override;
     Result<ContentPlace> contentPlace(const QString &path) override;
+    Result<QByteArray> readBeginning(const QString &path, qint64 limit) override;
     Status clearReadOnly(const QString &path) override;
     Status rename(const QString &from, const QString &to) override;
     Status remove(const QString &path) override;

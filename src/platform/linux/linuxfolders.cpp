@@ -128,6 +128,19 @@ Status LinuxFolders::hide(const QString &path)
     return {};
 }
 
+Result<FolderOwner> LinuxFolders::owner(const QString &folder)
+{
+    const Result<QByteArray> name = encodePath(folder);
+    if (!name)
+        return name.status();
+    struct stat found = {};
+    if (::lstat(name.value().constData(), &found) != 0)
+        return statusFromErrno(errno, "lstat");
+    if (!S_ISDIR(found.st_mode))
+        return statusFromErrno(ENOTDIR, "lstat");
+    return FolderOwner{found.st_uid == ::geteuid(), (found.st_mode & S_ISVTX) != 0};
+}
+
 Result<SpaceInfo> LinuxFolders::space(const QString &path)
 {
     const Result<QByteArray> name = encodePath(path);

@@ -14,6 +14,7 @@ public:
     // Stays on the mounted file system it began on: what is mounted inside keeps its contents, and the mount
     // point counts as a failure (SharingViolation). Any depth, with a handful of descriptors.
     Status removeTree(const QString &folder) override;
+    Result<FolderOwner> owner(const QString &folder) override;
     Status hide(const QString &path) override;
     Result<SpaceInfo> space(const QString &path) override;
 };

@@ -1,4 +1,4 @@
-#include "platform/filebeginning.h"
+#include "platform/windows/windowsfiles.h"
 
 #include "platform/windows/filekind.h"
 #include "platform/windows/lasterror.h"
@@ -43,7 +43,7 @@ Result<QByteArray> readUpTo(HANDLE file, qint64 size)
 
 } // namespace
 
-Result<QByteArray> readBeginning(const QString &path, qint64 limit)
+Result<QByteArray> WindowsFiles::readBeginning(const QString &path, qint64 limit)
 {
     const Result<std::wstring> name = encodePath(path);
     if (!name)

@@ -14,6 +14,7 @@ public:
     Status removeEmpty(const QString &folder) override;
     // Read-only entries too. A mounted volume inside loses its mount point and keeps its contents.
     Status removeTree(const QString &folder) override;
+    Result<FolderOwner> owner(const QString &) override { return Status{NotSupported, 0, "folder owner"}; }
     Status hide(const QString &path) override;
     // For a file or link: of the volume on which it stands itself.
     Result<SpaceInfo> space(const QString &path) override;

@@ -41,10 +41,7 @@ QString textOf(const RecycleBinItem &item)
 QStringList existing(QStringList paths)
 {
     platform::Files &files = platform::Platform::current().files();
-    paths.removeIf([&files](const QString &path) {
-        const quint32 code = files.info(path).code();
-        return code == platform::FileNotFound || code == platform::PathNotFound;
-    });
+    paths.removeIf([&files](const QString &path) { return isAbsent(files.info(path).status()); });
     return paths;
 }
 
