@@ -144,8 +144,13 @@ void tst_ChangedFiles::anEmptyFileThatVanished()
 // Removed under the one, it is gone under the other.
 void tst_ChangedFiles::twoSpellingsOfOnePath()
 {
+#ifdef Q_OS_WIN
+    const QString spelling = u"T/Changed"_s;
+#else
+    const QString spelling = u"t/../t/changed"_s;
+#endif
     Scenario s;
-    QVERIFY(s.job.run({s.changed, s.job.path(u"t/../t/changed"_s)}));
+    QVERIFY(s.job.run({s.changed, s.job.path(spelling)}));
     QVERIFY(!QFile::exists(s.changed));
     QCOMPARE(s.job.files.calls(FaultPlan::Write).size(), 4);
     QVERIFY(s.shortfalls().isEmpty());
@@ -198,6 +203,9 @@ void tst_ChangedFiles::replacedBetweenTheLookAndTheOpening()
 // Some file systems give the number of a deleted file to the next one.
 void tst_ChangedFiles::madeAnewUnderItsNumber()
 {
+#ifdef Q_OS_WIN
+    QSKIP("SKIPPED: Windows gives no number twice, and Wine knows no births");
+#endif
     Scenario s;
     s.at(said::pass(2, 2), [&] {
         QTest::qSleep(50); // births are some milliseconds coarse
