@@ -50,6 +50,14 @@ struct Scenario
                 change();
         };
     }
+    // On a file system whose numbers say nothing.
+    void forgetNumbers()
+    {
+        job.files.wrap = [](std::unique_ptr<platform::FileHandle> handle, const FileCall &) {
+            return std::unique_ptr<platform::FileHandle>(
+                std::make_unique<NumberlessHandle>(std::move(handle)));
+        };
+    }
     bool run() { return job.run({changed, kept}); }
     QList<Shortfall> shortfalls() const { return job.task.outcome().shortfalls(); }
     // What took the place was left alone, the other file was not.
@@ -60,6 +68,13 @@ struct Scenario
 QString appendTo(const QString &path, const QByteArray &bytes)
 {
     return writeFile(path, contentOf(path) + bytes);
+}
+
+void addNumberRows()
+{
+    QTest::addColumn<bool>("hasNumbers");
+    QTest::newRow("by its number") << true;
+    QTest::newRow("by its kind") << false;
 }
 
 } // namespace
@@ -79,13 +94,17 @@ private slots:
     void replacedBetweenTheLookAndTheOpening_data();
     void replacedBetweenTheLookAndTheOpening();
     void madeAnewUnderItsNumber();
+    void replacedByALink_data();
     void replacedByALink();
+    void replacedByAFolder_data();
     void replacedByAFolder();
+    void aLinkThatBecameAFile_data();
     void aLinkThatBecameAFile();
     void withoutLastingNumbers();
     void grewAfterTheLastPass();
     void grewBetweenThePasses();
     void grewBeforeTheFirstPass();
+    void grewAndShrankBeforeItWasOverwritten();
     void anEmptyFileThatGrew();
     void shrankBeforeItWasOverwritten();
     void shrankBetweenThePasses();
@@ -125,8 +144,13 @@ void tst_ChangedFiles::anEmptyFileThatVanished()
 // Removed under the one, it is gone under the other.
 void tst_ChangedFiles::twoSpellingsOfOnePath()
 {
+#ifdef Q_OS_WIN
+    const QString spelling = u"T/Changed"_s;
+#else
+    const QString spelling = u"t/../t/changed"_s;
+#endif
     Scenario s;
-    QVERIFY(s.job.run({s.changed, s.job.path(u"t/../t/changed"_s)}));
+    QVERIFY(s.job.run({s.changed, s.job.path(spelling)}));
     QVERIFY(!QFile::exists(s.changed));
     QCOMPARE(s.job.files.calls(FaultPlan::Write).size(), 4);
     QVERIFY(s.shortfalls().isEmpty());
@@ -179,6 +203,9 @@ void tst_ChangedFiles::replacedBetweenTheLookAndTheOpening()
 // Some file systems give the number of a deleted file to the next one.
 void tst_ChangedFiles::madeAnewUnderItsNumber()
 {
+#ifdef Q_OS_WIN
+    QSKIP("SKIPPED: Windows gives no number twice, and Wine knows no births");
+#endif
     Scenario s;
     s.at(said::pass(2, 2), [&] {
         QTest::qSleep(50); // births are some milliseconds coarse
@@ -190,9 +217,17 @@ void tst_ChangedFiles::madeAnewUnderItsNumber()
     QCOMPARE(s.shortfalls(), (QList<Shortfall>{{ShortfallKind::EntryReplaced, s.changed}}));
 }
 
+void tst_ChangedFiles::replacedByALink_data()
+{
+    addNumberRows();
+}
+
 void tst_ChangedFiles::replacedByALink()
 {
+    QFETCH(bool, hasNumbers);
     Scenario s;
+    if (!hasNumbers)
+        s.forgetNumbers();
     const QString victim = s.job.makeFile(u"victim"_s, Stranger);
     bool isMade = false;
     s.at(said::deleting, [&] { isMade = QFile::remove(s.changed) && makeLink(victim, s.changed); });
@@ -203,9 +238,17 @@ void tst_ChangedFiles::replacedByALink()
     QCOMPARE(s.shortfalls(), (QList<Shortfall>{{ShortfallKind::EntryReplaced, s.changed}}));
 }
 
+void tst_ChangedFiles::replacedByAFolder_data()
+{
+    addNumberRows();
+}
+
 void tst_ChangedFiles::replacedByAFolder()
 {
+    QFETCH(bool, hasNumbers);
     Scenario s;
+    if (!hasNumbers)
+        s.forgetNumbers();
     s.at(said::pass(2, 2), [&] {
         QFile::remove(s.changed);
         writeFile(s.changed + u"/inside"_s, Stranger);
@@ -215,9 +258,17 @@ void tst_ChangedFiles::replacedByAFolder()
     QCOMPARE(s.shortfalls(), (QList<Shortfall>{{ShortfallKind::EntryReplaced, s.changed}}));
 }
 
+void tst_ChangedFiles::aLinkThatBecameAFile_data()
+{
+    addNumberRows();
+}
+
 void tst_ChangedFiles::aLinkThatBecameAFile()
 {
+    QFETCH(bool, hasNumbers);
     Scenario s;
+    if (!hasNumbers)
+        s.forgetNumbers();
     const QString link = s.job.path(u"link"_s);
     if (!makeLink(s.kept, link))
         QSKIP("SKIPPED: no symbolic links here");
@@ -235,9 +286,7 @@ void tst_ChangedFiles::aLinkThatBecameAFile()
 void tst_ChangedFiles::withoutLastingNumbers()
 {
     Scenario s;
-    s.job.files.wrap = [](std::unique_ptr<platform::FileHandle> handle, const FileCall &) {
-        return std::unique_ptr<platform::FileHandle>(std::make_unique<NumberlessHandle>(std::move(handle)));
-    };
+    s.forgetNumbers();
     s.at(said::pass(2, 2), [&] {
         writeFile(s.job.path(u"new"_s), QByteArray(10, 'N'));
         QFile::remove(s.changed);
@@ -273,6 +322,20 @@ void tst_ChangedFiles::grewBeforeTheFirstPass()
     s.at(said::preparing(2, u"20 B"_s), [&] { appendTo(s.changed, "12345"); });
     QVERIFY(s.run());
     QVERIFY(s.shortfalls().isEmpty());
+}
+
+// By the time of the second pass.
+void tst_ChangedFiles::grewAndShrankBeforeItWasOverwritten()
+{
+    Scenario s;
+    s.job.said.onLine = [&](const QString &line) {
+        if (line == said::preparing(2, u"20 B"_s))
+            appendTo(s.changed, QByteArray(10, 'N'));
+        if (line == said::pass(2, 2))
+            QFile::resize(s.changed, 12);
+    };
+    QVERIFY(s.run());
+    QCOMPARE(s.shortfalls(), (QList<Shortfall>{{ShortfallKind::EntryVanished, s.changed, 8}}));
 }
 
 void tst_ChangedFiles::anEmptyFileThatGrew()

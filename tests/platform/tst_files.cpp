@@ -638,6 +638,9 @@ void tst_Files::anotherFileHasAnotherId()
         QSKIP("SKIPPED: files have no lasting numbers here");
     writeFile(path(u"beside"_s), "abc");
     QVERIFY(files().info(path(u"beside"_s)).value().id != id);
+#ifdef Q_OS_WIN
+    QSKIP("SKIPPED: Windows gives no number twice, and Wine knows no births");
+#endif
     // Some file systems give a number again at once; births a few milliseconds apart are told apart.
     QTest::qSleep(50);
     QVERIFY(files().remove(path(u"file"_s)).ok());

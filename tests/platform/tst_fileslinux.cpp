@@ -77,6 +77,7 @@ private slots:
     void infoOfLinks();
     void contentPlaceSaysWhereItIsOverwritten();
     void contentPlaceWhereNoExtentsAreShown();
+    void idWhereNumbersMayNotLast();
     void contentPlaceOpensNothingButFilesAndFolders();
     void openOfALinkIsRefused();
     void openOfADanglingLinkCreatesNothing();
@@ -214,6 +215,13 @@ void tst_FilesLinux::contentPlaceWhereNoExtentsAreShown()
     const qint64 size = statusOf(file).st_size;
     QVERIFY(size > 0);
     QCOMPARE(files().contentPlace(file).value(), (ContentPlace{Elsewhere::Unknown, size}));
+}
+
+void tst_FilesLinux::idWhereNumbersMayNotLast()
+{
+    const auto file = files().open(u"/sys/class/net/lo/mtu"_s, OpenMode::Verify);
+    QVERIFY(file.ok());
+    QCOMPARE(file.value()->id().code(), quint32(NotSupported));
 }
 
 void tst_FilesLinux::contentPlaceOpensNothingButFilesAndFolders()

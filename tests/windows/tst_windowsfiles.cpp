@@ -178,6 +178,8 @@ Status useFile(const QString &path)
     const auto file = files.open(path, OpenMode::Overwrite);
     if (!file)
         return file.status();
+    if (const auto id = file.value()->id(); !id)
+        return id.status();
     char bytes[3] = {'x', 'y', 'z'};
     if (const Result<qint64> count = file.value()->write(bytes, 3); !count)
         return count.status();
@@ -216,6 +218,11 @@ const QList<Operation> &operations()
          {},
          true},
         {"use of an open file", [](const QString &at) { return useFile(at + u"/file"_s); }, {}, false},
+        {"place of a file",
+         [](const QString &at) { return files.contentPlace(at + u"/file"_s).status(); },
+         // Whether it is on a server.
+         {{Win32Faults::GetFileInformationEx_, 1}},
+         true},
         {"clear read-only",
          [](const QString &at) { return files.clearReadOnly(at + u"/tree/read-only"_s); },
          {},

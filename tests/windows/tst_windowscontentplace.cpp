@@ -1,0 +1,273 @@
+#include "support/suite.h"
+#include "support/testfiles.h"
+#include "windows/win32faults.h"
+
+#include "platform/contentplace.h"
+#include "platform/windows/windowsfiles.h"
+
+#include <QByteArray>
+#include <QCoreApplication>
+#include <QDir>
+#include <QList>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <cstddef>
+#include <cstring>
+
+using namespace platform;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr DWORD SupportsIntegrityStreams = 0x04000000;
+constexpr DWORD SupportsBlockRefcounting = 0x08000000;
+constexpr DWORD GetIntegrityInformation = 0x0009027C;
+constexpr DWORD Injected = ERROR_IO_DEVICE;
+
+struct Stream
+{
+    QString name;
+    qint64 size = 0;
+};
+
+// As the system lays them out: each entry says where the next one begins, the last one says 0.
+QByteArray streamEntries(const QList<Stream> &streams)
+{
+    QByteArray all;
+    for (const Stream &stream : streams) {
+        FILE_STREAM_INFO entry = {};
+        const DWORD nameBytes = DWORD(stream.name.size()) * sizeof(WCHAR);
+        const qsizetype plain = qsizetype(offsetof(FILE_STREAM_INFO, StreamName)) + qsizetype(nameBytes);
+        const qsizetype padded = (plain + 7) / 8 * 8;
+        const bool isLast = &stream == &streams.last();
+        entry.NextEntryOffset = isLast ? 0 : DWORD(padded);
+        entry.StreamNameLength = nameBytes;
+        entry.StreamSize.QuadPart = stream.size;
+        all += QByteArray(reinterpret_cast<const char *>(&entry), offsetof(FILE_STREAM_INFO, StreamName));
+        all += QByteArray(reinterpret_cast<const char *>(stream.name.utf16()), qsizetype(nameBytes));
+        all += QByteArray(padded - plain, '\0');
+    }
+    return all;
+}
+
+// What the system says of every file.
+struct Answers
+{
+    DWORD attributes = 0; // beside those that it has
+    DWORD volume = FILE_NAMED_STREAMS;
+    bool isRemote = false;
+    QList<Stream> streams{{u"::$DATA"_s, 3}};
+    DWORD streamsError = ERROR_SUCCESS;
+    DWORD integrityError = ERROR_INVALID_FUNCTION;
+    WORD checksumAlgorithm = 0;
+    DWORD extentsError = ERROR_MORE_DATA; // more than one
+};
+
+Answers s_answers;
+
+BOOL fail(DWORD error)
+{
+    ::SetLastError(error);
+    return FALSE;
+}
+
+BOOL WINAPI answeredInformation(HANDLE file, LPBY_HANDLE_FILE_INFORMATION information)
+{
+    const BOOL found = ::GetFileInformationByHandle(file, information);
+    information->dwFileAttributes |= s_answers.attributes;
+    return found;
+}
+
+BOOL WINAPI answeredVolume(HANDLE, LPWSTR, DWORD, LPDWORD, LPDWORD, LPDWORD flags, LPWSTR, DWORD)
+{
+    *flags = s_answers.volume;
+    return TRUE;
+}
+
+BOOL WINAPI answeredInformationEx(HANDLE, FILE_INFO_BY_HANDLE_CLASS what, LPVOID data, DWORD size)
+{
+    if (what == FileRemoteProtocolInfo)
+        return s_answers.isRemote ? TRUE : fail(ERROR_INVALID_PARAMETER);
+    if (s_answers.streamsError != ERROR_SUCCESS)
+        return fail(s_answers.streamsError);
+    const QByteArray entries = streamEntries(s_answers.streams);
+    if (entries.isEmpty())
+        return fail(ERROR_HANDLE_EOF);
+    if (qsizetype(size) < entries.size())
+        return fail(ERROR_MORE_DATA);
+    std::memcpy(data, entries.constData(), std::size_t(entries.size()));
+    return TRUE;
+}
+
+BOOL WINAPI answeredControl(HANDLE, DWORD code, LPVOID, DWORD, LPVOID output, DWORD, LPDWORD returned,
+                            LPOVERLAPPED)
+{
+    if (code != GetIntegrityInformation)
+        return fail(s_answers.extentsError);
+    if (s_answers.integrityError != ERROR_SUCCESS)
+        return fail(s_answers.integrityError);
+    std::memcpy(output, &s_answers.checksumAlgorithm, sizeof s_answers.checksumAlgorithm);
+    *returned = 16;
+    return TRUE;
+}
+
+class AnsweredCalls
+{
+public:
+    explicit AnsweredCalls(const Answers &answers)
+    {
+        s_answers = answers;
+        Win32Calls &calls = faults.target();
+        calls.getFileInformation = &answeredInformation;
+        calls.getFileInformationEx = &answeredInformationEx;
+        calls.getVolumeInformation = &answeredVolume;
+        calls.deviceIoControl = &answeredControl;
+    }
+
+    Win32Faults faults;
+};
+
+} // namespace
+
+Q_DECLARE_METATYPE(Answers)
+Q_DECLARE_METATYPE(ElsewhereReasons)
+
+// What follows from what Windows says of a file.
+class tst_WindowsContentPlace : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void places_data();
+    void places();
+    void emptyFiles();
+    void manyStreams();
+    void folders();
+    void linksAreRefused();
+    void whatFails_data();
+    void whatFails();
+
+private:
+    QTemporaryDir m_folder;
+    WindowsFiles m_files;
+};
+
+void tst_WindowsContentPlace::places_data()
+{
+    QTest::addColumn<Answers>("answers");
+    QTest::addColumn<ElsewhereReasons>("expected");
+    QTest::addColumn<qint64>("bytes"); // of a file of three
+    const auto row = [](const char *name, const Answers &answers, ElsewhereReasons expected, qint64 bytes) {
+        QTest::newRow(name) << answers << expected << bytes;
+    };
+    const QList<Stream> named{{u"::$DATA"_s, 3}, {u":Zone.Identifier:$DATA"_s, 26}, {u":b:$DATA"_s, 4}};
+    row("in place", {}, {}, 0);
+    row("compressed", {.attributes = FILE_ATTRIBUTE_COMPRESSED}, Elsewhere::Encoded, 3);
+    row("encrypted", {.attributes = FILE_ATTRIBUTE_ENCRYPTED}, Elsewhere::Encoded, 3);
+    row("sparse", {.attributes = FILE_ATTRIBUTE_SPARSE_FILE}, Elsewhere::Sparse, 3);
+    row("in its record", {.extentsError = ERROR_HANDLE_EOF}, Elsewhere::Inline, 3);
+    row("extents unknown", {.extentsError = ERROR_NOT_SUPPORTED}, {}, 0);
+    row("on a server", {.isRemote = true}, Elsewhere::Unknown, 3);
+    row("no stream listed", {.streams = {}}, {}, 0);
+    row("named streams", {.streams = named}, Elsewhere::NamedStreams, 30);
+    row("no streams on this volume", {.volume = 0, .streams = named}, {}, 0);
+    row("compressed with streams", {.attributes = FILE_ATTRIBUTE_COMPRESSED, .streams = named},
+        Elsewhere::Encoded | Elsewhere::NamedStreams, 33);
+    row("with checksums",
+        {.volume = SupportsIntegrityStreams, .integrityError = ERROR_SUCCESS, .checksumAlgorithm = 2},
+        Elsewhere::Relocating, 3);
+    row("without checksums", {.volume = SupportsIntegrityStreams, .integrityError = ERROR_SUCCESS}, {}, 0);
+    row("checksums unknown", {.volume = SupportsIntegrityStreams}, Elsewhere::Relocating, 3);
+    row("shared clusters", {.volume = SupportsBlockRefcounting}, Elsewhere::Shared, 3);
+}
+
+void tst_WindowsContentPlace::places()
+{
+    QFETCH(Answers, answers);
+    QFETCH(ElsewhereReasons, expected);
+    QFETCH(qint64, bytes);
+    const QString file = writeFile(m_folder.filePath(u"file"_s), "abc");
+    const AnsweredCalls calls(answers);
+    const ContentPlace place{expected, bytes};
+    QCOMPARE(m_files.contentPlace(file).value(), place);
+    QCOMPARE(m_files.open(file, OpenMode::Overwrite).value()->contentPlace().value(), place);
+    QCOMPARE(calls.faults.openHandles(), 0);
+    QCOMPARE(contentOf(file), QByteArray("abc"));
+}
+
+// No content of its own, but streams have some.
+void tst_WindowsContentPlace::emptyFiles()
+{
+    const QString file = writeFile(m_folder.filePath(u"empty"_s), {});
+    {
+        const AnsweredCalls calls({.attributes = FILE_ATTRIBUTE_COMPRESSED,
+                                   .volume = FILE_NAMED_STREAMS | SupportsBlockRefcounting,
+                                   .isRemote = true,
+                                   .extentsError = ERROR_HANDLE_EOF});
+        QCOMPARE(m_files.contentPlace(file).value(), (ContentPlace{{}, 0}));
+    }
+    const AnsweredCalls calls({.streams = {{u"::$DATA"_s, 0}, {u":s:$DATA"_s, 7}}});
+    QCOMPARE(m_files.contentPlace(file).value(), (ContentPlace{Elsewhere::NamedStreams, 7}));
+}
+
+void tst_WindowsContentPlace::manyStreams()
+{
+    const QString file = writeFile(m_folder.filePath(u"file"_s), "abc");
+    Answers answers{.streams = {{u"::$DATA"_s, 3}}};
+    for (int i = 0; i < 1000; ++i)
+        answers.streams.append({u":stream number %1:$DATA"_s.arg(i), 2});
+    const AnsweredCalls calls(answers);
+    QCOMPARE(m_files.contentPlace(file).value(), (ContentPlace{Elsewhere::NamedStreams, 2000}));
+}
+
+void tst_WindowsContentPlace::folders()
+{
+    const QString folder = m_folder.filePath(u"folder"_s);
+    QVERIFY(QDir().mkpath(folder));
+    {
+        const AnsweredCalls calls({.extentsError = ERROR_HANDLE_EOF});
+        QCOMPARE(m_files.contentPlace(folder).value(), (ContentPlace{{}, -1}));
+    }
+    const AnsweredCalls calls({.attributes = FILE_ATTRIBUTE_COMPRESSED, .volume = SupportsBlockRefcounting});
+    QCOMPARE(m_files.contentPlace(folder).value(),
+             (ContentPlace{Elsewhere::Encoded | Elsewhere::Shared, -1}));
+}
+
+void tst_WindowsContentPlace::linksAreRefused()
+{
+    const QString file = writeFile(m_folder.filePath(u"link"_s), "abc");
+    AnsweredCalls calls({});
+    calls.faults.target().getFileAttributes = [](LPCWSTR path) -> DWORD {
+        return ::GetFileAttributesW(path) | FILE_ATTRIBUTE_REPARSE_POINT;
+    };
+    QCOMPARE(m_files.contentPlace(file).code(), quint32(CannotAccessFile));
+    QCOMPARE(calls.faults.seen(Win32Faults::CreateFile_), 0);
+}
+
+void tst_WindowsContentPlace::whatFails_data()
+{
+    QTest::addColumn<int>("call");
+    QTest::addColumn<int>("number");
+    QTest::newRow("attributes") << int(Win32Faults::GetFileAttributes_) << 1;
+    QTest::newRow("opening") << int(Win32Faults::CreateFile_) << 1;
+    QTest::newRow("information") << int(Win32Faults::GetFileInformation_) << 1;
+    QTest::newRow("volume") << int(Win32Faults::GetVolumeInformation_) << 1;
+    QTest::newRow("streams") << int(Win32Faults::GetFileInformationEx_) << 2; // 1: whether it is remote
+}
+
+// Nobody may take an answer that is missing for a good one.
+void tst_WindowsContentPlace::whatFails()
+{
+    QFETCH(int, call);
+    QFETCH(int, number);
+    const QString file = writeFile(m_folder.filePath(u"file"_s), "abc");
+    AnsweredCalls calls({});
+    calls.faults.fail(call, number, Injected);
+    QCOMPARE(m_files.contentPlace(file).code(), quint32(Injected));
+    QCOMPARE(calls.faults.fired(), 1);
+    QCOMPARE(calls.faults.openHandles(), 0);
+}
+
+QUORVEX_SUITE(tst_WindowsContentPlace, QCoreApplication)
+#include "tst_windowscontentplace.moc"
