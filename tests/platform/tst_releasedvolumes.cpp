@@ -13,6 +13,7 @@
 #include <QTest>
 
 #include <fcntl.h>
+#include <sys/inotify.h>
 #include <sys/mount.h>
 #include <unistd.h>
 
@@ -33,6 +34,33 @@ DriveIdentity identityOf(Devices &devices, const QString &node)
     }
     return {};
 }
+
+// Sees whether a file system that is mounted on one of the places is unmounted, be it for a moment, and does
+// not hold it.
+class UnmountWatch
+{
+public:
+    explicit UnmountWatch(const QStringList &places)
+        : m_queue(::inotify_init1(IN_NONBLOCK | IN_CLOEXEC))
+    {
+        for (const QString &place : places) {
+            if (::inotify_add_watch(m_queue, QFile::encodeName(place).constData(), IN_DELETE_SELF) < 0)
+                qFatal("no watch");
+        }
+    }
+    ~UnmountWatch() { ::close(m_queue); }
+    UnmountWatch(const UnmountWatch &) = delete;
+    UnmountWatch &operator=(const UnmountWatch &) = delete;
+
+    bool sawUnmount() const
+    {
+        inotify_event event{};
+        return ::read(m_queue, &event, sizeof(event)) > 0;
+    }
+
+private:
+    int m_queue;
+};
 
 } // namespace
 
@@ -85,6 +113,8 @@ private:
     void releaseAndRestore();
     // That volume is in the way, and nothing has changed.
     void isInTheWay(const QString &volume, quint32 code = SharingViolation);
+    // Nor was anything unmounted for a moment.
+    void isInTheWayAtOnce(const QString &volume, quint32 code = SharingViolation);
 };
 
 void tst_ReleasedVolumes::initTestCase()
@@ -131,6 +161,13 @@ void tst_ReleasedVolumes::isInTheWay(const QString &volume, quint32 code)
     QCOMPARE(released.volume, volume);
     QCOMPARE(released.notRestored, QStringList());
     QCOMPARE(m_loop->mounts(), before);
+}
+
+void tst_ReleasedVolumes::isInTheWayAtOnce(const QString &volume, quint32 code)
+{
+    const UnmountWatch watch({m_loop->folder(u"one"_s), m_loop->folder(u"two"_s)});
+    isInTheWay(volume, code);
+    QVERIFY(!watch.sawUnmount());
 }
 
 void tst_ReleasedVolumes::volumesComeBackAsTheyWere_data()
@@ -308,7 +345,7 @@ void tst_ReleasedVolumes::aVolumeUnderAnotherDriveIsInTheWay()
     QVERIFY(m_loop->mount(1, one));
     QVERIFY(PartitionedLoop::mount({u"-ttmpfs"_s, u"none"_s, m_loop->folder(u"one/other"_s)}));
     QVERIFY(m_loop->mount(2, m_loop->folder(u"two"_s)));
-    isInTheWay(one);
+    isInTheWayAtOnce(one);
 }
 
 void tst_ReleasedVolumes::aVolumeCoveredByAnotherDriveIsInTheWay()
@@ -316,7 +353,8 @@ void tst_ReleasedVolumes::aVolumeCoveredByAnotherDriveIsInTheWay()
     const QString one = m_loop->folder(u"one"_s);
     QVERIFY(m_loop->mount(1, one));
     QVERIFY(PartitionedLoop::mount({u"-ttmpfs"_s, u"other"_s, one}));
-    isInTheWay(one);
+    QVERIFY(m_loop->mount(2, m_loop->folder(u"two"_s)));
+    isInTheWayAtOnce(one);
 }
 
 // The path leads to something else, and that must not be unmounted.
@@ -360,7 +398,7 @@ void tst_ReleasedVolumes::aVolumeOnAnotherDriveTooIsInTheWay()
     for (const QString &device : {first.device(), second.device()}) {
         m_identity = identityOf(m_platform->devices(), device);
         QVERIFY(m_identity.number >= 0);
-        isInTheWay(first.mountPoint(), NotReady);
+        isInTheWayAtOnce(first.mountPoint(), NotReady);
     }
 }
 
@@ -369,10 +407,10 @@ void tst_ReleasedVolumes::anotherDriveIsNotReleased()
     QVERIFY(m_loop->mount(1, m_loop->folder(u"one"_s)));
     const DriveIdentity chosen = m_identity;
     m_identity.sizeBytes -= 512;
-    isInTheWay(QString(), NotReady);
+    isInTheWayAtOnce(QString(), NotReady);
     m_identity = chosen;
     m_identity.number += 100;
-    isInTheWay(QString(), NotReady);
+    isInTheWayAtOnce(QString(), NotReady);
 }
 
 void tst_ReleasedVolumes::nobodyMountsMeanwhile()

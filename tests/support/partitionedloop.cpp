@@ -6,6 +6,8 @@
 #include <QRegularExpression>
 #include <QTest>
 
+#include <algorithm>
+
 #include <fcntl.h>
 #include <linux/blkpg.h>
 #include <sys/ioctl.h>
@@ -97,12 +99,8 @@ QStringList PartitionedLoop::mounts() const
     QFile table(QStringLiteral("/proc/self/mountinfo"));
     if (!table.open(QIODevice::ReadOnly))
         return {QStringLiteral("no table")};
-    QStringList lines;
-    const QStringList all = QString::fromUtf8(table.readAll()).split(u'\n');
-    for (const QString &line : all) {
-        if (line.contains(u' ' + m_folder + u'/'))
-            lines.append(comparable(line));
-    }
+    QStringList lines = QString::fromUtf8(table.readAll()).split(u'\n').filter(u' ' + m_folder + u'/');
+    std::ranges::transform(lines, lines.begin(), comparable);
     return lines;
 }
 
