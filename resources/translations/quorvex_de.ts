@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE" sourcelanguage="zh_CN">
 <context>
+    <name>BaseWipeWorker</name>
+    <message>
+        <source>内存分配失败</source>
+        <translation>Speicherzuweisung fehlgeschlagen</translation>
+    </message>
+</context>
+<context>
     <name>CertificateDialog</name>
     <message>
         <source>Erasure Certificate - %1</source>
@@ -1271,6 +1278,22 @@
         <source>  not everything will be erased:</source>
         <translation>  es wird nicht alles gelöscht:</translation>
     </message>
+    <message>
+        <source>  the whole drive: its partition table and everything between and outside its volumes</source>
+        <translation>  das ganze Laufwerk: seine Partitionstabelle und alles zwischen und außerhalb seiner Volumes</translation>
+    </message>
+    <message>
+        <source>  its volumes are unmounted before, and stay so once something was written</source>
+        <translation>  seine Volumes werden vorher ausgehängt und bleiben es, sobald etwas geschrieben wurde</translation>
+    </message>
+    <message>
+        <source>Of a drive with mounted volumes only these are erased; --whole unmounts them and erases every sector of the drive.</source>
+        <translation>Von einem Laufwerk mit eingehängten Volumes werden nur diese gelöscht; --whole hängt sie aus und löscht jeden Sektor des Laufwerks.</translation>
+    </message>
+    <message>
+        <source>Unmount all volumes of the drive and erase every sector of it</source>
+        <translation>Alle Volumes des Laufwerks aushängen und jeden seiner Sektoren löschen</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>
@@ -1318,6 +1341,10 @@ Ein Löschzertifikat wurde erstellt.</translation>
         <source>Close</source>
         <translation>Schließen</translation>
     </message>
+    <message>
+        <source>Left unmounted: %1</source>
+        <translation>Ausgehängt geblieben: %1</translation>
+    </message>
 </context>
 <context>
     <name>ConfirmDialog</name>
@@ -1348,6 +1375,22 @@ Ein Löschzertifikat wurde erstellt.</translation>
     <message>
         <source>Confirm</source>
         <translation>Bestätigen</translation>
+    </message>
+    <message>
+        <source>Erase the whole disk
+(otherwise all outside its volumes stays)</source>
+        <translation>Den ganzen Datenträger löschen
+(sonst bleibt alles außerhalb seiner Volumes)</translation>
+    </message>
+    <message>
+        <source>Erase the whole disk
+(otherwise %1 outside its volumes stay)</source>
+        <translation>Den ganzen Datenträger löschen
+(sonst bleiben %1 außerhalb seiner Volumes)</translation>
+    </message>
+    <message>
+        <source>Every sector is overwritten, the partition table too. All volumes of the disk are unmounted before.</source>
+        <translation>Jeder Sektor wird überschrieben, auch die Partitionstabelle. Alle Volumes des Datenträgers werden vorher ausgehängt.</translation>
     </message>
 </context>
 <context>
@@ -1707,6 +1750,18 @@ Ein Löschzertifikat wurde erstellt.</translation>
         <source>未知</source>
         <translation>Unbekannt</translation>
     </message>
+    <message>
+        <source>卷 %1 又被挂载，未写入任何数据</source>
+        <translation>Volume %1 wurde wieder eingehängt, es wurde nichts geschrieben</translation>
+    </message>
+    <message>
+        <source>磁盘未能恢复联机，错误码: %1</source>
+        <translation>Der Datenträger konnte nicht wieder online geschaltet werden, Fehlercode: %1</translation>
+    </message>
+    <message>
+        <source>已重新挂载: %1</source>
+        <translation>Wieder eingehängt: %1</translation>
+    </message>
 </context>
 <context>
     <name>FileSelectPage</name>
@@ -1818,10 +1873,6 @@ Ein Löschzertifikat wurde erstellt.</translation>
         <translation>Zu löschende Dateien: %1, Gesamtgröße je Durchgang: %2</translation>
     </message>
     <message>
-        <source>文件系统 %1 不在原位置写入，旧数据可能仍留在介质上</source>
-        <translation>Das Dateisystem %1 schreibt nicht an Ort und Stelle, alte Daten können auf dem Medium verbleiben</translation>
-    </message>
-    <message>
         <source>所有文件为空，跳过数据覆写</source>
         <translation>Alle Dateien sind leer, das Überschreiben wird übersprungen</translation>
     </message>
@@ -1860,6 +1911,14 @@ Ein Löschzertifikat wurde erstellt.</translation>
     <message>
         <source>无法删除文件夹: %1，错误码: %2</source>
         <translation>Ordner konnte nicht entfernt werden: %1, Fehlercode: %2</translation>
+    </message>
+    <message>
+        <source>文件已被替换，保持原样: %1</source>
+        <translation>Die Datei wurde durch eine andere ersetzt, die bleibt, wie sie ist: %1</translation>
+    </message>
+    <message>
+        <source>%1 个文件的内容可能还保存在别处，未被覆写</source>
+        <translation>Der Inhalt von %1 Dateien liegt möglicherweise auch anderswo, wo er nicht überschrieben wurde</translation>
     </message>
 </context>
 <context>
@@ -2819,6 +2878,30 @@ Die Anwendung wird jetzt neu gestartet.</translation>
     <message>
         <source>擦除失败</source>
         <translation>Löschung fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>The drive is in use by another program.</source>
+        <translation>Das Laufwerk wird von einem anderen Programm verwendet.</translation>
+    </message>
+    <message>
+        <source>The drive cannot be rid of its volumes, error %1.</source>
+        <translation>Die Volumes des Laufwerks lassen sich nicht lösen, Fehler %1.</translation>
+    </message>
+    <message>
+        <source>Volume %1 is in use and cannot be unmounted.</source>
+        <translation>Volume %1 wird verwendet und kann nicht ausgehängt werden.</translation>
+    </message>
+    <message>
+        <source>Volume %1 cannot be unmounted, error %2.</source>
+        <translation>Volume %1 kann nicht ausgehängt werden, Fehler %2.</translation>
+    </message>
+    <message>
+        <source>Nothing was written.</source>
+        <translation>Es wurde nichts geschrieben.</translation>
+    </message>
+    <message>
+        <source>Not mounted again: %1</source>
+        <translation>Nicht wieder eingehängt: %1</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en_US" sourcelanguage="zh_CN">
 <context>
+    <name>BaseWipeWorker</name>
+    <message>
+        <source>内存分配失败</source>
+        <translation>Memory allocation failed</translation>
+    </message>
+</context>
+<context>
     <name>CertificateDialog</name>
     <message>
         <source>Erasure Certificate - %1</source>
@@ -1271,6 +1278,22 @@
         <source>  not everything will be erased:</source>
         <translation>  not everything will be erased:</translation>
     </message>
+    <message>
+        <source>  the whole drive: its partition table and everything between and outside its volumes</source>
+        <translation>  the whole drive: its partition table and everything between and outside its volumes</translation>
+    </message>
+    <message>
+        <source>  its volumes are unmounted before, and stay so once something was written</source>
+        <translation>  its volumes are unmounted before, and stay so once something was written</translation>
+    </message>
+    <message>
+        <source>Of a drive with mounted volumes only these are erased; --whole unmounts them and erases every sector of the drive.</source>
+        <translation>Of a drive with mounted volumes only these are erased; --whole unmounts them and erases every sector of the drive.</translation>
+    </message>
+    <message>
+        <source>Unmount all volumes of the drive and erase every sector of it</source>
+        <translation>Unmount all volumes of the drive and erase every sector of it</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>
@@ -1318,6 +1341,10 @@ An erasure certificate has been generated.</translation>
         <source>Close</source>
         <translation>Close</translation>
     </message>
+    <message>
+        <source>Left unmounted: %1</source>
+        <translation>Left unmounted: %1</translation>
+    </message>
 </context>
 <context>
     <name>ConfirmDialog</name>
@@ -1348,6 +1375,22 @@ An erasure certificate has been generated.</translation>
     <message>
         <source>Confirm</source>
         <translation>Confirm</translation>
+    </message>
+    <message>
+        <source>Erase the whole disk
+(otherwise all outside its volumes stays)</source>
+        <translation>Erase the whole disk
+(otherwise all outside its volumes stays)</translation>
+    </message>
+    <message>
+        <source>Erase the whole disk
+(otherwise %1 outside its volumes stay)</source>
+        <translation>Erase the whole disk
+(otherwise %1 outside its volumes stay)</translation>
+    </message>
+    <message>
+        <source>Every sector is overwritten, the partition table too. All volumes of the disk are unmounted before.</source>
+        <translation>Every sector is overwritten, the partition table too. All volumes of the disk are unmounted before.</translation>
     </message>
 </context>
 <context>
@@ -1707,6 +1750,18 @@ An erasure certificate has been generated.</translation>
         <source>未知</source>
         <translation>unknown</translation>
     </message>
+    <message>
+        <source>卷 %1 又被挂载，未写入任何数据</source>
+        <translation>Volume %1 was mounted again, nothing was written</translation>
+    </message>
+    <message>
+        <source>磁盘未能恢复联机，错误码: %1</source>
+        <translation>The disk could not be taken online again, error code: %1</translation>
+    </message>
+    <message>
+        <source>已重新挂载: %1</source>
+        <translation>Mounted again: %1</translation>
+    </message>
 </context>
 <context>
     <name>FileSelectPage</name>
@@ -1818,10 +1873,6 @@ An erasure certificate has been generated.</translation>
         <translation>Files to erase: %1, %2 per overwrite pass</translation>
     </message>
     <message>
-        <source>文件系统 %1 不在原位置写入，旧数据可能仍留在介质上</source>
-        <translation>File system %1 does not write in place, old data may remain on the medium</translation>
-    </message>
-    <message>
         <source>所有文件为空，跳过数据覆写</source>
         <translation>All files are empty, skipping the overwriting of data</translation>
     </message>
@@ -1860,6 +1911,14 @@ An erasure certificate has been generated.</translation>
     <message>
         <source>无法删除文件夹: %1，错误码: %2</source>
         <translation>Cannot delete folder: %1, error code: %2</translation>
+    </message>
+    <message>
+        <source>文件已被替换，保持原样: %1</source>
+        <translation>The file was replaced by another, which is left as it is: %1</translation>
+    </message>
+    <message>
+        <source>%1 个文件的内容可能还保存在别处，未被覆写</source>
+        <translation>The content of %1 files may lie elsewhere too, where it was not overwritten</translation>
     </message>
 </context>
 <context>
@@ -2819,6 +2878,30 @@ The application will restart now.</translation>
     <message>
         <source>擦除失败</source>
         <translation>Erasure failed</translation>
+    </message>
+    <message>
+        <source>The drive is in use by another program.</source>
+        <translation>The drive is in use by another program.</translation>
+    </message>
+    <message>
+        <source>The drive cannot be rid of its volumes, error %1.</source>
+        <translation>The drive cannot be rid of its volumes, error %1.</translation>
+    </message>
+    <message>
+        <source>Volume %1 is in use and cannot be unmounted.</source>
+        <translation>Volume %1 is in use and cannot be unmounted.</translation>
+    </message>
+    <message>
+        <source>Volume %1 cannot be unmounted, error %2.</source>
+        <translation>Volume %1 cannot be unmounted, error %2.</translation>
+    </message>
+    <message>
+        <source>Nothing was written.</source>
+        <translation>Nothing was written.</translation>
+    </message>
+    <message>
+        <source>Not mounted again: %1</source>
+        <translation>Not mounted again: %1</translation>
     </message>
 </context>
 <context>

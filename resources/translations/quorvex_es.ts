@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es_ES" sourcelanguage="zh_CN">
 <context>
+    <name>BaseWipeWorker</name>
+    <message>
+        <source>内存分配失败</source>
+        <translation>No se pudo asignar memoria</translation>
+    </message>
+</context>
+<context>
     <name>CertificateDialog</name>
     <message>
         <source>Erasure Certificate - %1</source>
@@ -1271,6 +1278,22 @@
         <source>  not everything will be erased:</source>
         <translation>  no se borrará todo:</translation>
     </message>
+    <message>
+        <source>  the whole drive: its partition table and everything between and outside its volumes</source>
+        <translation>  la unidad completa: su tabla de particiones y todo lo que hay entre sus volúmenes y fuera de ellos</translation>
+    </message>
+    <message>
+        <source>  its volumes are unmounted before, and stay so once something was written</source>
+        <translation>  antes se desmontan sus volúmenes, que quedan así en cuanto se haya escrito algo</translation>
+    </message>
+    <message>
+        <source>Of a drive with mounted volumes only these are erased; --whole unmounts them and erases every sector of the drive.</source>
+        <translation>De una unidad con volúmenes montados solo se borran estos; --whole los desmonta y borra todos los sectores de la unidad.</translation>
+    </message>
+    <message>
+        <source>Unmount all volumes of the drive and erase every sector of it</source>
+        <translation>Desmontar todos los volúmenes de la unidad y borrar todos sus sectores</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>
@@ -1318,6 +1341,10 @@ Se ha generado un certificado de borrado.</translation>
         <source>Close</source>
         <translation>Cerrar</translation>
     </message>
+    <message>
+        <source>Left unmounted: %1</source>
+        <translation>Quedan desmontados: %1</translation>
+    </message>
 </context>
 <context>
     <name>ConfirmDialog</name>
@@ -1348,6 +1375,22 @@ Se ha generado un certificado de borrado.</translation>
     <message>
         <source>Confirm</source>
         <translation>Confirmar</translation>
+    </message>
+    <message>
+        <source>Erase the whole disk
+(otherwise all outside its volumes stays)</source>
+        <translation>Borrar el disco completo
+(si no, se conserva todo lo que hay fuera de sus volúmenes)</translation>
+    </message>
+    <message>
+        <source>Erase the whole disk
+(otherwise %1 outside its volumes stay)</source>
+        <translation>Borrar el disco completo
+(si no, se conservan %1 fuera de sus volúmenes)</translation>
+    </message>
+    <message>
+        <source>Every sector is overwritten, the partition table too. All volumes of the disk are unmounted before.</source>
+        <translation>Se sobrescriben todos los sectores, también la tabla de particiones. Antes se desmontan todos los volúmenes del disco.</translation>
     </message>
 </context>
 <context>
@@ -1707,6 +1750,18 @@ Se ha generado un certificado de borrado.</translation>
         <source>未知</source>
         <translation>desconocido</translation>
     </message>
+    <message>
+        <source>卷 %1 又被挂载，未写入任何数据</source>
+        <translation>El volumen %1 se ha vuelto a montar, no se ha escrito nada</translation>
+    </message>
+    <message>
+        <source>磁盘未能恢复联机，错误码: %1</source>
+        <translation>No se ha podido volver a poner el disco en línea, código de error: %1</translation>
+    </message>
+    <message>
+        <source>已重新挂载: %1</source>
+        <translation>Montado de nuevo: %1</translation>
+    </message>
 </context>
 <context>
     <name>FileSelectPage</name>
@@ -1818,10 +1873,6 @@ Se ha generado un certificado de borrado.</translation>
         <translation>Archivos listos para borrar: %1, tamaño total por pasada: %2</translation>
     </message>
     <message>
-        <source>文件系统 %1 不在原位置写入，旧数据可能仍留在介质上</source>
-        <translation>El sistema de archivos %1 no escribe en la misma posición, los datos antiguos pueden permanecer en el soporte</translation>
-    </message>
-    <message>
         <source>所有文件为空，跳过数据覆写</source>
         <translation>Todos los archivos están vacíos, se omite la sobrescritura</translation>
     </message>
@@ -1860,6 +1911,14 @@ Se ha generado un certificado de borrado.</translation>
     <message>
         <source>无法删除文件夹: %1，错误码: %2</source>
         <translation>No se puede eliminar la carpeta: %1, código de error: %2</translation>
+    </message>
+    <message>
+        <source>文件已被替换，保持原样: %1</source>
+        <translation>El archivo ha sido sustituido por otro, que se deja como está: %1</translation>
+    </message>
+    <message>
+        <source>%1 个文件的内容可能还保存在别处，未被覆写</source>
+        <translation>El contenido de %1 archivos puede estar también en otro lugar, donde no se ha sobrescrito</translation>
     </message>
 </context>
 <context>
@@ -2819,6 +2878,30 @@ La aplicación se reiniciará ahora.</translation>
     <message>
         <source>擦除失败</source>
         <translation>Error en el borrado</translation>
+    </message>
+    <message>
+        <source>The drive is in use by another program.</source>
+        <translation>Otro programa está usando la unidad.</translation>
+    </message>
+    <message>
+        <source>The drive cannot be rid of its volumes, error %1.</source>
+        <translation>No se pueden retirar los volúmenes de la unidad, error %1.</translation>
+    </message>
+    <message>
+        <source>Volume %1 is in use and cannot be unmounted.</source>
+        <translation>El volumen %1 está en uso y no se puede desmontar.</translation>
+    </message>
+    <message>
+        <source>Volume %1 cannot be unmounted, error %2.</source>
+        <translation>El volumen %1 no se puede desmontar, error %2.</translation>
+    </message>
+    <message>
+        <source>Nothing was written.</source>
+        <translation>No se ha escrito nada.</translation>
+    </message>
+    <message>
+        <source>Not mounted again: %1</source>
+        <translation>No se ha vuelto a montar: %1</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr_FR" sourcelanguage="zh_CN">
 <context>
+    <name>BaseWipeWorker</name>
+    <message>
+        <source>内存分配失败</source>
+        <translation>Échec de l&apos;allocation de mémoire</translation>
+    </message>
+</context>
+<context>
     <name>CertificateDialog</name>
     <message>
         <source>Erasure Certificate - %1</source>
@@ -1271,6 +1278,22 @@
         <source>  not everything will be erased:</source>
         <translation>  une partie ne sera pas effacée&#xa0;:</translation>
     </message>
+    <message>
+        <source>  the whole drive: its partition table and everything between and outside its volumes</source>
+        <translation>  le disque entier&#xa0;: sa table de partitions et tout ce qui se trouve entre ses volumes et hors de ceux-ci</translation>
+    </message>
+    <message>
+        <source>  its volumes are unmounted before, and stay so once something was written</source>
+        <translation>  ses volumes sont démontés auparavant et le restent dès que quelque chose a été écrit</translation>
+    </message>
+    <message>
+        <source>Of a drive with mounted volumes only these are erased; --whole unmounts them and erases every sector of the drive.</source>
+        <translation>D&apos;un disque dont des volumes sont montés, seuls ceux-ci sont effacés&#xa0;; --whole les démonte et efface chaque secteur du disque.</translation>
+    </message>
+    <message>
+        <source>Unmount all volumes of the drive and erase every sector of it</source>
+        <translation>Démonter tous les volumes du disque et effacer chacun de ses secteurs</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>
@@ -1318,6 +1341,10 @@ Un certificat d&apos;effacement a été généré.</translation>
         <source>Close</source>
         <translation>Fermer</translation>
     </message>
+    <message>
+        <source>Left unmounted: %1</source>
+        <translation>Restés démontés&#xa0;: %1</translation>
+    </message>
 </context>
 <context>
     <name>ConfirmDialog</name>
@@ -1348,6 +1375,22 @@ Un certificat d&apos;effacement a été généré.</translation>
     <message>
         <source>Confirm</source>
         <translation>Confirmer</translation>
+    </message>
+    <message>
+        <source>Erase the whole disk
+(otherwise all outside its volumes stays)</source>
+        <translation>Effacer le disque entier
+(sinon, tout ce qui est hors de ses volumes reste)</translation>
+    </message>
+    <message>
+        <source>Erase the whole disk
+(otherwise %1 outside its volumes stay)</source>
+        <translation>Effacer le disque entier
+(sinon, %1 restent hors de ses volumes)</translation>
+    </message>
+    <message>
+        <source>Every sector is overwritten, the partition table too. All volumes of the disk are unmounted before.</source>
+        <translation>Chaque secteur est écrasé, la table de partitions aussi. Tous les volumes du disque sont démontés auparavant.</translation>
     </message>
 </context>
 <context>
@@ -1707,6 +1750,18 @@ Un certificat d&apos;effacement a été généré.</translation>
         <source>未知</source>
         <translation>inconnu</translation>
     </message>
+    <message>
+        <source>卷 %1 又被挂载，未写入任何数据</source>
+        <translation>Le volume %1 a été remonté, rien n&apos;a été écrit</translation>
+    </message>
+    <message>
+        <source>磁盘未能恢复联机，错误码: %1</source>
+        <translation>Le disque n&apos;a pas pu être remis en ligne, code d&apos;erreur&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>已重新挂载: %1</source>
+        <translation>Remonté&#xa0;: %1</translation>
+    </message>
 </context>
 <context>
     <name>FileSelectPage</name>
@@ -1818,10 +1873,6 @@ Un certificat d&apos;effacement a été généré.</translation>
         <translation>Fichiers prêts à être effacés&#xa0;: %1, taille totale par passe&#xa0;: %2</translation>
     </message>
     <message>
-        <source>文件系统 %1 不在原位置写入，旧数据可能仍留在介质上</source>
-        <translation>Le système de fichiers %1 n&apos;écrit pas sur place, d&apos;anciennes données peuvent subsister sur le support</translation>
-    </message>
-    <message>
         <source>所有文件为空，跳过数据覆写</source>
         <translation>Tous les fichiers sont vides, écrasement des données ignoré</translation>
     </message>
@@ -1860,6 +1911,14 @@ Un certificat d&apos;effacement a été généré.</translation>
     <message>
         <source>无法删除文件夹: %1，错误码: %2</source>
         <translation>Impossible de supprimer le dossier&#xa0;: %1, code d&apos;erreur&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>文件已被替换，保持原样: %1</source>
+        <translation>Le fichier a été remplacé par un autre, qui reste tel quel&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>%1 个文件的内容可能还保存在别处，未被覆写</source>
+        <translation>Le contenu de %1 fichiers se trouve peut-être aussi ailleurs, où il n&apos;a pas été écrasé</translation>
     </message>
 </context>
 <context>
@@ -2819,6 +2878,30 @@ L&apos;application va maintenant redémarrer.</translation>
     <message>
         <source>擦除失败</source>
         <translation>Échec de l&apos;effacement</translation>
+    </message>
+    <message>
+        <source>The drive is in use by another program.</source>
+        <translation>Le disque est utilisé par un autre programme.</translation>
+    </message>
+    <message>
+        <source>The drive cannot be rid of its volumes, error %1.</source>
+        <translation>Les volumes du disque ne peuvent pas en être détachés, erreur %1.</translation>
+    </message>
+    <message>
+        <source>Volume %1 is in use and cannot be unmounted.</source>
+        <translation>Le volume %1 est utilisé et ne peut pas être démonté.</translation>
+    </message>
+    <message>
+        <source>Volume %1 cannot be unmounted, error %2.</source>
+        <translation>Le volume %1 ne peut pas être démonté, erreur %2.</translation>
+    </message>
+    <message>
+        <source>Nothing was written.</source>
+        <translation>Rien n&apos;a été écrit.</translation>
+    </message>
+    <message>
+        <source>Not mounted again: %1</source>
+        <translation>Non remonté&#xa0;: %1</translation>
     </message>
 </context>
 <context>

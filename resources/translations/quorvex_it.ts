@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="it_IT" sourcelanguage="zh_CN">
 <context>
+    <name>BaseWipeWorker</name>
+    <message>
+        <source>内存分配失败</source>
+        <translation>Allocazione di memoria non riuscita</translation>
+    </message>
+</context>
+<context>
     <name>CertificateDialog</name>
     <message>
         <source>Erasure Certificate - %1</source>
@@ -1271,6 +1278,22 @@
         <source>  not everything will be erased:</source>
         <translation>  non verrà cancellato tutto:</translation>
     </message>
+    <message>
+        <source>  the whole drive: its partition table and everything between and outside its volumes</source>
+        <translation>  l&apos;intera unità: la tabella delle partizioni e tutto ciò che si trova tra i volumi e al di fuori di essi</translation>
+    </message>
+    <message>
+        <source>  its volumes are unmounted before, and stay so once something was written</source>
+        <translation>  i suoi volumi vengono prima smontati e restano tali non appena qualcosa è stato scritto</translation>
+    </message>
+    <message>
+        <source>Of a drive with mounted volumes only these are erased; --whole unmounts them and erases every sector of the drive.</source>
+        <translation>Di una unità con volumi montati vengono cancellati solo questi; --whole li smonta e cancella ogni settore dell&apos;unità.</translation>
+    </message>
+    <message>
+        <source>Unmount all volumes of the drive and erase every sector of it</source>
+        <translation>Smonta tutti i volumi dell&apos;unità e ne cancella ogni settore</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>
@@ -1318,6 +1341,10 @@ An erasure certificate has been generated.</source>
         <source>Close</source>
         <translation>Chiudi</translation>
     </message>
+    <message>
+        <source>Left unmounted: %1</source>
+        <translation>Rimasti smontati: %1</translation>
+    </message>
 </context>
 <context>
     <name>ConfirmDialog</name>
@@ -1348,6 +1375,22 @@ An erasure certificate has been generated.</source>
     <message>
         <source>Confirm</source>
         <translation>Conferma</translation>
+    </message>
+    <message>
+        <source>Erase the whole disk
+(otherwise all outside its volumes stays)</source>
+        <translation>Cancella l&apos;intero disco
+(altrimenti resta tutto ciò che è fuori dai volumi)</translation>
+    </message>
+    <message>
+        <source>Erase the whole disk
+(otherwise %1 outside its volumes stay)</source>
+        <translation>Cancella l&apos;intero disco
+(altrimenti restano %1 fuori dai volumi)</translation>
+    </message>
+    <message>
+        <source>Every sector is overwritten, the partition table too. All volumes of the disk are unmounted before.</source>
+        <translation>Ogni settore viene sovrascritto, anche la tabella delle partizioni. Prima vengono smontati tutti i volumi del disco.</translation>
     </message>
 </context>
 <context>
@@ -1707,6 +1750,18 @@ An erasure certificate has been generated.</source>
         <source>未知</source>
         <translation>sconosciuto</translation>
     </message>
+    <message>
+        <source>卷 %1 又被挂载，未写入任何数据</source>
+        <translation>Il volume %1 è stato montato di nuovo, non è stato scritto nulla</translation>
+    </message>
+    <message>
+        <source>磁盘未能恢复联机，错误码: %1</source>
+        <translation>Non è stato possibile riportare il disco online, codice di errore: %1</translation>
+    </message>
+    <message>
+        <source>已重新挂载: %1</source>
+        <translation>Montato di nuovo: %1</translation>
+    </message>
 </context>
 <context>
     <name>FileSelectPage</name>
@@ -1818,10 +1873,6 @@ An erasure certificate has been generated.</source>
         <translation>File pronti per la cancellazione: %1, dimensione totale per passaggio: %2</translation>
     </message>
     <message>
-        <source>文件系统 %1 不在原位置写入，旧数据可能仍留在介质上</source>
-        <translation>Il file system %1 non scrive sul posto, i vecchi dati potrebbero rimanere sul supporto</translation>
-    </message>
-    <message>
         <source>所有文件为空，跳过数据覆写</source>
         <translation>Tutti i file sono vuoti, sovrascrittura dei dati omessa</translation>
     </message>
@@ -1860,6 +1911,14 @@ An erasure certificate has been generated.</source>
     <message>
         <source>无法删除文件夹: %1，错误码: %2</source>
         <translation>Impossibile eliminare la cartella: %1, codice di errore: %2</translation>
+    </message>
+    <message>
+        <source>文件已被替换，保持原样: %1</source>
+        <translation>Il file è stato sostituito da un altro, che resta com&apos;è: %1</translation>
+    </message>
+    <message>
+        <source>%1 个文件的内容可能还保存在别处，未被覆写</source>
+        <translation>Il contenuto di %1 file può trovarsi anche altrove, dove non è stato sovrascritto</translation>
     </message>
 </context>
 <context>
@@ -2819,6 +2878,30 @@ L&apos;applicazione verrà ora riavviata.</translation>
     <message>
         <source>擦除失败</source>
         <translation>Cancellazione non riuscita</translation>
+    </message>
+    <message>
+        <source>The drive is in use by another program.</source>
+        <translation>L&apos;unità è in uso da un altro programma.</translation>
+    </message>
+    <message>
+        <source>The drive cannot be rid of its volumes, error %1.</source>
+        <translation>Non è possibile staccare i volumi dell&apos;unità, errore %1.</translation>
+    </message>
+    <message>
+        <source>Volume %1 is in use and cannot be unmounted.</source>
+        <translation>Il volume %1 è in uso e non può essere smontato.</translation>
+    </message>
+    <message>
+        <source>Volume %1 cannot be unmounted, error %2.</source>
+        <translation>Il volume %1 non può essere smontato, errore %2.</translation>
+    </message>
+    <message>
+        <source>Nothing was written.</source>
+        <translation>Non è stato scritto nulla.</translation>
+    </message>
+    <message>
+        <source>Not mounted again: %1</source>
+        <translation>Non montato di nuovo: %1</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja_JP" sourcelanguage="zh_CN">
 <context>
+    <name>BaseWipeWorker</name>
+    <message>
+        <source>内存分配失败</source>
+        <translation>メモリの割り当てに失敗しました</translation>
+    </message>
+</context>
+<context>
     <name>CertificateDialog</name>
     <message>
         <source>Erasure Certificate - %1</source>
@@ -1271,6 +1278,22 @@
         <source>  not everything will be erased:</source>
         <translation>  一部は消去されません:</translation>
     </message>
+    <message>
+        <source>  the whole drive: its partition table and everything between and outside its volumes</source>
+        <translation>  ドライブ全体: パーティションテーブルと、ボリュームの間および外側のすべて</translation>
+    </message>
+    <message>
+        <source>  its volumes are unmounted before, and stay so once something was written</source>
+        <translation>  ボリュームは事前にアンマウントされ、何かが書き込まれた後はそのままになります</translation>
+    </message>
+    <message>
+        <source>Of a drive with mounted volumes only these are erased; --whole unmounts them and erases every sector of the drive.</source>
+        <translation>マウントされたボリュームがあるドライブでは、それらだけが消去されます。--whole はそれらをアンマウントし、ドライブの全セクターを消去します。</translation>
+    </message>
+    <message>
+        <source>Unmount all volumes of the drive and erase every sector of it</source>
+        <translation>ドライブの全ボリュームをアンマウントし、全セクターを消去する</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>
@@ -1318,6 +1341,10 @@ An erasure certificate has been generated.</source>
         <source>Close</source>
         <translation>閉じる</translation>
     </message>
+    <message>
+        <source>Left unmounted: %1</source>
+        <translation>アンマウントされたまま: %1</translation>
+    </message>
 </context>
 <context>
     <name>ConfirmDialog</name>
@@ -1348,6 +1375,22 @@ An erasure certificate has been generated.</source>
     <message>
         <source>Confirm</source>
         <translation>消去する</translation>
+    </message>
+    <message>
+        <source>Erase the whole disk
+(otherwise all outside its volumes stays)</source>
+        <translation>ディスク全体を消去する
+(しない場合、ボリューム外のすべてが残ります)</translation>
+    </message>
+    <message>
+        <source>Erase the whole disk
+(otherwise %1 outside its volumes stay)</source>
+        <translation>ディスク全体を消去する
+(しない場合、ボリューム外の %1 が残ります)</translation>
+    </message>
+    <message>
+        <source>Every sector is overwritten, the partition table too. All volumes of the disk are unmounted before.</source>
+        <translation>パーティションテーブルを含む全セクターが上書きされます。事前にディスクの全ボリュームがアンマウントされます。</translation>
     </message>
 </context>
 <context>
@@ -1707,6 +1750,18 @@ An erasure certificate has been generated.</source>
         <source>未知</source>
         <translation>不明</translation>
     </message>
+    <message>
+        <source>卷 %1 又被挂载，未写入任何数据</source>
+        <translation>ボリューム %1 が再びマウントされたため、何も書き込まれませんでした</translation>
+    </message>
+    <message>
+        <source>磁盘未能恢复联机，错误码: %1</source>
+        <translation>ディスクをオンラインに戻せませんでした。エラーコード: %1</translation>
+    </message>
+    <message>
+        <source>已重新挂载: %1</source>
+        <translation>再マウントしました: %1</translation>
+    </message>
 </context>
 <context>
     <name>FileSelectPage</name>
@@ -1818,10 +1873,6 @@ An erasure certificate has been generated.</source>
         <translation>%1 個のファイルを消去します (上書き 1 回あたりの合計サイズ: %2)</translation>
     </message>
     <message>
-        <source>文件系统 %1 不在原位置写入，旧数据可能仍留在介质上</source>
-        <translation>ファイルシステム %1 は元の位置に上書きしないため、古いデータがメディアに残る可能性があります</translation>
-    </message>
-    <message>
         <source>所有文件为空，跳过数据覆写</source>
         <translation>すべてのファイルが空のため、データの上書きを省略します</translation>
     </message>
@@ -1860,6 +1911,14 @@ An erasure certificate has been generated.</source>
     <message>
         <source>无法删除文件夹: %1，错误码: %2</source>
         <translation>フォルダーを削除できません: %1 (エラーコード: %2)</translation>
+    </message>
+    <message>
+        <source>文件已被替换，保持原样: %1</source>
+        <translation>ファイルが別のものに置き換えられたため、そのまま残します: %1</translation>
+    </message>
+    <message>
+        <source>%1 个文件的内容可能还保存在别处，未被覆写</source>
+        <translation>%1 個のファイルの内容は、上書きされない別の場所にも残っている可能性があります</translation>
     </message>
 </context>
 <context>
@@ -2819,6 +2878,30 @@ The application will restart now.</source>
     <message>
         <source>擦除失败</source>
         <translation>消去に失敗しました</translation>
+    </message>
+    <message>
+        <source>The drive is in use by another program.</source>
+        <translation>ドライブは別のプログラムで使用中です。</translation>
+    </message>
+    <message>
+        <source>The drive cannot be rid of its volumes, error %1.</source>
+        <translation>ドライブのボリュームを切り離せません。エラー %1。</translation>
+    </message>
+    <message>
+        <source>Volume %1 is in use and cannot be unmounted.</source>
+        <translation>ボリューム %1 は使用中のため、アンマウントできません。</translation>
+    </message>
+    <message>
+        <source>Volume %1 cannot be unmounted, error %2.</source>
+        <translation>ボリューム %1 をアンマウントできません。エラー %2。</translation>
+    </message>
+    <message>
+        <source>Nothing was written.</source>
+        <translation>何も書き込まれませんでした。</translation>
+    </message>
+    <message>
+        <source>Not mounted again: %1</source>
+        <translation>再マウントされていません: %1</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ko_KR" sourcelanguage="zh_CN">
 <context>
+    <name>BaseWipeWorker</name>
+    <message>
+        <source>内存分配失败</source>
+        <translation>메모리 할당에 실패했습니다</translation>
+    </message>
+</context>
+<context>
     <name>CertificateDialog</name>
     <message>
         <source>Erasure Certificate - %1</source>
@@ -1271,6 +1278,22 @@
         <source>  not everything will be erased:</source>
         <translation>  일부는 소거되지 않습니다:</translation>
     </message>
+    <message>
+        <source>  the whole drive: its partition table and everything between and outside its volumes</source>
+        <translation>  드라이브 전체: 파티션 테이블과 볼륨 사이 및 볼륨 밖의 모든 영역</translation>
+    </message>
+    <message>
+        <source>  its volumes are unmounted before, and stay so once something was written</source>
+        <translation>  볼륨은 먼저 마운트 해제되며, 무언가 기록된 후에는 그 상태로 남습니다</translation>
+    </message>
+    <message>
+        <source>Of a drive with mounted volumes only these are erased; --whole unmounts them and erases every sector of the drive.</source>
+        <translation>마운트된 볼륨이 있는 드라이브는 그 볼륨만 삭제됩니다. --whole은 볼륨을 마운트 해제하고 드라이브의 모든 섹터를 삭제합니다.</translation>
+    </message>
+    <message>
+        <source>Unmount all volumes of the drive and erase every sector of it</source>
+        <translation>드라이브의 모든 볼륨을 마운트 해제하고 모든 섹터를 삭제</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>
@@ -1318,6 +1341,10 @@ An erasure certificate has been generated.</source>
         <source>Close</source>
         <translation>닫기</translation>
     </message>
+    <message>
+        <source>Left unmounted: %1</source>
+        <translation>마운트 해제된 상태로 남음: %1</translation>
+    </message>
 </context>
 <context>
     <name>ConfirmDialog</name>
@@ -1348,6 +1375,22 @@ An erasure certificate has been generated.</source>
     <message>
         <source>Confirm</source>
         <translation>확인</translation>
+    </message>
+    <message>
+        <source>Erase the whole disk
+(otherwise all outside its volumes stays)</source>
+        <translation>디스크 전체 삭제
+(그렇지 않으면 볼륨 밖의 모든 것이 남습니다)</translation>
+    </message>
+    <message>
+        <source>Erase the whole disk
+(otherwise %1 outside its volumes stay)</source>
+        <translation>디스크 전체 삭제
+(그렇지 않으면 볼륨 밖의 %1이(가) 남습니다)</translation>
+    </message>
+    <message>
+        <source>Every sector is overwritten, the partition table too. All volumes of the disk are unmounted before.</source>
+        <translation>파티션 테이블을 포함한 모든 섹터를 덮어씁니다. 그 전에 디스크의 모든 볼륨이 마운트 해제됩니다.</translation>
     </message>
 </context>
 <context>
@@ -1707,6 +1750,18 @@ An erasure certificate has been generated.</source>
         <source>未知</source>
         <translation>알 수 없음</translation>
     </message>
+    <message>
+        <source>卷 %1 又被挂载，未写入任何数据</source>
+        <translation>볼륨 %1이(가) 다시 마운트되어 아무것도 기록되지 않았습니다</translation>
+    </message>
+    <message>
+        <source>磁盘未能恢复联机，错误码: %1</source>
+        <translation>디스크를 다시 온라인으로 전환할 수 없습니다. 오류 코드: %1</translation>
+    </message>
+    <message>
+        <source>已重新挂载: %1</source>
+        <translation>다시 마운트됨: %1</translation>
+    </message>
 </context>
 <context>
     <name>FileSelectPage</name>
@@ -1818,10 +1873,6 @@ An erasure certificate has been generated.</source>
         <translation>파일 %1개 소거 준비, 덮어쓰기 1회당 전체 크기 %2</translation>
     </message>
     <message>
-        <source>文件系统 %1 不在原位置写入，旧数据可能仍留在介质上</source>
-        <translation>파일 시스템 %1은(는) 원래 위치에 덮어쓰지 않으므로 이전 데이터가 매체에 남아 있을 수 있습니다</translation>
-    </message>
-    <message>
         <source>所有文件为空，跳过数据覆写</source>
         <translation>모든 파일이 비어 있어 데이터 덮어쓰기를 건너뜁니다</translation>
     </message>
@@ -1860,6 +1911,14 @@ An erasure certificate has been generated.</source>
     <message>
         <source>无法删除文件夹: %1，错误码: %2</source>
         <translation>폴더를 삭제할 수 없습니다: %1, 오류 코드: %2</translation>
+    </message>
+    <message>
+        <source>文件已被替换，保持原样: %1</source>
+        <translation>파일이 다른 파일로 바뀌어 그대로 둡니다: %1</translation>
+    </message>
+    <message>
+        <source>%1 个文件的内容可能还保存在别处，未被覆写</source>
+        <translation>파일 %1개의 내용이 덮어쓰지 않은 다른 곳에도 남아 있을 수 있습니다</translation>
     </message>
 </context>
 <context>
@@ -2819,6 +2878,30 @@ The application will restart now.</source>
     <message>
         <source>擦除失败</source>
         <translation>소거에 실패했습니다</translation>
+    </message>
+    <message>
+        <source>The drive is in use by another program.</source>
+        <translation>다른 프로그램이 드라이브를 사용 중입니다.</translation>
+    </message>
+    <message>
+        <source>The drive cannot be rid of its volumes, error %1.</source>
+        <translation>드라이브의 볼륨을 분리할 수 없습니다. 오류 %1.</translation>
+    </message>
+    <message>
+        <source>Volume %1 is in use and cannot be unmounted.</source>
+        <translation>볼륨 %1은(는) 사용 중이어서 마운트 해제할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>Volume %1 cannot be unmounted, error %2.</source>
+        <translation>볼륨 %1을(를) 마운트 해제할 수 없습니다. 오류 %2.</translation>
+    </message>
+    <message>
+        <source>Nothing was written.</source>
+        <translation>아무것도 기록되지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>Not mounted again: %1</source>
+        <translation>다시 마운트되지 않음: %1</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="nl_NL" sourcelanguage="zh_CN">
 <context>
+    <name>BaseWipeWorker</name>
+    <message>
+        <source>内存分配失败</source>
+        <translation>Geheugentoewijzing mislukt</translation>
+    </message>
+</context>
+<context>
     <name>CertificateDialog</name>
     <message>
         <source>Erasure Certificate - %1</source>
@@ -1271,6 +1278,22 @@
         <source>  not everything will be erased:</source>
         <translation>  niet alles wordt gewist:</translation>
     </message>
+    <message>
+        <source>  the whole drive: its partition table and everything between and outside its volumes</source>
+        <translation>  het hele station: de partitietabel en alles tussen en buiten de volumes</translation>
+    </message>
+    <message>
+        <source>  its volumes are unmounted before, and stay so once something was written</source>
+        <translation>  de volumes worden eerst ontkoppeld en blijven dat zodra er iets is geschreven</translation>
+    </message>
+    <message>
+        <source>Of a drive with mounted volumes only these are erased; --whole unmounts them and erases every sector of the drive.</source>
+        <translation>Van een station met gekoppelde volumes worden alleen deze gewist; --whole ontkoppelt ze en wist elke sector van het station.</translation>
+    </message>
+    <message>
+        <source>Unmount all volumes of the drive and erase every sector of it</source>
+        <translation>Alle volumes van het station ontkoppelen en elke sector ervan wissen</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>
@@ -1318,6 +1341,10 @@ Er is een wiscertificaat aangemaakt.</translation>
         <source>Close</source>
         <translation>Sluiten</translation>
     </message>
+    <message>
+        <source>Left unmounted: %1</source>
+        <translation>Ontkoppeld gebleven: %1</translation>
+    </message>
 </context>
 <context>
     <name>ConfirmDialog</name>
@@ -1348,6 +1375,22 @@ Er is een wiscertificaat aangemaakt.</translation>
     <message>
         <source>Confirm</source>
         <translation>Bevestigen</translation>
+    </message>
+    <message>
+        <source>Erase the whole disk
+(otherwise all outside its volumes stays)</source>
+        <translation>De hele schijf wissen
+(anders blijft alles buiten de volumes staan)</translation>
+    </message>
+    <message>
+        <source>Erase the whole disk
+(otherwise %1 outside its volumes stay)</source>
+        <translation>De hele schijf wissen
+(anders blijft %1 buiten de volumes staan)</translation>
+    </message>
+    <message>
+        <source>Every sector is overwritten, the partition table too. All volumes of the disk are unmounted before.</source>
+        <translation>Elke sector wordt overschreven, ook de partitietabel. Alle volumes van de schijf worden eerst ontkoppeld.</translation>
     </message>
 </context>
 <context>
@@ -1707,6 +1750,18 @@ Er is een wiscertificaat aangemaakt.</translation>
         <source>未知</source>
         <translation>onbekend</translation>
     </message>
+    <message>
+        <source>卷 %1 又被挂载，未写入任何数据</source>
+        <translation>Volume %1 is weer gekoppeld, er is niets geschreven</translation>
+    </message>
+    <message>
+        <source>磁盘未能恢复联机，错误码: %1</source>
+        <translation>De schijf kon niet weer online worden gebracht, foutcode: %1</translation>
+    </message>
+    <message>
+        <source>已重新挂载: %1</source>
+        <translation>Weer gekoppeld: %1</translation>
+    </message>
 </context>
 <context>
     <name>FileSelectPage</name>
@@ -1818,10 +1873,6 @@ Er is een wiscertificaat aangemaakt.</translation>
         <translation>Te wissen bestanden: %1, totale grootte per ronde: %2</translation>
     </message>
     <message>
-        <source>文件系统 %1 不在原位置写入，旧数据可能仍留在介质上</source>
-        <translation>Bestandssysteem %1 schrijft niet op de oorspronkelijke plaats, oude gegevens kunnen op het medium achterblijven</translation>
-    </message>
-    <message>
         <source>所有文件为空，跳过数据覆写</source>
         <translation>Alle bestanden zijn leeg, het overschrijven wordt overgeslagen</translation>
     </message>
@@ -1860,6 +1911,14 @@ Er is een wiscertificaat aangemaakt.</translation>
     <message>
         <source>无法删除文件夹: %1，错误码: %2</source>
         <translation>Map kan niet worden verwijderd: %1, foutcode: %2</translation>
+    </message>
+    <message>
+        <source>文件已被替换，保持原样: %1</source>
+        <translation>Het bestand is door een ander vervangen, dat blijft zoals het is: %1</translation>
+    </message>
+    <message>
+        <source>%1 个文件的内容可能还保存在别处，未被覆写</source>
+        <translation>De inhoud van %1 bestanden staat mogelijk ook ergens anders, waar die niet is overschreven</translation>
     </message>
 </context>
 <context>
@@ -2819,6 +2878,30 @@ De toepassing wordt nu opnieuw gestart.</translation>
     <message>
         <source>擦除失败</source>
         <translation>Wissen mislukt</translation>
+    </message>
+    <message>
+        <source>The drive is in use by another program.</source>
+        <translation>Het station is in gebruik door een ander programma.</translation>
+    </message>
+    <message>
+        <source>The drive cannot be rid of its volumes, error %1.</source>
+        <translation>De volumes van het station kunnen niet worden losgemaakt, fout %1.</translation>
+    </message>
+    <message>
+        <source>Volume %1 is in use and cannot be unmounted.</source>
+        <translation>Volume %1 is in gebruik en kan niet worden ontkoppeld.</translation>
+    </message>
+    <message>
+        <source>Volume %1 cannot be unmounted, error %2.</source>
+        <translation>Volume %1 kan niet worden ontkoppeld, fout %2.</translation>
+    </message>
+    <message>
+        <source>Nothing was written.</source>
+        <translation>Er is niets geschreven.</translation>
+    </message>
+    <message>
+        <source>Not mounted again: %1</source>
+        <translation>Niet weer gekoppeld: %1</translation>
     </message>
 </context>
 <context>

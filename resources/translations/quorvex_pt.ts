@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pt_BR" sourcelanguage="zh_CN">
 <context>
+    <name>BaseWipeWorker</name>
+    <message>
+        <source>内存分配失败</source>
+        <translation>Falha ao alocar memória</translation>
+    </message>
+</context>
+<context>
     <name>CertificateDialog</name>
     <message>
         <source>Erasure Certificate - %1</source>
@@ -1271,6 +1278,22 @@
         <source>  not everything will be erased:</source>
         <translation>  nem tudo será apagado:</translation>
     </message>
+    <message>
+        <source>  the whole drive: its partition table and everything between and outside its volumes</source>
+        <translation>  a unidade inteira: a tabela de partições e tudo o que está entre os volumes e fora deles</translation>
+    </message>
+    <message>
+        <source>  its volumes are unmounted before, and stay so once something was written</source>
+        <translation>  os volumes são desmontados antes e assim ficam logo que algo tenha sido escrito</translation>
+    </message>
+    <message>
+        <source>Of a drive with mounted volumes only these are erased; --whole unmounts them and erases every sector of the drive.</source>
+        <translation>De uma unidade com volumes montados só estes são apagados; --whole desmonta-os e apaga todos os setores da unidade.</translation>
+    </message>
+    <message>
+        <source>Unmount all volumes of the drive and erase every sector of it</source>
+        <translation>Desmontar todos os volumes da unidade e apagar todos os seus setores</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>
@@ -1318,6 +1341,10 @@ Um certificado de apagamento foi gerado.</translation>
         <source>Close</source>
         <translation>Fechar</translation>
     </message>
+    <message>
+        <source>Left unmounted: %1</source>
+        <translation>Ficaram desmontados: %1</translation>
+    </message>
 </context>
 <context>
     <name>ConfirmDialog</name>
@@ -1348,6 +1375,22 @@ Um certificado de apagamento foi gerado.</translation>
     <message>
         <source>Confirm</source>
         <translation>Confirmar</translation>
+    </message>
+    <message>
+        <source>Erase the whole disk
+(otherwise all outside its volumes stays)</source>
+        <translation>Apagar o disco inteiro
+(caso contrário, tudo fora dos volumes permanece)</translation>
+    </message>
+    <message>
+        <source>Erase the whole disk
+(otherwise %1 outside its volumes stay)</source>
+        <translation>Apagar o disco inteiro
+(caso contrário, %1 fora dos volumes permanecem)</translation>
+    </message>
+    <message>
+        <source>Every sector is overwritten, the partition table too. All volumes of the disk are unmounted before.</source>
+        <translation>Todos os setores são sobrescritos, incluindo a tabela de partições. Antes são desmontados todos os volumes do disco.</translation>
     </message>
 </context>
 <context>
@@ -1707,6 +1750,18 @@ Um certificado de apagamento foi gerado.</translation>
         <source>未知</source>
         <translation>desconhecido</translation>
     </message>
+    <message>
+        <source>卷 %1 又被挂载，未写入任何数据</source>
+        <translation>O volume %1 foi montado de novo, nada foi escrito</translation>
+    </message>
+    <message>
+        <source>磁盘未能恢复联机，错误码: %1</source>
+        <translation>Não foi possível repor o disco online, código de erro: %1</translation>
+    </message>
+    <message>
+        <source>已重新挂载: %1</source>
+        <translation>Montado de novo: %1</translation>
+    </message>
 </context>
 <context>
     <name>FileSelectPage</name>
@@ -1818,10 +1873,6 @@ Um certificado de apagamento foi gerado.</translation>
         <translation>Arquivos prontos para apagar: %1, tamanho total por passagem: %2</translation>
     </message>
     <message>
-        <source>文件系统 %1 不在原位置写入，旧数据可能仍留在介质上</source>
-        <translation>O sistema de arquivos %1 não grava na mesma posição, os dados antigos podem permanecer na mídia</translation>
-    </message>
-    <message>
         <source>所有文件为空，跳过数据覆写</source>
         <translation>Todos os arquivos estão vazios, a sobrescrita foi ignorada</translation>
     </message>
@@ -1860,6 +1911,14 @@ Um certificado de apagamento foi gerado.</translation>
     <message>
         <source>无法删除文件夹: %1，错误码: %2</source>
         <translation>Não é possível excluir a pasta: %1, código de erro: %2</translation>
+    </message>
+    <message>
+        <source>文件已被替换，保持原样: %1</source>
+        <translation>O ficheiro foi substituído por outro, que fica como está: %1</translation>
+    </message>
+    <message>
+        <source>%1 个文件的内容可能还保存在别处，未被覆写</source>
+        <translation>O conteúdo de %1 ficheiros pode estar também noutro lugar, onde não foi sobrescrito</translation>
     </message>
 </context>
 <context>
@@ -2819,6 +2878,30 @@ O aplicativo será reiniciado agora.</translation>
     <message>
         <source>擦除失败</source>
         <translation>Falha no apagamento</translation>
+    </message>
+    <message>
+        <source>The drive is in use by another program.</source>
+        <translation>A unidade está a ser usada por outro programa.</translation>
+    </message>
+    <message>
+        <source>The drive cannot be rid of its volumes, error %1.</source>
+        <translation>Não é possível libertar a unidade dos seus volumes, erro %1.</translation>
+    </message>
+    <message>
+        <source>Volume %1 is in use and cannot be unmounted.</source>
+        <translation>O volume %1 está em uso e não pode ser desmontado.</translation>
+    </message>
+    <message>
+        <source>Volume %1 cannot be unmounted, error %2.</source>
+        <translation>O volume %1 não pode ser desmontado, erro %2.</translation>
+    </message>
+    <message>
+        <source>Nothing was written.</source>
+        <translation>Nada foi escrito.</translation>
+    </message>
+    <message>
+        <source>Not mounted again: %1</source>
+        <translation>Não montado de novo: %1</translation>
     </message>
 </context>
 <context>

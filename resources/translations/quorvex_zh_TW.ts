@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_TW" sourcelanguage="zh_CN">
 <context>
+    <name>BaseWipeWorker</name>
+    <message>
+        <source>内存分配失败</source>
+        <translation>記憶體配置失敗</translation>
+    </message>
+</context>
+<context>
     <name>CertificateDialog</name>
     <message>
         <source>Erasure Certificate - %1</source>
@@ -1271,6 +1278,22 @@
         <source>  not everything will be erased:</source>
         <translation>  並非所有內容都會被抹除：</translation>
     </message>
+    <message>
+        <source>  the whole drive: its partition table and everything between and outside its volumes</source>
+        <translation>  整個磁碟：分割表，以及各磁碟區之間和之外的所有內容</translation>
+    </message>
+    <message>
+        <source>  its volumes are unmounted before, and stay so once something was written</source>
+        <translation>  事先會卸載其磁碟區，一旦寫入過資料便維持卸載</translation>
+    </message>
+    <message>
+        <source>Of a drive with mounted volumes only these are erased; --whole unmounts them and erases every sector of the drive.</source>
+        <translation>若磁碟有已掛載的磁碟區，只會抹除這些磁碟區；--whole 會卸載它們並抹除磁碟的每個磁區。</translation>
+    </message>
+    <message>
+        <source>Unmount all volumes of the drive and erase every sector of it</source>
+        <translation>卸載磁碟的所有磁碟區並抹除其每個磁區</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>
@@ -1318,6 +1341,10 @@ An erasure certificate has been generated.</source>
         <source>Close</source>
         <translation>關閉</translation>
     </message>
+    <message>
+        <source>Left unmounted: %1</source>
+        <translation>維持卸載：%1</translation>
+    </message>
 </context>
 <context>
     <name>ConfirmDialog</name>
@@ -1348,6 +1375,22 @@ An erasure certificate has been generated.</source>
     <message>
         <source>Confirm</source>
         <translation>確認</translation>
+    </message>
+    <message>
+        <source>Erase the whole disk
+(otherwise all outside its volumes stays)</source>
+        <translation>抹除整個磁碟
+（否則磁碟區以外的一切都會保留）</translation>
+    </message>
+    <message>
+        <source>Erase the whole disk
+(otherwise %1 outside its volumes stay)</source>
+        <translation>抹除整個磁碟
+（否則磁碟區以外的 %1 會保留）</translation>
+    </message>
+    <message>
+        <source>Every sector is overwritten, the partition table too. All volumes of the disk are unmounted before.</source>
+        <translation>每個磁區都會被覆寫，包括分割表。事先會卸載磁碟的所有磁碟區。</translation>
     </message>
 </context>
 <context>
@@ -1707,6 +1750,18 @@ An erasure certificate has been generated.</source>
         <source>未知</source>
         <translation>未知</translation>
     </message>
+    <message>
+        <source>卷 %1 又被挂载，未写入任何数据</source>
+        <translation>磁碟區 %1 又被掛載，未寫入任何資料</translation>
+    </message>
+    <message>
+        <source>磁盘未能恢复联机，错误码: %1</source>
+        <translation>磁碟未能恢復連線，錯誤碼：%1</translation>
+    </message>
+    <message>
+        <source>已重新挂载: %1</source>
+        <translation>已重新掛載：%1</translation>
+    </message>
 </context>
 <context>
     <name>FileSelectPage</name>
@@ -1818,10 +1873,6 @@ An erasure certificate has been generated.</source>
         <translation>準備抹除 %1 個檔案，每次覆寫總計 %2</translation>
     </message>
     <message>
-        <source>文件系统 %1 不在原位置写入，旧数据可能仍留在介质上</source>
-        <translation>檔案系統 %1 不會在原位置寫入，舊資料可能仍留在儲存媒體上</translation>
-    </message>
-    <message>
         <source>所有文件为空，跳过数据覆写</source>
         <translation>所有檔案皆為空，略過資料覆寫</translation>
     </message>
@@ -1860,6 +1911,14 @@ An erasure certificate has been generated.</source>
     <message>
         <source>无法删除文件夹: %1，错误码: %2</source>
         <translation>無法刪除資料夾：%1，錯誤碼：%2</translation>
+    </message>
+    <message>
+        <source>文件已被替换，保持原样: %1</source>
+        <translation>檔案已被取代，保持原樣：%1</translation>
+    </message>
+    <message>
+        <source>%1 个文件的内容可能还保存在别处，未被覆写</source>
+        <translation>%1 個檔案的內容可能還保存在別處，未被覆寫</translation>
     </message>
 </context>
 <context>
@@ -2819,6 +2878,30 @@ The application will restart now.</source>
     <message>
         <source>擦除失败</source>
         <translation>抹除失敗</translation>
+    </message>
+    <message>
+        <source>The drive is in use by another program.</source>
+        <translation>磁碟正由其他程式使用。</translation>
+    </message>
+    <message>
+        <source>The drive cannot be rid of its volumes, error %1.</source>
+        <translation>無法卸除磁碟的磁碟區，錯誤 %1。</translation>
+    </message>
+    <message>
+        <source>Volume %1 is in use and cannot be unmounted.</source>
+        <translation>磁碟區 %1 使用中，無法卸載。</translation>
+    </message>
+    <message>
+        <source>Volume %1 cannot be unmounted, error %2.</source>
+        <translation>磁碟區 %1 無法卸載，錯誤 %2。</translation>
+    </message>
+    <message>
+        <source>Nothing was written.</source>
+        <translation>未寫入任何資料。</translation>
+    </message>
+    <message>
+        <source>Not mounted again: %1</source>
+        <translation>未重新掛載：%1</translation>
     </message>
 </context>
 <context>

@@ -19,7 +19,7 @@ public:
     // Linux: the media under what is mounted on "/", "/boot", "/boot/efi", "/efi", "/usr", "/var", "/home"
     // and
     // "/nix", through overlays and image files, and every active swap device. When the root leads to no
-    // medium in sight, every mounted volume of a block device.
+    // medium in sight, every mounted volume of a block device, and what else is in use.
     virtual QStringList systemVolumes() = 0;
 
     // Whether the root path is that of the volume shown to users as the system volume.
