@@ -12,6 +12,7 @@
 #include <QDir>
 #include <QFile>
 #include <QProcess>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -44,8 +45,11 @@ QByteArray secret(int size)
 
 void run(const QString &program, const QStringList &arguments)
 {
+    // The administrator's folders are not in everybody's PATH.
+    const QString found = QStandardPaths::findExecutable(program);
+    const QStringList others{u"/usr/sbin"_s, u"/sbin"_s};
     QProcess process;
-    process.start(program, arguments);
+    process.start(found.isEmpty() ? QStandardPaths::findExecutable(program, others) : found, arguments);
     if (!process.waitForFinished(-1) || process.exitCode() != 0)
         QTest::qFail((program.toLocal8Bit() + ": " + process.readAllStandardError()).constData(), __FILE__,
                      __LINE__);
