@@ -72,7 +72,7 @@ QString WipeEngine::releaseVolumes()
 {
     if (!m_task || m_running || m_released || m_task->operationType() != DiskWipe || !m_task->isWholeDrive())
         return {};
-    if (const QString error = m_task->validationError(); !error.isEmpty())
+    if (QString error = m_task->validationError(); !error.isEmpty())
         return error;
     platform::VolumeRelease release =
         platform::Platform::current().devices().releaseVolumes(identityOf(m_task->disk()));

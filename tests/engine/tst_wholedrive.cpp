@@ -116,6 +116,7 @@ private slots:
 
     void aThreadThatTheSystemRefusesGivesThemBack();
     void aDriveThatDoesNotOpenGivesThemBack();
+    void aDriveThatDoesNotTellItsSizeGivesThemBack();
     void aStopBeforeTheFirstWriteGivesThemBack();
     void afterTheFirstWriteTheyStayUnmounted();
     void aStopAfterTheFirstWriteLeavesThemUnmounted();
@@ -333,6 +334,22 @@ void tst_WholeDrive::aDriveThatDoesNotOpenGivesThemBack()
     QCOMPARE(machine.memory.volumeNames(), (QStringList{u"/a"_s, u"/b"_s}));
     QCOMPARE(job.engine->dismountedVolumes(), QStringList());
     QVERIFY(job.log.contains(u"已重新挂载: /a, /b"_s));
+}
+
+// It is open when the job gives up.
+void tst_WholeDrive::aDriveThatDoesNotTellItsSizeGivesThemBack()
+{
+    Machine machine;
+    EngineJob job(machine);
+    QCOMPARE(job.engine->releaseVolumes(), QString());
+    machine.answer = [](const DeviceCall &call) {
+        return call.method == "geometry"_L1 ? platform::Status{platform::NotSupported, 0, "test"}
+                                            : platform::Status{};
+    };
+    QVERIFY(!job.run());
+    QVERIFY(machine.isUntouched());
+    QCOMPARE(machine.memory.openHandles(), 0);
+    QCOMPARE(machine.memory.restores(), 1);
 }
 
 void tst_WholeDrive::aStopBeforeTheFirstWriteGivesThemBack()

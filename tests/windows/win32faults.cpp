@@ -300,13 +300,14 @@ BOOL Win32Faults::writeFile(HANDLE handle, LPCVOID data, DWORD size, LPDWORD wri
 BOOL Win32Faults::deviceIoControl(HANDLE handle, DWORD code, LPVOID input, DWORD inputSize, LPVOID output,
                                   DWORD outputSize, LPDWORD returned, LPOVERLAPPED overlapped)
 {
-    const std::optional<Device> device = deviceAt(pathOf(handle));
+    const QString path = pathOf(handle);
+    const std::optional<Device> device = deviceAt(path);
     if (!device)
         return m_target.deviceIoControl(handle, code, input, inputSize, output, outputSize, returned,
                                         overlapped);
     {
         const std::scoped_lock lock(m_mutex);
-        m_controls.append({code, inputSize, outputSize, pathOf(handle),
+        m_controls.append({code, inputSize, outputSize, path,
                            QByteArray(static_cast<const char *>(input), qsizetype(inputSize))});
     }
     int property = 0;

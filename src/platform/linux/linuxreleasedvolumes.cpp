@@ -11,7 +11,7 @@ namespace platform {
 LinuxReleasedVolumes::~LinuxReleasedVolumes()
 {
     if (!m_isSettled)
-        restore();
+        LinuxReleasedVolumes::restore();
 }
 
 // One for each volume, however often it was mounted.
