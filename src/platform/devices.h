@@ -67,7 +67,8 @@ public:
     virtual Result<QByteArray> descriptor() = 0;
 
     // The name that no other unit in the world has, with its form before a full stop: "naa.5000c500a1b2c3d4",
-    // "eui.0025385b71b0a1c2"; of an image "file." and which file it is. NotSupported where the device has
+    // "eui.0025385b71b0a1c2"; of an image "file." and which file it is, of a drive without a serial
+    // number "attachment." and when it was attached. NotSupported where the device has
     // none. Windows: IOCTL_STORAGE_QUERY_PROPERTY, StorageDeviceIdProperty, 1024-byte reply. Linux: wwid.
     virtual Result<QString> worldWideName() = 0;
 

@@ -1,4 +1,5 @@
 #include "diskwipejob.h"
+#include "engine/driveidentity.h"
 #include "engine/foreseeable.h"
 #include "engine/wipeengine.h"
 #include "refusedthreads.h"
@@ -473,8 +474,7 @@ void tst_WholeDrive::theDriveIsOpenedBesideWhatIsHeld()
         job.chooseDrive(memory.drive(3));
         job.task.setWholeDrive(true);
         if (isReleased)
-            job.worker.setReleasedVolumes(
-                devices.releaseVolumes({3, memory.drive(3).serialNumber, MiB}).volumes);
+            job.worker.setReleasedVolumes(devices.releaseVolumes(identityOf(job.task.disk())).volumes);
         QVERIFY(job.run(devices));
         QCOMPARE(access, isReleased ? platform::DriveAccess::BesideOwnVolumes : platform::DriveAccess::Alone);
     }

@@ -1,4 +1,6 @@
 #include "platform/linux/driveregistry.h"
+#include "platform/linux/linuxdevices.h"
+#include "platform/storagereplies.h"
 #include "support/fakesystemtree.h"
 #include "support/suite.h"
 
@@ -33,6 +35,7 @@ private slots:
     void driveWithoutSerialIsToldByItsAttachment();
     void numbersStayInReachOfEnumeration();
     void aSpareNumberNeverGoesToADriveThatCouldBeConfused();
+    void sticksWithoutSerialNumbersStayInReach();
 };
 
 void tst_DriveRegistry::naturalNameOrder()
@@ -139,13 +142,34 @@ void tst_DriveRegistry::numbersStayInReachOfEnumeration()
 
 void tst_DriveRegistry::aSpareNumberNeverGoesToADriveThatCouldBeConfused()
 {
+    // The same node, without a serial number and without a count of attachments: the same drive or another.
     FakeSystemTree fake;
     DriveRegistry registry(fake.tree());
     for (int i = 0; i < 40; ++i) {
-        fake.addDrive(QStringLiteral("loop0"), "7:0", GiB);
-        fake.write(QStringLiteral("sys/block/loop0/diskseq"), QByteArray::number(i));
-        QCOMPARE(registry.byDevice("7:0")->number, i);
-        fake.removeDrive(QStringLiteral("loop0"), "7:0");
+        fake.addDrive(QStringLiteral("sda"), QByteArray("8:") + QByteArray::number(i), GiB);
+        QCOMPARE(registry.byDevice(QByteArray("8:") + QByteArray::number(i))->number, i);
+        fake.removeDrive(QStringLiteral("sda"), QByteArray("8:") + QByteArray::number(i));
+    }
+}
+
+void tst_DriveRegistry::sticksWithoutSerialNumbersStayInReach()
+{
+    FakeSystemTree fake;
+    LinuxDevices devices(fake.tree());
+    DriveIdentity first;
+    for (int i = 0; i < 70; ++i) {
+        fake.addDrive(QStringLiteral("sda"), "8:0", GiB);
+        fake.write(QStringLiteral("sys/block/sda/diskseq"), QByteArray::number(i + 1));
+        int number = 0;
+        while (number < 32 && !devices.queryDrive(number))
+            ++number;
+        QVERIFY2(number < 32, qPrintable(QString::number(i)));
+        const DriveIdentity identity = identityOf(number, *devices.queryDrive(number).value());
+        QCOMPARE(identity.worldWideName, QStringLiteral("attachment.%1").arg(i + 1));
+        if (i == 0)
+            first = identity;
+        QCOMPARE(identity == first, i == 0); // what was chosen first is not what is there now
+        fake.removeDrive(QStringLiteral("sda"), "8:0");
     }
 }
 

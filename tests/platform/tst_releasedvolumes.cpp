@@ -9,6 +9,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QProcess>
+#include <QScopeGuard>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -29,8 +30,7 @@ DriveIdentity identityOf(Devices &devices, const QString &node)
     for (int number = 0; number < 64; ++number) {
         auto query = devices.queryDrive(number);
         if (query && devices.drivePath(number) == node)
-            return {number, decodeDeviceDescriptor(query.value()->descriptor().value()).serialNumber,
-                    query.value()->geometry().value().sizeBytes};
+            return platform::identityOf(number, *query.value());
     }
     return {};
 }
@@ -257,6 +257,10 @@ void tst_ReleasedVolumes::aMountThatWasMovedComesBack()
 {
     const QString first = m_loop->folder(u"first"_s);
     QVERIFY(PartitionedLoop::mount({u"--bind"_s, m_loop->folder(u"."_s), m_loop->folder(u"."_s)}));
+    const auto unbound = qScopeGuard([this] {
+        m_loop->unmountAll();
+        QCOMPARE(::umount2(QFile::encodeName(m_folder->path()).constData(), MNT_DETACH), 0);
+    });
     QVERIFY(PartitionedLoop::mount({u"--make-private"_s, m_folder->path()}));
     QVERIFY(m_loop->mount(1, first));
     QVERIFY(m_loop->mount(2, m_loop->folder(u"second"_s)));
@@ -271,8 +275,6 @@ void tst_ReleasedVolumes::aMountThatWasMovedComesBack()
     before.sort();
     after.sort();
     QCOMPARE(after, before);
-    m_loop->unmountAll();
-    QCOMPARE(::umount2(QFile::encodeName(m_folder->path()).constData(), MNT_DETACH), 0);
 }
 
 void tst_ReleasedVolumes::mountsThatArePassedOnComeBackOnce()

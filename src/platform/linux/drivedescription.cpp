@@ -96,6 +96,12 @@ DeviceDescriptor describeDrive(const SystemTree &tree, const QString &kernelName
     return descriptor;
 }
 
+QString attachmentOf(const SystemTree &tree, const QString &kernelName)
+{
+    return QString::fromUtf8(
+        readAttribute(tree.sys + QLatin1String("/block/") + kernelName + QLatin1String("/diskseq")));
+}
+
 QString worldWideName(const SystemTree &tree, const QString &kernelName)
 {
     const QString folder = tree.sys + QLatin1String("/block/") + kernelName;
@@ -105,7 +111,9 @@ QString worldWideName(const SystemTree &tree, const QString &kernelName)
             name.startsWith(QLatin1String("uuid.")))
             return name;
     }
-    return {};
+    const QString attachment = attachmentOf(tree, kernelName);
+    const bool hasSerial = !describeDrive(tree, kernelName).serialNumber.trimmed().isEmpty();
+    return hasSerial || attachment.isEmpty() ? QString() : QLatin1String("attachment.") + attachment;
 }
 
 } // namespace platform

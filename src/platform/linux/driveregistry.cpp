@@ -71,7 +71,7 @@ QList<Drive> DriveRegistry::scan() const
         drive.serialNumber =
             decodeDeviceDescriptor(encodeDeviceDescriptor(describeDrive(m_tree, name))).serialNumber;
         if (drive.serialNumber.isEmpty())
-            drive.attachment = readAttribute(folder + QLatin1String("/diskseq"));
+            drive.attachment = attachmentOf(m_tree, name).toLatin1();
         found.append(drive);
     }
     return found;
@@ -82,7 +82,8 @@ int DriveRegistry::numberFor(const Drive &drive, const QList<Drive> &present)
 {
     const auto sameDevice = [&drive](const Drive &other) { return other.isSameDevice(drive); };
     const auto confusable = [&drive](const Drive &other) {
-        return other.serialNumber == drive.serialNumber && other.sizeBytes == drive.sizeBytes;
+        return other.serialNumber == drive.serialNumber && other.sizeBytes == drive.sizeBytes &&
+               other.attachment == drive.attachment;
     };
     const auto isTaken = [&present](const QList<Drive> &holders) {
         return std::any_of(present.begin(), present.end(),

@@ -35,7 +35,8 @@ struct Drive
 // drives are none.
 //
 // A number is given again only when fewer than 32 would otherwise stay in reach, and never to a drive that
-// the identity check could take for one that had it before (same serial number and size). Thread-safe.
+// the identity check could take for one that had it before (same serial number and size, and without a
+// serial number the same attachment). Thread-safe.
 class DriveRegistry
 {
 public:
