@@ -513,9 +513,8 @@ void tst_BaseWipeWorker::everyEndOfAJobIsCompletedAndTold()
         return end == 0;
     };
     connect(&worker, &BaseWipeWorker::errorOccurred, this, [&worker] { worker.steps.append("error"); });
-    connect(&worker, &BaseWipeWorker::finished, this, [&worker](bool success) {
-        worker.steps.append(success ? "finished: true" : "finished: false");
-    });
+    connect(&worker, &BaseWipeWorker::finished, this,
+            [&worker](bool success) { worker.steps.append(success ? "finished: true" : "finished: false"); });
     worker.process();
     QTEST(worker.steps, "steps");
 }
