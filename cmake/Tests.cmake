@@ -40,14 +40,15 @@ endfunction()
 # Everything that the tests of this build run; the programs they start are added where they are started.
 add_custom_target(quorvex_tests)
 
-# quorvex_suite(FILE PROGRAM program LABEL label [NAME name] [NEEDS_ROOT] [TIMEOUT seconds] [ENVIRONMENT name=value...])
+# quorvex_suite(FILE PROGRAM program LABEL label [NAME name] [NEEDS_ROOT] [USER_DATA] [TIMEOUT seconds] [ENVIRONMENT name=value...])
 #
 # FILE is the suite's source without ".cpp", and its last part the suite's name; NAME is the test's where it is another,
 # for a suite that runs more than once. Labels: unit, contract, fault, residue, cli, gui, windows; and root, by NEEDS_ROOT,
 # for suites that attach loop devices or mount file systems. These run side by side like all others: each looks at what
-# it attached itself only, as on a machine where others plug in drives.
+# it attached itself only, as on a machine where others plug in drives. USER_DATA: for suites of the folder in which the
+# program keeps the user's data; on Windows all of them have the same one, and wait for each other.
 function(quorvex_suite file)
-  cmake_parse_arguments(PARSE_ARGV 1 arg "NEEDS_ROOT" "PROGRAM;LABEL;NAME;TIMEOUT" "ENVIRONMENT")
+  cmake_parse_arguments(PARSE_ARGV 1 arg "NEEDS_ROOT;USER_DATA" "PROGRAM;LABEL;NAME;TIMEOUT" "ENVIRONMENT")
   get_filename_component(suite "${file}" NAME)
   if(NOT arg_NAME)
     set(arg_NAME ${suite})
@@ -67,6 +68,9 @@ function(quorvex_suite file)
     ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;${arg_ENVIRONMENT}")
   if(arg_NEEDS_ROOT)
     set_property(TEST ${arg_NAME} APPEND PROPERTY LABELS root)
+  endif()
+  if(arg_USER_DATA AND WIN32)
+    set_property(TEST ${arg_NAME} APPEND PROPERTY RESOURCE_LOCK user_data)
   endif()
 endfunction()
 

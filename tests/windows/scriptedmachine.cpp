@@ -93,12 +93,15 @@ void ScriptedMachine::describe(const QByteArray &serialNumber, qint64 size)
 {
     script(drive, IOCTL_DISK_GET_DRIVE_GEOMETRY_EX, replies::geometryEx(size, Sector));
     faults.setPropertyReply(drive, StorageDeviceProperty, {0, replies::descriptor(serialNumber), {}});
+    faults.setPropertyReply(drive, StorageDeviceIdProperty,
+                            {0, replies::naaIdentifier("5000C500A1B2C3D4"), {}});
 }
 
 void ScriptedMachine::describeNothing(DWORD error)
 {
     refuse(drive, IOCTL_DISK_GET_DRIVE_GEOMETRY_EX, error);
     faults.setPropertyReply(drive, StorageDeviceProperty, {error, {}, {}});
+    faults.setPropertyReply(drive, StorageDeviceIdProperty, {error, {}, {}});
 }
 
 void ScriptedMachine::placeVolume(qint32 disk)

@@ -61,8 +61,8 @@ public:
 
     const QString drive = QStringLiteral(R"(\\.\PhysicalDrive3)");
     const QString volume = QStringLiteral(R"(\\.\E:)");
-    const platform::DriveIdentity identity{
-        Number, QStringLiteral("W621ABCD"), DriveSize, QStringLiteral("MODEL 9"), {}};
+    const platform::DriveIdentity identity{Number, QStringLiteral("W621ABCD"), DriveSize,
+                                           QStringLiteral("MODEL 9"), QStringLiteral("naa.5000c500a1b2c3d4")};
     const platform::DriveIdentity undescribed{.number = Number};
 
 private:

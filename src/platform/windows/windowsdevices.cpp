@@ -34,13 +34,16 @@ Status checkIdentity(const DriveIdentity &chosen, HANDLE drive)
 {
     const Result<Geometry> geometry = askGeometry(drive);
     const Result<QByteArray> descriptor = askDescriptor(drive);
+    const Result<QString> name = askWorldWideName(drive);
     const DriveIdentity present =
-        identityFrom(chosen.number, descriptor.valueOr({}), geometry.valueOr({}).sizeBytes,
-                     askWorldWideName(drive).valueOr({}));
+        identityFrom(chosen.number, descriptor.valueOr({}), geometry.valueOr({}).sizeBytes, name.valueOr({}));
     if (present == chosen)
         return {};
-    const Status &unanswered = geometry ? descriptor.status() : geometry.status();
-    return {NotReady, unanswered.native, "identity check"};
+    for (const Status &answer : {geometry.status(), descriptor.status(), name.status()}) {
+        if (!answer)
+            return {NotReady, answer.native, "identity check"};
+    }
+    return {NotReady, 0, "identity check"};
 }
 
 // The volume itself names the drives it lies on; a drive under that number which cannot even be opened tells
