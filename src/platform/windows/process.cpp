@@ -211,7 +211,7 @@ QStringList decodedArguments(int, char *const *)
     result.reserve(count);
     for (int i = 0; i < count; ++i)
         result.append(decodeName(arguments[i]));
-    win32().localFree(arguments);
+    win32().localFree(static_cast<void *>(arguments));
     return result;
 }
 
