@@ -159,11 +159,25 @@ build() {
 # suite skipped is repeated, since ctest shows nothing of a program that passed. Twice as many suites as processors: they
 # wait for media, timers and processes half of the time.
 run_tests() {
-    local preset=$1
+    local preset=$1 status=0
     shift
     cd "$root"
-    ctest --preset "$preset" --parallel $(($(nproc) * 2)) "$@" 2>&1 | tee "build/$preset/ctest.log"
+    ctest --preset "$preset" --parallel $(($(nproc) * 2)) "$@" 2>&1 | tee "build/$preset/ctest.log" || status=$?
+    if ((status != 0)); then
+        failed_tests "$preset"
+        return "$status"
+    fi
     skipped_tests "$preset"
+}
+
+# Repeats why suites failed: a suite prints thousands of lines, and whoever shows only the end of a log sees none of
+# these.
+failed_tests() {
+    local log="$root/build/$1/Testing/Temporary/LastTest.log"
+    [[ -f $log ]] || return 0
+    printf '\nWhy they failed:\n'
+    grep -E -m 25 -A 3 '^(FAIL!|XPASS|QFATAL) |: runtime error: |(ERROR|WARNING): [A-Za-z]+Sanitizer' "$log" |
+        tr -d '\r' || printf '  nothing in the log says so\n'
 }
 
 # Where every check counts (CI=true), only what tests/allowed-skips.txt lists may be skipped.

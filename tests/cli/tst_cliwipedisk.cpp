@@ -593,8 +593,7 @@ void tst_CliWipeDisk::progressComesAtMostTenTimesASecond()
     const qint64 elapsed = timer.elapsed();
     QCOMPARE(run.code, 0);
     const qsizetype count = run.io.events(u"progress"_s).size();
-    QVERIFY(count > 1); // 28 writes of 20 ms
-    QVERIFY(count < 28);
+    QVERIFY(count > 1); // 28 writes of at least 20 ms, of more where the machine is busy
     QVERIFY2((count - 1) * 100 <= elapsed, qPrintable(u"%1 events in %2 ms"_s.arg(count).arg(elapsed)));
 }
 
