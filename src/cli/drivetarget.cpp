@@ -128,11 +128,8 @@ std::optional<Refusal> checkObstacles(const DiskInfo &disk)
     if (obstacles.isReadOnly)
         return Refusal{Refused, Cli::tr("drive %1 is read-only").arg(disk.diskNumber)};
     QStringList reasons;
-    for (const SpanningVolume &volume : obstacles.spanningVolumes) {
-        reasons.append(
-            Cli::tr("volume %1 lies on drive %2 and also on %3")
-                .arg(displayText(volume.name), QString::number(disk.diskNumber), otherDisksText(volume)));
-    }
+    for (const SpanningVolume &volume : obstacles.spanningVolumes)
+        reasons.append(describeSpanning(volume, disk.diskNumber));
     if (!obstacles.holders.isEmpty()) {
         reasons.append(Cli::tr("drive %1 is held by %2")
                            .arg(QString::number(disk.diskNumber),
@@ -187,6 +184,12 @@ QString describeVolume(const PartitionInfo &partition)
     if (!label.isEmpty())
         line += Cli::tr(", label %1").arg(label);
     return line;
+}
+
+QString describeSpanning(const SpanningVolume &volume, int diskNumber)
+{
+    return Cli::tr("volume %1 lies on drive %2 and also on %3")
+        .arg(displayText(volume.name), QString::number(diskNumber), otherDisksText(volume));
 }
 
 } // namespace cli

@@ -2,6 +2,7 @@
 
 #include "cli/outcome.h"
 #include "model/diskinfo.h"
+#include "model/spanningvolume.h"
 
 #include <QList>
 #include <QString>
@@ -33,5 +34,7 @@ std::optional<Refusal> probeDrive(const DiskInfo &disk);
 QStringList describeDrive(const DiskInfo &disk);
 QString driveLine(const DiskInfo &disk); // the first of them
 QString describeVolume(const PartitionInfo &partition);
+// That a volume lies on the drive and where else.
+QString describeSpanning(const SpanningVolume &volume, int diskNumber);
 
 } // namespace cli

@@ -22,6 +22,7 @@ private slots:
     void methodsAreTheFiveStandards();
     void methodsForMachinesHaveAllFields();
     void disksAreListedWithTheirVolumes();
+    void aVolumeOnSeveralDrivesIsToldAtEach();
     void disksForMachinesHaveAllFields();
     void aMachineWithoutDrivesIsNoError();
     void namesOfDevicesCannotSteerTheTerminal();
@@ -109,6 +110,24 @@ void tst_CliLists::disksAreListedWithTheirVolumes()
     QVERIFY(lines.at(3).startsWith("1 "));
     QVERIFY(lines.at(3).contains("Large one"));
     QVERIFY(!lines.at(3).contains("system"));
+}
+
+// Among the volumes of a drive is only what begins on it.
+void tst_CliLists::aVolumeOnSeveralDrivesIsToldAtEach()
+{
+    MemoryMachine machine;
+    addDrives(machine);
+    MemoryDriveVolume mirror;
+    mirror.name = u"/media/mirror"_s;
+    mirror.extents = {{1, 4096, 65536}, {0, 131072, 65536}};
+    machine.memory.addVolume(mirror);
+    CliRun run;
+    run({u"disks"_s});
+    QCOMPARE(run.code, 0);
+    const QList<QByteArray> lines = run.io.out.split('\n');
+    QCOMPARE(lines.size(), 8);
+    QCOMPARE(lines.at(3).trimmed(), "volume /media/mirror lies on drive 0 and also on drive 1");
+    QCOMPARE(lines.at(6).trimmed(), "volume /media/mirror lies on drive 1 and also on drive 0");
 }
 
 void tst_CliLists::disksForMachinesHaveAllFields()

@@ -217,6 +217,7 @@ private slots:
     void claimsBeyondTheBufferAreCut();
     void extentCountsThatLie();
     void aDriveWithoutMediumIsNotReady();
+    void onlyWriteProtectionMakesADriveReadOnly();
 
     void everyFailureIsPassedOn_data();
     void everyFailureIsPassedOn();
@@ -377,6 +378,7 @@ void tst_WindowsDevices::requestsHaveTheirCodesAndSizes()
     QVERIFY(drive.value()->descriptor().ok() && asked(0x002D1400, 12, 10000));
     QVERIFY(drive.value()->seekPenalty().ok() && asked(0x002D1400, 12, 12));
     QVERIFY(drive.value()->trimEnabled().ok() && asked(0x002D1400, 12, 12));
+    QVERIFY(drive.value()->use().ok() && asked(0x00070024, 0, 0));
     QVERIFY(volume.value()->extents(ManyExtents).ok() && asked(0x00560000, 0, 800));
     QVERIFY(volume.value()->extents(OneExtent).ok() && asked(0x00560000, 0, 32));
     QVERIFY(raw.value()->bytesPerSector().ok() && asked(0x00070000, 0, 24));
@@ -534,6 +536,21 @@ void tst_WindowsDevices::aDriveWithoutMediumIsNotReady()
     QCOMPARE(raw.value()->bytesPerSector().code(), quint32(NotReady));
     machine.script(machine.drive, IOCTL_DISK_GET_LENGTH_INFO, replies::length(-1));
     QCOMPARE(raw.value()->length().code(), quint32(NotReady));
+}
+
+// Another failure of the question says nothing about the medium: some drivers do not know it.
+void tst_WindowsDevices::onlyWriteProtectionMakesADriveReadOnly()
+{
+    ScriptedMachine machine;
+    WindowsDevices devices;
+    auto drive = devices.queryDrive(ScriptedMachine::Number);
+    const auto isReadOnlyAt = [&](DWORD error) {
+        machine.faults.setReply(machine.drive, IOCTL_DISK_IS_WRITABLE, {error, {}, {}});
+        return drive.value()->use().value().isReadOnly;
+    };
+    QVERIFY(isReadOnlyAt(ERROR_WRITE_PROTECT));
+    for (const DWORD error : {ERROR_SUCCESS, ERROR_INVALID_FUNCTION, ERROR_NOT_READY, ERROR_NOT_SUPPORTED})
+        QVERIFY2(!isReadOnlyAt(DWORD(error)), QByteArray::number(quint32(error)).constData());
 }
 
 void tst_WindowsDevices::everyFailureIsPassedOn_data()

@@ -38,6 +38,8 @@ QString tableText(const QList<DiskInfo> &disks)
             const QString mark = partition.isSystem ? Cli::tr(", system") : QString();
             table.addLine(u"       "_s + describeVolume(partition) + mark);
         }
+        for (const SpanningVolume &volume : DiskManager::spanningVolumesForDisk(disk.diskNumber))
+            table.addLine(u"       "_s + describeSpanning(volume, disk.diskNumber));
     }
     return table.text();
 }
