@@ -24,6 +24,7 @@ public:
         , m_stop(stop)
     {
         connectEngine();
+        m_engine.setStopProbe([this] { return m_stop.isRequested(); });
     }
 
     JobResult result()
@@ -36,7 +37,7 @@ public:
         }
         m_engine.start();
         if (m_engine.isRunning()) {
-            // A request that came before the connection has not been heard.
+            // A request that came before the engine's thread was there has only been seen by the probe.
             if (m_stop.isRequested())
                 m_engine.stop();
             m_loop.exec();

@@ -40,6 +40,8 @@ bool DiskWipeWorker::run()
         return false;
     }
 
+    if (isStopRequested())
+        return cancelled();
     note(tr("正在锁定磁盘卷..."));
     const bool isWhole = task().operationType() == DiskWipe && task().isWholeDrive();
     const bool locked = isWhole ? checkVolumesAreGone() : lockVolumes();

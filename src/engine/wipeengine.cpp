@@ -136,6 +136,10 @@ void WipeEngine::start()
     m_totalPasses = m_task->method().passCount();
     m_currentPass = 1;
     m_lastError.clear();
+    if (m_isStopWanted && m_isStopWanted()) {
+        m_stopRequested = true;
+        m_worker->stop();
+    }
 
     m_thread->start();
     // The thread ends by a call that waits for this one: where it does not run, the system has refused it.

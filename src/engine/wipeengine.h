@@ -69,6 +69,11 @@ public:
     std::chrono::milliseconds stopPatience() const { return m_stopPatience; }
     void setStopPatience(std::chrono::milliseconds patience) { m_stopPatience = patience; }
 
+    // Asked by start() just before the worker runs, on the interface thread: whether the user already wants the
+    // job to stop. Then the job ends as cancelled and has touched nothing; stop(), which can only be called
+    // behind start(), may come too late for that.
+    void setStopProbe(std::function<bool()> isStopWanted) { m_isStopWanted = std::move(isStopWanted); }
+
     // The time of the report and of the speeds, the system's unless set.
     using Clock = std::function<QDateTime()>;
     void setClock(Clock clock) { m_clock = std::move(clock); }
@@ -139,5 +144,6 @@ private:
     double m_currentSpeed = 0;
     QString m_lastError;
     std::chrono::milliseconds m_stopPatience{5000};
+    std::function<bool()> m_isStopWanted;
     Clock m_clock = [] { return QDateTime::currentDateTime(); };
 };

@@ -226,6 +226,7 @@ private slots:
     void aLaterJobThatWroteNothingReportsNothing();
     void timesAreTheClocks();
     void stopWhenIdle();
+    void aStopWantedBeforeTheStartTouchesNothing();
     void stopDuringAJob();
     void stopLeavesAWorkerThatDoesNotEnd();
     void completedFollowsStopped();
@@ -660,6 +661,32 @@ void tst_WipeEngine::stopWhenIdle()
     engine.stop();
     QCOMPARE(stopped.size(), 0);
     QCOMPARE(lines.size(), 0);
+}
+
+// As when the user presses Ctrl+C while the volumes are unmounted.
+void tst_WipeEngine::aStopWantedBeforeTheStartTouchesNothing()
+{
+    ImageMachine machine(2 * MiB);
+    WipeTask task;
+    makeDiskTask(task, machine);
+    WipeEngine engine;
+    bool isStopWanted = true;
+    engine.setStopProbe([&isStopWanted] { return isStopWanted; });
+    engine.setTask(&task);
+    QSignalSpy lines(&engine, &WipeEngine::logMessage);
+    QSignalSpy completed(&engine, &WipeEngine::completed);
+    engine.start();
+    QTRY_COMPARE_WITH_TIMEOUT(completed.size(), 1, Patience);
+    QCOMPARE(completed[0][0].toBool(), false);
+    QCOMPARE(engine.outcome().outcome(), JobOutcome::Cancelled);
+    QVERIFY(linesWithLevels(lines).contains(QStringLiteral("1 擦除已取消")));
+    QVERIFY(!linesWithLevels(lines).contains(QStringLiteral("0 正在锁定磁盘卷...")));
+    QCOMPARE(machine.content(), QByteArray(2 * MiB, 'M'));
+
+    isStopWanted = false;
+    engine.start();
+    QTRY_COMPARE_WITH_TIMEOUT(completed.size(), 2, Patience);
+    QCOMPARE(engine.outcome().outcome(), JobOutcome::Complete);
 }
 
 void tst_WipeEngine::stopDuringAJob()
