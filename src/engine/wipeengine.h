@@ -69,9 +69,9 @@ public:
     std::chrono::milliseconds stopPatience() const { return m_stopPatience; }
     void setStopPatience(std::chrono::milliseconds patience) { m_stopPatience = patience; }
 
-    // Asked by start() just before the worker runs, on the interface thread: whether the user already wants the
-    // job to stop. Then the job ends as cancelled and has touched nothing; stop(), which can only be called
-    // behind start(), may come too late for that.
+    // Asked by start() just before the worker runs, on the interface thread: whether the user already wants
+    // the job to stop. Then the job ends as cancelled and has touched nothing; stop(), which can only be
+    // called behind start(), may come too late for that.
     void setStopProbe(std::function<bool()> isStopWanted) { m_isStopWanted = std::move(isStopWanted); }
 
     // The time of the report and of the speeds, the system's unless set.
