@@ -9,6 +9,7 @@
 
 #include <QDateTime>
 #include <QPainter>
+#include <QStringList>
 
 #include <array>
 
@@ -61,7 +62,7 @@ void CertificatePage::paint(const WipeReport &report, const std::optional<Outcom
     paintIdentity(displayText(report.certificateId));
     paintRule();
     if (outcome)
-        paintOutcome(outcome->summary());
+        paintOutcome(*outcome, report.bytesWritten);
     bool isFirst = true;
     for (const CertificateSection &section : certificateContent(report)) {
         if (!isFirst)
@@ -128,20 +129,25 @@ void CertificatePage::paintRule()
 
 // Between the rule and the first section, where nothing else has to move: what stands further down may
 // already pass the end of the page. Letters are as large as the room allows.
-void CertificatePage::paintOutcome(const QString &summary)
+void CertificatePage::paintOutcome(const OutcomeRecord &outcome, quint64 givenBytes)
 {
-    if (summary.isEmpty())
+    const QString summary = outcome.summary();
+    QStringList lines{summary, outcome.writtenText(givenBytes)};
+    lines.removeAll(QString());
+    if (lines.isEmpty())
         return;
+    const QString text = lines.join(u'\n');
     const QRect box(m_left, m_y - pixels(8) + 1, m_width, pixels(8) - 1);
     constexpr int flags = Qt::AlignCenter | Qt::TextWordWrap;
     QFont font;
     for (const int points : outcomePoints) {
         font = certificatefonts::text(points, QFont::Bold);
         m_painter.setFont(font);
-        if (box.contains(m_painter.boundingRect(box, flags, summary)))
+        if (box.contains(m_painter.boundingRect(box, flags, text)))
             break;
     }
-    write(box, flags, summary, font, colour(CertificateColour::Failure));
+    write(box, flags, text, font,
+          colour(summary.isEmpty() ? CertificateColour::SecondaryText : CertificateColour::Failure));
 }
 
 void CertificatePage::paintSection(const CertificateSection &section)

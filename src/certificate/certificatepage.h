@@ -37,7 +37,7 @@ private:
     void paintTitles();
     void paintIdentity(const QString &certificateId);
     void paintRule();
-    void paintOutcome(const QString &summary);
+    void paintOutcome(const OutcomeRecord &outcome, quint64 givenBytes);
     void paintSection(const CertificateSection &section);
     void paintHeading(const QString &title);
     void paintRow(const CertificateRow &row);

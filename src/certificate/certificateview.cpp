@@ -75,7 +75,7 @@ ViewSection storageDevice(const DiskInfo &disk)
             }};
 }
 
-ViewSection erasureDetails(const WipeReport &report)
+ViewSection erasureDetails(const WipeReport &report, const std::optional<OutcomeRecord> &outcome)
 {
     ViewSection section{CertificateDialog::tr("Erasure Details"), {}};
     if (report.operationType == FileWipe) {
@@ -86,6 +86,8 @@ ViewSection erasureDetails(const WipeReport &report)
     }
     section.rows.append(
         {CertificateDialog::tr("Data Written"), formatSize(static_cast<qint64>(report.bytesWritten))});
+    if (outcome && !outcome->writtenText(report.bytesWritten).isEmpty())
+        section.rows.append({CertificateDialog::tr("On the Medium"), formatSize(outcome->written())});
     section.rows.append({CertificateDialog::tr("Bad Sectors"), QString::number(report.badSectors)});
     return section;
 }
@@ -115,12 +117,12 @@ ViewSection operatorInfo(const WipeReport &report)
             }};
 }
 
-QList<ViewSection> sectionsOf(const WipeReport &report)
+QList<ViewSection> sectionsOf(const WipeReport &report, const std::optional<OutcomeRecord> &outcome)
 {
     QList<ViewSection> sections{operationSummary(report)};
     if (report.operationType != FileWipe)
         sections.append(storageDevice(report.disk));
-    sections.append(erasureDetails(report));
+    sections.append(erasureDetails(report, outcome));
     sections.append(verification(report));
     sections.append(operatorInfo(report));
     return sections;
@@ -255,7 +257,7 @@ QWidget *makeCertificateView(const WipeReport &report, const std::optional<Outco
     addIdentity(layout, report, page);
     if (outcome && outcome->outcome() != JobOutcome::Complete)
         addOutcome(layout, *outcome, page);
-    for (const ViewSection &section : sectionsOf(report))
+    for (const ViewSection &section : sectionsOf(report, outcome))
         addSection(layout, section, page);
     addDisclaimer(layout, page);
     layout->addStretch();

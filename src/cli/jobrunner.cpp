@@ -7,6 +7,8 @@
 #include <QElapsedTimer>
 #include <QEventLoop>
 
+#include <algorithm>
+
 namespace cli {
 
 namespace {
@@ -91,7 +93,8 @@ void Run::connectEngine()
 
 void Run::onBytesProcessed(qint64 bytes)
 {
-    m_progress.bytes = bytes;
+    // The engine's figure counts the earlier passes of files twice.
+    m_progress.bytes = std::min(bytes, m_task.written());
     if (m_sinceProgress.isValid() && m_sinceProgress.elapsed() < ProgressIntervalMs)
         return;
     m_sinceProgress.start();

@@ -103,6 +103,8 @@ QString reportText(const WipeReport &report, const std::optional<OutcomeRecord> 
     table.addRow({Cli::tr("Duration"), report.endTime.isValid() ? report.duration() : QString()});
     addTarget(table, report);
     table.addRow({Cli::tr("Written"), size(report.bytesWritten)});
+    if (outcome && !outcome->writtenText(report.bytesWritten).isEmpty())
+        table.addRow({Cli::tr("On the medium"), formatSize(outcome->written())});
     addVerification(table, report);
     table.addRow({Cli::tr("Operator"), displayText(report.operatorName)});
     table.addRow({Cli::tr("Computer"), displayText(report.computerName)});

@@ -23,6 +23,8 @@ public:
     // What the system answered, for the debug output.
     virtual void diagnose(const platform::Status &failure) = 0;
     virtual void noteShortfall(const Shortfall &shortfall) = 0;
+    // Bytes that a device has taken.
+    virtual void noteWritten(qint64 bytes) = 0;
 
     virtual bool isStopping() const = 0;
     // Waits while the job is paused. False to give up.

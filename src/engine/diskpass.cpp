@@ -82,6 +82,7 @@ bool DiskPass::writeDriveChunks(qint64 &offset)
             m_job.diagnose(failure);
             return false;
         }
+        m_job.noteWritten(written.value());
         offset += written.value();
         remaining -= written.value();
         m_job.progress(offset, m_medium.size);
@@ -167,6 +168,7 @@ DiskPass::VolumeEnd DiskPass::writeVolumeChunks(platform::VolumeDevice &volume, 
             m_job.note(tr("写入字节数为0，到达卷末尾"));
             return VolumeEnd::Boundary;
         }
+        m_job.noteWritten(written.value());
         position += written.value();
         remaining -= written.value();
         total += written.value();

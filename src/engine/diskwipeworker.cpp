@@ -296,6 +296,11 @@ void DiskWipeWorker::noteShortfall(const Shortfall &shortfall)
     task().noteShortfall(shortfall);
 }
 
+void DiskWipeWorker::noteWritten(qint64 bytes)
+{
+    task().noteWritten(bytes);
+}
+
 void DiskWipeWorker::fill(std::byte *data, qint64 size, const PassPattern &pattern)
 {
     fillBuffer(data, size, pattern);

@@ -64,6 +64,7 @@ private:
     void reportError(const QString &message) override { emit errorOccurred(message); }
     void diagnose(const platform::Status &failure) override;
     void noteShortfall(const Shortfall &shortfall) override;
+    void noteWritten(qint64 bytes) override;
     bool isStopping() const override { return isStopRequested(); }
     bool mayGoOn() override { return checkPauseStop(); }
     bool wait(std::chrono::milliseconds time) override { return waitUnlessStopped(time); }

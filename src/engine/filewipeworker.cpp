@@ -349,6 +349,7 @@ bool FileWipeWorker::writeChunks(platform::FileHandle &file, const QString &path
         const Status written = writeAll(file, buffer.data(), chunk);
         if (!written)
             return failFile(tr("WriteFile 失败: %1"), path, written);
+        task().noteWritten(chunk);
         offset += chunk;
         m_progress.add(chunk);
     }

@@ -241,6 +241,7 @@ bool FreeSpaceWipeWorker::writeFillFile(platform::FileHandle &file, Fill &fill, 
         }
         if (written.value() < 1)
             break;
+        task().noteWritten(written.value());
         bytesInFile += written.value();
         m_fillFiles.last().bytes = bytesInFile;
         fill.written += written.value();

@@ -367,7 +367,9 @@ platform::Status FreeSpaceWipeWorker::cleanFileRecords()
             if (!file)
                 continue;
             fillBuffer(content.data(), RecordFileBytes, {PatternType::Random});
-            remember(first, file.value()->write(content.data(), RecordFileBytes).status());
+            const auto written = file.value()->write(content.data(), RecordFileBytes);
+            remember(first, written.status());
+            task().noteWritten(written.valueOr(0));
             // A record that is given back before it reaches the medium has taken none over. The last flush
             // commits those of all files, at a thousandth of the cost of flushing each.
             if (i == RecordFiles - 1)

@@ -94,6 +94,13 @@ QString OutcomeRecord::line(ShortfallKind kind) const
     return text;
 }
 
+QString OutcomeRecord::writtenText(quint64 given) const
+{
+    if (m_written < 0 || static_cast<quint64>(m_written) == given)
+        return {};
+    return tr("Written to the medium: %1").arg(formatSize(m_written));
+}
+
 QString OutcomeRecord::summary() const
 {
     QStringList texts;

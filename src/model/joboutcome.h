@@ -66,6 +66,13 @@ public:
     QList<ShortfallKind> shortfallKinds() const;
     Further further(ShortfallKind kind) const { return m_further.value(kind); }
 
+    /// Bytes that the medium has taken, over all passes, counted where they are written; below 0 where nobody
+    /// counted. The report's bytesWritten is what progress showed, and counts otherwise for files.
+    qint64 written() const { return m_written; }
+    void addWritten(qint64 bytes) { m_written = sumOfAmounts(m_written, bytes); }
+    /// What is to be said where the report gives another figure: "Written to the medium: ...". Else empty.
+    QString writtenText(quint64 given) const;
+
     /// One line for each kind: its text, some of its places, its bytes. Translated, cleaned for display.
     QStringList shortfallLines() const { return lines(true); }
     QStringList noteLines() const { return lines(false); }
@@ -91,6 +98,7 @@ private:
     QString summaryOf(const QStringList &texts) const;
 
     JobOutcome m_outcome = JobOutcome::Failed;
+    qint64 m_written = -1;
     QMap<ShortfallKind, QList<Shortfall>> m_places;
     QMap<ShortfallKind, Further> m_further;
 };

@@ -49,7 +49,10 @@ QByteArray OutcomeRecord::toJson() const
 
 void OutcomeRecord::writeMembers(JsonWriter &writer, bool withTexts) const
 {
-    writer.member(u"outcome", machineName(m_outcome)).key(u"shortfalls").beginArray();
+    writer.member(u"outcome", machineName(m_outcome));
+    if (m_written >= 0)
+        writer.decimalMember(u"written", m_written);
+    writer.key(u"shortfalls").beginArray();
     for (const Shortfall &shortfall : shortfalls())
         shortfall.writeJson(writer, withTexts);
     writer.endArray().key(u"notes").beginArray();
@@ -93,6 +96,7 @@ std::optional<OutcomeRecord> OutcomeRecord::fromJson(const QByteArray &json)
         counted.places = sumOfAmounts(counted.places, places);
         counted.bytes = sumOfAmounts(counted.bytes, amount(entry[u"bytes"_s]));
     }
+    record.m_written = amount(object.value(u"written"_s));
     record.setOutcome(*outcome);
     return record;
 }

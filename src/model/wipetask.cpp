@@ -8,6 +8,7 @@
 #include <QThread>
 #include <QUuid>
 
+#include <algorithm>
 #include <array>
 #include <functional>
 
@@ -212,6 +213,18 @@ void WipeTask::noteShortfall(const Shortfall &shortfall)
     m_outcome.note(shortfall);
 }
 
+void WipeTask::noteWritten(qint64 bytes)
+{
+    const QMutexLocker locker(&m_outcomeMutex);
+    m_outcome.addWritten(bytes);
+}
+
+qint64 WipeTask::written() const
+{
+    const QMutexLocker locker(&m_outcomeMutex);
+    return std::max<qint64>(m_outcome.written(), 0);
+}
+
 void WipeTask::setOutcome(JobOutcome outcome)
 {
     const QMutexLocker locker(&m_outcomeMutex);
@@ -222,6 +235,7 @@ void WipeTask::clearOutcome()
 {
     const QMutexLocker locker(&m_outcomeMutex);
     m_outcome = OutcomeRecord();
+    m_outcome.addWritten(0);
 }
 
 QStringList WipeTask::dismountedVolumes() const

@@ -86,6 +86,9 @@ public:
     OutcomeRecord outcome() const;
     /// To be called where it happens, by workers.
     void noteShortfall(const Shortfall &shortfall);
+    /// Bytes that the medium has taken. To be called where they are written, on any thread.
+    void noteWritten(qint64 bytes);
+    qint64 written() const; ///< 0 before the job
     /// The end of the job; complete becomes partial where that was noted.
     void setOutcome(JobOutcome outcome);
     /// Forgets what an earlier run has left.

@@ -30,6 +30,7 @@ private slots:
     void theFileHoldsTheLine();
     void theDialogShowsTheLine();
     void theDialogOfACompleteJobHasNone();
+    void whatReachedTheMediumStandsWhereItDiffers();
     void namesAreNoMarkup();
 
 private:
@@ -96,6 +97,7 @@ void tst_CertificateOutcome::aCompleteJobLooksAsEver()
 {
     OutcomeRecord complete(JobOutcome::Complete);
     complete.note({ShortfallKind::NotReadBack});
+    complete.addWritten(static_cast<qint64>(filledReport().bytesWritten)); // as the report says
     QCOMPARE(placesOf(painted(filledReport(), complete)), placesOf(painted(filledReport(), {})));
 }
 
@@ -174,6 +176,34 @@ void tst_CertificateOutcome::theDialogOfACompleteJobHasNone()
     QVERIFY(!CertificateDialog(filledReport()).findChild<QLabel *>(u"outcomeLabel"_s));
     const CertificateDialog dialog(filledReport(), nullptr, OutcomeRecord(JobOutcome::Complete));
     QVERIFY(!dialog.findChild<QLabel *>(u"outcomeLabel"_s));
+}
+
+void tst_CertificateOutcome::whatReachedTheMediumStandsWhereItDiffers()
+{
+    const WipeReport report = filledReport();
+    OutcomeRecord outcome(JobOutcome::Complete);
+    outcome.addWritten(5 * 1024 * 1024);
+    const QString text = outcome.writtenText(report.bytesWritten);
+    QVERIFY(!text.isEmpty());
+    QList<Painted> page = painted(report, outcome);
+    const auto line = std::ranges::find(page, text, &Painted::text);
+    QVERIFY(line != page.end());
+    QVERIFY(line->pen.color() != QColor(u"#ef4444"_s)); // nothing is wrong
+    page.erase(line);
+    QCOMPARE(placesOf(page), placesOf(painted(report, {})));
+
+    const auto labels = [&report](const OutcomeRecord &shown) {
+        const CertificateDialog dialog(report, nullptr, shown);
+        QStringList texts;
+        for (const QLabel *label : dialog.findChildren<QLabel *>())
+            texts.append(label->text());
+        return texts;
+    };
+    QVERIFY(labels(outcome).contains(u"5.00 MB"_s));
+    QCOMPARE(labels(outcome).filter(u"On the Medium"_s).size(), 1);
+    OutcomeRecord same(JobOutcome::Complete);
+    same.addWritten(static_cast<qint64>(report.bytesWritten));
+    QVERIFY(labels(same).filter(u"On the Medium"_s).isEmpty());
 }
 
 void tst_CertificateOutcome::namesAreNoMarkup()

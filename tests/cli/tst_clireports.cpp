@@ -370,6 +370,7 @@ void tst_CliReports::outcomesAreListedAndShown()
     OutcomeRecord partial(JobOutcome::Complete);
     partial.note({ShortfallKind::VolumeInUse, u"E:"_s, 2048});
     partial.note({ShortfallKind::NotReadBack});
+    partial.addWritten(3 * 1024 * 1024);
     QVERIFY(store(run.folder(), {reportOf(u"QVX-A"_s, 1)}));
     {
         TestIo io;
@@ -395,9 +396,10 @@ void tst_CliReports::outcomesAreListedAndShown()
     const QByteArray shown = output({u"show"_s, u"QVX-B"_s});
     for (const char *part :
          {"Outcome", "partial", "Shortfall", "volumes were in use while they were overwritten: E: (2.00 KB)",
-          "Note", "what was written was not read back"})
+          "Note", "what was written was not read back", "On the medium", "3.00 MB"})
         QVERIFY2(shown.contains(part), part);
     QVERIFY(output({u"show"_s, u"QVX-A"_s}).contains("unknown"));
+    QVERIFY(!output({u"show"_s, u"QVX-A"_s}).contains("On the medium"));
 
     const QJsonObject annex = QJsonDocument::fromJson(partial.toJson()).object();
     const QJsonObject machine =

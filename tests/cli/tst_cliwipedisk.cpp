@@ -565,7 +565,8 @@ void tst_CliWipeDisk::eventsFollowTheContract()
     const QJsonObject finished = events.constLast();
     QCOMPARE(finished.keys(),
              (QStringList{u"cancelled"_s, u"certificateId"_s, u"event"_s, u"further"_s, u"notes"_s,
-                          u"outcome"_s, u"report"_s, u"shortfalls"_s, u"success"_s}));
+                          u"outcome"_s, u"report"_s, u"shortfalls"_s, u"success"_s, u"written"_s}));
+    QCOMPARE(finished.value(u"written"), QJsonValue(QString::number(2 * Size)));
     QCOMPARE(finished.value(u"success"), QJsonValue(true));
     QCOMPARE(finished.value(u"outcome"), QJsonValue(u"complete"_s));
     QCOMPARE(finished.value(u"shortfalls"), QJsonValue(QJsonArray()));

@@ -27,6 +27,7 @@ private slots:
     void cleanup();
 
     void filesAndFoldersAreErased();
+    void progressNeverPassesItsTotal();
     void aRelativePathIsSeenFromTheCurrentFolder();
     void aLinkIsRemovedAndItsTargetKept();
     void aMissingPathIsRefusedBeforeAnythingIsErased();
@@ -91,6 +92,22 @@ void tst_CliWipeFiles::filesAndFoldersAreErased()
     QCOMPARE(contentOf(path(u"keep/kept.txt"_s)), QByteArray("kept"));
     const QByteArray last = run.io.out.trimmed().split('\n').constLast();
     QVERIFY2(last.contains(" and 1 more, NIST 800-88, 3 files of 5.86 KB in "), last.constData());
+}
+
+void tst_CliWipeFiles::progressNeverPassesItsTotal()
+{
+    constexpr qint64 Size = 4 << 20; // enough for a second progress line in the later passes
+    constexpr qint64 Total = 35 * Size;
+    writeFile(u"large"_s, QByteArray(Size, '4'));
+    CliRun run;
+    run(wipeFiles({path(u"large"_s), u"--json"_s, u"--method"_s, u"gutmann"_s, u"--buffer-mb"_s, u"1"_s}));
+    QCOMPARE(run.code, 0);
+    const QList<QJsonObject> shown = run.io.events(u"progress"_s);
+    QVERIFY(shown.size() > 1);
+    for (const QJsonObject &progress : shown)
+        QVERIFY2(progress.value(u"bytes").toString().toLongLong() <= Total,
+                 qPrintable(progress.value(u"bytes").toString()));
+    QCOMPARE(run.io.events().constLast().value(u"written"), QJsonValue(QString::number(Total)));
 }
 
 void tst_CliWipeFiles::aRelativePathIsSeenFromTheCurrentFolder()

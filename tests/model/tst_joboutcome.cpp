@@ -35,6 +35,7 @@ private slots:
     void placesBeyondTheMostAreCounted();
     void linesNameTheKindOnce();
     void summarySaysHowItEnded();
+    void whatReachedTheMediumIsToldWhereItDiffers();
     void textsAreTranslated();
     void jsonIsAsDocumented();
     void jsonComesBack();
@@ -193,6 +194,25 @@ void tst_JobOutcome::summarySaysHowItEnded()
     QCOMPARE(record.summary(), u"Not completely erased: the job was cancelled"_s);
 }
 
+void tst_JobOutcome::whatReachedTheMediumIsToldWhereItDiffers()
+{
+    OutcomeRecord record(JobOutcome::Complete);
+    QVERIFY(record.written() < 0);
+    QCOMPARE(record.writtenText(0), QString()); // nobody counted
+    QVERIFY(!record.toJson().contains("written"));
+    record.addWritten(0);
+    QCOMPARE(record.written(), 0);
+    QCOMPARE(record.writtenText(0), QString());
+    record.addWritten(1024);
+    record.addWritten(1024);
+    QCOMPARE(record.writtenText(0), u"Written to the medium: 2.00 KB"_s);
+    QCOMPARE(record.writtenText(2048), QString());
+    QVERIFY(record.toJson().contains(R"("outcome":"complete","written":"2048",)"));
+    QCOMPARE(OutcomeRecord::fromJson(record.toJson()), record);
+    QCOMPARE(OutcomeRecord::fromJson(R"({"schemaVersion":1,"outcome":"complete","written":"-5"})"),
+             OutcomeRecord(JobOutcome::Complete));
+}
+
 void tst_JobOutcome::textsAreTranslated()
 {
     const MarkingTranslator translator;
@@ -207,6 +227,8 @@ void tst_JobOutcome::textsAreTranslated()
                          "0, 1, 2 <OutcomeRecord>and 1 more"_s});
     QCOMPARE(record.summary(), u"<OutcomeRecord>Partly erased: "_s + kindText(ShortfallKind::RoomLeft));
     QVERIFY(OutcomeRecord(JobOutcome::Failed).summary().startsWith(u"<OutcomeRecord>"_s));
+    record.addWritten(1);
+    QVERIFY(record.writtenText(0).startsWith(u"<OutcomeRecord>"_s));
     QVERIFY(OutcomeRecord(JobOutcome::Cancelled).summary().startsWith(u"<OutcomeRecord>"_s));
 }
 
@@ -304,8 +326,15 @@ void tst_JobOutcome::taskKeepsIt()
     task.setOutcome(JobOutcome::Complete);
     QCOMPARE(task.outcome().outcome(), JobOutcome::Partial);
     QCOMPARE(task.outcome().shortfalls(), (QList<Shortfall>{{ShortfallKind::VolumeInUse, u"E:"_s}}));
+    QCOMPARE(task.written(), 0);
+    task.noteWritten(4096);
+    task.noteWritten(4096);
+    QCOMPARE(task.written(), 8192);
+    QCOMPARE(task.outcome().written(), 8192);
     task.clearOutcome();
-    QCOMPARE(task.outcome(), OutcomeRecord());
+    OutcomeRecord fresh;
+    fresh.addWritten(0);
+    QCOMPARE(task.outcome(), fresh);
 }
 
 void tst_JobOutcome::taskIsSafeAcrossThreads()
