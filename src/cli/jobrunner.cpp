@@ -32,7 +32,8 @@ public:
     JobResult result()
     {
         m_engine.setTask(&m_task);
-        if (const QString problem = m_engine.releaseVolumes(); !problem.isEmpty()) {
+        const QString problem = m_stop.isRequested() ? QString() : m_engine.releaseVolumes();
+        if (!problem.isEmpty()) {
             m_result.lastError = problem;
             m_result.report = m_engine.report();
             return m_result;

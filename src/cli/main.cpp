@@ -26,6 +26,7 @@ void printDiagnostics(QtMsgType type, const QMessageLogContext &, const QString 
 
 int main(int argc, char *argv[])
 {
+    platform::holdStopSignals();
     qInstallMessageHandler(printDiagnostics);
     platform::provideComputerName();
     const QStringList arguments = platform::decodedArguments(argc, argv);

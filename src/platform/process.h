@@ -47,6 +47,11 @@ void provideComputerName();
 // surrogate U+DC00 + b.
 QStringList decodedArguments(int count, char *const *arguments);
 
+// A wish to stop that comes from now on waits for the first StopHandler, instead of ending a program that has
+// not got as far as having one. To be called once, before other threads run. Windows: does nothing. Linux:
+// blocks SIGINT, SIGTERM and SIGHUP.
+void holdStopSignals();
+
 // Receives the wish to stop for as long as it exists, in place of the process's end. One at a time, made on
 // the thread of the QCoreApplication, whose event loop calls the function; never called twice. Wishes after
 // the first have no effect, also when it is gone: the process is ending, and its exit code is to say so.

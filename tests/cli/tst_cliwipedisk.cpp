@@ -514,15 +514,23 @@ void tst_CliWipeDisk::aSecondStopChangesNothing()
 
 void tst_CliWipeDisk::aStopBeforeTheJobWritesNothing()
 {
-    MemoryMachine machine;
-    addDrive(machine);
-    CliRun run;
-    run.io.stopRequest().request();
-    run(wipeDrive(0));
-    QCOMPARE(run.code, 4);
-    QVERIFY(run.complains("cancelled"));
-    QCOMPARE(machine.openings(), QStringList());
-    QVERIFY(isUntouched(machine, 0));
+    for (const QStringList &options : {QStringList(), QStringList{u"--whole"_s}}) {
+        MemoryMachine machine;
+        addDrive(machine);
+        addVolume(machine);
+        CliRun run;
+        run.io.stopRequest().request();
+        run(wipeDrive(0) + options + QStringList{u"--json"_s});
+        QCOMPARE(run.code, 4);
+        QCOMPARE(machine.openings(), QStringList());
+        QCOMPARE(machine.memory.keeps() + machine.memory.restores(), 0);
+        QVERIFY(isUntouched(machine, 0));
+        // A script that waits for the end of the job gets it.
+        const QJsonObject finished = run.io.events().constLast();
+        QCOMPARE(finished.value(u"event"), QJsonValue(u"finished"_s));
+        QCOMPARE(finished.value(u"outcome"), QJsonValue(u"cancelled"_s));
+        QCOMPARE(finished.value(u"written"), QJsonValue(u"0"_s));
+    }
 }
 
 void tst_CliWipeDisk::eventsFollowTheContract()

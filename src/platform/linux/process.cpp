@@ -16,6 +16,7 @@
 #include <atomic>
 #include <cerrno>
 #include <csignal>
+#include <optional>
 #include <utility>
 
 namespace platform {
@@ -29,6 +30,9 @@ static_assert(std::atomic<bool>::is_always_lock_free && std::atomic<int>::is_alw
 
 // The end of the pipe that becomes readable with the first signal, -1 without a StopHandler.
 int s_notifiedEnd = -1;
+
+// The mask from before holdStopSignals().
+std::optional<sigset_t> s_maskBefore;
 
 extern "C" void onStopSignal(int)
 {
@@ -131,6 +135,17 @@ QStringList decodedArguments(int count, char *const *arguments)
     return result;
 }
 
+void holdStopSignals()
+{
+    sigset_t held;
+    ::sigemptyset(&held);
+    for (const int signal : {SIGINT, SIGTERM, SIGHUP})
+        ::sigaddset(&held, signal);
+    sigset_t before;
+    if (::pthread_sigmask(SIG_BLOCK, &held, &before) == 0)
+        s_maskBefore = before;
+}
+
 class StopHandler::Private : public QObject
 {
 public:
@@ -169,6 +184,8 @@ StopHandler::Private::Private(std::function<void()> onStop)
     handle(SIGTERM, onStopSignal, true);
     handle(SIGHUP, onStopSignal, false);
     handle(SIGPIPE, SIG_IGN, true);
+    if (const auto before = std::exchange(s_maskBefore, std::nullopt))
+        ::pthread_sigmask(SIG_SETMASK, &*before, nullptr);
 }
 
 StopHandler::Private::~Private()

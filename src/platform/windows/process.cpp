@@ -201,6 +201,9 @@ void outliveReaders()
 void provideComputerName()
 {}
 
+void holdStopSignals()
+{}
+
 QStringList decodedArguments(int, char *const *)
 {
     int count = 0;

@@ -1,0 +1,45 @@
+#include "platform/process.h"
+#include "support/suite.h"
+
+#include <QCoreApplication>
+#include <QTest>
+
+#include <csignal>
+
+// A wish that nobody holds ends this program, and with it the suite.
+class tst_StopHandler : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void aWishIsHeldUntilThereIsAHandler_data();
+    void aWishIsHeldUntilThereIsAHandler();
+};
+
+void tst_StopHandler::aWishIsHeldUntilThereIsAHandler_data()
+{
+    QTest::addColumn<int>("signal");
+    QTest::newRow("interrupt") << SIGINT;
+    QTest::newRow("terminate") << SIGTERM;
+    QTest::newRow("hang up") << SIGHUP;
+}
+
+void tst_StopHandler::aWishIsHeldUntilThereIsAHandler()
+{
+    QFETCH(const int, signal);
+    sigset_t before;
+    QCOMPARE(::pthread_sigmask(SIG_SETMASK, nullptr, &before), 0);
+    platform::holdStopSignals();
+    QCOMPARE(::raise(signal), 0);
+    int stops = 0;
+    const platform::StopHandler handler([&stops] { ++stops; });
+    QVERIFY(platform::StopHandler::isAsked());
+    QTRY_COMPARE(stops, 1);
+    sigset_t after;
+    QCOMPARE(::pthread_sigmask(SIG_SETMASK, nullptr, &after), 0);
+    for (const int one : {SIGINT, SIGTERM, SIGHUP})
+        QCOMPARE(::sigismember(&after, one), ::sigismember(&before, one));
+}
+
+QUORVEX_SUITE(tst_StopHandler, QCoreApplication)
+#include "tst_stophandler.moc"
