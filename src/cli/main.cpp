@@ -1,4 +1,5 @@
 #include "cli/certificateexport.h"
+#include "cli/exitcode.h"
 #include "cli/processio.h"
 #include "cli/runcli.h"
 #include "model/displaytext.h"
@@ -6,6 +7,9 @@
 
 #include <QCoreApplication>
 #include <QLocale>
+
+#include <cstdio>
+#include <new>
 
 namespace {
 
@@ -27,7 +31,10 @@ void printDiagnostics(QtMsgType type, const QMessageLogContext &, const QString 
 int main(int argc, char *argv[])
 {
     platform::holdStopSignals();
+    platform::liftOpenFileLimit();
     qInstallMessageHandler(printDiagnostics);
+    // GLib's event loop ends the process when memory runs short; the other one lets it be told.
+    qputenv("QT_NO_GLIB", "1");
     platform::provideComputerName();
     const QStringList arguments = platform::decodedArguments(argc, argv);
     const std::unique_ptr<QCoreApplication> application = cli::makeApplication(argc, argv);
@@ -36,5 +43,11 @@ int main(int argc, char *argv[])
     QCoreApplication::setApplicationVersion(u"5.0"_s);
 
     cli::ProcessIo io;
-    return cli::runCli(arguments.mid(1), io, QLocale::system().name());
+    try {
+        return cli::runCli(arguments.mid(1), io, QLocale::system().name());
+    } catch (const std::bad_alloc &) {
+        // What ran has been stopped on the way here. Nothing that needs memory.
+        static_cast<void>(std::fputs("out of memory\n", stderr));
+    }
+    return cli::SurroundingsFailed;
 }

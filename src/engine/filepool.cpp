@@ -1,5 +1,7 @@
 #include "engine/filepool.h"
 
+#include "platform/process.h"
+
 #include <QDeadlineTimer>
 #include <QDebug>
 #include <QMutex>
@@ -52,6 +54,19 @@ int FilePool::threadCount() const
     return m_threads->maxThreadCount();
 }
 
+// A thread of Qt's that gets no descriptor for its event loop ends the process. Asked once: the threads that
+// are there keep theirs.
+int FilePool::affordableThreads()
+{
+    // The event loop's, the file's, its folder's.
+    constexpr int FilesOfOneThread = 3;
+    // Folders that are walked, the log, the database.
+    constexpr int FilesOfOthers = 16;
+    if (m_affordable < 0)
+        m_affordable = std::max(platform::spareOpenFiles() - FilesOfOthers, 0) / FilesOfOneThread;
+    return std::min(m_affordable, threadCount());
+}
+
 int FilePool::run(std::vector<Job> jobs)
 {
     const auto batch = std::make_shared<Batch>();
@@ -64,6 +79,9 @@ int FilePool::run(std::vector<Job> jobs)
         while (batch->running > 0)
             batch->changed.wait(&batch->mutex);
     });
+    const int affordable = affordableThreads();
+    m_hasThreads = m_hasThreads && affordable > 0;
+    batch->limit = std::min(batch->limit, std::max(affordable, 1));
     const int wanted = std::min(batch->limit, static_cast<int>(batch->jobs.size()));
     for (int i = 0; i < wanted && m_hasThreads; ++i)
         m_threads->start([batch] { work(*batch); });

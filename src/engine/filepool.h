@@ -43,7 +43,11 @@ private:
     static void work(Batch &batch);
     void finish(Batch &batch);
 
+    int affordableThreads();
+
     QThreadPool *m_threads;
+    int m_affordable =
+        -1; // threads that the limit of open files leaves room for; below 0 before the first run
     const std::chrono::milliseconds m_patience;
     bool m_hasThreads = true;
 };

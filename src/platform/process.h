@@ -47,6 +47,14 @@ void provideComputerName();
 // surrogate U+DC00 + b.
 QStringList decodedArguments(int count, char *const *arguments);
 
+// Lets the process have as many files open as the system allows it. Windows: no limit is known. Linux:
+// setrlimit, the soft limit of RLIMIT_NOFILE becomes the hard one.
+void liftOpenFileLimit();
+
+// How many more files the process can have open by now, some more or less while other threads open and close
+// theirs; a number beyond all needs where no limit is known. Linux: getrlimit and fcntl.
+int spareOpenFiles();
+
 // A wish to stop that comes from now on waits for the first StopHandler, instead of ending a program that has
 // not got as far as having one. To be called once, before other threads run. Windows: does nothing. Linux:
 // blocks SIGINT, SIGTERM and SIGHUP.

@@ -4,10 +4,12 @@
 
 #include <fcntl.h>
 #include <sys/ioctl.h>
+#include <sys/resource.h>
 #include <sys/select.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <csignal>
 #include <cstdlib>
 #include <cstring>
 #include <utility>
@@ -17,9 +19,21 @@ ProgramRun &ProgramRun::operator()(QByteArrayList arguments)
     arguments.prepend(QByteArray(QUORVEX_CLI));
     arguments.append("--only-images");
     const Ends ends = onTerminal ? terminal() : pipes();
+    // What is sent before the program is there must not meet the handlers of this process.
+    sigset_t held;
+    sigset_t before;
+    ::sigemptyset(&held);
+    ::sigaddset(&held, SIGTERM);
+    ::pthread_sigmask(SIG_BLOCK, &held, &before);
     const pid_t child = ::fork();
-    if (child == 0)
+    if (child == 0) {
+        ::signal(SIGTERM, SIG_DFL);
+        ::pthread_sigmask(SIG_SETMASK, &before, nullptr);
         becomeProgram(arguments, ends); // does not return
+    }
+    ::pthread_sigmask(SIG_SETMASK, &before, nullptr);
+    if (onStart)
+        onStart(child);
     for (const int end : ends.child)
         ::close(end);
     if (closeOutput)
@@ -73,6 +87,10 @@ void ProgramRun::becomeProgram(const QByteArrayList &arguments, const Ends &ends
     for (const QByteArray &variable : environment) {
         const qsizetype sign = variable.indexOf('=');
         ::setenv(variable.left(sign).constData(), variable.mid(sign + 1).constData(), 1);
+    }
+    if (openFiles > 0) {
+        const rlimit limit{static_cast<rlim_t>(openFiles), static_cast<rlim_t>(openFiles)};
+        ::setrlimit(RLIMIT_NOFILE, &limit);
     }
     std::vector<char *> list;
     for (const QByteArray &argument : arguments)

@@ -22,6 +22,8 @@ public:
     QByteArray input;         // piped in, or typed as an answer to the question
     bool closeOutput = false; // nobody reads standard output
     QByteArrayList environment;
+    int openFiles = 0; // so many at a time and no more; 0: as many as this process
+    std::function<void(pid_t process)> onStart;
     // With all output so far, whenever there is more; may send signals to the process.
     std::function<void(const QByteArray &out, pid_t process)> onOutput;
 

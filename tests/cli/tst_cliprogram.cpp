@@ -9,15 +9,19 @@
 #include <QJsonObject>
 #include <QJsonValue>
 #include <QProcess>
+#include <QRandomGenerator>
 #include <QSysInfo>
 #include <QTemporaryDir>
 #include <QTest>
 
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <unistd.h>
 
+#include <chrono>
 #include <csignal>
+#include <thread>
 
 using namespace Qt::StringLiterals;
 
@@ -42,6 +46,8 @@ private slots:
     void impatienceDoesNotChangeTheEnd();
     void interruptIsHeardInTheBackgroundOfAShell();
     void hangUpIsLeftAloneUnderNohup();
+    void aStopAtAnyMomentIsTold();
+    void fewOpenFilesAreEnough();
     void aReaderThatGoesAwayDoesNotBreakTheJob();
     void aFullDiskUnderTheOutputIsAFailure();
     void diagnosticsAreSilentUnlessWanted();
@@ -275,6 +281,60 @@ void tst_CliProgram::interruptIsHeardInTheBackgroundOfAShell()
     run(longJob() + QByteArrayList{"--json"});
     ::signal(SIGINT, SIG_DFL);
     QCOMPARE(run.code, 4);
+}
+
+// Before the program's first line there is nobody to hear a signal, and nothing is touched either.
+void tst_CliProgram::aStopAtAnyMomentIsTold()
+{
+    const quint32 seed = QRandomGenerator::global()->generate();
+    qInfo("seed %u", seed);
+    QRandomGenerator random(seed);
+    int told = 0;
+    for (int i = 0; i < 30; ++i) {
+        const QByteArray path = image(4 << 20);
+        const int delay = random.bounded(60'000);
+        ProgramRun run;
+        std::thread sender;
+        run.onStart = [&sender, delay](pid_t child) {
+            // Once the process is gone its number may be another one's.
+            const int process = static_cast<int>(::syscall(SYS_pidfd_open, child, 0));
+            sender = std::thread([process, delay] {
+                std::this_thread::sleep_for(std::chrono::microseconds(delay));
+                ::syscall(SYS_pidfd_send_signal, process, SIGTERM, nullptr, 0);
+                ::close(process);
+            });
+        };
+        run({"wipe", "disk", "0", "--image", path, "--yes", "--buffer-mb", "1", "--method", "gutmann",
+             "--json"});
+        sender.join();
+        const QByteArray where =
+            "after " + QByteArray::number(delay) + " us: " + run.out.right(300) + run.err;
+        if (run.code == 0)
+            continue; // through already
+        if (run.signalNumber != 0) {
+            QVERIFY2(run.out.isEmpty() && run.err.isEmpty(), where.constData());
+            QVERIFY2(content(path) == QByteArray(4 << 20, 'x'), where.constData());
+            continue;
+        }
+        QVERIFY2(run.code == 4, where.constData());
+        QVERIFY2(lastEvent(run.out).value(u"outcome") == QJsonValue(u"cancelled"_s), where.constData());
+        ++told;
+    }
+    QVERIFY(told > 0);
+}
+
+// Threads of their own for many files need more descriptors than there are here.
+void tst_CliProgram::fewOpenFilesAreEnough()
+{
+    const QByteArray folder = inFolder("many");
+    QCOMPARE(::mkdir(folder.constData(), 0700), 0);
+    for (int i = 0; i < 40; ++i)
+        writeBytes(folder + '/' + QByteArray::number(i), QByteArray(5000, 'x'));
+    ProgramRun run;
+    run.openFiles = 24;
+    run({"wipe", "files", folder, "--yes", "--threads", "32"});
+    QVERIFY2(run.code == 0, (run.out + run.err).constData());
+    QVERIFY(!exists(folder));
 }
 
 void tst_CliProgram::hangUpIsLeftAloneUnderNohup()

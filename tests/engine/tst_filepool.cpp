@@ -1,4 +1,5 @@
 #include "engine/filepool.h"
+#include "platform/process.h"
 #include "support/faultplan.h"
 #include "support/suite.h"
 
@@ -7,9 +8,15 @@
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QScopeGuard>
 #include <QTest>
 #include <QThread>
 
+#ifdef Q_OS_LINUX
+#include <sys/resource.h>
+#endif
+
+#include <algorithm>
 #include <atomic>
 #include <chrono>
 #include <vector>
@@ -27,6 +34,8 @@ private slots:
     void withoutThreadsTheCallerDoesTheWork();
     void threadsThatComeLateAreWaitedFor();
     void filesAreErasedWithoutThreads();
+    void noMoreThreadsThanOpenFilesAllow_data();
+    void noMoreThreadsThanOpenFilesAllow();
 };
 
 namespace {
@@ -160,6 +169,56 @@ void tst_FilePool::filesAreErasedWithoutThreads()
     QCOMPARE(job.files.calls(FaultPlan::Flush).size(), 9 * 2); // overwritten, and cut
     for (const QString &file : std::as_const(files))
         QVERIFY(!QFile::exists(file));
+}
+
+void tst_FilePool::noMoreThreadsThanOpenFilesAllow_data()
+{
+    QTest::addColumn<int>("spare");
+    QTest::addColumn<int>("most");
+    QTest::newRow("none") << 4 << 0;
+    QTest::newRow("one thread") << 20 << 1;
+    QTest::newRow("some") << 30 << 4;
+    QTest::newRow("plenty") << 500 << 8;
+}
+
+// A thread of the pool without a descriptor for its event loop would end the process here.
+void tst_FilePool::noMoreThreadsThanOpenFilesAllow()
+{
+#ifdef Q_OS_LINUX
+    QFETCH(const int, spare);
+    QFETCH(const int, most);
+    rlimit before = {};
+    QCOMPARE(::getrlimit(RLIMIT_NOFILE, &before), 0);
+    rlimit tight = before;
+    // The lowest free number is the count of those in use, as long as there is no gap.
+    for (tight.rlim_cur = 3;; ++tight.rlim_cur) {
+        QVERIFY(::setrlimit(RLIMIT_NOFILE, &tight) == 0);
+        if (platform::spareOpenFiles() >= spare)
+            break;
+    }
+    const auto restore = qScopeGuard([&before] { ::setrlimit(RLIMIT_NOFILE, &before); });
+    QObject parent;
+    FilePool pool(8, &parent);
+    std::atomic<int> running{0};
+    std::atomic<int> highest{0};
+    Counting counting;
+    std::vector<FilePool::Job> jobs(64, [&] {
+        const int now = ++running;
+        for (int seen = highest; seen < now && !highest.compare_exchange_weak(seen, now);)
+            ;
+        QTest::qSleep(2);
+        --running;
+        counting.onCaller += QThread::currentThread() == counting.caller;
+        ++counting.ran;
+        return true;
+    });
+    QCOMPARE(pool.run(std::move(jobs)), 0);
+    QCOMPARE(counting.ran.load(), 64);
+    QCOMPARE(counting.onCaller.load(), most == 0 ? 64 : 0);
+    QVERIFY2(highest <= std::max(most, 1), QByteArray::number(highest.load()).constData());
+#else
+    QSKIP("SKIPPED: only on Linux can a test limit the open files of its process");
+#endif
 }
 
 QUORVEX_SUITE(tst_FilePool, QCoreApplication)

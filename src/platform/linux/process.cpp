@@ -10,12 +10,14 @@
 #include <fcntl.h>
 #include <poll.h>
 #include <sys/ioctl.h>
+#include <sys/resource.h>
 #include <unistd.h>
 
 #include <array>
 #include <atomic>
 #include <cerrno>
 #include <csignal>
+#include <limits>
 #include <optional>
 #include <utility>
 
@@ -133,6 +135,31 @@ QStringList decodedArguments(int count, char *const *arguments)
     for (int i = 0; i < count; ++i)
         result.append(decodeName(QByteArrayView(arguments[i])));
     return result;
+}
+
+void liftOpenFileLimit()
+{
+    rlimit limit = {};
+    if (::getrlimit(RLIMIT_NOFILE, &limit) != 0 || limit.rlim_cur == limit.rlim_max)
+        return;
+    limit.rlim_cur = limit.rlim_max;
+    // As before is not wrong, only less.
+    static_cast<void>(::setrlimit(RLIMIT_NOFILE, &limit));
+}
+
+int spareOpenFiles()
+{
+    constexpr int Unlimited = std::numeric_limits<int>::max();
+    rlimit limit = {};
+    if (::getrlimit(RLIMIT_NOFILE, &limit) != 0 || limit.rlim_cur >= rlim_t(Unlimited))
+        return Unlimited;
+    const auto most = static_cast<int>(limit.rlim_cur);
+    int spare = 0;
+    // Every free number is one; not all are looked at where there are plenty.
+    constexpr int Plenty = 1024;
+    for (int number = 0; number < most && spare < Plenty; ++number)
+        spare += ::fcntl(number, F_GETFD) < 0 ? 1 : 0;
+    return spare;
 }
 
 void holdStopSignals()

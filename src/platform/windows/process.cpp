@@ -12,6 +12,7 @@
 #include <atomic>
 #include <chrono>
 #include <condition_variable>
+#include <limits>
 #include <mutex>
 #include <string>
 #include <utility>
@@ -200,6 +201,14 @@ void outliveReaders()
 
 void provideComputerName()
 {}
+
+void liftOpenFileLimit()
+{}
+
+int spareOpenFiles()
+{
+    return std::numeric_limits<int>::max();
+}
 
 void holdStopSignals()
 {}
