@@ -1,5 +1,6 @@
 #include "engine/fileprogress.h"
 
+#include <QElapsedTimer>
 #include <QMutexLocker>
 
 #include <utility>
@@ -8,10 +9,17 @@ namespace {
 constexpr qint64 Interval = 100; // ms
 }
 
-FileProgress::FileProgress(Report report)
+FileProgress::FileProgress(Report report, Clock clock)
     : m_report(std::move(report))
+    , m_clock(std::move(clock))
+    , m_lastReport(m_clock())
+{}
+
+FileProgress::Clock FileProgress::steadyMilliseconds()
 {
-    m_clock.start();
+    QElapsedTimer timer;
+    timer.start();
+    return [timer] { return timer.elapsed(); };
 }
 
 void FileProgress::beginPass(int pass, int passCount, qint64 bytesPerPass)
@@ -30,10 +38,10 @@ void FileProgress::add(qint64 bytes)
     if (!isDue())
         return;
     m_report(m_bytesBefore + m_bytesOfPass, m_total == 0 ? 1 : m_total);
-    m_lastReport = m_clock.elapsed();
+    m_lastReport = m_clock();
 }
 
 bool FileProgress::isDue() const
 {
-    return m_clock.elapsed() - m_lastReport > Interval;
+    return m_clock() - m_lastReport > Interval;
 }

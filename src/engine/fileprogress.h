@@ -1,21 +1,23 @@
 #pragma once
 
-#include <QElapsedTimer>
 #include <QMutex>
 #include <QtGlobal>
 
 #include <atomic>
 #include <functional>
 
-// How far a file job has come. Threads that write side by side add to it; it reports ten times a second at
-// most.
+// How far a file job has come. Threads that write side by side add to it; it reports when more than 100 ms
+// have gone by since its last report, or since it was made.
 class FileProgress
 {
 public:
     // Bytes over all passes; total is never 0. From the thread that adds, one at a time.
     using Report = std::function<void(qint64 done, qint64 total)>;
 
-    explicit FileProgress(Report report);
+    // A time that only grows, in ms; asked on any thread.
+    using Clock = std::function<qint64()>;
+
+    explicit FileProgress(Report report, Clock clock = steadyMilliseconds());
 
     // Between passes, while nobody adds. pass counts from 1.
     void beginPass(int pass, int passCount, qint64 bytesPerPass);
@@ -24,14 +26,15 @@ public:
     qint64 bytesOfPass() const { return m_bytesOfPass; }
 
 private:
+    static Clock steadyMilliseconds();
     bool isDue() const;
 
     Report m_report;
+    Clock m_clock;
     qint64 m_bytesBefore = 0; // in earlier passes
     qint64 m_total = 0;
     std::atomic<qint64> m_bytesOfPass{0};
 
-    QElapsedTimer m_clock;               // only read after construction
-    std::atomic<qint64> m_lastReport{0}; // reading of that clock, in ms
+    std::atomic<qint64> m_lastReport; // reading of the clock
     QMutex m_mutex;
 };
