@@ -223,7 +223,7 @@ void tst_FileCollector::whatWasListedBeforeTheFailureStays()
     {
     public:
         using ForwardingFolders::ForwardingFolders;
-        Status forEachEntry(const QString &folder, const Visitor &visit) override
+        Status forEachEntry(const platform::EntryPath &folder, const Visitor &visit) override
         {
             const Status status = ForwardingFolders::forEachEntry(folder, visit);
             return status ? Status{platform::IoDevice, 0, "planned"} : status;

@@ -200,7 +200,7 @@ void tst_FileWipeThreads::aStopDuringTheScan()
     {
     public:
         using ForwardingFolders::ForwardingFolders;
-        Status forEachEntry(const QString &folder, const Visitor &visit) override
+        Status forEachEntry(const platform::EntryPath &folder, const Visitor &visit) override
         {
             int seen = 0;
             return ForwardingFolders::forEachEntry(folder, [&](const QString &name, platform::FileKind kind) {
