@@ -154,6 +154,9 @@ bool FileCollector::listFolder(Folder folder, std::vector<Folder> &pending, bool
         entry ? platform::Platform::current().folders().forEachEntry(entry.value(), visit) : entry.status();
     if (!goesOn)
         return false;
+    // Gone since it was found; only of one that is listed for the first time nobody knows what was in it.
+    if (m_known && isAbsent(listed))
+        return true;
     if (!listed) {
         complete = false;
         tellUnreadable(Unreadable::Folder, m_tree.path(folder), listed);

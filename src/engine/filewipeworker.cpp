@@ -35,6 +35,8 @@ constexpr qint64 MiB = 1024LL * 1024;
 constexpr qint64 SmallestBuffer = 256LL * 1024;
 constexpr qint64 LargestBuffer = 16 * MiB;
 constexpr int DefaultBufferMB = 4;
+// Whoever writes faster than it is erased is not waited for.
+constexpr int MostRounds = 10;
 
 platform::Files &files()
 {
@@ -114,12 +116,13 @@ bool FileWipeWorker::shred()
     if (isStopRequested())
         return concludeJob(false);
     announceFiles();
-    const bool isOverwritten = overwriteAll();
+    const bool isOverwritten = overwriteAll() && overwriteLate();
     logContentElsewhere();
     if (!isOverwritten)
         return concludeJob(false);
     log(tr("正在执行安全删除及元数据清理..."));
-    const bool success = deleteFrom(0);
+    bool success = deleteFrom(0);
+    success = eraseLate() && success;
     removeRest();
     removeFolders();
     return concludeJob(success);
@@ -246,8 +249,28 @@ bool FileWipeWorker::measureFile(std::size_t file)
     return true;
 }
 
+std::size_t FileWipeWorker::addLate()
+{
+    const std::size_t first = m_list.files.size();
+    if (m_list.folders.empty() || isStopRequested())
+        return first;
+    std::vector<FileEntry> known = m_list.files;
+    known.insert(known.end(), m_left.begin(), m_left.end());
+    known.insert(known.end(), m_kept.begin(), m_kept.end());
+    FileList late = FileCollector(m_tree, observer()).collectNew(m_list.folders, FileIndex(m_tree, known));
+    m_list.unreadable += late.unreadable;
+    std::ranges::move(late.files, std::back_inserter(m_list.files));
+    const qint64 announced = m_singlePassTotal;
+    measureFrom(first);
+    m_singlePassTotal = announced;
+    if (m_list.files.size() > first)
+        log(tr("任务期间又出现 %1 个文件，同样进行擦除").arg(m_list.files.size() - first), Warning);
+    return first;
+}
+
 void FileWipeWorker::announceFiles()
 {
+    m_firstCount = m_list.files.size();
     m_totalPasses = task().method().passCount();
     task().updateReport([this](WipeReport &report) {
         report.fileCount = static_cast<qint32>(m_list.files.size());
@@ -281,16 +304,74 @@ bool FileWipeWorker::overwriteAll()
         m_progress.beginPass(m_currentPass, m_totalPasses, m_singlePassTotal);
         const bool passed = overwritePass(pattern, 0);
         m_bytesBeforePass += m_progress.bytesOfPass();
-        if (!passed) {
-            log(tr("第 %1/%2 遍覆写出现失败文件，失败数: %3")
-                    .arg(m_currentPass)
-                    .arg(m_totalPasses)
-                    .arg(m_failedCount),
-                Error);
-            return false;
-        }
+        if (!passed)
+            return failPass(m_currentPass);
     }
     return !isStopRequested();
+}
+
+bool FileWipeWorker::failPass(int pass)
+{
+    log(tr("第 %1/%2 遍覆写出现失败文件，失败数: %3").arg(pass).arg(m_totalPasses).arg(m_failedCount), Error);
+    return false;
+}
+
+bool FileWipeWorker::overwriteFrom(std::size_t first)
+{
+    noteReadBack(true);
+    m_isLate = true;
+    int pass = 0;
+    const QList<PassPattern> passes = task().method().passes;
+    for (const PassPattern &pattern : passes) {
+        ++pass;
+        if (isStopRequested())
+            return false;
+        if (!overwritePass(pattern, first))
+            return failPass(pass);
+    }
+    return !isStopRequested();
+}
+
+// One file on this thread.
+bool FileWipeWorker::overwriteAgain(std::size_t index)
+{
+    noteReadBack(true);
+    m_isLate = true;
+    const QList<PassPattern> passes = task().method().passes;
+    return std::ranges::all_of(passes, [this, index](const PassPattern &pattern) {
+        return overwriteJob(index, pattern, drawSeed());
+    });
+}
+
+bool FileWipeWorker::overwriteLate()
+{
+    for (int round = 0; round < MostRounds; ++round) {
+        m_overwrittenCount = m_list.files.size();
+        const std::size_t first = addLate();
+        if (first == m_list.files.size())
+            break;
+        if (!overwriteFrom(first))
+            return false;
+        m_overwrittenCount = m_list.files.size();
+    }
+    return !isStopRequested();
+}
+
+// What appeared while files were deleted.
+bool FileWipeWorker::eraseLate()
+{
+    bool success = true;
+    for (int round = 0; round < MostRounds && success; ++round) {
+        const std::size_t first = addLate();
+        if (first == m_list.files.size())
+            break;
+        success = overwriteFrom(first);
+        if (!success)
+            break;
+        m_overwrittenCount = m_list.files.size();
+        success = deleteFrom(first);
+    }
+    return success;
 }
 
 bool FileWipeWorker::overwritePass(const PassPattern &pattern, std::size_t first)
@@ -410,7 +491,8 @@ bool FileWipeWorker::writeChunks(platform::FileHandle &file, const QString &path
         if (!written)
             return failFile(tr("WriteFile 失败: %1"), path, written);
         offset += chunk;
-        m_progress.add(chunk);
+        if (!m_isLate)
+            m_progress.add(chunk);
     }
     return true;
 }
@@ -474,7 +556,8 @@ bool FileWipeWorker::deleteFrom(std::size_t first)
             log(tr("删除失败: %1").arg(displayText(pathOf(i))), Warning);
             task().noteShortfall({ShortfallKind::EntryNotRemoved, pathOf(i)});
         }
-        ++m_processedCount;
+        if (i < m_firstCount)
+            ++m_processedCount;
     }
     m_failedCount += failures;
     return failures == 0;
@@ -489,8 +572,14 @@ bool FileWipeWorker::deleteFile(FileDeletion &deletion, std::size_t index)
             watched(index).vanish();
         return isAbsent(place.status());
     }
-    if (!isToBeDeleted(index, place.value()))
-        return true;
+    if (const auto info = files().info(place.value()); info) {
+        if (watched(index).isReplacedBy(info.value())) {
+            noteReplaced(pathOf(index));
+            return true;
+        }
+        if (!overwriteGrown(index, place.value(), info.value()))
+            return isStopRequested();
+    }
     if (deletion.secureDeleteFile(place.value(), &watched(index))) {
         if (deletion.found() == FileDeletion::Found::Nothing)
             watched(index).vanish();
@@ -509,18 +598,21 @@ bool FileWipeWorker::deleteFile(FileDeletion &deletion, std::size_t index)
     return info ? info.value().kind == FileKind::Folder : isAbsent(info.status());
 }
 
-// Notes what has become of the entry since it was overwritten.
-bool FileWipeWorker::isToBeDeleted(std::size_t index, const EntryPath &entry)
+// What a file has gained since its passes is to be gone as the rest of it. False when it could not be
+// written.
+bool FileWipeWorker::overwriteGrown(std::size_t index, const EntryPath &entry,
+                                    const platform::FileInfo &found)
 {
-    const auto info = files().info(entry);
-    if (!info)
-        return true;
-    if (watched(index).isReplacedBy(info.value())) {
-        noteReplaced(pathOf(index));
-        return false;
+    qint64 grown = watched(index).grownBy(found);
+    for (int round = 0; grown > 0 && round < MostRounds; ++round) {
+        watched(index).beginAnew();
+        if (!overwriteAgain(index))
+            return false;
+        const auto info = files().info(entry);
+        grown = info ? watched(index).grownBy(info.value()) : 0;
     }
-    if (const qint64 grown = watched(index).grownBy(info.value()); grown > 0)
-        task().noteShortfall({ShortfallKind::EntryGrew, pathOf(index), grown});
+    if (grown > 0)
+        task().noteShortfall({ShortfallKind::EntryGrew, entry.path(), grown});
     return true;
 }
 
@@ -549,8 +641,8 @@ void FileWipeWorker::removeRest()
     const auto isMeant = [&tops](const FileEntry &file) {
         return tops[static_cast<std::size_t>(file.folder)] != HeldTree::None;
     };
-    for (std::size_t i = 0; i < m_list.files.size(); ++i) {
-        WatchedFile &file = watched(i);
+    for (std::size_t i = 0; i < m_overwrittenCount; ++i) {
+        const WatchedFile &file = watched(i);
         if (file.isRemoved() || !isMeant(m_list.files[i]))
             continue;
         const auto place = entry(i);

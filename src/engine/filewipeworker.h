@@ -55,8 +55,15 @@ private:
     void announceFiles();
     void noteMounted(const QString &path);
 
+    // Adds what has appeared in the folders of the job since they were listed. The number of the first file.
+    std::size_t addLate();
+    // Lets the files from this one on receive every pass, without a word of progress.
+    bool overwriteFrom(std::size_t first);
     // False when the job is not to delete anything.
     bool overwriteAll();
+    bool overwriteAgain(std::size_t index);
+    bool overwriteLate();
+    bool failPass(int pass);
     bool overwritePass(const PassPattern &pattern, std::size_t first);
     // The number of files that failed.
     int overwriteBatch(std::size_t first, std::size_t count, const PassPattern &pattern);
@@ -77,7 +84,8 @@ private:
 
     bool deleteFrom(std::size_t first);
     bool deleteFile(FileDeletion &deletion, std::size_t index);
-    bool isToBeDeleted(std::size_t index, const platform::EntryPath &entry);
+    bool eraseLate();
+    bool overwriteGrown(std::size_t index, const platform::EntryPath &entry, const platform::FileInfo &found);
     void noteVanished();
     void removeRest();
     void removeFolders();
@@ -94,6 +102,9 @@ private:
     std::atomic<int> m_elsewhereCount{0}; // files whose content may lie elsewhere too
     qint64 m_singlePassTotal = 0;         // bytes
     bool m_isTotalCertain = true;         // the size of every file that stands was told
+    std::size_t m_firstCount = 0;         // files that the scan found; the others appeared later
+    std::size_t m_overwrittenCount = 0;   // files from the beginning that received every pass
+    bool m_isLate = false;                // what is written now is not a part of the progress
     int m_processedCount = 0;
     int m_failedCount = 0;
 

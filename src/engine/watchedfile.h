@@ -33,8 +33,12 @@ public:
     // True once: where the content lies has not been asked yet.
     bool isToBeLocated();
 
-    // Nothing stood there when it was looked for.
-    void vanish() { m_isVanished = true; }
+    // Nothing stood there when it was looked for: no byte of it is known to have received every pass.
+    void vanish()
+    {
+        m_isVanished = true;
+        m_overwritten = 0;
+    }
     bool isVanished() const { return m_isVanished; }
     // It was removed by the job.
     void remove() { m_isRemoved = true; }

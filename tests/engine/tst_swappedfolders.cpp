@@ -2,7 +2,9 @@
 #include "model/joboutcome.h"
 #include "platform/filenames.h"
 #include "platform/forwarding.h"
+#include "platform/linux/filedescriptor.h"
 #include "support/faultplan.h"
+#include "support/fewdescriptors.h"
 #include "support/links.h"
 #include "support/plainmount.h"
 #include "support/suite.h"
@@ -18,6 +20,7 @@
 
 #include <fcntl.h>
 #include <sys/mount.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <atomic>
@@ -133,6 +136,7 @@ private slots:
     void swappedAllTheTime_data();
     void swappedAllTheTime();
     void moreFoldersThanAreHeld();
+    void aThousandLevels();
     void aFolderMountedInside_data();
     void aFolderMountedInside();
     void aFileMountedInside();
@@ -281,6 +285,28 @@ void tst_SwappedFolders::moreFoldersThanAreHeld()
     QVERIFY(QDir(job.path({})).isEmpty());
     QVERIFY(job.task.outcome().shortfalls().isEmpty());
     QCOMPARE(job.files.calls(FaultPlan::Rename).size(), 300);
+}
+
+// Deeper than any path that the system takes, with fewer descriptors than levels.
+void tst_SwappedFolders::aThousandLevels()
+{
+    constexpr int Levels = 1000;
+    FileJob job;
+    const FewDescriptors few(300);
+    QVERIFY(few.isSet());
+    const QString folder = job.makeFolder(u"t"_s);
+    platform::FileDescriptor at(::open(platform::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY));
+    for (int level = 0; level < Levels; ++level) {
+        const platform::FileDescriptor file(::openat(at.get(), "secret", O_WRONLY | O_CREAT, 0600));
+        QCOMPARE(::write(file.get(), Secret.constData(), static_cast<size_t>(Secret.size())), Secret.size());
+        QCOMPARE(::mkdirat(at.get(), "a folder", 0700), 0);
+        at = platform::FileDescriptor(::openat(at.get(), "a folder", O_RDONLY | O_DIRECTORY));
+        QVERIFY(at.isValid());
+    }
+    QVERIFY2(job.run({folder}), qPrintable(job.lines().mid(0, 20).join(u'\n').left(2000)));
+    QCOMPARE(job.files.calls(FaultPlan::Write).size(), Levels);
+    QVERIFY(!QFileInfo::exists(folder));
+    QVERIFY(job.task.outcome().shortfalls().isEmpty());
 }
 
 void tst_SwappedFolders::aFolderMountedInside_data()
