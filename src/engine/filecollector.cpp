@@ -1,64 +1,29 @@
 #include "engine/filecollector.h"
 
+#include "engine/filetargets.h"
 #include "platform/files.h"
 #include "platform/folders.h"
 #include "platform/platform.h"
 
-#include <QDir>
-
 #include <utility>
 
-using namespace Qt::StringLiterals;
 using platform::FileKind;
 using platform::Result;
 using platform::Status;
-
-namespace {
-
-bool isRoot(const QString &path)
-{
-    return path == u"/"_s || (path.size() == 3 && path.endsWith(u":/"_s));
-}
-
-// "link/" and "link/." mean the folder that the link leads to; a link is to be taken as it is. ".." stays:
-// dropping it from the text could name another folder than the system does.
-QString withoutTrailingSeparators(QString path)
-{
-    while (!isRoot(path) && (path.endsWith(u'/') || path.endsWith(u"/."_s)))
-        path.chop(1);
-    return path;
-}
-
-struct Split
-{
-    QString folder;
-    QString name; // empty for what no folder contains under a name: a root, "..", ".", nothing
-};
-
-Split split(const QString &path)
-{
-    const qsizetype slash = path.lastIndexOf(u'/');
-    const QString name = path.mid(slash + 1);
-    if (isRoot(path) || name.isEmpty() || name == u"."_s || name == u".."_s)
-        return {path, {}};
-    const QString folder = path.left(slash + 1);
-    return {folder.isEmpty() ? u"."_s : isRoot(folder) ? folder : folder.chopped(1), name};
-}
-
-} // namespace
 
 FileCollector::FileCollector(HeldTree &tree, Observer observer)
     : m_tree(tree)
     , m_observer(std::move(observer))
 {}
 
-FileList FileCollector::collect(const QStringList &targets)
+FileList FileCollector::collect(const QStringList &targets, const QHash<QString, TargetIdentity> &identities)
 {
     m_mayRepeat = targets.size() > 1;
     for (const QString &target : targets) {
         if (!m_observer.goOn())
             break;
-        addTarget(withoutTrailingSeparators(QDir::fromNativeSeparators(target)));
+        const auto expected = identities.constFind(target);
+        addTarget(target, expected == identities.cend() ? std::nullopt : std::optional(*expected));
     }
     m_paths = {};
     return std::exchange(m_list, {});
@@ -77,45 +42,35 @@ FileList FileCollector::collectNew(const std::vector<Folder> &folders, const Fil
     return std::exchange(m_list, {});
 }
 
-void FileCollector::addTarget(const QString &target)
+void FileCollector::addTarget(const QString &given, const std::optional<TargetIdentity> &expected)
 {
-    const Split parts = split(target);
-    const Result<Folder> above = m_tree.addTop(parts.folder);
-    if (isAbsent(above.status()))
-        return;
-    if (parts.name.isEmpty() || !above) {
-        addFolderTarget(above, target);
-        return;
-    }
-    const Result<platform::EntryPath> entry = m_tree.entry(above.value(), parts.name);
-    const auto info = entry ? platform::Platform::current().files().info(entry.value()) : entry.status();
-    if (isAbsent(info.status()))
-        return;
-    if (!info) {
-        tellUnreadable(Unreadable::Target, target, info.status());
+    const QString target = targetPath(given);
+    const Result<FoundTarget> found = findTarget(m_tree, target);
+    if (isAbsent(found.status())) {
+        if (expected)
+            m_observer.vanished(target);
         return;
     }
-    switch (info.value().kind) {
+    if (!found) {
+        tellUnreadable(Unreadable::Target, target, found.status());
+        return;
+    }
+    if (expected && *expected != found.value().identity) {
+        m_observer.replaced(target);
+        return;
+    }
+    switch (found.value().kind) {
     case FileKind::Regular:
     case FileKind::Link:
-        addFile(above.value(), parts.name);
+        addFile(found.value().above, found.value().name);
         break;
     case FileKind::Folder:
-        // A volume that the user has named is meant.
-        addFolderTarget(m_tree.addFolder(above.value(), parts.name, platform::Folders::Mounts::Enter),
-                        target);
+        if (addContent(found.value().folder))
+            m_list.folders.push_back(found.value().folder);
         break;
     case FileKind::Special:
         break;
     }
-}
-
-void FileCollector::addFolderTarget(const Result<Folder> &folder, const QString &target)
-{
-    if (!folder)
-        tellUnreadable(Unreadable::Target, target, folder.status());
-    else if (addContent(folder.value()))
-        m_list.folders.push_back(folder.value());
 }
 
 // A stack instead of recursion, and few open folders at a time: the depth of a tree is limited by nothing.

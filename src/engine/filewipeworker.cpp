@@ -177,12 +177,17 @@ FileCollector::Observer FileWipeWorker::observer()
     };
     return {.goOn = [this] { return checkPauseStop(); },
             .unreadable = unreadable,
-            .mounted = [this](const QString &path) { noteMounted(path); }};
+            .mounted = [this](const QString &path) { noteMounted(path); },
+            .replaced = [this](const QString &path) { noteReplaced(path); },
+            .vanished =
+                [this](const QString &path) {
+                    task().noteShortfall({ShortfallKind::EntryVanished, path});
+                }};
 }
 
 FileList FileWipeWorker::collectFiles(const QStringList &targets)
 {
-    return FileCollector(m_tree, observer()).collect(targets);
+    return FileCollector(m_tree, observer()).collect(targets, task().targetIdentities());
 }
 
 // Neither the folder's content nor the user's choice: whatever is mounted there stays as it is.
@@ -226,7 +231,6 @@ bool FileWipeWorker::measureFile(std::size_t file)
     }
     if (info.value().isMounted && info.value().kind != FileKind::Folder) {
         noteMounted(pathOf(file));
-        m_kept.push_back(m_list.files[file]);
         return false;
     }
     watched(file).find(info.value());
@@ -256,7 +260,6 @@ std::size_t FileWipeWorker::addLate()
         return first;
     std::vector<FileEntry> known = m_list.files;
     known.insert(known.end(), m_left.begin(), m_left.end());
-    known.insert(known.end(), m_kept.begin(), m_kept.end());
     FileList late = FileCollector(m_tree, observer()).collectNew(m_list.folders, FileIndex(m_tree, known));
     m_list.unreadable += late.unreadable;
     std::ranges::move(late.files, std::back_inserter(m_list.files));

@@ -97,7 +97,6 @@ private:
     FileList m_list;
     std::vector<WatchedFile> m_watched;   // the files of the list; each used by the one job that has its file
     std::vector<FileEntry> m_left;        // what stands under a name that the list does not have
-    std::vector<FileEntry> m_kept;        // what is mounted over the name of a file
     QSet<QString> m_mounted;              // paths of what is not to be entered
     std::atomic<int> m_elsewhereCount{0}; // files whose content may lie elsewhere too
     qint64 m_singlePassTotal = 0;         // bytes

@@ -16,6 +16,8 @@ namespace {
 
 // Enough for the jobs of a batch to find theirs, few beside what a process may have open.
 constexpr std::size_t MostHeld = 96;
+// Beyond these a path has to do.
+constexpr int MostPinned = 256;
 // Of the folders on the way to one that was opened again: going up from there needs them next.
 constexpr std::size_t MostOnTheWay = 32;
 
@@ -34,8 +36,10 @@ Result<HeldTree::Folder> HeldTree::addTop(const QString &path)
     if (!handle)
         return handle.status();
     Node node{.parent = None, .name = path};
-    if (!handle.value()->id())
+    if (!handle.value()->id() && m_pinned < MostPinned) {
         node.pinned = handle.value();
+        ++m_pinned;
+    }
     return add(std::move(node), handle.value());
 }
 

@@ -36,6 +36,8 @@ public:
     Folder parentOf(Folder folder) const { return node(folder).parent; }
     // The first folder of the tree that is the same one, maybe itself: it may have been reached on two ways.
     Folder firstAs(Folder folder) const;
+    // Nothing where the file system knows its folders by no lasting numbers.
+    std::optional<platform::FileId> idOf(Folder folder) const { return node(folder).id; }
     QString path(Folder folder) const;
     QString path(Folder folder, const QString &name) const;
 
@@ -89,7 +91,8 @@ private:
     std::vector<Node> m_nodes;
     QHash<Name, Folder> m_byName;
     QHash<platform::FileId, Folder> m_firstById;
-    QMutex m_mutex; // guards what follows
+    int m_pinned = 0; // tops that are
+    QMutex m_mutex;   // guards what follows
     std::vector<Held> m_held;
     quint64 m_clock = 0;
 };

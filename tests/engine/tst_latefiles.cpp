@@ -10,6 +10,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QTest>
+#include <QThread>
 
 #include <functional>
 
@@ -74,6 +75,7 @@ private slots:
     void aFileThatIsRenamed();
     void aFolderThatAppears();
     void theCountsStayThoseOfTheScan();
+    void lateFilesAreNoPartOfTheProgress();
     void nothingIsDeletedWhenALateFileFails();
     void aLateFileThatFailsAfterTheDeletionStays();
     void whoeverGoesOnIsNotWaitedFor();
@@ -147,8 +149,26 @@ void tst_LateFiles::theCountsStayThoseOfTheScan()
                           appeared(1), said::deleting, said::allDone(2), said::succeeded}));
     QCOMPARE(s.job.task.report().fileCount, 2);
     QCOMPARE(s.job.task.report().totalBytes, quint64(24));
-    for (const int percent : s.job.said.percents())
-        QVERIFY(percent <= 100);
+}
+
+// A report of progress is due at the first byte.
+void tst_LateFiles::lateFilesAreNoPartOfTheProgress()
+{
+    Scenario s;
+    qsizetype reports = -1;
+    s.job.said.onLine = [&](const QString &line) {
+        if (line == said::pass(2, 2))
+            s.job.makeFile(u"t/late"_s, Secret);
+        if (line == appeared(1))
+            reports = s.job.said.percents().size();
+    };
+    s.onCall = [](const FileCall &call) {
+        if (call.kind == FaultPlan::Write && call.path.endsWith(u"/late"_s))
+            QThread::msleep(150);
+        return Status();
+    };
+    QVERIFY(s.job.run({s.folder}));
+    QCOMPARE(s.job.said.percents().size(), reports);
 }
 
 void tst_LateFiles::nothingIsDeletedWhenALateFileFails()
