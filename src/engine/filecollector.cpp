@@ -1,122 +1,162 @@
 #include "engine/filecollector.h"
 
+#include "engine/filetargets.h"
 #include "platform/files.h"
 #include "platform/folders.h"
 #include "platform/platform.h"
 
-#include <QDir>
-
 #include <utility>
 
-using namespace Qt::StringLiterals;
 using platform::FileKind;
+using platform::Result;
+using platform::Status;
 
-namespace {
-
-// "link/" and "link/." mean the folder that the link leads to; a link is to be taken as it is. ".." stays:
-// dropping it from the text could name another folder than the system does.
-QString withoutTrailingSeparators(QString path)
-{
-    const auto isRoot = [](const QString &text) {
-        return text == u"/"_s || (text.size() == 3 && text.endsWith(u":/"_s));
-    };
-    while (!isRoot(path) && (path.endsWith(u'/') || path.endsWith(u"/."_s)))
-        path.chop(1);
-    return path;
-}
-
-QString inFolder(const QString &folder, const QString &name)
-{
-    QString path;
-    path.reserve(folder.size() + 1 + name.size());
-    path += folder;
-    if (!folder.endsWith(u'/'))
-        path += u'/';
-    path += name;
-    return path;
-}
-
-} // namespace
-
-FileCollector::FileCollector(Observer observer)
-    : m_observer(std::move(observer))
+FileCollector::FileCollector(HeldTree &tree, Observer observer)
+    : m_tree(tree)
+    , m_observer(std::move(observer))
 {}
 
-FileList FileCollector::collect(const QStringList &targets)
+FileList FileCollector::collect(const QStringList &targets, const QHash<QString, TargetIdentity> &identities)
 {
     m_mayRepeat = targets.size() > 1;
     for (const QString &target : targets) {
         if (!m_observer.goOn())
             break;
-        addTarget(withoutTrailingSeparators(QDir::fromNativeSeparators(target)));
+        const auto expected = identities.constFind(target);
+        addTarget(target, expected == identities.cend() ? std::nullopt : std::optional(*expected));
     }
-    m_known = {};
+    m_paths = {};
     return std::exchange(m_list, {});
 }
 
-void FileCollector::addTarget(const QString &target)
+FileList FileCollector::collectNew(const std::vector<Folder> &folders, const FileIndex &known)
 {
-    const auto info = platform::Platform::current().files().info(target);
-    if (!info) {
-        if (!isAbsent(info.status())) {
-            ++m_list.unreadable;
-            m_observer.unreadable(Unreadable::Target, target, info.status());
-        }
+    m_mayRepeat = folders.size() > 1;
+    m_known = &known;
+    for (const Folder folder : folders) {
+        if (addContent(folder))
+            m_list.folders.push_back(folder);
+    }
+    m_known = nullptr;
+    m_paths = {};
+    return std::exchange(m_list, {});
+}
+
+void FileCollector::addTarget(const QString &given, const std::optional<TargetIdentity> &expected)
+{
+    const QString target = targetPath(given);
+    const Result<FoundTarget> found = findTarget(m_tree, target);
+    if (isAbsent(found.status())) {
+        if (expected)
+            m_observer.vanished(target);
         return;
     }
-    switch (info.value().kind) {
+    if (!found) {
+        tellUnreadable(Unreadable::Target, target, found.status());
+        return;
+    }
+    if (expected && *expected != found.value().identity) {
+        m_observer.replaced(target);
+        return;
+    }
+    switch (found.value().kind) {
     case FileKind::Regular:
     case FileKind::Link:
-        addFile(target);
+        addFile(found.value().above, found.value().name);
         break;
     case FileKind::Folder:
-        if (addContent(target))
-            m_list.folders.append(target);
+        if (addContent(found.value().folder))
+            m_list.folders.push_back(found.value().folder);
         break;
     case FileKind::Special:
         break;
     }
 }
 
-// A stack instead of recursion, and one open folder at a time: the depth of a tree is limited by nothing.
-bool FileCollector::addContent(const QString &target)
+// A stack instead of recursion, and few open folders at a time: the depth of a tree is limited by nothing.
+bool FileCollector::addContent(Folder target)
 {
     bool complete = true;
-    QStringList pending{target};
-    while (!pending.isEmpty()) {
-        const QString folder = pending.takeLast();
-        bool goesOn = m_observer.goOn();
-        if (!goesOn)
+    std::vector<Folder> pending{target};
+    while (!pending.empty()) {
+        const Folder folder = pending.back();
+        pending.pop_back();
+        if (!m_observer.goOn() || !listFolder(folder, pending, complete))
             return false;
-        const auto visit = [&](const QString &name, FileKind kind) {
-            goesOn = m_observer.goOn();
-            if (!goesOn)
-                return false;
-            if (kind == FileKind::Folder)
-                pending.append(inFolder(folder, name));
-            else
-                addFile(inFolder(folder, name));
-            return true;
-        };
-        const platform::Status listed = platform::Platform::current().folders().forEachEntry(folder, visit);
-        if (!goesOn)
-            return false;
-        if (!listed) {
-            complete = false;
-            ++m_list.unreadable;
-            m_observer.unreadable(Unreadable::Folder, folder, listed);
-        }
     }
     return complete;
 }
 
-void FileCollector::addFile(const QString &path)
+// False when the observer ended the scan. The folders are entered when the listing is through: a visitor is
+// no place to wait in.
+bool FileCollector::listFolder(Folder folder, std::vector<Folder> &pending, bool &complete)
+{
+    const QSet<QString> known = m_known ? m_known->namesIn(folder) : QSet<QString>();
+    QStringList folders;
+    bool goesOn = true;
+    const auto visit = [&](const QString &name, FileKind kind) {
+        goesOn = m_observer.goOn();
+        if (!goesOn)
+            return false;
+        if (kind == FileKind::Folder)
+            folders.append(name);
+        else if (!known.contains(name))
+            addFile(folder, name);
+        return true;
+    };
+    const Result<platform::EntryPath> entry = m_tree.itself(folder);
+    const Status listed =
+        entry ? platform::Platform::current().folders().forEachEntry(entry.value(), visit) : entry.status();
+    if (!goesOn)
+        return false;
+    // Gone since it was found; only of one that is listed for the first time nobody knows what was in it.
+    if (m_known && isAbsent(listed))
+        return true;
+    if (!listed) {
+        complete = false;
+        tellUnreadable(Unreadable::Folder, m_tree.path(folder), listed);
+    }
+    for (const QString &name : std::as_const(folders)) {
+        goesOn = m_observer.goOn();
+        if (!goesOn)
+            return false;
+        complete = enter(folder, name, pending) && complete;
+    }
+    return true;
+}
+
+// True as well for what is not to be entered.
+bool FileCollector::enter(Folder parent, const QString &name, std::vector<Folder> &pending)
+{
+    const Result<Folder> entered = m_tree.addFolder(parent, name);
+    if (entered) {
+        pending.push_back(entered.value());
+        return true;
+    }
+    if (isAbsent(entered.status()))
+        return true;
+    const QString path = m_tree.path(parent, name);
+    if (entered.code() == platform::NotSameDevice) {
+        m_observer.mounted(path);
+        return true;
+    }
+    tellUnreadable(Unreadable::Folder, path, entered.status());
+    return false;
+}
+
+void FileCollector::addFile(Folder folder, const QString &name)
 {
     if (m_mayRepeat) {
-        const qsizetype before = m_known.size();
-        m_known.insert(path);
-        if (m_known.size() == before)
+        const qsizetype before = m_paths.size();
+        m_paths.insert(m_tree.path(folder, name));
+        if (m_paths.size() == before)
             return;
     }
-    m_list.files.append(path);
+    m_list.files.push_back({folder, name});
+}
+
+void FileCollector::tellUnreadable(Unreadable what, const QString &path, const Status &status)
+{
+    ++m_list.unreadable;
+    m_observer.unreadable(what, path, status);
 }

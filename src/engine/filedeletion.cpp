@@ -1,10 +1,10 @@
 #include "engine/filedeletion.h"
 
 #include "engine/filetrace.h"
+#include "engine/watchedfile.h"
 #include "platform/files.h"
 #include "platform/platform.h"
 
-#include <QDir>
 #include <QLatin1String>
 #include <QRandomGenerator>
 
@@ -12,6 +12,7 @@
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
+using platform::EntryPath;
 using platform::FileKind;
 using platform::Status;
 
@@ -25,19 +26,6 @@ constexpr int RandomNameLength = 12;
 platform::Files &files()
 {
     return platform::Platform::current().files();
-}
-
-Status cutToNothing(const QString &path)
-{
-    auto file = files().open(path, platform::OpenMode::Truncate);
-    if (!file)
-        return file.status();
-    Status status = file.value()->seek(0);
-    if (status)
-        status = file.value()->setEnd();
-    if (status)
-        status = file.value()->flush();
-    return status;
 }
 
 QString randomName()
@@ -56,49 +44,88 @@ FileDeletion::FileDeletion(Pause pause)
     : m_pause(std::move(pause))
 {}
 
-bool FileDeletion::secureDeleteFile(const QString &path)
+bool FileDeletion::secureDeleteFile(const EntryPath &file, WatchedFile *watched)
 {
-    const auto info = files().info(path);
+    m_found = Found::Nothing;
+    m_leftAt.reset();
+    const auto info = files().info(file);
     if (!info)
         return isAbsent(info.status());
     if (info.value().kind == FileKind::Folder)
         return true;
+    m_found = watched && watched->isReplacedBy(info.value()) ? Found::Another : Found::File;
+    if (m_found == Found::Another)
+        return false;
 
-    traceFile(path, files().clearReadOnly(path));
+    traceFile(file.path(), files().clearReadOnly(file));
     if (info.value().kind == FileKind::Regular)
-        traceFile(path, cutToNothing(path));
-    const QString renamed = randomRenameFile(path);
-    const QString target = renamed.isEmpty() ? path : renamed;
+        traceFile(file.path(), cutToNothing(file, watched));
+    if (m_found == Found::Another)
+        return false;
+    const std::optional<EntryPath> renamed = randomRenameFile(file);
+    const EntryPath target = renamed.value_or(file);
+    // Under a name that nobody else knows nothing can take its place any more.
+    const auto found = renamed && watched ? files().info(target) : info;
+    if (found && watched && watched->isReplacedBy(found.value())) {
+        m_found = Found::Another;
+        giveBack(target, file);
+        return false;
+    }
     removeWithRetries(target);
 
     const auto left = files().info(target);
-    return !left && isAbsent(left.status());
+    if (!left && isAbsent(left.status()))
+        return true;
+    m_leftAt = renamed;
+    return false;
 }
 
-QString FileDeletion::randomRenameFile(const QString &path)
+Status FileDeletion::cutToNothing(const EntryPath &path, WatchedFile *watched)
 {
-    // Text up to the last separator: resolving ".." here could lead into another folder than it does for the
-    // system.
-    const qsizetype separator = path.lastIndexOf(u'/');
-    const QString folder = separator < 0 ? QDir::currentPath() : path.left(separator);
+    auto file = files().open(path, platform::OpenMode::Truncate);
+    if (!file)
+        return file.status();
+    if (watched && watched->isReplacedBy(*file.value())) {
+        m_found = Found::Another;
+        return {};
+    }
+    Status status = file.value()->seek(0);
+    if (status)
+        status = file.value()->setEnd();
+    if (status)
+        status = file.value()->flush();
+    return status;
+}
+
+// It was renamed for the one that had stood there.
+void FileDeletion::giveBack(const EntryPath &renamed, const EntryPath &file)
+{
+    const auto standing = files().info(file);
+    if (!isAbsent(standing.status()))
+        return;
+    traceFile(renamed.path(), files().rename(renamed, file));
+}
+
+std::optional<EntryPath> FileDeletion::randomRenameFile(const EntryPath &file)
+{
     for (int attempt = 0; attempt < RenameAttempts; ++attempt) {
-        QString candidate = folder + u'/' + randomName() + u".tmp"_s;
-        const Status renamed = files().rename(path, candidate);
+        EntryPath candidate = file.sibling(randomName() + u".tmp"_s);
+        const Status renamed = files().rename(file, candidate);
         if (renamed)
             return candidate;
-        traceFile(path, renamed);
+        traceFile(file.path(), renamed);
     }
     return {};
 }
 
 // Virus scanners and indexers hold a file for moments: only what they cause is tried again.
-void FileDeletion::removeWithRetries(const QString &path)
+void FileDeletion::removeWithRetries(const EntryPath &file)
 {
     for (int attempt = 1; attempt <= RemoveAttempts; ++attempt) {
-        const Status removed = files().remove(path);
+        const Status removed = files().remove(file);
         if (removed)
             return;
-        traceFile(path, removed);
+        traceFile(file.path(), removed);
         if (removed.code != platform::SharingViolation && removed.code != platform::AccessDenied)
             return;
         if (attempt < RemoveAttempts && !m_pause(RemovePause))

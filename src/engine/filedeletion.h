@@ -1,9 +1,12 @@
 #pragma once
 
-#include <QString>
+#include "platform/entrypath.h"
 
 #include <chrono>
 #include <functional>
+#include <optional>
+
+class WatchedFile;
 
 // Deletes files so that length and name are gone too. Works on whatever is not a folder; only a regular file
 // is ever opened. One thread.
@@ -16,14 +19,29 @@ public:
     explicit FileDeletion(Pause pause);
 
     // Cuts the file to nothing, renames it once and deletes it. True when it is gone, or when there was no
-    // file: what cannot be looked at is not gone. A failure to cut or to rename is no obstacle.
-    bool secureDeleteFile(const QString &path);
+    // file: what cannot be looked at is not gone. A failure to cut or to rename is no obstacle. watched: what
+    // the file has to be; something else keeps its content and its name.
+    bool secureDeleteFile(const platform::EntryPath &file, WatchedFile *watched = nullptr);
 
-    // Gives the file a random name in its folder. The new path, empty when no attempt succeeded.
-    static QString randomRenameFile(const QString &path);
+    enum class Found {
+        File,
+        Another, // something else stood there
+        Nothing,
+    };
+    // Of the last file.
+    Found found() const { return m_found; }
+    // Of the last file, when it is not gone: where it stands under another name.
+    const std::optional<platform::EntryPath> &leftAt() const { return m_leftAt; }
+
+    // Gives the file a random name in its folder. The new place, nothing when no attempt succeeded.
+    static std::optional<platform::EntryPath> randomRenameFile(const platform::EntryPath &file);
 
 private:
-    void removeWithRetries(const QString &path);
+    platform::Status cutToNothing(const platform::EntryPath &file, WatchedFile *watched);
+    void giveBack(const platform::EntryPath &renamed, const platform::EntryPath &file);
+    void removeWithRetries(const platform::EntryPath &file);
 
     Pause m_pause;
+    Found m_found = Found::Nothing;
+    std::optional<platform::EntryPath> m_leftAt;
 };

@@ -17,24 +17,27 @@ FileSampling::FileSampling(GoOn goOn)
     : m_goOn(std::move(goOn))
 {}
 
-FileSampling::Outcome FileSampling::check(const QString &path, qint64 size, const Matches &matches)
+FileSampling::Outcome FileSampling::check(const platform::EntryPath &place, qint64 size,
+                                          const Matches &matches, const IsAnother &isAnother)
 {
-    const auto opened = platform::Platform::current().files().open(path, platform::OpenMode::Verify);
+    const auto opened = platform::Platform::current().files().open(place, platform::OpenMode::Verify);
     if (!opened) {
-        traceFile(path, opened.status());
+        traceFile(place.path(), opened.status());
         return Outcome::Unreadable;
     }
     platform::FileHandle &file = *opened.value();
+    if (isAnother(file))
+        return Outcome::Replaced;
     std::array<std::byte, SampleSize> sample;
     for (int i = 0; i < SamplesPerFile && m_goOn(); ++i) {
         const qint64 offset =
             size > SampleSize ? QRandomGenerator64::global()->bounded(size - SampleSize) : 0;
         const platform::Status found = file.seek(offset);
-        traceFile(path, found);
+        traceFile(place.path(), found);
         if (!found)
             return Outcome::Unreadable;
         const auto read = file.read(sample.data(), SampleSize);
-        traceFile(path, read.status());
+        traceFile(place.path(), read.status());
         if (!read || read.value() <= 0)
             return Outcome::Unreadable;
         ++m_samplesRead;

@@ -1,11 +1,16 @@
 #pragma once
 
-#include <QString>
+#include "platform/entrypath.h"
+
 #include <QtGlobal>
 
 #include <atomic>
 #include <cstddef>
 #include <functional>
+
+namespace platform {
+class FileHandle;
+}
 
 // Reads samples of files back from random places. Several threads may check files at the same time.
 class FileSampling
@@ -17,16 +22,20 @@ public:
         Passed,
         Different,  // a sample does not match
         Unreadable, // a sample could not be read
+        Replaced,   // another file stands there
     };
     // Whether the bytes of a sample are what was written. On the thread that checks.
     using Matches = std::function<bool(const std::byte *data, qint64 size)>;
+    // Whether what was opened is another file than the one that was written. On the thread that checks.
+    using IsAnother = std::function<bool(platform::FileHandle &opened)>;
     // False to end a check after the sample at hand.
     using GoOn = std::function<bool()>;
 
     explicit FileSampling(GoOn goOn);
 
     // size: of the file, in bytes. A check that is ended early counts as passed.
-    Outcome check(const QString &path, qint64 size, const Matches &matches);
+    Outcome check(const platform::EntryPath &file, qint64 size, const Matches &matches,
+                  const IsAnother &isAnother);
 
     // Of all files, whether they matched or not.
     int samplesRead() const { return m_samplesRead; }

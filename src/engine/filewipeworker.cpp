@@ -2,6 +2,7 @@
 
 #include "engine/filedeletion.h"
 #include "engine/filetrace.h"
+#include "engine/folderremoval.h"
 #include "engine/foreseeable.h"
 #include "model/displaytext.h"
 #include "model/formatsize.h"
@@ -16,13 +17,16 @@
 
 #include <algorithm>
 #include <atomic>
+#include <iterator>
 #include <new>
 #include <utility>
 #include <vector>
 
 using namespace Qt::StringLiterals;
+using platform::EntryPath;
 using platform::FileKind;
 using platform::OpenMode;
+using platform::Result;
 using platform::Status;
 
 namespace {
@@ -31,6 +35,8 @@ constexpr qint64 MiB = 1024LL * 1024;
 constexpr qint64 SmallestBuffer = 256LL * 1024;
 constexpr qint64 LargestBuffer = 16 * MiB;
 constexpr int DefaultBufferMB = 4;
+// Whoever writes faster than it is erased is not waited for.
+constexpr int MostRounds = 10;
 
 platform::Files &files()
 {
@@ -101,25 +107,50 @@ bool FileWipeWorker::shred()
     m_list = collectFiles(task().files());
     if (isStopRequested())
         return concludeJob(false);
-    if (m_list.files.isEmpty()) {
+    if (m_list.files.empty()) {
+        removeFolders();
         emit errorOccurred(tr("没有找到要擦除的文件"));
         return false;
     }
-    measureFiles();
+    measureFrom(0);
     if (isStopRequested())
         return concludeJob(false);
     announceFiles();
-    const bool isOverwritten = overwriteAll();
+    const bool isOverwritten = overwriteAll() && overwriteLate();
     logContentElsewhere();
     if (!isOverwritten)
         return concludeJob(false);
-    const bool success = deleteAll();
+    log(tr("正在执行安全删除及元数据清理..."));
+    bool success = deleteFrom(0);
+    success = eraseLate() && success;
+    removeRest();
     removeFolders();
     return concludeJob(success);
 }
 
+Result<EntryPath> FileWipeWorker::entry(std::size_t file)
+{
+    const FileEntry &found = m_list.files[file];
+    return m_tree.entry(found.folder, found.name);
+}
+
+Result<platform::FileInfo> FileWipeWorker::look(std::size_t file)
+{
+    const Result<EntryPath> place = entry(file);
+    if (!place)
+        return place.status();
+    return files().info(place.value());
+}
+
+QString FileWipeWorker::pathOf(std::size_t file) const
+{
+    const FileEntry &found = m_list.files[file];
+    return m_tree.path(found.folder, found.name);
+}
+
 bool FileWipeWorker::concludeJob(bool success)
 {
+    noteVanished();
     if (isStopRequested()) {
         log(tr("擦除任务已由用户取消"), Warning);
         return false;
@@ -133,7 +164,7 @@ bool FileWipeWorker::concludeJob(bool success)
     return false;
 }
 
-FileList FileWipeWorker::collectFiles(const QStringList &targets)
+FileCollector::Observer FileWipeWorker::observer()
 {
     // Whoever is told that a job succeeded believes that everything under the targets is gone: what nobody
     // could look at makes it fail.
@@ -144,50 +175,105 @@ FileList FileWipeWorker::collectFiles(const QStringList &targets)
         log(text.arg(displayText(path), QString::number(status.code)), Error);
         traceFile(path, status);
     };
-    return FileCollector({.goOn = [this] { return checkPauseStop(); }, .unreadable = unreadable})
-        .collect(targets);
+    return {.goOn = [this] { return checkPauseStop(); },
+            .unreadable = unreadable,
+            .mounted = [this](const QString &path) { noteMounted(path); },
+            .replaced = [this](const QString &path) { noteReplaced(path); },
+            .vanished =
+                [this](const QString &path) {
+                    task().noteShortfall({ShortfallKind::EntryVanished, path});
+                }};
 }
 
-void FileWipeWorker::measureFiles()
+FileList FileWipeWorker::collectFiles(const QStringList &targets)
 {
-    m_singlePassTotal = 0;
-    m_isTotalCertain = true;
-    m_watched.resize(static_cast<std::size_t>(m_list.files.size()));
-    for (qsizetype i = 0; i < m_list.files.size(); ++i) {
+    return FileCollector(m_tree, observer()).collect(targets, task().targetIdentities());
+}
+
+// Neither the folder's content nor the user's choice: whatever is mounted there stays as it is.
+void FileWipeWorker::noteMounted(const QString &path)
+{
+    if (m_mounted.contains(path))
+        return;
+    m_mounted.insert(path);
+    log(tr("文件夹中挂载了其他文件系统，保持原样: %1").arg(displayText(path)), Warning);
+    task().noteShortfall({ShortfallKind::EntryNotRemoved, path});
+}
+
+void FileWipeWorker::measureFrom(std::size_t first)
+{
+    m_watched.resize(m_list.files.size());
+    std::size_t kept = first;
+    for (std::size_t i = first; i < m_list.files.size(); ++i) {
         if (!checkPauseStop())
             return;
-        const QString &path = m_list.files.at(i);
-        const auto info = files().info(path);
-        if (!info) {
-            m_isTotalCertain = m_isTotalCertain && isAbsent(info.status());
-            if (isAbsent(info.status()))
-                task().noteShortfall({ShortfallKind::EntryVanished, path});
+        if (!measureFile(i))
             continue;
+        if (kept != i) {
+            m_list.files[kept] = std::move(m_list.files[i]);
+            m_watched[kept] = m_watched[i];
         }
-        watched(i).find(info.value());
-        if (info.value().kind == FileKind::Regular)
-            measureFile(path, info.value());
+        ++kept;
     }
+    m_list.files.resize(kept);
+    m_watched.resize(kept);
 }
 
-void FileWipeWorker::measureFile(const QString &path, const platform::FileInfo &info)
+// False for what does not belong to the list.
+bool FileWipeWorker::measureFile(std::size_t file)
 {
-    m_singlePassTotal += info.size;
+    const auto info = look(file);
+    if (!info) {
+        m_isTotalCertain = m_isTotalCertain && isAbsent(info.status());
+        if (isAbsent(info.status()))
+            watched(file).vanish();
+        return true;
+    }
+    if (info.value().isMounted && info.value().kind != FileKind::Folder) {
+        noteMounted(pathOf(file));
+        return false;
+    }
+    watched(file).find(info.value());
+    if (info.value().kind != FileKind::Regular)
+        return true;
+    m_singlePassTotal += info.value().size;
     // No pass opens it, and yet there may be streams beside the one that is empty.
-    if (info.size == 0) {
-        const auto place = files().contentPlace(path);
-        if (!isAbsent(place.status()))
-            notePlace(path, place);
+    if (info.value().size == 0) {
+        const auto place = entry(file);
+        const auto content = place ? files().contentPlace(place.value()) : place.status();
+        if (!isAbsent(content.status()))
+            notePlace(pathOf(file), content);
     }
-    if (info.linkCount > 1) {
-        const qint64 others = info.linkCount - 1;
-        log(tr("文件还有 %1 个其他硬链接: %2").arg(QString::number(others), displayText(path)), Warning);
-        task().noteShortfall({ShortfallKind::OtherNames, path, -1, others});
+    if (info.value().linkCount > 1) {
+        const qint64 others = info.value().linkCount - 1;
+        log(tr("文件还有 %1 个其他硬链接: %2").arg(QString::number(others), displayText(pathOf(file))),
+            Warning);
+        task().noteShortfall({ShortfallKind::OtherNames, pathOf(file), -1, others});
     }
+    return true;
+}
+
+std::size_t FileWipeWorker::addLate()
+{
+    const std::size_t first = m_list.files.size();
+    if (m_list.folders.empty() || isStopRequested())
+        return first;
+    std::vector<FileEntry> known = m_list.files;
+    known.insert(known.end(), m_left.begin(), m_left.end());
+    FileList late = FileCollector(m_tree, observer()).collectNew(m_list.folders, FileIndex(m_tree, known));
+    m_list.unreadable += late.unreadable;
+    std::ranges::move(late.files, std::back_inserter(m_list.files));
+    const qint64 announced = m_singlePassTotal;
+    measureFrom(first);
+    m_singlePassTotal = announced;
+    if (m_list.files.size() > first)
+        log(tr("任务期间又出现 %1 个文件，同样进行擦除").arg(m_list.files.size() - first), Warning);
+    return first;
 }
 
 void FileWipeWorker::announceFiles()
 {
+    m_firstCount = m_list.files.size();
     m_totalPasses = task().method().passCount();
     task().updateReport([this](WipeReport &report) {
         report.fileCount = static_cast<qint32>(m_list.files.size());
@@ -218,48 +304,105 @@ bool FileWipeWorker::overwriteAll()
             return false;
         ++m_currentPass;
         emit passChanged(m_currentPass, m_totalPasses);
-        if (!overwritePass(pattern)) {
-            log(tr("第 %1/%2 遍覆写出现失败文件，失败数: %3")
-                    .arg(m_currentPass)
-                    .arg(m_totalPasses)
-                    .arg(m_failedCount),
-                Error);
-            return false;
-        }
+        m_progress.beginPass(m_currentPass, m_totalPasses, m_singlePassTotal);
+        const bool passed = overwritePass(pattern, 0);
+        m_bytesBeforePass += m_progress.bytesOfPass();
+        if (!passed)
+            return failPass(m_currentPass);
     }
     return !isStopRequested();
 }
 
-bool FileWipeWorker::overwritePass(const PassPattern &pattern)
+bool FileWipeWorker::failPass(int pass)
 {
-    const qsizetype batchSize = std::max(2 * m_pool.threadCount(), 1);
-    const qsizetype count = m_list.files.size();
-    bool passed = true;
-    m_progress.beginPass(m_currentPass, m_totalPasses, m_singlePassTotal);
-    for (qsizetype first = 0; first < count && !isStopRequested(); first += batchSize) {
-        if (!checkPauseStop()) {
-            passed = false;
+    log(tr("第 %1/%2 遍覆写出现失败文件，失败数: %3").arg(pass).arg(m_totalPasses).arg(m_failedCount), Error);
+    return false;
+}
+
+bool FileWipeWorker::overwriteFrom(std::size_t first)
+{
+    noteReadBack(true);
+    m_isLate = true;
+    int pass = 0;
+    const QList<PassPattern> passes = task().method().passes;
+    for (const PassPattern &pattern : passes) {
+        ++pass;
+        if (isStopRequested())
+            return false;
+        if (!overwritePass(pattern, first))
+            return failPass(pass);
+    }
+    return !isStopRequested();
+}
+
+// One file on this thread.
+bool FileWipeWorker::overwriteAgain(std::size_t index)
+{
+    noteReadBack(true);
+    m_isLate = true;
+    const QList<PassPattern> passes = task().method().passes;
+    return std::ranges::all_of(passes, [this, index](const PassPattern &pattern) {
+        return overwriteJob(index, pattern, drawSeed());
+    });
+}
+
+bool FileWipeWorker::overwriteLate()
+{
+    for (int round = 0; round < MostRounds; ++round) {
+        m_overwrittenCount = m_list.files.size();
+        const std::size_t first = addLate();
+        if (first == m_list.files.size())
             break;
-        }
-        const int failures = overwriteBatch(first, std::min(batchSize, count - first), pattern);
+        if (!overwriteFrom(first))
+            return false;
+        m_overwrittenCount = m_list.files.size();
+    }
+    return !isStopRequested();
+}
+
+// What appeared while files were deleted.
+bool FileWipeWorker::eraseLate()
+{
+    bool success = true;
+    for (int round = 0; round < MostRounds && success; ++round) {
+        const std::size_t first = addLate();
+        if (first == m_list.files.size())
+            break;
+        success = overwriteFrom(first);
+        if (!success)
+            break;
+        m_overwrittenCount = m_list.files.size();
+        success = deleteFrom(first);
+    }
+    return success;
+}
+
+bool FileWipeWorker::overwritePass(const PassPattern &pattern, std::size_t first)
+{
+    const auto batchSize = static_cast<std::size_t>(std::max(2 * m_pool.threadCount(), 1));
+    const std::size_t end = m_list.files.size();
+    bool passed = true;
+    for (; first < end && !isStopRequested(); first += batchSize) {
+        if (!checkPauseStop())
+            return false;
+        const int failures = overwriteBatch(first, std::min(batchSize, end - first), pattern);
         m_failedCount += failures;
         passed = passed && failures == 0;
     }
-    m_bytesBeforePass += m_progress.bytesOfPass();
     return passed;
 }
 
-int FileWipeWorker::overwriteBatch(qsizetype first, qsizetype count, const PassPattern &pattern)
+int FileWipeWorker::overwriteBatch(std::size_t first, std::size_t count, const PassPattern &pattern)
 {
     std::vector<FilePool::Job> jobs;
-    jobs.reserve(static_cast<std::size_t>(count));
-    for (qsizetype i = first; i < first + count; ++i) {
+    jobs.reserve(count);
+    for (std::size_t i = first; i < first + count; ++i) {
         jobs.push_back([this, i, pattern, seed = drawSeed()] { return overwriteJob(i, pattern, seed); });
     }
     return m_pool.run(std::move(jobs));
 }
 
-bool FileWipeWorker::overwriteJob(qsizetype index, const PassPattern &pattern, quint32 seed) noexcept
+bool FileWipeWorker::overwriteJob(std::size_t index, const PassPattern &pattern, quint32 seed) noexcept
 {
     try {
         return overwriteExisting(index, pattern, seed);
@@ -269,31 +412,32 @@ bool FileWipeWorker::overwriteJob(qsizetype index, const PassPattern &pattern, q
     return false;
 }
 
-bool FileWipeWorker::overwriteExisting(qsizetype index, const PassPattern &pattern, quint32 seed)
+bool FileWipeWorker::overwriteExisting(std::size_t index, const PassPattern &pattern, quint32 seed)
 {
-    const QString &path = m_list.files.at(index);
-    const auto info = files().info(path);
+    const auto place = entry(index);
+    const auto info = place ? files().info(place.value()) : place.status();
     if (!info && !isAbsent(info.status()))
-        return failFile(tr("无法打开文件(WinAPI): %1"), path, info.status());
+        return failFile(tr("无法打开文件(WinAPI): %1"), pathOf(index), info.status());
     if (!info) {
         // Not a failure, but nobody knows where its content is now.
-        task().noteShortfall({ShortfallKind::EntryVanished, path});
+        watched(index).vanish();
         return true;
     }
     watched(index).find(info.value());
     // What took its place was not chosen, and where its content is now nobody knows.
     if (watched(index).isReplacedBy(info.value())) {
-        noteReplaced(path);
+        noteReplaced(pathOf(index));
         return true;
     }
     if (info.value().kind != FileKind::Regular)
         return true;
-    return overwriteFile(index, info.value().size, pattern, seed);
+    return overwriteFile(index, place.value(), info.value().size, pattern, seed);
 }
 
-bool FileWipeWorker::overwriteFile(qsizetype index, qint64 size, const PassPattern &pattern, quint32 seed)
+bool FileWipeWorker::overwriteFile(std::size_t index, const EntryPath &entry, qint64 size,
+                                   const PassPattern &pattern, quint32 seed)
 {
-    const QString &path = m_list.files.at(index);
+    const QString path = entry.path();
     if (const qint64 lost = watched(index).beginPass(size); lost > 0)
         task().noteShortfall({ShortfallKind::EntryVanished, path, lost});
     if (size < 1)
@@ -305,9 +449,9 @@ bool FileWipeWorker::overwriteFile(qsizetype index, qint64 size, const PassPatte
         logOutOfMemory();
         return false;
     }
-    traceFile(path, files().clearReadOnly(path));
+    traceFile(path, files().clearReadOnly(entry));
     {
-        const auto opened = files().open(path, OpenMode::Overwrite);
+        const auto opened = files().open(entry, OpenMode::Overwrite);
         if (!opened)
             return failFile(tr("无法打开文件(WinAPI): %1"), path, opened.status());
         platform::FileHandle &file = *opened.value();
@@ -328,7 +472,7 @@ bool FileWipeWorker::overwriteFile(qsizetype index, qint64 size, const PassPatte
         return false;
     if (!pattern.verify || !task().verifyAfterWipe())
         return true;
-    return verifyFile(path, size, pattern);
+    return verifyFile(index, entry, size, pattern);
 }
 
 // True also when a stop ended the loop between two chunks.
@@ -351,19 +495,34 @@ bool FileWipeWorker::writeChunks(platform::FileHandle &file, const QString &path
             return failFile(tr("WriteFile 失败: %1"), path, written);
         task().noteWritten(chunk);
         offset += chunk;
-        m_progress.add(chunk);
+        if (!m_isLate)
+            m_progress.add(chunk);
     }
     return true;
 }
 
-bool FileWipeWorker::verifyFile(const QString &path, qint64 size, const PassPattern &pattern)
+bool FileWipeWorker::verifyFile(std::size_t index, const EntryPath &entry, qint64 size,
+                                const PassPattern &pattern)
 {
-    const auto outcome = m_sampling.check(path, size, [&pattern](const std::byte *data, qint64 length) {
+    const auto matches = [&pattern](const std::byte *data, qint64 length) {
         return verifyBuffer(data, length, pattern);
-    });
-    if (outcome == FileSampling::Outcome::Different)
-        log(tr("验证失败: %1").arg(displayText(path)), Error);
-    return outcome == FileSampling::Outcome::Passed;
+    };
+    const auto isAnother = [this, index](platform::FileHandle &opened) {
+        return watched(index).isReplacedBy(opened);
+    };
+    switch (m_sampling.check(entry, size, matches, isAnother)) {
+    case FileSampling::Outcome::Passed:
+        return true;
+    case FileSampling::Outcome::Replaced:
+        noteReplaced(entry.path());
+        return true;
+    case FileSampling::Outcome::Different:
+        log(tr("验证失败: %1").arg(displayText(entry.path())), Error);
+        return false;
+    case FileSampling::Outcome::Unreadable:
+        break;
+    }
+    return false;
 }
 
 void FileWipeWorker::noteReplaced(const QString &path)
@@ -389,72 +548,135 @@ void FileWipeWorker::logContentElsewhere()
         log(tr("%1 个文件的内容可能还保存在别处，未被覆写").arg(m_elsewhereCount.load()), Warning);
 }
 
-bool FileWipeWorker::deleteAll()
+bool FileWipeWorker::deleteFrom(std::size_t first)
 {
-    log(tr("正在执行安全删除及元数据清理..."));
-    // Unknown counts as standing; what a rename took away from under its path counts as gone.
-    const auto mayStand = [](const QString &path) {
-        const auto info = files().info(path);
-        return info ? info.value().kind != FileKind::Folder : !isAbsent(info.status());
-    };
     FileDeletion deletion([this](std::chrono::milliseconds time) { return waitUnlessStopped(time); });
     int failures = 0;
-    for (qsizetype i = 0; i < m_list.files.size(); ++i) {
+    for (std::size_t i = first; i < m_list.files.size(); ++i) {
         if (isStopRequested())
             break;
-        const QString &path = m_list.files.at(i);
-        if (isToBeDeleted(i) && !deletion.secureDeleteFile(path) && mayStand(path)) {
+        if (!deleteFile(deletion, i)) {
             ++failures;
-            log(tr("删除失败: %1").arg(displayText(path)), Warning);
-            task().noteShortfall({ShortfallKind::EntryNotRemoved, path});
+            log(tr("删除失败: %1").arg(displayText(pathOf(i))), Warning);
+            task().noteShortfall({ShortfallKind::EntryNotRemoved, pathOf(i)});
         }
-        ++m_processedCount;
+        if (i < m_firstCount)
+            ++m_processedCount;
     }
     m_failedCount += failures;
     return failures == 0;
 }
 
-// Notes what has become of the entry since it was overwritten.
-bool FileWipeWorker::isToBeDeleted(qsizetype index)
+// False when it stands under its name.
+bool FileWipeWorker::deleteFile(FileDeletion &deletion, std::size_t index)
 {
-    const QString &path = m_list.files.at(index);
-    const WatchedFile &file = watched(index);
-    const auto info = files().info(path);
-    const auto &found = file.found();
-    if (!info) {
-        const bool isRemoved = found && m_removed.contains(found->id);
-        if (isAbsent(info.status()) && !isRemoved)
-            task().noteShortfall({ShortfallKind::EntryVanished, path});
+    const auto place = entry(index);
+    if (!place) {
+        if (isAbsent(place.status()))
+            watched(index).vanish();
+        return isAbsent(place.status());
+    }
+    if (const auto info = files().info(place.value()); info) {
+        if (watched(index).isReplacedBy(info.value())) {
+            noteReplaced(pathOf(index));
+            return true;
+        }
+        if (!overwriteGrown(index, place.value(), info.value()))
+            return isStopRequested();
+    }
+    if (deletion.secureDeleteFile(place.value(), &watched(index))) {
+        if (deletion.found() == FileDeletion::Found::Nothing)
+            watched(index).vanish();
+        else
+            watched(index).remove();
         return true;
     }
-    if (file.isReplacedBy(info.value())) {
-        noteReplaced(path);
-        return false;
+    if (deletion.found() == FileDeletion::Found::Another) {
+        noteReplaced(pathOf(index));
+        return true;
     }
-    if (const qint64 grown = file.grownBy(info.value()); grown > 0)
-        task().noteShortfall({ShortfallKind::EntryGrew, path, grown});
-    if (task().files().size() > 1 && info.value().id.number != 0)
-        m_removed.insert(info.value().id);
+    if (deletion.leftAt())
+        m_left.push_back({m_list.files[index].folder, deletion.leftAt()->name()});
+    // Unknown counts as standing; what a rename took away from under its path counts as gone.
+    const auto info = files().info(place.value());
+    return info ? info.value().kind == FileKind::Folder : isAbsent(info.status());
+}
+
+// What a file has gained since its passes is to be gone as the rest of it. False when it could not be
+// written.
+bool FileWipeWorker::overwriteGrown(std::size_t index, const EntryPath &entry,
+                                    const platform::FileInfo &found)
+{
+    qint64 grown = watched(index).grownBy(found);
+    for (int round = 0; grown > 0 && round < MostRounds; ++round) {
+        watched(index).beginAnew();
+        if (!overwriteAgain(index))
+            return false;
+        const auto info = files().info(entry);
+        grown = info ? watched(index).grownBy(info.value()) : 0;
+    }
+    if (grown > 0)
+        task().noteShortfall({ShortfallKind::EntryGrew, entry.path(), grown});
     return true;
+}
+
+// What was removed under another name, or under another spelling of its path, has not vanished.
+void FileWipeWorker::noteVanished()
+{
+    if (std::ranges::none_of(m_watched, &WatchedFile::isVanished))
+        return;
+    QSet<platform::FileId> removed;
+    for (const WatchedFile &file : m_watched) {
+        if (file.isRemoved() && file.found() && file.found()->id.number != 0)
+            removed.insert(file.found()->id);
+    }
+    for (std::size_t i = 0; i < m_watched.size(); ++i) {
+        const auto &found = m_watched[i].found();
+        if (m_watched[i].isVanished() && !(found && removed.contains(found->id)))
+            task().noteShortfall({ShortfallKind::EntryVanished, pathOf(i)});
+    }
+}
+
+// A stop may have left files of the folders that are removed next. They received every pass; what did not is
+// not removed with them, since that would take it out of sight and leave it on the medium.
+void FileWipeWorker::removeRest()
+{
+    const std::vector<HeldTree::Folder> tops = FolderRemoval::topsAmong(m_tree, m_list.folders);
+    const auto isMeant = [&tops](const FileEntry &file) {
+        return tops[static_cast<std::size_t>(file.folder)] != HeldTree::None;
+    };
+    for (std::size_t i = 0; i < m_overwrittenCount; ++i) {
+        const WatchedFile &file = watched(i);
+        if (file.isRemoved() || !isMeant(m_list.files[i]))
+            continue;
+        const auto place = entry(i);
+        const auto info = place ? files().info(place.value()) : place.status();
+        if (!info || info.value().kind == FileKind::Folder || file.isReplacedBy(info.value()) ||
+            file.grownBy(info.value()) > 0)
+            continue;
+        traceFile(pathOf(i), files().remove(place.value()));
+    }
+    for (const FileEntry &left : m_left) {
+        const auto place = m_tree.entry(left.folder, left.name);
+        if (place && isMeant(left))
+            traceFile(place.value().path(), files().remove(place.value()));
+    }
 }
 
 // Only folders whose content was in the list: what could not be listed was not overwritten, and removing it
 // would take it out of sight and leave it on the medium.
 void FileWipeWorker::removeFolders()
 {
-    for (const QString &folder : std::as_const(m_list.folders)) {
-        const auto info = files().info(folder);
-        if (info && info.value().kind != FileKind::Folder)
-            continue;
-        const Status removed =
-            info ? platform::Platform::current().folders().removeTree(folder) : info.status();
-        if (removed || isAbsent(removed))
-            continue;
-        log(tr("无法删除文件夹: %1，错误码: %2").arg(displayText(folder), QString::number(removed.code)),
+    const auto standing = [this](const QString &folder, const Status &status) {
+        log(tr("无法删除文件夹: %1，错误码: %2").arg(displayText(folder), QString::number(status.code)),
             Warning);
         task().noteShortfall({ShortfallKind::EntryNotRemoved, folder});
-        traceFile(folder, removed);
-    }
+        traceFile(folder, status);
+    };
+    const auto replaced = [this](const QString &folder) {
+        task().noteShortfall({ShortfallKind::EntryReplaced, folder});
+    };
+    FolderRemoval(m_tree, {.replaced = replaced, .standing = standing}).remove(m_list.folders);
 }
 
 void FileWipeWorker::complete()

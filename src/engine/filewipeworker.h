@@ -5,12 +5,16 @@
 #include "engine/filepool.h"
 #include "engine/fileprogress.h"
 #include "engine/filesampling.h"
+#include "engine/heldtree.h"
 #include "engine/watchedfile.h"
 
 #include <QSet>
 
 #include <atomic>
+#include <cstddef>
 #include <vector>
+
+class FileDeletion;
 
 namespace platform {
 class AlignedBuffer;
@@ -37,44 +41,69 @@ private:
     bool shred();
     bool concludeJob(bool success);
 
-    WatchedFile &watched(qsizetype index) { return m_watched[static_cast<std::size_t>(index)]; }
+    // Numbers of files count from the beginning of the list.
+    WatchedFile &watched(std::size_t file) { return m_watched[file]; }
+    platform::Result<platform::EntryPath> entry(std::size_t file);
+    platform::Result<platform::FileInfo> look(std::size_t file);
+    QString pathOf(std::size_t file) const;
 
+    FileCollector::Observer observer();
     FileList collectFiles(const QStringList &targets);
-    void measureFiles();
-    void measureFile(const QString &path, const platform::FileInfo &info);
+    // Looks at the files from this one on; what is mounted over a name is taken off the list.
+    void measureFrom(std::size_t first);
+    bool measureFile(std::size_t file);
     void announceFiles();
+    void noteMounted(const QString &path);
 
+    // Adds what has appeared in the folders of the job since they were listed. The number of the first file.
+    std::size_t addLate();
+    // Lets the files from this one on receive every pass, without a word of progress.
+    bool overwriteFrom(std::size_t first);
     // False when the job is not to delete anything.
     bool overwriteAll();
-    bool overwritePass(const PassPattern &pattern);
+    bool overwriteAgain(std::size_t index);
+    bool overwriteLate();
+    bool failPass(int pass);
+    bool overwritePass(const PassPattern &pattern, std::size_t first);
     // The number of files that failed.
-    int overwriteBatch(qsizetype first, qsizetype count, const PassPattern &pattern);
+    int overwriteBatch(std::size_t first, std::size_t count, const PassPattern &pattern);
 
     // On pool threads, from here ...
-    bool overwriteJob(qsizetype index, const PassPattern &pattern, quint32 seed) noexcept;
-    bool overwriteExisting(qsizetype index, const PassPattern &pattern, quint32 seed);
-    bool overwriteFile(qsizetype index, qint64 size, const PassPattern &pattern, quint32 seed);
+    bool overwriteJob(std::size_t index, const PassPattern &pattern, quint32 seed) noexcept;
+    bool overwriteExisting(std::size_t index, const PassPattern &pattern, quint32 seed);
+    bool overwriteFile(std::size_t index, const platform::EntryPath &entry, qint64 size,
+                       const PassPattern &pattern, quint32 seed);
     bool writeChunks(platform::FileHandle &file, const QString &path, qint64 size, const PassPattern &pattern,
                      quint32 seed, platform::AlignedBuffer &buffer);
-    bool verifyFile(const QString &path, qint64 size, const PassPattern &pattern);
+    bool verifyFile(std::size_t index, const platform::EntryPath &entry, qint64 size,
+                    const PassPattern &pattern);
     void noteReplaced(const QString &path);
     void notePlace(const QString &path, const platform::Result<platform::ContentPlace> &place);
     // ... to here.
     void logContentElsewhere();
 
-    bool deleteAll();
-    bool isToBeDeleted(qsizetype index);
+    bool deleteFrom(std::size_t first);
+    bool deleteFile(FileDeletion &deletion, std::size_t index);
+    bool eraseLate();
+    bool overwriteGrown(std::size_t index, const platform::EntryPath &entry, const platform::FileInfo &found);
+    void noteVanished();
+    void removeRest();
     void removeFolders();
 
     void logOutOfMemory() noexcept;
     bool failFile(const QString &message, const QString &path, const platform::Status &status);
 
+    HeldTree m_tree;
     FileList m_list;
     std::vector<WatchedFile> m_watched;   // the files of the list; each used by the one job that has its file
-    QSet<platform::FileId> m_removed;     // where a file may be in the list under two spellings of its path
+    std::vector<FileEntry> m_left;        // what stands under a name that the list does not have
+    QSet<QString> m_mounted;              // paths of what is not to be entered
     std::atomic<int> m_elsewhereCount{0}; // files whose content may lie elsewhere too
     qint64 m_singlePassTotal = 0;         // bytes
     bool m_isTotalCertain = true;         // the size of every file that stands was told
+    std::size_t m_firstCount = 0;         // files that the scan found; the others appeared later
+    std::size_t m_overwrittenCount = 0;   // files from the beginning that received every pass
+    bool m_isLate = false;                // what is written now is not a part of the progress
     int m_processedCount = 0;
     int m_failedCount = 0;
 

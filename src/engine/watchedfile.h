@@ -25,11 +25,24 @@ public:
     // A pass is going to overwrite so many bytes, from the beginning. The bytes that the file has lost since
     // the last look: they were given up before this pass could reach them.
     qint64 beginPass(qint64 size);
+    // All passes are to be received once more.
+    void beginAnew() { m_overwritten = -1; }
     // The bytes at its end that did not receive every pass.
     qint64 grownBy(const platform::FileInfo &now) const;
 
     // True once: where the content lies has not been asked yet.
     bool isToBeLocated();
+
+    // Nothing stood there when it was looked for: no byte of it is known to have received every pass.
+    void vanish()
+    {
+        m_isVanished = true;
+        m_overwritten = 0;
+    }
+    bool isVanished() const { return m_isVanished; }
+    // It was removed by the job.
+    void remove() { m_isRemoved = true; }
+    bool isRemoved() const { return m_isRemoved; }
 
 private:
     std::optional<platform::FileInfo> m_found;
@@ -37,4 +50,6 @@ private:
     qint64 m_overwritten = -1; // bytes that received every pass so far; below 0 before the first
     bool m_hasLastingId = false;
     bool m_isLocated = false;
+    bool m_isVanished = false;
+    bool m_isRemoved = false;
 };

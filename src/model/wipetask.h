@@ -4,9 +4,11 @@
 #include "model/joboutcome.h"
 #include "model/operationtype.h"
 #include "model/partitioninfo.h"
+#include "model/targetidentity.h"
 #include "model/wipemethod.h"
 #include "model/wipereport.h"
 
+#include <QHash>
 #include <QMutex>
 #include <QObject>
 #include <QString>
@@ -44,9 +46,20 @@ public:
 
     /// Absolute paths of files and folders.
     QStringList files() const { return m_files; }
-    void setFiles(const QStringList &files) { m_files = files; }
+    void setFiles(const QStringList &files)
+    {
+        m_files = files;
+        m_targetIdentities.clear();
+    }
     /// Appends the paths that are not yet listed, compared exactly, in the order of their first appearance.
     void addFiles(const QStringList &paths);
+    /// What the files and folders were when the user was asked, by path; what is something else when the job
+    /// begins is not touched. A path without an identity is taken as it is found.
+    QHash<QString, TargetIdentity> targetIdentities() const { return m_targetIdentities; }
+    void setTargetIdentities(const QHash<QString, TargetIdentity> &identities)
+    {
+        m_targetIdentities = identities;
+    }
     /// Whether the user has named them one by one; not when a Recycle Bin is emptied. What a link leads to is
     /// missed only where the link was named.
     bool targetsAreNamed() const { return m_targetsAreNamed; }
@@ -111,6 +124,7 @@ private:
     PartitionInfo m_partition;
     bool m_isWholeDrive = false;
     QStringList m_files;
+    QHash<QString, TargetIdentity> m_targetIdentities;
     bool m_targetsAreNamed = true;
     qint32 m_threadCount;
     qint32 m_bufferSizeMB = 64;

@@ -1,10 +1,11 @@
 #pragma once
 
 #include "platform/contentplace.h"
+#include "platform/entrypath.h"
+#include "platform/fileid.h"
 #include "platform/status.h"
 
 #include <QByteArray>
-#include <QHashFunctions>
 #include <QString>
 
 #include <memory>
@@ -18,28 +19,14 @@ enum class FileKind {
     Special, // pipe, socket, device node
 };
 
-// What tells a file from every other one, under whatever name. The number of a deleted file may be given
-// again; the time of birth, where the file system keeps one, tells the two apart.
-struct FileId
-{
-    quint64 device = 0;
-    quint64 number = 0;
-    qint64 born = 0; // ns since 1970, 0 without one
-
-    bool operator==(const FileId &) const = default;
-};
-
-inline size_t qHash(const FileId &id, size_t seed = 0)
-{
-    return qHashMulti(seed, id.device, id.number, id.born);
-}
-
 struct FileInfo
 {
     FileKind kind = FileKind::Regular;
     qint64 size = 0;   // bytes; 0 for everything but regular files
     int linkCount = 1; // names that the file has (hard links), at least 1
     FileId id{};       // only to be compared where FileHandle::id() answers
+    // In a held folder: something from elsewhere that is mounted over the name, which is not in the folder.
+    bool isMounted = false;
 };
 
 // An open file. Positions and lengths are bytes. Transfers loop over short ones and interruptions by
@@ -120,7 +107,9 @@ enum class OpenMode {
 // cannot express in Unicode is carried losslessly (Linux: an undecodable byte b as the lone surrogate U+DC00
 // + b).
 //
-// No operation follows a link in the last component of the path. Thread-safe.
+// No operation follows a link in the last component of the path. In a held folder, none of those that open or
+// change an entry touches what is mounted over a name: they fail with NotSameDevice, rename and remove with
+// SharingViolation. Thread-safe.
 class Files
 {
 public:
@@ -132,17 +121,17 @@ public:
     // What stands under the path itself. FileNotFound or PathNotFound when there is nothing.
     // Windows: GetFileAttributesExW, FindFirstFileExW for the tag of a reparse point,
     // GetFileInformationByHandle for link count and identity. Linux: statx.
-    virtual Result<FileInfo> info(const QString &path) = 0;
+    virtual Result<FileInfo> info(const EntryPath &entry) = 0;
 
     // Opens a regular file. Everything else is refused with CannotAccessFile, a folder with AccessDenied,
     // before any byte is read or written, and without blocking on a pipe; also a file whose bytes the system
     // keeps elsewhere. Windows: CreateFileW with FILE_FLAG_OPEN_REPARSE_POINT; any reparse point is refused.
     // Linux: open with O_NOFOLLOW | O_NONBLOCK, then fstat.
-    virtual Result<std::unique_ptr<FileHandle>> open(const QString &path, OpenMode mode) = 0;
+    virtual Result<std::unique_ptr<FileHandle>> open(const EntryPath &entry, OpenMode mode) = 0;
 
     // FileHandle::contentPlace() of a regular file; for a folder what holds for new files in it, without a
     // count of bytes. Everything else is refused as by open(). Needs no permission to write.
-    virtual Result<ContentPlace> contentPlace(const QString &path) = 0;
+    virtual Result<ContentPlace> contentPlace(const EntryPath &entry) = 0;
 
     // The first bytes of a regular file, at most limit; fewer when it ends before. Read through the system's
     // cache, for the small files that tell about others. Nothing but a regular file is read
@@ -153,16 +142,16 @@ public:
     // Makes the file writable for its owner. Success when nothing had to change, or when nothing stands
     // there. Windows: clears FILE_ATTRIBUTE_READONLY, keeps the other attributes. Linux: adds the owner's
     // write permission; a link is left as it is.
-    virtual Status clearReadOnly(const QString &path) = 0;
+    virtual Status clearReadOnly(const EntryPath &entry) = 0;
 
     // Renames within a folder, replacing what the new name stood for.
     // Windows: MoveFileExW(MOVEFILE_REPLACE_EXISTING | MOVEFILE_COPY_ALLOWED). Linux: rename.
-    virtual Status rename(const QString &from, const QString &to) = 0;
+    virtual Status rename(const EntryPath &from, const EntryPath &to) = 0;
 
     // Deletes a file, link, pipe, socket or device node: the name itself, never what it leads to. One
     // attempt. SharingViolation or AccessDenied while somebody holds the file open on Windows. Windows:
     // DeleteFileW, RemoveDirectoryW for a link to a folder. Linux: unlink.
-    virtual Status remove(const QString &path) = 0;
+    virtual Status remove(const EntryPath &entry) = 0;
 };
 
 } // namespace platform

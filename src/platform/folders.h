@@ -1,11 +1,14 @@
 #pragma once
 
+#include "platform/entrypath.h"
 #include "platform/files.h"
+#include "platform/folderhandle.h"
 #include "platform/status.h"
 
 #include <QString>
 
 #include <functional>
+#include <memory>
 
 namespace platform {
 
@@ -40,7 +43,22 @@ public:
     // Success means that every entry was seen (or the visitor ended it); a failure may come after some were.
     // Windows: FindFirstFileExW. Linux: readdir; the kind is asked for separately where readdir leaves it
     // open.
-    virtual Status forEachEntry(const QString &folder, const Visitor &visit) = 0;
+    virtual Status forEachEntry(const EntryPath &folder, const Visitor &visit) = 0;
+
+    // Opens a folder to be held, as the system resolves its path: the last component, too, may be a link.
+    // Windows: CreateFileW. Linux: open.
+    virtual Result<std::shared_ptr<FolderHandle>> hold(const QString &folder) = 0;
+
+    enum class Mounts {
+        Refuse,
+        Enter,
+    };
+    // Opens a folder in a held one. PathNotFound for a link and for everything else that is no folder,
+    // NotSameDevice for what is mounted over the name, unless that is to be entered.
+    // Windows: CreateFileW with FILE_FLAG_OPEN_REPARSE_POINT; whatever is mounted is a link there. Linux:
+    // openat and statx.
+    virtual Result<std::shared_ptr<FolderHandle>> holdIn(const std::shared_ptr<FolderHandle> &parent,
+                                                         const QString &name, Mounts mounts) = 0;
 
     // Creates the folder with all missing parents; success when it exists already as a real folder.
     // Windows: CreateDirectoryW. Linux: mkdir, mode 0700 for what it creates.
@@ -48,7 +66,7 @@ public:
 
     // Removes an empty folder; DirectoryNotEmpty otherwise.
     // Windows: RemoveDirectoryW. Linux: rmdir.
-    virtual Status removeEmpty(const QString &folder) = 0;
+    virtual Status removeEmpty(const EntryPath &folder) = 0;
 
     // Removes the folder with everything in it. Links inside are removed themselves, what they lead to is
     // never touched. Goes on past what cannot be removed and answers the first failure. Windows:

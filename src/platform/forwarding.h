@@ -36,19 +36,22 @@ public:
     explicit ForwardingFiles(Files &target)
         : m_target(target)
     {}
-    Result<FileInfo> info(const QString &path) override { return m_target.info(path); }
-    Result<std::unique_ptr<FileHandle>> open(const QString &path, OpenMode mode) override
+    Result<FileInfo> info(const EntryPath &entry) override { return m_target.info(entry); }
+    Result<std::unique_ptr<FileHandle>> open(const EntryPath &entry, OpenMode mode) override
     {
-        return m_target.open(path, mode);
+        return m_target.open(entry, mode);
     }
-    Result<ContentPlace> contentPlace(const QString &path) override { return m_target.contentPlace(path); }
+    Result<ContentPlace> contentPlace(const EntryPath &entry) override
+    {
+        return m_target.contentPlace(entry);
+    }
     Result<QByteArray> readBeginning(const QString &path, qint64 limit) override
     {
         return m_target.readBeginning(path, limit);
     }
-    Status clearReadOnly(const QString &path) override { return m_target.clearReadOnly(path); }
-    Status rename(const QString &from, const QString &to) override { return m_target.rename(from, to); }
-    Status remove(const QString &path) override { return m_target.remove(path); }
+    Status clearReadOnly(const EntryPath &entry) override { return m_target.clearReadOnly(entry); }
+    Status rename(const EntryPath &from, const EntryPath &to) override { return m_target.rename(from, to); }
+    Status remove(const EntryPath &entry) override { return m_target.remove(entry); }
 
 protected:
     Files &m_target;
@@ -60,12 +63,21 @@ public:
     explicit ForwardingFolders(Folders &target)
         : m_target(target)
     {}
-    Status forEachEntry(const QString &folder, const Visitor &visit) override
+    Status forEachEntry(const EntryPath &folder, const Visitor &visit) override
     {
         return m_target.forEachEntry(folder, visit);
     }
+    Result<std::shared_ptr<FolderHandle>> hold(const QString &folder) override
+    {
+        return m_target.hold(folder);
+    }
+    Result<std::shared_ptr<FolderHandle>> holdIn(const std::shared_ptr<FolderHandle> &parent,
+                                                 const QString &name, Mounts mounts) override
+    {
+        return m_target.holdIn(parent, name, mounts);
+    }
     Status create(const QString &folder) override { return m_target.create(folder); }
-    Status removeEmpty(const QString &folder) override { return m_target.removeEmpty(folder); }
+    Status removeEmpty(const EntryPath &folder) override { return m_target.removeEmpty(folder); }
     Status removeTree(const QString &folder) override { return m_target.removeTree(folder); }
     Result<FolderOwner> owner(const QString &folder) override { return m_target.owner(folder); }
     Status hide(const QString &path) override { return m_target.hide(path); }

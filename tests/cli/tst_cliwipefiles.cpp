@@ -38,6 +38,8 @@ private slots:
     void anEmptyPathDoesNotMeanTheCurrentFolder();
     void aPathThatLooksLikeAnOptionIsErased();
     void theQuestionTellsFilesAndBytes();
+    void whatIsSwappedBeforeTheAnswerIsLeft_data();
+    void whatIsSwappedBeforeTheAnswerIsLeft();
     void aLongListIsCutShort();
     void namesCannotSteerTheTerminal();
     void nestedPathsAreCountedOnce();
@@ -225,6 +227,41 @@ void tst_CliWipeFiles::theQuestionTellsFilesAndBytes()
     QVERIFY2(run.io.out.contains("\n  3 files, 5.86 KB\n"), run.io.out.constData());
     QVERIFY(run.io.out.contains(path(u"folder"_s).toUtf8()));
     QVERIFY(exists(u"one.txt"_s));
+}
+
+void tst_CliWipeFiles::whatIsSwappedBeforeTheAnswerIsLeft_data()
+{
+    QTest::addColumn<QString>("swapped");
+    QTest::newRow("the folder above") << u"work"_s;
+    QTest::newRow("the folder itself") << u"work/target"_s;
+    QTest::newRow("the folder itself, by another") << QString();
+}
+
+void tst_CliWipeFiles::whatIsSwappedBeforeTheAnswerIsLeft()
+{
+    QFETCH(QString, swapped);
+    writeFile(u"work/target/a"_s, "chosen");
+    writeFile(u"keep/target/a"_s, "not chosen");
+    writeFile(u"keep/a"_s, "not chosen");
+    CliRun run;
+    run.io.inputIsTerminal = run.io.outputIsTerminal = true;
+    run.io.input = QStringList{u"ERASE"_s};
+    bool isMade = false;
+    run.io.onQuestion = [&] {
+        if (swapped.isEmpty())
+            isMade = QFile::rename(u"work/target"_s, u"away"_s) &&
+                     QFile::rename(u"keep/target"_s, u"work/target"_s);
+        else
+            isMade = QFile::rename(swapped, u"away"_s) && makeLink(path(u"keep"_s), path(swapped));
+    };
+    run(wipeFiles({u"work/target"_s, u"one.txt"_s}, {}));
+    if (!isMade)
+        QSKIP(NoLinks);
+    QVERIFY(!exists(u"one.txt"_s));
+    QCOMPARE(contentOf(swapped.isEmpty() ? u"work/target/a"_s : u"keep/target/a"_s), "not chosen");
+    QCOMPARE(contentOf(u"keep/a"_s), "not chosen");
+    QVERIFY2(run.code != 0, run.io.out.constData());
+    QVERIFY2(run.io.out.contains("work/target"), run.io.out.constData());
 }
 
 void tst_CliWipeFiles::aLongListIsCutShort()

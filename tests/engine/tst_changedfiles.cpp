@@ -102,6 +102,12 @@ private slots:
     void aLinkThatBecameAFile();
     void withoutLastingNumbers();
     void grewAfterTheLastPass();
+    void goesOnGrowing();
+    void whatGrewCannotBeWritten();
+    void awayDuringAPass();
+    void replacedBeforeItIsReadBack();
+    void replacedWhileItIsDeleted_data();
+    void replacedWhileItIsDeleted();
     void grewBetweenThePasses();
     void grewBeforeTheFirstPass();
     void grewAndShrankBeforeItWasOverwritten();
@@ -301,19 +307,119 @@ void tst_ChangedFiles::grewAfterTheLastPass()
 {
     Scenario s;
     s.at(said::deleting, [&] { appendTo(s.changed, "12345"); });
+    QByteArray lastContent;
+    s.job.files.hook = [&](const FileCall &call) {
+        if (call.kind == FaultPlan::SetEnd && call.path == s.changed)
+            lastContent = contentOf(s.changed);
+        return Status();
+    };
     QVERIFY(s.run());
     QVERIFY(!QFile::exists(s.changed));
-    QCOMPARE(s.shortfalls(), (QList<Shortfall>{{ShortfallKind::EntryGrew, s.changed, 5}}));
+    QCOMPARE(lastContent, QByteArray(15, char(0xFF)));
+    QCOMPARE(s.job.files.calls(FaultPlan::Write).size(), 4 + 2);
+    QVERIFY(s.shortfalls().isEmpty());
 }
 
 // What was added received one pass of two.
+// Whoever writes on is not waited for.
+void tst_ChangedFiles::goesOnGrowing()
+{
+    Scenario s;
+    bool isDeleting = false;
+    s.at(said::deleting, [&] {
+        isDeleting = true;
+        appendTo(s.changed, "1");
+    });
+    s.job.files.hook = [&](const FileCall &call) {
+        if (isDeleting && call.kind == FaultPlan::Flush && call.mode == OpenMode::Overwrite)
+            appendTo(s.changed, "23");
+        return Status();
+    };
+    QVERIFY(s.run());
+    QVERIFY(!QFile::exists(s.changed));
+    QCOMPARE(s.job.files.calls(FaultPlan::Write).size(), 4 + 10 * 2);
+    QCOMPARE(s.shortfalls(), (QList<Shortfall>{{ShortfallKind::EntryGrew, s.changed, 4}}));
+}
+
+void tst_ChangedFiles::whatGrewCannotBeWritten()
+{
+    Scenario s;
+    bool isDeleting = false;
+    s.at(said::deleting, [&] {
+        isDeleting = true;
+        appendTo(s.changed, "12345");
+    });
+    s.job.files.hook = [&](const FileCall &call) {
+        return isDeleting && call.kind == FaultPlan::Write ? Status{platform::IoDevice, 0, "planned"}
+                                                           : Status();
+    };
+    QVERIFY(!s.run());
+    QVERIFY(contentIfAny(s.changed).endsWith("12345"));
+    QVERIFY(s.job.lines().contains(said::deletionFailed(s.changed)));
+    QVERIFY(s.job.lines().contains(said::someFailed(1)));
+    QCOMPARE(s.shortfalls(), (QList<Shortfall>{{ShortfallKind::EntryNotRemoved, s.changed}}));
+}
+
+// It was not there to be overwritten, and then it was.
+void tst_ChangedFiles::awayDuringAPass()
+{
+    Scenario s;
+    s.job.said.onLine = [&](const QString &line) {
+        if (line == said::pass(1, 2))
+            QFile::rename(s.changed, s.changed + u".away"_s);
+        if (line == said::pass(2, 2))
+            QFile::rename(s.changed + u".away"_s, s.changed);
+    };
+    QVERIFY(s.run());
+    QCOMPARE(s.job.files.calls(FaultPlan::Write).size(), 3 + 2);
+    QVERIFY(s.shortfalls().isEmpty());
+}
+
+void tst_ChangedFiles::replacedBeforeItIsReadBack()
+{
+    Scenario s;
+    s.job.setPasses({{PatternType::Zeros, 0, true}});
+    s.job.files.hook = [&](const FileCall &call) {
+        if (call.kind == FaultPlan::Open && call.mode == OpenMode::Verify && call.path == s.changed)
+            s.replace();
+        return Status();
+    };
+    QVERIFY(s.run());
+    QVERIFY(s.isLeftAlone());
+    QCOMPARE(s.shortfalls(), (QList<Shortfall>{{ShortfallKind::EntryReplaced, s.changed}}));
+}
+
+void tst_ChangedFiles::replacedWhileItIsDeleted_data()
+{
+    QTest::addColumn<bool>("isCut");
+    QTest::newRow("before it is cut") << false;
+    QTest::newRow("before it is renamed") << true;
+}
+
+void tst_ChangedFiles::replacedWhileItIsDeleted()
+{
+    QFETCH(bool, isCut);
+    Scenario s;
+    s.job.files.hook = [&](const FileCall &call) {
+        const bool isCutting = call.kind == FaultPlan::Open && call.mode == OpenMode::Truncate;
+        if ((isCut ? call.kind == FaultPlan::Rename : isCutting) && call.path == s.changed)
+            s.replace();
+        return Status();
+    };
+    QVERIFY(s.run());
+    QVERIFY(s.isLeftAlone());
+    QVERIFY(s.isSaid());
+    QCOMPARE(s.shortfalls(), (QList<Shortfall>{{ShortfallKind::EntryReplaced, s.changed}}));
+}
+
 void tst_ChangedFiles::grewBetweenThePasses()
 {
     Scenario s;
     s.at(said::pass(2, 2), [&] { appendTo(s.changed, "1234567"); });
     QVERIFY(s.run());
     QVERIFY(!QFile::exists(s.changed));
-    QCOMPARE(s.shortfalls(), (QList<Shortfall>{{ShortfallKind::EntryGrew, s.changed, 7}}));
+    QCOMPARE(s.job.files.calls(FaultPlan::Write).size(), 4 + 2);
+    QVERIFY(s.shortfalls().isEmpty());
 }
 
 void tst_ChangedFiles::grewBeforeTheFirstPass()
@@ -347,7 +453,8 @@ void tst_ChangedFiles::anEmptyFileThatGrew()
             writeFile(file, "abc");
     };
     QVERIFY(job.run({file}));
-    QCOMPARE(job.task.outcome().shortfalls(), (QList<Shortfall>{{ShortfallKind::EntryGrew, file, 3}}));
+    QCOMPARE(job.files.calls(FaultPlan::Write).size(), 1);
+    QVERIFY(job.task.outcome().shortfalls().isEmpty());
 }
 
 // Whoever cut it gave its blocks back as they were.

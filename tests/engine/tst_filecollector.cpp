@@ -27,26 +27,34 @@ struct Scan
         bool operator==(const Unreadable &) const = default;
     };
 
-    FileList list;
+    QStringList files;
+    QStringList folders;
+    int unreadableCount = 0;
     QList<Unreadable> unreadable;
     int asked = 0;
 
     explicit Scan(const QStringList &targets, int entriesAllowed = 1'000'000)
     {
+        HeldTree tree;
         FileCollector collector(
-            {.goOn = [this, entriesAllowed] { return ++asked <= entriesAllowed; },
-             .unreadable =
-                 [this](FileCollector::Unreadable what, const QString &path, const Status &status) {
-                     unreadable.append({what, path, status.code});
-                 }});
-        list = collector.collect(targets);
+            tree, {.goOn = [this, entriesAllowed] { return ++asked <= entriesAllowed; },
+                   .unreadable =
+                       [this](FileCollector::Unreadable what, const QString &path, const Status &status) {
+                           unreadable.append({what, path, status.code});
+                       }});
+        const FileList list = collector.collect(targets);
+        for (const FileEntry &file : list.files)
+            files.append(tree.path(file.folder, file.name));
+        for (const HeldTree::Folder folder : list.folders)
+            folders.append(tree.path(folder));
+        unreadableCount = list.unreadable;
     }
 
     QStringList sortedFiles() const
     {
-        QStringList files = list.files;
-        files.sort();
-        return files;
+        QStringList sorted = files;
+        sorted.sort();
+        return sorted;
     }
 };
 
@@ -79,9 +87,9 @@ private slots:
 void tst_FileCollector::noTargetsGiveNothing()
 {
     const Scan scan({});
-    QVERIFY(scan.list.files.isEmpty());
-    QVERIFY(scan.list.folders.isEmpty());
-    QCOMPARE(scan.list.unreadable, 0);
+    QVERIFY(scan.files.isEmpty());
+    QVERIFY(scan.folders.isEmpty());
+    QCOMPARE(scan.unreadableCount, 0);
 }
 
 void tst_FileCollector::filesStandInTheOrderOfTheTargets()
@@ -90,8 +98,8 @@ void tst_FileCollector::filesStandInTheOrderOfTheTargets()
     const QStringList targets{job.makeFile(QStringLiteral("z"), 1), job.makeFile(QStringLiteral("a"), 1),
                               job.makeFile(QStringLiteral("m"), 1)};
     const Scan scan(targets);
-    QCOMPARE(scan.list.files, targets);
-    QVERIFY(scan.list.folders.isEmpty());
+    QCOMPARE(scan.files, targets);
+    QVERIFY(scan.folders.isEmpty());
 }
 
 void tst_FileCollector::aFolderStandsForEveryFileBelowIt()
@@ -105,8 +113,8 @@ void tst_FileCollector::aFolderStandsForEveryFileBelowIt()
     job.makeFile(QStringLiteral("beside"), 1);
     const Scan scan({job.path(QStringLiteral("t"))});
     QCOMPARE(scan.sortedFiles(), files);
-    QCOMPARE(scan.list.folders, QStringList{job.path(QStringLiteral("t"))});
-    QCOMPARE(scan.list.unreadable, 0);
+    QCOMPARE(scan.folders, QStringList{job.path(QStringLiteral("t"))});
+    QCOMPARE(scan.unreadableCount, 0);
 }
 
 void tst_FileCollector::hiddenFilesAreFound()
@@ -124,8 +132,8 @@ void tst_FileCollector::emptyFoldersHoldNothing()
     FileJob job;
     job.makeFolder(QStringLiteral("t/a/b"));
     const Scan scan({job.path(QStringLiteral("t"))});
-    QVERIFY(scan.list.files.isEmpty());
-    QCOMPARE(scan.list.folders.size(), 1);
+    QVERIFY(scan.files.isEmpty());
+    QCOMPARE(scan.folders.size(), 1);
 }
 
 void tst_FileCollector::whatDoesNotExistIsLeftOut()
@@ -133,8 +141,8 @@ void tst_FileCollector::whatDoesNotExistIsLeftOut()
     FileJob job;
     const QString file = job.makeFile(QStringLiteral("a"), 1);
     const Scan scan({job.path(QStringLiteral("nothing")), file, job.path(QStringLiteral("no/way"))});
-    QCOMPARE(scan.list.files, QStringList{file});
-    QCOMPARE(scan.list.unreadable, 0);
+    QCOMPARE(scan.files, QStringList{file});
+    QCOMPARE(scan.unreadableCount, 0);
     QVERIFY(scan.unreadable.isEmpty());
 }
 
@@ -143,7 +151,7 @@ void tst_FileCollector::theSameFileTwiceIsListedOnce()
     FileJob job;
     const QString a = job.makeFile(QStringLiteral("a"), 1);
     const QString b = job.makeFile(QStringLiteral("b"), 1);
-    QCOMPARE(Scan({b, a, b, a, a}).list.files, (QStringList{b, a}));
+    QCOMPARE(Scan({b, a, b, a, a}).files, (QStringList{b, a}));
 }
 
 void tst_FileCollector::aFileInsideAGivenFolderIsListedOnceWhereItCameFirst()
@@ -153,11 +161,11 @@ void tst_FileCollector::aFileInsideAGivenFolderIsListedOnceWhereItCameFirst()
     const QString other = job.makeFile(QStringLiteral("t/other"), 1);
     const QString folder = job.path(QStringLiteral("t"));
     const Scan fileFirst({inside, folder});
-    QCOMPARE(fileFirst.list.files, (QStringList{inside, other}));
+    QCOMPARE(fileFirst.files, (QStringList{inside, other}));
     const Scan folderFirst({folder, inside, folder + QStringLiteral("/sub")});
     QCOMPARE(folderFirst.sortedFiles(), (QStringList{other, inside}));
     // With a separator at the end the paths inside are the same.
-    QCOMPARE(Scan({inside, folder + QLatin1Char('/')}).list.files, (QStringList{inside, other}));
+    QCOMPARE(Scan({inside, folder + QLatin1Char('/')}).files, (QStringList{inside, other}));
 }
 
 void tst_FileCollector::namesThatDifferInCaseAreTwoFiles()
@@ -167,7 +175,7 @@ void tst_FileCollector::namesThatDifferInCaseAreTwoFiles()
     const QString upper = job.makeFile(QStringLiteral("NAME"), 1);
     if (QDir(job.path({})).count() != 4)
         QSKIP("SKIPPED: this file system does not tell upper from lower case");
-    QCOMPARE(Scan({lower, upper}).list.files, (QStringList{lower, upper}));
+    QCOMPARE(Scan({lower, upper}).files, (QStringList{lower, upper}));
 }
 
 void tst_FileCollector::separatorsAtTheEndDoNotMatter_data()
@@ -183,8 +191,8 @@ void tst_FileCollector::separatorsAtTheEndDoNotMatter()
     FileJob job;
     const QString file = job.makeFile(QStringLiteral("t/a"), 1);
     const Scan scan({job.path(QStringLiteral("t")) + end});
-    QCOMPARE(scan.list.files, QStringList{file});
-    QCOMPARE(scan.list.folders, QStringList{job.path(QStringLiteral("t"))});
+    QCOMPARE(scan.files, QStringList{file});
+    QCOMPARE(scan.folders, QStringList{job.path(QStringLiteral("t"))});
 }
 
 void tst_FileCollector::deepTreesAreWalkedToTheEnd()
@@ -195,7 +203,7 @@ void tst_FileCollector::deepTreesAreWalkedToTheEnd()
         name += QStringLiteral("/d");
     const QString file = job.makeFile(name + QStringLiteral("/deepest"), 1);
     QVERIFY(file.size() > 1'400);
-    QCOMPARE(Scan({job.path(QStringLiteral("t"))}).list.files, QStringList{file});
+    QCOMPARE(Scan({job.path(QStringLiteral("t"))}).files, QStringList{file});
 }
 
 void tst_FileCollector::aFolderThatCannotBeListedIsTold()
@@ -210,10 +218,10 @@ void tst_FileCollector::aFolderThatCannotBeListedIsTold()
     files.sort();
     const Scan scan({job.path(QStringLiteral("t")), job.path(QStringLiteral("u"))});
     QCOMPARE(scan.sortedFiles(), files);
-    QCOMPARE(scan.list.unreadable, 1);
+    QCOMPARE(scan.unreadableCount, 1);
     QCOMPARE(scan.unreadable, (QList<Scan::Unreadable>{{FileCollector::Unreadable::Folder,
                                                         job.path(QStringLiteral("t/locked")), 5}}));
-    QCOMPARE(scan.list.folders, QStringList{job.path(QStringLiteral("u"))});
+    QCOMPARE(scan.folders, QStringList{job.path(QStringLiteral("u"))});
 }
 
 void tst_FileCollector::whatWasListedBeforeTheFailureStays()
@@ -223,7 +231,7 @@ void tst_FileCollector::whatWasListedBeforeTheFailureStays()
     {
     public:
         using ForwardingFolders::ForwardingFolders;
-        Status forEachEntry(const QString &folder, const Visitor &visit) override
+        Status forEachEntry(const platform::EntryPath &folder, const Visitor &visit) override
         {
             const Status status = ForwardingFolders::forEachEntry(folder, visit);
             return status ? Status{platform::IoDevice, 0, "planned"} : status;
@@ -232,9 +240,9 @@ void tst_FileCollector::whatWasListedBeforeTheFailureStays()
     FileJob job(platform::Platform::current().files(), folders);
     const QString file = job.makeFile(QStringLiteral("t/a"), 1);
     const Scan scan({job.path(QStringLiteral("t"))});
-    QCOMPARE(scan.list.files, QStringList{file});
-    QVERIFY(scan.list.folders.isEmpty());
-    QCOMPARE(scan.list.unreadable, 1);
+    QCOMPARE(scan.files, QStringList{file});
+    QVERIFY(scan.folders.isEmpty());
+    QCOMPARE(scan.unreadableCount, 1);
 }
 
 void tst_FileCollector::aTargetThatCannotBeLookedAtIsTold()
@@ -246,8 +254,8 @@ void tst_FileCollector::aTargetThatCannotBeLookedAtIsTold()
         return call.path == bad ? Status{platform::IoDevice, 0, "planned"} : Status();
     };
     const Scan scan({bad, good});
-    QCOMPARE(scan.list.files, QStringList{good});
-    QCOMPARE(scan.list.unreadable, 1);
+    QCOMPARE(scan.files, QStringList{good});
+    QCOMPARE(scan.unreadableCount, 1);
     QCOMPARE(scan.unreadable, (QList<Scan::Unreadable>{{FileCollector::Unreadable::Target, bad, 1117}}));
 }
 
@@ -262,7 +270,7 @@ void tst_FileCollector::theScanEndsAtAnyEntry()
     for (int allowed = 0; allowed < questions; ++allowed) {
         const Scan scan({folder}, allowed);
         QCOMPARE(scan.asked, allowed + 1);
-        QVERIFY(scan.list.files.size() <= allowed);
+        QVERIFY(scan.files.size() <= allowed);
         QVERIFY(scan.unreadable.isEmpty());
     }
 }
@@ -274,7 +282,7 @@ void tst_FileCollector::theFolderOfAnUnfinishedScanIsNotListed()
     const QString folder = job.path(QStringLiteral("t"));
     const int questions = Scan({folder}).asked;
     for (int allowed = 0; allowed < questions; ++allowed)
-        QVERIFY(Scan({folder}, allowed).list.folders.isEmpty());
+        QVERIFY(Scan({folder}, allowed).folders.isEmpty());
 }
 
 QUORVEX_SUITE(tst_FileCollector, QCoreApplication)

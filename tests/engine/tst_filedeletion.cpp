@@ -80,6 +80,13 @@ struct CountedDeletion
     }
 };
 
+// The new path, empty without one.
+QString renameAtRandom(const QString &file)
+{
+    const auto renamed = FileDeletion::randomRenameFile(file);
+    return renamed ? renamed->path() : QString();
+}
+
 } // namespace
 
 class tst_FileDeletion : public QObject
@@ -202,7 +209,7 @@ void tst_FileDeletion::theNewNameIsRandomInTheSameFolder()
     QSet<QString> names;
     for (int i = 0; i < 50; ++i) {
         const QString file = job.makeFile(QStringLiteral("in/a folder.d/secret.txt"), QByteArray("content"));
-        const QString renamed = FileDeletion::randomRenameFile(file);
+        const QString renamed = renameAtRandom(file);
         const QFileInfo info(renamed);
         QCOMPARE(info.path(), job.path(QStringLiteral("in/a folder.d")));
         QVERIFY2(form.match(info.fileName()).hasMatch(), qPrintable(info.fileName()));
@@ -219,7 +226,7 @@ void tst_FileDeletion::fiveFailedRenamesGiveNoNewName()
     CountedDeletion c;
     const QString file = c.job.makeFile(QStringLiteral("secret"), 10);
     c.failEvery(FaultPlan::Rename, platform::AccessDenied);
-    QCOMPARE(FileDeletion::randomRenameFile(file), QString());
+    QCOMPARE(renameAtRandom(file), QString());
     const QList<FileCall> attempts = c.job.files.calls(FaultPlan::Rename);
     QCOMPARE(attempts.size(), 5);
     QSet<QString> candidates;
@@ -237,7 +244,7 @@ void tst_FileDeletion::aLaterRenameMaySucceed()
     c.job.files.hook = [&calls](const FileCall &call) {
         return call.kind == FaultPlan::Rename && ++calls < 5 ? failure(platform::IoDevice) : Status();
     };
-    const QString renamed = FileDeletion::randomRenameFile(file);
+    const QString renamed = renameAtRandom(file);
     QVERIFY(QFileInfo::exists(renamed));
     QCOMPARE(calls, 5);
 }
@@ -259,7 +266,7 @@ void tst_FileDeletion::everyCharacterIsDrawn()
     QString file = job.makeFile(QStringLiteral("secret"), 0);
     // 1200 draws from 36 characters: the chance to miss one of them is below 1e-12.
     for (int i = 0; i < 100; ++i) {
-        file = FileDeletion::randomRenameFile(file);
+        file = renameAtRandom(file);
         for (const QChar c : QFileInfo(file).baseName())
             drawn.insert(c);
     }

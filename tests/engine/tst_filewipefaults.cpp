@@ -38,7 +38,7 @@ constexpr FaultKind faultKinds[] = {
     {"locate", FaultPlan::Locate},
     {"rename and remove", FaultPlan::Rename | FaultPlan::Remove},
     {"list", FaultPlan::List},
-    {"removeTree", FaultPlan::RemoveTree},
+    {"remove folder", FaultPlan::RemoveFolder},
     {"everything", FaultPlan::Every},
 };
 

@@ -55,6 +55,7 @@ private slots:
     void onlyLinksCountAsEmptyFiles();
     void aLinkThatTakesTheFilesPlaceIsNotFollowed();
     void aFolderThatTurnsIntoALinkIsNotRemoved();
+    void anotherFolderInAFoldersPlaceIsNotRemoved();
     void specialFilesInsideAFolderAreRemovedUnopened();
     void deviceNodesInsideAFolderAreRemovedUnopened();
     void givenSpecialFilesAreLeftOut();
@@ -179,6 +180,25 @@ void tst_FileWipeKinds::aFolderThatTurnsIntoALinkIsNotRemoved()
     QVERIFY(swapped);
     QVERIFY(stands(folder));
     QCOMPARE(contentOf(victim), QByteArray(10, 'M'));
+    QCOMPARE(job.task.outcome().shortfalls(), (QList<Shortfall>{{ShortfallKind::EntryReplaced, folder}}));
+}
+
+void tst_FileWipeKinds::anotherFolderInAFoldersPlaceIsNotRemoved()
+{
+    FileJob job;
+    job.makeFile(QStringLiteral("t/file"), 10);
+    const QString folder = job.path(QStringLiteral("t"));
+    bool swapped = false;
+    job.files.hook = [&](const FileCall &call) {
+        if (!swapped && call.kind == FaultPlan::Info && call.path == folder &&
+            !QFileInfo::exists(folder + QStringLiteral("/file")))
+            swapped = QFile::rename(folder, job.path(QStringLiteral("away"))) && QDir().mkdir(folder);
+        return Status();
+    };
+    QVERIFY(job.run({folder}));
+    QVERIFY(swapped);
+    QVERIFY(stands(folder));
+    QCOMPARE(job.task.outcome().shortfalls(), (QList<Shortfall>{{ShortfallKind::EntryReplaced, folder}}));
 }
 
 void tst_FileWipeKinds::specialFilesInsideAFolderAreRemovedUnopened()

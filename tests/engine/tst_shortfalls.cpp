@@ -249,7 +249,7 @@ void tst_Shortfalls::aFolderThatCannotBeRemoved()
     {
     public:
         using ForwardingFolders::ForwardingFolders;
-        platform::Status removeTree(const QString &) override
+        platform::Status removeEmpty(const platform::EntryPath &) override
         {
             return {platform::SharingViolation, 0, "planned"};
         }

@@ -6,10 +6,6 @@
 
 #include <system_error>
 
-#ifdef Q_OS_LINUX
-#include <sys/mount.h>
-#endif
-
 platform::Platform &backend()
 {
     static const std::unique_ptr<platform::Platform> machine = platform::createPlatform({});
@@ -25,20 +21,6 @@ std::filesystem::path nativePath(const QString &path)
     return QFile::encodeName(path).toStdString();
 #endif
 }
-
-#ifdef Q_OS_LINUX
-PlainMount::PlainMount(const char *type, const QString &source, const QString &folder, unsigned long flags)
-    : m_folder(QFile::encodeName(folder))
-    , m_mounted(::mount(QFile::encodeName(source).constData(), m_folder.constData(), type, flags, nullptr) ==
-                0)
-{}
-
-PlainMount::~PlainMount()
-{
-    if (m_mounted && ::umount2(m_folder.constData(), MNT_DETACH) != 0)
-        QTest::qFail(("left mounted: " + m_folder).constData(), __FILE__, __LINE__);
-}
-#endif
 
 void Places::addRows(const QStringList &places)
 {

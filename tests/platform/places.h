@@ -13,6 +13,7 @@
 
 #ifdef Q_OS_LINUX
 #include "support/loopmount.h"
+#include "support/plainmount.h"
 #endif
 
 // The backend under test: what the program itself uses on this system.
@@ -20,25 +21,6 @@ platform::Platform &backend();
 
 // A path as the standard library takes it.
 std::filesystem::path nativePath(const QString &path);
-
-#ifdef Q_OS_LINUX
-// A mount that needs no device, taken back on destruction.
-class PlainMount
-{
-public:
-    // "tmpfs" and "ramfs" need no source; flags as for mount(2).
-    PlainMount(const char *type, const QString &source, const QString &folder, unsigned long flags = 0);
-    ~PlainMount();
-    PlainMount(const PlainMount &) = delete;
-    PlainMount &operator=(const PlainMount &) = delete;
-
-    bool isMounted() const { return m_mounted; }
-
-private:
-    QByteArray m_folder;
-    bool m_mounted;
-};
-#endif
 
 // The file systems on which a suite runs, as global data of it: each test function runs once per place, in a
 // folder of its own there. A suite runs twice: on what everybody can write to, and on what root mounts.

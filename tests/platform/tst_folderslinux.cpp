@@ -1,5 +1,6 @@
 #include "platform/fileflags.h"
 #include "platform/places.h"
+#include "support/fewdescriptors.h"
 #include "support/links.h"
 #include "support/suite.h"
 #include "support/testfiles.h"
@@ -16,7 +17,6 @@
 
 #include <fcntl.h>
 #include <sys/mount.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/statvfs.h>
 #include <sys/sysmacros.h>
@@ -55,27 +55,6 @@ bool makeChain(const QString &folder, int levels)
     }
     return at.isValid();
 }
-
-// This process may have fewer descriptors than any removal that keeps one per level would need.
-class FewDescriptors
-{
-public:
-    explicit FewDescriptors(rlim_t most)
-    {
-        ::getrlimit(RLIMIT_NOFILE, &m_before);
-        const rlimit few = {most, m_before.rlim_max};
-        m_set = ::setrlimit(RLIMIT_NOFILE, &few) == 0;
-    }
-    ~FewDescriptors() { ::setrlimit(RLIMIT_NOFILE, &m_before); }
-    FewDescriptors(const FewDescriptors &) = delete;
-    FewDescriptors &operator=(const FewDescriptors &) = delete;
-
-    bool isSet() const { return m_set; }
-
-private:
-    rlimit m_before = {};
-    bool m_set = false;
-};
 
 int openDescriptors()
 {

@@ -611,7 +611,7 @@ void tst_TrashScan::sizesThatCannotBeReplacedStay()
     {
     public:
         using ForwardingFiles::ForwardingFiles;
-        platform::Status rename(const QString &, const QString &) override
+        platform::Status rename(const platform::EntryPath &, const platform::EntryPath &) override
         {
             return {platform::AccessDenied, 0, "rename"};
         }

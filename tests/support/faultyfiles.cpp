@@ -54,29 +54,29 @@ private:
 
 } // namespace
 
-platform::Result<platform::FileInfo> FaultyFiles::info(const QString &path)
+platform::Result<platform::FileInfo> FaultyFiles::info(const platform::EntryPath &entry)
 {
-    if (fires(FaultPlan::Info, path))
+    if (fires(FaultPlan::Info, entry.path()))
         return m_plan.status();
-    return ForwardingFiles::info(path);
+    return ForwardingFiles::info(entry);
 }
 
-platform::Result<std::unique_ptr<platform::FileHandle>> FaultyFiles::open(const QString &path,
+platform::Result<std::unique_ptr<platform::FileHandle>> FaultyFiles::open(const platform::EntryPath &entry,
                                                                           platform::OpenMode mode)
 {
-    if (fires(FaultPlan::Open, path))
+    if (fires(FaultPlan::Open, entry.path()))
         return m_plan.status();
-    auto handle = ForwardingFiles::open(path, mode);
-    if (!handle || !concerns(path))
+    auto handle = ForwardingFiles::open(entry, mode);
+    if (!handle || !concerns(entry.path()))
         return handle;
     return std::unique_ptr<platform::FileHandle>(std::make_unique<FaultyFileHandle>(handle.take(), m_plan));
 }
 
-platform::Result<platform::ContentPlace> FaultyFiles::contentPlace(const QString &path)
+platform::Result<platform::ContentPlace> FaultyFiles::contentPlace(const platform::EntryPath &entry)
 {
-    if (fires(FaultPlan::Locate, path))
+    if (fires(FaultPlan::Locate, entry.path()))
         return m_plan.status();
-    return ForwardingFiles::contentPlace(path);
+    return ForwardingFiles::contentPlace(entry);
 }
 
 platform::Result<QByteArray> FaultyFiles::readBeginning(const QString &path, qint64 limit)
@@ -86,19 +86,20 @@ platform::Result<QByteArray> FaultyFiles::readBeginning(const QString &path, qin
     return ForwardingFiles::readBeginning(path, limit);
 }
 
-platform::Status FaultyFiles::clearReadOnly(const QString &path)
+platform::Status FaultyFiles::clearReadOnly(const platform::EntryPath &entry)
 {
-    return fires(FaultPlan::ClearReadOnly, path) ? m_plan.status() : ForwardingFiles::clearReadOnly(path);
+    return fires(FaultPlan::ClearReadOnly, entry.path()) ? m_plan.status()
+                                                         : ForwardingFiles::clearReadOnly(entry);
 }
 
-platform::Status FaultyFiles::rename(const QString &from, const QString &to)
+platform::Status FaultyFiles::rename(const platform::EntryPath &from, const platform::EntryPath &to)
 {
-    return fires(FaultPlan::Rename, from) ? m_plan.status() : ForwardingFiles::rename(from, to);
+    return fires(FaultPlan::Rename, from.path()) ? m_plan.status() : ForwardingFiles::rename(from, to);
 }
 
-platform::Status FaultyFiles::remove(const QString &path)
+platform::Status FaultyFiles::remove(const platform::EntryPath &entry)
 {
-    return fires(FaultPlan::Remove, path) ? m_plan.status() : ForwardingFiles::remove(path);
+    return fires(FaultPlan::Remove, entry.path()) ? m_plan.status() : ForwardingFiles::remove(entry);
 }
 
 bool FaultyFiles::concerns(const QString &path) const
@@ -111,9 +112,10 @@ bool FaultyFiles::fires(FaultPlan::Kind kind, const QString &path)
     return concerns(path) && m_plan.fires(kind);
 }
 
-platform::Status FaultyFolders::forEachEntry(const QString &folder, const Visitor &visit)
+platform::Status FaultyFolders::forEachEntry(const platform::EntryPath &folder, const Visitor &visit)
 {
-    return fires(FaultPlan::List, folder) ? m_plan.status() : ForwardingFolders::forEachEntry(folder, visit);
+    return fires(FaultPlan::List, folder.path()) ? m_plan.status()
+                                                 : ForwardingFolders::forEachEntry(folder, visit);
 }
 
 platform::Status FaultyFolders::create(const QString &folder)
@@ -121,9 +123,10 @@ platform::Status FaultyFolders::create(const QString &folder)
     return fires(FaultPlan::CreateFolder, folder) ? m_plan.status() : ForwardingFolders::create(folder);
 }
 
-platform::Status FaultyFolders::removeEmpty(const QString &folder)
+platform::Status FaultyFolders::removeEmpty(const platform::EntryPath &folder)
 {
-    return fires(FaultPlan::RemoveFolder, folder) ? m_plan.status() : ForwardingFolders::removeEmpty(folder);
+    return fires(FaultPlan::RemoveFolder, folder.path()) ? m_plan.status()
+                                                         : ForwardingFolders::removeEmpty(folder);
 }
 
 platform::Status FaultyFolders::removeTree(const QString &folder)

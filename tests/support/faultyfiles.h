@@ -21,16 +21,16 @@ public:
         , m_plan(plan)
         , m_paths(std::move(paths))
     {}
-    platform::Result<platform::FileInfo> info(const QString &path) override;
+    platform::Result<platform::FileInfo> info(const platform::EntryPath &entry) override;
     // Nothing is created or cut by an opening that fails.
-    platform::Result<std::unique_ptr<platform::FileHandle>> open(const QString &path,
+    platform::Result<std::unique_ptr<platform::FileHandle>> open(const platform::EntryPath &entry,
                                                                  platform::OpenMode mode) override;
-    platform::Result<platform::ContentPlace> contentPlace(const QString &path) override;
+    platform::Result<platform::ContentPlace> contentPlace(const platform::EntryPath &entry) override;
     platform::Result<QByteArray> readBeginning(const QString &path, qint64 limit) override;
-    platform::Status clearReadOnly(const QString &path) override;
+    platform::Status clearReadOnly(const platform::EntryPath &entry) override;
     // It is the old name that counts.
-    platform::Status rename(const QString &from, const QString &to) override;
-    platform::Status remove(const QString &path) override;
+    platform::Status rename(const platform::EntryPath &from, const platform::EntryPath &to) override;
+    platform::Status remove(const platform::EntryPath &entry) override;
 
 private:
     bool concerns(const QString &path) const;
@@ -50,9 +50,9 @@ public:
         , m_paths(std::move(paths))
     {}
     // Fails before the first entry.
-    platform::Status forEachEntry(const QString &folder, const Visitor &visit) override;
+    platform::Status forEachEntry(const platform::EntryPath &folder, const Visitor &visit) override;
     platform::Status create(const QString &folder) override;
-    platform::Status removeEmpty(const QString &folder) override;
+    platform::Status removeEmpty(const platform::EntryPath &folder) override;
     // Removes nothing when it fails.
     platform::Status removeTree(const QString &folder) override;
     platform::Result<platform::FolderOwner> owner(const QString &folder) override;

@@ -80,8 +80,9 @@ QStringList MemoryVolume::pathsBelow(const QString &start) const
     return paths;
 }
 
-platform::Result<platform::FileInfo> MemoryVolume::info(const QString &path)
+platform::Result<platform::FileInfo> MemoryVolume::info(const platform::EntryPath &place)
 {
+    const QString path = place.path();
     if (const auto fault = begin(FaultPlan::Info, path); !fault)
         return fault;
     const auto entry = entries.constFind(path);
@@ -90,9 +91,10 @@ platform::Result<platform::FileInfo> MemoryVolume::info(const QString &path)
     return platform::FileInfo{entry->kind, entry->size, entry->linkCount};
 }
 
-platform::Result<std::unique_ptr<platform::FileHandle>> MemoryVolume::open(const QString &path,
+platform::Result<std::unique_ptr<platform::FileHandle>> MemoryVolume::open(const platform::EntryPath &entry,
                                                                            platform::OpenMode mode)
 {
+    const QString path = entry.path();
     if (const auto fault = begin(FaultPlan::Open, path); !fault)
         return fault;
     if (mode != platform::OpenMode::CreateFill)
@@ -107,7 +109,7 @@ platform::Result<std::unique_ptr<platform::FileHandle>> MemoryVolume::open(const
     return std::unique_ptr<platform::FileHandle>(std::make_unique<Handle>(*this, path));
 }
 
-platform::Result<platform::ContentPlace> MemoryVolume::contentPlace(const QString &)
+platform::Result<platform::ContentPlace> MemoryVolume::contentPlace(const platform::EntryPath &)
 {
     return platform::ContentPlace{.elsewhere = elsewhere, .bytes = -1};
 }
@@ -117,18 +119,20 @@ platform::Result<QByteArray> MemoryVolume::readBeginning(const QString &, qint64
     return failure(platform::NotSupported); // no content is kept
 }
 
-platform::Status MemoryVolume::clearReadOnly(const QString &path)
+platform::Status MemoryVolume::clearReadOnly(const platform::EntryPath &entry)
 {
+    const QString path = entry.path();
     return begin(FaultPlan::ClearReadOnly, path);
 }
 
-platform::Status MemoryVolume::rename(const QString &, const QString &)
+platform::Status MemoryVolume::rename(const platform::EntryPath &, const platform::EntryPath &)
 {
     return failure(platform::NotSupported);
 }
 
-platform::Status MemoryVolume::remove(const QString &path)
+platform::Status MemoryVolume::remove(const platform::EntryPath &place)
 {
+    const QString path = place.path();
     if (const auto fault = begin(FaultPlan::Remove, path); !fault) {
         refusedRemovals.append(path);
         return fault;
@@ -146,8 +150,9 @@ platform::Status MemoryVolume::remove(const QString &path)
     return {};
 }
 
-platform::Status MemoryVolume::forEachEntry(const QString &folder, const Visitor &visit)
+platform::Status MemoryVolume::forEachEntry(const platform::EntryPath &place, const Visitor &visit)
 {
+    const QString folder = place.path();
     if (const auto fault = begin(FaultPlan::List, folder); !fault)
         return fault;
     if (!isFolder(folder))
@@ -160,6 +165,17 @@ platform::Status MemoryVolume::forEachEntry(const QString &folder, const Visitor
             break;
     }
     return {};
+}
+
+platform::Result<std::shared_ptr<platform::FolderHandle>> MemoryVolume::hold(const QString &)
+{
+    return failure(platform::NotSupported);
+}
+
+platform::Result<std::shared_ptr<platform::FolderHandle>>
+MemoryVolume::holdIn(const std::shared_ptr<platform::FolderHandle> &, const QString &, Mounts)
+{
+    return failure(platform::NotSupported);
 }
 
 platform::Status MemoryVolume::create(const QString &folder)
@@ -177,8 +193,9 @@ platform::Status MemoryVolume::create(const QString &folder)
     return {};
 }
 
-platform::Status MemoryVolume::removeEmpty(const QString &folder)
+platform::Status MemoryVolume::removeEmpty(const platform::EntryPath &entry)
 {
+    const QString folder = entry.path();
     if (const auto fault = begin(FaultPlan::RemoveFolder, folder); !fault)
         return fault;
     if (!entries.contains(folder))

@@ -81,19 +81,24 @@ public:
     QStringList pathsBelow(const QString &start) const;
 
     // Files.
-    platform::Result<platform::FileInfo> info(const QString &path) override;
-    platform::Result<std::unique_ptr<platform::FileHandle>> open(const QString &path,
+    platform::Result<platform::FileInfo> info(const platform::EntryPath &place) override;
+    platform::Result<std::unique_ptr<platform::FileHandle>> open(const platform::EntryPath &entry,
                                                                  platform::OpenMode mode) override;
-    platform::Result<platform::ContentPlace> contentPlace(const QString &path) override;
+    platform::Result<platform::ContentPlace> contentPlace(const platform::EntryPath &entry) override;
     platform::Result<QByteArray> readBeginning(const QString &path, qint64 limit) override;
-    platform::Status clearReadOnly(const QString &path) override;
-    platform::Status rename(const QString &, const QString &) override;
-    platform::Status remove(const QString &path) override;
+    platform::Status clearReadOnly(const platform::EntryPath &entry) override;
+    platform::Status rename(const platform::EntryPath &, const platform::EntryPath &) override;
+    platform::Status remove(const platform::EntryPath &place) override;
 
     // Folders.
-    platform::Status forEachEntry(const QString &folder, const Visitor &visit) override;
+    platform::Status forEachEntry(const platform::EntryPath &folder, const Visitor &visit) override;
+    // No folder is ever held here.
+    platform::Result<std::shared_ptr<platform::FolderHandle>> hold(const QString &folder) override;
+    platform::Result<std::shared_ptr<platform::FolderHandle>>
+    holdIn(const std::shared_ptr<platform::FolderHandle> &parent, const QString &name,
+           Mounts mounts) override;
     platform::Status create(const QString &folder) override;
-    platform::Status removeEmpty(const QString &folder) override;
+    platform::Status removeEmpty(const platform::EntryPath &folder) override;
     platform::Status removeTree(const QString &folder) override;
     platform::Result<platform::FolderOwner> owner(const QString &folder) override;
     platform::Status hide(const QString &path) override;

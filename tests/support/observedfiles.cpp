@@ -96,22 +96,22 @@ QList<FileCall> ObservedFiles::opened(platform::OpenMode mode) const
     return found;
 }
 
-platform::Result<platform::FileInfo> ObservedFiles::info(const QString &path)
+platform::Result<platform::FileInfo> ObservedFiles::info(const platform::EntryPath &entry)
 {
-    const platform::Status answer = observe({.kind = FaultPlan::Info, .path = path});
+    const platform::Status answer = observe({.kind = FaultPlan::Info, .path = entry.path()});
     if (!answer)
         return answer;
-    return ForwardingFiles::info(path);
+    return ForwardingFiles::info(entry);
 }
 
-platform::Result<std::unique_ptr<platform::FileHandle>> ObservedFiles::open(const QString &path,
+platform::Result<std::unique_ptr<platform::FileHandle>> ObservedFiles::open(const platform::EntryPath &entry,
                                                                             platform::OpenMode mode)
 {
-    const FileCall call{.kind = FaultPlan::Open, .path = path, .mode = mode};
+    const FileCall call{.kind = FaultPlan::Open, .path = entry.path(), .mode = mode};
     const platform::Status answer = observe(call);
     if (!answer)
         return answer;
-    auto opened = ForwardingFiles::open(path, mode);
+    auto opened = ForwardingFiles::open(entry, mode);
     if (!opened)
         return opened.status();
     std::unique_ptr<platform::FileHandle> handle = opened.take();
@@ -120,12 +120,12 @@ platform::Result<std::unique_ptr<platform::FileHandle>> ObservedFiles::open(cons
     return std::unique_ptr<platform::FileHandle>(std::make_unique<Handle>(std::move(handle), *this, call));
 }
 
-platform::Result<platform::ContentPlace> ObservedFiles::contentPlace(const QString &path)
+platform::Result<platform::ContentPlace> ObservedFiles::contentPlace(const platform::EntryPath &entry)
 {
-    const platform::Status answer = observe({.kind = FaultPlan::Locate, .path = path});
+    const platform::Status answer = observe({.kind = FaultPlan::Locate, .path = entry.path()});
     if (!answer)
         return answer;
-    return ForwardingFiles::contentPlace(path);
+    return ForwardingFiles::contentPlace(entry);
 }
 
 platform::Result<QByteArray> ObservedFiles::readBeginning(const QString &path, qint64 limit)
@@ -136,22 +136,23 @@ platform::Result<QByteArray> ObservedFiles::readBeginning(const QString &path, q
     return ForwardingFiles::readBeginning(path, limit);
 }
 
-platform::Status ObservedFiles::clearReadOnly(const QString &path)
+platform::Status ObservedFiles::clearReadOnly(const platform::EntryPath &entry)
 {
-    const platform::Status answer = observe({.kind = FaultPlan::ClearReadOnly, .path = path});
-    return answer ? ForwardingFiles::clearReadOnly(path) : answer;
+    const platform::Status answer = observe({.kind = FaultPlan::ClearReadOnly, .path = entry.path()});
+    return answer ? ForwardingFiles::clearReadOnly(entry) : answer;
 }
 
-platform::Status ObservedFiles::rename(const QString &from, const QString &to)
+platform::Status ObservedFiles::rename(const platform::EntryPath &from, const platform::EntryPath &to)
 {
-    const platform::Status answer = observe({.kind = FaultPlan::Rename, .path = from, .to = to});
+    const platform::Status answer =
+        observe({.kind = FaultPlan::Rename, .path = from.path(), .to = to.path()});
     return answer ? ForwardingFiles::rename(from, to) : answer;
 }
 
-platform::Status ObservedFiles::remove(const QString &path)
+platform::Status ObservedFiles::remove(const platform::EntryPath &entry)
 {
-    const platform::Status answer = observe({.kind = FaultPlan::Remove, .path = path});
-    return answer ? ForwardingFiles::remove(path) : answer;
+    const platform::Status answer = observe({.kind = FaultPlan::Remove, .path = entry.path()});
+    return answer ? ForwardingFiles::remove(entry) : answer;
 }
 
 platform::Status ObservedFiles::observe(const FileCall &call)

@@ -39,14 +39,14 @@ public:
     QList<FileCall> calls(quint32 kinds) const;
     QList<FileCall> opened(platform::OpenMode mode) const;
 
-    platform::Result<platform::FileInfo> info(const QString &path) override;
-    platform::Result<std::unique_ptr<platform::FileHandle>> open(const QString &path,
+    platform::Result<platform::FileInfo> info(const platform::EntryPath &entry) override;
+    platform::Result<std::unique_ptr<platform::FileHandle>> open(const platform::EntryPath &entry,
                                                                  platform::OpenMode mode) override;
-    platform::Result<platform::ContentPlace> contentPlace(const QString &path) override;
+    platform::Result<platform::ContentPlace> contentPlace(const platform::EntryPath &entry) override;
     platform::Result<QByteArray> readBeginning(const QString &path, qint64 limit) override;
-    platform::Status clearReadOnly(const QString &path) override;
-    platform::Status rename(const QString &from, const QString &to) override;
-    platform::Status remove(const QString &path) override;
+    platform::Status clearReadOnly(const platform::EntryPath &entry) override;
+    platform::Status rename(const platform::EntryPath &from, const platform::EntryPath &to) override;
+    platform::Status remove(const platform::EntryPath &entry) override;
 
 private:
     class Handle;

@@ -17,17 +17,18 @@ private:
     const QString m_path;
 };
 
-platform::Result<std::unique_ptr<platform::FileHandle>> PlacedFiles::open(const QString &path,
+platform::Result<std::unique_ptr<platform::FileHandle>> PlacedFiles::open(const platform::EntryPath &entry,
                                                                           platform::OpenMode mode)
 {
-    auto opened = ForwardingFiles::open(path, mode);
+    auto opened = ForwardingFiles::open(entry, mode);
     if (!opened)
         return opened;
-    return std::unique_ptr<platform::FileHandle>(std::make_unique<Handle>(opened.take(), m_place, path));
+    return std::unique_ptr<platform::FileHandle>(
+        std::make_unique<Handle>(opened.take(), m_place, entry.path()));
 }
 
-platform::Result<platform::ContentPlace> PlacedFiles::contentPlace(const QString &path)
+platform::Result<platform::ContentPlace> PlacedFiles::contentPlace(const platform::EntryPath &entry)
 {
-    asked.append(path);
-    return m_place(path);
+    asked.append(entry.path());
+    return m_place(entry.path());
 }

@@ -22,9 +22,9 @@ public:
     // The paths that contentPlace() was asked about, of handles not.
     QStringList asked;
 
-    platform::Result<std::unique_ptr<platform::FileHandle>> open(const QString &path,
+    platform::Result<std::unique_ptr<platform::FileHandle>> open(const platform::EntryPath &entry,
                                                                  platform::OpenMode mode) override;
-    platform::Result<platform::ContentPlace> contentPlace(const QString &path) override;
+    platform::Result<platform::ContentPlace> contentPlace(const platform::EntryPath &entry) override;
 
 private:
     class Handle;

@@ -4,6 +4,7 @@
 #include "cli/listing.h"
 #include "cli/translate.h"
 #include "cli/wipeplan.h"
+#include "engine/filetargets.h"
 #include "model/displaytext.h"
 #include "model/formatsize.h"
 
@@ -50,6 +51,7 @@ Outcome<ExitCode> run(const CommandContext &context)
     auto task = std::make_unique<WipeTask>();
     task->setOperationType(FileWipe);
     task->addFiles(*paths);
+    rememberTargets(*task);
     const QStringList targets = task->files();
     const StopRequest &stop = context.io.stopRequest();
     WipePlan plan;

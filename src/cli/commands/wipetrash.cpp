@@ -4,6 +4,7 @@
 #include "cli/translate.h"
 #include "cli/trashtarget.h"
 #include "cli/wipeplan.h"
+#include "engine/filetargets.h"
 #include "model/joboutcome.h"
 #include "model/jsonwriter.h"
 #include "services/binrecords.h"
@@ -70,6 +71,7 @@ Outcome<ExitCode> run(const CommandContext &context)
     auto task = std::make_unique<WipeTask>();
     task->setOperationType(FileWipe);
     task->addFiles(found->filePaths);
+    rememberTargets(*task);
     task->setTargetsAreNamed(false);
     WipePlan plan;
     plan.summary = summaryOf(*found);

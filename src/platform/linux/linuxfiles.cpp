@@ -6,6 +6,7 @@
 #include "platform/linux/linuxcontentplace.h"
 #include "platform/linux/linuxfilehandle.h"
 #include "platform/linux/linuxfileid.h"
+#include "platform/linux/linuxfolderhandle.h"
 
 #include <fcntl.h>
 #include <linux/magic.h>
@@ -53,11 +54,22 @@ Status refusalOf(mode_t mode, const char *operation)
     return {CannotAccessFile, 0, operation};
 }
 
-FileDescriptor openFile(const char *path, int flags)
+FileDescriptor openFile(const EntryAt &entry, int flags)
 {
     // O_NONBLOCK in case that a pipe takes the place of the file after it was looked at.
     constexpr int Always = O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
-    return FileDescriptor(uninterrupted([&] { return ::open(path, flags | Always, S_IRUSR | S_IWUSR); }));
+    return FileDescriptor(uninterrupted(
+        [&] { return ::openat(entry.folder, entry.name.constData(), flags | Always, S_IRUSR | S_IWUSR); }));
+}
+
+// What stands under the name itself.
+Result<struct statx> look(const EntryAt &entry, unsigned int wanted)
+{
+    struct statx found = {};
+    if (::statx(entry.folder, entry.name.constData(), AT_SYMLINK_NOFOLLOW | AT_NO_AUTOMOUNT,
+                wanted | MountMask, &found) != 0)
+        return statusFromErrno(errno, "statx");
+    return found;
 }
 
 bool isUnit(quint32 value, qint64 largest)
@@ -103,51 +115,52 @@ DirectTransfers directTransfersOf([[maybe_unused]] const struct statx &file)
 
 } // namespace
 
-Result<FileInfo> LinuxFiles::info(const QString &path)
+Result<FileInfo> LinuxFiles::info(const EntryPath &entry)
 {
-    const Result<QByteArray> name = encodePath(path);
-    if (!name)
-        return name.status();
-    constexpr unsigned int Wanted = STATX_TYPE | STATX_SIZE | STATX_NLINK;
-    struct statx file = {};
-    if (::statx(AT_FDCWD, name.value().constData(), AT_SYMLINK_NOFOLLOW | AT_NO_AUTOMOUNT,
-                Wanted | FileIdMask, &file) != 0)
-        return statusFromErrno(errno, "statx");
+    const Result<EntryAt> at = locate(entry);
+    if (!at)
+        return at.status();
+    const Result<struct statx> found = look(at.value(), STATX_TYPE | STATX_SIZE | STATX_NLINK | FileIdMask);
+    if (!found)
+        return found.status();
+    const struct statx &file = found.value();
     FileInfo info;
     info.kind = fileKindFromMode(file.stx_mode);
     info.size = info.kind == FileKind::Regular ? static_cast<qint64>(file.stx_size) : 0;
     info.linkCount = qMax(1, static_cast<int>(file.stx_nlink));
     info.id = fileIdFrom(file);
+    info.isMounted = !at.value().refusalOf(file);
     return info;
 }
 
-Result<std::unique_ptr<FileHandle>> LinuxFiles::open(const QString &path, OpenMode mode)
+Result<std::unique_ptr<FileHandle>> LinuxFiles::open(const EntryPath &entry, OpenMode mode)
 {
-    const Result<QByteArray> name = encodePath(path);
-    if (!name)
-        return name.status();
-    const char *const bytes = name.value().constData();
+    const Result<EntryAt> at = locate(entry);
+    if (!at)
+        return at.status();
     // Opening alone already has effects on what is no regular file: a tape rewinds, the writer at a pipe
     // wakes up.
-    struct stat found = {};
-    if (::lstat(bytes, &found) != 0) {
-        if (mode != OpenMode::CreateFill || errno != ENOENT)
-            return statusFromErrno(errno, "lstat");
-    } else if (const Status refusal = refusalOf(found.st_mode, "lstat"); !refusal) {
+    const Result<struct statx> found = look(at.value(), STATX_TYPE);
+    if (!found) {
+        if (mode != OpenMode::CreateFill || found.status().native != ENOENT)
+            return found.status();
+    } else if (const Status refusal = refusalOf(found.value().stx_mode, "statx"); !refusal) {
         return refusal;
+    } else if (const Status mounted = at.value().refusalOf(found.value()); !mounted) {
+        return mounted;
     }
 
     int flags = flagsOf(mode);
-    FileDescriptor file = openFile(bytes, flags);
+    FileDescriptor file = openFile(at.value(), flags);
     if (!file.isValid() && errno == EINVAL && (flags & O_DIRECT)) {
         flags &= ~O_DIRECT;
-        file = openFile(bytes, flags);
+        file = openFile(at.value(), flags);
     }
     if (!file.isValid())
         return statusFromErrno(errno, "open");
 
     struct statx opened = {};
-    unsigned int mask = STATX_TYPE;
+    unsigned int mask = STATX_TYPE | MountMask;
 #ifdef STATX_DIOALIGN
     mask |= STATX_DIOALIGN;
 #endif
@@ -155,6 +168,9 @@ Result<std::unique_ptr<FileHandle>> LinuxFiles::open(const QString &path, OpenMo
         return statusFromErrno(errno, "statx");
     if (const Status refusal = refusalOf(opened.stx_mode, "statx"); !refusal)
         return refusal;
+    // Something may have been mounted over the name after the look.
+    if (const Status mounted = at.value().refusalOf(opened); !mounted)
+        return mounted;
     OpenedFile handle;
     handle.directOn = (flags & O_DIRECT) != 0;
     if (handle.directOn)
@@ -164,67 +180,75 @@ Result<std::unique_ptr<FileHandle>> LinuxFiles::open(const QString &path, OpenMo
     return std::unique_ptr<FileHandle>(std::make_unique<LinuxFileHandle>(std::move(handle)));
 }
 
-Result<ContentPlace> LinuxFiles::contentPlace(const QString &path)
+Result<ContentPlace> LinuxFiles::contentPlace(const EntryPath &entry)
 {
-    const Result<QByteArray> name = encodePath(path);
-    if (!name)
-        return name.status();
+    const Result<EntryAt> at = locate(entry);
+    if (!at)
+        return at.status();
     // Opening alone already has effects on special files, and a file without content needs no opening.
-    struct stat found = {};
-    if (::lstat(name.value().constData(), &found) != 0)
-        return statusFromErrno(errno, "lstat");
-    if (!S_ISDIR(found.st_mode)) {
-        if (const Status refusal = refusalOf(found.st_mode, "lstat"); !refusal)
+    const Result<struct statx> found = look(at.value(), STATX_TYPE | STATX_SIZE);
+    if (!found)
+        return found.status();
+    if (const Status mounted = at.value().refusalOf(found.value()); !mounted)
+        return mounted;
+    if (!S_ISDIR(found.value().stx_mode)) {
+        if (const Status refusal = refusalOf(found.value().stx_mode, "statx"); !refusal)
             return refusal;
-        if (found.st_size <= 0)
+        if (found.value().stx_size == 0)
             return ContentPlace{.elsewhere = {}, .bytes = 0};
     }
-    const FileDescriptor file = openFile(name.value().constData(), O_RDONLY);
+    const FileDescriptor file = openFile(at.value(), O_RDONLY);
     if (!file.isValid())
         return statusFromErrno(errno, "open");
-    struct stat opened = {};
-    if (::fstat(file.get(), &opened) != 0)
-        return statusFromErrno(errno, "fstat");
-    if (!S_ISDIR(opened.st_mode)) {
-        if (const Status refusal = refusalOf(opened.st_mode, "fstat"); !refusal)
+    struct statx opened = {};
+    if (::statx(file.get(), "", AT_EMPTY_PATH, STATX_TYPE | MountMask, &opened) != 0)
+        return statusFromErrno(errno, "statx");
+    if (const Status mounted = at.value().refusalOf(opened); !mounted)
+        return mounted;
+    if (!S_ISDIR(opened.stx_mode)) {
+        if (const Status refusal = refusalOf(opened.stx_mode, "statx"); !refusal)
             return refusal;
     }
     return contentPlaceOf(file.get());
 }
 
-Status LinuxFiles::clearReadOnly(const QString &path)
+Status LinuxFiles::clearReadOnly(const EntryPath &entry)
 {
-    const Result<QByteArray> name = encodePath(path);
-    if (!name)
-        return name.status();
-    const char *const bytes = name.value().constData();
-    struct stat file = {};
-    if (::lstat(bytes, &file) != 0)
-        return errno == ENOENT || errno == ENOTDIR ? Status{} : statusFromErrno(errno, "lstat");
-    if (S_ISLNK(file.st_mode) || (file.st_mode & S_IWUSR))
+    const Result<EntryAt> at = locate(entry);
+    if (!at)
+        return at.status();
+    const Result<struct statx> found = look(at.value(), STATX_TYPE | STATX_MODE);
+    if (!found)
+        return isAbsent(found.status()) ? Status{} : found.status();
+    if (const Status mounted = at.value().refusalOf(found.value()); !mounted)
+        return mounted;
+    const mode_t mode = found.value().stx_mode;
+    if (S_ISLNK(mode) || (mode & S_IWUSR))
         return {};
-    if (::fchmodat(AT_FDCWD, bytes, (file.st_mode & ALLPERMS) | S_IWUSR, AT_SYMLINK_NOFOLLOW) != 0)
+    if (::fchmodat(at.value().folder, at.value().name.constData(), (mode & ALLPERMS) | S_IWUSR,
+                   AT_SYMLINK_NOFOLLOW) != 0)
         return statusFromErrno(errno, "fchmodat");
     return {};
 }
 
-Status LinuxFiles::rename(const QString &from, const QString &to)
+Status LinuxFiles::rename(const EntryPath &from, const EntryPath &to)
 {
-    const Result<QByteArray> source = encodePath(from);
-    const Result<QByteArray> target = encodePath(to);
+    const Result<EntryAt> source = locate(from);
+    const Result<EntryAt> target = locate(to);
     if (!source || !target)
         return source ? target.status() : source.status();
-    if (::rename(source.value().constData(), target.value().constData()) != 0)
+    if (::renameat(source.value().folder, source.value().name.constData(), target.value().folder,
+                   target.value().name.constData()) != 0)
         return statusFromErrno(errno, "rename");
     return {};
 }
 
-Status LinuxFiles::remove(const QString &path)
+Status LinuxFiles::remove(const EntryPath &entry)
 {
-    const Result<QByteArray> name = encodePath(path);
-    if (!name)
-        return name.status();
-    if (::unlink(name.value().constData()) != 0)
+    const Result<EntryAt> at = locate(entry);
+    if (!at)
+        return at.status();
+    if (::unlinkat(at.value().folder, at.value().name.constData(), 0) != 0)
         return statusFromErrno(errno, "unlink");
     return {};
 }

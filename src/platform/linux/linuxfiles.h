@@ -8,13 +8,13 @@ namespace platform {
 class LinuxFiles final : public Files
 {
 public:
-    Result<FileInfo> info(const QString &path) override;
-    Result<std::unique_ptr<FileHandle>> open(const QString &path, OpenMode mode) override;
-    Result<ContentPlace> contentPlace(const QString &path) override;
+    Result<FileInfo> info(const EntryPath &entry) override;
+    Result<std::unique_ptr<FileHandle>> open(const EntryPath &entry, OpenMode mode) override;
+    Result<ContentPlace> contentPlace(const EntryPath &entry) override;
     Result<QByteArray> readBeginning(const QString &path, qint64 limit) override;
-    Status clearReadOnly(const QString &path) override;
-    Status rename(const QString &from, const QString &to) override;
-    Status remove(const QString &path) override;
+    Status clearReadOnly(const EntryPath &entry) override;
+    Status rename(const EntryPath &from, const EntryPath &to) override;
+    Status remove(const EntryPath &entry) override;
 };
 
 } // namespace platform

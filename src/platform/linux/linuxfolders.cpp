@@ -3,6 +3,7 @@
 #include "platform/filenames.h"
 #include "platform/linux/directoryentries.h"
 #include "platform/linux/errnotable.h"
+#include "platform/linux/linuxfolderhandle.h"
 #include "platform/linux/treeremoval.h"
 
 #include <QList>
@@ -50,18 +51,40 @@ qint64 bytesIn(quint64 blocks, quint64 blockSize)
 
 } // namespace
 
-Status LinuxFolders::forEachEntry(const QString &folder, const Visitor &visit)
+Status LinuxFolders::forEachEntry(const EntryPath &folder, const Visitor &visit)
 {
-    const Result<QByteArray> name = encodePath(folder);
-    if (!name)
-        return name.status();
+    const Result<EntryAt> at = locate(folder);
+    if (!at)
+        return at.status();
     constexpr int Flags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC;
-    FileDescriptor opened(uninterrupted([&] { return ::open(name.value().constData(), Flags); }));
+    FileDescriptor opened(
+        uninterrupted([&] { return ::openat(at.value().folder, at.value().name.constData(), Flags); }));
     if (!opened.isValid())
         return statusFromErrno(errno, "open");
+    if (at.value().held) {
+        struct statx found = {};
+        if (::statx(opened.get(), "", AT_EMPTY_PATH, MountMask, &found) != 0)
+            return statusFromErrno(errno, "statx");
+        if (const Status mounted = at.value().refusalOf(found); !mounted)
+            return mounted;
+    }
     return readEntries(std::move(opened), [&](const char *entry, FileKind kind) {
         return visit(decodeName(QByteArrayView(entry)), kind);
     });
+}
+
+Result<std::shared_ptr<FolderHandle>> LinuxFolders::hold(const QString &folder)
+{
+    return openHeld(folder);
+}
+
+Result<std::shared_ptr<FolderHandle>> LinuxFolders::holdIn(const std::shared_ptr<FolderHandle> &parent,
+                                                           const QString &name, Mounts mounts)
+{
+    const auto *const above = dynamic_cast<const LinuxFolderHandle *>(parent.get());
+    if (!above)
+        return Status{InvalidParameter, 0, "openat"};
+    return openHeldIn(*above, name, mounts == Mounts::Enter);
 }
 
 Status LinuxFolders::create(const QString &folder)
@@ -84,12 +107,12 @@ Status LinuxFolders::create(const QString &folder)
     return status;
 }
 
-Status LinuxFolders::removeEmpty(const QString &folder)
+Status LinuxFolders::removeEmpty(const EntryPath &folder)
 {
-    const Result<QByteArray> name = encodePath(folder);
-    if (!name)
-        return name.status();
-    if (::rmdir(name.value().constData()) != 0)
+    const Result<EntryAt> at = locate(folder);
+    if (!at)
+        return at.status();
+    if (::unlinkat(at.value().folder, at.value().name.constData(), AT_REMOVEDIR) != 0)
         return statusFromErrno(errno, "rmdir");
     return {};
 }

@@ -8,9 +8,12 @@ namespace platform {
 class LinuxFolders final : public Folders
 {
 public:
-    Status forEachEntry(const QString &folder, const Visitor &visit) override;
+    Status forEachEntry(const EntryPath &folder, const Visitor &visit) override;
+    Result<std::shared_ptr<FolderHandle>> hold(const QString &folder) override;
+    Result<std::shared_ptr<FolderHandle>> holdIn(const std::shared_ptr<FolderHandle> &parent,
+                                                 const QString &name, Mounts mounts) override;
     Status create(const QString &folder) override;
-    Status removeEmpty(const QString &folder) override;
+    Status removeEmpty(const EntryPath &folder) override;
     // Stays on the mounted file system it began on: what is mounted inside keeps its contents, and the mount
     // point counts as a failure (SharingViolation). Any depth, with a handful of descriptors.
     Status removeTree(const QString &folder) override;

@@ -34,6 +34,7 @@ struct Win32Calls
     decltype(&::FlushFileBuffers) flushFileBuffers = &::FlushFileBuffers;
     decltype(&::GetFileInformationByHandle) getFileInformation = &::GetFileInformationByHandle;
     decltype(&::GetFileInformationByHandleEx) getFileInformationEx = &::GetFileInformationByHandleEx;
+    decltype(&::GetFinalPathNameByHandleW) getFinalPathName = &::GetFinalPathNameByHandleW;
     decltype(&::GetVolumeInformationByHandleW) getVolumeInformation = &::GetVolumeInformationByHandleW;
 
     decltype(&::GetFileAttributesW) getFileAttributes = &::GetFileAttributesW;

@@ -6,6 +6,7 @@
 #include "platform/windows/windowscontentplace.h"
 #include "platform/windows/windowsfilehandle.h"
 #include "platform/windows/windowsfileid.h"
+#include "platform/windows/windowsfolderhandle.h"
 #include "platform/windows/windowspaths.h"
 #include "platform/windows/winhandle.h"
 
@@ -121,9 +122,9 @@ int linkCountOf(const BY_HANDLE_FILE_INFORMATION &file)
 
 } // namespace
 
-Result<FileInfo> WindowsFiles::info(const QString &path)
+Result<FileInfo> WindowsFiles::info(const EntryPath &entry)
 {
-    const Result<std::wstring> name = encodePath(path);
+    const Result<std::wstring> name = encodePath(entry);
     if (!name)
         return name.status();
     WIN32_FILE_ATTRIBUTE_DATA found = {};
@@ -149,9 +150,9 @@ Result<FileInfo> WindowsFiles::info(const QString &path)
     return info;
 }
 
-Result<std::unique_ptr<FileHandle>> WindowsFiles::open(const QString &path, OpenMode mode)
+Result<std::unique_ptr<FileHandle>> WindowsFiles::open(const EntryPath &entry, OpenMode mode)
 {
-    const Result<std::wstring> name = encodePath(path);
+    const Result<std::wstring> name = encodePath(entry);
     if (!name)
         return name.status();
     Result<WinHandle> file =
@@ -161,9 +162,9 @@ Result<std::unique_ptr<FileHandle>> WindowsFiles::open(const QString &path, Open
     return std::unique_ptr<FileHandle>(std::make_unique<WindowsFileHandle>(file.take()));
 }
 
-Result<ContentPlace> WindowsFiles::contentPlace(const QString &path)
+Result<ContentPlace> WindowsFiles::contentPlace(const EntryPath &entry)
 {
-    const Result<std::wstring> name = encodePath(path);
+    const Result<std::wstring> name = encodePath(entry);
     if (!name)
         return name.status();
     const Result<DWORD> found = attributesOf(name.value());
@@ -180,9 +181,9 @@ Result<ContentPlace> WindowsFiles::contentPlace(const QString &path)
     return contentPlaceOf(file.get());
 }
 
-Status WindowsFiles::clearReadOnly(const QString &path)
+Status WindowsFiles::clearReadOnly(const EntryPath &entry)
 {
-    const Result<std::wstring> name = encodePath(path);
+    const Result<std::wstring> name = encodePath(entry);
     if (!name)
         return name.status();
     const Result<DWORD> attributes = attributesOf(name.value());
@@ -191,7 +192,7 @@ Status WindowsFiles::clearReadOnly(const QString &path)
     return clearReadOnlyAttribute(name.value(), attributes.value());
 }
 
-Status WindowsFiles::rename(const QString &from, const QString &to)
+Status WindowsFiles::rename(const EntryPath &from, const EntryPath &to)
 {
     const Result<std::wstring> source = encodePath(from);
     const Result<std::wstring> target = encodePath(to);
@@ -201,9 +202,9 @@ Status WindowsFiles::rename(const QString &from, const QString &to)
     return statusOf(win32().moveFile(source.value().c_str(), target.value().c_str(), Flags), "MoveFileEx");
 }
 
-Status WindowsFiles::remove(const QString &path)
+Status WindowsFiles::remove(const EntryPath &entry)
 {
-    const Result<std::wstring> name = encodePath(path);
+    const Result<std::wstring> name = encodePath(entry);
     if (!name)
         return name.status();
     const Result<DWORD> attributes = attributesOf(name.value());

@@ -5,6 +5,7 @@
 #include "platform/windows/folderlisting.h"
 #include "platform/windows/lasterror.h"
 #include "platform/windows/treeremoval.h"
+#include "platform/windows/windowsfolderhandle.h"
 #include "platform/windows/windowspaths.h"
 
 #include <limits>
@@ -34,7 +35,7 @@ qint64 bytesOf(const ULARGE_INTEGER &bytes)
 
 } // namespace
 
-Status WindowsFolders::forEachEntry(const QString &folder, const Visitor &visit)
+Status WindowsFolders::forEachEntry(const EntryPath &folder, const Visitor &visit)
 {
     const Result<std::wstring> name = encodePath(folder);
     if (!name)
@@ -51,6 +52,17 @@ Status WindowsFolders::forEachEntry(const QString &folder, const Visitor &visit)
         return visit(decodeName(entry.cFileName),
                      fileKindFromAttributes(entry.dwFileAttributes, entry.dwReserved0));
     });
+}
+
+Result<std::shared_ptr<FolderHandle>> WindowsFolders::hold(const QString &folder)
+{
+    return openHeld(folder);
+}
+
+Result<std::shared_ptr<FolderHandle>> WindowsFolders::holdIn(const std::shared_ptr<FolderHandle> &parent,
+                                                             const QString &name, Mounts)
+{
+    return openHeldIn(parent, name);
 }
 
 Status WindowsFolders::create(const QString &folder)
@@ -77,7 +89,7 @@ Status WindowsFolders::create(const QString &folder)
     return status;
 }
 
-Status WindowsFolders::removeEmpty(const QString &folder)
+Status WindowsFolders::removeEmpty(const EntryPath &folder)
 {
     const Result<std::wstring> name = encodePath(folder);
     if (!name)

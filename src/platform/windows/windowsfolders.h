@@ -8,10 +8,13 @@ namespace platform {
 class WindowsFolders final : public Folders
 {
 public:
-    Status forEachEntry(const QString &folder, const Visitor &visit) override;
+    Status forEachEntry(const EntryPath &folder, const Visitor &visit) override;
+    Result<std::shared_ptr<FolderHandle>> hold(const QString &folder) override;
+    Result<std::shared_ptr<FolderHandle>> holdIn(const std::shared_ptr<FolderHandle> &parent,
+                                                 const QString &name, Mounts mounts) override;
     Status create(const QString &folder) override;
     // A link to a folder is refused with PathNotFound; Files::remove() is for those.
-    Status removeEmpty(const QString &folder) override;
+    Status removeEmpty(const EntryPath &folder) override;
     // Read-only entries too. A mounted volume inside loses its mount point and keeps its contents.
     Status removeTree(const QString &folder) override;
     Result<FolderOwner> owner(const QString &) override { return Status{NotSupported, 0, "folder owner"}; }

@@ -1,6 +1,7 @@
 // From the home page to the start of a job.
 #include "ui/mainwindow/mainwindow.h"
 
+#include "engine/filetargets.h"
 #include "engine/foreseeable.h"
 #include "engine/wipeengine.h"
 #include "model/displaytext.h"
@@ -143,6 +144,8 @@ bool MainWindow::isConfirmed()
 {
     // What an earlier confirmation has left.
     m_currentTask->setWholeDrive(false);
+    if (m_currentTask->operationType() == FileWipe)
+        rememberTargets(*m_currentTask);
     ConfirmDialog confirmation(this);
     if (const QString volumes = erasedVolumesText(); !volumes.isEmpty())
         confirmation.addNotice(volumes);

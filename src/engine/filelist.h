@@ -1,0 +1,38 @@
+#pragma once
+
+#include "engine/heldtree.h"
+
+#include <QSet>
+#include <QString>
+
+#include <vector>
+
+// A file, link or special file in a folder of a tree.
+struct FileEntry
+{
+    HeldTree::Folder folder = HeldTree::None;
+    QString name;
+};
+
+// What a file job has to erase.
+struct FileList
+{
+    std::vector<FileEntry> files;          // everything that is to be deleted, each path once
+    std::vector<HeldTree::Folder> folders; // targets that are folders and whose whole content is in files
+    int unreadable = 0;                    // targets and folders that could not be looked into
+};
+
+// Finds the entries of a list by their folder. The list stays as it is meanwhile.
+class FileIndex
+{
+public:
+    FileIndex(const HeldTree &tree, const std::vector<FileEntry> &files);
+
+    // Under whatever way to the folder they were listed.
+    QSet<QString> namesIn(HeldTree::Folder folder) const;
+
+private:
+    const HeldTree &m_tree;
+    const std::vector<FileEntry> &m_files;
+    std::vector<quint32> m_byFolder;
+};

@@ -1,0 +1,72 @@
+#include "engine/folderremoval.h"
+
+#include "platform/files.h"
+#include "platform/folders.h"
+#include "platform/platform.h"
+
+#include <algorithm>
+#include <utility>
+
+using platform::Status;
+
+FolderRemoval::FolderRemoval(HeldTree &tree, Observer observer)
+    : m_tree(tree)
+    , m_observer(std::move(observer))
+{}
+
+void FolderRemoval::remove(const std::vector<HeldTree::Folder> &folders)
+{
+    const std::vector<HeldTree::Folder> meant = topsAmong(m_tree, folders);
+    std::vector<HeldTree::Folder> order;
+    for (HeldTree::Folder folder = 0; folder < m_tree.size(); ++folder) {
+        if (meant[static_cast<std::size_t>(folder)] != HeldTree::None)
+            order.push_back(folder);
+    }
+    // One after the other, each from the end: what is in a folder was found after it.
+    std::ranges::sort(order, [&meant](HeldTree::Folder a, HeldTree::Folder b) {
+        const HeldTree::Folder topOfA = meant[static_cast<std::size_t>(a)];
+        const HeldTree::Folder topOfB = meant[static_cast<std::size_t>(b)];
+        return topOfA != topOfB ? topOfA < topOfB : a > b;
+    });
+    for (const HeldTree::Folder folder : order)
+        removeFolder(folder);
+}
+
+std::vector<HeldTree::Folder> FolderRemoval::topsAmong(const HeldTree &tree,
+                                                       const std::vector<HeldTree::Folder> &folders)
+{
+    std::vector<HeldTree::Folder> tops(static_cast<std::size_t>(tree.size()), HeldTree::None);
+    for (const HeldTree::Folder folder : folders)
+        tops[static_cast<std::size_t>(folder)] = folder;
+    for (HeldTree::Folder folder = 0; folder < tree.size(); ++folder) {
+        const HeldTree::Folder parent = tree.parentOf(folder);
+        HeldTree::Folder &top = tops[static_cast<std::size_t>(folder)];
+        if (parent != HeldTree::None && top == HeldTree::None)
+            top = tops[static_cast<std::size_t>(parent)];
+    }
+    return tops;
+}
+
+void FolderRemoval::removeFolder(HeldTree::Folder folder)
+{
+    platform::Platform &system = platform::Platform::current();
+    const auto entry = m_tree.asEntry(folder);
+    const auto found = entry ? system.files().info(entry.value()) : entry.status();
+    if (isAbsent(found.status()))
+        return;
+    if (!found) {
+        m_observer.standing(m_tree.path(folder), found.status());
+        return;
+    }
+    if (!m_tree.isSame(folder, found.value())) {
+        m_observer.replaced(m_tree.path(folder));
+        return;
+    }
+    m_tree.release(folder);
+    Status removed = system.folders().removeEmpty(entry.value());
+    // A folder that may not be changed refuses to go on some systems.
+    if (removed.code == platform::AccessDenied && system.files().clearReadOnly(entry.value()))
+        removed = system.folders().removeEmpty(entry.value());
+    if (!removed && !isAbsent(removed))
+        m_observer.standing(m_tree.path(folder), removed);
+}

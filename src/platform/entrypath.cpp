@@ -1,0 +1,35 @@
+#include "platform/entrypath.h"
+
+#include <QDir>
+
+namespace platform {
+
+QString EntryPath::path() const
+{
+    if (!m_folder)
+        return m_name;
+    return m_name.isEmpty() ? m_folder->path() : pathInFolder(m_folder->path(), m_name);
+}
+
+EntryPath EntryPath::sibling(const QString &name) const
+{
+    if (m_folder)
+        return {m_folder, name};
+    // Text up to the last separator: resolving ".." here could lead into another folder than it does for the
+    // system.
+    const qsizetype separator = m_name.lastIndexOf(u'/');
+    return {pathInFolder(separator < 0 ? QDir::currentPath() : m_name.left(separator + 1), name)};
+}
+
+QString pathInFolder(const QString &folder, const QString &name)
+{
+    QString path;
+    path.reserve(folder.size() + 1 + name.size());
+    path += folder;
+    if (!folder.endsWith(u'/'))
+        path += u'/';
+    path += name;
+    return path;
+}
+
+} // namespace platform

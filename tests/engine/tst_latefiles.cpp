@@ -1,0 +1,261 @@
+#include "filejob.h"
+#include "model/joboutcome.h"
+#include "platform/forwarding.h"
+#include "support/faultplan.h"
+#include "support/suite.h"
+#include "support/testfiles.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QTest>
+#include <QThread>
+
+#include <functional>
+
+using namespace Qt::StringLiterals;
+using platform::OpenMode;
+using platform::Status;
+
+namespace {
+
+const QByteArray Secret = QByteArrayLiteral("to be erased");
+
+QString appeared(int files)
+{
+    return u"1 任务期间又出现 %1 个文件，同样进行擦除"_s.arg(files);
+}
+
+// Two passes over a folder; what is cut is looked at before.
+struct Scenario
+{
+    FileJob job;
+    QString folder = job.path(u"t"_s);
+    QMap<QString, QByteArray> cut; // by the name that the file had
+
+    Scenario()
+    {
+        job.setPasses({{PatternType::Zeros}, {PatternType::Ones}});
+        job.makeFile(u"t/a"_s, Secret);
+        job.makeFile(u"t/sub/b"_s, Secret);
+        job.files.hook = [this](const FileCall &call) {
+            if (call.kind == FaultPlan::SetEnd)
+                cut.insert(call.path.mid(folder.size() + 1), contentOf(call.path));
+            return onCall ? onCall(call) : Status();
+        };
+    }
+    void at(const QString &line, const std::function<void()> &change)
+    {
+        job.said.onLine = [line, change](const QString &said) {
+            if (said == line)
+                change();
+        };
+    }
+    bool isErased(const QString &name) const
+    {
+        return cut.value(name) == QByteArray(Secret.size(), char(0xFF));
+    }
+    QList<Shortfall> shortfalls() const { return job.task.outcome().shortfalls(); }
+
+    std::function<Status(const FileCall &call)> onCall;
+};
+
+} // namespace
+
+// What appears in the folders of a job while it runs.
+class tst_LateFiles : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void aFileThatAppears_data();
+    void aFileThatAppears();
+    void aFileThatIsRenamed_data();
+    void aFileThatIsRenamed();
+    void aFolderThatAppears();
+    void theCountsStayThoseOfTheScan();
+    void lateFilesAreNoPartOfTheProgress();
+    void nothingIsDeletedWhenALateFileFails();
+    void aLateFileThatFailsAfterTheDeletionStays();
+    void whoeverGoesOnIsNotWaitedFor();
+    void aFileThatCannotBeDeletedIsNotFoundAnew();
+    void aStopLeavesLateFilesStanding();
+    void oneFolderGivenTwice();
+};
+
+void tst_LateFiles::aFileThatAppears_data()
+{
+    QTest::addColumn<QString>("line");
+    QTest::newRow("in the first pass") << said::pass(1, 2);
+    QTest::newRow("in the second pass") << said::pass(2, 2);
+    QTest::newRow("in the delete stage") << said::deleting;
+}
+
+void tst_LateFiles::aFileThatAppears()
+{
+    QFETCH(QString, line);
+    Scenario s;
+    s.at(line, [&] { s.job.makeFile(u"t/sub/late"_s, Secret); });
+    QVERIFY(s.job.run({s.folder}));
+    QVERIFY(s.isErased(u"sub/late"_s));
+    QVERIFY(!QFileInfo::exists(s.folder));
+    QVERIFY(s.job.lines().contains(appeared(1)));
+    QVERIFY(s.shortfalls().isEmpty());
+}
+
+void tst_LateFiles::aFileThatIsRenamed_data()
+{
+    QTest::addColumn<QString>("line");
+    QTest::newRow("before the first pass") << said::preparing(2, u"24 B"_s);
+    QTest::newRow("between the passes") << said::pass(2, 2);
+    QTest::newRow("in the delete stage") << said::deleting;
+}
+
+// It is erased under its other name, and has not vanished.
+void tst_LateFiles::aFileThatIsRenamed()
+{
+    QFETCH(QString, line);
+    Scenario s;
+    s.at(line, [&] { QFile::rename(s.folder + u"/a"_s, s.folder + u"/sub/renamed"_s); });
+    QVERIFY(s.job.run({s.folder}));
+    QVERIFY(s.isErased(u"sub/renamed"_s));
+    QVERIFY(!QFileInfo::exists(s.folder));
+    QVERIFY(s.shortfalls().isEmpty());
+}
+
+void tst_LateFiles::aFolderThatAppears()
+{
+    Scenario s;
+    s.at(said::pass(2, 2), [&] {
+        s.job.makeFile(u"t/new/one"_s, Secret);
+        s.job.makeFile(u"t/new/deep/two"_s, Secret);
+        s.job.makeFolder(u"t/empty"_s);
+    });
+    QVERIFY(s.job.run({s.folder}));
+    QVERIFY(s.isErased(u"new/one"_s));
+    QVERIFY(s.isErased(u"new/deep/two"_s));
+    QVERIFY(!QFileInfo::exists(s.folder));
+    QVERIFY(s.job.lines().contains(appeared(2)));
+}
+
+void tst_LateFiles::theCountsStayThoseOfTheScan()
+{
+    Scenario s;
+    s.at(said::pass(2, 2), [&] { s.job.makeFile(u"t/late"_s, Secret); });
+    QVERIFY(s.job.run({s.folder}));
+    QCOMPARE(s.job.lines(),
+             (QStringList{said::scanning, said::preparing(2, u"24 B"_s), said::pass(1, 2), said::pass(2, 2),
+                          appeared(1), said::deleting, said::allDone(2), said::succeeded}));
+    QCOMPARE(s.job.task.report().fileCount, 2);
+    QCOMPARE(s.job.task.report().totalBytes, quint64(24));
+}
+
+// A report of progress is due at the first byte.
+void tst_LateFiles::lateFilesAreNoPartOfTheProgress()
+{
+    Scenario s;
+    qsizetype reports = -1;
+    s.job.said.onLine = [&](const QString &line) {
+        if (line == said::pass(2, 2))
+            s.job.makeFile(u"t/late"_s, Secret);
+        if (line == appeared(1))
+            reports = s.job.said.percents().size();
+    };
+    s.onCall = [](const FileCall &call) {
+        if (call.kind == FaultPlan::Write && call.path.endsWith(u"/late"_s))
+            QThread::msleep(150);
+        return Status();
+    };
+    QVERIFY(s.job.run({s.folder}));
+    QCOMPARE(s.job.said.percents().size(), reports);
+}
+
+void tst_LateFiles::nothingIsDeletedWhenALateFileFails()
+{
+    Scenario s;
+    s.at(said::pass(2, 2), [&] { s.job.makeFile(u"t/late"_s, Secret); });
+    s.onCall = [](const FileCall &call) {
+        const bool fails = call.kind == FaultPlan::Write && call.path.endsWith(u"/late"_s);
+        return fails ? Status{platform::IoDevice, 0, "planned"} : Status();
+    };
+    QVERIFY(!s.job.run({s.folder}));
+    QVERIFY(s.cut.isEmpty());
+    QCOMPARE(contentIfAny(s.folder + u"/late"_s), Secret);
+    QVERIFY(s.job.lines().contains(said::passFailed(1, 2, 1)));
+    QVERIFY(s.job.lines().contains(said::someFailed(1)));
+}
+
+void tst_LateFiles::aLateFileThatFailsAfterTheDeletionStays()
+{
+    Scenario s;
+    s.at(said::deleting, [&] { s.job.makeFile(u"t/late"_s, Secret); });
+    s.onCall = [](const FileCall &call) {
+        const bool fails = call.kind == FaultPlan::Write && call.path.endsWith(u"/late"_s);
+        return fails ? Status{platform::IoDevice, 0, "planned"} : Status();
+    };
+    QVERIFY(!s.job.run({s.folder}));
+    QCOMPARE(contentIfAny(s.folder + u"/late"_s), Secret);
+    QVERIFY(!QFileInfo::exists(s.folder + u"/sub"_s));
+    QVERIFY(s.job.lines().contains(said::someFailed(1)));
+    QCOMPARE(s.shortfalls(), (QList<Shortfall>{{ShortfallKind::EntryNotRemoved, s.folder}}));
+}
+
+// One more file for every one that is removed.
+void tst_LateFiles::whoeverGoesOnIsNotWaitedFor()
+{
+    Scenario s;
+    int made = 0;
+    s.onCall = [&](const FileCall &call) {
+        if (call.kind == FaultPlan::Remove && made < 100)
+            s.job.makeFile(u"t/late%1"_s.arg(++made), Secret);
+        return Status();
+    };
+    QVERIFY(s.job.run({s.folder}));
+    QVERIFY(s.job.lines().filter(u"任务期间又出现"_s).size() == 10);
+    QVERIFY(QFileInfo::exists(s.folder));
+    QVERIFY(s.shortfalls().contains({ShortfallKind::EntryNotRemoved, s.folder}));
+    QVERIFY(made < 100);
+}
+
+// The name that it got is the job's own.
+void tst_LateFiles::aFileThatCannotBeDeletedIsNotFoundAnew()
+{
+    Scenario s;
+    s.onCall = [](const FileCall &call) {
+        return call.kind == FaultPlan::Remove ? Status{platform::IoDevice, 0, "planned"} : Status();
+    };
+    QVERIFY(s.job.run({s.folder}));
+    QVERIFY(s.job.lines().filter(u"任务期间又出现"_s).isEmpty());
+    QCOMPARE(s.job.files.calls(FaultPlan::Rename).size(), 2);
+    QVERIFY(s.shortfalls().contains({ShortfallKind::EntryNotRemoved, s.folder}));
+}
+
+void tst_LateFiles::aStopLeavesLateFilesStanding()
+{
+    Scenario s;
+    s.onCall = [&](const FileCall &call) {
+        if (call.kind == FaultPlan::Remove && !QFile::exists(s.folder + u"/late"_s)) {
+            s.job.makeFile(u"t/late"_s, Secret);
+            s.job.stop();
+        }
+        return Status();
+    };
+    QVERIFY(!s.job.run({s.folder}));
+    QCOMPARE(contentIfAny(s.folder + u"/late"_s), Secret);
+    QVERIFY(!QFileInfo::exists(s.folder + u"/sub"_s));
+    QCOMPARE(s.job.lines().last(), said::failed);
+}
+
+// Once on its own and once within another: nothing in it is found anew.
+void tst_LateFiles::oneFolderGivenTwice()
+{
+    Scenario s;
+    QVERIFY(s.job.run({s.folder, s.folder + u"/sub"_s, s.folder + u"/a"_s}));
+    QVERIFY(!QFileInfo::exists(s.folder));
+    QVERIFY(s.job.lines().filter(u"任务期间又出现"_s).isEmpty());
+    QVERIFY(s.shortfalls().isEmpty());
+}
+
+QUORVEX_SUITE(tst_LateFiles, QCoreApplication)
+#include "tst_latefiles.moc"
