@@ -1,115 +1,59 @@
 #include "engine/fillfolder.h"
 
-#include "platform/files.h"
+#include "engine/fillnames.h"
+#include "engine/volumespace.h"
 #include "platform/folders.h"
 #include "platform/platform.h"
 
 #include <QDebug>
-#include <QUuid>
 
-#include <algorithm>
-#include <optional>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
-namespace fillfolder {
-
-namespace {
-
-constexpr QLatin1String FolderPrefix{".quorvex_temp_"};
-constexpr int FolderDigits = 8;
-constexpr QLatin1String FilePrefix{"fill_"};
-constexpr QLatin1String FileSuffix{".tmp"};
-constexpr int FileDigits = 6;
-
-bool isDecimal(QChar c)
+platform::Status FillFolder::create(const QString &root)
 {
-    return c >= u'0' && c <= u'9';
+    m_path = root + fillnames::newFolder();
+    platform::Folders &folders = platform::Platform::current().folders();
+    if (const platform::Status created = folders.create(m_path); !created)
+        return created;
+    if (const platform::Status hidden = folders.hide(m_path); !hidden)
+        m_job.diagnose(hidden);
+    return {};
 }
 
-bool isLowerHex(QChar c)
+platform::Result<qint64> FillFolder::freeBytes() const
 {
-    return isDecimal(c) || (c >= u'a' && c <= u'f');
+    return freeBytesOf(m_path);
 }
 
-// Entries of one kind whose names pass the test. A listing that fails half-way gives what it showed before.
-template <typename Test>
-QStringList entries(const QString &folder, platform::FileKind wanted, Test isWanted)
+platform::Result<std::unique_ptr<platform::FileHandle>> FillFolder::createFile()
 {
-    QStringList names;
-    const platform::Status listed = platform::Platform::current().folders().forEachEntry(
-        folder, [&](const QString &name, platform::FileKind kind) {
-            if (kind == wanted && isWanted(name))
-                names.append(name);
-            return true;
-        });
-    if (!listed)
-        qDebug().noquote() << "[FreeSpaceWipe] left-overs in" << folder << listed.diagnostic();
-    return names;
+    const QString path = u"%1/%2"_s.arg(m_path, fillnames::file(static_cast<int>(m_files.size())));
+    // Listed first, so that nothing that happens between creating it and listing it leaves it behind.
+    m_files.append({path, 0});
+    return platform::Platform::current().files().open(path, platform::OpenMode::CreateFill);
 }
 
-// The bytes that went with the files, nothing when there was no file to remove.
-std::optional<qint64> removeFillFilesIn(const QString &folder)
+qint64 FillFolder::removeFiles()
 {
-    platform::Files &files = platform::Platform::current().files();
-    std::optional<qint64> bytes;
-    for (const QString &name : entries(folder, platform::FileKind::Regular, isFileName)) {
-        const QString path = folder + u'/' + name;
-        const auto info = files.info(path);
-        if (const platform::Status removed = files.remove(path); !removed) {
-            qDebug().noquote() << "[FreeSpaceWipe] left-over" << path << removed.diagnostic();
-            continue;
+    qint64 bytes = 0;
+    for (const FillFile &file : std::as_const(m_files)) {
+        if (const platform::Status removed = platform::Platform::current().files().remove(file.path); removed)
+            bytes += file.bytes;
+        else if (!isAbsent(removed)) {
+            qDebug().noquote() << "[FreeSpaceWipe] fill file" << file.path << removed.diagnostic();
+            m_job.noteShortfall({ShortfallKind::FillFilesLeft, file.path, file.bytes});
         }
-        // A further name keeps the space.
-        const bool freesSpace = info && info.value().linkCount == 1;
-        bytes = bytes.value_or(0) + (freesSpace ? info.value().size : 0);
     }
+    m_files.clear();
     return bytes;
 }
 
-} // namespace
-
-QString newName()
+platform::Status FillFolder::remove()
 {
-    return FolderPrefix + QUuid::createUuid().toString(QUuid::WithoutBraces).left(FolderDigits);
+    const platform::Status removed = platform::Platform::current().folders().removeEmpty(m_path);
+    if (!removed)
+        m_job.diagnose(removed);
+    return removed;
 }
-
-bool isName(QStringView name)
-{
-    if (!name.startsWith(FolderPrefix) || name.size() != FolderPrefix.size() + FolderDigits)
-        return false;
-    const QStringView digits = name.sliced(FolderPrefix.size());
-    return std::all_of(digits.begin(), digits.end(), isLowerHex);
-}
-
-QString fileName(int index)
-{
-    return FilePrefix + u"%1"_s.arg(index, FileDigits, 10, QLatin1Char('0')) + FileSuffix;
-}
-
-bool isFileName(QStringView name)
-{
-    if (!name.startsWith(FilePrefix) || !name.endsWith(FileSuffix) ||
-        name.size() != FilePrefix.size() + FileDigits + FileSuffix.size())
-        return false;
-    const QStringView digits = name.sliced(FilePrefix.size(), FileDigits);
-    return std::all_of(digits.begin(), digits.end(), isDecimal);
-}
-
-LeftOvers removeLeftOvers(const QString &root)
-{
-    LeftOvers leftOvers;
-    for (const QString &name : entries(root, platform::FileKind::Folder, isName)) {
-        const QString folder = root + name;
-        if (const auto bytes = removeFillFilesIn(folder)) {
-            leftOvers.folders.append(folder);
-            leftOvers.bytes += *bytes;
-        }
-        if (const platform::Status status = platform::Platform::current().folders().removeEmpty(folder);
-            !status)
-            qDebug().noquote() << "[FreeSpaceWipe] left-over" << folder << status.diagnostic();
-    }
-    return leftOvers;
-}
-
-} // namespace fillfolder

@@ -1,7 +1,7 @@
 #include "engine/foreseeable.h"
 
 #include "engine/contentsurvey.h"
-#include "engine/freespacewipeworker.h"
+#include "engine/freespacefill.h"
 #include "model/wipetask.h"
 #include "platform/devices.h"
 #include "platform/files.h"
@@ -47,7 +47,7 @@ void foreseeVolume(const PartitionInfo &partition, OutcomeRecord &record)
     const QString &name = partition.driveLetter;
     if (name.isEmpty() || partition.freeBytes <= 0)
         return;
-    const Shortfall kept = keptReserve(name, partition.freeBytes, FreeSpaceWipeWorker::reserveFor(name));
+    const Shortfall kept = keptReserve(name, partition.freeBytes, FreeSpaceFill::reserveFor(name));
     if (makesPartial(kept.kind))
         record.note(kept);
 }

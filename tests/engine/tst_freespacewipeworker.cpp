@@ -1,4 +1,4 @@
-#include "engine/fillfolder.h"
+#include "engine/fillnames.h"
 #include "engine/freespacefixture.h"
 #include "model/wipereport.h"
 #include "support/faultplan.h"
@@ -659,24 +659,24 @@ void tst_FreeSpaceWipeWorker::temporaryFolderIsHiddenAndNamedAtRandom()
 
 void tst_FreeSpaceWipeWorker::fillFileNamesHaveSixDigits()
 {
-    QCOMPARE(fillfolder::fileName(0), u"fill_000000.tmp"_s);
-    QCOMPARE(fillfolder::fileName(123456), u"fill_123456.tmp"_s);
-    QVERIFY(fillfolder::isFileName(u"fill_000123.tmp"));
-    QVERIFY(!fillfolder::isFileName(u"fill_00123.tmp"));
-    QVERIFY(!fillfolder::isFileName(u"fill_0000123.tmp"));
-    QVERIFY(!fillfolder::isFileName(u"fill_00012a.tmp"));
-    QVERIFY(!fillfolder::isFileName(u"fill_+00123.tmp"));
-    QVERIFY(!fillfolder::isFileName(u"fill_٠٠٠١٢٣.tmp")); // digits, but not these
-    QVERIFY(!fillfolder::isFileName(u"Fill_000123.tmp"));
-    QVERIFY(!fillfolder::isFileName(u"fill_000123.tmpx"));
-    QVERIFY(!fillfolder::isFileName(u"fill_000123.TMP"));
-    QVERIFY(fillfolder::isName(fillfolder::newName()));
-    QVERIFY(fillfolder::isName(u".quorvex_temp_0123abcd"));
-    QVERIFY(!fillfolder::isName(u".quorvex_temp_0123ABCD"));
-    QVERIFY(!fillfolder::isName(u".quorvex_temp_0123abc"));
-    QVERIFY(!fillfolder::isName(u".quorvex_temp_0123abcde"));
-    QVERIFY(!fillfolder::isName(u".quorvex_temp_0123abcg"));
-    QVERIFY(!fillfolder::isName(u"quorvex_temp_0123abcd"));
+    QCOMPARE(fillnames::file(0), u"fill_000000.tmp"_s);
+    QCOMPARE(fillnames::file(123456), u"fill_123456.tmp"_s);
+    QVERIFY(fillnames::isFile(u"fill_000123.tmp"));
+    QVERIFY(!fillnames::isFile(u"fill_00123.tmp"));
+    QVERIFY(!fillnames::isFile(u"fill_0000123.tmp"));
+    QVERIFY(!fillnames::isFile(u"fill_00012a.tmp"));
+    QVERIFY(!fillnames::isFile(u"fill_+00123.tmp"));
+    QVERIFY(!fillnames::isFile(u"fill_٠٠٠١٢٣.tmp")); // digits, but not these
+    QVERIFY(!fillnames::isFile(u"Fill_000123.tmp"));
+    QVERIFY(!fillnames::isFile(u"fill_000123.tmpx"));
+    QVERIFY(!fillnames::isFile(u"fill_000123.TMP"));
+    QVERIFY(fillnames::isFolder(fillnames::newFolder()));
+    QVERIFY(fillnames::isFolder(u".quorvex_temp_0123abcd"));
+    QVERIFY(!fillnames::isFolder(u".quorvex_temp_0123ABCD"));
+    QVERIFY(!fillnames::isFolder(u".quorvex_temp_0123abc"));
+    QVERIFY(!fillnames::isFolder(u".quorvex_temp_0123abcde"));
+    QVERIFY(!fillnames::isFolder(u".quorvex_temp_0123abcg"));
+    QVERIFY(!fillnames::isFolder(u"quorvex_temp_0123abcd"));
 }
 
 void tst_FreeSpaceWipeWorker::recordFilesAndFoldersAreMadeAndRemoved()
