@@ -19,6 +19,8 @@ constexpr qint64 Reserve = 100 * MiB;
 constexpr qint64 SystemReserve = 1 * GiB;
 // Every file system that is filled here takes files of this size, FAT included.
 constexpr qint64 FillFileBytes = 2 * GiB;
+// What others give back meanwhile, and file systems take for themselves on the way.
+constexpr qint64 SmallRoom = 1 * MiB;
 
 // "No room", as against "no device".
 bool endsFileOnly(quint32 code)
@@ -120,8 +122,7 @@ void FreeSpaceFill::noteRoomLeft()
 {
     const auto free = m_folder.freeBytes();
     const qint64 room = free.valueOr(0) - m_pass.reserve;
-    // Less than a chunk is what file systems take for themselves on the way.
-    if (room >= m_volume.chunkLimit) {
+    if (room >= SmallRoom) {
         m_job.note(tr("警告: 文件系统不再接受数据，仍有 %1 空闲空间未填满").arg(formatSize(room)),
                    RunningJob::Warning);
         m_job.noteShortfall({ShortfallKind::RoomLeft, m_volume.root, room});

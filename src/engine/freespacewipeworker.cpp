@@ -62,8 +62,8 @@ bool FreeSpaceWipeWorker::run()
     const QStringList volumes = volumesOf(disk);
     if (!volumes.isEmpty())
         return wipeVolumes(volumes);
-    // A disk without a usable volume has no free space to wipe: done, with the warning that volumesOf() gave.
-    task().noteShortfall({ShortfallKind::NoFreeByte, disk.displayName()});
+    // Nothing that fails, and nothing erased either.
+    task().noteShortfall({ShortfallKind::NoVolume, disk.displayName()});
     return true;
 }
 
@@ -256,6 +256,8 @@ bool FreeSpaceWipeWorker::runPasses()
     if (writesToNewPlaces(m_root))
         task().noteShortfall({ShortfallKind::CopyOnWrite, m_root});
     noteReadBack(false);
+    const qint64 kept = std::min(m_freeAtStart, FreeSpaceFill::reserveFor(m_root));
+    log(tr("保留 %1 作为安全空间，不会被覆写").arg(formatSize(kept)));
     qint64 filledInEvery = std::numeric_limits<qint64>::max();
     int passesRun = 0;
     bool filled = true;

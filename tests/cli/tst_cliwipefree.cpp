@@ -315,6 +315,9 @@ void tst_CliWipeFree::aLargeReserveIsToldBeforeAndAfter()
     large(wipeFree({u"/media/a"_s}));
     QCOMPARE(large.code, 0);
     QVERIFY2(!large.io.err.contains("not everything"), large.io.err.constData());
+    QVERIFY2(large.io.err.contains(
+                 "  a small part of the free space is left as a reserve: /media/a (100.00 MB)\n"),
+             large.io.err.constData());
 }
 
 void tst_CliWipeFree::whatOneVolumeFallsShortOfIsNotForgottenOverTheNext()

@@ -861,12 +861,13 @@ void tst_FreeSpaceWipeFaults::fillFilesOfACrashAreRemovedFirst()
     job.setPasses({{PatternType::Zeros}});
     job.run();
     QVERIFY(job.succeeded());
-    QVERIFY(compareLogs(job.log.mid(4, 5),
+    QVERIFY(compareLogs(job.log.mid(4, 6),
                         {
                             {u"目标分区: /media/data/"_s, 0},
                             {u"已清理上次中断留下的临时文件: /media/data/.quorvex_temp_########"_s, 0},
                             {u"已清理上次中断留下的临时文件: /media/data/.quorvex_temp_########"_s, 0},
                             {u"空闲空间: 112.00 MB"_s, 0},
+                            {u"保留 100.00 MB 作为安全空间，不会被覆写"_s, 0},
                             {u"第 1/1 次覆写 (模式: 0x00)"_s, 0},
                         }));
     QVERIFY(job.logged(u"已写入: 12.00 MB"_s, 0));

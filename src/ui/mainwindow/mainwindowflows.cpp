@@ -146,6 +146,11 @@ bool MainWindow::isConfirmed()
     ConfirmDialog confirmation(this);
     if (const QString volumes = erasedVolumesText(); !volumes.isEmpty())
         confirmation.addNotice(volumes);
+    if (m_currentTask->operationType() == FreeSpaceWipe) {
+        const OutcomeRecord foreseen = foreseeableShortfalls(*m_currentTask);
+        if (const QStringList lines = foreseen.shortfallLines() + foreseen.noteLines(); !lines.isEmpty())
+            confirmation.addNotice(lines.join(u'\n'));
+    }
     if (m_currentTask->operationType() == DiskWipe) {
         const QList<Shortfall> foreseen = foreseeableShortfalls(*m_currentTask).shortfalls();
         if (!foreseen.isEmpty())
