@@ -29,7 +29,7 @@ public:
     JobResult result()
     {
         m_engine.setTask(&m_task);
-        if (const QString problem = m_engine.releaseVolumes(); !problem.isEmpty()) {
+        if (const QString problem = m_engine.makeReady(); !problem.isEmpty()) {
             m_result.lastError = problem;
             m_result.report = m_engine.report();
             return m_result;

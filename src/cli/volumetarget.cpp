@@ -73,6 +73,7 @@ std::optional<PartitionInfo> findVolumeWithoutDrive(const NameMatch &match)
         partition.driveLetter = volume.name;
         partition.label = volume.label;
         partition.fileSystem = QString::fromUtf8(volume.fileSystem);
+        partition.identity = volume.identity;
         partition.totalBytes = volume.totalBytes;
         partition.freeBytes = volume.freeBytes;
         partition.usedBytes = volume.totalBytes - volume.freeBytes;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "engine/runningjob.h"
+#include "platform/anchoredfolder.h"
 #include "platform/files.h"
 #include "platform/status.h"
 
@@ -9,7 +10,8 @@
 
 #include <memory>
 
-// The temporary folder of a job on one volume and the fill files in it. One thread.
+// The temporary folder of a job on one volume and the fill files in it, reached through the open folder from
+// its creation to its removal. One thread.
 class FillFolder
 {
 public:
@@ -18,10 +20,15 @@ public:
         : m_job(job)
     {}
 
-    // A new one, hidden, in the root, which ends in a slash.
-    platform::Status create(const QString &root);
-    QString path() const { return m_path; }
+    // A new one, hidden, in the root of a volume, which outlives it.
+    platform::Status create(platform::AnchoredFolder &root);
+    // Once it was removed: one of the same name.
+    platform::Status createAgain();
+    QString path() const;
 
+    // Of an existing folder.
+    platform::AnchoredFolder &folder() { return *m_folder; }
+    bool exists() const { return m_folder != nullptr; }
     platform::Result<qint64> freeBytes() const;
 
     // The next fill file.
@@ -30,19 +37,24 @@ public:
     void setBytesOfLast(qint64 bytes) { m_files.last().bytes = bytes; }
     bool hasFiles() const { return !m_files.isEmpty(); }
 
-    // The bytes that went with the files; what cannot be removed is told. The next file is the first again.
+    // The bytes that went with the files; what cannot be removed is told.
     qint64 removeFiles();
     // The empty folder.
     platform::Status remove();
+    // It stays where it is.
+    void letGo() { m_folder.reset(); }
 
 private:
     struct FillFile
     {
-        QString path;
+        QString name;
         qint64 bytes = 0;
     };
 
     RunningJob &m_job;
-    QString m_path;
+    platform::AnchoredFolder *m_root = nullptr;
+    std::unique_ptr<platform::AnchoredFolder> m_folder;
+    QString m_name;
     QList<FillFile> m_files;
+    int m_nextIndex = 0;
 };

@@ -8,6 +8,7 @@
 #include "model/formatsize.h"
 #include "model/wipetask.h"
 #include "platform/devices.h"
+#include "platform/folders.h"
 #include "platform/platform.h"
 
 #include <QDebug>
@@ -21,6 +22,30 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr qint64 MiB = 1'048'576;
+
+QString rootPathOf(const QString &volume)
+{
+    return volume.endsWith(u'/') || volume.endsWith(u'\\') ? volume : volume + u'/';
+}
+
+// The records of the volumes that the user has chosen, as far as the task names them.
+QList<PartitionInfo> chosenVolumes(const WipeTask &task)
+{
+    if (const PartitionInfo partition = task.partition(); !partition.driveLetter.isEmpty())
+        return {partition};
+    QList<PartitionInfo> volumes = task.disk().partitions;
+    volumes.removeIf([](const PartitionInfo &partition) { return partition.driveLetter.isEmpty(); });
+    return volumes;
+}
+
+PartitionInfo chosenRecord(const WipeTask &task, const QString &volume)
+{
+    for (const PartitionInfo &chosen : chosenVolumes(task)) {
+        if (chosen.driveLetter == volume)
+            return chosen;
+    }
+    return {};
+}
 
 void remember(platform::Status &first, const platform::Status &status)
 {
@@ -163,20 +188,26 @@ void FreeSpaceWipeWorker::complete()
 
 bool FreeSpaceWipeWorker::wipeVolume(const QString &root)
 {
-    m_root = root;
-    if (!m_root.endsWith(u'/') && !m_root.endsWith(u'\\'))
-        m_root += u'/';
+    m_root = rootPathOf(root);
     log(tr("目标分区: %1").arg(displayText(m_root)));
 
     RunningJob &job = *this;
     m_space.emplace(job, m_root, VolumeSpace::Waits{m_releasePatience, m_releasePoll});
-    if (const platform::Status mounted = checkMounted(root); !mounted)
-        return failVolumeGone(mounted);
+    const auto closing = qScopeGuard([this] {
+        m_folder.letGo();
+        m_anchor.reset();
+    });
+    if (const platform::Status opened = openVolume(root); !opened)
+        return failVolumeGone(opened);
+    if (!isChosen(*m_anchor, chosenRecord(task(), root))) {
+        emit errorOccurred(changeText(root));
+        return false;
+    }
     if (!cleanUpAfterCrash()) {
         emit errorOccurred(tr("填充空闲空间失败"));
         return false;
     }
-    const auto free = m_space->settled([this] { return freeBytesOf(m_root); });
+    const auto free = m_space->settled([this] { return freeBytesOf(*m_anchor); });
     m_freeAtStart = free.valueOr(0);
     log(tr("空闲空间: %1").arg(formatSize(m_freeAtStart)));
     if (m_freeAtStart == 0) {
@@ -212,6 +243,40 @@ bool FreeSpaceWipeWorker::failVolumeGone(const platform::Status &status)
     return false;
 }
 
+// Whatever happens to the mount point from here on, the job stays on this volume.
+platform::Status FreeSpaceWipeWorker::openVolume(const QString &root)
+{
+    auto opened = platform::Platform::current().folders().anchor(m_root);
+    if (!opened)
+        return opened.status();
+    m_anchor = opened.take();
+    return checkMounted(root);
+}
+
+QString FreeSpaceWipeWorker::obstacleOf(const WipeTask &task)
+{
+    for (const PartitionInfo &chosen : chosenVolumes(task)) {
+        const auto volume = platform::Platform::current().folders().anchor(rootPathOf(chosen.driveLetter));
+        if (volume && checkMounted(chosen.driveLetter) && !isChosen(*volume.value(), chosen))
+            return changeText(chosen.driveLetter) + u' ' + tr("Nothing was written.");
+    }
+    return {};
+}
+
+// A volume whose record tells nothing to compare is taken as it is found.
+bool FreeSpaceWipeWorker::isChosen(platform::AnchoredFolder &volume, const PartitionInfo &chosen)
+{
+    if (chosen.identity.isEmpty())
+        return true;
+    const auto found = volume.volumeIdentity();
+    return found && found.value() == chosen.identity;
+}
+
+QString FreeSpaceWipeWorker::changeText(const QString &volume)
+{
+    return tr("Volume %1 is not the one that was chosen any more.").arg(displayText(volume));
+}
+
 // An unmounted volume leaves an empty folder under its name, and the free space there is that of another one.
 platform::Status FreeSpaceWipeWorker::checkMounted(const QString &root)
 {
@@ -227,16 +292,16 @@ platform::Status FreeSpaceWipeWorker::checkMounted(const QString &root)
 // Before the free space is measured: a crash leaves the volume full.
 bool FreeSpaceWipeWorker::cleanUpAfterCrash()
 {
-    const auto before = freeBytesOf(m_root);
-    const LeftOvers leftOvers = LeftOvers::remove(m_root);
+    const auto before = freeBytesOf(*m_anchor);
+    const LeftOvers leftOvers = LeftOvers::remove(*m_anchor);
     for (const QString &folder : leftOvers.folders)
         log(tr("已清理上次中断留下的临时文件: %1").arg(displayText(folder)));
-    return m_space->waitFor([this] { return freeBytesOf(m_root); }, before.valueOr(0), leftOvers.bytes);
+    return m_space->waitFor([this] { return freeBytesOf(*m_anchor); }, before.valueOr(0), leftOvers.bytes);
 }
 
 bool FreeSpaceWipeWorker::createTemporaryFolder()
 {
-    const platform::Status created = m_folder.create(m_root);
+    const platform::Status created = m_folder.create(*m_anchor);
     if (!created) {
         diagnose(created);
         emit errorOccurred(tr("无法创建临时目录: %1").arg(displayText(m_folder.path())));

@@ -5,6 +5,7 @@
 #include "engine/freespacefill.h"
 #include "engine/runningjob.h"
 #include "engine/volumespace.h"
+#include "platform/anchoredfolder.h"
 #include "platform/status.h"
 
 #include <QString>
@@ -12,6 +13,7 @@
 
 #include <chrono>
 #include <cstddef>
+#include <memory>
 #include <optional>
 
 struct DiskInfo;
@@ -34,6 +36,10 @@ public:
     // The first volume whose first extent lies on the drive, as Devices names it; empty when there is none.
     static QString findDriveForDisk(int diskNumber);
 
+    // Why a free-space job must not be started, in words for the user: one of its volumes is not the chosen
+    // one any more. Empty when nothing is in the way, and when a volume cannot be asked: the job tells then.
+    static QString obstacleOf(const WipeTask &task);
+
 public slots:
     void process() override;
 
@@ -51,7 +57,10 @@ private:
     bool wipeVolumes(const QStringList &volumes);
 
     bool wipeVolume(const QString &root);
+    platform::Status openVolume(const QString &root);
     static platform::Status checkMounted(const QString &root);
+    static bool isChosen(platform::AnchoredFolder &volume, const PartitionInfo &chosen);
+    static QString changeText(const QString &volume);
     bool cleanUpAfterCrash();
     bool createTemporaryFolder();
     bool runPasses();
@@ -75,6 +84,8 @@ private:
     void fill(std::byte *data, qint64 size, const PassPattern &pattern) override;
     void progress(qint64 done, qint64 total) override { updateProgress(done, total); }
 
+    // Of the current volume, open as long as it is wiped.
+    std::unique_ptr<platform::AnchoredFolder> m_anchor;
     QString m_root;           // of the current volume, ends in "/" or "\"
     qint64 m_freeAtStart = 0; // bytes
     std::optional<VolumeSpace> m_space;

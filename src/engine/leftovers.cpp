@@ -2,8 +2,6 @@
 
 #include "engine/fillnames.h"
 #include "platform/files.h"
-#include "platform/folders.h"
-#include "platform/platform.h"
 
 #include <QDebug>
 
@@ -15,30 +13,28 @@ namespace {
 
 // Entries of one kind whose names pass the test. A listing that fails half-way gives what it showed before.
 template <typename Test>
-QStringList entries(const QString &folder, platform::FileKind wanted, Test isWanted)
+QStringList entries(platform::AnchoredFolder &folder, platform::FileKind wanted, Test isWanted)
 {
     QStringList names;
-    const platform::Status listed = platform::Platform::current().folders().forEachEntry(
-        folder, [&](const QString &name, platform::FileKind kind) {
-            if (kind == wanted && isWanted(name))
-                names.append(name);
-            return true;
-        });
+    const platform::Status listed = folder.forEachEntry([&](const QString &name, platform::FileKind kind) {
+        if (kind == wanted && isWanted(name))
+            names.append(name);
+        return true;
+    });
     if (!listed)
-        qDebug().noquote() << "[FreeSpaceWipe] left-overs in" << folder << listed.diagnostic();
+        qDebug().noquote() << "[FreeSpaceWipe] left-overs in" << folder.path() << listed.diagnostic();
     return names;
 }
 
 // The bytes that went with the files, nothing when there was no file to remove.
-std::optional<qint64> removeFillFilesIn(const QString &folder)
+std::optional<qint64> removeFillFilesIn(platform::AnchoredFolder &folder)
 {
-    platform::Files &files = platform::Platform::current().files();
     std::optional<qint64> bytes;
     for (const QString &name : entries(folder, platform::FileKind::Regular, fillnames::isFile)) {
-        const QString path = folder + u'/' + name;
-        const auto info = files.info(path);
-        if (const platform::Status removed = files.remove(path); !removed) {
-            qDebug().noquote() << "[FreeSpaceWipe] left-over" << path << removed.diagnostic();
+        const auto info = folder.info(name);
+        if (const platform::Status removed = folder.removeFile(name); !removed) {
+            qDebug().noquote() << "[FreeSpaceWipe] left-over" << folder.path() << name
+                               << removed.diagnostic();
             continue;
         }
         // A further name keeps the space.
@@ -50,18 +46,22 @@ std::optional<qint64> removeFillFilesIn(const QString &folder)
 
 } // namespace
 
-LeftOvers LeftOvers::remove(const QString &root)
+LeftOvers LeftOvers::remove(platform::AnchoredFolder &root)
 {
     LeftOvers leftOvers;
     for (const QString &name : entries(root, platform::FileKind::Folder, fillnames::isFolder)) {
-        const QString folder = root + name;
-        if (const auto bytes = removeFillFilesIn(folder)) {
-            leftOvers.folders.append(folder);
+        auto folder = root.openFolder(name);
+        if (!folder) {
+            qDebug().noquote() << "[FreeSpaceWipe] left-over" << name << folder.status().diagnostic();
+            continue;
+        }
+        if (const auto bytes = removeFillFilesIn(*folder.value())) {
+            leftOvers.folders.append(folder.value()->path());
             leftOvers.bytes += *bytes;
         }
-        if (const platform::Status status = platform::Platform::current().folders().removeEmpty(folder);
-            !status)
-            qDebug().noquote() << "[FreeSpaceWipe] left-over" << folder << status.diagnostic();
+        folder.value().reset();
+        if (const platform::Status status = root.removeFolder(name); !status)
+            qDebug().noquote() << "[FreeSpaceWipe] left-over" << name << status.diagnostic();
     }
     return leftOvers;
 }

@@ -1,9 +1,8 @@
 #include "engine/residuecleaning.h"
 
 #include "engine/fillfolder.h"
+#include "platform/anchoredfolder.h"
 #include "platform/files.h"
-#include "platform/folders.h"
-#include "platform/platform.h"
 
 #include <QScopeGuard>
 #include <QUuid>
@@ -31,25 +30,40 @@ void remember(platform::Status &first, const platform::Status &status)
 
 platform::Status ResidueCleaning::cleanFileRecords()
 {
-    platform::Folders &folders = platform::Platform::current().folders();
-    const QString folder = m_folder.path() + "/mft_clean"_L1;
-    platform::Status first = folders.create(folder);
-    remember(first, folders.hide(m_folder.path()));
+    return cleanIn(u"mft_clean"_s, [this](platform::AnchoredFolder &folder) { return makeFiles(folder); });
+}
+
+platform::Status ResidueCleaning::cleanDirectoryEntries()
+{
+    return cleanIn(u"dir_clean"_s, [this](platform::AnchoredFolder &folder) { return makeFolders(folder); });
+}
+
+platform::Status ResidueCleaning::cleanIn(const QString &name, const Make &make)
+{
+    if (m_job.isStopping())
+        return {};
+    platform::Status first;
+    if (!m_folder.exists())
+        first = m_folder.createAgain();
+    if (!first)
+        return first;
     {
-        const auto cleanUp = qScopeGuard([&] { remember(first, removeFolder(folder)); });
-        remember(first, makeRecordFiles(folder));
+        const auto cleanUp = qScopeGuard([&] { remember(first, remove(name)); });
+        // Closed before it is removed.
+        const auto made = m_folder.folder().createFolder(name);
+        remember(first, made.status());
+        if (made)
+            remember(first, make(*made.value()));
     }
     return first;
 }
 
-platform::Status ResidueCleaning::makeRecordFiles(const QString &folder)
+platform::Status ResidueCleaning::makeFiles(platform::AnchoredFolder &folder)
 {
-    platform::Files &files = platform::Platform::current().files();
     platform::Status first;
     std::array<std::byte, RecordFileBytes> content{};
     for (int i = 0; i < RecordFiles && !m_job.isStopping(); ++i) {
-        const auto file =
-            files.open(u"%1/%2.tmp"_s.arg(folder, QString::number(i)), platform::OpenMode::CreateFill);
+        const auto file = folder.createFile(QString::number(i) + u".tmp"_s);
         remember(first, file.status());
         if (!file)
             continue;
@@ -63,25 +77,18 @@ platform::Status ResidueCleaning::makeRecordFiles(const QString &folder)
     return first;
 }
 
-platform::Status ResidueCleaning::cleanDirectoryEntries()
+platform::Status ResidueCleaning::makeFolders(platform::AnchoredFolder &folder)
 {
-    platform::Folders &folders = platform::Platform::current().folders();
-    const QString folder = m_folder.path() + "/dir_clean"_L1;
     platform::Status first;
-    {
-        const auto cleanUp = qScopeGuard([&] { remember(first, removeFolder(folder)); });
-        for (int i = 0; i < RecordFolders && !m_job.isStopping(); ++i) {
-            const QString name = QUuid::createUuid().toString(QUuid::WithoutBraces);
-            remember(first, folders.create(u"%1/%2"_s.arg(folder, name)));
-        }
-    }
+    for (int i = 0; i < RecordFolders && !m_job.isStopping(); ++i)
+        remember(first, folder.createFolder(QUuid::createUuid().toString(QUuid::WithoutBraces)).status());
     return first;
 }
 
-platform::Status ResidueCleaning::removeFolder(const QString &folder)
+platform::Status ResidueCleaning::remove(const QString &name)
 {
-    const platform::Status removed = platform::Platform::current().folders().removeTree(folder);
+    const platform::Status removed = m_folder.folder().removeTree(name);
     if (!removed && !isAbsent(removed))
-        m_job.noteShortfall({ShortfallKind::FillFilesLeft, folder});
+        m_job.noteShortfall({ShortfallKind::FillFilesLeft, platform::entryPathOf(m_folder.path(), name)});
     return removed;
 }

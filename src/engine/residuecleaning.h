@@ -1,9 +1,12 @@
 #pragma once
 
 #include "engine/runningjob.h"
+#include "platform/anchoredfolder.h"
 #include "platform/status.h"
 
 #include <QString>
+
+#include <functional>
 
 class FillFolder;
 
@@ -23,8 +26,12 @@ public:
     platform::Status cleanDirectoryEntries();
 
 private:
-    platform::Status makeRecordFiles(const QString &folder);
-    platform::Status removeFolder(const QString &folder);
+    using Make = std::function<platform::Status(platform::AnchoredFolder &folder)>;
+
+    platform::Status cleanIn(const QString &name, const Make &make);
+    platform::Status makeFiles(platform::AnchoredFolder &folder);
+    platform::Status makeFolders(platform::AnchoredFolder &folder);
+    platform::Status remove(const QString &name);
 
     RunningJob &m_job;
     FillFolder &m_folder;

@@ -1,8 +1,5 @@
 #include "engine/volumespace.h"
 
-#include "platform/folders.h"
-#include "platform/platform.h"
-
 #include <QDeadlineTimer>
 #include <QDebug>
 
@@ -17,9 +14,9 @@ constexpr std::chrono::seconds SettlePatience{10};
 
 } // namespace
 
-platform::Result<qint64> freeBytesOf(const QString &path)
+platform::Result<qint64> freeBytesOf(platform::AnchoredFolder &folder)
 {
-    const auto space = platform::Platform::current().folders().space(path);
+    const auto space = folder.space();
     if (!space)
         return space.status();
     return space.value().freeBytes;

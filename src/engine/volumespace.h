@@ -1,6 +1,7 @@
 #pragma once
 
 #include "engine/runningjob.h"
+#include "platform/anchoredfolder.h"
 #include "platform/status.h"
 
 #include <QCoreApplication>
@@ -9,7 +10,7 @@
 #include <chrono>
 #include <functional>
 
-platform::Result<qint64> freeBytesOf(const QString &path);
+platform::Result<qint64> freeBytesOf(platform::AnchoredFolder &folder);
 
 // The free space of the volume of a job, as far as time plays a part in it: file systems count the space of
 // deleted files as free only moments later.

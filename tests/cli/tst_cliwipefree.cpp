@@ -33,6 +33,8 @@ private slots:
     void aDriveNumberMeansAllItsVolumes();
     void aVolumeOfSeveralDrivesIsFound();
     void anUnknownVolumeIsRefusedBeforeAnyIsFilled();
+    void anotherVolumeInItsPlaceIsRefused_data();
+    void anotherVolumeInItsPlaceIsRefused();
     void aSystemVolumeIsAllowed();
     void severalVolumesAreSeveralJobs();
     void theSameVolumeTwiceIsOneJob();
@@ -188,6 +190,42 @@ void tst_CliWipeFree::anUnknownVolumeIsRefusedBeforeAnyIsFilled()
         QVERIFY2(run.complains("no such"), run.io.err.constData());
         QCOMPARE(machine.volume.calls, 0);
     }
+}
+
+void tst_CliWipeFree::anotherVolumeInItsPlaceIsRefused_data()
+{
+    QTest::addColumn<QString>("target");
+    QTest::newRow("volume") << u"/media/a"_s;
+    QTest::newRow("drive") << u"0"_s;
+    QTest::newRow("volume of no single drive") << u"/media/pool"_s;
+}
+
+void tst_CliWipeFree::anotherVolumeInItsPlaceIsRefused()
+{
+    QFETCH(const QString, target);
+    Machine machine;
+    machine.devices.drives.insert(1, FakeDrive::usbStick());
+    machine.add(u"/media/a"_s);
+    machine.add(u"/media/pool"_s, {0, 1});
+    const QString root = target == u"/media/pool" ? target : u"/media/a"_s;
+    machine.devices.volumes[root].mounted.identity = u"first"_s;
+    machine.volume.identities.insert(root + u'/', u"first"_s);
+    CliRun run;
+    run.io.inputIsTerminal = run.io.outputIsTerminal = true;
+    run.io.input = QStringList{u"ERASE"_s};
+    run.io.onQuestion = [&] { machine.volume.identities.insert(root + u'/', u"second"_s); };
+    run({u"wipe"_s, u"free"_s, target, u"--buffer-mb"_s, u"1"_s});
+    QCOMPARE(run.code, 3);
+    QVERIFY2(run.complains("Volume " + root.toUtf8() +
+                           " is not the one that was chosen any more. Nothing was written."),
+             run.io.err.constData());
+    QCOMPARE(machine.volume.calls, 0);
+    QVERIFY(machine.volume.entries.isEmpty());
+
+    CliRun unchanged;
+    machine.devices.volumes[root].mounted.identity = u"second"_s;
+    unchanged(wipeSmall({target}));
+    QCOMPARE(unchanged.code, 0);
 }
 
 void tst_CliWipeFree::aSystemVolumeIsAllowed()

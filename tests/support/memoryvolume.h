@@ -55,6 +55,9 @@ public:
     qint64 largestFile = 0;               // 0: any size
     platform::ElsewhereReasons elsewhere; // what contentPlace() tells of every path
     QStringList unremovable;              // remove() fails with SharingViolation
+    QMap<QString, QString> identities;    // of the volumes, by root
+    QStringList heldByOthers;             // folders that somebody else has claimed
+    bool knowsClaims = true;              // whether folders can be claimed at all
 
     // What tests look at.
     QList<Write> writes;
@@ -90,7 +93,8 @@ public:
     platform::Status rename(const QString &, const QString &) override;
     platform::Status remove(const QString &path) override;
 
-    // Folders.
+    // Folders. What is anchored is reached by its path here.
+    platform::Result<std::unique_ptr<platform::AnchoredFolder>> anchor(const QString &folder) override;
     platform::Status forEachEntry(const QString &folder, const Visitor &visit) override;
     platform::Status create(const QString &folder) override;
     platform::Status removeEmpty(const QString &folder) override;
@@ -101,6 +105,7 @@ public:
 
 private:
     class Handle;
+    class Folder;
 
     static platform::Status failure(quint32 code) { return {code, 0, "memory volume"}; }
     static QString parentOf(const QString &path);

@@ -13,15 +13,11 @@
 #include <sys/vfs.h>
 #include <unistd.h>
 
-#include <bit>
 #include <cstdio>
 
 namespace platform {
 
 namespace {
-
-constexpr qint64 LargestFileUnit = 65536;
-constexpr qint64 LargestMemoryUnit = 4096; // what every AlignedBuffer keeps
 
 int flagsOf(OpenMode mode)
 {
@@ -60,11 +56,6 @@ FileDescriptor openFile(const char *path, int flags)
     return FileDescriptor(uninterrupted([&] { return ::open(path, flags | Always, S_IRUSR | S_IWUSR); }));
 }
 
-bool isUnit(quint32 value, qint64 largest)
-{
-    return std::has_single_bit(value) && value <= largest;
-}
-
 // Where O_DSYNC is kept by the kernel itself. A file system in user space may take the flag and forget about
 // it, and others are not known well enough: they are flushed once more.
 bool keepsWriteThrough(int file)
@@ -83,35 +74,13 @@ bool keepsWriteThrough(int file)
     }
 }
 
-DirectTransfers directTransfersOf([[maybe_unused]] const struct statx &file)
-{
-    DirectTransfers direct;
-    direct.possible = true;
-#ifdef STATX_DIOALIGN
-    if (file.stx_mask & STATX_DIOALIGN) {
-        // Zeros where the file system takes the flag and then works through the page cache after all.
-        direct.possible = isUnit(file.stx_dio_offset_align, LargestFileUnit) &&
-                          isUnit(file.stx_dio_mem_align, LargestMemoryUnit);
-        if (direct.possible) {
-            direct.fileUnit = file.stx_dio_offset_align;
-            direct.memoryUnit = file.stx_dio_mem_align;
-        }
-    }
-#endif
-    return direct;
-}
-
 } // namespace
 
-Result<FileInfo> LinuxFiles::info(const QString &path)
+Result<FileInfo> fileInfoAt(int folder, const char *name)
 {
-    const Result<QByteArray> name = encodePath(path);
-    if (!name)
-        return name.status();
     constexpr unsigned int Wanted = STATX_TYPE | STATX_SIZE | STATX_NLINK;
     struct statx file = {};
-    if (::statx(AT_FDCWD, name.value().constData(), AT_SYMLINK_NOFOLLOW | AT_NO_AUTOMOUNT,
-                Wanted | FileIdMask, &file) != 0)
+    if (::statx(folder, name, AT_SYMLINK_NOFOLLOW | AT_NO_AUTOMOUNT, Wanted | FileIdMask, &file) != 0)
         return statusFromErrno(errno, "statx");
     FileInfo info;
     info.kind = fileKindFromMode(file.stx_mode);
@@ -119,6 +88,14 @@ Result<FileInfo> LinuxFiles::info(const QString &path)
     info.linkCount = qMax(1, static_cast<int>(file.stx_nlink));
     info.id = fileIdFrom(file);
     return info;
+}
+
+Result<FileInfo> LinuxFiles::info(const QString &path)
+{
+    const Result<QByteArray> name = encodePath(path);
+    if (!name)
+        return name.status();
+    return fileInfoAt(AT_FDCWD, name.value().constData());
 }
 
 Result<std::unique_ptr<FileHandle>> LinuxFiles::open(const QString &path, OpenMode mode)
@@ -147,11 +124,7 @@ Result<std::unique_ptr<FileHandle>> LinuxFiles::open(const QString &path, OpenMo
         return statusFromErrno(errno, "open");
 
     struct statx opened = {};
-    unsigned int mask = STATX_TYPE;
-#ifdef STATX_DIOALIGN
-    mask |= STATX_DIOALIGN;
-#endif
-    if (::statx(file.get(), "", AT_EMPTY_PATH, mask, &opened) != 0)
+    if (::statx(file.get(), "", AT_EMPTY_PATH, STATX_TYPE | DirectTransfersMask, &opened) != 0)
         return statusFromErrno(errno, "statx");
     if (const Status refusal = refusalOf(opened.stx_mode, "statx"); !refusal)
         return refusal;

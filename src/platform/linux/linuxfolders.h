@@ -8,6 +8,7 @@ namespace platform {
 class LinuxFolders final : public Folders
 {
 public:
+    Result<std::unique_ptr<AnchoredFolder>> anchor(const QString &folder) override;
     Status forEachEntry(const QString &folder, const Visitor &visit) override;
     Status create(const QString &folder) override;
     Status removeEmpty(const QString &folder) override;

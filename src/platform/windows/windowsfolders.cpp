@@ -5,6 +5,7 @@
 #include "platform/windows/folderlisting.h"
 #include "platform/windows/lasterror.h"
 #include "platform/windows/treeremoval.h"
+#include "platform/windows/windowsanchoredfolder.h"
 #include "platform/windows/windowspaths.h"
 
 #include <limits>
@@ -33,6 +34,11 @@ qint64 bytesOf(const ULARGE_INTEGER &bytes)
 }
 
 } // namespace
+
+Result<std::unique_ptr<AnchoredFolder>> WindowsFolders::anchor(const QString &folder)
+{
+    return WindowsAnchoredFolder::open(folder);
+}
 
 Status WindowsFolders::forEachEntry(const QString &folder, const Visitor &visit)
 {

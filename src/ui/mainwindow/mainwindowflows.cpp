@@ -163,14 +163,17 @@ bool MainWindow::isConfirmed()
 }
 
 // The system writes out what it holds back for a volume, which takes its time.
-bool MainWindow::releaseVolumes()
+bool MainWindow::isReady()
 {
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-    const QString problem = m_engine->releaseVolumes();
+    const QString problem = m_engine->makeReady();
     QGuiApplication::restoreOverrideCursor();
     if (problem.isEmpty())
         return true;
-    Prompts::current().warning(this, tr("This Disk Cannot Be Erased"), problem);
+    const QString title = m_currentTask->operationType() == FreeSpaceWipe
+                              ? tr("This Volume Cannot Be Erased")
+                              : tr("This Disk Cannot Be Erased");
+    Prompts::current().warning(this, title, problem);
     return false;
 }
 
@@ -183,7 +186,7 @@ void MainWindow::onStartWipe()
     if (!isConfirmed())
         return;
     m_engine->setTask(m_currentTask);
-    if (!releaseVolumes())
+    if (!isReady())
         return;
     m_progressPage->reset();
     m_progressPage->setMethod(method.name);
