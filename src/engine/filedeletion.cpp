@@ -1,6 +1,7 @@
 #include "engine/filedeletion.h"
 
 #include "engine/filetrace.h"
+#include "engine/removalretries.h"
 #include "platform/files.h"
 #include "platform/platform.h"
 
@@ -11,14 +12,11 @@
 #include <utility>
 
 using namespace Qt::StringLiterals;
-using namespace std::chrono_literals;
 using platform::FileKind;
 using platform::Status;
 
 namespace {
 
-constexpr int RemoveAttempts = 10;
-constexpr auto RemovePause = 50ms;
 constexpr int RenameAttempts = 5;
 constexpr int RandomNameLength = 12;
 
@@ -52,7 +50,7 @@ QString randomName()
 
 } // namespace
 
-FileDeletion::FileDeletion(Pause pause)
+FileDeletion::FileDeletion(RetryPause pause)
     : m_pause(std::move(pause))
 {}
 
@@ -69,7 +67,7 @@ bool FileDeletion::secureDeleteFile(const QString &path)
         traceFile(path, cutToNothing(path));
     const QString renamed = randomRenameFile(path);
     const QString target = renamed.isEmpty() ? path : renamed;
-    removeWithRetries(target);
+    remove(target);
 
     const auto left = files().info(target);
     return !left && isAbsent(left.status());
@@ -91,17 +89,14 @@ QString FileDeletion::randomRenameFile(const QString &path)
     return {};
 }
 
-// Virus scanners and indexers hold a file for moments: only what they cause is tried again.
-void FileDeletion::removeWithRetries(const QString &path)
+void FileDeletion::remove(const QString &path)
 {
-    for (int attempt = 1; attempt <= RemoveAttempts; ++attempt) {
+    const auto attempt = [&path] {
         const Status removed = files().remove(path);
-        if (removed)
-            return;
-        traceFile(path, removed);
-        if (removed.code != platform::SharingViolation && removed.code != platform::AccessDenied)
-            return;
-        if (attempt < RemoveAttempts && !m_pause(RemovePause))
-            return;
-    }
+        if (!removed)
+            traceFile(path, removed);
+        return removed;
+    };
+    // Whether it is gone is asked afterwards.
+    [[maybe_unused]] const Status last = removeWithRetries(attempt, m_pause);
 }

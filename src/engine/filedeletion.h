@@ -1,19 +1,15 @@
 #pragma once
 
-#include <QString>
+#include "engine/removalretries.h"
 
-#include <chrono>
-#include <functional>
+#include <QString>
 
 // Deletes files so that length and name are gone too. Works on whatever is not a folder; only a regular file
 // is ever opened. One thread.
 class FileDeletion
 {
 public:
-    // Waits for the time given; false to give up the attempts.
-    using Pause = std::function<bool(std::chrono::milliseconds)>;
-
-    explicit FileDeletion(Pause pause);
+    explicit FileDeletion(RetryPause pause);
 
     // Cuts the file to nothing, renames it once and deletes it. True when it is gone, or when there was no
     // file: what cannot be looked at is not gone. A failure to cut or to rename is no obstacle.
@@ -23,7 +19,7 @@ public:
     static QString randomRenameFile(const QString &path);
 
 private:
-    void removeWithRetries(const QString &path);
+    void remove(const QString &path);
 
-    Pause m_pause;
+    RetryPause m_pause;
 };

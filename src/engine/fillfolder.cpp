@@ -1,10 +1,13 @@
 #include "engine/fillfolder.h"
 
 #include "engine/fillnames.h"
+#include "engine/removalretries.h"
 #include "engine/volumespace.h"
 
 #include <QDebug>
 
+#include <chrono>
+#include <numeric>
 #include <utility>
 
 namespace {
@@ -60,22 +63,35 @@ platform::Result<std::unique_ptr<platform::FileHandle>> FillFolder::createFile()
 qint64 FillFolder::removeFiles()
 {
     qint64 bytes = 0;
+    QList<FillFile> left;
     for (const FillFile &file : std::as_const(m_files)) {
-        if (const platform::Status removed = m_folder->removeFile(file.name); removed)
+        const platform::Status removed =
+            removeWithRetries([&] { return m_folder->removeFile(file.name); },
+                              [this](std::chrono::milliseconds pause) { return m_job.wait(pause); });
+        if (removed) {
             bytes += file.bytes;
-        else if (!isAbsent(removed)) {
-            const QString path = platform::entryPathOf(m_folder->path(), file.name);
-            qDebug().noquote() << "[FreeSpaceWipe] fill file" << path << removed.diagnostic();
-            m_job.noteShortfall({ShortfallKind::FillFilesLeft, path, file.bytes});
+        } else if (!isAbsent(removed)) {
+            qDebug().noquote() << "[FreeSpaceWipe] fill file" << file.name << removed.diagnostic();
+            left.append(file);
         }
     }
-    m_files.clear();
+    m_files = left;
     m_nextIndex = 0;
     return bytes;
 }
 
+qint64 FillFolder::bytesLeft() const
+{
+    return std::accumulate(m_files.cbegin(), m_files.cend(), qint64{0},
+                           [](qint64 sum, const FillFile &file) { return sum + file.bytes; });
+}
+
 platform::Status FillFolder::remove()
 {
+    for (const FillFile &file : std::as_const(m_files))
+        m_job.noteShortfall(
+            {ShortfallKind::FillFilesLeft, platform::entryPathOf(path(), file.name), file.bytes});
+    m_files.clear();
     letGo();
     const platform::Status removed = m_root->removeFolder(m_name);
     if (!removed)

@@ -25,6 +25,7 @@ public:
     // Once it was removed: one of the same name.
     platform::Status createAgain();
     QString path() const;
+    QString name() const { return m_name; }
 
     // Of an existing folder.
     platform::AnchoredFolder &folder() { return *m_folder; }
@@ -37,9 +38,11 @@ public:
     void setBytesOfLast(qint64 bytes) { m_files.last().bytes = bytes; }
     bool hasFiles() const { return !m_files.isEmpty(); }
 
-    // The bytes that went with the files; what cannot be removed is told.
+    // The bytes that went with the files. What cannot be removed, in several attempts, is tried again the
+    // next time.
     qint64 removeFiles();
-    // The empty folder.
+    qint64 bytesLeft() const;
+    // The empty folder. Files that are still there are told with their paths.
     platform::Status remove();
     // It stays where it is.
     void letGo() { m_folder.reset(); }

@@ -55,4 +55,33 @@ bool isFile(QStringView name)
     return std::all_of(digits.begin(), digits.end(), isDecimal);
 }
 
+const QString recordFiles = u"mft_clean"_s;
+
+QString recordFile(int index)
+{
+    return QString::number(index) + FileSuffix;
+}
+
+// Written in one way only.
+bool isRecordFile(QStringView name)
+{
+    if (!name.endsWith(FileSuffix))
+        return false;
+    const int index = name.chopped(FileSuffix.size()).toInt();
+    return index >= 0 && index < RecordFiles && name == recordFile(index);
+}
+
+const QString recordFolders = u"dir_clean"_s;
+
+QString newRecordFolder()
+{
+    return QUuid::createUuid().toString(QUuid::WithoutBraces);
+}
+
+bool isRecordFolder(QStringView name)
+{
+    const QUuid uuid = QUuid::fromString(name);
+    return !uuid.isNull() && name == uuid.toString(QUuid::WithoutBraces);
+}
+
 } // namespace fillnames

@@ -46,6 +46,9 @@ bool FreeSpaceFill::reclaim()
         return true;
     const auto before = m_folder.freeBytes();
     const qint64 removed = m_folder.removeFiles();
+    // This pass does not reach the space of files that stay.
+    if (const qint64 left = m_folder.bytesLeft(); left > 0)
+        m_job.noteShortfall({ShortfallKind::RoomLeft, m_volume.root, left});
     if (!before) {
         m_space.noteGone(before.status());
         return false;

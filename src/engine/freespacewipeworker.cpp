@@ -203,10 +203,8 @@ bool FreeSpaceWipeWorker::wipeVolume(const QString &root)
         emit errorOccurred(changeText(root));
         return false;
     }
-    if (!cleanUpAfterCrash()) {
-        emit errorOccurred(tr("填充空闲空间失败"));
+    if (!cleanUpAfterCrash())
         return false;
-    }
     const auto free = m_space->settled([this] { return freeBytesOf(*m_anchor); });
     m_freeAtStart = free.valueOr(0);
     log(tr("空闲空间: %1").arg(formatSize(m_freeAtStart)));
@@ -257,8 +255,15 @@ QString FreeSpaceWipeWorker::obstacleOf(const WipeTask &task)
 {
     for (const PartitionInfo &chosen : chosenVolumes(task)) {
         const auto volume = platform::Platform::current().folders().anchor(rootPathOf(chosen.driveLetter));
-        if (volume && checkMounted(chosen.driveLetter) && !isChosen(*volume.value(), chosen))
-            return changeText(chosen.driveLetter) + u' ' + tr("Nothing was written.");
+        if (!volume || !checkMounted(chosen.driveLetter))
+            continue;
+        QString obstacle;
+        if (!isChosen(*volume.value(), chosen))
+            obstacle = changeText(chosen.driveLetter);
+        else if (const QString folder = LeftOvers(*volume.value()).inUse(); !folder.isEmpty())
+            obstacle = useText(folder);
+        if (!obstacle.isEmpty())
+            return obstacle + u' ' + tr("Nothing was written.");
     }
     return {};
 }
@@ -277,6 +282,12 @@ QString FreeSpaceWipeWorker::changeText(const QString &volume)
     return tr("Volume %1 is not the one that was chosen any more.").arg(displayText(volume));
 }
 
+QString FreeSpaceWipeWorker::useText(const QString &folder)
+{
+    return tr("Another job is erasing the free space of this volume; its files are in %1.")
+        .arg(displayText(folder));
+}
+
 // An unmounted volume leaves an empty folder under its name, and the free space there is that of another one.
 platform::Status FreeSpaceWipeWorker::checkMounted(const QString &root)
 {
@@ -293,10 +304,18 @@ platform::Status FreeSpaceWipeWorker::checkMounted(const QString &root)
 bool FreeSpaceWipeWorker::cleanUpAfterCrash()
 {
     const auto before = freeBytesOf(*m_anchor);
-    const LeftOvers leftOvers = LeftOvers::remove(*m_anchor);
-    for (const QString &folder : leftOvers.folders)
+    LeftOvers leftOvers(*m_anchor);
+    if (const QString folder = leftOvers.inUse(); !folder.isEmpty()) {
+        emit errorOccurred(useText(folder));
+        return false;
+    }
+    const LeftOvers::Removed removed = leftOvers.remove();
+    for (const QString &folder : removed.folders)
         log(tr("已清理上次中断留下的临时文件: %1").arg(displayText(folder)));
-    return m_space->waitFor([this] { return freeBytesOf(*m_anchor); }, before.valueOr(0), leftOvers.bytes);
+    if (m_space->waitFor([this] { return freeBytesOf(*m_anchor); }, before.valueOr(0), removed.bytes))
+        return true;
+    emit errorOccurred(tr("填充空闲空间失败"));
+    return false;
 }
 
 bool FreeSpaceWipeWorker::createTemporaryFolder()
@@ -305,8 +324,15 @@ bool FreeSpaceWipeWorker::createTemporaryFolder()
     if (!created) {
         diagnose(created);
         emit errorOccurred(tr("无法创建临时目录: %1").arg(displayText(m_folder.path())));
+        return false;
     }
-    return created.ok();
+    // Another job that has begun at the same moment sees this folder, or is seen here.
+    const QString other = LeftOvers(*m_anchor, m_folder.name()).inUse();
+    if (other.isEmpty())
+        return true;
+    [[maybe_unused]] const platform::Status removed = m_folder.remove(); // told there
+    emit errorOccurred(useText(other));
+    return false;
 }
 
 bool FreeSpaceWipeWorker::runPasses()

@@ -37,7 +37,8 @@ public:
     static QString findDriveForDisk(int diskNumber);
 
     // Why a free-space job must not be started, in words for the user: one of its volumes is not the chosen
-    // one any more. Empty when nothing is in the way, and when a volume cannot be asked: the job tells then.
+    // one any more, or another job is at work there. Empty when nothing is in the way, and when a volume
+    // cannot be asked: the job tells then.
     static QString obstacleOf(const WipeTask &task);
 
 public slots:
@@ -61,6 +62,7 @@ private:
     static platform::Status checkMounted(const QString &root);
     static bool isChosen(platform::AnchoredFolder &volume, const PartitionInfo &chosen);
     static QString changeText(const QString &volume);
+    static QString useText(const QString &folder);
     bool cleanUpAfterCrash();
     bool createTemporaryFolder();
     bool runPasses();

@@ -26,6 +26,11 @@ QStringList entries(platform::AnchoredFolder &folder, platform::FileKind wanted,
     return names;
 }
 
+void diagnose(const platform::AnchoredFolder &folder, const QString &name, const platform::Status &failure)
+{
+    qDebug().noquote() << "[FreeSpaceWipe] left-over" << folder.path() << name << failure.diagnostic();
+}
+
 // The bytes that went with the files, nothing when there was no file to remove.
 std::optional<qint64> removeFillFilesIn(platform::AnchoredFolder &folder)
 {
@@ -33,8 +38,7 @@ std::optional<qint64> removeFillFilesIn(platform::AnchoredFolder &folder)
     for (const QString &name : entries(folder, platform::FileKind::Regular, fillnames::isFile)) {
         const auto info = folder.info(name);
         if (const platform::Status removed = folder.removeFile(name); !removed) {
-            qDebug().noquote() << "[FreeSpaceWipe] left-over" << folder.path() << name
-                               << removed.diagnostic();
+            diagnose(folder, name, removed);
             continue;
         }
         // A further name keeps the space.
@@ -44,24 +48,87 @@ std::optional<qint64> removeFillFilesIn(platform::AnchoredFolder &folder)
     return bytes;
 }
 
+bool removeRecordFile(platform::AnchoredFolder &folder, const QString &name)
+{
+    const auto info = folder.info(name);
+    if (!info || info.value().size > fillnames::RecordFileBytes)
+        return false;
+    const platform::Status removed = folder.removeFile(name);
+    if (!removed)
+        diagnose(folder, name, removed);
+    return removed.ok();
+}
+
+bool removeRecordFolder(platform::AnchoredFolder &folder, const QString &name)
+{
+    const platform::Status removed = folder.removeFolder(name);
+    if (!removed)
+        diagnose(folder, name, removed);
+    return removed.ok();
+}
+
+// What a residue step has left. Whether there was any of it.
+template <typename Test, typename Remove>
+bool removeRecordsIn(platform::AnchoredFolder &folder, const QString &name, platform::FileKind kind,
+                     Test isRecord, Remove remove)
+{
+    auto records = folder.openFolder(name);
+    if (!records)
+        return false;
+    for (const QString &record : entries(*records.value(), kind, isRecord))
+        remove(*records.value(), record);
+    records.value().reset();
+    return removeRecordFolder(folder, name);
+}
+
+bool isEmpty(platform::AnchoredFolder &folder)
+{
+    bool hasEntry = false;
+    const platform::Status listed = folder.forEachEntry([&](const QString &, platform::FileKind) {
+        hasEntry = true;
+        return false;
+    });
+    return listed && !hasEntry;
+}
+
 } // namespace
 
-LeftOvers LeftOvers::remove(platform::AnchoredFolder &root)
+LeftOvers::LeftOvers(platform::AnchoredFolder &root, const QString &except)
+    : m_root(root)
 {
-    LeftOvers leftOvers;
     for (const QString &name : entries(root, platform::FileKind::Folder, fillnames::isFolder)) {
-        auto folder = root.openFolder(name);
-        if (!folder) {
-            qDebug().noquote() << "[FreeSpaceWipe] left-over" << name << folder.status().diagnostic();
+        if (name == except)
             continue;
-        }
-        if (const auto bytes = removeFillFilesIn(*folder.value())) {
-            leftOvers.folders.append(folder.value()->path());
-            leftOvers.bytes += *bytes;
-        }
-        folder.value().reset();
-        if (const platform::Status status = root.removeFolder(name); !status)
-            qDebug().noquote() << "[FreeSpaceWipe] left-over" << name << status.diagnostic();
+        auto folder = root.openFolder(name);
+        if (!folder)
+            diagnose(root, name, folder.status());
+        const bool isHeld = folder ? !folder.value()->isClaimed() && !isEmpty(*folder.value())
+                                   : folder.code() == platform::SharingViolation;
+        if (isHeld)
+            m_inUse = platform::entryPathOf(root.path(), name);
+        if (folder)
+            m_folders.push_back({name, folder.take()});
     }
-    return leftOvers;
+}
+
+LeftOvers::Removed LeftOvers::remove()
+{
+    Removed removed;
+    for (Folder &folder : m_folders) {
+        platform::AnchoredFolder &open = *folder.open;
+        const QString path = open.path();
+        const auto bytes = removeFillFilesIn(open);
+        const bool hadFiles = removeRecordsIn(open, fillnames::recordFiles, platform::FileKind::Regular,
+                                              fillnames::isRecordFile, removeRecordFile);
+        const bool hadFolders = removeRecordsIn(open, fillnames::recordFolders, platform::FileKind::Folder,
+                                                fillnames::isRecordFolder, removeRecordFolder);
+        if (bytes || hadFiles || hadFolders)
+            removed.folders.append(path);
+        removed.bytes += bytes.value_or(0);
+        folder.open.reset();
+        if (const platform::Status status = m_root.removeFolder(folder.name); !status)
+            diagnose(m_root, folder.name, status);
+    }
+    m_folders.clear();
+    return removed;
 }

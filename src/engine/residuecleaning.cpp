@@ -1,23 +1,18 @@
 #include "engine/residuecleaning.h"
 
 #include "engine/fillfolder.h"
+#include "engine/fillnames.h"
 #include "platform/anchoredfolder.h"
 #include "platform/files.h"
 
 #include <QScopeGuard>
-#include <QUuid>
 
 #include <array>
 #include <cstddef>
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
-// Enough small files to take over the records of deleted ones, enough folders to do the same to directory
-// entries.
-constexpr int RecordFiles = 1000;
-constexpr qint64 RecordFileBytes = 256;
+// As the small files take over the records of deleted ones, enough of them do the same to directory entries.
 constexpr int RecordFolders = 100;
 
 void remember(platform::Status &first, const platform::Status &status)
@@ -30,12 +25,14 @@ void remember(platform::Status &first, const platform::Status &status)
 
 platform::Status ResidueCleaning::cleanFileRecords()
 {
-    return cleanIn(u"mft_clean"_s, [this](platform::AnchoredFolder &folder) { return makeFiles(folder); });
+    return cleanIn(fillnames::recordFiles,
+                   [this](platform::AnchoredFolder &folder) { return makeFiles(folder); });
 }
 
 platform::Status ResidueCleaning::cleanDirectoryEntries()
 {
-    return cleanIn(u"dir_clean"_s, [this](platform::AnchoredFolder &folder) { return makeFolders(folder); });
+    return cleanIn(fillnames::recordFolders,
+                   [this](platform::AnchoredFolder &folder) { return makeFolders(folder); });
 }
 
 platform::Status ResidueCleaning::cleanIn(const QString &name, const Make &make)
@@ -61,17 +58,17 @@ platform::Status ResidueCleaning::cleanIn(const QString &name, const Make &make)
 platform::Status ResidueCleaning::makeFiles(platform::AnchoredFolder &folder)
 {
     platform::Status first;
-    std::array<std::byte, RecordFileBytes> content{};
-    for (int i = 0; i < RecordFiles && !m_job.isStopping(); ++i) {
-        const auto file = folder.createFile(QString::number(i) + u".tmp"_s);
+    std::array<std::byte, fillnames::RecordFileBytes> content{};
+    for (int i = 0; i < fillnames::RecordFiles && !m_job.isStopping(); ++i) {
+        const auto file = folder.createFile(fillnames::recordFile(i));
         remember(first, file.status());
         if (!file)
             continue;
-        m_job.fill(content.data(), RecordFileBytes, {PatternType::Random});
-        remember(first, file.value()->write(content.data(), RecordFileBytes).status());
+        m_job.fill(content.data(), fillnames::RecordFileBytes, {PatternType::Random});
+        remember(first, file.value()->write(content.data(), fillnames::RecordFileBytes).status());
         // A record that is given back before it reaches the medium has taken none over. The last flush
         // commits those of all files, at a thousandth of the cost of flushing each.
-        if (i == RecordFiles - 1)
+        if (i == fillnames::RecordFiles - 1)
             remember(first, file.value()->flush());
     }
     return first;
@@ -81,7 +78,7 @@ platform::Status ResidueCleaning::makeFolders(platform::AnchoredFolder &folder)
 {
     platform::Status first;
     for (int i = 0; i < RecordFolders && !m_job.isStopping(); ++i)
-        remember(first, folder.createFolder(QUuid::createUuid().toString(QUuid::WithoutBraces)).status());
+        remember(first, folder.createFolder(fillnames::newRecordFolder()).status());
     return first;
 }
 

@@ -35,6 +35,7 @@ private slots:
     void anUnknownVolumeIsRefusedBeforeAnyIsFilled();
     void anotherVolumeInItsPlaceIsRefused_data();
     void anotherVolumeInItsPlaceIsRefused();
+    void aVolumeThatAnotherJobFillsIsRefused();
     void aSystemVolumeIsAllowed();
     void severalVolumesAreSeveralJobs();
     void theSameVolumeTwiceIsOneJob();
@@ -226,6 +227,23 @@ void tst_CliWipeFree::anotherVolumeInItsPlaceIsRefused()
     machine.devices.volumes[root].mounted.identity = u"second"_s;
     unchanged(wipeSmall({target}));
     QCOMPARE(unchanged.code, 0);
+}
+
+void tst_CliWipeFree::aVolumeThatAnotherJobFillsIsRefused()
+{
+    Machine machine;
+    machine.add(u"/media/a"_s);
+    const QString folder = u"/media/a/.quorvex_temp_01234567"_s;
+    machine.volume.addFolder(folder);
+    machine.volume.heldByOthers = QStringList{folder};
+    CliRun run;
+    run(wipeSmall({u"/media/a"_s}));
+    QCOMPARE(run.code, 3);
+    QVERIFY2(run.io.err.contains("Another job is erasing the free space of this volume; its files are in " +
+                                 folder.toUtf8() + ". Nothing was written."),
+             run.io.err.constData());
+    QVERIFY(machine.volume.writes.isEmpty());
+    QCOMPARE(machine.volume.pathsBelow(QString()), QStringList{folder});
 }
 
 void tst_CliWipeFree::aSystemVolumeIsAllowed()

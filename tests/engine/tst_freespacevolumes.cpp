@@ -33,6 +33,8 @@ private slots:
     void anotherVolumeInItsPlaceIsNotFilled_data();
     void anotherVolumeInItsPlaceIsNotFilled();
     void aVolumeWithoutFreeInodesIsNotDone();
+    void aSecondJobOnAVolumeIsRefused_data();
+    void aSecondJobOnAVolumeIsRefused();
 };
 
 namespace {
@@ -185,6 +187,47 @@ void tst_FreeSpaceVolumes::aVolumeWithoutFreeInodesIsNotDone()
     QVERIFY(one.task.outcome().has(ShortfallKind::NothingWritten));
     one.task.setOutcome(JobOutcome::Complete);
     QCOMPARE(one.task.outcome().outcome(), JobOutcome::Partial);
+}
+
+void tst_FreeSpaceVolumes::aSecondJobOnAVolumeIsRefused_data()
+{
+    anotherVolumeInItsPlaceIsNotFilled_data();
+}
+
+void tst_FreeSpaceVolumes::aSecondJobOnAVolumeIsRefused()
+{
+    QFETCH(const LoopMount::FileSystem, fileSystem);
+    if (const QString reason = LoopMount::unavailableReason(fileSystem); !reason.isEmpty())
+        QSKIP(qPrintable(reason));
+    const QTemporaryDir folder;
+    const LoopMount volume(folder.path(), {.fileSystem = fileSystem, .sizeBytes = 400 * MiB});
+    QVERIFY2(volume.isReady(), qPrintable(volume.error()));
+    Job first(volume);
+    Job second(volume);
+    QStringList inTheWay;
+    QStringList lines;
+    QStringList before;
+    QStringList after;
+    QObject::connect(&first.worker, &BaseWipeWorker::progressChanged, &first.worker, [&] {
+        if (!inTheWay.isEmpty())
+            return;
+        const QString temporary = temporaryFolder(volume);
+        inTheWay.append(FreeSpaceWipeWorker::obstacleOf(second.task));
+        before = entriesOf(volume.mountPoint()) + entriesOf(temporary);
+        second.worker.process();
+        after = entriesOf(volume.mountPoint()) + entriesOf(temporary);
+        lines = second.record.lines();
+    });
+    first.worker.process();
+    QCOMPARE(inTheWay.size(), 1);
+    QVERIFY2(inTheWay.first().contains(u"Another job"_s), qPrintable(inTheWay.first()));
+    QVERIFY2(lines.contains(u"finished false"_s), qPrintable(lines.join(u'\n')));
+    QCOMPARE(after, before);
+    QVERIFY2(first.succeeded(), qPrintable(first.record.lines().join(u'\n')));
+
+    // The folder that the first one leaves is nobody's any more.
+    QVERIFY(!temporaryFolder(volume).isEmpty());
+    QCOMPARE(FreeSpaceWipeWorker::obstacleOf(second.task), QString());
 }
 
 QUORVEX_SUITE(tst_FreeSpaceVolumes, QCoreApplication)
