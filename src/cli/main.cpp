@@ -27,6 +27,7 @@ void printDiagnostics(QtMsgType type, const QMessageLogContext &, const QString 
 int main(int argc, char *argv[])
 {
     qInstallMessageHandler(printDiagnostics);
+    platform::outliveSizeLimits();
     platform::provideComputerName();
     const QStringList arguments = platform::decodedArguments(argc, argv);
     const std::unique_ptr<QCoreApplication> application = cli::makeApplication(argc, argv);

@@ -189,6 +189,7 @@ void FreeSpaceWipeWorker::complete()
 bool FreeSpaceWipeWorker::wipeVolume(const QString &root)
 {
     m_root = rootPathOf(root);
+    task().noteVolume(root);
     log(tr("目标分区: %1").arg(displayText(m_root)));
 
     RunningJob &job = *this;

@@ -49,7 +49,14 @@ QByteArray OutcomeRecord::toJson() const
 
 void OutcomeRecord::writeMembers(JsonWriter &writer, bool withTexts) const
 {
-    writer.member(u"outcome", machineName(m_outcome)).key(u"shortfalls").beginArray();
+    writer.member(u"outcome", machineName(m_outcome));
+    if (!m_volumes.isEmpty()) {
+        writer.key(u"volumes").beginArray();
+        for (const QString &volume : m_volumes)
+            writer.value(volume);
+        writer.endArray();
+    }
+    writer.key(u"shortfalls").beginArray();
     for (const Shortfall &shortfall : shortfalls())
         shortfall.writeJson(writer, withTexts);
     writer.endArray().key(u"notes").beginArray();
@@ -74,6 +81,11 @@ std::optional<OutcomeRecord> OutcomeRecord::fromJson(const QByteArray &json)
     if (object.value(u"schemaVersion"_s).toInt() < 1 || !outcome)
         return std::nullopt;
     OutcomeRecord record;
+    const QJsonArray volumes = object.value(u"volumes"_s).toArray();
+    for (const QJsonValue volume : volumes) {
+        if (volume.isString())
+            record.addVolume(volume.toString());
+    }
     for (const QString &key : {u"shortfalls"_s, u"notes"_s}) {
         const QJsonArray entries = object.value(key).toArray();
         for (const QJsonValue entry : entries) {

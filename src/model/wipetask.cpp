@@ -212,6 +212,12 @@ void WipeTask::noteShortfall(const Shortfall &shortfall)
     m_outcome.note(shortfall);
 }
 
+void WipeTask::noteVolume(const QString &volume)
+{
+    const QMutexLocker locker(&m_outcomeMutex);
+    m_outcome.addVolume(volume);
+}
+
 void WipeTask::setOutcome(JobOutcome outcome)
 {
     const QMutexLocker locker(&m_outcomeMutex);

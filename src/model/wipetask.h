@@ -86,6 +86,8 @@ public:
     OutcomeRecord outcome() const;
     /// To be called where it happens, by workers.
     void noteShortfall(const Shortfall &shortfall);
+    /// A volume that the job begins to work on.
+    void noteVolume(const QString &volume);
     /// The end of the job; complete becomes partial where that was noted.
     void setOutcome(JobOutcome outcome);
     /// Forgets what an earlier run has left.

@@ -12,6 +12,7 @@
 #include <QJsonObject>
 #include <QJsonValue>
 #include <QMetaObject>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QThread>
@@ -178,6 +179,16 @@ void tst_CliWipeFree::aVolumeOfSeveralDrivesIsFound()
     run(wipeSmall({u"/media/pool"_s}));
     QCOMPARE(run.code, 0);
     QCOMPARE(machine.filled(u"/media/pool"_s), 8 * MiB);
+
+    // It has no drive to be known by in the lists.
+    const QString id = run.io.events(u"finished"_s).constFirst().value(u"certificateId").toString();
+    run.io.out.clear();
+    run({u"reports"_s, u"list"_s});
+    QVERIFY2(run.io.out.contains("volume /media/pool (1.00 GB)"), run.io.out.constData());
+    run.io.out.clear();
+    run({u"reports"_s, u"show"_s, id});
+    const QRegularExpression line(u"^Volume +/media/pool$"_s, QRegularExpression::MultilineOption);
+    QVERIFY2(line.match(QString::fromUtf8(run.io.out)).hasMatch(), run.io.out.constData());
 }
 
 void tst_CliWipeFree::anUnknownVolumeIsRefusedBeforeAnyIsFilled()

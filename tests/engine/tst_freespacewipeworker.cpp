@@ -807,6 +807,7 @@ void tst_FreeSpaceWipeWorker::reportOfTwoVolumesIsTheirSum()
     job.run();
     QVERIFY(job.succeeded());
     QCOMPARE(job.wipedSectors(), static_cast<quint64>(7 * MiB / 512));
+    QCOMPARE(job.task.outcome().volumes(), (QStringList{u"E:"_s, u"F:"_s}));
 }
 
 void tst_FreeSpaceWipeWorker::roomGivenBackMeanwhileIsFilledToo()

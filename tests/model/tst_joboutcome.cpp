@@ -221,6 +221,15 @@ void tst_JobOutcome::jsonIsAsDocumented()
              R"({"schemaVersion":1,"outcome":"partial","shortfalls":[{"kind":"only-volumes","place":"",)"
              R"("bytes":"9007199254740993"}],"notes":[{"kind":"other-names","place":"/x","count":"2"}],)"
              R"("further":[]})");
+
+    OutcomeRecord volumes(JobOutcome::Complete);
+    volumes.addVolume(u"E:"_s);
+    volumes.addVolume(u"/media/ä"_s);
+    volumes.addVolume(u"E:"_s);
+    QCOMPARE(volumes.toJson(), R"({"schemaVersion":1,"outcome":"complete","volumes":["E:","/media/ä"],)"
+                               R"("shortfalls":[],"notes":[],"further":[]})");
+    QCOMPARE(OutcomeRecord::fromJson(volumes.toJson()), volumes);
+    QCOMPARE(volumes.volumes(), (QStringList{u"E:"_s, u"/media/ä"_s}));
 }
 
 void tst_JobOutcome::jsonComesBack()

@@ -116,6 +116,11 @@ void outliveReaders()
     ::signal(SIGPIPE, SIG_IGN);
 }
 
+void outliveSizeLimits()
+{
+    ::signal(SIGXFSZ, SIG_IGN);
+}
+
 void provideComputerName()
 {
     if (qEnvironmentVariableIsEmpty("COMPUTERNAME"))

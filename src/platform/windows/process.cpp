@@ -198,6 +198,9 @@ Status writeText(StandardStream stream, const QByteArray &text)
 void outliveReaders()
 {}
 
+void outliveSizeLimits()
+{}
+
 void provideComputerName()
 {}
 
