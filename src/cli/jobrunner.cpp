@@ -32,7 +32,7 @@ public:
     JobResult result()
     {
         m_engine.setTask(&m_task);
-        const QString problem = m_stop.isRequested() ? QString() : m_engine.releaseVolumes();
+        const QString problem = m_stop.isRequested() ? QString() : m_engine.makeReady();
         if (!problem.isEmpty()) {
             m_result.lastError = problem;
             m_result.report = m_engine.report();

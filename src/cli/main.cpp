@@ -33,6 +33,7 @@ int main(int argc, char *argv[])
     platform::holdStopSignals();
     platform::liftOpenFileLimit();
     qInstallMessageHandler(printDiagnostics);
+    platform::outliveSizeLimits();
     // GLib's event loop ends the process when memory runs short; the other one lets it be told.
     qputenv("QT_NO_GLIB", "1");
     platform::provideComputerName();

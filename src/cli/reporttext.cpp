@@ -40,6 +40,8 @@ void addOutcome(Table &table, const std::optional<OutcomeRecord> &outcome)
     table.addRow({Cli::tr("Outcome"), outcomeText(outcome)});
     if (!outcome)
         return;
+    for (const QString &volume : outcome->volumes())
+        table.addRow({Cli::tr("Volume"), displayText(volume)});
     for (const QString &line : outcome->shortfallLines())
         table.addRow({Cli::tr("Shortfall"), line});
     for (const QString &line : outcome->noteLines())

@@ -73,12 +73,24 @@ std::optional<PartitionInfo> findVolumeWithoutDrive(const NameMatch &match)
         partition.driveLetter = volume.name;
         partition.label = volume.label;
         partition.fileSystem = QString::fromUtf8(volume.fileSystem);
+        partition.identity = volume.identity;
         partition.totalBytes = volume.totalBytes;
         partition.freeBytes = volume.freeBytes;
         partition.usedBytes = volume.totalBytes - volume.freeBytes;
         return partition;
     }
     return std::nullopt;
+}
+
+// For the report and the lists of reports, which know targets by their drive.
+DiskInfo recordOf(const PartitionInfo &partition)
+{
+    DiskInfo disk;
+    disk.model = Cli::tr("volume %1").arg(partition.driveLetter);
+    disk.sizeBytes = partition.totalBytes;
+    disk.totalSectors = disk.sizeBytes / disk.bytesPerSector;
+    disk.addPartition(partition);
+    return disk;
 }
 
 Outcome<VolumeTarget> findWholeDrive(int number, const QList<DiskInfo> &disks)
@@ -114,7 +126,7 @@ Outcome<VolumeTarget> findVolume(const QString &nameOrNumber, const QList<DiskIn
         }
     }
     if (const auto partition = findVolumeWithoutDrive(match))
-        return VolumeTarget{{}, *partition, partition->driveLetter};
+        return VolumeTarget{recordOf(*partition), *partition, partition->driveLetter};
     return Refusal{Refused, Cli::tr("no such volume: %1").arg(displayText(nameOrNumber))};
 }
 

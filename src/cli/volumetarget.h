@@ -12,7 +12,7 @@ namespace cli {
 // What one argument of a free-space job stands for.
 struct VolumeTarget
 {
-    DiskInfo disk;           // not filled for a volume that lies on no single drive
+    DiskInfo disk;           // without a number, and named after the volume, when that is on no single drive
     PartitionInfo partition; // its name is empty when all volumes of the drive are meant
     QString name;            // for the user
 

@@ -124,12 +124,14 @@ Outcome<ExitCode> Session::result() const
     return m_hasProblem ? SurroundingsFailed : Done;
 }
 
-// What the jobs will fall short of, in lines; the user decides whether they are started all the same.
+// What the jobs will fall short of, and what they keep, in lines; the user decides whether they are started
+// all the same.
 QStringList foreseenLines(const WipePlan &plan)
 {
     OutcomeRecord foreseen;
     for (const PlannedJob &job : plan.jobs) {
-        for (const Shortfall &shortfall : foreseeableShortfalls(*job.task).shortfalls())
+        const OutcomeRecord record = foreseeableShortfalls(*job.task);
+        for (const Shortfall &shortfall : record.shortfalls() + record.notes())
             foreseen.note(shortfall);
     }
     QStringList lines;
@@ -137,6 +139,8 @@ QStringList foreseenLines(const WipePlan &plan)
         lines.append(u"    "_s + line);
     if (!lines.isEmpty())
         lines.prepend(Cli::tr("  not everything will be erased:"));
+    for (const QString &line : foreseen.noteLines())
+        lines.append(u"  "_s + line);
     return lines;
 }
 

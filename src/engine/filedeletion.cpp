@@ -1,6 +1,7 @@
 #include "engine/filedeletion.h"
 
 #include "engine/filetrace.h"
+#include "engine/removalretries.h"
 #include "engine/watchedfile.h"
 #include "platform/files.h"
 #include "platform/platform.h"
@@ -11,15 +12,12 @@
 #include <utility>
 
 using namespace Qt::StringLiterals;
-using namespace std::chrono_literals;
 using platform::EntryPath;
 using platform::FileKind;
 using platform::Status;
 
 namespace {
 
-constexpr int RemoveAttempts = 10;
-constexpr auto RemovePause = 50ms;
 constexpr int RenameAttempts = 5;
 constexpr int RandomNameLength = 12;
 
@@ -40,7 +38,7 @@ QString randomName()
 
 } // namespace
 
-FileDeletion::FileDeletion(Pause pause)
+FileDeletion::FileDeletion(RetryPause pause)
     : m_pause(std::move(pause))
 {}
 
@@ -71,7 +69,7 @@ bool FileDeletion::secureDeleteFile(const EntryPath &file, WatchedFile *watched)
         giveBack(target, file);
         return false;
     }
-    removeWithRetries(target);
+    remove(target);
 
     const auto left = files().info(target);
     if (!left && isAbsent(left.status()))
@@ -118,17 +116,14 @@ std::optional<EntryPath> FileDeletion::randomRenameFile(const EntryPath &file)
     return {};
 }
 
-// Virus scanners and indexers hold a file for moments: only what they cause is tried again.
-void FileDeletion::removeWithRetries(const EntryPath &file)
+void FileDeletion::remove(const EntryPath &file)
 {
-    for (int attempt = 1; attempt <= RemoveAttempts; ++attempt) {
+    const auto attempt = [&file] {
         const Status removed = files().remove(file);
-        if (removed)
-            return;
-        traceFile(file.path(), removed);
-        if (removed.code != platform::SharingViolation && removed.code != platform::AccessDenied)
-            return;
-        if (attempt < RemoveAttempts && !m_pause(RemovePause))
-            return;
-    }
+        if (!removed)
+            traceFile(file.path(), removed);
+        return removed;
+    };
+    // Whether it is gone is asked afterwards.
+    [[maybe_unused]] const Status last = removeWithRetries(attempt, m_pause);
 }

@@ -1,9 +1,8 @@
 #pragma once
 
+#include "engine/removalretries.h"
 #include "platform/entrypath.h"
 
-#include <chrono>
-#include <functional>
 #include <optional>
 
 class WatchedFile;
@@ -13,10 +12,7 @@ class WatchedFile;
 class FileDeletion
 {
 public:
-    // Waits for the time given; false to give up the attempts.
-    using Pause = std::function<bool(std::chrono::milliseconds)>;
-
-    explicit FileDeletion(Pause pause);
+    explicit FileDeletion(RetryPause pause);
 
     // Cuts the file to nothing, renames it once and deletes it. True when it is gone, or when there was no
     // file: what cannot be looked at is not gone. A failure to cut or to rename is no obstacle. watched: what
@@ -39,9 +35,9 @@ public:
 private:
     platform::Status cutToNothing(const platform::EntryPath &file, WatchedFile *watched);
     void giveBack(const platform::EntryPath &renamed, const platform::EntryPath &file);
-    void removeWithRetries(const platform::EntryPath &file);
+    void remove(const platform::EntryPath &file);
 
-    Pause m_pause;
+    RetryPause m_pause;
     Found m_found = Found::Nothing;
     std::optional<platform::EntryPath> m_leftAt;
 };

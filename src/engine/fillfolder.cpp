@@ -1,115 +1,100 @@
 #include "engine/fillfolder.h"
 
-#include "platform/files.h"
-#include "platform/folders.h"
-#include "platform/platform.h"
+#include "engine/fillnames.h"
+#include "engine/removalretries.h"
+#include "engine/volumespace.h"
 
 #include <QDebug>
-#include <QUuid>
 
-#include <algorithm>
-#include <optional>
-
-using namespace Qt::StringLiterals;
-
-namespace fillfolder {
+#include <chrono>
+#include <numeric>
+#include <utility>
 
 namespace {
 
-constexpr QLatin1String FolderPrefix{".quorvex_temp_"};
-constexpr int FolderDigits = 8;
-constexpr QLatin1String FilePrefix{"fill_"};
-constexpr QLatin1String FileSuffix{".tmp"};
-constexpr int FileDigits = 6;
-
-bool isDecimal(QChar c)
-{
-    return c >= u'0' && c <= u'9';
-}
-
-bool isLowerHex(QChar c)
-{
-    return isDecimal(c) || (c >= u'a' && c <= u'f');
-}
-
-// Entries of one kind whose names pass the test. A listing that fails half-way gives what it showed before.
-template <typename Test>
-QStringList entries(const QString &folder, platform::FileKind wanted, Test isWanted)
-{
-    QStringList names;
-    const platform::Status listed = platform::Platform::current().folders().forEachEntry(
-        folder, [&](const QString &name, platform::FileKind kind) {
-            if (kind == wanted && isWanted(name))
-                names.append(name);
-            return true;
-        });
-    if (!listed)
-        qDebug().noquote() << "[FreeSpaceWipe] left-overs in" << folder << listed.diagnostic();
-    return names;
-}
-
-// The bytes that went with the files, nothing when there was no file to remove.
-std::optional<qint64> removeFillFilesIn(const QString &folder)
-{
-    platform::Files &files = platform::Platform::current().files();
-    std::optional<qint64> bytes;
-    for (const QString &name : entries(folder, platform::FileKind::Regular, isFileName)) {
-        const QString path = folder + u'/' + name;
-        const auto info = files.info(path);
-        if (const platform::Status removed = files.remove(path); !removed) {
-            qDebug().noquote() << "[FreeSpaceWipe] left-over" << path << removed.diagnostic();
-            continue;
-        }
-        // A further name keeps the space.
-        const bool freesSpace = info && info.value().linkCount == 1;
-        bytes = bytes.value_or(0) + (freesSpace ? info.value().size : 0);
-    }
-    return bytes;
-}
+// A folder in which every name is taken takes no file.
+constexpr int MostTakenNames = 1000;
 
 } // namespace
 
-QString newName()
+platform::Status FillFolder::create(platform::AnchoredFolder &root)
 {
-    return FolderPrefix + QUuid::createUuid().toString(QUuid::WithoutBraces).left(FolderDigits);
+    m_root = &root;
+    m_name = fillnames::newFolder();
+    return createAgain();
 }
 
-bool isName(QStringView name)
+platform::Status FillFolder::createAgain()
 {
-    if (!name.startsWith(FolderPrefix) || name.size() != FolderPrefix.size() + FolderDigits)
-        return false;
-    const QStringView digits = name.sliced(FolderPrefix.size());
-    return std::all_of(digits.begin(), digits.end(), isLowerHex);
+    auto created = m_root->createFolder(m_name);
+    if (!created)
+        return created.status();
+    m_folder = created.take();
+    if (const platform::Status hidden = m_folder->hide(); !hidden)
+        m_job.diagnose(hidden);
+    return {};
 }
 
-QString fileName(int index)
+QString FillFolder::path() const
 {
-    return FilePrefix + u"%1"_s.arg(index, FileDigits, 10, QLatin1Char('0')) + FileSuffix;
+    return platform::entryPathOf(m_root->path(), m_name);
 }
 
-bool isFileName(QStringView name)
+platform::Result<qint64> FillFolder::freeBytes() const
 {
-    if (!name.startsWith(FilePrefix) || !name.endsWith(FileSuffix) ||
-        name.size() != FilePrefix.size() + FileDigits + FileSuffix.size())
-        return false;
-    const QStringView digits = name.sliced(FilePrefix.size(), FileDigits);
-    return std::all_of(digits.begin(), digits.end(), isDecimal);
+    return freeBytesOf(*m_folder);
 }
 
-LeftOvers removeLeftOvers(const QString &root)
+platform::Result<std::unique_ptr<platform::FileHandle>> FillFolder::createFile()
 {
-    LeftOvers leftOvers;
-    for (const QString &name : entries(root, platform::FileKind::Folder, isName)) {
-        const QString folder = root + name;
-        if (const auto bytes = removeFillFilesIn(folder)) {
-            leftOvers.folders.append(folder);
-            leftOvers.bytes += *bytes;
-        }
-        if (const platform::Status status = platform::Platform::current().folders().removeEmpty(folder);
-            !status)
-            qDebug().noquote() << "[FreeSpaceWipe] left-over" << folder << status.diagnostic();
+    for (int attempt = 1;; ++attempt) {
+        // Listed first, so that nothing that happens between creating it and listing it leaves it behind.
+        m_files.append({fillnames::file(m_nextIndex++), 0});
+        auto file = m_folder->createFile(m_files.last().name);
+        if (file.code() != platform::AlreadyExists)
+            return file;
+        // Of an earlier pass, which could not be removed, or somebody else's.
+        m_files.removeLast();
+        if (attempt == MostTakenNames)
+            return file;
     }
-    return leftOvers;
 }
 
-} // namespace fillfolder
+qint64 FillFolder::removeFiles()
+{
+    qint64 bytes = 0;
+    QList<FillFile> left;
+    for (const FillFile &file : std::as_const(m_files)) {
+        const platform::Status removed =
+            removeWithRetries([&] { return m_folder->removeFile(file.name); },
+                              [this](std::chrono::milliseconds pause) { return m_job.wait(pause); });
+        if (removed) {
+            bytes += file.bytes;
+        } else if (!isAbsent(removed)) {
+            qDebug().noquote() << "[FreeSpaceWipe] fill file" << file.name << removed.diagnostic();
+            left.append(file);
+        }
+    }
+    m_files = left;
+    m_nextIndex = 0;
+    return bytes;
+}
+
+qint64 FillFolder::bytesLeft() const
+{
+    return std::accumulate(m_files.cbegin(), m_files.cend(), qint64{0},
+                           [](qint64 sum, const FillFile &file) { return sum + file.bytes; });
+}
+
+platform::Status FillFolder::remove()
+{
+    for (const FillFile &file : std::as_const(m_files))
+        m_job.noteShortfall(
+            {ShortfallKind::FillFilesLeft, platform::entryPathOf(path(), file.name), file.bytes});
+    m_files.clear();
+    letGo();
+    const platform::Status removed = m_root->removeFolder(m_name);
+    if (!removed)
+        m_job.diagnose(removed);
+    return removed;
+}

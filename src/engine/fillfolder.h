@@ -1,30 +1,63 @@
 #pragma once
 
+#include "engine/runningjob.h"
+#include "platform/anchoredfolder.h"
+#include "platform/files.h"
+#include "platform/status.h"
+
+#include <QList>
 #include <QString>
-#include <QStringList>
-#include <QStringView>
 
-// Names of the temporary folder that a free-space job puts into the root of a volume and of the fill files in
-// it, and what a job that was cut off left behind under these names.
+#include <memory>
 
-namespace fillfolder {
-
-// ".quorvex_temp_" and 8 random lower-case hexadecimal digits.
-QString newName();
-bool isName(QStringView name);
-
-// "fill_000000.tmp", "fill_000001.tmp" ...
-QString fileName(int index);
-bool isFileName(QStringView name);
-
-struct LeftOvers
+// The temporary folder of a job on one volume and the fill files in it, reached through the open folder from
+// its creation to its removal. One thread.
+class FillFolder
 {
-    QStringList folders; // from which files were deleted, in the order of the listing
-    qint64 bytes = 0;    // of these files
+public:
+    // The job outlives this.
+    explicit FillFolder(RunningJob &job)
+        : m_job(job)
+    {}
+
+    // A new one, hidden, in the root of a volume, which outlives it.
+    platform::Status create(platform::AnchoredFolder &root);
+    // Once it was removed: one of the same name.
+    platform::Status createAgain();
+    QString path() const;
+    QString name() const { return m_name; }
+
+    // Of an existing folder.
+    platform::AnchoredFolder &folder() { return *m_folder; }
+    bool exists() const { return m_folder != nullptr; }
+    platform::Result<qint64> freeBytes() const;
+
+    // The next fill file.
+    platform::Result<std::unique_ptr<platform::FileHandle>> createFile();
+    // So many bytes have gone to the medium by the file made last.
+    void setBytesOfLast(qint64 bytes) { m_files.last().bytes = bytes; }
+    bool hasFiles() const { return !m_files.isEmpty(); }
+
+    // The bytes that went with the files. What cannot be removed, in several attempts, is tried again the
+    // next time.
+    qint64 removeFiles();
+    qint64 bytesLeft() const;
+    // The empty folder. Files that are still there are told with their paths.
+    platform::Status remove();
+    // It stays where it is.
+    void letGo() { m_folder.reset(); }
+
+private:
+    struct FillFile
+    {
+        QString name;
+        qint64 bytes = 0;
+    };
+
+    RunningJob &m_job;
+    platform::AnchoredFolder *m_root = nullptr;
+    std::unique_ptr<platform::AnchoredFolder> m_folder;
+    QString m_name;
+    QList<FillFile> m_files;
+    int m_nextIndex = 0;
 };
-
-// Deletes the fill files in every folder of such a name in the root (ends in a slash), then the folders that
-// are empty. Anything else stays, and so does whatever cannot be deleted.
-LeftOvers removeLeftOvers(const QString &root);
-
-} // namespace fillfolder

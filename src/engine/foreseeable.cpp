@@ -1,6 +1,7 @@
 #include "engine/foreseeable.h"
 
 #include "engine/contentsurvey.h"
+#include "engine/freespacefill.h"
 #include "engine/freespacewipeworker.h"
 #include "model/wipetask.h"
 #include "platform/devices.h"
@@ -47,9 +48,23 @@ void foreseeVolume(const PartitionInfo &partition, OutcomeRecord &record)
     const QString &name = partition.driveLetter;
     if (name.isEmpty() || partition.freeBytes <= 0)
         return;
-    const Shortfall kept = keptReserve(name, partition.freeBytes, FreeSpaceWipeWorker::reserveFor(name));
-    if (makesPartial(kept.kind))
-        record.note(kept);
+    record.note(keptReserve(name, partition.freeBytes, FreeSpaceFill::reserveFor(name)));
+}
+
+void foreseeFreeSpace(const WipeTask &task, OutcomeRecord &record)
+{
+    if (!task.partition().driveLetter.isEmpty()) {
+        foreseeVolume(task.partition(), record);
+        return;
+    }
+    const DiskInfo disk = task.disk();
+    bool hasVolume = false;
+    for (const PartitionInfo &partition : disk.partitions) {
+        hasVolume = hasVolume || !partition.driveLetter.isEmpty();
+        foreseeVolume(partition, record);
+    }
+    if (!hasVolume && FreeSpaceWipeWorker::findDriveForDisk(disk.diskNumber).isEmpty())
+        record.note({ShortfallKind::NoVolume, disk.displayName()});
 }
 
 void foreseeFiles(const WipeTask &task, OutcomeRecord &record)
@@ -74,12 +89,7 @@ OutcomeRecord foreseeableShortfalls(const WipeTask &task)
     case PartitionWipe:
         break;
     case FreeSpaceWipe:
-        if (!task.partition().driveLetter.isEmpty()) {
-            foreseeVolume(task.partition(), record);
-        } else {
-            for (const PartitionInfo &partition : task.disk().partitions)
-                foreseeVolume(partition, record);
-        }
+        foreseeFreeSpace(task, record);
         break;
     case FileWipe:
         foreseeFiles(task, record);

@@ -9,7 +9,7 @@
 class WipeTask;
 
 // What a job will fall short of as far as that can be known before it starts, for the question whether to
-// start it. Nothing is written, or opened for more than a question.
+// start it; notes tell what is worth a word there. Nothing is written, or opened for more than a question.
 OutcomeRecord foreseeableShortfalls(const WipeTask &task);
 
 // The targets of a file job that are links: they are removed themselves.

@@ -1,8 +1,9 @@
 #include "engine/freespacewipeworker.h"
 
-#include "engine/chunkpipeline.h"
 #include "engine/contentsurvey.h"
-#include "engine/fillfolder.h"
+#include "engine/freespacefill.h"
+#include "engine/leftovers.h"
+#include "engine/residuecleaning.h"
 #include "model/displaytext.h"
 #include "model/formatsize.h"
 #include "model/wipetask.h"
@@ -10,28 +11,41 @@
 #include "platform/folders.h"
 #include "platform/platform.h"
 
-#include <QDeadlineTimer>
 #include <QDebug>
 #include <QScopeGuard>
-#include <QUuid>
 
 #include <algorithm>
-#include <array>
-#include <chrono>
 #include <limits>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-// Enough small files to take over the records of deleted ones, enough folders to do the same to directory
-// entries.
-constexpr int RecordFiles = 1000;
-constexpr qint64 RecordFileBytes = 256;
-constexpr int RecordFolders = 100;
+constexpr qint64 MiB = 1'048'576;
 
-// Somebody who goes on deleting does not keep the job from starting.
-constexpr std::chrono::seconds SettlePatience{10};
+QString rootPathOf(const QString &volume)
+{
+    return volume.endsWith(u'/') || volume.endsWith(u'\\') ? volume : volume + u'/';
+}
+
+// The records of the volumes that the user has chosen, as far as the task names them.
+QList<PartitionInfo> chosenVolumes(const WipeTask &task)
+{
+    if (const PartitionInfo partition = task.partition(); !partition.driveLetter.isEmpty())
+        return {partition};
+    QList<PartitionInfo> volumes = task.disk().partitions;
+    volumes.removeIf([](const PartitionInfo &partition) { return partition.driveLetter.isEmpty(); });
+    return volumes;
+}
+
+PartitionInfo chosenRecord(const WipeTask &task, const QString &volume)
+{
+    for (const PartitionInfo &chosen : chosenVolumes(task)) {
+        if (chosen.driveLetter == volume)
+            return chosen;
+    }
+    return {};
+}
 
 void remember(platform::Status &first, const platform::Status &status)
 {
@@ -73,8 +87,8 @@ bool FreeSpaceWipeWorker::run()
     const QStringList volumes = volumesOf(disk);
     if (!volumes.isEmpty())
         return wipeVolumes(volumes);
-    // A disk without a usable volume has no free space to wipe: done, with the warning that volumesOf() gave.
-    task().noteShortfall({ShortfallKind::NoFreeByte, disk.displayName()});
+    // Nothing that fails, and nothing erased either.
+    task().noteShortfall({ShortfallKind::NoVolume, disk.displayName()});
     return true;
 }
 
@@ -104,7 +118,7 @@ QStringList FreeSpaceWipeWorker::volumesOf(const DiskInfo &disk)
         }
     }
     if (volumes.isEmpty()) {
-        log(tr("警告: 磁盘上没有可用的非系统分区"), Warning);
+        log(tr("警告: 磁盘上没有可用的非系统分区"), LogLevel::Warning);
         return volumes;
     }
     log(tr("将擦除 %1 个分区的空闲空间").arg(volumes.size()));
@@ -152,7 +166,7 @@ bool FreeSpaceWipeWorker::wipeVolumes(const QStringList &volumes)
         failed = !wipeVolume(volumes.at(i));
     }
     if (isStopRequested()) {
-        log(tr("擦除已取消"), Warning);
+        log(tr("擦除已取消"), LogLevel::Warning);
         return false;
     }
     if (failed)
@@ -174,18 +188,25 @@ void FreeSpaceWipeWorker::complete()
 
 bool FreeSpaceWipeWorker::wipeVolume(const QString &root)
 {
-    m_root = root;
-    if (!m_root.endsWith(u'/') && !m_root.endsWith(u'\\'))
-        m_root += u'/';
+    m_root = rootPathOf(root);
+    task().noteVolume(root);
     log(tr("目标分区: %1").arg(displayText(m_root)));
 
-    if (const platform::Status mounted = checkMounted(root); !mounted)
-        return failVolumeGone(mounted);
-    if (!cleanUpAfterCrash()) {
-        emit errorOccurred(tr("填充空闲空间失败"));
+    RunningJob &job = *this;
+    m_space.emplace(job, m_root, VolumeSpace::Waits{m_releasePatience, m_releasePoll});
+    const auto closing = qScopeGuard([this] {
+        m_folder.letGo();
+        m_anchor.reset();
+    });
+    if (const platform::Status opened = openVolume(root); !opened)
+        return failVolumeGone(opened);
+    if (!isChosen(*m_anchor, chosenRecord(task(), root))) {
+        emit errorOccurred(changeText(root));
         return false;
     }
-    const auto free = settledFreeBytes();
+    if (!cleanUpAfterCrash())
+        return false;
+    const auto free = m_space->settled([this] { return freeBytesOf(*m_anchor); });
     m_freeAtStart = free.valueOr(0);
     log(tr("空闲空间: %1").arg(formatSize(m_freeAtStart)));
     if (m_freeAtStart == 0) {
@@ -207,10 +228,65 @@ bool FreeSpaceWipeWorker::wipeVolume(const QString &root)
     if (isStopRequested())
         return true;
     // Without the volume the residue would be cleaned on the one that its mount point belongs to.
-    if (isVolumeGone(removed.code))
+    if (VolumeSpace::isGone(removed.code))
         return failVolumeGone(removed);
     cleanResidue();
     return true;
+}
+
+// Where no failed pass tells of it; always false.
+bool FreeSpaceWipeWorker::failVolumeGone(const platform::Status &status)
+{
+    m_space->noteGone(status);
+    emit errorOccurred(tr("卷不再可用，错误码: %1").arg(status.code));
+    return false;
+}
+
+// Whatever happens to the mount point from here on, the job stays on this volume.
+platform::Status FreeSpaceWipeWorker::openVolume(const QString &root)
+{
+    auto opened = platform::Platform::current().folders().anchor(m_root);
+    if (!opened)
+        return opened.status();
+    m_anchor = opened.take();
+    return checkMounted(root);
+}
+
+QString FreeSpaceWipeWorker::obstacleOf(const WipeTask &task)
+{
+    for (const PartitionInfo &chosen : chosenVolumes(task)) {
+        const auto volume = platform::Platform::current().folders().anchor(rootPathOf(chosen.driveLetter));
+        if (!volume || !checkMounted(chosen.driveLetter))
+            continue;
+        QString obstacle;
+        if (!isChosen(*volume.value(), chosen))
+            obstacle = changeText(chosen.driveLetter);
+        else if (const QString folder = LeftOvers(*volume.value()).inUse(); !folder.isEmpty())
+            obstacle = useText(folder);
+        if (!obstacle.isEmpty())
+            return obstacle + u' ' + tr("Nothing was written.");
+    }
+    return {};
+}
+
+// A volume whose record tells nothing to compare is taken as it is found.
+bool FreeSpaceWipeWorker::isChosen(platform::AnchoredFolder &volume, const PartitionInfo &chosen)
+{
+    if (chosen.identity.isEmpty())
+        return true;
+    const auto found = volume.volumeIdentity();
+    return found && found.value() == chosen.identity;
+}
+
+QString FreeSpaceWipeWorker::changeText(const QString &volume)
+{
+    return tr("Volume %1 is not the one that was chosen any more.").arg(displayText(volume));
+}
+
+QString FreeSpaceWipeWorker::useText(const QString &folder)
+{
+    return tr("Another job is erasing the free space of this volume; its files are in %1.")
+        .arg(displayText(folder));
 }
 
 // An unmounted volume leaves an empty folder under its name, and the free space there is that of another one.
@@ -228,40 +304,36 @@ platform::Status FreeSpaceWipeWorker::checkMounted(const QString &root)
 // Before the free space is measured: a crash leaves the volume full.
 bool FreeSpaceWipeWorker::cleanUpAfterCrash()
 {
-    const auto before = freeBytes(m_root);
-    const fillfolder::LeftOvers leftOvers = fillfolder::removeLeftOvers(m_root);
-    for (const QString &folder : leftOvers.folders)
-        log(tr("已清理上次中断留下的临时文件: %1").arg(displayText(folder)));
-    return waitForSpace(m_root, before.valueOr(0), leftOvers.bytes);
-}
-
-// What was deleted just before the job is what it is for, and some file systems (XFS) count it as free only
-// moments later: the figure has to stand still for one look.
-platform::Result<qint64> FreeSpaceWipeWorker::settledFreeBytes()
-{
-    const QDeadlineTimer patience(SettlePatience);
-    auto free = freeBytes(m_root);
-    while (free && !patience.hasExpired() && waitUnlessStopped(m_releasePoll)) {
-        const qint64 last = free.value();
-        free = freeBytes(m_root);
-        if (free && free.value() <= last)
-            break;
+    const auto before = freeBytesOf(*m_anchor);
+    LeftOvers leftOvers(*m_anchor);
+    if (const QString folder = leftOvers.inUse(); !folder.isEmpty()) {
+        emit errorOccurred(useText(folder));
+        return false;
     }
-    return free;
+    const LeftOvers::Removed removed = leftOvers.remove();
+    for (const QString &folder : removed.folders)
+        log(tr("已清理上次中断留下的临时文件: %1").arg(displayText(folder)));
+    if (m_space->waitFor([this] { return freeBytesOf(*m_anchor); }, before.valueOr(0), removed.bytes))
+        return true;
+    emit errorOccurred(tr("填充空闲空间失败"));
+    return false;
 }
 
 bool FreeSpaceWipeWorker::createTemporaryFolder()
 {
-    platform::Folders &folders = platform::Platform::current().folders();
-    m_temporaryFolder = m_root + fillfolder::newName();
-    if (const platform::Status created = folders.create(m_temporaryFolder); !created) {
-        qDebug().noquote() << "[FreeSpaceWipe] temporary folder" << created.diagnostic();
-        emit errorOccurred(tr("无法创建临时目录: %1").arg(displayText(m_temporaryFolder)));
+    const platform::Status created = m_folder.create(*m_anchor);
+    if (!created) {
+        diagnose(created);
+        emit errorOccurred(tr("无法创建临时目录: %1").arg(displayText(m_folder.path())));
         return false;
     }
-    if (const platform::Status hidden = folders.hide(m_temporaryFolder); !hidden)
-        qDebug().noquote() << "[FreeSpaceWipe] temporary folder" << hidden.diagnostic();
-    return true;
+    // Another job that has begun at the same moment sees this folder, or is seen here.
+    const QString other = LeftOvers(*m_anchor, m_folder.name()).inUse();
+    if (other.isEmpty())
+        return true;
+    [[maybe_unused]] const platform::Status removed = m_folder.remove(); // told there
+    emit errorOccurred(useText(other));
+    return false;
 }
 
 bool FreeSpaceWipeWorker::runPasses()
@@ -269,12 +341,15 @@ bool FreeSpaceWipeWorker::runPasses()
     const QList<PassPattern> passes = task().method().passes;
     m_totalPasses = static_cast<int>(passes.size());
     // Gone, with its helper, before the residue steps draw from the same generator.
-    ChunkPipeline chunks([this](std::byte *data, qint64 size, const PassPattern &pattern) {
-        fillBuffer(data, size, pattern);
-    });
+    const auto end = qScopeGuard([this] { m_fill.reset(); });
+    RunningJob &job = *this;
+    m_fill.emplace(job, m_folder, *m_space,
+                   FreeSpaceFill::Volume{m_root, m_freeAtStart, task().bufferSizeMB() * MiB});
     if (writesToNewPlaces(m_root))
         task().noteShortfall({ShortfallKind::CopyOnWrite, m_root});
     noteReadBack(false);
+    const qint64 kept = std::min(m_freeAtStart, FreeSpaceFill::reserveFor(m_root));
+    log(tr("保留 %1 作为安全空间，不会被覆写").arg(formatSize(kept)));
     qint64 filledInEvery = std::numeric_limits<qint64>::max();
     int passesRun = 0;
     bool filled = true;
@@ -284,9 +359,8 @@ bool FreeSpaceWipeWorker::runPasses()
         const PassPattern &pattern = passes.at(pass - 1);
         log(tr("第 %1/%2 次覆写 (%3)")
                 .arg(QString::number(pass), QString::number(m_totalPasses), patternLabel(pattern)));
-        m_filledInPass = 0;
-        filled = reclaimSpace() && fillFreeSpace(pattern, chunks);
-        filledInEvery = std::min(filledInEvery, m_filledInPass);
+        filled = m_fill->reclaim() && fillFreeSpace(pattern);
+        filledInEvery = std::min(filledInEvery, m_fill->filled());
         ++passesRun;
         if (!filled)
             emit errorOccurred(tr("填充空闲空间失败"));
@@ -297,6 +371,11 @@ bool FreeSpaceWipeWorker::runPasses()
     if (passesRun > 0 && passesRun == m_totalPasses)
         m_wipedSectors += static_cast<quint64>(filledInEvery) >> 9;
     return filled;
+}
+
+bool FreeSpaceWipeWorker::fillFreeSpace(const PassPattern &pattern)
+{
+    return m_fill->write(pattern);
 }
 
 QString FreeSpaceWipeWorker::patternLabel(const PassPattern &pattern)
@@ -316,28 +395,15 @@ QString FreeSpaceWipeWorker::patternLabel(const PassPattern &pattern)
     return tr("模式: 未知");
 }
 
-qint64 FreeSpaceWipeWorker::removeFillFiles()
+void FreeSpaceWipeWorker::removeFillFiles()
 {
-    qint64 bytes = 0;
-    for (const FillFile &file : std::as_const(m_fillFiles)) {
-        if (const platform::Status removed = platform::Platform::current().files().remove(file.path); removed)
-            bytes += file.bytes;
-        else if (!isAbsent(removed)) {
-            qDebug().noquote() << "[FreeSpaceWipe] fill file" << file.path << removed.diagnostic();
-            task().noteShortfall({ShortfallKind::FillFilesLeft, file.path, file.bytes});
-        }
-    }
-    m_fillFiles.clear();
-    return bytes;
+    m_folder.removeFiles();
 }
 
 platform::Status FreeSpaceWipeWorker::removeTemporaries()
 {
     removeFillFiles();
-    const platform::Status removed = platform::Platform::current().folders().removeEmpty(m_temporaryFolder);
-    if (!removed)
-        qDebug().noquote() << "[FreeSpaceWipe] temporary folder" << removed.diagnostic();
-    return removed;
+    return m_folder.remove();
 }
 
 void FreeSpaceWipeWorker::cleanResidue()
@@ -347,57 +413,41 @@ void FreeSpaceWipeWorker::cleanResidue()
     remember(first, cleanDirectoryEntries());
     if (!first) {
         qDebug().noquote() << "[FreeSpaceWipe] residue" << first.diagnostic();
-        log(tr("文件系统残留清理不完整，错误码: %1").arg(first.code), Warning);
+        log(tr("文件系统残留清理不完整，错误码: %1").arg(first.code), LogLevel::Warning);
     }
 }
 
 platform::Status FreeSpaceWipeWorker::cleanFileRecords()
 {
-    platform::Platform &system = platform::Platform::current();
-    const QString folder = m_temporaryFolder + "/mft_clean"_L1;
-    platform::Status first = system.folders().create(folder);
-    remember(first, system.folders().hide(m_temporaryFolder));
-    {
-        const auto cleanUp = qScopeGuard([&] { remember(first, removeResidueFolder(folder)); });
-        std::array<std::byte, RecordFileBytes> content{};
-        for (int i = 0; i < RecordFiles && !isStopRequested(); ++i) {
-            const auto file = system.files().open(u"%1/%2.tmp"_s.arg(folder, QString::number(i)),
-                                                  platform::OpenMode::CreateFill);
-            remember(first, file.status());
-            if (!file)
-                continue;
-            fillBuffer(content.data(), RecordFileBytes, {PatternType::Random});
-            const auto written = file.value()->write(content.data(), RecordFileBytes);
-            remember(first, written.status());
-            task().noteWritten(written.valueOr(0));
-            // A record that is given back before it reaches the medium has taken none over. The last flush
-            // commits those of all files, at a thousandth of the cost of flushing each.
-            if (i == RecordFiles - 1)
-                remember(first, file.value()->flush());
-        }
-    }
-    return first;
+    return ResidueCleaning(*this, m_folder).cleanFileRecords();
 }
 
 platform::Status FreeSpaceWipeWorker::cleanDirectoryEntries()
 {
-    platform::Folders &folders = platform::Platform::current().folders();
-    const QString folder = m_temporaryFolder + "/dir_clean"_L1;
-    platform::Status first;
-    {
-        const auto cleanUp = qScopeGuard([&] { remember(first, removeResidueFolder(folder)); });
-        for (int i = 0; i < RecordFolders && !isStopRequested(); ++i) {
-            const QString name = QUuid::createUuid().toString(QUuid::WithoutBraces);
-            remember(first, folders.create(u"%1/%2"_s.arg(folder, name)));
-        }
-    }
-    return first;
+    return ResidueCleaning(*this, m_folder).cleanDirectoryEntries();
 }
 
-platform::Status FreeSpaceWipeWorker::removeResidueFolder(const QString &folder)
+void FreeSpaceWipeWorker::note(const QString &message, NoteLevel level)
 {
-    const platform::Status removed = platform::Platform::current().folders().removeTree(folder);
-    if (!removed && !isAbsent(removed))
-        task().noteShortfall({ShortfallKind::FillFilesLeft, folder});
-    return removed;
+    log(message, static_cast<LogLevel>(level));
+}
+
+void FreeSpaceWipeWorker::diagnose(const platform::Status &failure)
+{
+    qDebug().noquote() << "[FreeSpaceWipe]" << m_root << failure.diagnostic();
+}
+
+void FreeSpaceWipeWorker::noteShortfall(const Shortfall &shortfall)
+{
+    task().noteShortfall(shortfall);
+}
+
+void FreeSpaceWipeWorker::noteWritten(qint64 bytes)
+{
+    task().noteWritten(bytes);
+}
+
+void FreeSpaceWipeWorker::fill(std::byte *data, qint64 size, const PassPattern &pattern)
+{
+    fillBuffer(data, size, pattern);
 }

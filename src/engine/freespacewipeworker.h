@@ -1,16 +1,21 @@
 #pragma once
 
 #include "engine/basewipeworker.h"
-#include "platform/files.h"
+#include "engine/fillfolder.h"
+#include "engine/freespacefill.h"
+#include "engine/runningjob.h"
+#include "engine/volumespace.h"
+#include "platform/anchoredfolder.h"
 #include "platform/status.h"
 
-#include <QList>
 #include <QString>
 #include <QStringList>
 
 #include <chrono>
+#include <cstddef>
+#include <memory>
+#include <optional>
 
-class ChunkPipeline;
 struct DiskInfo;
 struct PartitionInfo;
 
@@ -20,7 +25,7 @@ struct PartitionInfo;
 //
 // The task names a volume, or a disk all of whose mounted volumes are wiped one after the other. The first
 // volume that fails ends the job. Whatever ends it, no fill file stays behind.
-class FreeSpaceWipeWorker : public BaseWipeWorker
+class FreeSpaceWipeWorker : public BaseWipeWorker, private RunningJob
 {
     Q_OBJECT
 
@@ -31,8 +36,10 @@ public:
     // The first volume whose first extent lies on the drive, as Devices names it; empty when there is none.
     static QString findDriveForDisk(int diskNumber);
 
-    // How many bytes of a volume's free space are never filled.
-    static qint64 reserveFor(const QString &root);
+    // Why a free-space job must not be started, in words for the user: one of its volumes is not the chosen
+    // one any more, or another job is at work there. Empty when nothing is in the way, and when a volume
+    // cannot be asked: the job tells then.
+    static QString obstacleOf(const WipeTask &task);
 
 public slots:
     void process() override;
@@ -44,22 +51,6 @@ protected:
     std::chrono::milliseconds m_releasePoll{100};
 
 private:
-    struct FillFile
-    {
-        QString path;
-        qint64 bytes = 0;
-    };
-    // One pass over the free space of the current volume. Sizes are bytes.
-    struct Fill
-    {
-        ChunkPipeline &chunks;
-        qint64 chunkLimit = 0;
-        qint64 reserve = 0;   // to stay free
-        qint64 written = 0;   // and flushed
-        qint64 lastFree = -1; // before the last chunk
-        qint64 givenBack = 0; // by others meanwhile
-    };
-
     bool run() override;
     void complete() override;
     QStringList volumesOf(const PartitionInfo &partition);
@@ -67,41 +58,41 @@ private:
     bool wipeVolumes(const QStringList &volumes);
 
     bool wipeVolume(const QString &root);
+    platform::Status openVolume(const QString &root);
     static platform::Status checkMounted(const QString &root);
+    static bool isChosen(platform::AnchoredFolder &volume, const PartitionInfo &chosen);
+    static QString changeText(const QString &volume);
+    static QString useText(const QString &folder);
     bool cleanUpAfterCrash();
-    platform::Result<qint64> settledFreeBytes();
     bool createTemporaryFolder();
     bool runPasses();
     static QString patternLabel(const PassPattern &pattern);
+    bool fillFreeSpace(const PassPattern &pattern);
+    void removeFillFiles();
     platform::Status removeTemporaries();
-    qint64 removeFillFiles();
-
-    bool reclaimSpace();
-    static platform::Result<qint64> freeBytes(const QString &path);
-    bool waitForSpace(const QString &path, qint64 before, qint64 released);
-    bool fillFreeSpace(const PassPattern &pattern, ChunkPipeline &chunks);
-    qint64 reserveForVolume();
-    bool writeFillFiles(Fill &fill);
-    void noteRoomLeft(const Fill &fill);
-    bool endsWithoutFile(const platform::Status &status, const Fill &fill);
-    bool writeFillFile(platform::FileHandle &file, Fill &fill, qint64 &bytesInFile);
-    platform::Result<qint64> writeChunk(platform::FileHandle &file, const Fill &fill, qint64 size,
-                                        qint64 nextSize);
-    bool countFilled(const Fill &fill);
-    static bool isVolumeGone(quint32 code);
-    void logVolumeGone(const platform::Status &status);
     bool failVolumeGone(const platform::Status &status);
 
     void cleanResidue();
     platform::Status cleanFileRecords();
     platform::Status cleanDirectoryEntries();
-    platform::Status removeResidueFolder(const QString &folder);
 
-    QString m_root; // of the current volume, ends in "/" or "\"
-    QString m_temporaryFolder;
-    qint64 m_freeAtStart = 0;    // bytes
-    QList<FillFile> m_fillFiles; // of the current pass
-    qint64 m_freeBeforePass = 0; // bytes
-    qint64 m_filledInPass = 0;   // bytes that the space gave up for the current pass
-    quint64 m_wipedSectors = 0;  // 512-byte units, over all volumes
+    void note(const QString &message, NoteLevel level = RunningJob::Information) override;
+    void reportError(const QString &message) override { emit errorOccurred(message); }
+    void diagnose(const platform::Status &failure) override;
+    void noteShortfall(const Shortfall &shortfall) override;
+    void noteWritten(qint64 bytes) override;
+    bool isStopping() const override { return isStopRequested(); }
+    bool mayGoOn() override { return checkPauseStop(); }
+    bool wait(std::chrono::milliseconds time) override { return waitUnlessStopped(time); }
+    void fill(std::byte *data, qint64 size, const PassPattern &pattern) override;
+    void progress(qint64 done, qint64 total) override { updateProgress(done, total); }
+
+    // Of the current volume, open as long as it is wiped.
+    std::unique_ptr<platform::AnchoredFolder> m_anchor;
+    QString m_root;           // of the current volume, ends in "/" or "\"
+    qint64 m_freeAtStart = 0; // bytes
+    std::optional<VolumeSpace> m_space;
+    FillFolder m_folder{*this};
+    std::optional<FreeSpaceFill> m_fill; // during the passes
+    quint64 m_wipedSectors = 0;          // 512-byte units, over all volumes
 };

@@ -68,6 +68,12 @@ void WipeEngine::deleteTask(WipeTask *task)
     connect(m_thread, &QThread::finished, task, &QObject::deleteLater);
 }
 
+QString WipeEngine::makeReady()
+{
+    const bool isFreeSpaceJob = m_task && !m_running && m_task->operationType() == FreeSpaceWipe;
+    return isFreeSpaceJob ? FreeSpaceWipeWorker::obstacleOf(*m_task) : releaseVolumes();
+}
+
 QString WipeEngine::releaseVolumes()
 {
     if (!m_task || m_running || m_released || m_task->operationType() != DiskWipe || !m_task->isWholeDrive())

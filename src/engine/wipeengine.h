@@ -41,6 +41,10 @@ public:
     // still be in a transfer.
     void deleteTask(WipeTask *task);
 
+    // What has to be settled between the question and start(): a free-space job is asked whether anything is
+    // in its way, for a job on a whole drive releaseVolumes(). Answers as that.
+    QString makeReady();
+
     // Takes the volumes off the drive of a job on all of it, before start(), which leaves them to the job: it
     // gives them back when it ends without having written anything. Given back as well when another task is
     // set and with the engine. Takes as long as the system needs to write out what it holds back. Returns

@@ -36,6 +36,12 @@ void OutcomeRecord::note(const Shortfall &shortfall)
     setOutcome(m_outcome);
 }
 
+void OutcomeRecord::addVolume(const QString &volume)
+{
+    if (!m_volumes.contains(volume))
+        m_volumes.append(volume);
+}
+
 bool OutcomeRecord::hasShortfalls() const
 {
     return std::any_of(m_places.keyBegin(), m_places.keyEnd(), makesPartial);

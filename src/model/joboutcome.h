@@ -57,6 +57,11 @@ public:
     /// figures stay. A place behind MostPlaces counts each time.
     void note(const Shortfall &shortfall);
 
+    /// The volumes that the job worked on, by name as it is, in the order of the work; empty where the job
+    /// was not about volumes.
+    QStringList volumes() const { return m_volumes; }
+    void addVolume(const QString &volume);
+
     /// In the order of the kinds, those of one kind as they were noted.
     QList<Shortfall> shortfalls() const { return listed(true); }
     QList<Shortfall> notes() const { return listed(false); }
@@ -99,6 +104,7 @@ private:
 
     JobOutcome m_outcome = JobOutcome::Failed;
     qint64 m_written = -1;
+    QStringList m_volumes;
     QMap<ShortfallKind, QList<Shortfall>> m_places;
     QMap<ShortfallKind, Further> m_further;
 };

@@ -52,6 +52,12 @@ void OutcomeRecord::writeMembers(JsonWriter &writer, bool withTexts) const
     writer.member(u"outcome", machineName(m_outcome));
     if (m_written >= 0)
         writer.decimalMember(u"written", m_written);
+    if (!m_volumes.isEmpty()) {
+        writer.key(u"volumes").beginArray();
+        for (const QString &volume : m_volumes)
+            writer.value(volume);
+        writer.endArray();
+    }
     writer.key(u"shortfalls").beginArray();
     for (const Shortfall &shortfall : shortfalls())
         shortfall.writeJson(writer, withTexts);
@@ -77,6 +83,11 @@ std::optional<OutcomeRecord> OutcomeRecord::fromJson(const QByteArray &json)
     if (object.value(u"schemaVersion"_s).toInt() < 1 || !outcome)
         return std::nullopt;
     OutcomeRecord record;
+    const QJsonArray volumes = object.value(u"volumes"_s).toArray();
+    for (const QJsonValue volume : volumes) {
+        if (volume.isString())
+            record.addVolume(volume.toString());
+    }
     for (const QString &key : {u"shortfalls"_s, u"notes"_s}) {
         const QJsonArray entries = object.value(key).toArray();
         for (const QJsonValue entry : entries) {

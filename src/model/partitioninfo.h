@@ -15,6 +15,9 @@ struct PartitionInfo
     bool isSystem = false;
     bool isBoot = false;
     qint32 partitionIndex = 0; ///< 0-based position in the disk's list, in order of discovery
+    /// What tells the volume from another that is mounted in its place later; opaque, empty when not known,
+    /// and not stored.
+    QString identity{};
 
     QString formattedTotal() const;
     QString formattedFree() const;

@@ -36,6 +36,9 @@ constexpr std::array kinds{
               QT_TRANSLATE_NOOP("OutcomeRecord", "the drive says that it has no size, nothing was written")},
     KindEntry{ShortfallKind::BeyondDrive, "beyond-drive", true,
               QT_TRANSLATE_NOOP("OutcomeRecord", "volumes reach beyond the drive")},
+    KindEntry{ShortfallKind::NoVolume, "no-volume", true,
+              QT_TRANSLATE_NOOP("OutcomeRecord", "the drive has no mounted volume whose free space could be "
+                                                 "erased")},
     KindEntry{ShortfallKind::NothingWritten, "nothing-written", true,
               QT_TRANSLATE_NOOP("OutcomeRecord", "nothing was written although there was free space")},
     KindEntry{ShortfallKind::RoomLeft, "room-left", true,

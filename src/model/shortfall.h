@@ -18,6 +18,7 @@ enum class ShortfallKind {
     DriveEndUnreached,
     DriveEmpty,
     BeyondDrive,
+    NoVolume,
     NothingWritten,
     RoomLeft,
     LargeReserve,

@@ -225,6 +225,12 @@ qint64 WipeTask::written() const
     return std::max<qint64>(m_outcome.written(), 0);
 }
 
+void WipeTask::noteVolume(const QString &volume)
+{
+    const QMutexLocker locker(&m_outcomeMutex);
+    m_outcome.addVolume(volume);
+}
+
 void WipeTask::setOutcome(JobOutcome outcome)
 {
     const QMutexLocker locker(&m_outcomeMutex);

@@ -102,6 +102,8 @@ public:
     /// Bytes that the medium has taken. To be called where they are written, on any thread.
     void noteWritten(qint64 bytes);
     qint64 written() const; ///< 0 before the job
+    /// A volume that the job begins to work on.
+    void noteVolume(const QString &volume);
     /// The end of the job; complete becomes partial where that was noted.
     void setOutcome(JobOutcome outcome);
     /// Forgets what an earlier run has left.

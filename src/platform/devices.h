@@ -174,6 +174,7 @@ struct MountedVolume
     qint64 freeBytes = 0;
     bool isReady = false; // valid and ready
     bool isLocal = false; // on a fixed or removable drive; not network, optical or memory
+    QString identity{};   // see AnchoredFolder::volumeIdentity; empty when it does not tell
 };
 
 // The drives and volumes of the machine. Thread-safe; nothing is cached but the numbers of drives.

@@ -12,6 +12,8 @@
 
 namespace platform {
 
+class AnchoredFolder;
+
 // Room on a mounted volume, in bytes.
 struct SpaceInfo
 {
@@ -34,6 +36,10 @@ public:
     virtual ~Folders() = default;
     Folders(const Folders &) = delete;
     Folders &operator=(const Folders &) = delete;
+
+    // Opens a folder to work in it, without claiming it. PathNotFound for a link and for everything else that
+    // is no folder.
+    virtual Result<std::unique_ptr<AnchoredFolder>> anchor(const QString &folder) = 0;
 
     // Called once per entry with its name (no path) and kind; false ends the listing, which then counts as
     // success.

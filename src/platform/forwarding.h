@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/anchoredfolder.h"
 #include "platform/devices.h"
 #include "platform/files.h"
 #include "platform/folders.h"
@@ -57,12 +58,49 @@ protected:
     Files &m_target;
 };
 
+class ForwardingAnchoredFolder : public AnchoredFolder
+{
+public:
+    explicit ForwardingAnchoredFolder(std::unique_ptr<AnchoredFolder> target)
+        : m_target(std::move(target))
+    {}
+    QString path() const override { return m_target->path(); }
+    bool isClaimed() const override { return m_target->isClaimed(); }
+    Result<QString> volumeIdentity() override { return m_target->volumeIdentity(); }
+    Result<SpaceInfo> space() override { return m_target->space(); }
+    Status forEachEntry(const Folders::Visitor &visit) override { return m_target->forEachEntry(visit); }
+    Result<FileInfo> info(const QString &name) override { return m_target->info(name); }
+    Result<std::unique_ptr<FileHandle>> createFile(const QString &name) override
+    {
+        return m_target->createFile(name);
+    }
+    Status removeFile(const QString &name) override { return m_target->removeFile(name); }
+    Result<std::unique_ptr<AnchoredFolder>> createFolder(const QString &name) override
+    {
+        return m_target->createFolder(name);
+    }
+    Result<std::unique_ptr<AnchoredFolder>> openFolder(const QString &name) override
+    {
+        return m_target->openFolder(name);
+    }
+    Status hide() override { return m_target->hide(); }
+    Status removeFolder(const QString &name) override { return m_target->removeFolder(name); }
+    Status removeTree(const QString &name) override { return m_target->removeTree(name); }
+
+protected:
+    std::unique_ptr<AnchoredFolder> m_target;
+};
+
 class ForwardingFolders : public Folders
 {
 public:
     explicit ForwardingFolders(Folders &target)
         : m_target(target)
     {}
+    Result<std::unique_ptr<AnchoredFolder>> anchor(const QString &folder) override
+    {
+        return m_target.anchor(folder);
+    }
     Status forEachEntry(const EntryPath &folder, const Visitor &visit) override
     {
         return m_target.forEachEntry(folder, visit);

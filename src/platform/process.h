@@ -38,6 +38,10 @@ Status writeText(StandardStream stream, const QByteArray &text);
 // program with windows, which does not live for its output. Windows: is so anyway. Linux: SIGPIPE.
 void outliveReaders();
 
+// From now on a write beyond the size that files may have for this process fails with FileTooLarge, instead
+// of ending the process. Windows: is so anyway. Linux: SIGXFSZ.
+void outliveSizeLimits();
+
 // Reports take the computer's name from where Windows keeps it, the variable COMPUTERNAME. Before other
 // threads run. Windows: is so anyway. Linux: sets it to the host's name unless it is there.
 void provideComputerName();

@@ -178,6 +178,7 @@ PartitionInfo describeVolume(const platform::MountedVolume &volume)
     partition.driveLetter = volume.name;
     partition.label = displayText(volume.label);
     partition.fileSystem = QString::fromUtf8(volume.fileSystem);
+    partition.identity = volume.identity;
     partition.totalBytes = volume.totalBytes;
     partition.freeBytes = volume.freeBytes;
     partition.usedBytes = volume.totalBytes - volume.freeBytes;

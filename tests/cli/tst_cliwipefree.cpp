@@ -12,6 +12,7 @@
 #include <QJsonObject>
 #include <QJsonValue>
 #include <QMetaObject>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QThread>
@@ -33,6 +34,9 @@ private slots:
     void aDriveNumberMeansAllItsVolumes();
     void aVolumeOfSeveralDrivesIsFound();
     void anUnknownVolumeIsRefusedBeforeAnyIsFilled();
+    void anotherVolumeInItsPlaceIsRefused_data();
+    void anotherVolumeInItsPlaceIsRefused();
+    void aVolumeThatAnotherJobFillsIsRefused();
     void aSystemVolumeIsAllowed();
     void severalVolumesAreSeveralJobs();
     void theSameVolumeTwiceIsOneJob();
@@ -175,6 +179,16 @@ void tst_CliWipeFree::aVolumeOfSeveralDrivesIsFound()
     run(wipeSmall({u"/media/pool"_s}));
     QCOMPARE(run.code, 0);
     QCOMPARE(machine.filled(u"/media/pool"_s), 8 * MiB);
+
+    // It has no drive to be known by in the lists.
+    const QString id = run.io.events(u"finished"_s).constFirst().value(u"certificateId").toString();
+    run.io.out.clear();
+    run({u"reports"_s, u"list"_s});
+    QVERIFY2(run.io.out.contains("volume /media/pool (1.00 GB)"), run.io.out.constData());
+    run.io.out.clear();
+    run({u"reports"_s, u"show"_s, id});
+    const QRegularExpression line(u"^Volume +/media/pool$"_s, QRegularExpression::MultilineOption);
+    QVERIFY2(line.match(QString::fromUtf8(run.io.out)).hasMatch(), run.io.out.constData());
 }
 
 void tst_CliWipeFree::anUnknownVolumeIsRefusedBeforeAnyIsFilled()
@@ -188,6 +202,59 @@ void tst_CliWipeFree::anUnknownVolumeIsRefusedBeforeAnyIsFilled()
         QVERIFY2(run.complains("no such"), run.io.err.constData());
         QCOMPARE(machine.volume.calls, 0);
     }
+}
+
+void tst_CliWipeFree::anotherVolumeInItsPlaceIsRefused_data()
+{
+    QTest::addColumn<QString>("target");
+    QTest::newRow("volume") << u"/media/a"_s;
+    QTest::newRow("drive") << u"0"_s;
+    QTest::newRow("volume of no single drive") << u"/media/pool"_s;
+}
+
+void tst_CliWipeFree::anotherVolumeInItsPlaceIsRefused()
+{
+    QFETCH(const QString, target);
+    Machine machine;
+    machine.devices.drives.insert(1, FakeDrive::usbStick());
+    machine.add(u"/media/a"_s);
+    machine.add(u"/media/pool"_s, {0, 1});
+    const QString root = target == u"/media/pool" ? target : u"/media/a"_s;
+    machine.devices.volumes[root].mounted.identity = u"first"_s;
+    machine.volume.identities.insert(root + u'/', u"first"_s);
+    CliRun run;
+    run.io.inputIsTerminal = run.io.outputIsTerminal = true;
+    run.io.input = QStringList{u"ERASE"_s};
+    run.io.onQuestion = [&] { machine.volume.identities.insert(root + u'/', u"second"_s); };
+    run({u"wipe"_s, u"free"_s, target, u"--buffer-mb"_s, u"1"_s});
+    QCOMPARE(run.code, 3);
+    QVERIFY2(run.complains("Volume " + root.toUtf8() +
+                           " is not the one that was chosen any more. Nothing was written."),
+             run.io.err.constData());
+    QCOMPARE(machine.volume.calls, 0);
+    QVERIFY(machine.volume.entries.isEmpty());
+
+    CliRun unchanged;
+    machine.devices.volumes[root].mounted.identity = u"second"_s;
+    unchanged(wipeSmall({target}));
+    QCOMPARE(unchanged.code, 0);
+}
+
+void tst_CliWipeFree::aVolumeThatAnotherJobFillsIsRefused()
+{
+    Machine machine;
+    machine.add(u"/media/a"_s);
+    const QString folder = u"/media/a/.quorvex_temp_01234567"_s;
+    machine.volume.addFolder(folder);
+    machine.volume.heldByOthers = QStringList{folder};
+    CliRun run;
+    run(wipeSmall({u"/media/a"_s}));
+    QCOMPARE(run.code, 3);
+    QVERIFY2(run.io.err.contains("Another job is erasing the free space of this volume; its files are in " +
+                                 folder.toUtf8() + ". Nothing was written."),
+             run.io.err.constData());
+    QVERIFY(machine.volume.writes.isEmpty());
+    QCOMPARE(machine.volume.pathsBelow(QString()), QStringList{folder});
 }
 
 void tst_CliWipeFree::aSystemVolumeIsAllowed()
@@ -315,6 +382,9 @@ void tst_CliWipeFree::aLargeReserveIsToldBeforeAndAfter()
     large(wipeFree({u"/media/a"_s}));
     QCOMPARE(large.code, 0);
     QVERIFY2(!large.io.err.contains("not everything"), large.io.err.constData());
+    QVERIFY2(large.io.err.contains(
+                 "  a small part of the free space is left as a reserve: /media/a (100.00 MB)\n"),
+             large.io.err.constData());
 }
 
 void tst_CliWipeFree::whatOneVolumeFallsShortOfIsNotForgottenOverTheNext()

@@ -164,16 +164,38 @@ public:
 
 // Shows the reserve as room above what there is, so that nothing is held back and every free block is filled,
 // whatever the allocator's order.
+class WholeSpaceFolder : public platform::ForwardingAnchoredFolder
+{
+public:
+    using Opened = platform::Result<std::unique_ptr<platform::AnchoredFolder>>;
+
+    using ForwardingAnchoredFolder::ForwardingAnchoredFolder;
+    static Opened over(Opened folder)
+    {
+        if (!folder)
+            return folder;
+        return std::unique_ptr<AnchoredFolder>(std::make_unique<WholeSpaceFolder>(folder.take()));
+    }
+    Opened createFolder(const QString &name) override
+    {
+        return over(ForwardingAnchoredFolder::createFolder(name));
+    }
+    platform::Result<platform::SpaceInfo> space() override
+    {
+        auto space = ForwardingAnchoredFolder::space();
+        if (space)
+            space.value().freeBytes += 100 * MiB;
+        return space;
+    }
+};
+
 class WholeSpaceFolders : public platform::ForwardingFolders
 {
 public:
     using ForwardingFolders::ForwardingFolders;
-    platform::Result<platform::SpaceInfo> space(const QString &path) override
+    WholeSpaceFolder::Opened anchor(const QString &folder) override
     {
-        auto space = ForwardingFolders::space(path);
-        if (space)
-            space.value().freeBytes += 100 * MiB;
-        return space;
+        return WholeSpaceFolder::over(ForwardingFolders::anchor(folder));
     }
 };
 

@@ -1,3 +1,4 @@
+#include "engine/fillnames.h"
 #include "engine/freespacefixture.h"
 #include "support/faultplan.h"
 #include "support/memoryvolume.h"
@@ -41,6 +42,8 @@ private slots:
     void fillFileThatCannotBeCreatedOnALostVolumeFails_data();
     void fillFileThatCannotBeCreatedOnALostVolumeFails();
     void fillFileThatCannotBeRemovedDoesNotStopTheOthers();
+    void fillFileThatIsHeldForAMomentIsRemoved();
+    void fillFileThatIsHeldBetweenPassesIsRemovedAtTheEnd();
     void roomThatIsNotGivenIsTold();
     void roomThatOthersGiveBackIsNoCompression();
     void volumeThatCompressesIsNotFilledForEver();
@@ -70,6 +73,11 @@ private slots:
     void nothingElseOfALeftOverIsTouched();
     void leftOverFileWithAFurtherNameGivesNoSpaceBack();
     void emptyResidueFolderOfAnEarlierJobGoesQuietly();
+    void residueOfAKilledJobIsRemoved();
+    void volumeThatAnotherJobFillsIsLeftAlone_data();
+    void volumeThatAnotherJobFillsIsLeftAlone();
+    void jobsThatBeginAtTheSameMomentLeaveEachOtherAlone();
+    void emptyFolderThatNobodyCanClaimIsNoJob();
     void volumeThatACrashLeftFullIsWiped();
 
     // Stop.
@@ -135,6 +143,12 @@ bool mattersToTheResult(FaultPlan::Kind kind, const QString &path)
     default:
         return false;
     }
+}
+
+// The temporary folder is made twice, the second time for the residue steps alone.
+bool isOfTheResidue(quint32 kind, const Job &job)
+{
+    return kind == FaultPlan::CreateFolder && job.logged(u"正在清理文件系统残留..."_s, 0);
 }
 
 constexpr std::array AllKinds{FaultPlan::Open,      FaultPlan::Write, FaultPlan::Flush,
@@ -226,10 +240,10 @@ void tst_FreeSpaceWipeFaults::faultLoop()
         const QString path = machine.volume.faulted.first();
         // The very first look at the free space only serves the wait for that of left-overs.
         const bool matters = mattersToTheResult(static_cast<FaultPlan::Kind>(kind), path) &&
-                             !(kind == FaultPlan::Space && call == 1);
+                             !(kind == FaultPlan::Space && call == 1) && !isOfTheResidue(kind, job);
         QVERIFY2(job.finished.first() == !matters, where);
         QVERIFY2(!matters || !job.log.contains(LogLine{u"空闲空间擦除完成!"_s, 0}), where);
-        if (path.contains(u"_clean"_s))
+        if (path.contains(u"_clean"_s) || isOfTheResidue(kind, job))
             QVERIFY2(job.logged(u"文件系统残留清理不完整，错误码: 1117"_s, 1), where);
         call = nextCall(call, machine.volume);
     }
@@ -268,6 +282,7 @@ void tst_FreeSpaceWipeFaults::lastingFaultLoop()
         bool matters = false;
         for (const QString &path : std::as_const(machine.volume.faulted))
             matters |= mattersToTheResult(static_cast<FaultPlan::Kind>(kind), path);
+        matters = matters && !isOfTheResidue(kind, job);
         QVERIFY2(job.finished.first() == !matters, where);
         call = nextCall(call, machine.volume);
     }
@@ -488,6 +503,54 @@ void tst_FreeSpaceWipeFaults::fillFileThatCannotBeRemovedDoesNotStopTheOthers()
     const QStringList left = fillFilesLeft(machine.volume);
     QCOMPARE(left.size(), 1);
     QVERIFY(left.first().endsWith(u"/fill_000001.tmp"_s));
+}
+
+void tst_FreeSpaceWipeFaults::fillFileThatIsHeldForAMomentIsRemoved()
+{
+    Machine machine;
+    furnish(machine.volume, Reserve + 5 * MiB);
+    int attempts = 0;
+    machine.volume.onCall = [&](FaultPlan::Kind kind, const QString &path) {
+        if (!path.endsWith(u"/fill_000000.tmp"_s) || path.contains(u"0badcafe"_s))
+            return;
+        if (kind == FaultPlan::Open)
+            machine.volume.unremovable = QStringList{path};
+        if (kind == FaultPlan::Remove && ++attempts == 10)
+            machine.volume.unremovable.clear();
+    };
+    Job job;
+    prepare(job);
+    job.setPasses({{PatternType::Zeros}});
+    job.run();
+    QVERIFY(job.succeeded());
+    QCOMPARE(attempts, 10);
+    QCOMPARE(fillFilesLeft(machine.volume), QStringList());
+    QVERIFY(!job.task.outcome().has(ShortfallKind::FillFilesLeft));
+}
+
+void tst_FreeSpaceWipeFaults::fillFileThatIsHeldBetweenPassesIsRemovedAtTheEnd()
+{
+    Machine machine;
+    furnish(machine.volume, Reserve + 5 * MiB);
+    machine.volume.largestFile = 2 * MiB;
+    int passes = 0;
+    Job job;
+    QObject::connect(&job.worker, &BaseWipeWorker::passChanged, &job, [&] { ++passes; });
+    machine.volume.onCall = [&](FaultPlan::Kind kind, const QString &path) {
+        if (kind == FaultPlan::Open && path.endsWith(u"/fill_000001.tmp"_s) && passes == 1)
+            machine.volume.unremovable = QStringList{path};
+        if (kind == FaultPlan::Write && passes == 2)
+            machine.volume.unremovable.clear();
+    };
+    prepare(job);
+    job.run();
+    QVERIFY(job.succeeded());
+    QCOMPARE(fillFilesLeft(machine.volume), QStringList());
+    QVERIFY(!job.task.outcome().has(ShortfallKind::FillFilesLeft));
+    // The second pass filled all but the file of the first, whose name it left alone.
+    QVERIFY(job.task.outcome().shortfalls().contains(Shortfall{ShortfallKind::RoomLeft, Root, 2 * MiB}));
+    QVERIFY(job.logged(u"已写入: 3.00 MB"_s, 0));
+    QCOMPARE(job.wipedSectors(), static_cast<quint64>(3 * MiB / 512));
 }
 
 // A quota, or what is kept for the administrator: there is room that this job does not get.
@@ -761,7 +824,9 @@ void tst_FreeSpaceWipeFaults::volumeThatVanishesLoop()
         machine.volume.vanishAtCall(call, error);
         int residueFrom = 0;
         machine.volume.onCall = [&](FaultPlan::Kind kind, const QString &path) {
-            if (kind == FaultPlan::CreateFolder && path.endsWith(u"/mft_clean"_s))
+            // The temporary folder is made again for the residue steps.
+            if (kind == FaultPlan::CreateFolder && fillnames::isFolder(path.mid(Root.size())) &&
+                !machine.volume.createdFolders.isEmpty() && residueFrom == 0)
                 residueFrom = machine.volume.calls + 1;
         };
         Job job;
@@ -861,12 +926,13 @@ void tst_FreeSpaceWipeFaults::fillFilesOfACrashAreRemovedFirst()
     job.setPasses({{PatternType::Zeros}});
     job.run();
     QVERIFY(job.succeeded());
-    QVERIFY(compareLogs(job.log.mid(4, 5),
+    QVERIFY(compareLogs(job.log.mid(4, 6),
                         {
                             {u"目标分区: /media/data/"_s, 0},
                             {u"已清理上次中断留下的临时文件: /media/data/.quorvex_temp_########"_s, 0},
                             {u"已清理上次中断留下的临时文件: /media/data/.quorvex_temp_########"_s, 0},
                             {u"空闲空间: 112.00 MB"_s, 0},
+                            {u"保留 100.00 MB 作为安全空间，不会被覆写"_s, 0},
                             {u"第 1/1 次覆写 (模式: 0x00)"_s, 0},
                         }));
     QVERIFY(job.logged(u"已写入: 12.00 MB"_s, 0));
@@ -960,6 +1026,112 @@ void tst_FreeSpaceWipeFaults::emptyResidueFolderOfAnEarlierJobGoesQuietly()
     QVERIFY(!machine.volume.entries.contains(Root + u".quorvex_temp_01234567"_s));
     for (const LogLine &line : std::as_const(job.log))
         QVERIFY(!line.text.startsWith(u"已清理"_s));
+}
+
+void tst_FreeSpaceWipeFaults::residueOfAKilledJobIsRemoved()
+{
+    Machine machine;
+    MemoryVolume &volume = machine.volume;
+    volume.freeBytes[Root] = Reserve + MiB;
+    const QString gone = Root + u".quorvex_temp_01234567"_s;
+    const QString uuid = u"/dir_clean/0f8fad5b-d9cb-469f-a165-70867728950e"_s;
+    volume.addFolder(gone);
+    volume.addFolder(gone + u"/mft_clean"_s);
+    for (int i = 0; i < 97; ++i)
+        volume.addFile(gone + u"/mft_clean/%1.tmp"_s.arg(i), 256);
+    volume.addFolder(gone + u"/dir_clean"_s);
+    volume.addFolder(gone + uuid);
+    // The same names with something that no job has made among them.
+    const QString stays = Root + u".quorvex_temp_89abcdef"_s;
+    volume.addFolder(stays);
+    volume.addFolder(stays + u"/mft_clean"_s);
+    volume.addFile(stays + u"/mft_clean/999.tmp"_s, 256);
+    const QStringList foreign{u"/mft_clean/1000.tmp"_s, u"/mft_clean/01.tmp"_s, u"/mft_clean/+1.tmp"_s,
+                              u"/mft_clean/.tmp"_s,     u"/mft_clean/7.TMP"_s,  u"/mft_clean/notes"_s};
+    for (const QString &name : foreign)
+        volume.addFile(stays + name, 256);
+    volume.addFile(stays + u"/mft_clean/5.tmp"_s, 257);
+    volume.addLink(stays + u"/mft_clean/6.tmp"_s);
+    volume.addFolder(stays + u"/dir_clean"_s);
+    volume.addFolder(stays + u"/dir_clean/0F8FAD5B-D9CB-469F-A165-70867728950E"_s);
+    volume.addFolder(stays + uuid);
+    volume.addFile(stays + uuid + u"/letter"_s, 1);
+
+    Job job;
+    prepare(job);
+    job.run();
+    QVERIFY(job.succeeded());
+    QCOMPARE(volume.pathsBelow(gone), QStringList());
+    QVERIFY(!volume.entries.contains(stays + u"/mft_clean/999.tmp"_s));
+    for (const QString &name : foreign)
+        QVERIFY2(volume.entries.contains(stays + name), qPrintable(name));
+    QVERIFY(volume.entries.contains(stays + u"/mft_clean/5.tmp"_s));
+    QVERIFY(volume.entries.contains(stays + u"/mft_clean/6.tmp"_s));
+    QVERIFY(volume.entries.contains(stays + u"/dir_clean/0F8FAD5B-D9CB-469F-A165-70867728950E"_s));
+    QVERIFY(volume.entries.contains(stays + uuid + u"/letter"_s));
+    QCOMPARE(job.count(u"已清理上次中断留下的临时文件: /media/data/.quorvex_temp_########"_s, 0), 1);
+}
+
+void tst_FreeSpaceWipeFaults::volumeThatAnotherJobFillsIsLeftAlone_data()
+{
+    QTest::addColumn<bool>("knowsClaims");
+    QTest::newRow("held") << true;
+    QTest::newRow("nobody can tell") << false;
+}
+
+void tst_FreeSpaceWipeFaults::volumeThatAnotherJobFillsIsLeftAlone()
+{
+    QFETCH(const bool, knowsClaims);
+    Machine machine;
+    furnish(machine.volume, Reserve + 5 * MiB);
+    const QString folder = Root + u".quorvex_temp_0badcafe"_s;
+    machine.volume.knowsClaims = knowsClaims;
+    if (knowsClaims)
+        machine.volume.heldByOthers = QStringList{folder};
+    const QStringList before = machine.volume.pathsBelow(QString());
+    Job job;
+    prepare(job);
+    const QString text =
+        u"Another job is erasing the free space of this volume; its files are in %1."_s.arg(folder);
+    QCOMPARE(FreeSpaceWipeWorker::obstacleOf(job.task), text + u" Nothing was written."_s);
+    job.run();
+    QVERIFY(job.failed());
+    QCOMPARE(job.errors, QStringList{withoutRandom(text)});
+    QCOMPARE(machine.volume.pathsBelow(QString()), before);
+    QVERIFY(machine.volume.createdFolders.isEmpty());
+    QVERIFY(machine.volume.removed.isEmpty());
+}
+
+void tst_FreeSpaceWipeFaults::jobsThatBeginAtTheSameMomentLeaveEachOtherAlone()
+{
+    Machine machine;
+    furnish(machine.volume, Reserve + 5 * MiB);
+    const QString other = Root + u".quorvex_temp_89abcdef"_s;
+    machine.volume.onCall = [&](FaultPlan::Kind kind, const QString &) {
+        if (kind != FaultPlan::CreateFolder)
+            return;
+        machine.volume.addFolder(other);
+        machine.volume.heldByOthers = QStringList{other};
+    };
+    Job job;
+    prepare(job);
+    job.run();
+    QVERIFY(job.failed());
+    QVERIFY(machine.volume.writes.isEmpty());
+    QCOMPARE(machine.volume.pathsBelow(Root).filter(u"quorvex_temp"_s), QStringList{other});
+}
+
+void tst_FreeSpaceWipeFaults::emptyFolderThatNobodyCanClaimIsNoJob()
+{
+    Machine machine;
+    machine.volume.freeBytes[Root] = Reserve + MiB;
+    machine.volume.addFolder(Root + u".quorvex_temp_01234567"_s);
+    machine.volume.knowsClaims = false;
+    Job job;
+    prepare(job);
+    QCOMPARE(FreeSpaceWipeWorker::obstacleOf(job.task), QString());
+    job.run();
+    QVERIFY(job.succeeded());
 }
 
 void tst_FreeSpaceWipeFaults::volumeThatACrashLeftFullIsWiped()

@@ -1,4 +1,4 @@
-#include "engine/fillfolder.h"
+#include "engine/fillnames.h"
 #include "engine/freespacefixture.h"
 #include "model/wipereport.h"
 #include "support/faultplan.h"
@@ -101,6 +101,7 @@ void tst_FreeSpaceWipeWorker::oneVolumeJobLogsLineByLine()
                                      {u"文件系统: NTFS"_s, 0},
                                      {u"目标分区: E:/"_s, 0},
                                      {u"空闲空间: 112.00 MB"_s, 0},
+                                     {u"保留 100.00 MB 作为安全空间，不会被覆写"_s, 0},
                                      {u"第 1/2 次覆写 (模式: 0x00)"_s, 0},
                                      {u"空闲空间已填满"_s, 0},
                                      {u"已写入: 12.00 MB"_s, 0},
@@ -137,6 +138,7 @@ void tst_FreeSpaceWipeWorker::twoVolumeJobLogsLineByLine()
                                      {u"========== 分区 1/2: /media/a =========="_s, 0},
                                      {u"目标分区: /media/a/"_s, 0},
                                      {u"空闲空间: 3.00 MB"_s, 0},
+                                     {u"保留 3.00 MB 作为安全空间，不会被覆写"_s, 0},
                                      {u"第 1/1 次覆写 (模式: 0XA5)"_s, 0},
                                      {u"空闲空间已填满"_s, 0},
                                      {u"已写入: 0 B"_s, 0},
@@ -145,6 +147,7 @@ void tst_FreeSpaceWipeWorker::twoVolumeJobLogsLineByLine()
                                      {u"========== 分区 2/2: / =========="_s, 0},
                                      {u"目标分区: /"_s, 0},
                                      {u"空闲空间: 1.00 GB"_s, 0},
+                                     {u"保留 1.00 GB 作为安全空间，不会被覆写"_s, 0},
                                      {u"第 1/1 次覆写 (模式: 0XA5)"_s, 0},
                                      {u"检测到系统分区，保留 1 GB 安全空间"_s, 0},
                                      {u"空闲空间已填满"_s, 0},
@@ -659,24 +662,24 @@ void tst_FreeSpaceWipeWorker::temporaryFolderIsHiddenAndNamedAtRandom()
 
 void tst_FreeSpaceWipeWorker::fillFileNamesHaveSixDigits()
 {
-    QCOMPARE(fillfolder::fileName(0), u"fill_000000.tmp"_s);
-    QCOMPARE(fillfolder::fileName(123456), u"fill_123456.tmp"_s);
-    QVERIFY(fillfolder::isFileName(u"fill_000123.tmp"));
-    QVERIFY(!fillfolder::isFileName(u"fill_00123.tmp"));
-    QVERIFY(!fillfolder::isFileName(u"fill_0000123.tmp"));
-    QVERIFY(!fillfolder::isFileName(u"fill_00012a.tmp"));
-    QVERIFY(!fillfolder::isFileName(u"fill_+00123.tmp"));
-    QVERIFY(!fillfolder::isFileName(u"fill_٠٠٠١٢٣.tmp")); // digits, but not these
-    QVERIFY(!fillfolder::isFileName(u"Fill_000123.tmp"));
-    QVERIFY(!fillfolder::isFileName(u"fill_000123.tmpx"));
-    QVERIFY(!fillfolder::isFileName(u"fill_000123.TMP"));
-    QVERIFY(fillfolder::isName(fillfolder::newName()));
-    QVERIFY(fillfolder::isName(u".quorvex_temp_0123abcd"));
-    QVERIFY(!fillfolder::isName(u".quorvex_temp_0123ABCD"));
-    QVERIFY(!fillfolder::isName(u".quorvex_temp_0123abc"));
-    QVERIFY(!fillfolder::isName(u".quorvex_temp_0123abcde"));
-    QVERIFY(!fillfolder::isName(u".quorvex_temp_0123abcg"));
-    QVERIFY(!fillfolder::isName(u"quorvex_temp_0123abcd"));
+    QCOMPARE(fillnames::file(0), u"fill_000000.tmp"_s);
+    QCOMPARE(fillnames::file(123456), u"fill_123456.tmp"_s);
+    QVERIFY(fillnames::isFile(u"fill_000123.tmp"));
+    QVERIFY(!fillnames::isFile(u"fill_00123.tmp"));
+    QVERIFY(!fillnames::isFile(u"fill_0000123.tmp"));
+    QVERIFY(!fillnames::isFile(u"fill_00012a.tmp"));
+    QVERIFY(!fillnames::isFile(u"fill_+00123.tmp"));
+    QVERIFY(!fillnames::isFile(u"fill_٠٠٠١٢٣.tmp")); // digits, but not these
+    QVERIFY(!fillnames::isFile(u"Fill_000123.tmp"));
+    QVERIFY(!fillnames::isFile(u"fill_000123.tmpx"));
+    QVERIFY(!fillnames::isFile(u"fill_000123.TMP"));
+    QVERIFY(fillnames::isFolder(fillnames::newFolder()));
+    QVERIFY(fillnames::isFolder(u".quorvex_temp_0123abcd"));
+    QVERIFY(!fillnames::isFolder(u".quorvex_temp_0123ABCD"));
+    QVERIFY(!fillnames::isFolder(u".quorvex_temp_0123abc"));
+    QVERIFY(!fillnames::isFolder(u".quorvex_temp_0123abcde"));
+    QVERIFY(!fillnames::isFolder(u".quorvex_temp_0123abcg"));
+    QVERIFY(!fillnames::isFolder(u"quorvex_temp_0123abcd"));
 }
 
 void tst_FreeSpaceWipeWorker::recordFilesAndFoldersAreMadeAndRemoved()
@@ -804,6 +807,7 @@ void tst_FreeSpaceWipeWorker::reportOfTwoVolumesIsTheirSum()
     job.run();
     QVERIFY(job.succeeded());
     QCOMPARE(job.wipedSectors(), static_cast<quint64>(7 * MiB / 512));
+    QCOMPARE(job.task.outcome().volumes(), (QStringList{u"E:"_s, u"F:"_s}));
 }
 
 void tst_FreeSpaceWipeWorker::roomGivenBackMeanwhileIsFilledToo()

@@ -46,6 +46,7 @@ private slots:
     void howMuchOfTheFreeSpaceIsLarge();
     void roomThatIsNotGiven();
     void roomThatIsNotGivenAfterTheFirstChunk();
+    void roomLessThanAChunkThatIsNotGiven();
     void aFillFileThatCannotBeMade();
     void aLaterFillFileThatCannotBeMade();
     void fillFilesThatStay();
@@ -359,6 +360,23 @@ void tst_Shortfalls::roomThatIsNotGivenAfterTheFirstChunk()
     QCOMPARE(shortfalls(job.task), (QList<Shortfall>{{ShortfallKind::RoomLeft, Root, 1899 * MiB}}));
 }
 
+void tst_Shortfalls::roomLessThanAChunkThatIsNotGiven()
+{
+    freespace::Machine machine;
+    freespace::Job job;
+    prepare(machine, job, 2000 * MiB);
+    job.task.setBufferSizeMB(64);
+    machine.volume.largestFile = 1850 * MiB;
+    // The volume takes all but the last 50 MiB.
+    machine.volume.onCall = [&](FaultPlan::Kind kind, const QString &path) {
+        if (kind == FaultPlan::Open && path.endsWith(u"/fill_000001.tmp"_s))
+            machine.volume.largestFile = 1;
+    };
+    job.run();
+    QVERIFY(job.succeeded());
+    QCOMPARE(shortfalls(job.task), (QList<Shortfall>{{ShortfallKind::RoomLeft, Root, 50 * MiB - 1}}));
+}
+
 void tst_Shortfalls::aFillFileThatCannotBeMade()
 {
     freespace::Machine machine;
@@ -435,8 +453,11 @@ void tst_Shortfalls::aDriveWithoutVolumes()
     job.setDisk(7, {});
     job.run();
     QVERIFY(job.succeeded());
-    QCOMPARE(job.task.outcome().notes(),
-             (QList<Shortfall>{{ShortfallKind::NoFreeByte, job.task.disk().displayName()}}));
+    const QList<Shortfall> expected{{ShortfallKind::NoVolume, job.task.disk().displayName()}};
+    QCOMPARE(shortfalls(job.task), expected);
+    QCOMPARE(foreseeableShortfalls(job.task).shortfalls(), expected);
+    job.task.setOutcome(JobOutcome::Complete);
+    QCOMPARE(job.task.outcome().outcome(), JobOutcome::Partial);
 }
 
 void tst_Shortfalls::nothingIsForeseenForAnEmptyDrive()
@@ -488,9 +509,11 @@ void tst_Shortfalls::aLargeReserveIsForeseen()
     QCOMPARE(foreseeableShortfalls(task).shortfalls(),
              (QList<Shortfall>{{ShortfallKind::LargeReserve, u"F:"_s, 100 * MiB},
                                {ShortfallKind::LargeReserve, u"S:"_s, 1024 * MiB}}));
-    QVERIFY(foreseeableShortfalls(task).notes().isEmpty());
+    const QList<Shortfall> small{{ShortfallKind::ReserveKept, u"E:"_s, 100 * MiB}};
+    QCOMPARE(foreseeableShortfalls(task).notes(), small);
     task.setPartition(disk.partitions.first());
     QVERIFY(!foreseeableShortfalls(task).hasShortfalls());
+    QCOMPARE(foreseeableShortfalls(task).notes(), small);
 }
 
 void tst_Shortfalls::linksAreForeseen()

@@ -65,8 +65,8 @@ void tst_JobOutcome::everyKindHasANameAndALine()
         names.insert(kindName(kind));
         texts.insert(kindText(kind));
     }
-    QCOMPARE(names.size(), 23);
-    QCOMPARE(texts.size(), 23);
+    QCOMPARE(names.size(), 24);
+    QCOMPARE(texts.size(), 24);
     QCOMPARE(allShortfallKinds().last(), ShortfallKind::NoFreeByte);
     // These words stand in scripts and in databases.
     QCOMPARE(kindName(ShortfallKind::OnlyVolumes), u"only-volumes");
@@ -243,6 +243,15 @@ void tst_JobOutcome::jsonIsAsDocumented()
              R"({"schemaVersion":1,"outcome":"partial","shortfalls":[{"kind":"only-volumes","place":"",)"
              R"("bytes":"9007199254740993"}],"notes":[{"kind":"other-names","place":"/x","count":"2"}],)"
              R"("further":[]})");
+
+    OutcomeRecord volumes(JobOutcome::Complete);
+    volumes.addVolume(u"E:"_s);
+    volumes.addVolume(u"/media/ä"_s);
+    volumes.addVolume(u"E:"_s);
+    QCOMPARE(volumes.toJson(), R"({"schemaVersion":1,"outcome":"complete","volumes":["E:","/media/ä"],)"
+                               R"("shortfalls":[],"notes":[],"further":[]})");
+    QCOMPARE(OutcomeRecord::fromJson(volumes.toJson()), volumes);
+    QCOMPARE(volumes.volumes(), (QStringList{u"E:"_s, u"/media/ä"_s}));
 }
 
 void tst_JobOutcome::jsonComesBack()

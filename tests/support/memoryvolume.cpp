@@ -1,5 +1,7 @@
 #include "support/memoryvolume.h"
 
+#include "platform/anchoredfolder.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -41,6 +43,65 @@ public:
 private:
     MemoryVolume &m_volume;
     const QString m_path;
+};
+
+class MemoryVolume::Folder : public platform::AnchoredFolder
+{
+public:
+    Folder(MemoryVolume &volume, const QString &path, bool isClaimed)
+        : m_volume(volume)
+        , m_path(path)
+        , m_isClaimed(isClaimed)
+    {}
+    QString path() const override { return m_path; }
+    bool isClaimed() const override { return m_isClaimed; }
+    platform::Result<QString> volumeIdentity() override
+    {
+        return m_volume.identities.value(m_volume.rootOf(m_path));
+    }
+    platform::Result<platform::SpaceInfo> space() override { return m_volume.space(m_path); }
+    platform::Status forEachEntry(const Visitor &visit) override
+    {
+        return m_volume.forEachEntry(m_path, visit);
+    }
+    platform::Result<platform::FileInfo> info(const QString &name) override
+    {
+        return m_volume.info(entry(name));
+    }
+    platform::Result<std::unique_ptr<platform::FileHandle>> createFile(const QString &name) override
+    {
+        if (m_volume.entries.contains(entry(name)))
+            return failure(platform::AlreadyExists);
+        return m_volume.open(entry(name), platform::OpenMode::CreateFill);
+    }
+    platform::Status removeFile(const QString &name) override { return m_volume.remove(entry(name)); }
+    platform::Result<std::unique_ptr<AnchoredFolder>> createFolder(const QString &name) override
+    {
+        if (m_volume.entries.contains(entry(name)))
+            return failure(platform::AlreadyExists);
+        if (const auto created = m_volume.create(entry(name)); !created)
+            return created;
+        return openFolder(name);
+    }
+    platform::Result<std::unique_ptr<AnchoredFolder>> openFolder(const QString &name) override
+    {
+        if (m_volume.heldByOthers.contains(entry(name)))
+            return failure(platform::SharingViolation);
+        if (!m_volume.isFolder(entry(name)))
+            return failure(platform::PathNotFound);
+        return std::unique_ptr<AnchoredFolder>(
+            std::make_unique<Folder>(m_volume, entry(name), m_volume.knowsClaims));
+    }
+    platform::Status hide() override { return m_volume.hide(m_path); }
+    platform::Status removeFolder(const QString &name) override { return m_volume.removeEmpty(entry(name)); }
+    platform::Status removeTree(const QString &name) override { return m_volume.removeTree(entry(name)); }
+
+private:
+    QString entry(const QString &name) const { return platform::entryPathOf(m_path, name); }
+
+    MemoryVolume &m_volume;
+    const QString m_path;
+    const bool m_isClaimed;
 };
 
 void MemoryVolume::vanishAtCall(int call, platform::ErrorCode error)
@@ -148,6 +209,13 @@ platform::Status MemoryVolume::remove(const platform::EntryPath &place)
     }
     forget(path);
     return {};
+}
+
+platform::Result<std::unique_ptr<platform::AnchoredFolder>> MemoryVolume::anchor(const QString &folder)
+{
+    if (!isFolder(folder))
+        return failure(platform::PathNotFound);
+    return std::unique_ptr<platform::AnchoredFolder>(std::make_unique<Folder>(*this, folder, false));
 }
 
 platform::Status MemoryVolume::forEachEntry(const platform::EntryPath &place, const Visitor &visit)

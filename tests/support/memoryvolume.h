@@ -55,6 +55,9 @@ public:
     qint64 largestFile = 0;               // 0: any size
     platform::ElsewhereReasons elsewhere; // what contentPlace() tells of every path
     QStringList unremovable;              // remove() fails with SharingViolation
+    QMap<QString, QString> identities;    // of the volumes, by root
+    QStringList heldByOthers;             // folders that somebody else has claimed
+    bool knowsClaims = true;              // whether folders can be claimed at all
 
     // What tests look at.
     QList<Write> writes;
@@ -90,7 +93,8 @@ public:
     platform::Status rename(const platform::EntryPath &, const platform::EntryPath &) override;
     platform::Status remove(const platform::EntryPath &place) override;
 
-    // Folders.
+    // Folders. What is anchored is reached by its path here.
+    platform::Result<std::unique_ptr<platform::AnchoredFolder>> anchor(const QString &folder) override;
     platform::Status forEachEntry(const platform::EntryPath &folder, const Visitor &visit) override;
     // No folder is ever held here.
     platform::Result<std::shared_ptr<platform::FolderHandle>> hold(const QString &folder) override;
@@ -106,6 +110,7 @@ public:
 
 private:
     class Handle;
+    class Folder;
 
     static platform::Status failure(quint32 code) { return {code, 0, "memory volume"}; }
     static QString parentOf(const QString &path);

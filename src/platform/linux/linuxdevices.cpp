@@ -4,6 +4,7 @@
 #include "platform/linux/devicerelease.h"
 #include "platform/linux/drivedescription.h"
 #include "platform/linux/linuxreleasedvolumes.h"
+#include "platform/linux/volumeidentity.h"
 #include "platform/linux/volumelabel.h"
 #include "platform/storagereplies.h"
 
@@ -266,6 +267,7 @@ QList<MountedVolume> LinuxDevices::mountedVolumes()
             mounted.totalBytes = static_cast<qint64>(room.f_blocks) * static_cast<qint64>(room.f_frsize);
             mounted.freeBytes = static_cast<qint64>(room.f_bfree) * static_cast<qint64>(room.f_frsize);
             mounted.isReady = true;
+            mounted.identity = volumeIdentityAt(volume.name, m_tree);
         }
         volumes.append(mounted);
     }

@@ -5,8 +5,10 @@
 #include "platform/linux/linuxfileid.h"
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
+#include <bit>
 #include <cstdint>
 #include <cstring>
 #include <limits>
@@ -21,6 +23,8 @@ constexpr qint64 LargestBounce = qint64(1024) * 1024;
 // bytes would have the device flushed a second time, which takes longer than everything else about a small
 // file.
 constexpr qint64 LargestCachedWrite = 256LL * 1024;
+constexpr qint64 LargestFileUnit = 65536;
+constexpr qint64 LargestMemoryUnit = 4096; // what every AlignedBuffer keeps
 // Far beyond any file, and rounding up to whole units cannot overflow.
 constexpr qint64 EndOfPositions = std::numeric_limits<qint64>::max() - LargestBounce;
 
@@ -45,7 +49,36 @@ bool isOutOfRoom(int error)
     return error == ENOSPC || error == EDQUOT || error == EFBIG;
 }
 
+[[maybe_unused]] bool isUnit(quint32 value, qint64 largest)
+{
+    return std::has_single_bit(value) && value <= largest;
+}
+
 } // namespace
+
+#ifdef STATX_DIOALIGN
+const unsigned int DirectTransfersMask = STATX_DIOALIGN;
+#else
+const unsigned int DirectTransfersMask = 0;
+#endif
+
+DirectTransfers directTransfersOf([[maybe_unused]] const struct statx &file)
+{
+    DirectTransfers direct;
+    direct.possible = true;
+#ifdef STATX_DIOALIGN
+    if (file.stx_mask & STATX_DIOALIGN) {
+        // Zeros where the file system takes the flag and then works through the page cache after all.
+        direct.possible = isUnit(file.stx_dio_offset_align, LargestFileUnit) &&
+                          isUnit(file.stx_dio_mem_align, LargestMemoryUnit);
+        if (direct.possible) {
+            direct.fileUnit = file.stx_dio_offset_align;
+            direct.memoryUnit = file.stx_dio_mem_align;
+        }
+    }
+#endif
+    return direct;
+}
 
 LinuxFileHandle::LinuxFileHandle(OpenedFile file)
     : m_file(std::move(file.descriptor))

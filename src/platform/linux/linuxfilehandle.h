@@ -4,6 +4,8 @@
 #include "platform/files.h"
 #include "platform/linux/filedescriptor.h"
 
+struct statx;
+
 namespace platform {
 
 // What a file demands of transfers past the page cache.
@@ -13,6 +15,12 @@ struct DirectTransfers
     qint64 memoryUnit = 4096; // the buffer begins on a multiple of it
     qint64 fileUnit = 4096;   // position and length are multiples of it
 };
+
+// What has to be asked of statx for them.
+extern const unsigned int DirectTransfersMask;
+
+// Of a file that is opened with O_DIRECT.
+DirectTransfers directTransfersOf(const struct statx &file);
 
 struct OpenedFile
 {

@@ -14,15 +14,11 @@
 #include <sys/vfs.h>
 #include <unistd.h>
 
-#include <bit>
 #include <cstdio>
 
 namespace platform {
 
 namespace {
-
-constexpr qint64 LargestFileUnit = 65536;
-constexpr qint64 LargestMemoryUnit = 4096; // what every AlignedBuffer keeps
 
 int flagsOf(OpenMode mode)
 {
@@ -72,11 +68,6 @@ Result<struct statx> look(const EntryAt &entry, unsigned int wanted)
     return found;
 }
 
-bool isUnit(quint32 value, qint64 largest)
-{
-    return std::has_single_bit(value) && value <= largest;
-}
-
 // Where O_DSYNC is kept by the kernel itself. A file system in user space may take the flag and forget about
 // it, and others are not known well enough: they are flushed once more.
 bool keepsWriteThrough(int file)
@@ -95,41 +86,42 @@ bool keepsWriteThrough(int file)
     }
 }
 
-DirectTransfers directTransfersOf([[maybe_unused]] const struct statx &file)
+// Not a constant: a part of it is told by another file.
+unsigned int infoMask()
 {
-    DirectTransfers direct;
-    direct.possible = true;
-#ifdef STATX_DIOALIGN
-    if (file.stx_mask & STATX_DIOALIGN) {
-        // Zeros where the file system takes the flag and then works through the page cache after all.
-        direct.possible = isUnit(file.stx_dio_offset_align, LargestFileUnit) &&
-                          isUnit(file.stx_dio_mem_align, LargestMemoryUnit);
-        if (direct.possible) {
-            direct.fileUnit = file.stx_dio_offset_align;
-            direct.memoryUnit = file.stx_dio_mem_align;
-        }
-    }
-#endif
-    return direct;
+    return STATX_TYPE | STATX_SIZE | STATX_NLINK | FileIdMask;
+}
+
+FileInfo infoFrom(const struct statx &file)
+{
+    FileInfo info;
+    info.kind = fileKindFromMode(file.stx_mode);
+    info.size = info.kind == FileKind::Regular ? static_cast<qint64>(file.stx_size) : 0;
+    info.linkCount = qMax(1, static_cast<int>(file.stx_nlink));
+    info.id = fileIdFrom(file);
+    return info;
 }
 
 } // namespace
+
+Result<FileInfo> fileInfoAt(int folder, const char *name)
+{
+    const Result<struct statx> found = look({folder, name}, infoMask());
+    if (!found)
+        return found.status();
+    return infoFrom(found.value());
+}
 
 Result<FileInfo> LinuxFiles::info(const EntryPath &entry)
 {
     const Result<EntryAt> at = locate(entry);
     if (!at)
         return at.status();
-    const Result<struct statx> found = look(at.value(), STATX_TYPE | STATX_SIZE | STATX_NLINK | FileIdMask);
+    const Result<struct statx> found = look(at.value(), infoMask());
     if (!found)
         return found.status();
-    const struct statx &file = found.value();
-    FileInfo info;
-    info.kind = fileKindFromMode(file.stx_mode);
-    info.size = info.kind == FileKind::Regular ? static_cast<qint64>(file.stx_size) : 0;
-    info.linkCount = qMax(1, static_cast<int>(file.stx_nlink));
-    info.id = fileIdFrom(file);
-    info.isMounted = !at.value().refusalOf(file);
+    FileInfo info = infoFrom(found.value());
+    info.isMounted = !at.value().refusalOf(found.value());
     return info;
 }
 
@@ -160,11 +152,7 @@ Result<std::unique_ptr<FileHandle>> LinuxFiles::open(const EntryPath &entry, Ope
         return statusFromErrno(errno, "open");
 
     struct statx opened = {};
-    unsigned int mask = STATX_TYPE | MountMask;
-#ifdef STATX_DIOALIGN
-    mask |= STATX_DIOALIGN;
-#endif
-    if (::statx(file.get(), "", AT_EMPTY_PATH, mask, &opened) != 0)
+    if (::statx(file.get(), "", AT_EMPTY_PATH, STATX_TYPE | MountMask | DirectTransfersMask, &opened) != 0)
         return statusFromErrno(errno, "statx");
     if (const Status refusal = refusalOf(opened.stx_mode, "statx"); !refusal)
         return refusal;

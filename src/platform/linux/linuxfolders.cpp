@@ -3,17 +3,16 @@
 #include "platform/filenames.h"
 #include "platform/linux/directoryentries.h"
 #include "platform/linux/errnotable.h"
+#include "platform/linux/linuxanchoredfolder.h"
 #include "platform/linux/linuxfolderhandle.h"
 #include "platform/linux/treeremoval.h"
+#include "platform/linux/volumespace.h"
 
 #include <QList>
 
 #include <fcntl.h>
 #include <sys/stat.h>
-#include <sys/statvfs.h>
 #include <unistd.h>
-
-#include <limits>
 
 namespace platform {
 
@@ -40,16 +39,12 @@ Status makeFolder(const QByteArray &path)
     return status;
 }
 
-// Some network file systems count more blocks than 63 bits have bytes.
-qint64 bytesIn(quint64 blocks, quint64 blockSize)
-{
-    constexpr auto Most = static_cast<quint64>(std::numeric_limits<qint64>::max());
-    if (blockSize != 0 && blocks > Most / blockSize)
-        return std::numeric_limits<qint64>::max();
-    return static_cast<qint64>(blocks * blockSize);
-}
-
 } // namespace
+
+Result<std::unique_ptr<AnchoredFolder>> LinuxFolders::anchor(const QString &folder)
+{
+    return LinuxAnchoredFolder::open(folder);
+}
 
 Status LinuxFolders::forEachEntry(const EntryPath &folder, const Visitor &visit)
 {
@@ -174,10 +169,7 @@ Result<SpaceInfo> LinuxFolders::space(const QString &path)
         uninterrupted([&] { return ::open(name.value().constData(), O_PATH | O_NOFOLLOW | O_CLOEXEC); }));
     if (!opened.isValid())
         return statusFromErrno(errno, "open");
-    struct statvfs volume = {};
-    if (uninterrupted([&] { return ::fstatvfs(opened.get(), &volume); }) != 0)
-        return statusFromErrno(errno, "fstatvfs");
-    return SpaceInfo{bytesIn(volume.f_blocks, volume.f_frsize), bytesIn(volume.f_bfree, volume.f_frsize)};
+    return spaceOf(opened.get());
 }
 
 } // namespace platform

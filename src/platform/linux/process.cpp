@@ -122,6 +122,11 @@ void outliveReaders()
     ::signal(SIGPIPE, SIG_IGN);
 }
 
+void outliveSizeLimits()
+{
+    ::signal(SIGXFSZ, SIG_IGN);
+}
+
 void provideComputerName()
 {
     if (qEnvironmentVariableIsEmpty("COMPUTERNAME"))

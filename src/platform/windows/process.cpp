@@ -199,6 +199,9 @@ Status writeText(StandardStream stream, const QByteArray &text)
 void outliveReaders()
 {}
 
+void outliveSizeLimits()
+{}
+
 void provideComputerName()
 {}
 

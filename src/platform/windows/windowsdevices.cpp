@@ -1,6 +1,7 @@
 #include "platform/windows/windowsdevices.h"
 
 #include "platform/storagereplies.h"
+#include "platform/windows/volumeidentity.h"
 #include "platform/windows/windowsquery.h"
 #include "platform/windows/windowsrawdevice.h"
 #include "platform/windows/windowsreleasedvolumes.h"
@@ -188,6 +189,7 @@ QList<MountedVolume> WindowsDevices::mountedVolumes()
             mounted.fileSystem = storage.fileSystemType();
             mounted.totalBytes = storage.bytesTotal();
             mounted.freeBytes = storage.bytesFree();
+            mounted.identity = volumeIdentityAt(mounted.rootPath);
         }
         volumes.append(mounted);
     }

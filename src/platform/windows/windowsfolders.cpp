@@ -5,6 +5,7 @@
 #include "platform/windows/folderlisting.h"
 #include "platform/windows/lasterror.h"
 #include "platform/windows/treeremoval.h"
+#include "platform/windows/windowsanchoredfolder.h"
 #include "platform/windows/windowsfolderhandle.h"
 #include "platform/windows/windowspaths.h"
 
@@ -34,6 +35,11 @@ qint64 bytesOf(const ULARGE_INTEGER &bytes)
 }
 
 } // namespace
+
+Result<std::unique_ptr<AnchoredFolder>> WindowsFolders::anchor(const QString &folder)
+{
+    return WindowsAnchoredFolder::open(folder);
+}
 
 Status WindowsFolders::forEachEntry(const EntryPath &folder, const Visitor &visit)
 {

@@ -89,7 +89,7 @@ private:
     void takeDiskSelection();
     bool hasObstacles();
     bool isConfirmed();
-    bool releaseVolumes();
+    bool isReady();
     QString erasedVolumesText() const;
     void setMenuEnabled(bool enabled);
 

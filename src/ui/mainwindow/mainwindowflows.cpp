@@ -149,6 +149,11 @@ bool MainWindow::isConfirmed()
     ConfirmDialog confirmation(this);
     if (const QString volumes = erasedVolumesText(); !volumes.isEmpty())
         confirmation.addNotice(volumes);
+    if (m_currentTask->operationType() == FreeSpaceWipe) {
+        const OutcomeRecord foreseen = foreseeableShortfalls(*m_currentTask);
+        if (const QStringList lines = foreseen.shortfallLines() + foreseen.noteLines(); !lines.isEmpty())
+            confirmation.addNotice(lines.join(u'\n'));
+    }
     if (m_currentTask->operationType() == DiskWipe) {
         const QList<Shortfall> foreseen = foreseeableShortfalls(*m_currentTask).shortfalls();
         if (!foreseen.isEmpty())
@@ -161,14 +166,17 @@ bool MainWindow::isConfirmed()
 }
 
 // The system writes out what it holds back for a volume, which takes its time.
-bool MainWindow::releaseVolumes()
+bool MainWindow::isReady()
 {
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-    const QString problem = m_engine->releaseVolumes();
+    const QString problem = m_engine->makeReady();
     QGuiApplication::restoreOverrideCursor();
     if (problem.isEmpty())
         return true;
-    Prompts::current().warning(this, tr("This Disk Cannot Be Erased"), problem);
+    const QString title = m_currentTask->operationType() == FreeSpaceWipe
+                              ? tr("This Volume Cannot Be Erased")
+                              : tr("This Disk Cannot Be Erased");
+    Prompts::current().warning(this, title, problem);
     return false;
 }
 
@@ -181,7 +189,7 @@ void MainWindow::onStartWipe()
     if (!isConfirmed())
         return;
     m_engine->setTask(m_currentTask);
-    if (!releaseVolumes())
+    if (!isReady())
         return;
     m_progressPage->reset();
     m_progressPage->setMethod(method.name);

@@ -68,6 +68,7 @@ int runDesktopProgram(int &argc, char **argv)
     // A terminal that is closed, or a program that restarted this one, takes the reader of the trace with it.
     platform::outliveReaders();
     platform::liftOpenFileLimit();
+    platform::outliveSizeLimits();
     platform::provideComputerName();
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     QApplication application(argc, argv);

@@ -10,7 +10,9 @@
 #include "ui/mainwindow/mainwindow.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QDir>
+#include <QLabel>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTreeWidget>
@@ -25,6 +27,7 @@ class tst_FreeSpaceFlow : public QObject
 private slots:
     void initTestCase();
     void freeSpaceIsErasedAndFilesStay();
+    void theReserveIsNamedInTheQuestion();
     void aVolumeThatIsGoneFailsTheJob();
 };
 
@@ -102,6 +105,26 @@ void tst_FreeSpaceFlow::freeSpaceIsErasedAndFilesStay()
     QCOMPARE(QDir(volume.mountPoint()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), before);
     const QString pdf = exports.filePath(report.certificateId + u".pdf"_s);
     QVERIFY(contentOf(pdf).startsWith("%PDF-"));
+}
+
+void tst_FreeSpaceFlow::theReserveIsNamedInTheQuestion()
+{
+    const QTemporaryDir folder;
+    const LoopMount volume(folder.path(), {.fileSystem = LoopMount::Ext4, .sizeBytes = Size});
+    QVERIFY2(volume.isReady(), qPrintable(volume.error()));
+    WindowFixture fixture(std::make_unique<Machine>(volume));
+    chooseVolume(fixture);
+    QString notice;
+    fixture.dialogs.answers = {[&](QDialog &dialog) {
+        const auto *label = dialog.findChild<QLabel *>(u"dialogNotice"_s);
+        notice = label ? label->text() : QString();
+        dialog.reject();
+    }};
+    QVERIFY(fixture.click(u"Start"_s));
+    QTRY_VERIFY(fixture.dialogs.answers.isEmpty());
+    QVERIFY2(notice.contains(u"left as a reserve: %1 (100.00 MB)"_s.arg(volume.mountPoint())),
+             qPrintable(notice));
+    QVERIFY(fixture.reports().isEmpty());
 }
 
 void tst_FreeSpaceFlow::aVolumeThatIsGoneFailsTheJob()

@@ -1,0 +1,180 @@
+#include "platform/linux/linuxanchoredfolder.h"
+
+#include "platform/filenames.h"
+#include "platform/linux/directoryentries.h"
+#include "platform/linux/errnotable.h"
+#include "platform/linux/filekind.h"
+#include "platform/linux/linuxfilehandle.h"
+#include "platform/linux/linuxfileid.h"
+#include "platform/linux/linuxfiles.h"
+#include "platform/linux/treeremoval.h"
+#include "platform/linux/volumeidentity.h"
+#include "platform/linux/volumespace.h"
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cstdio>
+
+namespace platform {
+
+namespace {
+
+constexpr int FolderFlags = O_DIRECTORY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC;
+
+Result<QByteArray> component(const QString &name)
+{
+    const QByteArray bytes = encodeName(name);
+    if (bytes.isEmpty() || bytes == "." || bytes == ".." || bytes.contains('/') || bytes.contains('\0'))
+        return Status{InvalidParameter, 0, "name"};
+    return bytes;
+}
+
+// A folder that may not be listed can still have files made in it.
+FileDescriptor openFolderAt(int above, const char *name)
+{
+    const auto openAs = [&](int how) {
+        return FileDescriptor(uninterrupted([&] { return ::openat(above, name, how | FolderFlags); }));
+    };
+    FileDescriptor folder = openAs(O_RDONLY);
+    return !folder.isValid() && errno == EACCES ? openAs(O_PATH) : std::move(folder);
+}
+
+// Held with the descriptor; nothing where the file system has no locks.
+Result<bool> claim(int folder)
+{
+    if (uninterrupted([&] { return ::flock(folder, LOCK_EX | LOCK_NB); }) == 0)
+        return true;
+    if (errno == EWOULDBLOCK)
+        return Status{SharingViolation, errno, "flock"};
+    return false;
+}
+
+} // namespace
+
+Result<std::unique_ptr<AnchoredFolder>> LinuxAnchoredFolder::open(const QString &path)
+{
+    const Result<QByteArray> name = encodePath(path);
+    if (!name)
+        return name.status();
+    FileDescriptor folder = openFolderAt(AT_FDCWD, name.value().constData());
+    if (!folder.isValid())
+        return statusFromErrno(errno, "open");
+    return std::unique_ptr<AnchoredFolder>(
+        std::make_unique<LinuxAnchoredFolder>(std::move(folder), path, false));
+}
+
+Result<QString> LinuxAnchoredFolder::volumeIdentity()
+{
+    return volumeIdentityOf(m_folder.get(), SystemTree());
+}
+
+Result<SpaceInfo> LinuxAnchoredFolder::space()
+{
+    return spaceOf(m_folder.get());
+}
+
+Status LinuxAnchoredFolder::forEachEntry(const Folders::Visitor &visit)
+{
+    // With a position of its own.
+    FileDescriptor listed(
+        uninterrupted([&] { return ::openat(m_folder.get(), ".", O_RDONLY | FolderFlags); }));
+    if (!listed.isValid())
+        return statusFromErrno(errno, "openat");
+    return readEntries(std::move(listed), [&](const char *entry, FileKind kind) {
+        return visit(decodeName(QByteArrayView(entry)), kind);
+    });
+}
+
+Result<FileInfo> LinuxAnchoredFolder::info(const QString &name)
+{
+    const Result<QByteArray> entry = component(name);
+    if (!entry)
+        return entry.status();
+    return fileInfoAt(m_folder.get(), entry.value().constData());
+}
+
+Result<std::unique_ptr<FileHandle>> LinuxAnchoredFolder::createFile(const QString &name)
+{
+    const Result<QByteArray> entry = component(name);
+    if (!entry)
+        return entry.status();
+    constexpr int Flags = O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
+    OpenedFile file;
+    file.descriptor = FileDescriptor(uninterrupted(
+        [&] { return ::openat(m_folder.get(), entry.value().constData(), Flags, S_IRUSR | S_IWUSR); }));
+    if (!file.descriptor.isValid())
+        return statusFromErrno(errno, "openat");
+    // Asked for afterwards: an opening that is refused for its sake has made the file by then.
+    file.directOn = ::fcntl(file.descriptor.get(), F_SETFL, O_DIRECT) == 0;
+    struct statx opened = {};
+    if (file.directOn && ::statx(file.descriptor.get(), "", AT_EMPTY_PATH, DirectTransfersMask, &opened) == 0)
+        file.direct = directTransfersOf(opened);
+    return std::unique_ptr<FileHandle>(std::make_unique<LinuxFileHandle>(std::move(file)));
+}
+
+Status LinuxAnchoredFolder::removeFile(const QString &name)
+{
+    return remove(name, 0);
+}
+
+Result<std::unique_ptr<AnchoredFolder>> LinuxAnchoredFolder::createFolder(const QString &name)
+{
+    const Result<QByteArray> entry = component(name);
+    if (!entry)
+        return entry.status();
+    if (::mkdirat(m_folder.get(), entry.value().constData(), S_IRWXU) != 0)
+        return statusFromErrno(errno, "mkdirat");
+    return openFolder(name);
+}
+
+Result<std::unique_ptr<AnchoredFolder>> LinuxAnchoredFolder::openFolder(const QString &name)
+{
+    const Result<QByteArray> entry = component(name);
+    if (!entry)
+        return entry.status();
+    FileDescriptor folder(uninterrupted(
+        [&] { return ::openat(m_folder.get(), entry.value().constData(), O_RDONLY | FolderFlags); }));
+    if (!folder.isValid())
+        return statusFromErrno(errno, "openat");
+    const Result<bool> claimed = claim(folder.get());
+    if (!claimed)
+        return claimed.status();
+    return std::unique_ptr<AnchoredFolder>(
+        std::make_unique<LinuxAnchoredFolder>(std::move(folder), entryPathOf(m_path, name), claimed.value()));
+}
+
+Status LinuxAnchoredFolder::removeFolder(const QString &name)
+{
+    return remove(name, AT_REMOVEDIR);
+}
+
+Status LinuxAnchoredFolder::removeTree(const QString &name)
+{
+    const Result<QByteArray> entry = component(name);
+    if (!entry)
+        return entry.status();
+    struct stat found = {};
+    if (::fstatat(m_folder.get(), entry.value().constData(), &found, AT_SYMLINK_NOFOLLOW) != 0)
+        return statusFromErrno(errno, "fstatat");
+    if (!S_ISDIR(found.st_mode))
+        return statusFromErrno(ENOTDIR, "fstatat");
+    FileDescriptor parent(::fcntl(m_folder.get(), F_DUPFD_CLOEXEC, 0));
+    if (!parent.isValid())
+        return statusFromErrno(errno, "fcntl");
+    return TreeRemoval(std::move(parent)).run(entry.value());
+}
+
+Status LinuxAnchoredFolder::remove(const QString &name, int flags)
+{
+    const Result<QByteArray> entry = component(name);
+    if (!entry)
+        return entry.status();
+    if (::unlinkat(m_folder.get(), entry.value().constData(), flags) != 0)
+        return statusFromErrno(errno, "unlinkat");
+    return {};
+}
+
+} // namespace platform

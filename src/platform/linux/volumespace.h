@@ -1,0 +1,10 @@
+#pragma once
+
+#include "platform/folders.h"
+
+namespace platform {
+
+// Room on the volume of an open file or folder.
+Result<SpaceInfo> spaceOf(int file);
+
+} // namespace platform

@@ -1,0 +1,163 @@
+#include "support/loopmount.h"
+#include "support/suite.h"
+#include "support/testfiles.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QJsonValue>
+#include <QProcess>
+#include <QProcessEnvironment>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+// The program, started as by a script, on mounted volumes of the test's own.
+class tst_ProgramVolumes : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup();
+    void aLimitOfFileSizesEndsInAReport();
+    void whatAKilledJobLeftIsRemovedByTheNext();
+    void aSecondProgramIsRefused();
+
+private:
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<LoopMount> m_volume;
+};
+
+namespace {
+
+constexpr qint64 MiB = 1'048'576;
+
+// Started with construction; one data folder each.
+struct Program
+{
+    explicit Program(const LoopMount &volume, const QString &before = {})
+    {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(u"XDG_DATA_HOME"_s, home.path());
+        environment.insert(u"LC_ALL"_s, u"C.UTF-8"_s);
+        process.setProcessEnvironment(environment);
+        process.setProcessChannelMode(QProcess::MergedChannels);
+        // The shell sets limits and becomes the program.
+        process.start(u"/bin/sh"_s,
+                      {u"-c"_s, before + u" exec \"$@\""_s, u"sh"_s, QStringLiteral(QUORVEX_CLI), u"wipe"_s,
+                       u"free"_s, volume.mountPoint(), u"--yes"_s, u"--buffer-mb"_s, u"1"_s, u"--report"_s,
+                       home.filePath(u"report.json"_s)},
+                      QIODevice::ReadOnly);
+    }
+    int code()
+    {
+        process.waitForFinished(-1);
+        output += process.readAll();
+        return process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
+    }
+    QJsonObject report() const
+    {
+        return QJsonDocument::fromJson(contentOf(home.filePath(u"report.json"_s))).object();
+    }
+
+    QTemporaryDir home;
+    QProcess process;
+    QByteArray output;
+};
+
+QStringList below(const LoopMount &volume, const QString &pattern)
+{
+    QStringList found;
+    const QDir root(volume.mountPoint());
+    for (const QString &name : root.entryList({u".quorvex_temp_*"_s}, QDir::Dirs | QDir::Hidden)) {
+        for (const QString &entry :
+             QDir(root.filePath(name)).entryList({pattern}, QDir::AllEntries | QDir::NoDotAndDotDot))
+            found.append(root.filePath(name) + u'/' + entry);
+    }
+    return found;
+}
+
+} // namespace
+
+void tst_ProgramVolumes::initTestCase()
+{
+    if (const QString reason = LoopMount::unavailableReason(LoopMount::Ext4); !reason.isEmpty())
+        QSKIP(qPrintable(reason));
+}
+
+void tst_ProgramVolumes::init()
+{
+    m_folder = std::make_unique<QTemporaryDir>();
+    m_volume = std::make_unique<LoopMount>(m_folder->path(), LoopMount::Options{.sizeBytes = 300 * MiB});
+    QVERIFY2(m_volume->isReady(), qPrintable(m_volume->error()));
+}
+
+void tst_ProgramVolumes::cleanup()
+{
+    m_volume.reset();
+    m_folder.reset();
+}
+
+void tst_ProgramVolumes::aLimitOfFileSizesEndsInAReport()
+{
+    // Blocks of 512 bytes for a POSIX shell: less than a buffer, more than database and log come to.
+    Program program(*m_volume, u"ulimit -f 1500;"_s);
+    QCOMPARE(program.code(), 1);
+    QVERIFY2(program.output.contains("PARTLY DONE"), program.output.constData());
+    QVERIFY(program.output.contains("free space was left that could not be filled"));
+    QCOMPARE(program.report().value(u"operationType"), QJsonValue(2));
+    QVERIFY(below(*m_volume, u"*"_s).isEmpty());
+}
+
+void tst_ProgramVolumes::whatAKilledJobLeftIsRemovedByTheNext()
+{
+    {
+        Program killed(*m_volume);
+        QVERIFY(killed.process.waitForStarted(-1));
+        // In the last phase, with some of its files made.
+        QTRY_VERIFY_WITH_TIMEOUT(below(*m_volume, u"mft_clean"_s).size() == 1 ||
+                                     killed.process.state() == QProcess::NotRunning,
+                                 600'000);
+        killed.process.kill();
+        QCOMPARE(killed.code(), -1);
+    }
+    const QStringList left = below(*m_volume, u"mft_clean"_s);
+    QCOMPARE(left.size(), 1);
+
+    Program next(*m_volume);
+    const int code = next.code();
+    QVERIFY2(code == 1, next.output.constData()); // the reserve is large on this small volume
+    QVERIFY(next.output.contains("PARTLY DONE"));
+    QVERIFY(!QFileInfo::exists(left.first()));
+    QVERIFY(below(*m_volume, u"*"_s).isEmpty());
+}
+
+void tst_ProgramVolumes::aSecondProgramIsRefused()
+{
+    Program first(*m_volume);
+    QTRY_VERIFY_WITH_TIMEOUT(
+        !below(*m_volume, u"fill_*"_s).isEmpty() || first.process.state() == QProcess::NotRunning, 600'000);
+    first.process.waitForStarted(-1);
+    // It stands still, so that it cannot end before the second has begun.
+    QProcess::execute(u"kill"_s, {u"-STOP"_s, QString::number(first.process.processId())});
+    Program second(*m_volume);
+    const int code = second.code();
+    const QStringList files = below(*m_volume, u"fill_*"_s);
+    QProcess::execute(u"kill"_s, {u"-CONT"_s, QString::number(first.process.processId())});
+    QVERIFY2(code == 3, second.output.constData());
+    QVERIFY2(second.output.contains("Another job is erasing the free space of this volume"),
+             second.output.constData());
+    QVERIFY(!QFileInfo::exists(second.home.filePath(u"report.json"_s)));
+    QVERIFY(!files.isEmpty());
+    const int firstCode = first.code();
+    QVERIFY2(firstCode == 1 && first.output.contains("PARTLY DONE"), first.output.constData());
+    QVERIFY(!first.output.contains("could not be filled"));
+}
+
+QUORVEX_SUITE(tst_ProgramVolumes, QCoreApplication)
+#include "tst_programvolumes.moc"
