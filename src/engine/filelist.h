@@ -5,6 +5,7 @@
 #include <QSet>
 #include <QString>
 
+#include <cstddef>
 #include <vector>
 
 // A file, link or special file in a folder of a tree.
@@ -32,7 +33,13 @@ public:
     QSet<QString> namesIn(HeldTree::Folder folder) const;
 
 private:
+    HeldTree::Folder folderOf(quint32 file) const
+    {
+        return m_firstAs[static_cast<std::size_t>(m_files[file].folder)];
+    }
+
     const HeldTree &m_tree;
     const std::vector<FileEntry> &m_files;
+    std::vector<HeldTree::Folder> m_firstAs; // by folder
     std::vector<quint32> m_byFolder;
 };

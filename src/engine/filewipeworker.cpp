@@ -681,6 +681,8 @@ void FileWipeWorker::removeFolders()
 
 void FileWipeWorker::complete()
 {
+    // A volume can be unmounted as soon as the job is over.
+    m_tree.releaseAll();
     const int samples = m_sampling.samplesRead();
     task().updateReport([samples](WipeReport &report) {
         report.verificationSampleSize = samples;

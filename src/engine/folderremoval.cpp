@@ -28,6 +28,8 @@ void FolderRemoval::remove(const std::vector<HeldTree::Folder> &folders)
         const HeldTree::Folder topOfB = meant[static_cast<std::size_t>(b)];
         return topOfA != topOfB ? topOfA < topOfB : a > b;
     });
+    // One of them may be held on another way too.
+    m_tree.releaseAll();
     for (const HeldTree::Folder folder : order)
         removeFolder(folder);
 }
@@ -50,6 +52,7 @@ std::vector<HeldTree::Folder> FolderRemoval::topsAmong(const HeldTree &tree,
 void FolderRemoval::removeFolder(HeldTree::Folder folder)
 {
     platform::Platform &system = platform::Platform::current();
+    m_tree.release(folder);
     const auto entry = m_tree.asEntry(folder);
     const auto found = entry ? system.files().info(entry.value()) : entry.status();
     if (isAbsent(found.status()))
@@ -62,7 +65,6 @@ void FolderRemoval::removeFolder(HeldTree::Folder folder)
         m_observer.replaced(m_tree.path(folder));
         return;
     }
-    m_tree.release(folder);
     Status removed = system.folders().removeEmpty(entry.value());
     // A folder that may not be changed refuses to go on some systems.
     if (removed.code == platform::AccessDenied && system.files().clearReadOnly(entry.value()))

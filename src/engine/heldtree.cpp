@@ -131,6 +131,12 @@ void HeldTree::release(Folder folder)
     std::erase_if(m_held, [folder](const Held &held) { return held.folder == folder; });
 }
 
+void HeldTree::releaseAll()
+{
+    const QMutexLocker locker(&m_mutex);
+    m_held.clear();
+}
+
 Result<HeldTree::Handle> HeldTree::hold(Folder folder)
 {
     const QMutexLocker locker(&m_mutex);

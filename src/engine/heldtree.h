@@ -49,8 +49,10 @@ public:
     // Whether what was found under the name of a folder is still that folder.
     bool isSame(Folder folder, const platform::FileInfo &found) const;
 
-    // Lets go of a folder that is about to be removed.
+    // Lets go of a folder that is about to be removed: on some systems nobody can while it is held.
     void release(Folder folder);
+    // The same of all of them.
+    void releaseAll();
 
 private:
     using Handle = std::shared_ptr<platform::FolderHandle>;

@@ -82,6 +82,7 @@ private slots:
     void aFileThatCannotBeDeletedIsNotFoundAnew();
     void aStopLeavesLateFilesStanding();
     void oneFolderGivenTwice();
+    void aTargetThatIsMovedAway();
 };
 
 void tst_LateFiles::aFileThatAppears_data()
@@ -255,6 +256,21 @@ void tst_LateFiles::oneFolderGivenTwice()
     QVERIFY(!QFileInfo::exists(s.folder));
     QVERIFY(s.job.lines().filter(u"任务期间又出现"_s).isEmpty());
     QVERIFY(s.shortfalls().isEmpty());
+}
+
+// Held no longer by the time it is listed again.
+void tst_LateFiles::aTargetThatIsMovedAway()
+{
+    Scenario s;
+    for (int i = 0; i < 150; ++i)
+        s.job.makeFile(u"many/%1/file"_s.arg(i), Secret);
+    s.at(said::deleting, [&] { QFile::rename(s.folder, s.job.path(u"away"_s)); });
+    QVERIFY(s.job.run({s.folder, s.job.path(u"many"_s)}));
+    QVERIFY(!QFileInfo::exists(s.job.path(u"many"_s)));
+    QCOMPARE(s.shortfalls(),
+             (QList<Shortfall>{{ShortfallKind::EntryVanished, s.folder + u"/a"_s},
+                               {ShortfallKind::EntryVanished, s.folder + u"/sub/b"_s}}));
+    QVERIFY(s.job.lines().filter(u"无法读取文件夹"_s).isEmpty());
 }
 
 QUORVEX_SUITE(tst_LateFiles, QCoreApplication)
