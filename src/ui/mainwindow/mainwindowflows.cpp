@@ -173,9 +173,8 @@ bool MainWindow::isReady()
     QGuiApplication::restoreOverrideCursor();
     if (problem.isEmpty())
         return true;
-    const QString title = m_currentTask->operationType() == FreeSpaceWipe
-                              ? tr("This Volume Cannot Be Erased")
-                              : tr("This Disk Cannot Be Erased");
+    const QString title = m_currentTask->operationType() == FreeSpaceWipe ? tr("This Volume Cannot Be Erased")
+                                                                          : tr("This Disk Cannot Be Erased");
     Prompts::current().warning(this, title, problem);
     return false;
 }
