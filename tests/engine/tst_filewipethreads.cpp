@@ -34,6 +34,7 @@ private slots:
     void filesAreOverwrittenSideBySide();
     void neverMoreFilesAtOnceThanThreads();
     void aBatchWaitsForTheOneBefore();
+    void aSlowFileDoesNotHoldUpItsBatch();
     void deletionHappensOnTheWorkersThread();
 
     void aStopBeforeTheJob();
@@ -159,6 +160,37 @@ void tst_FileWipeThreads::aBatchWaitsForTheOneBefore()
     };
     QVERIFY(job.run(files));
     QCOMPARE(flushedAtFifth.load(), 4);
+}
+
+// Twice as many files as threads: one thread does the other three meanwhile.
+void tst_FileWipeThreads::aSlowFileDoesNotHoldUpItsBatch()
+{
+    FileJob job;
+    job.task.setThreadCount(2);
+    QMutex mutex;
+    QWaitCondition changed;
+    int flushed = 0;
+    int flushedMeanwhile = -1;
+    QStringList files;
+    for (int i = 0; i < 8; ++i)
+        files += job.makeFile(QString::number(i), 10);
+    job.files.hook = [&](const FileCall &call) {
+        if (call.mode != OpenMode::Overwrite)
+            return Status();
+        const QMutexLocker locker(&mutex);
+        if (call.kind == FaultPlan::Flush) {
+            ++flushed;
+            changed.wakeAll();
+        } else if (call.kind == FaultPlan::Write && call.path == files.at(0)) {
+            const QDeadlineTimer deadline(10'000);
+            while (flushed < 3 && changed.wait(&mutex, deadline)) {
+            }
+            flushedMeanwhile = flushed;
+        }
+        return Status();
+    };
+    QVERIFY(job.run(files));
+    QCOMPARE(flushedMeanwhile, 3);
 }
 
 void tst_FileWipeThreads::deletionHappensOnTheWorkersThread()

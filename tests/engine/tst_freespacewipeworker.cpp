@@ -3,6 +3,7 @@
 #include "model/wipereport.h"
 #include "support/faultplan.h"
 #include "support/memoryvolume.h"
+#include "support/messagecapture.h"
 #include "support/suite.h"
 
 #include <QCoreApplication>
@@ -40,6 +41,7 @@ private slots:
     void diskWithoutPartitionsIsWipedThroughItsVolume();
     void diskWithoutAnyVolumeIsDoneWithTheWarning();
     void volumeOfADiskIsTheOneWhoseFirstExtentLiesOnIt();
+    void developersAreToldWhatIsLookedFor();
     void volumeOfADiskMayHave33Extents();
     void unreadableVolumesArePassedOver();
     void rootsAreTakenAsGiven_data();
@@ -244,6 +246,32 @@ void tst_FreeSpaceWipeWorker::volumeOfADiskIsTheOneWhoseFirstExtentLiesOnIt()
     QCOMPARE(FreeSpaceWipeWorker::findDriveForDisk(2), QString());
     QCOMPARE(machine.devices.openHandles, 0);
     QCOMPARE(machine.devices.mostOpenHandles, 1);
+}
+
+void tst_FreeSpaceWipeWorker::developersAreToldWhatIsLookedFor()
+{
+    Machine machine;
+    machine.devices.mount(FakeVolume::onDrives(u"E:"_s, {5}));
+    {
+        const MessageCapture messages;
+        FreeSpaceWipeWorker::findDriveForDisk(5);
+        QCOMPARE(messages.texts(QtDebugMsg),
+                 (QStringList{u"findDriveForDisk: searching for disk 5"_s, u"  Drive \"E:\" is on disk 5"_s,
+                              u"  Found matching drive: \"E:\""_s}));
+    }
+    {
+        const MessageCapture messages;
+        FreeSpaceWipeWorker::findDriveForDisk(4);
+        QCOMPARE(messages.texts(QtDebugMsg).last(), u"findDriveForDisk: no drive found for disk 4"_s);
+    }
+    const MessageCapture messages;
+    Job job;
+    job.setVolume(u"E:"_s);
+    job.run();
+    const QStringList told = messages.texts(QtDebugMsg);
+    for (const QString &text :
+         {u"Partition driveLetter: \"E:\""_s, u"Disk number: "_s, u"Disk partitions count: 0"_s})
+        QVERIFY2(!told.filter(text).isEmpty(), qPrintable(text + u" not in "_s + told.join(u'\n')));
 }
 
 void tst_FreeSpaceWipeWorker::volumeOfADiskMayHave33Extents()
@@ -703,16 +731,19 @@ void tst_FreeSpaceWipeWorker::recordFilesAndFoldersAreMadeAndRemoved()
 
     const QString folder = machine.volume.createdFolders.first();
     QStringList names;
+    QSet<quint8> bytes;
     for (const auto &write : std::as_const(machine.volume.writes)) {
         if (!write.path.startsWith(folder + u"/mft_clean/"_s))
             continue;
         QCOMPARE(write.size, 256);
+        bytes += {write.first, write.last};
         names.append(write.path.mid(folder.size() + 11));
     }
     QCOMPARE(names.size(), 1000);
     QCOMPARE(names.first(), u"0.tmp"_s);
     QCOMPARE(names.at(10), u"10.tmp"_s);
     QCOMPARE(names.last(), u"999.tmp"_s);
+    QVERIFY(bytes.size() > 200); // 2,000 at random
 
     const QStringList folders = machine.volume.createdFolders.filter(folder + u"/dir_clean/"_s);
     QCOMPARE(folders.size(), 100);
