@@ -2,6 +2,7 @@
 
 #include "platform/files.h"
 #include "platform/platform.h"
+#include "platform/process.h"
 
 #include <QMutexLocker>
 
@@ -17,9 +18,16 @@ namespace {
 // Enough for the jobs of a batch to find theirs, few beside what a process may have open.
 constexpr std::size_t MostHeld = 96;
 // Beyond these a path has to do.
-constexpr int MostPinned = 256;
+constexpr std::size_t MostPinned = 256;
 // Of the folders on the way to one that was opened again: going up from there needs them next.
 constexpr std::size_t MostOnTheWay = 32;
+
+// Not more than a quarter of what the process may still have open.
+std::size_t affordable(std::size_t most)
+{
+    constexpr std::size_t Least = 2;
+    return std::clamp(static_cast<std::size_t>(platform::spareOpenFiles()) / 4, Least, most);
+}
 
 Folders &folders()
 {
@@ -27,6 +35,11 @@ Folders &folders()
 }
 
 } // namespace
+
+HeldTree::HeldTree()
+    : m_mostHeld(affordable(MostHeld))
+    , m_mostPinned(affordable(MostPinned))
+{}
 
 Result<HeldTree::Folder> HeldTree::addTop(const QString &path)
 {
@@ -36,7 +49,7 @@ Result<HeldTree::Folder> HeldTree::addTop(const QString &path)
     if (!handle)
         return handle.status();
     Node node{.parent = None, .name = path};
-    if (!handle.value()->id() && m_pinned < MostPinned) {
+    if (!handle.value()->id() && m_pinned < m_mostPinned) {
         node.pinned = handle.value();
         ++m_pinned;
     }
@@ -156,7 +169,7 @@ Result<HeldTree::Handle> HeldTree::hold(Folder folder)
         if (!opened)
             return opened.status();
         handle = opened.take();
-        if (way.size() < MostOnTheWay)
+        if (way.size() < std::min(MostOnTheWay, m_mostHeld))
             keep(next, handle);
     }
     return handle;
@@ -197,7 +210,7 @@ void HeldTree::keep(Folder folder, const Handle &handle)
         *known = {folder, handle, ++m_clock};
         return;
     }
-    if (m_held.size() >= MostHeld)
+    if (m_held.size() >= m_mostHeld)
         m_held.erase(std::ranges::min_element(m_held, {}, &Held::used));
     m_held.push_back({folder, handle, ++m_clock});
 }

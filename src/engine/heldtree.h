@@ -25,6 +25,9 @@ public:
     using Folder = int;
     static constexpr Folder None = -1;
 
+    // How many folders are open at a time depends on how many the process may have open by then.
+    HeldTree();
+
     // A folder as the system resolves its path, now; what the path leads to later does not matter.
     platform::Result<Folder> addTop(const QString &path);
     // A folder in one of the tree; the same one again when it is still that.
@@ -93,8 +96,10 @@ private:
     std::vector<Node> m_nodes;
     QHash<Name, Folder> m_byName;
     QHash<platform::FileId, Folder> m_firstById;
-    int m_pinned = 0; // tops that are
-    QMutex m_mutex;   // guards what follows
+    std::size_t m_mostHeld;
+    std::size_t m_mostPinned;
+    std::size_t m_pinned = 0; // tops that are
+    QMutex m_mutex;           // guards what follows
     std::vector<Held> m_held;
     quint64 m_clock = 0;
 };

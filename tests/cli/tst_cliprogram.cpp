@@ -323,13 +323,16 @@ void tst_CliProgram::aStopAtAnyMomentIsTold()
     QVERIFY(told > 0);
 }
 
-// Threads of their own for many files need more descriptors than there are here.
+// One descriptor for each thread and each folder would be more than there are here.
 void tst_CliProgram::fewOpenFilesAreEnough()
 {
     const QByteArray folder = inFolder("many");
     QCOMPARE(::mkdir(folder.constData(), 0700), 0);
-    for (int i = 0; i < 40; ++i)
-        writeBytes(folder + '/' + QByteArray::number(i), QByteArray(5000, 'x'));
+    for (int i = 0; i < 40; ++i) {
+        const QByteArray inner = folder + '/' + QByteArray::number(i);
+        QCOMPARE(::mkdir(inner.constData(), 0700), 0);
+        writeBytes(inner + "/a", QByteArray(5000, 'x'));
+    }
     ProgramRun run;
     run.openFiles = 24;
     run({"wipe", "files", folder, "--yes", "--threads", "32"});
