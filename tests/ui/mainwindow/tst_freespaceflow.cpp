@@ -2,6 +2,8 @@
 #include "ui/mainwindow/windowfixture.h"
 
 #include "model/wipereport.h"
+#include "platform/anchoredfolder.h"
+#include "platform/folders.h"
 #include "support/fakedevices.h"
 #include "support/loopmount.h"
 #include "support/onlythisdrive.h"
@@ -13,6 +15,7 @@
 #include <QDialog>
 #include <QDir>
 #include <QLabel>
+#include <QMessageBox>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTreeWidget>
@@ -28,6 +31,7 @@ private slots:
     void initTestCase();
     void freeSpaceIsErasedAndFilesStay();
     void theReserveIsNamedInTheQuestion();
+    void aVolumeThatAnotherJobFillsIsRefused();
     void aVolumeThatIsGoneFailsTheJob();
 };
 
@@ -125,6 +129,33 @@ void tst_FreeSpaceFlow::theReserveIsNamedInTheQuestion()
     QVERIFY2(notice.contains(u"left as a reserve: %1 (100.00 MB)"_s.arg(volume.mountPoint())),
              qPrintable(notice));
     QVERIFY(fixture.reports().isEmpty());
+}
+
+void tst_FreeSpaceFlow::aVolumeThatAnotherJobFillsIsRefused()
+{
+    const QTemporaryDir folder;
+    const LoopMount volume(folder.path(), {.fileSystem = LoopMount::Ext4, .sizeBytes = Size});
+    QVERIFY2(volume.isReady(), qPrintable(volume.error()));
+    WindowFixture fixture(std::make_unique<Machine>(volume));
+    chooseVolume(fixture);
+    const auto root = platform::Platform::current().folders().anchor(volume.mountPoint());
+    QVERIFY(root);
+    const auto other = root.value()->createFolder(u".quorvex_temp_01234567"_s);
+    QVERIFY(other);
+    const auto entries = QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot;
+    const QStringList before = QDir(volume.mountPoint()).entryList(entries);
+
+    fixture.dialogs.answers = {WindowFixture::typeErase};
+    fixture.prompts.buttons = {QMessageBox::Ok};
+    QVERIFY(fixture.click(u"Start"_s));
+    QTRY_VERIFY(fixture.dialogs.answers.isEmpty());
+    QCOMPARE(fixture.prompts.boxes.size(), 1);
+    QCOMPARE(fixture.prompts.boxes.first().title, u"This Volume Cannot Be Erased"_s);
+    QVERIFY2(fixture.prompts.boxes.first().text.contains(u"Another job"_s),
+             qPrintable(fixture.prompts.boxes.first().text));
+    QCOMPARE(fixture.window->currentPage(), int(MainWindow::MethodSelect));
+    QVERIFY(fixture.reports().isEmpty());
+    QCOMPARE(QDir(volume.mountPoint()).entryList(entries), before);
 }
 
 void tst_FreeSpaceFlow::aVolumeThatIsGoneFailsTheJob()
