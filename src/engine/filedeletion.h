@@ -33,7 +33,7 @@ public:
     static std::optional<platform::EntryPath> randomRenameFile(const platform::EntryPath &file);
 
 private:
-    platform::Status cutToNothing(const platform::EntryPath &file, WatchedFile *watched);
+    platform::Status cutToNothing(const platform::EntryPath &path, WatchedFile *watched);
     void giveBack(const platform::EntryPath &renamed, const platform::EntryPath &file);
     void remove(const platform::EntryPath &file);
 

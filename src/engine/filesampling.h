@@ -34,7 +34,7 @@ public:
     explicit FileSampling(GoOn goOn);
 
     // size: of the file, in bytes. A check that is ended early counts as passed.
-    Outcome check(const platform::EntryPath &file, qint64 size, const Matches &matches,
+    Outcome check(const platform::EntryPath &place, qint64 size, const Matches &matches,
                   const IsAnother &isAnother);
 
     // Of all files, whether they matched or not.

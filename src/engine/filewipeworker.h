@@ -36,6 +36,9 @@ public slots:
     void process() override;
 
 private:
+    // Whoever writes faster than it is erased is not waited for.
+    static constexpr int MostRounds = 10;
+
     bool run() override;
     void complete() override;
     bool shred();

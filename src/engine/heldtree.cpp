@@ -189,7 +189,7 @@ HeldTree::Handle HeldTree::held(Folder folder)
 Result<HeldTree::Handle> HeldTree::reopen(Folder folder, const Handle &parent) const
 {
     const Node &wanted = node(folder);
-    const Result<Handle> opened =
+    Result<Handle> opened =
         parent ? folders().holdIn(parent, wanted.name, wanted.mounts) : folders().hold(wanted.name);
     // Something is mounted over it by now.
     if (opened.code() == platform::NotSameDevice)

@@ -267,9 +267,8 @@ void tst_LateFiles::aTargetThatIsMovedAway()
     s.at(said::deleting, [&] { QFile::rename(s.folder, s.job.path(u"away"_s)); });
     QVERIFY(s.job.run({s.folder, s.job.path(u"many"_s)}));
     QVERIFY(!QFileInfo::exists(s.job.path(u"many"_s)));
-    QCOMPARE(s.shortfalls(),
-             (QList<Shortfall>{{ShortfallKind::EntryVanished, s.folder + u"/a"_s},
-                               {ShortfallKind::EntryVanished, s.folder + u"/sub/b"_s}}));
+    QCOMPARE(s.shortfalls(), (QList<Shortfall>{{ShortfallKind::EntryVanished, s.folder + u"/a"_s},
+                                               {ShortfallKind::EntryVanished, s.folder + u"/sub/b"_s}}));
     QVERIFY(s.job.lines().filter(u"无法读取文件夹"_s).isEmpty());
 }
 

@@ -39,6 +39,7 @@ class tst_WipeFlows : public QObject
 private slots:
     void aDiskIsErasedAndItsReportKept();
     void filesAreErased();
+    void aFileThatIsReplacedBeforeTheAnswerIsLeft();
     void cancellingTheConfirmationStartsNothing();
     void theMenuIsDisabledWhileAJobRuns();
     void stoppingAsksFirst();
@@ -139,6 +140,28 @@ void tst_WipeFlows::filesAreErased()
     QVERIFY(!QFile::exists(one));
     QCOMPARE(fixture.reports().size(), 1);
     QCOMPARE(fixture.reports().constFirst().fileCount, 1);
+}
+
+void tst_WipeFlows::aFileThatIsReplacedBeforeTheAnswerIsLeft()
+{
+    const QString chosen = writeFile(m_folder.filePath(u"chosen.txt"_s), "chosen");
+    const QString other = writeFile(m_folder.filePath(u"other.txt"_s), "other");
+    const QString stranger = writeFile(m_folder.filePath(u"stranger.txt"_s), "not chosen");
+    WindowFixture fixture;
+    chooseFiles(fixture, {chosen, other});
+    bool isReplaced = false;
+    const auto replaceAndConfirm = [&](QDialog &dialog) {
+        isReplaced =
+            QFile::rename(chosen, m_folder.filePath(u"away.txt"_s)) && QFile::rename(stranger, chosen);
+        WindowFixture::typeErase(dialog);
+    };
+    fixture.dialogs.answers = {replaceAndConfirm, WindowFixture::pressButton(u"Done"_s)};
+    QVERIFY(fixture.click(u"Start"_s));
+    QTRY_VERIFY_WITH_TIMEOUT(
+        fixture.dialogs.answers.isEmpty() && fixture.window->currentPage() == MainWindow::Home, 60000);
+    QVERIFY(isReplaced);
+    QCOMPARE(contentOf(chosen), QByteArray("not chosen"));
+    QVERIFY(!QFile::exists(other));
 }
 
 void tst_WipeFlows::cancellingTheConfirmationStartsNothing()
