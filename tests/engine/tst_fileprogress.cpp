@@ -14,7 +14,9 @@ struct TimedProgress
 {
     qint64 now = 7000;
     QList<std::pair<qint64, qint64>> reports;
-    FileProgress progress{[this](qint64 done, qint64 total) { reports.append({done, total}); },
+    FileProgress progress{[this](qint64 done, qint64 total) {
+                              reports.append({done, total});
+                          },
                           [this] { return now; }};
 
     void addAt(qint64 time, qint64 bytes)
