@@ -35,6 +35,20 @@ DWORD WINAPI noFinalPath(HANDLE, LPWSTR, DWORD, DWORD)
     return 0;
 }
 
+DWORD WINAPI finalPathTooLong(HANDLE, LPWSTR, DWORD, DWORD)
+{
+    ::SetLastError(ERROR_MORE_DATA);
+    return 0;
+}
+
+// The folder "a" is a link.
+DWORD WINAPI attributesWithLink(LPCWSTR name)
+{
+    const DWORD attributes = ::GetFileAttributesW(name);
+    return QString::fromWCharArray(name).endsWith(u"\\a"_s) ? attributes | FILE_ATTRIBUTE_REPARSE_POINT
+                                                            : attributes;
+}
+
 // A folder that may be passed but not listed.
 HANDLE WINAPI unlistable(LPCWSTR name, DWORD access, DWORD sharing, LPSECURITY_ATTRIBUTES security,
                          DWORD disposition, DWORD flags, HANDLE pattern)
@@ -64,6 +78,7 @@ private slots:
     void namesThatLeadElsewhereAreRefused();
     void whatIsNoFolderIsNotHeld();
     void aFolderWithoutAFinalPathIsNotHeld();
+    void aPathTooLongToBeToldIsTakenWithoutLinksOnly();
     void aFolderThatCannotBeListedIsHeld();
 
 private:
@@ -161,6 +176,22 @@ void tst_WindowsHeldFolders::aFolderWithoutAFinalPathIsNotHeld()
     calls.getFinalPathName = &noFinalPath;
     const ScopedWin32Calls scope(calls);
     QCOMPARE(folders.hold(path(u"a"_s)).code(), quint32(PathNotFound));
+}
+
+void tst_WindowsHeldFolders::aPathTooLongToBeToldIsTakenWithoutLinksOnly()
+{
+    Win32Calls calls;
+    calls.getFinalPathName = &finalPathTooLong;
+    {
+        const ScopedWin32Calls scope(calls);
+        const auto held = folders.hold(path(u"a/b"_s));
+        QVERIFY(held.ok());
+        QVERIFY(files.info(EntryPath(held.value(), u"file"_s)).ok());
+        QVERIFY(!move(path(u"a/b"_s), path(u"moved"_s)));
+    }
+    calls.getFileAttributes = &attributesWithLink;
+    const ScopedWin32Calls scope(calls);
+    QCOMPARE(folders.hold(path(u"a/b"_s)).code(), quint32(MoreData));
 }
 
 void tst_WindowsHeldFolders::aFolderThatCannotBeListedIsHeld()

@@ -56,21 +56,39 @@ WinHandle openToHold(const std::wstring &path)
                                         FILE_FLAG_BACKUP_SEMANTICS, nullptr));
 }
 
-Result<std::wstring> placeOf(HANDLE folder)
+// Whether the path leads through a link, or might.
+bool mayHaveLink(const std::wstring &path)
 {
+    for (std::wstring part = path; part.size() > rootLength(part); part = parentOf(part)) {
+        const DWORD attributes = win32().getFileAttributes(part.c_str());
+        if (attributes == INVALID_FILE_ATTRIBUTES || (attributes & FILE_ATTRIBUTE_REPARSE_POINT))
+            return true;
+    }
+    return false;
+}
+
+// path: under which the folder was opened.
+Result<std::wstring> placeOf(HANDLE folder, const std::wstring &path)
+{
+    Status failure;
     // Of a volume without a letter only the name of the volume is known.
     for (const DWORD form : {DWORD(VOLUME_NAME_DOS), DWORD(VOLUME_NAME_GUID)}) {
         const DWORD length = win32().getFinalPathName(folder, nullptr, 0, FILE_NAME_NORMALIZED | form);
-        std::wstring path(length, L'\0');
+        std::wstring place(length, L'\0');
         const DWORD written =
             length == 0 ? 0
-                        : win32().getFinalPathName(folder, path.data(), length, FILE_NAME_NORMALIZED | form);
+                        : win32().getFinalPathName(folder, place.data(), length, FILE_NAME_NORMALIZED | form);
         if (written > 0 && written < length) {
-            path.resize(written);
-            return path;
+            place.resize(written);
+            return place;
         }
+        if (failure)
+            failure = statusFromLastError("GetFinalPathNameByHandle");
     }
-    return statusFromLastError("GetFinalPathNameByHandle");
+    // Some systems tell no long paths. What leads through no link is held on all its way by now.
+    if (failure.code == MoreData && !mayHaveLink(path))
+        return path;
+    return failure;
 }
 
 } // namespace
@@ -83,7 +101,7 @@ Result<std::shared_ptr<FolderHandle>> openHeld(const QString &path)
     WinHandle folder = openToHold(name.value());
     if (!folder.isValid())
         return statusFromLastError("CreateFile");
-    Result<std::wstring> place = placeOf(folder.get());
+    Result<std::wstring> place = placeOf(folder.get(), name.value());
     if (!place)
         return place.status();
     return std::shared_ptr<FolderHandle>(
