@@ -15,6 +15,10 @@
 #include <QTest>
 
 #include <memory>
+#include <thread>
+
+#include <fcntl.h>
+#include <unistd.h>
 
 using namespace platform;
 
@@ -262,6 +266,13 @@ void tst_LinuxVolumes::driveOpensBesideOwnVolumes()
 void tst_LinuxVolumes::newAttachmentIsAnotherDrive()
 {
     QVERIFY(m_volume->unmount());
+    // As a listing of the machine's volumes by another process has it open for a moment.
+    const int held = ::open(QFile::encodeName(m_volume->device()).constData(), O_RDONLY | O_CLOEXEC);
+    QVERIFY(held >= 0);
+    const std::jthread listing([held] {
+        QTest::qSleep(400);
+        ::close(held);
+    });
     QVERIFY(m_volume->close());
     LoopMount::Options options;
     options.fileSystem = LoopMount::NoFileSystem;

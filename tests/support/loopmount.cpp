@@ -272,6 +272,12 @@ bool LoopMount::detach()
         return true;
     if (isStillOurs() && !run(QStringLiteral("losetup"), {QStringLiteral("--detach"), m_device}))
         return false;
+    // A device that somebody has open just now, as in unmount(), is detached when they let go of it.
+    for (int attempt = 0; isStillOurs(); ++attempt) {
+        if (attempt == 60)
+            return failed(m_device + QStringLiteral(" is still attached"));
+        QTest::qSleep(20 + attempt);
+    }
     m_device.clear();
     return true;
 }

@@ -115,6 +115,8 @@ public:
         if (const platform::Status refusal = platform::checkTransfer(data, size, m_sectorSize, "write");
             !refusal)
             return refusal;
+        if (m_devices.beforeWrite)
+            m_devices.beforeWrite();
         const QMutexLocker locker(&m_devices.m_mutex);
         ++m_devices.m_writes;
         const auto *from = static_cast<const char *>(data);

@@ -9,6 +9,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <map>
 #include <memory>
 
@@ -75,6 +76,8 @@ public:
     int openHandles() const { return count(m_openHandles); }
     int heldLocks() const { return count(m_heldLocks); }
     platform::ErrorCode keepError = platform::NoError; // of ReleasedVolumes::keep()
+    // Called in the writing thread before each write; set while nothing is open.
+    std::function<void()> beforeWrite;
 
     // Since construction.
     int openings() const { return count(m_openings); }

@@ -7,8 +7,10 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QLabel>
+#include <QSemaphore>
 #include <QTest>
 
+#include <atomic>
 #include <optional>
 
 using namespace Qt::StringLiterals;
@@ -199,9 +201,15 @@ void tst_WholeDriveFlow::aFailedJobSaysWhatItLeftUnmounted()
 void tst_WholeDriveFlow::aStoppedJobSaysWhatItLeftUnmounted()
 {
     DriveWindow drives;
-    MemoryDrive large(0, qint64(256) << 20);
-    drives.memory.addDrive(large);
     drives.memory.addVolume(u"E:"_s, 0, 0, Size);
+    // The job does not end by itself before it is stopped.
+    std::atomic<bool> isWriting{false};
+    QSemaphore stopAsked;
+    drives.memory.beforeWrite = [&isWriting, &stopAsked] {
+        isWriting = true;
+        stopAsked.tryAcquire(1, 60000);
+        stopAsked.release();
+    };
     WindowFixture fixture(std::move(drives.owned));
     fixture.window->onDiskWipeClicked();
     choose(fixture, diskRow(fixture, 0));
@@ -214,8 +222,9 @@ void tst_WholeDriveFlow::aStoppedJobSaysWhatItLeftUnmounted()
                                }};
     fixture.prompts.buttons = {QMessageBox::Ok};
     QVERIFY(fixture.click(u"Start"_s));
-    QTRY_VERIFY_WITH_TIMEOUT(drives.memory.writes() > 0, 60000);
+    QTRY_VERIFY_WITH_TIMEOUT(isWriting, 60000);
     fixture.window->onStopClicked();
+    stopAsked.release();
     QTRY_VERIFY_WITH_TIMEOUT(!left.isEmpty(), 60000);
     QCOMPARE(left, u"Left unmounted: E:"_s);
 }
