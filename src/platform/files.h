@@ -6,6 +6,7 @@
 #include "platform/status.h"
 
 #include <QByteArray>
+#include <QFileDevice>
 #include <QString>
 
 #include <memory>
@@ -107,9 +108,9 @@ enum class OpenMode {
 // cannot express in Unicode is carried losslessly (Linux: an undecodable byte b as the lone surrogate U+DC00
 // + b).
 //
-// No operation follows a link in the last component of the path. In a held folder, none of those that open or
-// change an entry touches what is mounted over a name: they fail with NotSameDevice, rename and remove with
-// SharingViolation. Thread-safe.
+// No operation but openForAppending follows a link in the last component of the path. In a held folder, none
+// of those that open or change an entry touches what is mounted over a name: they fail with NotSameDevice,
+// rename and remove with SharingViolation. Thread-safe.
 class Files
 {
 public:
@@ -138,6 +139,13 @@ public:
     // (CannotAccessFile, AccessDenied for a folder), also no pipe waited for. Windows: CreateFileW with
     // FILE_FLAG_OPEN_REPARSE_POINT and all sharing. Linux: O_NOFOLLOW | O_NONBLOCK.
     virtual Result<QByteArray> readBeginning(const QString &path, qint64 limit) = 0;
+
+    // Opens a file for lines of text, each write of which lands behind everything in it, also behind what
+    // other processes have written since. One that is not there is made, for its owner only; a link is
+    // followed. What could not be written is kept and tried again with the next flush. The device may outlive
+    // the Platform; one thread at a time. Windows: FILE_APPEND_DATA without FILE_WRITE_DATA, all sharing but
+    // deletion. Linux: O_APPEND.
+    virtual Result<std::unique_ptr<QFileDevice>> openForAppending(const QString &path) = 0;
 
     // Makes the file writable for its owner. Success when nothing had to change, or when nothing stands
     // there. Windows: clears FILE_ATTRIBUTE_READONLY, keeps the other attributes. Linux: adds the owner's

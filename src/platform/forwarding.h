@@ -50,6 +50,10 @@ public:
     {
         return m_target.readBeginning(path, limit);
     }
+    Result<std::unique_ptr<QFileDevice>> openForAppending(const QString &path) override
+    {
+        return m_target.openForAppending(path);
+    }
     Status clearReadOnly(const EntryPath &entry) override { return m_target.clearReadOnly(entry); }
     Status rename(const EntryPath &from, const EntryPath &to) override { return m_target.rename(from, to); }
     Status remove(const EntryPath &entry) override { return m_target.remove(entry); }

@@ -1,6 +1,7 @@
 #include "services/applog.h"
 
-#include "platform/appending.h"
+#include "platform/files.h"
+#include "platform/platform.h"
 
 #include <QDateTime>
 #include <QDebug>
@@ -72,17 +73,18 @@ AppLog::AppLog()
 void AppLog::setLogFile(const QString &path)
 {
     const QMutexLocker locker(&m_mutex);
-    m_file.close();
-    m_file.setFileName(path);
+    m_file.reset(); // before: to the same file, nothing it still holds may land behind later lines
     // Names of wiped files are nobody else's business. Permissions given at creation leave no moment in which
     // others can open the file; those of a file that exists are its owner's choice.
-    platform::openForAppending(m_file);
+    auto opened = platform::Platform::current().files().openForAppending(path);
+    if (opened)
+        m_file = opened.take();
 }
 
 void AppLog::closeLogFile()
 {
     const QMutexLocker locker(&m_mutex);
-    m_file.close();
+    m_file.reset();
 }
 
 void AppLog::log(LogLevel level, const QString &message)
@@ -99,10 +101,10 @@ void AppLog::log(LogLevel level, const QString &message)
 void AppLog::writeLine(const QString &line)
 {
     const QMutexLocker locker(&m_mutex);
-    if (!m_file.isOpen())
+    if (!m_file)
         return;
     // No text stream in between: it gives up for good after one failed write, and the volume of the log is
     // full for a while whenever its free space is wiped.
-    m_file.write((line + u'\n').toUtf8());
-    m_file.flush();
+    m_file->write((line + u'\n').toUtf8());
+    m_file->flush();
 }

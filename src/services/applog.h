@@ -1,10 +1,11 @@
 #pragma once
 
-#include <QFile>
+#include <QFileDevice>
 #include <QMutex>
 #include <QString>
 
 #include <atomic>
+#include <memory>
 
 /// How grave a line of the log is. The numbers are fixed; a line of any other number bears the name
 /// "UNKNOWN".
@@ -59,8 +60,8 @@ private:
 
     void writeLine(const QString &line);
 
-    QMutex m_mutex; ///< guards m_file
-    QFile m_file;
+    QMutex m_mutex;                      ///< guards m_file
+    std::unique_ptr<QFileDevice> m_file; ///< none: lines are only echoed
     std::atomic<LogLevel> m_minLevel{LogLevel::Info};
     std::atomic<bool> m_echoToConsole{true};
 };

@@ -1,3 +1,6 @@
+#include "platform/files.h"
+#include "platform/forwarding.h"
+#include "platform/platform.h"
 #include "services/applog.h"
 #include "support/suite.h"
 
@@ -206,6 +209,7 @@ private slots:
     void anExistingFileIsNeverCut();
     void aFileThatDoesNotOpenLeavesOnlyTheEcho_data();
     void aFileThatDoesNotOpenLeavesOnlyTheEcho();
+    void theFileIsOpenedByThePlatformInForce();
     void threadsNeverShareALine();
 
 private:
@@ -514,6 +518,37 @@ void tst_AppLog::aFileThatDoesNotOpenLeavesOnlyTheEcho()
     AppLog::instance().setLogFile(m_path);
     AppLog::instance().info(u"three"_s);
     QCOMPARE(linesOf(m_path), (QStringList{u"[INFO] one"_s, u"[INFO] three"_s}));
+}
+
+void tst_AppLog::theFileIsOpenedByThePlatformInForce()
+{
+    class Refusing : public platform::ForwardingFiles
+    {
+    public:
+        using ForwardingFiles::ForwardingFiles;
+        platform::Result<std::unique_ptr<QFileDevice>> openForAppending(const QString &path) override
+        {
+            asked.append(path);
+            return platform::Status{platform::AccessDenied, 0, "open for appending"};
+        }
+        QStringList asked;
+    };
+    const MessageCapture capture;
+    const QString other = m_dir->filePath(u"other.log"_s);
+    platform::Platform &real = platform::Platform::current();
+    Refusing refusing(real.files());
+    platform::ForwardingPlatform machine(refusing, real.folders(), real.devices(), real.session());
+    {
+        const platform::ScopedPlatform scope(machine);
+        AppLog::instance().setLogFile(other);
+        AppLog::instance().info(u"one"_s);
+    }
+    QCOMPARE(refusing.asked, QStringList{other});
+    QVERIFY(!QFile::exists(other));
+    QCOMPARE(capture.messages().size(), 1);
+    AppLog::instance().setLogFile(m_path);
+    AppLog::instance().info(u"two"_s);
+    QCOMPARE(linesOf(m_path), QStringList{u"[INFO] two"_s});
 }
 
 void tst_AppLog::threadsNeverShareALine()

@@ -1,6 +1,7 @@
 #include "support/memoryvolume.h"
 
 #include "platform/anchoredfolder.h"
+#include "platform/platform.h"
 
 #include <algorithm>
 #include <utility>
@@ -178,6 +179,13 @@ platform::Result<platform::ContentPlace> MemoryVolume::contentPlace(const platfo
 platform::Result<QByteArray> MemoryVolume::readBeginning(const QString &, qint64)
 {
     return failure(platform::NotSupported); // no content is kept
+}
+
+platform::Result<std::unique_ptr<QFileDevice>> MemoryVolume::openForAppending(const QString &path)
+{
+    // What is appended to is the log, which lies beside this volume.
+    static const std::unique_ptr<platform::Platform> machine = platform::createPlatform({});
+    return machine->files().openForAppending(path);
 }
 
 platform::Status MemoryVolume::clearReadOnly(const platform::EntryPath &entry)

@@ -89,6 +89,7 @@ public:
                                                                  platform::OpenMode mode) override;
     platform::Result<platform::ContentPlace> contentPlace(const platform::EntryPath &entry) override;
     platform::Result<QByteArray> readBeginning(const QString &path, qint64 limit) override;
+    platform::Result<std::unique_ptr<QFileDevice>> openForAppending(const QString &path) override;
     platform::Status clearReadOnly(const platform::EntryPath &entry) override;
     platform::Status rename(const platform::EntryPath &, const platform::EntryPath &) override;
     platform::Status remove(const platform::EntryPath &place) override;

@@ -12,6 +12,7 @@ public:
     Result<std::unique_ptr<FileHandle>> open(const EntryPath &entry, OpenMode mode) override;
     Result<ContentPlace> contentPlace(const EntryPath &entry) override;
     Result<QByteArray> readBeginning(const QString &path, qint64 limit) override;
+    Result<std::unique_ptr<QFileDevice>> openForAppending(const QString &path) override;
     Status clearReadOnly(const EntryPath &entry) override;
     Status rename(const EntryPath &from, const EntryPath &to) override;
     Status remove(const EntryPath &entry) override;
