@@ -1,14 +1,15 @@
 # A layer is one static library below src/. What a layer may include is stated here, in one table, and checked
 # against the #include lines at every build: a wrong arrow fails the build.
-set(QUORVEX_LAYERS model platform engine services prompts certificate ui cli)
+set(QUORVEX_LAYERS model platform engine services jobs prompts certificate ui cli)
 set(QUORVEX_LAYER_model "")
 set(QUORVEX_LAYER_platform "")
 set(QUORVEX_LAYER_engine model platform)
 set(QUORVEX_LAYER_services model platform)
+set(QUORVEX_LAYER_jobs model engine services)
 set(QUORVEX_LAYER_prompts "")
 set(QUORVEX_LAYER_certificate model prompts)
-set(QUORVEX_LAYER_ui model platform engine services prompts certificate)
-set(QUORVEX_LAYER_cli model platform engine services certificate)
+set(QUORVEX_LAYER_ui model platform engine services jobs prompts certificate)
+set(QUORVEX_LAYER_cli model platform engine services jobs certificate)
 
 # quorvex_layer(NAME [MOC] [RCC] [SOURCES file...] [LIBRARIES library...])
 #

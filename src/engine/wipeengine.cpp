@@ -11,6 +11,7 @@
 #include "platform/devices.h"
 #include "platform/platform.h"
 
+#include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QDebug>
 #include <QThread>
@@ -266,6 +267,15 @@ void WipeEngine::stop()
     }
     emit stopped();
     emit logMessage(tr("任务已停止"), 1);
+}
+
+void WipeEngine::waitForEnd()
+{
+    if (!m_thread)
+        return;
+    m_thread->quit();
+    m_thread->wait();
+    QCoreApplication::sendPostedEvents(this, QEvent::MetaCall);
 }
 
 OutcomeRecord WipeEngine::outcome() const

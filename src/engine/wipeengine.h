@@ -60,6 +60,10 @@ public:
     // job runs.
     void stop();
 
+    // Returns when the job's worker has ended and everything it has sent was passed on, completed() included;
+    // at once without one. However long its last transfer takes.
+    void waitForEnd();
+
     // A copy of the task's report; without a task a fresh one. Any time on the interface thread.
     WipeReport report() const;
     // How the task's job went, from completed() or stopped() on; failed without a task. Completed and yet not

@@ -24,7 +24,16 @@ QMessageBox::StandardButton NativePrompts::show(QWidget *parent, const Box &box)
         shown.setDefaultButton(box.byDefault);
     if (!box.styleSheet.isEmpty())
         shown.setStyleSheet(box.styleSheet);
-    return static_cast<QMessageBox::StandardButton>(shown.exec());
+    m_shown.append(&shown);
+    const auto answer = static_cast<QMessageBox::StandardButton>(shown.exec());
+    m_shown.removeOne(&shown);
+    return answer;
+}
+
+void NativePrompts::withdraw()
+{
+    if (!m_shown.isEmpty())
+        m_shown.constLast()->close();
 }
 
 QString NativePrompts::fileToSave(QWidget *parent, const QString &caption, const QString &proposal,

@@ -34,6 +34,10 @@ public:
     /// The button that was pressed; one that the escape key stands for when the box was closed.
     virtual QMessageBox::StandardButton show(QWidget *parent, const Box &box) = 0;
 
+    /// Closes the box that show() waits for as the escape key would, the latest of several; nothing without
+    /// one.
+    virtual void withdraw() = 0;
+
     /// Of the four below, empty (false) means that the user cancelled. A filter reads as QFileDialog wants
     /// it.
     virtual QString fileToSave(QWidget *parent, const QString &caption, const QString &proposal,

@@ -50,6 +50,29 @@ QString key(const QString &certificateId)
     return certificateId.isNull() ? u""_s : certificateId;
 }
 
+// The lower byte of SQLite's result codes.
+ReportDatabase::Problem problemOf(const QSqlError &error)
+{
+    using Problem = ReportDatabase::Problem;
+    switch (error.nativeErrorCode().toInt() & 0xff) {
+    case 5: // SQLITE_BUSY
+    case 6: // SQLITE_LOCKED
+        return Problem::InUse;
+    case 3: // SQLITE_PERM
+    case 8: // SQLITE_READONLY
+        return Problem::NoPermission;
+    case 13: // SQLITE_FULL
+        return Problem::Full;
+    case 11: // SQLITE_CORRUPT
+    case 26: // SQLITE_NOTADB
+        return Problem::Damaged;
+    case 14: // SQLITE_CANTOPEN
+        return Problem::CannotOpen;
+    default:
+        return Problem::Other;
+    }
+}
+
 bool failed(const QSqlError &error)
 {
     return error.type() != QSqlError::NoError;
@@ -74,12 +97,12 @@ ReportDatabase::~ReportDatabase()
     m_db.close();
 }
 
-bool ReportDatabase::initialize(const QString &folder)
+bool ReportDatabase::initialize(const QString &folder, std::chrono::milliseconds patience)
 {
     if (m_initialized)
         return true;
-    if (!open(folder.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)
-                               : folder)) {
+    if (!open(folder.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) : folder,
+              patience)) {
         close();
         return false;
     }
@@ -90,7 +113,7 @@ bool ReportDatabase::initialize(const QString &folder)
     return true;
 }
 
-bool ReportDatabase::open(const QString &folder)
+bool ReportDatabase::open(const QString &folder, std::chrono::milliseconds patience)
 {
     // Without the folder the file does not open, which says so.
     QDir().mkpath(folder);
@@ -99,22 +122,19 @@ bool ReportDatabase::open(const QString &folder)
 
     m_db = QSqlDatabase::addDatabase(u"QSQLITE"_s);
     m_db.setDatabaseName(path);
+    m_db.setConnectOptions(u"QSQLITE_BUSY_TIMEOUT=%1"_s.arg(patience.count()));
+    if (!m_db.open())
+        return succeeded(m_db.lastError());
     // Better a window that stands still for a moment than a job without its record.
-    m_db.setConnectOptions(u"QSQLITE_BUSY_TIMEOUT=10000"_s);
-    if (!m_db.open()) {
-        m_lastError = m_db.lastError().text();
-        return false;
-    }
-    return execute(durable) && execute(overwriting) && execute(reporttable::create);
+    return execute(durable) && execute(overwriting) && execute(reporttable::create) &&
+           execute(u"PRAGMA busy_timeout = %1"_s.arg(Patience.count()));
 }
 
 bool ReportDatabase::execute(const QString &statement)
 {
     QSqlQuery query(m_db);
-    if (query.exec(statement))
-        return true;
-    m_lastError = query.lastError().text();
-    return false;
+    query.exec(statement);
+    return succeeded(query.lastError());
 }
 
 void ReportDatabase::close()
@@ -132,20 +152,16 @@ bool ReportDatabase::saveReport(const WipeReport &report, const std::optional<Ou
 {
     if (!m_initialized) {
         m_lastError = u"数据库未初始化"_s;
+        m_lastProblem = Problem::Other;
         return false;
     }
     Savepoint savepoint(m_db);
-    if (!savepoint.isOpen()) {
-        m_lastError = savepoint.error();
-        return false;
-    }
+    if (!savepoint.isOpen())
+        return succeeded(savepoint.error());
     if (!succeeded(reporttable::insert(m_db, report)) || !execute(annextable::create) ||
         !succeeded(annextable::replace(m_db, key(report.certificateId), outcome)))
         return false;
-    if (savepoint.commit())
-        return true;
-    m_lastError = savepoint.error();
-    return false;
+    return savepoint.commit() || succeeded(savepoint.error());
 }
 
 bool ReportDatabase::succeeded(const QSqlError &error)
@@ -153,6 +169,7 @@ bool ReportDatabase::succeeded(const QSqlError &error)
     if (!failed(error))
         return true;
     m_lastError = error.text();
+    m_lastProblem = problemOf(error);
     return false;
 }
 

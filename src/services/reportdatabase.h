@@ -9,6 +9,7 @@
 #include <QSqlError>
 #include <QString>
 
+#include <chrono>
 #include <optional>
 
 QT_FORWARD_DECLARE_CLASS(QSqlQuery)
@@ -23,6 +24,8 @@ QT_FORWARD_DECLARE_CLASS(QSqlQuery)
 class ReportDatabase
 {
 public:
+    static constexpr std::chrono::milliseconds Patience{10000};
+
     ReportDatabase(const ReportDatabase &) = delete;
     ReportDatabase &operator=(const ReportDatabase &) = delete;
 
@@ -31,8 +34,8 @@ public:
     /// Opens the file, which is made with its folder at the first run, and takes the framework's default
     /// connection for it. The names of application and organisation decide the folder: set them first. True
     /// at once when it is open already; after a failure it may be tried again. A folder that is given takes
-    /// the place of the application's.
-    bool initialize(const QString &folder = {});
+    /// the place of the application's; patience is how long other programs may hold the file now.
+    bool initialize(const QString &folder = {}, std::chrono::milliseconds patience = Patience);
 
     /// Lets go of the file and the default connection, until initialize().
     void close();
@@ -68,17 +71,22 @@ public:
     /// Its outcome goes with it. True as well when there is no report of that id.
     bool deleteReport(const QString &certificateId);
 
-    /// Text of the last failure.
+    /// Text of the last failure, as SQLite words it.
     QString lastError() const { return m_lastError; }
+
+    /// What a failure comes from.
+    enum class Problem { InUse, NoPermission, Full, Damaged, CannotOpen, Other };
+    /// Of the last failure.
+    Problem lastProblem() const { return m_lastProblem; }
 
 private:
     ReportDatabase();
     ~ReportDatabase();
 
-    bool open(const QString &folder);
+    bool open(const QString &folder, std::chrono::milliseconds patience);
     bool execute(const QString &statement);
     bool hasAnswered(const QSqlQuery &query);
-    // False, with the text kept, for an error.
+    // False, with text and problem kept, for an error.
     bool succeeded(const QSqlError &error);
     QSqlQuery page(int limit, int offset) const;
     QSqlQuery one(const QString &certificateId) const;
@@ -86,5 +94,6 @@ private:
 
     QSqlDatabase m_db;
     QString m_lastError;
+    Problem m_lastProblem = Problem::Other;
     bool m_initialized = false;
 };

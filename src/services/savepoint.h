@@ -31,7 +31,7 @@ public:
         m_isOpen = !committed;
         return committed;
     }
-    QString error() const { return m_query.lastError().text(); }
+    QSqlError error() const { return m_query.lastError(); }
 
 private:
     QSqlQuery m_query;

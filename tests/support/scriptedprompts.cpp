@@ -6,9 +6,12 @@
 QMessageBox::StandardButton ScriptedPrompts::show(QWidget *, const Box &box)
 {
     boxes.append(box);
+    isWithdrawn = false;
     if (box.buttons == QMessageBox::Ok)
         return QMessageBox::Ok;
-    if (!buttons.isEmpty())
+    if (whileShown)
+        whileShown();
+    if (!buttons.isEmpty() && !isWithdrawn)
         return buttons.takeFirst();
     return box.buttons.testFlag(QMessageBox::Cancel) ? QMessageBox::Cancel : QMessageBox::No;
 }

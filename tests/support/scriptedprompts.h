@@ -25,7 +25,12 @@ public:
     QStringList proposals; // of fileToSave, and starts of folder
     QStringList filters;
 
+    // Called while a box is shown, before it is answered.
+    std::function<void()> whileShown;
+    bool isWithdrawn = false; // the latest box, which then was answered as if closed
+
     QMessageBox::StandardButton show(QWidget *, const Box &box) override;
+    void withdraw() override { isWithdrawn = true; }
     QString fileToSave(QWidget *, const QString &caption, const QString &proposal,
                        const QString &filter) override;
     QStringList filesToOpen(QWidget *, const QString &caption, const QString &filter) override;

@@ -127,6 +127,14 @@ void CompleteDialog::addLeftUnmounted(const QStringList &volumes)
     addWarning(u"leftUnmountedLabel"_s, text, text);
 }
 
+void CompleteDialog::addNotStored(const QString &cause)
+{
+    if (cause.isEmpty())
+        return;
+    const QString text = tr("The report is not stored. %1").arg(cause);
+    addWarning(u"notStoredLabel"_s, text, text);
+}
+
 void CompleteDialog::addCertificateId(QBoxLayout *layout)
 {
     auto *const box = new QWidget;

@@ -23,6 +23,9 @@ public:
     /// none. Names are cleaned for display here.
     void addLeftUnmounted(const QStringList &volumes);
 
+    /// Tells below the message why the report is not stored; nothing when the cause is empty.
+    void addNotStored(const QString &cause);
+
 signals:
     /// Emitted before the dialog closes.
     void viewCertificateClicked();

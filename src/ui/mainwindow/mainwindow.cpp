@@ -1,7 +1,7 @@
 #include "ui/mainwindow/mainwindow.h"
 
 #include "engine/wipeengine.h"
-#include "model/wipetask.h"
+#include "jobs/jobcontroller.h"
 #include "services/reportdatabase.h"
 #include "ui/disks/diskselectpage.h"
 #include "ui/files/fileselectpage.h"
@@ -12,15 +12,20 @@
 #include "ui/methods/methodselectpage.h"
 #include "ui/progress/progresspage.h"
 #include "ui/settings/settingspage.h"
+#include "ui/titlebar/programrestart.h"
 #include "ui/titlebar/titlebar.h"
 
+#include <QApplication>
 #include <QDebug>
 #include <QFile>
 #include <QListWidget>
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
+#include <chrono>
+
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -52,7 +57,8 @@ int menuRowOf(int page)
 
 MainWindow::MainWindow(QWidget *parent)
     : QMainWindow(parent)
-    , m_engine(new WipeEngine(this))
+    , m_job(new JobController(this))
+    , m_engine(&m_job->engine())
 {
     // With the system menu, which is how a window without a frame is moved by keyboard.
     setWindowFlags(Qt::Window | Qt::FramelessWindowHint | Qt::WindowSystemMenuHint |
@@ -63,7 +69,8 @@ MainWindow::MainWindow(QWidget *parent)
     setMinimumSize(980, 660);
     resize(980, 660);
 
-    if (!ReportDatabase::instance().initialize())
+    // Another program may hold it; then it is opened when there is something to store.
+    if (!ReportDatabase::instance().initialize({}, 250ms))
         qWarning() << "[MainWindow] Report database:" << ReportDatabase::instance().lastError();
     // First, or every widget would be given its looks twice.
     applyStyleSheet();
@@ -76,9 +83,8 @@ MainWindow::MainWindow(QWidget *parent)
 
 MainWindow::~MainWindow()
 {
-    // The engine waits for its worker, which may still read the task.
-    m_engine->disconnect(this);
-    delete m_engine;
+    // Its end is kept with the help of the window.
+    delete m_job;
 }
 
 void MainWindow::createLayout()
@@ -159,7 +165,17 @@ void MainWindow::connectEngine()
     connect(m_engine, &WipeEngine::passChanged, m_progressPage, &ProgressPage::setPass);
     connect(m_engine, &WipeEngine::speedUpdated, m_progressPage, &ProgressPage::setSpeed);
     connect(m_engine, &WipeEngine::logMessage, m_progressPage, &ProgressPage::addLog);
-    connect(m_engine, &WipeEngine::completed, this, &MainWindow::onWipeCompleted);
+    m_job->setKeep([this](JobEnd &end) { keepRecords(end); });
+    connect(m_job, &JobController::ended, this, &MainWindow::showEnd);
+    connect(qApp, &QCoreApplication::aboutToQuit, m_job, &JobController::finish);
+    // The system is about to end the session and does not wait for long.
+    connect(
+        qApp, &QGuiApplication::commitDataRequest, this,
+        [this] {
+            m_job->finish();
+            showHome();
+        },
+        Qt::DirectConnection);
     // The errors of a running job are lines of its log already; a job that is refused has no other line.
     connect(m_engine, &WipeEngine::errorOccurred, m_progressPage, [this](const QString &error) {
         if (!m_engine->isRunning())
@@ -176,6 +192,8 @@ void MainWindow::connectTitleBar()
     connect(m_titleBar, &TitleBar::helpClicked, this, &MainWindow::onHelpClicked);
     connect(m_titleBar, &TitleBar::supportClicked, this, &MainWindow::onSupportClicked);
     connect(m_titleBar, &TitleBar::languageChanged, this, &MainWindow::onLanguageChanged);
+    m_titleBar->setRestart(
+        [this] { m_job->leave(JobController::State::Restarting, [] { restartProgram(); }); });
 }
 
 void MainWindow::applyStyleSheet()

@@ -1,12 +1,14 @@
 #pragma once
 
-#include "model/joboutcome.h"
-#include "model/wipereport.h"
+#include "prompts/prompts.h"
 #include "services/recyclebininfo.h"
 
 #include <QFutureWatcher>
 #include <QMainWindow>
+#include <QMessageBox>
 #include <QPoint>
+
+#include <functional>
 
 QT_FORWARD_DECLARE_CLASS(QListWidget)
 QT_FORWARD_DECLARE_CLASS(QStackedWidget)
@@ -15,6 +17,7 @@ class DiskSelectPage;
 class FileSelectPage;
 class HistoryPage;
 class HomePage;
+class JobController;
 class MethodSelectPage;
 class ProgressPage;
 class SettingsPage;
@@ -22,10 +25,11 @@ class Sidebar;
 class TitleBar;
 class WipeEngine;
 class WipeTask;
+struct JobEnd;
 
 /// The program's one window: sidebar, title bar and the stack of pages. Turns the user's way through the
-/// pages into a task, has the engine carry it out, and keeps report and certificate when it ends. Opens the
-/// report database. Interface thread.
+/// pages into a task, hands it to the controller of the job, keeps report and certificate at its end,
+/// whichever way it comes, and tells of it. Opens the report database. Interface thread.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -38,6 +42,10 @@ public:
     ~MainWindow() override;
 
     int currentPage() const { return m_currentPage; }
+
+    /// The program is asked to go and nobody is there to ask back: a job that runs is stopped, and the
+    /// function is called when its end is kept.
+    void leaveUnasked(std::function<void()> then);
 
 public slots:
     void onMenuItemClicked(int index);
@@ -85,7 +93,6 @@ private:
 
     void showPage(int index);
     void showHome();
-    WipeTask &newTask(OperationType type);
     void takeDiskSelection();
     bool hasObstacles();
     bool isConfirmed();
@@ -93,10 +100,15 @@ private:
     QString erasedVolumesText() const;
     void setMenuEnabled(bool enabled);
 
-    bool keepReport(const WipeReport &report, const OutcomeRecord &outcome);
-    void viewCertificate(bool isStored, const WipeReport &report, const OutcomeRecord &outcome);
+    bool isRefused(const QString &reason);
+    QMessageBox::StandardButton askAboutJob(const Prompts::Box &box);
+
+    void keepRecords(JobEnd &end);
+    void keepReport(JobEnd &end);
+    void showEnd(const JobEnd &end);
+    void viewCertificate(const JobEnd &end);
     void updateRecycleBinRecords();
-    void exportCertificate(const WipeReport &report, const OutcomeRecord &outcome) const;
+    void exportCertificate(const JobEnd &end) const;
     void leaveCompletedJob(bool success);
 
     void startRecycleBinScan();
@@ -120,8 +132,9 @@ private:
     ProgressPage *m_progressPage = nullptr;
     HistoryPage *m_historyPage = nullptr;
     SettingsPage *m_settingsPage = nullptr;
-    WipeTask *m_currentTask = nullptr; ///< child of this window
-    WipeEngine *m_engine = nullptr;
+    JobController *m_job = nullptr;
+    WipeEngine *m_engine = nullptr; ///< the job's
+    bool m_asksAboutJob = false;    ///< a box is open that only makes sense while the job runs
     int m_currentPage = Home;
 
     QVBoxLayout *m_outerLayout = nullptr;

@@ -3,9 +3,11 @@
 
 #include "certificate/certificatedialog.h"
 #include "certificate/certificaterenderer.h"
-#include "engine/wipeengine.h"
+#include "jobs/jobcontroller.h"
+#include "jobs/reportstorage.h"
 #include "model/usersettings.h"
 #include "prompts/prompts.h"
+#include "services/applog.h"
 #include "services/binrecords.h"
 #include "services/reportdatabase.h"
 #include "ui/dialogs/completedialog.h"
@@ -19,59 +21,76 @@ using namespace Qt::StringLiterals;
 
 void MainWindow::onWipeCompleted(bool success)
 {
-    setMenuEnabled(true);
-    if (!m_currentTask) {
+    if (!m_job->task()) {
+        setMenuEnabled(true);
         qWarning() << "m_currentTask is null";
         showHome();
         return;
     }
+    m_job->complete(success);
+}
+
+// What every end has, also one that nobody is there to see.
+void MainWindow::keepRecords(JobEnd &end)
+{
+    setMenuEnabled(true);
     if (m_isRecycleBinMode)
         updateRecycleBinRecords();
-    const WipeReport report = m_engine->report();
-    const OutcomeRecord outcome = m_engine->outcome();
-    const bool keepsReport =
-        usersettings::readBool(*usersettings::open(), usersettings::GenerateReport, true);
-    bool isStored = false;
-    if (keepsReport)
-        isStored = keepReport(report, outcome);
-    else
+    end.hasRecord = usersettings::readBool(*usersettings::open(), usersettings::GenerateReport, true);
+    const QString outcome = machineName(end.outcome.outcome());
+    if (!end.hasRecord) {
         qDebug() << "[Certificate] Skipped saving to database (disabled in settings)";
-    if (success && keepsReport)
-        exportCertificate(report, outcome);
+        AppLog::instance().info(u"Job ended: %1, no report is kept"_s.arg(outcome));
+        return;
+    }
+    keepReport(end);
+    if (end.isStored)
+        AppLog::instance().info(
+            u"Job ended: %1, report %2 is stored"_s.arg(outcome, end.report.certificateId));
+    else
+        AppLog::instance().error(u"Job ended: %1, report %2 is not stored: %3"_s.arg(
+            outcome, end.report.certificateId, end.notStoredBecause));
+    if (end.success)
+        exportCertificate(end);
+}
 
-    CompleteDialog dialog(success, keepsReport ? report.certificateId : QString(), this, outcome);
-    if (!success)
-        dialog.addLeftUnmounted(m_engine->dismountedVolumes());
-    if (keepsReport) {
+void MainWindow::keepReport(JobEnd &end)
+{
+    end.notStoredBecause = storeReport(end.report, end.outcome);
+    end.isStored = end.notStoredBecause.isEmpty();
+    if (end.isStored) {
+        m_historyPage->loadHistory();
+        qDebug() << "[Certificate] Report saved to database:" << end.report.certificateId;
+    } else {
+        qWarning() << "[Certificate] Report not saved to database:" << end.notStoredBecause;
+    }
+}
+
+void MainWindow::showEnd(const JobEnd &end)
+{
+    // The question would be about a job that there is no more.
+    if (m_asksAboutJob)
+        Prompts::current().withdraw();
+    CompleteDialog dialog(end.success, end.hasRecord ? end.report.certificateId : QString(), this,
+                          end.outcome);
+    if (!end.success)
+        dialog.addLeftUnmounted(end.leftUnmounted);
+    dialog.addNotStored(end.notStoredBecause);
+    if (end.hasRecord) {
         connect(&dialog, &CompleteDialog::viewCertificateClicked, this,
-                [this, isStored, &report, &outcome] { viewCertificate(isStored, report, outcome); });
+                [this, &end] { viewCertificate(end); });
     }
     dialog.exec();
-    leaveCompletedJob(success);
+    leaveCompletedJob(end.success);
 }
 
 // The stored record where there is one: that is what an auditor will see.
-void MainWindow::viewCertificate(bool isStored, const WipeReport &report, const OutcomeRecord &outcome)
+void MainWindow::viewCertificate(const JobEnd &end)
 {
-    if (isStored)
-        onViewCertificate(report.certificateId);
+    if (end.isStored)
+        onViewCertificate(end.report.certificateId);
     else
-        CertificateDialog(report, this, outcome).exec();
-}
-
-bool MainWindow::keepReport(const WipeReport &report, const OutcomeRecord &outcome)
-{
-    if (ReportDatabase::instance().saveReport(report, outcome)) {
-        m_historyPage->loadHistory();
-        qDebug() << "[Certificate] Report saved to database:" << report.certificateId;
-        return true;
-    }
-    qWarning() << "[Certificate] Report not saved to database:" << ReportDatabase::instance().lastError();
-    // Whoever needs the record must know that there is none.
-    Prompts::current().warning(this, tr("Report Not Saved"),
-                               tr("The erasure report could not be stored in the database.\n%1")
-                                   .arg(ReportDatabase::instance().lastError()));
-    return false;
+        CertificateDialog(end.report, this, end.outcome).exec();
 }
 
 // The bins' own records of what they hold name what was erased.
@@ -82,15 +101,15 @@ void MainWindow::updateRecycleBinRecords()
         qWarning() << "[RecycleBin] The bin's own list still names what was erased:" << updated.diagnostic();
 }
 
-void MainWindow::exportCertificate(const WipeReport &report, const OutcomeRecord &outcome) const
+void MainWindow::exportCertificate(const JobEnd &end) const
 {
     const auto store = usersettings::open();
     const QString folder = usersettings::readString(*store, usersettings::ExportPath);
     if (!usersettings::readBool(*store, usersettings::AutoExport, false) || folder.isEmpty() ||
         !QDir(folder).exists())
         return;
-    const QString file = folder + u'/' + report.certificateId + u".pdf"_s;
-    if (CertificateRenderer().exportToPdf(report, file, outcome))
+    const QString file = folder + u'/' + end.report.certificateId + u".pdf"_s;
+    if (CertificateRenderer().exportToPdf(end.report, file, end.outcome))
         qDebug() << "[AutoExport] Certificate exported to:" << file;
     else
         qWarning() << "[AutoExport] Failed to export certificate to:" << file;

@@ -3,7 +3,7 @@
 
 #include "engine/filetargets.h"
 #include "engine/foreseeable.h"
-#include "engine/wipeengine.h"
+#include "jobs/jobcontroller.h"
 #include "model/displaytext.h"
 #include "model/wipetask.h"
 #include "prompts/prompts.h"
@@ -17,20 +17,11 @@
 
 #include <QGuiApplication>
 
-// The task before is deleted here, not when its job ends: the engine has its report until then.
-WipeTask &MainWindow::newTask(OperationType type)
-{
-    m_engine->deleteTask(m_currentTask);
-    m_currentTask = new WipeTask(this);
-    m_currentTask->setOperationType(type);
-    return *m_currentTask;
-}
-
 void MainWindow::onDiskWipeClicked()
 {
     // The menu leads home without a way back through the bin.
     leaveRecycleBin();
-    newTask(DiskWipe);
+    m_job->newTask(DiskWipe);
     m_diskPage->setMode(DiskSelectPage::WipeDisk);
     m_diskPage->refresh();
     showPage(DiskSelect);
@@ -39,7 +30,7 @@ void MainWindow::onDiskWipeClicked()
 void MainWindow::onFreeSpaceWipeClicked()
 {
     leaveRecycleBin();
-    newTask(FreeSpaceWipe);
+    m_job->newTask(FreeSpaceWipe);
     m_diskPage->setMode(DiskSelectPage::WipeFreeSpace);
     m_diskPage->refresh();
     showPage(DiskSelect);
@@ -48,7 +39,7 @@ void MainWindow::onFreeSpaceWipeClicked()
 void MainWindow::onFileWipeClicked()
 {
     leaveRecycleBin();
-    newTask(FileWipe);
+    m_job->newTask(FileWipe);
     m_filePage->clearFiles();
     showPage(FileSelect);
 }
@@ -62,7 +53,7 @@ void MainWindow::onBackClicked()
         showHome();
         break;
     case MethodSelect:
-        showPage(m_currentTask && m_currentTask->operationType() == FileWipe ? FileSelect : DiskSelect);
+        showPage(m_job->task() && m_job->task()->operationType() == FileWipe ? FileSelect : DiskSelect);
         break;
     case Progress:
         break;
@@ -81,9 +72,9 @@ void MainWindow::onNextClicked()
         break;
     case FileSelect:
         // The content of the bin was handed over when the scan ended.
-        if (m_currentTask && !m_isRecycleBinMode) {
-            m_currentTask->setFiles(m_filePage->files());
-            m_currentTask->setOperationType(FileWipe);
+        if (m_job->task() && !m_isRecycleBinMode) {
+            m_job->task()->setFiles(m_filePage->files());
+            m_job->task()->setOperationType(FileWipe);
         }
         showPage(MethodSelect);
         break;
@@ -97,24 +88,24 @@ void MainWindow::onNextClicked()
 
 void MainWindow::takeDiskSelection()
 {
-    if (!m_currentTask)
+    if (!m_job->task())
         return;
     const bool isWholeDisk = m_diskPage->selectionType() == DiskSelectPage::DiskSelected;
-    m_currentTask->setDisk(m_diskPage->selectedDisk());
+    m_job->task()->setDisk(m_diskPage->selectedDisk());
     // What an earlier choice left must not stay.
-    m_currentTask->setPartition(isWholeDisk ? PartitionInfo() : m_diskPage->selectedPartition());
+    m_job->task()->setPartition(isWholeDisk ? PartitionInfo() : m_diskPage->selectedPartition());
     // The flow that began decides; a choice on the page only changes what is wiped within it.
-    if (m_currentTask->operationType() != FreeSpaceWipe)
-        m_currentTask->setOperationType(isWholeDisk ? DiskWipe : PartitionWipe);
+    if (m_job->task()->operationType() != FreeSpaceWipe)
+        m_job->task()->setOperationType(isWholeDisk ? DiskWipe : PartitionWipe);
 }
 
 // Tells what is in the way of erasing the disk of the current task.
 bool MainWindow::hasObstacles()
 {
-    const OperationType type = m_currentTask->operationType();
+    const OperationType type = m_job->task()->operationType();
     if (type != DiskWipe && type != PartitionWipe)
         return false;
-    const QString obstacles = ObstaclesText::of(DiskManager::obstacles(m_currentTask->disk().diskNumber));
+    const QString obstacles = ObstaclesText::of(DiskManager::obstacles(m_job->task()->disk().diskNumber));
     if (obstacles.isEmpty())
         return false;
     Prompts::current().show(this, {QMessageBox::Warning,
@@ -130,38 +121,38 @@ bool MainWindow::hasObstacles()
 // A job on one partition goes over all volumes of its disk; empty when that says nothing new.
 QString MainWindow::erasedVolumesText() const
 {
-    const QList<PartitionInfo> partitions = m_currentTask->disk().partitions;
-    if (m_currentTask->operationType() != PartitionWipe || partitions.size() < 2)
+    const QList<PartitionInfo> partitions = m_job->task()->disk().partitions;
+    if (m_job->task()->operationType() != PartitionWipe || partitions.size() < 2)
         return {};
     QStringList names;
     for (const PartitionInfo &partition : partitions)
         names.append(displayText(partition.driveLetter));
     return tr("All of these will be erased, not only %1\n%2")
-        .arg(displayText(m_currentTask->partition().driveLetter), names.join(QStringLiteral(", ")));
+        .arg(displayText(m_job->task()->partition().driveLetter), names.join(QStringLiteral(", ")));
 }
 
 bool MainWindow::isConfirmed()
 {
     // What an earlier confirmation has left.
-    m_currentTask->setWholeDrive(false);
-    if (m_currentTask->operationType() == FileWipe)
-        rememberTargets(*m_currentTask);
+    m_job->task()->setWholeDrive(false);
+    if (m_job->task()->operationType() == FileWipe)
+        rememberTargets(*m_job->task());
     ConfirmDialog confirmation(this);
     if (const QString volumes = erasedVolumesText(); !volumes.isEmpty())
         confirmation.addNotice(volumes);
-    if (m_currentTask->operationType() == FreeSpaceWipe) {
-        const OutcomeRecord foreseen = foreseeableShortfalls(*m_currentTask);
+    if (m_job->task()->operationType() == FreeSpaceWipe) {
+        const OutcomeRecord foreseen = foreseeableShortfalls(*m_job->task());
         if (const QStringList lines = foreseen.shortfallLines() + foreseen.noteLines(); !lines.isEmpty())
             confirmation.addNotice(lines.join(u'\n'));
     }
-    if (m_currentTask->operationType() == DiskWipe) {
-        const QList<Shortfall> foreseen = foreseeableShortfalls(*m_currentTask).shortfalls();
+    if (m_job->task()->operationType() == DiskWipe) {
+        const QList<Shortfall> foreseen = foreseeableShortfalls(*m_job->task()).shortfalls();
         if (!foreseen.isEmpty())
             confirmation.offerWholeDrive(foreseen.constFirst().bytes);
     }
     if (confirmation.exec() != QDialog::Accepted)
         return false;
-    m_currentTask->setWholeDrive(confirmation.wantsWholeDrive());
+    m_job->task()->setWholeDrive(confirmation.wantsWholeDrive());
     return true;
 }
 
@@ -169,48 +160,66 @@ bool MainWindow::isConfirmed()
 bool MainWindow::isReady()
 {
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-    const QString problem = m_engine->makeReady();
+    const QString problem = m_job->makeReady();
     QGuiApplication::restoreOverrideCursor();
     if (problem.isEmpty())
         return true;
-    const QString title = m_currentTask->operationType() == FreeSpaceWipe ? tr("This Volume Cannot Be Erased")
+    const QString title = m_job->task()->operationType() == FreeSpaceWipe ? tr("This Volume Cannot Be Erased")
                                                                           : tr("This Disk Cannot Be Erased");
     Prompts::current().warning(this, title, problem);
     return false;
 }
 
+bool MainWindow::isRefused(const QString &reason)
+{
+    if (!reason.isEmpty())
+        Prompts::current().warning(this, tr("The Erasure Cannot Start"), reason);
+    return !reason.isEmpty();
+}
+
 void MainWindow::onStartWipe()
 {
-    if (!m_currentTask || hasObstacles())
+    if (!m_job->task() || isRefused(m_job->pendingJob()) || hasObstacles())
         return;
     const WipeMethod method = m_methodPage->selectedMethod();
-    m_currentTask->setMethod(method);
-    if (!isConfirmed())
-        return;
-    m_engine->setTask(m_currentTask);
-    if (!isReady())
+    m_job->task()->setMethod(method);
+    if (!isConfirmed() || !isReady())
         return;
     m_progressPage->reset();
     m_progressPage->setMethod(method.name);
     m_progressPage->setTotalPasses(method.passCount());
     setMenuEnabled(false);
     showPage(Progress);
-    m_engine->start();
+    const QString refusal = m_job->start();
+    if (refusal.isEmpty())
+        return;
+    setMenuEnabled(true);
+    showPage(MethodSelect);
+    isRefused(refusal);
+}
+
+// A job that ends meanwhile takes the question back, which counts as closed then.
+QMessageBox::StandardButton MainWindow::askAboutJob(const Prompts::Box &box)
+{
+    m_asksAboutJob = true;
+    const auto answer = Prompts::current().show(this, box);
+    m_asksAboutJob = false;
+    return answer;
 }
 
 void MainWindow::onStopClicked()
 {
-    const auto answer = Prompts::current().show(this, {QMessageBox::Warning,
-                                                       tr("Confirm Stop"),
-                                                       tr("Are you sure you want to stop the wipe task?\n"
-                                                          "This operation cannot be undone."),
-                                                       QMessageBox::Ok | QMessageBox::Cancel,
-                                                       QMessageBox::Cancel,
-                                                       {},
-                                                       Qt::PlainText});
+    const auto answer = askAboutJob({QMessageBox::Warning,
+                                     tr("Confirm Stop"),
+                                     tr("Are you sure you want to stop the wipe task?\n"
+                                        "This operation cannot be undone."),
+                                     QMessageBox::Ok | QMessageBox::Cancel,
+                                     QMessageBox::Cancel,
+                                     {},
+                                     Qt::PlainText});
     if (answer != QMessageBox::Ok)
         return;
-    m_engine->stop();
+    m_job->stop();
     setMenuEnabled(true);
     showHome();
 }

@@ -1,7 +1,7 @@
 // What the system's frame does for other windows.
 #include "ui/mainwindow/mainwindow.h"
 
-#include "engine/wipeengine.h"
+#include "jobs/jobcontroller.h"
 #include "prompts/prompts.h"
 #include "services/linkmanager.h"
 #include "ui/titlebar/titlebar.h"
@@ -146,17 +146,27 @@ void MainWindow::mouseReleaseEvent(QMouseEvent *event)
 
 void MainWindow::closeEvent(QCloseEvent *event)
 {
-    if (m_engine->isRunning()) {
-        if (!Prompts::current().confirms(this, QMessageBox::Warning, tr("Confirm Exit"),
+    if (m_job->state() == JobController::State::Running) {
+        const auto answer = askAboutJob({QMessageBox::Warning,
+                                         tr("Confirm Exit"),
                                          tr("Wipe task is in progress. Are you sure you want to exit?\n"
                                             "Exiting will interrupt the current task."),
-                                         QMessageBox::No)) {
+                                         QMessageBox::Yes | QMessageBox::No,
+                                         QMessageBox::No,
+                                         {},
+                                         Qt::PlainText});
+        if (answer != QMessageBox::Yes) {
             event->ignore();
             return;
         }
-        m_engine->stop();
     }
+    m_job->leave(JobController::State::Closing);
     event->accept();
+}
+
+void MainWindow::leaveUnasked(std::function<void()> then)
+{
+    m_job->leave(JobController::State::Closing, std::move(then));
 }
 
 void MainWindow::onAboutClicked()

@@ -1,6 +1,7 @@
 // The Recycle Bin: scanned in the background, shown in pieces, then a file wipe like any other.
 #include "ui/mainwindow/mainwindow.h"
 
+#include "jobs/jobcontroller.h"
 #include "model/displaytext.h"
 #include "model/formatsize.h"
 #include "model/wipetask.h"
@@ -112,7 +113,7 @@ void MainWindow::takeRecycleBin(const RecycleBinInfo &found)
 {
     m_filePage->setHeader(tr("Recycle Bin Wipe"),
                           tr("The following deleted files were found in the Recycle Bin"));
-    WipeTask &task = newTask(FileWipe);
+    WipeTask &task = m_job->newTask(FileWipe);
     task.setFiles(existing(found.filePaths));
     task.setTargetsAreNamed(false);
     m_recycleBin = found;

@@ -84,6 +84,8 @@ int runDesktopProgram(int &argc, char **argv)
     auto window = std::make_unique<MainWindow>();
     window->show();
     AppLog::instance().info(u"Main window displayed"_s);
+    // The end of the session, or of the terminal: nobody is asked, and a job that runs keeps its record.
+    const platform::StopHandler stopping([&window] { window->leaveUnasked([] { QApplication::exit(0); }); });
     const int code = QApplication::exec();
     window.reset();
     AppLog::instance().info(u"Application exiting"_s);

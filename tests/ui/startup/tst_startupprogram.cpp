@@ -1,3 +1,6 @@
+#include "model/joboutcome.h"
+#include "model/wipereport.h"
+#include "services/reportdatabase.h"
 #include "support/suite.h"
 #include "support/testfiles.h"
 
@@ -55,6 +58,8 @@ private slots:
     void startsWithoutADataFolder();
     void livesOnWithoutAReaderOfItsTrace();
     void aNewLanguageStartsTheProgramAnew();
+    void aJobThatIsLeftIsRecorded_data();
+    void aJobThatIsLeftIsRecorded();
 
 private:
     QString home(const QString &name) const { return m_home->filePath(name); }
@@ -75,6 +80,7 @@ private:
     std::unique_ptr<QTemporaryDir> m_home;
     std::unique_ptr<QProcess> m_program;
     QString m_locale;
+    QString m_drive; // an image file
 };
 
 void tst_StartupProgram::init()
@@ -86,6 +92,7 @@ void tst_StartupProgram::init()
     QFile::setPermissions(home(u"run"_s), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     m_program = std::make_unique<QProcess>();
     m_locale.clear();
+    m_drive.clear();
 }
 
 // No process outlives its test, least of all one that the program started.
@@ -130,7 +137,10 @@ void tst_StartupProgram::prepare(const QStringList &steps)
     environment.insert(u"XDG_CACHE_HOME"_s, home(u"cache"_s));
     environment.insert(u"XDG_RUNTIME_DIR"_s, home(u"run"_s));
     environment.insert(u"QUORVEX_ONLY_IMAGE_DISKS"_s, u"1"_s);
-    environment.remove(u"QUORVEX_IMAGE_DISKS"_s);
+    if (m_drive.isEmpty())
+        environment.remove(u"QUORVEX_IMAGE_DISKS"_s);
+    else
+        environment.insert(u"QUORVEX_IMAGE_DISKS"_s, m_drive);
     environment.insert(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
     environment.insert(u"QT_FORCE_STDERR_LOGGING"_s, u"1"_s);
     environment.remove(u"QT_MESSAGE_PATTERN"_s);
@@ -308,6 +318,54 @@ void tst_StartupProgram::aNewLanguageStartsTheProgramAnew()
                                   u"[INFO] Loaded translation: en"_s, u"[INFO] Main window displayed"_s,
                                   u"[INFO] Application started"_s, u"[INFO] Version: 5.0"_s,
                                   u"[INFO] Loaded translation: de"_s, u"[INFO] Main window displayed"_s}));
+}
+
+void tst_StartupProgram::aJobThatIsLeftIsRecorded_data()
+{
+    QTest::addColumn<QStringList>("steps");
+    QTest::addColumn<int>("signal");
+    QTest::newRow("closed") << QStringList{u"wipe close"_s} << 0;
+    QTest::newRow("another language") << QStringList{u"wipe language de"_s, u"close"_s} << 0;
+    QTest::newRow("the end of the session") << QStringList{u"wipe"_s} << SIGTERM;
+}
+
+void tst_StartupProgram::aJobThatIsLeftIsRecorded()
+{
+    QFETCH(const QStringList, steps);
+    QFETCH(const int, signal);
+    store(u"en"_s);
+    m_drive = home(u"drive.img"_s);
+    {
+        // Sparse, and far too large to be through before it is left.
+        QFile drive(m_drive);
+        QVERIFY(drive.open(QIODevice::WriteOnly) && drive.resize(qint64(64) << 30));
+    }
+    start(steps);
+    if (signal != 0) {
+        QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(home(u"driver/writing"_s)), Patience);
+        QCOMPARE(::kill(static_cast<pid_t>(m_program->processId()), signal), 0);
+    }
+    QVERIFY(ends());
+    const qsizetype runs = steps.size();
+    QTRY_COMPARE_WITH_TIMEOUT(log().count(u"[INFO] Application exiting"_s), runs, Patience);
+
+    const QStringList lines = log();
+    const QStringList told = lines.filter(
+        QRegularExpression(u"^\\[INFO\\] Job ended: cancelled, report QVX-[-0-9]+ is stored$"_s));
+    QCOMPARE(told.size(), 1);
+    // The next run of the program finds everything in order.
+    const qsizetype second = lines.indexOf(u"[INFO] Application started"_s, 1);
+    QVERIFY(runs == 1 ? second == -1 : second > lines.indexOf(told.constFirst()));
+    const QString id = told.constFirst().section(u' ', 5, 5);
+    ReportDatabase &database = ReportDatabase::instance();
+    QVERIFY(database.initialize(home(u"data/Veltrano/Quorvex"_s)));
+    const QList<WipeReport> reports = database.getReports(10, 0);
+    const auto outcome = database.outcome(id);
+    database.close();
+    QCOMPARE(reports.size(), 1);
+    QCOMPARE(reports.constFirst().certificateId, id);
+    QVERIFY(outcome);
+    QCOMPARE(outcome->outcome(), JobOutcome::Cancelled);
 }
 
 QUORVEX_SUITE(tst_StartupProgram, QCoreApplication)

@@ -7,15 +7,19 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSaveFile>
 #include <QTimer>
+#include <QTreeWidget>
 #include <QWidget>
 
 #include <chrono>
 #include <cstdlib>
+
+#include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -26,7 +30,9 @@ using namespace std::chrono_literals;
 // file "steps" says:
 //   close          presses the close button of the window
 //   language CODE  chooses that language in the menu and confirms the message that follows
-// Without such a line nothing happens. No run lasts longer than a minute, whatever became of the test.
+// "wipe" before one of them has it begin to erase the first drive with the last method of the list, and do
+// the rest when the job writes; "wipe" alone leaves the job to the test, and says "writing" in a file of that
+// name. Without such a line nothing happens. No run lasts longer than a minute, whatever became of the test.
 
 namespace {
 
@@ -106,23 +112,71 @@ private:
 
     void follow(const QWidget &window, const QString &step)
     {
-        if (step == u"close")
-            window.findChild<QPushButton *>(u"closeButton"_s)->click();
+        if (step == u"wipe" || step.startsWith(u"wipe "))
+            wipe(window, step.section(u' ', 1));
+        else if (step == u"close")
+            close(window);
         else if (step.startsWith(u"language "))
             chooseLanguage(window, step.section(u' ', 1));
     }
 
-    void chooseLanguage(const QWidget &window, const QString &code)
+    // Yes, should it be asked.
+    void close(const QWidget &window)
+    {
+        answer(QMessageBox::Yes);
+        window.findChild<QPushButton *>(u"closeButton"_s)->click();
+    }
+
+    void answer(QMessageBox::StandardButton button)
     {
         auto *const confirmation = new QTimer(this);
-        connect(confirmation, &QTimer::timeout, this, [confirmation] {
+        connect(confirmation, &QTimer::timeout, this, [confirmation, button] {
             auto *const box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
             if (!box)
                 return;
             confirmation->stop();
-            box->button(QMessageBox::Ok)->click();
+            box->button(button)->click();
         });
         confirmation->start(10ms);
+    }
+
+    void wipe(const QWidget &window, const QString &then)
+    {
+        auto *const main = const_cast<QWidget *>(&window);
+        QMetaObject::invokeMethod(main, "onDiskWipeClicked");
+        auto *const tree = window.findChild<QTreeWidget *>(u"diskTree"_s);
+        tree->setCurrentItem(tree->topLevelItem(0));
+        QMetaObject::invokeMethod(main, "onNextClicked");
+        auto *const confirmation = new QTimer(this);
+        connect(confirmation, &QTimer::timeout, this, [confirmation] {
+            QWidget *const dialog = QApplication::activeModalWidget();
+            auto *const word = dialog ? dialog->findChild<QLineEdit *>() : nullptr;
+            if (!word)
+                return;
+            confirmation->stop();
+            word->setText(u"ERASE"_s);
+            dialog->findChild<QPushButton *>(u"dangerBtn"_s)->click();
+        });
+        confirmation->start(10ms);
+        auto *const writing = new QTimer(this);
+        const QByteArray drive = qgetenv("QUORVEX_IMAGE_DISKS");
+        connect(writing, &QTimer::timeout, this, [this, main, writing, then, drive] {
+            struct stat image = {};
+            if (::stat(drive.constData(), &image) != 0 || image.st_blocks == 0)
+                return;
+            writing->stop();
+            if (then.isEmpty())
+                QFile(m_folder.filePath(u"writing"_s)).open(QIODevice::WriteOnly);
+            else
+                follow(*main, then);
+        });
+        writing->start(5ms);
+        QMetaObject::invokeMethod(main, "onStartWipe");
+    }
+
+    void chooseLanguage(const QWidget &window, const QString &code)
+    {
+        answer(QMessageBox::Ok);
         const QList<QAction *> actions = window.findChild<QMenu *>(u"languageMenu"_s)->actions();
         for (QAction *action : actions) {
             if (action->data().toString() == code)

@@ -1,0 +1,104 @@
+#include "jobs/jobcontroller.h"
+
+#include "engine/wipeengine.h"
+#include "model/wipetask.h"
+
+#include <utility>
+
+JobController::JobController(QObject *parent)
+    : QObject(parent)
+    , m_engine(new WipeEngine(this))
+{
+    connect(m_engine, &WipeEngine::completed, this, &JobController::complete);
+    connect(m_engine, &WipeEngine::errorOccurred, this, [this](const QString &error) { m_refusal = error; });
+}
+
+JobController::~JobController()
+{
+    finish();
+    // The engine's worker may read the task to its end.
+    delete m_engine;
+    delete m_task;
+}
+
+WipeTask &JobController::newTask(OperationType type)
+{
+    m_engine->deleteTask(m_task);
+    m_task = new WipeTask(this);
+    m_task->setOperationType(type);
+    return *m_task;
+}
+
+// The engine would wait for the worker of that one, however long.
+QString JobController::pendingJob() const
+{
+    return m_state == State::Idle ? QString() : tr("The previous job is still ending.");
+}
+
+QString JobController::makeReady()
+{
+    if (m_state != State::Idle)
+        return pendingJob();
+    m_engine->setTask(m_task);
+    return m_engine->makeReady();
+}
+
+QString JobController::start()
+{
+    if (m_state != State::Idle)
+        return pendingJob();
+    m_engine->setTask(m_task);
+    m_refusal.clear();
+    m_engine->start();
+    if (!m_engine->isRunning())
+        return m_refusal;
+    m_state = State::Running;
+    return {};
+}
+
+void JobController::stop()
+{
+    if (m_state != State::Running)
+        return;
+    m_state = State::Stopping;
+    m_engine->stop();
+}
+
+void JobController::leave(State whither, std::function<void()> then)
+{
+    if (m_state == State::Idle) {
+        if (then)
+            then();
+        return;
+    }
+    m_state = whither;
+    if (then)
+        m_then = std::move(then);
+    m_engine->stop();
+}
+
+void JobController::finish()
+{
+    if (m_state == State::Idle)
+        return;
+    leave(m_state == State::Restarting ? State::Restarting : State::Closing);
+    m_engine->waitForEnd();
+}
+
+void JobController::complete(bool success)
+{
+    JobEnd end;
+    end.success = success;
+    end.report = m_engine->report();
+    end.outcome = m_engine->outcome();
+    if (!success)
+        end.leftUnmounted = m_engine->dismountedVolumes();
+    if (m_keep)
+        m_keep(end);
+    const State was = std::exchange(m_state, State::Idle);
+    const std::function<void()> then = std::exchange(m_then, {});
+    if (was != State::Closing && was != State::Restarting)
+        emit ended(end);
+    else if (then)
+        then();
+}
