@@ -103,6 +103,9 @@ Outcome<CommandLine> parseForCommand(const Command &command, const QStringList &
         return line;
     }
 
+    if (line.options->isSet(u"data-dir"_s) && line.options->value(u"data-dir"_s).isEmpty())
+        return wrongCommandLine(Cli::tr("--data-dir is empty"), command.words);
+
     line.arguments = line.options->positionalArguments().mid(command.words.size());
     const auto count = line.arguments.size();
     if (count < command.minimumArguments)

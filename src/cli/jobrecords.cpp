@@ -4,6 +4,7 @@
 #include "cli/commandline.h"
 #include "cli/translate.h"
 #include "cli/wipeoptions.h"
+#include "jobs/reportstorage.h"
 #include "model/displaytext.h"
 #include "model/joboutcome.h"
 #include "model/wipereport.h"
@@ -67,9 +68,10 @@ JobRecords::Written JobRecords::write(const WipeReport &report, const OutcomeRec
                                       bool withCertificate) const
 {
     Written written;
-    if (m_store && !m_store->database().saveReport(report, outcome)) {
-        written.problems.append(Cli::tr("report %1 could not be stored in the database: %2")
-                                    .arg(report.certificateId, displayText(m_store->database().lastError())));
+    if (m_store) {
+        if (const QString problem = storeReport(report, outcome); !problem.isEmpty())
+            written.problems.append(Cli::tr("report %1 could not be stored in the database: %2")
+                                        .arg(report.certificateId, problem));
     }
     if (m_reportFile.isWanted()) {
         if (m_reportFile.write(report.toJson()))

@@ -12,6 +12,7 @@
 #include "cli/textjobview.h"
 #include "cli/translate.h"
 #include "engine/foreseeable.h"
+#include "jobs/certificatenumber.h"
 #include "model/displaytext.h"
 
 #include <QScopeGuard>
@@ -45,6 +46,20 @@ std::optional<Refusal> checkTasks(const WipePlan &plan)
         const QString error = job.task->validationError();
         if (!error.isEmpty())
             return Refusal{Refused, error};
+    }
+    return std::nullopt;
+}
+
+// None of the plan's reports may take the place of a stored one, nor of each other.
+std::optional<Refusal> claimCertificateIds(const WipePlan &plan, const WipeOptions &options)
+{
+    QStringList taken;
+    for (const PlannedJob &job : plan.jobs) {
+        if (!options.storeReport)
+            break;
+        if (const QString problem = claimCertificateId(*job.task, taken); !problem.isEmpty())
+            return Refusal{Refused, problem + u' ' + Cli::tr("--no-report does without.")};
+        taken.append(job.task->report().certificateId);
     }
     return std::nullopt;
 }
@@ -167,6 +182,8 @@ Outcome<ExitCode> carryOut(WipePlan &plan, const WipeOptions &options, const Com
     const auto records = JobRecords::prepare(options, context, plan.doomedPaths, commandWords);
     if (!records)
         return records.refusal();
+    if (const auto refusal = claimCertificateIds(plan, options))
+        return *refusal;
     if (const auto refusal = ask(plan, options, context))
         return *refusal;
     // Whoever stops now gets the end of a job that has touched nothing.

@@ -1,6 +1,7 @@
 #include "jobs/jobcontroller.h"
 
 #include "engine/wipeengine.h"
+#include "jobs/certificatenumber.h"
 #include "model/wipetask.h"
 
 #include <utility>
@@ -35,10 +36,14 @@ QString JobController::pendingJob() const
     return m_state == State::Idle ? QString() : tr("The previous job is still ending.");
 }
 
-QString JobController::makeReady()
+QString JobController::makeReady(bool storesReport)
 {
     if (m_state != State::Idle)
         return pendingJob();
+    if (storesReport && m_task) {
+        if (const QString problem = claimCertificateId(*m_task); !problem.isEmpty())
+            return problem;
+    }
     m_engine->setTask(m_task);
     return m_engine->makeReady();
 }

@@ -45,9 +45,9 @@ public:
     /// Why no job can start yet, in words for the user. Empty: the one before has ended.
     QString pendingJob() const;
 
-    /// What is in the way of a start, in words for the user, after having made ready what the job needs (see
-    /// WipeEngine::makeReady()). Empty: nothing.
-    QString makeReady();
+    /// Makes ready what the job needs: a certificate id of its own where its report is to be stored, and what
+    /// WipeEngine::makeReady() does. What is in the way of that, in words for the user; empty: nothing.
+    QString makeReady(bool storesReport);
 
     /// Starts the job of the task. Not empty: it was refused, and why, in words for the user.
     QString start();

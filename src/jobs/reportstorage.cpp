@@ -25,6 +25,8 @@ QString cause(ReportDatabase::Problem problem)
         return Words::tr("The report database is damaged.");
     case ReportDatabase::Problem::CannotOpen:
         return Words::tr("The report database cannot be opened.");
+    case ReportDatabase::Problem::IsLink:
+        return Words::tr("A link is in the place of the report database.");
     case ReportDatabase::Problem::Other:
         break;
     }

@@ -108,7 +108,7 @@ enum class OpenMode {
 // cannot express in Unicode is carried losslessly (Linux: an undecodable byte b as the lone surrogate U+DC00
 // + b).
 //
-// No operation but openForAppending follows a link in the last component of the path. In a held folder, none
+// No operation follows a link in the last component of the path. In a held folder, none
 // of those that open or change an entry touches what is mounted over a name: they fail with NotSameDevice,
 // rename and remove with SharingViolation. Thread-safe.
 class Files
@@ -141,10 +141,10 @@ public:
     virtual Result<QByteArray> readBeginning(const QString &path, qint64 limit) = 0;
 
     // Opens a file for lines of text, each write of which lands behind everything in it, also behind what
-    // other processes have written since. One that is not there is made, for its owner only; a link is
-    // followed. What could not be written is kept and tried again with the next flush. The device may outlive
-    // the Platform; one thread at a time. Windows: FILE_APPEND_DATA without FILE_WRITE_DATA, all sharing but
-    // deletion. Linux: O_APPEND.
+    // other processes have written since. One that is not there is made, for its owner only; anything but a
+    // regular file is refused as by open(), a link as well. What could not be written is kept and tried again
+    // with the next flush. The device may outlive the Platform; one thread at a time. Windows:
+    // FILE_APPEND_DATA without FILE_WRITE_DATA, all sharing but deletion. Linux: O_APPEND | O_NOFOLLOW.
     virtual Result<std::unique_ptr<QFileDevice>> openForAppending(const QString &path) = 0;
 
     // Makes the file writable for its owner. Success when nothing had to change, or when nothing stands

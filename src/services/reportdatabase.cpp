@@ -6,10 +6,13 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QSqlError>
 #include <QSqlQuery>
 #include <QStandardPaths>
 #include <QVariant>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -29,6 +32,22 @@ constexpr QFile::Permissions AnyOwnerPermission = OwnerMayReadAndWrite | QFile::
 constexpr QFile::Permissions AnyPermissionOfOthers = QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup |
                                                      QFile::ReadOther | QFile::WriteOther | QFile::ExeOther;
 
+QStringList filesOf(const QString &path)
+{
+    return {path, path + u"-journal"_s, path + u"-wal"_s, path + u"-shm"_s};
+}
+
+// What stands behind a link is somebody else's file. Empty: none is one.
+QString linkAmong(const QString &path)
+{
+    const QStringList files = filesOf(path);
+    const auto link = std::ranges::find_if(files, [](const QString &file) {
+        const QFileInfo info(file);
+        return info.isSymLink() || info.isJunction();
+    });
+    return link == files.end() ? QString() : *link;
+}
+
 // SQLite would make the file for everybody to read; the files it puts beside it get the permissions of this
 // one. What fails here fails again, with a reason to show, when SQLite opens the file.
 void keepToOwner(const QString &path)
@@ -37,7 +56,7 @@ void keepToOwner(const QString &path)
     if (file.open(QIODevice::WriteOnly | QIODevice::NewOnly, OwnerMayReadAndWrite))
         return;
     // Left by a program that was killed, the ones at the side have what the file had then.
-    for (const QString &name : {path, path + u"-journal"_s, path + u"-wal"_s, path + u"-shm"_s}) {
+    for (const QString &name : filesOf(path)) {
         const QFile::Permissions permissions = QFile::permissions(name);
         if (permissions & AnyPermissionOfOthers)
             QFile::setPermissions(name, permissions & AnyOwnerPermission);
@@ -118,6 +137,11 @@ bool ReportDatabase::open(const QString &folder, std::chrono::milliseconds patie
     // Without the folder the file does not open, which says so.
     QDir().mkpath(folder);
     const QString path = folder + u"/quorvex.db"_s;
+    if (const QString link = linkAmong(path); !link.isEmpty()) {
+        m_lastError = u"%1 is a link"_s.arg(link);
+        m_lastProblem = Problem::IsLink;
+        return false;
+    }
     keepToOwner(path);
 
     m_db = QSqlDatabase::addDatabase(u"QSQLITE"_s);
@@ -222,6 +246,8 @@ std::optional<OutcomeRecord> ReportDatabase::outcome(const QString &certificateI
 
 std::optional<QList<ReportDatabase::StoredReport>> ReportDatabase::storedReports(int limit, int offset)
 {
+    if (!m_initialized)
+        return std::nullopt;
     QList<StoredReport> reports;
     QSqlQuery query = page(limit, offset);
     while (query.next())
@@ -233,6 +259,8 @@ std::optional<QList<ReportDatabase::StoredReport>> ReportDatabase::storedReports
 
 std::optional<QByteArray> ReportDatabase::storedJson(const QString &certificateId)
 {
+    if (!m_initialized)
+        return std::nullopt;
     QSqlQuery query = one(certificateId);
     const bool isThere = query.next();
     if (!hasAnswered(query))
@@ -241,6 +269,30 @@ std::optional<QByteArray> ReportDatabase::storedJson(const QString &certificateI
         return QByteArray();
     const QByteArray json = query.value(0).toString().toUtf8();
     return json.isNull() ? QByteArray("") : json;
+}
+
+std::optional<bool> ReportDatabase::holds(const QString &certificateId)
+{
+    const std::optional<QByteArray> json = storedJson(certificateId);
+    if (!json)
+        return std::nullopt;
+    return !json->isNull();
+}
+
+std::optional<int> ReportDatabase::countBeginningWith(const QString &idBeginning)
+{
+    if (!m_initialized)
+        return std::nullopt;
+    QSqlQuery query(m_db);
+    query.setForwardOnly(true);
+    query.prepare(reporttable::countBeginning);
+    query.addBindValue(idBeginning);
+    query.addBindValue(idBeginning);
+    query.exec();
+    const bool isThere = query.next();
+    if (!hasAnswered(query) || !isThere)
+        return std::nullopt;
+    return query.value(0).toInt();
 }
 
 // An error may come with any row.

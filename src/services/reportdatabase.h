@@ -16,7 +16,8 @@ QT_FORWARD_DECLARE_CLASS(QSqlQuery)
 
 /// The reports of all finished jobs with their outcomes, in one SQLite file of the user, "quorvex.db" in the
 /// application's data folder. A report that saveReport() took is on the medium when the call returns and
-/// survives a kill or a power cut; the bytes of a deleted one leave the file. Readable by its owner only.
+/// survives a kill or a power cut; the bytes of a deleted one leave the file. Readable by its owner only. A
+/// link in the place of the file or of one of those beside it is not followed: initialize() fails.
 ///
 /// Other programs may have the file open: a call waits up to ten seconds for them. One thread, that of
 /// initialize(). getReports(), getReport(), outcome() and deleteReport() leave lastError() as it is; the
@@ -68,6 +69,12 @@ public:
     /// The text of one report: null when there is none of that id, nothing when the file could not be read.
     std::optional<QByteArray> storedJson(const QString &certificateId);
 
+    /// Whether a report of that id is stored; nothing when the file could not be read.
+    std::optional<bool> holds(const QString &certificateId);
+
+    /// How many stored reports have an id that begins so; nothing when the file could not be read.
+    std::optional<int> countBeginningWith(const QString &idBeginning);
+
     /// Its outcome goes with it. True as well when there is no report of that id.
     bool deleteReport(const QString &certificateId);
 
@@ -75,7 +82,7 @@ public:
     QString lastError() const { return m_lastError; }
 
     /// What a failure comes from.
-    enum class Problem { InUse, NoPermission, Full, Damaged, CannotOpen, Other };
+    enum class Problem { InUse, NoPermission, Full, Damaged, CannotOpen, IsLink, Other };
     /// Of the last failure.
     Problem lastProblem() const { return m_lastProblem; }
 

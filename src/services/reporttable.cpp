@@ -103,6 +103,8 @@ const QString create = u"        CREATE TABLE IF NOT EXISTS wipe_reports (\n"
 const QString selectPage =
     u"SELECT certificate_id, report_json FROM wipe_reports ORDER BY start_time DESC LIMIT ? OFFSET ?"_s;
 const QString selectOne = u"SELECT report_json FROM wipe_reports WHERE certificate_id = ?"_s;
+const QString countBeginning =
+    u"SELECT COUNT(*) FROM wipe_reports WHERE substr(certificate_id, 1, length(?)) = ?"_s;
 const QString deleteOne = u"DELETE FROM wipe_reports WHERE certificate_id = ?"_s;
 
 void createIndexes(const QSqlDatabase &database)

@@ -22,5 +22,7 @@ extern const QString selectOne;
 // Columns: certificate_id, report_json; latest start first. Takes a limit and an offset.
 extern const QString selectPage;
 extern const QString deleteOne;
+// Column: how many ids begin with a text, to be given twice.
+extern const QString countBeginning;
 
 } // namespace reporttable

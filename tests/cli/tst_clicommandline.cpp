@@ -29,6 +29,7 @@ private slots:
     void everyExampleIsAValidCommandLine();
     void helpIsFoundBeforeAndBehindTheCommand();
     void optionsMayStandAnywhere();
+    void anEmptyDataFolderIsRefused();
     void aWrongLineIsToldInOneLine_data();
     void aWrongLineIsToldInOneLine();
     void aWrongLineCannotSteerTheTerminal();
@@ -134,6 +135,13 @@ void tst_CliCommandLine::optionsMayStandAnywhere()
     run({u"--method"_s, u"nonsense"_s, u"wipe"_s, u"disk"_s, u"0"_s});
     QCOMPARE(run.code, 2);
     QVERIFY(run.complains("nonsense"));
+}
+
+void tst_CliCommandLine::anEmptyDataFolderIsRefused()
+{
+    TestIo io;
+    QCOMPARE(cli::runCli({u"reports"_s, u"list"_s, u"--data-dir"_s, u""_s}, io, SourceTexts), 2);
+    QVERIFY2(io.err.contains("--data-dir is empty"), io.err.constData());
 }
 
 void tst_CliCommandLine::aWrongLineIsToldInOneLine_data()

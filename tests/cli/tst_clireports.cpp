@@ -42,6 +42,8 @@ private slots:
     void whatWasNotReadBackIsNotCalledSo();
     void aDatabaseInWhatIsErasedIsRefused();
     void aReportThatCannotBeStoredIsToldAndTheResultToo();
+    void noStoredReportIsReplaced();
+    void aDayWithoutACertificateNumberLeftIsRefused();
 
     void theListHasTheLatestFirst();
     void theListTakesLimitAndOffset();
@@ -123,6 +125,28 @@ bool damage(const QString &folder, const QString &id, const QString &text)
     query.clear();
     database.close();
     return done;
+}
+
+// Stores a record for each certificate number of today and tomorrow but that one.
+bool takeNumbers(const QString &folder, int spared)
+{
+    ReportDatabase &database = ReportDatabase::instance();
+    bool isTaken = database.initialize(folder);
+    for (const QDate day : {QDate::currentDate(), QDate::currentDate().addDays(1)}) {
+        QSqlQuery query;
+        isTaken =
+            isTaken &&
+            query.prepare(
+                u"WITH RECURSIVE n(i) AS (SELECT 1000 UNION ALL SELECT i + 1 FROM n WHERE i < 9998) "
+                "INSERT INTO wipe_reports (certificate_id, operation_type, method_name, method_type, "
+                "pass_count, "
+                "start_time, status, report_json) SELECT ? || i, 0, '', 0, 1, '', 3, '{}' FROM n WHERE i <> ?"_s);
+        query.addBindValue(day.toString(u"'QVX-'yyyy-MMdd-"_s));
+        query.addBindValue(spared);
+        isTaken = isTaken && query.exec();
+    }
+    database.close();
+    return isTaken;
 }
 
 QByteArray storedText(const QString &folder, const QString &id)
@@ -260,6 +284,34 @@ void tst_CliReports::aReportThatCannotBeStoredIsToldAndTheResultToo()
     QCOMPARE(run.code, 5);
     QCOMPARE(run.io.events(u"error"_s).size(), 1);
     QVERIFY(run.io.events().constLast().value(u"success").toBool());
+}
+
+void tst_CliReports::noStoredReportIsReplaced()
+{
+    MemoryMachine machine;
+    addDrive(machine);
+    CliRun run;
+    // Midnight may come between this and the job.
+    QVERIFY(takeNumbers(run.folder(), 4711));
+    run(wipeDrive({u"--json"_s}));
+    QCOMPARE(run.code, 0);
+    const QString id = run.io.events().constLast().value(u"certificateId").toString();
+    QVERIFY2(id.endsWith(u"-4711"_s), qPrintable(id));
+    QCOMPARE(storedText(run.folder(), id.chopped(4) + u"4712"_s), QByteArray("{}"));
+}
+
+void tst_CliReports::aDayWithoutACertificateNumberLeftIsRefused()
+{
+    MemoryMachine machine;
+    addDrive(machine);
+    CliRun run;
+    QVERIFY(takeNumbers(run.folder(), 0));
+    run(wipeDrive());
+    QCOMPARE(run.code, 3);
+    QVERIFY2(run.complains("--no-report"), run.io.err.constData());
+    QCOMPARE(machine.openings(), QStringList());
+    TestIo io;
+    QCOMPARE(cli::runCli(wipeDrive({u"--no-report"_s, u"--data-dir"_s, run.folder()}), io, SourceTexts), 0);
 }
 
 void tst_CliReports::theListHasTheLatestFirst()

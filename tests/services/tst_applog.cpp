@@ -4,6 +4,7 @@
 #include "services/applog.h"
 #include "support/suite.h"
 
+#include "support/links.h"
 #include "support/messagecapture.h"
 #include "support/testfiles.h"
 #include "support/userdata.h"
@@ -30,6 +31,7 @@
 #ifdef Q_OS_UNIX
 #include <csignal>
 #include <sys/resource.h>
+#include <sys/stat.h>
 #endif
 
 #ifdef Q_OS_WIN
@@ -210,6 +212,8 @@ private slots:
     void aFileThatDoesNotOpenLeavesOnlyTheEcho_data();
     void aFileThatDoesNotOpenLeavesOnlyTheEcho();
     void theFileIsOpenedByThePlatformInForce();
+    void onlyARegularFileIsWritten_data();
+    void onlyARegularFileIsWritten();
     void threadsNeverShareALine();
 
 private:
@@ -549,6 +553,35 @@ void tst_AppLog::theFileIsOpenedByThePlatformInForce()
     AppLog::instance().setLogFile(m_path);
     AppLog::instance().info(u"two"_s);
     QCOMPARE(linesOf(m_path), QStringList{u"[INFO] two"_s});
+}
+
+void tst_AppLog::onlyARegularFileIsWritten_data()
+{
+    QTest::addColumn<bool>("isLink");
+    QTest::newRow("a link") << true;
+    QTest::newRow("a pipe") << false;
+}
+
+void tst_AppLog::onlyARegularFileIsWritten()
+{
+    QFETCH(const bool, isLink);
+    const MessageCapture capture;
+    const QString target = writeFile(m_dir->filePath(u"somebody's"_s), "content");
+    const QString other = m_dir->filePath(u"other.log"_s);
+    if (isLink) {
+        if (!makeLink(target, other))
+            QSKIP("SKIPPED: this system makes no symbolic links for this user");
+    } else {
+#ifdef Q_OS_UNIX
+        QCOMPARE(::mkfifo(QFile::encodeName(other).constData(), 0600), 0);
+#else
+        QSKIP("SKIPPED: only Unix has pipes among its files");
+#endif
+    }
+    AppLog::instance().setLogFile(other);
+    AppLog::instance().info(u"one"_s);
+    QCOMPARE(contentOf(target), QByteArray("content"));
+    QCOMPARE(capture.messages().size(), 1);
 }
 
 void tst_AppLog::threadsNeverShareALine()

@@ -1,6 +1,7 @@
 #include "model/wipereport.h"
 #include "services/reportdatabase.h"
 #include "support/filledreport.h"
+#include "support/links.h"
 #include "support/suite.h"
 #include "support/testfiles.h"
 #include "support/userdata.h"
@@ -35,6 +36,7 @@
 #endif
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace {
 constexpr int NoLimit = 1000000;
@@ -369,6 +371,10 @@ private slots:
     void aFileThatIsNoDatabaseIsRefused();
     void aFolderInPlaceOfTheFileIsRefused();
     void aFileInPlaceOfTheFolderIsRefused();
+    void aLinkIsNotFollowed_data();
+    void aLinkIsNotFollowed();
+    void aFileThatIsHeldIsOpenedLater();
+    void idsAreCountedByTheirBeginning();
     void aReadOnlyFileIsRefused();
     void onAReadOnlyVolumeReportsAreReadButNotStored();
     void onAReadOnlyVolumeNoFileIsMade();
@@ -1152,6 +1158,67 @@ void tst_ReportDatabase::aFileInPlaceOfTheFolderIsRefused()
              qPrintable(database().lastError()));
     QVERIFY(QFile::remove(userdata::folder()));
     QVERIFY(database().initialize());
+}
+
+void tst_ReportDatabase::aLinkIsNotFollowed_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const QString &name : {u"quorvex.db"_s, u"quorvex.db-journal"_s, u"quorvex.db-wal"_s})
+        QTest::newRow(qPrintable(name)) << name;
+}
+
+void tst_ReportDatabase::aLinkIsNotFollowed()
+{
+    QFETCH(const QString, name);
+    QVERIFY(QDir().mkpath(userdata::folder()));
+    const QString target = writeFile(m_dir->filePath(u"somebody's"_s), {});
+    const QFile::Permissions everybody = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadOther;
+    QVERIFY(QFile::setPermissions(target, everybody));
+    const QFile::Permissions before = QFile::permissions(target);
+    if (!makeLink(target, userdata::folder() + u'/' + name))
+        QSKIP("SKIPPED: this system makes no symbolic links for this user");
+    QVERIFY(!database().initialize());
+    QCOMPARE(database().lastProblem(), ReportDatabase::Problem::IsLink);
+    QVERIFY2(database().lastError().endsWith(name + u" is a link"_s), qPrintable(database().lastError()));
+    QCOMPARE(QFile::permissions(target), before);
+    QCOMPARE(contentOf(target), QByteArray());
+}
+
+// The window does not wait for another program at its start.
+void tst_ReportDatabase::aFileThatIsHeldIsOpenedLater()
+{
+    QVERIFY(database().initialize());
+    database().close();
+    {
+        QSqlDatabase other = QSqlDatabase::addDatabase(u"QSQLITE"_s, u"other"_s);
+        other.setDatabaseName(databasePath());
+        QVERIFY(other.open());
+        QVERIFY(QSqlQuery(other).exec(u"BEGIN EXCLUSIVE"_s));
+        QVERIFY(!database().initialize({}, 0ms));
+        QCOMPARE(database().lastProblem(), ReportDatabase::Problem::InUse);
+        QVERIFY(QSqlQuery(other).exec(u"COMMIT"_s));
+        QVERIFY(database().initialize({}, 0ms));
+        other.close();
+    }
+    QSqlDatabase::removeDatabase(u"other"_s);
+    // From then on with patience.
+    QCOMPARE(onOwnConnection(u"PRAGMA busy_timeout"_s), QVariant(10000));
+}
+
+void tst_ReportDatabase::idsAreCountedByTheirBeginning()
+{
+    QCOMPARE(database().holds(u"QVX-2026-0305-1001"_s), std::nullopt);
+    QCOMPARE(database().countBeginningWith(u"QVX"_s), std::nullopt);
+    QVERIFY(database().initialize());
+    for (const QString &id : {u"QVX-2026-0305-1001"_s, u"QVX-2026-0305-1002"_s, u"QVX-2026-0306-1001"_s}) {
+        WipeReport report;
+        report.certificateId = id;
+        QVERIFY(database().saveReport(report));
+    }
+    QCOMPARE(database().holds(u"QVX-2026-0305-1001"_s), true);
+    QCOMPARE(database().holds(u"QVX-2026-0305-1003"_s), false);
+    QCOMPARE(database().countBeginningWith(u"QVX-2026-0305-"_s), 2);
+    QCOMPARE(database().countBeginningWith(u"%"_s), 0);
 }
 
 void tst_ReportDatabase::aReadOnlyFileIsRefused()

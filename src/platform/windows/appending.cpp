@@ -1,5 +1,6 @@
 #include "platform/windows/windowsfiles.h"
 
+#include "platform/windows/filekind.h"
 #include "platform/windows/lasterror.h"
 #include "platform/windows/longpath.h"
 #include "platform/windows/win32calls.h"
@@ -23,9 +24,17 @@ Result<int> appendingDescriptor(const QString &path)
     const std::wstring name = toLongPath(QFileInfo(path).absoluteFilePath());
     auto *const file = win32().createFile(name.c_str(), FILE_APPEND_DATA | FILE_READ_ATTRIBUTES | SYNCHRONIZE,
                                           FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING,
-                                          FILE_ATTRIBUTE_NORMAL, nullptr);
+                                          FILE_FLAG_OPEN_REPARSE_POINT, nullptr);
     if (file == INVALID_HANDLE_VALUE)
         return statusFromLastError("CreateFile");
+    BY_HANDLE_FILE_INFORMATION opened = {};
+    const Status refusal = win32().getFileInformation(file, &opened)
+                               ? refusalOf(opened.dwFileAttributes)
+                               : statusFromLastError("GetFileInformationByHandle");
+    if (!refusal) {
+        win32().closeHandle(file);
+        return refusal;
+    }
     const int descriptor = ::_open_osfhandle(reinterpret_cast<intptr_t>(file), _O_APPEND | _O_BINARY);
     if (descriptor < 0) {
         win32().closeHandle(file);
@@ -38,6 +47,9 @@ Result<int> appendingDescriptor(const QString &path)
 
 Result<std::unique_ptr<QFileDevice>> WindowsFiles::openForAppending(const QString &path)
 {
+    // Qt would follow it.
+    if (const QFileInfo standing(path); standing.isSymLink() || standing.isJunction())
+        return Status{CannotAccessFile, 0, "open for appending"};
     auto file = std::make_unique<QFile>(path);
     // Made with its access list, which the system's own call would need as a structure.
     if (!file->open(Mode, QFile::ReadOwner | QFile::WriteOwner))

@@ -4,6 +4,7 @@
 #include "model/displaytext.h"
 #include "prompts/prompts.h"
 #include "services/reportdatabase.h"
+#include "ui/history/storedreport.h"
 #include "ui/style/palette.h"
 #include "ui/style/tooltip.h"
 
@@ -164,8 +165,15 @@ QBoxLayout *HistoryPage::createButtons()
 
 void HistoryPage::loadHistory()
 {
-    m_reports = ReportDatabase::instance().getReports(LoadedReports, 0);
+    m_reports.clear();
     m_outcomes.clear();
+    const auto stored = ReportDatabase::instance().storedReports(LoadedReports, 0);
+    for (const auto &[certificateId, json] : stored.value_or(QList<ReportDatabase::StoredReport>())) {
+        WipeReport report = WipeReport::fromJson(json);
+        // What is damaged has another id, or none, by which it could not be deleted.
+        report.certificateId = certificateId;
+        m_reports.append(report);
+    }
     for (const WipeReport &report : std::as_const(m_reports)) {
         if (const auto outcome = ReportDatabase::instance().outcome(report.certificateId))
             m_outcomes.insert(report.certificateId, *outcome);
@@ -297,12 +305,14 @@ void HistoryPage::onExportClicked()
     const std::optional<QString> certificateId = currentCertificateId();
     if (!certificateId)
         return;
-    const WipeReport report = ReportDatabase::instance().getReport(*certificateId);
+    const std::optional<WipeReport> report = storedReport(*certificateId, this);
+    if (!report)
+        return;
     const QString file = Prompts::current().fileToSave(this, tr("导出证书"), u"%1.pdf"_s.arg(*certificateId),
                                                        tr("PDF文件 (*.pdf)"));
     if (file.isEmpty())
         return;
-    if (m_exporter(report, ReportDatabase::instance().outcome(*certificateId), file))
+    if (m_exporter(*report, ReportDatabase::instance().outcome(*certificateId), file))
         Prompts::current().information(this, tr("导出成功"), tr("证书已导出到: %1").arg(file));
     else
         Prompts::current().warning(this, tr("导出失败"), tr("无法导出证书文件"));

@@ -103,6 +103,7 @@ private:
     bool isRefused(const QString &reason);
     QMessageBox::StandardButton askAboutJob(const Prompts::Box &box);
 
+    static bool keepsReports();
     void keepRecords(JobEnd &end);
     void keepReport(JobEnd &end);
     void showEnd(const JobEnd &end);

@@ -12,6 +12,7 @@
 #include "services/reportdatabase.h"
 #include "ui/dialogs/completedialog.h"
 #include "ui/history/historypage.h"
+#include "ui/history/storedreport.h"
 
 #include <QDebug>
 #include <QDir>
@@ -30,13 +31,18 @@ void MainWindow::onWipeCompleted(bool success)
     m_job->complete(success);
 }
 
+bool MainWindow::keepsReports()
+{
+    return usersettings::readBool(*usersettings::open(), usersettings::GenerateReport, true);
+}
+
 // What every end has, also one that nobody is there to see.
 void MainWindow::keepRecords(JobEnd &end)
 {
     setMenuEnabled(true);
     if (m_isRecycleBinMode)
         updateRecycleBinRecords();
-    end.hasRecord = usersettings::readBool(*usersettings::open(), usersettings::GenerateReport, true);
+    end.hasRecord = keepsReports();
     const QString outcome = machineName(end.outcome.outcome());
     if (!end.hasRecord) {
         qDebug() << "[Certificate] Skipped saving to database (disabled in settings)";
@@ -133,12 +139,6 @@ void MainWindow::leaveCompletedJob(bool success)
 
 void MainWindow::onViewCertificate(const QString &certificateId)
 {
-    const WipeReport report = ReportDatabase::instance().getReport(certificateId);
-    // A report that is not there reads as a new one, whose certificate would be false.
-    if (report.certificateId != certificateId) {
-        Prompts::current().warning(this, tr("Report Not Found"),
-                                   tr("There is no report %1 in the database.").arg(certificateId));
-        return;
-    }
-    CertificateDialog(report, this, ReportDatabase::instance().outcome(certificateId)).exec();
+    if (const std::optional<WipeReport> report = storedReport(certificateId, this))
+        CertificateDialog(*report, this, ReportDatabase::instance().outcome(certificateId)).exec();
 }

@@ -160,7 +160,7 @@ bool MainWindow::isConfirmed()
 bool MainWindow::isReady()
 {
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-    const QString problem = m_job->makeReady();
+    const QString problem = m_job->makeReady(keepsReports());
     QGuiApplication::restoreOverrideCursor();
     if (problem.isEmpty())
         return true;

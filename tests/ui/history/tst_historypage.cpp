@@ -129,6 +129,7 @@ private slots:
     void namesAreShownCleaned();
     void aDamagedReportDoesNotBreakThePage_data();
     void aDamagedReportDoesNotBreakThePage();
+    void aDamagedReportCanBeDeleted();
     void aClosedDatabaseShowsAnEmptyTable();
 
     void whatTheStatusDoesNotTellHasAnIcon_data();
@@ -150,6 +151,7 @@ private slots:
     void aCancelledExportDoesNothing();
     void aFailedExportWarns();
     void theRealRendererWritesAPdf();
+    void whatIsNotStoredAnyMoreHasNoCertificate();
 
     void deletingAsksFirst();
     void aConfirmedDeletionRemovesTheReport();
@@ -365,6 +367,22 @@ void tst_HistoryPage::aDamagedReportDoesNotBreakThePage()
     prompts.buttons = {QMessageBox::Yes};
     shown.click(shown.remove);
     QCOMPARE(shown.ids().first(), u"QVX-2026-0305-1002"_s);
+}
+
+void tst_HistoryPage::aDamagedReportCanBeDeleted()
+{
+    store({reportOf(1), reportOf(2)});
+    QSqlQuery damage(QSqlDatabase::database());
+    QVERIFY(damage.exec(
+        u"UPDATE wipe_reports SET report_json = '{' WHERE certificate_id = 'QVX-2026-0305-1001'"_s));
+    ScriptedPrompts prompts;
+    const Shown shown;
+    QCOMPARE(shown.ids(), (QStringList{u"QVX-2026-0305-1002"_s, u"QVX-2026-0305-1001"_s}));
+    shown.clickRow(1);
+    prompts.buttons = {QMessageBox::Yes};
+    shown.click(shown.remove);
+    QCOMPARE(shown.ids(), QStringList{u"QVX-2026-0305-1002"_s});
+    QCOMPARE(storedIds(), QStringList{u"QVX-2026-0305-1002"_s});
 }
 
 void tst_HistoryPage::aClosedDatabaseShowsAnEmptyTable()
@@ -617,6 +635,24 @@ void tst_HistoryPage::theRealRendererWritesAPdf()
     shown.click(shown.exportPdf);
     QCOMPARE(prompts.boxes.first().title, u"导出成功"_s);
     QVERIFY(contentOf(path).startsWith("%PDF-"));
+}
+
+void tst_HistoryPage::whatIsNotStoredAnyMoreHasNoCertificate()
+{
+    store({reportOf(1)});
+    ScriptedPrompts prompts;
+    prompts.filesToSaveAnswers = {m_folder->filePath(u"false.pdf"_s)};
+    Shown shown;
+    bool exported = false;
+    shown.page.setExporter([&exported](auto &&...) { return exported = true; });
+    shown.clickRow(0);
+    // Deleted by another run of the program.
+    QVERIFY(ReportDatabase::instance().deleteReport(u"QVX-2026-0305-1001"_s));
+    shown.click(shown.exportPdf);
+    QVERIFY(!exported);
+    QCOMPARE(prompts.asked, QStringList());
+    QCOMPARE(prompts.boxes.size(), 1);
+    QCOMPARE(prompts.boxes.first().text, u"There is no report QVX-2026-0305-1001 in the database."_s);
 }
 
 void tst_HistoryPage::deletingAsksFirst()
