@@ -82,6 +82,8 @@ void foreseeFiles(const WipeTask &task, OutcomeRecord &record)
 OutcomeRecord foreseeableShortfalls(const WipeTask &task)
 {
     OutcomeRecord record;
+    for (const Shortfall &omission : task.omissions())
+        record.note(omission);
     switch (task.operationType()) {
     case DiskWipe:
         foreseeDisk(task, record);

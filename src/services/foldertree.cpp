@@ -31,8 +31,18 @@ QString entryOf(const QString &folder, const QString &name)
     return folder.endsWith(u'/') ? folder + name : folder + u'/' + name;
 }
 
-bool isRealFolder(const QString &path)
+quint64 sizeOfFile(const QString &path)
 {
     const auto info = platform::Platform::current().files().info(path);
-    return info && info.value().kind == platform::FileKind::Folder;
+    return info ? static_cast<quint64>(info.value().size) : 0;
+}
+
+quint64 sizeOfTree(const QString &folder)
+{
+    quint64 size = 0;
+    forEachFileBelow(folder, [&size](const QString &parent, const QString &name, platform::FileKind kind) {
+        if (kind == platform::FileKind::Regular)
+            size += sizeOfFile(entryOf(parent, name));
+    });
+    return size;
 }

@@ -3,6 +3,7 @@
 #include "platform/files.h"
 #include "platform/folders.h"
 #include "platform/platform.h"
+#include "services/binaccess.h"
 #include "services/foldertree.h"
 #include "services/trashinfofile.h"
 
@@ -25,33 +26,16 @@ struct Entry
     platform::FileKind kind = platform::FileKind::Regular;
 };
 
-QList<Entry> entriesOf(const QString &folder)
+QList<Entry> entriesOf(const QString &folder, QList<UnscannedBin> &unscanned)
 {
     QList<Entry> entries;
-    const platform::Status seen = platform::Platform::current().folders().forEachEntry(
-        folder, [&entries](const QString &name, platform::FileKind kind) {
-            entries.append({name, kind});
-            return true;
-        });
-    if (!seen)
-        qDebug() << "  Cannot list folder:" << folder << seen.diagnostic();
-    return entries;
-}
-
-quint64 sizeOfFile(const QString &path)
-{
-    const auto info = platform::Platform::current().files().info(path);
-    return info ? static_cast<quint64>(info.value().size) : 0;
-}
-
-quint64 sizeOfTree(const QString &folder)
-{
-    quint64 size = 0;
-    forEachFileBelow(folder, [&size](const QString &parent, const QString &name, platform::FileKind kind) {
-        if (kind == platform::FileKind::Regular)
-            size += sizeOfFile(entryOf(parent, name));
+    if (!mayEnterBin(folder, BinOwner::Anybody, unscanned))
+        return entries;
+    listBin(folder, unscanned, [&entries](const QString &name, platform::FileKind kind) {
+        entries.append({name, kind});
+        return true;
     });
-    return size;
+    return entries;
 }
 
 QString lastComponent(const QString &path)
@@ -71,10 +55,10 @@ public:
 
     void run()
     {
-        const QList<Entry> entries = entriesOf(m_files);
+        const QList<Entry> entries = entriesOf(m_files, m_found.unscanned);
         for (const Entry &entry : entries)
             m_unrecorded.insert(entry.name, entry.kind);
-        const QList<Entry> records = entriesOf(m_info);
+        const QList<Entry> records = entriesOf(m_info, m_found.unscanned);
         for (const Entry &record : records) {
             if (record.kind != platform::FileKind::Folder && record.name.endsWith(InfoSuffix))
                 addRecorded(record);
@@ -142,12 +126,6 @@ private:
     QHash<QString, platform::FileKind> m_unrecorded; // entries that no record was found for yet
 };
 
-bool isOwn(const QString &folder)
-{
-    const auto owner = platform::Platform::current().folders().owner(folder);
-    return owner && owner.value().isOwn;
-}
-
 bool isSticky(const QString &folder)
 {
     const auto owner = platform::Platform::current().folders().owner(folder);
@@ -155,25 +133,27 @@ bool isSticky(const QString &folder)
 }
 } // namespace
 
-std::optional<TrashFolder> homeTrashFolder()
+std::optional<TrashFolder> homeTrashFolder(QList<UnscannedBin> &unscanned)
 {
     QString data = QFile::decodeName(qgetenv("XDG_DATA_HOME"));
     // A relative one would mean another folder for every program.
     if (!data.startsWith(u'/'))
         data = QDir::homePath() + u"/.local/share"_s;
     TrashFolder trash{entryOf(data, u"Trash"_s), QDir::homePath(), {}};
-    return isRealFolder(trash.folder) ? std::optional(trash) : std::nullopt;
+    return mayEnterBin(trash.folder, BinOwner::Anybody, unscanned) ? std::optional(trash) : std::nullopt;
 }
 
-QList<TrashFolder> trashFoldersOfVolume(const QString &root, const QString &userId)
+QList<TrashFolder> trashFoldersOfVolume(const QString &root, const QString &userId,
+                                        QList<UnscannedBin> &unscanned)
 {
     QList<TrashFolder> folders;
     const QString shared = entryOf(root, u".Trash"_s);
     const QString inShared = entryOf(shared, userId);
-    if (isSticky(shared) && isOwn(inShared))
+    if (mayEnterBin(shared, BinOwner::Anybody, unscanned) && isSticky(shared) &&
+        mayEnterBin(inShared, BinOwner::User, unscanned))
         folders.append({inShared, root, root});
     const QString ofUser = entryOf(root, u".Trash-"_s + userId);
-    if (isOwn(ofUser))
+    if (mayEnterBin(ofUser, BinOwner::User, unscanned))
         folders.append({ofUser, root, root});
     return folders;
 }

@@ -100,7 +100,7 @@ private:
     void leaveCompletedJob(bool success);
 
     void startRecycleBinScan();
-    void offerFreeSpaceWipeOfEmptyBin();
+    void offerFreeSpaceWipeOfEmptyBin(const RecycleBinInfo &found);
     void takeRecycleBin(const RecycleBinInfo &found);
     void leaveRecycleBin();
 
