@@ -311,7 +311,8 @@ platform::Result<platform::SpaceInfo> MemoryVolume::space(const QString &path)
         return failure(platform::PathNotFound);
     if (m_unreleased > 0 && --m_untilRelease <= 0)
         freeBytes[rootOf(path)] += std::exchange(m_unreleased, 0);
-    return platform::SpaceInfo{.totalBytes = qint64{1} << 50, .freeBytes = freeOn(path)};
+    return platform::SpaceInfo{
+        .totalBytes = qint64{1} << 50, .freeBytes = freeOn(path), .availableBytes = freeOn(path)};
 }
 
 QString MemoryVolume::parentOf(const QString &path)
