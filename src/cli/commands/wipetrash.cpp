@@ -1,9 +1,11 @@
 #include "cli/cliio.h"
 #include "cli/globaloptions.h"
 #include "cli/listing.h"
+#include "cli/stoprequest.h"
 #include "cli/translate.h"
 #include "cli/trashtarget.h"
 #include "cli/wipeplan.h"
+#include "engine/filesurvey.h"
 #include "engine/filetargets.h"
 #include "model/joboutcome.h"
 #include "model/jsonwriter.h"
@@ -81,10 +83,12 @@ Outcome<ExitCode> run(const CommandContext &context)
     rememberTargets(*task);
     task->setTargetsAreNamed(false);
     task->setOmissions(found->omissions());
+    const StopRequest &stop = context.io.stopRequest();
+    const FileSurvey survey = surveyFiles(*task, [&stop] { return stop.isRequested(); });
     WipePlan plan;
     plan.summary = summaryOf(*found);
     plan.doomedPaths = task->files();
-    plan.jobs.push_back({std::move(task), Cli::tr("the Recycle Bin")});
+    plan.jobs.push_back({std::move(task), Cli::tr("the Recycle Bin"), survey});
     plan.afterwards = [&found] { return tidyUp(*found); };
     return carryOut(plan, *options, context, words());
 }

@@ -13,6 +13,7 @@ QT_FORWARD_DECLARE_CLASS(QStackedWidget)
 QT_FORWARD_DECLARE_CLASS(QVBoxLayout)
 class DiskSelectPage;
 class FileSelectPage;
+class FileSurvey;
 class HistoryPage;
 class HomePage;
 class MethodSelectPage;
@@ -88,6 +89,7 @@ private:
     WipeTask &newTask(OperationType type);
     void takeDiskSelection();
     bool hasObstacles();
+    FileSurvey lookAtFiles();
     bool isConfirmed();
     bool isReady();
     QString erasedVolumesText() const;

@@ -1,6 +1,7 @@
 // From the home page to the start of a job.
 #include "ui/mainwindow/mainwindow.h"
 
+#include "engine/filesurvey.h"
 #include "engine/filetargets.h"
 #include "engine/foreseeable.h"
 #include "engine/wipeengine.h"
@@ -16,6 +17,7 @@
 #include "ui/progress/progresspage.h"
 
 #include <QGuiApplication>
+#include <QScopeGuard>
 
 // The task before is deleted here, not when its job ends: the engine has its report until then.
 WipeTask &MainWindow::newTask(OperationType type)
@@ -140,18 +142,41 @@ QString MainWindow::erasedVolumesText() const
         .arg(displayText(m_currentTask->partition().driveLetter), names.join(QStringLiteral(", ")));
 }
 
+// A walk through all the folders takes its time. What asks of every file where its content lies takes more,
+// and is left to the job.
+FileSurvey MainWindow::lookAtFiles()
+{
+    if (m_currentTask->operationType() != FileWipe)
+        return {};
+    rememberTargets(*m_currentTask);
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    const auto restore = qScopeGuard(QGuiApplication::restoreOverrideCursor);
+    return surveyFiles(
+        *m_currentTask, [] { return false; }, 0);
+}
+
 bool MainWindow::isConfirmed()
 {
     // What an earlier confirmation has left.
     m_currentTask->setWholeDrive(false);
-    if (m_currentTask->operationType() == FileWipe)
-        rememberTargets(*m_currentTask);
+    const FileSurvey survey = lookAtFiles();
+    if (const QString problem = survey.roomProblem(); !problem.isEmpty()) {
+        Prompts::current().warning(this, tr("These Files Cannot Be Erased"), problem);
+        return false;
+    }
     ConfirmDialog confirmation(this);
     if (const QString volumes = erasedVolumesText(); !volumes.isEmpty())
         confirmation.addNotice(volumes);
     if (m_currentTask->operationType() == FreeSpaceWipe) {
         const OutcomeRecord foreseen = foreseeableShortfalls(*m_currentTask);
         if (const QStringList lines = foreseen.shortfallLines() + foreseen.noteLines(); !lines.isEmpty())
+            confirmation.addNotice(lines.join(u'\n'));
+    }
+    if (m_currentTask->operationType() == FileWipe) {
+        QStringList lines = foreseeableShortfalls(*m_currentTask, survey).shortfallLines();
+        if (const QString others = survey.otherNamesText(); !others.isEmpty())
+            lines.append(others);
+        if (!lines.isEmpty())
             confirmation.addNotice(lines.join(u'\n'));
     }
     if (m_currentTask->operationType() == DiskWipe) {
