@@ -1,5 +1,6 @@
 #include "services/foldertree.h"
 
+#include "platform/entrypath.h"
 #include "platform/folders.h"
 #include "platform/platform.h"
 
@@ -16,7 +17,7 @@ void forEachFileBelow(const QString &folder, const EntryVisitor &visit)
         const platform::Status seen =
             folders.forEachEntry(current, [&](const QString &name, platform::FileKind kind) {
                 if (kind == platform::FileKind::Folder)
-                    pending.append(entryOf(current, name));
+                    pending.append(platform::pathInFolder(current, name));
                 else
                     visit(current, name, kind);
                 return true;
@@ -24,11 +25,6 @@ void forEachFileBelow(const QString &folder, const EntryVisitor &visit)
         if (!seen)
             qDebug() << "  Cannot list folder:" << current << seen.diagnostic();
     }
-}
-
-QString entryOf(const QString &folder, const QString &name)
-{
-    return folder.endsWith(u'/') ? folder + name : folder + u'/' + name;
 }
 
 quint64 sizeOfFile(const QString &path)
@@ -42,7 +38,7 @@ quint64 sizeOfTree(const QString &folder)
     quint64 size = 0;
     forEachFileBelow(folder, [&size](const QString &parent, const QString &name, platform::FileKind kind) {
         if (kind == platform::FileKind::Regular)
-            size += sizeOfFile(entryOf(parent, name));
+            size += sizeOfFile(platform::pathInFolder(parent, name));
     });
     return size;
 }

@@ -1,6 +1,7 @@
 #include "services/recyclebinscanner.h"
 
 #include "platform/devices.h"
+#include "platform/entrypath.h"
 #include "platform/files.h"
 #include "platform/platform.h"
 #include "platform/session.h"
@@ -18,6 +19,7 @@
 #include <utility>
 
 using namespace Qt::StringLiterals;
+using platform::pathInFolder;
 
 namespace {
 // Whatever has a longer path than Windows can make is no information file; a deleted folder may hold any file
@@ -33,7 +35,7 @@ bool isInfoName(const QString &name)
 // be erased all the same.
 void addDataFile(const QString &folder, const QString &name, RecycleBinItem &item)
 {
-    const QString path = entryOf(folder, name);
+    const QString path = pathInFolder(folder, name);
     const auto found = platform::Platform::current().files().info(path);
     if (isAbsent(found.status()))
         return;
@@ -77,7 +79,7 @@ public:
         for (auto entry = m_left.cbegin(); entry != m_left.cend(); ++entry) {
             RecycleBinItem item;
             item.fileName = entry.key();
-            item.recyclePath = entryOf(m_folder, entry.key());
+            item.recyclePath = pathInFolder(m_folder, entry.key());
             item.isDirectory = entry.value() == platform::FileKind::Folder;
             if (item.isDirectory)
                 item.size = sizeOfTree(item.recyclePath);
@@ -99,7 +101,7 @@ void scanBin(const QString &folder, RecycleBinInfo &found)
     forEachFileBelow(folder, [&](const QString &parent, const QString &name, platform::FileKind kind) {
         if (!isInfoName(name))
             return;
-        const QString path = entryOf(parent, name);
+        const QString path = pathInFolder(parent, name);
         RecycleBinItem item;
         if (kind == platform::FileKind::Regular)
             item = RecycleBinScanner::parseInfoFile(path);
@@ -122,7 +124,7 @@ QStringList foldersIn(const QString &parent, const NameTest &accept, QList<Unsca
     listBin(parent, unscanned, [&](const QString &name, platform::FileKind kind) {
         const bool mayBeBin = kind == platform::FileKind::Folder || kind == platform::FileKind::Link;
         if (mayBeBin && accept(name))
-            paths.append(entryOf(parent, name));
+            paths.append(pathInFolder(parent, name));
         return true;
     });
     paths.removeIf(
@@ -160,8 +162,8 @@ QStringList localDrives()
 
 void scanDrive(const QString &drive, const QString &sid, RecycleBinInfo &found)
 {
-    const QString shared = entryOf(drive, u"$Recycle.Bin"_s);
-    const QString bin = entryOf(shared, sid);
+    const QString shared = pathInFolder(drive, u"$Recycle.Bin"_s);
+    const QString bin = pathInFolder(shared, sid);
     if (mayEnterBin(shared, BinOwner::Anybody, found.unscanned) &&
         mayEnterBin(bin, BinOwner::User, found.unscanned))
         scanBin(bin, found);

@@ -1,5 +1,6 @@
 #include "services/trashscan.h"
 
+#include "platform/entrypath.h"
 #include "platform/files.h"
 #include "platform/folders.h"
 #include "platform/platform.h"
@@ -13,6 +14,7 @@
 #include <QHash>
 
 using namespace Qt::StringLiterals;
+using platform::pathInFolder;
 
 namespace {
 // Three characters for each byte of the longest path, and more than enough for the rest.
@@ -48,8 +50,8 @@ class Scan
 public:
     Scan(const TrashFolder &trash, RecycleBinInfo &found)
         : m_top(trash.top)
-        , m_files(entryOf(trash.folder, u"files"_s))
-        , m_info(entryOf(trash.folder, u"info"_s))
+        , m_files(pathInFolder(trash.folder, u"files"_s))
+        , m_info(pathInFolder(trash.folder, u"info"_s))
         , m_found(found)
     {}
 
@@ -73,7 +75,7 @@ private:
     void addRecorded(const Entry &record)
     {
         RecycleBinItem item;
-        item.infoPath = entryOf(m_info, record.name);
+        item.infoPath = pathInFolder(m_info, record.name);
         item.originalPath = recordedPath(item.infoPath);
         item.fileName = lastComponent(item.originalPath);
         const QString name = record.name.chopped(InfoSuffix.size());
@@ -96,7 +98,7 @@ private:
 
     void describe(const Entry &entry, RecycleBinItem &item) const
     {
-        item.recyclePath = entryOf(m_files, entry.name);
+        item.recyclePath = pathInFolder(m_files, entry.name);
         item.isDirectory = entry.kind == platform::FileKind::Folder;
         if (item.fileName.isEmpty())
             item.fileName = entry.name;
@@ -116,7 +118,7 @@ private:
         const QString path = parseTrashInfo(contents.value());
         if (path.isEmpty())
             qDebug() << "  No path in .trashinfo file:" << infoPath;
-        return path.isEmpty() || path.startsWith(u'/') || m_top.isEmpty() ? path : entryOf(m_top, path);
+        return path.isEmpty() || path.startsWith(u'/') || m_top.isEmpty() ? path : pathInFolder(m_top, path);
     }
 
     const QString m_top;
@@ -139,7 +141,7 @@ std::optional<TrashFolder> homeTrashFolder(QList<UnscannedBin> &unscanned)
     // A relative one would mean another folder for every program.
     if (!data.startsWith(u'/'))
         data = QDir::homePath() + u"/.local/share"_s;
-    TrashFolder trash{entryOf(data, u"Trash"_s), QDir::homePath(), {}};
+    TrashFolder trash{pathInFolder(data, u"Trash"_s), QDir::homePath(), {}};
     return mayEnterBin(trash.folder, BinOwner::Anybody, unscanned) ? std::optional(trash) : std::nullopt;
 }
 
@@ -147,12 +149,12 @@ QList<TrashFolder> trashFoldersOfVolume(const QString &root, const QString &user
                                         QList<UnscannedBin> &unscanned)
 {
     QList<TrashFolder> folders;
-    const QString shared = entryOf(root, u".Trash"_s);
-    const QString inShared = entryOf(shared, userId);
+    const QString shared = pathInFolder(root, u".Trash"_s);
+    const QString inShared = pathInFolder(shared, userId);
     if (mayEnterBin(shared, BinOwner::Anybody, unscanned) && isSticky(shared) &&
         mayEnterBin(inShared, BinOwner::User, unscanned))
         folders.append({inShared, root, root});
-    const QString ofUser = entryOf(root, u".Trash-"_s + userId);
+    const QString ofUser = pathInFolder(root, u".Trash-"_s + userId);
     if (mayEnterBin(ofUser, BinOwner::User, unscanned))
         folders.append({ofUser, root, root});
     return folders;

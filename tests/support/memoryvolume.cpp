@@ -1,6 +1,7 @@
 #include "support/memoryvolume.h"
 
 #include "platform/anchoredfolder.h"
+#include "platform/entrypath.h"
 
 #include <algorithm>
 #include <utility>
@@ -97,7 +98,7 @@ public:
     platform::Status removeTree(const QString &name) override { return m_volume.removeTree(entry(name)); }
 
 private:
-    QString entry(const QString &name) const { return platform::entryPathOf(m_path, name); }
+    QString entry(const QString &name) const { return platform::pathInFolder(m_path, name); }
 
     MemoryVolume &m_volume;
     const QString m_path;

@@ -324,6 +324,7 @@ private slots:
 
     void whatAFileOccupiesIsAskedOfSparseAndCompressedOnes_data();
     void whatAFileOccupiesIsAskedOfSparseAndCompressedOnes();
+    void aRootMayEndWithEitherSlash();
     void whatMayBeUsedIsLessThanWhatIsFree();
     void linksAreSeen();
     void openOfALinkIsRefused();
@@ -692,6 +693,13 @@ void tst_WindowsFiles::whatAFileOccupiesIsAskedOfSparseAndCompressedOnes()
     QVERIFY(info.ok());
     QCOMPARE(info.value().size, 3);
     QCOMPARE(info.value().allocatedBytes, allocated);
+}
+
+void tst_WindowsFiles::aRootMayEndWithEitherSlash()
+{
+    QCOMPARE(pathInFolder(u"E:\\"_s, u"a"_s), u"E:\\a"_s);
+    QCOMPARE(pathInFolder(u"E:/"_s, u"a"_s), u"E:/a"_s);
+    QCOMPARE(pathInFolder(u"E:/x"_s, u"a"_s), u"E:/x/a"_s);
 }
 
 void tst_WindowsFiles::whatMayBeUsedIsLessThanWhatIsFree()
