@@ -5,15 +5,11 @@
 #include "model/displaytext.h"
 #include "model/wipetask.h"
 #include "platform/files.h"
-#include "platform/folders.h"
 #include "platform/platform.h"
 
 #include <QDir>
 #include <QFileInfo>
-#include <QSet>
 #include <QStorageInfo>
-
-#include <algorithm>
 
 namespace cli {
 
@@ -60,53 +56,6 @@ Outcome<QString> findFile(const QString &given)
     return path;
 }
 
-class Counter
-{
-public:
-    explicit Counter(const std::function<bool()> &shallStop)
-        : m_shallStop(shallStop)
-    {}
-
-    void countPath(const QString &path)
-    {
-        const auto info = m_platform.files().info(path);
-        if (!info) {
-            m_count.isComplete = false;
-        } else if (info.value().kind == platform::FileKind::Folder) {
-            countFolders(path);
-        } else {
-            ++m_count.files;
-            m_count.bytes += static_cast<quint64>(info.value().size);
-        }
-    }
-
-    FileCount count() const { return m_count; }
-
-private:
-    // With a list of its own instead of recursion: folders can be nested thousands deep.
-    void countFolders(const QString &first)
-    {
-        QStringList folders{first};
-        while (!folders.isEmpty() && !m_shallStop()) {
-            const QString folder = folders.takeLast();
-            QStringList files;
-            const auto status =
-                m_platform.folders().forEachEntry(folder, [&](const QString &name, platform::FileKind kind) {
-                    (kind == platform::FileKind::Folder ? folders : files).append(folder + u'/' + name);
-                    return true;
-                });
-            if (!status)
-                m_count.isComplete = false;
-            for (const QString &file : std::as_const(files))
-                countPath(file);
-        }
-    }
-
-    const std::function<bool()> &m_shallStop;
-    platform::Platform &m_platform = platform::Platform::current();
-    FileCount m_count;
-};
-
 } // namespace
 
 Outcome<QStringList> findFiles(const QStringList &given)
@@ -119,26 +68,6 @@ Outcome<QStringList> findFiles(const QStringList &given)
         paths.append(*path);
     }
     return paths;
-}
-
-FileCount countFiles(const QStringList &paths, const std::function<bool()> &shallStop)
-{
-    // Sorted by components, what lies below a path follows it.
-    QStringList sorted = paths;
-    std::sort(sorted.begin(), sorted.end(), [](const QString &a, const QString &b) {
-        return std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(), [](QChar x, QChar y) {
-            return (x == u'/' ? QChar(0) : x) < (y == u'/' ? QChar(0) : y);
-        });
-    });
-    Counter counter(shallStop);
-    QString last;
-    for (const QString &path : std::as_const(sorted)) {
-        if (!last.isEmpty() && isSameOrBelow(path, last))
-            continue;
-        last = path;
-        counter.countPath(path);
-    }
-    return counter.count();
 }
 
 } // namespace cli

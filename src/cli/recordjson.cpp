@@ -5,6 +5,8 @@
 
 namespace cli {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 void writePartition(JsonWriter &writer, const PartitionInfo &partition)
@@ -30,6 +32,39 @@ void writeItem(JsonWriter &writer, const RecycleBinItem &item)
         .decimalMember(u"size", item.size)
         .member(u"isDirectory", item.isDirectory)
         .endObject();
+}
+
+void writeItems(JsonWriter &writer, QStringView key, const QList<RecycleBinItem> &items)
+{
+    writer.key(key).beginArray();
+    for (const RecycleBinItem &item : items)
+        writeItem(writer, item);
+    writer.endArray();
+}
+
+QString reasonName(UnscannedBin::Reason reason)
+{
+    switch (reason) {
+    case UnscannedBin::Reason::Link:
+        return u"link"_s;
+    case UnscannedBin::Reason::NotOwn:
+        return u"not-own"_s;
+    case UnscannedBin::Reason::Unreadable:
+        return u"unreadable"_s;
+    }
+    Q_UNREACHABLE();
+}
+
+void writeUnscanned(JsonWriter &writer, const QList<UnscannedBin> &bins)
+{
+    writer.key(u"unscanned").beginArray();
+    for (const UnscannedBin &bin : bins) {
+        writer.beginObject().member(u"path", bin.path).member(u"reason", reasonName(bin.reason));
+        if (bin.reason == UnscannedBin::Reason::Unreadable)
+            writer.member(u"error", static_cast<int>(bin.error));
+        writer.endObject();
+    }
+    writer.endArray();
 }
 
 void writeTexts(JsonWriter &writer, QStringView key, const QStringList &texts)
@@ -84,13 +119,13 @@ void writeMethod(JsonWriter &writer, const WipeMethod &method)
 
 void writeTrash(JsonWriter &writer, const RecycleBinInfo &trash)
 {
-    writer.beginObject().key(u"items").beginArray();
-    for (const RecycleBinItem &item : trash.items)
-        writeItem(writer, item);
-    writer.endArray();
+    writer.beginObject();
+    writeItems(writer, u"items", trash.items);
     writeTexts(writer, u"filePaths", trash.filePaths);
     writer.decimalMember(u"totalSize", trash.totalSize).member(u"fileCount", trash.fileCount);
     writeTexts(writer, u"drives", trash.drives);
+    writeItems(writer, u"unrecorded", trash.unrecorded);
+    writeUnscanned(writer, trash.unscanned);
     writer.endObject();
 }
 

@@ -9,6 +9,8 @@
 
 #include <QFileInfo>
 
+#include <numeric>
+
 namespace cli {
 
 using namespace Qt::StringLiterals;
@@ -56,8 +58,11 @@ Outcome<RecycleBinInfo> findTrash(const CommandContext &context, const QStringLi
                                 commandWords);
     }
     RecycleBinScanner scanner;
-    if (!roots->isEmpty())
+    if (!roots->isEmpty()) {
+        if (!sid.isEmpty() && !RecycleBinScanner::hasBin(*roots, sid))
+            return Refusal{Refused, Cli::tr("no bin of %1 was found").arg(displayText(sid))};
         return scanner.scanRoots(*roots, sid);
+    }
     if (RecycleBinScanner::currentUserSid().isEmpty())
         return Refusal{SurroundingsFailed, Cli::tr("the system does not tell who the user is")};
     return scanner.scan();
@@ -67,6 +72,39 @@ QString amountOf(const RecycleBinInfo &found)
 {
     const QString items = found.fileCount == 1 ? Cli::tr("1 item") : Cli::tr("%1 items").arg(found.fileCount);
     return Cli::tr("%1, %2").arg(items, formatSize(static_cast<qint64>(found.totalSize)));
+}
+
+QStringList unrecordedLines(const RecycleBinInfo &found)
+{
+    const qsizetype count = found.unrecorded.size();
+    if (count == 0)
+        return {};
+    const quint64 bytes =
+        std::accumulate(found.unrecorded.cbegin(), found.unrecorded.cend(), quint64{0},
+                        [](quint64 sum, const RecycleBinItem &item) { return sum + item.size; });
+    const QString entries =
+        count == 1 ? Cli::tr("1 entry without a record") : Cli::tr("%1 entries without a record").arg(count);
+    return {Cli::tr("and %1, %2").arg(entries, formatSize(static_cast<qint64>(bytes)))};
+}
+
+QStringList unscannedLines(const RecycleBinInfo &found)
+{
+    QStringList lines;
+    for (const UnscannedBin &bin : found.unscanned) {
+        const QString path = displayText(bin.path);
+        switch (bin.reason) {
+        case UnscannedBin::Reason::Link:
+            lines.append(Cli::tr("%1 is a link and is not followed").arg(path));
+            break;
+        case UnscannedBin::Reason::NotOwn:
+            lines.append(Cli::tr("%1 belongs to another user and is left alone").arg(path));
+            break;
+        case UnscannedBin::Reason::Unreadable:
+            lines.append(Cli::tr("%1 cannot be looked into, error %2").arg(path, QString::number(bin.error)));
+            break;
+        }
+    }
+    return lines;
 }
 
 QString describeItem(const RecycleBinItem &item)

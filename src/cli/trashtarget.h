@@ -13,11 +13,18 @@ namespace cli {
 QList<QCommandLineOption> trashOptions();
 
 // What is in the current user's Recycle Bin and Trash, or in the bins of the roots that are named. Refused
-// when a root is no folder, SurroundingsFailed when the user is unknown to the system.
+// when a root is no folder or none has a bin of the SID that was given, SurroundingsFailed when the user is
+// unknown to the system.
 Outcome<RecycleBinInfo> findTrash(const CommandContext &context, const QStringList &commandWords);
 
 // "3 items, 12.00 KB".
 QString amountOf(const RecycleBinInfo &found);
+
+// One line where something is to be erased that no record stands for: "and 1 entry without a record, 5 B".
+QStringList unrecordedLines(const RecycleBinInfo &found);
+
+// Each bin that was not looked into, with the reason, in words for the user.
+QStringList unscannedLines(const RecycleBinInfo &found);
 
 // The line that stands for the item, with cleaned names.
 QString describeItem(const RecycleBinItem &item);

@@ -18,6 +18,7 @@
 #include <QScopeGuard>
 
 #include <algorithm>
+#include <utility>
 
 namespace cli {
 
@@ -46,6 +47,8 @@ std::optional<Refusal> checkTasks(const WipePlan &plan)
         const QString error = job.task->validationError();
         if (!error.isEmpty())
             return Refusal{Refused, error};
+        if (const QString problem = job.survey.roomProblem(); !problem.isEmpty())
+            return Refusal{Refused, problem};
     }
     return std::nullopt;
 }
@@ -145,7 +148,7 @@ QStringList foreseenLines(const WipePlan &plan)
 {
     OutcomeRecord foreseen;
     for (const PlannedJob &job : plan.jobs) {
-        const OutcomeRecord record = foreseeableShortfalls(*job.task);
+        const OutcomeRecord record = foreseeableShortfalls(*job.task, job.survey);
         for (const Shortfall &shortfall : record.shortfalls() + record.notes())
             foreseen.note(shortfall);
     }
@@ -154,7 +157,12 @@ QStringList foreseenLines(const WipePlan &plan)
         lines.append(u"    "_s + line);
     if (!lines.isEmpty())
         lines.prepend(Cli::tr("  not everything will be erased:"));
-    for (const QString &line : foreseen.noteLines())
+    QStringList notes = foreseen.noteLines();
+    for (const PlannedJob &job : plan.jobs) {
+        if (const QString others = job.survey.otherNamesText(); !others.isEmpty())
+            notes.append(others);
+    }
+    for (const QString &line : std::as_const(notes))
         lines.append(u"  "_s + line);
     return lines;
 }

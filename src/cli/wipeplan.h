@@ -2,6 +2,7 @@
 
 #include "cli/command.h"
 #include "cli/wipeoptions.h"
+#include "engine/filesurvey.h"
 #include "model/wipetask.h"
 
 #include <QString>
@@ -17,7 +18,8 @@ namespace cli {
 struct PlannedJob
 {
     std::unique_ptr<WipeTask> task;
-    QString target; // for the user, uncleaned
+    QString target;      // for the user, uncleaned
+    FileSurvey survey{}; // of a file job
 };
 
 // Everything that a wipe command has made of its arguments.

@@ -24,6 +24,7 @@ FileList FileCollector::collect(const QStringList &targets, const QHash<QString,
             break;
         const auto expected = identities.constFind(target);
         addTarget(target, expected == identities.cend() ? std::nullopt : std::optional(*expected));
+        m_list.ends.push_back(m_list.files.size());
     }
     m_paths = {};
     return std::exchange(m_list, {});

@@ -19,6 +19,7 @@ struct FileEntry
 struct FileList
 {
     std::vector<FileEntry> files;          // everything that is to be deleted, each path once
+    std::vector<std::size_t> ends;         // of each target, in order, the number of files up to there
     std::vector<HeldTree::Folder> folders; // targets that are folders and whose whole content is in files
     int unreadable = 0;                    // targets and folders that could not be looked into
 };

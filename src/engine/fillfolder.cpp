@@ -3,6 +3,7 @@
 #include "engine/fillnames.h"
 #include "engine/removalretries.h"
 #include "engine/volumespace.h"
+#include "platform/entrypath.h"
 
 #include <QDebug>
 
@@ -37,7 +38,7 @@ platform::Status FillFolder::createAgain()
 
 QString FillFolder::path() const
 {
-    return platform::entryPathOf(m_root->path(), m_name);
+    return platform::pathInFolder(m_root->path(), m_name);
 }
 
 platform::Result<qint64> FillFolder::freeBytes() const
@@ -90,7 +91,7 @@ platform::Status FillFolder::remove()
 {
     for (const FillFile &file : std::as_const(m_files))
         m_job.noteShortfall(
-            {ShortfallKind::FillFilesLeft, platform::entryPathOf(path(), file.name), file.bytes});
+            {ShortfallKind::FillFilesLeft, platform::pathInFolder(path(), file.name), file.bytes});
     m_files.clear();
     letGo();
     const platform::Status removed = m_root->removeFolder(m_name);

@@ -1,6 +1,6 @@
 #include "engine/foreseeable.h"
 
-#include "engine/contentsurvey.h"
+#include "engine/filesurvey.h"
 #include "engine/freespacefill.h"
 #include "engine/freespacewipeworker.h"
 #include "model/wipetask.h"
@@ -67,10 +67,12 @@ void foreseeFreeSpace(const WipeTask &task, OutcomeRecord &record)
         record.note({ShortfallKind::NoVolume, disk.displayName()});
 }
 
-void foreseeFiles(const WipeTask &task, OutcomeRecord &record)
+void foreseeFiles(const WipeTask &task, const FileSurvey &survey, OutcomeRecord &record)
 {
-    for (const QString &target : targetsKeptElsewhere(task.files()))
+    for (const QString &target : survey.keptElsewhere)
         record.note({ShortfallKind::ContentElsewhere, target});
+    for (const QString &path : survey.mounted)
+        record.note({ShortfallKind::EntryNotRemoved, path});
     if (!task.targetsAreNamed())
         return;
     for (const QString &link : linksAmong(task.files()))
@@ -81,7 +83,14 @@ void foreseeFiles(const WipeTask &task, OutcomeRecord &record)
 
 OutcomeRecord foreseeableShortfalls(const WipeTask &task)
 {
+    return foreseeableShortfalls(task, task.operationType() == FileWipe ? surveyFiles(task) : FileSurvey());
+}
+
+OutcomeRecord foreseeableShortfalls(const WipeTask &task, const FileSurvey &survey)
+{
     OutcomeRecord record;
+    for (const Shortfall &omission : task.omissions())
+        record.note(omission);
     switch (task.operationType()) {
     case DiskWipe:
         foreseeDisk(task, record);
@@ -92,7 +101,7 @@ OutcomeRecord foreseeableShortfalls(const WipeTask &task)
         foreseeFreeSpace(task, record);
         break;
     case FileWipe:
-        foreseeFiles(task, record);
+        foreseeFiles(task, survey, record);
         break;
     }
     return record;

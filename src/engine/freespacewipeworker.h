@@ -59,6 +59,8 @@ private:
 
     bool wipeVolume(const QString &root);
     platform::Status openVolume(const QString &root);
+    static QString rootPathOf(const QString &volume);
+    static PartitionInfo chosenRecord(const WipeTask &task, const QString &volume);
     static platform::Status checkMounted(const QString &root);
     static bool isChosen(platform::AnchoredFolder &volume, const PartitionInfo &chosen);
     static QString changeText(const QString &volume);

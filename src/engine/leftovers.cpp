@@ -1,6 +1,7 @@
 #include "engine/leftovers.h"
 
 #include "engine/fillnames.h"
+#include "platform/entrypath.h"
 #include "platform/files.h"
 
 #include <QDebug>
@@ -105,7 +106,7 @@ LeftOvers::LeftOvers(platform::AnchoredFolder &root, const QString &except)
         const bool isHeld = folder ? !folder.value()->isClaimed() && !isEmpty(*folder.value())
                                    : folder.code() == platform::SharingViolation;
         if (isHeld)
-            m_inUse = platform::entryPathOf(root.path(), name);
+            m_inUse = platform::pathInFolder(root.path(), name);
         if (folder)
             m_folders.push_back({name, folder.take()});
     }

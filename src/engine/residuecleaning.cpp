@@ -3,6 +3,7 @@
 #include "engine/fillfolder.h"
 #include "engine/fillnames.h"
 #include "platform/anchoredfolder.h"
+#include "platform/entrypath.h"
 #include "platform/files.h"
 
 #include <QScopeGuard>
@@ -88,6 +89,6 @@ platform::Status ResidueCleaning::remove(const QString &name)
 {
     const platform::Status removed = m_folder.folder().removeTree(name);
     if (!removed && !isAbsent(removed))
-        m_job.noteShortfall({ShortfallKind::FillFilesLeft, platform::entryPathOf(m_folder.path(), name)});
+        m_job.noteShortfall({ShortfallKind::FillFilesLeft, platform::pathInFolder(m_folder.path(), name)});
     return removed;
 }

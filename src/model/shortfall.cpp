@@ -61,6 +61,8 @@ constexpr std::array kinds{
                                 "not overwritten")},
     KindEntry{ShortfallKind::LinkTarget, "link-target", true,
               QT_TRANSLATE_NOOP("OutcomeRecord", "links are removed, what they lead to is not erased")},
+    KindEntry{ShortfallKind::BinNotEntered, "bin-not-entered", true,
+              QT_TRANSLATE_NOOP("OutcomeRecord", "bins were not looked into, what they hold is not erased")},
     KindEntry{ShortfallKind::NotReadBack, "not-read-back", false,
               QT_TRANSLATE_NOOP("OutcomeRecord", "what was written was not read back")},
     KindEntry{ShortfallKind::ReadBackImpossible, "read-back-impossible", false,

@@ -29,6 +29,7 @@ enum class ShortfallKind {
     EntryNotRemoved,
     ContentElsewhere,
     LinkTarget,
+    BinNotEntered,
     // These are worth a word and take nothing from the job.
     NotReadBack,
     ReadBackImpossible,

@@ -242,6 +242,8 @@ void WipeTask::clearOutcome()
     const QMutexLocker locker(&m_outcomeMutex);
     m_outcome = OutcomeRecord();
     m_outcome.addWritten(0);
+    for (const Shortfall &omission : m_omissions)
+        m_outcome.note(omission);
 }
 
 QStringList WipeTask::dismountedVolumes() const

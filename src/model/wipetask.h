@@ -9,6 +9,7 @@
 #include "model/wipereport.h"
 
 #include <QHash>
+#include <QList>
 #include <QMutex>
 #include <QObject>
 #include <QString>
@@ -65,6 +66,10 @@ public:
     bool targetsAreNamed() const { return m_targetsAreNamed; }
     void setTargetsAreNamed(bool named) { m_targetsAreNamed = named; }
 
+    /// What is known before the job of what it leaves out; noted whenever it begins.
+    QList<Shortfall> omissions() const { return m_omissions; }
+    void setOmissions(const QList<Shortfall> &omissions) { m_omissions = omissions; }
+
     /// Parallelism of a file wipe, valid from 1 to 32.
     qint32 threadCount() const { return m_threadCount; }
     void setThreadCount(qint32 count) { m_threadCount = count; }
@@ -106,7 +111,7 @@ public:
     void noteVolume(const QString &volume);
     /// The end of the job; complete becomes partial where that was noted.
     void setOutcome(JobOutcome outcome);
-    /// Forgets what an earlier run has left.
+    /// Forgets what an earlier run has left, the omissions excepted.
     void clearOutcome();
 
     /// The volumes that a disk job has left dismounted, by name: whatever became of the job, nothing mounts
@@ -128,6 +133,7 @@ private:
     QStringList m_files;
     QHash<QString, TargetIdentity> m_targetIdentities;
     bool m_targetsAreNamed = true;
+    QList<Shortfall> m_omissions;
     qint32 m_threadCount;
     qint32 m_bufferSizeMB = 64;
     bool m_verifyAfterWipe = true;

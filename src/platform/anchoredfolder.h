@@ -64,10 +64,4 @@ public:
     virtual Status removeTree(const QString &name) = 0;
 };
 
-// The path of an entry of the folder with that path, for display.
-inline QString entryPathOf(const QString &folder, const QString &name)
-{
-    return folder.endsWith(u'/') || folder.endsWith(u'\\') ? folder + name : folder + u'/' + name;
-}
-
 } // namespace platform

@@ -4,6 +4,16 @@
 
 namespace platform {
 
+namespace {
+
+// In the names of other systems, whose paths begin with a slash, a back slash is a character like any other.
+bool endsWithSeparator(const QString &folder)
+{
+    return folder.endsWith(u'/') || (folder.endsWith(u'\\') && !folder.startsWith(u'/'));
+}
+
+} // namespace
+
 QString EntryPath::path() const
 {
     if (!m_folder)
@@ -26,7 +36,7 @@ QString pathInFolder(const QString &folder, const QString &name)
     QString path;
     path.reserve(folder.size() + 1 + name.size());
     path += folder;
-    if (!folder.endsWith(u'/'))
+    if (!endsWithSeparator(folder))
         path += u'/';
     path += name;
     return path;

@@ -40,7 +40,7 @@ private:
     QString m_name;
 };
 
-// The path of a name in a folder. Pure.
+// The path of a name in a folder, which may end with a separator, as roots do. Pure.
 QString pathInFolder(const QString &folder, const QString &name);
 
 } // namespace platform

@@ -28,6 +28,9 @@ struct FileInfo
     FileId id{};       // only to be compared where FileHandle::id() answers
     // In a held folder: something from elsewhere that is mounted over the name, which is not in the folder.
     bool isMounted = false;
+    // What the content of a regular file occupies, less than its size where there are holes or it is
+    // compressed; below 0 where nothing says that it may be less.
+    qint64 allocatedBytes = -1;
 };
 
 // An open file. Positions and lengths are bytes. Transfers loop over short ones and interruptions by
@@ -121,7 +124,8 @@ public:
 
     // What stands under the path itself. FileNotFound or PathNotFound when there is nothing.
     // Windows: GetFileAttributesExW, FindFirstFileExW for the tag of a reparse point,
-    // GetFileInformationByHandle for link count and identity. Linux: statx.
+    // GetFileInformationByHandle for link count and identity, GetFileInformationByHandleEx for what a sparse
+    // or compressed file occupies. Linux: statx.
     virtual Result<FileInfo> info(const EntryPath &entry) = 0;
 
     // Opens a regular file. Everything else is refused with CannotAccessFile, a folder with AccessDenied,

@@ -18,7 +18,8 @@ class AnchoredFolder;
 struct SpaceInfo
 {
     qint64 totalBytes = 0;
-    qint64 freeBytes = 0; // all free bytes, also those that only an administrator may use
+    qint64 freeBytes = 0;      // all free bytes, also those that only an administrator may use
+    qint64 availableBytes = 0; // those of them that the user in effect may use
 };
 
 struct FolderOwner

@@ -1,5 +1,6 @@
 #include "services/foldertree.h"
 
+#include "platform/entrypath.h"
 #include "platform/folders.h"
 #include "platform/platform.h"
 
@@ -16,7 +17,7 @@ void forEachFileBelow(const QString &folder, const EntryVisitor &visit)
         const platform::Status seen =
             folders.forEachEntry(current, [&](const QString &name, platform::FileKind kind) {
                 if (kind == platform::FileKind::Folder)
-                    pending.append(entryOf(current, name));
+                    pending.append(platform::pathInFolder(current, name));
                 else
                     visit(current, name, kind);
                 return true;
@@ -26,13 +27,18 @@ void forEachFileBelow(const QString &folder, const EntryVisitor &visit)
     }
 }
 
-QString entryOf(const QString &folder, const QString &name)
-{
-    return folder.endsWith(u'/') ? folder + name : folder + u'/' + name;
-}
-
-bool isRealFolder(const QString &path)
+quint64 sizeOfFile(const QString &path)
 {
     const auto info = platform::Platform::current().files().info(path);
-    return info && info.value().kind == platform::FileKind::Folder;
+    return info ? static_cast<quint64>(info.value().size) : 0;
+}
+
+quint64 sizeOfTree(const QString &folder)
+{
+    quint64 size = 0;
+    forEachFileBelow(folder, [&size](const QString &parent, const QString &name, platform::FileKind kind) {
+        if (kind == platform::FileKind::Regular)
+            size += sizeOfFile(platform::pathInFolder(parent, name));
+    });
+    return size;
 }

@@ -14,8 +14,6 @@ using EntryVisitor = std::function<void(const QString &folder, const QString &na
 /// output.
 void forEachFileBelow(const QString &folder, const EntryVisitor &visit);
 
-/// The path of an entry; the folder may end with a separator, as roots do.
-QString entryOf(const QString &folder, const QString &name);
-
-/// Whether that is a folder, and no link to one.
-bool isRealFolder(const QString &path);
+/// Bytes of a file, and of all files below a folder; what does not tell counts as 0.
+quint64 sizeOfFile(const QString &path);
+quint64 sizeOfTree(const QString &folder);

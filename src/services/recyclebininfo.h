@@ -1,5 +1,7 @@
 #pragma once
 
+#include "model/shortfall.h"
+
 #include <QList>
 #include <QString>
 #include <QStringList>
@@ -18,6 +20,22 @@ struct RecycleBinItem
     bool operator==(const RecycleBinItem &) const = default;
 };
 
+/// Something that stands where a bin is looked for and was not looked into.
+struct UnscannedBin
+{
+    enum class Reason {
+        Link,       ///< it leads elsewhere, to what nobody has thrown away
+        NotOwn,     ///< it belongs to another user
+        Unreadable, ///< it could not be listed, or does not tell what it is
+    };
+
+    QString path;
+    Reason reason = Reason::Unreadable;
+    quint32 error = 0; ///< of Unreadable
+
+    bool operator==(const UnscannedBin &) const = default;
+};
+
 /// What one user has in the bins of the machine.
 struct RecycleBinInfo
 {
@@ -27,6 +45,10 @@ struct RecycleBinInfo
     quint64 totalSize = 0; ///< bytes of all items
     qint32 fileCount = 0;  ///< number of items
     QStringList drives;    ///< those with at least one item
+    /// Data files in Recycle Bins that no "$I" file stands for, so that they are no items. To be erased with
+    /// the others.
+    QList<RecycleBinItem> unrecorded;
+    QList<UnscannedBin> unscanned;
 
     bool operator==(const RecycleBinInfo &) const = default;
 
@@ -40,5 +62,23 @@ struct RecycleBinInfo
             filePaths.append(item.recyclePath);
         totalSize += item.size;
         fileCount = static_cast<qint32>(items.size());
+    }
+
+    /// filePaths, and behind them what no information file stands for.
+    QStringList doomedPaths() const
+    {
+        QStringList paths = filePaths;
+        for (const RecycleBinItem &item : unrecorded)
+            paths.append(item.recyclePath);
+        return paths;
+    }
+
+    /// What a job on doomedPaths() leaves out.
+    QList<Shortfall> omissions() const
+    {
+        QList<Shortfall> left;
+        for (const UnscannedBin &bin : unscanned)
+            left.append({ShortfallKind::BinNotEntered, bin.path});
+        return left;
     }
 };

@@ -1,9 +1,11 @@
 #include "services/recyclebinscanner.h"
 
 #include "platform/devices.h"
-#include "platform/folders.h"
+#include "platform/entrypath.h"
+#include "platform/files.h"
 #include "platform/platform.h"
 #include "platform/session.h"
+#include "services/binaccess.h"
 #include "services/foldertree.h"
 #include "services/recyclebininfofile.h"
 #ifdef Q_OS_UNIX
@@ -11,8 +13,13 @@
 #endif
 
 #include <QDebug>
+#include <QMap>
+
+#include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
+using platform::pathInFolder;
 
 namespace {
 // Whatever has a longer path than Windows can make is no information file; a deleted folder may hold any file
@@ -28,7 +35,7 @@ bool isInfoName(const QString &name)
 // be erased all the same.
 void addDataFile(const QString &folder, const QString &name, RecycleBinItem &item)
 {
-    const QString path = entryOf(folder, name);
+    const QString path = pathInFolder(folder, name);
     const auto found = platform::Platform::current().files().info(path);
     if (isAbsent(found.status()))
         return;
@@ -42,50 +49,102 @@ void addDataFile(const QString &folder, const QString &name, RecycleBinItem &ite
         item.size = static_cast<quint64>(found.value().size);
 }
 
+// The data files that lie in a bin itself, until their information files are found.
+class DataFiles
+{
+public:
+    DataFiles(const QString &folder, QList<UnscannedBin> &unscanned)
+        : m_folder(folder)
+    {
+        listBin(folder, unscanned, [this](const QString &name, platform::FileKind kind) {
+            if (name.startsWith("$R"_L1, Qt::CaseInsensitive))
+                m_left.insert(name, kind);
+            return true;
+        });
+    }
+
+    void take(const QString &name)
+    {
+        if (m_left.remove(name) > 0)
+            return;
+        // It was found under this name all the same: the file system does not tell capitals apart.
+        m_left.removeIf([&name](const std::pair<const QString &, platform::FileKind &> &entry) {
+            return entry.first.compare(name, Qt::CaseInsensitive) == 0;
+        });
+    }
+
+    QList<RecycleBinItem> left() const
+    {
+        QList<RecycleBinItem> items;
+        for (auto entry = m_left.cbegin(); entry != m_left.cend(); ++entry) {
+            RecycleBinItem item;
+            item.fileName = entry.key();
+            item.recyclePath = pathInFolder(m_folder, entry.key());
+            item.isDirectory = entry.value() == platform::FileKind::Folder;
+            if (item.isDirectory)
+                item.size = sizeOfTree(item.recyclePath);
+            else if (entry.value() == platform::FileKind::Regular)
+                item.size = sizeOfFile(item.recyclePath);
+            items.append(item);
+        }
+        return items;
+    }
+
+private:
+    const QString m_folder;
+    QMap<QString, platform::FileKind> m_left;
+};
+
 void scanBin(const QString &folder, RecycleBinInfo &found)
 {
-    if (!isRealFolder(folder))
-        return;
-    forEachFileBelow(folder, [&found](const QString &parent, const QString &name, platform::FileKind kind) {
+    DataFiles data(folder, found.unscanned);
+    forEachFileBelow(folder, [&](const QString &parent, const QString &name, platform::FileKind kind) {
         if (!isInfoName(name))
             return;
-        const QString path = entryOf(parent, name);
+        const QString path = pathInFolder(parent, name);
         RecycleBinItem item;
         if (kind == platform::FileKind::Regular)
             item = RecycleBinScanner::parseInfoFile(path);
         item.infoPath = path;
-        addDataFile(parent, u"$R"_s + name.mid(2), item);
+        const QString dataName = u"$R"_s + name.mid(2);
+        addDataFile(parent, dataName, item);
+        if (parent == folder && !item.recyclePath.isEmpty())
+            data.take(dataName);
         found.add(item);
     });
+    found.unrecorded += data.left();
 }
 
+using NameTest = std::function<bool(const QString &name)>;
+
 // The folders in the given one whose names are accepted, in the order listed. Links are none.
-QStringList foldersIn(const QString &parent, const std::function<bool(const QString &name)> &accept)
+QStringList foldersIn(const QString &parent, const NameTest &accept, QList<UnscannedBin> &unscanned)
 {
     QStringList paths;
-    const platform::Status seen = platform::Platform::current().folders().forEachEntry(
-        parent, [&](const QString &name, platform::FileKind kind) {
-            if (kind == platform::FileKind::Folder && accept(name))
-                paths.append(entryOf(parent, name));
-            return true;
-        });
-    if (!seen)
-        qDebug() << "  Cannot list folder:" << parent << seen.diagnostic();
+    listBin(parent, unscanned, [&](const QString &name, platform::FileKind kind) {
+        const bool mayBeBin = kind == platform::FileKind::Folder || kind == platform::FileKind::Link;
+        if (mayBeBin && accept(name))
+            paths.append(pathInFolder(parent, name));
+        return true;
+    });
+    paths.removeIf(
+        [&unscanned](const QString &path) { return !mayEnterBin(path, BinOwner::Anybody, unscanned); });
     return paths;
 }
 
 // Some systems write the name of the bin in capitals, and not every file system that holds one ignores case.
-QStringList binsIn(const QString &root, const QString &sid)
+QStringList binsIn(const QString &root, const QString &sid, QList<UnscannedBin> &unscanned)
 {
     QStringList bins;
     const QStringList shared = foldersIn(
-        root, [](const QString &name) { return name.compare("$Recycle.Bin"_L1, Qt::CaseInsensitive) == 0; });
-    for (const QString &bin : shared) {
-        bins += foldersIn(bin, [&sid](const QString &name) {
-            return sid.isEmpty() ? name.startsWith("S-1-"_L1, Qt::CaseInsensitive)
-                                 : name.compare(sid, Qt::CaseInsensitive) == 0;
-        });
-    }
+        root, [](const QString &name) { return name.compare("$Recycle.Bin"_L1, Qt::CaseInsensitive) == 0; },
+        unscanned);
+    const NameTest isWanted = [&sid](const QString &name) {
+        return sid.isEmpty() ? name.startsWith("S-1-"_L1, Qt::CaseInsensitive)
+                             : name.compare(sid, Qt::CaseInsensitive) == 0;
+    };
+    for (const QString &bin : shared)
+        bins += foldersIn(bin, isWanted, unscanned);
     return bins;
 }
 
@@ -103,11 +162,13 @@ QStringList localDrives()
 
 void scanDrive(const QString &drive, const QString &sid, RecycleBinInfo &found)
 {
-    const QString shared = entryOf(drive, u"$Recycle.Bin"_s);
-    if (isRealFolder(shared))
-        scanBin(entryOf(shared, sid), found);
+    const QString shared = pathInFolder(drive, u"$Recycle.Bin"_s);
+    const QString bin = pathInFolder(shared, sid);
+    if (mayEnterBin(shared, BinOwner::Anybody, found.unscanned) &&
+        mayEnterBin(bin, BinOwner::User, found.unscanned))
+        scanBin(bin, found);
 #ifdef Q_OS_UNIX
-    const QList<TrashFolder> trash = trashFoldersOfVolume(drive, sid);
+    const QList<TrashFolder> trash = trashFoldersOfVolume(drive, sid, found.unscanned);
     for (const TrashFolder &folder : trash)
         scanTrash(folder, found);
 #endif
@@ -119,9 +180,9 @@ struct Stop
     std::function<void(RecycleBinInfo &found)> scan;
 };
 
-RecycleBinInfo scanStops(const QList<Stop> &stops, const RecycleBinScanner::DriveCallback &callback)
+RecycleBinInfo scanStops(const QList<Stop> &stops, const RecycleBinScanner::DriveCallback &callback,
+                         RecycleBinInfo found = {})
 {
-    RecycleBinInfo found;
     for (qsizetype i = 0; i < stops.size(); ++i) {
         const Stop &stop = stops.at(i);
         if (callback)
@@ -145,15 +206,16 @@ RecycleBinInfo RecycleBinScanner::scan(const DriveCallback &callback)
         return {};
     }
     qDebug() << "Scanning recycle bin for SID:" << sid;
+    RecycleBinInfo found;
     QList<Stop> stops;
 #ifdef Q_OS_UNIX
-    if (const auto home = homeTrashFolder())
-        stops.append({home->drive, [home](RecycleBinInfo &found) { scanTrash(*home, found); }});
+    if (const auto home = homeTrashFolder(found.unscanned))
+        stops.append({home->drive, [home](RecycleBinInfo &info) { scanTrash(*home, info); }});
 #endif
     const QStringList drives = localDrives();
     for (const QString &drive : drives)
-        stops.append({drive, [drive, sid](RecycleBinInfo &found) { scanDrive(drive, sid, found); }});
-    return scanStops(stops, callback);
+        stops.append({drive, [drive, sid](RecycleBinInfo &info) { scanDrive(drive, sid, info); }});
+    return scanStops(stops, callback, found);
 }
 
 RecycleBinInfo RecycleBinScanner::scanRoots(const QStringList &roots, const QString &sid,
@@ -163,12 +225,20 @@ RecycleBinInfo RecycleBinScanner::scanRoots(const QStringList &roots, const QStr
     QList<Stop> stops;
     for (const QString &root : roots) {
         stops.append({root, [root, sid](RecycleBinInfo &found) {
-                          const QStringList bins = binsIn(root, sid);
+                          const QStringList bins = binsIn(root, sid, found.unscanned);
                           for (const QString &bin : bins)
                               scanBin(bin, found);
                       }});
     }
     return scanStops(stops, callback);
+}
+
+bool RecycleBinScanner::hasBin(const QStringList &roots, const QString &sid)
+{
+    QList<UnscannedBin> unscanned;
+    const bool isFound = std::ranges::any_of(
+        roots, [&](const QString &root) { return !binsIn(root, sid, unscanned).isEmpty(); });
+    return isFound || !unscanned.isEmpty();
 }
 
 RecycleBinItem RecycleBinScanner::parseInfoFile(const QString &path)

@@ -12,8 +12,8 @@
 /// Windows, and elsewhere also the Trash of the desktop. Reads only; erases nothing. Any thread, one scan at
 /// a time for each scanner; nothing is kept between calls.
 ///
-/// Nothing is reported as failed: what cannot be read is listed with an empty name and path, and diagnostics
-/// go to the debug output.
+/// No scan fails: what cannot be read is listed with an empty name and path, a bin that is not looked into is
+/// told in `unscanned`, and diagnostics go to the debug output.
 class RecycleBinScanner : public QObject
 {
     Q_OBJECT
@@ -33,6 +33,9 @@ public:
     /// drive under the name given.
     RecycleBinInfo scanRoots(const QStringList &roots, const QString &sid = {},
                              const DriveCallback &callback = {});
+
+    /// Whether one of the roots has a bin of that SID, or may have one where that cannot be told.
+    static bool hasBin(const QStringList &roots, const QString &sid);
 
     /// `fileName`, `originalPath` and `size` from a "$I" file; all empty when it cannot be read or is too
     /// small.

@@ -1,8 +1,10 @@
 #include "services/trashscan.h"
 
+#include "platform/entrypath.h"
 #include "platform/files.h"
 #include "platform/folders.h"
 #include "platform/platform.h"
+#include "services/binaccess.h"
 #include "services/foldertree.h"
 #include "services/trashinfofile.h"
 
@@ -12,6 +14,7 @@
 #include <QHash>
 
 using namespace Qt::StringLiterals;
+using platform::pathInFolder;
 
 namespace {
 // Three characters for each byte of the longest path, and more than enough for the rest.
@@ -25,33 +28,16 @@ struct Entry
     platform::FileKind kind = platform::FileKind::Regular;
 };
 
-QList<Entry> entriesOf(const QString &folder)
+QList<Entry> entriesOf(const QString &folder, QList<UnscannedBin> &unscanned)
 {
     QList<Entry> entries;
-    const platform::Status seen = platform::Platform::current().folders().forEachEntry(
-        folder, [&entries](const QString &name, platform::FileKind kind) {
-            entries.append({name, kind});
-            return true;
-        });
-    if (!seen)
-        qDebug() << "  Cannot list folder:" << folder << seen.diagnostic();
-    return entries;
-}
-
-quint64 sizeOfFile(const QString &path)
-{
-    const auto info = platform::Platform::current().files().info(path);
-    return info ? static_cast<quint64>(info.value().size) : 0;
-}
-
-quint64 sizeOfTree(const QString &folder)
-{
-    quint64 size = 0;
-    forEachFileBelow(folder, [&size](const QString &parent, const QString &name, platform::FileKind kind) {
-        if (kind == platform::FileKind::Regular)
-            size += sizeOfFile(entryOf(parent, name));
+    if (!mayEnterBin(folder, BinOwner::Anybody, unscanned))
+        return entries;
+    listBin(folder, unscanned, [&entries](const QString &name, platform::FileKind kind) {
+        entries.append({name, kind});
+        return true;
     });
-    return size;
+    return entries;
 }
 
 QString lastComponent(const QString &path)
@@ -64,17 +50,17 @@ class Scan
 public:
     Scan(const TrashFolder &trash, RecycleBinInfo &found)
         : m_top(trash.top)
-        , m_files(entryOf(trash.folder, u"files"_s))
-        , m_info(entryOf(trash.folder, u"info"_s))
+        , m_files(pathInFolder(trash.folder, u"files"_s))
+        , m_info(pathInFolder(trash.folder, u"info"_s))
         , m_found(found)
     {}
 
     void run()
     {
-        const QList<Entry> entries = entriesOf(m_files);
+        const QList<Entry> entries = entriesOf(m_files, m_found.unscanned);
         for (const Entry &entry : entries)
             m_unrecorded.insert(entry.name, entry.kind);
-        const QList<Entry> records = entriesOf(m_info);
+        const QList<Entry> records = entriesOf(m_info, m_found.unscanned);
         for (const Entry &record : records) {
             if (record.kind != platform::FileKind::Folder && record.name.endsWith(InfoSuffix))
                 addRecorded(record);
@@ -89,7 +75,7 @@ private:
     void addRecorded(const Entry &record)
     {
         RecycleBinItem item;
-        item.infoPath = entryOf(m_info, record.name);
+        item.infoPath = pathInFolder(m_info, record.name);
         item.originalPath = recordedPath(item.infoPath);
         item.fileName = lastComponent(item.originalPath);
         const QString name = record.name.chopped(InfoSuffix.size());
@@ -112,7 +98,7 @@ private:
 
     void describe(const Entry &entry, RecycleBinItem &item) const
     {
-        item.recyclePath = entryOf(m_files, entry.name);
+        item.recyclePath = pathInFolder(m_files, entry.name);
         item.isDirectory = entry.kind == platform::FileKind::Folder;
         if (item.fileName.isEmpty())
             item.fileName = entry.name;
@@ -132,7 +118,7 @@ private:
         const QString path = parseTrashInfo(contents.value());
         if (path.isEmpty())
             qDebug() << "  No path in .trashinfo file:" << infoPath;
-        return path.isEmpty() || path.startsWith(u'/') || m_top.isEmpty() ? path : entryOf(m_top, path);
+        return path.isEmpty() || path.startsWith(u'/') || m_top.isEmpty() ? path : pathInFolder(m_top, path);
     }
 
     const QString m_top;
@@ -142,12 +128,6 @@ private:
     QHash<QString, platform::FileKind> m_unrecorded; // entries that no record was found for yet
 };
 
-bool isOwn(const QString &folder)
-{
-    const auto owner = platform::Platform::current().folders().owner(folder);
-    return owner && owner.value().isOwn;
-}
-
 bool isSticky(const QString &folder)
 {
     const auto owner = platform::Platform::current().folders().owner(folder);
@@ -155,25 +135,27 @@ bool isSticky(const QString &folder)
 }
 } // namespace
 
-std::optional<TrashFolder> homeTrashFolder()
+std::optional<TrashFolder> homeTrashFolder(QList<UnscannedBin> &unscanned)
 {
     QString data = QFile::decodeName(qgetenv("XDG_DATA_HOME"));
     // A relative one would mean another folder for every program.
     if (!data.startsWith(u'/'))
         data = QDir::homePath() + u"/.local/share"_s;
-    TrashFolder trash{entryOf(data, u"Trash"_s), QDir::homePath(), {}};
-    return isRealFolder(trash.folder) ? std::optional(trash) : std::nullopt;
+    TrashFolder trash{pathInFolder(data, u"Trash"_s), QDir::homePath(), {}};
+    return mayEnterBin(trash.folder, BinOwner::Anybody, unscanned) ? std::optional(trash) : std::nullopt;
 }
 
-QList<TrashFolder> trashFoldersOfVolume(const QString &root, const QString &userId)
+QList<TrashFolder> trashFoldersOfVolume(const QString &root, const QString &userId,
+                                        QList<UnscannedBin> &unscanned)
 {
     QList<TrashFolder> folders;
-    const QString shared = entryOf(root, u".Trash"_s);
-    const QString inShared = entryOf(shared, userId);
-    if (isSticky(shared) && isOwn(inShared))
+    const QString shared = pathInFolder(root, u".Trash"_s);
+    const QString inShared = pathInFolder(shared, userId);
+    if (mayEnterBin(shared, BinOwner::Anybody, unscanned) && isSticky(shared) &&
+        mayEnterBin(inShared, BinOwner::User, unscanned))
         folders.append({inShared, root, root});
-    const QString ofUser = entryOf(root, u".Trash-"_s + userId);
-    if (isOwn(ofUser))
+    const QString ofUser = pathInFolder(root, u".Trash-"_s + userId);
+    if (mayEnterBin(ofUser, BinOwner::User, unscanned))
         folders.append({ofUser, root, root});
     return folders;
 }

@@ -17,14 +17,18 @@ struct TrashFolder
     bool operator==(const TrashFolder &) const = default;
 };
 
-/// "Trash" in $XDG_DATA_HOME, by default ~/.local/share; nothing when there is none, or only a link.
-std::optional<TrashFolder> homeTrashFolder();
+/// "Trash" in $XDG_DATA_HOME, by default ~/.local/share; nothing when there is none. A link goes to
+/// `unscanned`.
+std::optional<TrashFolder> homeTrashFolder(QList<UnscannedBin> &unscanned);
 
 /// Those of the user on the volume with that root, as far as they exist: ".Trash/<user id>" and
 /// ".Trash-<user id>". Only real folders of the user's own, and the former only below a real folder with the
 /// sticky bit: anybody may write to a volume's root, and what such a folder names is going to be erased.
-QList<TrashFolder> trashFoldersOfVolume(const QString &root, const QString &userId);
+/// Links, and folders of other users under these names, go to `unscanned`.
+QList<TrashFolder> trashFoldersOfVolume(const QString &root, const QString &userId,
+                                        QList<UnscannedBin> &unscanned);
 
 /// Adds what the folder holds: for each ".trashinfo" the item, and then the entries that have none. Folders
-/// count with all the files in them. What cannot be read is listed without its former path.
+/// count with all the files in them. What cannot be read is listed without its former path. A part of the
+/// Trash that is a link or cannot be listed goes to `found.unscanned`.
 void scanTrash(const TrashFolder &trash, RecycleBinInfo &found);

@@ -1,5 +1,6 @@
 #include "services/trashsizes.h"
 
+#include "platform/entrypath.h"
 #include "platform/filenames.h"
 #include "platform/files.h"
 #include "platform/folders.h"
@@ -13,6 +14,7 @@
 #include <memory>
 
 using namespace Qt::StringLiterals;
+using platform::pathInFolder;
 
 namespace {
 // A line for each deleted folder; what lies behind that is dropped, and computed anew by the desktop.
@@ -125,14 +127,14 @@ QStringList trashFoldersOf(const RecycleBinInfo &info)
 
 platform::Status pruneDirectorySizes(const QString &trashFolder)
 {
-    const QString path = entryOf(trashFolder, u"directorysizes"_s);
+    const QString path = pathInFolder(trashFolder, u"directorysizes"_s);
     const auto found = files().info(path);
     if (!found)
         return isAbsent(found.status()) ? platform::Status{} : found.status();
     const auto record = platform::Platform::current().files().readBeginning(path, LargestRecord);
     if (!record)
         return record.status();
-    const auto present = foldersIn(entryOf(trashFolder, u"files"_s));
+    const auto present = foldersIn(pathInFolder(trashFolder, u"files"_s));
     if (!present)
         return present.status();
     const QByteArray kept = remaining(record.value(), present.value());

@@ -42,6 +42,10 @@ private slots:
     void aBinThatIsALinkIsLeftAlone();
     void aRecordThatLeadsElsewhereErasesNothingThere();
     void aDamagedRecordIsErasedWithItsFile();
+    void dataWithoutARecordIsErasedToo();
+    void aSidWithoutABinIsRefused();
+    void whatIsNotLookedIntoIsListed();
+    void whatIsNotLookedIntoMakesTheJobPartial();
 #ifdef Q_OS_UNIX
     void theDesktopsTrashIsErasedWithItsRecords();
     void aLinkInTheBinMakesNothingPartial();
@@ -125,8 +129,8 @@ void tst_CliTrash::theListIsOneObjectForMachines()
     QCOMPARE(run.code, 0);
     QCOMPARE(run.io.documents().size(), 1);
     const QJsonObject object = run.io.documents().constFirst().object();
-    QCOMPARE(object.keys(),
-             (QStringList{u"drives"_s, u"fileCount"_s, u"filePaths"_s, u"items"_s, u"totalSize"_s}));
+    QCOMPARE(object.keys(), (QStringList{u"drives"_s, u"fileCount"_s, u"filePaths"_s, u"items"_s,
+                                         u"totalSize"_s, u"unrecorded"_s, u"unscanned"_s}));
     QCOMPARE(object.value(u"fileCount"), QJsonValue(1));
     QCOMPARE(object.value(u"totalSize"), QJsonValue(u"3"_s));
     QCOMPARE(object.value(u"filePaths").toArray().size(), 2);
@@ -262,7 +266,8 @@ void tst_CliTrash::aBinThatIsALinkIsLeftAlone()
         QSKIP(NoLinks);
     CliRun run;
     run(wipe());
-    QCOMPARE(run.code, 0);
+    QCOMPARE(run.code, 3);
+    QVERIFY2(run.complains("$Recycle.Bin is a link and is not followed"), run.io.err.constData());
     QCOMPARE(contentOf(elsewhere.filePath(Alice + u"/$RAAAAAA.txt"_s)), QByteArray("a"));
 }
 
@@ -287,6 +292,91 @@ void tst_CliTrash::aDamagedRecordIsErasedWithItsFile()
     QCOMPARE(run.code, 0);
     QVERIFY(!QFile::exists(bin(Alice, u"$IAAAAAA.txt"_s)));
     QVERIFY(!QFile::exists(bin(Alice, u"$RAAAAAA.txt"_s)));
+}
+
+void tst_CliTrash::dataWithoutARecordIsErasedToo()
+{
+    addDeleted(Alice, u"AAAAAA.txt"_s, u"C:\\a.txt"_s, "abc");
+    writeFile(bin(Alice, u"$RBBBBBB.txt"_s), "12345");
+    writeFile(bin(Alice, u"$RCCCCCC/deep/c.txt"_s), "1234567");
+    CliRun listing;
+    listing(list());
+    QCOMPARE(listing.code, 0);
+    QCOMPARE(listing.io.out, QByteArray("C:\\a.txt (3 B)\n$RBBBBBB.txt (5 B)\n$RCCCCCC (folder, 7 B)\n"
+                                        "1 item, 3 B\nand 2 entries without a record, 12 B\n"));
+    CliRun machine;
+    machine(list({u"--json"_s}));
+    const QJsonObject object = machine.io.documents().constFirst().object();
+    QCOMPARE(object.value(u"fileCount"), QJsonValue(1));
+    QCOMPARE(object.value(u"unrecorded").toArray().size(), 2);
+    QCOMPARE(object.value(u"unrecorded").toArray().at(0).toObject().value(u"recyclePath"),
+             QJsonValue(QFileInfo(bin(Alice, u"$RBBBBBB.txt"_s)).canonicalFilePath()));
+    CliRun run;
+    run.io.inputIsTerminal = true;
+    run.io.input = {u"ERASE"_s};
+    run(wipe({}));
+    QCOMPARE(run.code, 0);
+    QVERIFY2(run.io.err.contains("  and 2 entries without a record, 12 B\n"), run.io.err.constData());
+    QVERIFY(QDir(bin(Alice, {})).isEmpty());
+}
+
+void tst_CliTrash::aSidWithoutABinIsRefused()
+{
+    addDeleted(Alice, u"AAAAAA.txt"_s, u"C:\\a.txt"_s, "abc");
+    for (const QStringList &command : {wipe({u"--sid"_s, Bob, u"--yes"_s}), list({u"--sid"_s, Bob})}) {
+        CliRun run;
+        run(command);
+        QCOMPARE(run.code, 3);
+        QVERIFY2(run.complains(("no bin of " + Bob.toUtf8() + " was found").constData()),
+                 run.io.err.constData());
+        QCOMPARE(run.io.out, QByteArray());
+    }
+    QCOMPARE(contentOf(bin(Alice, u"$RAAAAAA.txt"_s)), QByteArray("abc"));
+}
+
+void tst_CliTrash::whatIsNotLookedIntoIsListed()
+{
+    const QTemporaryDir elsewhere;
+    QVERIFY(QDir().mkpath(path(u"$Recycle.Bin"_s)));
+    if (!makeLink(elsewhere.path(), bin(Alice, {}).chopped(1)))
+        QSKIP(NoLinks);
+    const QByteArray place =
+        QFileInfo(m_root->path()).canonicalFilePath().toUtf8() + "/$Recycle.Bin/" + Alice.toUtf8();
+    CliRun run;
+    run(list());
+    QCOMPARE(run.code, 0);
+    QCOMPARE(run.io.out, "0 items, 0 B\n" + place + " is a link and is not followed\n");
+    CliRun machine;
+    machine(list({u"--json"_s}));
+    const QJsonArray told = machine.io.documents().constFirst().object().value(u"unscanned").toArray();
+    QCOMPARE(told,
+             (QJsonArray{QJsonObject{{u"path"_s, QString::fromUtf8(place)}, {u"reason"_s, u"link"_s}}}));
+}
+
+void tst_CliTrash::whatIsNotLookedIntoMakesTheJobPartial()
+{
+    const QTemporaryDir elsewhere;
+    writeFile(elsewhere.filePath(u"$RAAAAAA.txt"_s), "kept");
+    addDeleted(Alice, u"AAAAAA.txt"_s, u"C:\\a.txt"_s, "abc");
+    if (!makeLink(elsewhere.path(), bin(Bob, {}).chopped(1)))
+        QSKIP(NoLinks);
+    CliRun run;
+    run(wipe({u"--yes"_s, u"--json"_s}));
+    QCOMPARE(run.code, 1);
+    QVERIFY2(run.io.err.contains("is a link and is not followed\n"), run.io.err.constData());
+    QVERIFY(run.io.err.contains("not everything will be erased"));
+    const QJsonObject last = run.io.events().constLast();
+    QCOMPARE(last.value(u"outcome"), QJsonValue(u"partial"_s));
+    const QJsonArray shortfalls = last.value(u"shortfalls").toArray();
+    QCOMPARE(shortfalls.size(), 1);
+    QCOMPARE(shortfalls.at(0).toObject().value(u"kind"), QJsonValue(u"bin-not-entered"_s));
+    QVERIFY(shortfalls.at(0).toObject().value(u"place").toString().endsWith(Bob));
+    QVERIFY(!QFile::exists(bin(Alice, u"$RAAAAAA.txt"_s)));
+    QCOMPARE(contentOf(elsewhere.filePath(u"$RAAAAAA.txt"_s)), QByteArray("kept"));
+    addDeleted(Alice, u"AAAAAA.txt"_s, u"C:\\a.txt"_s, "abc");
+    CliRun accepted;
+    accepted(wipe({u"--yes"_s, u"--accept"_s, u"bin-not-entered"_s}));
+    QCOMPARE(accepted.code, 0);
 }
 
 #ifdef Q_OS_UNIX
@@ -366,8 +456,9 @@ void tst_CliTrash::aTrashThatIsALinkIsLeftAlone()
     QVERIFY(makeLink(elsewhere.path(), m_home.filePath(u"Trash"_s)));
     CliRun run;
     run({u"wipe"_s, u"trash"_s, u"--yes"_s});
-    QCOMPARE(run.code, 0);
-    QCOMPARE(run.io.out, QByteArray("The Recycle Bin is empty.\n"));
+    QCOMPARE(run.code, 3);
+    QCOMPARE(run.io.out, QByteArray());
+    QVERIFY2(run.complains("Trash is a link and is not followed"), run.io.err.constData());
     QCOMPARE(contentOf(elsewhere.filePath(u"files/kept.txt"_s)), QByteArray("kept"));
     QVERIFY(QFile::remove(m_home.filePath(u"Trash"_s)));
 }

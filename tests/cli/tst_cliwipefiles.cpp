@@ -4,8 +4,6 @@
 #include "support/suite.h"
 #include "support/testfiles.h"
 
-#include "cli/filetarget.h"
-
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
@@ -13,6 +11,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <filesystem>
 #include <memory>
 
 using namespace Qt::StringLiterals;
@@ -42,7 +41,7 @@ private slots:
     void whatIsSwappedBeforeTheAnswerIsLeft();
     void aLongListIsCutShort();
     void namesCannotSteerTheTerminal();
-    void nestedPathsAreCountedOnce();
+    void furtherNamesAreToldInTheQuestion();
     void countingEndsWithAStop();
     void aReportInsideWhatIsErasedIsRefused();
 
@@ -307,19 +306,27 @@ void tst_CliWipeFiles::namesCannotSteerTheTerminal()
         QVERIFY(character == u'\n' || character.isPrint());
 }
 
-void tst_CliWipeFiles::nestedPathsAreCountedOnce()
+void tst_CliWipeFiles::furtherNamesAreToldInTheQuestion()
 {
-    const cli::FileCount count = cli::countFiles(
-        {path(u"folder/sub"_s), path(u"folder"_s), path(u"folder/two.txt"_s)}, [] { return false; });
-    QCOMPARE(count.files, quint64(2));
-    QCOMPARE(count.bytes, quint64(5000));
-    QVERIFY(count.isComplete);
-    QVERIFY(!cli::countFiles({path(u"missing"_s)}, [] { return false; }).isComplete);
+    std::filesystem::create_hard_link(path(u"folder/two.txt"_s).toStdU16String(),
+                                      path(u"keep/name.txt"_s).toStdU16String());
+    CliRun run;
+    run.io.inputIsTerminal = true;
+    run.io.input = {u"no"_s};
+    run(wipeFiles({u"folder"_s, u"one.txt"_s}, {}));
+    QCOMPARE(run.code, 3);
+    QVERIFY2(run.io.err.contains("  1 file has further names; its content is erased under these too\n"),
+             run.io.err.constData());
+    QCOMPARE(contentOf(path(u"keep/name.txt"_s)), QByteArray(2000, '2'));
+    CliRun alone;
+    alone.io.inputIsTerminal = true;
+    alone.io.input = {u"no"_s};
+    alone(wipeFiles({u"one.txt"_s}, {}));
+    QVERIFY2(!alone.io.err.contains("further names"), alone.io.err.constData());
 }
 
 void tst_CliWipeFiles::countingEndsWithAStop()
 {
-    QCOMPARE(cli::countFiles({path(u"folder"_s)}, [] { return true; }).files, quint64(0));
     CliRun run;
     run.io.stopRequest().request();
     run(wipeFiles({u"folder"_s}));

@@ -4,12 +4,14 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QJsonValue>
 #include <QProcess>
 #include <QProcessEnvironment>
+#include <QStorageInfo>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -29,6 +31,7 @@ private slots:
     void aLimitOfFileSizesEndsInAReport();
     void whatAKilledJobLeftIsRemovedByTheNext();
     void aSecondProgramIsRefused();
+    void holesThatDoNotFitAreRefused();
 
 private:
     std::unique_ptr<QTemporaryDir> m_folder;
@@ -43,6 +46,9 @@ constexpr qint64 MiB = 1'048'576;
 struct Program
 {
     explicit Program(const LoopMount &volume, const QString &before = {})
+        : Program(QStringList{u"free"_s, volume.mountPoint()}, before)
+    {}
+    explicit Program(const QStringList &what, const QString &before = {})
     {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(u"XDG_DATA_HOME"_s, home.path());
@@ -51,9 +57,11 @@ struct Program
         process.setProcessChannelMode(QProcess::MergedChannels);
         // The shell sets limits and becomes the program.
         process.start(u"/bin/sh"_s,
-                      {u"-c"_s, before + u" exec \"$@\""_s, u"sh"_s, QStringLiteral(QUORVEX_CLI), u"wipe"_s,
-                       u"free"_s, volume.mountPoint(), u"--yes"_s, u"--buffer-mb"_s, u"1"_s, u"--report"_s,
-                       home.filePath(u"report.json"_s)},
+                      QStringList{u"-c"_s, before + u" exec \"$@\""_s, u"sh"_s, QStringLiteral(QUORVEX_CLI),
+                                  u"wipe"_s} +
+                          what +
+                          QStringList{u"--yes"_s, u"--buffer-mb"_s, u"1"_s, u"--report"_s,
+                                      home.filePath(u"report.json"_s)},
                       QIODevice::ReadOnly);
     }
     int code()
@@ -161,6 +169,35 @@ void tst_ProgramVolumes::aSecondProgramIsRefused()
     const int firstCode = first.code();
     QVERIFY2(firstCode == 1 && first.output.contains("PARTLY DONE"), first.output.constData());
     QVERIFY(!first.output.contains("could not be filled"));
+}
+
+void tst_ProgramVolumes::holesThatDoNotFitAreRefused()
+{
+    QVERIFY(QDir(m_volume->mountPoint()).mkpath(u"folder/sub"_s));
+    const QString folder = m_volume->mountPoint() + u"/folder"_s;
+    const QString other = writeFile(folder + u"/other"_s, QByteArray(5000, 'o'));
+    // Neither of them is larger than the room, both are.
+    const QStringList sparse{writeFile(folder + u"/a"_s, "beginning"), folder + u"/sub/b"_s};
+    writeFile(sparse.last(), "beginning");
+    for (const QString &path : sparse)
+        QVERIFY(QFile::resize(path, 160 * MiB));
+    const QStorageInfo before(m_volume->mountPoint());
+    QVERIFY(before.bytesFree() > 160 * MiB && before.bytesFree() < 320 * MiB);
+
+    Program program({u"files"_s, folder});
+    QCOMPARE(program.code(), 3);
+    QVERIFY2(program.output.contains("when they are overwritten, and only"), program.output.constData());
+    QVERIFY(program.output.contains("Nothing was written."));
+    QVERIFY(!program.output.contains("about to be destroyed"));
+    QCOMPARE(QStorageInfo(m_volume->mountPoint()).bytesFree(), before.bytesFree());
+    QCOMPARE(contentOf(other), QByteArray(5000, 'o'));
+    for (const QString &path : sparse)
+        QCOMPARE(contentOf(path).first(9), QByteArray("beginning"));
+
+    // One of them fits.
+    Program fitting({u"files"_s, sparse.first()});
+    QVERIFY2(fitting.code() == 0, fitting.output.constData());
+    QVERIFY(!QFileInfo::exists(sparse.first()));
 }
 
 QUORVEX_SUITE(tst_ProgramVolumes, QCoreApplication)

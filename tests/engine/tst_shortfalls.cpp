@@ -58,6 +58,7 @@ private slots:
     void nothingIsForeseenForAnEmptyDrive();
     void mountedVolumesAreForeseen();
     void aLargeReserveIsForeseen();
+    void omissionsAreForeseen();
     void linksAreForeseen();
 };
 
@@ -514,6 +515,13 @@ void tst_Shortfalls::aLargeReserveIsForeseen()
     task.setPartition(disk.partitions.first());
     QVERIFY(!foreseeableShortfalls(task).hasShortfalls());
     QCOMPARE(foreseeableShortfalls(task).notes(), small);
+}
+
+void tst_Shortfalls::omissionsAreForeseen()
+{
+    WipeTask task;
+    task.setOmissions({{ShortfallKind::BinNotEntered, u"/bin"_s}});
+    QCOMPARE(foreseeableShortfalls(task).shortfalls(), task.omissions());
 }
 
 void tst_Shortfalls::linksAreForeseen()

@@ -44,6 +44,7 @@ private slots:
     void aForgedCompletenessIsPartial();
     void anyTextIsRead();
     void taskKeepsIt();
+    void whatATaskLeavesOutMakesItPartial();
     void taskIsSafeAcrossThreads();
 };
 
@@ -65,8 +66,8 @@ void tst_JobOutcome::everyKindHasANameAndALine()
         names.insert(kindName(kind));
         texts.insert(kindText(kind));
     }
-    QCOMPARE(names.size(), 24);
-    QCOMPARE(texts.size(), 24);
+    QCOMPARE(names.size(), 25);
+    QCOMPARE(texts.size(), 25);
     QCOMPARE(allShortfallKinds().last(), ShortfallKind::NoFreeByte);
     // These words stand in scripts and in databases.
     QCOMPARE(kindName(ShortfallKind::OnlyVolumes), u"only-volumes");
@@ -344,6 +345,17 @@ void tst_JobOutcome::taskKeepsIt()
     OutcomeRecord fresh;
     fresh.addWritten(0);
     QCOMPARE(task.outcome(), fresh);
+}
+
+void tst_JobOutcome::whatATaskLeavesOutMakesItPartial()
+{
+    const QList<Shortfall> omissions{{ShortfallKind::BinNotEntered, u"/media/stick/.Trash-1000"_s}};
+    WipeTask task;
+    task.setOmissions(omissions);
+    task.clearOutcome();
+    QCOMPARE(task.outcome().shortfalls(), omissions);
+    task.setOutcome(JobOutcome::Complete);
+    QCOMPARE(task.outcome().outcome(), JobOutcome::Partial);
 }
 
 void tst_JobOutcome::taskIsSafeAcrossThreads()

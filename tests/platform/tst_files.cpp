@@ -71,6 +71,7 @@ private slots:
     void openOfAFolderIsRefused();
     void infoOfAFile();
     void infoCountsHardLinks();
+    void infoTellsWhatAFileOccupies();
     void infoOfAFolder();
     void infoOfNothing();
     void theIdStaysWithTheFile();
@@ -592,6 +593,24 @@ void tst_Files::infoCountsHardLinks()
         QCOMPARE(files().info(path(u"file"_s)).value().linkCount, links);
         QCOMPARE(files().info(path(u"link%1"_s.arg(links))).value().linkCount, links);
     }
+}
+
+void tst_Files::infoTellsWhatAFileOccupies()
+{
+    writeFile(path(u"dense"_s), QByteArray(1 << 20, 'x'));
+    writeFile(path(u"hollow"_s), QByteArray(1 << 16, 'x'));
+    QVERIFY(QFile::resize(path(u"hollow"_s), 64 << 20));
+    QVERIFY(files().open(path(u"dense"_s), OpenMode::Overwrite).value()->flush().ok()); // else not yet given
+    const Result<FileInfo> dense = files().info(path(u"dense"_s));
+    QVERIFY(dense.value().allocatedBytes < 0 || dense.value().allocatedBytes >= 1 << 20);
+#ifdef Q_OS_LINUX
+    QVERIFY(dense.value().allocatedBytes >= 1 << 20);
+    const Result<FileInfo> hollow = files().info(path(u"hollow"_s));
+    QCOMPARE(hollow.value().size, qint64(64 << 20));
+    QVERIFY(hollow.value().allocatedBytes >= 0 && hollow.value().allocatedBytes < 1 << 20);
+    QVERIFY(QDir().mkdir(path(u"folder"_s)));
+    QCOMPARE(files().info(path(u"folder"_s)).value().allocatedBytes, qint64(-1));
+#endif
 }
 
 void tst_Files::infoOfAFolder()

@@ -347,6 +347,8 @@ void tst_Folders::spaceOfTheVolume()
         QCOMPARE(static_cast<std::uintmax_t>(space.value().totalBytes), total);
         QVERIFY(space.value().freeBytes >= 0);
         QVERIFY(space.value().freeBytes <= space.value().totalBytes);
+        QCOMPARE(space.value().availableBytes > 0, space.value().freeBytes > 0);
+        QVERIFY(space.value().availableBytes <= space.value().freeBytes);
     }
 }
 

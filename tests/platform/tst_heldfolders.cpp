@@ -77,6 +77,11 @@ void tst_HeldFolders::pathsOfEntries()
     QCOMPARE(EntryPath(folder, u"a"_s).sibling(u"b"_s).path(), path(u"paths/b"_s));
     QCOMPARE(EntryPath(u"/x/a"_s).sibling(u"b"_s).path(), u"/x/b"_s);
     QCOMPARE(EntryPath(u"/a"_s).sibling(u"b"_s).path(), u"/b"_s);
+    QCOMPARE(pathInFolder(u"/"_s, u"a"_s), u"/a"_s);
+    QCOMPARE(pathInFolder(u"/x/"_s, u"a"_s), u"/x/a"_s);
+    QCOMPARE(pathInFolder(u"E:\\"_s, u"a"_s), u"E:\\a"_s);
+    // A name may end with a back slash here.
+    QCOMPARE(pathInFolder(u"/x\\"_s, u"a"_s), u"/x\\/a"_s);
 }
 
 void tst_HeldFolders::theFolderStaysTheOneThatWasOpened()

@@ -24,13 +24,39 @@ namespace {
 const QString Ann = u"S-1-5-21-1-2-3-1001"_s;
 const QString Ben = u"S-1-5-21-1-2-3-1002"_s;
 
+// The real ones, with one that cannot be listed, one of another owner and one that does not tell its owner.
+class Folders : public platform::ForwardingFolders
+{
+public:
+    using ForwardingFolders::ForwardingFolders;
+
+    platform::Status forEachEntry(const platform::EntryPath &folder, const Visitor &visit) override
+    {
+        if (!unreadable.isEmpty() && folder.path() == unreadable)
+            return {platform::AccessDenied, 0, "list"};
+        return ForwardingFolders::forEachEntry(folder, visit);
+    }
+    platform::Result<platform::FolderOwner> owner(const QString &folder) override
+    {
+        if (!ownerless.isEmpty() && folder == ownerless)
+            return platform::Status{platform::AccessDenied, 0, "owner"};
+        if (!notOwn.isEmpty() && folder == notOwn)
+            return platform::FolderOwner{};
+        return ForwardingFolders::owner(folder);
+    }
+
+    QString unreadable;
+    QString notOwn;
+    QString ownerless;
+};
+
 // Drives are folders of ours; files are real.
 class Machine
 {
 public:
     Machine()
-        : m_native(platform::createPlatform({}))
-        , m_platform(m_native->files(), m_native->folders(), m_devices, m_session)
+        : folders(m_native->folders())
+        , m_platform(m_native->files(), folders, m_devices, m_session)
         , m_scope(m_platform)
     {
         m_session.user = Ann;
@@ -52,10 +78,15 @@ public:
     void setUser(const QString &sid) { m_session.user = sid; }
 
 private:
+    const std::unique_ptr<platform::Platform> m_native = platform::createPlatform({});
+
+public:
+    Folders folders;
+
+private:
     QTemporaryDir m_folder;
     // Where no Trash is: the user's own must not be listed.
     ScopedVariable m_dataHome{"XDG_DATA_HOME", QFile::encodeName(m_folder.path() + u"/data"_s)};
-    std::unique_ptr<platform::Platform> m_native;
     FakeDevices m_devices;
     FakeSession m_session;
     platform::ForwardingPlatform m_platform;
@@ -89,10 +120,15 @@ private slots:
     void anUnreadableRecordIsListedUnderTheDataFilesName();
     void lowerCaseNamesArePairedWithUpperCaseOnes();
     void otherFilesAreNoItems();
+    void dataFilesWithoutRecordsAreKeptBesideTheItems();
+    void aDataFileOfAnItemIsNotWithoutRecord();
+    void capitalsOfADataFileDoNotMakeItAnother();
     void recordsInSubfoldersAreFound();
     void deepFoldersAreWalked();
     void linksAreNotFollowed();
     void aBinThatIsALinkIsNotScanned();
+    void aBinThatCannotBeListedIsTold();
+    void aBinOfAnotherOwnerIsTold();
     void onlyTheUsersOwnFolderIsScanned();
     void drivesAreScannedInOrderAndAnnounced();
     void drivesThatAreNotLocalOrNotReadyAreSkipped();
@@ -103,6 +139,7 @@ private slots:
     void withoutSidEverySidIsScanned();
     void aBinInCapitalsIsFoundInARoot();
     void aSidIsOnlyAName();
+    void aBinOfASidIsThereOrNot();
     void missingRootsGiveNothing();
     void aScanRunsOnAnyThread();
 };
@@ -258,10 +295,65 @@ void tst_RecycleBinScanner::otherFilesAreNoItems()
     Machine pc;
     const QString bin = Machine::binOf(pc.mount(u"c"_s));
     writeFile(bin + u"/desktop.ini"_s, "[x]");
-    writeFile(bin + u"/$R5.txt"_s, "data without a record");
     writeFile(bin + u"/I$.txt"_s, infoVersion2(u"C:\\a.doc"_s, 1));
     QVERIFY(QDir().mkpath(bin + u"/$I7"_s));
     QCOMPARE(RecycleBinScanner().scan(), RecycleBinInfo());
+}
+
+void tst_RecycleBinScanner::dataFilesWithoutRecordsAreKeptBesideTheItems()
+{
+    Machine pc;
+    const QString bin = Machine::binOf(pc.mount(u"c"_s));
+    writeFile(bin + u"/$R5.txt"_s, "12345");
+    writeFile(bin + u"/$r6/deep/a.txt"_s, "123");
+    writeFile(bin + u"/$r6/b.txt"_s, "12");
+    writeFile(bin + u"/R$7"_s, "1");
+    writeFile(bin + u"/folder/$R8"_s, "1");
+    const RecycleBinInfo info = RecycleBinScanner().scan();
+    QList<RecycleBinItem> expected(2);
+    expected[0].fileName = u"$R5.txt"_s;
+    expected[0].recyclePath = bin + u"/$R5.txt"_s;
+    expected[0].size = 5;
+    expected[1].fileName = u"$r6"_s;
+    expected[1].recyclePath = bin + u"/$r6"_s;
+    expected[1].size = 5;
+    expected[1].isDirectory = true;
+    QCOMPARE(info.unrecorded, expected);
+    QCOMPARE(info.doomedPaths(), (QStringList{bin + u"/$R5.txt"_s, bin + u"/$r6"_s}));
+    // What the bin shows and counts is another thing.
+    RecycleBinInfo items = info;
+    items.unrecorded.clear();
+    QCOMPARE(items, RecycleBinInfo());
+}
+
+void tst_RecycleBinScanner::aDataFileOfAnItemIsNotWithoutRecord()
+{
+    Machine pc;
+    const QString bin = Machine::binOf(pc.mount(u"c"_s));
+    writeFile(bin + u"/$I1.txt"_s, infoVersion2(u"C:\\a.txt"_s, 1));
+    writeFile(bin + u"/$R1.txt"_s, "1");
+    writeFile(bin + u"/$I2"_s, infoVersion2(u"C:\\b"_s, 1));
+    QVERIFY(QDir().mkpath(bin + u"/$R2"_s));
+    writeFile(bin + u"/sub/$I3"_s, infoVersion2(u"C:\\c"_s, 1));
+    writeFile(bin + u"/sub/$R3"_s, "1");
+    writeFile(bin + u"/$R3"_s, "another");
+    const RecycleBinInfo info = RecycleBinScanner().scan();
+    QCOMPARE(info.fileCount, 3);
+    QCOMPARE(info.unrecorded.size(), 1);
+    QCOMPARE(info.unrecorded.first().recyclePath, bin + u"/$R3"_s);
+    QCOMPARE(info.doomedPaths(), info.filePaths + QStringList{bin + u"/$R3"_s});
+}
+
+void tst_RecycleBinScanner::capitalsOfADataFileDoNotMakeItAnother()
+{
+    Machine pc;
+    const QString bin = Machine::binOf(pc.mount(u"c"_s));
+    writeFile(bin + u"/$I1.TXT"_s, infoVersion2(u"C:\\a.txt"_s, 1));
+    writeFile(bin + u"/$r1.txt"_s, "1");
+    // Where capitals count it is another file, which has no record.
+    const bool isSame = platform::Platform::current().files().info(bin + u"/$R1.TXT"_s).ok();
+    QCOMPARE(RecycleBinScanner().scan().unrecorded.size(), isSame ? 0 : 1);
+    QCOMPARE(RecycleBinScanner().scan().doomedPaths().size(), 2);
 }
 
 void tst_RecycleBinScanner::recordsInSubfoldersAreFound()
@@ -318,9 +410,50 @@ void tst_RecycleBinScanner::aBinThatIsALinkIsNotScanned()
     const QString other = pc.mount(u"d"_s);
     QVERIFY(QDir().mkpath(other + u"/$Recycle.Bin"_s));
     QVERIFY(makeLink(Machine::binOf(real), Machine::binOf(other)));
-    QCOMPARE(RecycleBinScanner().scan(), RecycleBinInfo());
-    QCOMPARE(RecycleBinScanner().scanRoots({one, other}), RecycleBinInfo());
+    RecycleBinInfo told;
+    told.unscanned = {{one + u"/$Recycle.Bin"_s, UnscannedBin::Reason::Link},
+                      {Machine::binOf(other), UnscannedBin::Reason::Link}};
+    QCOMPARE(RecycleBinScanner().scan(), told);
+    QCOMPARE(RecycleBinScanner().scanRoots({one, other}), told);
+    QCOMPARE(RecycleBinScanner().scanRoots({one, other}, Ann), told);
+    QCOMPARE(RecycleBinScanner().scanRoots({one, other}, Ben).unscanned.size(), 1);
     QCOMPARE(RecycleBinScanner().scanRoots({real}).fileCount, 1);
+}
+
+void tst_RecycleBinScanner::aBinThatCannotBeListedIsTold()
+{
+    Machine pc;
+    const QString root = pc.mount(u"c"_s);
+    const QString bin = Machine::binOf(root);
+    writeFile(bin + u"/$I1"_s, infoVersion2(u"C:\\a"_s, 1));
+    RecycleBinInfo told;
+    for (const QString &folder : {bin, root + u"/$Recycle.Bin"_s, root}) {
+        pc.folders.unreadable = folder;
+        told.unscanned = {{folder, UnscannedBin::Reason::Unreadable, platform::AccessDenied}};
+        QCOMPARE(RecycleBinScanner().scanRoots({root}, Ann), told);
+        QVERIFY(RecycleBinScanner::hasBin({root}, Ann));
+    }
+    pc.folders.unreadable = bin;
+    told.unscanned = {{bin, UnscannedBin::Reason::Unreadable, platform::AccessDenied}};
+    QCOMPARE(RecycleBinScanner().scan(), told);
+}
+
+void tst_RecycleBinScanner::aBinOfAnotherOwnerIsTold()
+{
+    Machine pc;
+    const QString root = pc.mount(u"c"_s);
+    const QString bin = Machine::binOf(root);
+    writeFile(bin + u"/$I1"_s, infoVersion2(u"C:\\a"_s, 1));
+    writeFile(bin + u"/$R2"_s, "1");
+    RecycleBinInfo told;
+    told.unscanned = {{bin, UnscannedBin::Reason::NotOwn}};
+    pc.folders.notOwn = bin;
+    QCOMPARE(RecycleBinScanner().scan(), told);
+    pc.folders.ownerless = bin;
+    told.unscanned = {{bin, UnscannedBin::Reason::Unreadable, platform::AccessDenied}};
+    QCOMPARE(RecycleBinScanner().scan(), told);
+    // Whoever names a root and its bins means them, whosever they are.
+    QCOMPARE(RecycleBinScanner().scanRoots({root}).doomedPaths().size(), 2);
 }
 
 void tst_RecycleBinScanner::onlyTheUsersOwnFolderIsScanned()
@@ -456,6 +589,27 @@ void tst_RecycleBinScanner::aSidIsOnlyAName()
     QVERIFY(QDir().mkpath(root + u"/$Recycle.Bin"_s));
     for (const QString &sid : {u"../mine"_s, u".."_s, u"."_s, u"*"_s})
         QCOMPARE(RecycleBinScanner().scanRoots({root}, sid), RecycleBinInfo());
+}
+
+void tst_RecycleBinScanner::aBinOfASidIsThereOrNot()
+{
+    Machine pc;
+    const QString one = pc.drive(u"one"_s);
+    const QString other = pc.drive(u"other"_s);
+    QVERIFY(QDir().mkpath(Machine::binOf(one, Ann)));
+    QVERIFY(QDir().mkpath(Machine::binOf(other, Ben)));
+    writeFile(other + u"/$Recycle.Bin/file"_s, "1");
+    QVERIFY(RecycleBinScanner::hasBin({one}, Ann));
+    QVERIFY(RecycleBinScanner::hasBin({one}, Ann.toLower()));
+    QVERIFY(RecycleBinScanner::hasBin({other, one}, Ann));
+    QVERIFY(!RecycleBinScanner::hasBin({one}, Ben));
+    QVERIFY(!RecycleBinScanner::hasBin({other}, u"file"_s));
+    QVERIFY(!RecycleBinScanner::hasBin({other}, u".."_s));
+    QVERIFY(!RecycleBinScanner::hasBin({pc.drive(u"none"_s)}, Ann));
+    if (!makeLink(Machine::binOf(one, Ann), Machine::binOf(other, Ann)))
+        QSKIP("SKIPPED: the system makes no links");
+    // Something is there; the scan tells why it does not count.
+    QVERIFY(RecycleBinScanner::hasBin({other}, Ann));
 }
 
 void tst_RecycleBinScanner::missingRootsGiveNothing()

@@ -102,6 +102,14 @@ RecycleBinInfo scan()
     return RecycleBinScanner().scan();
 }
 
+// Nothing found, and these bins told.
+RecycleBinInfo onlyTold(const QList<UnscannedBin> &unscanned)
+{
+    RecycleBinInfo info;
+    info.unscanned = unscanned;
+    return info;
+}
+
 RecycleBinItem onlyItem()
 {
     const RecycleBinInfo info = scan();
@@ -155,6 +163,7 @@ private slots:
     void aSharedFolderThatIsALinkIsNotScanned();
     void aUsersFolderThatIsALinkIsNotScanned();
     void foldersOfOthersAreNotScanned();
+    void aWindowsBinUnderAUsersNumberHasToBeHisOwn();
     void homeComesBeforeTheDrives();
     void volumesThatAreNotLocalAreSkipped();
 
@@ -397,10 +406,11 @@ void tst_TrashScan::otherFilesBesideRecordsAreNoItems()
 void tst_TrashScan::theHomeTrashIsFoundByItsVariable()
 {
     const Machine pc;
-    QCOMPARE(homeTrashFolder(), std::nullopt);
+    QList<UnscannedBin> unscanned;
+    QCOMPARE(homeTrashFolder(unscanned), std::nullopt);
     QVERIFY(QDir().mkpath(pc.home().folder));
     const TrashFolder inVariable{pc.home().folder, QDir::homePath(), {}};
-    QCOMPARE(homeTrashFolder(), std::optional(inVariable));
+    QCOMPARE(homeTrashFolder(unscanned), std::optional(inVariable));
 
     const ScopedVariable home("HOME", QFile::encodeName(pc.path(u"ann"_s)));
     const QString byDefault = pc.path(u"ann/.local/share/Trash"_s);
@@ -408,10 +418,11 @@ void tst_TrashScan::theHomeTrashIsFoundByItsVariable()
     QList<std::optional<TrashFolder>> found;
     for (const char *value : {"", "relative"}) {
         const ScopedVariable dataHome("XDG_DATA_HOME", value);
-        found.append(homeTrashFolder());
+        found.append(homeTrashFolder(unscanned));
     }
     const TrashFolder inHome{byDefault, pc.path(u"ann"_s), {}};
     QCOMPARE(found, (QList{std::optional(inHome), std::optional(inHome)}));
+    QCOMPARE(unscanned, QList<UnscannedBin>());
 }
 
 void tst_TrashScan::aHomeTrashThatIsALinkIsNotScanned()
@@ -421,7 +432,7 @@ void tst_TrashScan::aHomeTrashThatIsALinkIsNotScanned()
     elsewhere.add(u"a"_s, "/users/ann/a", "1");
     QVERIFY(QDir().mkpath(pc.path(u"data"_s)));
     QVERIFY(QFile::link(elsewhere.folder, pc.home().folder));
-    QCOMPARE(scan(), RecycleBinInfo());
+    QCOMPARE(scan(), onlyTold({{pc.home().folder, UnscannedBin::Reason::Link}}));
 }
 
 void tst_TrashScan::linkedPartsAreNotScanned_data()
@@ -449,6 +460,7 @@ void tst_TrashScan::linkedPartsAreNotScanned()
     QCOMPARE(paths, left);
     QCOMPARE(info.filePaths.size(), 1);
     QVERIFY(!info.filePaths.first().contains(u'/' + part + u'/'));
+    QCOMPARE(info.unscanned, (QList<UnscannedBin>{{trash.folder + u'/' + part, UnscannedBin::Reason::Link}}));
 }
 
 void tst_TrashScan::bothFoldersOfAVolumeAreScanned()
@@ -495,7 +507,7 @@ void tst_TrashScan::aSharedFolderThatIsALinkIsNotScanned()
     const QString elsewhere = pc.path(u"elsewhere"_s);
     Machine::shared(elsewhere).add(u"a"_s, "a", "1");
     QVERIFY(QFile::link(elsewhere + u"/.Trash"_s, root + u"/.Trash"_s));
-    QCOMPARE(scan(), RecycleBinInfo());
+    QCOMPARE(scan(), onlyTold({{root + u"/.Trash"_s, UnscannedBin::Reason::Link}}));
 }
 
 void tst_TrashScan::aUsersFolderThatIsALinkIsNotScanned()
@@ -508,7 +520,8 @@ void tst_TrashScan::aUsersFolderThatIsALinkIsNotScanned()
     QVERIFY(QDir().rmdir(shared.folder));
     QVERIFY(QFile::link(elsewhere.folder, shared.folder));
     QVERIFY(QFile::link(elsewhere.folder, Machine::own(root).folder));
-    QCOMPARE(scan(), RecycleBinInfo());
+    QCOMPARE(scan(), onlyTold({{shared.folder, UnscannedBin::Reason::Link},
+                               {Machine::own(root).folder, UnscannedBin::Reason::Link}}));
 }
 
 void tst_TrashScan::foldersOfOthersAreNotScanned()
@@ -524,7 +537,20 @@ void tst_TrashScan::foldersOfOthersAreNotScanned()
     QCOMPARE(scan().fileCount, 2);
     for (const Trash &trash : {shared, own})
         QCOMPARE(::chown(QFile::encodeName(trash.folder).constData(), 4711, 4711), 0);
-    QCOMPARE(scan(), RecycleBinInfo());
+    QCOMPARE(scan(), onlyTold({{shared.folder, UnscannedBin::Reason::NotOwn},
+                               {own.folder, UnscannedBin::Reason::NotOwn}}));
+}
+
+void tst_TrashScan::aWindowsBinUnderAUsersNumberHasToBeHisOwn()
+{
+    if (::geteuid() != 0)
+        QSKIP("SKIPPED: only root can give a folder away");
+    Machine pc;
+    const QString bin = pc.mount(u"stick"_s) + u"/$Recycle.Bin/"_s + User;
+    writeFile(bin + u"/$R1"_s, "1");
+    QCOMPARE(scan().doomedPaths(), QStringList{bin + u"/$R1"_s});
+    QCOMPARE(::chown(QFile::encodeName(bin).constData(), 4711, 4711), 0);
+    QCOMPARE(scan(), onlyTold({{bin, UnscannedBin::Reason::NotOwn}}));
 }
 
 void tst_TrashScan::homeComesBeforeTheDrives()

@@ -1,6 +1,7 @@
 #include "support/memoryvolume.h"
 
 #include "platform/anchoredfolder.h"
+#include "platform/entrypath.h"
 #include "platform/platform.h"
 
 #include <algorithm>
@@ -98,7 +99,7 @@ public:
     platform::Status removeTree(const QString &name) override { return m_volume.removeTree(entry(name)); }
 
 private:
-    QString entry(const QString &name) const { return platform::entryPathOf(m_path, name); }
+    QString entry(const QString &name) const { return platform::pathInFolder(m_path, name); }
 
     MemoryVolume &m_volume;
     const QString m_path;
@@ -319,7 +320,8 @@ platform::Result<platform::SpaceInfo> MemoryVolume::space(const QString &path)
         return failure(platform::PathNotFound);
     if (m_unreleased > 0 && --m_untilRelease <= 0)
         freeBytes[rootOf(path)] += std::exchange(m_unreleased, 0);
-    return platform::SpaceInfo{.totalBytes = qint64{1} << 50, .freeBytes = freeOn(path)};
+    return platform::SpaceInfo{
+        .totalBytes = qint64{1} << 50, .freeBytes = freeOn(path), .availableBytes = freeOn(path)};
 }
 
 QString MemoryVolume::parentOf(const QString &path)

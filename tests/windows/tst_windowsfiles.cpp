@@ -57,6 +57,52 @@ bool isReadOnlyRespected(const QString &path)
     return !otherHandle(path, GENERIC_WRITE, FILE_SHARE_READ).isValid();
 }
 
+DWORD s_moreAttributes = 0;
+bool s_tellsOccupied = true;
+
+BOOL WINAPI informationOfOccupied(HANDLE file, LPBY_HANDLE_FILE_INFORMATION information)
+{
+    const BOOL found = ::GetFileInformationByHandle(file, information);
+    information->dwFileAttributes |= s_moreAttributes;
+    return found;
+}
+
+BOOL WINAPI occupiedBytes(HANDLE, FILE_INFO_BY_HANDLE_CLASS what, LPVOID data, DWORD size)
+{
+    if (!s_tellsOccupied || what != FileCompressionInfo || size < sizeof(FILE_COMPRESSION_INFO)) {
+        ::SetLastError(ERROR_INVALID_PARAMETER);
+        return FALSE;
+    }
+    static_cast<FILE_COMPRESSION_INFO *>(data)->CompressedFileSize.QuadPart = 4096;
+    return TRUE;
+}
+
+BOOL WINAPI spaceWithQuota(LPCWSTR, PULARGE_INTEGER available, PULARGE_INTEGER total, PULARGE_INTEGER free)
+{
+    available->QuadPart = 1000;
+    free->QuadPart = 2000;
+    total->QuadPart = 3000;
+    return TRUE;
+}
+
+// Files that have these attributes too and occupy one cluster, on a volume with a quota.
+class OccupiedCalls
+{
+public:
+    OccupiedCalls(DWORD attributes, bool isTold)
+    {
+        s_moreAttributes = attributes;
+        s_tellsOccupied = isTold;
+        Win32Calls &calls = m_faults.target();
+        calls.getFileInformation = &informationOfOccupied;
+        calls.getFileInformationEx = &occupiedBytes;
+        calls.getDiskFreeSpace = &spaceWithQuota;
+    }
+
+private:
+    Win32Faults m_faults;
+};
+
 // Everything below a folder: attributes and contents by path.
 QMap<QString, QByteArray> snapshot(const QString &folder)
 {
@@ -276,6 +322,10 @@ private slots:
     void removeTreeTakesReadOnlyEntries();
     void removeTreeGoesOnPastWhatIsInUse();
 
+    void whatAFileOccupiesIsAskedOfSparseAndCompressedOnes_data();
+    void whatAFileOccupiesIsAskedOfSparseAndCompressedOnes();
+    void aRootMayEndWithEitherSlash();
+    void whatMayBeUsedIsLessThanWhatIsFree();
     void linksAreSeen();
     void openOfALinkIsRefused();
     void openOfALinkThatIsSwappedIn();
@@ -619,6 +669,47 @@ void tst_WindowsFiles::removeTreeGoesOnPastWhatIsInUse()
     QCOMPARE(folders.removeTree(path(u"tree"_s)).code, quint32(SharingViolation));
     QCOMPARE(snapshot(m_folder->path()).keys(), (QStringList{path(u"tree"_s), path(u"tree/a"_s),
                                                              path(u"tree/a/b"_s), path(u"tree/a/b/used"_s)}));
+}
+
+void tst_WindowsFiles::whatAFileOccupiesIsAskedOfSparseAndCompressedOnes_data()
+{
+    QTest::addColumn<quint32>("attributes");
+    QTest::addColumn<bool>("isTold");
+    QTest::addColumn<qint64>("allocated");
+    QTest::newRow("plain") << quint32(0) << true << qint64(-1);
+    QTest::newRow("sparse") << quint32(FILE_ATTRIBUTE_SPARSE_FILE) << true << qint64(4096);
+    QTest::newRow("compressed") << quint32(FILE_ATTRIBUTE_COMPRESSED) << true << qint64(4096);
+    QTest::newRow("not told") << quint32(FILE_ATTRIBUTE_SPARSE_FILE) << false << qint64(-1);
+}
+
+void tst_WindowsFiles::whatAFileOccupiesIsAskedOfSparseAndCompressedOnes()
+{
+    QFETCH(quint32, attributes);
+    QFETCH(bool, isTold);
+    QFETCH(qint64, allocated);
+    writeFile(path(u"file"_s), "abc");
+    const OccupiedCalls calls(attributes, isTold);
+    const Result<FileInfo> info = files.info(path(u"file"_s));
+    QVERIFY(info.ok());
+    QCOMPARE(info.value().size, 3);
+    QCOMPARE(info.value().allocatedBytes, allocated);
+}
+
+void tst_WindowsFiles::aRootMayEndWithEitherSlash()
+{
+    QCOMPARE(pathInFolder(u"E:\\"_s, u"a"_s), u"E:\\a"_s);
+    QCOMPARE(pathInFolder(u"E:/"_s, u"a"_s), u"E:/a"_s);
+    QCOMPARE(pathInFolder(u"E:/x"_s, u"a"_s), u"E:/x/a"_s);
+}
+
+void tst_WindowsFiles::whatMayBeUsedIsLessThanWhatIsFree()
+{
+    const OccupiedCalls calls(0, true);
+    const Result<SpaceInfo> space = folders.space(m_folder->path());
+    QVERIFY(space.ok());
+    QCOMPARE(space.value().availableBytes, 1000);
+    QCOMPARE(space.value().freeBytes, 2000);
+    QCOMPARE(space.value().totalBytes, 3000);
 }
 
 void tst_WindowsFiles::linksAreSeen()

@@ -30,7 +30,10 @@ Outcome<ExitCode> run(const CommandContext &context)
     QString text;
     for (const RecycleBinItem &item : found->items)
         text += describeItem(item) + u'\n';
-    context.io.print(text + amountOf(*found) + u'\n');
+    for (const RecycleBinItem &item : found->unrecorded)
+        text += describeItem(item) + u'\n';
+    const QStringList ends = QStringList{amountOf(*found)} + unrecordedLines(*found) + unscannedLines(*found);
+    context.io.print(text + ends.join(u'\n') + u'\n');
     return Done;
 }
 

@@ -2,8 +2,10 @@
 #include "cli/commandline.h"
 #include "cli/filetarget.h"
 #include "cli/listing.h"
+#include "cli/stoprequest.h"
 #include "cli/translate.h"
 #include "cli/wipeplan.h"
+#include "engine/filesurvey.h"
 #include "engine/filetargets.h"
 #include "model/displaytext.h"
 #include "model/formatsize.h"
@@ -26,7 +28,7 @@ QString targetName(const QStringList &paths)
                              : Cli::tr("%1 and %2 more").arg(first, QString::number(paths.size() - 1));
 }
 
-QStringList summaryOf(const QStringList &paths, const FileCount &count)
+QStringList summaryOf(const QStringList &paths, const FileSurvey &count)
 {
     QStringList lines =
         beginningOfList(paths.size(), [&paths](qsizetype i) { return displayText(paths.at(i)); });
@@ -54,9 +56,10 @@ Outcome<ExitCode> run(const CommandContext &context)
     rememberTargets(*task);
     const QStringList targets = task->files();
     const StopRequest &stop = context.io.stopRequest();
+    const FileSurvey survey = surveyFiles(*task, [&stop] { return stop.isRequested(); });
     WipePlan plan;
-    plan.jobs.push_back({std::move(task), targetName(targets)});
-    plan.summary = summaryOf(targets, countFiles(targets, [&stop] { return stop.isRequested(); }));
+    plan.summary = summaryOf(targets, survey);
+    plan.jobs.push_back({std::move(task), targetName(targets), survey});
     plan.doomedPaths = targets;
     return carryOut(plan, *options, context, words());
 }

@@ -1,9 +1,11 @@
 #include "cli/cliio.h"
 #include "cli/globaloptions.h"
 #include "cli/listing.h"
+#include "cli/stoprequest.h"
 #include "cli/translate.h"
 #include "cli/trashtarget.h"
 #include "cli/wipeplan.h"
+#include "engine/filesurvey.h"
 #include "engine/filetargets.h"
 #include "model/joboutcome.h"
 #include "model/jsonwriter.h"
@@ -24,7 +26,9 @@ QStringList summaryOf(const RecycleBinInfo &found)
 {
     QStringList lines = beginningOfList(found.items.size(),
                                         [&found](qsizetype i) { return describeItem(found.items.at(i)); });
-    lines.append(u"  "_s + amountOf(found));
+    const QStringList ends = QStringList{amountOf(found)} + unrecordedLines(found) + unscannedLines(found);
+    for (const QString &end : ends)
+        lines.append(u"  "_s + end);
     return lines;
 }
 
@@ -65,18 +69,26 @@ Outcome<ExitCode> run(const CommandContext &context)
     const auto found = findTrash(context, words());
     if (!found)
         return found.refusal();
-    if (found->filePaths.isEmpty())
+    const QStringList doomed = found->doomedPaths();
+    if (doomed.isEmpty() && !found->unscanned.isEmpty()) {
+        return Refusal{Refused, Cli::tr("nothing to erase was found, but not every bin was looked into: %1")
+                                    .arg(unscannedLines(*found).join(u"; "_s))};
+    }
+    if (doomed.isEmpty())
         return tellEmpty(context);
 
     auto task = std::make_unique<WipeTask>();
     task->setOperationType(FileWipe);
-    task->addFiles(found->filePaths);
+    task->addFiles(doomed);
     rememberTargets(*task);
     task->setTargetsAreNamed(false);
+    task->setOmissions(found->omissions());
+    const StopRequest &stop = context.io.stopRequest();
+    const FileSurvey survey = surveyFiles(*task, [&stop] { return stop.isRequested(); });
     WipePlan plan;
     plan.summary = summaryOf(*found);
     plan.doomedPaths = task->files();
-    plan.jobs.push_back({std::move(task), Cli::tr("the Recycle Bin")});
+    plan.jobs.push_back({std::move(task), Cli::tr("the Recycle Bin"), survey});
     plan.afterwards = [&found] { return tidyUp(*found); };
     return carryOut(plan, *options, context, words());
 }

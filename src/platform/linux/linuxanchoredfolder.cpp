@@ -1,5 +1,6 @@
 #include "platform/linux/linuxanchoredfolder.h"
 
+#include "platform/entrypath.h"
 #include "platform/filenames.h"
 #include "platform/linux/directoryentries.h"
 #include "platform/linux/errnotable.h"
@@ -142,8 +143,8 @@ Result<std::unique_ptr<AnchoredFolder>> LinuxAnchoredFolder::openFolder(const QS
     const Result<bool> claimed = claim(folder.get());
     if (!claimed)
         return claimed.status();
-    return std::unique_ptr<AnchoredFolder>(
-        std::make_unique<LinuxAnchoredFolder>(std::move(folder), entryPathOf(m_path, name), claimed.value()));
+    return std::unique_ptr<AnchoredFolder>(std::make_unique<LinuxAnchoredFolder>(
+        std::move(folder), pathInFolder(m_path, name), claimed.value()));
 }
 
 Status LinuxAnchoredFolder::removeFolder(const QString &name)

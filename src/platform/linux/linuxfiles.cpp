@@ -89,7 +89,7 @@ bool keepsWriteThrough(int file)
 // Not a constant: a part of it is told by another file.
 unsigned int infoMask()
 {
-    return STATX_TYPE | STATX_SIZE | STATX_NLINK | FileIdMask;
+    return STATX_TYPE | STATX_SIZE | STATX_BLOCKS | STATX_NLINK | FileIdMask;
 }
 
 FileInfo infoFrom(const struct statx &file)
@@ -97,6 +97,9 @@ FileInfo infoFrom(const struct statx &file)
     FileInfo info;
     info.kind = fileKindFromMode(file.stx_mode);
     info.size = info.kind == FileKind::Regular ? static_cast<qint64>(file.stx_size) : 0;
+    constexpr qint64 Block = 512; // whatever the file system's own are
+    if (info.kind == FileKind::Regular && (file.stx_mask & STATX_BLOCKS))
+        info.allocatedBytes = static_cast<qint64>(file.stx_blocks) * Block;
     info.linkCount = qMax(1, static_cast<int>(file.stx_nlink));
     info.id = fileIdFrom(file);
     return info;

@@ -4,6 +4,7 @@
 #include "platform/linux/filedescriptor.h"
 
 #include <sys/statvfs.h>
+#include <unistd.h>
 
 #include <limits>
 
@@ -27,7 +28,10 @@ Result<SpaceInfo> spaceOf(int file)
     struct statvfs volume = {};
     if (uninterrupted([&] { return ::fstatvfs(file, &volume); }) != 0)
         return statusFromErrno(errno, "fstatvfs");
-    return SpaceInfo{bytesIn(volume.f_blocks, volume.f_frsize), bytesIn(volume.f_bfree, volume.f_frsize)};
+    const auto available = ::geteuid() == 0 ? volume.f_bfree : volume.f_bavail;
+    return SpaceInfo{.totalBytes = bytesIn(volume.f_blocks, volume.f_frsize),
+                     .freeBytes = bytesIn(volume.f_bfree, volume.f_frsize),
+                     .availableBytes = bytesIn(available, volume.f_frsize)};
 }
 
 } // namespace platform

@@ -1,5 +1,6 @@
 #include "platform/windows/windowsanchoredfolder.h"
 
+#include "platform/entrypath.h"
 #include "platform/windows/lasterror.h"
 #include "platform/windows/volumeidentity.h"
 #include "platform/windows/windowsfilehandle.h"
@@ -131,7 +132,7 @@ Result<QString> WindowsAnchoredFolder::entry(const QString &name) const
                              !name.contains(u'\\') && !name.contains(u':') && !name.contains(QChar(u'\0'));
     if (!isComponent)
         return Status{InvalidParameter, ERROR_INVALID_PARAMETER, "name"};
-    return entryPathOf(m_path, name);
+    return pathInFolder(m_path, name);
 }
 
 } // namespace platform

@@ -102,15 +102,31 @@ Result<WinHandle> createOrCut(const std::wstring &path)
     return existing;
 }
 
-// How many names the file has, and which it is: only an open handle tells.
-Result<BY_HANDLE_FILE_INFORMATION> openedInfo(const std::wstring &path)
+struct OpenedInfo
+{
+    BY_HANDLE_FILE_INFORMATION file = {};
+    qint64 allocatedBytes = -1; // of a sparse or compressed file
+};
+
+qint64 allocatedBytesOf(HANDLE file)
+{
+    FILE_COMPRESSION_INFO compression = {};
+    if (!win32().getFileInformationEx(file, FileCompressionInfo, &compression, sizeof compression))
+        return -1;
+    return compression.CompressedFileSize.QuadPart;
+}
+
+// How many names the file has, which it is, and what it occupies: only an open handle tells.
+Result<OpenedInfo> openedInfo(const std::wstring &path)
 {
     const WinHandle file = openFile(path, {FILE_READ_ATTRIBUTES, ShareAll, 0}, OPEN_EXISTING);
     if (!file.isValid())
         return statusFromLastError("CreateFile");
-    BY_HANDLE_FILE_INFORMATION opened = {};
-    if (!win32().getFileInformation(file.get(), &opened))
+    OpenedInfo opened;
+    if (!win32().getFileInformation(file.get(), &opened.file))
         return statusFromLastError("GetFileInformationByHandle");
+    if (opened.file.dwFileAttributes & (FILE_ATTRIBUTE_SPARSE_FILE | FILE_ATTRIBUTE_COMPRESSED))
+        opened.allocatedBytes = allocatedBytesOf(file.get());
     return opened;
 }
 
@@ -145,8 +161,9 @@ Result<FileInfo> WindowsFiles::info(const EntryPath &entry)
     const auto opened = openedInfo(name.value());
     if (!opened)
         return opened.status();
-    info.linkCount = linkCountOf(opened.value());
-    info.id = fileIdFrom(opened.value());
+    info.allocatedBytes = opened.value().allocatedBytes;
+    info.linkCount = linkCountOf(opened.value().file);
+    info.id = fileIdFrom(opened.value().file);
     return info;
 }
 

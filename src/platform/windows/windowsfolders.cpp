@@ -141,11 +141,12 @@ Result<SpaceInfo> WindowsFolders::space(const QString &path)
         return attributes.status();
     const std::wstring folder =
         entryPath(isPlainFolder(attributes.value()) ? name.value() : parentOf(name.value()), {});
+    ULARGE_INTEGER available = {};
     ULARGE_INTEGER total = {};
     ULARGE_INTEGER free = {};
-    if (!win32().getDiskFreeSpace(folder.c_str(), nullptr, &total, &free))
+    if (!win32().getDiskFreeSpace(folder.c_str(), &available, &total, &free))
         return statusFromLastError("GetDiskFreeSpaceEx");
-    return SpaceInfo{bytesOf(total), bytesOf(free)};
+    return SpaceInfo{bytesOf(total), bytesOf(free), bytesOf(available)};
 }
 
 } // namespace platform

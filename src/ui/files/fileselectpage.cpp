@@ -85,6 +85,8 @@ FileSelectPage::FileSelectPage(QWidget *parent)
     createToolRow();
     m_list->setAccessibleName(tr("Files and folders to shred"));
     m_stats->setObjectName(u"fileStats"_s);
+    m_stats->setTextFormat(Qt::PlainText);
+    m_stats->setWordWrap(true);
     m_stats->setStyleSheet(u"font-size: 13px; color: #64748b;"_s);
     pagestyle::asBack(*m_back);
     pagestyle::asNext(*m_next);

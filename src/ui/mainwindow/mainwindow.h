@@ -15,6 +15,7 @@ QT_FORWARD_DECLARE_CLASS(QStackedWidget)
 QT_FORWARD_DECLARE_CLASS(QVBoxLayout)
 class DiskSelectPage;
 class FileSelectPage;
+class FileSurvey;
 class HistoryPage;
 class HomePage;
 class JobController;
@@ -95,6 +96,7 @@ private:
     void showHome();
     void takeDiskSelection();
     bool hasObstacles();
+    FileSurvey lookAtFiles();
     bool isConfirmed();
     bool isReady();
     QString erasedVolumesText() const;
@@ -113,7 +115,7 @@ private:
     void leaveCompletedJob(bool success);
 
     void startRecycleBinScan();
-    void offerFreeSpaceWipeOfEmptyBin();
+    void offerFreeSpaceWipeOfEmptyBin(const RecycleBinInfo &found);
     void takeRecycleBin(const RecycleBinInfo &found);
     void leaveRecycleBin();
 

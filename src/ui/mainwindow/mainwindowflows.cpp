@@ -1,6 +1,7 @@
 // From the home page to the start of a job.
 #include "ui/mainwindow/mainwindow.h"
 
+#include "engine/filesurvey.h"
 #include "engine/filetargets.h"
 #include "engine/foreseeable.h"
 #include "jobs/jobcontroller.h"
@@ -16,6 +17,7 @@
 #include "ui/progress/progresspage.h"
 
 #include <QGuiApplication>
+#include <QScopeGuard>
 
 void MainWindow::onDiskWipeClicked()
 {
@@ -131,18 +133,41 @@ QString MainWindow::erasedVolumesText() const
         .arg(displayText(m_job->task()->partition().driveLetter), names.join(QStringLiteral(", ")));
 }
 
+// A walk through all the folders takes its time. What asks of every file where its content lies takes more,
+// and is left to the job.
+FileSurvey MainWindow::lookAtFiles()
+{
+    if (m_job->task()->operationType() != FileWipe)
+        return {};
+    rememberTargets(*m_job->task());
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    const auto restore = qScopeGuard(QGuiApplication::restoreOverrideCursor);
+    return surveyFiles(
+        *m_job->task(), [] { return false; }, 0);
+}
+
 bool MainWindow::isConfirmed()
 {
     // What an earlier confirmation has left.
     m_job->task()->setWholeDrive(false);
-    if (m_job->task()->operationType() == FileWipe)
-        rememberTargets(*m_job->task());
+    const FileSurvey survey = lookAtFiles();
+    if (const QString problem = survey.roomProblem(); !problem.isEmpty()) {
+        Prompts::current().warning(this, tr("These Files Cannot Be Erased"), problem);
+        return false;
+    }
     ConfirmDialog confirmation(this);
     if (const QString volumes = erasedVolumesText(); !volumes.isEmpty())
         confirmation.addNotice(volumes);
     if (m_job->task()->operationType() == FreeSpaceWipe) {
         const OutcomeRecord foreseen = foreseeableShortfalls(*m_job->task());
         if (const QStringList lines = foreseen.shortfallLines() + foreseen.noteLines(); !lines.isEmpty())
+            confirmation.addNotice(lines.join(u'\n'));
+    }
+    if (m_job->task()->operationType() == FileWipe) {
+        QStringList lines = foreseeableShortfalls(*m_job->task(), survey).shortfallLines();
+        if (const QString others = survey.otherNamesText(); !others.isEmpty())
+            lines.append(others);
+        if (!lines.isEmpty())
             confirmation.addNotice(lines.join(u'\n'));
     }
     if (m_job->task()->operationType() == DiskWipe) {

@@ -37,6 +37,20 @@ QString textOf(const RecycleBinItem &item)
     return u"%1  %2  (%3)"_s.arg(mark, displayText(name), formatSize(static_cast<qint64>(item.size)));
 }
 
+// A line each for what is erased without being an item, and for the bins that stay as they are.
+QStringList besideItems(const RecycleBinInfo &found)
+{
+    QStringList lines;
+    if (!found.unrecorded.isEmpty())
+        lines.append(MainWindow::tr("Erased too, without a record: %1").arg(found.unrecorded.size()));
+    QStringList unscanned;
+    for (const UnscannedBin &bin : found.unscanned)
+        unscanned.append(displayText(bin.path));
+    if (!unscanned.isEmpty())
+        lines.append(MainWindow::tr("Not looked into: %1").arg(unscanned.join(u", "_s)));
+    return lines;
+}
+
 // Those that have not vanished. What cannot be examined stays: the job then fails on it, instead of telling
 // that all was erased.
 QStringList existing(QStringList paths)
@@ -91,21 +105,22 @@ void MainWindow::onRecycleBinScanFinished()
     if (m_currentPage != FileSelect || !m_isRecycleBinMode)
         return;
     const RecycleBinInfo found = m_recycleBinWatcher->result();
-    if (found.fileCount < 1)
-        offerFreeSpaceWipeOfEmptyBin();
+    if (found.fileCount < 1 && found.unrecorded.isEmpty())
+        offerFreeSpaceWipeOfEmptyBin(found);
     else
         takeRecycleBin(found);
 }
 
-void MainWindow::offerFreeSpaceWipeOfEmptyBin()
+void MainWindow::offerFreeSpaceWipeOfEmptyBin(const RecycleBinInfo &found)
 {
     leaveRecycleBin();
     showHome();
-    if (Prompts::current().confirms(
-            this, QMessageBox::Question, tr("Recycle Bin is Empty"),
-            tr("The Recycle Bin is already empty.\n\n"
-               "However, previously deleted files may still be recoverable.\n"
-               "Would you like to wipe free space to ensure they cannot be recovered?")))
+    const QString question = tr("The Recycle Bin is already empty.\n\n"
+                                "However, previously deleted files may still be recoverable.\n"
+                                "Would you like to wipe free space to ensure they cannot be recovered?");
+    const QStringList texts = QStringList{question} + besideItems(found);
+    if (Prompts::current().confirms(this, QMessageBox::Question, tr("Recycle Bin is Empty"),
+                                    texts.join(u"\n\n"_s)))
         onFreeSpaceWipeClicked();
 }
 
@@ -114,14 +129,16 @@ void MainWindow::takeRecycleBin(const RecycleBinInfo &found)
     m_filePage->setHeader(tr("Recycle Bin Wipe"),
                           tr("The following deleted files were found in the Recycle Bin"));
     WipeTask &task = m_job->newTask(FileWipe);
-    task.setFiles(existing(found.filePaths));
+    task.setFiles(existing(found.doomedPaths()));
     task.setTargetsAreNamed(false);
+    task.setOmissions(found.omissions());
     m_recycleBin = found;
     m_loadedRecycleBinCount = 0;
 
-    m_filePage->statsLabel()->setText(tr("Found %1 items, total %2")
-                                          .arg(m_recycleBin.fileCount)
-                                          .arg(formatSize(static_cast<qint64>(m_recycleBin.totalSize))));
+    const QString items = tr("Found %1 items, total %2")
+                              .arg(m_recycleBin.fileCount)
+                              .arg(formatSize(static_cast<qint64>(m_recycleBin.totalSize)));
+    m_filePage->statsLabel()->setText((QStringList{items} + besideItems(found)).join(u'\n'));
     m_filePage->setReadOnly(true);
     m_filePage->setToolRowVisible(false);
     m_filePage->nextButton()->setEnabled(true);

@@ -3,6 +3,9 @@
 #include "ui/mainwindow/mainwindow.h"
 #include "ui/mainwindow/windowfixture.h"
 
+#include "platform/forwarding.h"
+#include "services/reportdatabase.h"
+#include "support/fakedevices.h"
 #include "ui/files/fileselectpage.h"
 
 #include <QApplication>
@@ -15,11 +18,13 @@
 #include <QMimeData>
 #include <QScrollBar>
 #include <QStackedWidget>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTextEdit>
 #include <QUrl>
 
 #include <cmath>
+#include <memory>
 
 #ifdef Q_OS_UNIX
 #include <fcntl.h>
@@ -49,6 +54,8 @@ private slots:
     void dropsOnTheShownBinAreIgnored();
     void backFromTheMethodsKeepsTheBin();
     void whatVanishesAfterTheScanStopsTheJob();
+    void aBinThatIsNotLookedIntoIsTold();
+    void dataWithoutARecordIsErasedToo();
 
 private:
     // Below the folder that the window fixture gives to the user.
@@ -301,6 +308,56 @@ void tst_RecycleBinFlow::whatVanishesAfterTheScanStopsTheJob()
     QCOMPARE(fixture.prompts.boxes.size(), 1);
     QVERIFY(fixture.prompts.boxes.constFirst().text.contains(u"file000.txt"_s));
     QVERIFY(QFile::exists(trash(fixture, u"files/file001.txt"_s)));
+}
+
+void tst_RecycleBinFlow::aBinThatIsNotLookedIntoIsTold()
+{
+    WindowFixture fixture;
+    addTrash(fixture, 1);
+    const QString info = trash(fixture, u"info"_s);
+    QVERIFY(QDir().rename(info, fixture.homePath(u"elsewhere"_s)));
+    QVERIFY(QFile::link(fixture.homePath(u"elsewhere"_s), info));
+    const QString told = u"Not looked into: "_s + info;
+    fixture.window->onRecycleBinWipeClicked();
+    QTRY_VERIFY(fixture.button(u"Next →"_s)->isEnabled());
+    auto *page = fixture.window->findChild<FileSelectPage *>();
+    QCOMPARE(page->statsLabel()->text(), u"Found 1 items, total 7 B\n"_s + told);
+    QVERIFY(fixture.click(u"Next →"_s));
+    fixture.dialogs.answers = {WindowFixture::typeErase, WindowFixture::pressButton(u"Done"_s)};
+    QVERIFY(fixture.click(u"Start"_s));
+    QTRY_VERIFY_WITH_TIMEOUT(!fixture.reports().isEmpty(), 60000);
+    const auto outcome = ReportDatabase::instance().outcome(fixture.reports().constFirst().certificateId);
+    QVERIFY(outcome);
+    QCOMPARE(outcome->outcome(), JobOutcome::Partial);
+    QCOMPARE(outcome->shortfalls(), (QList<Shortfall>{{ShortfallKind::BinNotEntered, info}}));
+
+    // Nothing but the link is left, and an empty bin is not the whole truth.
+    fixture.window->onRecycleBinWipeClicked();
+    QTRY_VERIFY(!fixture.prompts.boxes.isEmpty() &&
+                fixture.prompts.boxes.constLast().title == u"Recycle Bin is Empty"_s);
+    QVERIFY(fixture.prompts.boxes.constLast().text.endsWith(u"\n\n"_s + told));
+}
+
+void tst_RecycleBinFlow::dataWithoutARecordIsErasedToo()
+{
+    const QTemporaryDir stick;
+    FakeDevices devices;
+    devices.mount(FakeVolume::onDrives(stick.path(), {0}));
+    FakeSession session;
+    session.user = u"1000"_s;
+    const std::unique_ptr<platform::Platform> native = platform::createPlatform({});
+    WindowFixture fixture(
+        std::make_unique<platform::ForwardingPlatform>(native->files(), native->folders(), devices, session));
+    const QString data = stick.filePath(u"$Recycle.Bin/1000/$RABCDEF.txt"_s);
+    writeFile(data, "deleted");
+    fixture.window->onRecycleBinWipeClicked();
+    QTRY_VERIFY(fixture.button(u"Next →"_s)->isEnabled());
+    auto *page = fixture.window->findChild<FileSelectPage *>();
+    QCOMPARE(page->list()->count(), 0);
+    QCOMPARE(page->statsLabel()->text(), u"Found 0 items, total 0 B\nErased too, without a record: 1"_s);
+    QVERIFY(fixture.click(u"Next →"_s));
+    fixture.runJob();
+    QVERIFY(!QFile::exists(data));
 }
 
 QUORVEX_SUITE(tst_RecycleBinFlow, QApplication)

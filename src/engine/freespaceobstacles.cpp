@@ -1,0 +1,89 @@
+// Whether a free-space job may begin, which is asked before it is started and again by itself.
+#include "engine/freespacewipeworker.h"
+
+#include "engine/leftovers.h"
+#include "model/displaytext.h"
+#include "model/wipetask.h"
+#include "platform/devices.h"
+#include "platform/folders.h"
+#include "platform/platform.h"
+
+#include <QList>
+#include <QString>
+
+namespace {
+
+// The records of the volumes that the user has chosen, as far as the task names them.
+QList<PartitionInfo> chosenVolumes(const WipeTask &task)
+{
+    if (const PartitionInfo partition = task.partition(); !partition.driveLetter.isEmpty())
+        return {partition};
+    QList<PartitionInfo> volumes = task.disk().partitions;
+    volumes.removeIf([](const PartitionInfo &partition) { return partition.driveLetter.isEmpty(); });
+    return volumes;
+}
+
+} // namespace
+
+QString FreeSpaceWipeWorker::rootPathOf(const QString &volume)
+{
+    return volume.endsWith(u'/') || volume.endsWith(u'\\') ? volume : volume + u'/';
+}
+
+PartitionInfo FreeSpaceWipeWorker::chosenRecord(const WipeTask &task, const QString &volume)
+{
+    for (const PartitionInfo &chosen : chosenVolumes(task)) {
+        if (chosen.driveLetter == volume)
+            return chosen;
+    }
+    return {};
+}
+
+QString FreeSpaceWipeWorker::obstacleOf(const WipeTask &task)
+{
+    for (const PartitionInfo &chosen : chosenVolumes(task)) {
+        const auto volume = platform::Platform::current().folders().anchor(rootPathOf(chosen.driveLetter));
+        if (!volume || !checkMounted(chosen.driveLetter))
+            continue;
+        QString obstacle;
+        if (!isChosen(*volume.value(), chosen))
+            obstacle = changeText(chosen.driveLetter);
+        else if (const QString folder = LeftOvers(*volume.value()).inUse(); !folder.isEmpty())
+            obstacle = useText(folder);
+        if (!obstacle.isEmpty())
+            return obstacle + u' ' + tr("Nothing was written.");
+    }
+    return {};
+}
+
+// A volume whose record tells nothing to compare is taken as it is found.
+bool FreeSpaceWipeWorker::isChosen(platform::AnchoredFolder &volume, const PartitionInfo &chosen)
+{
+    if (chosen.identity.isEmpty())
+        return true;
+    const auto found = volume.volumeIdentity();
+    return found && found.value() == chosen.identity;
+}
+
+QString FreeSpaceWipeWorker::changeText(const QString &volume)
+{
+    return tr("Volume %1 is not the one that was chosen any more.").arg(displayText(volume));
+}
+
+QString FreeSpaceWipeWorker::useText(const QString &folder)
+{
+    return tr("Another job is erasing the free space of this volume; its files are in %1.")
+        .arg(displayText(folder));
+}
+
+// An unmounted volume leaves an empty folder under its name, and the free space there is that of another one.
+platform::Status FreeSpaceWipeWorker::checkMounted(const QString &root)
+{
+    QString name = root;
+    while (name.size() > 1 && (name.endsWith(u'/') || name.endsWith(u'\\')))
+        name.chop(1);
+    const auto volume = platform::Platform::current().devices().queryVolume(name);
+    if (isAbsent(volume.status()))
+        return volume.status();
+    return {}; // whatever else it refuses to tell, it is there
+}
