@@ -140,7 +140,7 @@ bool FileWipeWorker::failPass(int pass)
 bool FileWipeWorker::overwritePass(const PassPattern &pattern, std::size_t first)
 {
     DurabilityGroups groups;
-    const bool isWritten = runBatches(m_list.files.size() - first, [&](std::size_t i) {
+    const bool isWritten = runBatches(m_list.files.size() - first, batchSize(), [&](std::size_t i) {
         return [this, index = first + i, &pattern, &groups, seed = drawSeed()] {
             return overwriteJob(index, pattern, seed, &groups);
         };
@@ -178,19 +178,26 @@ void FileWipeWorker::tellLost(const std::vector<DurabilityGroups::Member> &membe
 bool FileWipeWorker::readBack(const std::vector<DurabilityGroups::Member> &members,
                               const PassPattern &pattern)
 {
-    return runBatches(members.size(), [&](std::size_t i) {
+    // Reading takes no longer than starting a batch, so that they are large here.
+    constexpr std::size_t Larger = 32;
+    return runBatches(members.size(), Larger * batchSize(), [&](std::size_t i) {
         return [this, &member = members[i], &pattern] { return readBackJob(member, pattern); };
     });
 }
 
-bool FileWipeWorker::runBatches(std::size_t count, const std::function<FilePool::Job(std::size_t)> &jobOf)
+std::size_t FileWipeWorker::batchSize() const
 {
-    const auto batchSize = static_cast<std::size_t>(std::max(2 * m_pool.threadCount(), 1));
+    return static_cast<std::size_t>(std::max(2 * m_pool.threadCount(), 1));
+}
+
+bool FileWipeWorker::runBatches(std::size_t count, std::size_t atOnce,
+                                const std::function<FilePool::Job(std::size_t)> &jobOf)
+{
     bool passed = true;
-    for (std::size_t first = 0; first < count && !isStopRequested(); first += batchSize) {
+    for (std::size_t first = 0; first < count && !isStopRequested(); first += atOnce) {
         if (!checkPauseStop())
             return false;
-        const std::size_t end = std::min(first + batchSize, count);
+        const std::size_t end = std::min(first + atOnce, count);
         std::vector<FilePool::Job> jobs;
         jobs.reserve(end - first);
         for (std::size_t i = first; i < end; ++i)
@@ -285,6 +292,8 @@ bool FileWipeWorker::isToBeReadBack(const PassPattern &pattern) const
 bool FileWipeWorker::readBackJob(const DurabilityGroups::Member &member, const PassPattern &pattern) noexcept
 {
     try {
+        if (!checkPauseStop())
+            return true;
         const auto place = entry(member.file);
         if (place)
             return verifyFile(member.file, place.value(), member.size, pattern);

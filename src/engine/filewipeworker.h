@@ -75,7 +75,9 @@ private:
     void tellLost(const std::vector<DurabilityGroups::Member> &members, const platform::Status &status);
     bool readBack(const std::vector<DurabilityGroups::Member> &members, const PassPattern &pattern);
     // Jobs 0 to count - 1, a batch at a time; false when one failed.
-    bool runBatches(std::size_t count, const std::function<FilePool::Job(std::size_t)> &jobOf);
+    bool runBatches(std::size_t count, std::size_t atOnce,
+                    const std::function<FilePool::Job(std::size_t)> &jobOf);
+    std::size_t batchSize() const;
 
     // On pool threads, from here ... groups: null to have each file on the medium when its job ends.
     bool overwriteJob(std::size_t index, const PassPattern &pattern, quint32 seed,

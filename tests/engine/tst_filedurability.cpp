@@ -81,6 +81,7 @@ private slots:
     void aPassBeginsWhenTheOneBeforeIsOnTheMedium();
     void whatIsReadBackIsOnTheMedium_data();
     void whatIsReadBackIsOnTheMedium();
+    void aStopWhileReadingBackOpensNoFurtherFile();
     void oneGroupForEachPassAndOneForTheRemoval();
     void oneGroupForEachFileSystem();
     void lateAndGrownFiles();
@@ -192,6 +193,20 @@ void tst_FileDurability::whatIsReadBackIsOnTheMedium()
     QCOMPARE(early.load(), 0);
     QCOMPARE(scenario.job.task.report().verificationSampleSize, 3 * Files);
     QCOMPARE(scenario.job.files.opened(OpenMode::Verify).size(), Files);
+}
+
+void tst_FileDurability::aStopWhileReadingBackOpensNoFurtherFile()
+{
+    Scenario scenario;
+    scenario.job.task.setThreadCount(1);
+    scenario.job.files.hook = [&](const FileCall &call) {
+        if (call.kind == FaultPlan::Read)
+            scenario.job.stop();
+        return Status();
+    };
+    QVERIFY(!scenario.run());
+    QCOMPARE(scenario.job.files.opened(OpenMode::Verify).size(), 1);
+    QCOMPARE(scenario.job.lines().last(3), (QStringList{said::pass(2, 2), said::cancelled, said::failed}));
 }
 
 void tst_FileDurability::oneGroupForEachPassAndOneForTheRemoval()
