@@ -3,7 +3,7 @@
 # machine and compares medians; a ratio is ours over theirs in throughput, so more is better. Works on loop devices and
 # files of its own in a temporary folder (about 4 GiB), needs root.
 #
-#   bench/run.sh [--build FOLDER] [--runs N] [ROW...]     rows: disk shred random file small free count memory
+#   bench/run.sh [--build FOLDER] [--runs N] [ROW...]     rows: disk shred random file small tiny free count memory
 #            reports bin trash bin-items trash-items start idle; only when named: count-disk
 set -euo pipefail
 export LC_ALL=C
@@ -20,7 +20,7 @@ while [ $# -gt 0 ]; do
     *) rows+=("$1"); shift ;;
   esac
 done
-[ ${#rows[@]} -gt 0 ] || rows=(disk shred random file small free count memory reports bin trash bin-items trash-items start idle)
+[ ${#rows[@]} -gt 0 ] || rows=(disk shred random file small tiny free count memory reports bin trash bin-items trash-items start idle)
 [ "$(id -u)" = 0 ] || { echo "bench: needs root for loop devices" >&2; exit 1; }
 
 desktop=$build/bin/quorvex
@@ -32,7 +32,7 @@ cli=$build/bin/quorvex-cli
 needed=()
 for row in "${rows[@]}"; do
   case $row in
-    disk|shred|file|small) needed+=("$cli" "$job") ;;
+    disk|shred|file|small|tiny) needed+=("$cli" "$job") ;;
     reports|bin|trash|bin-items|trash-items) needed+=("$services") ;;
     start) needed+=("$desktop" "$window" "$probe") ;;
     idle) needed+=("$desktop" "$probe") ;;
@@ -109,6 +109,13 @@ new_files() { # $1 files of $2 bytes
 small_files() { new_files 2000 16384; }
 small_ours() { "$cli" --quiet --data-dir "$folder/data" wipe files "$folder/f" --method 0 --yes; }
 small_shred() { find "$folder/f" -type f -print0 | xargs -0 shred -n0 -z -u; rmdir "$folder/f"; }
+
+tiny_files() { new_files 5000 4096; }
+tiny_shred() { find "$folder/f" -type f -print0 | xargs -0 shred -n0 -z --remove=unlink; rmdir "$folder/f"; }
+tiny_row() {
+  compare "5,000 files of 4 KiB / shred --remove=unlink" "at least 2" tiny_files small_ours tiny_shred
+  compare "5,000 files of 4 KiB / shred -u" "at least 4" tiny_files small_ours small_shred
+}
 
 free_ours() { "$job" free "$folder/mnt" zeros; free_bytes=$(awk '/^bytes/ { print $2 }' "$folder/out"); }
 free_dd() {
@@ -277,6 +284,7 @@ for row in "${rows[@]}"; do
     random) attach 1024; compare "disk, one random pass / dd direct" "at least 0.75" nothing disk_random disk_dd; detach ;;
     file) compare "1 GiB file, verified and deleted / shred -u" "at least 1.5" new_file file_ours file_shred ;;
     small) compare "2,000 files of 16 KiB / shred -u" "at least 2" small_files small_ours small_shred ;;
+    tiny) tiny_row ;;
     free)
       attach 1300; mkfs.ext4 -q "$loop"; mkdir -p "$folder/mnt"; mount "$loop" "$folder/mnt"
       compare "free space, one constant pass / dd dsync" "at least 0.95" nothing free_ours free_dd

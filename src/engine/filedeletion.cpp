@@ -1,5 +1,6 @@
 #include "engine/filedeletion.h"
 
+#include "engine/durabilitygroups.h"
 #include "engine/filetrace.h"
 #include "engine/removalretries.h"
 #include "engine/watchedfile.h"
@@ -38,8 +39,9 @@ QString randomName()
 
 } // namespace
 
-FileDeletion::FileDeletion(RetryPause pause)
+FileDeletion::FileDeletion(RetryPause pause, DurabilityGroups *groups)
     : m_pause(std::move(pause))
+    , m_groups(groups)
 {}
 
 bool FileDeletion::secureDeleteFile(const EntryPath &file, WatchedFile *watched)
@@ -80,7 +82,7 @@ bool FileDeletion::secureDeleteFile(const EntryPath &file, WatchedFile *watched)
 
 Status FileDeletion::cutToNothing(const EntryPath &path, WatchedFile *watched)
 {
-    auto file = files().open(path, platform::OpenMode::Truncate);
+    auto file = files().openIn(m_groups ? m_groups->of(path) : nullptr, path, platform::OpenMode::Truncate);
     if (!file)
         return file.status();
     if (watched && watched->isReplacedBy(*file.value())) {

@@ -5,6 +5,7 @@
 
 #include <optional>
 
+class DurabilityGroups;
 class WatchedFile;
 
 // Deletes files so that length and name are gone too. Works on whatever is not a folder; only a regular file
@@ -12,7 +13,8 @@ class WatchedFile;
 class FileDeletion
 {
 public:
-    explicit FileDeletion(RetryPause pause);
+    // groups: in which what is cut and removed reaches the medium, null for each file by itself.
+    explicit FileDeletion(RetryPause pause, DurabilityGroups *groups = nullptr);
 
     // Cuts the file to nothing, renames it once and deletes it. True when it is gone, or when there was no
     // file: what cannot be looked at is not gone. A failure to cut or to rename is no obstacle. watched: what
@@ -38,6 +40,7 @@ private:
     void remove(const platform::EntryPath &file);
 
     RetryPause m_pause;
+    DurabilityGroups *m_groups;
     Found m_found = Found::Nothing;
     std::optional<platform::EntryPath> m_leftAt;
 };

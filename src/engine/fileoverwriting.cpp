@@ -11,6 +11,9 @@
 #include <QDebug>
 
 #include <algorithm>
+#include <cstddef>
+#include <functional>
+#include <iterator>
 #include <new>
 #include <utility>
 #include <vector>
@@ -124,7 +127,7 @@ bool FileWipeWorker::overwriteAgain(std::size_t index)
     m_isLate = true;
     const QList<PassPattern> passes = task().method().passes;
     return std::ranges::all_of(passes, [this, index](const PassPattern &pattern) {
-        return overwriteJob(index, pattern, drawSeed());
+        return overwriteJob(index, pattern, drawSeed(), nullptr);
     });
 }
 
@@ -136,40 +139,89 @@ bool FileWipeWorker::failPass(int pass)
 
 bool FileWipeWorker::overwritePass(const PassPattern &pattern, std::size_t first)
 {
-    const auto batchSize = static_cast<std::size_t>(std::max(2 * m_pool.threadCount(), 1));
-    const std::size_t end = m_list.files.size();
+    DurabilityGroups groups;
+    const bool isWritten = runBatches(m_list.files.size() - first, batchSize(), [&](std::size_t i) {
+        return [this, index = first + i, &pattern, &groups, seed = drawSeed()] {
+            return overwriteJob(index, pattern, seed, &groups);
+        };
+    });
+    const int failures = m_failedCount;
+    // Also after a stop: what was written counts as written.
+    const std::vector<DurabilityGroups::Member> settled = settle(groups);
+    const bool isSettled = m_failedCount == failures;
+    const bool isReadBack = !isToBeReadBack(pattern) || readBack(settled, pattern);
+    return isWritten && isSettled && isReadBack;
+}
+
+std::vector<DurabilityGroups::Member> FileWipeWorker::settle(DurabilityGroups &groups)
+{
+    std::vector<DurabilityGroups::Member> settled;
+    for (DurabilityGroups::Closed &closed : groups.close()) {
+        if (closed.status)
+            std::ranges::move(closed.members, std::back_inserter(settled));
+        else
+            tellLost(closed.members, closed.status);
+    }
+    return settled;
+}
+
+// Nobody knows which of them are on the medium: each has failed.
+void FileWipeWorker::tellLost(const std::vector<DurabilityGroups::Member> &members, const Status &status)
+{
+    for (const DurabilityGroups::Member &member : members) {
+        failFile(tr("FlushFileBuffers 失败: %1"), pathOf(member.file), status);
+        ++m_failedCount;
+    }
+}
+
+// Only now: before, the drive could have answered out of its cache.
+bool FileWipeWorker::readBack(const std::vector<DurabilityGroups::Member> &members,
+                              const PassPattern &pattern)
+{
+    // Reading takes no longer than starting a batch, so that they are large here.
+    constexpr std::size_t Larger = 32;
+    return runBatches(members.size(), Larger * batchSize(), [&](std::size_t i) {
+        return [this, &member = members[i], &pattern] { return readBackJob(member, pattern); };
+    });
+}
+
+std::size_t FileWipeWorker::batchSize() const
+{
+    return static_cast<std::size_t>(std::max(2 * m_pool.threadCount(), 1));
+}
+
+bool FileWipeWorker::runBatches(std::size_t count, std::size_t atOnce,
+                                const std::function<FilePool::Job(std::size_t)> &jobOf)
+{
     bool passed = true;
-    for (; first < end && !isStopRequested(); first += batchSize) {
+    for (std::size_t first = 0; first < count && !isStopRequested(); first += atOnce) {
         if (!checkPauseStop())
             return false;
-        const int failures = overwriteBatch(first, std::min(batchSize, end - first), pattern);
+        const std::size_t end = std::min(first + atOnce, count);
+        std::vector<FilePool::Job> jobs;
+        jobs.reserve(end - first);
+        for (std::size_t i = first; i < end; ++i)
+            jobs.push_back(jobOf(i));
+        const int failures = m_pool.run(std::move(jobs));
         m_failedCount += failures;
         passed = passed && failures == 0;
     }
     return passed;
 }
 
-int FileWipeWorker::overwriteBatch(std::size_t first, std::size_t count, const PassPattern &pattern)
-{
-    std::vector<FilePool::Job> jobs;
-    jobs.reserve(count);
-    for (std::size_t i = first; i < first + count; ++i) {
-        jobs.push_back([this, i, pattern, seed = drawSeed()] { return overwriteJob(i, pattern, seed); });
-    }
-    return m_pool.run(std::move(jobs));
-}
-
-bool FileWipeWorker::overwriteJob(std::size_t index, const PassPattern &pattern, quint32 seed) noexcept
+bool FileWipeWorker::overwriteJob(std::size_t index, const PassPattern &pattern, quint32 seed,
+                                  DurabilityGroups *groups) noexcept
 {
     try {
-        return overwriteExisting(index, pattern, seed);
+        return overwriteExisting(index, pattern, seed, groups);
     } catch (const std::bad_alloc &) {
         logOutOfMemory();
     }
     return false;
 }
 
-bool FileWipeWorker::overwriteExisting(std::size_t index, const PassPattern &pattern, quint32 seed)
+bool FileWipeWorker::overwriteExisting(std::size_t index, const PassPattern &pattern, quint32 seed,
+                                       DurabilityGroups *groups)
 {
     const auto place = entry(index);
     const auto info = place ? files().info(place.value()) : place.status();
@@ -188,11 +240,11 @@ bool FileWipeWorker::overwriteExisting(std::size_t index, const PassPattern &pat
     }
     if (info.value().kind != FileKind::Regular)
         return true;
-    return overwriteFile(index, place.value(), info.value().size, pattern, seed);
+    return overwriteFile(index, place.value(), info.value().size, pattern, seed, groups);
 }
 
 bool FileWipeWorker::overwriteFile(std::size_t index, const EntryPath &entry, qint64 size,
-                                   const PassPattern &pattern, quint32 seed)
+                                   const PassPattern &pattern, quint32 seed, DurabilityGroups *groups)
 {
     const QString path = entry.path();
     if (const qint64 lost = watched(index).beginPass(size); lost > 0)
@@ -208,7 +260,7 @@ bool FileWipeWorker::overwriteFile(std::size_t index, const EntryPath &entry, qi
     }
     traceFile(path, files().clearReadOnly(entry));
     {
-        const auto opened = files().open(entry, OpenMode::Overwrite);
+        const auto opened = files().openIn(groups ? groups->of(entry) : nullptr, entry, OpenMode::Overwrite);
         if (!opened)
             return failFile(tr("无法打开文件(WinAPI): %1"), path, opened.status());
         platform::FileHandle &file = *opened.value();
@@ -227,9 +279,29 @@ bool FileWipeWorker::overwriteFile(std::size_t index, const EntryPath &entry, qi
     }
     if (isStopRequested())
         return false;
-    if (!pattern.verify || !task().verifyAfterWipe())
+    if (groups && groups->add(entry, {index, size}))
         return true;
-    return verifyFile(index, entry, size, pattern);
+    return !isToBeReadBack(pattern) || verifyFile(index, entry, size, pattern);
+}
+
+bool FileWipeWorker::isToBeReadBack(const PassPattern &pattern) const
+{
+    return pattern.verify && task().verifyAfterWipe();
+}
+
+bool FileWipeWorker::readBackJob(const DurabilityGroups::Member &member, const PassPattern &pattern) noexcept
+{
+    try {
+        if (!checkPauseStop())
+            return true;
+        const auto place = entry(member.file);
+        if (place)
+            return verifyFile(member.file, place.value(), member.size, pattern);
+        traceFile(pathOf(member.file), place.status());
+    } catch (const std::bad_alloc &) {
+        logOutOfMemory();
+    }
+    return false;
 }
 
 // True also when a stop ended the loop between two chunks.

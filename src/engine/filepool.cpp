@@ -100,7 +100,9 @@ void FilePool::work(Batch &batch)
         locker.relock();
         --batch.running;
         batch.failures += succeeded ? 0 : 1;
-        batch.changed.wakeAll();
+        // Not for every job: waking costs more than a small file.
+        if (!batch.hasLeft() && batch.running == 0)
+            batch.changed.wakeAll();
     }
 }
 

@@ -31,7 +31,8 @@ platform::Files &files()
 
 bool FileWipeWorker::deleteFrom(std::size_t first)
 {
-    FileDeletion deletion([this](std::chrono::milliseconds time) { return waitUnlessStopped(time); });
+    FileDeletion deletion([this](std::chrono::milliseconds time) { return waitUnlessStopped(time); },
+                          &m_removals);
     int failures = 0;
     for (std::size_t i = first; i < m_list.files.size(); ++i) {
         if (isStopRequested())
@@ -70,6 +71,7 @@ bool FileWipeWorker::deleteFile(FileDeletion &deletion, std::size_t index)
             watched(index).vanish();
         else
             watched(index).remove();
+        m_removals.add(place.value(), {index});
         return true;
     }
     if (deletion.found() == FileDeletion::Found::Another) {
@@ -158,6 +160,20 @@ void FileWipeWorker::removeFolders()
         task().noteShortfall({ShortfallKind::EntryReplaced, folder});
     };
     FolderRemoval(m_tree, {.replaced = replaced, .standing = standing}).remove(m_list.folders);
+}
+
+// A removal that is not on the medium is none. What was removed last may still be in the cache.
+bool FileWipeWorker::settleRemovals()
+{
+    const int failures = m_failedCount;
+    for (const DurabilityGroups::Closed &closed : m_removals.close()) {
+        if (closed.status)
+            continue;
+        tellLost(closed.members, closed.status);
+        for (const DurabilityGroups::Member &member : closed.members)
+            task().noteShortfall({ShortfallKind::EntryNotRemoved, pathOf(member.file)});
+    }
+    return m_failedCount == failures;
 }
 
 // What was removed under another name, or under another spelling of its path, has not vanished.

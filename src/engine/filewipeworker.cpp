@@ -86,6 +86,7 @@ bool FileWipeWorker::shred()
     success = eraseLate() && success;
     removeRest();
     removeFolders();
+    success = settleRemovals() && success;
     return concludeJob(success);
 }
 
@@ -258,6 +259,8 @@ void FileWipeWorker::noteReplaced(const QString &path)
 void FileWipeWorker::complete()
 {
     // A volume can be unmounted as soon as the job is over.
+    for (const DurabilityGroups::Closed &closed : m_removals.close())
+        traceFile(QString(), closed.status);
     m_tree.releaseAll();
     const int samples = m_sampling.samplesRead();
     task().updateReport([samples](WipeReport &report) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "engine/basewipeworker.h"
+#include "engine/durabilitygroups.h"
 #include "engine/filecollector.h"
 #include "engine/filepool.h"
 #include "engine/fileprogress.h"
@@ -12,6 +13,7 @@
 
 #include <atomic>
 #include <cstddef>
+#include <functional>
 #include <vector>
 
 class FileDeletion;
@@ -68,14 +70,24 @@ private:
     bool overwriteLate();
     bool failPass(int pass);
     bool overwritePass(const PassPattern &pattern, std::size_t first);
-    // The number of files that failed.
-    int overwriteBatch(std::size_t first, std::size_t count, const PassPattern &pattern);
+    // Waits for the device; the files that are on the medium now.
+    std::vector<DurabilityGroups::Member> settle(DurabilityGroups &groups);
+    void tellLost(const std::vector<DurabilityGroups::Member> &members, const platform::Status &status);
+    bool readBack(const std::vector<DurabilityGroups::Member> &members, const PassPattern &pattern);
+    // Jobs 0 to count - 1, a batch at a time; false when one failed.
+    bool runBatches(std::size_t count, std::size_t atOnce,
+                    const std::function<FilePool::Job(std::size_t)> &jobOf);
+    std::size_t batchSize() const;
 
-    // On pool threads, from here ...
-    bool overwriteJob(std::size_t index, const PassPattern &pattern, quint32 seed) noexcept;
-    bool overwriteExisting(std::size_t index, const PassPattern &pattern, quint32 seed);
+    // On pool threads, from here ... groups: null to have each file on the medium when its job ends.
+    bool overwriteJob(std::size_t index, const PassPattern &pattern, quint32 seed,
+                      DurabilityGroups *groups) noexcept;
+    bool overwriteExisting(std::size_t index, const PassPattern &pattern, quint32 seed,
+                           DurabilityGroups *groups);
     bool overwriteFile(std::size_t index, const platform::EntryPath &entry, qint64 size,
-                       const PassPattern &pattern, quint32 seed);
+                       const PassPattern &pattern, quint32 seed, DurabilityGroups *groups);
+    bool isToBeReadBack(const PassPattern &pattern) const;
+    bool readBackJob(const DurabilityGroups::Member &member, const PassPattern &pattern) noexcept;
     bool writeChunks(platform::FileHandle &file, const QString &path, qint64 size, const PassPattern &pattern,
                      quint32 seed, platform::AlignedBuffer &buffer);
     bool verifyFile(std::size_t index, const platform::EntryPath &entry, qint64 size,
@@ -92,6 +104,7 @@ private:
     void noteVanished();
     void removeRest();
     void removeFolders();
+    bool settleRemovals();
 
     void logOutOfMemory() noexcept;
     bool failFile(const QString &message, const QString &path, const platform::Status &status);
@@ -101,6 +114,7 @@ private:
     std::vector<WatchedFile> m_watched;   // the files of the list; each used by the one job that has its file
     std::vector<FileEntry> m_left;        // what stands under a name that the list does not have
     QSet<QString> m_mounted;              // paths of what is not to be entered
+    DurabilityGroups m_removals;          // of the delete stage
     std::atomic<int> m_elsewhereCount{0}; // files whose content may lie elsewhere too
     qint64 m_singlePassTotal = 0;         // bytes
     bool m_isTotalCertain = true;         // the size of every file that stands was told

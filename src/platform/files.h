@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/contentplace.h"
+#include "platform/durabilitygroup.h"
 #include "platform/entrypath.h"
 #include "platform/fileid.h"
 #include "platform/status.h"
@@ -60,17 +61,18 @@ public:
     virtual Result<qint64> read(void *data, qint64 size) = 0;
 
     // Writes size bytes and advances the position by the count returned. With OpenMode::Overwrite every byte
-    // has reached the device when the call returns. On failure an unknown part of the range may have been
-    // written. Windows: WriteFile. Linux: pwrite.
+    // has reached the device when the call returns, except of a member of a group. On failure an unknown part
+    // of the range may have been written. Windows: WriteFile. Linux: pwrite.
     virtual Result<qint64> write(const void *data, qint64 size) = 0;
 
     // Makes the current position the end of the file.
     // Windows: SetEndOfFile. Linux: ftruncate.
     virtual Status setEnd() = 0;
 
-    // After success everything written is on the medium. A failure means that an unknown part of what was
-    // written is not; it is never to be retried as if nothing had happened. Windows: FlushFileBuffers. Linux:
-    // fsync after setEnd, else fdatasync; nothing where each write is known to have waited for the device.
+    // After success everything written is on the medium, of a member of a group when the group was closed. A
+    // failure means that an unknown part of what was written is not; it is never to be retried as if nothing
+    // had happened. Windows: FlushFileBuffers. Linux: fsync after setEnd, else fdatasync; nothing where each
+    // write is known to have waited for the device.
     virtual Status flush() = 0;
 
     // The same as FileInfo::id. NotSupported where the file system gives its files other numbers whenever it
@@ -91,7 +93,7 @@ enum class OpenMode {
     // Read and write in place, write-through; the length and the blocks of the file stay. Others may read.
     // Windows: GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ, OPEN_EXISTING, FILE_FLAG_WRITE_THROUGH |
     // FILE_FLAG_SEQUENTIAL_SCAN | FILE_ATTRIBUTE_NORMAL. Linux: O_RDWR | O_DIRECT | O_DSYNC (without O_DIRECT
-    // where the file system refuses it).
+    // where the file system refuses it, without O_DSYNC in a group).
     Overwrite,
     // Read only; others may read and write.
     // Windows: GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, OPEN_EXISTING. Linux: O_RDONLY | O_DIRECT.
@@ -132,7 +134,29 @@ public:
     // before any byte is read or written, and without blocking on a pipe; also a file whose bytes the system
     // keeps elsewhere. Windows: CreateFileW with FILE_FLAG_OPEN_REPARSE_POINT; any reparse point is refused.
     // Linux: open with O_NOFOLLOW | O_NONBLOCK, then fstat.
-    virtual Result<std::unique_ptr<FileHandle>> open(const EntryPath &entry, OpenMode mode) = 0;
+    Result<std::unique_ptr<FileHandle>> open(const EntryPath &entry, OpenMode mode)
+    {
+        return openIn(nullptr, entry, mode);
+    }
+
+    // Opens it as a member of a group, none for null. A file that the group does not cover is opened all the
+    // same, and is flushed by itself.
+    virtual Result<std::unique_ptr<FileHandle>> openIn(const std::shared_ptr<DurabilityGroup> &group,
+                                                       const EntryPath &entry, OpenMode mode) = 0;
+
+    // Begins a group on the file system of a held folder. Before the first write to its members: what is lost
+    // earlier it may not tell. NotSupported where lost writes are told to nobody but the file's own flush;
+    // after any failure each file is to be flushed by itself.
+    // Windows: NotSupported. Linux: a descriptor for syncfs; ext2 to ext4, XFS, btrfs and F2FS from Linux 5.8
+    // on.
+    virtual Result<std::shared_ptr<DurabilityGroup>> beginGroup(const EntryPath &folder) = 0;
+
+    // After success everything is on the medium that was written to members and flushed, and every change of
+    // name and length on that file system. A failure means that an unknown part of it is not, whichever
+    // member it belongs to. Once, and while nobody writes to a member.
+    // Linux: syncfs, then fdatasync of a member that was written: where nothing is to be logged syncfs leaves
+    // the cache of the drive as it is.
+    virtual Status closeGroup(DurabilityGroup &group) = 0;
 
     // FileHandle::contentPlace() of a regular file; for a folder what holds for new files in it, without a
     // count of bytes. Everything else is refused as by open(). Needs no permission to write.

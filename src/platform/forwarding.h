@@ -38,10 +38,16 @@ public:
         : m_target(target)
     {}
     Result<FileInfo> info(const EntryPath &entry) override { return m_target.info(entry); }
-    Result<std::unique_ptr<FileHandle>> open(const EntryPath &entry, OpenMode mode) override
+    Result<std::unique_ptr<FileHandle>> openIn(const std::shared_ptr<DurabilityGroup> &group,
+                                               const EntryPath &entry, OpenMode mode) override
     {
-        return m_target.open(entry, mode);
+        return m_target.openIn(group, entry, mode);
     }
+    Result<std::shared_ptr<DurabilityGroup>> beginGroup(const EntryPath &folder) override
+    {
+        return m_target.beginGroup(folder);
+    }
+    Status closeGroup(DurabilityGroup &group) override { return m_target.closeGroup(group); }
     Result<ContentPlace> contentPlace(const EntryPath &entry) override
     {
         return m_target.contentPlace(entry);

@@ -1,6 +1,7 @@
 #include "filejob.h"
 #include "support/faultplan.h"
 #include "support/faultyfiles.h"
+#include "support/powercutfiles.h"
 #include "support/suite.h"
 #include "support/testfiles.h"
 
@@ -39,6 +40,8 @@ constexpr FaultKind faultKinds[] = {
     {"rename and remove", FaultPlan::Rename | FaultPlan::Remove},
     {"list", FaultPlan::List},
     {"remove folder", FaultPlan::RemoveFolder},
+    {"begin a group", FaultPlan::BeginGroup},
+    {"close a group", FaultPlan::CloseGroup},
     {"everything", FaultPlan::Every},
 };
 
@@ -46,6 +49,7 @@ constexpr FaultKind faultKinds[] = {
 struct Scenario
 {
     FaultPlan plan;
+    PowerCutFiles drive{platform::Platform::current().files()}; // has groups on every system
     FaultyFiles faultyFiles;
     FaultyFolders faultyFolders;
     FileJob job;
@@ -56,7 +60,7 @@ struct Scenario
 
     Scenario(quint32 kinds, int call, platform::ErrorCode error, FaultPlan::Repeat repeat, int threads)
         : plan(kinds, call, error, repeat)
-        , faultyFiles(platform::Platform::current().files(), plan)
+        , faultyFiles(drive, plan)
         , faultyFolders(platform::Platform::current().folders(), plan)
         , job(faultyFiles, faultyFolders)
     {
@@ -151,6 +155,7 @@ void tst_FileWipeFaults::loop(quint32 kinds, platform::ErrorCode error, FaultPla
         QVERIFY2(contentOf(scenario.outside) == scenario.outsideContent, context.constData());
         const QStringList beside = QDir(scenario.job.path(QStringLiteral("outside"))).entryList(QDir::Files);
         QVERIFY2(beside == QStringList{QStringLiteral("other")}, context.constData());
+        QVERIFY2(scenario.drive.premature().isEmpty(), context.constData());
         if (success) {
             QVERIFY2(scenario.secretsLeft() == 0, context.constData());
             QVERIFY2(!QFileInfo::exists(scenario.single), context.constData());

@@ -2,6 +2,11 @@
 
 #include "platform/filenames.h"
 #include "platform/linux/filedescriptor.h"
+#include "support/testfiles.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
 
 #include <fcntl.h>
 #include <linux/fs.h>
@@ -17,4 +22,19 @@ bool setImmutable(const QString &path, bool immutable)
         return false;
     flags = immutable ? flags | FS_IMMUTABLE_FL : flags & ~FS_IMMUTABLE_FL;
     return ::ioctl(file.get(), FS_IOC_SETFLAGS, &flags) == 0;
+}
+
+int openFlags(const QString &path)
+{
+    const QString wanted = QFileInfo(path).canonicalFilePath();
+    for (const QString &number :
+         QDir(QStringLiteral("/proc/self/fd")).entryList(QDir::AllEntries | QDir::System)) {
+        if (QFile::symLinkTarget(QStringLiteral("/proc/self/fd/") + number) != wanted)
+            continue;
+        for (const QByteArray &line : contentOf(QStringLiteral("/proc/self/fdinfo/") + number).split('\n')) {
+            if (line.startsWith("flags:"))
+                return line.mid(6).trimmed().toInt(nullptr, 8);
+        }
+    }
+    return -1;
 }

@@ -1,3 +1,4 @@
+#include "platform/fileflags.h"
 #include "platform/places.h"
 #include "support/bytes.h"
 #include "support/links.h"
@@ -45,21 +46,6 @@ struct stat statusOf(const QString &path)
     if (::lstat(encodeName(path).constData(), &status) != 0)
         QTest::qFail(qPrintable(u"nothing at "_s + path), __FILE__, __LINE__);
     return status;
-}
-
-// Flags with which this process has a file open, as the kernel tells; -1 when it has not.
-int openFlags(const QString &path)
-{
-    const QString wanted = QFileInfo(path).canonicalFilePath();
-    for (const QString &number : QDir(u"/proc/self/fd"_s).entryList(QDir::AllEntries | QDir::System)) {
-        if (QFile::symLinkTarget(u"/proc/self/fd/"_s + number) != wanted)
-            continue;
-        for (const QByteArray &line : contentOf(u"/proc/self/fdinfo/"_s + number).split('\n')) {
-            if (line.startsWith("flags:"))
-                return line.mid(6).trimmed().toInt(nullptr, 8);
-        }
-    }
-    return -1;
 }
 
 } // namespace

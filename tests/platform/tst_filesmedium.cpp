@@ -96,14 +96,6 @@ OpenedFile opened(const QString &path, int flags)
     return file;
 }
 
-// How often the device was told to empty its cache.
-qint64 flushesOf(const QString &device)
-{
-    const QString name = QFileInfo(device).fileName();
-    const QList<QByteArray> counts = contentOf(u"/sys/block/%1/stat"_s.arg(name)).simplified().split(' ');
-    return counts.size() > 15 ? counts[15].toLongLong() : -1;
-}
-
 } // namespace
 
 // What reaches the medium and what comes from it, on file systems that write in place.
@@ -194,13 +186,12 @@ void tst_FilesMedium::everyWriteHasTheDeviceFlushed()
     const QList<Stretch> stretches = stretchesOf(name);
     auto file = files().open(name, OpenMode::Overwrite);
     QVERIFY(file.ok());
-    const QString device = m_places.loop()->device();
     for (const char byte : {'y', 'z'}) {
-        const qint64 before = flushesOf(device);
+        const qint64 before = m_places.loop()->flushCount();
         QVERIFY(before >= 0);
         QVERIFY(file.value()->seek(0).ok());
         QCOMPARE(file.value()->write(QByteArray(size, byte).constData(), size).valueOr(-1), size);
-        QVERIFY(flushesOf(device) > before);
+        QVERIFY(m_places.loop()->flushCount() > before);
         QCOMPARE(m_places.loop()->readImage(qint64(stretches[0].physical), qMin(size, Page)),
                  QByteArray(qMin(size, Page), byte));
     }
@@ -209,30 +200,28 @@ void tst_FilesMedium::everyWriteHasTheDeviceFlushed()
 void tst_FilesMedium::flushHasTheDeviceFlushed()
 {
     const QString name = path(u"file"_s);
-    const QString device = m_places.loop()->device();
     auto fill = files().open(name, OpenMode::CreateFill);
     QVERIFY(fill.ok());
     for (const qint64 size : {qint64(1), 4 * Page, 3 * MiB + 7}) {
         QCOMPARE(fill.value()->write(QByteArray(size, 'z').constData(), size).valueOr(-1), size);
-        const qint64 before = flushesOf(device);
+        const qint64 before = m_places.loop()->flushCount();
         QVERIFY(fill.value()->flush().ok());
-        QVERIFY(flushesOf(device) > before);
+        QVERIFY(m_places.loop()->flushCount() > before);
     }
     for (const OpenMode mode : {OpenMode::Overwrite, OpenMode::Truncate}) {
         auto cut = files().open(name, mode);
         QVERIFY(cut.ok());
         QVERIFY(cut.value()->seek(mode == OpenMode::Overwrite ? 100 : 0).ok());
         QVERIFY(cut.value()->setEnd().ok());
-        const qint64 before = flushesOf(device);
+        const qint64 before = m_places.loop()->flushCount();
         QVERIFY(cut.value()->flush().ok());
-        QVERIFY(flushesOf(device) > before);
+        QVERIFY(m_places.loop()->flushCount() > before);
     }
 }
 
 // A flush is what a small file costs, so that one too many doubles the time of a job.
 void tst_FilesMedium::smallWritesFlushTheDeviceOnce()
 {
-    const QString device = m_places.loop()->device();
     for (const qint64 size : {16384, 5000}) {
         const QString name = path(u"file%1"_s.arg(size));
         writeThrough(name, QByteArray(size, 'a'));
@@ -241,11 +230,11 @@ void tst_FilesMedium::smallWritesFlushTheDeviceOnce()
         // The fewest of several, since the file system writes its journal every few seconds.
         qint64 fewest = std::numeric_limits<qint64>::max();
         for (int i = 0; i < 5; ++i) {
-            const qint64 before = flushesOf(device);
+            const qint64 before = m_places.loop()->flushCount();
             QVERIFY(file.value()->seek(0).ok());
             QCOMPARE(file.value()->write(QByteArray(size, 'z').constData(), size).valueOr(-1), size);
             QVERIFY(file.value()->flush().ok());
-            fewest = qMin(fewest, flushesOf(device) - before);
+            fewest = qMin(fewest, m_places.loop()->flushCount() - before);
         }
         QCOMPARE(fewest, 1);
     }

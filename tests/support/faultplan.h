@@ -36,6 +36,8 @@ public:
         Unlock = 1 << 19,
         Identify = 1 << 20, // id of an open file
         Locate = 1 << 21,   // contentPlace
+        BeginGroup = 1 << 22,
+        CloseGroup = 1 << 23,
         Every = 0xFFFFFFFF,
     };
     enum Repeat { Once, FromThenOn };

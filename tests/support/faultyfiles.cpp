@@ -61,12 +61,26 @@ platform::Result<platform::FileInfo> FaultyFiles::info(const platform::EntryPath
     return ForwardingFiles::info(entry);
 }
 
-platform::Result<std::unique_ptr<platform::FileHandle>> FaultyFiles::open(const platform::EntryPath &entry,
-                                                                          platform::OpenMode mode)
+platform::Result<std::shared_ptr<platform::DurabilityGroup>>
+FaultyFiles::beginGroup(const platform::EntryPath &folder)
+{
+    if (fires(FaultPlan::BeginGroup, folder.path()))
+        return m_plan.status();
+    return ForwardingFiles::beginGroup(folder);
+}
+
+platform::Status FaultyFiles::closeGroup(platform::DurabilityGroup &group)
+{
+    return m_plan.fires(FaultPlan::CloseGroup) ? m_plan.status() : ForwardingFiles::closeGroup(group);
+}
+
+platform::Result<std::unique_ptr<platform::FileHandle>>
+FaultyFiles::openIn(const std::shared_ptr<platform::DurabilityGroup> &group, const platform::EntryPath &entry,
+                    platform::OpenMode mode)
 {
     if (fires(FaultPlan::Open, entry.path()))
         return m_plan.status();
-    auto handle = ForwardingFiles::open(entry, mode);
+    auto handle = ForwardingFiles::openIn(group, entry, mode);
     if (!handle || !concerns(entry.path()))
         return handle;
     return std::unique_ptr<platform::FileHandle>(std::make_unique<FaultyFileHandle>(handle.take(), m_plan));

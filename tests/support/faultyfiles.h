@@ -23,8 +23,13 @@ public:
     {}
     platform::Result<platform::FileInfo> info(const platform::EntryPath &entry) override;
     // Nothing is created or cut by an opening that fails.
-    platform::Result<std::unique_ptr<platform::FileHandle>> open(const platform::EntryPath &entry,
-                                                                 platform::OpenMode mode) override;
+    platform::Result<std::unique_ptr<platform::FileHandle>>
+    openIn(const std::shared_ptr<platform::DurabilityGroup> &group, const platform::EntryPath &entry,
+           platform::OpenMode mode) override;
+    platform::Result<std::shared_ptr<platform::DurabilityGroup>>
+    beginGroup(const platform::EntryPath &folder) override;
+    // Of whatever files.
+    platform::Status closeGroup(platform::DurabilityGroup &group) override;
     platform::Result<platform::ContentPlace> contentPlace(const platform::EntryPath &entry) override;
     platform::Result<QByteArray> readBeginning(const QString &path, qint64 limit) override;
     platform::Status clearReadOnly(const platform::EntryPath &entry) override;

@@ -150,6 +150,15 @@ bool LoopMount::writeImage(qint64 offset, const QByteArray &bytes)
     return true;
 }
 
+qint64 LoopMount::flushCount() const
+{
+    QFile statistics(QStringLiteral("/sys/block/%1/stat").arg(QFileInfo(m_device).fileName()));
+    if (!statistics.open(QIODevice::ReadOnly))
+        return -1;
+    const QList<QByteArray> counts = statistics.readAll().simplified().split(' ');
+    return counts.size() > 15 ? counts[15].toLongLong() : -1;
+}
+
 qint64 LoopMount::defaultSize(FileSystem fileSystem)
 {
     constexpr qint64 MiB = 1024 * 1024;

@@ -74,6 +74,8 @@ public:
     // Bytes of the raw image, and the other way round past the mounted file system.
     QByteArray readImage(qint64 offset, qint64 size);
     bool writeImage(qint64 offset, const QByteArray &bytes);
+    // How often the device was told to empty its cache; -1 when the kernel does not say.
+    qint64 flushCount() const;
     static qint64 defaultSize(FileSystem fileSystem);
 
 private:

@@ -154,8 +154,20 @@ platform::Result<platform::FileInfo> MemoryVolume::info(const platform::EntryPat
     return platform::FileInfo{entry->kind, entry->size, entry->linkCount};
 }
 
-platform::Result<std::unique_ptr<platform::FileHandle>> MemoryVolume::open(const platform::EntryPath &entry,
-                                                                           platform::OpenMode mode)
+platform::Result<std::shared_ptr<platform::DurabilityGroup>>
+MemoryVolume::beginGroup(const platform::EntryPath &)
+{
+    return failure(platform::NotSupported);
+}
+
+platform::Status MemoryVolume::closeGroup(platform::DurabilityGroup &)
+{
+    return failure(platform::NotSupported);
+}
+
+platform::Result<std::unique_ptr<platform::FileHandle>>
+MemoryVolume::openIn(const std::shared_ptr<platform::DurabilityGroup> &, const platform::EntryPath &entry,
+                     platform::OpenMode mode)
 {
     const QString path = entry.path();
     if (const auto fault = begin(FaultPlan::Open, path); !fault)

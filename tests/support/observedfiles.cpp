@@ -104,14 +104,30 @@ platform::Result<platform::FileInfo> ObservedFiles::info(const platform::EntryPa
     return ForwardingFiles::info(entry);
 }
 
-platform::Result<std::unique_ptr<platform::FileHandle>> ObservedFiles::open(const platform::EntryPath &entry,
-                                                                            platform::OpenMode mode)
+platform::Result<std::shared_ptr<platform::DurabilityGroup>>
+ObservedFiles::beginGroup(const platform::EntryPath &folder)
+{
+    const platform::Status answer = observe({.kind = FaultPlan::BeginGroup, .path = folder.path()});
+    if (!answer)
+        return answer;
+    return ForwardingFiles::beginGroup(folder);
+}
+
+platform::Status ObservedFiles::closeGroup(platform::DurabilityGroup &group)
+{
+    const platform::Status answer = observe({.kind = FaultPlan::CloseGroup, .path = {}});
+    return answer ? ForwardingFiles::closeGroup(group) : answer;
+}
+
+platform::Result<std::unique_ptr<platform::FileHandle>>
+ObservedFiles::openIn(const std::shared_ptr<platform::DurabilityGroup> &group,
+                      const platform::EntryPath &entry, platform::OpenMode mode)
 {
     const FileCall call{.kind = FaultPlan::Open, .path = entry.path(), .mode = mode};
     const platform::Status answer = observe(call);
     if (!answer)
         return answer;
-    auto opened = ForwardingFiles::open(entry, mode);
+    auto opened = ForwardingFiles::openIn(group, entry, mode);
     if (!opened)
         return opened.status();
     std::unique_ptr<platform::FileHandle> handle = opened.take();

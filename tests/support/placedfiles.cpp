@@ -17,10 +17,11 @@ private:
     const QString m_path;
 };
 
-platform::Result<std::unique_ptr<platform::FileHandle>> PlacedFiles::open(const platform::EntryPath &entry,
-                                                                          platform::OpenMode mode)
+platform::Result<std::unique_ptr<platform::FileHandle>>
+PlacedFiles::openIn(const std::shared_ptr<platform::DurabilityGroup> &group, const platform::EntryPath &entry,
+                    platform::OpenMode mode)
 {
-    auto opened = ForwardingFiles::open(entry, mode);
+    auto opened = ForwardingFiles::openIn(group, entry, mode);
     if (!opened)
         return opened;
     return std::unique_ptr<platform::FileHandle>(

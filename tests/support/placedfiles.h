@@ -22,8 +22,9 @@ public:
     // The paths that contentPlace() was asked about, of handles not.
     QStringList asked;
 
-    platform::Result<std::unique_ptr<platform::FileHandle>> open(const platform::EntryPath &entry,
-                                                                 platform::OpenMode mode) override;
+    platform::Result<std::unique_ptr<platform::FileHandle>>
+    openIn(const std::shared_ptr<platform::DurabilityGroup> &group, const platform::EntryPath &entry,
+           platform::OpenMode mode) override;
     platform::Result<platform::ContentPlace> contentPlace(const platform::EntryPath &entry) override;
 
 private:

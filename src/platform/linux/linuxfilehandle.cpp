@@ -2,6 +2,7 @@
 
 #include "platform/linux/errnotable.h"
 #include "platform/linux/linuxcontentplace.h"
+#include "platform/linux/linuxdurabilitygroup.h"
 #include "platform/linux/linuxfileid.h"
 
 #include <fcntl.h>
@@ -12,6 +13,7 @@
 #include <cstdint>
 #include <cstring>
 #include <limits>
+#include <utility>
 
 namespace platform {
 
@@ -82,6 +84,7 @@ DirectTransfers directTransfersOf([[maybe_unused]] const struct statx &file)
 
 LinuxFileHandle::LinuxFileHandle(OpenedFile file)
     : m_file(std::move(file.descriptor))
+    , m_group(std::move(file.group))
     , m_direct(file.direct)
     , m_writeThrough(file.writeThrough)
     , m_directOn(file.directOn)
@@ -180,6 +183,7 @@ Result<qint64> LinuxFileHandle::write(const void *data, qint64 size)
     if (!isTransferable(m_position, size))
         return Status{InvalidParameter, 0, "pwrite"};
     m_writtenOut = false;
+    m_written = true;
     const Result<qint64> count = writePieces(static_cast<const std::byte *>(data), size);
     if (count)
         m_position += count.value();
@@ -262,6 +266,8 @@ Status LinuxFileHandle::flush()
     // Each write has already waited for the device, and its cache would only be flushed once more: a third of
     // the time that small files take.
     if (m_writeThrough && !m_endMoved && !m_writeFailed)
+        return {};
+    if (m_group && !m_writeFailed && m_group->take(m_file.get(), m_written))
         return {};
     const int answer =
         uninterrupted([&] { return m_endMoved ? ::fsync(m_file.get()) : ::fdatasync(m_file.get()); });

@@ -4,6 +4,8 @@
 #include "platform/files.h"
 #include "platform/linux/filedescriptor.h"
 
+#include <memory>
+
 struct statx;
 
 namespace platform {
@@ -22,12 +24,15 @@ extern const unsigned int DirectTransfersMask;
 // Of a file that is opened with O_DIRECT.
 DirectTransfers directTransfersOf(const struct statx &file);
 
+class LinuxDurabilityGroup;
+
 struct OpenedFile
 {
     FileDescriptor descriptor;
     DirectTransfers direct;
     bool directOn = false;     // O_DIRECT is set, whether or not the file then takes direct transfers
     bool writeThrough = false; // O_DSYNC is set, and the file system is known to keep it
+    std::shared_ptr<LinuxDurabilityGroup> group{}; // that the file belongs to
 };
 
 // An open regular file. With direct transfers what fits the file's units goes straight between the caller's
@@ -61,6 +66,7 @@ private:
     void dropCached();
 
     FileDescriptor m_file;
+    const std::shared_ptr<LinuxDurabilityGroup> m_group;
     DirectTransfers m_direct;
     AlignedBuffer m_bounce;
     qint64 m_position = 0;
@@ -68,6 +74,7 @@ private:
     const bool m_writeThrough;
     bool m_directOn;
     bool m_endMoved = false;
+    bool m_written = false;
     bool m_writeFailed = false;
     bool m_writtenOut = false; // no page is still to be written
 };

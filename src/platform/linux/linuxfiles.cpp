@@ -4,14 +4,13 @@
 #include "platform/linux/errnotable.h"
 #include "platform/linux/filekind.h"
 #include "platform/linux/linuxcontentplace.h"
+#include "platform/linux/linuxdurabilitygroup.h"
 #include "platform/linux/linuxfilehandle.h"
 #include "platform/linux/linuxfileid.h"
 #include "platform/linux/linuxfolderhandle.h"
 
 #include <fcntl.h>
-#include <linux/magic.h>
 #include <sys/stat.h>
-#include <sys/vfs.h>
 #include <unistd.h>
 
 #include <cstdio>
@@ -68,22 +67,10 @@ Result<struct statx> look(const EntryAt &entry, unsigned int wanted)
     return found;
 }
 
-// Where O_DSYNC is kept by the kernel itself. A file system in user space may take the flag and forget about
-// it, and others are not known well enough: they are flushed once more.
-bool keepsWriteThrough(int file)
+// Each write of a member would wait for the device by itself.
+int flagsOf(OpenMode mode, bool isMember)
 {
-    struct statfs volume = {};
-    if (::fstatfs(file, &volume) != 0)
-        return false;
-    switch (static_cast<quint32>(volume.f_type)) {
-    case EXT4_SUPER_MAGIC: // ext2 and ext3 as well
-    case XFS_SUPER_MAGIC:
-    case BTRFS_SUPER_MAGIC:
-    case F2FS_SUPER_MAGIC:
-        return true;
-    default:
-        return false;
-    }
+    return isMember ? flagsOf(mode) & ~O_DSYNC : flagsOf(mode);
 }
 
 // Not a constant: a part of it is told by another file.
@@ -128,8 +115,10 @@ Result<FileInfo> LinuxFiles::info(const EntryPath &entry)
     return info;
 }
 
-Result<std::unique_ptr<FileHandle>> LinuxFiles::open(const EntryPath &entry, OpenMode mode)
+Result<std::unique_ptr<FileHandle>> LinuxFiles::openIn(const std::shared_ptr<DurabilityGroup> &group,
+                                                       const EntryPath &entry, OpenMode mode)
 {
+    const auto linuxGroup = std::dynamic_pointer_cast<LinuxDurabilityGroup>(group);
     const Result<EntryAt> at = locate(entry);
     if (!at)
         return at.status();
@@ -145,7 +134,7 @@ Result<std::unique_ptr<FileHandle>> LinuxFiles::open(const EntryPath &entry, Ope
         return mounted;
     }
 
-    int flags = flagsOf(mode);
+    int flags = flagsOf(mode, linuxGroup && found && linuxGroup->contains(found.value()));
     FileDescriptor file = openFile(at.value(), flags);
     if (!file.isValid() && errno == EINVAL && (flags & O_DIRECT)) {
         flags &= ~O_DIRECT;
@@ -166,9 +155,27 @@ Result<std::unique_ptr<FileHandle>> LinuxFiles::open(const EntryPath &entry, Ope
     handle.directOn = (flags & O_DIRECT) != 0;
     if (handle.directOn)
         handle.direct = directTransfersOf(opened);
-    handle.writeThrough = (flags & O_DSYNC) != 0 && keepsWriteThrough(file.get());
+    handle.writeThrough = (flags & O_DSYNC) != 0 && isKnownToFlush(file.get());
+    if (linuxGroup && linuxGroup->admits(file.get(), opened))
+        handle.group = linuxGroup;
     handle.descriptor = std::move(file);
     return std::unique_ptr<FileHandle>(std::make_unique<LinuxFileHandle>(std::move(handle)));
+}
+
+Result<std::shared_ptr<DurabilityGroup>> LinuxFiles::beginGroup(const EntryPath &folder)
+{
+    const Result<EntryAt> at = locate(folder);
+    if (!at)
+        return at.status();
+    if (!at.value().held)
+        return Status{InvalidParameter, 0, "beginGroup"};
+    return LinuxDurabilityGroup::begin(*at.value().held);
+}
+
+Status LinuxFiles::closeGroup(DurabilityGroup &group)
+{
+    auto *const linuxGroup = dynamic_cast<LinuxDurabilityGroup *>(&group);
+    return linuxGroup ? linuxGroup->close() : Status{InvalidParameter, 0, "closeGroup"};
 }
 
 Result<ContentPlace> LinuxFiles::contentPlace(const EntryPath &entry)

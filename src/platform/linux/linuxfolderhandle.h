@@ -30,6 +30,7 @@ public:
 
     int descriptor() const { return m_folder.get(); }
     bool isMounted(const struct statx &found) const { return isOnAnotherMount(m_found, found); }
+    const struct statx &found() const { return m_found; }
 
 private:
     const FileDescriptor m_folder;

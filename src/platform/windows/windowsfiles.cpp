@@ -167,7 +167,8 @@ Result<FileInfo> WindowsFiles::info(const EntryPath &entry)
     return info;
 }
 
-Result<std::unique_ptr<FileHandle>> WindowsFiles::open(const EntryPath &entry, OpenMode mode)
+Result<std::unique_ptr<FileHandle>> WindowsFiles::openIn(const std::shared_ptr<DurabilityGroup> &,
+                                                         const EntryPath &entry, OpenMode mode)
 {
     const Result<std::wstring> name = encodePath(entry);
     if (!name)
@@ -177,6 +178,17 @@ Result<std::unique_ptr<FileHandle>> WindowsFiles::open(const EntryPath &entry, O
     if (!file)
         return file.status();
     return std::unique_ptr<FileHandle>(std::make_unique<WindowsFileHandle>(file.take()));
+}
+
+// Flushing a volume takes an administrator, and tells nothing of what was lost before.
+Result<std::shared_ptr<DurabilityGroup>> WindowsFiles::beginGroup(const EntryPath &)
+{
+    return Status{NotSupported, 0, "beginGroup"};
+}
+
+Status WindowsFiles::closeGroup(DurabilityGroup &)
+{
+    return {NotSupported, 0, "closeGroup"};
 }
 
 Result<ContentPlace> WindowsFiles::contentPlace(const EntryPath &entry)

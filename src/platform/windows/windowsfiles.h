@@ -9,7 +9,10 @@ class WindowsFiles final : public Files
 {
 public:
     Result<FileInfo> info(const EntryPath &entry) override;
-    Result<std::unique_ptr<FileHandle>> open(const EntryPath &entry, OpenMode mode) override;
+    Result<std::unique_ptr<FileHandle>> openIn(const std::shared_ptr<DurabilityGroup> &group,
+                                               const EntryPath &entry, OpenMode mode) override;
+    Result<std::shared_ptr<DurabilityGroup>> beginGroup(const EntryPath &folder) override;
+    Status closeGroup(DurabilityGroup &group) override;
     Result<ContentPlace> contentPlace(const EntryPath &entry) override;
     Result<QByteArray> readBeginning(const QString &path, qint64 limit) override;
     Result<std::unique_ptr<QFileDevice>> openForAppending(const QString &path) override;

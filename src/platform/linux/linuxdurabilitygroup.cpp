@@ -1,0 +1,137 @@
+#include "platform/linux/linuxdurabilitygroup.h"
+
+#include "platform/linux/errnotable.h"
+
+#include <fcntl.h>
+#include <linux/fs.h>
+#include <linux/magic.h>
+#include <sys/ioctl.h>
+#include <sys/stat.h>
+#include <sys/utsname.h>
+#include <sys/vfs.h>
+#include <unistd.h>
+
+#include <cstdio>
+#include <utility>
+
+namespace platform {
+
+namespace {
+
+bool kernelTellsLostWrites()
+{
+    struct utsname kernel = {};
+    return ::uname(&kernel) == 0 && tellsLostWrites(kernel.release);
+}
+
+// False where the kernel does not tell mounts.
+bool isOnMount([[maybe_unused]] const struct statx &found, [[maybe_unused]] quint64 mount)
+{
+#ifdef STATX_MNT_ID
+    return (found.stx_mask & STATX_MNT_ID) && found.stx_mnt_id == mount;
+#else
+    return false;
+#endif
+}
+
+// XFS keeps the bytes of some files on a device of their own, whose cache the flush of another file leaves as
+// it is.
+bool isOnRealtimeDevice(int file)
+{
+    struct fsxattr attributes = {};
+    return ::ioctl(file, FS_IOC_FSGETXATTR, &attributes) == 0 &&
+           (attributes.fsx_xflags & FS_XFLAG_REALTIME) != 0;
+}
+
+} // namespace
+
+bool isKnownToFlush(int file)
+{
+    struct statfs volume = {};
+    if (::fstatfs(file, &volume) != 0)
+        return false;
+    switch (static_cast<quint32>(volume.f_type)) {
+    case EXT4_SUPER_MAGIC: // ext2 and ext3 as well
+    case XFS_SUPER_MAGIC:
+    case BTRFS_SUPER_MAGIC:
+    case F2FS_SUPER_MAGIC:
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool tellsLostWrites(const char *release)
+{
+    constexpr std::pair First{5, 8};
+    std::pair version{0, 0};
+    return std::sscanf(release, "%d.%d", &version.first, &version.second) == 2 && version >= First;
+}
+
+Result<std::shared_ptr<DurabilityGroup>> LinuxDurabilityGroup::begin(const LinuxFolderHandle &folder)
+{
+    if (!kernelTellsLostWrites())
+        return Status{NotSupported, 0, "uname"};
+    FileDescriptor opened(uninterrupted(
+        [&] { return ::openat(folder.descriptor(), ".", O_RDONLY | O_DIRECTORY | O_NONBLOCK | O_CLOEXEC); }));
+    if (!opened.isValid())
+        return statusFromErrno(errno, "openat");
+    if (!isKnownToFlush(opened.get()))
+        return Status{NotSupported, 0, "fstatfs"};
+#ifdef STATX_MNT_ID
+    struct statx found = {};
+    if (::statx(opened.get(), "", AT_EMPTY_PATH, MountMask, &found) != 0)
+        return statusFromErrno(errno, "statx");
+    if (found.stx_mask & STATX_MNT_ID) {
+        return std::shared_ptr<DurabilityGroup>(
+            std::make_shared<LinuxDurabilityGroup>(std::move(opened), found.stx_mnt_id));
+    }
+#endif
+    return Status{NotSupported, 0, "statx"};
+}
+
+bool LinuxDurabilityGroup::covers(const FolderHandle &folder) const
+{
+    const auto *const held = dynamic_cast<const LinuxFolderHandle *>(&folder);
+    return held && contains(held->found());
+}
+
+bool LinuxDurabilityGroup::contains(const struct statx &found) const
+{
+    return isOnMount(found, m_mount);
+}
+
+bool LinuxDurabilityGroup::admits(int file, const struct statx &found) const
+{
+    return contains(found) && !isOnRealtimeDevice(file);
+}
+
+bool LinuxDurabilityGroup::take(int file, bool isWritten)
+{
+    const std::lock_guard locker(m_mutex);
+    if (m_isClosed)
+        return false;
+    if (isWritten && !m_written.isValid())
+        m_written = FileDescriptor(::fcntl(file, F_DUPFD_CLOEXEC, 0));
+    return !isWritten || m_written.isValid();
+}
+
+Status LinuxDurabilityGroup::close()
+{
+    const std::lock_guard locker(m_mutex);
+    if (std::exchange(m_isClosed, true))
+        return {InvalidParameter, 0, "closeGroup"};
+    Status status;
+    if (uninterrupted([&] { return ::syncfs(m_folder.get()); }) != 0)
+        status = statusFromErrno(errno, "syncfs");
+    // What was written past the page cache left nothing for syncfs to write, and may still be in the cache of
+    // the drive.
+    const FileDescriptor &last = m_written.isValid() ? m_written : m_folder;
+    if (uninterrupted([&] { return ::fdatasync(last.get()); }) != 0 && status)
+        status = statusFromErrno(errno, "fdatasync");
+    m_written = {};
+    m_folder = {};
+    return status;
+}
+
+} // namespace platform
