@@ -106,10 +106,10 @@ void tst_FileSurvey::everyFileCountsOnce()
     FileJob job;
     const QString outer = job.makeFile(u"folder/two"_s, 2000);
     job.makeFile(u"folder/sub/three"_s, 3000);
-    QVERIFY(makeLink(job.path({}), job.path(u"folder/link"_s)));
+    const bool hasLink = makeLink(job.path({}), job.path(u"folder/link"_s));
     job.task.setFiles({job.path(u"folder/sub"_s), job.path(u"folder"_s), outer});
     const FileSurvey survey = surveyFiles(job.task);
-    QCOMPARE(survey.files, quint64(3));
+    QCOMPARE(survey.files, quint64(hasLink ? 3 : 2));
     QCOMPARE(survey.bytes, quint64(5000));
     QVERIFY(survey.isComplete);
     QCOMPARE(survey.otherNamesText(), QString());
