@@ -2,6 +2,9 @@
 
 #include "platform/linux/errnotable.h"
 
+#include <QString>
+#include <QVersionNumber>
+
 #include <fcntl.h>
 #include <linux/fs.h>
 #include <linux/magic.h>
@@ -63,9 +66,7 @@ bool isKnownToFlush(int file)
 
 bool tellsLostWrites(const char *release)
 {
-    constexpr std::pair First{5, 8};
-    std::pair version{0, 0};
-    return std::sscanf(release, "%d.%d", &version.first, &version.second) == 2 && version >= First;
+    return QVersionNumber::fromString(QString::fromLatin1(release)) >= QVersionNumber(5, 8);
 }
 
 Result<std::shared_ptr<DurabilityGroup>> LinuxDurabilityGroup::begin(const LinuxFolderHandle &folder)
