@@ -26,7 +26,7 @@ constexpr int rowHeight = 6;
 // at the same pixel.
 constexpr int valueWidthPixels = 500;
 
-constexpr std::array outcomePoints{10, 9, 8, 7, 6, 5, 4};
+constexpr std::array outcomePoints{10, 9, 8, 7, 6, 5, 4, 3};
 
 constexpr int centred = Qt::AlignCenter;
 constexpr int leftCentred = Qt::AlignLeft | Qt::AlignVCenter;
