@@ -198,6 +198,13 @@
     </message>
 </context>
 <context>
+    <name>CertificateNumber</name>
+    <message>
+        <source>All certificate numbers of this day are taken.</source>
+        <translation>Alle Zertifikatsnummern dieses Tages sind vergeben.</translation>
+    </message>
+</context>
+<context>
     <name>CertificateRenderer</name>
     <message>
         <source>操作摘要</source>
@@ -1310,6 +1317,46 @@
         <source>volume %1</source>
         <translation>Volume %1</translation>
     </message>
+    <message>
+        <source>--data-dir is empty</source>
+        <translation>--data-dir ist leer</translation>
+    </message>
+    <message>
+        <source>nothing to erase was found, but not every bin was looked into: %1</source>
+        <translation>nichts zu löschen gefunden, aber nicht jeder Papierkorb wurde durchsucht: %1</translation>
+    </message>
+    <message>
+        <source>no bin of %1 was found</source>
+        <translation>kein Papierkorb von %1 gefunden</translation>
+    </message>
+    <message>
+        <source>1 entry without a record</source>
+        <translation>1 Eintrag ohne Datensatz</translation>
+    </message>
+    <message>
+        <source>%1 entries without a record</source>
+        <translation>%1 Einträge ohne Datensatz</translation>
+    </message>
+    <message>
+        <source>and %1, %2</source>
+        <translation>und %1, %2</translation>
+    </message>
+    <message>
+        <source>%1 is a link and is not followed</source>
+        <translation>%1 ist ein Link, dem nicht gefolgt wird</translation>
+    </message>
+    <message>
+        <source>%1 belongs to another user and is left alone</source>
+        <translation>%1 gehört einem anderen Benutzer und wird nicht angetastet</translation>
+    </message>
+    <message>
+        <source>%1 cannot be looked into, error %2</source>
+        <translation>%1 kann nicht durchsucht werden, Fehler %2</translation>
+    </message>
+    <message>
+        <source>--no-report does without.</source>
+        <translation>Mit --no-report geht es ohne.</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>
@@ -1360,6 +1407,10 @@ Ein Löschzertifikat wurde erstellt.</translation>
     <message>
         <source>Left unmounted: %1</source>
         <translation>Ausgehängt geblieben: %1</translation>
+    </message>
+    <message>
+        <source>The report is not stored. %1</source>
+        <translation>Der Bericht ist nicht gespeichert. %1</translation>
     </message>
 </context>
 <context>
@@ -1847,6 +1898,21 @@ Ein Löschzertifikat wurde erstellt.</translation>
     </message>
 </context>
 <context>
+    <name>FileSurvey</name>
+    <message>
+        <source>1 file has further names; its content is erased under these too</source>
+        <translation>1 Datei hat weitere Namen; ihr Inhalt wird auch unter diesen gelöscht</translation>
+    </message>
+    <message>
+        <source>%1 files have further names; their content is erased under these too</source>
+        <translation>%1 Dateien haben weitere Namen; ihr Inhalt wird auch unter diesen gelöscht</translation>
+    </message>
+    <message>
+        <source>Sparse files such as %1 take another %2 when they are overwritten, and only %3 are free. Nothing was written.</source>
+        <translation>Lückenhafte Dateien wie %1 belegen beim Überschreiben weitere %2, und nur %3 sind frei. Es wurde nichts geschrieben.</translation>
+    </message>
+</context>
+<context>
     <name>FileWipeWorker</name>
     <message>
         <source>内存分配失败</source>
@@ -2323,6 +2389,13 @@ Dies kann nicht rückgängig gemacht werden!</translation>
     </message>
 </context>
 <context>
+    <name>JobController</name>
+    <message>
+        <source>The previous job is still ending.</source>
+        <translation>Der vorige Auftrag wird noch beendet.</translation>
+    </message>
+</context>
+<context>
     <name>LinkManager</name>
     <message>
         <source>配置错误</source>
@@ -2375,16 +2448,6 @@ Bitte kopieren Sie den Link und rufen Sie ihn selbst auf:
     <message>
         <source>Quorvex - Data Secure Eraser</source>
         <translation>Quorvex - Sichere Datenlöschung</translation>
-    </message>
-    <message>
-        <source>Report Not Saved</source>
-        <translation>Bericht nicht gespeichert</translation>
-    </message>
-    <message>
-        <source>The erasure report could not be stored in the database.
-%1</source>
-        <translation>Der Löschbericht konnte nicht in der Datenbank gespeichert werden.
-%1</translation>
     </message>
     <message>
         <source>Wipe Free Space?</source>
@@ -2483,14 +2546,6 @@ Möchten Sie den freien Speicherplatz löschen, damit dies nicht mehr möglich i
         <translation>Fügen Sie über die Schaltflächen Dateien und Ordner hinzu</translation>
     </message>
     <message>
-        <source>Report Not Found</source>
-        <translation>Bericht nicht gefunden</translation>
-    </message>
-    <message>
-        <source>There is no report %1 in the database.</source>
-        <translation>Die Datenbank enthält keinen Bericht %1.</translation>
-    </message>
-    <message>
         <source>This Disk Cannot Be Erased</source>
         <translation>Dieser Datenträger kann nicht gelöscht werden</translation>
     </message>
@@ -2503,6 +2558,22 @@ Möchten Sie den freien Speicherplatz löschen, damit dies nicht mehr möglich i
     <message>
         <source>This Volume Cannot Be Erased</source>
         <translation>Dieses Volume kann nicht gelöscht werden</translation>
+    </message>
+    <message>
+        <source>These Files Cannot Be Erased</source>
+        <translation>Diese Dateien können nicht gelöscht werden</translation>
+    </message>
+    <message>
+        <source>The Erasure Cannot Start</source>
+        <translation>Das Löschen kann nicht beginnen</translation>
+    </message>
+    <message>
+        <source>Erased too, without a record: %1</source>
+        <translation>Wird auch gelöscht, ohne Datensatz: %1</translation>
+    </message>
+    <message>
+        <source>Not looked into: %1</source>
+        <translation>Nicht durchsucht: %1</translation>
     </message>
 </context>
 <context>
@@ -2653,6 +2724,10 @@ Möchten Sie den freien Speicherplatz löschen, damit dies nicht mehr möglich i
         <source>the drive has no mounted volume whose free space could be erased</source>
         <translation>das Laufwerk hat kein eingehängtes Volume, dessen freier Speicher gelöscht werden könnte</translation>
     </message>
+    <message>
+        <source>bins were not looked into, what they hold is not erased</source>
+        <translation>Papierkörbe wurden nicht durchsucht, ihr Inhalt ist nicht gelöscht</translation>
+    </message>
 </context>
 <context>
     <name>ProgressPage</name>
@@ -2738,6 +2813,37 @@ Möchten Sie den freien Speicherplatz löschen, damit dies nicht mehr möglich i
     <message>
         <source>外置硬盘</source>
         <translation>Extern</translation>
+    </message>
+</context>
+<context>
+    <name>ReportStorage</name>
+    <message>
+        <source>Another program holds the report database.</source>
+        <translation>Ein anderes Programm hält die Berichtsdatenbank fest.</translation>
+    </message>
+    <message>
+        <source>The report database cannot be written.</source>
+        <translation>Die Berichtsdatenbank kann nicht beschrieben werden.</translation>
+    </message>
+    <message>
+        <source>There is no room left for the report database.</source>
+        <translation>Für die Berichtsdatenbank ist kein Platz mehr.</translation>
+    </message>
+    <message>
+        <source>The report database is damaged.</source>
+        <translation>Die Berichtsdatenbank ist beschädigt.</translation>
+    </message>
+    <message>
+        <source>The report database cannot be opened.</source>
+        <translation>Die Berichtsdatenbank kann nicht geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>A link is in the place of the report database.</source>
+        <translation>An der Stelle der Berichtsdatenbank ist ein Link.</translation>
+    </message>
+    <message>
+        <source>The report database did not take the report.</source>
+        <translation>Die Berichtsdatenbank hat den Bericht nicht angenommen.</translation>
     </message>
 </context>
 <context>
@@ -2828,6 +2934,17 @@ Möchten Sie den freien Speicherplatz löschen, damit dies nicht mehr möglich i
     <message>
         <source>Settings</source>
         <translation>Einstellungen</translation>
+    </message>
+</context>
+<context>
+    <name>StoredReport</name>
+    <message>
+        <source>Report Not Found</source>
+        <translation>Bericht nicht gefunden</translation>
+    </message>
+    <message>
+        <source>There is no report %1 in the database.</source>
+        <translation>Die Datenbank enthält keinen Bericht %1.</translation>
     </message>
 </context>
 <context>

@@ -198,6 +198,13 @@
     </message>
 </context>
 <context>
+    <name>CertificateNumber</name>
+    <message>
+        <source>All certificate numbers of this day are taken.</source>
+        <translation>All certificate numbers of this day are taken.</translation>
+    </message>
+</context>
+<context>
     <name>CertificateRenderer</name>
     <message>
         <source>操作摘要</source>
@@ -1310,6 +1317,46 @@
         <source>volume %1</source>
         <translation>volume %1</translation>
     </message>
+    <message>
+        <source>--data-dir is empty</source>
+        <translation>--data-dir is empty</translation>
+    </message>
+    <message>
+        <source>nothing to erase was found, but not every bin was looked into: %1</source>
+        <translation>nothing to erase was found, but not every bin was looked into: %1</translation>
+    </message>
+    <message>
+        <source>no bin of %1 was found</source>
+        <translation>no bin of %1 was found</translation>
+    </message>
+    <message>
+        <source>1 entry without a record</source>
+        <translation>1 entry without a record</translation>
+    </message>
+    <message>
+        <source>%1 entries without a record</source>
+        <translation>%1 entries without a record</translation>
+    </message>
+    <message>
+        <source>and %1, %2</source>
+        <translation>and %1, %2</translation>
+    </message>
+    <message>
+        <source>%1 is a link and is not followed</source>
+        <translation>%1 is a link and is not followed</translation>
+    </message>
+    <message>
+        <source>%1 belongs to another user and is left alone</source>
+        <translation>%1 belongs to another user and is left alone</translation>
+    </message>
+    <message>
+        <source>%1 cannot be looked into, error %2</source>
+        <translation>%1 cannot be looked into, error %2</translation>
+    </message>
+    <message>
+        <source>--no-report does without.</source>
+        <translation>--no-report does without.</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>
@@ -1360,6 +1407,10 @@ An erasure certificate has been generated.</translation>
     <message>
         <source>Left unmounted: %1</source>
         <translation>Left unmounted: %1</translation>
+    </message>
+    <message>
+        <source>The report is not stored. %1</source>
+        <translation>The report is not stored. %1</translation>
     </message>
 </context>
 <context>
@@ -1847,6 +1898,21 @@ An erasure certificate has been generated.</translation>
     </message>
 </context>
 <context>
+    <name>FileSurvey</name>
+    <message>
+        <source>1 file has further names; its content is erased under these too</source>
+        <translation>1 file has further names; its content is erased under these too</translation>
+    </message>
+    <message>
+        <source>%1 files have further names; their content is erased under these too</source>
+        <translation>%1 files have further names; their content is erased under these too</translation>
+    </message>
+    <message>
+        <source>Sparse files such as %1 take another %2 when they are overwritten, and only %3 are free. Nothing was written.</source>
+        <translation>Sparse files such as %1 take another %2 when they are overwritten, and only %3 are free. Nothing was written.</translation>
+    </message>
+</context>
+<context>
     <name>FileWipeWorker</name>
     <message>
         <source>内存分配失败</source>
@@ -2323,6 +2389,13 @@ This operation cannot be undone!</translation>
     </message>
 </context>
 <context>
+    <name>JobController</name>
+    <message>
+        <source>The previous job is still ending.</source>
+        <translation>The previous job is still ending.</translation>
+    </message>
+</context>
+<context>
     <name>LinkManager</name>
     <message>
         <source>配置错误</source>
@@ -2375,16 +2448,6 @@ Please copy the link and open it manually:
     <message>
         <source>Quorvex - Data Secure Eraser</source>
         <translation>Quorvex - Data Secure Eraser</translation>
-    </message>
-    <message>
-        <source>Report Not Saved</source>
-        <translation>Report Not Saved</translation>
-    </message>
-    <message>
-        <source>The erasure report could not be stored in the database.
-%1</source>
-        <translation>The erasure report could not be stored in the database.
-%1</translation>
     </message>
     <message>
         <source>Wipe Free Space?</source>
@@ -2483,14 +2546,6 @@ Would you like to wipe free space to ensure they cannot be recovered?</translati
         <translation>Click buttons to add files and folders</translation>
     </message>
     <message>
-        <source>Report Not Found</source>
-        <translation>Report Not Found</translation>
-    </message>
-    <message>
-        <source>There is no report %1 in the database.</source>
-        <translation>There is no report %1 in the database.</translation>
-    </message>
-    <message>
         <source>This Disk Cannot Be Erased</source>
         <translation>This Disk Cannot Be Erased</translation>
     </message>
@@ -2503,6 +2558,22 @@ Would you like to wipe free space to ensure they cannot be recovered?</translati
     <message>
         <source>This Volume Cannot Be Erased</source>
         <translation>This Volume Cannot Be Erased</translation>
+    </message>
+    <message>
+        <source>These Files Cannot Be Erased</source>
+        <translation>These Files Cannot Be Erased</translation>
+    </message>
+    <message>
+        <source>The Erasure Cannot Start</source>
+        <translation>The Erasure Cannot Start</translation>
+    </message>
+    <message>
+        <source>Erased too, without a record: %1</source>
+        <translation>Erased too, without a record: %1</translation>
+    </message>
+    <message>
+        <source>Not looked into: %1</source>
+        <translation>Not looked into: %1</translation>
     </message>
 </context>
 <context>
@@ -2653,6 +2724,10 @@ Would you like to wipe free space to ensure they cannot be recovered?</translati
         <source>the drive has no mounted volume whose free space could be erased</source>
         <translation>the drive has no mounted volume whose free space could be erased</translation>
     </message>
+    <message>
+        <source>bins were not looked into, what they hold is not erased</source>
+        <translation>bins were not looked into, what they hold is not erased</translation>
+    </message>
 </context>
 <context>
     <name>ProgressPage</name>
@@ -2738,6 +2813,37 @@ Would you like to wipe free space to ensure they cannot be recovered?</translati
     <message>
         <source>外置硬盘</source>
         <translation>External Drive</translation>
+    </message>
+</context>
+<context>
+    <name>ReportStorage</name>
+    <message>
+        <source>Another program holds the report database.</source>
+        <translation>Another program holds the report database.</translation>
+    </message>
+    <message>
+        <source>The report database cannot be written.</source>
+        <translation>The report database cannot be written.</translation>
+    </message>
+    <message>
+        <source>There is no room left for the report database.</source>
+        <translation>There is no room left for the report database.</translation>
+    </message>
+    <message>
+        <source>The report database is damaged.</source>
+        <translation>The report database is damaged.</translation>
+    </message>
+    <message>
+        <source>The report database cannot be opened.</source>
+        <translation>The report database cannot be opened.</translation>
+    </message>
+    <message>
+        <source>A link is in the place of the report database.</source>
+        <translation>A link is in the place of the report database.</translation>
+    </message>
+    <message>
+        <source>The report database did not take the report.</source>
+        <translation>The report database did not take the report.</translation>
     </message>
 </context>
 <context>
@@ -2828,6 +2934,17 @@ Would you like to wipe free space to ensure they cannot be recovered?</translati
     <message>
         <source>Settings</source>
         <translation>Settings</translation>
+    </message>
+</context>
+<context>
+    <name>StoredReport</name>
+    <message>
+        <source>Report Not Found</source>
+        <translation>Report Not Found</translation>
+    </message>
+    <message>
+        <source>There is no report %1 in the database.</source>
+        <translation>There is no report %1 in the database.</translation>
     </message>
 </context>
 <context>

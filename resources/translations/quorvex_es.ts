@@ -198,6 +198,13 @@
     </message>
 </context>
 <context>
+    <name>CertificateNumber</name>
+    <message>
+        <source>All certificate numbers of this day are taken.</source>
+        <translation>Todos los números de certificado de este día están ocupados.</translation>
+    </message>
+</context>
+<context>
     <name>CertificateRenderer</name>
     <message>
         <source>操作摘要</source>
@@ -1310,6 +1317,46 @@
         <source>volume %1</source>
         <translation>volumen %1</translation>
     </message>
+    <message>
+        <source>--data-dir is empty</source>
+        <translation>--data-dir está vacío</translation>
+    </message>
+    <message>
+        <source>nothing to erase was found, but not every bin was looked into: %1</source>
+        <translation>no se encontró nada que borrar, pero no se examinaron todas las papeleras: %1</translation>
+    </message>
+    <message>
+        <source>no bin of %1 was found</source>
+        <translation>no se encontró ninguna papelera de %1</translation>
+    </message>
+    <message>
+        <source>1 entry without a record</source>
+        <translation>1 entrada sin registro</translation>
+    </message>
+    <message>
+        <source>%1 entries without a record</source>
+        <translation>%1 entradas sin registro</translation>
+    </message>
+    <message>
+        <source>and %1, %2</source>
+        <translation>y %1, %2</translation>
+    </message>
+    <message>
+        <source>%1 is a link and is not followed</source>
+        <translation>%1 es un enlace y no se sigue</translation>
+    </message>
+    <message>
+        <source>%1 belongs to another user and is left alone</source>
+        <translation>%1 pertenece a otro usuario y no se toca</translation>
+    </message>
+    <message>
+        <source>%1 cannot be looked into, error %2</source>
+        <translation>no se puede examinar %1, error %2</translation>
+    </message>
+    <message>
+        <source>--no-report does without.</source>
+        <translation>Con --no-report se prescinde de ellos.</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>
@@ -1360,6 +1407,10 @@ Se ha generado un certificado de borrado.</translation>
     <message>
         <source>Left unmounted: %1</source>
         <translation>Quedan desmontados: %1</translation>
+    </message>
+    <message>
+        <source>The report is not stored. %1</source>
+        <translation>El informe no está guardado. %1</translation>
     </message>
 </context>
 <context>
@@ -1847,6 +1898,21 @@ Se ha generado un certificado de borrado.</translation>
     </message>
 </context>
 <context>
+    <name>FileSurvey</name>
+    <message>
+        <source>1 file has further names; its content is erased under these too</source>
+        <translation>1 archivo tiene otros nombres; su contenido se borra también bajo estos</translation>
+    </message>
+    <message>
+        <source>%1 files have further names; their content is erased under these too</source>
+        <translation>%1 archivos tienen otros nombres; su contenido se borra también bajo estos</translation>
+    </message>
+    <message>
+        <source>Sparse files such as %1 take another %2 when they are overwritten, and only %3 are free. Nothing was written.</source>
+        <translation>Los archivos dispersos como %1 ocupan otros %2 al sobrescribirse, y solo hay %3 libres. No se escribió nada.</translation>
+    </message>
+</context>
+<context>
     <name>FileWipeWorker</name>
     <message>
         <source>内存分配失败</source>
@@ -2323,6 +2389,13 @@ Se ha generado un certificado de borrado.</translation>
     </message>
 </context>
 <context>
+    <name>JobController</name>
+    <message>
+        <source>The previous job is still ending.</source>
+        <translation>El trabajo anterior todavía está terminando.</translation>
+    </message>
+</context>
+<context>
     <name>LinkManager</name>
     <message>
         <source>配置错误</source>
@@ -2375,16 +2448,6 @@ Copie el enlace y ábralo manualmente:
     <message>
         <source>Quorvex - Data Secure Eraser</source>
         <translation>Quorvex - Borrado seguro de datos</translation>
-    </message>
-    <message>
-        <source>Report Not Saved</source>
-        <translation>Informe no guardado</translation>
-    </message>
-    <message>
-        <source>The erasure report could not be stored in the database.
-%1</source>
-        <translation>No se pudo guardar el informe de borrado en la base de datos.
-%1</translation>
     </message>
     <message>
         <source>Wipe Free Space?</source>
@@ -2483,14 +2546,6 @@ Sin embargo, es posible que los archivos eliminados anteriormente aún se puedan
         <translation>Use los botones para agregar archivos y carpetas</translation>
     </message>
     <message>
-        <source>Report Not Found</source>
-        <translation>Informe no encontrado</translation>
-    </message>
-    <message>
-        <source>There is no report %1 in the database.</source>
-        <translation>No hay ningún informe %1 en la base de datos.</translation>
-    </message>
-    <message>
         <source>This Disk Cannot Be Erased</source>
         <translation>Este disco no se puede borrar</translation>
     </message>
@@ -2503,6 +2558,22 @@ Sin embargo, es posible que los archivos eliminados anteriormente aún se puedan
     <message>
         <source>This Volume Cannot Be Erased</source>
         <translation>Este volumen no se puede borrar</translation>
+    </message>
+    <message>
+        <source>These Files Cannot Be Erased</source>
+        <translation>Estos archivos no se pueden borrar</translation>
+    </message>
+    <message>
+        <source>The Erasure Cannot Start</source>
+        <translation>El borrado no puede comenzar</translation>
+    </message>
+    <message>
+        <source>Erased too, without a record: %1</source>
+        <translation>Se borra también, sin registro: %1</translation>
+    </message>
+    <message>
+        <source>Not looked into: %1</source>
+        <translation>No examinado: %1</translation>
     </message>
 </context>
 <context>
@@ -2653,6 +2724,10 @@ Sin embargo, es posible que los archivos eliminados anteriormente aún se puedan
         <source>the drive has no mounted volume whose free space could be erased</source>
         <translation>la unidad no tiene ningún volumen montado cuyo espacio libre se pueda borrar</translation>
     </message>
+    <message>
+        <source>bins were not looked into, what they hold is not erased</source>
+        <translation>no se examinaron papeleras, lo que contienen no se borra</translation>
+    </message>
 </context>
 <context>
     <name>ProgressPage</name>
@@ -2738,6 +2813,37 @@ Sin embargo, es posible que los archivos eliminados anteriormente aún se puedan
     <message>
         <source>外置硬盘</source>
         <translation>Externo</translation>
+    </message>
+</context>
+<context>
+    <name>ReportStorage</name>
+    <message>
+        <source>Another program holds the report database.</source>
+        <translation>Otro programa tiene ocupada la base de datos de informes.</translation>
+    </message>
+    <message>
+        <source>The report database cannot be written.</source>
+        <translation>No se puede escribir en la base de datos de informes.</translation>
+    </message>
+    <message>
+        <source>There is no room left for the report database.</source>
+        <translation>No queda espacio para la base de datos de informes.</translation>
+    </message>
+    <message>
+        <source>The report database is damaged.</source>
+        <translation>La base de datos de informes está dañada.</translation>
+    </message>
+    <message>
+        <source>The report database cannot be opened.</source>
+        <translation>No se puede abrir la base de datos de informes.</translation>
+    </message>
+    <message>
+        <source>A link is in the place of the report database.</source>
+        <translation>En el lugar de la base de datos de informes hay un enlace.</translation>
+    </message>
+    <message>
+        <source>The report database did not take the report.</source>
+        <translation>La base de datos de informes no aceptó el informe.</translation>
     </message>
 </context>
 <context>
@@ -2828,6 +2934,17 @@ Sin embargo, es posible que los archivos eliminados anteriormente aún se puedan
     <message>
         <source>Settings</source>
         <translation>Configuración</translation>
+    </message>
+</context>
+<context>
+    <name>StoredReport</name>
+    <message>
+        <source>Report Not Found</source>
+        <translation>Informe no encontrado</translation>
+    </message>
+    <message>
+        <source>There is no report %1 in the database.</source>
+        <translation>No hay ningún informe %1 en la base de datos.</translation>
     </message>
 </context>
 <context>

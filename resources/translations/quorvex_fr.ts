@@ -198,6 +198,13 @@
     </message>
 </context>
 <context>
+    <name>CertificateNumber</name>
+    <message>
+        <source>All certificate numbers of this day are taken.</source>
+        <translation>Tous les numéros de certificat de ce jour sont pris.</translation>
+    </message>
+</context>
+<context>
     <name>CertificateRenderer</name>
     <message>
         <source>操作摘要</source>
@@ -1310,6 +1317,46 @@
         <source>volume %1</source>
         <translation>volume %1</translation>
     </message>
+    <message>
+        <source>--data-dir is empty</source>
+        <translation>--data-dir est vide</translation>
+    </message>
+    <message>
+        <source>nothing to erase was found, but not every bin was looked into: %1</source>
+        <translation>rien à effacer n&apos;a été trouvé, mais toutes les corbeilles n&apos;ont pas été examinées&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>no bin of %1 was found</source>
+        <translation>aucune corbeille de %1 n&apos;a été trouvée</translation>
+    </message>
+    <message>
+        <source>1 entry without a record</source>
+        <translation>1 entrée sans enregistrement</translation>
+    </message>
+    <message>
+        <source>%1 entries without a record</source>
+        <translation>%1 entrées sans enregistrement</translation>
+    </message>
+    <message>
+        <source>and %1, %2</source>
+        <translation>et %1, %2</translation>
+    </message>
+    <message>
+        <source>%1 is a link and is not followed</source>
+        <translation>%1 est un lien, il n&apos;est pas suivi</translation>
+    </message>
+    <message>
+        <source>%1 belongs to another user and is left alone</source>
+        <translation>%1 appartient à un autre utilisateur et n&apos;est pas touché</translation>
+    </message>
+    <message>
+        <source>%1 cannot be looked into, error %2</source>
+        <translation>%1 ne peut pas être examiné, erreur %2</translation>
+    </message>
+    <message>
+        <source>--no-report does without.</source>
+        <translation>--no-report permet de s&apos;en passer.</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>
@@ -1360,6 +1407,10 @@ Un certificat d&apos;effacement a été généré.</translation>
     <message>
         <source>Left unmounted: %1</source>
         <translation>Restés démontés&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>The report is not stored. %1</source>
+        <translation>Le rapport n&apos;est pas enregistré. %1</translation>
     </message>
 </context>
 <context>
@@ -1847,6 +1898,21 @@ Un certificat d&apos;effacement a été généré.</translation>
     </message>
 </context>
 <context>
+    <name>FileSurvey</name>
+    <message>
+        <source>1 file has further names; its content is erased under these too</source>
+        <translation>1 fichier a d&apos;autres noms&#xa0;; son contenu est effacé sous ceux-ci aussi</translation>
+    </message>
+    <message>
+        <source>%1 files have further names; their content is erased under these too</source>
+        <translation>%1 fichiers ont d&apos;autres noms&#xa0;; leur contenu est effacé sous ceux-ci aussi</translation>
+    </message>
+    <message>
+        <source>Sparse files such as %1 take another %2 when they are overwritten, and only %3 are free. Nothing was written.</source>
+        <translation>Les fichiers creux comme %1 occupent encore %2 une fois réécrits, et seuls %3 sont libres. Rien n&apos;a été écrit.</translation>
+    </message>
+</context>
+<context>
     <name>FileWipeWorker</name>
     <message>
         <source>内存分配失败</source>
@@ -2323,6 +2389,13 @@ Cette opération est irréversible&#xa0;!</translation>
     </message>
 </context>
 <context>
+    <name>JobController</name>
+    <message>
+        <source>The previous job is still ending.</source>
+        <translation>La tâche précédente est encore en train de se terminer.</translation>
+    </message>
+</context>
+<context>
     <name>LinkManager</name>
     <message>
         <source>配置错误</source>
@@ -2375,16 +2448,6 @@ Veuillez copier le lien manuellement pour y accéder&#xa0;:
     <message>
         <source>Quorvex - Data Secure Eraser</source>
         <translation>Quorvex - Effacement sécurisé des données</translation>
-    </message>
-    <message>
-        <source>Report Not Saved</source>
-        <translation>Rapport non enregistré</translation>
-    </message>
-    <message>
-        <source>The erasure report could not be stored in the database.
-%1</source>
-        <translation>Le rapport d&apos;effacement n&apos;a pas pu être enregistré dans la base de données.
-%1</translation>
     </message>
     <message>
         <source>Wipe Free Space?</source>
@@ -2483,14 +2546,6 @@ Voulez-vous effacer l&apos;espace libre afin qu&apos;ils ne puissent pas être r
         <translation>Cliquez sur les boutons pour ajouter des fichiers et des dossiers</translation>
     </message>
     <message>
-        <source>Report Not Found</source>
-        <translation>Rapport introuvable</translation>
-    </message>
-    <message>
-        <source>There is no report %1 in the database.</source>
-        <translation>La base de données ne contient pas de rapport %1.</translation>
-    </message>
-    <message>
         <source>This Disk Cannot Be Erased</source>
         <translation>Ce disque ne peut pas être effacé</translation>
     </message>
@@ -2503,6 +2558,22 @@ Voulez-vous effacer l&apos;espace libre afin qu&apos;ils ne puissent pas être r
     <message>
         <source>This Volume Cannot Be Erased</source>
         <translation>Ce volume ne peut pas être effacé</translation>
+    </message>
+    <message>
+        <source>These Files Cannot Be Erased</source>
+        <translation>Ces fichiers ne peuvent pas être effacés</translation>
+    </message>
+    <message>
+        <source>The Erasure Cannot Start</source>
+        <translation>L&apos;effacement ne peut pas commencer</translation>
+    </message>
+    <message>
+        <source>Erased too, without a record: %1</source>
+        <translation>Effacé aussi, sans enregistrement&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Not looked into: %1</source>
+        <translation>Non examiné&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -2653,6 +2724,10 @@ Voulez-vous effacer l&apos;espace libre afin qu&apos;ils ne puissent pas être r
         <source>the drive has no mounted volume whose free space could be erased</source>
         <translation>le disque n&apos;a aucun volume monté dont l&apos;espace libre pourrait être effacé</translation>
     </message>
+    <message>
+        <source>bins were not looked into, what they hold is not erased</source>
+        <translation>des corbeilles n&apos;ont pas été examinées, leur contenu n&apos;est pas effacé</translation>
+    </message>
 </context>
 <context>
     <name>ProgressPage</name>
@@ -2738,6 +2813,37 @@ Voulez-vous effacer l&apos;espace libre afin qu&apos;ils ne puissent pas être r
     <message>
         <source>外置硬盘</source>
         <translation>Disque externe</translation>
+    </message>
+</context>
+<context>
+    <name>ReportStorage</name>
+    <message>
+        <source>Another program holds the report database.</source>
+        <translation>Un autre programme retient la base de données des rapports.</translation>
+    </message>
+    <message>
+        <source>The report database cannot be written.</source>
+        <translation>La base de données des rapports ne peut pas être écrite.</translation>
+    </message>
+    <message>
+        <source>There is no room left for the report database.</source>
+        <translation>Il n&apos;y a plus de place pour la base de données des rapports.</translation>
+    </message>
+    <message>
+        <source>The report database is damaged.</source>
+        <translation>La base de données des rapports est endommagée.</translation>
+    </message>
+    <message>
+        <source>The report database cannot be opened.</source>
+        <translation>La base de données des rapports ne peut pas être ouverte.</translation>
+    </message>
+    <message>
+        <source>A link is in the place of the report database.</source>
+        <translation>Un lien se trouve à la place de la base de données des rapports.</translation>
+    </message>
+    <message>
+        <source>The report database did not take the report.</source>
+        <translation>La base de données des rapports n&apos;a pas accepté le rapport.</translation>
     </message>
 </context>
 <context>
@@ -2828,6 +2934,17 @@ Voulez-vous effacer l&apos;espace libre afin qu&apos;ils ne puissent pas être r
     <message>
         <source>Settings</source>
         <translation>Paramètres</translation>
+    </message>
+</context>
+<context>
+    <name>StoredReport</name>
+    <message>
+        <source>Report Not Found</source>
+        <translation>Rapport introuvable</translation>
+    </message>
+    <message>
+        <source>There is no report %1 in the database.</source>
+        <translation>La base de données ne contient pas de rapport %1.</translation>
     </message>
 </context>
 <context>

@@ -198,6 +198,13 @@
     </message>
 </context>
 <context>
+    <name>CertificateNumber</name>
+    <message>
+        <source>All certificate numbers of this day are taken.</source>
+        <translation>Tutti i numeri di certificato di questo giorno sono già assegnati.</translation>
+    </message>
+</context>
+<context>
     <name>CertificateRenderer</name>
     <message>
         <source>操作摘要</source>
@@ -1310,6 +1317,46 @@
         <source>volume %1</source>
         <translation>volume %1</translation>
     </message>
+    <message>
+        <source>--data-dir is empty</source>
+        <translation>--data-dir è vuoto</translation>
+    </message>
+    <message>
+        <source>nothing to erase was found, but not every bin was looked into: %1</source>
+        <translation>non è stato trovato nulla da cancellare, ma non tutti i cestini sono stati esaminati: %1</translation>
+    </message>
+    <message>
+        <source>no bin of %1 was found</source>
+        <translation>nessun cestino di %1 trovato</translation>
+    </message>
+    <message>
+        <source>1 entry without a record</source>
+        <translation>1 voce senza registrazione</translation>
+    </message>
+    <message>
+        <source>%1 entries without a record</source>
+        <translation>%1 voci senza registrazione</translation>
+    </message>
+    <message>
+        <source>and %1, %2</source>
+        <translation>e %1, %2</translation>
+    </message>
+    <message>
+        <source>%1 is a link and is not followed</source>
+        <translation>%1 è un collegamento e non viene seguito</translation>
+    </message>
+    <message>
+        <source>%1 belongs to another user and is left alone</source>
+        <translation>%1 appartiene a un altro utente e non viene toccato</translation>
+    </message>
+    <message>
+        <source>%1 cannot be looked into, error %2</source>
+        <translation>impossibile esaminare %1, errore %2</translation>
+    </message>
+    <message>
+        <source>--no-report does without.</source>
+        <translation>Con --no-report se ne fa a meno.</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>
@@ -1360,6 +1407,10 @@ An erasure certificate has been generated.</source>
     <message>
         <source>Left unmounted: %1</source>
         <translation>Rimasti smontati: %1</translation>
+    </message>
+    <message>
+        <source>The report is not stored. %1</source>
+        <translation>Il rapporto non è stato salvato. %1</translation>
     </message>
 </context>
 <context>
@@ -1847,6 +1898,21 @@ An erasure certificate has been generated.</source>
     </message>
 </context>
 <context>
+    <name>FileSurvey</name>
+    <message>
+        <source>1 file has further names; its content is erased under these too</source>
+        <translation>1 file ha altri nomi; il suo contenuto viene cancellato anche sotto questi</translation>
+    </message>
+    <message>
+        <source>%1 files have further names; their content is erased under these too</source>
+        <translation>%1 file hanno altri nomi; il loro contenuto viene cancellato anche sotto questi</translation>
+    </message>
+    <message>
+        <source>Sparse files such as %1 take another %2 when they are overwritten, and only %3 are free. Nothing was written.</source>
+        <translation>I file sparsi come %1 occupano altri %2 quando vengono sovrascritti, e solo %3 sono liberi. Non è stato scritto nulla.</translation>
+    </message>
+</context>
+<context>
     <name>FileWipeWorker</name>
     <message>
         <source>内存分配失败</source>
@@ -2323,6 +2389,13 @@ Questa operazione è irreversibile!</translation>
     </message>
 </context>
 <context>
+    <name>JobController</name>
+    <message>
+        <source>The previous job is still ending.</source>
+        <translation>Il lavoro precedente è ancora in fase di chiusura.</translation>
+    </message>
+</context>
+<context>
     <name>LinkManager</name>
     <message>
         <source>配置错误</source>
@@ -2375,16 +2448,6 @@ Copiare manualmente il collegamento per accedervi:
     <message>
         <source>Quorvex - Data Secure Eraser</source>
         <translation>Quorvex - Cancellazione sicura dei dati</translation>
-    </message>
-    <message>
-        <source>Report Not Saved</source>
-        <translation>Rapporto non salvato</translation>
-    </message>
-    <message>
-        <source>The erasure report could not be stored in the database.
-%1</source>
-        <translation>Impossibile salvare il rapporto di cancellazione nel database.
-%1</translation>
     </message>
     <message>
         <source>Wipe Free Space?</source>
@@ -2483,14 +2546,6 @@ Cancellare lo spazio libero in modo che non possano essere recuperati?</translat
         <translation>Fare clic sui pulsanti per aggiungere file e cartelle</translation>
     </message>
     <message>
-        <source>Report Not Found</source>
-        <translation>Rapporto non trovato</translation>
-    </message>
-    <message>
-        <source>There is no report %1 in the database.</source>
-        <translation>Nel database non è presente il rapporto %1.</translation>
-    </message>
-    <message>
         <source>This Disk Cannot Be Erased</source>
         <translation>Questo disco non può essere cancellato</translation>
     </message>
@@ -2503,6 +2558,22 @@ Cancellare lo spazio libero in modo che non possano essere recuperati?</translat
     <message>
         <source>This Volume Cannot Be Erased</source>
         <translation>Questo volume non può essere cancellato</translation>
+    </message>
+    <message>
+        <source>These Files Cannot Be Erased</source>
+        <translation>Questi file non possono essere cancellati</translation>
+    </message>
+    <message>
+        <source>The Erasure Cannot Start</source>
+        <translation>La cancellazione non può iniziare</translation>
+    </message>
+    <message>
+        <source>Erased too, without a record: %1</source>
+        <translation>Cancellato anch&apos;esso, senza registrazione: %1</translation>
+    </message>
+    <message>
+        <source>Not looked into: %1</source>
+        <translation>Non esaminato: %1</translation>
     </message>
 </context>
 <context>
@@ -2653,6 +2724,10 @@ Cancellare lo spazio libero in modo che non possano essere recuperati?</translat
         <source>the drive has no mounted volume whose free space could be erased</source>
         <translation>l&apos;unità non ha alcun volume montato di cui cancellare lo spazio libero</translation>
     </message>
+    <message>
+        <source>bins were not looked into, what they hold is not erased</source>
+        <translation>alcuni cestini non sono stati esaminati, il loro contenuto non viene cancellato</translation>
+    </message>
 </context>
 <context>
     <name>ProgressPage</name>
@@ -2738,6 +2813,37 @@ Cancellare lo spazio libero in modo che non possano essere recuperati?</translat
     <message>
         <source>外置硬盘</source>
         <translation>Disco esterno</translation>
+    </message>
+</context>
+<context>
+    <name>ReportStorage</name>
+    <message>
+        <source>Another program holds the report database.</source>
+        <translation>Un altro programma tiene occupato il database dei rapporti.</translation>
+    </message>
+    <message>
+        <source>The report database cannot be written.</source>
+        <translation>Il database dei rapporti non può essere scritto.</translation>
+    </message>
+    <message>
+        <source>There is no room left for the report database.</source>
+        <translation>Non c&apos;è più spazio per il database dei rapporti.</translation>
+    </message>
+    <message>
+        <source>The report database is damaged.</source>
+        <translation>Il database dei rapporti è danneggiato.</translation>
+    </message>
+    <message>
+        <source>The report database cannot be opened.</source>
+        <translation>Impossibile aprire il database dei rapporti.</translation>
+    </message>
+    <message>
+        <source>A link is in the place of the report database.</source>
+        <translation>Al posto del database dei rapporti c&apos;è un collegamento.</translation>
+    </message>
+    <message>
+        <source>The report database did not take the report.</source>
+        <translation>Il database dei rapporti non ha accettato il rapporto.</translation>
     </message>
 </context>
 <context>
@@ -2828,6 +2934,17 @@ Cancellare lo spazio libero in modo che non possano essere recuperati?</translat
     <message>
         <source>Settings</source>
         <translation>Impostazioni</translation>
+    </message>
+</context>
+<context>
+    <name>StoredReport</name>
+    <message>
+        <source>Report Not Found</source>
+        <translation>Rapporto non trovato</translation>
+    </message>
+    <message>
+        <source>There is no report %1 in the database.</source>
+        <translation>Nel database non è presente il rapporto %1.</translation>
     </message>
 </context>
 <context>

@@ -198,6 +198,13 @@
     </message>
 </context>
 <context>
+    <name>CertificateNumber</name>
+    <message>
+        <source>All certificate numbers of this day are taken.</source>
+        <translation>本日の証明書番号はすべて使用済みです。</translation>
+    </message>
+</context>
+<context>
     <name>CertificateRenderer</name>
     <message>
         <source>操作摘要</source>
@@ -1310,6 +1317,46 @@
         <source>volume %1</source>
         <translation>ボリューム %1</translation>
     </message>
+    <message>
+        <source>--data-dir is empty</source>
+        <translation>--data-dir が空です</translation>
+    </message>
+    <message>
+        <source>nothing to erase was found, but not every bin was looked into: %1</source>
+        <translation>消去するものは見つかりませんでしたが、調べていないごみ箱があります: %1</translation>
+    </message>
+    <message>
+        <source>no bin of %1 was found</source>
+        <translation>%1 のごみ箱が見つかりません</translation>
+    </message>
+    <message>
+        <source>1 entry without a record</source>
+        <translation>記録のない項目 1 件</translation>
+    </message>
+    <message>
+        <source>%1 entries without a record</source>
+        <translation>記録のない項目 %1 件</translation>
+    </message>
+    <message>
+        <source>and %1, %2</source>
+        <translation>および %1、%2</translation>
+    </message>
+    <message>
+        <source>%1 is a link and is not followed</source>
+        <translation>%1 はリンクのため、たどりません</translation>
+    </message>
+    <message>
+        <source>%1 belongs to another user and is left alone</source>
+        <translation>%1 は別のユーザーのものなので、触れません</translation>
+    </message>
+    <message>
+        <source>%1 cannot be looked into, error %2</source>
+        <translation>%1 を調べられません、エラー %2</translation>
+    </message>
+    <message>
+        <source>--no-report does without.</source>
+        <translation>--no-report を指定すると、番号なしで実行できます。</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>
@@ -1360,6 +1407,10 @@ An erasure certificate has been generated.</source>
     <message>
         <source>Left unmounted: %1</source>
         <translation>アンマウントされたまま: %1</translation>
+    </message>
+    <message>
+        <source>The report is not stored. %1</source>
+        <translation>レポートは保存されていません。%1</translation>
     </message>
 </context>
 <context>
@@ -1847,6 +1898,21 @@ An erasure certificate has been generated.</source>
     </message>
 </context>
 <context>
+    <name>FileSurvey</name>
+    <message>
+        <source>1 file has further names; its content is erased under these too</source>
+        <translation>1 個のファイルに別の名前があり、その名前でも内容が消去されます</translation>
+    </message>
+    <message>
+        <source>%1 files have further names; their content is erased under these too</source>
+        <translation>%1 個のファイルに別の名前があり、その名前でも内容が消去されます</translation>
+    </message>
+    <message>
+        <source>Sparse files such as %1 take another %2 when they are overwritten, and only %3 are free. Nothing was written.</source>
+        <translation>%1 のようなスパースファイルは上書きするとさらに %2 を占めますが、空きは %3 しかありません。何も書き込まれていません。</translation>
+    </message>
+</context>
+<context>
     <name>FileWipeWorker</name>
     <message>
         <source>内存分配失败</source>
@@ -2323,6 +2389,13 @@ An erasure certificate has been generated.</source>
     </message>
 </context>
 <context>
+    <name>JobController</name>
+    <message>
+        <source>The previous job is still ending.</source>
+        <translation>前のジョブがまだ終了処理中です。</translation>
+    </message>
+</context>
+<context>
     <name>LinkManager</name>
     <message>
         <source>配置错误</source>
@@ -2375,16 +2448,6 @@ An erasure certificate has been generated.</source>
     <message>
         <source>Quorvex - Data Secure Eraser</source>
         <translation>Quorvex - 安全なデータ消去</translation>
-    </message>
-    <message>
-        <source>Report Not Saved</source>
-        <translation>レポートは保存されていません</translation>
-    </message>
-    <message>
-        <source>The erasure report could not be stored in the database.
-%1</source>
-        <translation>消去レポートをデータベースに保存できませんでした。
-%1</translation>
     </message>
     <message>
         <source>Wipe Free Space?</source>
@@ -2483,14 +2546,6 @@ Would you like to wipe free space to ensure they cannot be recovered?</source>
         <translation>ボタンをクリックして、ファイルやフォルダーを追加してください</translation>
     </message>
     <message>
-        <source>Report Not Found</source>
-        <translation>レポートが見つかりません</translation>
-    </message>
-    <message>
-        <source>There is no report %1 in the database.</source>
-        <translation>データベースにレポート %1 はありません。</translation>
-    </message>
-    <message>
         <source>This Disk Cannot Be Erased</source>
         <translation>このディスクは消去できません</translation>
     </message>
@@ -2503,6 +2558,22 @@ Would you like to wipe free space to ensure they cannot be recovered?</source>
     <message>
         <source>This Volume Cannot Be Erased</source>
         <translation>このボリュームは消去できません</translation>
+    </message>
+    <message>
+        <source>These Files Cannot Be Erased</source>
+        <translation>これらのファイルは消去できません</translation>
+    </message>
+    <message>
+        <source>The Erasure Cannot Start</source>
+        <translation>消去を開始できません</translation>
+    </message>
+    <message>
+        <source>Erased too, without a record: %1</source>
+        <translation>記録なしで同時に消去: %1</translation>
+    </message>
+    <message>
+        <source>Not looked into: %1</source>
+        <translation>調べていない場所: %1</translation>
     </message>
 </context>
 <context>
@@ -2653,6 +2724,10 @@ Would you like to wipe free space to ensure they cannot be recovered?</source>
         <source>the drive has no mounted volume whose free space could be erased</source>
         <translation>空き領域を消去できるマウント済みボリュームがドライブにありません</translation>
     </message>
+    <message>
+        <source>bins were not looked into, what they hold is not erased</source>
+        <translation>調べていないごみ箱があり、その中身は消去されません</translation>
+    </message>
 </context>
 <context>
     <name>ProgressPage</name>
@@ -2738,6 +2813,37 @@ Would you like to wipe free space to ensure they cannot be recovered?</source>
     <message>
         <source>外置硬盘</source>
         <translation>外付け HDD</translation>
+    </message>
+</context>
+<context>
+    <name>ReportStorage</name>
+    <message>
+        <source>Another program holds the report database.</source>
+        <translation>別のプログラムがレポートデータベースを使用中です。</translation>
+    </message>
+    <message>
+        <source>The report database cannot be written.</source>
+        <translation>レポートデータベースに書き込めません。</translation>
+    </message>
+    <message>
+        <source>There is no room left for the report database.</source>
+        <translation>レポートデータベースの空き容量がありません。</translation>
+    </message>
+    <message>
+        <source>The report database is damaged.</source>
+        <translation>レポートデータベースが破損しています。</translation>
+    </message>
+    <message>
+        <source>The report database cannot be opened.</source>
+        <translation>レポートデータベースを開けません。</translation>
+    </message>
+    <message>
+        <source>A link is in the place of the report database.</source>
+        <translation>レポートデータベースの場所にリンクがあります。</translation>
+    </message>
+    <message>
+        <source>The report database did not take the report.</source>
+        <translation>レポートデータベースがレポートを受け付けませんでした。</translation>
     </message>
 </context>
 <context>
@@ -2828,6 +2934,17 @@ Would you like to wipe free space to ensure they cannot be recovered?</source>
     <message>
         <source>Settings</source>
         <translation>設定</translation>
+    </message>
+</context>
+<context>
+    <name>StoredReport</name>
+    <message>
+        <source>Report Not Found</source>
+        <translation>レポートが見つかりません</translation>
+    </message>
+    <message>
+        <source>There is no report %1 in the database.</source>
+        <translation>データベースにレポート %1 はありません。</translation>
     </message>
 </context>
 <context>

@@ -198,6 +198,13 @@
     </message>
 </context>
 <context>
+    <name>CertificateNumber</name>
+    <message>
+        <source>All certificate numbers of this day are taken.</source>
+        <translation>오늘의 인증서 번호가 모두 사용되었습니다.</translation>
+    </message>
+</context>
+<context>
     <name>CertificateRenderer</name>
     <message>
         <source>操作摘要</source>
@@ -1310,6 +1317,46 @@
         <source>volume %1</source>
         <translation>볼륨 %1</translation>
     </message>
+    <message>
+        <source>--data-dir is empty</source>
+        <translation>--data-dir 값이 비어 있습니다</translation>
+    </message>
+    <message>
+        <source>nothing to erase was found, but not every bin was looked into: %1</source>
+        <translation>소거할 것이 없지만 모든 휴지통을 살펴보지는 않았습니다: %1</translation>
+    </message>
+    <message>
+        <source>no bin of %1 was found</source>
+        <translation>%1의 휴지통이 없습니다</translation>
+    </message>
+    <message>
+        <source>1 entry without a record</source>
+        <translation>기록이 없는 항목 1개</translation>
+    </message>
+    <message>
+        <source>%1 entries without a record</source>
+        <translation>기록이 없는 항목 %1개</translation>
+    </message>
+    <message>
+        <source>and %1, %2</source>
+        <translation>그리고 %1, %2</translation>
+    </message>
+    <message>
+        <source>%1 is a link and is not followed</source>
+        <translation>%1은(는) 링크이므로 따라가지 않습니다</translation>
+    </message>
+    <message>
+        <source>%1 belongs to another user and is left alone</source>
+        <translation>%1은(는) 다른 사용자의 것이므로 그대로 둡니다</translation>
+    </message>
+    <message>
+        <source>%1 cannot be looked into, error %2</source>
+        <translation>%1을(를) 살펴볼 수 없음, 오류 %2</translation>
+    </message>
+    <message>
+        <source>--no-report does without.</source>
+        <translation>--no-report를 사용하면 번호 없이 진행합니다.</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>
@@ -1360,6 +1407,10 @@ An erasure certificate has been generated.</source>
     <message>
         <source>Left unmounted: %1</source>
         <translation>마운트 해제된 상태로 남음: %1</translation>
+    </message>
+    <message>
+        <source>The report is not stored. %1</source>
+        <translation>보고서가 저장되지 않았습니다. %1</translation>
     </message>
 </context>
 <context>
@@ -1847,6 +1898,21 @@ An erasure certificate has been generated.</source>
     </message>
 </context>
 <context>
+    <name>FileSurvey</name>
+    <message>
+        <source>1 file has further names; its content is erased under these too</source>
+        <translation>파일 1개에 다른 이름이 있으며, 그 이름의 내용도 소거됩니다</translation>
+    </message>
+    <message>
+        <source>%1 files have further names; their content is erased under these too</source>
+        <translation>파일 %1개에 다른 이름이 있으며, 그 이름의 내용도 소거됩니다</translation>
+    </message>
+    <message>
+        <source>Sparse files such as %1 take another %2 when they are overwritten, and only %3 are free. Nothing was written.</source>
+        <translation>%1 같은 희소 파일은 덮어쓸 때 %2이(가) 더 필요하지만 남은 공간은 %3뿐입니다. 아무것도 쓰지 않았습니다.</translation>
+    </message>
+</context>
+<context>
     <name>FileWipeWorker</name>
     <message>
         <source>内存分配失败</source>
@@ -2323,6 +2389,13 @@ An erasure certificate has been generated.</source>
     </message>
 </context>
 <context>
+    <name>JobController</name>
+    <message>
+        <source>The previous job is still ending.</source>
+        <translation>이전 작업이 아직 끝나는 중입니다.</translation>
+    </message>
+</context>
+<context>
     <name>LinkManager</name>
     <message>
         <source>配置错误</source>
@@ -2375,16 +2448,6 @@ An erasure certificate has been generated.</source>
     <message>
         <source>Quorvex - Data Secure Eraser</source>
         <translation>Quorvex - 안전한 데이터 소거</translation>
-    </message>
-    <message>
-        <source>Report Not Saved</source>
-        <translation>보고서가 저장되지 않음</translation>
-    </message>
-    <message>
-        <source>The erasure report could not be stored in the database.
-%1</source>
-        <translation>소거 보고서를 데이터베이스에 저장할 수 없습니다.
-%1</translation>
     </message>
     <message>
         <source>Wipe Free Space?</source>
@@ -2483,14 +2546,6 @@ Would you like to wipe free space to ensure they cannot be recovered?</source>
         <translation>버튼을 클릭하여 파일과 폴더를 추가하십시오</translation>
     </message>
     <message>
-        <source>Report Not Found</source>
-        <translation>보고서를 찾을 수 없음</translation>
-    </message>
-    <message>
-        <source>There is no report %1 in the database.</source>
-        <translation>데이터베이스에 보고서 %1이(가) 없습니다.</translation>
-    </message>
-    <message>
         <source>This Disk Cannot Be Erased</source>
         <translation>이 디스크는 소거할 수 없음</translation>
     </message>
@@ -2503,6 +2558,22 @@ Would you like to wipe free space to ensure they cannot be recovered?</source>
     <message>
         <source>This Volume Cannot Be Erased</source>
         <translation>이 볼륨은 삭제할 수 없습니다</translation>
+    </message>
+    <message>
+        <source>These Files Cannot Be Erased</source>
+        <translation>이 파일은 소거할 수 없음</translation>
+    </message>
+    <message>
+        <source>The Erasure Cannot Start</source>
+        <translation>소거를 시작할 수 없음</translation>
+    </message>
+    <message>
+        <source>Erased too, without a record: %1</source>
+        <translation>기록 없이 함께 소거: %1</translation>
+    </message>
+    <message>
+        <source>Not looked into: %1</source>
+        <translation>살펴보지 않음: %1</translation>
     </message>
 </context>
 <context>
@@ -2653,6 +2724,10 @@ Would you like to wipe free space to ensure they cannot be recovered?</source>
         <source>the drive has no mounted volume whose free space could be erased</source>
         <translation>드라이브에 여유 공간을 삭제할 수 있는 마운트된 볼륨이 없습니다</translation>
     </message>
+    <message>
+        <source>bins were not looked into, what they hold is not erased</source>
+        <translation>살펴보지 않은 휴지통이 있으며, 그 내용은 소거되지 않습니다</translation>
+    </message>
 </context>
 <context>
     <name>ProgressPage</name>
@@ -2738,6 +2813,37 @@ Would you like to wipe free space to ensure they cannot be recovered?</source>
     <message>
         <source>外置硬盘</source>
         <translation>외장 HDD</translation>
+    </message>
+</context>
+<context>
+    <name>ReportStorage</name>
+    <message>
+        <source>Another program holds the report database.</source>
+        <translation>다른 프로그램이 보고서 데이터베이스를 사용 중입니다.</translation>
+    </message>
+    <message>
+        <source>The report database cannot be written.</source>
+        <translation>보고서 데이터베이스에 쓸 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>There is no room left for the report database.</source>
+        <translation>보고서 데이터베이스를 위한 공간이 없습니다.</translation>
+    </message>
+    <message>
+        <source>The report database is damaged.</source>
+        <translation>보고서 데이터베이스가 손상되었습니다.</translation>
+    </message>
+    <message>
+        <source>The report database cannot be opened.</source>
+        <translation>보고서 데이터베이스를 열 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>A link is in the place of the report database.</source>
+        <translation>보고서 데이터베이스 자리에 링크가 있습니다.</translation>
+    </message>
+    <message>
+        <source>The report database did not take the report.</source>
+        <translation>보고서 데이터베이스가 보고서를 받지 않았습니다.</translation>
     </message>
 </context>
 <context>
@@ -2828,6 +2934,17 @@ Would you like to wipe free space to ensure they cannot be recovered?</source>
     <message>
         <source>Settings</source>
         <translation>설정</translation>
+    </message>
+</context>
+<context>
+    <name>StoredReport</name>
+    <message>
+        <source>Report Not Found</source>
+        <translation>보고서를 찾을 수 없음</translation>
+    </message>
+    <message>
+        <source>There is no report %1 in the database.</source>
+        <translation>데이터베이스에 보고서 %1이(가) 없습니다.</translation>
     </message>
 </context>
 <context>

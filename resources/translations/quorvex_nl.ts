@@ -198,6 +198,13 @@
     </message>
 </context>
 <context>
+    <name>CertificateNumber</name>
+    <message>
+        <source>All certificate numbers of this day are taken.</source>
+        <translation>Alle certificaatnummers van deze dag zijn in gebruik.</translation>
+    </message>
+</context>
+<context>
     <name>CertificateRenderer</name>
     <message>
         <source>操作摘要</source>
@@ -1310,6 +1317,46 @@
         <source>volume %1</source>
         <translation>volume %1</translation>
     </message>
+    <message>
+        <source>--data-dir is empty</source>
+        <translation>--data-dir is leeg</translation>
+    </message>
+    <message>
+        <source>nothing to erase was found, but not every bin was looked into: %1</source>
+        <translation>niets te wissen gevonden, maar niet elke prullenbak is doorzocht: %1</translation>
+    </message>
+    <message>
+        <source>no bin of %1 was found</source>
+        <translation>geen prullenbak van %1 gevonden</translation>
+    </message>
+    <message>
+        <source>1 entry without a record</source>
+        <translation>1 item zonder registratie</translation>
+    </message>
+    <message>
+        <source>%1 entries without a record</source>
+        <translation>%1 items zonder registratie</translation>
+    </message>
+    <message>
+        <source>and %1, %2</source>
+        <translation>en %1, %2</translation>
+    </message>
+    <message>
+        <source>%1 is a link and is not followed</source>
+        <translation>%1 is een koppeling en wordt niet gevolgd</translation>
+    </message>
+    <message>
+        <source>%1 belongs to another user and is left alone</source>
+        <translation>%1 is van een andere gebruiker en blijft ongemoeid</translation>
+    </message>
+    <message>
+        <source>%1 cannot be looked into, error %2</source>
+        <translation>%1 kan niet worden doorzocht, fout %2</translation>
+    </message>
+    <message>
+        <source>--no-report does without.</source>
+        <translation>Met --no-report gaat het zonder.</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>
@@ -1360,6 +1407,10 @@ Er is een wiscertificaat aangemaakt.</translation>
     <message>
         <source>Left unmounted: %1</source>
         <translation>Ontkoppeld gebleven: %1</translation>
+    </message>
+    <message>
+        <source>The report is not stored. %1</source>
+        <translation>Het rapport is niet opgeslagen. %1</translation>
     </message>
 </context>
 <context>
@@ -1847,6 +1898,21 @@ Er is een wiscertificaat aangemaakt.</translation>
     </message>
 </context>
 <context>
+    <name>FileSurvey</name>
+    <message>
+        <source>1 file has further names; its content is erased under these too</source>
+        <translation>1 bestand heeft nog andere namen; de inhoud wordt ook daaronder gewist</translation>
+    </message>
+    <message>
+        <source>%1 files have further names; their content is erased under these too</source>
+        <translation>%1 bestanden hebben nog andere namen; de inhoud wordt ook daaronder gewist</translation>
+    </message>
+    <message>
+        <source>Sparse files such as %1 take another %2 when they are overwritten, and only %3 are free. Nothing was written.</source>
+        <translation>IJle bestanden zoals %1 nemen bij het overschrijven nog %2 in, en er is maar %3 vrij. Er is niets geschreven.</translation>
+    </message>
+</context>
+<context>
     <name>FileWipeWorker</name>
     <message>
         <source>内存分配失败</source>
@@ -2323,6 +2389,13 @@ Dit kan niet ongedaan worden gemaakt!</translation>
     </message>
 </context>
 <context>
+    <name>JobController</name>
+    <message>
+        <source>The previous job is still ending.</source>
+        <translation>De vorige taak wordt nog beëindigd.</translation>
+    </message>
+</context>
+<context>
     <name>LinkManager</name>
     <message>
         <source>配置错误</source>
@@ -2375,16 +2448,6 @@ Kopieer de koppeling en open deze zelf:
     <message>
         <source>Quorvex - Data Secure Eraser</source>
         <translation>Quorvex - Gegevens veilig wissen</translation>
-    </message>
-    <message>
-        <source>Report Not Saved</source>
-        <translation>Rapport niet opgeslagen</translation>
-    </message>
-    <message>
-        <source>The erasure report could not be stored in the database.
-%1</source>
-        <translation>Het wisrapport kan niet worden opgeslagen in de database.
-%1</translation>
     </message>
     <message>
         <source>Wipe Free Space?</source>
@@ -2483,14 +2546,6 @@ Wilt u de vrije ruimte wissen, zodat ze niet meer kunnen worden hersteld?</trans
         <translation>Klik op de knoppen om bestanden en mappen toe te voegen</translation>
     </message>
     <message>
-        <source>Report Not Found</source>
-        <translation>Rapport niet gevonden</translation>
-    </message>
-    <message>
-        <source>There is no report %1 in the database.</source>
-        <translation>Er is geen rapport %1 in de database.</translation>
-    </message>
-    <message>
         <source>This Disk Cannot Be Erased</source>
         <translation>Deze schijf kan niet worden gewist</translation>
     </message>
@@ -2503,6 +2558,22 @@ Wilt u de vrije ruimte wissen, zodat ze niet meer kunnen worden hersteld?</trans
     <message>
         <source>This Volume Cannot Be Erased</source>
         <translation>Dit volume kan niet worden gewist</translation>
+    </message>
+    <message>
+        <source>These Files Cannot Be Erased</source>
+        <translation>Deze bestanden kunnen niet worden gewist</translation>
+    </message>
+    <message>
+        <source>The Erasure Cannot Start</source>
+        <translation>Het wissen kan niet beginnen</translation>
+    </message>
+    <message>
+        <source>Erased too, without a record: %1</source>
+        <translation>Ook gewist, zonder registratie: %1</translation>
+    </message>
+    <message>
+        <source>Not looked into: %1</source>
+        <translation>Niet doorzocht: %1</translation>
     </message>
 </context>
 <context>
@@ -2653,6 +2724,10 @@ Wilt u de vrije ruimte wissen, zodat ze niet meer kunnen worden hersteld?</trans
         <source>the drive has no mounted volume whose free space could be erased</source>
         <translation>het station heeft geen gekoppeld volume waarvan de vrije ruimte kan worden gewist</translation>
     </message>
+    <message>
+        <source>bins were not looked into, what they hold is not erased</source>
+        <translation>prullenbakken zijn niet doorzocht, de inhoud ervan is niet gewist</translation>
+    </message>
 </context>
 <context>
     <name>ProgressPage</name>
@@ -2738,6 +2813,37 @@ Wilt u de vrije ruimte wissen, zodat ze niet meer kunnen worden hersteld?</trans
     <message>
         <source>外置硬盘</source>
         <translation>Extern</translation>
+    </message>
+</context>
+<context>
+    <name>ReportStorage</name>
+    <message>
+        <source>Another program holds the report database.</source>
+        <translation>Een ander programma houdt de rapportdatabase vast.</translation>
+    </message>
+    <message>
+        <source>The report database cannot be written.</source>
+        <translation>De rapportdatabase kan niet worden geschreven.</translation>
+    </message>
+    <message>
+        <source>There is no room left for the report database.</source>
+        <translation>Er is geen ruimte meer voor de rapportdatabase.</translation>
+    </message>
+    <message>
+        <source>The report database is damaged.</source>
+        <translation>De rapportdatabase is beschadigd.</translation>
+    </message>
+    <message>
+        <source>The report database cannot be opened.</source>
+        <translation>De rapportdatabase kan niet worden geopend.</translation>
+    </message>
+    <message>
+        <source>A link is in the place of the report database.</source>
+        <translation>Op de plaats van de rapportdatabase staat een koppeling.</translation>
+    </message>
+    <message>
+        <source>The report database did not take the report.</source>
+        <translation>De rapportdatabase heeft het rapport niet aangenomen.</translation>
     </message>
 </context>
 <context>
@@ -2828,6 +2934,17 @@ Wilt u de vrije ruimte wissen, zodat ze niet meer kunnen worden hersteld?</trans
     <message>
         <source>Settings</source>
         <translation>Instellingen</translation>
+    </message>
+</context>
+<context>
+    <name>StoredReport</name>
+    <message>
+        <source>Report Not Found</source>
+        <translation>Rapport niet gevonden</translation>
+    </message>
+    <message>
+        <source>There is no report %1 in the database.</source>
+        <translation>Er is geen rapport %1 in de database.</translation>
     </message>
 </context>
 <context>

@@ -198,6 +198,13 @@
     </message>
 </context>
 <context>
+    <name>CertificateNumber</name>
+    <message>
+        <source>All certificate numbers of this day are taken.</source>
+        <translation>Todos os números de certificado deste dia já foram usados.</translation>
+    </message>
+</context>
+<context>
     <name>CertificateRenderer</name>
     <message>
         <source>操作摘要</source>
@@ -1310,6 +1317,46 @@
         <source>volume %1</source>
         <translation>volume %1</translation>
     </message>
+    <message>
+        <source>--data-dir is empty</source>
+        <translation>--data-dir está vazio</translation>
+    </message>
+    <message>
+        <source>nothing to erase was found, but not every bin was looked into: %1</source>
+        <translation>nada a apagar foi encontrado, mas nem todas as lixeiras foram examinadas: %1</translation>
+    </message>
+    <message>
+        <source>no bin of %1 was found</source>
+        <translation>nenhuma lixeira de %1 foi encontrada</translation>
+    </message>
+    <message>
+        <source>1 entry without a record</source>
+        <translation>1 entrada sem registro</translation>
+    </message>
+    <message>
+        <source>%1 entries without a record</source>
+        <translation>%1 entradas sem registro</translation>
+    </message>
+    <message>
+        <source>and %1, %2</source>
+        <translation>e %1, %2</translation>
+    </message>
+    <message>
+        <source>%1 is a link and is not followed</source>
+        <translation>%1 é um link e não é seguido</translation>
+    </message>
+    <message>
+        <source>%1 belongs to another user and is left alone</source>
+        <translation>%1 pertence a outro usuário e não é tocado</translation>
+    </message>
+    <message>
+        <source>%1 cannot be looked into, error %2</source>
+        <translation>não é possível examinar %1, erro %2</translation>
+    </message>
+    <message>
+        <source>--no-report does without.</source>
+        <translation>Com --no-report dispensa-se o número.</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>
@@ -1360,6 +1407,10 @@ Um certificado de apagamento foi gerado.</translation>
     <message>
         <source>Left unmounted: %1</source>
         <translation>Ficaram desmontados: %1</translation>
+    </message>
+    <message>
+        <source>The report is not stored. %1</source>
+        <translation>O relatório não foi salvo. %1</translation>
     </message>
 </context>
 <context>
@@ -1847,6 +1898,21 @@ Um certificado de apagamento foi gerado.</translation>
     </message>
 </context>
 <context>
+    <name>FileSurvey</name>
+    <message>
+        <source>1 file has further names; its content is erased under these too</source>
+        <translation>1 arquivo tem outros nomes; seu conteúdo é apagado também sob eles</translation>
+    </message>
+    <message>
+        <source>%1 files have further names; their content is erased under these too</source>
+        <translation>%1 arquivos têm outros nomes; seu conteúdo é apagado também sob eles</translation>
+    </message>
+    <message>
+        <source>Sparse files such as %1 take another %2 when they are overwritten, and only %3 are free. Nothing was written.</source>
+        <translation>Arquivos esparsos como %1 ocupam mais %2 quando são sobrescritos, e só há %3 livres. Nada foi gravado.</translation>
+    </message>
+</context>
+<context>
     <name>FileWipeWorker</name>
     <message>
         <source>内存分配失败</source>
@@ -2323,6 +2389,13 @@ Esta operação não pode ser desfeita!</translation>
     </message>
 </context>
 <context>
+    <name>JobController</name>
+    <message>
+        <source>The previous job is still ending.</source>
+        <translation>A tarefa anterior ainda está terminando.</translation>
+    </message>
+</context>
+<context>
     <name>LinkManager</name>
     <message>
         <source>配置错误</source>
@@ -2375,16 +2448,6 @@ Copie o link e abra-o manualmente:
     <message>
         <source>Quorvex - Data Secure Eraser</source>
         <translation>Quorvex - Apagamento seguro de dados</translation>
-    </message>
-    <message>
-        <source>Report Not Saved</source>
-        <translation>Relatório não salvo</translation>
-    </message>
-    <message>
-        <source>The erasure report could not be stored in the database.
-%1</source>
-        <translation>Não foi possível salvar o relatório de apagamento no banco de dados.
-%1</translation>
     </message>
     <message>
         <source>Wipe Free Space?</source>
@@ -2483,14 +2546,6 @@ Deseja apagar o espaço livre para que eles não possam ser recuperados?</transl
         <translation>Use os botões para adicionar arquivos e pastas</translation>
     </message>
     <message>
-        <source>Report Not Found</source>
-        <translation>Relatório não encontrado</translation>
-    </message>
-    <message>
-        <source>There is no report %1 in the database.</source>
-        <translation>Não há nenhum relatório %1 no banco de dados.</translation>
-    </message>
-    <message>
         <source>This Disk Cannot Be Erased</source>
         <translation>Este disco não pode ser apagado</translation>
     </message>
@@ -2503,6 +2558,22 @@ Deseja apagar o espaço livre para que eles não possam ser recuperados?</transl
     <message>
         <source>This Volume Cannot Be Erased</source>
         <translation>Este volume não pode ser apagado</translation>
+    </message>
+    <message>
+        <source>These Files Cannot Be Erased</source>
+        <translation>Estes arquivos não podem ser apagados</translation>
+    </message>
+    <message>
+        <source>The Erasure Cannot Start</source>
+        <translation>O apagamento não pode começar</translation>
+    </message>
+    <message>
+        <source>Erased too, without a record: %1</source>
+        <translation>Também apagado, sem registro: %1</translation>
+    </message>
+    <message>
+        <source>Not looked into: %1</source>
+        <translation>Não examinado: %1</translation>
     </message>
 </context>
 <context>
@@ -2653,6 +2724,10 @@ Deseja apagar o espaço livre para que eles não possam ser recuperados?</transl
         <source>the drive has no mounted volume whose free space could be erased</source>
         <translation>a unidade não tem nenhum volume montado cujo espaço livre possa ser apagado</translation>
     </message>
+    <message>
+        <source>bins were not looked into, what they hold is not erased</source>
+        <translation>lixeiras não foram examinadas, o que contêm não é apagado</translation>
+    </message>
 </context>
 <context>
     <name>ProgressPage</name>
@@ -2738,6 +2813,37 @@ Deseja apagar o espaço livre para que eles não possam ser recuperados?</transl
     <message>
         <source>外置硬盘</source>
         <translation>Externo</translation>
+    </message>
+</context>
+<context>
+    <name>ReportStorage</name>
+    <message>
+        <source>Another program holds the report database.</source>
+        <translation>Outro programa está usando o banco de dados de relatórios.</translation>
+    </message>
+    <message>
+        <source>The report database cannot be written.</source>
+        <translation>Não é possível gravar no banco de dados de relatórios.</translation>
+    </message>
+    <message>
+        <source>There is no room left for the report database.</source>
+        <translation>Não há mais espaço para o banco de dados de relatórios.</translation>
+    </message>
+    <message>
+        <source>The report database is damaged.</source>
+        <translation>O banco de dados de relatórios está danificado.</translation>
+    </message>
+    <message>
+        <source>The report database cannot be opened.</source>
+        <translation>Não é possível abrir o banco de dados de relatórios.</translation>
+    </message>
+    <message>
+        <source>A link is in the place of the report database.</source>
+        <translation>No lugar do banco de dados de relatórios há um link.</translation>
+    </message>
+    <message>
+        <source>The report database did not take the report.</source>
+        <translation>O banco de dados de relatórios não aceitou o relatório.</translation>
     </message>
 </context>
 <context>
@@ -2828,6 +2934,17 @@ Deseja apagar o espaço livre para que eles não possam ser recuperados?</transl
     <message>
         <source>Settings</source>
         <translation>Configurações</translation>
+    </message>
+</context>
+<context>
+    <name>StoredReport</name>
+    <message>
+        <source>Report Not Found</source>
+        <translation>Relatório não encontrado</translation>
+    </message>
+    <message>
+        <source>There is no report %1 in the database.</source>
+        <translation>Não há nenhum relatório %1 no banco de dados.</translation>
     </message>
 </context>
 <context>

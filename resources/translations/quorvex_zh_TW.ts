@@ -198,6 +198,13 @@
     </message>
 </context>
 <context>
+    <name>CertificateNumber</name>
+    <message>
+        <source>All certificate numbers of this day are taken.</source>
+        <translation>今日的憑證編號已全部用完。</translation>
+    </message>
+</context>
+<context>
     <name>CertificateRenderer</name>
     <message>
         <source>操作摘要</source>
@@ -1310,6 +1317,46 @@
         <source>volume %1</source>
         <translation>磁碟區 %1</translation>
     </message>
+    <message>
+        <source>--data-dir is empty</source>
+        <translation>--data-dir 的值為空白</translation>
+    </message>
+    <message>
+        <source>nothing to erase was found, but not every bin was looked into: %1</source>
+        <translation>找不到可抹除的項目，但並非每個資源回收筒都已查看：%1</translation>
+    </message>
+    <message>
+        <source>no bin of %1 was found</source>
+        <translation>找不到 %1 的資源回收筒</translation>
+    </message>
+    <message>
+        <source>1 entry without a record</source>
+        <translation>1 個沒有記錄的項目</translation>
+    </message>
+    <message>
+        <source>%1 entries without a record</source>
+        <translation>%1 個沒有記錄的項目</translation>
+    </message>
+    <message>
+        <source>and %1, %2</source>
+        <translation>以及 %1，%2</translation>
+    </message>
+    <message>
+        <source>%1 is a link and is not followed</source>
+        <translation>%1 是連結，不會跟隨</translation>
+    </message>
+    <message>
+        <source>%1 belongs to another user and is left alone</source>
+        <translation>%1 屬於其他使用者，將保持不動</translation>
+    </message>
+    <message>
+        <source>%1 cannot be looked into, error %2</source>
+        <translation>無法查看 %1，錯誤 %2</translation>
+    </message>
+    <message>
+        <source>--no-report does without.</source>
+        <translation>使用 --no-report 則不需要編號。</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>
@@ -1360,6 +1407,10 @@ An erasure certificate has been generated.</source>
     <message>
         <source>Left unmounted: %1</source>
         <translation>維持卸載：%1</translation>
+    </message>
+    <message>
+        <source>The report is not stored. %1</source>
+        <translation>報告未儲存。%1</translation>
     </message>
 </context>
 <context>
@@ -1847,6 +1898,21 @@ An erasure certificate has been generated.</source>
     </message>
 </context>
 <context>
+    <name>FileSurvey</name>
+    <message>
+        <source>1 file has further names; its content is erased under these too</source>
+        <translation>1 個檔案有其他名稱；在這些名稱下的內容也會被抹除</translation>
+    </message>
+    <message>
+        <source>%1 files have further names; their content is erased under these too</source>
+        <translation>%1 個檔案有其他名稱；在這些名稱下的內容也會被抹除</translation>
+    </message>
+    <message>
+        <source>Sparse files such as %1 take another %2 when they are overwritten, and only %3 are free. Nothing was written.</source>
+        <translation>像 %1 這樣的疏鬆檔案在覆寫時還需要 %2，而可用空間只有 %3。未寫入任何資料。</translation>
+    </message>
+</context>
+<context>
     <name>FileWipeWorker</name>
     <message>
         <source>内存分配失败</source>
@@ -2323,6 +2389,13 @@ An erasure certificate has been generated.</source>
     </message>
 </context>
 <context>
+    <name>JobController</name>
+    <message>
+        <source>The previous job is still ending.</source>
+        <translation>前一個工作仍在結束中。</translation>
+    </message>
+</context>
+<context>
     <name>LinkManager</name>
     <message>
         <source>配置错误</source>
@@ -2375,16 +2448,6 @@ An erasure certificate has been generated.</source>
     <message>
         <source>Quorvex - Data Secure Eraser</source>
         <translation>Quorvex - 安全資料抹除</translation>
-    </message>
-    <message>
-        <source>Report Not Saved</source>
-        <translation>報告未儲存</translation>
-    </message>
-    <message>
-        <source>The erasure report could not be stored in the database.
-%1</source>
-        <translation>無法將抹除報告儲存至資料庫。
-%1</translation>
     </message>
     <message>
         <source>Wipe Free Space?</source>
@@ -2483,14 +2546,6 @@ Would you like to wipe free space to ensure they cannot be recovered?</source>
         <translation>按一下按鈕以新增檔案與資料夾</translation>
     </message>
     <message>
-        <source>Report Not Found</source>
-        <translation>找不到報告</translation>
-    </message>
-    <message>
-        <source>There is no report %1 in the database.</source>
-        <translation>資料庫中沒有報告 %1。</translation>
-    </message>
-    <message>
         <source>This Disk Cannot Be Erased</source>
         <translation>無法抹除此磁碟</translation>
     </message>
@@ -2503,6 +2558,22 @@ Would you like to wipe free space to ensure they cannot be recovered?</source>
     <message>
         <source>This Volume Cannot Be Erased</source>
         <translation>無法抹除此磁碟區</translation>
+    </message>
+    <message>
+        <source>These Files Cannot Be Erased</source>
+        <translation>無法抹除這些檔案</translation>
+    </message>
+    <message>
+        <source>The Erasure Cannot Start</source>
+        <translation>無法開始抹除</translation>
+    </message>
+    <message>
+        <source>Erased too, without a record: %1</source>
+        <translation>一併抹除，沒有記錄：%1</translation>
+    </message>
+    <message>
+        <source>Not looked into: %1</source>
+        <translation>未查看：%1</translation>
     </message>
 </context>
 <context>
@@ -2653,6 +2724,10 @@ Would you like to wipe free space to ensure they cannot be recovered?</source>
         <source>the drive has no mounted volume whose free space could be erased</source>
         <translation>磁碟沒有已掛載且可抹除其可用空間的磁碟區</translation>
     </message>
+    <message>
+        <source>bins were not looked into, what they hold is not erased</source>
+        <translation>有資源回收筒未被查看，其內容不會被抹除</translation>
+    </message>
 </context>
 <context>
     <name>ProgressPage</name>
@@ -2738,6 +2813,37 @@ Would you like to wipe free space to ensure they cannot be recovered?</source>
     <message>
         <source>外置硬盘</source>
         <translation>外接硬碟</translation>
+    </message>
+</context>
+<context>
+    <name>ReportStorage</name>
+    <message>
+        <source>Another program holds the report database.</source>
+        <translation>另一個程式正在佔用報告資料庫。</translation>
+    </message>
+    <message>
+        <source>The report database cannot be written.</source>
+        <translation>無法寫入報告資料庫。</translation>
+    </message>
+    <message>
+        <source>There is no room left for the report database.</source>
+        <translation>報告資料庫已無可用空間。</translation>
+    </message>
+    <message>
+        <source>The report database is damaged.</source>
+        <translation>報告資料庫已損毀。</translation>
+    </message>
+    <message>
+        <source>The report database cannot be opened.</source>
+        <translation>無法開啟報告資料庫。</translation>
+    </message>
+    <message>
+        <source>A link is in the place of the report database.</source>
+        <translation>報告資料庫的位置是一個連結。</translation>
+    </message>
+    <message>
+        <source>The report database did not take the report.</source>
+        <translation>報告資料庫未接受此報告。</translation>
     </message>
 </context>
 <context>
@@ -2828,6 +2934,17 @@ Would you like to wipe free space to ensure they cannot be recovered?</source>
     <message>
         <source>Settings</source>
         <translation>設定</translation>
+    </message>
+</context>
+<context>
+    <name>StoredReport</name>
+    <message>
+        <source>Report Not Found</source>
+        <translation>找不到報告</translation>
+    </message>
+    <message>
+        <source>There is no report %1 in the database.</source>
+        <translation>資料庫中沒有報告 %1。</translation>
     </message>
 </context>
 <context>
