@@ -17,12 +17,11 @@ namespace platform {
 Result<std::unique_ptr<QFileDevice>> LinuxFiles::openForAppending(const QString &path)
 {
     constexpr const char *Operation = "open for appending";
+    const QByteArray name = encodeName(path);
     // O_NONBLOCK: a pipe without a reader would be waited for.
-    FileDescriptor opened(uninterrupted([name = encodeName(path)] {
-        return ::open(name.constData(),
-                      O_WRONLY | O_APPEND | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC,
-                      S_IRUSR | S_IWUSR);
-    }));
+    constexpr int Flags = O_WRONLY | O_APPEND | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
+    FileDescriptor opened(
+        uninterrupted([&name] { return ::open(name.constData(), Flags, S_IRUSR | S_IWUSR); }));
     if (!opened.isValid())
         return statusFromErrno(errno, Operation);
     struct stat status = {};

@@ -28,9 +28,10 @@ Result<int> appendingDescriptor(const QString &path)
     if (file == INVALID_HANDLE_VALUE)
         return statusFromLastError("CreateFile");
     BY_HANDLE_FILE_INFORMATION opened = {};
+    constexpr const char *Question = "GetFileInformationByHandle";
     const Status refusal = win32().getFileInformation(file, &opened)
-                               ? refusalOf(opened.dwFileAttributes)
-                               : statusFromLastError("GetFileInformationByHandle");
+                               ? refusalOf(opened.dwFileAttributes, Question)
+                               : statusFromLastError(Question);
     if (!refusal) {
         win32().closeHandle(file);
         return refusal;

@@ -14,16 +14,6 @@ namespace {
 constexpr DWORD ShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 constexpr qint64 LargestRead = 1 << 20;
 
-Status refusalOf(DWORD attributes)
-{
-    constexpr const char *Operation = "GetFileInformationByHandle";
-    if (isPlainFolder(attributes))
-        return {AccessDenied, ERROR_ACCESS_DENIED, Operation};
-    if (attributes & (FILE_ATTRIBUTE_REPARSE_POINT | FILE_ATTRIBUTE_DEVICE))
-        return {CannotAccessFile, ERROR_CANT_ACCESS_FILE, Operation};
-    return {};
-}
-
 Result<QByteArray> readUpTo(HANDLE file, qint64 size)
 {
     QByteArray bytes(size, Qt::Uninitialized);
@@ -55,7 +45,7 @@ Result<QByteArray> WindowsFiles::readBeginning(const QString &path, qint64 limit
     BY_HANDLE_FILE_INFORMATION opened = {};
     if (!win32().getFileInformation(file.get(), &opened))
         return statusFromLastError("GetFileInformationByHandle");
-    if (const Status refusal = refusalOf(opened.dwFileAttributes); !refusal)
+    if (const Status refusal = refusalOf(opened.dwFileAttributes, "GetFileInformationByHandle"); !refusal)
         return refusal;
     const quint64 size = quint64(opened.nFileSizeHigh) << 32 | opened.nFileSizeLow;
     return readUpTo(file.get(), static_cast<qint64>(std::min<quint64>(size, static_cast<quint64>(limit))));

@@ -32,6 +32,17 @@ inline bool isFolderLink(DWORD attributes)
     return (attributes & Both) == Both;
 }
 
+// Of what is to be opened as a regular file. Behind any reparse point the bytes are somebody else's, or
+// cannot be reached from here.
+inline Status refusalOf(DWORD attributes, const char *operation)
+{
+    if (isPlainFolder(attributes))
+        return {AccessDenied, ERROR_ACCESS_DENIED, operation};
+    if (attributes & (FILE_ATTRIBUTE_REPARSE_POINT | FILE_ATTRIBUTE_DEVICE))
+        return {CannotAccessFile, ERROR_CANT_ACCESS_FILE, operation};
+    return {};
+}
+
 inline bool isNothingThere(int error)
 {
     return error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND;

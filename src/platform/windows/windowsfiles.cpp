@@ -47,16 +47,6 @@ WinHandle openFile(const std::wstring &path, const OpenParameters &how, DWORD di
                                         how.flags | FILE_FLAG_OPEN_REPARSE_POINT, nullptr));
 }
 
-Status refusalOf(DWORD attributes, const char *operation)
-{
-    if (isPlainFolder(attributes))
-        return {AccessDenied, ERROR_ACCESS_DENIED, operation};
-    // Behind any reparse point the bytes are somebody else's, or cannot be reached from here.
-    if (attributes & (FILE_ATTRIBUTE_REPARSE_POINT | FILE_ATTRIBUTE_DEVICE))
-        return {CannotAccessFile, ERROR_CANT_ACCESS_FILE, operation};
-    return {};
-}
-
 // A file that is opened past the cache takes its pages out of the cache when nobody else has it open. Only a
 // hint: the opening that counts follows and reports what is wrong.
 void dropCached(const std::wstring &path)
