@@ -1357,6 +1357,18 @@
         <source>--no-report does without.</source>
         <translation>Mit --no-report geht es ohne.</translation>
     </message>
+    <message>
+        <source>&apos;%1&apos; is named for two outputs</source>
+        <translation>&apos;%1&apos; ist für zwei Ausgaben angegeben</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; exists and is no report; --force replaces it</source>
+        <translation>&apos;%1&apos; existiert und ist kein Bericht; --force ersetzt die Datei</translation>
+    </message>
+    <message>
+        <source>Let --report replace a file that is no report</source>
+        <translation>Erlaubt --report, eine Datei zu ersetzen, die kein Bericht ist</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>

@@ -1357,6 +1357,18 @@
         <source>--no-report does without.</source>
         <translation>--no-report does without.</translation>
     </message>
+    <message>
+        <source>&apos;%1&apos; is named for two outputs</source>
+        <translation>&apos;%1&apos; is named for two outputs</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; exists and is no report; --force replaces it</source>
+        <translation>&apos;%1&apos; exists and is no report; --force replaces it</translation>
+    </message>
+    <message>
+        <source>Let --report replace a file that is no report</source>
+        <translation>Let --report replace a file that is no report</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>

@@ -1357,6 +1357,18 @@
         <source>--no-report does without.</source>
         <translation>Con --no-report se prescinde de ellos.</translation>
     </message>
+    <message>
+        <source>&apos;%1&apos; is named for two outputs</source>
+        <translation>&apos;%1&apos; se indicó para dos salidas</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; exists and is no report; --force replaces it</source>
+        <translation>&apos;%1&apos; existe y no es un informe; --force lo reemplaza</translation>
+    </message>
+    <message>
+        <source>Let --report replace a file that is no report</source>
+        <translation>Permite que --report reemplace un archivo que no es un informe</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>

@@ -1357,6 +1357,18 @@
         <source>--no-report does without.</source>
         <translation>--no-report permet de s&apos;en passer.</translation>
     </message>
+    <message>
+        <source>&apos;%1&apos; is named for two outputs</source>
+        <translation>&apos;%1&apos; est indiqué pour deux sorties</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; exists and is no report; --force replaces it</source>
+        <translation>&apos;%1&apos; existe et n&apos;est pas un rapport&#xa0;; --force le remplace</translation>
+    </message>
+    <message>
+        <source>Let --report replace a file that is no report</source>
+        <translation>Laisse --report remplacer un fichier qui n&apos;est pas un rapport</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>

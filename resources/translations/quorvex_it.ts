@@ -1357,6 +1357,18 @@
         <source>--no-report does without.</source>
         <translation>Con --no-report se ne fa a meno.</translation>
     </message>
+    <message>
+        <source>&apos;%1&apos; is named for two outputs</source>
+        <translation>&apos;%1&apos; è indicato per due output</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; exists and is no report; --force replaces it</source>
+        <translation>&apos;%1&apos; esiste e non è un rapporto; --force lo sostituisce</translation>
+    </message>
+    <message>
+        <source>Let --report replace a file that is no report</source>
+        <translation>Consente a --report di sostituire un file che non è un rapporto</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>

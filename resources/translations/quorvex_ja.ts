@@ -1357,6 +1357,18 @@
         <source>--no-report does without.</source>
         <translation>--no-report を指定すると、番号なしで実行できます。</translation>
     </message>
+    <message>
+        <source>&apos;%1&apos; is named for two outputs</source>
+        <translation>&apos;%1&apos; が 2 つの出力先に指定されています</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; exists and is no report; --force replaces it</source>
+        <translation>&apos;%1&apos; は既に存在し、レポートではありません。--force で置き換えます</translation>
+    </message>
+    <message>
+        <source>Let --report replace a file that is no report</source>
+        <translation>--report でレポート以外のファイルも置き換える</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>

@@ -1357,6 +1357,18 @@
         <source>--no-report does without.</source>
         <translation>--no-report를 사용하면 번호 없이 진행합니다.</translation>
     </message>
+    <message>
+        <source>&apos;%1&apos; is named for two outputs</source>
+        <translation>&apos;%1&apos;이(가) 두 출력에 지정되었습니다</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; exists and is no report; --force replaces it</source>
+        <translation>&apos;%1&apos;이(가) 있으며 보고서가 아닙니다. --force로 교체합니다</translation>
+    </message>
+    <message>
+        <source>Let --report replace a file that is no report</source>
+        <translation>--report가 보고서가 아닌 파일도 교체하도록 허용</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>

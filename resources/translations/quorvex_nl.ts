@@ -1357,6 +1357,18 @@
         <source>--no-report does without.</source>
         <translation>Met --no-report gaat het zonder.</translation>
     </message>
+    <message>
+        <source>&apos;%1&apos; is named for two outputs</source>
+        <translation>&apos;%1&apos; is voor twee uitvoerbestanden opgegeven</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; exists and is no report; --force replaces it</source>
+        <translation>&apos;%1&apos; bestaat en is geen rapport; --force vervangt het</translation>
+    </message>
+    <message>
+        <source>Let --report replace a file that is no report</source>
+        <translation>Laat --report een bestand vervangen dat geen rapport is</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>

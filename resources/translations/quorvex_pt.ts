@@ -1357,6 +1357,18 @@
         <source>--no-report does without.</source>
         <translation>Com --no-report dispensa-se o número.</translation>
     </message>
+    <message>
+        <source>&apos;%1&apos; is named for two outputs</source>
+        <translation>&apos;%1&apos; foi indicado para duas saídas</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; exists and is no report; --force replaces it</source>
+        <translation>&apos;%1&apos; existe e não é um relatório; --force o substitui</translation>
+    </message>
+    <message>
+        <source>Let --report replace a file that is no report</source>
+        <translation>Permite que --report substitua um arquivo que não é um relatório</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>

@@ -1357,6 +1357,18 @@
         <source>--no-report does without.</source>
         <translation>使用 --no-report 則不需要編號。</translation>
     </message>
+    <message>
+        <source>&apos;%1&apos; is named for two outputs</source>
+        <translation>&apos;%1&apos; 被指定為兩個輸出</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; exists and is no report; --force replaces it</source>
+        <translation>&apos;%1&apos; 已存在且不是報告；--force 會取代它</translation>
+    </message>
+    <message>
+        <source>Let --report replace a file that is no report</source>
+        <translation>允許 --report 取代不是報告的檔案</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>

@@ -21,7 +21,8 @@ bool WholeFile::open()
 
 bool WholeFile::commit(const QByteArray &bytes)
 {
-    if (m_file.write(bytes) != bytes.size()) {
+    // commit() does not tell that what was still in the buffer could not be written.
+    if (m_file.write(bytes) != bytes.size() || !m_file.flush()) {
         m_file.cancelWriting();
         return failed("write");
     }

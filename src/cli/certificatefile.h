@@ -29,6 +29,9 @@ public:
     // Absolute, for the user: the file, or the folder.
     QString path() const { return isFolder() ? m_folder : m_file.path(); }
 
+    // The file; none where it is a folder.
+    const OutputFile &file() const { return m_file; }
+
     bool liesWithin(const QStringList &paths) const;
     // Tries whether one could be written; changes nothing.
     bool isWritable() const;

@@ -2,6 +2,8 @@
 
 #include "cli/command.h"
 #include "cli/commandline.h"
+#include "cli/globaloptions.h"
+#include "cli/reporttext.h"
 #include "cli/translate.h"
 #include "cli/wipeoptions.h"
 #include "jobs/reportstorage.h"
@@ -9,6 +11,12 @@
 #include "model/joboutcome.h"
 #include "model/wipereport.h"
 #include "services/reportdatabase.h"
+
+#include <QFile>
+#include <QStandardPaths>
+
+#include <algorithm>
+#include <iterator>
 
 namespace cli {
 
@@ -31,6 +39,49 @@ std::optional<Refusal> check(const File &file, const QStringList &doomedPaths,
     return std::nullopt;
 }
 
+// Something else than a report, which somebody may miss.
+bool isForeign(const OutputFile &file)
+{
+    constexpr qint64 LargestReport = 256LL * 1024 * 1024; // a line for each of some million files
+    QFile standing(file.path());
+    if (!file.isWanted() || !standing.exists() || standing.size() == 0)
+        return false;
+    return standing.size() > LargestReport || !standing.open(QIODevice::ReadOnly) ||
+           !namesCertificate(standing.readAll());
+}
+
+// What the job writes by itself lies in the data folder.
+QList<OutputFile> outputsOf(const WipeOptions &options, const CommandContext &context)
+{
+    const QString given = dataFolder(context.options);
+    const QString folder =
+        given.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) : given;
+    QList<OutputFile> outputs{options.reportFile, options.certificate.file()};
+    for (const QString &name : {u"/quorvex.db"_s, u"/quorvex.log"_s}) {
+        if (const auto file = OutputFile::at(folder + name, {}))
+            outputs.append(*file);
+    }
+    return outputs;
+}
+
+std::optional<Refusal> checkOutputs(const WipeOptions &options, const CommandContext &context,
+                                    const QStringList &commandWords)
+{
+    const QList<OutputFile> outputs = outputsOf(options, context);
+    for (auto one = outputs.cbegin(); one != outputs.cend(); ++one) {
+        const auto other = std::find_if(std::next(one), outputs.cend(),
+                                        [&one](const OutputFile &file) { return one->isSameAs(file); });
+        if (other != outputs.cend())
+            return wrongCommandLine(Cli::tr("'%1' is named for two outputs").arg(displayText(one->path())),
+                                    commandWords);
+    }
+    if (!options.replacesAnything && isForeign(options.reportFile))
+        return wrongCommandLine(Cli::tr("'%1' exists and is no report; --force replaces it")
+                                    .arg(displayText(options.reportFile.path())),
+                                commandWords);
+    return std::nullopt;
+}
+
 std::optional<Refusal> checkStore(const ReportStore &store, const QStringList &doomedPaths)
 {
     const auto file = OutputFile::at(store.folder() + u"/quorvex.db"_s, {});
@@ -49,6 +100,8 @@ Outcome<JobRecords> JobRecords::prepare(const WipeOptions &options, const Comman
     if (const auto refusal = check(options.reportFile, doomedPaths, commandWords))
         return *refusal;
     if (const auto refusal = check(options.certificate, doomedPaths, commandWords))
+        return *refusal;
+    if (const auto refusal = checkOutputs(options, context, commandWords))
         return *refusal;
     JobRecords records;
     records.m_reportFile = options.reportFile;

@@ -99,6 +99,17 @@ bool OutputFile::liesWithin(const QStringList &paths) const
     });
 }
 
+bool OutputFile::isSameAs(const OutputFile &other) const
+{
+    const auto place = [](const OutputFile &file) {
+        const QFileInfo info(file.m_path);
+        const QString canonical = info.canonicalFilePath();
+        // One that is not there yet.
+        return folded(canonical.isEmpty() ? FolderNames().canonical(file.m_path) : canonical);
+    };
+    return isWanted() && other.isWanted() && place(*this) == place(other);
+}
+
 bool OutputFile::isWritable() const
 {
     QSaveFile file(m_path);
@@ -111,7 +122,9 @@ bool OutputFile::isWritable() const
 bool OutputFile::write(const QByteArray &content) const
 {
     QSaveFile file(m_path);
-    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit();
+    // commit() does not tell that what was still in the buffer could not be written.
+    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.flush() &&
+           file.commit();
 }
 
 } // namespace cli

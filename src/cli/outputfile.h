@@ -26,6 +26,8 @@ public:
     // Whether the file is one of the absolute paths or lies below one, also through links: it would be
     // destroyed with them.
     bool liesWithin(const QStringList &paths) const;
+    // Whether both are one file, also through links.
+    bool isSameAs(const OutputFile &other) const;
     // Tries whether it could be written; changes nothing.
     bool isWritable() const;
     // Writes it as a whole or not at all, replacing what stood there. False when that failed.

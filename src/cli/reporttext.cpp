@@ -8,6 +8,7 @@
 #include "model/formatsize.h"
 
 #include <QJsonDocument>
+#include <QJsonObject>
 
 namespace cli {
 
@@ -65,6 +66,11 @@ void addVerification(Table &table, const WipeReport &report)
 bool isReportText(const QByteArray &json)
 {
     return QJsonDocument::fromJson(json).isObject();
+}
+
+bool namesCertificate(const QByteArray &json)
+{
+    return QJsonDocument::fromJson(json).object().value(u"certificateId"_s).isString();
 }
 
 QString targetText(const WipeReport &report)

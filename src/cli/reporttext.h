@@ -13,6 +13,9 @@ namespace cli {
 // Whether the text can be read as a report at all: one JSON object.
 bool isReportText(const QByteArray &json);
 
+// Whether it is a report, whatever became of its fields.
+bool namesCertificate(const QByteArray &json);
+
 // What the job was about, in a few words with cleaned names: the drive, or how many files.
 QString targetText(const WipeReport &report);
 

@@ -123,6 +123,7 @@ QList<QCommandLineOption> wipeOptions()
         {u"threads"_s, Cli::tr("Files to erase at the same time, 1 to 32"), u"N"_s},
         {u"buffer-mb"_s, Cli::tr("Write buffer in MiB, 1 to 1024 (64)"), u"N"_s},
         {u"report"_s, Cli::tr("Write the report as JSON into this file"), u"FILE"_s},
+        {u"force"_s, Cli::tr("Let --report replace a file that is no report")},
         {u"no-report"_s, Cli::tr("Do not store the report in the database")},
         {u"pdf"_s, Cli::tr("After a success write the certificate as PDF, into this file or folder"),
          u"FILE|DIR"_s},
@@ -168,6 +169,7 @@ Outcome<WipeOptions> readWipeOptions(const CommandContext &context, const QStrin
     reader.readNumber(u"buffer-mb"_s, 1, LargestBufferMB, options.bufferMB);
     reader.readKinds(options.accepted);
     reader.readFile(u"report"_s, options.reportFile);
+    options.replacesAnything = context.options.isSet(u"force"_s);
     reader.readFile(u"pdf"_s, options.certificate);
     if (reader.refusal())
         return *reader.refusal();

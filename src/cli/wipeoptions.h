@@ -22,6 +22,7 @@ struct WipeOptions
     int bufferMB = 0;
     bool storeReport = true; // in the database
     OutputFile reportFile;
+    bool replacesAnything = false; // with the report, not only another one
     CertificateFile certificate;
     bool skipQuestion = false;
     QList<ShortfallKind> accepted; // which do not make the exit code that of a failed job

@@ -3,6 +3,7 @@
 #include "support/testfiles.h"
 
 #include "certificate/certificaterenderer.h"
+#include "certificate/wholefile.h"
 
 #include <QDir>
 #include <QFile>
@@ -12,6 +13,8 @@
 #include <QTest>
 
 #ifdef Q_OS_LINUX
+#include "support/largestfile.h"
+
 #include <csignal>
 #include <sys/fsuid.h>
 #include <sys/resource.h>
@@ -63,31 +66,6 @@ public:
 
     static constexpr uid_t user = 65534;
 };
-
-// No file of this process grows beyond the limit: every further write fails, as on a full disk.
-class LargestFile
-{
-public:
-    explicit LargestFile(qint64 bytes)
-        : m_handler(std::signal(SIGXFSZ, SIG_IGN))
-    {
-        ::getrlimit(RLIMIT_FSIZE, &m_previous);
-        rlimit limit = m_previous;
-        limit.rlim_cur = static_cast<rlim_t>(bytes);
-        ::setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~LargestFile()
-    {
-        ::setrlimit(RLIMIT_FSIZE, &m_previous);
-        std::signal(SIGXFSZ, m_handler);
-    }
-    LargestFile(const LargestFile &) = delete;
-    LargestFile &operator=(const LargestFile &) = delete;
-
-private:
-    rlimit m_previous{};
-    void (*m_handler)(int);
-};
 #endif
 
 } // namespace
@@ -107,6 +85,7 @@ private slots:
     void readOnlyFolderFails();
     void readOnlyFileFails();
     void fullDiskKeepsThePreviousFile();
+    void whatFitsIntoABufferIsNoExceptionOnAFullDisk();
     void killedProgramKeepsThePreviousFile();
     void deviceIsRefusedAndStays();
     void pipeIsRefusedAndStays();
@@ -226,6 +205,20 @@ void tst_CertificateFile::fullDiskKeepsThePreviousFile()
         QCOMPARE(entriesOf(folder.path()), QStringList{u"c.pdf"_s});
     }
     QVERIFY(exportTo(path)); // there was nothing else in the way
+}
+
+void tst_CertificateFile::whatFitsIntoABufferIsNoExceptionOnAFullDisk()
+{
+    const QTemporaryDir folder;
+    const QString path = writeFile(folder.filePath(u"c.pdf"_s), previous);
+    bool done = true;
+    {
+        const LargestFile limit(0);
+        WholeFile file(path);
+        done = file.open() && file.commit("small");
+    }
+    QVERIFY(!done);
+    QCOMPARE(contentOf(path), previous);
 }
 
 // Killed by the kernel in the middle of the write.

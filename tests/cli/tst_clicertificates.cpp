@@ -28,6 +28,7 @@ private slots:
     void aSuccessLeavesACertificate();
     void aFolderGetsAFileForEachCertificate();
     void aFailureLeavesNone();
+    void oneFileForTwoOutputsIsAWrongLine();
     void aCertificateInWhatIsErasedIsRefused();
     void aFolderThatCannotBeWrittenStopsBeforeAnythingIs();
     void aCertificateThatCannotBeWrittenIsToldAndTheResultToo();
@@ -104,6 +105,25 @@ void tst_CliCertificates::aFailureLeavesNone()
     run(wipeDrive(path));
     QCOMPARE(run.code, 1);
     QVERIFY(!QFile::exists(path));
+}
+
+void tst_CliCertificates::oneFileForTwoOutputsIsAWrongLine()
+{
+    MemoryMachine machine;
+    addDrive(machine);
+    CliRun run;
+    run(wipeDrive(run.folder() + u"/new"_s, {u"--report"_s, run.folder() + u"/./new"_s}));
+    QCOMPARE(run.code, 2);
+    QVERIFY2(run.complains("two outputs"), run.io.err.constData());
+    CliRun log;
+    log(wipeDrive(log.folder() + u"/quorvex.log"_s));
+    QCOMPARE(log.code, 2);
+    CliRun stored;
+    stored({u"reports"_s, u"export"_s, u"QVX-2026-0305-1001"_s, u"--pdf"_s, stored.folder() + u"/x"_s,
+            u"--json-file"_s, stored.folder() + u"/x"_s});
+    QCOMPARE(stored.code, 2);
+    QVERIFY2(stored.complains("two outputs"), stored.io.err.constData());
+    QCOMPARE(machine.openings(), QStringList());
 }
 
 void tst_CliCertificates::aCertificateInWhatIsErasedIsRefused()

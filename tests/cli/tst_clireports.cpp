@@ -42,6 +42,9 @@ private slots:
     void whatWasNotReadBackIsNotCalledSo();
     void aDatabaseInWhatIsErasedIsRefused();
     void aReportThatCannotBeStoredIsToldAndTheResultToo();
+    void aForeignFileIsReplacedOnlyByForce();
+    void oneFileForTwoOutputsIsAWrongLine_data();
+    void oneFileForTwoOutputsIsAWrongLine();
     void noStoredReportIsReplaced();
     void aDayWithoutACertificateNumberLeftIsRefused();
 
@@ -284,6 +287,52 @@ void tst_CliReports::aReportThatCannotBeStoredIsToldAndTheResultToo()
     QCOMPARE(run.code, 5);
     QCOMPARE(run.io.events(u"error"_s).size(), 1);
     QVERIFY(run.io.events().constLast().value(u"success").toBool());
+}
+
+void tst_CliReports::aForeignFileIsReplacedOnlyByForce()
+{
+    MemoryMachine machine;
+    addDrive(machine);
+    const QTemporaryDir folder;
+    const QString path = writeFile(folder.filePath(u"r.json"_s), "{\"thesis\": true}");
+    CliRun run;
+    run(wipeDrive({u"--report"_s, path}));
+    QCOMPARE(run.code, 2);
+    QVERIFY2(run.complains("--force"), run.io.err.constData());
+    QCOMPARE(machine.openings(), QStringList());
+    QCOMPARE(contentOf(path), QByteArray("{\"thesis\": true}"));
+    CliRun forced;
+    forced(wipeDrive({u"--report"_s, path, u"--force"_s}));
+    QCOMPARE(forced.code, 0);
+    const QByteArray first = contentOf(path);
+    QVERIFY(first.contains("certificateId"));
+    // An earlier report, or a name that was only reserved, needs no force.
+    CliRun again;
+    again(wipeDrive({u"--report"_s, path}));
+    QCOMPARE(again.code, 0);
+    QVERIFY(contentOf(path) != first);
+    CliRun reserved;
+    reserved(wipeDrive({u"--report"_s, writeFile(folder.filePath(u"empty"_s), {})}));
+    QCOMPARE(reserved.code, 0);
+}
+
+void tst_CliReports::oneFileForTwoOutputsIsAWrongLine_data()
+{
+    QTest::addColumn<QStringList>("options");
+    QTest::newRow("report and database") << QStringList{u"--report"_s, u"%1/quorvex.db"_s, u"--force"_s};
+    QTest::newRow("report and log") << QStringList{u"--report"_s, u"%1/./quorvex.log"_s, u"--force"_s};
+}
+
+void tst_CliReports::oneFileForTwoOutputsIsAWrongLine()
+{
+    QFETCH(QStringList, options);
+    MemoryMachine machine;
+    addDrive(machine);
+    CliRun run;
+    run(wipeDrive(options.replaceInStrings(u"%1"_s, run.folder())));
+    QCOMPARE(run.code, 2);
+    QVERIFY2(run.complains("two outputs"), run.io.err.constData());
+    QCOMPARE(machine.openings(), QStringList());
 }
 
 void tst_CliReports::noStoredReportIsReplaced()

@@ -57,6 +57,8 @@ Outcome<Destinations> readDestinations(const CommandContext &context)
     if (!file)
         return file.refusal();
     destinations.json = *file;
+    if (destinations.json.isSameAs(destinations.certificate.file()))
+        return wrongCommandLine(Cli::tr("'%1' is named for two outputs").arg(displayText(path)), words());
     return destinations;
 }
 
