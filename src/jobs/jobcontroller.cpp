@@ -24,7 +24,12 @@ JobController::~JobController()
 
 WipeTask &JobController::newTask(OperationType type)
 {
-    m_engine->deleteTask(m_task);
+    // The worker's thread may be over while the end of the job is still on its way here; until then its task
+    // has the report.
+    if (m_state != State::Idle && !m_endingTask)
+        m_endingTask = m_task;
+    else
+        m_engine->deleteTask(m_task);
     m_task = new WipeTask(this);
     m_task->setOperationType(type);
     return *m_task;
@@ -100,6 +105,7 @@ void JobController::complete(bool success)
         end.leftUnmounted = m_engine->dismountedVolumes();
     if (m_keep)
         m_keep(end);
+    m_engine->deleteTask(std::exchange(m_endingTask, nullptr));
     const State was = std::exchange(m_state, State::Idle);
     const std::function<void()> then = std::exchange(m_then, {});
     if (was != State::Closing && was != State::Restarting)

@@ -72,6 +72,7 @@ signals:
 private:
     WipeEngine *m_engine;
     WipeTask *m_task = nullptr;
+    WipeTask *m_endingTask = nullptr; ///< of the job that is still ending, when there is a new one
     State m_state = State::Idle;
     Keep m_keep;
     std::function<void()> m_then;

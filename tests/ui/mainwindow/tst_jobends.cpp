@@ -12,6 +12,7 @@
 #include <QLabel>
 #include <QSemaphore>
 #include <QTest>
+#include <QThread>
 #include <QTimer>
 
 #include <array>
@@ -104,6 +105,7 @@ private slots:
     void whoeverClosesARestartingWindowStillRestarts();
     void theProgramLivesUntilTheEndIsKept();
     void aNewJobWaitsForTheOneThatIsStopping();
+    void anEndThatIsOnItsWayIsKept();
     void aQuestionAboutAJobIsTakenBackAtItsEnd_data();
     void aQuestionAboutAJobIsTakenBackAtItsEnd();
     void aDatabaseThatFailsIsToldInTheDialog();
@@ -253,6 +255,25 @@ void tst_JobEnds::aNewJobWaitsForTheOneThatIsStopping()
     QTRY_COMPARE_WITH_TIMEOUT(held.storedOutcome(), JobOutcome::Cancelled, 60000);
     QTRY_COMPARE_WITH_TIMEOUT(held.fixture->dialogs.answers.size(), 0, 60000);
     QCOMPARE(held.memory.drive(1).medium, MemoryDrive(1, DriveMachine::Size).medium);
+}
+
+// The worker's thread is over, and its last word still waits in the queue of this one.
+void tst_JobEnds::anEndThatIsOnItsWayIsKept()
+{
+    HeldJob held;
+    held.start();
+    held.fixture->prompts.buttons = {QMessageBox::Ok};
+    held.fixture->window->onStopClicked();
+    held.letGo.release();
+    QVERIFY(held.engine().findChild<QThread *>()->wait(60000));
+    held.fixture->window->onDiskWipeClicked();
+    held.fixture->window->onFileWipeClicked();
+    QCOMPARE(held.job().state(), JobController::State::Stopping);
+    held.fixture->dialogs.answers = {WindowFixture::pressButton(u"Close"_s)};
+    QCoreApplication::processEvents();
+    QCOMPARE(held.job().state(), JobController::State::Idle);
+    QCOMPARE(held.storedOutcome(), JobOutcome::Cancelled);
+    QTRY_COMPARE_WITH_TIMEOUT(held.fixture->dialogs.answers.size(), 0, 60000);
 }
 
 void tst_JobEnds::aQuestionAboutAJobIsTakenBackAtItsEnd_data()
