@@ -199,7 +199,7 @@ void tst_CertificateDialog::timeIsThatOfTheView()
     } while (second != secondText());
     QVERIFY(found);
 
-    QTRY_VERIFY(secondText() != second);
+    QTRY_VERIFY_WITH_TIMEOUT(secondText() != second, 60000);
     const CertificateDialog later(filledReport());
     QVERIFY(labelWith(later, second) == nullptr);
 }
@@ -474,7 +474,7 @@ void tst_CertificateDialog::longValuesFitTheWidth()
     QVERIFY(hash->height() >= 2 * line);
     // A wider window gives the lines back.
     dialog.resize(2000, 900);
-    QTRY_VERIFY(hash->height() < 2 * line);
+    QTRY_VERIFY_WITH_TIMEOUT(hash->height() < 2 * line, 60000);
 }
 
 void tst_CertificateDialog::buttonsHaveStylesAndNames()

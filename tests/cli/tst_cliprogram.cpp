@@ -289,10 +289,18 @@ void tst_CliProgram::aStopAtAnyMomentIsTold()
     const quint32 seed = QRandomGenerator::global()->generate();
     qInfo("seed %u", seed);
     QRandomGenerator random(seed);
+    // How long a run takes is the machine's affair: one of them tells where its moments lie.
+    const QByteArrayList job = {"--yes", "--buffer-mb", "1", "--method", "gutmann", "--json"};
+    const auto begin = std::chrono::steady_clock::now();
+    ProgramRun whole;
+    whole(QByteArrayList{"wipe", "disk", "0", "--image", image(4 << 20)} + job);
+    QCOMPARE(whole.code, 0);
+    const auto length =
+        std::chrono::duration_cast<std::chrono::microseconds>(std::chrono::steady_clock::now() - begin);
     int told = 0;
-    for (int i = 0; i < 30; ++i) {
+    for (int i = 0; i < 30 || told == 0; ++i) {
         const QByteArray path = image(4 << 20);
-        const int delay = random.bounded(60'000);
+        const int delay = random.bounded(static_cast<int>(length.count()));
         ProgramRun run;
         std::thread sender;
         run.onStart = [&sender, delay](pid_t child) {
@@ -304,8 +312,7 @@ void tst_CliProgram::aStopAtAnyMomentIsTold()
                 ::close(process);
             });
         };
-        run({"wipe", "disk", "0", "--image", path, "--yes", "--buffer-mb", "1", "--method", "gutmann",
-             "--json"});
+        run(QByteArrayList{"wipe", "disk", "0", "--image", path} + job);
         sender.join();
         const QByteArray where =
             "after " + QByteArray::number(delay) + " us: " + run.out.right(300) + run.err;
@@ -320,7 +327,6 @@ void tst_CliProgram::aStopAtAnyMomentIsTold()
         QVERIFY2(lastEvent(run.out).value(u"outcome") == QJsonValue(u"cancelled"_s), where.constData());
         ++told;
     }
-    QVERIFY(told > 0);
 }
 
 // One descriptor for each thread and each folder would be more than there are here.

@@ -34,7 +34,7 @@ void tst_StopHandler::aWishIsHeldUntilThereIsAHandler()
     int stops = 0;
     const platform::StopHandler handler([&stops] { ++stops; });
     QVERIFY(platform::StopHandler::isAsked());
-    QTRY_COMPARE(stops, 1);
+    QTRY_COMPARE_WITH_TIMEOUT(stops, 1, 60000);
     sigset_t after;
     QCOMPARE(::pthread_sigmask(SIG_SETMASK, nullptr, &after), 0);
     for (const int one : {SIGINT, SIGTERM, SIGHUP})

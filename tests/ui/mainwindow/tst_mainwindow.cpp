@@ -182,20 +182,20 @@ void tst_MainWindow::maximiseAndRestore()
     WinButton *button = titleButton(fixture, WinButton::Maximize);
     QVERIFY(button);
     QTest::mouseClick(button, Qt::LeftButton);
-    QTRY_VERIFY(fixture.window->isMaximized());
+    QTRY_VERIFY_WITH_TIMEOUT(fixture.window->isMaximized(), 60000);
     QCOMPARE(button->toolTip(), u"Restore"_s);
     QTest::mouseClick(button, Qt::LeftButton);
-    QTRY_VERIFY(!fixture.window->isMaximized());
+    QTRY_VERIFY_WITH_TIMEOUT(!fixture.window->isMaximized(), 60000);
     QCOMPARE(button->toolTip(), u"Maximize"_s);
     fixture.window->showMaximized(); // by the system, not by the button
-    QTRY_COMPARE(button->toolTip(), u"Restore"_s);
+    QTRY_COMPARE_WITH_TIMEOUT(button->toolTip(), u"Restore"_s, 60000);
 }
 
 void tst_MainWindow::theMinimiseButtonMinimises()
 {
     WindowFixture fixture;
     QTest::mouseClick(titleButton(fixture, WinButton::Minimize), Qt::LeftButton);
-    QTRY_VERIFY(fixture.window->isMinimized());
+    QTRY_VERIFY_WITH_TIMEOUT(fixture.window->isMinimized(), 60000);
 }
 
 void tst_MainWindow::theWindowIsDraggedByItsTop_data()

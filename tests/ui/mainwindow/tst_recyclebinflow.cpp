@@ -93,7 +93,7 @@ void tst_RecycleBinFlow::theBinIsShownInPieces()
     fixture.window->onRecycleBinWipeClicked();
     auto *page = fixture.window->findChild<FileSelectPage *>();
     QCOMPARE(page->stack()->currentIndex(), int(FileSelectPage::DropZoneView));
-    QTRY_COMPARE(page->stack()->currentIndex(), int(FileSelectPage::ListView));
+    QTRY_COMPARE_WITH_TIMEOUT(page->stack()->currentIndex(), int(FileSelectPage::ListView), 60000);
     QCOMPARE(page->list()->count(), 20);
     QCOMPARE(page->statsLabel()->text(), u"Found 45 items, total 315 B"_s);
     QVERIFY(page->nextButton()->isEnabled());
@@ -104,12 +104,12 @@ void tst_RecycleBinFlow::theBinIsShownInPieces()
     QVERIFY(page->list()->item(0)->data(Qt::UserRole).toString().contains(u"/Trash/files/file"_s));
 
     QScrollBar *bar = page->list()->verticalScrollBar();
-    QTRY_VERIFY(bar->maximum() > 0);
+    QTRY_VERIFY_WITH_TIMEOUT(bar->maximum() > 0, 60000);
     bar->setValue(int(0.8 * bar->maximum()) - 1);
     QCOMPARE(page->list()->count(), 20);
     bar->setValue(int(std::ceil(0.8 * bar->maximum())));
     QCOMPARE(page->list()->count(), 40);
-    QTRY_VERIFY(bar->value() < bar->maximum());
+    QTRY_VERIFY_WITH_TIMEOUT(bar->value() < bar->maximum(), 60000);
     bar->setValue(bar->maximum());
     QCOMPARE(page->list()->count(), 45);
 }
@@ -119,7 +119,7 @@ void tst_RecycleBinFlow::theShownBinIsErasedAndFreeSpaceOffered()
     WindowFixture fixture;
     addTrash(fixture, 3);
     fixture.window->onRecycleBinWipeClicked();
-    QTRY_VERIFY(fixture.button(u"Next →"_s)->isEnabled());
+    QTRY_VERIFY_WITH_TIMEOUT(fixture.button(u"Next →"_s)->isEnabled(), 60000);
     QVERIFY(fixture.click(u"Next →"_s));
     fixture.dialogs.answers = {WindowFixture::typeErase, WindowFixture::pressButton(u"Done"_s)};
     fixture.prompts.buttons = {QMessageBox::Yes};
@@ -146,7 +146,7 @@ void tst_RecycleBinFlow::anEmptyBinLeadsHomeAndOffersFreeSpace()
     WindowFixture fixture;
     fixture.prompts.buttons = {static_cast<QMessageBox::StandardButton>(answer)};
     fixture.window->onRecycleBinWipeClicked();
-    QTRY_COMPARE(fixture.prompts.boxes.size(), 1);
+    QTRY_COMPARE_WITH_TIMEOUT(fixture.prompts.boxes.size(), 1, 60000);
     QCOMPARE(fixture.prompts.boxes.constFirst().title, u"Recycle Bin is Empty"_s);
     QCOMPARE(fixture.window->currentPage(), page);
 }
@@ -160,7 +160,7 @@ void tst_RecycleBinFlow::backDuringTheScanDropsItsResult()
     QCOMPARE(fixture.window->currentPage(), int(MainWindow::Home));
     auto *watcher = fixture.window->findChild<QFutureWatcherBase *>();
     QVERIFY(watcher);
-    QTRY_VERIFY(watcher->isFinished());
+    QTRY_VERIFY_WITH_TIMEOUT(watcher->isFinished(), 60000);
     QTest::qWait(50);
     QCOMPARE(fixture.window->currentPage(), int(MainWindow::Home));
     QCOMPARE(fixture.prompts.boxes.size(), 0);
@@ -175,7 +175,7 @@ void tst_RecycleBinFlow::backAfterTheScanRestoresThePage()
     addTrash(fixture, 5);
     fixture.window->onRecycleBinWipeClicked();
     auto *page = fixture.window->findChild<FileSelectPage *>();
-    QTRY_COMPARE(page->list()->count(), 5);
+    QTRY_COMPARE_WITH_TIMEOUT(page->list()->count(), 5, 60000);
     QVERIFY(fixture.click(u"← Back"_s));
     fixture.window->onFileWipeClicked();
     QCOMPARE(page->list()->count(), 0);
@@ -192,7 +192,7 @@ void tst_RecycleBinFlow::anotherFlowLeavesTheBin()
     const QString chosen = fixture.homePath(u"chosen.txt"_s);
     writeFile(chosen, "chosen");
     fixture.window->onRecycleBinWipeClicked();
-    QTRY_VERIFY(fixture.button(u"Next →"_s)->isEnabled());
+    QTRY_VERIFY_WITH_TIMEOUT(fixture.button(u"Next →"_s)->isEnabled(), 60000);
     fixture.window->onMenuItemClicked(0);
     fixture.window->onFileWipeClicked();
     fixture.prompts.filesToOpenAnswers = {{chosen}};
@@ -209,7 +209,7 @@ void tst_RecycleBinFlow::aFileJobAfterTheBinHasItsPageBack()
     WindowFixture fixture;
     addTrash(fixture, 3);
     fixture.window->onRecycleBinWipeClicked();
-    QTRY_VERIFY(fixture.button(u"Next →"_s)->isEnabled());
+    QTRY_VERIFY_WITH_TIMEOUT(fixture.button(u"Next →"_s)->isEnabled(), 60000);
     QVERIFY(fixture.click(u"Next →"_s));
     fixture.prompts.buttons = {QMessageBox::No};
     fixture.runJob();
@@ -226,7 +226,7 @@ void tst_RecycleBinFlow::namesOfErasedFoldersLeaveTheRecords()
     writeFile(trash(fixture, u"info/project.trashinfo"_s), "[Trash Info]\nPath=/tmp/project\n");
     writeFile(trash(fixture, u"directorysizes"_s), "4 1700000000 project\n");
     fixture.window->onRecycleBinWipeClicked();
-    QTRY_VERIFY(fixture.button(u"Next →"_s)->isEnabled());
+    QTRY_VERIFY_WITH_TIMEOUT(fixture.button(u"Next →"_s)->isEnabled(), 60000);
     QVERIFY(fixture.click(u"Next →"_s));
     fixture.prompts.buttons = {QMessageBox::No};
     fixture.runJob();
@@ -249,7 +249,7 @@ void tst_RecycleBinFlow::aNameThatIsNoUnicodeIsErasedToo()
         ::close(file);
     }
     fixture.window->onRecycleBinWipeClicked();
-    QTRY_VERIFY(fixture.button(u"Next →"_s)->isEnabled());
+    QTRY_VERIFY_WITH_TIMEOUT(fixture.button(u"Next →"_s)->isEnabled(), 60000);
     QVERIFY(fixture.click(u"Next →"_s));
     fixture.prompts.buttons = {QMessageBox::No};
     fixture.runJob();
@@ -267,7 +267,7 @@ void tst_RecycleBinFlow::dropsOnTheShownBinAreIgnored()
     WindowFixture fixture;
     addTrash(fixture, 3);
     fixture.window->onRecycleBinWipeClicked();
-    QTRY_VERIFY(fixture.button(u"Next →"_s)->isEnabled());
+    QTRY_VERIFY_WITH_TIMEOUT(fixture.button(u"Next →"_s)->isEnabled(), 60000);
     auto *page = fixture.window->findChild<FileSelectPage *>();
     QMimeData files;
     files.setUrls({QUrl::fromLocalFile(fixture.homePath(u"data"_s))});
@@ -284,7 +284,7 @@ void tst_RecycleBinFlow::backFromTheMethodsKeepsTheBin()
     WindowFixture fixture;
     addTrash(fixture, 5);
     fixture.window->onRecycleBinWipeClicked();
-    QTRY_VERIFY(fixture.button(u"Next →"_s)->isEnabled());
+    QTRY_VERIFY_WITH_TIMEOUT(fixture.button(u"Next →"_s)->isEnabled(), 60000);
     QVERIFY(fixture.click(u"Next →"_s));
     QVERIFY(fixture.click(u"← 返回"_s));
     QCOMPARE(fixture.window->currentPage(), int(MainWindow::FileSelect));
@@ -299,7 +299,7 @@ void tst_RecycleBinFlow::whatVanishesAfterTheScanStopsTheJob()
     addTrash(fixture, 2);
     fixture.window->onRecycleBinWipeClicked();
     auto *page = fixture.window->findChild<FileSelectPage *>();
-    QTRY_COMPARE(page->list()->count(), 2);
+    QTRY_COMPARE_WITH_TIMEOUT(page->list()->count(), 2, 60000);
     QVERIFY(QFile::remove(trash(fixture, u"files/file000.txt"_s)));
     QVERIFY(fixture.click(u"Next →"_s));
     fixture.dialogs.answers = {WindowFixture::typeErase};
@@ -319,7 +319,7 @@ void tst_RecycleBinFlow::aBinThatIsNotLookedIntoIsTold()
     QVERIFY(QFile::link(fixture.homePath(u"elsewhere"_s), info));
     const QString told = u"Not looked into: "_s + info;
     fixture.window->onRecycleBinWipeClicked();
-    QTRY_VERIFY(fixture.button(u"Next →"_s)->isEnabled());
+    QTRY_VERIFY_WITH_TIMEOUT(fixture.button(u"Next →"_s)->isEnabled(), 60000);
     auto *page = fixture.window->findChild<FileSelectPage *>();
     QCOMPARE(page->statsLabel()->text(), u"Found 1 items, total 7 B\n"_s + told);
     QVERIFY(fixture.click(u"Next →"_s));
@@ -333,8 +333,9 @@ void tst_RecycleBinFlow::aBinThatIsNotLookedIntoIsTold()
 
     // Nothing but the link is left, and an empty bin is not the whole truth.
     fixture.window->onRecycleBinWipeClicked();
-    QTRY_VERIFY(!fixture.prompts.boxes.isEmpty() &&
-                fixture.prompts.boxes.constLast().title == u"Recycle Bin is Empty"_s);
+    QTRY_VERIFY_WITH_TIMEOUT(!fixture.prompts.boxes.isEmpty() &&
+                                 fixture.prompts.boxes.constLast().title == u"Recycle Bin is Empty"_s,
+                             60000);
     QVERIFY(fixture.prompts.boxes.constLast().text.endsWith(u"\n\n"_s + told));
 }
 
@@ -351,7 +352,7 @@ void tst_RecycleBinFlow::dataWithoutARecordIsErasedToo()
     const QString data = stick.filePath(u"$Recycle.Bin/1000/$RABCDEF.txt"_s);
     writeFile(data, "deleted");
     fixture.window->onRecycleBinWipeClicked();
-    QTRY_VERIFY(fixture.button(u"Next →"_s)->isEnabled());
+    QTRY_VERIFY_WITH_TIMEOUT(fixture.button(u"Next →"_s)->isEnabled(), 60000);
     auto *page = fixture.window->findChild<FileSelectPage *>();
     QCOMPARE(page->list()->count(), 0);
     QCOMPARE(page->statsLabel()->text(), u"Found 0 items, total 0 B\nErased too, without a record: 1"_s);
