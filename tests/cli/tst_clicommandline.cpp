@@ -187,7 +187,9 @@ void tst_CliCommandLine::aWrongLineIsToldInOneLine_data()
     option("report without a name", u"--report="_s, "''");
     option("report without a folder", u"--report=no/such/folder/r.json"_s, "no/such/folder/r.json");
     option("report is a folder", u"--report=."_s, "folder");
+#ifdef Q_OS_WIN
     option("report is a device", u"--report="_s + QProcess::nullDevice(), "no ordinary file");
+#endif
     row("two volumes, one report", {u"wipe"_s, u"free"_s, u"a"_s, u"b"_s, u"--report=r.json"_s}, "--report",
         "(read quorvex-cli wipe free --help)");
     row("an empty path", {u"wipe"_s, u"files"_s, u"a"_s, QString()}, "empty",

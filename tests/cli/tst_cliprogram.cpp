@@ -21,6 +21,7 @@
 
 #include <chrono>
 #include <csignal>
+#include <future>
 #include <thread>
 
 using namespace Qt::StringLiterals;
@@ -50,6 +51,7 @@ private slots:
     void fewOpenFilesAreEnough();
     void aReaderThatGoesAwayDoesNotBreakTheJob();
     void aFullDiskUnderTheOutputIsAFailure();
+    void aReportGoesThroughAPipe();
     void diagnosticsAreSilentUnlessWanted();
     void aFileWithAnUndecodableNameIsErased();
     void anUndecodableImageIsErased();
@@ -375,6 +377,26 @@ void tst_CliProgram::aFullDiskUnderTheOutputIsAFailure()
     QVERIFY(process.waitForFinished());
     QCOMPARE(process.exitCode(), 5);
     QVERIFY(process.readAllStandardError().contains("output"));
+}
+
+void tst_CliProgram::aReportGoesThroughAPipe()
+{
+    const QByteArray pipe = inFolder("pipe");
+    QCOMPARE(::mkfifo(pipe.constData(), 0600), 0);
+    auto reader = std::async(std::launch::async, [this, &pipe] { return content(pipe); });
+    ProgramRun run;
+    run({"wipe", "disk", "0", "--image", image(1 << 20), "--yes", "--report", pipe});
+    if (run.code != 0)
+        ::close(::open(pipe.constData(), O_WRONLY | O_NONBLOCK)); // or its reader waits for ever
+    const QJsonObject report = QJsonDocument::fromJson(reader.get()).object();
+    QVERIFY2(run.code == 0, run.err.constData());
+    QCOMPARE(report.value(u"status"), QJsonValue(3));
+
+    // The job is done, its report is not.
+    ProgramRun full;
+    full({"wipe", "disk", "0", "--image", image(1 << 20), "--yes", "--report", "/dev/full"});
+    QCOMPARE(full.code, 5);
+    QVERIFY(full.err.contains("/dev/full could not be written"));
 }
 
 void tst_CliProgram::diagnosticsAreSilentUnlessWanted()
