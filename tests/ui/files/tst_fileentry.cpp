@@ -2,6 +2,9 @@
 #include "ui/files/fileentry.h"
 
 #include "support/links.h"
+#ifdef Q_OS_LINUX
+#include "support/plainmount.h"
+#endif
 #include "support/testfiles.h"
 
 #include <QApplication>
@@ -14,6 +17,7 @@
 
 #ifdef Q_OS_UNIX
 #include <sys/stat.h>
+#include <unistd.h>
 #endif
 
 using namespace Qt::StringLiterals;
@@ -39,6 +43,7 @@ private slots:
     void aLinkIsAFileWithoutBytes();
     void linksInAFolderAreNotFollowed();
     void foldersLinkedInACircleEnd();
+    void whatIsMountedInAFolderDoesNotCount();
     void pipesHaveNoBytes();
     void aVeryDeepFolderIsSummedUp();
     void aFolderThatCannotBeReadEnds();
@@ -128,6 +133,22 @@ void tst_FileEntry::foldersLinkedInACircleEnd()
     MAKE_LINK_OR_SKIP(path(u"folder"_s), path(u"folder/sub/up"_s));
     MAKE_LINK_OR_SKIP(path(u"folder/self"_s), path(u"folder/self"_s));
     QCOMPARE(sizeOfFilesBelow(path(u"folder"_s)), 7);
+}
+
+void tst_FileEntry::whatIsMountedInAFolderDoesNotCount()
+{
+#ifdef Q_OS_LINUX
+    if (::geteuid() != 0)
+        QSKIP("SKIPPED: mounting a volume needs root");
+    write(u"folder/own"_s, 7);
+    QVERIFY(QDir(path(u"folder"_s)).mkdir(u"volume"_s));
+    const PlainMount volume("tmpfs", QString(), path(u"folder/volume"_s));
+    QVERIFY(volume.isMounted());
+    write(u"folder/volume/another's"_s, 50);
+    QCOMPARE(sizeOfFilesBelow(path(u"folder"_s)), 7);
+#else
+    QSKIP("SKIPPED: only on Linux can a test mount a volume of its own");
+#endif
 }
 
 void tst_FileEntry::pipesHaveNoBytes()
