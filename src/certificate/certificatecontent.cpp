@@ -1,6 +1,7 @@
 #include "certificate/certificatecontent.h"
 
 #include "certificate/certificaterenderer.h"
+#include "certificate/readback.h"
 #include "model/displaytext.h"
 #include "model/displaytime.h"
 #include "model/formatsize.h"
@@ -43,30 +44,56 @@ CertificateSection storageDevice(const DiskInfo &disk)
             }};
 }
 
-CertificateSection wipeDetails(const WipeReport &report)
+// The list of a report's items is mostly empty, also after a job on files.
+QString filesBeside(const WipeReport &report, const std::optional<OutcomeRecord> &outcome)
+{
+    if (!outcome || report.wipeItems.size() == report.fileCount)
+        return {};
+    return CertificateRenderer::tr("实际处理: %1").arg(report.fileCount);
+}
+
+QString verificationBeside(const WipeReport &report, const std::optional<OutcomeRecord> &outcome)
+{
+    switch (readBackOf(report, outcome)) {
+    case ReadBack::AsReported:
+        break;
+    case ReadBack::NotRead:
+        return CertificateRenderer::tr("未读回");
+    case ReadBack::NotComparable:
+        return CertificateRenderer::tr("读回的内容无法比对");
+    }
+    return {};
+}
+
+CertificateSection wipeDetails(const WipeReport &report, const std::optional<OutcomeRecord> &outcome)
 {
     CertificateSection section{CertificateRenderer::tr("擦除详情"), {}};
     if (report.operationType == FileWipe) {
-        section.rows = {{CertificateRenderer::tr("文件数量"),
-                         QString::number(report.wipeItems.size()) + CertificateRenderer::tr(" 个")}};
+        CertificateRow files{CertificateRenderer::tr("文件数量"),
+                             QString::number(report.wipeItems.size()) + CertificateRenderer::tr(" 个")};
+        files.beside = filesBeside(report, outcome);
+        section.rows.append(files);
     } else {
         section.rows = {{CertificateRenderer::tr("总扇区数"), QString::number(report.totalSectors)},
                         {CertificateRenderer::tr("已擦除扇区"), QString::number(report.wipedSectors)}};
     }
-    section.rows.append(
-        {CertificateRenderer::tr("写入数据量"), formatSize(static_cast<qint64>(report.bytesWritten))});
+    CertificateRow written{CertificateRenderer::tr("写入数据量"),
+                           formatSize(static_cast<qint64>(report.bytesWritten))};
+    if (outcome)
+        written.beside = outcome->writtenText(report.bytesWritten);
+    section.rows.append(written);
     section.rows.append({CertificateRenderer::tr("坏扇区数"), QString::number(report.badSectors)});
     return section;
 }
 
-CertificateSection verification(const WipeReport &report)
+CertificateSection verification(const WipeReport &report, const std::optional<OutcomeRecord> &outcome)
 {
     CertificateSection section{
         CertificateRenderer::tr("验证信息"),
         {
             {CertificateRenderer::tr("验证结果:"),
              report.verificationPassed ? CertificateRenderer::tr("通过") : CertificateRenderer::tr("未通过"),
-             verdictFor(report.verificationPassed)},
+             verdictFor(report.verificationPassed), false, verificationBeside(report, outcome)},
             {CertificateRenderer::tr("采样数量"),
              QString::number(report.verificationSampleSize) + CertificateRenderer::tr(" 个位置")},
         }};
@@ -86,13 +113,14 @@ CertificateSection operatorInformation(const WipeReport &report)
 
 } // namespace
 
-QList<CertificateSection> certificateContent(const WipeReport &report)
+QList<CertificateSection> certificateContent(const WipeReport &report,
+                                             const std::optional<OutcomeRecord> &outcome)
 {
     QList<CertificateSection> sections{operationSummary(report)};
     if (report.operationType != FileWipe)
         sections.append(storageDevice(report.disk));
-    sections.append(wipeDetails(report));
-    sections.append(verification(report));
+    sections.append(wipeDetails(report, outcome));
+    sections.append(verification(report, outcome));
     sections.append(operatorInformation(report));
     return sections;
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "model/joboutcome.h"
+
 #include <QList>
 #include <QString>
 
@@ -16,6 +18,7 @@ struct CertificateRow
     QString value; ///< safe to show: see displayText()
     std::optional<Verdict> verdict{}; ///< set in a highlighted row
     bool strongLabel = false;         ///< a highlighted row whose label is as large and bold as the value
+    QString beside{}; ///< what the outcome knows better, behind the value that stays as the report has it
 };
 
 struct CertificateSection
@@ -24,5 +27,6 @@ struct CertificateSection
     QList<CertificateRow> rows;
 };
 
-/// What the painted page says about a job, in order, in the user's language.
-QList<CertificateSection> certificateContent(const WipeReport &report);
+/// What the painted page says about a job, in order, in the user's language; the outcome may be unknown.
+QList<CertificateSection> certificateContent(const WipeReport &report,
+                                             const std::optional<OutcomeRecord> &outcome);

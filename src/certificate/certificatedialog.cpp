@@ -13,8 +13,11 @@
 #include <QPageSize>
 #include <QPrinter>
 #include <QPushButton>
+#include <QScreen>
 #include <QScrollArea>
 #include <QSettings>
+#include <QShowEvent>
+#include <QStyle>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -38,6 +41,8 @@ QPushButton *makeButton(const QString &text, QStringView style, QWidget *parent)
     auto *button = new QPushButton(text, parent);
     button->setStyleSheet(style.toString());
     button->setFixedHeight(buttonHeight);
+    // The enter key, pressed for the dialog before perhaps, must not write or print.
+    button->setAutoDefault(false);
     button->setAccessibleName(withoutPicture(text));
     return button;
 }
@@ -62,6 +67,18 @@ CertificateDialog::CertificateDialog(const WipeReport &report, QWidget *parent,
     layout->setContentsMargins(0, 0, 0, 15);
     layout->addWidget(scroll);
     layout->addWidget(makeButtonBar());
+}
+
+// On a low screen the buttons would lie below its end. Which screen it is, is known only now.
+void CertificateDialog::showEvent(QShowEvent *event)
+{
+    if (!event->spontaneous()) {
+        const int caption = style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, this);
+        const QSize room = screen()->availableSize() - QSize(0, caption);
+        setMinimumSize(minimumSize().boundedTo(room));
+        resize(size().boundedTo(room));
+    }
+    QDialog::showEvent(event);
 }
 
 QWidget *CertificateDialog::makeButtonBar()

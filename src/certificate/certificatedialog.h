@@ -19,6 +19,9 @@ public:
     explicit CertificateDialog(const WipeReport &report, QWidget *parent = nullptr,
                                const std::optional<OutcomeRecord> &outcome = {});
 
+protected:
+    void showEvent(QShowEvent *event) override;
+
 private slots:
     void onExportPdf();
     void onPrint();

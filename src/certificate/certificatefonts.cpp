@@ -21,18 +21,21 @@ const QStringList &textFamilies()
 
 } // namespace
 
-QFont certificatefonts::text(int points, QFont::Weight weight)
+QFont certificatefonts::text(double points, QFont::Weight weight)
 {
-    QFont font(textFamilies(), points, weight);
+    QFont font(textFamilies(), -1, weight);
+    font.setPointSizeF(points);
     // A PDF can only be searched for characters that have a glyph of their own, and shaping puts ligatures
     // and other forms of the digits in their place.
     font.setStyleStrategy(QFont::PreferNoShaping);
     return font;
 }
 
-QFont certificatefonts::logo()
+QFont certificatefonts::logo(double points)
 {
-    return QFont({u"Arial"_s, u"Liberation Sans"_s, u"Helvetica"_s, u"DejaVu Sans"_s}, 20, QFont::Bold);
+    QFont font({u"Arial"_s, u"Liberation Sans"_s, u"Helvetica"_s, u"DejaVu Sans"_s}, -1, QFont::Bold);
+    font.setPointSizeF(points);
+    return font;
 }
 
 QList<QRawFont> certificatefonts::rawTextFonts()

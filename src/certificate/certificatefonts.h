@@ -7,8 +7,8 @@
 /// every language of the program has its characters.
 namespace certificatefonts {
 
-QFont text(int points, QFont::Weight weight = QFont::Normal);
-QFont logo();
+QFont text(double points, QFont::Weight weight = QFont::Normal);
+QFont logo(double points);
 
 /// What text() may draw with, one for each family and weight that is installed.
 QList<QRawFont> rawTextFonts();

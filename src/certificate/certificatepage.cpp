@@ -11,7 +11,7 @@
 #include <QPainter>
 #include <QStringList>
 
-#include <array>
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -26,10 +26,15 @@ constexpr int rowHeight = 6;
 // at the same pixel.
 constexpr int valueWidthPixels = 500;
 
-constexpr std::array outcomePoints{10, 9, 8, 7, 6, 5, 4, 3};
+constexpr int outcomeRoom = 8;
+constexpr int outcomeGap = 2;
+constexpr int mostOutcomeLines = 4;
+
+constexpr int besideGap = 3;
 
 constexpr int centred = Qt::AlignCenter;
 constexpr int leftCentred = Qt::AlignLeft | Qt::AlignVCenter;
+constexpr int outcomeFlags = Qt::AlignCenter | Qt::TextWordWrap;
 
 const QColor ruleColour(0xe2, 0xe8, 0xf0);
 const QColor disclaimerBackground(0xf1, 0xf5, 0xf9);
@@ -41,14 +46,12 @@ int toPixels(int millimetres, int dpi)
 
 } // namespace
 
-CertificatePage::CertificatePage(QPainter &painter, const CertificatePalette &palette, int width, int height,
-                                 int dpi)
+CertificatePage::CertificatePage(QPainter &painter, const CertificatePalette &palette, const Paper &paper)
     : m_painter(painter)
     , m_palette(palette)
-    , m_dpi(dpi)
-    , m_height(height)
-    , m_left(toPixels(margin, dpi))
-    , m_width(width - 2 * m_left)
+    , m_paper(paper)
+    , m_left(toPixels(margin, paper.dpi))
+    , m_width(paper.width - 2 * m_left)
     , m_y(m_left)
 {}
 
@@ -56,27 +59,46 @@ void CertificatePage::paint(const WipeReport &report, const std::optional<Outcom
 {
     m_painter.setRenderHint(QPainter::Antialiasing);
     m_painter.setRenderHint(QPainter::TextAntialiasing);
+    layOut(report, outcome);
+    paintFooter();
+}
 
+int CertificatePage::contentEnd(const WipeReport &report, const std::optional<OutcomeRecord> &outcome)
+{
+    m_paints = false;
+    layOut(report, outcome);
+    m_paints = true;
+    return m_y;
+}
+
+void CertificatePage::layOut(const WipeReport &report, const std::optional<OutcomeRecord> &outcome)
+{
+    m_y = m_left;
+    m_hasOutcome = outcome.has_value();
     paintLogo();
     paintTitles();
     paintIdentity(displayText(report.certificateId));
     paintRule();
     if (outcome)
-        paintOutcome(*outcome, report.bytesWritten);
+        paintOutcome(*outcome);
     bool isFirst = true;
-    for (const CertificateSection &section : certificateContent(report)) {
+    for (const CertificateSection &section : certificateContent(report, outcome)) {
         if (!isFirst)
             moveDown(5);
         isFirst = false;
         paintSection(section);
     }
     paintDisclaimer();
-    paintFooter();
 }
 
 int CertificatePage::pixels(int millimetres) const
 {
-    return toPixels(millimetres, m_dpi);
+    return toPixels(millimetres, m_paper.dpi);
+}
+
+QFont CertificatePage::textFont(int points, QFont::Weight weight) const
+{
+    return certificatefonts::text(points * m_paper.letterScale, weight);
 }
 
 QRect CertificatePage::fullWidth(int heightMillimetres) const
@@ -92,10 +114,12 @@ void CertificatePage::moveDown(int millimetres)
 void CertificatePage::paintLogo()
 {
     const QRect disc(m_left + m_width / 2 - pixels(15), m_y, pixels(30), pixels(30));
-    m_painter.setPen(Qt::NoPen);
-    m_painter.setBrush(colour(CertificateColour::Primary));
-    m_painter.drawEllipse(disc);
-    write(disc, centred, u"QV"_s, certificatefonts::logo(), Qt::white);
+    if (m_paints) {
+        m_painter.setPen(Qt::NoPen);
+        m_painter.setBrush(colour(CertificateColour::Primary));
+        m_painter.drawEllipse(disc);
+    }
+    write(disc, centred, u"QV"_s, certificatefonts::logo(20 * m_paper.letterScale), Qt::white);
     moveDown(35);
 }
 
@@ -103,9 +127,9 @@ void CertificatePage::paintTitles()
 {
     // Descenders of a 22 point letter reach below the box.
     write(fullWidth(10), centred | Qt::TextDontClip, CertificateRenderer::tr("数据擦除证书"),
-          certificatefonts::text(22, QFont::Bold), colour(CertificateColour::Text));
+          textFont(22, QFont::Bold), colour(CertificateColour::Text));
     moveDown(12);
-    write(fullWidth(6), centred, u"Data Wipe Certificate"_s, certificatefonts::text(11),
+    write(fullWidth(6), centred, u"Data Wipe Certificate"_s, textFont(11),
           colour(CertificateColour::SecondaryText));
     moveDown(10);
 }
@@ -116,38 +140,53 @@ void CertificatePage::paintIdentity(const QString &certificateId)
     const QString now = displayTime(QDateTime::currentDateTime());
     const QString line = CertificateRenderer::tr("证书编号: ") + certificateId + u"    "_s +
                          CertificateRenderer::tr("生成时间: ") + now;
-    write(fullWidth(8), centred, line, certificatefonts::text(9), colour(CertificateColour::SecondaryText));
+    write(fullWidth(8), centred, line, textFont(9), colour(CertificateColour::SecondaryText));
     moveDown(12);
 }
 
 void CertificatePage::paintRule()
 {
-    m_painter.setPen(QPen(ruleColour, 1));
-    m_painter.drawLine(m_left, m_y, m_left + m_width, m_y);
-    moveDown(8);
+    drawLine(QPen(ruleColour, 1), m_width);
+    moveDown(outcomeRoom);
 }
 
-// Between the rule and the first section, where nothing else has to move: what stands further down may
-// already pass the end of the page. Letters are as large as the room allows.
-void CertificatePage::paintOutcome(const OutcomeRecord &outcome, quint64 givenBytes)
+// Between the rule and the first section, in letters as large as those of the status, which may say that the
+// job was completed. What one line's room does not hold moves the rest down.
+void CertificatePage::paintOutcome(const OutcomeRecord &outcome)
 {
-    const QString summary = outcome.summary();
-    QStringList lines{summary, outcome.writtenText(givenBytes)};
-    lines.removeAll(QString());
-    if (lines.isEmpty())
+    const QFont font = textFont(10, QFont::Bold);
+    const QString text = outcomeText(outcome, font);
+    if (text.isEmpty())
         return;
-    const QString text = lines.join(u'\n');
-    const QRect box(m_left, m_y - pixels(8) + 1, m_width, pixels(8) - 1);
-    constexpr int flags = Qt::AlignCenter | Qt::TextWordWrap;
-    QFont font;
-    for (const int points : outcomePoints) {
-        font = certificatefonts::text(points, QFont::Bold);
-        m_painter.setFont(font);
-        if (box.contains(m_painter.boundingRect(box, flags, text)))
+    const int further = heightOf(text, font) - heightOf(u"A"_s, font);
+    const int room = pixels(outcomeRoom) - 1;
+    const QRect box(m_left, m_y - room, m_width, room + further);
+    write(box, outcomeFlags, text, font, colour(CertificateColour::Failure));
+    if (further > 0)
+        m_y += further + pixels(outcomeGap);
+}
+
+// As many kinds of what the job fell short of as a few lines hold; who wants the others is told where they
+// are.
+QString CertificatePage::outcomeText(const OutcomeRecord &outcome, const QFont &font) const
+{
+    QString all = outcome.summary();
+    const int mostHeight = mostOutcomeLines * heightOf(u"A"_s, font);
+    if (heightOf(all, font) <= mostHeight)
+        return all;
+    QString text;
+    for (qsizetype kinds = outcome.shortfallKinds().size() - 1; kinds > 0; --kinds) {
+        text = outcome.summary(kinds) + u' ' + CertificateRenderer::tr("(全部内容见本程序历史记录)");
+        if (heightOf(text, font) <= mostHeight)
             break;
     }
-    write(box, flags, text, font,
-          colour(summary.isEmpty() ? CertificateColour::SecondaryText : CertificateColour::Failure));
+    return text;
+}
+
+int CertificatePage::heightOf(const QString &text, const QFont &font) const
+{
+    m_painter.setFont(font);
+    return m_painter.boundingRect(QRect(0, 0, m_width, 1), outcomeFlags, text).height();
 }
 
 void CertificatePage::paintSection(const CertificateSection &section)
@@ -163,11 +202,9 @@ void CertificatePage::paintSection(const CertificateSection &section)
 
 void CertificatePage::paintHeading(const QString &title)
 {
-    write(fullWidth(7), leftCentred, title, certificatefonts::text(12, QFont::Bold),
-          colour(CertificateColour::Text));
+    write(fullWidth(7), leftCentred, title, textFont(12, QFont::Bold), colour(CertificateColour::Text));
     moveDown(7);
-    m_painter.setPen(QPen(colour(CertificateColour::Primary), 0));
-    m_painter.drawLine(m_left, m_y, m_left + pixels(40), m_y);
+    drawLine(QPen(colour(CertificateColour::Primary), 0), pixels(40));
     moveDown(5);
 }
 
@@ -176,10 +213,14 @@ void CertificatePage::paintRow(const CertificateRow &row)
     const QRect labelBox(m_left, m_y, pixels(labelWidth), pixels(rowHeight));
     const QRect valueBox(m_left + pixels(labelWidth) + pixels(labelGap), m_y, valueWidthPixels,
                          pixels(rowHeight));
-    const QFont font = certificatefonts::text(10);
+    const QFont font = textFont(10);
     write(labelBox, leftCentred, row.label + u':', font, colour(CertificateColour::SecondaryText));
     write(valueBox, leftCentred, row.value, font, colour(CertificateColour::Text));
+    if (!row.beside.isEmpty())
+        paintBeside(row, valueBox, font);
     moveDown(7);
+    if (m_hasOutcome && widthOf(row.value, font) > valueBox.width())
+        paintWhole(row.value, valueBox.left());
 }
 
 void CertificatePage::paintHighlightedRow(const CertificateRow &row)
@@ -187,43 +228,86 @@ void CertificatePage::paintHighlightedRow(const CertificateRow &row)
     const QRect labelBox(m_left, m_y, pixels(labelWidth), pixels(rowHeight));
     const int indent = pixels(labelWidth) + pixels(labelGap);
     const QRect valueBox(m_left + indent, m_y, m_width - indent, pixels(rowHeight));
-    const QFont strong = certificatefonts::text(10, QFont::Bold);
+    const QFont strong = textFont(10, QFont::Bold);
     const bool good = row.verdict == Verdict::Good;
-    write(labelBox, leftCentred, row.label, row.strongLabel ? strong : certificatefonts::text(9),
+    write(labelBox, leftCentred, row.label, row.strongLabel ? strong : textFont(9),
           colour(CertificateColour::SecondaryText));
     write(valueBox, leftCentred, row.value, strong,
           colour(good ? CertificateColour::Success : CertificateColour::Failure));
+    if (!row.beside.isEmpty())
+        paintBeside(row, valueBox, strong);
     moveDown(8);
+}
+
+// Right behind the value.
+void CertificatePage::paintBeside(const CertificateRow &row, const QRect &valueBox, const QFont &font)
+{
+    const int value = std::min(widthOf(row.value, font), valueBox.width());
+    const int left = valueBox.left() + value + pixels(besideGap);
+    const QRect box(left, m_y, m_left + m_width - left, pixels(rowHeight));
+    write(box, leftCentred, row.beside, font,
+          colour(row.verdict ? CertificateColour::Text : CertificateColour::SecondaryText));
+}
+
+// A serial number or a hash of which a part is missing proves nothing: all of it, once more, below.
+void CertificatePage::paintWhole(const QString &value, int left)
+{
+    constexpr int flags = Qt::AlignLeft | Qt::AlignTop | Qt::TextWrapAnywhere;
+    const QFont font = textFont(8);
+    m_painter.setFont(font);
+    const QRect room(left, m_y, m_left + m_width - left, 1);
+    const QRect box(room.topLeft(), QSize(room.width(), m_painter.boundingRect(room, flags, value).height()));
+    write(box, flags, value, font, colour(CertificateColour::SecondaryText));
+    m_y += box.height() + pixels(1);
+}
+
+int CertificatePage::widthOf(const QString &text, const QFont &font) const
+{
+    m_painter.setFont(font);
+    return m_painter.boundingRect(QRect(0, 0, 1, 1), Qt::AlignLeft | Qt::TextSingleLine, text).width();
 }
 
 void CertificatePage::paintDisclaimer()
 {
     moveDown(15);
     const QRect box = fullWidth(30);
-    m_painter.setPen(Qt::NoPen);
-    m_painter.setBrush(disclaimerBackground);
-    m_painter.drawRoundedRect(box, pixels(2), pixels(2));
+    if (m_paints) {
+        m_painter.setPen(Qt::NoPen);
+        m_painter.setBrush(disclaimerBackground);
+        m_painter.drawRoundedRect(box, pixels(2), pixels(2));
+    }
     const int inset = pixels(3);
     write(box.adjusted(inset, inset, -inset, -inset), Qt::AlignLeft | Qt::TextWordWrap,
           CertificateRenderer::tr(
               "声明: 本证书证明上述存储设备/文件已按照指定的数据擦除标准进行了安全擦除操作。"
               "擦除过程符合相关数据保护法规的要求。本证书由 Quorvex "
               "软件自动生成，可作为数据销毁的合规性证明文件。"),
-          certificatefonts::text(8), colour(CertificateColour::SecondaryText));
+          textFont(8), colour(CertificateColour::SecondaryText));
+    m_y += box.height();
 }
 
 void CertificatePage::paintFooter()
 {
-    const QRect box(m_left, m_height - m_left, m_width, pixels(5));
-    write(box, centred, u"Quorvex Pro v2.1.0 - "_s + CertificateRenderer::tr("专业数据擦除工具"),
-          certificatefonts::text(8), colour(CertificateColour::SecondaryText));
+    const QRect box(m_left, footerTop(), m_width, pixels(5));
+    write(box, centred, u"Quorvex Pro v2.1.0 - "_s + CertificateRenderer::tr("专业数据擦除工具"), textFont(8),
+          colour(CertificateColour::SecondaryText));
 }
 
 void CertificatePage::write(const QRect &box, int flags, const QString &text, const QFont &font,
                             const QColor &colour)
 {
+    if (!m_paints)
+        return;
     m_painter.setFont(font);
     m_painter.setPen(colour);
     m_painter.drawText(box, flags, text);
     m_text += text;
+}
+
+void CertificatePage::drawLine(const QPen &pen, int length)
+{
+    if (!m_paints)
+        return;
+    m_painter.setPen(pen);
+    m_painter.drawLine(m_left, m_y, m_left + length, m_y);
 }

@@ -3,13 +3,14 @@
 #include "certificate/certificatepalette.h"
 #include "model/joboutcome.h"
 
+#include <QFont>
 #include <QRect>
 #include <QString>
 
 #include <optional>
 
-QT_FORWARD_DECLARE_CLASS(QFont)
 QT_FORWARD_DECLARE_CLASS(QPainter)
+QT_FORWARD_DECLARE_CLASS(QPen)
 
 struct CertificateRow;
 struct CertificateSection;
@@ -20,15 +21,29 @@ struct WipeReport;
 class CertificatePage
 {
 public:
-    CertificatePage(QPainter &painter, const CertificatePalette &palette, int width, int height, int dpi);
+    struct Paper
+    {
+        int width;
+        int height;
+        int dpi;
+        double letterScale = 1; ///< where the painter's device has another resolution: by what letters differ
+    };
+
+    CertificatePage(QPainter &painter, const CertificatePalette &palette, const Paper &paper);
 
     void paint(const WipeReport &report, const std::optional<OutcomeRecord> &outcome);
+
+    /// Where the content ends, which may be below the footer or the paper. Paints nothing.
+    int contentEnd(const WipeReport &report, const std::optional<OutcomeRecord> &outcome);
+    int footerTop() const { return m_paper.height - m_left; }
 
     /// Everything that was written on the page.
     QString text() const { return m_text; }
 
 private:
+    void layOut(const WipeReport &report, const std::optional<OutcomeRecord> &outcome);
     int pixels(int millimetres) const;
+    QFont textFont(int points, QFont::Weight weight = QFont::Normal) const;
     /// Over the whole width of the content, at the present position.
     QRect fullWidth(int heightMillimetres) const;
     void moveDown(int millimetres);
@@ -37,23 +52,30 @@ private:
     void paintTitles();
     void paintIdentity(const QString &certificateId);
     void paintRule();
-    void paintOutcome(const OutcomeRecord &outcome, quint64 givenBytes);
+    void paintOutcome(const OutcomeRecord &outcome);
+    QString outcomeText(const OutcomeRecord &outcome, const QFont &font) const;
+    int heightOf(const QString &text, const QFont &font) const;
     void paintSection(const CertificateSection &section);
     void paintHeading(const QString &title);
     void paintRow(const CertificateRow &row);
     void paintHighlightedRow(const CertificateRow &row);
+    void paintBeside(const CertificateRow &row, const QRect &valueBox, const QFont &font);
+    void paintWhole(const QString &value, int left);
+    int widthOf(const QString &text, const QFont &font) const;
     void paintDisclaimer();
     void paintFooter();
 
     void write(const QRect &box, int flags, const QString &text, const QFont &font, const QColor &colour);
+    void drawLine(const QPen &pen, int length);
     QColor colour(CertificateColour role) const { return colourOf(m_palette, role); }
 
     QPainter &m_painter;
     const CertificatePalette &m_palette;
-    const int m_dpi;
-    const int m_height;
+    const Paper m_paper;
     const int m_left;  ///< the margin on every side
     const int m_width; ///< of the content
     int m_y;
+    bool m_paints = true;
+    bool m_hasOutcome = false;
     QString m_text;
 };

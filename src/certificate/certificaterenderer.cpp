@@ -2,6 +2,7 @@
 
 #include "certificate/certificatefonts.h"
 #include "certificate/certificatepage.h"
+#include "certificate/certificatepaper.h"
 #include "certificate/searchablepdf.h"
 #include "model/wipereport.h"
 #include "platform/wholefile.h"
@@ -30,18 +31,18 @@ bool CertificateRenderer::exportToPdf(const WipeReport &report, const QString &f
     buffer.open(QIODevice::WriteOnly);
     QPdfWriter writer(&buffer);
     writer.setPageSize(QPageSize(QPageSize::A4));
-    writer.setResolution(300);
+    writer.setResolution(PaperResolution);
     writer.setTitle(u"%1 %2"_s.arg(tr("数据擦除证书"), report.certificateId));
     writer.setCreator(u"Quorvex 5.0"_s);
 
     QPainter painter(&writer);
     if (!painter.isActive())
         return false;
-    CertificatePage page(painter, m_palette, writer.width(), writer.height(), writer.resolution());
-    page.paint(report, outcome);
+    const QString text = paintOnPaper(painter, m_palette, {writer.width(), writer.height()},
+                                      writer.resolution(), report, outcome);
     if (!painter.end())
         return false;
-    return file.commit(withSearchableText(buffer.data(), page.text(), certificatefonts::rawTextFonts()));
+    return file.commit(withSearchableText(buffer.data(), text, certificatefonts::rawTextFonts()));
 }
 
 bool CertificateRenderer::print(const WipeReport &report, QPrinter *printer,
@@ -50,15 +51,17 @@ bool CertificateRenderer::print(const WipeReport &report, QPrinter *printer,
     if (printer == nullptr)
         return false;
     printer->setPageSize(QPageSize(QPageSize::A4));
+    printer->setResolution(PaperResolution);
     QPainter painter(printer);
     if (!painter.isActive())
         return false;
-    render(painter, report, printer->width(), printer->height(), printer->resolution(), outcome);
+    paintOnPaper(painter, m_palette, {printer->width(), printer->height()}, printer->resolution(), report,
+                 outcome);
     return true;
 }
 
 void CertificateRenderer::render(QPainter &painter, const WipeReport &report, int width, int height, int dpi,
                                  const std::optional<OutcomeRecord> &outcome) const
 {
-    CertificatePage(painter, m_palette, width, height, dpi).paint(report, outcome);
+    CertificatePage(painter, m_palette, {width, height, dpi}).paint(report, outcome);
 }

@@ -26,12 +26,16 @@ public:
     /// was. A file is replaced, also behind a link; a folder, a device or a pipe is refused, and so is a
     /// folder in which no file can be made.
     ///
-    /// Of a job that is known not to be complete each of these says so in a line; a report whose outcome is
-    /// not known says what it says itself.
+    /// All of a longer page lies on the paper, smaller and in the middle.
+    ///
+    /// Of a job that is known not to be complete each of these says so, and where the outcome knows better
+    /// than the report what was written, counted and read back, that stands beside it; values that are cut
+    /// stand below once more, whole. A report whose outcome is not known says what it says itself.
     bool exportToPdf(const WipeReport &report, const QString &filePath,
                      const std::optional<OutcomeRecord> &outcome = {}) const;
 
-    /// False without a printer, or when it does not take the job. Sets the paper to A4.
+    /// False without a printer, or when it does not take the job. Sets the paper to A4 and the resolution to
+    /// that of the file, so that both look alike; so do they on a printer that keeps its own.
     bool print(const WipeReport &report, QPrinter *printer,
                const std::optional<OutcomeRecord> &outcome = {}) const;
 

@@ -2,6 +2,8 @@
 
 #include "certificate/certificatedialog.h"
 #include "certificate/certificatestyles.h"
+#include "certificate/readback.h"
+#include "certificate/selectablevalue.h"
 #include "certificate/valuelabel.h"
 #include "model/displaytext.h"
 #include "model/displaytime.h"
@@ -92,7 +94,13 @@ ViewSection erasureDetails(const WipeReport &report, const std::optional<Outcome
     return section;
 }
 
-ViewSection verification(const WipeReport &report)
+QString readBackText(ReadBack readBack)
+{
+    return readBack == ReadBack::NotRead ? CertificateDialog::tr("Not read back")
+                                         : CertificateDialog::tr("Nothing that could be compared");
+}
+
+ViewSection verification(const WipeReport &report, const std::optional<OutcomeRecord> &outcome)
 {
     const bool passed = report.verificationPassed;
     ViewSection section{CertificateDialog::tr("Verification"), {}};
@@ -101,8 +109,10 @@ ViewSection verification(const WipeReport &report)
         {CertificateDialog::tr("Result"),
          passed ? CertificateDialog::tr("Passed ✓") : CertificateDialog::tr("Failed ✗"),
          passed ? certificatestyles::GoodValue : certificatestyles::BadValue},
-        {CertificateDialog::tr("Samples"), QString::number(report.verificationSampleSize)},
     };
+    if (const ReadBack readBack = readBackOf(report, outcome); readBack != ReadBack::AsReported)
+        section.rows.append({CertificateDialog::tr("Read Back"), readBackText(readBack)});
+    section.rows.append({CertificateDialog::tr("Samples"), QString::number(report.verificationSampleSize)});
     if (!report.dataHash.isEmpty())
         section.rows.append({CertificateDialog::tr("Data Hash"), displayText(report.dataHash)});
     return section;
@@ -123,7 +133,7 @@ QList<ViewSection> sectionsOf(const WipeReport &report, const std::optional<Outc
     if (report.operationType != FileWipe)
         sections.append(storageDevice(report.disk));
     sections.append(erasureDetails(report, outcome));
-    sections.append(verification(report));
+    sections.append(verification(report, outcome));
     sections.append(operatorInfo(report));
     return sections;
 }
@@ -186,7 +196,9 @@ void addIdentity(QVBoxLayout *layout, const WipeReport &report, QWidget *page)
     row->addWidget(id);
     row->addStretch();
     row->addWidget(makeLabel(CertificateDialog::tr("Created:"), certificatestyles::Caption, page));
-    row->addWidget(makeLabel(displayTime(QDateTime::currentDateTime()), certificatestyles::Value, page));
+    QLabel *created = makeLabel(displayTime(QDateTime::currentDateTime()), certificatestyles::Value, page);
+    created->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    row->addWidget(created);
     layout->addLayout(row);
 }
 
@@ -204,7 +216,7 @@ QWidget *makeRow(const ViewRow &row, QWidget *parent)
     auto *widget = new QWidget(parent);
     widget->setStyleSheet(certificatestyles::Row.toString());
     auto *label = new RowLabel(row.label + u':', widget);
-    auto *value = new ValueLabel(row.value, widget);
+    auto *value = new SelectableValue(row.value, widget);
     value->setObjectName(u"valueLabel"_s);
     value->setStyleSheet(row.valueStyle.toString());
     value->setAccessibleDescription(row.label);

@@ -71,10 +71,28 @@ void ValueLabel::paintEvent(QPaintEvent *)
     QPainter painter(this);
     drawFrame(&painter);
     painter.setPen(palette().color(foregroundRole()));
-    const QRect box = contentsRect();
     QTextLayout layout(text(), font(), this);
+    const QPointF begin = layOutInside(layout);
+    layout.draw(&painter, begin, marks());
+}
+
+QPointF ValueLabel::layOutInside(QTextLayout &layout) const
+{
+    const QRect box = contentsRect();
     const int height = layOut(layout, box.width());
     // Whole pixels, or letters would blur.
-    const int top = box.top() + (box.height() - height + 1) / 2;
-    layout.draw(&painter, QPointF(box.left(), top));
+    const int above = (box.height() - height + 1) / 2;
+    return QPointF(box.left(), box.top() + above);
+}
+
+int ValueLabel::positionAt(QPoint point) const
+{
+    QTextLayout layout(text(), font());
+    const QPointF inside = point - layOutInside(layout);
+    for (int i = 0; i < layout.lineCount(); ++i) {
+        const QTextLine line = layout.lineAt(i);
+        if (inside.y() < line.rect().bottom() || i == layout.lineCount() - 1)
+            return line.xToCursor(inside.x());
+    }
+    return 0;
 }

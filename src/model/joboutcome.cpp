@@ -109,9 +109,17 @@ QString OutcomeRecord::writtenText(quint64 given) const
 
 QString OutcomeRecord::summary() const
 {
+    return summary(shortfallKinds().size());
+}
+
+QString OutcomeRecord::summary(qsizetype mostKinds) const
+{
+    const QList<ShortfallKind> kinds = shortfallKinds();
     QStringList texts;
-    for (const ShortfallKind kind : shortfallKinds())
+    for (const ShortfallKind kind : kinds.first(std::clamp<qsizetype>(mostKinds, 0, kinds.size())))
         texts.append(kindText(kind));
+    if (texts.size() < kinds.size())
+        texts.append(tr("and %1 more").arg(kinds.size() - texts.size()));
     return summaryOf(texts);
 }
 

@@ -83,6 +83,8 @@ public:
     QStringList noteLines() const { return lines(false); }
     /// "Partly erased: ..." and so on, the kinds without their places; empty when the job is complete.
     QString summary() const;
+    /// The same with so many kinds at most, and how many more there are.
+    QString summary(qsizetype mostKinds) const;
     /// The same with places and bytes.
     QString fullSummary() const;
 

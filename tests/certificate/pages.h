@@ -2,7 +2,7 @@
 
 #include "support/filledreport.h"
 
-// A job on files, all of whose rows lie on the paper.
+// A job on files.
 inline WipeReport shortReport()
 {
     using namespace Qt::StringLiterals;

@@ -3,6 +3,7 @@
 #include "support/suite.h"
 
 #include "certificate/certificatedialog.h"
+#include "certificate/selectablevalue.h"
 #include "model/markingtranslator.h"
 #include "model/wipereport.h"
 #include "support/scriptedprompts.h"
@@ -11,17 +12,24 @@
 
 #include <QApplication>
 #include <QBoxLayout>
+#include <QClipboard>
+#include <QContextMenuEvent>
 #include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
 #include <QGridLayout>
+#include <QImage>
 #include <QLabel>
+#include <QMenu>
 #include <QMessageBox>
+#include <QMouseEvent>
 #include <QPrinter>
 #include <QPushButton>
+#include <QScreen>
 #include <QScrollArea>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 
 using namespace Qt::StringLiterals;
 
@@ -117,6 +125,7 @@ class tst_CertificateDialog : public QObject
 
 private slots:
     void windowIsAsTallAsItMustBe();
+    void windowFitsALowScreen();
     void headerAndIdentityAreShown();
     void timeIsThatOfTheView();
     void diskJobHasAllSections();
@@ -132,8 +141,13 @@ private slots:
     void textsAreTranslated();
     void valuesAreNeverRichText();
     void longValuesFitTheWidth();
+    void valuesAreMarkedWithTheMouse();
+    void aLongValueIsMarkedAcrossItsLines();
+    void valuesAreCopied();
+    void aValueIsCopiedByItsMenu();
     void buttonsHaveStylesAndNames();
     void tabGoesThroughTheButtons();
+    void enterDoesNothing();
     void escapeAndCloseCloseTheDialog();
     void proposalIsTheBareNameWithoutAFolder_data();
     void proposalIsTheBareNameWithoutAFolder();
@@ -158,6 +172,20 @@ void tst_CertificateDialog::windowIsAsTallAsItMustBe()
     QCOMPARE(dialog.size(), QSize(750, 900));
     QCOMPARE(dialog.layout()->contentsMargins(), QMargins(0, 0, 0, 15));
     QVERIFY(dialog.findChild<QScrollArea *>()->widgetResizable());
+}
+
+// The offscreen platform's screen is 800 pixels high, less than the window is at first.
+void tst_CertificateDialog::windowFitsALowScreen()
+{
+    CertificateDialog dialog(filledReport());
+    const QSize screen = dialog.screen()->availableSize();
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    QVERIFY(dialog.height() < screen.height());
+    QVERIFY(dialog.minimumHeight() < screen.height());
+    QCOMPARE(dialog.width(), std::min(750, screen.width()));
+    const QPushButton *close = button(dialog, u"Close"_s);
+    QVERIFY(dialog.rect().contains(QRect(close->mapTo(&dialog, QPoint()), close->size())));
 }
 
 void tst_CertificateDialog::headerAndIdentityAreShown()
@@ -477,6 +505,126 @@ void tst_CertificateDialog::longValuesFitTheWidth()
     QTRY_VERIFY_WITH_TIMEOUT(hash->height() < 2 * line, 60000);
 }
 
+namespace {
+
+SelectableValue *selectable(const CertificateDialog &dialog, const QString &text)
+{
+    return dynamic_cast<SelectableValue *>(labelWith(dialog, text));
+}
+
+void drag(QWidget *widget, QPoint from, QPoint to)
+{
+    QTest::mousePress(widget, Qt::LeftButton, Qt::NoModifier, from);
+    QMouseEvent move(QEvent::MouseMove, to, widget->mapToGlobal(to), Qt::NoButton, Qt::LeftButton,
+                     Qt::NoModifier);
+    QApplication::sendEvent(widget, &move);
+    QTest::mouseRelease(widget, Qt::LeftButton, Qt::NoModifier, to);
+}
+
+// So many pixels in the colour of what is marked.
+int markedPixels(QWidget *widget)
+{
+    const QImage picture = widget->grab().toImage();
+    const QRgb mark = widget->palette().color(QPalette::Highlight).rgb();
+    int count = 0;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x)
+            count += picture.pixel(x, y) == mark;
+    }
+    return count;
+}
+
+} // namespace
+
+void tst_CertificateDialog::valuesAreMarkedWithTheMouse()
+{
+    CertificateDialog dialog(filledReport());
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    for (const QLabel *label : dialog.findChildren<QLabel *>(u"valueLabel"_s))
+        QVERIFY2(qobject_cast<const SelectableValue *>(label), qPrintable(label->text()));
+    SelectableValue *value = selectable(dialog, u"DoD 5220.22-M"_s);
+    QVERIFY(value);
+    const int middle = value->height() / 2;
+    const int four = value->fontMetrics().horizontalAdvance(u"DoD "_s);
+    QCOMPARE(value->markedText(), QString());
+    QCOMPARE(markedPixels(value), 0);
+    drag(value, {1, middle}, {four, middle});
+    QCOMPARE(value->markedText(), u"DoD "_s);
+    QVERIFY(markedPixels(value) > 0);
+    drag(value, {value->width() - 1, middle}, {four, middle});
+    QCOMPARE(value->markedText(), u"5220.22-M"_s);
+    QTest::mouseClick(value, Qt::LeftButton, Qt::NoModifier, {four, middle});
+    QCOMPARE(value->markedText(), QString());
+    QTest::mouseDClick(value, Qt::LeftButton, Qt::NoModifier, {four, middle});
+    QCOMPARE(value->markedText(), u"DoD 5220.22-M"_s);
+    // One value is marked at a time.
+    QVERIFY(value->hasFocus());
+    selectable(dialog, u"Disk Wipe"_s)->setFocus();
+    QCOMPARE(value->markedText(), QString());
+}
+
+void tst_CertificateDialog::aLongValueIsMarkedAcrossItsLines()
+{
+    WipeReport report = filledReport();
+    report.dataHash = QString(64, u'a') + QString(64, u'b');
+    CertificateDialog dialog(report);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    SelectableValue *hash = selectable(dialog, report.dataHash);
+    QVERIFY(hash);
+    drag(hash, {1, 2}, {hash->width() - 1, hash->height() - 2});
+    QCOMPARE(hash->markedText(), report.dataHash);
+    // From the second line on.
+    drag(hash, {1, hash->height() - 2}, {hash->width() - 1, hash->height() - 2});
+    QVERIFY(!hash->markedText().isEmpty());
+    QVERIFY(hash->markedText().size() < 128);
+    QVERIFY(report.dataHash.endsWith(hash->markedText()));
+}
+
+void tst_CertificateDialog::valuesAreCopied()
+{
+    CertificateDialog dialog(filledReport());
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    QClipboard *clipboard = QGuiApplication::clipboard();
+    SelectableValue *value = selectable(dialog, u"DoD 5220.22-M"_s);
+    const int four = value->fontMetrics().horizontalAdvance(u"DoD "_s);
+    drag(value, {1, value->height() / 2}, {four, value->height() / 2});
+    QTest::keySequence(value, QKeySequence::Copy);
+    QCOMPARE(clipboard->text(), u"DoD "_s);
+    QTest::keySequence(value, QKeySequence::SelectAll);
+    QTest::keySequence(value, QKeySequence::Copy);
+    QCOMPARE(clipboard->text(), u"DoD 5220.22-M"_s);
+    for (const QString &plainLabel : {u"QVX-2026-0305-4821"_s}) {
+        QVERIFY(labelWith(dialog, plainLabel)->textInteractionFlags().testFlag(Qt::TextSelectableByMouse));
+    }
+    for (const QLabel *label : labelsOf(dialog)) {
+        if (label->text().startsWith(QDate::currentDate().toString(u"yyyy-")) &&
+            label->objectName() != u"valueLabel")
+            QVERIFY(label->textInteractionFlags().testFlag(Qt::TextSelectableByMouse));
+    }
+}
+
+void tst_CertificateDialog::aValueIsCopiedByItsMenu()
+{
+    CertificateDialog dialog(filledReport());
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    SelectableValue *value = selectable(dialog, u"Disk Wipe"_s);
+    QGuiApplication::clipboard()->clear();
+    QTimer::singleShot(0, value, [] {
+        auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+        if (!menu)
+            return;
+        menu->actions().constFirst()->trigger();
+        menu->close();
+    });
+    QContextMenuEvent event(QContextMenuEvent::Mouse, {3, 3}, value->mapToGlobal(QPoint(3, 3)));
+    QApplication::sendEvent(value, &event);
+    QCOMPARE(QGuiApplication::clipboard()->text(), u"Disk Wipe"_s);
+}
+
 void tst_CertificateDialog::buttonsHaveStylesAndNames()
 {
     const CertificateDialog dialog(filledReport());
@@ -519,6 +667,28 @@ void tst_CertificateDialog::tabGoesThroughTheButtons()
         QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
         QCOMPARE(dialog.focusWidget(), button(dialog, text));
     }
+}
+
+// It may still be meant for the dialog before.
+void tst_CertificateDialog::enterDoesNothing()
+{
+    ScriptedPrompts prompts;
+    CertificateDialog dialog(filledReport());
+    dialog.show();
+    dialog.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
+        for (QWidget *focused : {static_cast<QWidget *>(dialog.findChild<QScrollArea *>()),
+                                 static_cast<QWidget *>(selectable(dialog, u"Disk Wipe"_s)),
+                                 static_cast<QWidget *>(button(dialog, u"📄 Export PDF"_s))}) {
+            focused->setFocus();
+            QTest::keyClick(focused, key);
+            QVERIFY(prompts.asked.isEmpty());
+            QVERIFY(dialog.isVisible());
+        }
+    }
+    QTest::keyClick(button(dialog, u"📄 Export PDF"_s), Qt::Key_Space);
+    QCOMPARE(prompts.asked, QStringList{u"Export Certificate"_s});
 }
 
 void tst_CertificateDialog::escapeAndCloseCloseTheDialog()

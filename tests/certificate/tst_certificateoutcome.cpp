@@ -1,7 +1,9 @@
 #include "pages.h"
 #include "recordingdevice.h"
 #include "support/pdfreader.h"
+#include "support/scriptedprompts.h"
 #include "support/suite.h"
+#include "support/testfiles.h"
 
 #include "certificate/certificatedialog.h"
 #include "certificate/certificaterenderer.h"
@@ -10,6 +12,8 @@
 #include <QFile>
 #include <QLabel>
 #include <QPainter>
+#include <QPrinter>
+#include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -25,12 +29,18 @@ class tst_CertificateOutcome : public QObject
 private slots:
     void aCompleteJobLooksAsEver();
     void anUnknownOutcomeLooksAsEver();
-    void aLineIsPaintedWhereNothingHasToMove_data();
-    void aLineIsPaintedWhereNothingHasToMove();
+    void aLineIsPaintedBehindTheRule_data();
+    void aLineIsPaintedBehindTheRule();
+    void aShortenedLineSaysHowManyMoreAndWhere();
     void theFileHoldsTheLine();
     void theDialogShowsTheLine();
+    void theDialogExportsAndPrintsTheLine();
     void theDialogOfACompleteJobHasNone();
     void whatReachedTheMediumStandsWhereItDiffers();
+    void theTrueCountOfFilesStandsBeside();
+    void passedWithoutReadingIsSaid_data();
+    void passedWithoutReadingIsSaid();
+    void cutValuesStandBelowOnceMore();
     void namesAreNoMarkup();
 
 private:
@@ -88,7 +98,8 @@ OutcomeRecord allKinds()
 
 QString withoutBlanks(QString text)
 {
-    return text.remove(u' ');
+    text.removeIf([](QChar character) { return character.isSpace(); });
+    return text;
 }
 
 } // namespace
@@ -96,7 +107,6 @@ QString withoutBlanks(QString text)
 void tst_CertificateOutcome::aCompleteJobLooksAsEver()
 {
     OutcomeRecord complete(JobOutcome::Complete);
-    complete.note({ShortfallKind::NotReadBack});
     complete.addWritten(static_cast<qint64>(filledReport().bytesWritten)); // as the report says
     QCOMPARE(placesOf(painted(filledReport(), complete)), placesOf(painted(filledReport(), {})));
 }
@@ -107,38 +117,76 @@ void tst_CertificateOutcome::anUnknownOutcomeLooksAsEver()
     QVERIFY(places.filter(u"erased"_s, Qt::CaseSensitive).isEmpty());
 }
 
-void tst_CertificateOutcome::aLineIsPaintedWhereNothingHasToMove_data()
+void tst_CertificateOutcome::aLineIsPaintedBehindTheRule_data()
 {
     QTest::addColumn<OutcomeRecord>("outcome");
-    QTest::newRow("partial") << partialOutcome();
-    QTest::newRow("every kind") << allKinds();
-    QTest::newRow("failed") << OutcomeRecord(JobOutcome::Failed);
-    QTest::newRow("cancelled") << OutcomeRecord(JobOutcome::Cancelled);
+    QTest::addColumn<int>("mostLines");
+    QTest::newRow("partial") << partialOutcome() << 2;
+    QTest::newRow("every kind") << allKinds() << 4;
+    QTest::newRow("failed") << OutcomeRecord(JobOutcome::Failed) << 1;
+    QTest::newRow("cancelled") << OutcomeRecord(JobOutcome::Cancelled) << 1;
 }
 
-void tst_CertificateOutcome::aLineIsPaintedWhereNothingHasToMove()
+// In letters like those of the status; one line has room, for more of them the rest moves down.
+void tst_CertificateOutcome::aLineIsPaintedBehindTheRule()
 {
     QFETCH(OutcomeRecord, outcome);
+    QFETCH(int, mostLines);
     QList<Painted> page = painted(filledReport(), outcome);
+    const QList<Painted> given = painted(filledReport(), {});
     const auto isRule = [](const Painted &one) { return one.kind == Painted::Line; };
     const auto rule = std::ranges::find_if(page, isRule);
     QVERIFY(rule != page.end());
     // The lines of the text are what stands behind the rule, in red.
     const qsizetype first = rule - page.begin() + 1;
     qsizetype behind = first;
-    QString text;
-    const double top = rule->line.y1();
-    const double bottom = top + 8 * Dpi / 25.4;
     while (page.at(behind).kind == Painted::Text && page.at(behind).pen.color() == QColor(u"#ef4444"_s)) {
-        const Painted &line = page.at(behind++);
-        QVERIFY(line.position.y() > top && line.position.y() < bottom);
-        QVERIFY(line.position.x() >= 20 * Dpi / 25.4 - 1);
-        text += line.text;
+        QCOMPARE(page.at(behind).font.pointSizeF(), 10.0);
+        QVERIFY(page.at(behind).clip.isNull());
+        QVERIFY(page.at(behind).position.x() >= 20 * Dpi / 25.4 - 1);
+        ++behind;
     }
-    QVERIFY(behind > first);
-    QCOMPARE(withoutBlanks(text), withoutBlanks(outcome.summary()));
+    const qsizetype lines = behind - first;
+    QVERIFY(lines >= 1 && lines <= mostLines);
+    const double top = rule->line.y1();
+    QVERIFY(page.at(first).position.y() > top);
+    QVERIFY(page.at(behind - 1).position.y() < page.at(behind).position.y() - 5);
+    const double moved = page.at(behind).position.y() - given.at(first).position.y();
+    QCOMPARE(moved > 0, lines > 1);
     page.remove(first, behind - first);
-    QCOMPARE(placesOf(page), placesOf(painted(filledReport(), {})));
+    page.removeIf([](const Painted &one) { return one.text == u"未读回"; });
+    for (qsizetype i = first; i < page.size(); ++i) {
+        if (page[i].text.startsWith(u"Quorvex Pro"_s) || page[i].text == u"专业数据擦除工具"_s)
+            continue;
+        page[i].position.ry() -= page[i].position.isNull() ? 0 : moved;
+        page[i].line.translate(0, page[i].line.isNull() ? 0 : -moved);
+    }
+    QCOMPARE(placesOf(page), placesOf(given));
+}
+
+void tst_CertificateOutcome::aShortenedLineSaysHowManyMoreAndWhere()
+{
+    QString text;
+    for (const Painted &one : painted(filledReport(), allKinds())) {
+        if (one.pen.color() == QColor(u"#ef4444"_s))
+            text += one.text;
+    }
+    const OutcomeRecord outcome = allKinds();
+    const qsizetype all = outcome.shortfallKinds().size();
+    qsizetype shown = 0;
+    while (shown < all &&
+           withoutBlanks(text).contains(withoutBlanks(kindText(outcome.shortfallKinds()[shown]))))
+        ++shown;
+    QVERIFY(shown >= 2 && shown < all);
+    QCOMPARE(withoutBlanks(text), withoutBlanks(outcome.summary(shown) + u"(全部内容见本程序历史记录)"_s));
+    QVERIFY(text.contains(u"and %1 more"_s.arg(all - shown)));
+    // What is not shortened does not speak of more.
+    text.clear();
+    for (const Painted &one : painted(filledReport(), partialOutcome())) {
+        if (one.pen.color() == QColor(u"#ef4444"_s))
+            text += one.text;
+    }
+    QCOMPARE(withoutBlanks(text), withoutBlanks(partialOutcome().summary()));
 }
 
 void tst_CertificateOutcome::theFileHoldsTheLine()
@@ -168,6 +216,29 @@ void tst_CertificateOutcome::theDialogShowsTheLine()
         QCOMPARE(label->text(), outcome.fullSummary());
         QVERIFY(label->wordWrap());
         QCOMPARE(label->styleSheet(), u"color: #ef4444; font-weight: bold;"_s);
+    }
+}
+
+void tst_CertificateOutcome::theDialogExportsAndPrintsTheLine()
+{
+    const OutcomeRecord cancelled(JobOutcome::Cancelled);
+    const QString exported = m_folder.filePath(u"exported.pdf"_s);
+    const QString printed = m_folder.filePath(u"printed.pdf"_s);
+    ScriptedPrompts prompts;
+    prompts.filesToSaveAnswers = {exported};
+    prompts.printAnswer = [&printed](QPrinter &printer) {
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setOutputFileName(printed);
+        return true;
+    };
+    const CertificateDialog dialog(shortReport(), nullptr, cancelled);
+    for (QPushButton *button : dialog.findChildren<QPushButton *>()) {
+        if (button->text() != u"Close")
+            button->click();
+    }
+    for (const QString &path : {exported, printed}) {
+        const QString text = withoutBlanks(PdfReader(contentOf(path)).text()).remove(u'\n');
+        QVERIFY2(text.contains(withoutBlanks(cancelled.summary())), qPrintable(text));
     }
 }
 
@@ -204,6 +275,129 @@ void tst_CertificateOutcome::whatReachedTheMediumStandsWhereItDiffers()
     OutcomeRecord same(JobOutcome::Complete);
     same.addWritten(static_cast<qint64>(report.bytesWritten));
     QVERIFY(labels(same).filter(u"On the Medium"_s).isEmpty());
+}
+
+void tst_CertificateOutcome::theTrueCountOfFilesStandsBeside()
+{
+    WipeReport report = shortReport();
+    report.fileCount = 1482; // of two items
+    report.dataHash.clear();
+    const OutcomeRecord complete(JobOutcome::Complete);
+    QList<Painted> page = painted(report, complete);
+    const auto label = std::ranges::find(page, u"文件数量:"_s, &Painted::text);
+    QVERIFY(label != page.end());
+    // The value arrives in pieces, as does what stands behind it.
+    const qsizetype value = label - page.begin() + 1;
+    QString text;
+    double end = label->position.x();
+    while (page.at(value).position.y() == page.at(value - 1).position.y()) {
+        text += page.at(value).text;
+        // Each behind the piece before, in another colour than the value.
+        QVERIFY(page.at(value).position.x() > end);
+        QCOMPARE(page.at(value).pen.color(), QColor(text.size() > 3 ? u"#64748b"_s : u"#1e293b"_s));
+        end = page.at(value).position.x();
+        page.removeAt(value);
+    }
+    QCOMPARE(withoutBlanks(text), u"2个实际处理:1482"_s);
+    QList<Painted> given = painted(report, {});
+    while (given.at(value).position.y() == given.at(value - 1).position.y())
+        given.removeAt(value);
+    QCOMPARE(placesOf(page), placesOf(given));
+    // Nothing where the report counts the same, or the job was none on files.
+    report.fileCount = 2;
+    QCOMPARE(placesOf(painted(report, complete)), placesOf(painted(report, {})));
+    report.operationType = DiskWipe;
+    report.fileCount = 7;
+    QCOMPARE(placesOf(painted(report, complete)), placesOf(painted(report, {})));
+}
+
+void tst_CertificateOutcome::passedWithoutReadingIsSaid_data()
+{
+    QTest::addColumn<bool>("passed");
+    QTest::addColumn<int>("samples");
+    QTest::addColumn<int>("note");
+    QTest::addColumn<QString>("beside");
+    QTest::addColumn<QString>("shown");
+    constexpr int none = -1;
+    constexpr int notRead = static_cast<int>(ShortfallKind::NotReadBack);
+    constexpr int impossible = static_cast<int>(ShortfallKind::ReadBackImpossible);
+    const QString unread = u"未读回"_s;
+    const QString unreadShown = u"Not read back"_s;
+    QTest::newRow("read") << true << 999 << none << QString() << QString();
+    QTest::newRow("no sample") << true << 0 << none << unread << unreadShown;
+    QTest::newRow("not asked") << true << 0 << notRead << unread << unreadShown;
+    QTest::newRow("noted") << true << 999 << notRead << unread << unreadShown;
+    QTest::newRow("random") << true << 999 << impossible << u"读回的内容无法比对"_s
+                            << u"Nothing that could be compared"_s;
+    QTest::newRow("random, no sample") << true << 0 << impossible << unread << unreadShown;
+    QTest::newRow("failed") << false << 0 << notRead << QString() << QString();
+}
+
+void tst_CertificateOutcome::passedWithoutReadingIsSaid()
+{
+    QFETCH(bool, passed);
+    QFETCH(int, samples);
+    QFETCH(int, note);
+    QFETCH(QString, beside);
+    QFETCH(QString, shown);
+    WipeReport report = filledReport();
+    report.verificationPassed = passed;
+    report.verificationSampleSize = samples;
+    OutcomeRecord outcome(JobOutcome::Complete);
+    if (note >= 0)
+        outcome.note({static_cast<ShortfallKind>(note)});
+
+    QList<Painted> page = painted(report, outcome);
+    if (!beside.isEmpty()) {
+        const auto text = std::ranges::find(page, beside, &Painted::text);
+        QVERIFY(text != page.end());
+        const auto verdict = std::ranges::find(page, u"通过"_s, &Painted::text);
+        QVERIFY(verdict != page.end());
+        QCOMPARE(text->position.y(), verdict->position.y());
+        QVERIFY(text->position.x() > verdict->position.x() + 5 * Dpi / 25.4);
+        QCOMPARE(text->font.pointSizeF(), 10.0);
+        QCOMPARE(text->font.weight(), QFont::Bold);
+        page.erase(text);
+    }
+    QCOMPARE(placesOf(page), placesOf(painted(report, {})));
+
+    const CertificateDialog dialog(report, nullptr, outcome);
+    QStringList texts;
+    for (const QLabel *label : dialog.findChildren<QLabel *>())
+        texts.append(label->text());
+    QCOMPARE(texts.contains(u"Read Back:"_s), !shown.isEmpty());
+    if (!shown.isEmpty())
+        QCOMPARE(texts.value(texts.indexOf(u"Read Back:"_s) + 1), shown);
+}
+
+void tst_CertificateOutcome::cutValuesStandBelowOnceMore()
+{
+    WipeReport report = filledReport();
+    report.dataHash = u"e3b0c44298fc1c149afbf4c8996fb92427ae41e4649b934ca495991b7852b855"_s;
+    report.disk.serialNumber = QString(150, u'S');
+    const OutcomeRecord complete(JobOutcome::Complete);
+    const QList<Painted> given = painted(report, {});
+    const QList<Painted> page = painted(report, complete);
+    const auto countOf = [](const QList<Painted> &all, const QString &text) {
+        return std::ranges::count(all, text, &Painted::text);
+    };
+    QCOMPARE(countOf(given, report.dataHash), 1);
+    QCOMPARE(countOf(page, report.dataHash), 2);
+    QString whole;
+    for (const Painted &one : page) {
+        if (one.font.pointSizeF() == 8 && one.text.startsWith(u'S')) {
+            QVERIFY(one.clip.isNull());
+            whole += one.text;
+        }
+    }
+    QCOMPARE(whole, report.disk.serialNumber);
+    // The next row is below.
+    const auto yOf = [](const QList<Painted> &all, const QString &text) {
+        return std::ranges::find(all, text, &Painted::text)->position.y();
+    };
+    const double step = yOf(given, u"容量:"_s) - yOf(given, u"序列号:"_s);
+    const double lines = 2 * 8 / 72.0 * Dpi; // of 8 points
+    QVERIFY(yOf(page, u"容量:"_s) - yOf(page, u"序列号:"_s) > step + lines);
 }
 
 void tst_CertificateOutcome::namesAreNoMarkup()

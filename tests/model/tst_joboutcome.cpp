@@ -30,6 +30,7 @@ private slots:
     void unknownNamesAreNoKind();
     void completeBecomesPartial();
     void notesLeaveAJobComplete();
+    void aSummaryOfSomeKindsTellsHowManyMore();
     void failedAndCancelledStay();
     void theSameIsToldOnce();
     void placesBeyondTheMostAreCounted();
@@ -394,6 +395,23 @@ void tst_JobOutcome::taskIsSafeAcrossThreads()
     const OutcomeRecord::Further all{writers * places - OutcomeRecord::MostPlaces,
                                      writers * places - OutcomeRecord::MostPlaces};
     QCOMPARE(task.outcome().further(ShortfallKind::EntryVanished), all);
+}
+
+void tst_JobOutcome::aSummaryOfSomeKindsTellsHowManyMore()
+{
+    OutcomeRecord record(JobOutcome::Complete);
+    record.note({ShortfallKind::RoomLeft});
+    record.note({ShortfallKind::LargeReserve});
+    record.note({ShortfallKind::LinkTarget});
+    record.note({ShortfallKind::NotReadBack}); // a note, and none of them
+    const QString first = u"Partly erased: "_s + kindText(ShortfallKind::RoomLeft);
+    const QString second = u"; "_s + kindText(ShortfallKind::LargeReserve);
+    QCOMPARE(record.summary(1), first + u"; and 2 more"_s);
+    QCOMPARE(record.summary(2), first + second + u"; and 1 more"_s);
+    QCOMPARE(record.summary(3), record.summary());
+    QCOMPARE(record.summary(100), record.summary());
+    QCOMPARE(record.summary(-1), u"Partly erased: and 3 more"_s);
+    QCOMPARE(OutcomeRecord(JobOutcome::Failed).summary(1), OutcomeRecord(JobOutcome::Failed).summary());
 }
 
 QUORVEX_SUITE(tst_JobOutcome, QCoreApplication)

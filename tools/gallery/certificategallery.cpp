@@ -2,6 +2,7 @@
 
 #include "certificate/certificatedialog.h"
 #include "certificate/certificaterenderer.h"
+#include "model/joboutcome.h"
 #include "model/wipereport.h"
 
 #include <QDebug>
@@ -77,10 +78,20 @@ WipeReport longReport()
     return report;
 }
 
+OutcomeRecord partial(const QList<ShortfallKind> &kinds)
+{
+    OutcomeRecord outcome(JobOutcome::Complete);
+    for (const ShortfallKind kind : kinds)
+        outcome.note({kind, u"/media/anna/Backup"_s});
+    outcome.addWritten(73400320);
+    return outcome;
+}
+
 struct Job
 {
     QString name;
     WipeReport report;
+    std::optional<OutcomeRecord> outcome;
 };
 
 void page(Gallery &gallery, const Job &job)
@@ -94,14 +105,14 @@ void page(Gallery &gallery, const Job &job)
     image.fill(Qt::lightGray);
     QPainter painter(&image);
     painter.fillRect(0, 0, image.width(), paperHeight, Qt::white);
-    CertificateRenderer().render(painter, job.report, image.width(), paperHeight, dpi);
+    CertificateRenderer().render(painter, job.report, image.width(), paperHeight, dpi, job.outcome);
     painter.end();
     gallery.save(image, u"certificate-page-"_s + job.name);
 }
 
 void dialog(Gallery &gallery, const Job &job)
 {
-    CertificateDialog shown(job.report);
+    CertificateDialog shown(job.report, nullptr, job.outcome);
     gallery.picture(shown, u"certificate-dialog-"_s + job.name);
     // All of it, as a window of that height would show it.
     auto *const sheet = shown.findChild<QScrollArea *>()->widget();
@@ -110,16 +121,20 @@ void dialog(Gallery &gallery, const Job &job)
 
 void paint(Gallery &gallery)
 {
-    const QList<Job> jobs{{u"disk"_s, diskReport()},
-                          {u"files"_s, fileReport()},
-                          {u"failed"_s, failedReport()},
-                          {u"cancelled"_s, cancelledReport()},
-                          {u"long"_s, longReport()}};
+    const QList<Job> jobs{
+        {u"disk"_s, diskReport(), {}},
+        {u"files"_s, fileReport(), OutcomeRecord(JobOutcome::Complete)},
+        {u"failed"_s, failedReport(), OutcomeRecord(JobOutcome::Failed)},
+        {u"cancelled"_s, cancelledReport(), OutcomeRecord(JobOutcome::Cancelled)},
+        {u"long"_s, longReport(), OutcomeRecord(JobOutcome::Complete)},
+        {u"unread"_s, diskReport(), partial({ShortfallKind::OnlyVolumes, ShortfallKind::NotReadBack})},
+        {u"partial"_s, diskReport(), partial(allShortfallKinds())},
+    };
     for (const Job &job : jobs) {
         page(gallery, job);
         dialog(gallery, job);
         const QString pdf = gallery.pathFor(u"certificate-"_s + job.name, u"pdf"_s);
-        if (!CertificateRenderer().exportToPdf(job.report, pdf))
+        if (!CertificateRenderer().exportToPdf(job.report, pdf, job.outcome))
             qWarning() << "cannot write" << pdf;
     }
 }

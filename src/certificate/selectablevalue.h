@@ -1,0 +1,31 @@
+#pragma once
+
+#include "certificate/valuelabel.h"
+
+/// A value that can be marked with the mouse and copied: a double click marks all of it, and without a mark
+/// the menu copies all of it.
+class SelectableValue : public ValueLabel
+{
+    Q_OBJECT
+
+public:
+    explicit SelectableValue(const QString &text, QWidget *parent = nullptr);
+
+    QString markedText() const;
+
+protected:
+    QList<QTextLayout::FormatRange> marks() const override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
+
+private:
+    void mark(int from, int to);
+    void copy() const;
+
+    int m_from = 0;
+    int m_to = 0; ///< before m_from when marked from right to left
+};
