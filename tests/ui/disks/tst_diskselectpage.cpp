@@ -350,8 +350,8 @@ void tst_DiskSelectPage::namesAreShownCleaned()
     const Shown shown;
     QVERIFY(!shown.row(UsualMachine::Stick)->text(0).contains(QChar(1)));
     const QTreeWidgetItem *row = shown.row(UsualMachine::Stick, 0);
-    QCOMPARE(row->text(0), u"📁 /media/txt.exe (ab)"_s);
-    QCOMPARE(row->text(2), u"ext4"_s);
+    QCOMPARE(row->text(0), u"📁 /media/[U+202E]txt.exe (a[U+2066]b)"_s);
+    QCOMPARE(row->text(2), u"ex[U+001B]t4"_s);
     // The record keeps the name that opens the volume.
     shown.click(UsualMachine::Stick, 0);
     QCOMPARE(shown.page.selectedPartition().driveLetter, u"/media/\u202Etxt.exe"_s);

@@ -332,7 +332,7 @@ void tst_HistoryPage::namesAreShownCleaned()
     report.disk.model = u"a\u202Eb<i>c</i>"_s;
     store({report});
     const Shown shown;
-    QVERIFY(shown.texts(0).first().startsWith(u"[磁盘] ab<i>c</i> "_s));
+    QVERIFY(shown.texts(0).first().startsWith(u"[磁盘] a[U+202E]b<i>c</i> "_s));
     const QString tip = shown.table.item(0, 0)->toolTip();
     QCOMPARE(QTextDocumentFragment::fromHtml(tip).toPlainText(), shown.texts(0).first());
 }
