@@ -98,6 +98,7 @@ private:
     bool hasObstacles();
     FileSurvey lookAtFiles();
     bool isConfirmed();
+    QStringList targetLines(const FileSurvey &survey) const;
     bool isReady();
     QString erasedVolumesText() const;
     void setMenuEnabled(bool enabled);
@@ -117,6 +118,7 @@ private:
     void startRecycleBinScan();
     void offerFreeSpaceWipeOfEmptyBin(const RecycleBinInfo &found);
     void takeRecycleBin(const RecycleBinInfo &found);
+    QStringList recycleBinLines() const;
     void leaveRecycleBin();
 
     QFutureWatcher<RecycleBinInfo> *m_recycleBinWatcher = nullptr; ///< made by the first scan

@@ -4,6 +4,7 @@
 #include "jobs/jobcontroller.h"
 #include "model/displaytext.h"
 #include "model/formatsize.h"
+#include "model/targettext.h"
 #include "model/wipetask.h"
 #include "platform/files.h"
 #include "platform/platform.h"
@@ -35,6 +36,13 @@ QString textOf(const RecycleBinItem &item)
     const QString mark = item.isDirectory ? u"📁"_s : u"📄"_s;
     const QString name = item.fileName.isEmpty() ? QFileInfo(item.recyclePath).fileName() : item.fileName;
     return u"%1  %2  (%3)"_s.arg(mark, displayText(name), formatSize(static_cast<qint64>(item.size)));
+}
+
+QString amountOf(const RecycleBinInfo &found)
+{
+    return MainWindow::tr("Found %1 items, total %2")
+        .arg(found.fileCount)
+        .arg(formatSize(static_cast<qint64>(found.totalSize)));
 }
 
 // A line each for what is erased without being an item, and for the bins that stay as they are.
@@ -86,9 +94,11 @@ void MainWindow::startRecycleBinScan()
             [window, drive, index, count] {
                 if (!window || !window->m_filePage || !window->m_isRecycleBinMode)
                     return;
-                window->m_filePage->updateLoadingProgress(
-                    index + 1, count,
-                    tr("Scanning Recycle Bin on drive %1 (%2/%3)...").arg(drive).arg(index + 1).arg(count));
+                window->m_filePage->updateLoadingProgress(index + 1, count,
+                                                          tr("Scanning Recycle Bin on drive %1 (%2/%3)...")
+                                                              .arg(displayText(drive))
+                                                              .arg(index + 1)
+                                                              .arg(count));
             },
             Qt::QueuedConnection);
     };
@@ -135,10 +145,7 @@ void MainWindow::takeRecycleBin(const RecycleBinInfo &found)
     m_recycleBin = found;
     m_loadedRecycleBinCount = 0;
 
-    const QString items = tr("Found %1 items, total %2")
-                              .arg(m_recycleBin.fileCount)
-                              .arg(formatSize(static_cast<qint64>(m_recycleBin.totalSize)));
-    m_filePage->statsLabel()->setText((QStringList{items} + besideItems(found)).join(u'\n'));
+    m_filePage->statsLabel()->setText((QStringList{amountOf(found)} + besideItems(found)).join(u'\n'));
     m_filePage->setReadOnly(true);
     m_filePage->setToolRowVisible(false);
     m_filePage->nextButton()->setEnabled(true);
@@ -147,6 +154,13 @@ void MainWindow::takeRecycleBin(const RecycleBinInfo &found)
     disconnect(bar, &QScrollBar::valueChanged, this, &MainWindow::onRecycleBinListScrolled);
     connect(bar, &QScrollBar::valueChanged, this, &MainWindow::onRecycleBinListScrolled);
     loadMoreRecycleBinItems();
+}
+
+QStringList MainWindow::recycleBinLines() const
+{
+    const QStringList items = TargetText::beginningOf(
+        m_recycleBin.items.size(), [this](qsizetype i) { return textOf(m_recycleBin.items.at(i)); });
+    return QStringList{amountOf(m_recycleBin)} + besideItems(m_recycleBin) + items;
 }
 
 void MainWindow::loadMoreRecycleBinItems()

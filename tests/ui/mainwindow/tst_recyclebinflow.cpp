@@ -9,6 +9,7 @@
 #include "ui/files/fileselectpage.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QDir>
 #include <QDropEvent>
 #include <QFile>
@@ -42,6 +43,7 @@ private slots:
     void initTestCase();
 
     void theBinIsShownInPieces();
+    void theQuestionNamesTheContentOfTheBin();
     void theShownBinIsErasedAndFreeSpaceOffered();
     void anEmptyBinLeadsHomeAndOffersFreeSpace_data();
     void anEmptyBinLeadsHomeAndOffersFreeSpace();
@@ -112,6 +114,27 @@ void tst_RecycleBinFlow::theBinIsShownInPieces()
     QTRY_VERIFY(bar->value() < bar->maximum());
     bar->setValue(bar->maximum());
     QCOMPARE(page->list()->count(), 45);
+}
+
+void tst_RecycleBinFlow::theQuestionNamesTheContentOfTheBin()
+{
+    WindowFixture fixture;
+    addTrash(fixture, 22);
+    fixture.window->onRecycleBinWipeClicked();
+    QTRY_VERIFY(fixture.button(u"Next →"_s)->isEnabled());
+    QVERIFY(fixture.click(u"Next →"_s));
+    QStringList target;
+    fixture.dialogs.answers = {[&target](QDialog &dialog) {
+        if (const auto *text = dialog.findChild<QTextEdit *>(u"dialogTarget"_s))
+            target = text->toPlainText().split(u'\n');
+        dialog.reject();
+    }};
+    QVERIFY(fixture.click(u"Start"_s));
+    QTRY_VERIFY(fixture.dialogs.answers.isEmpty());
+    QCOMPARE(target.size(), 22);
+    QCOMPARE(target.at(0), u"Found 22 items, total 154 B"_s);
+    QVERIFY2(target.at(1).startsWith(u"📄  file"_s), qPrintable(target.at(1)));
+    QCOMPARE(target.at(21), u"and 2 more"_s);
 }
 
 void tst_RecycleBinFlow::theShownBinIsErasedAndFreeSpaceOffered()
