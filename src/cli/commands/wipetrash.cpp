@@ -27,7 +27,7 @@ QStringList summaryOf(const RecycleBinInfo &found)
 {
     const QStringList items = TargetText::beginningOf(
         found.items.size(), [&found](qsizetype i) { return describeItem(found.items.at(i)); });
-    return indented(items + QStringList{amountOf(found)} + unrecordedLines(found) + unscannedLines(found));
+    return indented(items + amountLines(found) + unrecordedLines(found) + unscannedLines(found));
 }
 
 ExitCode tellEmpty(const CommandContext &context)

@@ -9,12 +9,12 @@
 #include "platform/files.h"
 #include "platform/platform.h"
 #include "prompts/prompts.h"
+#include "services/binitemtext.h"
 #include "services/recyclebinscanner.h"
 #include "ui/files/fileselectpage.h"
 #include "ui/style/tooltip.h"
 
 #include <QDebug>
-#include <QFileInfo>
 #include <QLabel>
 #include <QListWidget>
 #include <QPointer>
@@ -34,8 +34,7 @@ constexpr int PageSize = 20;
 QString textOf(const RecycleBinItem &item)
 {
     const QString mark = item.isDirectory ? u"📁"_s : u"📄"_s;
-    const QString name = item.fileName.isEmpty() ? QFileInfo(item.recyclePath).fileName() : item.fileName;
-    return u"%1  %2  (%3)"_s.arg(mark, displayText(name), formatSize(static_cast<qint64>(item.size)));
+    return u"%1  %2  (%3)"_s.arg(mark, displayText(BinItemText::fileName(item)), BinItemText::size(item));
 }
 
 QString amountOf(const RecycleBinInfo &found)
@@ -49,6 +48,8 @@ QString amountOf(const RecycleBinInfo &found)
 QStringList besideItems(const RecycleBinInfo &found)
 {
     QStringList lines;
+    if (const QString impossible = BinItemText::impossibleSizes(found); !impossible.isEmpty())
+        lines.append(impossible);
     if (!found.unrecorded.isEmpty())
         lines.append(MainWindow::tr("Erased too, without a record: %1").arg(found.unrecorded.size()));
     QStringList unscanned;
@@ -94,11 +95,10 @@ void MainWindow::startRecycleBinScan()
             [window, drive, index, count] {
                 if (!window || !window->m_filePage || !window->m_isRecycleBinMode)
                     return;
-                window->m_filePage->updateLoadingProgress(index + 1, count,
-                                                          tr("Scanning Recycle Bin on drive %1 (%2/%3)...")
-                                                              .arg(displayText(drive))
-                                                              .arg(index + 1)
-                                                              .arg(count));
+                window->m_filePage->updateLoadingProgress(
+                    index + 1, count,
+                    tr("Scanning Recycle Bin on drive %1 (%2/%3)...")
+                        .arg(displayText(drive), QString::number(index + 1), QString::number(count)));
             },
             Qt::QueuedConnection);
     };
@@ -170,7 +170,7 @@ void MainWindow::loadMoreRecycleBinItems()
     for (int i = m_loadedRecycleBinCount; i < end; ++i) {
         const RecycleBinItem &item = m_recycleBin.items.at(i);
         auto *row = new QListWidgetItem(textOf(item), m_filePage->list());
-        row->setToolTip(plainTip(displayText(item.originalPath)));
+        row->setToolTip(plainTip(BinItemText::details(item)));
         row->setData(Qt::UserRole, item.recyclePath);
     }
     m_loadedRecycleBinCount = end;
