@@ -80,6 +80,7 @@ void ConfirmDialog::addTexts(QBoxLayout *layout)
 {
     QLabel *const icon = centredLabel(u"⚠️"_s, u"font-size: 48px;"_s);
     icon->setObjectName(u"dialogIcon"_s);
+    icon->setAccessibleName(tr("Warning"));
     layout->addWidget(icon);
 
     QLabel *const title = centredLabel(tr("Warning: Irreversible Operation"),

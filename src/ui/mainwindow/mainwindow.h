@@ -91,8 +91,11 @@ private:
     void connectEngine();
     void connectTitleBar();
     void applyStyleSheet();
+    void setCorners(bool square);
 
     void showPage(int index);
+    void showDisks(int mode);
+    void backFromMethods();
     void showHome();
     void takeDiskSelection();
     bool hasObstacles();
@@ -119,6 +122,7 @@ private:
     void offerFreeSpaceWipeOfEmptyBin(const RecycleBinInfo &found);
     void takeRecycleBin(const RecycleBinInfo &found);
     QStringList recycleBinLines() const;
+    void fillRecycleBinList();
     void leaveRecycleBin();
 
     QFutureWatcher<RecycleBinInfo> *m_recycleBinWatcher = nullptr; ///< made by the first scan

@@ -8,26 +8,33 @@
 #include "ui/disks/diskselectpage.h"
 #include "ui/disks/obstaclestext.h"
 #include "ui/files/fileselectpage.h"
+#include "ui/mainwindow/waitnotice.h"
 #include "ui/methods/methodselectpage.h"
 #include "ui/progress/progresspage.h"
 
 #include <QGuiApplication>
+#include <QStackedWidget>
 
 void MainWindow::onDiskWipeClicked()
 {
     // The menu leads home without a way back through the bin.
     leaveRecycleBin();
     m_job->newTask(DiskWipe);
-    m_diskPage->setMode(DiskSelectPage::WipeDisk);
-    m_diskPage->refresh();
-    showPage(DiskSelect);
+    showDisks(DiskSelectPage::WipeDisk);
 }
 
 void MainWindow::onFreeSpaceWipeClicked()
 {
     leaveRecycleBin();
     m_job->newTask(FreeSpaceWipe);
-    m_diskPage->setMode(DiskSelectPage::WipeFreeSpace);
+    showDisks(DiskSelectPage::WipeFreeSpace);
+}
+
+// A drive that is asleep takes seconds to answer.
+void MainWindow::showDisks(int mode)
+{
+    const WaitNotice notice(*m_pages, tr("Reading drives..."));
+    m_diskPage->setMode(mode);
     m_diskPage->refresh();
     showPage(DiskSelect);
 }
@@ -49,7 +56,7 @@ void MainWindow::onBackClicked()
         showHome();
         break;
     case MethodSelect:
-        showPage(m_job->task() && m_job->task()->operationType() == FileWipe ? FileSelect : DiskSelect);
+        backFromMethods();
         break;
     case Progress:
         break;
@@ -57,6 +64,17 @@ void MainWindow::onBackClicked()
         showHome();
         break;
     }
+}
+
+void MainWindow::backFromMethods()
+{
+    if (m_job->task() && m_job->task()->operationType() == FileWipe) {
+        showPage(FileSelect);
+        return;
+    }
+    // The page reads the drives again whenever it is shown.
+    const WaitNotice notice(*m_pages, tr("Reading drives..."));
+    showPage(DiskSelect);
 }
 
 void MainWindow::onNextClicked()

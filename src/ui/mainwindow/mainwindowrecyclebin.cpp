@@ -12,6 +12,7 @@
 #include "services/binitemtext.h"
 #include "services/recyclebinscanner.h"
 #include "ui/files/fileselectpage.h"
+#include "ui/style/spokentext.h"
 #include "ui/style/tooltip.h"
 
 #include <QDebug>
@@ -153,7 +154,23 @@ void MainWindow::takeRecycleBin(const RecycleBinInfo &found)
     QScrollBar *bar = m_filePage->list()->verticalScrollBar();
     disconnect(bar, &QScrollBar::valueChanged, this, &MainWindow::onRecycleBinListScrolled);
     connect(bar, &QScrollBar::valueChanged, this, &MainWindow::onRecycleBinListScrolled);
+    disconnect(bar, &QScrollBar::rangeChanged, this, &MainWindow::fillRecycleBinList);
+    // Later: the list is in the middle of laying out its rows.
+    connect(bar, &QScrollBar::rangeChanged, this, &MainWindow::fillRecycleBinList, Qt::QueuedConnection);
     loadMoreRecycleBinItems();
+    QMetaObject::invokeMethod(this, &MainWindow::fillRecycleBinList, Qt::QueuedConnection);
+}
+
+// Rows that all fit leave nothing to scroll, and the others would never come.
+void MainWindow::fillRecycleBinList()
+{
+    QListWidget *const list = m_filePage->list();
+    while (m_isRecycleBinMode && m_loadedRecycleBinCount < m_recycleBin.items.size()) {
+        const int height = m_loadedRecycleBinCount * list->sizeHintForRow(0);
+        if (!list->isVisible() || height > list->viewport()->height())
+            break;
+        loadMoreRecycleBinItems();
+    }
 }
 
 QStringList MainWindow::recycleBinLines() const
@@ -171,6 +188,7 @@ void MainWindow::loadMoreRecycleBinItems()
         const RecycleBinItem &item = m_recycleBin.items.at(i);
         auto *row = new QListWidgetItem(textOf(item), m_filePage->list());
         row->setToolTip(plainTip(BinItemText::details(item)));
+        row->setData(Qt::AccessibleTextRole, spokenText(row->text()));
         row->setData(Qt::UserRole, item.recyclePath);
     }
     m_loadedRecycleBinCount = end;
@@ -192,8 +210,9 @@ void MainWindow::leaveRecycleBin()
     if (!m_isRecycleBinMode)
         return;
     m_isRecycleBinMode = false;
-    disconnect(m_filePage->list()->verticalScrollBar(), &QScrollBar::valueChanged, this,
-               &MainWindow::onRecycleBinListScrolled);
+    QScrollBar *const bar = m_filePage->list()->verticalScrollBar();
+    disconnect(bar, &QScrollBar::valueChanged, this, &MainWindow::onRecycleBinListScrolled);
+    disconnect(bar, &QScrollBar::rangeChanged, this, &MainWindow::fillRecycleBinList);
     m_recycleBin = {};
     m_loadedRecycleBinCount = 0;
     m_filePage->setReadOnly(false);

@@ -100,6 +100,7 @@ void tst_ConfirmDialog::showsItsTexts()
     const QList<QLabel *> labels = dialog.findChildren<QLabel *>();
     QCOMPARE(labels.size(), 4);
     QCOMPARE(labels.at(0)->text(), u"⚠️"_s);
+    QCOMPARE(labels.at(0)->accessibleName(), u"Warning"_s);
     QCOMPARE(labels.at(0)->styleSheet(), u"font-size: 48px;"_s);
     QCOMPARE(labels.at(3)->text(), u"Type <b>ERASE</b> to confirm:"_s);
     QCOMPARE(labels.at(3)->textFormat(), Qt::RichText);

@@ -149,6 +149,7 @@ private slots:
     void aSystemPartitionIsGreyAndRed();
     void rowsCarryTheirData();
     void namesAreShownCleaned();
+    void nothingIsReadAloudWithItsPicture();
     void percentSignsInNamesStayAsTheyAre();
     void tipsShowMarkupAsText();
     void onlyDisksWithPartitionsAreExpanded();
@@ -335,6 +336,28 @@ void tst_DiskSelectPage::rowsCarryTheirData()
     QCOMPARE(carried(shown.row(0, 0)), (QVariantList{1, 0, 0, QVariant(), true}));
     QCOMPARE(carried(shown.row(0, 1)), (QVariantList{1, 0, 1, QVariant(), false}));
     QCOMPARE(carried(shown.row(1, 0)), (QVariantList{1, 1, 0, QVariant(), false}));
+}
+
+void tst_DiskSelectPage::nothingIsReadAloudWithItsPicture()
+{
+    UsualMachine usual;
+    const Shown shown;
+    for (const int disk : {UsualMachine::SystemDrive, UsualMachine::Stick}) {
+        QList<const QTreeWidgetItem *> rows{shown.row(disk)};
+        for (int i = 0; i < rows.constFirst()->childCount(); ++i)
+            rows.append(rows.constFirst()->child(i));
+        for (const QTreeWidgetItem *row : std::as_const(rows)) {
+            for (const int column : {0, 4}) {
+                const QString spoken = row->data(column, Qt::AccessibleTextRole).toString();
+                QVERIFY2(!spoken.isEmpty() && spoken.at(0).isLetter(), qPrintable(spoken));
+                QVERIFY2(row->text(column).endsWith(spoken), qPrintable(spoken));
+            }
+        }
+    }
+    shown.click(UsualMachine::SystemDrive);
+    QVERIFY(shown.notice.isVisible());
+    QCOMPARE(shown.notice.accessibleName(), u"Cannot select system disk for wiping."_s);
+    QCOMPARE(shown.back.accessibleName(), u"Back"_s);
 }
 
 void tst_DiskSelectPage::namesAreShownCleaned()

@@ -47,6 +47,8 @@ private slots:
     void initTestCase();
 
     void theBinIsShownInPieces();
+    void theListGoesOnWhileAllRowsFit();
+    void theListGoesOnWhenTheWindowGrows();
     void impossibleSizesAndOldPathsAreToldAsSuch();
     void theQuestionNamesTheContentOfTheBin();
     void theShownBinIsErasedAndFreeSpaceOffered();
@@ -119,6 +121,31 @@ void tst_RecycleBinFlow::theBinIsShownInPieces()
     QTRY_VERIFY(bar->value() < bar->maximum());
     bar->setValue(bar->maximum());
     QCOMPARE(page->list()->count(), 45);
+}
+
+void tst_RecycleBinFlow::theListGoesOnWhileAllRowsFit()
+{
+    WindowFixture fixture;
+    fixture.window->resize(980, 2600);
+    addTrash(fixture, 90);
+    fixture.window->onRecycleBinWipeClicked();
+    auto *page = fixture.window->findChild<FileSelectPage *>();
+    QTRY_VERIFY(page->list()->verticalScrollBar()->maximum() > 0);
+    QCOMPARE(page->list()->count() % 20, 0);
+    QVERIFY2(page->list()->count() < 90, qPrintable(QString::number(page->list()->count())));
+    QCOMPARE(page->list()->item(0)->data(Qt::AccessibleTextRole).toString().left(4), u"file"_s);
+}
+
+void tst_RecycleBinFlow::theListGoesOnWhenTheWindowGrows()
+{
+    WindowFixture fixture;
+    addTrash(fixture, 45);
+    fixture.window->onRecycleBinWipeClicked();
+    auto *page = fixture.window->findChild<FileSelectPage *>();
+    QTRY_VERIFY(page->list()->verticalScrollBar()->maximum() > 0);
+    QCOMPARE(page->list()->count(), 20);
+    fixture.window->resize(980, 4000);
+    QTRY_COMPARE(page->list()->count(), 45);
 }
 
 void tst_RecycleBinFlow::impossibleSizesAndOldPathsAreToldAsSuch()
