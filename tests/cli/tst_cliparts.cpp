@@ -318,7 +318,7 @@ void tst_CliParts::logLinesReplaceTheProgressLine()
     QByteArray errorsBeforeTheLine;
     io.onOutput = [&](const QByteArray &) { errorsBeforeTheLine = io.err; };
     view.log(u"me\x1b[31mssage"_s, 1);
-    QCOMPARE(io.out, QByteArray("[warning] me[31mssage\n"));
+    QCOMPARE(io.out, QByteArray("[warning] me[U+001B][31mssage\n"));
     QVERIFY(errorsBeforeTheLine.trimmed().isEmpty()); // cleared first
     QVERIFY(errorsBeforeTheLine.endsWith('\r'));
     QVERIFY(io.err.endsWith(drawn)); // and drawn again

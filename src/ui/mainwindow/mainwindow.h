@@ -91,13 +91,17 @@ private:
     void connectEngine();
     void connectTitleBar();
     void applyStyleSheet();
+    void setCorners(bool square);
 
     void showPage(int index);
+    void showDisks(int mode);
+    void backFromMethods();
     void showHome();
     void takeDiskSelection();
     bool hasObstacles();
     FileSurvey lookAtFiles();
     bool isConfirmed();
+    QStringList targetLines(const FileSurvey &survey) const;
     bool isReady();
     QString erasedVolumesText() const;
     void setMenuEnabled(bool enabled);
@@ -117,6 +121,8 @@ private:
     void startRecycleBinScan();
     void offerFreeSpaceWipeOfEmptyBin(const RecycleBinInfo &found);
     void takeRecycleBin(const RecycleBinInfo &found);
+    QStringList recycleBinLines() const;
+    void fillRecycleBinList();
     void leaveRecycleBin();
 
     QFutureWatcher<RecycleBinInfo> *m_recycleBinWatcher = nullptr; ///< made by the first scan

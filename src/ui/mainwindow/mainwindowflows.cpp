@@ -1,39 +1,40 @@
 // From the home page to the start of a job.
 #include "ui/mainwindow/mainwindow.h"
 
-#include "engine/filesurvey.h"
-#include "engine/filetargets.h"
-#include "engine/foreseeable.h"
 #include "jobs/jobcontroller.h"
-#include "model/displaytext.h"
 #include "model/wipetask.h"
 #include "prompts/prompts.h"
 #include "services/diskmanager.h"
-#include "ui/dialogs/confirmdialog.h"
 #include "ui/disks/diskselectpage.h"
 #include "ui/disks/obstaclestext.h"
 #include "ui/files/fileselectpage.h"
+#include "ui/mainwindow/waitnotice.h"
 #include "ui/methods/methodselectpage.h"
 #include "ui/progress/progresspage.h"
 
 #include <QGuiApplication>
-#include <QScopeGuard>
+#include <QStackedWidget>
 
 void MainWindow::onDiskWipeClicked()
 {
     // The menu leads home without a way back through the bin.
     leaveRecycleBin();
     m_job->newTask(DiskWipe);
-    m_diskPage->setMode(DiskSelectPage::WipeDisk);
-    m_diskPage->refresh();
-    showPage(DiskSelect);
+    showDisks(DiskSelectPage::WipeDisk);
 }
 
 void MainWindow::onFreeSpaceWipeClicked()
 {
     leaveRecycleBin();
     m_job->newTask(FreeSpaceWipe);
-    m_diskPage->setMode(DiskSelectPage::WipeFreeSpace);
+    showDisks(DiskSelectPage::WipeFreeSpace);
+}
+
+// A drive that is asleep takes seconds to answer.
+void MainWindow::showDisks(int mode)
+{
+    const WaitNotice notice(*m_pages, tr("Reading drives..."));
+    m_diskPage->setMode(mode);
     m_diskPage->refresh();
     showPage(DiskSelect);
 }
@@ -55,7 +56,7 @@ void MainWindow::onBackClicked()
         showHome();
         break;
     case MethodSelect:
-        showPage(m_job->task() && m_job->task()->operationType() == FileWipe ? FileSelect : DiskSelect);
+        backFromMethods();
         break;
     case Progress:
         break;
@@ -63,6 +64,17 @@ void MainWindow::onBackClicked()
         showHome();
         break;
     }
+}
+
+void MainWindow::backFromMethods()
+{
+    if (m_job->task() && m_job->task()->operationType() == FileWipe) {
+        showPage(FileSelect);
+        return;
+    }
+    // The page reads the drives again whenever it is shown.
+    const WaitNotice notice(*m_pages, tr("Reading drives..."));
+    showPage(DiskSelect);
 }
 
 void MainWindow::onNextClicked()
@@ -117,67 +129,6 @@ bool MainWindow::hasObstacles()
                                    QMessageBox::NoButton,
                                    {},
                                    Qt::PlainText});
-    return true;
-}
-
-// A job on one partition goes over all volumes of its disk; empty when that says nothing new.
-QString MainWindow::erasedVolumesText() const
-{
-    const QList<PartitionInfo> partitions = m_job->task()->disk().partitions;
-    if (m_job->task()->operationType() != PartitionWipe || partitions.size() < 2)
-        return {};
-    QStringList names;
-    for (const PartitionInfo &partition : partitions)
-        names.append(displayText(partition.driveLetter));
-    return tr("All of these will be erased, not only %1\n%2")
-        .arg(displayText(m_job->task()->partition().driveLetter), names.join(QStringLiteral(", ")));
-}
-
-// A walk through all the folders takes its time. What asks of every file where its content lies takes more,
-// and is left to the job.
-FileSurvey MainWindow::lookAtFiles()
-{
-    if (m_job->task()->operationType() != FileWipe)
-        return {};
-    rememberTargets(*m_job->task());
-    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-    const auto restore = qScopeGuard(QGuiApplication::restoreOverrideCursor);
-    return surveyFiles(
-        *m_job->task(), [] { return false; }, 0);
-}
-
-bool MainWindow::isConfirmed()
-{
-    // What an earlier confirmation has left.
-    m_job->task()->setWholeDrive(false);
-    const FileSurvey survey = lookAtFiles();
-    if (const QString problem = survey.roomProblem(); !problem.isEmpty()) {
-        Prompts::current().warning(this, tr("These Files Cannot Be Erased"), problem);
-        return false;
-    }
-    ConfirmDialog confirmation(this);
-    if (const QString volumes = erasedVolumesText(); !volumes.isEmpty())
-        confirmation.addNotice(volumes);
-    if (m_job->task()->operationType() == FreeSpaceWipe) {
-        const OutcomeRecord foreseen = foreseeableShortfalls(*m_job->task());
-        if (const QStringList lines = foreseen.shortfallLines() + foreseen.noteLines(); !lines.isEmpty())
-            confirmation.addNotice(lines.join(u'\n'));
-    }
-    if (m_job->task()->operationType() == FileWipe) {
-        QStringList lines = foreseeableShortfalls(*m_job->task(), survey).shortfallLines();
-        if (const QString others = survey.otherNamesText(); !others.isEmpty())
-            lines.append(others);
-        if (!lines.isEmpty())
-            confirmation.addNotice(lines.join(u'\n'));
-    }
-    if (m_job->task()->operationType() == DiskWipe) {
-        const QList<Shortfall> foreseen = foreseeableShortfalls(*m_job->task()).shortfalls();
-        if (!foreseen.isEmpty())
-            confirmation.offerWholeDrive(foreseen.constFirst().bytes);
-    }
-    if (confirmation.exec() != QDialog::Accepted)
-        return false;
-    m_job->task()->setWholeDrive(confirmation.wantsWholeDrive());
     return true;
 }
 

@@ -4,16 +4,18 @@
 #include "jobs/jobcontroller.h"
 #include "model/displaytext.h"
 #include "model/formatsize.h"
+#include "model/targettext.h"
 #include "model/wipetask.h"
 #include "platform/files.h"
 #include "platform/platform.h"
 #include "prompts/prompts.h"
+#include "services/binitemtext.h"
 #include "services/recyclebinscanner.h"
 #include "ui/files/fileselectpage.h"
+#include "ui/style/spokentext.h"
 #include "ui/style/tooltip.h"
 
 #include <QDebug>
-#include <QFileInfo>
 #include <QLabel>
 #include <QListWidget>
 #include <QPointer>
@@ -33,14 +35,22 @@ constexpr int PageSize = 20;
 QString textOf(const RecycleBinItem &item)
 {
     const QString mark = item.isDirectory ? u"📁"_s : u"📄"_s;
-    const QString name = item.fileName.isEmpty() ? QFileInfo(item.recyclePath).fileName() : item.fileName;
-    return u"%1  %2  (%3)"_s.arg(mark, displayText(name), formatSize(static_cast<qint64>(item.size)));
+    return u"%1  %2  (%3)"_s.arg(mark, displayText(BinItemText::fileName(item)), BinItemText::size(item));
+}
+
+QString amountOf(const RecycleBinInfo &found)
+{
+    return MainWindow::tr("Found %1 items, total %2")
+        .arg(found.fileCount)
+        .arg(formatSize(static_cast<qint64>(found.totalSize)));
 }
 
 // A line each for what is erased without being an item, and for the bins that stay as they are.
 QStringList besideItems(const RecycleBinInfo &found)
 {
     QStringList lines;
+    if (const QString impossible = BinItemText::impossibleSizes(found); !impossible.isEmpty())
+        lines.append(impossible);
     if (!found.unrecorded.isEmpty())
         lines.append(MainWindow::tr("Erased too, without a record: %1").arg(found.unrecorded.size()));
     QStringList unscanned;
@@ -88,7 +98,8 @@ void MainWindow::startRecycleBinScan()
                     return;
                 window->m_filePage->updateLoadingProgress(
                     index + 1, count,
-                    tr("Scanning Recycle Bin on drive %1 (%2/%3)...").arg(drive).arg(index + 1).arg(count));
+                    tr("Scanning Recycle Bin on drive %1 (%2/%3)...")
+                        .arg(displayText(drive), QString::number(index + 1), QString::number(count)));
             },
             Qt::QueuedConnection);
     };
@@ -135,10 +146,7 @@ void MainWindow::takeRecycleBin(const RecycleBinInfo &found)
     m_recycleBin = found;
     m_loadedRecycleBinCount = 0;
 
-    const QString items = tr("Found %1 items, total %2")
-                              .arg(m_recycleBin.fileCount)
-                              .arg(formatSize(static_cast<qint64>(m_recycleBin.totalSize)));
-    m_filePage->statsLabel()->setText((QStringList{items} + besideItems(found)).join(u'\n'));
+    m_filePage->statsLabel()->setText((QStringList{amountOf(found)} + besideItems(found)).join(u'\n'));
     m_filePage->setReadOnly(true);
     m_filePage->setToolRowVisible(false);
     m_filePage->nextButton()->setEnabled(true);
@@ -146,7 +154,30 @@ void MainWindow::takeRecycleBin(const RecycleBinInfo &found)
     QScrollBar *bar = m_filePage->list()->verticalScrollBar();
     disconnect(bar, &QScrollBar::valueChanged, this, &MainWindow::onRecycleBinListScrolled);
     connect(bar, &QScrollBar::valueChanged, this, &MainWindow::onRecycleBinListScrolled);
+    disconnect(bar, &QScrollBar::rangeChanged, this, &MainWindow::fillRecycleBinList);
+    // Later: the list is in the middle of laying out its rows.
+    connect(bar, &QScrollBar::rangeChanged, this, &MainWindow::fillRecycleBinList, Qt::QueuedConnection);
     loadMoreRecycleBinItems();
+    QMetaObject::invokeMethod(this, &MainWindow::fillRecycleBinList, Qt::QueuedConnection);
+}
+
+// Rows that all fit leave nothing to scroll, and the others would never come.
+void MainWindow::fillRecycleBinList()
+{
+    QListWidget *const list = m_filePage->list();
+    while (m_isRecycleBinMode && m_loadedRecycleBinCount < m_recycleBin.items.size()) {
+        const int height = m_loadedRecycleBinCount * list->sizeHintForRow(0);
+        if (!list->isVisible() || height > list->viewport()->height())
+            break;
+        loadMoreRecycleBinItems();
+    }
+}
+
+QStringList MainWindow::recycleBinLines() const
+{
+    const QStringList items = TargetText::beginningOf(
+        m_recycleBin.items.size(), [this](qsizetype i) { return textOf(m_recycleBin.items.at(i)); });
+    return QStringList{amountOf(m_recycleBin)} + besideItems(m_recycleBin) + items;
 }
 
 void MainWindow::loadMoreRecycleBinItems()
@@ -156,7 +187,8 @@ void MainWindow::loadMoreRecycleBinItems()
     for (int i = m_loadedRecycleBinCount; i < end; ++i) {
         const RecycleBinItem &item = m_recycleBin.items.at(i);
         auto *row = new QListWidgetItem(textOf(item), m_filePage->list());
-        row->setToolTip(plainTip(displayText(item.originalPath)));
+        row->setToolTip(plainTip(BinItemText::details(item)));
+        row->setData(Qt::AccessibleTextRole, spokenText(row->text()));
         row->setData(Qt::UserRole, item.recyclePath);
     }
     m_loadedRecycleBinCount = end;
@@ -178,8 +210,9 @@ void MainWindow::leaveRecycleBin()
     if (!m_isRecycleBinMode)
         return;
     m_isRecycleBinMode = false;
-    disconnect(m_filePage->list()->verticalScrollBar(), &QScrollBar::valueChanged, this,
-               &MainWindow::onRecycleBinListScrolled);
+    QScrollBar *const bar = m_filePage->list()->verticalScrollBar();
+    disconnect(bar, &QScrollBar::valueChanged, this, &MainWindow::onRecycleBinListScrolled);
+    disconnect(bar, &QScrollBar::rangeChanged, this, &MainWindow::fillRecycleBinList);
     m_recycleBin = {};
     m_loadedRecycleBinCount = 0;
     m_filePage->setReadOnly(false);

@@ -188,8 +188,8 @@ void tst_FileEntry::listTexts_data()
     QTest::newRow("root") << FileEntry{u"/"_s, true, 6} << u"📁  /  (6 B)"_s;
     QTest::newRow("percent signs") << FileEntry{u"/a/%1 %2 %3"_s, false, 6} << u"📄  %1 %2 %3  (6 B)"_s;
     QTest::newRow("characters that reorder")
-        << FileEntry{u"/a/\u202Etxt.exe"_s, false, 6} << u"📄  txt.exe  (6 B)"_s;
-    QTest::newRow("a line break") << FileEntry{u"/a/b\nc"_s, false, 6} << u"📄  bc  (6 B)"_s;
+        << FileEntry{u"/a/\u202Etxt.exe"_s, false, 6} << u"📄  [U+202E]txt.exe  (6 B)"_s;
+    QTest::newRow("a line break") << FileEntry{u"/a/b\nc"_s, false, 6} << u"📄  b[U+000A]c  (6 B)"_s;
 }
 
 void tst_FileEntry::listTexts()

@@ -1,14 +1,17 @@
 #include "support/suite.h"
 #include "support/testfiles.h"
+#include "ui/mainwindow/drivewindow.h"
 #include "ui/mainwindow/mainwindow.h"
 #include "ui/mainwindow/windowfixture.h"
 
 #include "platform/forwarding.h"
 #include "services/reportdatabase.h"
 #include "support/fakedevices.h"
+#include "support/infofiles.h"
 #include "ui/files/fileselectpage.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QDir>
 #include <QDropEvent>
 #include <QFile>
@@ -24,7 +27,9 @@
 #include <QUrl>
 
 #include <cmath>
+#include <limits>
 #include <memory>
+#include <utility>
 
 #ifdef Q_OS_UNIX
 #include <fcntl.h>
@@ -42,6 +47,10 @@ private slots:
     void initTestCase();
 
     void theBinIsShownInPieces();
+    void theListGoesOnWhileAllRowsFit();
+    void theListGoesOnWhenTheWindowGrows();
+    void impossibleSizesAndOldPathsAreToldAsSuch();
+    void theQuestionNamesTheContentOfTheBin();
     void theShownBinIsErasedAndFreeSpaceOffered();
     void anEmptyBinLeadsHomeAndOffersFreeSpace_data();
     void anEmptyBinLeadsHomeAndOffersFreeSpace();
@@ -112,6 +121,80 @@ void tst_RecycleBinFlow::theBinIsShownInPieces()
     QTRY_VERIFY_WITH_TIMEOUT(bar->value() < bar->maximum(), 60000);
     bar->setValue(bar->maximum());
     QCOMPARE(page->list()->count(), 45);
+}
+
+void tst_RecycleBinFlow::theListGoesOnWhileAllRowsFit()
+{
+    WindowFixture fixture;
+    fixture.window->resize(980, 2600);
+    addTrash(fixture, 90);
+    fixture.window->onRecycleBinWipeClicked();
+    auto *page = fixture.window->findChild<FileSelectPage *>();
+    QTRY_VERIFY(page->list()->verticalScrollBar()->maximum() > 0);
+    QCOMPARE(page->list()->count() % 20, 0);
+    QVERIFY2(page->list()->count() < 90, qPrintable(QString::number(page->list()->count())));
+    QCOMPARE(page->list()->item(0)->data(Qt::AccessibleTextRole).toString().left(4), u"file"_s);
+}
+
+void tst_RecycleBinFlow::theListGoesOnWhenTheWindowGrows()
+{
+    WindowFixture fixture;
+    addTrash(fixture, 45);
+    fixture.window->onRecycleBinWipeClicked();
+    auto *page = fixture.window->findChild<FileSelectPage *>();
+    QTRY_VERIFY(page->list()->verticalScrollBar()->maximum() > 0);
+    QCOMPARE(page->list()->count(), 20);
+    fixture.window->resize(980, 4000);
+    QTRY_COMPARE(page->list()->count(), 45);
+}
+
+void tst_RecycleBinFlow::impossibleSizesAndOldPathsAreToldAsSuch()
+{
+    const QTemporaryDir drive;
+    DriveWindow drives;
+    drives.memory.addVolume(drive.path(), 0, 0, DriveMachine::Size);
+    drives.machine.fakeSession.user = u"S-1-5-21-1"_s;
+    const QString bin = drive.path() + u"/$Recycle.Bin/S-1-5-21-1/"_s;
+    constexpr quint64 Largest = std::numeric_limits<quint64>::max();
+    writeFile(bin + u"$I1.txt"_s, infoVersion2(u"C:\\huge.txt"_s, Largest));
+    writeFile(bin + u"$R1.txt"_s, "a");
+    writeFile(bin + u"$I2.txt"_s, infoVersion1(u"C:\\old\\letter.txt"_s, 3));
+    writeFile(bin + u"$R2.txt"_s, "abc");
+    WindowFixture fixture(std::move(drives.owned));
+    fixture.window->onRecycleBinWipeClicked();
+    auto *page = fixture.window->findChild<FileSelectPage *>();
+    QTRY_COMPARE(page->list()->count(), 2);
+    const QListWidgetItem *huge = page->list()->item(0);
+    const QListWidgetItem *old = page->list()->item(1);
+    if (huge->text().contains(u"letter"_s))
+        std::swap(huge, old);
+    QCOMPARE(huge->text(), u"📄  huge.txt  (16384.00 PB, an impossible size)"_s);
+    QVERIFY2(huge->toolTip().contains(u"18446744073709551615 bytes"_s), qPrintable(huge->toolTip()));
+    QCOMPARE(old->text(), u"📄  letter.txt  (3 B)"_s);
+    QCOMPARE(old->toolTip(), u"C:\\old\\letter.txt"_s);
+    QCOMPARE(page->statsLabel()->text(),
+             u"Found 2 items, total 16384.00 PB\nImpossible sizes in the sum: 1"_s);
+}
+
+void tst_RecycleBinFlow::theQuestionNamesTheContentOfTheBin()
+{
+    WindowFixture fixture;
+    addTrash(fixture, 22);
+    fixture.window->onRecycleBinWipeClicked();
+    QTRY_VERIFY(fixture.button(u"Next →"_s)->isEnabled());
+    QVERIFY(fixture.click(u"Next →"_s));
+    QStringList target;
+    fixture.dialogs.answers = {[&target](QDialog &dialog) {
+        if (const auto *text = dialog.findChild<QTextEdit *>(u"dialogTarget"_s))
+            target = text->toPlainText().split(u'\n');
+        dialog.reject();
+    }};
+    QVERIFY(fixture.click(u"Start"_s));
+    QTRY_VERIFY(fixture.dialogs.answers.isEmpty());
+    QCOMPARE(target.size(), 22);
+    QCOMPARE(target.at(0), u"Found 22 items, total 154 B"_s);
+    QVERIFY2(target.at(1).startsWith(u"📄  file"_s), qPrintable(target.at(1)));
+    QCOMPARE(target.at(21), u"and 2 more"_s);
 }
 
 void tst_RecycleBinFlow::theShownBinIsErasedAndFreeSpaceOffered()
