@@ -15,6 +15,7 @@
 #include <QDir>
 #include <QDropEvent>
 #include <QFile>
+#include <QFutureWatcher>
 #include <QLabel>
 #include <QListWidget>
 #include <QMessageBox>
