@@ -38,6 +38,7 @@ private slots:
     void everyLanguageOfTheProgramIsTaken();
     void theSystemDecidesTheLanguageOfWhatPeopleRead_data();
     void theSystemDecidesTheLanguageOfWhatPeopleRead();
+    void theLanguageOfTheSourcesIsWhole();
     void machineOutputIsTheSameOnEverySystem();
     void anImageMustBeARegularFile();
     void anImageMayBeGivenThroughALink();
@@ -285,6 +286,16 @@ void tst_CliCommandLine::theSystemDecidesTheLanguageOfWhatPeopleRead()
     const QByteArray wanted = methodsOn(u"ja_JP"_s, {u"--lang"_s, language});
     QCOMPARE(methodsOn(systemLocale, {}), wanted);
     QVERIFY(wanted != methodsOn(u"ja_JP"_s, {}));
+}
+
+// Half of them are English there.
+void tst_CliCommandLine::theLanguageOfTheSourcesIsWhole()
+{
+    CliRun run;
+    run({u"wipe"_s, u"disk"_s, u"--help"_s, u"--lang"_s, u"zh_CN"_s});
+    QCOMPARE(run.code, 0);
+    QVERIFY2(run.io.out.contains("擦除整个驱动器"), run.io.out.constData());
+    QVERIFY2(!run.io.out.contains("Erases a whole drive"), run.io.out.constData());
 }
 
 void tst_CliCommandLine::machineOutputIsTheSameOnEverySystem()
