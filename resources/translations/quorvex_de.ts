@@ -2771,6 +2771,10 @@ Möchten Sie den freien Speicherplatz löschen, damit dies nicht mehr möglich i
         <source>bins were not looked into, what they hold is not erased</source>
         <translation>Papierkörbe wurden nicht durchsucht, ihr Inhalt ist nicht gelöscht</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
 </context>
 <context>
     <name>ProgressPage</name>

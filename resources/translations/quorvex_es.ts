@@ -2771,6 +2771,10 @@ Sin embargo, es posible que los archivos eliminados anteriormente aún se puedan
         <source>bins were not looked into, what they hold is not erased</source>
         <translation>no se examinaron papeleras, lo que contienen no se borra</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
 </context>
 <context>
     <name>ProgressPage</name>

@@ -2771,6 +2771,10 @@ Voulez-vous effacer l&apos;espace libre afin qu&apos;ils ne puissent pas être r
         <source>bins were not looked into, what they hold is not erased</source>
         <translation>des corbeilles n&apos;ont pas été examinées, leur contenu n&apos;est pas effacé</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1&#xa0;: %2</translation>
+    </message>
 </context>
 <context>
     <name>ProgressPage</name>

@@ -2771,6 +2771,10 @@ Cancellare lo spazio libero in modo che non possano essere recuperati?</translat
         <source>bins were not looked into, what they hold is not erased</source>
         <translation>alcuni cestini non sono stati esaminati, il loro contenuto non viene cancellato</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
 </context>
 <context>
     <name>ProgressPage</name>

@@ -2771,6 +2771,10 @@ Would you like to wipe free space to ensure they cannot be recovered?</source>
         <source>bins were not looked into, what they hold is not erased</source>
         <translation>調べていないごみ箱があり、その中身は消去されません</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
 </context>
 <context>
     <name>ProgressPage</name>

@@ -2771,6 +2771,10 @@ Would you like to wipe free space to ensure they cannot be recovered?</source>
         <source>bins were not looked into, what they hold is not erased</source>
         <translation>살펴보지 않은 휴지통이 있으며, 그 내용은 소거되지 않습니다</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
 </context>
 <context>
     <name>ProgressPage</name>

@@ -2771,6 +2771,10 @@ Wilt u de vrije ruimte wissen, zodat ze niet meer kunnen worden hersteld?</trans
         <source>bins were not looked into, what they hold is not erased</source>
         <translation>prullenbakken zijn niet doorzocht, de inhoud ervan is niet gewist</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
 </context>
 <context>
     <name>ProgressPage</name>

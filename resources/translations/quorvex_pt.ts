@@ -2771,6 +2771,10 @@ Deseja apagar o espaço livre para que eles não possam ser recuperados?</transl
         <source>bins were not looked into, what they hold is not erased</source>
         <translation>lixeiras não foram examinadas, o que contêm não é apagado</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
 </context>
 <context>
     <name>ProgressPage</name>
