@@ -17,8 +17,7 @@ export LC_ALL=C.UTF-8
     packages_test=(e2fsprogs xfsprogs btrfs-progs util-linux mount libfuse3-dev fuse3 pkg-config)
     # A reader of PDF files that is not ours.
     packages_test+=(poppler-utils)
-    # The texts of Qt's own dialogs, which scripts/qt-texts.py takes over.
-    packages_ci=(git clang-format shellcheck python3 qt6-translations-l10n)
+    packages_ci=(git clang-format shellcheck python3)
     # This one does not apply its checks to the headers of Qt again for every file, and takes a third of the time.
     packages_ci+=(clang-tidy-22)
     # Besides the compiler the sanitizers with the loop that feeds a reader, and what names the lines of a stack.
