@@ -1,19 +1,17 @@
-// How files that received their passes are removed, and the folders that held them.
-#include "engine/filewipeworker.h"
+#include "engine/fileremoval.h"
 
 #include "engine/filedeletion.h"
 #include "engine/filetrace.h"
 #include "engine/folderremoval.h"
+#include "engine/jobfiles.h"
 #include "model/displaytext.h"
-#include "model/wipetask.h"
 #include "platform/files.h"
 #include "platform/platform.h"
-
-#include <QSet>
 
 #include <algorithm>
 #include <chrono>
 #include <cstddef>
+#include <utility>
 #include <vector>
 
 using platform::EntryPath;
@@ -29,20 +27,25 @@ platform::Files &files()
 
 } // namespace
 
-bool FileWipeWorker::deleteFrom(std::size_t first)
+FileRemoval::FileRemoval(RunningJob &job, JobFiles &files, OverwriteAgain overwriteAgain)
+    : m_job(job)
+    , m_files(files)
+    , m_overwriteAgain(std::move(overwriteAgain))
+{}
+
+bool FileRemoval::deleteFrom(std::size_t first)
 {
-    FileDeletion deletion([this](std::chrono::milliseconds time) { return waitUnlessStopped(time); },
-                          &m_removals);
+    FileDeletion deletion([this](std::chrono::milliseconds time) { return m_job.wait(time); }, &m_removals);
     int failures = 0;
-    for (std::size_t i = first; i < m_list.files.size(); ++i) {
-        if (isStopRequested())
+    for (std::size_t i = first; i < m_files.count(); ++i) {
+        if (m_job.isStopping())
             break;
         if (!deleteFile(deletion, i)) {
             ++failures;
-            log(tr("删除失败: %1").arg(displayText(pathOf(i))), Warning);
-            task().noteShortfall({ShortfallKind::EntryNotRemoved, pathOf(i)});
+            m_job.note(tr("删除失败: %1").arg(displayText(m_files.pathOf(i))), RunningJob::Warning);
+            m_job.noteShortfall({ShortfallKind::EntryNotRemoved, m_files.pathOf(i)});
         }
-        if (i < m_firstCount)
+        if (i < m_countedFiles)
             ++m_processedCount;
     }
     m_failedCount += failures;
@@ -50,36 +53,36 @@ bool FileWipeWorker::deleteFrom(std::size_t first)
 }
 
 // False when it stands under its name.
-bool FileWipeWorker::deleteFile(FileDeletion &deletion, std::size_t index)
+bool FileRemoval::deleteFile(FileDeletion &deletion, std::size_t index)
 {
-    const auto place = entry(index);
+    const auto place = m_files.entry(index);
     if (!place) {
         if (isAbsent(place.status()))
-            watched(index).vanish();
+            m_files.watched(index).vanish();
         return isAbsent(place.status());
     }
     if (const auto info = files().info(place.value()); info) {
-        if (watched(index).isReplacedBy(info.value())) {
-            noteReplaced(pathOf(index));
+        if (m_files.watched(index).isReplacedBy(info.value())) {
+            m_files.noteReplaced(m_files.pathOf(index));
             return true;
         }
         if (!overwriteGrown(index, place.value(), info.value()))
-            return isStopRequested();
+            return m_job.isStopping();
     }
-    if (deletion.secureDeleteFile(place.value(), &watched(index))) {
+    if (deletion.secureDeleteFile(place.value(), &m_files.watched(index))) {
         if (deletion.found() == FileDeletion::Found::Nothing)
-            watched(index).vanish();
+            m_files.watched(index).vanish();
         else
-            watched(index).remove();
+            m_files.watched(index).remove();
         m_removals.add(place.value(), {index});
         return true;
     }
     if (deletion.found() == FileDeletion::Found::Another) {
-        noteReplaced(pathOf(index));
+        m_files.noteReplaced(m_files.pathOf(index));
         return true;
     }
     if (deletion.leftAt())
-        m_left.push_back({m_list.files[index].folder, deletion.leftAt()->name()});
+        m_files.left().push_back({m_files.list().files[index].folder, deletion.leftAt()->name()});
     // Unknown counts as standing; what a rename took away from under its path counts as gone.
     const auto info = files().info(place.value());
     return info ? info.value().kind == FileKind::Folder : isAbsent(info.status());
@@ -87,60 +90,43 @@ bool FileWipeWorker::deleteFile(FileDeletion &deletion, std::size_t index)
 
 // What a file has gained since its passes is to be gone as the rest of it. False when it could not be
 // written.
-bool FileWipeWorker::overwriteGrown(std::size_t index, const EntryPath &entry,
-                                    const platform::FileInfo &found)
+bool FileRemoval::overwriteGrown(std::size_t index, const EntryPath &entry, const platform::FileInfo &found)
 {
-    qint64 grown = watched(index).grownBy(found);
+    qint64 grown = m_files.watched(index).grownBy(found);
     for (int round = 0; grown > 0 && round < MostRounds; ++round) {
-        watched(index).beginAnew();
-        if (!overwriteAgain(index))
+        m_files.watched(index).beginAnew();
+        if (!m_overwriteAgain(index))
             return false;
         const auto info = files().info(entry);
-        grown = info ? watched(index).grownBy(info.value()) : 0;
+        grown = info ? m_files.watched(index).grownBy(info.value()) : 0;
     }
     if (grown > 0)
-        task().noteShortfall({ShortfallKind::EntryGrew, entry.path(), grown});
+        m_job.noteShortfall({ShortfallKind::EntryGrew, entry.path(), grown});
     return true;
-}
-
-// What appeared while files were deleted.
-bool FileWipeWorker::eraseLate()
-{
-    bool success = true;
-    for (int round = 0; round < MostRounds && success; ++round) {
-        const std::size_t first = addLate();
-        if (first == m_list.files.size())
-            break;
-        success = overwriteFrom(first);
-        if (!success)
-            break;
-        m_overwrittenCount = m_list.files.size();
-        success = deleteFrom(first);
-    }
-    return success;
 }
 
 // A stop may have left files of the folders that are removed next. They received every pass; what did not is
 // not removed with them, since that would take it out of sight and leave it on the medium.
-void FileWipeWorker::removeRest()
+void FileRemoval::removeRest(std::size_t overwritten)
 {
-    const std::vector<HeldTree::Folder> tops = FolderRemoval::topsAmong(m_tree, m_list.folders);
+    const std::vector<HeldTree::Folder> tops =
+        FolderRemoval::topsAmong(m_files.tree(), m_files.list().folders);
     const auto isMeant = [&tops](const FileEntry &file) {
         return tops[static_cast<std::size_t>(file.folder)] != HeldTree::None;
     };
-    for (std::size_t i = 0; i < m_overwrittenCount; ++i) {
-        const WatchedFile &file = watched(i);
-        if (file.isRemoved() || !isMeant(m_list.files[i]))
+    for (std::size_t i = 0; i < overwritten; ++i) {
+        const WatchedFile &file = m_files.watched(i);
+        if (file.isRemoved() || !isMeant(m_files.list().files[i]))
             continue;
-        const auto place = entry(i);
+        const auto place = m_files.entry(i);
         const auto info = place ? files().info(place.value()) : place.status();
         if (!info || info.value().kind == FileKind::Folder || file.isReplacedBy(info.value()) ||
             file.grownBy(info.value()) > 0)
             continue;
-        traceFile(pathOf(i), files().remove(place.value()));
+        traceFile(m_files.pathOf(i), files().remove(place.value()));
     }
-    for (const FileEntry &left : m_left) {
-        const auto place = m_tree.entry(left.folder, left.name);
+    for (const FileEntry &left : m_files.left()) {
+        const auto place = m_files.tree().entry(left.folder, left.name);
         if (place && isMeant(left))
             traceFile(place.value().path(), files().remove(place.value()));
     }
@@ -148,47 +134,18 @@ void FileWipeWorker::removeRest()
 
 // Only folders whose content was in the list: what could not be listed was not overwritten, and removing it
 // would take it out of sight and leave it on the medium.
-void FileWipeWorker::removeFolders()
+void FileRemoval::removeFolders()
 {
     const auto standing = [this](const QString &folder, const Status &status) {
-        log(tr("无法删除文件夹: %1，错误码: %2").arg(displayText(folder), QString::number(status.code)),
-            Warning);
-        task().noteShortfall({ShortfallKind::EntryNotRemoved, folder});
+        m_job.note(
+            tr("无法删除文件夹: %1，错误码: %2").arg(displayText(folder), QString::number(status.code)),
+            RunningJob::Warning);
+        m_job.noteShortfall({ShortfallKind::EntryNotRemoved, folder});
         traceFile(folder, status);
     };
     const auto replaced = [this](const QString &folder) {
-        task().noteShortfall({ShortfallKind::EntryReplaced, folder});
+        m_job.noteShortfall({ShortfallKind::EntryReplaced, folder});
     };
-    FolderRemoval(m_tree, {.replaced = replaced, .standing = standing}).remove(m_list.folders);
-}
-
-// A removal that is not on the medium is none. What was removed last may still be in the cache.
-bool FileWipeWorker::settleRemovals()
-{
-    const int failures = m_failedCount;
-    for (const DurabilityGroups::Closed &closed : m_removals.close()) {
-        if (closed.status)
-            continue;
-        tellLost(closed.members, closed.status);
-        for (const DurabilityGroups::Member &member : closed.members)
-            task().noteShortfall({ShortfallKind::EntryNotRemoved, pathOf(member.file)});
-    }
-    return m_failedCount == failures;
-}
-
-// What was removed under another name, or under another spelling of its path, has not vanished.
-void FileWipeWorker::noteVanished()
-{
-    if (std::ranges::none_of(m_watched, &WatchedFile::isVanished))
-        return;
-    QSet<platform::FileId> removed;
-    for (const WatchedFile &file : m_watched) {
-        if (file.isRemoved() && file.found() && file.found()->id.number != 0)
-            removed.insert(file.found()->id);
-    }
-    for (std::size_t i = 0; i < m_watched.size(); ++i) {
-        const auto &found = m_watched[i].found();
-        if (m_watched[i].isVanished() && !(found && removed.contains(found->id)))
-            task().noteShortfall({ShortfallKind::EntryVanished, pathOf(i)});
-    }
+    FolderRemoval(m_files.tree(), {.replaced = replaced, .standing = standing})
+        .remove(m_files.list().folders);
 }

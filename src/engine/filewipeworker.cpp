@@ -1,4 +1,3 @@
-// From the scan to the end of a job.
 #include "engine/filewipeworker.h"
 
 #include "engine/filetrace.h"
@@ -15,31 +14,27 @@
 #include <cstddef>
 #include <iterator>
 #include <new>
-#include <utility>
 #include <vector>
 
 using namespace Qt::StringLiterals;
-using platform::EntryPath;
 using platform::FileKind;
-using platform::Result;
 using platform::Status;
 
 namespace {
 
-platform::Files &files()
+FileOverwriting::Settings settingsOf(const WipeTask &task)
 {
-    return platform::Platform::current().files();
+    return {.threads = task.threadCount() >= 1 ? task.threadCount() : QThread::idealThreadCount(),
+            .bufferSizeMB = task.bufferSizeMB(),
+            .readsBack = task.verifyAfterWipe()};
 }
 
 } // namespace
 
 FileWipeWorker::FileWipeWorker(WipeTask *task, QObject *parent)
     : BaseWipeWorker(task, parent)
-    // Already the position in the whole job; updateProgress() counts the earlier passes once more. The
-    // figures run ahead in later passes, as everybody who reads them expects.
-    , m_progress([this](qint64 done, qint64 total) { updateProgress(done, total); })
-    , m_sampling([this] { return !isStopRequested(); })
-    , m_pool(task->threadCount() >= 1 ? task->threadCount() : QThread::idealThreadCount(), this)
+    , m_removal(*this, m_files, [this](std::size_t index) { return overwriteAgain(index); })
+    , m_overwriting(*this, m_files, settingsOf(*task), this)
 {}
 
 FileWipeWorker::~FileWipeWorker()
@@ -57,7 +52,7 @@ bool FileWipeWorker::run()
     try {
         return shred();
     } catch (const std::bad_alloc &) {
-        m_list = {}; // where most of the memory is
+        m_files.list() = {}; // where most of the memory is
         throw;
     }
 }
@@ -65,11 +60,11 @@ bool FileWipeWorker::run()
 bool FileWipeWorker::shred()
 {
     log(tr("正在扫描目标文件..."));
-    m_list = collectFiles(task().files());
+    m_files.list() = collectFiles(task().files());
     if (isStopRequested())
         return concludeJob(false);
-    if (m_list.files.empty()) {
-        removeFolders();
+    if (m_files.list().files.empty()) {
+        m_removal.removeFolders();
         emit errorOccurred(tr("没有找到要擦除的文件"));
         return false;
     }
@@ -82,47 +77,27 @@ bool FileWipeWorker::shred()
     if (!isOverwritten)
         return concludeJob(false);
     log(tr("正在执行安全删除及元数据清理..."));
-    bool success = deleteFrom(0);
+    bool success = m_removal.deleteFrom(0);
     success = eraseLate() && success;
-    removeRest();
-    removeFolders();
+    m_removal.removeRest(m_overwrittenCount);
+    m_removal.removeFolders();
     success = settleRemovals() && success;
     return concludeJob(success);
 }
 
-Result<EntryPath> FileWipeWorker::entry(std::size_t file)
-{
-    const FileEntry &found = m_list.files[file];
-    return m_tree.entry(found.folder, found.name);
-}
-
-Result<platform::FileInfo> FileWipeWorker::look(std::size_t file)
-{
-    const Result<EntryPath> place = entry(file);
-    if (!place)
-        return place.status();
-    return files().info(place.value());
-}
-
-QString FileWipeWorker::pathOf(std::size_t file) const
-{
-    const FileEntry &found = m_list.files[file];
-    return m_tree.path(found.folder, found.name);
-}
-
 bool FileWipeWorker::concludeJob(bool success)
 {
-    noteVanished();
+    m_files.noteVanished();
     if (isStopRequested()) {
-        log(tr("擦除任务已由用户取消"), Warning);
+        log(tr("擦除任务已由用户取消"), BaseWipeWorker::Warning);
         return false;
     }
-    const int failed = m_failedCount + m_list.unreadable;
+    const int failed = failedCount() + m_files.list().unreadable;
     if (success && failed == 0) {
-        log(tr("所有文件擦除成功！共处理 %1 个文件").arg(m_processedCount));
+        log(tr("所有文件擦除成功！共处理 %1 个文件").arg(m_removal.processedCount()));
         return true;
     }
-    log(tr("擦除完成，但有 %1 个文件失败。数据可能不安全！").arg(failed), Error);
+    log(tr("擦除完成，但有 %1 个文件失败。数据可能不安全！").arg(failed), BaseWipeWorker::Error);
     return false;
 }
 
@@ -134,13 +109,13 @@ FileCollector::Observer FileWipeWorker::observer()
                                    const Status &status) {
         const QString text = what == FileCollector::Unreadable::Folder ? tr("无法读取文件夹: %1，错误码: %2")
                                                                        : tr("无法访问: %1，错误码: %2");
-        log(text.arg(displayText(path), QString::number(status.code)), Error);
+        log(text.arg(displayText(path), QString::number(status.code)), BaseWipeWorker::Error);
         traceFile(path, status);
     };
     return {.goOn = [this] { return checkPauseStop(); },
             .unreadable = unreadable,
-            .mounted = [this](const QString &path) { noteMounted(path); },
-            .replaced = [this](const QString &path) { noteReplaced(path); },
+            .mounted = [this](const QString &path) { m_files.noteMounted(path); },
+            .replaced = [this](const QString &path) { m_files.noteReplaced(path); },
             .vanished =
                 [this](const QString &path) {
                     task().noteShortfall({ShortfallKind::EntryVanished, path});
@@ -149,120 +124,242 @@ FileCollector::Observer FileWipeWorker::observer()
 
 FileList FileWipeWorker::collectFiles(const QStringList &targets)
 {
-    return FileCollector(m_tree, observer()).collect(targets, task().targetIdentities());
-}
-
-// Neither the folder's content nor the user's choice: whatever is mounted there stays as it is.
-void FileWipeWorker::noteMounted(const QString &path)
-{
-    if (m_mounted.contains(path))
-        return;
-    m_mounted.insert(path);
-    log(tr("文件夹中挂载了其他文件系统，保持原样: %1").arg(displayText(path)), Warning);
-    task().noteShortfall({ShortfallKind::EntryNotRemoved, path});
+    return FileCollector(m_files.tree(), observer()).collect(targets, task().targetIdentities());
 }
 
 void FileWipeWorker::measureFrom(std::size_t first)
 {
-    m_watched.resize(m_list.files.size());
-    std::size_t kept = first;
-    std::size_t i = first;
-    for (; i < m_list.files.size() && checkPauseStop(); ++i) {
-        if (!measureFile(i))
-            continue;
-        if (kept != i) {
-            m_list.files[kept] = std::move(m_list.files[i]);
-            m_watched[kept] = m_watched[i];
-        }
-        ++kept;
-    }
-    const auto given = static_cast<std::ptrdiff_t>(i);
-    const auto left = static_cast<std::ptrdiff_t>(kept);
-    m_list.files.erase(m_list.files.begin() + left, m_list.files.begin() + given);
-    m_watched.erase(m_watched.begin() + left, m_watched.begin() + given);
+    m_files.watchAll();
+    m_files.keepFrom(
+        first, [this](std::size_t file) { return measureFile(file); }, [this] { return checkPauseStop(); });
 }
 
 // False for what does not belong to the list.
 bool FileWipeWorker::measureFile(std::size_t file)
 {
-    const auto info = look(file);
+    const auto info = m_files.look(file);
     if (!info) {
         m_isTotalCertain = m_isTotalCertain && isAbsent(info.status());
         if (isAbsent(info.status()))
-            watched(file).vanish();
+            m_files.watched(file).vanish();
         return true;
     }
     if (info.value().isMounted && info.value().kind != FileKind::Folder) {
-        noteMounted(pathOf(file));
+        m_files.noteMounted(m_files.pathOf(file));
         return false;
     }
-    watched(file).find(info.value());
+    m_files.watched(file).find(info.value());
     if (info.value().kind != FileKind::Regular)
         return true;
     m_singlePassTotal += info.value().size;
     // No pass opens it, and yet there may be streams beside the one that is empty.
     if (info.value().size == 0) {
-        const auto place = entry(file);
-        const auto content = place ? files().contentPlace(place.value()) : place.status();
+        const auto place = m_files.entry(file);
+        const auto content =
+            place ? platform::Platform::current().files().contentPlace(place.value()) : place.status();
         if (!isAbsent(content.status()))
-            notePlace(pathOf(file), content);
+            m_overwriting.notePlace(m_files.pathOf(file), content);
     }
     if (info.value().linkCount > 1) {
         const qint64 others = info.value().linkCount - 1;
-        log(tr("文件还有 %1 个其他硬链接: %2").arg(QString::number(others), displayText(pathOf(file))),
-            Warning);
-        task().noteShortfall({ShortfallKind::OtherNames, pathOf(file), -1, others});
+        log(tr("文件还有 %1 个其他硬链接: %2")
+                .arg(QString::number(others), displayText(m_files.pathOf(file))),
+            BaseWipeWorker::Warning);
+        task().noteShortfall({ShortfallKind::OtherNames, m_files.pathOf(file), -1, others});
     }
     return true;
 }
 
 std::size_t FileWipeWorker::addLate()
 {
-    const std::size_t first = m_list.files.size();
-    if (m_list.folders.empty() || isStopRequested())
+    const std::size_t first = m_files.count();
+    FileList &list = m_files.list();
+    if (list.folders.empty() || isStopRequested())
         return first;
-    std::vector<FileEntry> known = m_list.files;
-    known.insert(known.end(), m_left.begin(), m_left.end());
-    FileList late = FileCollector(m_tree, observer()).collectNew(m_list.folders, FileIndex(m_tree, known));
-    m_list.unreadable += late.unreadable;
-    std::ranges::move(late.files, std::back_inserter(m_list.files));
+    std::vector<FileEntry> known = list.files;
+    known.insert(known.end(), m_files.left().begin(), m_files.left().end());
+    FileList late =
+        FileCollector(m_files.tree(), observer()).collectNew(list.folders, FileIndex(m_files.tree(), known));
+    list.unreadable += late.unreadable;
+    std::ranges::move(late.files, std::back_inserter(list.files));
     const qint64 announced = m_singlePassTotal;
     measureFrom(first);
     m_singlePassTotal = announced;
-    if (m_list.files.size() > first)
-        log(tr("任务期间又出现 %1 个文件，同样进行擦除").arg(m_list.files.size() - first), Warning);
+    if (m_files.count() > first)
+        log(tr("任务期间又出现 %1 个文件，同样进行擦除").arg(m_files.count() - first),
+            BaseWipeWorker::Warning);
     return first;
 }
 
 void FileWipeWorker::announceFiles()
 {
-    m_firstCount = m_list.files.size();
+    m_removal.countUpTo(m_files.count());
     m_totalPasses = task().method().passCount();
     task().updateReport([this](WipeReport &report) {
-        report.fileCount = static_cast<qint32>(m_list.files.size());
+        report.fileCount = static_cast<qint32>(m_files.count());
         report.totalBytes = static_cast<quint64>(m_singlePassTotal);
     });
     log(tr("准备擦除 %1 个文件，单遍总大小 %2")
-            .arg(QString::number(m_list.files.size()), formatSize(m_singlePassTotal)));
+            .arg(QString::number(m_files.count()), formatSize(m_singlePassTotal)));
     if (!task().targetsAreNamed())
         return;
     for (const QString &link : linksAmong(task().files()))
         task().noteShortfall({ShortfallKind::LinkTarget, link});
 }
 
-void FileWipeWorker::noteReplaced(const QString &path)
+bool FileWipeWorker::overwriteAll()
 {
-    log(tr("文件已被替换，保持原样: %1").arg(displayText(path)), Warning);
-    task().noteShortfall({ShortfallKind::EntryReplaced, path});
+    m_bytesBeforePass = 0;
+    // A total of 0 proves that there is nothing to overwrite only when every size was told.
+    if (m_singlePassTotal <= 0 && m_isTotalCertain) {
+        log(tr("所有文件为空，跳过数据覆写"));
+        return !isStopRequested();
+    }
+    noteReadBack(true);
+    const QList<PassPattern> passes = task().method().passes;
+    for (const PassPattern &pattern : passes) {
+        if (isStopRequested())
+            return false;
+        ++m_currentPass;
+        emit passChanged(m_currentPass, m_totalPasses);
+        m_overwriting.progress().beginPass(m_currentPass, m_totalPasses, m_singlePassTotal);
+        const bool passed = m_overwriting.overwriteFrom(0, pattern);
+        m_bytesBeforePass += m_overwriting.progress().bytesOfPass();
+        if (!passed)
+            return failPass(m_currentPass);
+    }
+    return !isStopRequested();
+}
+
+bool FileWipeWorker::overwriteLate()
+{
+    for (int round = 0; round < FileRemoval::MostRounds; ++round) {
+        m_overwrittenCount = m_files.count();
+        const std::size_t first = addLate();
+        if (first == m_files.count())
+            break;
+        if (!overwriteFrom(first))
+            return false;
+        m_overwrittenCount = m_files.count();
+    }
+    return !isStopRequested();
+}
+
+bool FileWipeWorker::overwriteFrom(std::size_t first)
+{
+    noteReadBack(true);
+    m_overwriting.beLate();
+    int pass = 0;
+    const QList<PassPattern> passes = task().method().passes;
+    for (const PassPattern &pattern : passes) {
+        ++pass;
+        if (isStopRequested())
+            return false;
+        if (!m_overwriting.overwriteFrom(first, pattern))
+            return failPass(pass);
+    }
+    return !isStopRequested();
+}
+
+bool FileWipeWorker::overwriteAgain(std::size_t index)
+{
+    noteReadBack(true);
+    m_overwriting.beLate();
+    const QList<PassPattern> passes = task().method().passes;
+    return std::ranges::all_of(passes, [this, index](const PassPattern &pattern) {
+        return m_overwriting.overwriteOne(index, pattern);
+    });
+}
+
+bool FileWipeWorker::failPass(int pass)
+{
+    log(tr("第 %1/%2 遍覆写出现失败文件，失败数: %3").arg(pass).arg(m_totalPasses).arg(failedCount()),
+        BaseWipeWorker::Error);
+    return false;
+}
+
+// One line for all of them: there may be as many as files.
+void FileWipeWorker::logContentElsewhere()
+{
+    if (m_overwriting.elsewhereCount() > 0)
+        log(tr("%1 个文件的内容可能还保存在别处，未被覆写").arg(m_overwriting.elsewhereCount()),
+            BaseWipeWorker::Warning);
+}
+
+// What appeared while files were deleted.
+bool FileWipeWorker::eraseLate()
+{
+    bool success = true;
+    for (int round = 0; round < FileRemoval::MostRounds && success; ++round) {
+        const std::size_t first = addLate();
+        if (first == m_files.count())
+            break;
+        success = overwriteFrom(first);
+        if (!success)
+            break;
+        m_overwrittenCount = m_files.count();
+        success = m_removal.deleteFrom(first);
+    }
+    return success;
+}
+
+// A removal that is not on the medium is none. What was removed last may still be in the cache.
+bool FileWipeWorker::settleRemovals()
+{
+    const int failures = failedCount();
+    for (const DurabilityGroups::Closed &closed : m_removal.settle()) {
+        if (closed.status)
+            continue;
+        m_overwriting.tellLost(closed.members, closed.status);
+        for (const DurabilityGroups::Member &member : closed.members)
+            task().noteShortfall({ShortfallKind::EntryNotRemoved, m_files.pathOf(member.file)});
+    }
+    return failedCount() == failures;
+}
+
+void FileWipeWorker::note(const QString &message, NoteLevel level)
+{
+    log(message, static_cast<LogLevel>(level));
+}
+
+void FileWipeWorker::diagnose(const platform::Status &failure)
+{
+    traceFile(QString(), failure);
+}
+
+void FileWipeWorker::noteShortfall(const Shortfall &shortfall)
+{
+    task().noteShortfall(shortfall);
+}
+
+void FileWipeWorker::noteWritten(qint64 bytes)
+{
+    task().noteWritten(bytes);
+}
+
+void FileWipeWorker::fill(std::byte *data, qint64 size, const PassPattern &pattern)
+{
+    fillBuffer(data, size, pattern);
+}
+
+void FileWipeWorker::fillFrom(PatternGenerator &random, std::byte *data, qint64 size,
+                              const PassPattern &pattern)
+{
+    fillBuffer(data, size, pattern, random);
+}
+
+bool FileWipeWorker::matches(const std::byte *data, qint64 size, const PassPattern &pattern) const
+{
+    return verifyBuffer(data, size, pattern);
 }
 
 void FileWipeWorker::complete()
 {
     // A volume can be unmounted as soon as the job is over.
-    for (const DurabilityGroups::Closed &closed : m_removals.close())
+    for (const DurabilityGroups::Closed &closed : m_removal.settle())
         traceFile(QString(), closed.status);
-    m_tree.releaseAll();
-    const int samples = m_sampling.samplesRead();
+    m_files.tree().releaseAll();
+    const int samples = m_overwriting.samplesRead();
     task().updateReport([samples](WipeReport &report) {
         report.verificationSampleSize = samples;
         report.verificationMethod = samples > 0 ? u"random sampling, 3 samples per file"_s : QString();
