@@ -53,7 +53,7 @@ private:
 namespace {
 
 constexpr auto noPoppler =
-    "SKIPPED: pdftotext and pdftoppm (poppler-utils) are not installed; nobody looks at the paper";
+    "SKIPPED: poppler-utils (pdftotext, pdftoppm) is not installed; nobody looks at the paper";
 
 // A hash of the length it has.
 WipeReport reportOf(OperationType operation, WipeMethod::Type method)

@@ -1,83 +1,27 @@
 #include "support/suite.h"
 #include "support/userdata.h"
-#include "ui/mainwindow/drivewindow.h"
+#include "ui/mainwindow/heldjob.h"
 
 #include "engine/wipeengine.h"
 #include "jobs/jobcontroller.h"
-#include "model/wipereport.h"
+#include "model/joboutcome.h"
 #include "services/reportdatabase.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QLabel>
-#include <QSemaphore>
 #include <QTest>
 #include <QThread>
 #include <QTimer>
 
 #include <array>
-#include <atomic>
 #include <chrono>
-#include <memory>
-#include <optional>
 #include <thread>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 namespace {
-
-// A job that waits with each write until the test lets it go on.
-struct HeldJob
-{
-    HeldJob()
-        : memory(drives.memory)
-    {
-        memory.beforeWrite = [this] {
-            isWriting = true;
-            letGo.acquire();
-            letGo.release();
-        };
-        fixture = std::make_unique<WindowFixture>(std::move(drives.owned));
-        engine().setStopPatience(10ms);
-    }
-    // No test leaves a worker that waits for it.
-    ~HeldJob()
-    {
-        letGo.release();
-        fixture.reset();
-    }
-    HeldJob(const HeldJob &) = delete;
-    HeldJob &operator=(const HeldJob &) = delete;
-
-    WipeEngine &engine() const { return *fixture->window->findChild<WipeEngine *>(); }
-    JobController &job() const { return *fixture->window->findChild<JobController *>(); }
-
-    void start()
-    {
-        fixture->window->onDiskWipeClicked();
-        choose(*fixture, diskRow(*fixture, 0));
-        fixture->dialogs.answers = {WindowFixture::typeErase};
-        QVERIFY(fixture->click(u"Start"_s));
-        QTRY_VERIFY_WITH_TIMEOUT(isWriting, 60000);
-        QCOMPARE(fixture->window->currentPage(), int(MainWindow::Progress));
-    }
-
-    std::optional<JobOutcome> storedOutcome() const
-    {
-        const QList<WipeReport> reports = fixture->reports();
-        if (reports.size() != 1)
-            return std::nullopt;
-        const auto outcome = ReportDatabase::instance().outcome(reports.constFirst().certificateId);
-        return outcome ? std::optional(outcome->outcome()) : std::nullopt;
-    }
-
-    DriveWindow drives;
-    MemoryDevices &memory;
-    std::atomic<bool> isWriting{false};
-    QSemaphore letGo;
-    std::unique_ptr<WindowFixture> fixture;
-};
 
 // The file of the database cannot be opened any more: a folder has taken its place.
 void spoilDatabase()

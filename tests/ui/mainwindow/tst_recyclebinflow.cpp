@@ -13,6 +13,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QDir>
+#include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QFile>
 #include <QFutureWatcher>
@@ -355,9 +356,14 @@ void tst_RecycleBinFlow::dropsOnTheShownBinAreIgnored()
     auto *page = fixture.window->findChild<FileSelectPage *>();
     QMimeData files;
     files.setUrls({QUrl::fromLocalFile(fixture.homePath(u"data"_s))});
+    // A drop reaches only what was offered the drag before.
+    QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
+    enter.ignore();
+    QApplication::sendEvent(page->list()->viewport(), &enter);
     QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
     drop.ignore();
     QApplication::sendEvent(page->list()->viewport(), &drop);
+    QVERIFY(!enter.isAccepted());
     QVERIFY(!drop.isAccepted());
     QCOMPARE(page->list()->count(), 3);
     QVERIFY(page->files().isEmpty());

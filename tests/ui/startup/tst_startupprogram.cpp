@@ -53,6 +53,8 @@ private slots:
     void cleanup();
     void startsStepByStep_data();
     void startsStepByStep();
+    void theLanguageIsStoredWhereTheLinksHaveIt_data();
+    void theLanguageIsStoredWhereTheLinksHaveIt();
     void bearsItsNamesAndItsFont();
     void argumentsMeanNothing();
     void startsWithoutADataFolder();
@@ -233,6 +235,32 @@ QStringList tst_StartupProgram::expectedBeginning(const QString &stored, const Q
         lines += {u"[Main] ✗ Failed to load translation file: \"%1\""_s.arg(path),
                   u"[Main] Falling back to English"_s};
     return lines << u"======================================="_s;
+}
+
+void tst_StartupProgram::theLanguageIsStoredWhereTheLinksHaveIt_data()
+{
+    QTest::addColumn<QString>("stored");
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<QString>("afterwards");
+    QTest::newRow("the system's French") << QString() << u"fr_CA.UTF-8"_s << u"fr"_s;
+    QTest::newRow("the system's Russian") << QString() << u"ru_RU.UTF-8"_s << u"en"_s;
+    QTest::newRow("the system's Chinese") << QString() << u"zh_CN.UTF-8"_s << QString();
+    QTest::newRow("stored German") << u"de"_s << u"fr_CA.UTF-8"_s << u"de"_s;
+    QTest::newRow("stored Traditional Chinese") << u"zh_TW"_s << u"fr_CA.UTF-8"_s << u"zh_TW"_s;
+    QTest::newRow("stored, unsupported") << u"xx"_s << u"fr_CA.UTF-8"_s << u"xx"_s;
+}
+
+// The links remember the language they are given; of others they keep what there was.
+void tst_StartupProgram::theLanguageIsStoredWhereTheLinksHaveIt()
+{
+    QFETCH(const QString, stored);
+    QFETCH(const QString, locale);
+    if (!stored.isEmpty())
+        store(stored);
+    m_locale = locale;
+    start({u"close"_s});
+    QVERIFY2(ends(), qPrintable(output().join(u'\n')));
+    QTEST(this->stored(), "afterwards");
 }
 
 void tst_StartupProgram::bearsItsNamesAndItsFont()
