@@ -14,6 +14,7 @@
 #include "engine/foreseeable.h"
 #include "jobs/certificatenumber.h"
 #include "model/displaytext.h"
+#include "services/loopfiles.h"
 
 #include <QScopeGuard>
 
@@ -50,6 +51,8 @@ std::optional<Refusal> checkTasks(const WipePlan &plan)
         if (const QString problem = job.survey.roomProblem(); !problem.isEmpty())
             return Refusal{Refused, problem};
     }
+    if (const QString problem = LoopFiles::problem(plan.doomedPaths); !problem.isEmpty())
+        return Refusal{Refused, problem};
     return std::nullopt;
 }
 

@@ -5,6 +5,7 @@
 #include "model/wipetask.h"
 #include "prompts/prompts.h"
 #include "services/diskmanager.h"
+#include "services/loopfiles.h"
 #include "ui/disks/diskselectpage.h"
 #include "ui/disks/obstaclestext.h"
 #include "ui/files/fileselectpage.h"
@@ -119,7 +120,10 @@ bool MainWindow::hasObstacles()
     const OperationType type = m_job->task()->operationType();
     if (type != DiskWipe && type != PartitionWipe)
         return false;
-    const QString obstacles = ObstaclesText::of(DiskManager::obstacles(m_job->task()->disk().diskNumber));
+    const DiskInfo disk = m_job->task()->disk();
+    QString obstacles = ObstaclesText::of(DiskManager::obstacles(disk.diskNumber));
+    if (obstacles.isEmpty())
+        obstacles = LoopFiles::problem({disk.devicePath});
     if (obstacles.isEmpty())
         return false;
     Prompts::current().show(this, {QMessageBox::Warning,

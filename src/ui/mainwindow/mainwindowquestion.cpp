@@ -9,6 +9,7 @@
 #include "model/targettext.h"
 #include "model/wipetask.h"
 #include "prompts/prompts.h"
+#include "services/loopfiles.h"
 #include "ui/dialogs/confirmdialog.h"
 
 #include <QGuiApplication>
@@ -65,7 +66,10 @@ bool MainWindow::isConfirmed()
     // What an earlier confirmation has left.
     m_job->task()->setWholeDrive(false);
     const FileSurvey survey = lookAtFiles();
-    if (const QString problem = survey.roomProblem(); !problem.isEmpty()) {
+    QString problem = survey.roomProblem();
+    if (problem.isEmpty() && m_job->task()->operationType() == FileWipe)
+        problem = LoopFiles::problem(m_job->task()->files());
+    if (!problem.isEmpty()) {
         Prompts::current().warning(this, tr("These Files Cannot Be Erased"), problem);
         return false;
     }
