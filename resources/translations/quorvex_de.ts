@@ -1384,6 +1384,14 @@
         <source>Let --report replace a file that is no report</source>
         <translation>Erlaubt --report, eine Datei zu ersetzen, die kein Bericht ist</translation>
     </message>
+    <message>
+        <source>%1; try it as administrator</source>
+        <translation>%1; als Administrator versuchen</translation>
+    </message>
+    <message>
+        <source>%1; try it with sudo</source>
+        <translation>%1; mit sudo versuchen</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>
@@ -2480,6 +2488,13 @@ Bitte kopieren Sie den Link und rufen Sie ihn selbst auf:
     <message>
         <source>文本文件 (*.txt)</source>
         <translation>Textdateien (*.txt)</translation>
+    </message>
+</context>
+<context>
+    <name>LoopFiles</name>
+    <message>
+        <source>The loop device %1 is attached to %2. Nothing was written.</source>
+        <translation>Das Loop-Gerät %1 ist mit %2 verbunden. Es wurde nichts geschrieben.</translation>
     </message>
 </context>
 <context>

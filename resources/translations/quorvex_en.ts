@@ -1384,6 +1384,14 @@
         <source>Let --report replace a file that is no report</source>
         <translation>Let --report replace a file that is no report</translation>
     </message>
+    <message>
+        <source>%1; try it as administrator</source>
+        <translation>%1; try it as administrator</translation>
+    </message>
+    <message>
+        <source>%1; try it with sudo</source>
+        <translation>%1; try it with sudo</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>
@@ -2480,6 +2488,13 @@ Please copy the link and open it manually:
     <message>
         <source>文本文件 (*.txt)</source>
         <translation>Text Files (*.txt)</translation>
+    </message>
+</context>
+<context>
+    <name>LoopFiles</name>
+    <message>
+        <source>The loop device %1 is attached to %2. Nothing was written.</source>
+        <translation>The loop device %1 is attached to %2. Nothing was written.</translation>
     </message>
 </context>
 <context>

@@ -1384,6 +1384,14 @@
         <source>Let --report replace a file that is no report</source>
         <translation>Permite que --report reemplace un archivo que no es un informe</translation>
     </message>
+    <message>
+        <source>%1; try it as administrator</source>
+        <translation>%1; inténtelo como administrador</translation>
+    </message>
+    <message>
+        <source>%1; try it with sudo</source>
+        <translation>%1; inténtelo con sudo</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>
@@ -2480,6 +2488,13 @@ Copie el enlace y ábralo manualmente:
     <message>
         <source>文本文件 (*.txt)</source>
         <translation>Archivos de texto (*.txt)</translation>
+    </message>
+</context>
+<context>
+    <name>LoopFiles</name>
+    <message>
+        <source>The loop device %1 is attached to %2. Nothing was written.</source>
+        <translation>El dispositivo loop %1 está asociado a %2. No se escribió nada.</translation>
     </message>
 </context>
 <context>

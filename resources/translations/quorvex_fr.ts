@@ -1384,6 +1384,14 @@
         <source>Let --report replace a file that is no report</source>
         <translation>Laisse --report remplacer un fichier qui n&apos;est pas un rapport</translation>
     </message>
+    <message>
+        <source>%1; try it as administrator</source>
+        <translation>%1&#xa0;; essayez en tant qu&apos;administrateur</translation>
+    </message>
+    <message>
+        <source>%1; try it with sudo</source>
+        <translation>%1&#xa0;; essayez avec sudo</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>
@@ -2480,6 +2488,13 @@ Veuillez copier le lien manuellement pour y accéder&#xa0;:
     <message>
         <source>文本文件 (*.txt)</source>
         <translation>Fichiers texte (*.txt)</translation>
+    </message>
+</context>
+<context>
+    <name>LoopFiles</name>
+    <message>
+        <source>The loop device %1 is attached to %2. Nothing was written.</source>
+        <translation>Le périphérique loop %1 est attaché à %2. Rien n&apos;a été écrit.</translation>
     </message>
 </context>
 <context>

@@ -1384,6 +1384,14 @@
         <source>Let --report replace a file that is no report</source>
         <translation>Consente a --report di sostituire un file che non è un rapporto</translation>
     </message>
+    <message>
+        <source>%1; try it as administrator</source>
+        <translation>%1; provare come amministratore</translation>
+    </message>
+    <message>
+        <source>%1; try it with sudo</source>
+        <translation>%1; provare con sudo</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>
@@ -2480,6 +2488,13 @@ Copiare manualmente il collegamento per accedervi:
     <message>
         <source>文本文件 (*.txt)</source>
         <translation>File di testo (*.txt)</translation>
+    </message>
+</context>
+<context>
+    <name>LoopFiles</name>
+    <message>
+        <source>The loop device %1 is attached to %2. Nothing was written.</source>
+        <translation>Il dispositivo loop %1 è associato a %2. Nulla è stato scritto.</translation>
     </message>
 </context>
 <context>

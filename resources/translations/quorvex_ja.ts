@@ -1384,6 +1384,14 @@
         <source>Let --report replace a file that is no report</source>
         <translation>--report でレポート以外のファイルも置き換える</translation>
     </message>
+    <message>
+        <source>%1; try it as administrator</source>
+        <translation>%1。管理者として実行してください</translation>
+    </message>
+    <message>
+        <source>%1; try it with sudo</source>
+        <translation>%1。sudo を付けて実行してください</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>
@@ -2480,6 +2488,13 @@ An erasure certificate has been generated.</source>
     <message>
         <source>文本文件 (*.txt)</source>
         <translation>テキストファイル (*.txt)</translation>
+    </message>
+</context>
+<context>
+    <name>LoopFiles</name>
+    <message>
+        <source>The loop device %1 is attached to %2. Nothing was written.</source>
+        <translation>ループデバイス %1 が %2 に接続されています。何も書き込まれていません。</translation>
     </message>
 </context>
 <context>

@@ -1384,6 +1384,14 @@
         <source>Let --report replace a file that is no report</source>
         <translation>--report가 보고서가 아닌 파일도 교체하도록 허용</translation>
     </message>
+    <message>
+        <source>%1; try it as administrator</source>
+        <translation>%1. 관리자 권한으로 시도하십시오</translation>
+    </message>
+    <message>
+        <source>%1; try it with sudo</source>
+        <translation>%1. sudo로 시도하십시오</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>
@@ -2480,6 +2488,13 @@ An erasure certificate has been generated.</source>
     <message>
         <source>文本文件 (*.txt)</source>
         <translation>텍스트 파일 (*.txt)</translation>
+    </message>
+</context>
+<context>
+    <name>LoopFiles</name>
+    <message>
+        <source>The loop device %1 is attached to %2. Nothing was written.</source>
+        <translation>루프 장치 %1이(가) %2에 연결되어 있습니다. 아무것도 기록되지 않았습니다.</translation>
     </message>
 </context>
 <context>

@@ -1384,6 +1384,14 @@
         <source>Let --report replace a file that is no report</source>
         <translation>Laat --report een bestand vervangen dat geen rapport is</translation>
     </message>
+    <message>
+        <source>%1; try it as administrator</source>
+        <translation>%1; probeer het als beheerder</translation>
+    </message>
+    <message>
+        <source>%1; try it with sudo</source>
+        <translation>%1; probeer het met sudo</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>
@@ -2480,6 +2488,13 @@ Kopieer de koppeling en open deze zelf:
     <message>
         <source>文本文件 (*.txt)</source>
         <translation>Tekstbestanden (*.txt)</translation>
+    </message>
+</context>
+<context>
+    <name>LoopFiles</name>
+    <message>
+        <source>The loop device %1 is attached to %2. Nothing was written.</source>
+        <translation>Het loop-apparaat %1 is gekoppeld aan %2. Er is niets geschreven.</translation>
     </message>
 </context>
 <context>

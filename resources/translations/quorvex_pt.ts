@@ -1384,6 +1384,14 @@
         <source>Let --report replace a file that is no report</source>
         <translation>Permite que --report substitua um arquivo que não é um relatório</translation>
     </message>
+    <message>
+        <source>%1; try it as administrator</source>
+        <translation>%1; tente como administrador</translation>
+    </message>
+    <message>
+        <source>%1; try it with sudo</source>
+        <translation>%1; tente com sudo</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>
@@ -2480,6 +2488,13 @@ Copie o link e abra-o manualmente:
     <message>
         <source>文本文件 (*.txt)</source>
         <translation>Arquivos de texto (*.txt)</translation>
+    </message>
+</context>
+<context>
+    <name>LoopFiles</name>
+    <message>
+        <source>The loop device %1 is attached to %2. Nothing was written.</source>
+        <translation>O dispositivo de loop %1 está anexado a %2. Nada foi gravado.</translation>
     </message>
 </context>
 <context>

@@ -1384,6 +1384,14 @@
         <source>%1 is a folder</source>
         <translation>%1 是文件夹</translation>
     </message>
+    <message>
+        <source>%1; try it as administrator</source>
+        <translation>%1；请以管理员身份重试</translation>
+    </message>
+    <message>
+        <source>%1; try it with sudo</source>
+        <translation>%1；请用 sudo 重试</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>
@@ -2473,6 +2481,13 @@ An erasure certificate has been generated.</source>
     <message>
         <source>文本文件 (*.txt)</source>
         <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>LoopFiles</name>
+    <message>
+        <source>The loop device %1 is attached to %2. Nothing was written.</source>
+        <translation>循环设备 %1 附加在 %2 上。未写入任何数据。</translation>
     </message>
 </context>
 <context>

@@ -1384,6 +1384,14 @@
         <source>Let --report replace a file that is no report</source>
         <translation>允許 --report 取代不是報告的檔案</translation>
     </message>
+    <message>
+        <source>%1; try it as administrator</source>
+        <translation>%1；請以系統管理員身分執行</translation>
+    </message>
+    <message>
+        <source>%1; try it with sudo</source>
+        <translation>%1；請使用 sudo 執行</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>
@@ -2480,6 +2488,13 @@ An erasure certificate has been generated.</source>
     <message>
         <source>文本文件 (*.txt)</source>
         <translation>文字檔案 (*.txt)</translation>
+    </message>
+</context>
+<context>
+    <name>LoopFiles</name>
+    <message>
+        <source>The loop device %1 is attached to %2. Nothing was written.</source>
+        <translation>迴路裝置 %1 已連接到 %2。未寫入任何內容。</translation>
     </message>
 </context>
 <context>

@@ -1,6 +1,7 @@
 #include "cli/drivetarget.h"
 
 #include "cli/paths.h"
+#include "cli/permission.h"
 #include "cli/translate.h"
 #include "engine/driveidentity.h"
 #include "model/displaytext.h"
@@ -143,7 +144,8 @@ std::optional<Refusal> probeDrive(const DiskInfo &disk)
     const auto opened = platform::Platform::current().devices().openDrive(
         identityOf(disk), platform::DriveAccess::BesideOwnVolumes);
     if (opened.code() == platform::AccessDenied)
-        return Refusal{Refused, Cli::tr("not permitted to write to drive %1").arg(disk.diskNumber)};
+        return Refusal{Refused,
+                       notPermitted(Cli::tr("not permitted to write to drive %1").arg(disk.diskNumber))};
     if (opened.code() == platform::NotReady)
         return Refusal{Refused,
                        Cli::tr("drive %1 is gone, or another one has taken its place").arg(disk.diskNumber)};

@@ -15,6 +15,7 @@
 #include "jobs/certificatenumber.h"
 #include "jobs/jobcontroller.h"
 #include "model/displaytext.h"
+#include "services/loopfiles.h"
 
 #include <QScopeGuard>
 
@@ -51,6 +52,8 @@ std::optional<Refusal> checkTasks(const WipePlan &plan)
         if (const QString problem = job.survey.roomProblem(); !problem.isEmpty())
             return Refusal{Refused, problem};
     }
+    if (const QString problem = LoopFiles::problem(plan.doomedPaths); !problem.isEmpty())
+        return Refusal{Refused, problem};
     return std::nullopt;
 }
 

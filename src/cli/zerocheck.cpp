@@ -2,6 +2,7 @@
 
 #include "cli/drivetarget.h"
 #include "cli/paths.h"
+#include "cli/permission.h"
 #include "cli/stoprequest.h"
 #include "cli/translate.h"
 #include "engine/driveidentity.h"
@@ -63,7 +64,7 @@ Outcome<ZeroCheck> readThrough(const Reader &read, qint64 length, const QString 
 Refusal cannotOpen(const QString &shown, int code)
 {
     if (code == platform::AccessDenied)
-        return {Refused, Cli::tr("not permitted to read %1").arg(shown)};
+        return {Refused, notPermitted(Cli::tr("not permitted to read %1").arg(shown))};
     return {Refused, Cli::tr("%1 cannot be opened, error %2").arg(shown).arg(code)};
 }
 

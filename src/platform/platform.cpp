@@ -32,7 +32,11 @@ ImageDriveOptions ImageDriveOptions::fromEnvironment()
     ImageDriveOptions options;
     options.imageFiles =
         qEnvironmentVariable("QUORVEX_IMAGE_DISKS").split(QDir::listSeparator(), Qt::SkipEmptyParts);
-    options.onlyImages = qEnvironmentVariable("QUORVEX_ONLY_IMAGE_DISKS") == QLatin1String("1");
+    // Whatever else was meant by it: a drive too few is a lesser evil than one too many.
+    static const QStringList refusals{QString(), QStringLiteral("0"), QStringLiteral("no"),
+                                      QStringLiteral("false")};
+    options.onlyImages =
+        !refusals.contains(qEnvironmentVariable("QUORVEX_ONLY_IMAGE_DISKS").trimmed(), Qt::CaseInsensitive);
     return options;
 }
 

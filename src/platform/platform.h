@@ -37,7 +37,8 @@ struct ImageDriveOptions
     QStringList imageFiles;  // paths
     bool onlyImages = false; // no real drive or volume is listed or opened
 
-    // From QUORVEX_IMAGE_DISKS (separated as in PATH) and QUORVEX_ONLY_IMAGE_DISKS ("1").
+    // From QUORVEX_IMAGE_DISKS (separated as in PATH) and QUORVEX_ONLY_IMAGE_DISKS (anything but
+    // nothing, "0", "no" and "false").
     static ImageDriveOptions fromEnvironment();
 };
 

@@ -403,6 +403,11 @@ void tst_CliWipeDisk::withoutPermissionNothingIsAttempted()
     run(wipeDrive(0));
     QCOMPARE(run.code, 3);
     QVERIFY2(run.complains("not permitted"), run.io.err.constData());
+#ifdef Q_OS_WIN
+    QVERIFY2(run.complains("administrator"), run.io.err.constData());
+#else
+    QVERIFY2(run.complains("sudo"), run.io.err.constData());
+#endif
     QVERIFY(!run.io.out.contains("[info]"));
     QVERIFY(isUntouched(machine, 0));
 }

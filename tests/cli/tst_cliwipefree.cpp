@@ -41,6 +41,9 @@ private slots:
     void aSystemVolumeIsAllowed();
     void severalVolumesAreSeveralJobs();
     void theSameVolumeTwiceIsOneJob();
+    void aVolumeAndItsDriveAreOneJob_data();
+    void aVolumeAndItsDriveAreOneJob();
+    void aVolumeInTwoPlacesIsOneJob();
     void oneFailureFailsTheWholeButNotTheOthers();
     void aStopSparesTheVolumesBehind();
     void theReportNamesVolumeAndDrive();
@@ -301,6 +304,47 @@ void tst_CliWipeFree::theSameVolumeTwiceIsOneJob()
     run(wipeSmall({u"/media/a"_s, u"/media/a/"_s}));
     QCOMPARE(run.code, 0);
     QCOMPARE(run.io.events(u"started"_s).size(), 1);
+}
+
+void tst_CliWipeFree::aVolumeAndItsDriveAreOneJob_data()
+{
+    QTest::addColumn<QStringList>("named");
+    QTest::addColumn<QStringList>("erased");
+    QTest::newRow("drive first") << QStringList{u"0"_s, u"/media/a"_s} << QStringList{u"drive 0"_s};
+    QTest::newRow("volume first") << QStringList{u"/media/a"_s, u"0"_s} << QStringList{u"drive 0"_s};
+    QTest::newRow("another drive between")
+        << QStringList{u"/media/a"_s, u"1"_s, u"0"_s, u"1"_s} << QStringList{u"drive 1"_s, u"drive 0"_s};
+}
+
+void tst_CliWipeFree::aVolumeAndItsDriveAreOneJob()
+{
+    QFETCH(const QStringList, named);
+    Machine machine;
+    machine.devices.drives.insert(1, FakeDrive::usbStick());
+    machine.add(u"/media/a"_s);
+    machine.add(u"/media/b"_s);
+    machine.add(u"/media/stick"_s, {1});
+    CliRun run;
+    run(wipeSmall(named));
+    QCOMPARE(run.code, 0);
+    QTEST(targets(run), "erased");
+    QCOMPARE(machine.filled(u"/media/a"_s), 8 * MiB);
+    QCOMPARE(machine.filled(u"/media/b"_s), 8 * MiB);
+}
+
+void tst_CliWipeFree::aVolumeInTwoPlacesIsOneJob()
+{
+    Machine machine;
+    machine.add(u"/media/a"_s);
+    machine.add(u"/media/again"_s);
+    machine.add(u"/media/b"_s);
+    for (const QString &place : {u"/media/a"_s, u"/media/again"_s}) {
+        machine.devices.volumes[place].mounted.identity = u"8:1"_s;
+        machine.volume.identities.insert(place + u'/', u"8:1"_s);
+    }
+    CliRun run;
+    run(wipeSmall({u"/media/a"_s, u"/media/b"_s, u"/media/again"_s}));
+    QCOMPARE(targets(run), QStringList({u"/media/a"_s, u"/media/b"_s}));
 }
 
 void tst_CliWipeFree::oneFailureFailsTheWholeButNotTheOthers()

@@ -32,6 +32,8 @@ private slots:
     void whatAKilledJobLeftIsRemovedByTheNext();
     void aSecondProgramIsRefused();
     void holesThatDoNotFitAreRefused();
+    void theFileBelowADeviceIsRefused_data();
+    void theFileBelowADeviceIsRefused();
 
 private:
     std::unique_ptr<QTemporaryDir> m_folder;
@@ -111,6 +113,29 @@ void tst_ProgramVolumes::cleanup()
 {
     m_volume.reset();
     m_folder.reset();
+}
+
+void tst_ProgramVolumes::theFileBelowADeviceIsRefused_data()
+{
+    QTest::addColumn<QStringList>("what"); // %1: the file, %2: its folder
+    QTest::newRow("file") << QStringList{u"files"_s, u"%1"_s};
+    QTest::newRow("folder") << QStringList{u"files"_s, u"%2"_s};
+    QTest::newRow("drive") << QStringList{u"disk"_s, u"%1"_s, u"--image"_s, u"%1"_s, u"--only-images"_s};
+}
+
+void tst_ProgramVolumes::theFileBelowADeviceIsRefused()
+{
+    QFETCH(QStringList, what);
+    writeFile(m_volume->mountPoint() + u"/kept"_s, "kept");
+    const QString image = m_volume->image();
+    what.replaceInStrings(u"%1"_s, image).replaceInStrings(u"%2"_s, QFileInfo(image).path());
+    Program program(what);
+    QCOMPARE(program.code(), 3);
+    QVERIFY2(
+        program.output.contains(u"The loop device %1 is attached to "_s.arg(m_volume->device()).toUtf8()),
+        program.output.constData());
+    QVERIFY(QFile::exists(image));
+    QCOMPARE(contentOf(m_volume->mountPoint() + u"/kept"_s), QByteArray("kept"));
 }
 
 void tst_ProgramVolumes::aLimitOfFileSizesEndsInAReport()

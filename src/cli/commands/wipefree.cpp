@@ -6,7 +6,10 @@
 #include "model/targettext.h"
 #include "services/diskmanager.h"
 
+#include <QList>
 #include <QSet>
+
+#include <algorithm>
 
 namespace cli {
 
@@ -28,21 +31,54 @@ PlannedJob jobFor(const VolumeTarget &target)
     return {std::move(task), target.name};
 }
 
+// A volume may be mounted in two places.
+QString keyOf(const PartitionInfo &partition)
+{
+    return partition.identity.isEmpty() ? partition.driveLetter : partition.identity;
+}
+
+// What the target stands for; of a drive without volumes, the drive.
+QSet<QString> keysOf(const VolumeTarget &target)
+{
+    if (!target.partition.driveLetter.isEmpty())
+        return {keyOf(target.partition)};
+    QSet<QString> keys;
+    for (const PartitionInfo &partition : target.disk.partitions)
+        keys.insert(keyOf(partition));
+    return keys.isEmpty() ? QSet<QString>{target.name} : keys;
+}
+
+// Without those that are named twice, be it by way of their drive.
+QList<VolumeTarget> eachOnce(const QList<VolumeTarget> &targets)
+{
+    QList<VolumeTarget> once;
+    for (const VolumeTarget &target : targets) {
+        const QSet<QString> keys = keysOf(target);
+        const auto holds = [&keys](const VolumeTarget &other) { return keysOf(other).contains(keys); };
+        if (std::ranges::any_of(once, holds))
+            continue;
+        once.removeIf([&keys](const VolumeTarget &other) { return keys.contains(keysOf(other)); });
+        once.append(target);
+    }
+    return once;
+}
+
 Outcome<WipePlan> planFor(const QStringList &volumes)
 {
     const QList<DiskInfo> disks = DiskManager::enumerateDisks();
-    WipePlan plan;
-    plan.summary.append(Cli::tr("  the free space of:"));
-    QSet<QString> known;
+    QList<VolumeTarget> targets;
     for (const QString &name : volumes) {
         const auto target = findVolume(name, disks);
         if (!target)
             return target.refusal();
-        if (known.contains(target->name))
-            continue;
-        known.insert(target->name);
-        plan.summary += indented(TargetText::freeSpace(target->disk, target->partition));
-        plan.jobs.push_back(jobFor(*target));
+        targets.append(*target);
+    }
+    WipePlan plan;
+    plan.summary.append(Cli::tr("  the free space of:"));
+    const QList<VolumeTarget> once = eachOnce(targets);
+    for (const VolumeTarget &target : once) {
+        plan.summary += indented(TargetText::freeSpace(target.disk, target.partition));
+        plan.jobs.push_back(jobFor(target));
     }
     plan.summary.append(Cli::tr("  files that exist are kept"));
     return plan;

@@ -9,6 +9,7 @@
 #include "model/wipetask.h"
 #include "prompts/prompts.h"
 #include "services/diskmanager.h"
+#include "services/loopfiles.h"
 #include "ui/dialogs/confirmdialog.h"
 #include "ui/disks/obstaclestext.h"
 
@@ -33,7 +34,10 @@ bool JobQuestion::isPossible()
     const OperationType type = m_task.operationType();
     if (type != DiskWipe && type != PartitionWipe)
         return true;
-    const QString obstacles = ObstaclesText::of(DiskManager::obstacles(m_task.disk().diskNumber));
+    const DiskInfo disk = m_task.disk();
+    QString obstacles = ObstaclesText::of(DiskManager::obstacles(disk.diskNumber));
+    if (obstacles.isEmpty())
+        obstacles = LoopFiles::problem({disk.devicePath});
     if (obstacles.isEmpty())
         return true;
     Prompts::current().show(&m_window, {QMessageBox::Warning,
@@ -96,7 +100,10 @@ bool JobQuestion::isConfirmed(const QStringList &binLines)
     // What an earlier confirmation has left.
     m_task.setWholeDrive(false);
     const FileSurvey survey = lookAtFiles();
-    if (const QString problem = survey.roomProblem(); !problem.isEmpty()) {
+    QString problem = survey.roomProblem();
+    if (problem.isEmpty() && m_task.operationType() == FileWipe)
+        problem = LoopFiles::problem(m_task.files());
+    if (!problem.isEmpty()) {
         Prompts::current().warning(&m_window, tr("These Files Cannot Be Erased"), problem);
         return false;
     }

@@ -33,6 +33,7 @@ private slots:
     void theReserveIsNamedInTheQuestion();
     void aVolumeThatAnotherJobFillsIsRefused();
     void aVolumeThatIsGoneFailsTheJob();
+    void theFileBelowADeviceIsRefused();
 };
 
 namespace {
@@ -129,6 +130,25 @@ void tst_FreeSpaceFlow::theReserveIsNamedInTheQuestion()
     QVERIFY2(notice.contains(u"left as a reserve: %1 (100.00 MB)"_s.arg(volume.mountPoint())),
              qPrintable(notice));
     QVERIFY(fixture.reports().isEmpty());
+}
+
+void tst_FreeSpaceFlow::theFileBelowADeviceIsRefused()
+{
+    const QTemporaryDir folder;
+    const LoopMount volume(folder.path(), {.fileSystem = LoopMount::Ext4, .sizeBytes = Size});
+    QVERIFY2(volume.isReady(), qPrintable(volume.error()));
+    WindowFixture fixture(std::make_unique<Machine>(volume));
+    fixture.window->onFileWipeClicked();
+    fixture.prompts.filesToOpenAnswers = {{volume.image()}};
+    QVERIFY(fixture.click(u"📄 Add Files"_s));
+    QVERIFY(fixture.click(u"Next →"_s));
+    QVERIFY(fixture.click(u"Start"_s));
+    QCOMPARE(fixture.prompts.boxes.size(), 1);
+    QCOMPARE(fixture.prompts.boxes.constFirst().title, u"These Files Cannot Be Erased"_s);
+    QVERIFY2(fixture.prompts.boxes.constFirst().text.contains(volume.device() + u" is attached to "_s),
+             qPrintable(fixture.prompts.boxes.constFirst().text));
+    QCOMPARE(fixture.dialogs.unexpected, 0);
+    QCOMPARE(fixture.window->currentPage(), int(MainWindow::MethodSelect));
 }
 
 void tst_FreeSpaceFlow::aVolumeThatAnotherJobFillsIsRefused()
