@@ -7,7 +7,7 @@ set(QUORVEX_LAYER_engine model platform)
 set(QUORVEX_LAYER_services model platform)
 set(QUORVEX_LAYER_jobs model engine services)
 set(QUORVEX_LAYER_prompts "")
-set(QUORVEX_LAYER_certificate model prompts)
+set(QUORVEX_LAYER_certificate model platform prompts)
 set(QUORVEX_LAYER_ui model platform engine services jobs prompts certificate)
 set(QUORVEX_LAYER_cli model platform engine services jobs certificate)
 

@@ -26,6 +26,8 @@ def ends(text):
 
 
 def faults(source, message, language):
+    if language == "zh_CN" and CHINESE.search(source):
+        return
     translation = message.find("translation")
     text = translation.text or ""
     if translation.get("type") is not None or not text:
@@ -40,7 +42,7 @@ def faults(source, message, language):
     ):
         if measure(source) != measure(text):
             yield what
-    if language not in ("ja", "zh_TW") and CHINESE.search(text):
+    if language not in ("ja", "zh_TW", "zh_CN") and CHINESE.search(text):
         yield "Chinese"
 
 

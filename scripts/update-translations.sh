@@ -7,7 +7,8 @@
 source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
 cd "$root"
 
-languages=(en fr de ja es ko nl pt it zh_TW)
+# That of zh_CN needs the texts only that are English in the sources.
+languages=(en fr de ja es ko nl pt it zh_TW zh_CN)
 lupdate=/usr/lib/qt6/bin/lupdate
 folder=resources/translations
 

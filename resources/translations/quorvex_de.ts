@@ -9,6 +9,21 @@
     </message>
 </context>
 <context>
+    <name>BinItemText</name>
+    <message>
+        <source>%1, an impossible size</source>
+        <translation>%1, eine unmögliche Größe</translation>
+    </message>
+    <message>
+        <source>Its record says %1 bytes, more than any file can have.</source>
+        <translation>Ihr Eintrag nennt %1 Bytes, mehr, als eine Datei haben kann.</translation>
+    </message>
+    <message>
+        <source>Impossible sizes in the sum: %1</source>
+        <translation>Unmögliche Größen in der Summe: %1</translation>
+    </message>
+</context>
+<context>
     <name>CertificateDialog</name>
     <message>
         <source>Erasure Certificate - %1</source>
@@ -196,6 +211,18 @@
         <source>On the Medium</source>
         <translation>Auf dem Medium</translation>
     </message>
+    <message>
+        <source>Not read back</source>
+        <translation>Nicht zurückgelesen</translation>
+    </message>
+    <message>
+        <source>Nothing that could be compared</source>
+        <translation>Nichts, was sich vergleichen ließ</translation>
+    </message>
+    <message>
+        <source>Read Back</source>
+        <translation>Zurückgelesen</translation>
+    </message>
 </context>
 <context>
     <name>CertificateNumber</name>
@@ -353,6 +380,22 @@
     <message>
         <source>专业数据擦除工具</source>
         <translation>Professionelles Werkzeug zur Datenlöschung</translation>
+    </message>
+    <message>
+        <source>实际处理: %1</source>
+        <translation>tatsächlich bearbeitet: %1</translation>
+    </message>
+    <message>
+        <source>未读回</source>
+        <translation>nicht zurückgelesen</translation>
+    </message>
+    <message>
+        <source>读回的内容无法比对</source>
+        <translation>Zurückgelesenes nicht vergleichbar</translation>
+    </message>
+    <message>
+        <source>(全部内容见本程序历史记录)</source>
+        <translation>(vollständig im Verlauf dieses Programms)</translation>
     </message>
 </context>
 <context>
@@ -634,24 +677,12 @@
         <translation>%1 und %2 weitere</translation>
     </message>
     <message>
-        <source>  and %1 more</source>
-        <translation>  und %1 weitere</translation>
-    </message>
-    <message>
-        <source>at least </source>
-        <translation>mindestens </translation>
-    </message>
-    <message>
         <source>1 file</source>
         <translation>1 Datei</translation>
     </message>
     <message>
         <source>%1 files</source>
         <translation>%1 Dateien</translation>
-    </message>
-    <message>
-        <source>  %1%2, %3</source>
-        <translation>  %1%2, %3</translation>
     </message>
     <message>
         <source>Erases files, and folders with all that is in them</source>
@@ -748,22 +779,6 @@
     <message>
         <source>drive %1 is gone, or another one has taken its place</source>
         <translation>Datenträger %1 ist nicht mehr da oder ein anderer ist an seine Stelle getreten</translation>
-    </message>
-    <message>
-        <source>  drive %1: model %2, serial number %3, %4, %5</source>
-        <translation>  Datenträger %1: Modell %2, Seriennummer %3, %4, %5</translation>
-    </message>
-    <message>
-        <source>    no mounted volumes</source>
-        <translation>    keine eingehängten Volumes</translation>
-    </message>
-    <message>
-        <source>volume %1, %2, %3, %4 free</source>
-        <translation>Volume %1, %2, %3, %4 frei</translation>
-    </message>
-    <message>
-        <source>, label %1</source>
-        <translation>, Bezeichnung %1</translation>
     </message>
     <message>
         <source>%1 is no file or folder; a drive is erased with &apos;wipe disk&apos;</source>
@@ -1424,6 +1439,10 @@ Ein Löschzertifikat wurde erstellt.</translation>
         <source>The report is not stored. %1</source>
         <translation>Der Bericht ist nicht gespeichert. %1</translation>
     </message>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
 </context>
 <context>
     <name>ConfirmDialog</name>
@@ -1470,6 +1489,14 @@ Ein Löschzertifikat wurde erstellt.</translation>
     <message>
         <source>Every sector is overwritten, the partition table too. All volumes of the disk are unmounted before.</source>
         <translation>Jeder Sektor wird überschrieben, auch die Partitionstabelle. Alle Volumes des Datenträgers werden vorher ausgehängt.</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>This will be destroyed</source>
+        <translation>Das wird vernichtet</translation>
     </message>
 </context>
 <context>
@@ -2587,6 +2614,10 @@ Möchten Sie den freien Speicherplatz löschen, damit dies nicht mehr möglich i
         <source>Not looked into: %1</source>
         <translation>Nicht durchsucht: %1</translation>
     </message>
+    <message>
+        <source>Reading drives...</source>
+        <translation>Datenträger werden gelesen...</translation>
+    </message>
 </context>
 <context>
     <name>MethodCard</name>
@@ -2740,6 +2771,10 @@ Möchten Sie den freien Speicherplatz löschen, damit dies nicht mehr möglich i
         <source>bins were not looked into, what they hold is not erased</source>
         <translation>Papierkörbe wurden nicht durchsucht, ihr Inhalt ist nicht gelöscht</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
 </context>
 <context>
     <name>ProgressPage</name>
@@ -2799,6 +2834,18 @@ Möchten Sie den freien Speicherplatz löschen, damit dies nicht mehr möglich i
         <source>正在擦除数据...</source>
         <translation>Daten werden gelöscht...</translation>
     </message>
+    <message>
+        <source>擦除进度</source>
+        <translation>Fortschritt der Löschung</translation>
+    </message>
+    <message>
+        <source>恢复此页面的显示；擦除并未停止</source>
+        <translation>Setzt die Anzeige dieser Seite fort; die Löschung lief weiter</translation>
+    </message>
+    <message>
+        <source>只暂停此页面的显示；擦除会继续进行</source>
+        <translation>Hält nur die Anzeige dieser Seite an; die Löschung läuft weiter</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -2856,6 +2903,13 @@ Möchten Sie den freien Speicherplatz löschen, damit dies nicht mehr möglich i
     <message>
         <source>The report database did not take the report.</source>
         <translation>Die Berichtsdatenbank hat den Bericht nicht angenommen.</translation>
+    </message>
+</context>
+<context>
+    <name>SelectableValue</name>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
     </message>
 </context>
 <context>
@@ -2957,6 +3011,49 @@ Möchten Sie den freien Speicherplatz löschen, damit dies nicht mehr möglich i
     <message>
         <source>There is no report %1 in the database.</source>
         <translation>Die Datenbank enthält keinen Bericht %1.</translation>
+    </message>
+</context>
+<context>
+    <name>TargetText</name>
+    <message>
+        <source>unknown</source>
+        <translation>unbekannt</translation>
+    </message>
+    <message>
+        <source>drive %1: model %2, serial number %3, %4, %5</source>
+        <translation>Datenträger %1: Modell %2, Seriennummer %3, %4, %5</translation>
+    </message>
+    <message>
+        <source>volume %1, %2, %3, %4 free</source>
+        <translation>Volume %1, %2, %3, %4 frei</translation>
+    </message>
+    <message>
+        <source>, label %1</source>
+        <translation>, Bezeichnung %1</translation>
+    </message>
+    <message>
+        <source>no mounted volumes</source>
+        <translation>keine eingehängten Volumes</translation>
+    </message>
+    <message>
+        <source>at least </source>
+        <translation>mindestens </translation>
+    </message>
+    <message>
+        <source>1 file</source>
+        <translation>1 Datei</translation>
+    </message>
+    <message>
+        <source>%1 files</source>
+        <translation>%1 Dateien</translation>
+    </message>
+    <message>
+        <source>%1%2, %3</source>
+        <translation>%1%2, %3</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>und %1 weitere</translation>
     </message>
 </context>
 <context>

@@ -9,6 +9,21 @@
     </message>
 </context>
 <context>
+    <name>BinItemText</name>
+    <message>
+        <source>%1, an impossible size</source>
+        <translation>%1, an impossible size</translation>
+    </message>
+    <message>
+        <source>Its record says %1 bytes, more than any file can have.</source>
+        <translation>Its record says %1 bytes, more than any file can have.</translation>
+    </message>
+    <message>
+        <source>Impossible sizes in the sum: %1</source>
+        <translation>Impossible sizes in the sum: %1</translation>
+    </message>
+</context>
+<context>
     <name>CertificateDialog</name>
     <message>
         <source>Erasure Certificate - %1</source>
@@ -196,6 +211,18 @@
         <source>On the Medium</source>
         <translation>On the Medium</translation>
     </message>
+    <message>
+        <source>Not read back</source>
+        <translation>Not read back</translation>
+    </message>
+    <message>
+        <source>Nothing that could be compared</source>
+        <translation>Nothing that could be compared</translation>
+    </message>
+    <message>
+        <source>Read Back</source>
+        <translation>Read Back</translation>
+    </message>
 </context>
 <context>
     <name>CertificateNumber</name>
@@ -353,6 +380,22 @@
     <message>
         <source>专业数据擦除工具</source>
         <translation>Professional Data Erasure Tool</translation>
+    </message>
+    <message>
+        <source>实际处理: %1</source>
+        <translation>actually processed: %1</translation>
+    </message>
+    <message>
+        <source>未读回</source>
+        <translation>not read back</translation>
+    </message>
+    <message>
+        <source>读回的内容无法比对</source>
+        <translation>what was read back cannot be compared</translation>
+    </message>
+    <message>
+        <source>(全部内容见本程序历史记录)</source>
+        <translation>(in full in the history of this program)</translation>
     </message>
 </context>
 <context>
@@ -634,24 +677,12 @@
         <translation>%1 and %2 more</translation>
     </message>
     <message>
-        <source>  and %1 more</source>
-        <translation>  and %1 more</translation>
-    </message>
-    <message>
-        <source>at least </source>
-        <translation>at least </translation>
-    </message>
-    <message>
         <source>1 file</source>
         <translation>1 file</translation>
     </message>
     <message>
         <source>%1 files</source>
         <translation>%1 files</translation>
-    </message>
-    <message>
-        <source>  %1%2, %3</source>
-        <translation>  %1%2, %3</translation>
     </message>
     <message>
         <source>Erases files, and folders with all that is in them</source>
@@ -748,22 +779,6 @@
     <message>
         <source>drive %1 is gone, or another one has taken its place</source>
         <translation>drive %1 is gone, or another one has taken its place</translation>
-    </message>
-    <message>
-        <source>  drive %1: model %2, serial number %3, %4, %5</source>
-        <translation>  drive %1: model %2, serial number %3, %4, %5</translation>
-    </message>
-    <message>
-        <source>    no mounted volumes</source>
-        <translation>    no mounted volumes</translation>
-    </message>
-    <message>
-        <source>volume %1, %2, %3, %4 free</source>
-        <translation>volume %1, %2, %3, %4 free</translation>
-    </message>
-    <message>
-        <source>, label %1</source>
-        <translation>, label %1</translation>
     </message>
     <message>
         <source>%1 is no file or folder; a drive is erased with &apos;wipe disk&apos;</source>
@@ -1424,6 +1439,10 @@ An erasure certificate has been generated.</translation>
         <source>The report is not stored. %1</source>
         <translation>The report is not stored. %1</translation>
     </message>
+    <message>
+        <source>Error</source>
+        <translation>Error</translation>
+    </message>
 </context>
 <context>
     <name>ConfirmDialog</name>
@@ -1470,6 +1489,14 @@ An erasure certificate has been generated.</translation>
     <message>
         <source>Every sector is overwritten, the partition table too. All volumes of the disk are unmounted before.</source>
         <translation>Every sector is overwritten, the partition table too. All volumes of the disk are unmounted before.</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warning</translation>
+    </message>
+    <message>
+        <source>This will be destroyed</source>
+        <translation>This will be destroyed</translation>
     </message>
 </context>
 <context>
@@ -2587,6 +2614,10 @@ Would you like to wipe free space to ensure they cannot be recovered?</translati
         <source>Not looked into: %1</source>
         <translation>Not looked into: %1</translation>
     </message>
+    <message>
+        <source>Reading drives...</source>
+        <translation>Reading drives...</translation>
+    </message>
 </context>
 <context>
     <name>MethodCard</name>
@@ -2740,6 +2771,10 @@ Would you like to wipe free space to ensure they cannot be recovered?</translati
         <source>bins were not looked into, what they hold is not erased</source>
         <translation>bins were not looked into, what they hold is not erased</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
 </context>
 <context>
     <name>ProgressPage</name>
@@ -2799,6 +2834,18 @@ Would you like to wipe free space to ensure they cannot be recovered?</translati
         <source>正在擦除数据...</source>
         <translation>Erasing data...</translation>
     </message>
+    <message>
+        <source>擦除进度</source>
+        <translation>Erasure progress</translation>
+    </message>
+    <message>
+        <source>恢复此页面的显示；擦除并未停止</source>
+        <translation>Resumes the display of this page; the erasure has not stopped</translation>
+    </message>
+    <message>
+        <source>只暂停此页面的显示；擦除会继续进行</source>
+        <translation>Pauses only the display of this page; the erasure goes on</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -2856,6 +2903,13 @@ Would you like to wipe free space to ensure they cannot be recovered?</translati
     <message>
         <source>The report database did not take the report.</source>
         <translation>The report database did not take the report.</translation>
+    </message>
+</context>
+<context>
+    <name>SelectableValue</name>
+    <message>
+        <source>Copy</source>
+        <translation>Copy</translation>
     </message>
 </context>
 <context>
@@ -2957,6 +3011,49 @@ Would you like to wipe free space to ensure they cannot be recovered?</translati
     <message>
         <source>There is no report %1 in the database.</source>
         <translation>There is no report %1 in the database.</translation>
+    </message>
+</context>
+<context>
+    <name>TargetText</name>
+    <message>
+        <source>unknown</source>
+        <translation>unknown</translation>
+    </message>
+    <message>
+        <source>drive %1: model %2, serial number %3, %4, %5</source>
+        <translation>drive %1: model %2, serial number %3, %4, %5</translation>
+    </message>
+    <message>
+        <source>volume %1, %2, %3, %4 free</source>
+        <translation>volume %1, %2, %3, %4 free</translation>
+    </message>
+    <message>
+        <source>, label %1</source>
+        <translation>, label %1</translation>
+    </message>
+    <message>
+        <source>no mounted volumes</source>
+        <translation>no mounted volumes</translation>
+    </message>
+    <message>
+        <source>at least </source>
+        <translation>at least </translation>
+    </message>
+    <message>
+        <source>1 file</source>
+        <translation>1 file</translation>
+    </message>
+    <message>
+        <source>%1 files</source>
+        <translation>%1 files</translation>
+    </message>
+    <message>
+        <source>%1%2, %3</source>
+        <translation>%1%2, %3</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>and %1 more</translation>
     </message>
 </context>
 <context>

@@ -9,6 +9,21 @@
     </message>
 </context>
 <context>
+    <name>BinItemText</name>
+    <message>
+        <source>%1, an impossible size</source>
+        <translation>%1, un tamaño imposible</translation>
+    </message>
+    <message>
+        <source>Its record says %1 bytes, more than any file can have.</source>
+        <translation>Su registro indica %1 bytes, más de los que puede tener un archivo.</translation>
+    </message>
+    <message>
+        <source>Impossible sizes in the sum: %1</source>
+        <translation>Tamaños imposibles en la suma: %1</translation>
+    </message>
+</context>
+<context>
     <name>CertificateDialog</name>
     <message>
         <source>Erasure Certificate - %1</source>
@@ -196,6 +211,18 @@
         <source>On the Medium</source>
         <translation>En el medio</translation>
     </message>
+    <message>
+        <source>Not read back</source>
+        <translation>No releído</translation>
+    </message>
+    <message>
+        <source>Nothing that could be compared</source>
+        <translation>Nada que pudiera compararse</translation>
+    </message>
+    <message>
+        <source>Read Back</source>
+        <translation>Relectura</translation>
+    </message>
 </context>
 <context>
     <name>CertificateNumber</name>
@@ -353,6 +380,22 @@
     <message>
         <source>专业数据擦除工具</source>
         <translation>Herramienta profesional de borrado de datos</translation>
+    </message>
+    <message>
+        <source>实际处理: %1</source>
+        <translation>procesados realmente: %1</translation>
+    </message>
+    <message>
+        <source>未读回</source>
+        <translation>no releído</translation>
+    </message>
+    <message>
+        <source>读回的内容无法比对</source>
+        <translation>lo releído no es comparable</translation>
+    </message>
+    <message>
+        <source>(全部内容见本程序历史记录)</source>
+        <translation>(completo en el historial de este programa)</translation>
     </message>
 </context>
 <context>
@@ -634,24 +677,12 @@
         <translation>%1 y %2 más</translation>
     </message>
     <message>
-        <source>  and %1 more</source>
-        <translation>  y %1 más</translation>
-    </message>
-    <message>
-        <source>at least </source>
-        <translation>al menos </translation>
-    </message>
-    <message>
         <source>1 file</source>
         <translation>1 archivo</translation>
     </message>
     <message>
         <source>%1 files</source>
         <translation>%1 archivos</translation>
-    </message>
-    <message>
-        <source>  %1%2, %3</source>
-        <translation>  %1%2, %3</translation>
     </message>
     <message>
         <source>Erases files, and folders with all that is in them</source>
@@ -748,22 +779,6 @@
     <message>
         <source>drive %1 is gone, or another one has taken its place</source>
         <translation>la unidad %1 ya no está, u otra ha ocupado su lugar</translation>
-    </message>
-    <message>
-        <source>  drive %1: model %2, serial number %3, %4, %5</source>
-        <translation>  unidad %1: modelo %2, número de serie %3, %4, %5</translation>
-    </message>
-    <message>
-        <source>    no mounted volumes</source>
-        <translation>    sin volúmenes montados</translation>
-    </message>
-    <message>
-        <source>volume %1, %2, %3, %4 free</source>
-        <translation>volumen %1, %2, %3, %4 libres</translation>
-    </message>
-    <message>
-        <source>, label %1</source>
-        <translation>, etiqueta %1</translation>
     </message>
     <message>
         <source>%1 is no file or folder; a drive is erased with &apos;wipe disk&apos;</source>
@@ -1424,6 +1439,10 @@ Se ha generado un certificado de borrado.</translation>
         <source>The report is not stored. %1</source>
         <translation>El informe no está guardado. %1</translation>
     </message>
+    <message>
+        <source>Error</source>
+        <translation>Error</translation>
+    </message>
 </context>
 <context>
     <name>ConfirmDialog</name>
@@ -1470,6 +1489,14 @@ Se ha generado un certificado de borrado.</translation>
     <message>
         <source>Every sector is overwritten, the partition table too. All volumes of the disk are unmounted before.</source>
         <translation>Se sobrescriben todos los sectores, también la tabla de particiones. Antes se desmontan todos los volúmenes del disco.</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Advertencia</translation>
+    </message>
+    <message>
+        <source>This will be destroyed</source>
+        <translation>Esto será destruido</translation>
     </message>
 </context>
 <context>
@@ -2587,6 +2614,10 @@ Sin embargo, es posible que los archivos eliminados anteriormente aún se puedan
         <source>Not looked into: %1</source>
         <translation>No examinado: %1</translation>
     </message>
+    <message>
+        <source>Reading drives...</source>
+        <translation>Leyendo unidades...</translation>
+    </message>
 </context>
 <context>
     <name>MethodCard</name>
@@ -2740,6 +2771,10 @@ Sin embargo, es posible que los archivos eliminados anteriormente aún se puedan
         <source>bins were not looked into, what they hold is not erased</source>
         <translation>no se examinaron papeleras, lo que contienen no se borra</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
 </context>
 <context>
     <name>ProgressPage</name>
@@ -2799,6 +2834,18 @@ Sin embargo, es posible que los archivos eliminados anteriormente aún se puedan
         <source>正在擦除数据...</source>
         <translation>Borrando datos...</translation>
     </message>
+    <message>
+        <source>擦除进度</source>
+        <translation>Progreso del borrado</translation>
+    </message>
+    <message>
+        <source>恢复此页面的显示；擦除并未停止</source>
+        <translation>Reanuda la visualización de esta página; el borrado no se detuvo</translation>
+    </message>
+    <message>
+        <source>只暂停此页面的显示；擦除会继续进行</source>
+        <translation>Pausa solo la visualización de esta página; el borrado continúa</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -2856,6 +2903,13 @@ Sin embargo, es posible que los archivos eliminados anteriormente aún se puedan
     <message>
         <source>The report database did not take the report.</source>
         <translation>La base de datos de informes no aceptó el informe.</translation>
+    </message>
+</context>
+<context>
+    <name>SelectableValue</name>
+    <message>
+        <source>Copy</source>
+        <translation>Copiar</translation>
     </message>
 </context>
 <context>
@@ -2957,6 +3011,49 @@ Sin embargo, es posible que los archivos eliminados anteriormente aún se puedan
     <message>
         <source>There is no report %1 in the database.</source>
         <translation>No hay ningún informe %1 en la base de datos.</translation>
+    </message>
+</context>
+<context>
+    <name>TargetText</name>
+    <message>
+        <source>unknown</source>
+        <translation>desconocido</translation>
+    </message>
+    <message>
+        <source>drive %1: model %2, serial number %3, %4, %5</source>
+        <translation>unidad %1: modelo %2, número de serie %3, %4, %5</translation>
+    </message>
+    <message>
+        <source>volume %1, %2, %3, %4 free</source>
+        <translation>volumen %1, %2, %3, %4 libres</translation>
+    </message>
+    <message>
+        <source>, label %1</source>
+        <translation>, etiqueta %1</translation>
+    </message>
+    <message>
+        <source>no mounted volumes</source>
+        <translation>sin volúmenes montados</translation>
+    </message>
+    <message>
+        <source>at least </source>
+        <translation>al menos </translation>
+    </message>
+    <message>
+        <source>1 file</source>
+        <translation>1 archivo</translation>
+    </message>
+    <message>
+        <source>%1 files</source>
+        <translation>%1 archivos</translation>
+    </message>
+    <message>
+        <source>%1%2, %3</source>
+        <translation>%1%2, %3</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>y %1 más</translation>
     </message>
 </context>
 <context>

@@ -9,6 +9,21 @@
     </message>
 </context>
 <context>
+    <name>BinItemText</name>
+    <message>
+        <source>%1, an impossible size</source>
+        <translation>%1, une taille impossible</translation>
+    </message>
+    <message>
+        <source>Its record says %1 bytes, more than any file can have.</source>
+        <translation>Son enregistrement indique %1 octets, plus qu&apos;un fichier ne peut en avoir.</translation>
+    </message>
+    <message>
+        <source>Impossible sizes in the sum: %1</source>
+        <translation>Tailles impossibles dans la somme&#xa0;: %1</translation>
+    </message>
+</context>
+<context>
     <name>CertificateDialog</name>
     <message>
         <source>Erasure Certificate - %1</source>
@@ -196,6 +211,18 @@
         <source>On the Medium</source>
         <translation>Sur le support</translation>
     </message>
+    <message>
+        <source>Not read back</source>
+        <translation>Non relu</translation>
+    </message>
+    <message>
+        <source>Nothing that could be compared</source>
+        <translation>Rien qui puisse être comparé</translation>
+    </message>
+    <message>
+        <source>Read Back</source>
+        <translation>Relecture</translation>
+    </message>
 </context>
 <context>
     <name>CertificateNumber</name>
@@ -353,6 +380,22 @@
     <message>
         <source>专业数据擦除工具</source>
         <translation>Outil professionnel d&apos;effacement de données</translation>
+    </message>
+    <message>
+        <source>实际处理: %1</source>
+        <translation>réellement traités&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>未读回</source>
+        <translation>non relu</translation>
+    </message>
+    <message>
+        <source>读回的内容无法比对</source>
+        <translation>contenu relu non comparable</translation>
+    </message>
+    <message>
+        <source>(全部内容见本程序历史记录)</source>
+        <translation>(texte complet dans l&apos;historique de ce programme)</translation>
     </message>
 </context>
 <context>
@@ -634,24 +677,12 @@
         <translation>%1 et %2 de plus</translation>
     </message>
     <message>
-        <source>  and %1 more</source>
-        <translation>  et %1 de plus</translation>
-    </message>
-    <message>
-        <source>at least </source>
-        <translation>au moins </translation>
-    </message>
-    <message>
         <source>1 file</source>
         <translation>1 fichier</translation>
     </message>
     <message>
         <source>%1 files</source>
         <translation>%1 fichiers</translation>
-    </message>
-    <message>
-        <source>  %1%2, %3</source>
-        <translation>  %1%2, %3</translation>
     </message>
     <message>
         <source>Erases files, and folders with all that is in them</source>
@@ -748,22 +779,6 @@
     <message>
         <source>drive %1 is gone, or another one has taken its place</source>
         <translation>le disque %1 a disparu, ou un autre a pris sa place</translation>
-    </message>
-    <message>
-        <source>  drive %1: model %2, serial number %3, %4, %5</source>
-        <translation>  disque %1&#xa0;: modèle %2, numéro de série %3, %4, %5</translation>
-    </message>
-    <message>
-        <source>    no mounted volumes</source>
-        <translation>    aucun volume monté</translation>
-    </message>
-    <message>
-        <source>volume %1, %2, %3, %4 free</source>
-        <translation>volume %1, %2, %3, %4 libres</translation>
-    </message>
-    <message>
-        <source>, label %1</source>
-        <translation>, étiquette %1</translation>
     </message>
     <message>
         <source>%1 is no file or folder; a drive is erased with &apos;wipe disk&apos;</source>
@@ -1424,6 +1439,10 @@ Un certificat d&apos;effacement a été généré.</translation>
         <source>The report is not stored. %1</source>
         <translation>Le rapport n&apos;est pas enregistré. %1</translation>
     </message>
+    <message>
+        <source>Error</source>
+        <translation>Erreur</translation>
+    </message>
 </context>
 <context>
     <name>ConfirmDialog</name>
@@ -1470,6 +1489,14 @@ Un certificat d&apos;effacement a été généré.</translation>
     <message>
         <source>Every sector is overwritten, the partition table too. All volumes of the disk are unmounted before.</source>
         <translation>Chaque secteur est écrasé, la table de partitions aussi. Tous les volumes du disque sont démontés auparavant.</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Avertissement</translation>
+    </message>
+    <message>
+        <source>This will be destroyed</source>
+        <translation>Ceci sera détruit</translation>
     </message>
 </context>
 <context>
@@ -2587,6 +2614,10 @@ Voulez-vous effacer l&apos;espace libre afin qu&apos;ils ne puissent pas être r
         <source>Not looked into: %1</source>
         <translation>Non examiné&#xa0;: %1</translation>
     </message>
+    <message>
+        <source>Reading drives...</source>
+        <translation>Lecture des disques...</translation>
+    </message>
 </context>
 <context>
     <name>MethodCard</name>
@@ -2740,6 +2771,10 @@ Voulez-vous effacer l&apos;espace libre afin qu&apos;ils ne puissent pas être r
         <source>bins were not looked into, what they hold is not erased</source>
         <translation>des corbeilles n&apos;ont pas été examinées, leur contenu n&apos;est pas effacé</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1&#xa0;: %2</translation>
+    </message>
 </context>
 <context>
     <name>ProgressPage</name>
@@ -2799,6 +2834,18 @@ Voulez-vous effacer l&apos;espace libre afin qu&apos;ils ne puissent pas être r
         <source>正在擦除数据...</source>
         <translation>Effacement des données...</translation>
     </message>
+    <message>
+        <source>擦除进度</source>
+        <translation>Progression de l&apos;effacement</translation>
+    </message>
+    <message>
+        <source>恢复此页面的显示；擦除并未停止</source>
+        <translation>Reprend l&apos;affichage de cette page&#xa0;; l&apos;effacement ne s&apos;est pas arrêté</translation>
+    </message>
+    <message>
+        <source>只暂停此页面的显示；擦除会继续进行</source>
+        <translation>Suspend seulement l&apos;affichage de cette page&#xa0;; l&apos;effacement continue</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -2856,6 +2903,13 @@ Voulez-vous effacer l&apos;espace libre afin qu&apos;ils ne puissent pas être r
     <message>
         <source>The report database did not take the report.</source>
         <translation>La base de données des rapports n&apos;a pas accepté le rapport.</translation>
+    </message>
+</context>
+<context>
+    <name>SelectableValue</name>
+    <message>
+        <source>Copy</source>
+        <translation>Copier</translation>
     </message>
 </context>
 <context>
@@ -2957,6 +3011,49 @@ Voulez-vous effacer l&apos;espace libre afin qu&apos;ils ne puissent pas être r
     <message>
         <source>There is no report %1 in the database.</source>
         <translation>La base de données ne contient pas de rapport %1.</translation>
+    </message>
+</context>
+<context>
+    <name>TargetText</name>
+    <message>
+        <source>unknown</source>
+        <translation>inconnu</translation>
+    </message>
+    <message>
+        <source>drive %1: model %2, serial number %3, %4, %5</source>
+        <translation>disque %1&#xa0;: modèle %2, numéro de série %3, %4, %5</translation>
+    </message>
+    <message>
+        <source>volume %1, %2, %3, %4 free</source>
+        <translation>volume %1, %2, %3, %4 libres</translation>
+    </message>
+    <message>
+        <source>, label %1</source>
+        <translation>, étiquette %1</translation>
+    </message>
+    <message>
+        <source>no mounted volumes</source>
+        <translation>aucun volume monté</translation>
+    </message>
+    <message>
+        <source>at least </source>
+        <translation>au moins </translation>
+    </message>
+    <message>
+        <source>1 file</source>
+        <translation>1 fichier</translation>
+    </message>
+    <message>
+        <source>%1 files</source>
+        <translation>%1 fichiers</translation>
+    </message>
+    <message>
+        <source>%1%2, %3</source>
+        <translation>%1%2, %3</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>et %1 de plus</translation>
     </message>
 </context>
 <context>

@@ -9,6 +9,21 @@
     </message>
 </context>
 <context>
+    <name>BinItemText</name>
+    <message>
+        <source>%1, an impossible size</source>
+        <translation>%1, una dimensione impossibile</translation>
+    </message>
+    <message>
+        <source>Its record says %1 bytes, more than any file can have.</source>
+        <translation>Il suo record indica %1 byte, più di quanti ne possa avere un file.</translation>
+    </message>
+    <message>
+        <source>Impossible sizes in the sum: %1</source>
+        <translation>Dimensioni impossibili nella somma: %1</translation>
+    </message>
+</context>
+<context>
     <name>CertificateDialog</name>
     <message>
         <source>Erasure Certificate - %1</source>
@@ -196,6 +211,18 @@
         <source>On the Medium</source>
         <translation>Sul supporto</translation>
     </message>
+    <message>
+        <source>Not read back</source>
+        <translation>Non riletto</translation>
+    </message>
+    <message>
+        <source>Nothing that could be compared</source>
+        <translation>Nulla che potesse essere confrontato</translation>
+    </message>
+    <message>
+        <source>Read Back</source>
+        <translation>Rilettura</translation>
+    </message>
 </context>
 <context>
     <name>CertificateNumber</name>
@@ -353,6 +380,22 @@
     <message>
         <source>专业数据擦除工具</source>
         <translation>Strumento professionale per la cancellazione dei dati</translation>
+    </message>
+    <message>
+        <source>实际处理: %1</source>
+        <translation>effettivamente elaborati: %1</translation>
+    </message>
+    <message>
+        <source>未读回</source>
+        <translation>non riletto</translation>
+    </message>
+    <message>
+        <source>读回的内容无法比对</source>
+        <translation>contenuto riletto non confrontabile</translation>
+    </message>
+    <message>
+        <source>(全部内容见本程序历史记录)</source>
+        <translation>(testo completo nella cronologia di questo programma)</translation>
     </message>
 </context>
 <context>
@@ -634,24 +677,12 @@
         <translation>%1 e altri %2</translation>
     </message>
     <message>
-        <source>  and %1 more</source>
-        <translation>  e altri %1</translation>
-    </message>
-    <message>
-        <source>at least </source>
-        <translation>almeno </translation>
-    </message>
-    <message>
         <source>1 file</source>
         <translation>1 file</translation>
     </message>
     <message>
         <source>%1 files</source>
         <translation>%1 file</translation>
-    </message>
-    <message>
-        <source>  %1%2, %3</source>
-        <translation>  %1%2, %3</translation>
     </message>
     <message>
         <source>Erases files, and folders with all that is in them</source>
@@ -748,22 +779,6 @@
     <message>
         <source>drive %1 is gone, or another one has taken its place</source>
         <translation>il disco %1 non c&apos;è più oppure un altro ne ha preso il posto</translation>
-    </message>
-    <message>
-        <source>  drive %1: model %2, serial number %3, %4, %5</source>
-        <translation>  disco %1: modello %2, numero di serie %3, %4, %5</translation>
-    </message>
-    <message>
-        <source>    no mounted volumes</source>
-        <translation>    nessun volume montato</translation>
-    </message>
-    <message>
-        <source>volume %1, %2, %3, %4 free</source>
-        <translation>volume %1, %2, %3, %4 liberi</translation>
-    </message>
-    <message>
-        <source>, label %1</source>
-        <translation>, etichetta %1</translation>
     </message>
     <message>
         <source>%1 is no file or folder; a drive is erased with &apos;wipe disk&apos;</source>
@@ -1424,6 +1439,10 @@ An erasure certificate has been generated.</source>
         <source>The report is not stored. %1</source>
         <translation>Il rapporto non è stato salvato. %1</translation>
     </message>
+    <message>
+        <source>Error</source>
+        <translation>Errore</translation>
+    </message>
 </context>
 <context>
     <name>ConfirmDialog</name>
@@ -1470,6 +1489,14 @@ An erasure certificate has been generated.</source>
     <message>
         <source>Every sector is overwritten, the partition table too. All volumes of the disk are unmounted before.</source>
         <translation>Ogni settore viene sovrascritto, anche la tabella delle partizioni. Prima vengono smontati tutti i volumi del disco.</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Avviso</translation>
+    </message>
+    <message>
+        <source>This will be destroyed</source>
+        <translation>Questo verrà distrutto</translation>
     </message>
 </context>
 <context>
@@ -2587,6 +2614,10 @@ Cancellare lo spazio libero in modo che non possano essere recuperati?</translat
         <source>Not looked into: %1</source>
         <translation>Non esaminato: %1</translation>
     </message>
+    <message>
+        <source>Reading drives...</source>
+        <translation>Lettura dei dischi...</translation>
+    </message>
 </context>
 <context>
     <name>MethodCard</name>
@@ -2740,6 +2771,10 @@ Cancellare lo spazio libero in modo che non possano essere recuperati?</translat
         <source>bins were not looked into, what they hold is not erased</source>
         <translation>alcuni cestini non sono stati esaminati, il loro contenuto non viene cancellato</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
 </context>
 <context>
     <name>ProgressPage</name>
@@ -2799,6 +2834,18 @@ Cancellare lo spazio libero in modo che non possano essere recuperati?</translat
         <source>正在擦除数据...</source>
         <translation>Cancellazione dei dati in corso...</translation>
     </message>
+    <message>
+        <source>擦除进度</source>
+        <translation>Avanzamento della cancellazione</translation>
+    </message>
+    <message>
+        <source>恢复此页面的显示；擦除并未停止</source>
+        <translation>Riprende la visualizzazione di questa pagina; la cancellazione non si è fermata</translation>
+    </message>
+    <message>
+        <source>只暂停此页面的显示；擦除会继续进行</source>
+        <translation>Sospende solo la visualizzazione di questa pagina; la cancellazione continua</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -2856,6 +2903,13 @@ Cancellare lo spazio libero in modo che non possano essere recuperati?</translat
     <message>
         <source>The report database did not take the report.</source>
         <translation>Il database dei rapporti non ha accettato il rapporto.</translation>
+    </message>
+</context>
+<context>
+    <name>SelectableValue</name>
+    <message>
+        <source>Copy</source>
+        <translation>Copia</translation>
     </message>
 </context>
 <context>
@@ -2957,6 +3011,49 @@ Cancellare lo spazio libero in modo che non possano essere recuperati?</translat
     <message>
         <source>There is no report %1 in the database.</source>
         <translation>Nel database non è presente il rapporto %1.</translation>
+    </message>
+</context>
+<context>
+    <name>TargetText</name>
+    <message>
+        <source>unknown</source>
+        <translation>sconosciuto</translation>
+    </message>
+    <message>
+        <source>drive %1: model %2, serial number %3, %4, %5</source>
+        <translation>disco %1: modello %2, numero di serie %3, %4, %5</translation>
+    </message>
+    <message>
+        <source>volume %1, %2, %3, %4 free</source>
+        <translation>volume %1, %2, %3, %4 liberi</translation>
+    </message>
+    <message>
+        <source>, label %1</source>
+        <translation>, etichetta %1</translation>
+    </message>
+    <message>
+        <source>no mounted volumes</source>
+        <translation>nessun volume montato</translation>
+    </message>
+    <message>
+        <source>at least </source>
+        <translation>almeno </translation>
+    </message>
+    <message>
+        <source>1 file</source>
+        <translation>1 file</translation>
+    </message>
+    <message>
+        <source>%1 files</source>
+        <translation>%1 file</translation>
+    </message>
+    <message>
+        <source>%1%2, %3</source>
+        <translation>%1%2, %3</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>e altri %1</translation>
     </message>
 </context>
 <context>

@@ -9,6 +9,21 @@
     </message>
 </context>
 <context>
+    <name>BinItemText</name>
+    <message>
+        <source>%1, an impossible size</source>
+        <translation>%1 (あり得ないサイズ)</translation>
+    </message>
+    <message>
+        <source>Its record says %1 bytes, more than any file can have.</source>
+        <translation>記録には %1 バイトとありますが、どのファイルもこの大きさにはなり得ません。</translation>
+    </message>
+    <message>
+        <source>Impossible sizes in the sum: %1</source>
+        <translation>合計に含まれるあり得ないサイズ: %1</translation>
+    </message>
+</context>
+<context>
     <name>CertificateDialog</name>
     <message>
         <source>Erasure Certificate - %1</source>
@@ -196,6 +211,18 @@
         <source>On the Medium</source>
         <translation>媒体への書き込み</translation>
     </message>
+    <message>
+        <source>Not read back</source>
+        <translation>読み戻していません</translation>
+    </message>
+    <message>
+        <source>Nothing that could be compared</source>
+        <translation>比較できる内容なし</translation>
+    </message>
+    <message>
+        <source>Read Back</source>
+        <translation>読み戻し</translation>
+    </message>
 </context>
 <context>
     <name>CertificateNumber</name>
@@ -353,6 +380,22 @@
     <message>
         <source>专业数据擦除工具</source>
         <translation>プロフェッショナル向けデータ消去ツール</translation>
+    </message>
+    <message>
+        <source>实际处理: %1</source>
+        <translation>実際の処理数: %1</translation>
+    </message>
+    <message>
+        <source>未读回</source>
+        <translation>読み戻していません</translation>
+    </message>
+    <message>
+        <source>读回的内容无法比对</source>
+        <translation>読み戻した内容は比較できません</translation>
+    </message>
+    <message>
+        <source>(全部内容见本程序历史记录)</source>
+        <translation>(全文は本プログラムの履歴にあります)</translation>
     </message>
 </context>
 <context>
@@ -634,24 +677,12 @@
         <translation>%1 ほか %2 件</translation>
     </message>
     <message>
-        <source>  and %1 more</source>
-        <translation>  ほか %1 件</translation>
-    </message>
-    <message>
-        <source>at least </source>
-        <translation>少なくとも </translation>
-    </message>
-    <message>
         <source>1 file</source>
         <translation>1 個のファイル</translation>
     </message>
     <message>
         <source>%1 files</source>
         <translation>%1 個のファイル</translation>
-    </message>
-    <message>
-        <source>  %1%2, %3</source>
-        <translation>  %1%2, %3</translation>
     </message>
     <message>
         <source>Erases files, and folders with all that is in them</source>
@@ -748,22 +779,6 @@
     <message>
         <source>drive %1 is gone, or another one has taken its place</source>
         <translation>ドライブ %1 が取り外されたか、別のドライブに替わっています</translation>
-    </message>
-    <message>
-        <source>  drive %1: model %2, serial number %3, %4, %5</source>
-        <translation>  ドライブ %1: モデル %2, シリアル番号 %3, %4, %5</translation>
-    </message>
-    <message>
-        <source>    no mounted volumes</source>
-        <translation>    マウントされたボリュームなし</translation>
-    </message>
-    <message>
-        <source>volume %1, %2, %3, %4 free</source>
-        <translation>ボリューム %1, %2, %3, 空き %4</translation>
-    </message>
-    <message>
-        <source>, label %1</source>
-        <translation>, ラベル %1</translation>
     </message>
     <message>
         <source>%1 is no file or folder; a drive is erased with &apos;wipe disk&apos;</source>
@@ -1424,6 +1439,10 @@ An erasure certificate has been generated.</source>
         <source>The report is not stored. %1</source>
         <translation>レポートは保存されていません。%1</translation>
     </message>
+    <message>
+        <source>Error</source>
+        <translation>エラー</translation>
+    </message>
 </context>
 <context>
     <name>ConfirmDialog</name>
@@ -1470,6 +1489,14 @@ An erasure certificate has been generated.</source>
     <message>
         <source>Every sector is overwritten, the partition table too. All volumes of the disk are unmounted before.</source>
         <translation>パーティションテーブルを含む全セクターが上書きされます。事前にディスクの全ボリュームがアンマウントされます。</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>This will be destroyed</source>
+        <translation>破棄される対象</translation>
     </message>
 </context>
 <context>
@@ -2587,6 +2614,10 @@ Would you like to wipe free space to ensure they cannot be recovered?</source>
         <source>Not looked into: %1</source>
         <translation>調べていない場所: %1</translation>
     </message>
+    <message>
+        <source>Reading drives...</source>
+        <translation>ドライブを読み込んでいます...</translation>
+    </message>
 </context>
 <context>
     <name>MethodCard</name>
@@ -2740,6 +2771,10 @@ Would you like to wipe free space to ensure they cannot be recovered?</source>
         <source>bins were not looked into, what they hold is not erased</source>
         <translation>調べていないごみ箱があり、その中身は消去されません</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
 </context>
 <context>
     <name>ProgressPage</name>
@@ -2799,6 +2834,18 @@ Would you like to wipe free space to ensure they cannot be recovered?</source>
         <source>正在擦除数据...</source>
         <translation>データを消去しています...</translation>
     </message>
+    <message>
+        <source>擦除进度</source>
+        <translation>消去の進行状況</translation>
+    </message>
+    <message>
+        <source>恢复此页面的显示；擦除并未停止</source>
+        <translation>このページの表示を再開します。消去は止まっていません</translation>
+    </message>
+    <message>
+        <source>只暂停此页面的显示；擦除会继续进行</source>
+        <translation>このページの表示だけを一時停止します。消去は続きます</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -2856,6 +2903,13 @@ Would you like to wipe free space to ensure they cannot be recovered?</source>
     <message>
         <source>The report database did not take the report.</source>
         <translation>レポートデータベースがレポートを受け付けませんでした。</translation>
+    </message>
+</context>
+<context>
+    <name>SelectableValue</name>
+    <message>
+        <source>Copy</source>
+        <translation>コピー</translation>
     </message>
 </context>
 <context>
@@ -2957,6 +3011,49 @@ Would you like to wipe free space to ensure they cannot be recovered?</source>
     <message>
         <source>There is no report %1 in the database.</source>
         <translation>データベースにレポート %1 はありません。</translation>
+    </message>
+</context>
+<context>
+    <name>TargetText</name>
+    <message>
+        <source>unknown</source>
+        <translation>不明</translation>
+    </message>
+    <message>
+        <source>drive %1: model %2, serial number %3, %4, %5</source>
+        <translation>ドライブ %1: モデル %2, シリアル番号 %3, %4, %5</translation>
+    </message>
+    <message>
+        <source>volume %1, %2, %3, %4 free</source>
+        <translation>ボリューム %1, %2, %3, 空き %4</translation>
+    </message>
+    <message>
+        <source>, label %1</source>
+        <translation>, ラベル %1</translation>
+    </message>
+    <message>
+        <source>no mounted volumes</source>
+        <translation>マウントされたボリュームなし</translation>
+    </message>
+    <message>
+        <source>at least </source>
+        <translation>少なくとも </translation>
+    </message>
+    <message>
+        <source>1 file</source>
+        <translation>1 個のファイル</translation>
+    </message>
+    <message>
+        <source>%1 files</source>
+        <translation>%1 個のファイル</translation>
+    </message>
+    <message>
+        <source>%1%2, %3</source>
+        <translation>%1%2, %3</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>ほか %1 件</translation>
     </message>
 </context>
 <context>

@@ -9,6 +9,21 @@
     </message>
 </context>
 <context>
+    <name>BinItemText</name>
+    <message>
+        <source>%1, an impossible size</source>
+        <translation>%1, 불가능한 크기</translation>
+    </message>
+    <message>
+        <source>Its record says %1 bytes, more than any file can have.</source>
+        <translation>기록에는 %1바이트로 되어 있으나 어떤 파일도 그럴 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>Impossible sizes in the sum: %1</source>
+        <translation>합계에 포함된 불가능한 크기: %1</translation>
+    </message>
+</context>
+<context>
     <name>CertificateDialog</name>
     <message>
         <source>Erasure Certificate - %1</source>
@@ -196,6 +211,18 @@
         <source>On the Medium</source>
         <translation>매체에 기록됨</translation>
     </message>
+    <message>
+        <source>Not read back</source>
+        <translation>다시 읽지 않음</translation>
+    </message>
+    <message>
+        <source>Nothing that could be compared</source>
+        <translation>비교할 수 있는 내용 없음</translation>
+    </message>
+    <message>
+        <source>Read Back</source>
+        <translation>다시 읽기</translation>
+    </message>
 </context>
 <context>
     <name>CertificateNumber</name>
@@ -353,6 +380,22 @@
     <message>
         <source>专业数据擦除工具</source>
         <translation>전문 데이터 소거 도구</translation>
+    </message>
+    <message>
+        <source>实际处理: %1</source>
+        <translation>실제 처리: %1</translation>
+    </message>
+    <message>
+        <source>未读回</source>
+        <translation>다시 읽지 않음</translation>
+    </message>
+    <message>
+        <source>读回的内容无法比对</source>
+        <translation>다시 읽은 내용을 비교할 수 없음</translation>
+    </message>
+    <message>
+        <source>(全部内容见本程序历史记录)</source>
+        <translation>(전체 내용은 이 프로그램의 기록에 있음)</translation>
     </message>
 </context>
 <context>
@@ -634,24 +677,12 @@
         <translation>%1 외 %2개</translation>
     </message>
     <message>
-        <source>  and %1 more</source>
-        <translation>  외 %1개</translation>
-    </message>
-    <message>
-        <source>at least </source>
-        <translation>최소 </translation>
-    </message>
-    <message>
         <source>1 file</source>
         <translation>파일 1개</translation>
     </message>
     <message>
         <source>%1 files</source>
         <translation>파일 %1개</translation>
-    </message>
-    <message>
-        <source>  %1%2, %3</source>
-        <translation>  %1%2, %3</translation>
     </message>
     <message>
         <source>Erases files, and folders with all that is in them</source>
@@ -748,22 +779,6 @@
     <message>
         <source>drive %1 is gone, or another one has taken its place</source>
         <translation>드라이브 %1이(가) 제거되었거나 다른 드라이브로 바뀌었습니다</translation>
-    </message>
-    <message>
-        <source>  drive %1: model %2, serial number %3, %4, %5</source>
-        <translation>  드라이브 %1: 모델 %2, 일련번호 %3, %4, %5</translation>
-    </message>
-    <message>
-        <source>    no mounted volumes</source>
-        <translation>    마운트된 볼륨 없음</translation>
-    </message>
-    <message>
-        <source>volume %1, %2, %3, %4 free</source>
-        <translation>볼륨 %1, %2, %3, 여유 공간 %4</translation>
-    </message>
-    <message>
-        <source>, label %1</source>
-        <translation>, 레이블 %1</translation>
     </message>
     <message>
         <source>%1 is no file or folder; a drive is erased with &apos;wipe disk&apos;</source>
@@ -1424,6 +1439,10 @@ An erasure certificate has been generated.</source>
         <source>The report is not stored. %1</source>
         <translation>보고서가 저장되지 않았습니다. %1</translation>
     </message>
+    <message>
+        <source>Error</source>
+        <translation>오류</translation>
+    </message>
 </context>
 <context>
     <name>ConfirmDialog</name>
@@ -1470,6 +1489,14 @@ An erasure certificate has been generated.</source>
     <message>
         <source>Every sector is overwritten, the partition table too. All volumes of the disk are unmounted before.</source>
         <translation>파티션 테이블을 포함한 모든 섹터를 덮어씁니다. 그 전에 디스크의 모든 볼륨이 마운트 해제됩니다.</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>경고</translation>
+    </message>
+    <message>
+        <source>This will be destroyed</source>
+        <translation>다음이 파기됩니다</translation>
     </message>
 </context>
 <context>
@@ -2587,6 +2614,10 @@ Would you like to wipe free space to ensure they cannot be recovered?</source>
         <source>Not looked into: %1</source>
         <translation>살펴보지 않음: %1</translation>
     </message>
+    <message>
+        <source>Reading drives...</source>
+        <translation>드라이브를 읽는 중...</translation>
+    </message>
 </context>
 <context>
     <name>MethodCard</name>
@@ -2740,6 +2771,10 @@ Would you like to wipe free space to ensure they cannot be recovered?</source>
         <source>bins were not looked into, what they hold is not erased</source>
         <translation>살펴보지 않은 휴지통이 있으며, 그 내용은 소거되지 않습니다</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
 </context>
 <context>
     <name>ProgressPage</name>
@@ -2799,6 +2834,18 @@ Would you like to wipe free space to ensure they cannot be recovered?</source>
         <source>正在擦除数据...</source>
         <translation>데이터를 소거하는 중...</translation>
     </message>
+    <message>
+        <source>擦除进度</source>
+        <translation>삭제 진행률</translation>
+    </message>
+    <message>
+        <source>恢复此页面的显示；擦除并未停止</source>
+        <translation>이 페이지의 표시를 다시 시작합니다. 삭제는 멈추지 않았습니다</translation>
+    </message>
+    <message>
+        <source>只暂停此页面的显示；擦除会继续进行</source>
+        <translation>이 페이지의 표시만 일시 중지합니다. 삭제는 계속됩니다</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -2856,6 +2903,13 @@ Would you like to wipe free space to ensure they cannot be recovered?</source>
     <message>
         <source>The report database did not take the report.</source>
         <translation>보고서 데이터베이스가 보고서를 받지 않았습니다.</translation>
+    </message>
+</context>
+<context>
+    <name>SelectableValue</name>
+    <message>
+        <source>Copy</source>
+        <translation>복사</translation>
     </message>
 </context>
 <context>
@@ -2957,6 +3011,49 @@ Would you like to wipe free space to ensure they cannot be recovered?</source>
     <message>
         <source>There is no report %1 in the database.</source>
         <translation>데이터베이스에 보고서 %1이(가) 없습니다.</translation>
+    </message>
+</context>
+<context>
+    <name>TargetText</name>
+    <message>
+        <source>unknown</source>
+        <translation>알 수 없음</translation>
+    </message>
+    <message>
+        <source>drive %1: model %2, serial number %3, %4, %5</source>
+        <translation>드라이브 %1: 모델 %2, 일련번호 %3, %4, %5</translation>
+    </message>
+    <message>
+        <source>volume %1, %2, %3, %4 free</source>
+        <translation>볼륨 %1, %2, %3, 여유 공간 %4</translation>
+    </message>
+    <message>
+        <source>, label %1</source>
+        <translation>, 레이블 %1</translation>
+    </message>
+    <message>
+        <source>no mounted volumes</source>
+        <translation>마운트된 볼륨 없음</translation>
+    </message>
+    <message>
+        <source>at least </source>
+        <translation>최소 </translation>
+    </message>
+    <message>
+        <source>1 file</source>
+        <translation>파일 1개</translation>
+    </message>
+    <message>
+        <source>%1 files</source>
+        <translation>파일 %1개</translation>
+    </message>
+    <message>
+        <source>%1%2, %3</source>
+        <translation>%1%2, %3</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>외 %1개</translation>
     </message>
 </context>
 <context>

@@ -9,6 +9,21 @@
     </message>
 </context>
 <context>
+    <name>BinItemText</name>
+    <message>
+        <source>%1, an impossible size</source>
+        <translation>%1, een onmogelijke grootte</translation>
+    </message>
+    <message>
+        <source>Its record says %1 bytes, more than any file can have.</source>
+        <translation>De vermelding noemt %1 bytes, meer dan een bestand kan hebben.</translation>
+    </message>
+    <message>
+        <source>Impossible sizes in the sum: %1</source>
+        <translation>Onmogelijke groottes in de som: %1</translation>
+    </message>
+</context>
+<context>
     <name>CertificateDialog</name>
     <message>
         <source>Erasure Certificate - %1</source>
@@ -196,6 +211,18 @@
         <source>On the Medium</source>
         <translation>Op het medium</translation>
     </message>
+    <message>
+        <source>Not read back</source>
+        <translation>Niet teruggelezen</translation>
+    </message>
+    <message>
+        <source>Nothing that could be compared</source>
+        <translation>Niets dat kon worden vergeleken</translation>
+    </message>
+    <message>
+        <source>Read Back</source>
+        <translation>Teruglezing</translation>
+    </message>
 </context>
 <context>
     <name>CertificateNumber</name>
@@ -353,6 +380,22 @@
     <message>
         <source>专业数据擦除工具</source>
         <translation>Professioneel programma voor gegevenswissing</translation>
+    </message>
+    <message>
+        <source>实际处理: %1</source>
+        <translation>werkelijk verwerkt: %1</translation>
+    </message>
+    <message>
+        <source>未读回</source>
+        <translation>niet teruggelezen</translation>
+    </message>
+    <message>
+        <source>读回的内容无法比对</source>
+        <translation>teruggelezen inhoud niet vergelijkbaar</translation>
+    </message>
+    <message>
+        <source>(全部内容见本程序历史记录)</source>
+        <translation>(volledig in de geschiedenis van dit programma)</translation>
     </message>
 </context>
 <context>
@@ -634,24 +677,12 @@
         <translation>%1 en nog %2</translation>
     </message>
     <message>
-        <source>  and %1 more</source>
-        <translation>  en nog %1</translation>
-    </message>
-    <message>
-        <source>at least </source>
-        <translation>minstens </translation>
-    </message>
-    <message>
         <source>1 file</source>
         <translation>1 bestand</translation>
     </message>
     <message>
         <source>%1 files</source>
         <translation>%1 bestanden</translation>
-    </message>
-    <message>
-        <source>  %1%2, %3</source>
-        <translation>  %1%2, %3</translation>
     </message>
     <message>
         <source>Erases files, and folders with all that is in them</source>
@@ -748,22 +779,6 @@
     <message>
         <source>drive %1 is gone, or another one has taken its place</source>
         <translation>schijf %1 is er niet meer, of een andere heeft de plaats ervan ingenomen</translation>
-    </message>
-    <message>
-        <source>  drive %1: model %2, serial number %3, %4, %5</source>
-        <translation>  schijf %1: model %2, serienummer %3, %4, %5</translation>
-    </message>
-    <message>
-        <source>    no mounted volumes</source>
-        <translation>    geen gekoppelde volumes</translation>
-    </message>
-    <message>
-        <source>volume %1, %2, %3, %4 free</source>
-        <translation>volume %1, %2, %3, %4 vrij</translation>
-    </message>
-    <message>
-        <source>, label %1</source>
-        <translation>, label %1</translation>
     </message>
     <message>
         <source>%1 is no file or folder; a drive is erased with &apos;wipe disk&apos;</source>
@@ -1424,6 +1439,10 @@ Er is een wiscertificaat aangemaakt.</translation>
         <source>The report is not stored. %1</source>
         <translation>Het rapport is niet opgeslagen. %1</translation>
     </message>
+    <message>
+        <source>Error</source>
+        <translation>Fout</translation>
+    </message>
 </context>
 <context>
     <name>ConfirmDialog</name>
@@ -1470,6 +1489,14 @@ Er is een wiscertificaat aangemaakt.</translation>
     <message>
         <source>Every sector is overwritten, the partition table too. All volumes of the disk are unmounted before.</source>
         <translation>Elke sector wordt overschreven, ook de partitietabel. Alle volumes van de schijf worden eerst ontkoppeld.</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Waarschuwing</translation>
+    </message>
+    <message>
+        <source>This will be destroyed</source>
+        <translation>Dit wordt vernietigd</translation>
     </message>
 </context>
 <context>
@@ -2587,6 +2614,10 @@ Wilt u de vrije ruimte wissen, zodat ze niet meer kunnen worden hersteld?</trans
         <source>Not looked into: %1</source>
         <translation>Niet doorzocht: %1</translation>
     </message>
+    <message>
+        <source>Reading drives...</source>
+        <translation>Schijven worden gelezen...</translation>
+    </message>
 </context>
 <context>
     <name>MethodCard</name>
@@ -2740,6 +2771,10 @@ Wilt u de vrije ruimte wissen, zodat ze niet meer kunnen worden hersteld?</trans
         <source>bins were not looked into, what they hold is not erased</source>
         <translation>prullenbakken zijn niet doorzocht, de inhoud ervan is niet gewist</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
 </context>
 <context>
     <name>ProgressPage</name>
@@ -2799,6 +2834,18 @@ Wilt u de vrije ruimte wissen, zodat ze niet meer kunnen worden hersteld?</trans
         <source>正在擦除数据...</source>
         <translation>Gegevens worden gewist...</translation>
     </message>
+    <message>
+        <source>擦除进度</source>
+        <translation>Voortgang van het wissen</translation>
+    </message>
+    <message>
+        <source>恢复此页面的显示；擦除并未停止</source>
+        <translation>Hervat de weergave van deze pagina; het wissen is niet gestopt</translation>
+    </message>
+    <message>
+        <source>只暂停此页面的显示；擦除会继续进行</source>
+        <translation>Pauzeert alleen de weergave van deze pagina; het wissen gaat door</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -2856,6 +2903,13 @@ Wilt u de vrije ruimte wissen, zodat ze niet meer kunnen worden hersteld?</trans
     <message>
         <source>The report database did not take the report.</source>
         <translation>De rapportdatabase heeft het rapport niet aangenomen.</translation>
+    </message>
+</context>
+<context>
+    <name>SelectableValue</name>
+    <message>
+        <source>Copy</source>
+        <translation>Kopiëren</translation>
     </message>
 </context>
 <context>
@@ -2957,6 +3011,49 @@ Wilt u de vrije ruimte wissen, zodat ze niet meer kunnen worden hersteld?</trans
     <message>
         <source>There is no report %1 in the database.</source>
         <translation>Er is geen rapport %1 in de database.</translation>
+    </message>
+</context>
+<context>
+    <name>TargetText</name>
+    <message>
+        <source>unknown</source>
+        <translation>onbekend</translation>
+    </message>
+    <message>
+        <source>drive %1: model %2, serial number %3, %4, %5</source>
+        <translation>schijf %1: model %2, serienummer %3, %4, %5</translation>
+    </message>
+    <message>
+        <source>volume %1, %2, %3, %4 free</source>
+        <translation>volume %1, %2, %3, %4 vrij</translation>
+    </message>
+    <message>
+        <source>, label %1</source>
+        <translation>, label %1</translation>
+    </message>
+    <message>
+        <source>no mounted volumes</source>
+        <translation>geen gekoppelde volumes</translation>
+    </message>
+    <message>
+        <source>at least </source>
+        <translation>minstens </translation>
+    </message>
+    <message>
+        <source>1 file</source>
+        <translation>1 bestand</translation>
+    </message>
+    <message>
+        <source>%1 files</source>
+        <translation>%1 bestanden</translation>
+    </message>
+    <message>
+        <source>%1%2, %3</source>
+        <translation>%1%2, %3</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>en nog %1</translation>
     </message>
 </context>
 <context>

@@ -9,6 +9,21 @@
     </message>
 </context>
 <context>
+    <name>BinItemText</name>
+    <message>
+        <source>%1, an impossible size</source>
+        <translation>%1, um tamanho impossível</translation>
+    </message>
+    <message>
+        <source>Its record says %1 bytes, more than any file can have.</source>
+        <translation>O registro indica %1 bytes, mais do que um arquivo pode ter.</translation>
+    </message>
+    <message>
+        <source>Impossible sizes in the sum: %1</source>
+        <translation>Tamanhos impossíveis na soma: %1</translation>
+    </message>
+</context>
+<context>
     <name>CertificateDialog</name>
     <message>
         <source>Erasure Certificate - %1</source>
@@ -196,6 +211,18 @@
         <source>On the Medium</source>
         <translation>No suporte</translation>
     </message>
+    <message>
+        <source>Not read back</source>
+        <translation>Não relido</translation>
+    </message>
+    <message>
+        <source>Nothing that could be compared</source>
+        <translation>Nada que pudesse ser comparado</translation>
+    </message>
+    <message>
+        <source>Read Back</source>
+        <translation>Releitura</translation>
+    </message>
 </context>
 <context>
     <name>CertificateNumber</name>
@@ -353,6 +380,22 @@
     <message>
         <source>专业数据擦除工具</source>
         <translation>Ferramenta profissional de apagamento de dados</translation>
+    </message>
+    <message>
+        <source>实际处理: %1</source>
+        <translation>realmente processados: %1</translation>
+    </message>
+    <message>
+        <source>未读回</source>
+        <translation>não relido</translation>
+    </message>
+    <message>
+        <source>读回的内容无法比对</source>
+        <translation>conteúdo relido não comparável</translation>
+    </message>
+    <message>
+        <source>(全部内容见本程序历史记录)</source>
+        <translation>(texto completo no histórico deste programa)</translation>
     </message>
 </context>
 <context>
@@ -634,24 +677,12 @@
         <translation>%1 e mais %2</translation>
     </message>
     <message>
-        <source>  and %1 more</source>
-        <translation>  e mais %1</translation>
-    </message>
-    <message>
-        <source>at least </source>
-        <translation>pelo menos </translation>
-    </message>
-    <message>
         <source>1 file</source>
         <translation>1 arquivo</translation>
     </message>
     <message>
         <source>%1 files</source>
         <translation>%1 arquivos</translation>
-    </message>
-    <message>
-        <source>  %1%2, %3</source>
-        <translation>  %1%2, %3</translation>
     </message>
     <message>
         <source>Erases files, and folders with all that is in them</source>
@@ -748,22 +779,6 @@
     <message>
         <source>drive %1 is gone, or another one has taken its place</source>
         <translation>a unidade %1 não está mais presente, ou outra tomou seu lugar</translation>
-    </message>
-    <message>
-        <source>  drive %1: model %2, serial number %3, %4, %5</source>
-        <translation>  unidade %1: modelo %2, número de série %3, %4, %5</translation>
-    </message>
-    <message>
-        <source>    no mounted volumes</source>
-        <translation>    nenhum volume montado</translation>
-    </message>
-    <message>
-        <source>volume %1, %2, %3, %4 free</source>
-        <translation>volume %1, %2, %3, %4 livres</translation>
-    </message>
-    <message>
-        <source>, label %1</source>
-        <translation>, rótulo %1</translation>
     </message>
     <message>
         <source>%1 is no file or folder; a drive is erased with &apos;wipe disk&apos;</source>
@@ -1424,6 +1439,10 @@ Um certificado de apagamento foi gerado.</translation>
         <source>The report is not stored. %1</source>
         <translation>O relatório não foi salvo. %1</translation>
     </message>
+    <message>
+        <source>Error</source>
+        <translation>Erro</translation>
+    </message>
 </context>
 <context>
     <name>ConfirmDialog</name>
@@ -1470,6 +1489,14 @@ Um certificado de apagamento foi gerado.</translation>
     <message>
         <source>Every sector is overwritten, the partition table too. All volumes of the disk are unmounted before.</source>
         <translation>Todos os setores são sobrescritos, incluindo a tabela de partições. Antes são desmontados todos os volumes do disco.</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Aviso</translation>
+    </message>
+    <message>
+        <source>This will be destroyed</source>
+        <translation>Isto será destruído</translation>
     </message>
 </context>
 <context>
@@ -2587,6 +2614,10 @@ Deseja apagar o espaço livre para que eles não possam ser recuperados?</transl
         <source>Not looked into: %1</source>
         <translation>Não examinado: %1</translation>
     </message>
+    <message>
+        <source>Reading drives...</source>
+        <translation>Lendo as unidades...</translation>
+    </message>
 </context>
 <context>
     <name>MethodCard</name>
@@ -2740,6 +2771,10 @@ Deseja apagar o espaço livre para que eles não possam ser recuperados?</transl
         <source>bins were not looked into, what they hold is not erased</source>
         <translation>lixeiras não foram examinadas, o que contêm não é apagado</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
 </context>
 <context>
     <name>ProgressPage</name>
@@ -2799,6 +2834,18 @@ Deseja apagar o espaço livre para que eles não possam ser recuperados?</transl
         <source>正在擦除数据...</source>
         <translation>Apagando dados...</translation>
     </message>
+    <message>
+        <source>擦除进度</source>
+        <translation>Progresso do apagamento</translation>
+    </message>
+    <message>
+        <source>恢复此页面的显示；擦除并未停止</source>
+        <translation>Retoma a exibição desta página; o apagamento não parou</translation>
+    </message>
+    <message>
+        <source>只暂停此页面的显示；擦除会继续进行</source>
+        <translation>Pausa apenas a exibição desta página; o apagamento continua</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -2856,6 +2903,13 @@ Deseja apagar o espaço livre para que eles não possam ser recuperados?</transl
     <message>
         <source>The report database did not take the report.</source>
         <translation>O banco de dados de relatórios não aceitou o relatório.</translation>
+    </message>
+</context>
+<context>
+    <name>SelectableValue</name>
+    <message>
+        <source>Copy</source>
+        <translation>Copiar</translation>
     </message>
 </context>
 <context>
@@ -2957,6 +3011,49 @@ Deseja apagar o espaço livre para que eles não possam ser recuperados?</transl
     <message>
         <source>There is no report %1 in the database.</source>
         <translation>Não há nenhum relatório %1 no banco de dados.</translation>
+    </message>
+</context>
+<context>
+    <name>TargetText</name>
+    <message>
+        <source>unknown</source>
+        <translation>desconhecido</translation>
+    </message>
+    <message>
+        <source>drive %1: model %2, serial number %3, %4, %5</source>
+        <translation>unidade %1: modelo %2, número de série %3, %4, %5</translation>
+    </message>
+    <message>
+        <source>volume %1, %2, %3, %4 free</source>
+        <translation>volume %1, %2, %3, %4 livres</translation>
+    </message>
+    <message>
+        <source>, label %1</source>
+        <translation>, rótulo %1</translation>
+    </message>
+    <message>
+        <source>no mounted volumes</source>
+        <translation>nenhum volume montado</translation>
+    </message>
+    <message>
+        <source>at least </source>
+        <translation>pelo menos </translation>
+    </message>
+    <message>
+        <source>1 file</source>
+        <translation>1 arquivo</translation>
+    </message>
+    <message>
+        <source>%1 files</source>
+        <translation>%1 arquivos</translation>
+    </message>
+    <message>
+        <source>%1%2, %3</source>
+        <translation>%1%2, %3</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>e mais %1</translation>
     </message>
 </context>
 <context>

@@ -9,6 +9,21 @@
     </message>
 </context>
 <context>
+    <name>BinItemText</name>
+    <message>
+        <source>%1, an impossible size</source>
+        <translation>%1，不可能的大小</translation>
+    </message>
+    <message>
+        <source>Its record says %1 bytes, more than any file can have.</source>
+        <translation>其記錄為 %1 位元組，超過任何檔案可能的大小。</translation>
+    </message>
+    <message>
+        <source>Impossible sizes in the sum: %1</source>
+        <translation>總和中不可能的大小：%1</translation>
+    </message>
+</context>
+<context>
     <name>CertificateDialog</name>
     <message>
         <source>Erasure Certificate - %1</source>
@@ -196,6 +211,18 @@
         <source>On the Medium</source>
         <translation>寫入媒體</translation>
     </message>
+    <message>
+        <source>Not read back</source>
+        <translation>未讀回</translation>
+    </message>
+    <message>
+        <source>Nothing that could be compared</source>
+        <translation>無可比對的內容</translation>
+    </message>
+    <message>
+        <source>Read Back</source>
+        <translation>讀回</translation>
+    </message>
 </context>
 <context>
     <name>CertificateNumber</name>
@@ -353,6 +380,22 @@
     <message>
         <source>专业数据擦除工具</source>
         <translation>專業資料抹除工具</translation>
+    </message>
+    <message>
+        <source>实际处理: %1</source>
+        <translation>實際處理：%1</translation>
+    </message>
+    <message>
+        <source>未读回</source>
+        <translation>未讀回</translation>
+    </message>
+    <message>
+        <source>读回的内容无法比对</source>
+        <translation>讀回的內容無法比對</translation>
+    </message>
+    <message>
+        <source>(全部内容见本程序历史记录)</source>
+        <translation>（完整內容見本程式的歷史記錄）</translation>
     </message>
 </context>
 <context>
@@ -634,24 +677,12 @@
         <translation>%1 及其他 %2 項</translation>
     </message>
     <message>
-        <source>  and %1 more</source>
-        <translation>  及其他 %1 項</translation>
-    </message>
-    <message>
-        <source>at least </source>
-        <translation>至少 </translation>
-    </message>
-    <message>
         <source>1 file</source>
         <translation>1 個檔案</translation>
     </message>
     <message>
         <source>%1 files</source>
         <translation>%1 個檔案</translation>
-    </message>
-    <message>
-        <source>  %1%2, %3</source>
-        <translation>  %1%2，%3</translation>
     </message>
     <message>
         <source>Erases files, and folders with all that is in them</source>
@@ -748,22 +779,6 @@
     <message>
         <source>drive %1 is gone, or another one has taken its place</source>
         <translation>磁碟機 %1 已不存在，或已由另一個磁碟機取代</translation>
-    </message>
-    <message>
-        <source>  drive %1: model %2, serial number %3, %4, %5</source>
-        <translation>  磁碟機 %1：型號 %2，序號 %3，%4，%5</translation>
-    </message>
-    <message>
-        <source>    no mounted volumes</source>
-        <translation>    沒有已掛載的磁碟區</translation>
-    </message>
-    <message>
-        <source>volume %1, %2, %3, %4 free</source>
-        <translation>磁碟區 %1，%2，%3，可用 %4</translation>
-    </message>
-    <message>
-        <source>, label %1</source>
-        <translation>，標籤 %1</translation>
     </message>
     <message>
         <source>%1 is no file or folder; a drive is erased with &apos;wipe disk&apos;</source>
@@ -1424,6 +1439,10 @@ An erasure certificate has been generated.</source>
         <source>The report is not stored. %1</source>
         <translation>報告未儲存。%1</translation>
     </message>
+    <message>
+        <source>Error</source>
+        <translation>錯誤</translation>
+    </message>
 </context>
 <context>
     <name>ConfirmDialog</name>
@@ -1470,6 +1489,14 @@ An erasure certificate has been generated.</source>
     <message>
         <source>Every sector is overwritten, the partition table too. All volumes of the disk are unmounted before.</source>
         <translation>每個磁區都會被覆寫，包括分割表。事先會卸載磁碟的所有磁碟區。</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>This will be destroyed</source>
+        <translation>以下將被銷毀</translation>
     </message>
 </context>
 <context>
@@ -2587,6 +2614,10 @@ Would you like to wipe free space to ensure they cannot be recovered?</source>
         <source>Not looked into: %1</source>
         <translation>未查看：%1</translation>
     </message>
+    <message>
+        <source>Reading drives...</source>
+        <translation>正在讀取磁碟機...</translation>
+    </message>
 </context>
 <context>
     <name>MethodCard</name>
@@ -2740,6 +2771,10 @@ Would you like to wipe free space to ensure they cannot be recovered?</source>
         <source>bins were not looked into, what they hold is not erased</source>
         <translation>有資源回收筒未被查看，其內容不會被抹除</translation>
     </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
 </context>
 <context>
     <name>ProgressPage</name>
@@ -2799,6 +2834,18 @@ Would you like to wipe free space to ensure they cannot be recovered?</source>
         <source>正在擦除数据...</source>
         <translation>正在抹除資料...</translation>
     </message>
+    <message>
+        <source>擦除进度</source>
+        <translation>抹除進度</translation>
+    </message>
+    <message>
+        <source>恢复此页面的显示；擦除并未停止</source>
+        <translation>恢復此頁面的顯示；抹除並未停止</translation>
+    </message>
+    <message>
+        <source>只暂停此页面的显示；擦除会继续进行</source>
+        <translation>只暫停此頁面的顯示；抹除會繼續進行</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -2856,6 +2903,13 @@ Would you like to wipe free space to ensure they cannot be recovered?</source>
     <message>
         <source>The report database did not take the report.</source>
         <translation>報告資料庫未接受此報告。</translation>
+    </message>
+</context>
+<context>
+    <name>SelectableValue</name>
+    <message>
+        <source>Copy</source>
+        <translation>複製</translation>
     </message>
 </context>
 <context>
@@ -2957,6 +3011,49 @@ Would you like to wipe free space to ensure they cannot be recovered?</source>
     <message>
         <source>There is no report %1 in the database.</source>
         <translation>資料庫中沒有報告 %1。</translation>
+    </message>
+</context>
+<context>
+    <name>TargetText</name>
+    <message>
+        <source>unknown</source>
+        <translation>未知</translation>
+    </message>
+    <message>
+        <source>drive %1: model %2, serial number %3, %4, %5</source>
+        <translation>磁碟機 %1：型號 %2，序號 %3，%4，%5</translation>
+    </message>
+    <message>
+        <source>volume %1, %2, %3, %4 free</source>
+        <translation>磁碟區 %1，%2，%3，可用 %4</translation>
+    </message>
+    <message>
+        <source>, label %1</source>
+        <translation>，標籤 %1</translation>
+    </message>
+    <message>
+        <source>no mounted volumes</source>
+        <translation>沒有已掛載的磁碟區</translation>
+    </message>
+    <message>
+        <source>at least </source>
+        <translation>至少 </translation>
+    </message>
+    <message>
+        <source>1 file</source>
+        <translation>1 個檔案</translation>
+    </message>
+    <message>
+        <source>%1 files</source>
+        <translation>%1 個檔案</translation>
+    </message>
+    <message>
+        <source>%1%2, %3</source>
+        <translation>%1%2，%3</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>及其他 %1 項</translation>
     </message>
 </context>
 <context>

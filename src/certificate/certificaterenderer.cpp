@@ -4,8 +4,8 @@
 #include "certificate/certificatepage.h"
 #include "certificate/certificatepaper.h"
 #include "certificate/searchablepdf.h"
-#include "certificate/wholefile.h"
 #include "model/wipereport.h"
+#include "platform/wholefile.h"
 
 #include <QBuffer>
 #include <QPainter>
@@ -22,7 +22,7 @@ CertificateRenderer::CertificateRenderer()
 bool CertificateRenderer::exportToPdf(const WipeReport &report, const QString &filePath,
                                       const std::optional<OutcomeRecord> &outcome) const
 {
-    WholeFile file(filePath);
+    platform::WholeFile file(filePath);
     if (!file.open())
         return false;
 

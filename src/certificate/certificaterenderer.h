@@ -23,8 +23,8 @@ public:
     CertificateRenderer();
 
     /// Writes the page as a PDF file: whole, or not at all. On false whatever lay under the name is as it
-    /// was. A file is replaced, also behind a link; a folder, a device or a pipe is refused, and so is a
-    /// folder in which no file can be made.
+    /// was. A file is replaced, also behind a link; what else may stand there: platform::WholeFile. A
+    /// folder in which no file can be made is refused.
     ///
     /// All of a longer page lies on the paper, smaller and in the middle.
     ///

@@ -10,9 +10,9 @@
 
 namespace cli {
 
-// The language that the arguments ask for, else the system's. Empty, so that the source texts stay, for
-// machine output that asks for none: it is the same on every machine. Says nothing about what else is wrong
-// with the arguments.
+// The language that the arguments ask for, else the system's. Empty, so that the source texts stay, where
+// there is none, and for machine output that asks for none: it is the same on every machine. Says nothing
+// about what else is wrong with the arguments.
 QString languageFor(const QStringList &arguments, const QString &systemLocale);
 
 // What a command line asks for.

@@ -4,12 +4,12 @@
 #include "cli/translate.h"
 #include "engine/driveidentity.h"
 #include "model/displaytext.h"
-#include "model/formatsize.h"
 #include "platform/devices.h"
 #include "platform/platform.h"
 #include "services/diskmanager.h"
 
 #include <QFileInfo>
+#include <QStringList>
 
 #include <algorithm>
 
@@ -70,11 +70,6 @@ QString otherDisksText(const SpanningVolume &volume)
     for (const int number : volume.otherDisks)
         others.append(number < 0 ? Cli::tr("a device that is no drive") : Cli::tr("drive %1").arg(number));
     return others.join(QLatin1String(", "));
-}
-
-QString orUnknown(const QString &name)
-{
-    return name.isEmpty() ? Cli::tr("unknown") : displayText(name);
 }
 
 } // namespace
@@ -156,34 +151,6 @@ std::optional<Refusal> probeDrive(const DiskInfo &disk)
         return Refusal{Refused, Cli::tr("drive %1 is read-only").arg(disk.diskNumber)};
     // Whatever else is wrong, the job knows other ways to the drive and tells what it meets.
     return std::nullopt;
-}
-
-QString driveLine(const DiskInfo &disk)
-{
-    return Cli::tr("  drive %1: model %2, serial number %3, %4, %5")
-        .arg(QString::number(disk.diskNumber), orUnknown(disk.model), orUnknown(disk.serialNumber),
-             disk.formattedSize(), displayText(disk.devicePath));
-}
-
-QStringList describeDrive(const DiskInfo &disk)
-{
-    QStringList lines{driveLine(disk)};
-    for (const PartitionInfo &partition : disk.partitions)
-        lines.append(u"    "_s + describeVolume(partition));
-    if (disk.partitions.isEmpty())
-        lines.append(Cli::tr("    no mounted volumes"));
-    return lines;
-}
-
-QString describeVolume(const PartitionInfo &partition)
-{
-    QString line = Cli::tr("volume %1, %2, %3, %4 free")
-                       .arg(displayText(partition.driveLetter), orUnknown(partition.fileSystem),
-                            partition.formattedTotal(), partition.formattedFree());
-    const QString label = displayText(partition.label);
-    if (!label.isEmpty())
-        line += Cli::tr(", label %1").arg(label);
-    return line;
 }
 
 QString describeSpanning(const SpanningVolume &volume, int diskNumber)

@@ -6,7 +6,6 @@
 
 #include <QList>
 #include <QString>
-#include <QStringList>
 
 #include <optional>
 
@@ -30,10 +29,6 @@ std::optional<Refusal> checkObstacles(const DiskInfo &disk);
 // another drive has taken its place, nothing otherwise.
 std::optional<Refusal> probeDrive(const DiskInfo &disk);
 
-// The drive and its volumes, for the user, in lines with cleaned names.
-QStringList describeDrive(const DiskInfo &disk);
-QString driveLine(const DiskInfo &disk); // the first of them
-QString describeVolume(const PartitionInfo &partition);
 // That a volume lies on the drive and where else.
 QString describeSpanning(const SpanningVolume &volume, int diskNumber);
 

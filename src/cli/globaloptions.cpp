@@ -8,6 +8,7 @@
 
 #include <QCommandLineParser>
 #include <QFileInfo>
+#include <QStandardPaths>
 
 #include <algorithm>
 
@@ -60,9 +61,11 @@ bool wantsQuiet(const QCommandLineParser &options)
     return options.isSet(u"quiet"_s);
 }
 
-QString dataFolder(const QCommandLineParser &options)
+DataFolder dataFolder(const QCommandLineParser &options)
 {
-    return options.isSet(u"data-dir"_s) ? absolutePath(options.value(u"data-dir"_s)) : QString();
+    if (options.isSet(u"data-dir"_s))
+        return {absolutePath(options.value(u"data-dir"_s)), true};
+    return {QStandardPaths::writableLocation(QStandardPaths::AppDataLocation), false};
 }
 
 Outcome<std::unique_ptr<platform::Platform>> requestedPlatform(const QCommandLineParser &options)

@@ -22,8 +22,16 @@ QList<QCommandLineOption> globalOptions();
 bool wantsJson(const QCommandLineParser &options);
 bool wantsQuiet(const QCommandLineParser &options);
 
-// The folder that was asked for in place of the per-user one, empty without the option.
-QString dataFolder(const QCommandLineParser &options);
+// The folder of database and log.
+struct DataFolder
+{
+    QString path;         // absolute
+    bool isGiven = false; // asked for in place of the per-user one
+
+    QString database() const { return path + QStringLiteral("/quorvex.db"); }
+    QString log() const { return path + QStringLiteral("/quorvex.log"); }
+};
+DataFolder dataFolder(const QCommandLineParser &options);
 
 // The platform with the image drives that are asked for, beside those that the environment names. Null when
 // nothing is: the one in force stays. Refused when an image is no regular file.

@@ -1,5 +1,6 @@
 #include "cli/joblog.h"
 
+#include "cli/globaloptions.h"
 #include "cli/jobview.h"
 #include "cli/names.h"
 #include "cli/outputfile.h"
@@ -10,7 +11,6 @@
 
 #include <QDir>
 #include <QFileInfo>
-#include <QStandardPaths>
 
 namespace cli {
 
@@ -20,34 +20,30 @@ namespace {
 
 QString endName(const JobResult &result)
 {
-    if (!result.wasStarted)
-        return u"not started"_s;
-    const JobOutcome outcome = result.outcome.outcome();
+    const JobOutcome outcome = result.end.outcome.outcome();
     return outcome == JobOutcome::Complete ? u"succeeded"_s : machineName(outcome);
 }
 
 } // namespace
 
-std::optional<Refusal> openJobLog(const QString &folder, const QStringList &doomedPaths)
+std::optional<Refusal> openJobLog(const DataFolder &folder, const QStringList &doomedPaths)
 {
-    const QString usual = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
-    const QString used = folder.isEmpty() ? usual : folder;
-    const bool exists = QDir().mkpath(used);
-    const QString path = used + u"/quorvex.log"_s;
+    const bool exists = QDir().mkpath(folder.path);
+    const QString path = folder.log();
     if (const auto file = OutputFile::at(path, {}); file && file->liesWithin(doomedPaths)) {
         return Refusal{Refused, Cli::tr("the program's log in %1 lies in what is to be erased; --data-dir "
                                         "takes another folder")
-                                    .arg(displayText(used))};
+                                    .arg(displayText(folder.path))};
     }
     AppLog::setFirstLogFile(path);
     AppLog &log = AppLog::instance();
     log.setEchoToConsole(false);
     log.setLogFile(path);
     // Without its usual folder the program works as well; a folder that was asked for is another matter.
-    if (!folder.isEmpty() && (!exists || !QFileInfo(path).isWritable())) {
+    if (folder.isGiven && (!exists || !QFileInfo(path).isWritable())) {
         closeJobLog();
         return Refusal{SurroundingsFailed,
-                       Cli::tr("the data folder %1 cannot be used").arg(displayText(folder))};
+                       Cli::tr("the data folder %1 cannot be used").arg(displayText(folder.path))};
     }
     return std::nullopt;
 }
@@ -65,11 +61,15 @@ void logJobStart(const WipeTask &task, const QString &target)
 
 void logJobEnd(const JobResult &result)
 {
-    const WipeReport &report = result.report;
+    if (!result.wasStarted) {
+        AppLog::instance().info(u"Job not started %1"_s.arg(displayText(result.lastError)));
+        return;
+    }
+    const WipeReport &report = result.end.report;
     AppLog::instance().info(u"Job %1, certificate %2, %3 bytes written %4"_s.arg(
         endName(result), report.certificateId, QString::number(report.bytesWritten),
         displayText(report.errorMessage)));
-    for (const QString &line : result.outcome.shortfallLines())
+    for (const QString &line : result.end.outcome.shortfallLines())
         AppLog::instance().warning(line);
 }
 

@@ -11,12 +11,12 @@ class WipeTask;
 
 namespace cli {
 
+struct DataFolder;
 struct JobResult;
 
-// Points the program's log file into the folder, or into the per-user one when it is empty.
-// SurroundingsFailed when the folder that was asked for cannot be made, or the file in it not written;
-// refused when the file would be destroyed with the absolute paths.
-std::optional<Refusal> openJobLog(const QString &folder, const QStringList &doomedPaths);
+// Points the program's log file into the folder. SurroundingsFailed when one that was asked for cannot be
+// made, or the file in it not written; refused when the file would be destroyed with the absolute paths.
+std::optional<Refusal> openJobLog(const DataFolder &folder, const QStringList &doomedPaths);
 void closeJobLog();
 
 void logJobStart(const WipeTask &task, const QString &target);

@@ -6,14 +6,14 @@
 #include "cli/reporttext.h"
 #include "cli/translate.h"
 #include "cli/wipeoptions.h"
+#include "jobs/jobend.h"
 #include "jobs/reportstorage.h"
 #include "model/displaytext.h"
-#include "model/joboutcome.h"
 #include "model/wipereport.h"
+#include "platform/wholefile.h"
 #include "services/reportdatabase.h"
 
 #include <QFile>
-#include <QStandardPaths>
 
 #include <algorithm>
 #include <iterator>
@@ -44,7 +44,7 @@ bool isForeign(const OutputFile &file)
 {
     constexpr qint64 LargestReport = 256LL * 1024 * 1024; // a line for each of some million files
     QFile standing(file.path());
-    if (!file.isWanted() || !standing.exists() || standing.size() == 0)
+    if (!file.isWanted() || !standing.exists() || platform::isStream(file.path()) || standing.size() == 0)
         return false;
     return standing.size() > LargestReport || !standing.open(QIODevice::ReadOnly) ||
            !namesCertificate(standing.readAll());
@@ -53,12 +53,10 @@ bool isForeign(const OutputFile &file)
 // What the job writes by itself lies in the data folder.
 QList<OutputFile> outputsOf(const WipeOptions &options, const CommandContext &context)
 {
-    const QString given = dataFolder(context.options);
-    const QString folder =
-        given.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) : given;
+    const DataFolder folder = dataFolder(context.options);
     QList<OutputFile> outputs{options.reportFile, options.certificate.file()};
-    for (const QString &name : {u"/quorvex.db"_s, u"/quorvex.log"_s}) {
-        if (const auto file = OutputFile::at(folder + name, {}))
+    for (const QString &path : {folder.database(), folder.log()}) {
+        if (const auto file = OutputFile::at(path, {}))
             outputs.append(*file);
     }
     return outputs;
@@ -84,7 +82,7 @@ std::optional<Refusal> checkOutputs(const WipeOptions &options, const CommandCon
 
 std::optional<Refusal> checkStore(const ReportStore &store, const QStringList &doomedPaths)
 {
-    const auto file = OutputFile::at(store.folder() + u"/quorvex.db"_s, {});
+    const auto file = OutputFile::at(DataFolder{store.folder()}.database(), {});
     if (!file || !file->liesWithin(doomedPaths))
         return std::nullopt;
     return Refusal{Refused, Cli::tr("the report database in %1 lies in what is to be erased; --data-dir "
@@ -117,14 +115,17 @@ Outcome<JobRecords> JobRecords::prepare(const WipeOptions &options, const Comman
     return records;
 }
 
-JobRecords::Written JobRecords::write(const WipeReport &report, const OutcomeRecord &outcome,
-                                      bool withCertificate) const
+JobRecords::Written JobRecords::write(JobEnd &end, bool withCertificate) const
 {
     Written written;
+    const WipeReport &report = end.report;
     if (m_store) {
-        if (const QString problem = storeReport(report, outcome); !problem.isEmpty())
+        end.hasRecord = true;
+        end.notStoredBecause = storeReport(report, end.outcome);
+        end.isStored = end.notStoredBecause.isEmpty();
+        if (!end.isStored)
             written.problems.append(Cli::tr("report %1 could not be stored in the database: %2")
-                                        .arg(report.certificateId, problem));
+                                        .arg(report.certificateId, end.notStoredBecause));
     }
     if (m_reportFile.isWanted()) {
         if (m_reportFile.write(report.toJson()))
@@ -134,7 +135,7 @@ JobRecords::Written JobRecords::write(const WipeReport &report, const OutcomeRec
                 Cli::tr("the report file %1 could not be written").arg(displayText(m_reportFile.path())));
     }
     if (m_certificate.isWanted() && withCertificate) {
-        written.certificate = m_certificate.write(report, outcome);
+        written.certificate = m_certificate.write(report, end.outcome);
         if (written.certificate.isEmpty())
             written.problems.append(
                 Cli::tr("the certificate %1 could not be written").arg(displayText(m_certificate.path())));

@@ -11,8 +11,7 @@
 #include <memory>
 #include <optional>
 
-class OutcomeRecord;
-struct WipeReport;
+struct JobEnd;
 
 namespace cli {
 
@@ -36,7 +35,8 @@ public:
     static Outcome<JobRecords> prepare(const WipeOptions &options, const CommandContext &context,
                                        const QStringList &doomedPaths, const QStringList &commandWords);
 
-    Written write(const WipeReport &report, const OutcomeRecord &outcome, bool withCertificate) const;
+    // Notes in the end what became of its report.
+    Written write(JobEnd &end, bool withCertificate) const;
 
 private:
     std::unique_ptr<ReportStore> m_store; // null: not wanted

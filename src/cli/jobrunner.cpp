@@ -2,6 +2,7 @@
 
 #include "cli/stoprequest.h"
 #include "engine/wipeengine.h"
+#include "jobs/jobcontroller.h"
 #include "model/wipetask.h"
 
 #include <QElapsedTimer>
@@ -19,42 +20,44 @@ constexpr qint64 ProgressIntervalMs = 100;
 class Run
 {
 public:
-    Run(WipeTask &task, const QString &target, JobView &view, StopRequest &stop)
-        : m_task(task)
+    Run(JobController &controller, const QString &target, JobView &view, StopRequest &stop)
+        : m_controller(controller)
+        , m_engine(controller.engine())
+        , m_task(*controller.task())
         , m_target(target)
         , m_view(view)
         , m_stop(stop)
     {
-        connectEngine();
+        connectJob();
         m_engine.setStopProbe([this] { return m_stop.isRequested(); });
     }
+    ~Run() { m_engine.setStopProbe({}); }
+    Run(const Run &) = delete;
+    Run &operator=(const Run &) = delete;
 
     JobResult result()
     {
-        m_engine.setTask(&m_task);
-        const QString problem = m_stop.isRequested() ? QString() : m_engine.makeReady();
+        // The plan has claimed the certificate ids of all its jobs before the question.
+        QString problem = m_stop.isRequested() ? QString() : m_controller.makeReady(false);
+        if (problem.isEmpty())
+            problem = m_controller.start();
         if (!problem.isEmpty()) {
             m_result.lastError = problem;
-            m_result.report = m_engine.report();
             return m_result;
         }
-        m_engine.start();
-        if (m_engine.isRunning()) {
-            // A request that came before the engine's thread was there has only been seen by the probe.
-            if (m_stop.isRequested())
-                m_engine.stop();
-            m_loop.exec();
-            m_result.outcome = m_engine.outcome();
-            m_result.wasStarted = true;
-        }
-        m_result.report = m_engine.report();
+        // A request that came before the engine's thread was there has only been seen by the probe.
+        if (m_stop.isRequested())
+            m_controller.stop();
+        m_loop.exec();
         return m_result;
     }
 
 private:
-    void connectEngine();
+    void connectJob();
     void onBytesProcessed(qint64 bytes);
 
+    JobController &m_controller;
+    WipeEngine &m_engine;
     WipeTask &m_task;
     QString m_target;
     JobView &m_view;
@@ -63,10 +66,9 @@ private:
     JobProgress m_progress;
     QElapsedTimer m_sinceProgress; // not running before the first report
     QEventLoop m_loop;
-    WipeEngine m_engine;
 };
 
-void Run::connectEngine()
+void Run::connectJob()
 {
     QObject::connect(&m_engine, &WipeEngine::started, &m_loop, [this] { m_view.started(m_task, m_target); });
     QObject::connect(&m_engine, &WipeEngine::logMessage, &m_loop,
@@ -87,9 +89,12 @@ void Run::connectEngine()
     // Comes after the percentage of the same moment.
     QObject::connect(&m_engine, &WipeEngine::bytesProcessed, &m_loop,
                      [this](qint64 bytes) { onBytesProcessed(bytes); });
-    QObject::connect(&m_engine, &WipeEngine::completed, &m_loop, &QEventLoop::quit);
-    // The worker's end, not stopped(), ends the job: stop() waits only so long for it.
-    QObject::connect(&m_stop, &StopRequest::requested, &m_engine, &WipeEngine::stop);
+    QObject::connect(&m_controller, &JobController::ended, &m_loop, [this](const JobEnd &end) {
+        m_result.wasStarted = true;
+        m_result.end = end;
+        m_loop.quit();
+    });
+    QObject::connect(&m_stop, &StopRequest::requested, &m_controller, &JobController::stop);
 }
 
 void Run::onBytesProcessed(qint64 bytes)
@@ -104,9 +109,9 @@ void Run::onBytesProcessed(qint64 bytes)
 
 } // namespace
 
-JobResult runJob(WipeTask &task, const QString &target, JobView &view, StopRequest &stop)
+JobResult runJob(JobController &controller, const QString &target, JobView &view, StopRequest &stop)
 {
-    return Run(task, target, view, stop).result();
+    return Run(controller, target, view, stop).result();
 }
 
 } // namespace cli

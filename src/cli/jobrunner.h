@@ -1,17 +1,17 @@
 #pragma once
 
 #include "cli/jobview.h"
+#include "jobs/jobcontroller.h"
 
 #include <QString>
-
-class WipeTask;
 
 namespace cli {
 
 class StopRequest;
 
-// Runs a job from start to end, events included, and shows it. A stop request ends it; the function returns
-// when the worker is through and has given everything back, however long its last transfer takes.
-JobResult runJob(WipeTask &task, const QString &target, JobView &view, StopRequest &stop);
+// Runs the job of the controller's task from start to end, events included, and shows it. A stop request ends
+// it; the function returns when the worker is through and has given everything back, however long its last
+// transfer takes, and the end is kept.
+JobResult runJob(JobController &controller, const QString &target, JobView &view, StopRequest &stop);
 
 } // namespace cli

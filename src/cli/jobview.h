@@ -1,8 +1,7 @@
 #pragma once
 
 #include "cli/jobrecords.h"
-#include "model/joboutcome.h"
-#include "model/wipereport.h"
+#include "jobs/jobend.h"
 
 #include <QString>
 #include <QtGlobal>
@@ -22,10 +21,9 @@ struct JobProgress
 
 struct JobResult
 {
-    bool wasStarted = false; // else the engine refused the job, nothing was written
+    bool wasStarted = false; // else the job was refused, nothing was written
     QString lastError;       // in words for the user
-    WipeReport report;
-    OutcomeRecord outcome;
+    JobEnd end;              // of a job that was started
 };
 
 // Shows a running job to a person or to a program. On the thread that runs the command.

@@ -82,13 +82,13 @@ void JsonJobView::problem(const QString &message)
 void JsonJobView::finished(const JobResult &result, const JobRecords::Written &)
 {
     JsonWriter event = beginEvent("finished");
-    const JobOutcome outcome = result.outcome.outcome();
+    const JobOutcome outcome = result.end.outcome.outcome();
     event.member(u"success", outcome == JobOutcome::Complete)
         .member(u"cancelled", outcome == JobOutcome::Cancelled)
-        .member(u"certificateId", result.report.certificateId)
+        .member(u"certificateId", result.end.report.certificateId)
         .key(u"report");
-    result.report.writeJson(event);
-    result.outcome.writeMembers(event, true);
+    result.end.report.writeJson(event);
+    result.end.outcome.writeMembers(event, true);
     event.endObject();
     print(event);
 }

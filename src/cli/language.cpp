@@ -21,9 +21,9 @@ Outcome<std::unique_ptr<Language>> Language::install(const QString &code)
                                     .arg(displayText(code), translations::codes().join(u' ')),
                                 {});
     }
-    const QString catalogue = translations::catalogue(code);
+    QString catalogue = translations::catalogue(code);
     if (!QFile::exists(catalogue))
-        return language;
+        catalogue = translations::supplement(code);
     if (!language->m_translator.load(catalogue))
         return Refusal{SurroundingsFailed,
                        Cli::tr("the catalogue of the language %1 cannot be read").arg(code)};

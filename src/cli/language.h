@@ -9,8 +9,8 @@
 
 namespace cli {
 
-// The language with that code, in force until destruction. The texts stand in the sources in English and
-// Chinese; a language without a catalogue among the resources leaves them so. An empty code changes nothing.
+// The language with that code, in force until destruction. An empty code changes nothing: the texts then are
+// those of the sources, in English and Chinese.
 class Language
 {
 public:

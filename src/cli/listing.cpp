@@ -1,22 +1,13 @@
 #include "cli/listing.h"
 
-#include "cli/translate.h"
-
-#include <algorithm>
-
 namespace cli {
 
-using namespace Qt::StringLiterals;
-
-QStringList beginningOfList(qsizetype count, const std::function<QString(qsizetype index)> &lineOf)
+QStringList indented(const QStringList &lines)
 {
-    constexpr qsizetype most = 20;
-    QStringList lines;
-    for (qsizetype i = 0; i < std::min(count, most); ++i)
-        lines.append(u"  "_s + lineOf(i));
-    if (count > most)
-        lines.append(Cli::tr("  and %1 more").arg(count - most));
-    return lines;
+    QStringList below;
+    for (const QString &line : lines)
+        below.append(QStringLiteral("  ") + line);
+    return below;
 }
 
 } // namespace cli

@@ -4,10 +4,10 @@
 #include "cli/paths.h"
 #include "cli/translate.h"
 #include "model/displaytext.h"
+#include "platform/wholefile.h"
 
 #include <QFileInfo>
 #include <QHash>
-#include <QSaveFile>
 #include <QSet>
 
 #include <algorithm>
@@ -75,7 +75,7 @@ Outcome<OutputFile> OutputFile::at(const QString &path, const QStringList &comma
     const QFileInfo info(file.m_path);
     if (path.endsWith(u'/') || info.isDir())
         return wrong(QT_TRANSLATE_NOOP("Cli", "'%1' is a folder, not a file"));
-    if (isDeviceName(file.m_path) || (info.exists() && !info.isFile()))
+    if (isDeviceName(file.m_path) || !platform::WholeFile::isPossible(file.m_path))
         return wrong(QT_TRANSLATE_NOOP("Cli", "'%1' exists and is no ordinary file"));
     if (!QFileInfo(info.path()).isDir())
         return wrong(QT_TRANSLATE_NOOP("Cli", "the folder of '%1' does not exist"));
@@ -112,19 +112,13 @@ bool OutputFile::isSameAs(const OutputFile &other) const
 
 bool OutputFile::isWritable() const
 {
-    QSaveFile file(m_path);
-    if (!file.open(QIODevice::WriteOnly))
-        return false;
-    file.cancelWriting();
-    return true;
+    return platform::WholeFile(m_path).open();
 }
 
 bool OutputFile::write(const QByteArray &content) const
 {
-    QSaveFile file(m_path);
-    // commit() does not tell that what was still in the buffer could not be written.
-    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.flush() &&
-           file.commit();
+    platform::WholeFile file(m_path);
+    return file.open() && file.commit(content);
 }
 
 } // namespace cli

@@ -30,7 +30,8 @@ public:
     bool isSameAs(const OutputFile &other) const;
     // Tries whether it could be written; changes nothing.
     bool isWritable() const;
-    // Writes it as a whole or not at all, replacing what stood there. False when that failed.
+    // Writes it as a whole or not at all, replacing what stood there; devices and pipes are written through.
+    // False when that failed.
     bool write(const QByteArray &content) const;
 
 private:

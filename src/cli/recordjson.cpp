@@ -2,6 +2,7 @@
 
 #include "cli/names.h"
 #include "model/jsonwriter.h"
+#include "services/binitemtext.h"
 
 namespace cli {
 
@@ -25,8 +26,8 @@ void writePartition(JsonWriter &writer, const PartitionInfo &partition)
 void writeItem(JsonWriter &writer, const RecycleBinItem &item)
 {
     writer.beginObject()
-        .member(u"fileName", item.fileName)
-        .member(u"originalPath", item.originalPath)
+        .member(u"fileName", BinItemText::fileName(item))
+        .member(u"originalPath", BinItemText::originalPath(item))
         .member(u"recyclePath", item.recyclePath)
         .member(u"infoPath", item.infoPath)
         .decimalMember(u"size", item.size)

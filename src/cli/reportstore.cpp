@@ -6,15 +6,11 @@
 #include "model/displaytext.h"
 #include "services/reportdatabase.h"
 
-#include <QStandardPaths>
-
 namespace cli {
 
 Outcome<std::unique_ptr<ReportStore>> ReportStore::open(const QCommandLineParser &options)
 {
-    const QString given = dataFolder(options);
-    const QString folder =
-        given.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) : given;
+    const QString folder = dataFolder(options).path;
     std::unique_ptr<ReportStore> store(new ReportStore(folder));
     if (store->database().initialize(folder))
         return store;

@@ -87,16 +87,16 @@ void TextJobView::problem(const QString &message)
 void TextJobView::finished(const JobResult &result, const JobRecords::Written &written)
 {
     m_progressLine.end();
-    const WipeReport &report = result.report;
+    const WipeReport &report = result.end.report;
     QString line = Cli::tr("%1: %2, %3, %4 in %5, certificate %6")
-                       .arg(resultText(result.outcome.outcome()), displayText(m_target), report.method.name,
-                            amountText(report), report.duration(), report.certificateId);
+                       .arg(resultText(result.end.outcome.outcome()), displayText(m_target),
+                            report.method.name, amountText(report), report.duration(), report.certificateId);
     if (!written.report.isEmpty())
         line += Cli::tr(", report %1").arg(displayText(written.report));
     if (!written.certificate.isEmpty())
         line += Cli::tr(", PDF %1").arg(displayText(written.certificate));
     m_io.printLine(line);
-    for (const QString &shortfall : result.outcome.shortfallLines())
+    for (const QString &shortfall : result.end.outcome.shortfallLines())
         m_io.printLine(u"  "_s + shortfall);
 }
 

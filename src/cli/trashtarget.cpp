@@ -5,11 +5,10 @@
 #include "cli/translate.h"
 #include "model/displaytext.h"
 #include "model/formatsize.h"
+#include "services/binitemtext.h"
 #include "services/recyclebinscanner.h"
 
 #include <QFileInfo>
-
-#include <numeric>
 
 namespace cli {
 
@@ -68,10 +67,13 @@ Outcome<RecycleBinInfo> findTrash(const CommandContext &context, const QStringLi
     return scanner.scan();
 }
 
-QString amountOf(const RecycleBinInfo &found)
+QStringList amountLines(const RecycleBinInfo &found)
 {
     const QString items = found.fileCount == 1 ? Cli::tr("1 item") : Cli::tr("%1 items").arg(found.fileCount);
-    return Cli::tr("%1, %2").arg(items, formatSize(static_cast<qint64>(found.totalSize)));
+    QStringList lines{Cli::tr("%1, %2").arg(items, formatSize(static_cast<qint64>(found.totalSize)))};
+    if (const QString impossible = BinItemText::impossibleSizes(found); !impossible.isEmpty())
+        lines.append(impossible);
+    return lines;
 }
 
 QStringList unrecordedLines(const RecycleBinInfo &found)
@@ -79,12 +81,9 @@ QStringList unrecordedLines(const RecycleBinInfo &found)
     const qsizetype count = found.unrecorded.size();
     if (count == 0)
         return {};
-    const quint64 bytes =
-        std::accumulate(found.unrecorded.cbegin(), found.unrecorded.cend(), quint64{0},
-                        [](quint64 sum, const RecycleBinItem &item) { return sum + item.size; });
     const QString entries =
         count == 1 ? Cli::tr("1 entry without a record") : Cli::tr("%1 entries without a record").arg(count);
-    return {Cli::tr("and %1, %2").arg(entries, formatSize(static_cast<qint64>(bytes)))};
+    return {Cli::tr("and %1, %2").arg(entries, formatSize(static_cast<qint64>(found.unrecordedSize())))};
 }
 
 QStringList unscannedLines(const RecycleBinInfo &found)
@@ -109,10 +108,11 @@ QStringList unscannedLines(const RecycleBinInfo &found)
 
 QString describeItem(const RecycleBinItem &item)
 {
-    const QString name = displayText(item.originalPath.isEmpty() ? item.fileName : item.originalPath);
+    const QString path = BinItemText::originalPath(item);
+    const QString name = displayText(path.isEmpty() ? BinItemText::fileName(item) : path);
     const QString kind = item.isDirectory ? Cli::tr("folder, ") : QString();
     const QString missing = item.recyclePath.isEmpty() ? Cli::tr(", only its record is left") : QString();
-    return Cli::tr("%1 (%2%3%4)").arg(name, kind, formatSize(static_cast<qint64>(item.size)), missing);
+    return Cli::tr("%1 (%2%3%4)").arg(name, kind, BinItemText::size(item), missing);
 }
 
 } // namespace cli

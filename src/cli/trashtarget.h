@@ -17,8 +17,8 @@ QList<QCommandLineOption> trashOptions();
 // unknown to the system.
 Outcome<RecycleBinInfo> findTrash(const CommandContext &context, const QStringList &commandWords);
 
-// "3 items, 12.00 KB".
-QString amountOf(const RecycleBinInfo &found);
+// "3 items, 12.00 KB", and what is wrong with the sum.
+QStringList amountLines(const RecycleBinInfo &found);
 
 // One line where something is to be erased that no record stands for: "and 1 entry without a record, 5 B".
 QStringList unrecordedLines(const RecycleBinInfo &found);

@@ -104,16 +104,6 @@ Outcome<VolumeTarget> findWholeDrive(int number, const QList<DiskInfo> &disks)
 
 } // namespace
 
-QStringList VolumeTarget::description() const
-{
-    if (partition.driveLetter.isEmpty())
-        return describeDrive(disk);
-    const QString volume = u"  "_s + describeVolume(partition);
-    if (disk.diskNumber < 0)
-        return {volume};
-    return {driveLine(disk), u"  "_s + volume};
-}
-
 Outcome<VolumeTarget> findVolume(const QString &nameOrNumber, const QList<DiskInfo> &disks)
 {
     if (const std::optional<int> number = driveNumber(nameOrNumber))

@@ -15,8 +15,6 @@ struct VolumeTarget
     DiskInfo disk;           // without a number, and named after the volume, when that is on no single drive
     PartitionInfo partition; // its name is empty when all volumes of the drive are meant
     QString name;            // for the user
-
-    QStringList description() const;
 };
 
 // A volume by drive letter or mount point, or all volumes of a drive by its number. Refused when there is

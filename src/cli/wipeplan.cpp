@@ -13,6 +13,7 @@
 #include "cli/translate.h"
 #include "engine/foreseeable.h"
 #include "jobs/certificatenumber.h"
+#include "jobs/jobcontroller.h"
 #include "model/displaytext.h"
 
 #include <QScopeGuard>
@@ -71,7 +72,7 @@ std::optional<Refusal> claimCertificateIds(const WipePlan &plan, const WipeOptio
 class Session
 {
 public:
-    Session(const WipePlan &plan, const WipeOptions &options, const JobRecords &records,
+    Session(WipePlan &plan, const WipeOptions &options, const JobRecords &records,
             const CommandContext &context)
         : m_plan(plan)
         , m_options(options)
@@ -83,18 +84,22 @@ public:
             m_view = std::make_unique<JsonJobView>(context.io, quiet);
         else
             m_view = std::make_unique<TextJobView>(context.io, quiet);
+        m_controller.setKeep(
+            [this](JobEnd &end) { m_written = m_records.write(end, m_options.accepts(end.outcome)); });
     }
 
     // False when the jobs behind this one are not to be run.
-    bool run(const PlannedJob &job);
+    bool run(PlannedJob &job);
     Outcome<ExitCode> result() const;
 
 private:
-    const WipePlan &m_plan;
+    WipePlan &m_plan;
     const WipeOptions &m_options;
     const JobRecords &m_records;
     StopRequest &m_stop;
     std::unique_ptr<JobView> m_view;
+    JobRecords::Written m_written; // of the job that ended last
+    JobController m_controller;
     int m_started = 0;
     std::optional<QString> m_engineRefusal;
     bool m_isCancelled = false;
@@ -102,10 +107,11 @@ private:
     bool m_hasProblem = false;
 };
 
-bool Session::run(const PlannedJob &job)
+bool Session::run(PlannedJob &job)
 {
     logJobStart(*job.task, job.target);
-    const JobResult result = runJob(*job.task, job.target, *m_view, m_stop);
+    m_controller.takeTask(std::move(job.task));
+    const JobResult result = runJob(m_controller, job.target, *m_view, m_stop);
     logJobEnd(result);
     if (!result.wasStarted) {
         m_engineRefusal = result.lastError;
@@ -114,20 +120,21 @@ bool Session::run(const PlannedJob &job)
         return false;
     }
     ++m_started;
-    const bool isAccepted = m_options.accepts(result.outcome);
-    const bool isCancelled = result.outcome.outcome() == JobOutcome::Cancelled;
+    const JobEnd &end = result.end;
+    const JobOutcome outcome = end.outcome.outcome();
+    const bool isCancelled = outcome == JobOutcome::Cancelled;
     m_isCancelled = m_isCancelled || isCancelled;
-    m_hasFailed = m_hasFailed || !isAccepted;
-    const QStringList dismounted = job.task->dismountedVolumes();
-    const bool isFailed = isCancelled || result.outcome.outcome() == JobOutcome::Failed;
-    if (isFailed && !dismounted.isEmpty())
-        m_view->problem(Cli::tr("left unmounted: %1").arg(displayText(dismounted.join(QLatin1String(", ")))));
-    const JobRecords::Written written = m_records.write(result.report, result.outcome, isAccepted);
-    const QStringList problems = written.problems + (m_plan.afterwards ? m_plan.afterwards() : QStringList());
+    m_hasFailed = m_hasFailed || !m_options.accepts(end.outcome);
+    const bool isFailed = isCancelled || outcome == JobOutcome::Failed;
+    if (isFailed && !end.leftUnmounted.isEmpty())
+        m_view->problem(
+            Cli::tr("left unmounted: %1").arg(displayText(end.leftUnmounted.join(QLatin1String(", ")))));
+    const QStringList problems =
+        m_written.problems + (m_plan.afterwards ? m_plan.afterwards() : QStringList());
     for (const QString &problem : problems)
         m_view->problem(problem);
     m_hasProblem = m_hasProblem || !problems.isEmpty();
-    m_view->finished(result, written);
+    m_view->finished(result, m_written);
     return !isCancelled;
 }
 
@@ -201,7 +208,7 @@ Outcome<ExitCode> carryOut(WipePlan &plan, const WipeOptions &options, const Com
     }
 
     Session session(plan, options, *records, context);
-    for (const PlannedJob &job : plan.jobs) {
+    for (PlannedJob &job : plan.jobs) {
         if (!session.run(job))
             break;
     }

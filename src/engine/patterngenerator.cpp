@@ -51,12 +51,6 @@ void temper(const quint32 *__restrict state, quint32 *__restrict output)
 }
 } // namespace
 
-PatternGenerator::PatternGenerator(quint32 seed)
-{
-    static_assert(StateWords == StateSize);
-    std::seed_seq({seed}).generate(m_state.begin(), m_state.end());
-}
-
 quint32 PatternGenerator::generate()
 {
     if (m_next == StateWords)
@@ -87,6 +81,10 @@ void PatternGenerator::fill(std::byte *data, qint64 size)
 
 void PatternGenerator::refill()
 {
+    static_assert(StateWords == StateSize);
+    if (!m_isSeeded)
+        std::seed_seq({m_seed}).generate(m_state.begin(), m_state.end());
+    m_isSeeded = true;
     advance(m_state.data());
     temper(m_state.data(), m_output.data());
     m_next = 0;

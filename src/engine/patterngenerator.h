@@ -10,7 +10,10 @@
 class PatternGenerator
 {
 public:
-    explicit PatternGenerator(quint32 seed);
+    // Costs nothing before the first draw.
+    explicit PatternGenerator(quint32 seed)
+        : m_seed(seed)
+    {}
 
     // The next 32 bits.
     quint32 generate();
@@ -23,6 +26,8 @@ private:
 
     void refill();
 
+    quint32 m_seed;
+    bool m_isSeeded = false;
     std::array<quint32, StateWords> m_state;
     std::array<quint32, StateWords> m_output; // tempered words of the current block
     std::size_t m_next = StateWords;

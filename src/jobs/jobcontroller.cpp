@@ -4,6 +4,7 @@
 #include "jobs/certificatenumber.h"
 #include "model/wipetask.h"
 
+#include <new>
 #include <utility>
 
 JobController::JobController(QObject *parent)
@@ -16,7 +17,11 @@ JobController::JobController(QObject *parent)
 
 JobController::~JobController()
 {
-    finish();
+    try {
+        finish();
+    } catch (const std::bad_alloc &) {
+        // Without memory there is no record; the engine stops its worker without any.
+    }
     // The engine's worker may read the task to its end.
     delete m_engine;
     delete m_task;
@@ -24,14 +29,21 @@ JobController::~JobController()
 
 WipeTask &JobController::newTask(OperationType type)
 {
+    auto task = std::make_unique<WipeTask>();
+    task->setOperationType(type);
+    return takeTask(std::move(task));
+}
+
+WipeTask &JobController::takeTask(std::unique_ptr<WipeTask> task)
+{
     // The worker's thread may be over while the end of the job is still on its way here; until then its task
     // has the report.
     if (m_state != State::Idle && !m_endingTask)
         m_endingTask = m_task;
     else
         m_engine->deleteTask(m_task);
-    m_task = new WipeTask(this);
-    m_task->setOperationType(type);
+    m_task = task.release();
+    m_task->setParent(this);
     return *m_task;
 }
 

@@ -7,6 +7,7 @@
 #include <QString>
 
 #include <functional>
+#include <memory>
 
 class WipeEngine;
 class WipeTask;
@@ -41,6 +42,7 @@ public:
     WipeTask *task() const { return m_task; }
     /// Takes the place of the task before, which a job that is still ending has until then.
     WipeTask &newTask(OperationType type);
+    WipeTask &takeTask(std::unique_ptr<WipeTask> task); ///< the same, with a task that is there already
 
     /// Why no job can start yet, in words for the user. Empty: the one before has ended.
     QString pendingJob() const;

@@ -2,7 +2,10 @@
 
 #include "model/codepoints.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
+
 bool isShown(char32_t codePoint)
 {
     switch (QChar::category(codePoint)) {
@@ -16,6 +19,22 @@ bool isShown(char32_t codePoint)
         return true;
     }
 }
+
+QString hexadecimal(char32_t number)
+{
+    return QString::number(static_cast<uint>(number), 16).toUpper();
+}
+
+// Neither a backslash, which separates folders on some systems, nor an angle bracket, which markup takes for
+// its own.
+QString markOf(char32_t codePoint)
+{
+    // A byte of a name that is no UTF-8 comes as U+DC00 and so much.
+    if (codePoint >= 0xDC80 && codePoint <= 0xDCFF)
+        return u"[0x%1]"_s.arg(hexadecimal(codePoint - 0xDC00));
+    return u"[U+%1]"_s.arg(hexadecimal(codePoint).rightJustified(4, u'0'));
+}
+
 } // namespace
 
 QString displayText(const QString &text)
@@ -25,6 +44,8 @@ QString displayText(const QString &text)
     forEachCodePoint(text, [&shown](char32_t codePoint) {
         if (isShown(codePoint))
             shown += QChar::fromUcs4(codePoint);
+        else
+            shown += markOf(codePoint);
     });
     return shown;
 }

@@ -92,7 +92,7 @@ QString OutcomeRecord::line(ShortfallKind kind) const
     }
     QString text = kindText(kind);
     if (!places.isEmpty())
-        text += u": "_s + places.join(u", "_s);
+        text = tr("%1: %2").arg(text, places.join(u", "_s));
     if (unnamed > 0)
         text += u' ' + tr("and %1 more").arg(unnamed);
     if (bytes >= 0)

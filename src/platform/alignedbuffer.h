@@ -11,8 +11,8 @@ namespace platform {
 // bytes as asked for (the allocation itself is whole pages). Contents are zero after allocation.
 //
 // Windows: VirtualAlloc(MEM_COMMIT | MEM_RESERVE, PAGE_READWRITE) and VirtualFree(MEM_RELEASE). Linux: an
-// anonymous private mapping. Movable, not copyable; released on destruction. A buffer is used by one thread
-// at a time.
+// anonymous private mapping, for small ones aligned_alloc. Movable, not copyable; released on destruction. A
+// buffer is used by one thread at a time.
 class AlignedBuffer
 {
 public:

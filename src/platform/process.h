@@ -66,7 +66,8 @@ void holdStopSignals();
 
 // Receives the wish to stop for as long as it exists, in place of the process's end. One at a time, made on
 // the thread of the QCoreApplication, whose event loop calls the function; never called twice. Wishes after
-// the first have no effect, also when it is gone: the process is ending, and its exit code is to say so.
+// the first have no effect, nor has one that comes when it is gone: the process is ending, and its exit code
+// is to say how its work went.
 //
 // Windows: SetConsoleCtrlHandler (Ctrl+C, Ctrl+Break, closing the window, logoff, shutdown; the handler's own
 // thread waits until the process ends) and a QWinEventNotifier. Linux: SIGINT and SIGTERM, also where a shell

@@ -7,6 +7,10 @@
 #include <QStringList>
 #include <QtGlobal>
 
+#include <algorithm>
+#include <limits>
+#include <numeric>
+
 /// Something the user threw away that is still there.
 struct RecycleBinItem
 {
@@ -42,7 +46,7 @@ struct RecycleBinInfo
     QList<RecycleBinItem> items; ///< in the order found, drive by drive
     /// What to erase: of each item infoPath and recyclePath, as far as they exist.
     QStringList filePaths;
-    quint64 totalSize = 0; ///< bytes of all items
+    quint64 totalSize = 0; ///< bytes of all items; the largest number when there are more
     qint32 fileCount = 0;  ///< number of items
     QStringList drives;    ///< those with at least one item
     /// Data files in Recycle Bins that no "$I" file stands for, so that they are no items. To be erased with
@@ -60,8 +64,14 @@ struct RecycleBinInfo
             filePaths.append(item.infoPath);
         if (!item.recyclePath.isEmpty())
             filePaths.append(item.recyclePath);
-        totalSize += item.size;
+        totalSize = sumOf(totalSize, item);
         fileCount = static_cast<qint32>(items.size());
+    }
+
+    /// Bytes of all that no information file stands for.
+    quint64 unrecordedSize() const
+    {
+        return std::accumulate(unrecorded.cbegin(), unrecorded.cend(), quint64{0}, sumOf);
     }
 
     /// filePaths, and behind them what no information file stands for.
@@ -80,5 +90,12 @@ struct RecycleBinInfo
         for (const UnscannedBin &bin : unscanned)
             left.append({ShortfallKind::BinNotEntered, bin.path});
         return left;
+    }
+
+private:
+    // A file may record any size; the sum ends at the largest number instead of beginning anew.
+    static quint64 sumOf(quint64 sum, const RecycleBinItem &item)
+    {
+        return sum + std::min(item.size, std::numeric_limits<quint64>::max() - sum);
     }
 };

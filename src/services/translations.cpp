@@ -6,6 +6,7 @@ using namespace Qt::StringLiterals;
 static void addCataloguesToResources()
 {
     Q_INIT_RESOURCE(translations);
+    Q_INIT_RESOURCE(supplement);
 }
 
 namespace translations {
@@ -28,6 +29,12 @@ QString catalogue(const QString &code)
 {
     addCataloguesToResources();
     return u":/translations/quorvex_%1.qm"_s.arg(code);
+}
+
+QString supplement(const QString &code)
+{
+    addCataloguesToResources();
+    return u":/supplement/quorvex_%1.qm"_s.arg(code);
 }
 
 } // namespace translations

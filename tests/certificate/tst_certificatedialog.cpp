@@ -227,7 +227,7 @@ void tst_CertificateDialog::timeIsThatOfTheView()
     } while (second != secondText());
     QVERIFY(found);
 
-    QTRY_VERIFY(secondText() != second);
+    QTRY_VERIFY_WITH_TIMEOUT(secondText() != second, 60000);
     const CertificateDialog later(filledReport());
     QVERIFY(labelWith(later, second) == nullptr);
 }
@@ -481,7 +481,7 @@ void tst_CertificateDialog::valuesAreNeverRichText()
     report.disk.serialNumber = u"S\u202E1\n2"_s;
     const CertificateDialog dialog(report);
     QCOMPARE(valueOf(dialog, u"Model:"_s).value, report.disk.model);
-    QCOMPARE(valueOf(dialog, u"Serial Number:"_s).value, u"S12"_s);
+    QCOMPARE(valueOf(dialog, u"Serial Number:"_s).value, u"S[U+202E]1[U+000A]2"_s);
     for (const QLabel *label : labelsOf(dialog))
         QVERIFY2(label->textFormat() == Qt::PlainText, qPrintable(label->text()));
 }
@@ -502,7 +502,7 @@ void tst_CertificateDialog::longValuesFitTheWidth()
     QVERIFY(hash->height() >= 2 * line);
     // A wider window gives the lines back.
     dialog.resize(2000, 900);
-    QTRY_VERIFY(hash->height() < 2 * line);
+    QTRY_VERIFY_WITH_TIMEOUT(hash->height() < 2 * line, 60000);
 }
 
 namespace {

@@ -44,8 +44,8 @@ private:
     cli::StopRequest m_stop;
 };
 
-// The system's locale in tests: its language has no catalogue.
-inline const QString SourceTexts = QStringLiteral("zh_CN");
+// The system's locale in tests: none, and the texts are those of the sources.
+inline const QString SourceTexts = QString();
 
 // One run of a command: what it answered and what it printed. With a log folder of its own, and without real
 // drives.

@@ -38,6 +38,7 @@ private slots:
     void everyLanguageOfTheProgramIsTaken();
     void theSystemDecidesTheLanguageOfWhatPeopleRead_data();
     void theSystemDecidesTheLanguageOfWhatPeopleRead();
+    void theLanguageOfTheSourcesIsWhole();
     void machineOutputIsTheSameOnEverySystem();
     void anImageMustBeARegularFile();
     void anImageMayBeGivenThroughALink();
@@ -187,7 +188,9 @@ void tst_CliCommandLine::aWrongLineIsToldInOneLine_data()
     option("report without a name", u"--report="_s, "''");
     option("report without a folder", u"--report=no/such/folder/r.json"_s, "no/such/folder/r.json");
     option("report is a folder", u"--report=."_s, "folder");
+#ifdef Q_OS_WIN
     option("report is a device", u"--report="_s + QProcess::nullDevice(), "no ordinary file");
+#endif
     row("two volumes, one report", {u"wipe"_s, u"free"_s, u"a"_s, u"b"_s, u"--report=r.json"_s}, "--report",
         "(read quorvex-cli wipe free --help)");
     row("an empty path", {u"wipe"_s, u"files"_s, u"a"_s, QString()}, "empty",
@@ -283,6 +286,16 @@ void tst_CliCommandLine::theSystemDecidesTheLanguageOfWhatPeopleRead()
     const QByteArray wanted = methodsOn(u"ja_JP"_s, {u"--lang"_s, language});
     QCOMPARE(methodsOn(systemLocale, {}), wanted);
     QVERIFY(wanted != methodsOn(u"ja_JP"_s, {}));
+}
+
+// Half of them are English there.
+void tst_CliCommandLine::theLanguageOfTheSourcesIsWhole()
+{
+    CliRun run;
+    run({u"wipe"_s, u"disk"_s, u"--help"_s, u"--lang"_s, u"zh_CN"_s});
+    QCOMPARE(run.code, 0);
+    QVERIFY2(run.io.out.contains("擦除整个驱动器"), run.io.out.constData());
+    QVERIFY2(!run.io.out.contains("Erases a whole drive"), run.io.out.constData());
 }
 
 void tst_CliCommandLine::machineOutputIsTheSameOnEverySystem()

@@ -13,6 +13,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <limits>
 #include <memory>
 
 using namespace Qt::StringLiterals;
@@ -35,6 +36,8 @@ private slots:
     void anEmptyRootIsNotTheCurrentFolder();
     void aRootUnderTwoNamesCountsOnce();
     void namesCannotSteerTheTerminal();
+    void anOldPathEndsAtItsZero();
+    void anImpossibleSizeIsToldAsSuch();
     void whatWasListedIsErased();
     void onlyTheUserThatWasNamedLosesFiles();
     void nothingIsErasedWithoutTheWord();
@@ -194,6 +197,39 @@ void tst_CliTrash::namesCannotSteerTheTerminal()
     run(list());
     QVERIFY(!run.io.out.contains('\x1b'));
     QVERIFY(!run.io.out.contains("\xe2\x80\xae"));
+}
+
+void tst_CliTrash::anOldPathEndsAtItsZero()
+{
+    const QString recorded = QString(u"C:\\old\\letter.txt\0\\harmless.txt"_s);
+    writeFile(bin(Alice, u"$IAAAAAA.txt"_s), infoVersion1(recorded, 3));
+    writeFile(bin(Alice, u"$RAAAAAA.txt"_s), "abc");
+    CliRun run;
+    run(list());
+    QCOMPARE(run.io.out, QByteArray("C:\\old\\letter.txt (3 B)\n1 item, 3 B\n"));
+    CliRun json;
+    json(list({u"--json"_s}));
+    const QJsonObject object = json.io.documents().constFirst().object();
+    const QJsonObject item = object.value(u"items").toArray().at(0).toObject();
+    QCOMPARE(item.value(u"originalPath"), QJsonValue(u"C:\\old\\letter.txt"_s));
+    QCOMPARE(item.value(u"fileName"), QJsonValue(u"letter.txt"_s));
+}
+
+void tst_CliTrash::anImpossibleSizeIsToldAsSuch()
+{
+    writeFile(bin(Alice, u"$IAAAAAA.txt"_s),
+              infoVersion2(u"C:\\a.txt"_s, std::numeric_limits<quint64>::max()));
+    writeFile(bin(Alice, u"$RAAAAAA.txt"_s), "abc");
+    addDeleted(Alice, u"BBBBBB.txt"_s, u"C:\\b.txt"_s, "four");
+    CliRun run;
+    run(list());
+    QVERIFY2(run.io.out.contains("C:\\a.txt (16384.00 PB, an impossible size)\n"), run.io.out.constData());
+    QVERIFY2(run.io.out.endsWith("2 items, 16384.00 PB\nImpossible sizes in the sum: 1\n"),
+             run.io.out.constData());
+    CliRun json;
+    json(list({u"--json"_s}));
+    const QJsonObject object = json.io.documents().constFirst().object();
+    QCOMPARE(object.value(u"totalSize"), QJsonValue(u"18446744073709551615"_s));
 }
 
 void tst_CliTrash::whatWasListedIsErased()

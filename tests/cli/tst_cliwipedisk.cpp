@@ -9,6 +9,7 @@
 #include "cli/memorymachine.h"
 
 #include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFileInfo>
@@ -137,12 +138,26 @@ void stopAt(TestIo &io, const QByteArray &text, int times = 1)
     };
 }
 
-// Every write takes long enough for a stop to come in between.
+// Every write takes long enough for progress to be told.
 void makeSlow(MemoryMachine &machine)
 {
     machine.answer = [](const DeviceCall &call) {
         if (call.kind == FaultPlan::Write)
             std::this_thread::sleep_for(std::chrono::milliseconds(20));
+        return platform::Status{};
+    };
+}
+
+// As above; and the job does not end before it is stopped, however late the stop comes.
+void makeSlowUntilStopped(MemoryMachine &machine, TestIo &io)
+{
+    machine.answer = [&io, writes = 0](const DeviceCall &call) mutable {
+        if (call.kind != FaultPlan::Write)
+            return platform::Status{};
+        std::this_thread::sleep_for(std::chrono::milliseconds(20));
+        const QDeadlineTimer patience(60'000); // in vain only
+        for (++writes; writes > 20 && !io.stopRequest().isRequested() && !patience.hasExpired();)
+            std::this_thread::sleep_for(std::chrono::milliseconds(1));
         return platform::Status{};
     };
 }
@@ -486,8 +501,8 @@ void tst_CliWipeDisk::aStopEndsTheJobCleanly()
 {
     MemoryMachine machine;
     addDrive(machine);
-    makeSlow(machine);
     CliRun run;
+    makeSlowUntilStopped(machine, run.io);
     stopAt(run.io, "\"progress\"");
     run(wipeDrive(0) + QStringList{u"--json"_s, u"--buffer-mb"_s, u"1"_s, u"--method"_s, u"gutmann"_s});
     QCOMPARE(run.code, 4);
@@ -503,8 +518,8 @@ void tst_CliWipeDisk::aSecondStopChangesNothing()
 {
     MemoryMachine machine;
     addDrive(machine);
-    makeSlow(machine);
     CliRun run;
+    makeSlowUntilStopped(machine, run.io);
     stopAt(run.io, "\"progress\"", 3);
     run(wipeDrive(0) + QStringList{u"--json"_s, u"--buffer-mb"_s, u"1"_s, u"--method"_s, u"gutmann"_s});
     QCOMPARE(run.code, 4);
@@ -959,8 +974,8 @@ void tst_CliWipeDisk::afterAStopVolumesStayUnmounted()
         MemoryMachine machine;
         addDrive(machine);
         machine.memory.addVolume(u"/media/stick"_s, 0, 0, Size);
-        makeSlow(machine);
         CliRun run;
+        makeSlowUntilStopped(machine, run.io);
         stopAt(run.io, "\"progress\"");
         run(wipeDrive(0) + options +
             QStringList{u"--json"_s, u"--buffer-mb"_s, u"1"_s, u"--method"_s, u"gutmann"_s});

@@ -297,7 +297,7 @@ void tst_CliWipeFiles::namesCannotSteerTheTerminal()
     CliRun run;
     run(wipeFiles({name, u"missing\x1b[2J\n"_s}));
     QCOMPARE(run.code, 3);
-    QVERIFY2(run.complains("missing[2J"), run.io.err.constData());
+    QVERIFY2(run.complains("missing[U+001B][2J[U+000A]"), run.io.err.constData());
 
     CliRun wiping;
     wiping(wipeFiles({name}));

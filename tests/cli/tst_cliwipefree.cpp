@@ -8,6 +8,7 @@
 #include "support/testfiles.h"
 
 #include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QJsonValue>
@@ -327,15 +328,18 @@ void tst_CliWipeFree::aStopSparesTheVolumesBehind()
     machine.add(u"/media/a"_s);
     machine.add(u"/media/b"_s);
     CliRun run;
-    // In the middle of the first job, whose writes then take so long that it cannot end by itself before.
+    // In the middle of the first job, which waits for it.
     std::atomic<bool> requested = false;
     machine.volume.onCall = [&](FaultPlan::Kind kind, const QString &) {
         if (kind != FaultPlan::Write)
             return;
-        QThread::msleep(5);
         if (!requested.exchange(true))
             QMetaObject::invokeMethod(&run.io.stopRequest(), &cli::StopRequest::request,
                                       Qt::QueuedConnection);
+        const QDeadlineTimer patience(60'000); // in vain only
+        while (!run.io.stopRequest().isRequested() && !patience.hasExpired())
+            QThread::msleep(1);
+        QThread::msleep(5); // the engine is told a moment later
     };
     run(wipeFree({u"/media/a"_s, u"/media/b"_s, u"--method"_s, u"4"_s}));
     QCOMPARE(run.code, 4);

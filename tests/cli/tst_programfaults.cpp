@@ -97,7 +97,7 @@ void tst_ProgramFaults::aVanishedDriveIsReported()
     drive.faults.vanishAfter(DriveBytes + 3 * MiB);
     const ProgramOnDrive run(drive, WipeMethod::BritishHmgIs5);
     QVERIFY2(run.code == 1, run.output.constData());
-    QTRY_VERIFY(drive.faults.isGone());
+    QTRY_VERIFY_WITH_TIMEOUT(drive.faults.isGone(), 60000);
     QCOMPARE(run.report.value(u"status").toInt(), int(WipeStatus::Failed));
     QVERIFY(!run.report.value(u"errorMessage").toString().isEmpty());
     QVERIFY(!run.output.contains("DONE: "));

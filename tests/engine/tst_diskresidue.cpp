@@ -308,7 +308,7 @@ void tst_DiskResidue::driveThatShrinksDuringTheJobIsAFailure()
     engine.setTask(&task);
     engine.start();
     QSignalSpy passes(&engine, &WipeEngine::passChanged);
-    QTRY_VERIFY(passes.size() >= 2);
+    QTRY_VERIFY_WITH_TIMEOUT(passes.size() >= 2, 60000);
     // All that is left of a drive that was pulled out: a device without a size.
     QVERIFY(QFile::resize(drive.image(), 0));
     QCOMPARE(QProcess::execute(QStringLiteral("losetup"), {QStringLiteral("-c"), drive.device()}), 0);

@@ -779,10 +779,10 @@ void tst_DiskWipeWorker::namesAreShownWithoutControlCharacters()
     DiskWipeJob job;
     job.chooseDrive(drive);
     QVERIFY(job.run(devices));
-    QVERIFY(job.log().contains(u"0 序列号: SN %1"_s));
-    QVERIFY(job.log().contains(u"0 找到卷: /mnt/ab %2:"_s));
-    QVERIFY(job.log().contains(u"0 正在处理卷: /mnt/ab %2"_s));
-    QVERIFY(job.log().contains(u"1 警告: 卷 /mnt/ab %2 锁定失败，错误码: 5"_s));
+    QVERIFY(job.log().contains(u"0 序列号: S[U+202E][U+0007]N %1"_s));
+    QVERIFY(job.log().contains(u"0 找到卷: /mnt/a[U+000A][U+202E]b %2:"_s));
+    QVERIFY(job.log().contains(u"0 正在处理卷: /mnt/a[U+000A][U+202E]b %2"_s));
+    QVERIFY(job.log().contains(u"1 警告: 卷 /mnt/a[U+000A][U+202E]b %2 锁定失败，错误码: 5"_s));
     QVERIFY(devices.medium(0) == constant(MiB, 0x00));
 }
 

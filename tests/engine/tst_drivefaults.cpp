@@ -219,7 +219,7 @@ void tst_DriveFaults::vanishedDriveEndsTheJob()
     setUpDisk(task, drive, WipeMethod::BritishHmgIs5);
     drive.faults.vanishAfter(size + 4 * MiB); // in the second pass
     const RealJob job = runRealJob(task);
-    QTRY_VERIFY(drive.faults.isGone());
+    QTRY_VERIFY_WITH_TIMEOUT(drive.faults.isGone(), 60000);
     QVERIFY(!job.success);
     QVERIFY2(job.hasLine(QStringLiteral("写入错误，位置: ")), qPrintable(job.log.join(u'\n')));
     QVERIFY(job.hasLine(QStringLiteral("第 2/2 次覆写")));

@@ -5,6 +5,7 @@
 #include "support/testfiles.h"
 
 #include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -94,7 +95,7 @@ void tst_FileWipeThreads::filesAreOverwrittenSideBySide()
         ++inside;
         together = together || inside == 3;
         arrived.wakeAll();
-        const QDeadlineTimer deadline(10'000);
+        const QDeadlineTimer deadline(60'000);
         while (!together && arrived.wait(&mutex, deadline)) {
         }
         --inside;
@@ -111,18 +112,22 @@ void tst_FileWipeThreads::neverMoreFilesAtOnceThanThreads()
 {
     FileJob job;
     job.task.setThreadCount(2);
-    std::atomic<int> inside{0};
-    std::atomic<int> most{0};
-    std::atomic<bool> onWorkersThread{false};
+    QMutex mutex;
+    QWaitCondition arrived;
+    int inside = 0;
+    int most = 0;
+    bool onWorkersThread = false;
     const QThread *const workersThread = QThread::currentThread();
     job.files.hook = [&](const FileCall &call) {
+        const QMutexLocker locker(&mutex);
         if (call.kind == FaultPlan::Open && call.mode == OpenMode::Overwrite) {
             onWorkersThread = onWorkersThread || QThread::currentThread() == workersThread;
-            const int now = ++inside;
-            int before = most;
-            while (before < now && !most.compare_exchange_weak(before, now)) {
+            most = std::max(most, ++inside);
+            arrived.wakeAll();
+            // The other thread may be late.
+            for (const QDeadlineTimer patience(60'000); most < 2 && arrived.wait(&mutex, patience);) {
             }
-            QThread::msleep(1);
+            arrived.wait(&mutex, QDeadlineTimer(1)); // for a third one, which must not come
         } else if (call.kind == FaultPlan::Flush && call.mode == OpenMode::Overwrite) {
             --inside;
         }
@@ -132,7 +137,7 @@ void tst_FileWipeThreads::neverMoreFilesAtOnceThanThreads()
     for (int i = 0; i < 40; ++i)
         files += job.makeFile(QString::number(i), 10);
     QVERIFY(job.run(files));
-    QCOMPARE(most.load(), 2);
+    QCOMPARE(most, 2);
     QVERIFY(!onWorkersThread);
 }
 
@@ -182,7 +187,7 @@ void tst_FileWipeThreads::aSlowFileDoesNotHoldUpItsBatch()
             ++flushed;
             changed.wakeAll();
         } else if (call.kind == FaultPlan::Write && call.path == files.at(0)) {
-            const QDeadlineTimer deadline(10'000);
+            const QDeadlineTimer deadline(60'000);
             while (flushed < 3 && changed.wait(&mutex, deadline)) {
             }
             flushedMeanwhile = flushed;
@@ -542,7 +547,7 @@ void tst_FileWipeThreads::runsInAThreadOfItsOwn()
     thread.start();
     QVERIFY(ended.wait(60'000));
     QVERIFY(thread.wait());
-    QTRY_VERIFY(!threaded.worker);
+    QTRY_VERIFY_WITH_TIMEOUT(!threaded.worker, 60000);
     QCOMPARE(finished.size(), 1);
     QCOMPARE(finished[0][0].toBool(), true);
     QCOMPARE(elsewhere, 0);

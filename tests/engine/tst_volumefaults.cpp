@@ -118,7 +118,7 @@ void tst_VolumeFaults::vanishedVolumeEndsTheFileJob()
     setUpFileJob(task, file.path);
     drive.faults.vanishAfter(2 * MiB);
     const RealJob job = runRealJob(task);
-    QTRY_VERIFY(drive.faults.isGone());
+    QTRY_VERIFY_WITH_TIMEOUT(drive.faults.isGone(), 60000);
     QVERIFY2(!job.success, qPrintable(job.log.join(u'\n')));
     QVERIFY(job.hasLine(file.path));
     QCOMPARE(job.report.status, WipeStatus::Failed);
@@ -133,7 +133,7 @@ void tst_VolumeFaults::vanishedVolumeEndsTheFill()
     setUpFill(task, drive);
     drive.faults.vanishAfter(20 * MiB);
     const RealJob job = runRealJob(task);
-    QTRY_VERIFY(drive.faults.isGone());
+    QTRY_VERIFY_WITH_TIMEOUT(drive.faults.isGone(), 60000);
     QVERIFY2(!job.success, qPrintable(job.log.join(u'\n')));
     QVERIFY(job.hasLine(QStringLiteral("写入错误，位置: ")) || job.hasLine(QStringLiteral("卷不再可用")));
     QCOMPARE(job.report.status, WipeStatus::Failed);

@@ -818,7 +818,7 @@ void tst_WipeEngine::outcomeOfACompleteJob()
     engine.setTask(&task);
     engine.start();
     QCOMPARE(engine.outcome().outcome(), JobOutcome::Failed); // as long as it has not ended
-    QTRY_COMPARE(completed.size(), 1);
+    QTRY_COMPARE_WITH_TIMEOUT(completed.size(), 1, Patience);
     OutcomeRecord expected(JobOutcome::Complete);
     expected.addWritten(MiB);
     QCOMPARE(engine.outcome(), expected);
@@ -836,7 +836,7 @@ void tst_WipeEngine::outcomeOfAJobThatFellShort()
     engine.start();
     task.noteShortfall({ShortfallKind::VolumeInUse, QStringLiteral("E:")});
     machine.devices.letGo();
-    QTRY_COMPARE(completed.size(), 1);
+    QTRY_COMPARE_WITH_TIMEOUT(completed.size(), 1, Patience);
     // The signal and the stored status say that the job did what it does.
     QCOMPARE(completed[0][0].toBool(), true);
     QCOMPARE(engine.report().status, WipeStatus::Completed);
@@ -855,7 +855,7 @@ void tst_WipeEngine::outcomeOfAFailedJob()
     QSignalSpy completed(&engine, &WipeEngine::completed);
     engine.setTask(&task);
     engine.start();
-    QTRY_COMPARE(completed.size(), 1);
+    QTRY_COMPARE_WITH_TIMEOUT(completed.size(), 1, Patience);
     OutcomeRecord expected(JobOutcome::Failed);
     expected.addWritten(0);
     QCOMPARE(engine.outcome(), expected);
@@ -874,11 +874,11 @@ void tst_WipeEngine::outcomeOfAStoppedJob()
                      [&] { whenStopped.append(engine.outcome().outcome()); });
     engine.setTask(&task);
     engine.start();
-    QTRY_VERIFY(machine.devices.waiting > 0);
+    QTRY_VERIFY_WITH_TIMEOUT(machine.devices.waiting > 0, Patience);
     machine.devices.letGo();
     engine.stop();
     QCOMPARE(whenStopped, QList{JobOutcome::Cancelled});
-    QTRY_COMPARE(completed.size(), 1);
+    QTRY_COMPARE_WITH_TIMEOUT(completed.size(), 1, Patience);
     // Which the stored status cannot say any more.
     QCOMPARE(engine.report().status, WipeStatus::Failed);
     QCOMPARE(engine.outcome().outcome(), JobOutcome::Cancelled);
@@ -892,7 +892,7 @@ void tst_WipeEngine::outcomeOfAJobThatWasStoppedTooLate()
     WipeEngine engine;
     engine.setTask(&task);
     engine.start();
-    QTRY_VERIFY(machine.devices.waiting > 0);
+    QTRY_VERIFY_WITH_TIMEOUT(machine.devices.waiting > 0, Patience);
     machine.devices.letGo();
     engine.stop();
     // A worker that was through when it was told to stop has erased everything.

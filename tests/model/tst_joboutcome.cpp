@@ -225,7 +225,7 @@ void tst_JobOutcome::textsAreTranslated()
         record.note({ShortfallKind::RoomLeft, QString::number(i)});
     record.setOutcome(JobOutcome::Complete);
     QCOMPARE(record.shortfallLines(),
-             QStringList{u"<OutcomeRecord>free space was left that could not be filled: "
+             QStringList{u"<OutcomeRecord><OutcomeRecord>free space was left that could not be filled: "
                          "0, 1, 2 <OutcomeRecord>and 1 more"_s});
     QCOMPARE(record.summary(), u"<OutcomeRecord>Partly erased: "_s + kindText(ShortfallKind::RoomLeft));
     QVERIFY(OutcomeRecord(JobOutcome::Failed).summary().startsWith(u"<OutcomeRecord>"_s));

@@ -5,6 +5,8 @@
 #include <QTest>
 
 #include <csignal>
+#include <sys/wait.h>
+#include <unistd.h>
 
 // A wish that nobody holds ends this program, and with it the suite.
 class tst_StopHandler : public QObject
@@ -14,6 +16,7 @@ class tst_StopHandler : public QObject
 private slots:
     void aWishIsHeldUntilThereIsAHandler_data();
     void aWishIsHeldUntilThereIsAHandler();
+    void aWishThatComesTooLateChangesNothing();
 };
 
 void tst_StopHandler::aWishIsHeldUntilThereIsAHandler_data()
@@ -34,11 +37,30 @@ void tst_StopHandler::aWishIsHeldUntilThereIsAHandler()
     int stops = 0;
     const platform::StopHandler handler([&stops] { ++stops; });
     QVERIFY(platform::StopHandler::isAsked());
-    QTRY_COMPARE(stops, 1);
+    QTRY_COMPARE_WITH_TIMEOUT(stops, 1, 60000);
     sigset_t after;
     QCOMPARE(::pthread_sigmask(SIG_SETMASK, nullptr, &after), 0);
     for (const int one : {SIGINT, SIGTERM, SIGHUP})
         QCOMPARE(::sigismember(&after, one), ::sigismember(&before, one));
+}
+
+// In a process of its own, which the wish may end.
+void tst_StopHandler::aWishThatComesTooLateChangesNothing()
+{
+    const pid_t child = ::fork();
+    if (child == 0) {
+        {
+            const platform::StopHandler handler([] {});
+        }
+        for (const int signal : {SIGINT, SIGTERM, SIGHUP})
+            ::raise(signal);
+        ::_exit(7);
+    }
+    QVERIFY(child > 0);
+    int status = 0;
+    QCOMPARE(::waitpid(child, &status, 0), child);
+    QVERIFY2(WIFEXITED(status), QByteArray::number(WTERMSIG(status)).constData());
+    QCOMPARE(WEXITSTATUS(status), 7);
 }
 
 QUORVEX_SUITE(tst_StopHandler, QCoreApplication)

@@ -555,7 +555,7 @@ void tst_DiskManager::labelsAreSafeToShow()
     FakeVolume volume = FakeVolume::onDrives(u"E:"_s, {2});
     volume.mounted.label = u"\u202Egpj\u0007.exe\n\u0645"_s;
     pc.devices.mount(volume);
-    QCOMPARE(DiskManager::partitionsForDisk(2).first().label, u"gpj.exe\u0645"_s);
+    QCOMPARE(DiskManager::partitionsForDisk(2).first().label, u"[U+202E]gpj[U+0007].exe[U+000A]\u0645"_s);
 }
 
 void tst_DiskManager::driveLettersAreKeptAsGiven()

@@ -11,7 +11,7 @@ class Gallery
 public:
     Gallery(QString folder, QString language);
 
-    // The language of the texts, "zh_CN" for the source texts.
+    // The language of the texts.
     QString language() const { return m_language; }
 
     // Shows the widget, lets it settle, and saves its picture as <name>-<language>-<scale>.png.

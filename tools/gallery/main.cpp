@@ -82,7 +82,7 @@ int main(int argc, char *argv[])
 
     const QString language = parser.value(u"language"_s);
     QTranslator translator;
-    if (language != u"zh_CN") {
+    if (parser.isSet(u"catalogues"_s)) {
         const QString file = u"%1/quorvex_%2.qm"_s.arg(parser.value(u"catalogues"_s), language);
         if (!translator.load(file)) {
             QTextStream(stderr) << "no catalogue " << file << Qt::endl;

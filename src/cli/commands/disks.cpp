@@ -5,6 +5,7 @@
 #include "cli/table.h"
 #include "cli/translate.h"
 #include "model/displaytext.h"
+#include "model/targettext.h"
 #include "services/diskmanager.h"
 
 namespace cli {
@@ -36,7 +37,7 @@ QString tableText(const QList<DiskInfo> &disks)
                       disk.busTypeName(), displayText(disk.devicePath), flags(disk)});
         for (const PartitionInfo &partition : disk.partitions) {
             const QString mark = partition.isSystem ? Cli::tr(", system") : QString();
-            table.addLine(u"       "_s + describeVolume(partition) + mark);
+            table.addLine(u"       "_s + TargetText::volume(partition) + mark);
         }
         for (const SpanningVolume &volume : DiskManager::spanningVolumesForDisk(disk.diskNumber))
             table.addLine(u"       "_s + describeSpanning(volume, disk.diskNumber));

@@ -1,6 +1,8 @@
 #include "cli/drivetarget.h"
+#include "cli/listing.h"
 #include "cli/translate.h"
 #include "cli/wipeplan.h"
+#include "model/targettext.h"
 #include "services/diskmanager.h"
 
 #include <QCommandLineParser>
@@ -42,7 +44,7 @@ Outcome<ExitCode> run(const CommandContext &context)
     task->setDisk(*disk);
     task->setWholeDrive(context.options.isSet(u"whole"_s));
     WipePlan plan;
-    plan.summary = describeDrive(*disk);
+    plan.summary = indented(TargetText::driveWithVolumes(*disk));
     if (task->isWholeDrive())
         plan.summary += wholeDriveLines(*disk);
     plan.jobs.push_back({std::move(task), disk->devicePath});

@@ -8,7 +8,7 @@
 #include "engine/filesurvey.h"
 #include "engine/filetargets.h"
 #include "model/displaytext.h"
-#include "model/formatsize.h"
+#include "model/targettext.h"
 
 namespace cli {
 
@@ -30,12 +30,9 @@ QString targetName(const QStringList &paths)
 
 QStringList summaryOf(const QStringList &paths, const FileSurvey &count)
 {
-    QStringList lines =
-        beginningOfList(paths.size(), [&paths](qsizetype i) { return displayText(paths.at(i)); });
-    const QString atLeast = count.isComplete ? QString() : Cli::tr("at least ");
-    const QString files = count.files == 1 ? Cli::tr("1 file") : Cli::tr("%1 files").arg(count.files);
-    lines.append(Cli::tr("  %1%2, %3").arg(atLeast, files, formatSize(static_cast<qint64>(count.bytes))));
-    return lines;
+    const QStringList names =
+        TargetText::beginningOf(paths.size(), [&paths](qsizetype i) { return displayText(paths.at(i)); });
+    return indented(names + QStringList{TargetText::amount(count.files, count.bytes, count.isComplete)});
 }
 
 Outcome<ExitCode> run(const CommandContext &context)

@@ -1,7 +1,9 @@
 #include "cli/commandline.h"
+#include "cli/listing.h"
 #include "cli/translate.h"
 #include "cli/volumetarget.h"
 #include "cli/wipeplan.h"
+#include "model/targettext.h"
 #include "services/diskmanager.h"
 
 #include <QSet>
@@ -39,7 +41,7 @@ Outcome<WipePlan> planFor(const QStringList &volumes)
         if (known.contains(target->name))
             continue;
         known.insert(target->name);
-        plan.summary += target->description();
+        plan.summary += indented(TargetText::freeSpace(target->disk, target->partition));
         plan.jobs.push_back(jobFor(*target));
     }
     plan.summary.append(Cli::tr("  files that exist are kept"));

@@ -9,6 +9,7 @@
 #include "engine/filetargets.h"
 #include "model/joboutcome.h"
 #include "model/jsonwriter.h"
+#include "model/targettext.h"
 #include "services/binrecords.h"
 
 namespace cli {
@@ -24,12 +25,9 @@ QStringList words()
 
 QStringList summaryOf(const RecycleBinInfo &found)
 {
-    QStringList lines = beginningOfList(found.items.size(),
-                                        [&found](qsizetype i) { return describeItem(found.items.at(i)); });
-    const QStringList ends = QStringList{amountOf(found)} + unrecordedLines(found) + unscannedLines(found);
-    for (const QString &end : ends)
-        lines.append(u"  "_s + end);
-    return lines;
+    const QStringList items = TargetText::beginningOf(
+        found.items.size(), [&found](qsizetype i) { return describeItem(found.items.at(i)); });
+    return indented(items + amountLines(found) + unrecordedLines(found) + unscannedLines(found));
 }
 
 ExitCode tellEmpty(const CommandContext &context)

@@ -23,7 +23,7 @@ namespace {
 constexpr qint64 LargestBounce = qint64(1024) * 1024;
 // Up to here a write that does not end on a whole unit goes through the cache as a whole: apart, its last
 // bytes would have the device flushed a second time, which takes longer than everything else about a small
-// file.
+// file. So does each write of a group's member, which is not waited for: the device gets many at a time.
 constexpr qint64 LargestCachedWrite = 256LL * 1024;
 constexpr qint64 LargestFileUnit = 65536;
 constexpr qint64 LargestMemoryUnit = 4096; // what every AlignedBuffer keeps
@@ -208,7 +208,7 @@ Result<qint64> LinuxFileHandle::writePieces(const std::byte *data, qint64 size)
 
 Result<qint64> LinuxFileHandle::writeSome(qint64 position, const std::byte *data, qint64 size)
 {
-    if (m_direct.possible) {
+    if (m_direct.possible && !(m_group && size <= LargestCachedWrite)) {
         const qint64 unit = m_direct.fileUnit;
         const qint64 beyond = position % unit;
         const bool isWhole = beyond == 0 && size % unit == 0;
@@ -223,7 +223,12 @@ Result<qint64> LinuxFileHandle::writeSome(qint64 position, const std::byte *data
     }
     if (const Status switched = switchDirect(false); !switched)
         return switched;
-    return transferOut(position, data, size);
+    const Result<qint64> count = transferOut(position, data, size);
+    // Under way now, not at the group's end, which a stop would have to wait for. A failure stays for that
+    // end to tell.
+    if (count && m_group)
+        ::sync_file_range(m_file.get(), position, count.value(), SYNC_FILE_RANGE_WRITE);
+    return count;
 }
 
 Result<qint64> LinuxFileHandle::writeDirect(qint64 position, const std::byte *data, qint64 size)

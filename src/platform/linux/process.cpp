@@ -182,17 +182,20 @@ class StopHandler::Private : public QObject
 {
 public:
     explicit Private(std::function<void()> onStop);
-    ~Private() override;
+    ~Private() override
+    {
+        s_wakeUpEnd.store(-1);
+        s_notifiedEnd = -1;
+    }
     Private(const Private &) = delete;
     Private &operator=(const Private &) = delete;
 
 private:
-    void handle(int signal, void (*action)(int), bool evenWhenIgnored);
+    static void handle(int signal, void (*action)(int), bool evenWhenIgnored);
 
     FileDescriptor m_readEnd;
     FileDescriptor m_writeEnd;
     std::unique_ptr<QSocketNotifier> m_notifier;
-    QList<std::pair<int, struct sigaction>> m_previous;
 };
 
 StopHandler::Private::Private(std::function<void()> onStop)
@@ -220,16 +223,6 @@ StopHandler::Private::Private(std::function<void()> onStop)
         ::pthread_sigmask(SIG_SETMASK, &*before, nullptr);
 }
 
-StopHandler::Private::~Private()
-{
-    s_wakeUpEnd.store(-1);
-    s_notifiedEnd = -1;
-    if (s_stopAsked.load())
-        return;
-    for (const auto &[signal, action] : std::as_const(m_previous))
-        ::sigaction(signal, &action, nullptr);
-}
-
 void StopHandler::Private::handle(int signal, void (*action)(int), bool evenWhenIgnored)
 {
     struct sigaction previous
@@ -243,7 +236,6 @@ void StopHandler::Private::handle(int signal, void (*action)(int), bool evenWhen
     ours.sa_flags = SA_RESTART;
     ::sigemptyset(&ours.sa_mask);
     ::sigaction(signal, &ours, nullptr);
-    m_previous.append({signal, previous});
 }
 
 StopHandler::StopHandler(std::function<void()> onStop)

@@ -23,7 +23,6 @@ namespace {
 
 // What the console's handler thread uses; it may run at any moment until the process ends.
 std::atomic<bool> s_stopAsked{false};
-std::atomic<bool> s_isHandling{false};
 // Set with the first wish to stop. Never closed, for the same reason.
 HANDLE s_stopEvent = nullptr;
 
@@ -67,8 +66,6 @@ public:
 
 BOOL WINAPI onConsoleEvent(DWORD event)
 {
-    if (!s_isHandling.load() && !s_stopAsked.load())
-        return FALSE;
     s_stopAsked.store(true);
     ::SetEvent(s_stopEvent);
     interruptReader();
@@ -234,7 +231,7 @@ class StopHandler::Private : public QObject
 {
 public:
     explicit Private(std::function<void()> onStop);
-    ~Private() override { s_isHandling.store(false); }
+    ~Private() override = default;
     Private(const Private &) = delete;
     Private &operator=(const Private &) = delete;
 
@@ -259,7 +256,6 @@ StopHandler::Private::Private(std::function<void()> onStop)
         m_notifier->setEnabled(false);
         stop();
     });
-    s_isHandling.store(true);
 }
 
 StopHandler::StopHandler(std::function<void()> onStop)

@@ -72,6 +72,7 @@ void CompleteDialog::addIcon(QBoxLayout *layout)
         icon->setPixmap(QIcon(u":/icons/icon_success.svg"_s).pixmap(IconSize, devicePixelRatio()));
     } else {
         icon->setText(u"❌"_s);
+        icon->setAccessibleName(tr("Error"));
         icon->setStyleSheet(u"font-size: 64px;"_s);
     }
     layout->addWidget(icon, 0, Qt::AlignHCenter);

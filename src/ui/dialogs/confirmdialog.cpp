@@ -7,8 +7,12 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTextDocument>
 #include <QTextDocumentFragment>
+#include <QTextEdit>
+#include <QTextOption>
 #include <QVBoxLayout>
+#include <QtMath>
 
 using namespace Qt::StringLiterals;
 
@@ -18,6 +22,8 @@ constexpr QSize DialogSize(400, 320);
 constexpr QSize ButtonSize(120, 40);
 constexpr int Margin = 30;
 constexpr int Spacing = 20;
+constexpr int TargetFrame = 2 * (4 + 1);
+constexpr int MostTargetHeight = 160;
 
 QLabel *centredLabel(const QString &text, const QString &style)
 {
@@ -33,6 +39,18 @@ QPushButton *makeButton(const QString &text, const QString &name)
     button->setObjectName(name);
     button->setFixedSize(ButtonSize);
     return button;
+}
+
+// With its text seen whole. The field itself lays its document out for the width that it has before it is
+// shown.
+int heightOf(const QTextEdit &field, int width)
+{
+    QTextDocument document;
+    document.setDefaultFont(field.font());
+    document.setDefaultTextOption(field.document()->defaultTextOption());
+    document.setPlainText(field.toPlainText());
+    document.setTextWidth(width - TargetFrame);
+    return qCeil(document.size().height()) + TargetFrame;
 }
 
 } // namespace
@@ -62,6 +80,7 @@ void ConfirmDialog::addTexts(QBoxLayout *layout)
 {
     QLabel *const icon = centredLabel(u"⚠️"_s, u"font-size: 48px;"_s);
     icon->setObjectName(u"dialogIcon"_s);
+    icon->setAccessibleName(tr("Warning"));
     layout->addWidget(icon);
 
     QLabel *const title = centredLabel(tr("Warning: Irreversible Operation"),
@@ -80,6 +99,26 @@ void ConfirmDialog::addTexts(QBoxLayout *layout)
     prompt->setObjectName(u"dialogPrompt"_s);
     prompt->setTextFormat(Qt::RichText);
     layout->addWidget(prompt);
+}
+
+// Lines break anywhere, as a path may be one long word.
+void ConfirmDialog::showTarget(const QStringList &lines)
+{
+    auto *const target = new QTextEdit(this);
+    target->setObjectName(u"dialogTarget"_s);
+    target->setAccessibleName(tr("This will be destroyed"));
+    target->setReadOnly(true);
+    target->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    target->setTabChangesFocus(true);
+    target->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    target->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    target->setStyleSheet(u"QTextEdit { background-color: white; border: 1px solid #e5e7eb; "
+                          "border-radius: 8px; padding: 4px; color: #1e293b; font-size: 12px; }"
+                          "QTextEdit:focus { border-color: #3b82f6; }"_s);
+    target->setPlainText(lines.join(u'\n'));
+    target->ensurePolished();
+    target->setFixedHeight(qMin(heightOf(*target, width() - 2 * Margin), MostTargetHeight));
+    insertAbovePrompt(target, target->height());
 }
 
 void ConfirmDialog::addNotice(const QString &text)

@@ -2,6 +2,7 @@
 
 #include <QDialog>
 #include <QString>
+#include <QStringList>
 
 QT_FORWARD_DECLARE_CLASS(QBoxLayout)
 QT_FORWARD_DECLARE_CLASS(QCheckBox)
@@ -16,6 +17,10 @@ class ConfirmDialog : public QDialog
 
 public:
     explicit ConfirmDialog(QWidget *parent = nullptr);
+
+    /// What will be destroyed, line by line, plain text, under the message. The dialog grows by what it
+    /// takes, up to a limit; behind that it is scrolled.
+    void showTarget(const QStringList &lines);
 
     /// One more line under the message, plain text; the dialog grows by what it takes.
     void addNotice(const QString &text);

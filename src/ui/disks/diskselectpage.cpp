@@ -5,6 +5,7 @@
 #include "ui/disks/disktreerows.h"
 #include "ui/disks/obstaclestext.h"
 #include "ui/style/pagestyle.h"
+#include "ui/style/spokentext.h"
 
 #include <QBoxLayout>
 #include <QHeaderView>
@@ -228,6 +229,7 @@ void DiskSelectPage::judge(bool isSystem, const QString &refusal, const QString 
 void DiskSelectPage::showNotice(const QString &text, const QString &styleSheet)
 {
     m_notice->setText(text);
+    m_notice->setAccessibleName(spokenText(text));
     m_notice->setStyleSheet(styleSheet);
     m_notice->show();
 }

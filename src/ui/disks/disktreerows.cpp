@@ -2,6 +2,7 @@
 
 #include "model/displaytext.h"
 #include "ui/style/palette.h"
+#include "ui/style/spokentext.h"
 #include "ui/style/tooltip.h"
 
 #include <QBrush>
@@ -15,6 +16,7 @@ namespace {
 void setStatus(QTreeWidgetItem &row, const QString &text, const QColor &color)
 {
     row.setText(DiskTreeRows::StatusColumn, text);
+    row.setData(DiskTreeRows::StatusColumn, Qt::AccessibleTextRole, spokenText(text));
     row.setForeground(DiskTreeRows::StatusColumn, color);
 }
 
@@ -28,6 +30,7 @@ void greyOut(QTreeWidgetItem &row)
 void setName(QTreeWidgetItem &row, const QString &name)
 {
     row.setText(DiskTreeRows::NameColumn, name);
+    row.setData(DiskTreeRows::NameColumn, Qt::AccessibleTextRole, spokenText(name));
     row.setToolTip(DiskTreeRows::NameColumn, plainTip(name));
 }
 

@@ -1,5 +1,7 @@
 #include "ui/files/dropzone.h"
 
+#include "ui/style/spokentext.h"
+
 #include <QBoxLayout>
 #include <QLabel>
 #include <QProgressBar>
@@ -31,7 +33,7 @@ void DropZone::createButton(const QString &action)
     m_plus->setObjectName(u"plusBtn"_s);
     m_plus->setFixedSize(70, 70);
     m_plus->setCursor(Qt::PointingHandCursor);
-    m_plus->setAccessibleName(action);
+    m_plus->setAccessibleName(spokenText(action));
     m_plus->setStyleSheet(u"QPushButton { background-color: #3b82f6; border: none; border-radius: 14px;"
                           " color: white; font-size: 32px; font-weight: bold; padding: 0; }"
                           "QPushButton:hover { background-color: #2563eb; }"
@@ -80,7 +82,7 @@ void DropZone::setLoading(bool isLoading)
 
 void DropZone::showLoading(const QString &text)
 {
-    m_loading->setText(text);
+    setLoadingText(text);
     m_progress->setRange(0, 0);
     setLoading(true);
 }
@@ -89,7 +91,13 @@ void DropZone::updateLoadingProgress(int current, int total, const QString &text
 {
     m_progress->setRange(0, total);
     m_progress->setValue(current);
+    setLoadingText(text);
+}
+
+void DropZone::setLoadingText(const QString &text)
+{
     m_loading->setText(text);
+    m_progress->setAccessibleName(text);
 }
 
 void DropZone::hideLoading()

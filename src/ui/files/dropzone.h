@@ -30,6 +30,7 @@ private:
     void createLoading();
     void createLayout();
     void setLoading(bool isLoading);
+    void setLoadingText(const QString &text);
 
     QPushButton *m_plus;
     QLabel *m_hint;

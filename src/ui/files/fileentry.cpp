@@ -1,12 +1,12 @@
 #include "ui/files/fileentry.h"
 
+#include "engine/filesurvey.h"
 #include "model/displaytext.h"
 #include "model/formatsize.h"
+#include "model/wipetask.h"
 
 #include <QDir>
-#include <QDirIterator>
 #include <QFileInfo>
-#include <QStringList>
 
 using namespace Qt::StringLiterals;
 
@@ -45,24 +45,10 @@ QString FileEntry::listText() const
 
 qint64 sizeOfFilesBelow(const QString &folder)
 {
-    // One level at a time: the iterator's own recursion goes through junctions, and those of Windows lead
-    // in circles.
-    constexpr QDir::Filters everything =
-        QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
-    qint64 sum = 0;
-    QStringList pending{folder};
-    while (!pending.isEmpty()) {
-        QDirIterator entries(pending.takeLast(), everything);
-        while (entries.hasNext()) {
-            entries.next();
-            const QFileInfo info = entries.fileInfo();
-            if (isLink(info))
-                continue;
-            if (info.isDir())
-                pending.append(info.filePath());
-            else if (info.isFile())
-                sum += info.size();
-        }
-    }
-    return sum;
+    WipeTask task;
+    task.setOperationType(FileWipe);
+    task.setFiles({folder});
+    return static_cast<qint64>(surveyFiles(
+                                   task, [] { return false; }, 0)
+                                   .bytes);
 }

@@ -19,5 +19,6 @@ struct FileEntry
     QString listText() const;
 };
 
-/// Sum of the sizes of all files below the folder, hidden ones included. Links are not followed.
+/// Sum of the sizes of all files that a job on the folder would erase, hidden ones included. Links are not
+/// followed, and what is mounted in it is not entered.
 qint64 sizeOfFilesBelow(const QString &folder);

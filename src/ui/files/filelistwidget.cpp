@@ -1,6 +1,7 @@
 #include "ui/files/filelistwidget.h"
 
 #include "model/displaytext.h"
+#include "ui/style/spokentext.h"
 #include "ui/style/tooltip.h"
 
 #include <QSignalBlocker>
@@ -41,10 +42,13 @@ void FileListWidget::append(const QList<FileEntry> &entries)
     setUpdatesEnabled(false);
     insertItems(firstRow, texts);
     {
-        // A tip changes nothing that is drawn.
+        // Neither a tip nor what is read aloud changes anything that is drawn.
         const QSignalBlocker blocker(model());
-        for (int i = 0; i < entries.size(); ++i)
-            item(firstRow + i)->setToolTip(plainTip(displayText(entries.at(i).path)));
+        for (int i = 0; i < entries.size(); ++i) {
+            QListWidgetItem *const row = item(firstRow + i);
+            row->setToolTip(plainTip(displayText(entries.at(i).path)));
+            row->setData(Qt::AccessibleTextRole, spokenText(row->text()));
+        }
     }
     setUpdatesEnabled(true);
 }

@@ -5,13 +5,16 @@
 #include "ui/files/dropzone.h"
 #include "ui/files/filelistwidget.h"
 #include "ui/style/pagestyle.h"
+#include "ui/style/spokentext.h"
 
 #include <QBoxLayout>
 #include <QDropEvent>
 #include <QGuiApplication>
+#include <QKeySequence>
 #include <QLabel>
 #include <QMimeData>
 #include <QPushButton>
+#include <QShortcut>
 #include <QStackedWidget>
 #include <QUrl>
 
@@ -38,6 +41,7 @@ QPushButton *createToolButton(const QString &text, const QString &name, const QS
     button->setObjectName(name);
     button->setCursor(Qt::PointingHandCursor);
     button->setStyleSheet(styleSheet);
+    button->setAccessibleName(spokenText(text));
     return button;
 }
 
@@ -102,6 +106,8 @@ FileSelectPage::FileSelectPage(QWidget *parent)
     connect(m_remove, &QPushButton::clicked, this, &FileSelectPage::onRemoveSelectedClicked);
     connect(m_clearAll, &QPushButton::clicked, this, &FileSelectPage::onClearAllClicked);
     connect(m_list, &QListWidget::itemSelectionChanged, this, &FileSelectPage::onSelectionChanged);
+    connect(new QShortcut(QKeySequence::Delete, m_list, nullptr, nullptr, Qt::WidgetShortcut),
+            &QShortcut::activated, this, &FileSelectPage::onDeletePressed);
     connect(m_back, &QPushButton::clicked, this, &FileSelectPage::backClicked);
     connect(m_next, &QPushButton::clicked, this, &FileSelectPage::nextClicked);
 }
@@ -246,6 +252,13 @@ void FileSelectPage::onRemoveSelectedClicked()
     }
     m_list->remove(runs);
     updateStats();
+}
+
+// A list that is only shown stays: its content is erased whatever the list says.
+void FileSelectPage::onDeletePressed()
+{
+    if (!m_isReadOnly && m_remove->isEnabled())
+        onRemoveSelectedClicked();
 }
 
 void FileSelectPage::onClearAllClicked()

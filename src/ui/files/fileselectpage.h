@@ -66,6 +66,7 @@ public slots:
     void onSelectionChanged();
 
 private:
+    void onDeletePressed();
     void createToolRow();
     void createLayout();
     void addPaths(const QStringList &paths);

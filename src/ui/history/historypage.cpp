@@ -12,8 +12,10 @@
 #include <QComboBox>
 #include <QFrame>
 #include <QHeaderView>
+#include <QKeySequence>
 #include <QLabel>
 #include <QPushButton>
+#include <QShortcut>
 #include <QStyle>
 #include <QTableWidget>
 
@@ -97,6 +99,8 @@ QWidget *HistoryPage::createFilterBar()
     m_filter->addItem(tr("已完成"), static_cast<int>(WipeStatus::Completed));
     m_filter->addItem(tr("失败"), static_cast<int>(WipeStatus::Failed));
     m_filter->addItem(tr("已取消"), static_cast<int>(WipeStatus::Cancelled));
+    m_filter->setToolTip(m_filter->currentText());
+    connect(m_filter, &QComboBox::currentTextChanged, m_filter, &QComboBox::setToolTip);
     connect(m_filter, &QComboBox::currentIndexChanged, this, [this] { onFilterChanged(); });
     auto *label = new QLabel(tr("状态:"));
     label->setBuddy(m_filter);
@@ -140,6 +144,18 @@ void HistoryPage::createTable()
     for (const int centred : {StatusColumn, ActionColumn})
         m_table->horizontalHeaderItem(centred)->setTextAlignment(Qt::AlignCenter);
     connect(m_table, &QTableWidget::itemSelectionChanged, this, &HistoryPage::onSelectionChanged);
+    connect(m_table, &QTableWidget::cellDoubleClicked, this, &HistoryPage::onViewClicked);
+    // Not when a row is "activated", which on some desktops a single click does.
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter})
+        connectKey(key, *m_view);
+    connectKey(QKeySequence::Delete, *m_delete);
+}
+
+// Without a selection, when the button is disabled, nothing happens.
+void HistoryPage::connectKey(const QKeySequence &key, const QPushButton &button)
+{
+    connect(new QShortcut(key, m_table, nullptr, nullptr, Qt::WidgetShortcut), &QShortcut::activated, &button,
+            &QPushButton::click);
 }
 
 QBoxLayout *HistoryPage::createButtons()

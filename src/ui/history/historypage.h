@@ -12,6 +12,7 @@
 
 QT_FORWARD_DECLARE_CLASS(QBoxLayout)
 QT_FORWARD_DECLARE_CLASS(QComboBox)
+QT_FORWARD_DECLARE_CLASS(QKeySequence)
 QT_FORWARD_DECLARE_CLASS(QPushButton)
 QT_FORWARD_DECLARE_CLASS(QTableWidget)
 QT_FORWARD_DECLARE_CLASS(QTableWidgetItem)
@@ -54,6 +55,7 @@ private:
 
     QWidget *createFilterBar();
     void createTable();
+    void connectKey(const QKeySequence &key, const QPushButton &button);
     QBoxLayout *createButtons();
     void fillTable(const QList<WipeReport> &shown);
     void addRow(const WipeReport &report);

@@ -7,6 +7,7 @@
 #include "ui/files/fileselectpage.h"
 #include "ui/history/historypage.h"
 #include "ui/home/homepage.h"
+#include "ui/mainwindow/recyclebinflow.h"
 #include "ui/mainwindow/shadowcanvas.h"
 #include "ui/mainwindow/sidebar.h"
 #include "ui/methods/methodselectpage.h"
@@ -133,6 +134,7 @@ void MainWindow::createPages()
     for (QWidget *page : std::initializer_list<QWidget *>{m_homePage, m_diskPage, m_filePage, m_methodPage,
                                                           m_progressPage, m_historyPage, m_settingsPage})
         m_pages->addWidget(page);
+    m_bin = new RecycleBinFlow(*m_filePage, this);
 }
 
 void MainWindow::connectPages()
@@ -151,6 +153,7 @@ void MainWindow::connectPages()
     connect(m_methodPage, &MethodSelectPage::backClicked, this, &MainWindow::onBackClicked);
     connect(m_methodPage, &MethodSelectPage::startClicked, this, &MainWindow::onStartWipe);
 
+    connect(m_bin, &RecycleBinFlow::scanned, this, &MainWindow::onRecycleBinScanFinished);
     connect(m_progressPage, &ProgressPage::stopClicked, this, &MainWindow::onStopClicked);
     connect(m_progressPage, &ProgressPage::backToHome, this, &MainWindow::showHome);
     connect(m_historyPage, &HistoryPage::viewCertificate, this, &MainWindow::onViewCertificate);

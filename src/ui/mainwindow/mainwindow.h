@@ -1,9 +1,7 @@
 #pragma once
 
 #include "prompts/prompts.h"
-#include "services/recyclebininfo.h"
 
-#include <QFutureWatcher>
 #include <QMainWindow>
 #include <QMessageBox>
 #include <QPoint>
@@ -15,18 +13,19 @@ QT_FORWARD_DECLARE_CLASS(QStackedWidget)
 QT_FORWARD_DECLARE_CLASS(QVBoxLayout)
 class DiskSelectPage;
 class FileSelectPage;
-class FileSurvey;
 class HistoryPage;
 class HomePage;
 class JobController;
 class MethodSelectPage;
 class ProgressPage;
+class RecycleBinFlow;
 class SettingsPage;
 class Sidebar;
 class TitleBar;
 class WipeEngine;
 class WipeTask;
 struct JobEnd;
+struct RecycleBinInfo;
 
 /// The program's one window: sidebar, title bar and the stack of pages. Turns the user's way through the
 /// pages into a task, hands it to the controller of the job, keeps report and certificate at its end,
@@ -91,38 +90,24 @@ private:
     void connectEngine();
     void connectTitleBar();
     void applyStyleSheet();
+    void setCorners(bool square);
 
     void showPage(int index);
+    void showDisks(int mode);
+    void backFromMethods();
     void showHome();
     void takeDiskSelection();
-    bool hasObstacles();
-    FileSurvey lookAtFiles();
-    bool isConfirmed();
-    bool isReady();
-    QString erasedVolumesText() const;
     void setMenuEnabled(bool enabled);
 
-    bool isRefused(const QString &reason);
     QMessageBox::StandardButton askAboutJob(const Prompts::Box &box);
 
-    static bool keepsReports();
     void keepRecords(JobEnd &end);
-    void keepReport(JobEnd &end);
     void showEnd(const JobEnd &end);
     void viewCertificate(const JobEnd &end);
-    void updateRecycleBinRecords();
-    void exportCertificate(const JobEnd &end) const;
     void leaveCompletedJob(bool success);
 
-    void startRecycleBinScan();
     void offerFreeSpaceWipeOfEmptyBin(const RecycleBinInfo &found);
     void takeRecycleBin(const RecycleBinInfo &found);
-    void leaveRecycleBin();
-
-    QFutureWatcher<RecycleBinInfo> *m_recycleBinWatcher = nullptr; ///< made by the first scan
-    bool m_isRecycleBinMode = false;
-    RecycleBinInfo m_recycleBin;     ///< what the last scan found
-    int m_loadedRecycleBinCount = 0; ///< items that are shown already
 
     Sidebar *m_sidebar = nullptr;
     QListWidget *m_menu = nullptr;
@@ -135,6 +120,7 @@ private:
     ProgressPage *m_progressPage = nullptr;
     HistoryPage *m_historyPage = nullptr;
     SettingsPage *m_settingsPage = nullptr;
+    RecycleBinFlow *m_bin = nullptr; ///< on the file page
     JobController *m_job = nullptr;
     WipeEngine *m_engine = nullptr; ///< the job's
     bool m_asksAboutJob = false;    ///< a box is open that only makes sense while the job runs

@@ -1,49 +1,123 @@
-// From the home page to the start of a job.
+// From the home page through a job to its end.
 #include "ui/mainwindow/mainwindow.h"
 
-#include "engine/filesurvey.h"
-#include "engine/filetargets.h"
-#include "engine/foreseeable.h"
+#include "certificate/certificatedialog.h"
 #include "jobs/jobcontroller.h"
-#include "model/displaytext.h"
 #include "model/wipetask.h"
+#include "platform/files.h"
+#include "platform/platform.h"
 #include "prompts/prompts.h"
-#include "services/diskmanager.h"
-#include "ui/dialogs/confirmdialog.h"
+#include "services/reportdatabase.h"
+#include "ui/dialogs/completedialog.h"
 #include "ui/disks/diskselectpage.h"
-#include "ui/disks/obstaclestext.h"
 #include "ui/files/fileselectpage.h"
+#include "ui/history/historypage.h"
+#include "ui/history/storedreport.h"
+#include "ui/mainwindow/jobquestion.h"
+#include "ui/mainwindow/recordkeeping.h"
+#include "ui/mainwindow/recyclebinflow.h"
+#include "ui/mainwindow/waitnotice.h"
 #include "ui/methods/methodselectpage.h"
 #include "ui/progress/progresspage.h"
 
-#include <QGuiApplication>
-#include <QScopeGuard>
+#include <QDebug>
+#include <QStackedWidget>
+
+namespace {
+
+// Those that have not vanished. What cannot be examined stays: the job then fails on it, instead of telling
+// that all was erased.
+QStringList existing(QStringList paths)
+{
+    platform::Files &files = platform::Platform::current().files();
+    paths.removeIf([&files](const QString &path) { return isAbsent(files.info(path).status()); });
+    return paths;
+}
+
+} // namespace
 
 void MainWindow::onDiskWipeClicked()
 {
     // The menu leads home without a way back through the bin.
-    leaveRecycleBin();
+    m_bin->leave();
     m_job->newTask(DiskWipe);
-    m_diskPage->setMode(DiskSelectPage::WipeDisk);
-    m_diskPage->refresh();
-    showPage(DiskSelect);
+    showDisks(DiskSelectPage::WipeDisk);
 }
 
 void MainWindow::onFreeSpaceWipeClicked()
 {
-    leaveRecycleBin();
+    m_bin->leave();
     m_job->newTask(FreeSpaceWipe);
-    m_diskPage->setMode(DiskSelectPage::WipeFreeSpace);
+    showDisks(DiskSelectPage::WipeFreeSpace);
+}
+
+// A drive that is asleep takes seconds to answer.
+void MainWindow::showDisks(int mode)
+{
+    const WaitNotice notice(*m_pages, tr("Reading drives..."));
+    m_diskPage->setMode(mode);
     m_diskPage->refresh();
     showPage(DiskSelect);
 }
 
 void MainWindow::onFileWipeClicked()
 {
-    leaveRecycleBin();
+    m_bin->leave();
     m_job->newTask(FileWipe);
     m_filePage->clearFiles();
     showPage(FileSelect);
+}
+
+void MainWindow::onRecycleBinWipeClicked()
+{
+    m_bin->begin();
+    showPage(FileSelect);
+    m_bin->scan();
+}
+
+void MainWindow::onRecycleBinScanFinished()
+{
+    m_filePage->hideLoading();
+    // The user left meanwhile.
+    if (m_currentPage != FileSelect || !m_bin->isActive())
+        return;
+    const RecycleBinInfo found = m_bin->result();
+    if (found.fileCount < 1 && found.unrecorded.isEmpty())
+        offerFreeSpaceWipeOfEmptyBin(found);
+    else
+        takeRecycleBin(found);
+}
+
+void MainWindow::offerFreeSpaceWipeOfEmptyBin(const RecycleBinInfo &found)
+{
+    m_bin->leave();
+    showHome();
+    const QString question = tr("The Recycle Bin is already empty.\n\n"
+                                "However, previously deleted files may still be recoverable.\n"
+                                "Would you like to wipe free space to ensure they cannot be recovered?");
+    const QStringList texts = QStringList{question} + RecycleBinFlow::besideItems(found);
+    if (Prompts::current().confirms(this, QMessageBox::Question, tr("Recycle Bin is Empty"),
+                                    texts.join(QStringLiteral("\n\n"))))
+        onFreeSpaceWipeClicked();
+}
+
+void MainWindow::takeRecycleBin(const RecycleBinInfo &found)
+{
+    WipeTask &task = m_job->newTask(FileWipe);
+    task.setFiles(existing(found.doomedPaths()));
+    task.setTargetsAreNamed(false);
+    task.setOmissions(found.omissions());
+    m_bin->show(found);
+}
+
+void MainWindow::loadMoreRecycleBinItems()
+{
+    m_bin->showMore();
+}
+
+void MainWindow::onRecycleBinListScrolled()
+{
+    m_bin->onScrolled();
 }
 
 void MainWindow::onBackClicked()
@@ -51,11 +125,11 @@ void MainWindow::onBackClicked()
     switch (m_currentPage) {
     case DiskSelect:
     case FileSelect:
-        leaveRecycleBin();
+        m_bin->leave();
         showHome();
         break;
     case MethodSelect:
-        showPage(m_job->task() && m_job->task()->operationType() == FileWipe ? FileSelect : DiskSelect);
+        backFromMethods();
         break;
     case Progress:
         break;
@@ -63,6 +137,17 @@ void MainWindow::onBackClicked()
         showHome();
         break;
     }
+}
+
+void MainWindow::backFromMethods()
+{
+    if (m_job->task() && m_job->task()->operationType() == FileWipe) {
+        showPage(FileSelect);
+        return;
+    }
+    // The page reads the drives again whenever it is shown.
+    const WaitNotice notice(*m_pages, tr("Reading drives..."));
+    showPage(DiskSelect);
 }
 
 void MainWindow::onNextClicked()
@@ -74,7 +159,7 @@ void MainWindow::onNextClicked()
         break;
     case FileSelect:
         // The content of the bin was handed over when the scan ended.
-        if (m_job->task() && !m_isRecycleBinMode) {
+        if (m_job->task() && !m_bin->isActive()) {
             m_job->task()->setFiles(m_filePage->files());
             m_job->task()->setOperationType(FileWipe);
         }
@@ -101,114 +186,17 @@ void MainWindow::takeDiskSelection()
         m_job->task()->setOperationType(isWholeDisk ? DiskWipe : PartitionWipe);
 }
 
-// Tells what is in the way of erasing the disk of the current task.
-bool MainWindow::hasObstacles()
-{
-    const OperationType type = m_job->task()->operationType();
-    if (type != DiskWipe && type != PartitionWipe)
-        return false;
-    const QString obstacles = ObstaclesText::of(DiskManager::obstacles(m_job->task()->disk().diskNumber));
-    if (obstacles.isEmpty())
-        return false;
-    Prompts::current().show(this, {QMessageBox::Warning,
-                                   tr("This Disk Cannot Be Erased"),
-                                   obstacles,
-                                   QMessageBox::Ok,
-                                   QMessageBox::NoButton,
-                                   {},
-                                   Qt::PlainText});
-    return true;
-}
-
-// A job on one partition goes over all volumes of its disk; empty when that says nothing new.
-QString MainWindow::erasedVolumesText() const
-{
-    const QList<PartitionInfo> partitions = m_job->task()->disk().partitions;
-    if (m_job->task()->operationType() != PartitionWipe || partitions.size() < 2)
-        return {};
-    QStringList names;
-    for (const PartitionInfo &partition : partitions)
-        names.append(displayText(partition.driveLetter));
-    return tr("All of these will be erased, not only %1\n%2")
-        .arg(displayText(m_job->task()->partition().driveLetter), names.join(QStringLiteral(", ")));
-}
-
-// A walk through all the folders takes its time. What asks of every file where its content lies takes more,
-// and is left to the job.
-FileSurvey MainWindow::lookAtFiles()
-{
-    if (m_job->task()->operationType() != FileWipe)
-        return {};
-    rememberTargets(*m_job->task());
-    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-    const auto restore = qScopeGuard(QGuiApplication::restoreOverrideCursor);
-    return surveyFiles(
-        *m_job->task(), [] { return false; }, 0);
-}
-
-bool MainWindow::isConfirmed()
-{
-    // What an earlier confirmation has left.
-    m_job->task()->setWholeDrive(false);
-    const FileSurvey survey = lookAtFiles();
-    if (const QString problem = survey.roomProblem(); !problem.isEmpty()) {
-        Prompts::current().warning(this, tr("These Files Cannot Be Erased"), problem);
-        return false;
-    }
-    ConfirmDialog confirmation(this);
-    if (const QString volumes = erasedVolumesText(); !volumes.isEmpty())
-        confirmation.addNotice(volumes);
-    if (m_job->task()->operationType() == FreeSpaceWipe) {
-        const OutcomeRecord foreseen = foreseeableShortfalls(*m_job->task());
-        if (const QStringList lines = foreseen.shortfallLines() + foreseen.noteLines(); !lines.isEmpty())
-            confirmation.addNotice(lines.join(u'\n'));
-    }
-    if (m_job->task()->operationType() == FileWipe) {
-        QStringList lines = foreseeableShortfalls(*m_job->task(), survey).shortfallLines();
-        if (const QString others = survey.otherNamesText(); !others.isEmpty())
-            lines.append(others);
-        if (!lines.isEmpty())
-            confirmation.addNotice(lines.join(u'\n'));
-    }
-    if (m_job->task()->operationType() == DiskWipe) {
-        const QList<Shortfall> foreseen = foreseeableShortfalls(*m_job->task()).shortfalls();
-        if (!foreseen.isEmpty())
-            confirmation.offerWholeDrive(foreseen.constFirst().bytes);
-    }
-    if (confirmation.exec() != QDialog::Accepted)
-        return false;
-    m_job->task()->setWholeDrive(confirmation.wantsWholeDrive());
-    return true;
-}
-
-// The system writes out what it holds back for a volume, which takes its time.
-bool MainWindow::isReady()
-{
-    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-    const QString problem = m_job->makeReady(keepsReports());
-    QGuiApplication::restoreOverrideCursor();
-    if (problem.isEmpty())
-        return true;
-    const QString title = m_job->task()->operationType() == FreeSpaceWipe ? tr("This Volume Cannot Be Erased")
-                                                                          : tr("This Disk Cannot Be Erased");
-    Prompts::current().warning(this, title, problem);
-    return false;
-}
-
-bool MainWindow::isRefused(const QString &reason)
-{
-    if (!reason.isEmpty())
-        Prompts::current().warning(this, tr("The Erasure Cannot Start"), reason);
-    return !reason.isEmpty();
-}
-
 void MainWindow::onStartWipe()
 {
-    if (!m_job->task() || isRefused(m_job->pendingJob()) || hasObstacles())
+    if (!m_job->task())
+        return;
+    JobQuestion question(*m_job, *this);
+    if (question.isRefused(m_job->pendingJob()) || !question.isPossible())
         return;
     const WipeMethod method = m_methodPage->selectedMethod();
     m_job->task()->setMethod(method);
-    if (!isConfirmed() || !isReady())
+    if (!question.isConfirmed(m_bin->isActive() ? m_bin->lines() : QStringList()) ||
+        !question.isReady(recordkeeping::isWanted()))
         return;
     m_progressPage->reset();
     m_progressPage->setMethod(method.name);
@@ -220,7 +208,7 @@ void MainWindow::onStartWipe()
         return;
     setMenuEnabled(true);
     showPage(MethodSelect);
-    isRefused(refusal);
+    question.isRefused(refusal);
 }
 
 // A job that ends meanwhile takes the question back, which counts as closed then.
@@ -247,4 +235,76 @@ void MainWindow::onStopClicked()
     m_job->stop();
     setMenuEnabled(true);
     showHome();
+}
+
+void MainWindow::onWipeCompleted(bool success)
+{
+    if (!m_job->task()) {
+        setMenuEnabled(true);
+        qWarning() << "m_currentTask is null";
+        showHome();
+        return;
+    }
+    m_job->complete(success);
+}
+
+// What every end has, also one that nobody is there to see.
+void MainWindow::keepRecords(JobEnd &end)
+{
+    setMenuEnabled(true);
+    if (m_bin->isActive())
+        m_bin->updateRecords();
+    recordkeeping::store(end);
+    if (end.isStored)
+        m_historyPage->loadHistory();
+    recordkeeping::exportCertificate(end);
+}
+
+void MainWindow::showEnd(const JobEnd &end)
+{
+    // The question would be about a job that there is no more.
+    if (m_asksAboutJob)
+        Prompts::current().withdraw();
+    CompleteDialog dialog(end.success, end.hasRecord ? end.report.certificateId : QString(), this,
+                          end.outcome);
+    if (!end.success)
+        dialog.addLeftUnmounted(end.leftUnmounted);
+    dialog.addNotStored(end.notStoredBecause);
+    if (end.hasRecord) {
+        connect(&dialog, &CompleteDialog::viewCertificateClicked, this,
+                [this, &end] { viewCertificate(end); });
+    }
+    dialog.exec();
+    leaveCompletedJob(end.success);
+}
+
+// The stored record where there is one: that is what an auditor will see.
+void MainWindow::viewCertificate(const JobEnd &end)
+{
+    if (end.isStored)
+        onViewCertificate(end.report.certificateId);
+    else
+        CertificateDialog(end.report, this, end.outcome).exec();
+}
+
+void MainWindow::leaveCompletedJob(bool success)
+{
+    const bool offersFreeSpace = m_bin->isActive() && success;
+    m_bin->leave();
+    if (offersFreeSpace &&
+        Prompts::current().confirms(this, QMessageBox::Question, tr("Wipe Free Space?"),
+                                    tr("Recycle Bin files have been securely wiped!\n\n"
+                                       "Would you also like to wipe free space to ensure previously\n"
+                                       "emptied files cannot be recovered?\n\n"
+                                       "This may take longer depending on available free space."))) {
+        onFreeSpaceWipeClicked();
+        return;
+    }
+    showHome();
+}
+
+void MainWindow::onViewCertificate(const QString &certificateId)
+{
+    if (const std::optional<WipeReport> report = storedReport(certificateId, this))
+        CertificateDialog(*report, this, ReportDatabase::instance().outcome(certificateId)).exec();
 }

@@ -4,6 +4,7 @@
 #include "jobs/jobcontroller.h"
 #include "prompts/prompts.h"
 #include "services/linkmanager.h"
+#include "ui/mainwindow/sidebar.h"
 #include "ui/titlebar/titlebar.h"
 
 #include <QApplication>
@@ -13,8 +14,11 @@
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPushButton>
+#include <QStackedWidget>
 #include <QVBoxLayout>
 #include <QWindow>
+
+#include <initializer_list>
 
 using namespace Qt::StringLiterals;
 
@@ -100,8 +104,26 @@ void MainWindow::changeEvent(QEvent *event)
         const int margin = isMaximized() ? 0 : ShadowMargin;
         m_outerLayout->setContentsMargins(margin, margin, margin, margin);
         m_titleBar->setMaximized(isMaximized());
+        setCorners(isMaximized());
     }
     QMainWindow::changeEvent(event);
+}
+
+// At the edges of the screen nothing stands behind rounded corners.
+void MainWindow::setCorners(bool square)
+{
+    QWidget *const container = m_outerLayout->itemAt(0)->widget();
+    for (QWidget *widget : std::initializer_list<QWidget *>{container, m_sidebar, m_titleBar, m_pages}) {
+        const QString rule = u"#%1 { border-radius: 0px; }"_s.arg(widget->objectName());
+        const QString before = widget->styleSheet();
+        QString sheet = before;
+        sheet.remove(rule);
+        if (square)
+            sheet += rule;
+        // A sheet that is set again polishes all that is in the widget.
+        if (sheet != before)
+            widget->setStyleSheet(sheet);
+    }
 }
 
 void MainWindow::mousePressEvent(QMouseEvent *event)

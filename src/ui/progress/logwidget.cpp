@@ -1,11 +1,10 @@
 #include "ui/progress/logwidget.h"
 
+#include "platform/wholefile.h"
 #include "prompts/prompts.h"
 
 #include <QClipboard>
 #include <QDateTime>
-#include <QDebug>
-#include <QFile>
 #include <QGuiApplication>
 #include <QPushButton>
 #include <QTextCursor>
@@ -108,12 +107,7 @@ void LogWidget::onSaveClicked()
         Prompts::current().fileToSave(this, tr("保存日志"), proposal, tr("文本文件 (*.txt)"));
     if (path.isEmpty())
         return;
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Text)) {
-        qDebug() << "[LogWidget] The log could not be opened for writing:" << file.errorString();
-        return;
-    }
-    const QByteArray text = m_view->toPlainText().toUtf8();
-    if (file.write(text) != text.size() || !file.flush())
-        qDebug() << "[LogWidget] The log could not be written whole:" << file.errorString();
+    platform::WholeFile file(path, QIODevice::Text);
+    if (file.open())
+        file.commit(m_view->toPlainText().toUtf8());
 }

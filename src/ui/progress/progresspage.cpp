@@ -1,6 +1,7 @@
 #include "ui/progress/progresspage.h"
 
 #include "ui/progress/wiperate.h"
+#include "ui/style/spokentext.h"
 
 #include <QLabel>
 #include <QProgressBar>
@@ -73,11 +74,11 @@ ProgressPage::ProgressPage(QWidget *parent)
 
 void ProgressPage::addHeader(QBoxLayout *layout)
 {
-    QLabel *const icon = makeLabel(u"🔄"_s, u"progressIcon"_s, Qt::AlignCenter);
-    icon->setStyleSheet(u"font-size: 64px;"_s);
+    m_icon = makeLabel(u"🔄"_s, u"progressIcon"_s, Qt::AlignCenter);
+    m_icon->setStyleSheet(u"font-size: 64px;"_s);
     m_statusLabel = makeLabel(QString(), u"progressStatus"_s, Qt::AlignCenter);
     m_methodLabel = makeLabel(QString(), u"progressMethod"_s, Qt::AlignCenter);
-    layout->addWidget(icon);
+    layout->addWidget(m_icon);
     layout->addWidget(m_statusLabel);
     layout->addWidget(m_methodLabel);
 }
@@ -99,6 +100,7 @@ QBoxLayout *ProgressPage::makeBarRow()
     m_bar->setObjectName(u"mainProgress"_s);
     m_bar->setRange(0, 100 * StepsPerPercent);
     m_bar->setValue(0);
+    m_bar->setAccessibleName(tr("擦除进度"));
     m_bar->setTextVisible(false);
     m_bar->setFixedHeight(12);
     m_percentLabel = makeLabel(u"0%"_s, u"percentLabel"_s, Qt::AlignRight | Qt::AlignVCenter);
@@ -145,6 +147,7 @@ void ProgressPage::addButtons(QBoxLayout *layout)
     connect(m_pauseButton, &QPushButton::clicked, this, &ProgressPage::onPauseClicked);
     m_stopButton = makeButton(u"dangerBtn"_s);
     m_stopButton->setText(tr("⏹️ 停止"));
+    m_stopButton->setAccessibleName(spokenText(m_stopButton->text()));
     connect(m_stopButton, &QPushButton::clicked, this, &ProgressPage::stopClicked);
 
     auto *const row = new QHBoxLayout;
@@ -233,5 +236,11 @@ void ProgressPage::onPauseClicked()
 void ProgressPage::showPaused()
 {
     m_pauseButton->setText(m_isPaused ? tr("▶️ 继续") : tr("⏸️ 暂停"));
+    m_pauseButton->setAccessibleName(spokenText(m_pauseButton->text()));
+    // The job does not know of it.
+    m_pauseButton->setToolTip(m_isPaused ? tr("恢复此页面的显示；擦除并未停止")
+                                         : tr("只暂停此页面的显示；擦除会继续进行"));
+    m_pauseButton->setAccessibleDescription(m_pauseButton->toolTip());
     m_statusLabel->setText(m_isPaused ? tr("已暂停") : tr("正在擦除数据..."));
+    m_icon->setAccessibleName(m_statusLabel->text());
 }

@@ -61,6 +61,7 @@ private:
     double m_currentProgress = 0.0; // percent
     double m_currentSpeed = 0.0;    // bytes per second
     QTimer *m_timer = nullptr;
+    QLabel *m_icon = nullptr;
     QLabel *m_statusLabel = nullptr;
     QLabel *m_methodLabel = nullptr;
     QProgressBar *m_bar = nullptr;

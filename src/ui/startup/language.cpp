@@ -56,6 +56,14 @@ void installLanguage(const QString &code)
     }
 }
 
+// What the program's own catalogue does not have, without a word: a language that lacks one of these has it
+// in the sources.
+void installBeside(QTranslator &beside, const QString &path)
+{
+    if (QCoreApplication::instance() && QFile::exists(path) && beside.load(path))
+        QCoreApplication::installTranslator(&beside);
+}
+
 } // namespace
 
 QString initTranslation(const QSettings &store, const QString &systemLocale)
@@ -65,5 +73,10 @@ QString initTranslation(const QSettings &store, const QString &systemLocale)
     QString code = chooseLanguage(usersettings::readString(store, usersettings::Language), systemLocale);
     installLanguage(code);
     qDebug() << "=======================================";
+    Q_INIT_RESOURCE(qttexts);
+    static QTranslator supplement;
+    installBeside(supplement, translations::supplement(code));
+    static QTranslator textsOfQt;
+    installBeside(textsOfQt, u":/qttexts/qt_%1.qm"_s.arg(code));
     return code;
 }

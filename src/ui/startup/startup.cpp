@@ -7,6 +7,7 @@
 #include "services/linkmanager.h"
 #include "ui/mainwindow/mainwindow.h"
 #include "ui/startup/language.h"
+#include "ui/style/lightpalette.h"
 #include "ui/style/uiresources.h"
 
 #include <QApplication>
@@ -72,6 +73,7 @@ int runDesktopProgram(int &argc, char **argv)
     platform::provideComputerName();
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     QApplication application(argc, argv);
+    QApplication::setPalette(lightPalette());
     nameApplication();
     openLog();
     const std::unique_ptr<QSettings> settings = usersettings::open();

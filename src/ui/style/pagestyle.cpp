@@ -1,5 +1,7 @@
 #include "ui/style/pagestyle.h"
 
+#include "ui/style/spokentext.h"
+
 #include <QLabel>
 #include <QPushButton>
 #include <QSpacerItem>
@@ -16,6 +18,7 @@ void asNavigation(QPushButton &button, const QString &name, const QString &style
     button.setFixedSize(140, 45);
     button.setCursor(Qt::PointingHandCursor);
     button.setStyleSheet(styleSheet);
+    button.setAccessibleName(spokenText(button.text()));
 }
 
 } // namespace

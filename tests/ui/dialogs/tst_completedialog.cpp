@@ -114,6 +114,7 @@ void tst_CompleteDialog::failureOffersNoCertificateEvenWithAnId()
         const CompleteDialog dialog(false, id, nullptr);
         QCOMPARE(dialog.windowTitle(), u"Erase Failed"_s);
         QCOMPARE(textOf(dialog, u"dialogIcon"_s), u"❌"_s);
+        QCOMPARE(dialog.findChild<QLabel *>(u"dialogIcon"_s)->accessibleName(), u"Error"_s);
         QCOMPARE(dialog.findChild<QLabel *>(u"dialogIcon"_s)->styleSheet(), u"font-size: 64px;"_s);
         QCOMPARE(textOf(dialog, u"dialogTitle"_s), u"Erase Failed"_s);
         QCOMPARE(dialog.findChild<QLabel *>(u"dialogTitle"_s)->styleSheet(),

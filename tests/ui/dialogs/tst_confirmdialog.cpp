@@ -9,8 +9,10 @@
 #include <QLayout>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTextEdit>
 #include <QTranslator>
 #include <QWidget>
 
@@ -52,6 +54,10 @@ private slots:
     void cancelRejects();
     void escapeRejects();
     void enterAcceptsOnlyAfterTheWord();
+    void showsTheTarget_data();
+    void showsTheTarget();
+    void aLongTargetIsScrolled();
+    void theTargetIsNoMarkup();
     void offersTheWholeDrive_data();
     void offersTheWholeDrive();
     void theWholeDriveIsChosenByItsBox();
@@ -94,6 +100,7 @@ void tst_ConfirmDialog::showsItsTexts()
     const QList<QLabel *> labels = dialog.findChildren<QLabel *>();
     QCOMPARE(labels.size(), 4);
     QCOMPARE(labels.at(0)->text(), u"⚠️"_s);
+    QCOMPARE(labels.at(0)->accessibleName(), u"Warning"_s);
     QCOMPARE(labels.at(0)->styleSheet(), u"font-size: 48px;"_s);
     QCOMPARE(labels.at(3)->text(), u"Type <b>ERASE</b> to confirm:"_s);
     QCOMPARE(labels.at(3)->textFormat(), Qt::RichText);
@@ -261,6 +268,61 @@ void tst_ConfirmDialog::enterAcceptsOnlyAfterTheWord()
     QTest::keyClick(input(dialog), Qt::Key_Return);
     QCOMPARE(accepted.count(), 1);
     QCOMPARE(rejected.count(), 0);
+}
+
+void tst_ConfirmDialog::showsTheTarget_data()
+{
+    QTest::addColumn<QStringList>("lines");
+    QTest::newRow("one line") << QStringList{u"1 file, 3 B"_s};
+    QTest::newRow("a drive and volumes")
+        << QStringList{u"drive 2: model Contoso SSD 1000, serial number S3Z9NB0K, 931.51 GB, /dev/sdb"_s,
+                       u"  volume /media/data, ext4, 500.00 GB, 12.00 GB free"_s};
+    QTest::newRow("a path that is one long word") << QStringList{u"/home/"_s + QString(150, u'x')};
+}
+
+void tst_ConfirmDialog::showsTheTarget()
+{
+    QFETCH(const QStringList, lines);
+    ConfirmDialog dialog(nullptr);
+    dialog.showTarget(lines);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    const auto *const target = dialog.findChild<QTextEdit *>(u"dialogTarget"_s);
+    QCOMPARE(target->toPlainText(), lines.join(u'\n'));
+    QVERIFY(target->isReadOnly());
+    // Seen whole, without a bar, and no higher than that.
+    QVERIFY(target->viewport()->height() < target->document()->size().height() + 6);
+    QCOMPARE(target->verticalScrollBar()->maximum(), 0);
+    QCOMPARE(target->horizontalScrollBar()->maximum(), 0);
+    // The given texts stand as ever, with the target between them.
+    const ConfirmDialog given(nullptr);
+    QCOMPARE(dialog.width(), given.width());
+    QVERIFY(dialog.height() >= given.height() + target->height());
+    const auto *const message = dialog.findChild<QLabel *>(u"dialogMessage"_s);
+    QVERIFY(message->height() >= message->heightForWidth(message->width()));
+    QVERIFY(target->geometry().top() > message->geometry().bottom());
+    QVERIFY(target->geometry().bottom() < dialog.findChild<QLabel *>(u"dialogPrompt"_s)->geometry().top());
+    QVERIFY(confirmButton(dialog)->geometry().bottom() < dialog.height() - 29);
+    QVERIFY(input(dialog)->hasFocus());
+}
+
+void tst_ConfirmDialog::aLongTargetIsScrolled()
+{
+    ConfirmDialog dialog(nullptr);
+    dialog.showTarget(QStringList(200, u"  volume E:"_s));
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    QVERIFY2(dialog.height() < 560, qPrintable(QString::number(dialog.height())));
+    const auto *const target = dialog.findChild<QTextEdit *>(u"dialogTarget"_s);
+    QVERIFY(target->verticalScrollBar()->maximum() > 0);
+    QCOMPARE(target->verticalScrollBar()->value(), 0);
+}
+
+void tst_ConfirmDialog::theTargetIsNoMarkup()
+{
+    ConfirmDialog dialog(nullptr);
+    dialog.showTarget({u"<b>letters</b>.txt"_s});
+    QCOMPARE(dialog.findChild<QTextEdit *>(u"dialogTarget"_s)->toPlainText(), u"<b>letters</b>.txt"_s);
 }
 
 void tst_ConfirmDialog::offersTheWholeDrive_data()

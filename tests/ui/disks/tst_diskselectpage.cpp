@@ -149,6 +149,7 @@ private slots:
     void aSystemPartitionIsGreyAndRed();
     void rowsCarryTheirData();
     void namesAreShownCleaned();
+    void nothingIsReadAloudWithItsPicture();
     void percentSignsInNamesStayAsTheyAre();
     void tipsShowMarkupAsText();
     void onlyDisksWithPartitionsAreExpanded();
@@ -337,6 +338,28 @@ void tst_DiskSelectPage::rowsCarryTheirData()
     QCOMPARE(carried(shown.row(1, 0)), (QVariantList{1, 1, 0, QVariant(), false}));
 }
 
+void tst_DiskSelectPage::nothingIsReadAloudWithItsPicture()
+{
+    UsualMachine usual;
+    const Shown shown;
+    for (const int disk : {UsualMachine::SystemDrive, UsualMachine::Stick}) {
+        QList<const QTreeWidgetItem *> rows{shown.row(disk)};
+        for (int i = 0; i < rows.constFirst()->childCount(); ++i)
+            rows.append(rows.constFirst()->child(i));
+        for (const QTreeWidgetItem *row : std::as_const(rows)) {
+            for (const int column : {0, 4}) {
+                const QString spoken = row->data(column, Qt::AccessibleTextRole).toString();
+                QVERIFY2(!spoken.isEmpty() && spoken.at(0).isLetter(), qPrintable(spoken));
+                QVERIFY2(row->text(column).endsWith(spoken), qPrintable(spoken));
+            }
+        }
+    }
+    shown.click(UsualMachine::SystemDrive);
+    QVERIFY(shown.notice.isVisible());
+    QCOMPARE(shown.notice.accessibleName(), u"Cannot select system disk for wiping."_s);
+    QCOMPARE(shown.back.accessibleName(), u"Back"_s);
+}
+
 void tst_DiskSelectPage::namesAreShownCleaned()
 {
     UsualMachine usual;
@@ -350,8 +373,8 @@ void tst_DiskSelectPage::namesAreShownCleaned()
     const Shown shown;
     QVERIFY(!shown.row(UsualMachine::Stick)->text(0).contains(QChar(1)));
     const QTreeWidgetItem *row = shown.row(UsualMachine::Stick, 0);
-    QCOMPARE(row->text(0), u"📁 /media/txt.exe (ab)"_s);
-    QCOMPARE(row->text(2), u"ext4"_s);
+    QCOMPARE(row->text(0), u"📁 /media/[U+202E]txt.exe (a[U+2066]b)"_s);
+    QCOMPARE(row->text(2), u"ex[U+001B]t4"_s);
     // The record keeps the name that opens the volume.
     shown.click(UsualMachine::Stick, 0);
     QCOMPARE(shown.page.selectedPartition().driveLetter, u"/media/\u202Etxt.exe"_s);

@@ -164,6 +164,9 @@ private slots:
     void removingTakesTheSelectedRows();
     void aRemovedFileCanBeAddedAgain();
     void removingEverythingReturnsToTheDropZone();
+    void deleteRemovesWhatIsSelected();
+    void deleteLeavesAListThatIsOnlyShown();
+    void nothingIsReadAloudWithItsPicture();
     void rowsOfTheWindowAreNotRemoved();
     void clearingAsksFirst();
     void clearingEmptiesTheList();
@@ -570,6 +573,63 @@ void tst_FileSelectPage::removingEverythingReturnsToTheDropZone()
     QCOMPARE(shown.stack.currentIndex(), 0);
     QVERIFY(!shown.next.isEnabled() && !shown.clearAll.isEnabled() && !shown.remove.isEnabled());
     QCOMPARE(shown.stats.text(), u"Added 0 items, total 0 B"_s);
+}
+
+void tst_FileSelectPage::deleteRemovesWhatIsSelected()
+{
+    const QTemporaryDir folder;
+    const QString one = writeFile(folder.filePath(u"one"_s), "1");
+    const QString two = writeFile(folder.filePath(u"two"_s), "2");
+    ScriptedPrompts prompts;
+    prompts.filesToOpenAnswers = {{one, two}};
+    Shown shown;
+    QVERIFY(QTest::qWaitForWindowActive(&shown.page));
+    shown.click(shown.addFiles);
+    shown.list.setFocus();
+    QTest::keyClick(&shown.list, Qt::Key_Delete); // nothing is selected
+    QCOMPARE(shown.page.files(), QStringList({one, two}));
+    shown.clickRow(0);
+    QTest::keyClick(&shown.list, Qt::Key_Delete);
+    QCOMPARE(shown.page.files(), QStringList{two});
+    // Only where the list has the focus.
+    shown.clickRow(0);
+    shown.next.setFocus();
+    QTest::keyClick(&shown.next, Qt::Key_Delete);
+    QCOMPARE(shown.page.files(), QStringList{two});
+}
+
+void tst_FileSelectPage::deleteLeavesAListThatIsOnlyShown()
+{
+    const QTemporaryDir folder;
+    ScriptedPrompts prompts;
+    prompts.filesToOpenAnswers = {{writeFile(folder.filePath(u"one"_s), "1")}};
+    Shown shown;
+    QVERIFY(QTest::qWaitForWindowActive(&shown.page));
+    shown.click(shown.addFiles);
+    shown.page.setReadOnly(true);
+    shown.clickRow(0);
+    QTest::keyClick(&shown.list, Qt::Key_Delete);
+    QCOMPARE(shown.list.count(), 1);
+    QCOMPARE(shown.page.files().size(), 1);
+}
+
+void tst_FileSelectPage::nothingIsReadAloudWithItsPicture()
+{
+    const QTemporaryDir folder;
+    ScriptedPrompts prompts;
+    prompts.filesToOpenAnswers = {{writeFile(folder.filePath(u"one"_s), "1")}};
+    Shown shown;
+    shown.click(shown.addFiles);
+    QCOMPARE(shown.list.item(0)->data(Qt::AccessibleTextRole).toString(), u"one  (1 B)"_s);
+    QCOMPARE(shown.addFiles.accessibleName(), u"Add Files"_s);
+    QCOMPARE(shown.addFolder.accessibleName(), u"Add Folder"_s);
+    QCOMPARE(shown.plus.accessibleName(), u"Add Files"_s);
+    QCOMPARE(shown.back.accessibleName(), u"Back"_s);
+    QCOMPARE(shown.next.accessibleName(), u"Next"_s);
+    shown.page.showLoading(u"Scanning..."_s);
+    QCOMPARE(shown.progress.accessibleName(), u"Scanning..."_s);
+    shown.page.updateLoadingProgress(1, 2, u"Scanning on drive E:"_s);
+    QCOMPARE(shown.progress.accessibleName(), u"Scanning on drive E:"_s);
 }
 
 void tst_FileSelectPage::rowsOfTheWindowAreNotRemoved()

@@ -7,7 +7,9 @@
 #include "support/scriptedprompts.h"
 #include "support/testfiles.h"
 #include "support/userdata.h"
+#include "ui/style/uiresources.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
 #include <QDate>
@@ -127,6 +129,10 @@ private slots:
     void everyStatusHasItsColour_data();
     void everyStatusHasItsColour();
     void namesAreShownCleaned();
+    void keysAndADoubleClickOpenTheCertificate_data();
+    void keysAndADoubleClickOpenTheCertificate();
+    void deleteAsksAndDeletes();
+    void theFilterShowsWholeWords();
     void aDamagedReportDoesNotBreakThePage_data();
     void aDamagedReportDoesNotBreakThePage();
     void aDamagedReportCanBeDeleted();
@@ -326,13 +332,81 @@ void tst_HistoryPage::everyStatusHasItsColour()
     QCOMPARE(shown.table.item(0, 3)->foreground().color().name(), color);
 }
 
+void tst_HistoryPage::keysAndADoubleClickOpenTheCertificate_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::newRow("Return") << int(Qt::Key_Return);
+    QTest::newRow("Enter") << int(Qt::Key_Enter);
+    QTest::newRow("double click") << 0;
+}
+
+void tst_HistoryPage::keysAndADoubleClickOpenTheCertificate()
+{
+    QFETCH(const int, key);
+    store({reportOf(1), reportOf(2)});
+    Shown shown;
+    QVERIFY(QTest::qWaitForWindowActive(&shown.page));
+    shown.table.setFocus();
+    QSignalSpy opened(&shown.page, &HistoryPage::viewCertificate);
+    if (key != 0)
+        QTest::keyClick(&shown.table, Qt::Key(key)); // no row is chosen
+    shown.clickRow(1);
+    QCOMPARE(opened.count(), 0);
+    if (key != 0)
+        QTest::keyClick(&shown.table, Qt::Key(key));
+    else
+        QTest::mouseDClick(shown.table.viewport(), Qt::LeftButton, {},
+                           shown.table.visualItemRect(shown.table.item(1, 0)).center());
+    QCOMPARE(opened.count(), 1);
+    QCOMPARE(opened.constFirst().constFirst().toString(), shown.ids().at(1));
+}
+
+void tst_HistoryPage::deleteAsksAndDeletes()
+{
+    store({reportOf(1), reportOf(2)});
+    ScriptedPrompts prompts;
+    Shown shown;
+    QVERIFY(QTest::qWaitForWindowActive(&shown.page));
+    shown.table.setFocus();
+    QTest::keyClick(&shown.table, Qt::Key_Delete); // no row is chosen
+    QVERIFY(prompts.boxes.isEmpty());
+    shown.clickRow(0);
+    const QString doomed = shown.ids().at(0);
+    prompts.buttons = {QMessageBox::No, QMessageBox::Yes};
+    QTest::keyClick(&shown.table, Qt::Key_Delete);
+    QCOMPARE(prompts.boxes.size(), 1);
+    QCOMPARE(storedIds().size(), 2);
+    QTest::keyClick(&shown.table, Qt::Key_Delete);
+    QCOMPARE(storedIds().size(), 1);
+    QVERIFY(!storedIds().contains(doomed));
+}
+
+void tst_HistoryPage::theFilterShowsWholeWords()
+{
+    // With it the popup is a list below the box, and not a menu over it.
+    addUiResources();
+    Shown shown;
+    shown.page.setStyleSheet(QString::fromUtf8(contentOf(u":/styles/style.qss"_s)));
+    shown.filter.setItemText(2, u"a status of many long words"_s);
+    QCOMPARE(shown.filter.width(), 100);
+    shown.filter.showPopup();
+    const QAbstractItemView *const view = shown.filter.view();
+    QVERIFY(QTest::qWaitForWindowExposed(view->window()));
+    QVERIFY2(view->viewport()->width() >= view->sizeHintForColumn(0),
+             qPrintable(QString::number(view->viewport()->width())));
+    shown.filter.hidePopup();
+    QCOMPARE(shown.filter.toolTip(), u"全部"_s);
+    shown.filter.setCurrentIndex(2);
+    QCOMPARE(shown.filter.toolTip(), u"a status of many long words"_s);
+}
+
 void tst_HistoryPage::namesAreShownCleaned()
 {
     WipeReport report = filledReport();
     report.disk.model = u"a\u202Eb<i>c</i>"_s;
     store({report});
     const Shown shown;
-    QVERIFY(shown.texts(0).first().startsWith(u"[磁盘] ab<i>c</i> "_s));
+    QVERIFY(shown.texts(0).first().startsWith(u"[磁盘] a[U+202E]b<i>c</i> "_s));
     const QString tip = shown.table.item(0, 0)->toolTip();
     QCOMPARE(QTextDocumentFragment::fromHtml(tip).toPlainText(), shown.texts(0).first());
 }

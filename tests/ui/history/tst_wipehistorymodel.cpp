@@ -178,8 +178,8 @@ void tst_WipeHistoryModel::namesAreShownCleaned()
     report.disk.model = u"c\u2066d"_s;
     WipeHistoryModel model;
     model.setReports({report});
-    QCOMPARE(rowOf(model, 0).at(WipeHistoryModel::MethodColumn), u"ab"_s);
-    QVERIFY(rowOf(model, 0).at(WipeHistoryModel::TargetColumn).startsWith(u"cd "_s));
+    QCOMPARE(rowOf(model, 0).at(WipeHistoryModel::MethodColumn), u"a[U+202E]b"_s);
+    QVERIFY(rowOf(model, 0).at(WipeHistoryModel::TargetColumn).startsWith(u"c[U+2066]d "_s));
 }
 
 void tst_WipeHistoryModel::settingReportsResetsTheModel()

@@ -2,7 +2,12 @@
 #include "ui/dialogs/confirmdialog.h"
 #include "ui/mainwindow/drivewindow.h"
 
+#include <QDialog>
 #include <QLabel>
+#include <QLayout>
+#include <QSize>
+#include <QTest>
+#include <QTextEdit>
 #include <QTreeWidget>
 
 using namespace Qt::StringLiterals;
@@ -25,6 +30,9 @@ private slots:
     void aPartitionJobListsEveryVolume();
     void aDiskJobHasTheGivenDialog();
     void aLonePartitionHasTheGivenDialog();
+
+private:
+    static QSize sizeWithoutTarget(const QDialog &dialog);
 };
 
 void tst_DiskObstacles::aDiskWithASpanningVolumeIsNotConfirmed()
@@ -123,6 +131,13 @@ void tst_DiskObstacles::aPartitionJobListsEveryVolume()
     QVERIFY(fits);
 }
 
+// The dialog has grown by its target and the gap below.
+QSize tst_DiskObstacles::sizeWithoutTarget(const QDialog &dialog)
+{
+    const auto *const target = dialog.findChild<QTextEdit *>(u"dialogTarget"_s);
+    return target ? dialog.size() - QSize(0, target->height() + dialog.layout()->spacing()) : QSize();
+}
+
 void tst_DiskObstacles::aDiskJobHasTheGivenDialog()
 {
     DriveWindow drives;
@@ -133,7 +148,7 @@ void tst_DiskObstacles::aDiskJobHasTheGivenDialog()
     choose(fixture, diskRow(fixture, 0));
     QSize size;
     fixture.dialogs.answers = {[&](QDialog &dialog) {
-        size = dialog.findChild<QLabel *>(u"dialogNotice"_s) ? QSize() : dialog.size();
+        size = dialog.findChild<QLabel *>(u"dialogNotice"_s) ? QSize() : sizeWithoutTarget(dialog);
         dialog.reject();
     }};
     QVERIFY(fixture.click(u"Start"_s));
@@ -149,7 +164,7 @@ void tst_DiskObstacles::aLonePartitionHasTheGivenDialog()
     choose(fixture, diskRow(fixture, 0)->child(0));
     QSize size;
     fixture.dialogs.answers = {[&](QDialog &dialog) {
-        size = dialog.findChild<QLabel *>(u"dialogNotice"_s) ? QSize() : dialog.size();
+        size = dialog.findChild<QLabel *>(u"dialogNotice"_s) ? QSize() : sizeWithoutTarget(dialog);
         dialog.reject();
     }};
     QVERIFY(fixture.click(u"Start"_s));

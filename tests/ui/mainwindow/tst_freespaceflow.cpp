@@ -66,7 +66,7 @@ void chooseVolume(const WindowFixture &fixture)
     }
     QCOMPARE(fixture.window->currentPage(), int(MainWindow::DiskSelect));
     auto *const tree = fixture.page()->findChild<QTreeWidget *>(u"diskTree"_s);
-    QTRY_COMPARE(tree->topLevelItemCount(), 1);
+    QTRY_COMPARE_WITH_TIMEOUT(tree->topLevelItemCount(), 1, 60000);
     QCOMPARE(tree->topLevelItem(0)->childCount(), 1);
     tree->setCurrentItem(tree->topLevelItem(0)->child(0));
     QVERIFY(fixture.click(u"Next →"_s));
@@ -125,7 +125,7 @@ void tst_FreeSpaceFlow::theReserveIsNamedInTheQuestion()
         dialog.reject();
     }};
     QVERIFY(fixture.click(u"Start"_s));
-    QTRY_VERIFY(fixture.dialogs.answers.isEmpty());
+    QTRY_VERIFY_WITH_TIMEOUT(fixture.dialogs.answers.isEmpty(), 60000);
     QVERIFY2(notice.contains(u"left as a reserve: %1 (100.00 MB)"_s.arg(volume.mountPoint())),
              qPrintable(notice));
     QVERIFY(fixture.reports().isEmpty());
@@ -148,7 +148,7 @@ void tst_FreeSpaceFlow::aVolumeThatAnotherJobFillsIsRefused()
     fixture.dialogs.answers = {WindowFixture::typeErase};
     fixture.prompts.buttons = {QMessageBox::Ok};
     QVERIFY(fixture.click(u"Start"_s));
-    QTRY_VERIFY(fixture.dialogs.answers.isEmpty());
+    QTRY_VERIFY_WITH_TIMEOUT(fixture.dialogs.answers.isEmpty(), 60000);
     QCOMPARE(fixture.prompts.boxes.size(), 1);
     QCOMPARE(fixture.prompts.boxes.first().title, u"This Volume Cannot Be Erased"_s);
     QVERIFY2(fixture.prompts.boxes.first().text.contains(u"Another job"_s),

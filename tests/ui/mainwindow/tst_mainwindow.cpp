@@ -5,9 +5,11 @@
 #include "ui/titlebar/winbutton.h"
 
 #include <QApplication>
+#include <QImage>
 #include <QLabel>
 #include <QListWidget>
 #include <QMouseEvent>
+#include <QPoint>
 #include <QSignalSpy>
 #include <QStackedWidget>
 #include <QTest>
@@ -31,6 +33,7 @@ private slots:
     void backLeadsHome();
     void backFromTheMethodsLeadsToWhatWasChosen();
     void maximiseAndRestore();
+    void cornersAreSquareWhenMaximised();
     void theMinimiseButtonMinimises();
     void theWindowIsDraggedByItsTop_data();
     void theWindowIsDraggedByItsTop();
@@ -182,20 +185,42 @@ void tst_MainWindow::maximiseAndRestore()
     WinButton *button = titleButton(fixture, WinButton::Maximize);
     QVERIFY(button);
     QTest::mouseClick(button, Qt::LeftButton);
-    QTRY_VERIFY(fixture.window->isMaximized());
+    QTRY_VERIFY_WITH_TIMEOUT(fixture.window->isMaximized(), 60000);
     QCOMPARE(button->toolTip(), u"Restore"_s);
     QTest::mouseClick(button, Qt::LeftButton);
-    QTRY_VERIFY(!fixture.window->isMaximized());
+    QTRY_VERIFY_WITH_TIMEOUT(!fixture.window->isMaximized(), 60000);
     QCOMPARE(button->toolTip(), u"Maximize"_s);
     fixture.window->showMaximized(); // by the system, not by the button
-    QTRY_COMPARE(button->toolTip(), u"Restore"_s);
+    QTRY_COMPARE_WITH_TIMEOUT(button->toolTip(), u"Restore"_s, 60000);
+}
+
+void tst_MainWindow::cornersAreSquareWhenMaximised()
+{
+    WindowFixture fixture;
+    const auto corners = [&fixture] {
+        const QImage picture = fixture.window->grab().toImage();
+        const int right = picture.width() - 1;
+        const int bottom = picture.height() - 1;
+        int filled = 0;
+        for (const QPoint &corner :
+             {QPoint(0, 0), QPoint(right, 0), QPoint(0, bottom), QPoint(right, bottom)})
+            filled += picture.pixelColor(corner).alpha() == 255 ? 1 : 0;
+        return filled;
+    };
+    const QString before = fixture.child<QWidget>("mainContainer")->styleSheet();
+    QCOMPARE(corners(), 0);
+    fixture.window->showMaximized();
+    QTRY_COMPARE(corners(), 4);
+    fixture.window->showNormal();
+    QTRY_COMPARE(corners(), 0);
+    QCOMPARE(fixture.child<QWidget>("mainContainer")->styleSheet(), before);
 }
 
 void tst_MainWindow::theMinimiseButtonMinimises()
 {
     WindowFixture fixture;
     QTest::mouseClick(titleButton(fixture, WinButton::Minimize), Qt::LeftButton);
-    QTRY_VERIFY(fixture.window->isMinimized());
+    QTRY_VERIFY_WITH_TIMEOUT(fixture.window->isMinimized(), 60000);
 }
 
 void tst_MainWindow::theWindowIsDraggedByItsTop_data()

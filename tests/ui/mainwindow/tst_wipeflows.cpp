@@ -74,7 +74,7 @@ void chooseDisk(const WindowFixture &fixture)
 {
     fixture.window->onDiskWipeClicked();
     auto *tree = fixture.page()->findChild<QTreeWidget *>(u"diskTree"_s);
-    QTRY_COMPARE(tree->topLevelItemCount(), 1);
+    QTRY_COMPARE_WITH_TIMEOUT(tree->topLevelItemCount(), 1, 60000);
     tree->setCurrentItem(tree->topLevelItem(0));
     QVERIFY(fixture.click(u"Next →"_s));
 }
@@ -211,8 +211,8 @@ void tst_WipeFlows::aStoppedJobLeavesItsReport()
     fixture.prompts.buttons = {QMessageBox::Ok};
     fixture.dialogs.answers = {WindowFixture::pressButton(u"Close"_s)};
     QVERIFY(fixture.click(u"⏹️ 停止"_s));
-    QTRY_COMPARE(fixture.dialogs.answers.size(), 0);
-    QTRY_COMPARE(fixture.reports().size(), 1);
+    QTRY_COMPARE_WITH_TIMEOUT(fixture.dialogs.answers.size(), 0, 60000);
+    QTRY_COMPARE_WITH_TIMEOUT(fixture.reports().size(), 1, 60000);
     // The worker's own end, which comes after the stop, has the last word.
     QCOMPARE(fixture.reports().constFirst().status, WipeStatus::Failed);
     QCOMPARE(fixture.dialogs.titles.constLast(), u"Erase Failed"_s);
@@ -284,7 +284,7 @@ void tst_WipeFlows::withoutReportsNothingIsStoredOrExported()
     fixture.dialogs.answers = {WindowFixture::typeErase, look};
     QVERIFY(fixture.click(u"Start"_s));
     QTRY_COMPARE_WITH_TIMEOUT(fixture.reports().size() + fixture.dialogs.answers.size(), 0, 60000);
-    QTRY_COMPARE(fixture.window->currentPage(), int(MainWindow::Home));
+    QTRY_COMPARE_WITH_TIMEOUT(fixture.window->currentPage(), int(MainWindow::Home), 60000);
     QVERIFY(!hasCertificate);
     QCOMPARE(fixture.reports().size(), 0);
     QVERIFY(QDir(exports.path()).isEmpty());
@@ -328,7 +328,7 @@ void tst_WipeFlows::aPartialJobIsToldAsSuchEverywhere()
     };
     fixture.dialogs.answers = {WindowFixture::typeErase, view, look};
     QVERIFY(fixture.click(u"Start"_s));
-    QTRY_COMPARE(fixture.window->currentPage(), int(MainWindow::Home));
+    QTRY_COMPARE_WITH_TIMEOUT(fixture.window->currentPage(), int(MainWindow::Home), 60000);
     QVERIFY(fixture.dialogs.answers.isEmpty());
     const QString id = fixture.reports().constFirst().certificateId;
     QCOMPARE(fixture.reports().constFirst().status, WipeStatus::Completed);

@@ -49,6 +49,8 @@ private slots:
     void logKeepsPlaceholdersOfTheMessage();
     void logShowsTheNewestLine();
     void pauseChangesThePageOnly();
+    void thePauseButtonSaysWhatItDoes();
+    void nothingIsReadAloudAsAPicture();
     void pressingPauseTwiceReturns();
     void stopEmits();
     void neverLeadsHomeItself();
@@ -379,6 +381,29 @@ void tst_ProgressPage::pauseChangesThePageOnly()
     // What the engine reports is still shown.
     m_page->setProgress(40);
     QCOMPARE(textOf(u"percentLabel"_s), u"40.0%"_s);
+}
+
+void tst_ProgressPage::thePauseButtonSaysWhatItDoes()
+{
+    auto *const pause = m_page->findChild<QPushButton *>(u"secondaryBtn"_s);
+    QCOMPARE(pause->toolTip(), u"只暂停此页面的显示；擦除会继续进行"_s);
+    pause->click();
+    QCOMPARE(pause->toolTip(), u"恢复此页面的显示；擦除并未停止"_s);
+    m_page->reset();
+    QCOMPARE(pause->toolTip(), u"只暂停此页面的显示；擦除会继续进行"_s);
+}
+
+void tst_ProgressPage::nothingIsReadAloudAsAPicture()
+{
+    auto *const pause = m_page->findChild<QPushButton *>(u"secondaryBtn"_s);
+    QCOMPARE(pause->accessibleName(), u"暂停"_s);
+    QCOMPARE(m_page->findChild<QPushButton *>(u"dangerBtn"_s)->accessibleName(), u"停止"_s);
+    QCOMPARE(m_page->findChild<QProgressBar *>(u"mainProgress"_s)->accessibleName(), u"擦除进度"_s);
+    const auto *const icon = m_page->findChild<QLabel *>(u"progressIcon"_s);
+    QCOMPARE(icon->accessibleName(), textOf(u"progressStatus"_s));
+    pause->click();
+    QCOMPARE(pause->accessibleName(), u"继续"_s);
+    QCOMPARE(icon->accessibleName(), u"已暂停"_s);
 }
 
 void tst_ProgressPage::pressingPauseTwiceReturns()

@@ -18,6 +18,7 @@
 
 #include <cstdio>
 #include <memory>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -58,6 +59,8 @@ int choose(int argc, char **argv)
         lines += "code " + code.toUtf8() + '\n';
     }
     lines += "text " + translatedSample().toUtf8() + '\n';
+    lines += "english " + QCoreApplication::translate("Sidebar", "Data Wipe").toUtf8() + '\n';
+    lines += "button " + QCoreApplication::translate("QPlatformTheme", "Cancel").toUtf8() + '\n';
     return std::fwrite(lines.constData(), 1, static_cast<std::size_t>(lines.size()), stdout) ==
                    static_cast<std::size_t>(lines.size())
                ? 0
@@ -76,6 +79,9 @@ private slots:
     void theSystemDecidesUnlessTheUserDid();
     void everyLanguageButTheSourceHasACatalogue_data();
     void everyLanguageButTheSourceHasACatalogue();
+    void everyLanguageIsWhole_data();
+    void everyLanguageIsWhole();
+    void theSupplementHasEveryEnglishText();
     void aRefusedInstallationIsTold();
 
 private:
@@ -85,6 +91,8 @@ private:
         QStringList others;
         QString code;
         QString text;
+        QString english; // a text that is English in the sources
+        QString button;  // one of Qt's own
         QStringList storedKeys;
         QString stored;
     };
@@ -119,7 +127,7 @@ tst_StartupLanguage::Outcome tst_StartupLanguage::run(const QString &locale, con
     process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     process.start(QCoreApplication::applicationFilePath(), arguments);
     if (!process.waitForFinished() || process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0)
-        return {{u"the process failed"_s}, {}, {}, {}, {}, {}};
+        return {{u"the process failed"_s}, {}, {}, {}, {}, {}, {}, {}};
 
     Outcome outcome;
     const QStringList lines =
@@ -130,6 +138,10 @@ tst_StartupLanguage::Outcome tst_StartupLanguage::run(const QString &locale, con
             outcome.code = rest;
         else if (line.startsWith(u"text "))
             outcome.text = rest;
+        else if (line.startsWith(u"english "))
+            outcome.english = rest;
+        else if (line.startsWith(u"button "))
+            outcome.button = rest;
         else if (line.startsWith(u"other "))
             outcome.others.append(rest);
         else
@@ -245,6 +257,53 @@ void tst_StartupLanguage::everyLanguageButTheSourceHasACatalogue()
     QVERIFY(!text.isEmpty());
     QVERIFY(text != QString::fromUtf8(sample));
     QVERIFY(!QFile::exists(translations::catalogue(u"zh_CN"_s)));
+}
+
+void tst_StartupLanguage::everyLanguageIsWhole_data()
+{
+    QTest::addColumn<QString>("code");
+    QTest::addColumn<QString>("english");
+    QTest::addColumn<QString>("button");
+    QTest::newRow("en") << u"en"_s << u"Data Wipe"_s << u"Cancel"_s;
+    QTest::newRow("fr") << u"fr"_s << QString() << u"Annuler"_s;
+    QTest::newRow("de") << u"de"_s << QString() << u"Abbrechen"_s;
+    QTest::newRow("ja") << u"ja"_s << QString() << u"キャンセル"_s;
+    QTest::newRow("es") << u"es"_s << QString() << u"Cancelar"_s;
+    QTest::newRow("ko") << u"ko"_s << QString() << u"취소"_s;
+    QTest::newRow("nl") << u"nl"_s << QString() << u"Annuleren"_s;
+    QTest::newRow("pt") << u"pt"_s << QString() << u"Cancelar"_s;
+    QTest::newRow("it") << u"it"_s << QString() << u"Annulla"_s;
+    QTest::newRow("zh_TW") << u"zh_TW"_s << QString() << u"取消"_s;
+    QTest::newRow("zh_CN") << u"zh_CN"_s << u"数据擦除"_s << u"取消"_s;
+    QTest::newRow("a language that there is not") << u"xx"_s << u"Data Wipe"_s << u"Cancel"_s;
+}
+
+void tst_StartupLanguage::everyLanguageIsWhole()
+{
+    QFETCH(const QString, code);
+    QFETCH(const QString, english);
+    store(code);
+    const Outcome outcome = run(u"de_DE"_s);
+    QTEST(outcome.button, "button");
+    if (!english.isEmpty())
+        QCOMPARE(outcome.english, english);
+    else
+        QVERIFY(outcome.english != u"Data Wipe"_s);
+}
+
+// Texts that another catalogue has.
+void tst_StartupLanguage::theSupplementHasEveryEnglishText()
+{
+    QTranslator supplement;
+    QVERIFY(supplement.load(translations::supplement(u"zh_CN"_s)));
+    for (const auto &[context, text] :
+         {std::pair("MainWindow", "Confirm Stop"), std::pair("FileSelectPage", "Remove"),
+          std::pair("Cli", "Lists the drives with their volumes"), std::pair("TitleBar", "Language"),
+          std::pair("OutcomeRecord", "entries could not be removed"),
+          std::pair("CertificateDialog", "Data Erasure Certificate"),
+          std::pair("WipeTask", "File not found: %1")})
+        QVERIFY2(!supplement.translate(context, text).isEmpty(), text);
+    QVERIFY(!QFile::exists(translations::supplement(u"de"_s)));
 }
 
 // Qt takes no translator before there is an application.

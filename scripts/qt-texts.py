@@ -1,0 +1,77 @@
+#!/usr/bin/env python3
+"""Takes the texts of Qt's own dialogs, menus and buttons into resources/translations/qt, as far as the desktop program can
+show them. They come from Debian's package qt6-translations-l10n. To be run when that brings newer ones."""
+import pathlib
+import subprocess
+import sys
+import xml.etree.ElementTree as ET
+
+CATALOGUES = pathlib.Path("/usr/share/qt6/translations")
+LCONVERT = "/usr/lib/qt6/bin/lconvert"
+# The program's code of a language to Qt's. Qt has the Portuguese of Brazil only.
+LANGUAGES = {code: code for code in ("fr", "de", "ja", "es", "ko", "nl", "it", "zh_TW", "zh_CN")} | {"pt": "pt_BR"}
+# Without the texts of errors, which go into logs and answers that are no one's language.
+CONTEXTS = {
+    "CloseButton",
+    "QAbstractSpinBox",
+    "QApplication",
+    "QComboBox",
+    "QCupsJobWidget",
+    "QDialog",
+    "QDialogButtonBox",
+    "QFileDialog",
+    "QFileSystemModel",
+    "QGnomeTheme",
+    "QLineEdit",
+    "QMessageBox",
+    "QPageSetupWidget",
+    "QPageSize",
+    "QPlatformTheme",
+    "QPrintDialog",
+    "QPrintPropertiesDialog",
+    "QPrintPropertiesWidget",
+    "QPrintSettingsOutput",
+    "QPrintWidget",
+    "QScrollBar",
+    "QShortcut",
+    "QTabBar",
+    "QUnicodeControlCharacterMenu",
+    "QWidgetTextControl",
+}
+# Of the names of keys those that stand in menus.
+KEYS = {"Alt", "Backspace", "Ctrl", "Del", "End", "Esc", "Home", "Ins", "Left", "Right", "Shift", "Space", "Tab"}
+
+
+def keep(context):
+    name = context.find("name").text
+    if name not in CONTEXTS:
+        return False
+    for message in context.findall("message"):
+        source = message.find("source").text
+        # What is the same in both needs no catalogue; nobody is told about Qt.
+        is_same = message.find("translation").text == source
+        is_foreign = "About Qt" in source or "C++" in source or (name == "QShortcut" and source not in KEYS)
+        if is_same or is_foreign:
+            context.remove(message)
+    return context.find("message") is not None
+
+
+def main():
+    if not CATALOGUES.is_dir():
+        sys.exit(f"error: there is no {CATALOGUES}: the package qt6-translations-l10n brings it")
+    folder = pathlib.Path(__file__).resolve().parent.parent / "resources" / "translations" / "qt"
+    folder.mkdir(exist_ok=True)
+    for code, theirs in LANGUAGES.items():
+        command = [LCONVERT, "-of", "ts", "-i", CATALOGUES / f"qtbase_{theirs}.qm", "-o", "-"]
+        root = ET.fromstring(subprocess.run(command, check=True, stdout=subprocess.PIPE).stdout)
+        for context in root.findall("context"):
+            if not keep(context):
+                root.remove(context)
+        root.set("language", code)
+        ET.indent(root, "    ")
+        text = ET.tostring(root, encoding="unicode")
+        head = '<?xml version="1.0" encoding="utf-8"?>\n<!DOCTYPE TS>\n'
+        (folder / f"qt_{code}.ts").write_text(head + text + "\n", encoding="utf-8")
+
+
+main()

@@ -1,0 +1,62 @@
+#include "platform/wholefile.h"
+
+#include <QDebug>
+#include <QFile>
+#include <QFileInfo>
+
+namespace platform {
+
+WholeFile::WholeFile(const QString &path, QIODevice::OpenMode lineEnds)
+    : m_file(path)
+    , m_lineEnds(lineEnds)
+    , m_isStream(isStream(path))
+{}
+
+bool WholeFile::isPossible(const QString &path)
+{
+    const QFileInfo existing(path);
+    return !path.isEmpty() && (!existing.exists() || existing.isFile() || isStream(path));
+}
+
+bool WholeFile::open()
+{
+    const QString path = m_file.fileName();
+    if (!isPossible(path))
+        return failed("open", QStringLiteral("not a regular file"));
+    // Opening a pipe waits for its reader, who has no reason to be there before the job's end.
+    if (m_isStream)
+        return QFileInfo(path).isWritable() || failed("open", QStringLiteral("not writable"));
+    return m_file.open(QIODevice::WriteOnly | m_lineEnds) || failed("open", m_file.errorString());
+}
+
+bool WholeFile::commit(const QByteArray &bytes)
+{
+    if (m_isStream)
+        return commitToStream(bytes);
+    // commit() tells neither that what was still in the buffer could not be written, nor what a file system
+    // that allocates late had no room for.
+    if (m_file.write(bytes) != bytes.size() || !m_file.flush() || !isWrittenOut(m_file)) {
+        m_file.cancelWriting();
+        return failed("write", m_file.errorString());
+    }
+    return m_file.commit() || failed("replace", m_file.errorString());
+}
+
+bool WholeFile::commitToStream(const QByteArray &bytes)
+{
+    QFile stream(m_file.fileName());
+    // Appending cuts nothing off, should something else stand under the name by now.
+    constexpr auto Mode =
+        QIODevice::WriteOnly | QIODevice::Append | QIODevice::ExistingOnly | QIODevice::Unbuffered;
+    if (!stream.open(Mode | m_lineEnds) || !isStream(stream))
+        return failed("open", stream.errorString());
+    return stream.write(bytes) == bytes.size() || failed("write", stream.errorString());
+}
+
+bool WholeFile::failed(const char *step, const QString &why) const
+{
+    qDebug() << "[Output] Cannot" << step << m_file.fileName() << why;
+    return false;
+}
+
+} // namespace platform
