@@ -1,14 +1,19 @@
+#include "support/filledreport.h"
+#include "support/pdfreader.h"
 #include "support/suite.h"
 #include "support/testfiles.h"
 #include "ui/mainwindow/heldjob.h"
 #include "ui/mainwindow/windowfixture.h"
 
 #include "engine/wipeengine.h"
+#include "model/joboutcome.h"
 #include "platform/forwarding.h"
 #include "services/linkmanager.h"
+#include "services/reportdatabase.h"
 #include "support/faultplan.h"
 #include "support/faultyfiles.h"
 #include "ui/files/fileselectpage.h"
+#include "ui/history/historypage.h"
 #include "ui/progress/progresspage.h"
 #include "ui/titlebar/titlebar.h"
 
@@ -23,6 +28,7 @@
 #include <QMimeData>
 #include <QProgressBar>
 #include <QRegularExpression>
+#include <QTableWidget>
 #include <QTest>
 #include <QTextEdit>
 #include <QUrl>
@@ -46,6 +52,7 @@ private slots:
     void theOfferAfterTheBin();
     void theOfferAtAnEmptyBin();
     void aFailedJobOnTheBinOffersNothing();
+    void theHistoryExportsWhatTheOutcomeSays();
     void theScanTellsHowFarItIs();
     void nothingCanBeDroppedOnTheBin();
 };
@@ -230,6 +237,20 @@ void tst_WindowWiring::aFailedJobOnTheBinOffersNothing()
     QCOMPARE(fixture.dialogs.titles.constLast(), u"Erase Failed"_s);
     QCOMPARE(fixture.prompts.boxes.size(), 0);
     QCOMPARE(fixture.window->currentPage(), int(MainWindow::Home));
+}
+
+void tst_WindowWiring::theHistoryExportsWhatTheOutcomeSays()
+{
+    WindowFixture fixture;
+    QVERIFY(ReportDatabase::instance().saveReport(filledReport(), OutcomeRecord(JobOutcome::Cancelled)));
+    fixture.window->onNavigateToPage(MainWindow::History);
+    fixture.window->findChild<HistoryPage *>()->loadHistory();
+    fixture.child<QTableWidget>("historyTable")->selectRow(0);
+    const QString path = fixture.homePath(u"exported.pdf"_s);
+    fixture.prompts.filesToSaveAnswers = {path};
+    QVERIFY(fixture.click(u"导出PDF"_s));
+    const QString text = PdfReader(contentOf(path)).text();
+    QVERIFY2(text.contains(OutcomeRecord(JobOutcome::Cancelled).summary()), qPrintable(text));
 }
 
 // What the page said last stays in its hidden label.
