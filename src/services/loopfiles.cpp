@@ -2,8 +2,6 @@
 
 #include "model/displaytext.h"
 #include "platform/filenames.h"
-#include "platform/files.h"
-#include "platform/platform.h"
 
 #include <QByteArray>
 #include <QDir>
@@ -11,21 +9,42 @@
 #include <QFileInfo>
 #include <QList>
 
+#include <filesystem>
+#include <system_error>
+
 using namespace Qt::StringLiterals;
 
 namespace {
+
+namespace fs = std::filesystem;
+
+#ifdef Q_OS_UNIX
+QString nameOf(const QByteArray &bytes)
+{
+    return platform::decodeName(bytes);
+}
+
+fs::path pathOf(const QString &name)
+{
+    return platform::encodeName(name).toStdString();
+}
+#else
+QString nameOf(const QByteArray &bytes)
+{
+    return QString::fromUtf8(bytes);
+}
+
+fs::path pathOf(const QString &name)
+{
+    return name.toStdU16String();
+}
+#endif
 
 struct Attached
 {
     QString node;
     QString file;
-    platform::FileId id;
 };
-
-platform::Result<platform::FileInfo> look(const QString &path)
-{
-    return platform::Platform::current().files().info(path);
-}
 
 // Of a file that is deleted or out of sight the device tells a name that leads nowhere.
 QList<Attached> attachedLoops(const QString &sys)
@@ -40,38 +59,38 @@ QList<Attached> attachedLoops(const QString &sys)
         QByteArray file = attribute.readAll();
         if (file.endsWith('\n'))
             file.chop(1);
-#ifdef Q_OS_UNIX
-        const QString path = platform::decodeName(file);
-#else
-        const QString path = QString::fromUtf8(file);
-#endif
-        if (const auto info = look(path))
-            loops.append({u"/dev/"_s + name, path, info.value().id});
+        loops.append({u"/dev/"_s + name, nameOf(file)});
     }
     return loops;
 }
 
+// A link is removed itself.
+bool isAnyNameOf(const QString &file, const QString &path)
+{
+    std::error_code error;
+    const fs::path place = pathOf(path);
+    return !fs::is_symlink(place, error) && fs::equivalent(place, pathOf(file), error);
+}
+
 bool isWithin(const QString &file, const QString &folder)
 {
-    const QString canonical = QFileInfo(folder).canonicalFilePath();
+    const QFileInfo info(folder);
+    const QString canonical = info.isDir() && !info.isSymLink() ? info.canonicalFilePath() : QString();
     return !canonical.isEmpty() &&
            file.startsWith(canonical.endsWith(u'/') ? canonical : QString(canonical + u'/'));
 }
 
 } // namespace
 
+// Not through the platform: what is attached on this machine is no part of what a job goes through.
 QString LoopFiles::problem(const QStringList &paths, const QString &sys)
 {
     const QList<Attached> loops = attachedLoops(sys);
     if (loops.isEmpty())
         return {};
     for (const QString &path : paths) {
-        const auto info = look(path);
-        if (!info)
-            continue;
-        const bool isFolder = info.value().kind == platform::FileKind::Folder;
         for (const Attached &loop : loops) {
-            if (isFolder ? isWithin(loop.file, path) : info.value().id == loop.id)
+            if (isWithin(loop.file, path) || isAnyNameOf(loop.file, path))
                 return tr("The loop device %1 is attached to %2. Nothing was written.")
                     .arg(loop.node, displayText(loop.file));
         }

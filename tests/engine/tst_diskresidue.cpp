@@ -13,6 +13,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <memory>
+
 #include <fcntl.h>
 #include <unistd.h>
 
@@ -329,22 +331,27 @@ void tst_DiskResidue::otherDriveUnderTheNumberIsLeftAlone()
     options.fileSystem = LoopMount::NoFileSystem;
     options.sizeBytes = MiB;
     DiskInfo chosen;
-    {
-        LoopMount first(folder.path(), options, QStringLiteral("first"));
-        QVERIFY2(first.isReady(), qPrintable(first.error()));
-        chosen = diskAt(first.device());
-        QVERIFY(chosen.diskNumber >= 0);
-    }
-    LoopMount second(folder.path(), options, QStringLiteral("second"));
-    QVERIFY2(second.isReady(), qPrintable(second.error()));
-    QVERIFY(fillImage(second, MiB));
+    std::unique_ptr<LoopMount> second;
+    // Until nobody else has taken the device between the two.
+    do {
+        second.reset();
+        {
+            LoopMount first(folder.path(), options, QStringLiteral("first"));
+            QVERIFY2(first.isReady(), qPrintable(first.error()));
+            chosen = diskAt(first.device());
+            QVERIFY(chosen.diskNumber >= 0);
+        }
+        second = std::make_unique<LoopMount>(folder.path(), options, QStringLiteral("second"));
+        QVERIFY2(second->isReady(), qPrintable(second->error()));
+    } while (second->device() != chosen.devicePath);
+    QVERIFY(fillImage(*second, MiB));
     WipeTask task;
     task.setOperationType(DiskWipe);
     task.setDisk(chosen);
     const RealJob job = runRealJob(task);
     QVERIFY(!job.success);
     QVERIFY(job.hasLine(QStringLiteral("无法打开磁盘，错误码: 21")));
-    QVERIFY(second.countInImage(marker()) > 0);
+    QVERIFY(second->countInImage(marker()) > 0);
 }
 
 QUORVEX_SUITE(tst_DiskResidue, QCoreApplication)

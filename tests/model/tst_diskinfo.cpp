@@ -23,7 +23,7 @@ private slots:
     void displayNameWithoutModel();
     void displayNameWithModel();
     void displayNameKeepsPlaceholdersInTheModel();
-    void displayNameDropsWhatReordersText();
+    void displayNameMarksWhatReordersText();
     void displayNameOfAModelWithoutVisibleText();
     void displayNameIsNotTranslated();
     void formattedSizes();
@@ -170,12 +170,12 @@ void tst_DiskInfo::displayNameKeepsPlaceholdersInTheModel()
     QCOMPARE(disk.displayName(), u"A%1B%2C (512 B)"_s);
 }
 
-void tst_DiskInfo::displayNameDropsWhatReordersText()
+void tst_DiskInfo::displayNameMarksWhatReordersText()
 {
     DiskInfo disk;
     disk.model = u"Contoso\u202E \nX1"_s;
     disk.sizeBytes = 512;
-    QCOMPARE(disk.displayName(), u"Contoso X1 (512 B)"_s);
+    QCOMPARE(disk.displayName(), u"Contoso[U+202E] [U+000A]X1 (512 B)"_s);
     QCOMPARE(disk.model, u"Contoso\u202E \nX1"_s);
 }
 
@@ -184,7 +184,7 @@ void tst_DiskInfo::displayNameOfAModelWithoutVisibleText()
     DiskInfo disk;
     disk.diskNumber = 0;
     disk.model = u"\u202E\u200B"_s;
-    QCOMPARE(disk.displayName(), u"Disk 0 (0 B)"_s);
+    QCOMPARE(disk.displayName(), u"[U+202E][U+200B] (0 B)"_s);
 }
 
 void tst_DiskInfo::displayNameIsNotTranslated()

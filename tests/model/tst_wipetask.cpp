@@ -95,7 +95,7 @@ private slots:
     void fileWipeOfFileAndFolder();
     void fileWipeNamesTheFirstMissingFile();
     void fileWipeOfADanglingLink();
-    void fileWipeShowsThePathWithoutControlCharacters();
+    void fileWipeMarksControlCharactersOfThePath();
     void fileNameWithPlaceholders();
     void unknownTypeSkipsTheTypeChecks();
 
@@ -413,12 +413,12 @@ void tst_WipeTask::fileWipeOfADanglingLink()
     QVERIFY(isValidQuietly(*task));
 }
 
-void tst_WipeTask::fileWipeShowsThePathWithoutControlCharacters()
+void tst_WipeTask::fileWipeMarksControlCharactersOfThePath()
 {
     const auto task = taskOfType(FileWipe);
     task->setFiles({u"/nowhere/a\nb\u202Ec"_s});
-    QCOMPARE(task->validationError(), u"File not found: /nowhere/abc"_s);
-    QCOMPARE(traceOf(*task).last(), u"FAIL: FileWipe - file not found: /nowhere/abc"_s);
+    QCOMPARE(task->validationError(), u"File not found: /nowhere/a[U+000A]b[U+202E]c"_s);
+    QCOMPARE(traceOf(*task).last(), u"FAIL: FileWipe - file not found: /nowhere/a[U+000A]b[U+202E]c"_s);
 }
 
 void tst_WipeTask::fileNameWithPlaceholders()

@@ -1,4 +1,5 @@
 #include "services/loopfiles.h"
+#include "support/links.h"
 #include "support/suite.h"
 #include "support/testfiles.h"
 
@@ -24,6 +25,7 @@ private slots:
     void itIsFoundUnderAnotherNameToo();
     void aFolderThatHoldsItIsTold();
     void otherFilesAreNot();
+    void aLinkToItIsNot();
     void devicesWithoutAFileDoNotMatter();
 
 private:
@@ -76,6 +78,13 @@ void tst_LoopFiles::otherFilesAreNot()
     QCOMPARE(problem(writeFile(file(u"images/other.img"_s), "content")), QString());
     QCOMPARE(problem(file(u"missing"_s)), QString());
     QCOMPARE(LoopFiles::problem({m_image}, file(u"nosys"_s)), QString());
+}
+
+void tst_LoopFiles::aLinkToItIsNot()
+{
+    if (!makeLink(m_image, file(u"link"_s)))
+        QSKIP("SKIPPED: the system makes no symbolic links here");
+    QCOMPARE(problem(file(u"link"_s)), QString());
 }
 
 void tst_LoopFiles::devicesWithoutAFileDoNotMatter()
