@@ -13,6 +13,7 @@
 
 using namespace Qt::StringLiterals;
 
+#ifdef Q_OS_UNIX
 namespace {
 
 struct Attached
@@ -40,11 +41,7 @@ QList<Attached> attachedLoops(const QString &sys)
         QByteArray file = attribute.readAll();
         if (file.endsWith('\n'))
             file.chop(1);
-#ifdef Q_OS_UNIX
         const QString path = platform::decodeName(file);
-#else
-        const QString path = QString::fromUtf8(file);
-#endif
         if (const auto info = look(path))
             loops.append({u"/dev/"_s + name, path, info.value().id});
     }
@@ -62,7 +59,7 @@ bool isWithin(const QString &file, const QString &folder)
 
 QString LoopFiles::problem(const QStringList &paths, const QString &sys)
 {
-    const QList<Attached> loops = attachedLoops(sys);
+    const QList<Attached> loops = paths.isEmpty() ? QList<Attached>() : attachedLoops(sys);
     if (loops.isEmpty())
         return {};
     for (const QString &path : paths) {
@@ -78,3 +75,9 @@ QString LoopFiles::problem(const QStringList &paths, const QString &sys)
     }
     return {};
 }
+#else
+QString LoopFiles::problem(const QStringList & /*paths*/, const QString & /*sys*/)
+{
+    return {};
+}
+#endif
