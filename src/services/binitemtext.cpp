@@ -48,10 +48,10 @@ QString BinItemText::size(const RecycleBinItem &item)
 
 QString BinItemText::details(const RecycleBinItem &item)
 {
-    const QString path = displayText(originalPath(item));
-    if (!isImpossible(item))
-        return path;
-    return path + u'\n' + tr("Its record says %1 bytes, more than any file can have.").arg(item.size);
+    QString text = displayText(originalPath(item));
+    if (isImpossible(item))
+        text += u'\n' + tr("Its record says %1 bytes, more than any file can have.").arg(item.size);
+    return text;
 }
 
 QString BinItemText::impossibleSizes(const RecycleBinInfo &found)

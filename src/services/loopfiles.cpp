@@ -14,31 +14,15 @@
 
 using namespace Qt::StringLiterals;
 
+#ifdef Q_OS_UNIX
 namespace {
 
 namespace fs = std::filesystem;
-
-#ifdef Q_OS_UNIX
-QString nameOf(const QByteArray &bytes)
-{
-    return platform::decodeName(bytes);
-}
 
 fs::path pathOf(const QString &name)
 {
     return platform::encodeName(name).toStdString();
 }
-#else
-QString nameOf(const QByteArray &bytes)
-{
-    return QString::fromUtf8(bytes);
-}
-
-fs::path pathOf(const QString &name)
-{
-    return name.toStdU16String();
-}
-#endif
 
 struct Attached
 {
@@ -59,7 +43,7 @@ QList<Attached> attachedLoops(const QString &sys)
         QByteArray file = attribute.readAll();
         if (file.endsWith('\n'))
             file.chop(1);
-        loops.append({u"/dev/"_s + name, nameOf(file)});
+        loops.append({u"/dev/"_s + name, platform::decodeName(file)});
     }
     return loops;
 }
@@ -97,3 +81,9 @@ QString LoopFiles::problem(const QStringList &paths, const QString &sys)
     }
     return {};
 }
+#else
+QString LoopFiles::problem(const QStringList & /*paths*/, const QString & /*sys*/)
+{
+    return {};
+}
+#endif
