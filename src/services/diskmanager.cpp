@@ -5,6 +5,7 @@
 #include "platform/platform.h"
 #include "platform/session.h"
 #include "platform/storagereplies.h"
+#include "services/limitedquestion.h"
 
 #include <QDebug>
 #include <QSet>
@@ -141,6 +142,11 @@ void readDescriptor(platform::DeviceQuery &drive, DiskInfo &disk)
     }
 }
 
+QString driveKey(int number)
+{
+    return QStringLiteral("drive %1").arg(number);
+}
+
 // Empty when the drive cannot be opened. The handle is closed on return, before others are opened on the same
 // drive.
 std::optional<DiskInfo> describeDrive(int number)
@@ -163,13 +169,11 @@ std::optional<DiskInfo> describeDrive(int number)
 // them.
 bool liesOnDisk(const platform::MountedVolume &volume, int diskNumber)
 {
-    const auto query = platform::Platform::current().devices().queryVolume(volume.name);
-    if (!query)
-        return false;
-    const auto extents = query.value()->extents(platform::OneExtent);
-    return extents && std::ranges::any_of(extents.value(), [diskNumber](const platform::Extent &extent) {
-               return extent.diskNumber == diskNumber;
-           });
+    const auto disks = limitedquestion::answerOf<QSet<int>>(volume.name, [name = volume.name] {
+        const auto query = platform::Platform::current().devices().queryVolume(name);
+        return query ? diskNumbers(query.value()->extents(platform::OneExtent).valueOr({})) : QSet<int>();
+    });
+    return disks && disks->contains(diskNumber);
 }
 
 PartitionInfo describeVolume(const platform::MountedVolume &volume)
@@ -194,12 +198,16 @@ QList<DiskInfo> DiskManager::enumerateDisks()
     QList<DiskInfo> disks;
     // Drives that were unplugged leave gaps in the numbers.
     for (int number = FirstDrive; number <= LastDrive; ++number) {
-        std::optional<DiskInfo> disk = describeDrive(number);
+        const auto answer = limitedquestion::answerOf<std::optional<DiskInfo>>(
+            driveKey(number), [number] { return describeDrive(number); });
+        std::optional<DiskInfo> disk = answer.value_or(std::nullopt);
         if (!disk)
             continue;
         disk->isSystemDisk = system.contains(number);
         if (disk->diskType == DiskType::Unknown)
-            disk->diskType = detectDiskType(number);
+            disk->diskType = limitedquestion::answerOf<DiskType>(driveKey(number), [number] {
+                                 return detectDiskType(number);
+                             }).value_or(DiskType::Unknown);
         const QList<PartitionInfo> partitions = partitionsForDisk(number);
         for (const PartitionInfo &partition : partitions)
             disk->addPartition(partition);
@@ -228,10 +236,10 @@ QList<SpanningVolume> DiskManager::spanningVolumesForDisk(int diskNumber)
     platform::Devices &devices = platform::Platform::current().devices();
     QList<SpanningVolume> spanning;
     for (const platform::MountedVolume &volume : devices.mountedVolumes()) {
-        const auto query = devices.queryVolume(volume.name);
-        if (!query)
-            continue;
-        QSet<int> disks = disksOf(*query.value());
+        QSet<int> disks = limitedquestion::answerOf<QSet<int>>(volume.name, [name = volume.name] {
+                              const auto query = platform::Platform::current().devices().queryVolume(name);
+                              return query ? disksOf(*query.value()) : QSet<int>();
+                          }).value_or(QSet<int>());
         if (!disks.remove(diskNumber) || disks.isEmpty())
             continue;
         QList<int> others(disks.cbegin(), disks.cend());

@@ -7,8 +7,9 @@
 #include <QList>
 
 /// Finds the physical disks of the machine and the mounted volumes on each, through the platform in force.
-/// Needs no administrator rights. Every call asks the devices anew, on the calling thread and for as long as
-/// they take to answer; nothing is kept between calls and no handle stays open. Any thread.
+/// Needs no administrator rights. Every call asks the devices anew; nothing is kept between calls and no
+/// handle stays open. A list waits for each device for the time of limitedquestion; one that does not answer
+/// counts as one that cannot be opened. Any thread.
 ///
 /// Nothing fails as a whole: a device that cannot be opened is left out, a question without an answer leaves
 /// the defaults of the record. Diagnostics go to the debug output.

@@ -1,13 +1,21 @@
 #include "services/diskmanager.h"
+#include "services/limitedquestion.h"
 #include "support/suite.h"
 
+#include "platform/forwarding.h"
+#include "support/deviceplatform.h"
 #include "support/fakedevices.h"
 #include "support/messagecapture.h"
 
 #include <QCoreApplication>
+#include <QSemaphore>
 #include <QTest>
 
 #include <algorithm>
+#include <atomic>
+#include <chrono>
+#include <memory>
+#include <new>
 #include <optional>
 
 using namespace Qt::StringLiterals;
@@ -87,6 +95,9 @@ private slots:
     void aGapDoesNotEndTheScan();
     void every32NumbersAreProbedInOrderAndNoMore();
     void aDriveThatRefusesToOpenIsSkipped();
+    void aDriveThatDoesNotAnswerIsSkippedAndNotAskedAgain();
+    void aVolumeThatDoesNotAnswerIsOnNoDisk();
+    void whatAQuestionThrowsIsThrown();
     void aDiskCarriesWhatItsDriveAnswers();
     void withoutGeometryADiskIsListedWithDefaults();
     void aSectorSizeOf0CountsAsNoGeometry_data();
@@ -783,6 +794,104 @@ void tst_DiskManager::noHandleStaysOpen()
     QCOMPARE(pc.devices.openHandles, 0);
     // Nor is a drive held while its volumes or a second handle on it are opened.
     QCOMPARE(pc.devices.mostOpenHandles, 1);
+}
+
+namespace {
+
+// One of them answers when it is told to.
+class SilentDevices : public platform::ForwardingDevices
+{
+public:
+    using ForwardingDevices::ForwardingDevices;
+
+    platform::Result<std::unique_ptr<platform::DeviceQuery>> queryDrive(int number) override
+    {
+        if (number == silentDrive)
+            keepWaiting();
+        return ForwardingDevices::queryDrive(number);
+    }
+    platform::Result<std::unique_ptr<platform::DeviceQuery>> queryVolume(const QString &name) override
+    {
+        if (name == silentVolume)
+            keepWaiting();
+        return ForwardingDevices::queryVolume(name);
+    }
+
+    int silentDrive = -1;
+    QString silentVolume;
+    std::atomic<int> asked{0};
+    QSemaphore answers;
+
+private:
+    void keepWaiting()
+    {
+        ++asked;
+        answers.acquire();
+    }
+};
+
+struct SilentMachine
+{
+    FourDrives pc;
+    SilentDevices devices{pc.devices};
+    struct Machine : DevicePlatform
+    {
+        Machine(platform::Devices &devices, platform::Session &session)
+            : DevicePlatform(devices)
+            , sessionInUse(session)
+        {}
+        platform::Session &session() override { return sessionInUse; }
+
+        platform::Session &sessionInUse;
+    };
+    Machine machine{devices, pc.machine.session()};
+    platform::ScopedPlatform scope{machine};
+
+    // Those that answer have all the time that a busy machine may need.
+    SilentMachine() { limitedquestion::setLimit(std::chrono::seconds(3)); }
+    ~SilentMachine() { limitedquestion::setLimit(limitedquestion::DefaultLimit); }
+
+    // Until the late answer is in.
+    void letAnswer()
+    {
+        devices.answers.release(100);
+        limitedquestion::setLimit(limitedquestion::DefaultLimit);
+        QTRY_COMPARE_WITH_TIMEOUT(numbers(DiskManager::enumerateDisks()), (QList<int>{0, 1, 2, 3}), 60000);
+    }
+};
+
+} // namespace
+
+void tst_DiskManager::aDriveThatDoesNotAnswerIsSkippedAndNotAskedAgain()
+{
+    SilentMachine silent;
+    silent.devices.silentDrive = 2;
+    for (int i = 0; i < 3; ++i) {
+        QCOMPARE(numbers(DiskManager::enumerateDisks()), (QList<int>{0, 1, 3}));
+        QCOMPARE(silent.devices.asked.load(), 1);
+    }
+    silent.letAnswer();
+}
+
+void tst_DiskManager::aVolumeThatDoesNotAnswerIsOnNoDisk()
+{
+    SilentMachine silent;
+    silent.pc.mount(u"E:"_s, {1});
+    silent.pc.mount(u"F:"_s, {1});
+    silent.devices.silentVolume = u"E:"_s;
+    QCOMPARE(driveLetters(DiskManager::partitionsForDisk(1)), QStringList{u"F:"_s});
+    QVERIFY(DiskManager::spanningVolumesForDisk(1).isEmpty());
+    QCOMPARE(silent.devices.asked.load(), 1);
+    silent.letAnswer();
+    QTRY_COMPARE_WITH_TIMEOUT(driveLetters(DiskManager::partitionsForDisk(1)),
+                              (QStringList{u"E:"_s, u"F:"_s}), 60000);
+}
+
+void tst_DiskManager::whatAQuestionThrowsIsThrown()
+{
+    const auto fail = [] { throw std::bad_alloc(); };
+    QVERIFY_EXCEPTION_THROWN(limitedquestion::ask(u"drive"_s, fail), std::bad_alloc);
+    QCOMPARE(limitedquestion::answerOf<int>(u"drive"_s, [] { return 7; }), std::optional<int>(7));
 }
 
 QUORVEX_SUITE(tst_DiskManager, QCoreApplication)
