@@ -19,7 +19,7 @@ JobController::~JobController()
 {
     try {
         finish();
-    } catch (const std::bad_alloc &) {
+    } catch (const std::bad_alloc &) { // NOLINT(bugprone-empty-catch)
         // Without memory there is no record; the engine stops its worker without any.
     }
     // The engine's worker may read the task to its end.

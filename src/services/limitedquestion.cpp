@@ -105,7 +105,7 @@ void setLimit(std::chrono::milliseconds limit)
     s_limit.store(limit);
 }
 
-bool ask(const QString &device, std::function<void()> question)
+bool ask(const QString &device, const std::function<void()> &question)
 {
     if (owing().has(device)) {
         qDebug() << "Not asked, since it has not answered before:" << device;

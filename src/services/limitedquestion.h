@@ -18,7 +18,7 @@ inline constexpr std::chrono::milliseconds DefaultLimit{20'000};
 void setLimit(std::chrono::milliseconds limit);
 
 /// False when the question was not answered in time, or not asked. What it throws in time is thrown here.
-bool ask(const QString &device, std::function<void()> question);
+bool ask(const QString &device, const std::function<void()> &question);
 
 /// The same, with what the question answers. It must not refer to anything that whoever asks may take away.
 template <typename Answer>
