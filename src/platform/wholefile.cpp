@@ -1,7 +1,6 @@
 #include "platform/wholefile.h"
 
 #include <QDebug>
-#include <QFile>
 #include <QFileInfo>
 
 namespace platform {
@@ -45,10 +44,7 @@ bool WholeFile::commit(const QByteArray &bytes)
 bool WholeFile::commitToStream(const QByteArray &bytes)
 {
     QFile stream(m_file.fileName());
-    // Appending cuts nothing off, should something else stand under the name by now.
-    constexpr auto Mode =
-        QIODevice::WriteOnly | QIODevice::Append | QIODevice::ExistingOnly | QIODevice::Unbuffered;
-    if (!stream.open(Mode | m_lineEnds) || !isStream(stream))
+    if (!openStream(stream, QIODevice::WriteOnly | QIODevice::Unbuffered | m_lineEnds))
         return failed("open", stream.errorString());
     return stream.write(bytes) == bytes.size() || failed("write", stream.errorString());
 }

@@ -1,8 +1,8 @@
 #include "platform/filenames.h"
+#include "platform/linux/filedescriptor.h"
 #include "platform/wholefile.h"
 
-#include <QFileDevice>
-
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -25,10 +25,17 @@ bool isStream(const QString &path)
     return ::stat(encodeName(path).constData(), &status) == 0 && isStream(status);
 }
 
-bool isStream(const QFileDevice &file)
+bool openStream(QFile &stream, QIODevice::OpenMode mode)
 {
+    const QByteArray name = encodeName(stream.fileName());
+    FileDescriptor opened(
+        uninterrupted([&name] { return ::open(name.constData(), O_WRONLY | O_NOCTTY | O_CLOEXEC); }));
     struct stat status = {};
-    return ::fstat(file.handle(), &status) == 0 && isStream(status);
+    if (!opened.isValid() || ::fstat(opened.get(), &status) != 0 || !isStream(status) ||
+        !stream.open(opened.get(), mode, QFileDevice::AutoCloseHandle))
+        return false;
+    opened.release();
+    return true;
 }
 
 bool isWrittenOut(const QFileDevice &file)

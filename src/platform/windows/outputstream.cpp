@@ -7,7 +7,7 @@ bool isStream(const QString &)
     return false;
 }
 
-bool isStream(const QFileDevice &)
+bool openStream(QFile &, QIODevice::OpenMode)
 {
     return false;
 }
