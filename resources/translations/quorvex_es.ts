@@ -223,6 +223,10 @@
         <source>Read Back</source>
         <translation>Relectura</translation>
     </message>
+    <message>
+        <source>%1:</source>
+        <translation>%1:</translation>
+    </message>
 </context>
 <context>
     <name>CertificateNumber</name>
@@ -396,6 +400,10 @@
     <message>
         <source>(全部内容见本程序历史记录)</source>
         <translation>(completo en el historial de este programa)</translation>
+    </message>
+    <message>
+        <source>%1:</source>
+        <translation>%1:</translation>
     </message>
 </context>
 <context>

@@ -223,6 +223,10 @@
         <source>Read Back</source>
         <translation>다시 읽기</translation>
     </message>
+    <message>
+        <source>%1:</source>
+        <translation>%1:</translation>
+    </message>
 </context>
 <context>
     <name>CertificateNumber</name>
@@ -396,6 +400,10 @@
     <message>
         <source>(全部内容见本程序历史记录)</source>
         <translation>(전체 내용은 이 프로그램의 기록에 있음)</translation>
+    </message>
+    <message>
+        <source>%1:</source>
+        <translation>%1:</translation>
     </message>
 </context>
 <context>

@@ -223,6 +223,10 @@
         <source>Read Back</source>
         <translation>讀回</translation>
     </message>
+    <message>
+        <source>%1:</source>
+        <translation>%1:</translation>
+    </message>
 </context>
 <context>
     <name>CertificateNumber</name>
@@ -396,6 +400,10 @@
     <message>
         <source>(全部内容见本程序历史记录)</source>
         <translation>（完整內容見本程式的歷史記錄）</translation>
+    </message>
+    <message>
+        <source>%1:</source>
+        <translation>%1:</translation>
     </message>
 </context>
 <context>

@@ -214,7 +214,8 @@ void CertificatePage::paintRow(const CertificateRow &row)
     const QRect valueBox(m_left + pixels(labelWidth) + pixels(labelGap), m_y, valueWidthPixels,
                          pixels(rowHeight));
     const QFont font = textFont(10);
-    write(labelBox, leftCentred, row.label + u':', font, colour(CertificateColour::SecondaryText));
+    write(labelBox, leftCentred, CertificateRenderer::tr("%1:").arg(row.label), font,
+          colour(CertificateColour::SecondaryText));
     write(valueBox, leftCentred, row.value, font, colour(CertificateColour::Text));
     if (!row.beside.isEmpty())
         paintBeside(row, valueBox, font);

@@ -215,7 +215,7 @@ QWidget *makeRow(const ViewRow &row, QWidget *parent)
 {
     auto *widget = new QWidget(parent);
     widget->setStyleSheet(certificatestyles::Row.toString());
-    auto *label = new RowLabel(row.label + u':', widget);
+    auto *label = new RowLabel(CertificateDialog::tr("%1:").arg(row.label), widget);
     auto *value = new SelectableValue(row.value, widget);
     value->setObjectName(u"valueLabel"_s);
     value->setStyleSheet(row.valueStyle.toString());

@@ -470,7 +470,8 @@ void tst_CertificateDialog::textsAreTranslated()
                                 u"📄 Export PDF"_s,
                                 u"🖨️ Print"_s,
                                 u"Close"_s})
-        QVERIFY2(shown.contains(mark + text), qPrintable(text));
+        // What stands before the colon of a row, and the two together, which is the language's affair too.
+        QVERIFY2(shown.contains(mark + text) || shown.contains(mark + mark + text), qPrintable(text));
 }
 
 void tst_CertificateDialog::valuesAreNeverRichText()
