@@ -17,6 +17,8 @@ export LC_ALL=C.UTF-8
     packages_test=(e2fsprogs xfsprogs btrfs-progs util-linux mount libfuse3-dev fuse3 pkg-config)
     # A reader of PDF files that is not ours.
     packages_test+=(poppler-utils)
+    # A screen that shows windows to nobody.
+    packages_test+=(xvfb)
     packages_ci=(git clang-format shellcheck python3)
     # This one does not apply its checks to the headers of Qt again for every file, and takes a third of the time.
     packages_ci+=(clang-tidy-22)

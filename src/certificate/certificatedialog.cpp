@@ -4,6 +4,7 @@
 #include "certificate/certificatestyles.h"
 #include "certificate/certificateview.h"
 #include "model/displaytext.h"
+#include "model/spokentext.h"
 #include "model/usersettings.h"
 #include "prompts/prompts.h"
 
@@ -20,21 +21,11 @@
 #include <QStyle>
 #include <QVBoxLayout>
 
-#include <algorithm>
-
 using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr int buttonHeight = 38;
-
-// The picture at the beginning of a button's text says nothing when read aloud.
-QString withoutPicture(const QString &text)
-{
-    const auto letter =
-        std::find_if(text.cbegin(), text.cend(), [](QChar c) { return c.isLetterOrNumber(); });
-    return text.mid(letter - text.cbegin());
-}
 
 QPushButton *makeButton(const QString &text, QStringView style, QWidget *parent)
 {
@@ -43,7 +34,7 @@ QPushButton *makeButton(const QString &text, QStringView style, QWidget *parent)
     button->setFixedHeight(buttonHeight);
     // The enter key, pressed for the dialog before perhaps, must not write or print.
     button->setAutoDefault(false);
-    button->setAccessibleName(withoutPicture(text));
+    button->setAccessibleName(spokenText(text));
     return button;
 }
 

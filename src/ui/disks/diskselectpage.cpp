@@ -1,11 +1,11 @@
 #include "ui/disks/diskselectpage.h"
 
+#include "model/spokentext.h"
 #include "services/diskmanager.h"
 #include "ui/disks/disktree.h"
 #include "ui/disks/disktreerows.h"
 #include "ui/disks/obstaclestext.h"
 #include "ui/style/pagestyle.h"
-#include "ui/style/spokentext.h"
 
 #include <QBoxLayout>
 #include <QHeaderView>

@@ -1,8 +1,8 @@
 #include "ui/disks/disktreerows.h"
 
 #include "model/displaytext.h"
+#include "model/spokentext.h"
 #include "ui/style/palette.h"
-#include "ui/style/spokentext.h"
 #include "ui/style/tooltip.h"
 
 #include <QBrush>

@@ -1,6 +1,6 @@
 #include "ui/files/dropzone.h"
 
-#include "ui/style/spokentext.h"
+#include "model/spokentext.h"
 
 #include <QBoxLayout>
 #include <QLabel>

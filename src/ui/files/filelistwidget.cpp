@@ -1,7 +1,7 @@
 #include "ui/files/filelistwidget.h"
 
 #include "model/displaytext.h"
-#include "ui/style/spokentext.h"
+#include "model/spokentext.h"
 #include "ui/style/tooltip.h"
 
 #include <QSignalBlocker>

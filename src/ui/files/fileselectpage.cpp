@@ -1,11 +1,11 @@
 #include "ui/files/fileselectpage.h"
 
 #include "model/formatsize.h"
+#include "model/spokentext.h"
 #include "prompts/prompts.h"
 #include "ui/files/dropzone.h"
 #include "ui/files/filelistwidget.h"
 #include "ui/style/pagestyle.h"
-#include "ui/style/spokentext.h"
 
 #include <QBoxLayout>
 #include <QDropEvent>

@@ -2,12 +2,12 @@
 
 #include "model/displaytext.h"
 #include "model/formatsize.h"
+#include "model/spokentext.h"
 #include "model/targettext.h"
 #include "services/binitemtext.h"
 #include "services/binrecords.h"
 #include "services/recyclebinscanner.h"
 #include "ui/files/fileselectpage.h"
-#include "ui/style/spokentext.h"
 #include "ui/style/tooltip.h"
 
 #include <QCoreApplication>

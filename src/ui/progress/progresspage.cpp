@@ -1,7 +1,7 @@
 #include "ui/progress/progresspage.h"
 
+#include "model/spokentext.h"
 #include "ui/progress/wiperate.h"
-#include "ui/style/spokentext.h"
 
 #include <QLabel>
 #include <QProgressBar>

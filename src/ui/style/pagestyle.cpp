@@ -1,6 +1,6 @@
 #include "ui/style/pagestyle.h"
 
-#include "ui/style/spokentext.h"
+#include "model/spokentext.h"
 
 #include <QLabel>
 #include <QPushButton>

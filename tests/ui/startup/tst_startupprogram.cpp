@@ -15,6 +15,7 @@
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <QRegularExpression>
+#include <QScopeGuard>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
@@ -82,7 +83,8 @@ private:
     std::unique_ptr<QTemporaryDir> m_home;
     std::unique_ptr<QProcess> m_program;
     QString m_locale;
-    QString m_drive; // an image file
+    QString m_drive;   // an image file
+    QString m_display; // of an X server; empty: none
 };
 
 void tst_StartupProgram::init()
@@ -95,6 +97,7 @@ void tst_StartupProgram::init()
     m_program = std::make_unique<QProcess>();
     m_locale.clear();
     m_drive.clear();
+    m_display.clear();
 }
 
 // No process outlives its test, least of all one that the program started.
@@ -143,7 +146,9 @@ void tst_StartupProgram::prepare(const QStringList &steps)
         environment.remove(u"QUORVEX_IMAGE_DISKS"_s);
     else
         environment.insert(u"QUORVEX_IMAGE_DISKS"_s, m_drive);
-    environment.insert(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
+    environment.insert(u"QT_QPA_PLATFORM"_s, m_display.isEmpty() ? u"offscreen"_s : u"xcb"_s);
+    if (!m_display.isEmpty())
+        environment.insert(u"DISPLAY"_s, m_display);
     environment.insert(u"QT_FORCE_STDERR_LOGGING"_s, u"1"_s);
     environment.remove(u"QT_MESSAGE_PATTERN"_s);
     environment.remove(u"QT_LOGGING_RULES"_s);
@@ -352,16 +357,31 @@ void tst_StartupProgram::aJobThatIsLeftIsRecorded_data()
 {
     QTest::addColumn<QStringList>("steps");
     QTest::addColumn<int>("signal");
-    QTest::newRow("closed") << QStringList{u"wipe close"_s} << 0;
-    QTest::newRow("another language") << QStringList{u"wipe language de"_s, u"close"_s} << 0;
-    QTest::newRow("the end of the session") << QStringList{u"wipe"_s} << SIGTERM;
+    QTest::addColumn<bool>("onX");
+    QTest::newRow("closed") << QStringList{u"wipe close"_s} << 0 << false;
+    QTest::newRow("closed on X") << QStringList{u"wipe close"_s} << 0 << true;
+    QTest::newRow("another language") << QStringList{u"wipe language de"_s, u"close"_s} << 0 << false;
+    QTest::newRow("the end of the session") << QStringList{u"wipe"_s} << SIGTERM << false;
 }
 
 void tst_StartupProgram::aJobThatIsLeftIsRecorded()
 {
     QFETCH(const QStringList, steps);
     QFETCH(const int, signal);
+    QFETCH(const bool, onX);
     store(u"en"_s);
+    QProcess server;
+    const auto end = qScopeGuard([&server] {
+        server.terminate();
+        server.waitForFinished(Patience);
+    });
+    if (onX) {
+        server.start(u"Xvfb"_s, {u"-displayfd"_s, u"1"_s, u"-nolisten"_s, u"tcp"_s});
+        while (server.waitForReadyRead(Patience) && !server.canReadLine()) {
+        }
+        m_display = u':' + QString::fromLatin1(server.readLine().trimmed());
+        QVERIFY2(m_display.size() > 1, qPrintable(server.errorString()));
+    }
     m_drive = home(u"drive.img"_s);
     {
         // Sparse, and far too large to be through before it is left.

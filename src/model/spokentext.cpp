@@ -1,4 +1,4 @@
-#include "ui/style/spokentext.h"
+#include "model/spokentext.h"
 
 #include <QChar>
 #include <QStringView>

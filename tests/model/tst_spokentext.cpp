@@ -1,5 +1,5 @@
+#include "model/spokentext.h"
 #include "support/suite.h"
-#include "ui/style/spokentext.h"
 
 #include <QCoreApplication>
 #include <QTest>
