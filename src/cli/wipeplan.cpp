@@ -87,8 +87,6 @@ public:
             m_view = std::make_unique<JsonJobView>(context.io, quiet);
         else
             m_view = std::make_unique<TextJobView>(context.io, quiet);
-        m_controller.setKeep(
-            [this](JobEnd &end) { m_written = m_records.write(end, m_options.accepts(end.outcome)); });
     }
 
     // False when the jobs behind this one are not to be run.
@@ -102,7 +100,6 @@ private:
     StopRequest &m_stop;
     std::unique_ptr<JobView> m_view;
     JobRecords::Written m_written; // of the job that ended last
-    JobController m_controller;
     int m_started = 0;
     std::optional<QString> m_engineRefusal;
     bool m_isCancelled = false;
@@ -113,8 +110,12 @@ private:
 bool Session::run(PlannedJob &job)
 {
     logJobStart(*job.task, job.target);
-    m_controller.takeTask(std::move(job.task));
-    const JobResult result = runJob(m_controller, job.target, *m_view, m_stop);
+    // One for each job: it goes when the job's thread is over, before the next one begins.
+    JobController controller;
+    controller.takeTask(std::move(job.task));
+    controller.setKeep(
+        [this](JobEnd &end) { m_written = m_records.write(end, m_options.accepts(end.outcome)); });
+    const JobResult result = runJob(controller, job.target, *m_view, m_stop);
     logJobEnd(result);
     if (!result.wasStarted) {
         m_engineRefusal = result.lastError;
