@@ -8,6 +8,7 @@
 #include "ui/style/palette.h"
 #include "ui/style/tooltip.h"
 
+#include <QAbstractItemView>
 #include <QBoxLayout>
 #include <QComboBox>
 #include <QFrame>
@@ -65,12 +66,23 @@ bool isMoreThanTheStatusTells(const WipeReport &report, const OutcomeRecord &out
            (outcome.outcome() == JobOutcome::Cancelled && report.status != WipeStatus::Cancelled);
 }
 
+// Its list is as wide as its words, which some styles cut to the width of the box.
+class FilterBox : public QComboBox
+{
+public:
+    void showPopup() override
+    {
+        view()->setMinimumWidth(view()->sizeHintForColumn(0) + 2 * view()->frameWidth());
+        QComboBox::showPopup();
+    }
+};
+
 } // namespace
 
 HistoryPage::HistoryPage(QWidget *parent)
     : QWidget(parent)
     , m_exporter(&exportWithRenderer)
-    , m_filter(new QComboBox)
+    , m_filter(new FilterBox)
     , m_table(new QTableWidget)
     , m_view(new QPushButton(tr("查看证书")))
     , m_export(new QPushButton(tr("导出PDF")))

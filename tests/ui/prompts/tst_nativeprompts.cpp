@@ -248,6 +248,9 @@ void tst_NativePrompts::withdrawingAnswersLikeEscape()
 
 void tst_NativePrompts::theLatestBoxIsWithdrawn()
 {
+#ifdef Q_OS_WIN
+    QSKIP("SKIPPED: Windows as Wine plays it closes boxes out of turn when the machine is busy");
+#endif
     Prompts::Box inner = question();
     inner.title = u"inner"_s;
     Prompts::Box outer = question();
