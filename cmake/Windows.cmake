@@ -1,11 +1,13 @@
 # What a program for Windows carries beside its code, and what must lie beside it to run where it was built.
 
-# quorvex_windows_program(TARGET DESCRIPTION text): manifest, version resource and icon.
+# quorvex_windows_program(TARGET DESCRIPTION text RIGHTS asInvoker|highestAvailable): manifest, version resource and
+# icon. RIGHTS: what the system is asked for when the program starts.
 function(quorvex_windows_program target)
-  cmake_parse_arguments(PARSE_ARGV 1 arg "" "DESCRIPTION" "")
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "DESCRIPTION;RIGHTS" "")
   set(folder "${CMAKE_BINARY_DIR}/windows/${target}")
   set(QUORVEX_FILE_NAME "${target}.exe")
   set(QUORVEX_FILE_DESCRIPTION "${arg_DESCRIPTION}")
+  set(QUORVEX_RIGHTS "${arg_RIGHTS}")
   set(QUORVEX_MANIFEST "${folder}/program.manifest")
   configure_file("${PROJECT_SOURCE_DIR}/packaging/windows/program.manifest.in" "${QUORVEX_MANIFEST}" @ONLY)
   configure_file("${PROJECT_SOURCE_DIR}/packaging/windows/program.rc.in" "${folder}/program.rc" @ONLY)

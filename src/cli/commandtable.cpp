@@ -15,6 +15,7 @@ Command reportsShowCommand();
 Command reportsExportCommand();
 Command reportsDeleteCommand();
 Command checkCommand();
+Command doctorCommand();
 
 QList<Command> allCommands()
 {
@@ -22,6 +23,7 @@ QList<Command> allCommands()
         disksCommand(),       methodsCommand(),       wipeDiskCommand(),      wipeFreeCommand(),
         wipeFilesCommand(),   wipeTrashCommand(),     trashListCommand(),     reportsListCommand(),
         reportsShowCommand(), reportsExportCommand(), reportsDeleteCommand(), checkCommand(),
+        doctorCommand(),
     };
 }
 

@@ -229,6 +229,7 @@ public:
     bool isSystemRoot(const QString &rootPath) override { return m_target.isSystemRoot(rootPath); }
     bool holdsSystemFiles(const QString &rootPath) override { return m_target.holdsSystemFiles(rootPath); }
     QString userId() override { return m_target.userId(); }
+    Result<bool> isAdministrator() override { return m_target.isAdministrator(); }
 
 protected:
     Session &m_target;

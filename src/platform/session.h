@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/status.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -35,6 +37,10 @@ public:
     // system does not tell. Windows: OpenProcessToken(TOKEN_QUERY), GetTokenInformation(TokenUser),
     // ConvertSidToStringSidW ("S-1-5-21-..."). Linux: the numeric user id.
     virtual QString userId() = 0;
+
+    // Whether the program has the rights that drives ask for. Windows: OpenProcessToken(TOKEN_QUERY),
+    // GetTokenInformation(TokenElevation). Linux: the effective user is root.
+    virtual Result<bool> isAdministrator() = 0;
 };
 
 } // namespace platform

@@ -15,9 +15,6 @@
 #include <optional>
 
 namespace {
-constexpr int FirstDrive = 0;
-constexpr int LastDrive = 31;
-
 // Taken for the system disk when a system volume does not tell where it lies.
 constexpr int LikelySystemDisk = 0;
 
@@ -142,11 +139,6 @@ void readDescriptor(platform::DeviceQuery &drive, DiskInfo &disk)
     }
 }
 
-QString driveKey(int number)
-{
-    return QStringLiteral("drive %1").arg(number);
-}
-
 // Empty when the drive cannot be opened. The handle is closed on return, before others are opened on the same
 // drive.
 std::optional<DiskInfo> describeDrive(int number)
@@ -191,6 +183,11 @@ PartitionInfo describeVolume(const platform::MountedVolume &volume)
     return partition;
 }
 } // namespace
+
+QString DiskManager::driveKey(int diskNumber)
+{
+    return QStringLiteral("drive %1").arg(diskNumber);
+}
 
 QList<DiskInfo> DiskManager::enumerateDisks()
 {

@@ -18,7 +18,13 @@ class DiskManager
 public:
     DiskManager() = delete;
 
-    /// The disks numbered 0 to 31 that can be opened, ascending, each with its volumes.
+    static constexpr int FirstDrive = 0;
+    static constexpr int LastDrive = 31;
+
+    /// What limitedquestion knows a disk as.
+    static QString driveKey(int diskNumber);
+
+    /// The disks numbered FirstDrive to LastDrive that can be opened, ascending, each with its volumes.
     static QList<DiskInfo> enumerateDisks();
 
     /// The mounted volumes that lie wholly on that disk, in the order of the system's list. `driveLetter` is

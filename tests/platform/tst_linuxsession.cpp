@@ -5,6 +5,8 @@
 #include <QProcess>
 #include <QTest>
 
+#include <unistd.h>
+
 using namespace Qt::StringLiterals;
 using namespace platform;
 
@@ -15,6 +17,7 @@ class tst_LinuxSession : public QObject
 
 private slots:
     void userIsNamedByTheNumber();
+    void rightsAreThoseOfTheUserInEffect();
     void rootsOfTheSystem();
 };
 
@@ -24,6 +27,19 @@ void tst_LinuxSession::userIsNamedByTheNumber()
     id.start(u"id"_s, {u"-u"_s});
     QVERIFY(id.waitForFinished());
     QCOMPARE(LinuxSession().userId(), QString::fromLatin1(id.readAllStandardOutput().trimmed()));
+}
+
+void tst_LinuxSession::rightsAreThoseOfTheUserInEffect()
+{
+    LinuxSession session;
+    QCOMPARE(session.isAdministrator().valueOr(::geteuid() != 0), ::geteuid() == 0);
+    if (::getuid() != 0)
+        return;
+    constexpr uid_t Nobody = 65534;
+    QCOMPARE(::seteuid(Nobody), 0);
+    const bool isAdministrator = session.isAdministrator().valueOr(true);
+    QCOMPARE(::seteuid(0), 0);
+    QVERIFY(!isAdministrator);
 }
 
 void tst_LinuxSession::rootsOfTheSystem()

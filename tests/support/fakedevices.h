@@ -104,11 +104,13 @@ public:
     QStringList systemVolumeNames;
     QStringList systemRoots; // exact root paths
     QString user;
+    platform::Result<bool> administrator = true;
 
     QStringList systemVolumes() override { return systemVolumeNames; }
     bool isSystemRoot(const QString &rootPath) override { return systemRoots.contains(rootPath); }
     bool holdsSystemFiles(const QString &rootPath) override { return isSystemRoot(rootPath); }
     QString userId() override { return user; }
+    platform::Result<bool> isAdministrator() override { return administrator; }
 };
 
 // A machine that has drives and a user, and nothing else: asking for its files is a mistake of the test.

@@ -345,6 +345,7 @@ private slots:
     void everyCallFailsOnce();
     void systemVolume();
     void userIsNamedByTheSid();
+    void rightsAreThoseOfTheToken();
 
 private:
     QString path(const QString &name) const { return m_folder->filePath(name); }
@@ -1044,6 +1045,33 @@ void tst_WindowsFiles::userIsNamedByTheSid()
     QCOMPARE(session.userId(), user);
     QCOMPARE(faults.openHandles(), 0);
     QCOMPARE(faults.openMemory(), 0);
+}
+
+void tst_WindowsFiles::rightsAreThoseOfTheToken()
+{
+    WindowsSession session;
+    Win32Faults faults;
+    static DWORD s_elevated = 0;
+    faults.target().getTokenInformation = [](HANDLE, TOKEN_INFORMATION_CLASS asked, LPVOID reply, DWORD room,
+                                             PDWORD size) -> BOOL {
+        if (asked != TokenElevation || room != sizeof(TOKEN_ELEVATION))
+            return FALSE;
+        static_cast<TOKEN_ELEVATION *>(reply)->TokenIsElevated = s_elevated;
+        *size = room;
+        return TRUE;
+    };
+    for (const bool elevated : {false, true}) {
+        s_elevated = elevated ? 1 : 0;
+        const auto rights = session.isAdministrator();
+        QVERIFY(rights.ok());
+        QCOMPARE(rights.value(), elevated);
+    }
+    for (const int call : {int(Win32Faults::OpenProcessToken_), int(Win32Faults::GetTokenInformation_)}) {
+        faults.fail(call, 1, ERROR_NOT_ENOUGH_MEMORY);
+        QCOMPARE(session.isAdministrator().code(), quint32(ERROR_NOT_ENOUGH_MEMORY));
+        QCOMPARE(faults.fired(), 1);
+    }
+    QCOMPARE(faults.openHandles(), 0);
 }
 
 QUORVEX_SUITE(tst_WindowsFiles, QCoreApplication)

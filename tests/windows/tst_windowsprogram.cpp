@@ -61,6 +61,23 @@ bool isControlToldOfInterrupt()
     return control.waitForFinished() && control.exitCode() == ToldOfInterrupt;
 }
 
+// Empty when there is none.
+QByteArray resource(const QString &programName, LPCWSTR name, LPCWSTR type)
+{
+    const QString program = QCoreApplication::applicationDirPath() + u'/' + programName;
+    HMODULE const module =
+        ::LoadLibraryExW(program.toStdWString().c_str(), nullptr, LOAD_LIBRARY_AS_DATAFILE);
+    if (!module)
+        return {};
+    HRSRC const found = ::FindResourceW(module, name, type);
+    const void *bytes = found ? ::LockResource(::LoadResource(module, found)) : nullptr;
+    const QByteArray copy =
+        bytes ? QByteArray(static_cast<const char *>(bytes), qsizetype(::SizeofResource(module, found)))
+              : QByteArray();
+    ::FreeLibrary(module);
+    return copy;
+}
+
 struct Finished
 {
     int code = -1;
@@ -82,6 +99,7 @@ private slots:
     void init();
 
     void itCarriesItsResources();
+    void onlyTheDesktopProgramAsksForRights();
     void itTellsItsVersion();
     void itListsTheMethods();
     void itListsTheImage();
@@ -149,27 +167,25 @@ void tst_WindowsProgram::init()
 
 void tst_WindowsProgram::itCarriesItsResources()
 {
-    const QString program = QCoreApplication::applicationDirPath() + u'/' + QStringLiteral(QUORVEX_CLI);
-    const HMODULE module =
-        ::LoadLibraryExW(program.toStdWString().c_str(), nullptr, LOAD_LIBRARY_AS_DATAFILE);
-    QVERIFY(module);
-    const auto resource = [module](LPCWSTR name, LPCWSTR type) {
-        HRSRC const found = ::FindResourceW(module, name, type);
-        if (!found)
-            return QByteArray();
-        const void *bytes = ::LockResource(::LoadResource(module, found));
-        return QByteArray(static_cast<const char *>(bytes), qsizetype(::SizeofResource(module, found)));
-    };
-    const QByteArray manifest = resource(MAKEINTRESOURCEW(1), RT_MANIFEST);
-    for (const char *part :
-         {"highestAvailable", ">true</longPathAware>", ">UTF-8</activeCodePage>", "PerMonitorV2"})
+    const QByteArray manifest = resource(QStringLiteral(QUORVEX_CLI), MAKEINTRESOURCEW(1), RT_MANIFEST);
+    for (const char *part : {">true</longPathAware>", ">UTF-8</activeCodePage>", "PerMonitorV2"})
         QVERIFY2(manifest.contains(part), part);
-    const QByteArray version = resource(MAKEINTRESOURCEW(VS_VERSION_INFO), RT_VERSION);
+    const QByteArray version =
+        resource(QStringLiteral(QUORVEX_CLI), MAKEINTRESOURCEW(VS_VERSION_INFO), RT_VERSION);
     const QString text(reinterpret_cast<const QChar *>(version.constData()), version.size() / 2);
     QVERIFY(text.contains(u"ProductName"_s) && text.contains(u"Quorvex"_s) && text.contains(u"5.0"_s));
     // An icon group lists its pictures: a header of 6 bytes and 14 for each.
-    QCOMPARE(resource(MAKEINTRESOURCEW(1), RT_GROUP_ICON).size(), 6 + 9 * 14);
-    ::FreeLibrary(module);
+    QCOMPARE(resource(QStringLiteral(QUORVEX_CLI), MAKEINTRESOURCEW(1), RT_GROUP_ICON).size(), 6 + 9 * 14);
+}
+
+// A shell cannot start what asks for more rights than its own (error 740).
+void tst_WindowsProgram::onlyTheDesktopProgramAsksForRights()
+{
+    const auto manifest = [](const QString &program) {
+        return resource(program, MAKEINTRESOURCEW(1), RT_MANIFEST);
+    };
+    QVERIFY(manifest(QStringLiteral(QUORVEX_CLI)).contains("level=\"asInvoker\""));
+    QVERIFY(manifest(QStringLiteral(QUORVEX_DESKTOP)).contains("level=\"highestAvailable\""));
 }
 
 void tst_WindowsProgram::itTellsItsVersion()

@@ -74,4 +74,9 @@ QString LinuxSession::userId()
     return QString::number(::geteuid());
 }
 
+Result<bool> LinuxSession::isAdministrator()
+{
+    return ::geteuid() == 0;
+}
+
 } // namespace platform

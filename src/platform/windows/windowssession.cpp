@@ -1,5 +1,6 @@
 #include "platform/windows/windowssession.h"
 
+#include "platform/windows/lasterror.h"
 #include "platform/windows/win32calls.h"
 #include "platform/windows/windowspaths.h"
 #include "platform/windows/winhandle.h"
@@ -8,6 +9,18 @@
 #include <memory>
 
 namespace platform {
+
+namespace {
+
+WinHandle ownToken()
+{
+    HANDLE opened = nullptr;
+    if (!win32().openProcessToken(::GetCurrentProcess(), TOKEN_QUERY, &opened))
+        return {};
+    return WinHandle(opened);
+}
+
+} // namespace
 
 QStringList WindowsSession::systemVolumes()
 {
@@ -32,10 +45,9 @@ bool WindowsSession::holdsSystemFiles(const QString &rootPath)
 
 QString WindowsSession::userId()
 {
-    HANDLE opened = nullptr;
-    if (!win32().openProcessToken(::GetCurrentProcess(), TOKEN_QUERY, &opened))
+    const WinHandle token = ownToken();
+    if (!token.isValid())
         return {};
-    const WinHandle token(opened);
     // The first question only tells how much room the answer takes.
     DWORD size = 0;
     win32().getTokenInformation(token.get(), TokenUser, nullptr, 0, &size);
@@ -50,6 +62,18 @@ QString WindowsSession::userId()
     QString id = decodeName(text);
     win32().localFree(text);
     return id;
+}
+
+Result<bool> WindowsSession::isAdministrator()
+{
+    const WinHandle token = ownToken();
+    if (!token.isValid())
+        return statusFromLastError("OpenProcessToken");
+    TOKEN_ELEVATION elevation = {};
+    DWORD size = sizeof(elevation);
+    if (!win32().getTokenInformation(token.get(), TokenElevation, &elevation, size, &size))
+        return statusFromLastError("GetTokenInformation");
+    return elevation.TokenIsElevated != 0;
 }
 
 } // namespace platform

@@ -11,6 +11,7 @@ public:
     bool isSystemRoot(const QString &rootPath) override;
     bool holdsSystemFiles(const QString &rootPath) override;
     QString userId() override;
+    Result<bool> isAdministrator() override;
 };
 
 } // namespace platform
