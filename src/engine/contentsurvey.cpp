@@ -2,6 +2,7 @@
 
 #include "platform/contentplace.h"
 #include "platform/files.h"
+#include "platform/folders.h"
 #include "platform/platform.h"
 
 using platform::Elsewhere;
@@ -17,4 +18,12 @@ bool writesToNewPlaces(const QString &folder)
     const auto place = platform::Platform::current().files().contentPlace(folder);
     return place &&
            (place.value().elsewhere & (Elsewhere::Relocating | Elsewhere::Shared | Elsewhere::LowerLayer));
+}
+
+std::optional<Shortfall> snapshotNote(const QString &path)
+{
+    const auto count = platform::Platform::current().folders().snapshots(path);
+    if (count.code() == platform::NotSupported || (count && count.value() == 0))
+        return std::nullopt;
+    return Shortfall{.kind = ShortfallKind::ShadowCopies, .place = path, .count = count.valueOr(-1)};
 }

@@ -1,5 +1,6 @@
 #include "engine/foreseeable.h"
 
+#include "engine/contentsurvey.h"
 #include "engine/filesurvey.h"
 #include "engine/freespacefill.h"
 #include "engine/freespacewipeworker.h"
@@ -49,6 +50,8 @@ void foreseeVolume(const PartitionInfo &partition, OutcomeRecord &record)
     if (name.isEmpty() || partition.freeBytes <= 0)
         return;
     record.note(keptReserve(name, partition.freeBytes, FreeSpaceFill::reserveFor(name)));
+    if (const auto snapshots = snapshotNote(FreeSpaceWipeWorker::rootPathOf(name)))
+        record.note(*snapshots);
 }
 
 void foreseeFreeSpace(const WipeTask &task, OutcomeRecord &record)

@@ -275,6 +275,8 @@ bool FreeSpaceWipeWorker::runPasses()
                    FreeSpaceFill::Volume{m_root, m_freeAtStart, task().bufferSizeMB() * MiB});
     if (writesToNewPlaces(m_root))
         task().noteShortfall({ShortfallKind::CopyOnWrite, m_root});
+    if (const auto note = snapshotNote(m_root))
+        task().noteShortfall(*note);
     noteReadBack(false);
     const qint64 kept = std::min(m_freeAtStart, FreeSpaceFill::reserveFor(m_root));
     log(tr("保留 %1 作为安全空间，不会被覆写").arg(formatSize(kept)));

@@ -41,6 +41,9 @@ public:
     // cannot be asked: the job tells then.
     static QString obstacleOf(const WipeTask &task);
 
+    // The folder at the top of a volume by its name.
+    static QString rootPathOf(const QString &volume);
+
 public slots:
     void process() override;
 
@@ -59,7 +62,6 @@ private:
 
     bool wipeVolume(const QString &root);
     platform::Status openVolume(const QString &root);
-    static QString rootPathOf(const QString &volume);
     static PartitionInfo chosenRecord(const WipeTask &task, const QString &volume);
     static platform::Status checkMounted(const QString &root);
     static bool isChosen(platform::AnchoredFolder &volume, const PartitionInfo &chosen);

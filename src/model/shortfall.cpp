@@ -76,6 +76,8 @@ constexpr std::array kinds{
     KindEntry{ShortfallKind::CopyOnWrite, "copy-on-write", false,
               QT_TRANSLATE_NOOP("OutcomeRecord", "the file system writes to new places and may keep earlier "
                                                  "content, in snapshots for instance")},
+    KindEntry{ShortfallKind::ShadowCopies, "shadow-copies", false,
+              QT_TRANSLATE_NOOP("OutcomeRecord", "shadow copies of the volume may keep earlier content")},
     KindEntry{ShortfallKind::NoFreeByte, "no-free-byte", false,
               QT_TRANSLATE_NOOP("OutcomeRecord", "there was no free space to overwrite")},
 };

@@ -93,6 +93,13 @@ public:
     // Room on the volume that holds the path. NotReady, or the system's own number, when the volume is gone
     // or does not answer. Windows: GetDiskFreeSpaceExW. Linux: statvfs.
     virtual Result<SpaceInfo> space(const QString &path) = 0;
+
+    // How many snapshots the system keeps of the volume that holds the path: whatever is overwritten on the
+    // volume stays in them. NotSupported where there are none of that kind, any other failure when that
+    // cannot be found out. Windows: volume shadow copies, CreateFileW on
+    // "\?\GLOBALROOT\Device\HarddiskVolumeShadowCopy%1" and GetVolumeInformationByHandleW, NTFS and ReFS.
+    // Linux: NotSupported; a file system that has snapshots tells of them at each file (ContentPlace).
+    virtual Result<int> snapshots(const QString &path) = 0;
 };
 
 } // namespace platform

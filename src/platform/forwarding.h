@@ -130,6 +130,7 @@ public:
     Result<FolderOwner> owner(const QString &folder) override { return m_target.owner(folder); }
     Status hide(const QString &path) override { return m_target.hide(path); }
     Result<SpaceInfo> space(const QString &path) override { return m_target.space(path); }
+    Result<int> snapshots(const QString &path) override { return m_target.snapshots(path); }
 
 protected:
     Folders &m_target;

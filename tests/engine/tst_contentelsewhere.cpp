@@ -23,6 +23,7 @@ using platform::ContentPlace;
 using platform::Elsewhere;
 using platform::ElsewhereReasons;
 using platform::FileKind;
+using platform::Result;
 using platform::Status;
 
 namespace {
@@ -96,6 +97,8 @@ private slots:
 
     void freeSpace_data();
     void freeSpace();
+    void snapshots_data();
+    void snapshots();
 };
 
 void tst_ContentElsewhere::theQuestionComesBeforeTheFirstWrite()
@@ -304,6 +307,46 @@ void tst_ContentElsewhere::freeSpace()
     job.run();
     QVERIFY(job.succeeded());
     QTEST(job.task.outcome().has(ShortfallKind::CopyOnWrite), "isNoted");
+    QVERIFY(job.task.outcome().shortfalls().isEmpty());
+}
+
+void tst_ContentElsewhere::snapshots_data()
+{
+    QTest::addColumn<Result<int>>("answer");
+    QTest::addColumn<QList<Shortfall>>("notes");
+    const auto note = [](qint64 count) {
+        return QList{
+            Shortfall{.kind = ShortfallKind::ShadowCopies, .place = u"/media/data/"_s, .count = count}};
+    };
+    QTest::newRow("none of that kind")
+        << Result<int>(Status{platform::NotSupported, 0, ""}) << QList<Shortfall>();
+    QTest::newRow("none") << Result<int>(0) << QList<Shortfall>();
+    QTest::newRow("three") << Result<int>(3) << note(3);
+    QTest::newRow("nobody can tell") << Result<int>(Status{platform::AccessDenied, 0, ""}) << note(-1);
+}
+
+// Told before the question and in the record, and no failure.
+void tst_ContentElsewhere::snapshots()
+{
+    QFETCH(Result<int>, answer);
+    freespace::Machine machine;
+    freespace::Job job;
+    machine.volume.freeBytes[u"/media/data/"_s] = 1000 * freespace::MiB;
+    machine.volume.snapshotAnswer = answer;
+    job.setVolume(u"/media/data"_s);
+    PartitionInfo partition = job.task.partition();
+    partition.freeBytes = 1000 * freespace::MiB;
+    job.task.setPartition(partition);
+    job.setPasses({{PatternType::Zeros}});
+    const auto snapshotsIn = [](const OutcomeRecord &record) {
+        QList<Shortfall> notes = record.notes();
+        notes.removeIf([](const Shortfall &note) { return note.kind != ShortfallKind::ShadowCopies; });
+        return notes;
+    };
+    QTEST(snapshotsIn(foreseeableShortfalls(job.task)), "notes");
+    job.run();
+    QVERIFY(job.succeeded());
+    QTEST(snapshotsIn(job.task.outcome()), "notes");
     QVERIFY(job.task.outcome().shortfalls().isEmpty());
 }
 

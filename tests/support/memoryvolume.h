@@ -54,6 +54,7 @@ public:
     int releaseDelay = 0;                 // calls of space() until the room of deleted files is free again
     qint64 largestFile = 0;               // 0: any size
     platform::ElsewhereReasons elsewhere; // what contentPlace() tells of every path
+    platform::Result<int> snapshotAnswer = failure(platform::NotSupported);
     QStringList unremovable;              // remove() fails with SharingViolation
     QMap<QString, QString> identities;    // of the volumes, by root
     QStringList heldByOthers;             // folders that somebody else has claimed
@@ -112,6 +113,7 @@ public:
     platform::Result<platform::FolderOwner> owner(const QString &folder) override;
     platform::Status hide(const QString &path) override;
     platform::Result<platform::SpaceInfo> space(const QString &path) override;
+    platform::Result<int> snapshots(const QString &) override { return snapshotAnswer; }
 
 private:
     class Handle;

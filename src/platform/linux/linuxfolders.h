@@ -21,6 +21,7 @@ public:
     Result<FolderOwner> owner(const QString &folder) override;
     Status hide(const QString &path) override;
     Result<SpaceInfo> space(const QString &path) override;
+    Result<int> snapshots(const QString &) override { return Status{NotSupported, 0, "snapshots"}; }
 };
 
 } // namespace platform

@@ -4,6 +4,7 @@
 #include "platform/windows/filekind.h"
 #include "platform/windows/folderlisting.h"
 #include "platform/windows/lasterror.h"
+#include "platform/windows/shadowcopies.h"
 #include "platform/windows/treeremoval.h"
 #include "platform/windows/windowsanchoredfolder.h"
 #include "platform/windows/windowsfolderhandle.h"
@@ -147,6 +148,12 @@ Result<SpaceInfo> WindowsFolders::space(const QString &path)
     if (!win32().getDiskFreeSpace(folder.c_str(), &available, &total, &free))
         return statusFromLastError("GetDiskFreeSpaceEx");
     return SpaceInfo{bytesOf(total), bytesOf(free), bytesOf(available)};
+}
+
+Result<int> WindowsFolders::snapshots(const QString &path)
+{
+    const Result<std::wstring> name = encodePath(path);
+    return name ? shadowCopiesOf(name.value()) : name.status();
 }
 
 } // namespace platform
