@@ -13,9 +13,10 @@ ModalDialogs::ModalDialogs()
 void ModalDialogs::serve()
 {
     auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
-    if (!dialog || dialog == m_served)
+    // One that was in front before another came is no new one when that has gone.
+    if (!dialog || m_served.contains(dialog))
         return;
-    m_served = dialog;
+    m_served.append(dialog);
     titles.append(dialog->windowTitle());
     if (answers.isEmpty()) {
         ++unexpected;

@@ -27,5 +27,5 @@ private:
     void serve();
 
     QTimer m_timer;
-    QPointer<QDialog> m_served;
+    QList<QPointer<QDialog>> m_served;
 };
