@@ -79,8 +79,8 @@ public:
     // Windows: StorageDeviceTrimProperty. Linux: queue/discard_max_bytes above 0.
     virtual Result<bool> trimEnabled() = 0;
 
-    // Who stands on the device. Windows: IOCTL_DISK_IS_WRITABLE; nobody is known to hold a drive there.
-    // Linux: ro, and holders of the drive and of its partitions.
+    // Who stands on the device. Windows: IOCTL_DISK_IS_WRITABLE, and IOCTL_DISK_GET_DRIVE_LAYOUT_EX for what
+    // a drive is a member of. Linux: ro, and holders of the drive and of its partitions.
     virtual Result<DeviceUse> use() = 0;
 
     // Where a volume lies, first extent first; a stretch that is on no drive with a number has -1. MoreData
@@ -120,7 +120,8 @@ public:
     // SectorNotFound, WriteFault or InvalidParameter, and none of these three on Linux within the device.
     // DiskFull: the device has no room behind it (thin provisioning).
     virtual Result<qint64> write(const void *data, qint64 size) = 0;
-    // After success everything written is on the medium. Windows: FlushFileBuffers. Linux: fdatasync.
+    // After success everything written is on the medium. Windows: FlushFileBuffers, of the drive where a
+    // volume that was dismounted does not pass it on. Linux: fdatasync.
     virtual Status flush() = 0;
 };
 
@@ -202,8 +203,9 @@ public:
     // in the identity is no longer as it was; AccessDenied without the rights; SharingViolation when
     // somebody else holds it. Windows: CreateFileW with GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ |
     // FILE_SHARE_WRITE, OPEN_EXISTING, FILE_FLAG_WRITE_THROUGH | FILE_FLAG_NO_BUFFERING, with GENERIC_READ
-    // alone when ReadOnly; who else holds the drive is the system's affair there. Linux: O_RDWR | O_DIRECT |
-    // O_DSYNC, with O_EXCL when Alone; O_RDONLY | O_DIRECT when ReadOnly.
+    // alone when ReadOnly; when Alone every volume of the drive is locked, then dismounted, and held with
+    // the drive, NotReady when one lies on another drive too. Linux: O_RDWR | O_DIRECT | O_DSYNC, with O_EXCL
+    // when Alone; O_RDONLY | O_DIRECT when ReadOnly.
     virtual Result<std::unique_ptr<RawDevice>> openDrive(const DriveIdentity &drive, DriveAccess access) = 0;
 
     // Opens a volume of that drive for writing, flags as above, neither locked nor dismounted. NotReady, with

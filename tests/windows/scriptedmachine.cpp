@@ -59,7 +59,48 @@ QByteArray extent(qint32 disk, qint64 offset, qint64 bytes)
     return number<qint32>(disk) + QByteArray(4, '\xBB') + number<qint64>(offset) + number<qint64>(bytes);
 }
 
+QByteArray layout(quint32 style, quint32 count)
+{
+    return number(style) + number(count) + QByteArray(40, '\xCC');
+}
+
+QByteArray gptPartition(const QByteArray &type)
+{
+    return QByteArray(32, '\xDD') + QByteArray::fromHex(type) + QByteArray(96, '\xEE');
+}
+
+QByteArray mbrPartition(quint8 type)
+{
+    return QByteArray(32, '\xDD') + char(type) + QByteArray(111, '\xEE');
+}
+
 } // namespace replies
+
+namespace {
+
+constexpr DWORD SetDiskAttributes = 0x0007C0F4;
+constexpr DWORD UpdateProperties = 0x00070140;
+
+QString nameOf(const Win32Faults::Control &control)
+{
+    switch (control.code) {
+    case FSCTL_LOCK_VOLUME:
+        return QStringLiteral("lock");
+    case FSCTL_UNLOCK_VOLUME:
+        return QStringLiteral("unlock");
+    case FSCTL_DISMOUNT_VOLUME:
+        return QStringLiteral("dismount");
+    case UpdateProperties:
+        return QStringLiteral("look anew");
+    case SetDiskAttributes:
+        return control.input.size() > 8 && control.input.at(8) == 1 ? QStringLiteral("offline")
+                                                                    : QStringLiteral("online");
+    default:
+        return {};
+    }
+}
+
+} // namespace
 
 ScriptedMachine::ScriptedMachine()
 {
@@ -106,8 +147,35 @@ void ScriptedMachine::describeNothing(DWORD error)
 
 void ScriptedMachine::placeVolume(qint32 disk)
 {
-    script(volume, IOCTL_VOLUME_GET_VOLUME_DISK_EXTENTS,
-           replies::extentsHeader(1) + replies::extent(disk, 1048576, VolumeSize));
+    place(volume, 1048576, disk);
+}
+
+void ScriptedMachine::place(const QString &path, qint64 offset, qint32 disk)
+{
+    script(path, IOCTL_VOLUME_GET_VOLUME_DISK_EXTENTS,
+           replies::extentsHeader(1) + replies::extent(disk, offset, VolumeSize));
+}
+
+void ScriptedMachine::addVolume(const QString &path, qint64 offset, qint32 disk)
+{
+    const QString image = m_folder.filePath(QStringLiteral("volume%1.img").arg(m_added++));
+    faults.addDevice(path, writeFile(image, QByteArray(VolumeSize, '.')), VolumeSize);
+    script(path, IOCTL_DISK_GET_DRIVE_GEOMETRY, replies::geometry(Sector));
+    script(path, IOCTL_DISK_GET_LENGTH_INFO, replies::length(VolumeSize));
+    place(path, offset, disk);
+    for (const DWORD code : {FSCTL_LOCK_VOLUME, FSCTL_DISMOUNT_VOLUME, FSCTL_UNLOCK_VOLUME})
+        script(path, code, {});
+}
+
+QStringList ScriptedMachine::deeds() const
+{
+    QStringList all;
+    for (const Win32Faults::Control &control : faults.controls()) {
+        const QString what = nameOf(control);
+        if (!what.isEmpty())
+            all.append(what + QLatin1Char(' ') + control.path.mid(4));
+    }
+    return all;
 }
 
 QByteArray ScriptedMachine::bytes(const QString &image, qint64 offset, qint64 size)

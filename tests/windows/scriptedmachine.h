@@ -5,6 +5,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
 #include <QTemporaryDir>
 #include <QtEndian>
 
@@ -34,6 +35,11 @@ QByteArray naaIdentifier(const QByteArray &digits);
 QByteArray extentsHeader(quint32 count);
 QByteArray extent(qint32 disk, qint64 offset, qint64 bytes);
 
+// A drive's partition table up to its first entry, and entries of it; the type of a GPT in hexadecimal digits.
+QByteArray layout(quint32 style, quint32 count);
+QByteArray gptPartition(const QByteArray &type);
+QByteArray mbrPartition(quint8 type);
+
 } // namespace replies
 
 // Drive 3 and the volume E: on it, as the system presents them; below each a file of the test's own.
@@ -53,6 +59,12 @@ public:
     // As a driver that answers nothing but transfers.
     void describeNothing(DWORD error = ERROR_NOT_SUPPORTED);
     void placeVolume(qint32 disk);
+    // A further volume, an image of its own behind it.
+    void addVolume(const QString &path, qint64 offset, qint32 disk = Number);
+    // Of any volume, in one piece.
+    void place(const QString &path, qint64 offset, qint32 disk);
+    // What was done to the devices, in order, questions left out: "lock E:", "offline PhysicalDrive3".
+    QStringList deeds() const;
 
     static QByteArray bytes(const QString &image, qint64 offset, qint64 size);
     static bool isUntouched(const QString &image);
@@ -67,6 +79,7 @@ public:
 
 private:
     QTemporaryDir m_folder;
+    int m_added = 0;
 
 public:
     const QString driveImage = m_folder.filePath(QStringLiteral("drive.img"));

@@ -82,7 +82,7 @@ private:
 
     void driveTransfers()
     {
-        auto drive = m_devices.openDrive(m_identity, DriveAccess::Alone);
+        auto drive = m_devices.openDrive(m_identity, DriveAccess::BesideOwnVolumes);
         note("openDrive", drive);
         if (!drive)
             return;
@@ -130,8 +130,10 @@ Outcome judge(int call, const std::vector<Step> &steps, quint32 error, const Scr
                          [](const Step &step) { return !step.status.ok(); });
     if (failed.empty() && call == Win32Faults::CloseHandle_)
         return Outcome::Closing;
+    // A dismounted volume that does not pass a flush on.
+    const bool isFlushOfDrive = call == Win32Faults::FlushFileBuffers_ && error == NotReady;
     if (failed.empty())
-        return call == Win32Faults::DeviceIoControl_ ? Outcome::Fallback : Outcome::Wrong;
+        return call == Win32Faults::DeviceIoControl_ || isFlushOfDrive ? Outcome::Fallback : Outcome::Wrong;
     const Status &status = failed.front().status;
     const QByteArray name(failed.front().name);
     if (failed.size() > 1 || quint32(status.native) != error)
@@ -343,7 +345,8 @@ void tst_WindowsDevices::transfersAreUnbufferedAndWrittenThrough()
         QVERIFY(drive.ok() && beside.ok() && volume.ok());
         // The volume's look at its drive is closed again.
         QCOMPARE(machine.faults.openPaths().count(machine.drive), 2);
-        QCOMPARE(machine.faults.openPaths().count(machine.volume), 1);
+        // Once more by the drive that is there for itself.
+        QCOMPARE(machine.faults.openPaths().count(machine.volume), 2);
     }
     QCOMPARE(machine.faults.openHandles(), 0);
     int forWriting = 0;
@@ -356,7 +359,7 @@ void tst_WindowsDevices::transfersAreUnbufferedAndWrittenThrough()
         QCOMPARE(opening.access, ReadWrite);
         QCOMPARE(opening.flags, Unbuffered);
     }
-    QCOMPARE(forWriting, 3);
+    QCOMPARE(forWriting, 4);
 }
 
 void tst_WindowsDevices::requestsHaveTheirCodesAndSizes()
@@ -587,11 +590,12 @@ void tst_WindowsDevices::everyFailureIsPassedOn()
         }
     }
     // 4 openings, 1 seek, 1 read, 2 writes, 2 flushes, 13 questions.
-    QCOMPARE(outcomes[Outcome::PassedOn], 23);
+    const int flushesOfDrive = error == NotReady ? 1 : 0;
+    QCOMPARE(outcomes[Outcome::PassedOn], 23 - flushesOfDrive);
     // Of the drive its geometry, its descriptor and its name; of the volume its extents, and the drive behind
     // it.
     QCOMPARE(outcomes[Outcome::IdentityUnknown], 3 + 1 + 4);
-    QCOMPARE(outcomes[Outcome::Fallback], 2 * 2);
+    QCOMPARE(outcomes[Outcome::Fallback], 2 * 2 + flushesOfDrive);
     QCOMPARE(outcomes[Outcome::Closing], 5);
 }
 

@@ -1,11 +1,9 @@
 #include "platform/windows/windowsdevices.h"
 #include "support/suite.h"
-#include "support/testfiles.h"
 #include "windows/scriptedmachine.h"
 
 #include <QCoreApplication>
 #include <QStringList>
-#include <QTemporaryDir>
 #include <QTest>
 
 using namespace platform;
@@ -14,7 +12,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr DWORD Lock = 0x00090018;
-constexpr DWORD Unlock = 0x0009001C;
 constexpr DWORD Dismount = 0x00090020;
 constexpr DWORD GetAttributes = 0x000700F0;
 constexpr DWORD SetAttributes = 0x0007C0F4;
@@ -24,64 +21,25 @@ constexpr DWORD LookAnew = 0x00070140;
 class Machine : public ScriptedMachine
 {
 public:
+    static constexpr qint64 FirstAt = 1048576;
+    static constexpr qint64 SecondAt = FirstAt + VolumeSize;
     const QString second = QStringLiteral(R"(\\.\F:)");
+    const QString nameless = QStringLiteral(R"(\\?\Volume{nameless})");
 
     Machine()
     {
-        faults.addDevice(second, writeFile(m_files.filePath(u"second.img"_s), QByteArray(VolumeSize, '.')),
-                         VolumeSize);
-        script(second, IOCTL_DISK_GET_DRIVE_GEOMETRY, replies::geometry(Sector));
-        script(second, IOCTL_DISK_GET_LENGTH_INFO, replies::length(VolumeSize));
-        for (const DWORD code : {Lock, Unlock, Dismount})
-            script(second, code, {});
-        placeSecond(Number);
+        addVolume(second, SecondAt);
         setOffline(false);
         script(drive, SetAttributes, {});
         script(drive, LookAnew, {});
     }
-    void placeSecond(qint32 disk)
-    {
-        script(second, IOCTL_VOLUME_GET_VOLUME_DISK_EXTENTS,
-               replies::extentsHeader(1) + replies::extent(disk, 1048576 + VolumeSize, VolumeSize));
-    }
+    void placeSecond(qint32 disk) { place(second, SecondAt, disk); }
     void setOffline(bool offline)
     {
         script(drive, GetAttributes,
                replies::number<quint32>(16) + replies::number<quint32>(0) +
                    replies::number<quint64>(offline ? 3 : 2));
     }
-    // What was done to the devices, in order, questions left out.
-    QStringList deeds() const
-    {
-        QStringList all;
-        for (const Win32Faults::Control &control : faults.controls()) {
-            const QString what = nameOf(control);
-            if (!what.isEmpty())
-                all.append(what + u' ' + control.path.mid(4));
-        }
-        return all;
-    }
-
-private:
-    static QString nameOf(const Win32Faults::Control &control)
-    {
-        switch (control.code) {
-        case Lock:
-            return u"lock"_s;
-        case Unlock:
-            return u"unlock"_s;
-        case Dismount:
-            return u"dismount"_s;
-        case LookAnew:
-            return u"look anew"_s;
-        case SetAttributes:
-            return control.input.size() > 8 && control.input.at(8) == 1 ? u"offline"_s : u"online"_s;
-        default:
-            return {};
-        }
-    }
-
-    QTemporaryDir m_files;
 };
 
 VolumeRelease release(const Machine &machine)
@@ -103,6 +61,8 @@ private slots:
     void theDriveComesOnlineAgain();
     void aDriveThatIsOfflineStaysSo();
     void aVolumeInUseIsInTheWay();
+    void volumesWithoutALetterAreLockedToo();
+    void aVolumeWithoutALetterIsInTheWay();
     void aVolumeElsewhereIsNotTouched();
     void aVolumeElsewhereTooIsInTheWay();
     void anotherDriveIsNotReleased();
@@ -195,6 +155,37 @@ void tst_WindowsReleasedVolumes::aVolumeInUseIsInTheWay()
     QCOMPARE(deeds.count(u"lock E:"_s), 1);
     QCOMPARE(deeds.count(u"lock F:"_s), 10);
     QVERIFY(deeds.contains(u"unlock E:"_s));
+    QCOMPARE(machine.faults.openHandles(), 0);
+}
+
+// A volume is found under its letter and without it.
+void tst_WindowsReleasedVolumes::volumesWithoutALetterAreLockedToo()
+{
+    Machine machine;
+    machine.addVolume(machine.nameless, 0);
+    machine.addVolume(QStringLiteral(R"(\\?\Volume{e})"), Machine::FirstAt);
+    machine.addVolume(QStringLiteral(R"(\\?\Volume{f})"), Machine::SecondAt);
+    machine.addVolume(QStringLiteral(R"(\\?\Volume{elsewhere})"), 0, 1);
+    VolumeRelease released = release(machine);
+    QVERIFY2(released.volumes, qPrintable(released.failure.diagnostic()));
+    QCOMPARE(machine.deeds(), (QStringList{u"lock E:"_s, u"lock F:"_s, u"lock Volume{nameless}"_s,
+                                           u"offline PhysicalDrive3"_s}));
+    QCOMPARE(released.volumes->names(), (QStringList{u"E:"_s, u"F:"_s, machine.nameless}));
+    QVERIFY(released.volumes->keep().ok());
+    QCOMPARE(machine.faults.openHandles(), 0);
+}
+
+void tst_WindowsReleasedVolumes::aVolumeWithoutALetterIsInTheWay()
+{
+    Machine machine;
+    machine.addVolume(machine.nameless, 0);
+    machine.refuse(machine.nameless, Lock, ERROR_ACCESS_DENIED);
+    const VolumeRelease released = release(machine);
+    QVERIFY(!released.volumes);
+    QCOMPARE(released.failure.code, quint32(SharingViolation));
+    QCOMPARE(released.volume, machine.nameless);
+    QVERIFY(!machine.deeds().contains(u"offline PhysicalDrive3"_s));
+    QVERIFY(machine.deeds().contains(u"unlock E:"_s));
     QCOMPARE(machine.faults.openHandles(), 0);
 }
 

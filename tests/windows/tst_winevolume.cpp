@@ -33,6 +33,11 @@ public:
         s_current = this;
         m_calls.createFile = &createFile;
         m_calls.deviceIoControl = &deviceIoControl;
+        // Those of Wine are none of the test's.
+        m_calls.findFirstVolume = [](LPWSTR, DWORD) -> HANDLE {
+            ::SetLastError(ERROR_NO_MORE_FILES);
+            return INVALID_HANDLE_VALUE;
+        };
         m_scope.emplace(m_calls);
     }
     ~DriveBehindVolumes()

@@ -5,16 +5,25 @@
 
 namespace {
 
+const QString VolumePrefix = QStringLiteral(R"(\\?\Volume{)");
+
+constexpr bool opensHandle(int call)
+{
+    return call == Win32Faults::CreateFile_ || call == Win32Faults::FindFirstFile_ ||
+           call == Win32Faults::FindFirstVolume_;
+}
+
 constexpr bool closes(int call)
 {
     return call == Win32Faults::CloseHandle_ || call == Win32Faults::FindClose_ ||
-           call == Win32Faults::VirtualFree_ || call == Win32Faults::LocalFree_;
+           call == Win32Faults::FindVolumeClose_ || call == Win32Faults::VirtualFree_ ||
+           call == Win32Faults::LocalFree_;
 }
 
 template <int call, typename R, typename First>
 R failureValue(First first)
 {
-    if constexpr (call == Win32Faults::CreateFile_ || call == Win32Faults::FindFirstFile_)
+    if constexpr (opensHandle(call))
         return INVALID_HANDLE_VALUE;
     else if constexpr (call == Win32Faults::LocalFree_)
         return first;
@@ -47,6 +56,12 @@ auto Win32Faults::perform(Args... args)
         return writeFile(args...);
     else if constexpr (call == DeviceIoControl_)
         return deviceIoControl(args...);
+    else if constexpr (call == FindFirstVolume_)
+        return firstVolume(args...);
+    else if constexpr (call == FindNextVolume_)
+        return nextVolume(args...);
+    else if constexpr (call == FindVolumeClose_)
+        return closeSearch(args...);
     else
         return (m_target.*Member)(args...);
 }
@@ -67,7 +82,7 @@ void Win32Faults::noteOpening(const QString &path, Args... args)
 template <int call, typename R, typename... Args>
 void Win32Faults::noteResult(const QString &path, R result, Args... args)
 {
-    if constexpr (call == CreateFile_ || call == FindFirstFile_) {
+    if constexpr (opensHandle(call)) {
         if (result != INVALID_HANDLE_VALUE)
             ledger(call, path, result);
     } else if constexpr (call == VirtualAlloc_) {
@@ -95,7 +110,7 @@ R WINAPI Win32Faults::Hook<call, Member>::invoke(Args... args)
     if (planned != ERROR_SUCCESS) {
         if constexpr (closes(call)) {
             self.forget(call, first);
-            static_cast<void>((self.m_target.*Member)(args...));
+            static_cast<void>(self.perform<call, Member>(args...));
         }
         ::SetLastError(planned);
         return failureValue<call, R>(first);
@@ -133,6 +148,9 @@ Win32Faults::Win32Faults()
     hook<FindNextFile_, &Win32Calls::findNextFile>();
     hook<FindClose_, &Win32Calls::findClose>();
     hook<GetDiskFreeSpace_, &Win32Calls::getDiskFreeSpace>();
+    hook<FindFirstVolume_, &Win32Calls::findFirstVolume>();
+    hook<FindNextVolume_, &Win32Calls::findNextVolume>();
+    hook<FindVolumeClose_, &Win32Calls::findVolumeClose>();
     hook<DeviceIoControl_, &Win32Calls::deviceIoControl>();
     hook<VirtualAlloc_, &Win32Calls::virtualAlloc>();
     hook<VirtualFree_, &Win32Calls::virtualFree>();
@@ -244,7 +262,7 @@ QString Win32Faults::pathOf(void *handle) const
 void Win32Faults::ledger(int call, const QString &path, void *opened)
 {
     const std::scoped_lock lock(m_mutex);
-    if (call == CreateFile_ || call == FindFirstFile_ || call == OpenProcessToken_)
+    if (opensHandle(call) || call == OpenProcessToken_)
         m_handles.insert(opened, path);
     else
         m_memory.insert(opened, call);
@@ -253,7 +271,7 @@ void Win32Faults::ledger(int call, const QString &path, void *opened)
 void Win32Faults::forget(int call, void *closed)
 {
     const std::scoped_lock lock(m_mutex);
-    if (call == CloseHandle_ || call == FindClose_)
+    if (call == CloseHandle_ || call == FindClose_ || call == FindVolumeClose_)
         m_handles.remove(closed);
     else
         m_memory.remove(closed);
@@ -270,7 +288,7 @@ HANDLE Win32Faults::createFile(LPCWSTR name, DWORD access, DWORD sharing, LPSECU
                                DWORD disposition, DWORD flags, HANDLE pattern)
 {
     const QString path = pathOf(name);
-    if (!path.startsWith(QLatin1String(R"(\\.\)")))
+    if (!path.startsWith(QLatin1String(R"(\\.\)")) && !path.startsWith(VolumePrefix))
         return m_target.createFile(name, access, sharing, security, disposition, flags, pattern);
     const std::optional<Device> device = deviceAt(path);
     if (!device || device->file.isEmpty()) {
@@ -331,4 +349,47 @@ BOOL Win32Faults::deviceIoControl(HANDLE handle, DWORD code, LPVOID input, DWORD
         return FALSE;
     }
     return TRUE;
+}
+
+HANDLE Win32Faults::firstVolume(LPWSTR name, DWORD room)
+{
+    const HANDLE search = ::CreateEventW(nullptr, FALSE, FALSE, nullptr); // no other handle is the same
+    {
+        const std::scoped_lock lock(m_mutex);
+        QStringList volumes = m_devices.keys();
+        volumes.removeIf([](const QString &path) { return !path.startsWith(VolumePrefix); });
+        volumes.sort();
+        m_searches.insert(search, volumes);
+    }
+    if (nextVolume(search, name, room))
+        return search;
+    const DWORD error = ::GetLastError();
+    closeSearch(search);
+    ::SetLastError(error);
+    return INVALID_HANDLE_VALUE;
+}
+
+BOOL Win32Faults::nextVolume(HANDLE search, LPWSTR name, DWORD room)
+{
+    const std::scoped_lock lock(m_mutex);
+    const auto found = m_searches.find(search);
+    if (found == m_searches.end() || found->isEmpty()) {
+        ::SetLastError(found == m_searches.end() ? ERROR_INVALID_HANDLE : ERROR_NO_MORE_FILES);
+        return FALSE;
+    }
+    const std::wstring path = (found->takeFirst() + u'\\').toStdWString();
+    if (path.size() >= room) {
+        ::SetLastError(ERROR_FILENAME_EXCED_RANGE);
+        return FALSE;
+    }
+    std::ranges::copy(path, name);
+    name[path.size()] = L'\0';
+    return TRUE;
+}
+
+BOOL Win32Faults::closeSearch(HANDLE search)
+{
+    const std::scoped_lock lock(m_mutex);
+    m_searches.remove(search);
+    return ::CloseHandle(search);
 }

@@ -17,7 +17,8 @@
 // The system's calls with one entry failing on purpose, with a ledger of what is open, and with devices that
 // answer from a script. In force from construction to destruction, one at a time. Thread-safe.
 //
-// A path below "\\.\" that no script covers does not exist (error 2), so that no test reaches a real drive.
+// A path below "\\.\" or to a volume ("\\?\Volume{...}") that no script covers does not exist (error 2), so
+// that no test reaches a real drive. The volumes of the machine are those added under such a path.
 class Win32Faults
 {
 public:
@@ -44,6 +45,9 @@ public:
         FindNextFile_,
         FindClose_,
         GetDiskFreeSpace_,
+        FindFirstVolume_,
+        FindNextVolume_,
+        FindVolumeClose_,
         DeviceIoControl_,
         VirtualAlloc_,
         VirtualFree_,
@@ -169,6 +173,9 @@ private:
     void ledger(int call, const QString &path, void *opened);
     void forget(int call, void *closed);
     std::optional<Device> deviceAt(const QString &path) const;
+    HANDLE firstVolume(LPWSTR name, DWORD room);
+    BOOL nextVolume(HANDLE search, LPWSTR name, DWORD room);
+    BOOL closeSearch(HANDLE search);
 
     // The calls that scripted devices answer in the system's place.
     HANDLE createFile(LPCWSTR name, DWORD access, DWORD sharing, LPSECURITY_ATTRIBUTES security,
@@ -193,6 +200,7 @@ private:
     QList<Opening> m_openings;
     QList<Control> m_controls;
     QHash<QString, Device> m_devices;
+    QHash<void *, QStringList> m_searches; // volumes yet to be found
     platform::Win32Calls m_target;
     platform::Win32Calls m_table;
     std::optional<platform::ScopedWin32Calls> m_scope;

@@ -57,4 +57,10 @@ Status setOffline(HANDLE drive, bool offline)
                     "IOCTL_DISK_SET_DISK_ATTRIBUTES");
 }
 
+void lookAnew(HANDLE drive)
+{
+    DWORD returned = 0;
+    win32().deviceIoControl(drive, IOCTL_DISK_UPDATE_PROPERTIES, nullptr, 0, nullptr, 0, &returned, nullptr);
+}
+
 } // namespace platform

@@ -13,4 +13,7 @@ Result<bool> isOffline(HANDLE drive);
 // Until it is changed again or the system starts anew; the handle must allow writing.
 Status setOffline(HANDLE drive, bool offline);
 
+// The system reads the partition table of the drive again.
+void lookAnew(HANDLE drive);
+
 } // namespace platform

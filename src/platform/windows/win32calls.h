@@ -49,6 +49,9 @@ struct Win32Calls
     decltype(&::FindClose) findClose = &::FindClose;
     decltype(&::GetDiskFreeSpaceExW) getDiskFreeSpace = &::GetDiskFreeSpaceExW;
     decltype(&::GetDriveTypeW) getDriveType = &::GetDriveTypeW;
+    decltype(&::FindFirstVolumeW) findFirstVolume = &::FindFirstVolumeW;
+    decltype(&::FindNextVolumeW) findNextVolume = &::FindNextVolumeW;
+    decltype(&::FindVolumeClose) findVolumeClose = &::FindVolumeClose;
 
     decltype(&::DeviceIoControl) deviceIoControl = &::DeviceIoControl;
 

@@ -1,7 +1,10 @@
 #include "platform/windows/windowsdevices.h"
 
 #include "platform/storagereplies.h"
+#include "platform/windows/lockedvolumes.h"
+#include "platform/windows/machinevolumes.h"
 #include "platform/windows/volumeidentity.h"
+#include "platform/windows/windowshelddrive.h"
 #include "platform/windows/windowsquery.h"
 #include "platform/windows/windowsrawdevice.h"
 #include "platform/windows/windowsreleasedvolumes.h"
@@ -11,6 +14,8 @@
 #include <QStorageInfo>
 
 #include <algorithm>
+#include <memory>
+#include <utility>
 
 namespace platform {
 
@@ -51,7 +56,7 @@ Status checkIdentity(const DriveIdentity &chosen, HANDLE drive)
 // nothing.
 Status checkVolume(HANDLE volume, const DriveIdentity &chosen, const QString &drivePath)
 {
-    const Result<QList<Extent>> extents = askExtents(volume, ManyExtents);
+    const Result<QList<Extent>> extents = askExtents(volume, AllExtents);
     if (!extents)
         return {NotReady, extents.status().native, "volume extents"};
     if (!liesOnlyOn(extents.value(), chosen.number))
@@ -76,6 +81,68 @@ Result<WinHandle> openChosen(const DriveIdentity &drive, const QString &path, Dr
     if (!identity)
         return identity;
     return opened;
+}
+
+struct VolumeName
+{
+    QString shown;
+    QString path;
+};
+
+Result<std::unique_ptr<VolumeDevice>> openAt(const QString &path, const DriveIdentity &drive,
+                                             const QString &drivePath)
+{
+    Result<WinHandle> opened = openForTransfers(path, DriveAccess::BesideOwnVolumes);
+    if (!opened)
+        return opened.status();
+    const Status identity = checkVolume(opened.value().get(), drive, drivePath);
+    if (!identity)
+        return identity;
+    const auto openDrive = [drive, drivePath] {
+        return openChosen(drive, drivePath, DriveAccess::BesideOwnVolumes);
+    };
+    return std::unique_ptr<VolumeDevice>(std::make_unique<WindowsVolumeDevice>(opened.take(), openDrive));
+}
+
+// Empty where the volume does not tell: the system itself guards what is mounted against the drive's handle.
+QList<Extent> placeOf(const QString &path)
+{
+    const Result<WinHandle> volume = openForQuery(path);
+    return volume ? askExtents(volume.value().get(), AllExtents).valueOr({}) : QList<Extent>();
+}
+
+Status lockIfOn(const DriveIdentity &drive, const QString &drivePath, const VolumeName &name,
+                LockedVolumes &locked)
+{
+    const QList<Extent> place = placeOf(name.path);
+    const bool isOnDrive = std::ranges::any_of(
+        place, [&drive](const Extent &extent) { return extent.diskNumber == drive.number; });
+    if (!isOnDrive || locked.has(place))
+        return {};
+    auto volume = openAt(name.path, drive, drivePath);
+    return volume ? locked.lock({name.shown, place, volume.take()}) : volume.status();
+}
+
+// Those with a letter first, since that is how they are known. Failure leaves some locked, and names the
+// volume if it was one.
+Status lockEveryVolume(const DriveIdentity &drive, const QString &drivePath, const QStringList &letters,
+                       LockedVolumes &locked, QString &inTheWay)
+{
+    QList<VolumeName> names;
+    for (const QString &letter : letters)
+        names.append({letter, volumePath(letter)});
+    const Result<QStringList> volumes = machineVolumes();
+    if (!volumes)
+        return volumes.status();
+    for (const QString &path : volumes.value())
+        names.append({path, path});
+    for (const VolumeName &name : std::as_const(names)) {
+        if (const Status status = lockIfOn(drive, drivePath, name, locked); !status) {
+            inTheWay = name.shown;
+            return status;
+        }
+    }
+    return {};
 }
 
 // The call wants the root with its separator, and only that of the system is sure to be understood.
@@ -117,10 +184,20 @@ Result<std::unique_ptr<DeviceQuery>> WindowsDevices::queryVolume(const QString &
 
 Result<std::unique_ptr<RawDevice>> WindowsDevices::openDrive(const DriveIdentity &drive, DriveAccess access)
 {
-    Result<WinHandle> opened = openChosen(drive, drivePath(drive.number), access);
+    const QString path = drivePath(drive.number);
+    Result<WinHandle> opened = openChosen(drive, path, access);
     if (!opened)
         return opened.status();
-    return std::unique_ptr<RawDevice>(std::make_unique<WindowsRawDevice>(opened.take()));
+    if (access != DriveAccess::Alone)
+        return std::unique_ptr<RawDevice>(std::make_unique<WindowsRawDevice>(opened.take()));
+    LockedVolumes volumes;
+    QString inTheWay;
+    Status held = lockEveryVolume(drive, path, volumeNames(), volumes, inTheWay);
+    if (held)
+        held = volumes.dismount(inTheWay);
+    if (!held)
+        return held;
+    return std::unique_ptr<RawDevice>(std::make_unique<WindowsHeldDrive>(opened.take(), std::move(volumes)));
 }
 
 Result<std::unique_ptr<VolumeDevice>> WindowsDevices::openVolume(const QString &name,
@@ -129,41 +206,24 @@ Result<std::unique_ptr<VolumeDevice>> WindowsDevices::openVolume(const QString &
     const QString path = volumePath(name);
     if (path.isEmpty())
         return Status{FileNotFound, 0, "volume name"};
-    Result<WinHandle> opened = openForTransfers(path, DriveAccess::BesideOwnVolumes);
-    if (!opened)
-        return opened.status();
-    const Status identity = checkVolume(opened.value().get(), drive, drivePath(drive.number));
-    if (!identity)
-        return identity;
-    return std::unique_ptr<VolumeDevice>(std::make_unique<WindowsVolumeDevice>(opened.take()));
+    return openAt(path, drive, drivePath(drive.number));
 }
 
 VolumeRelease WindowsDevices::releaseVolumes(const DriveIdentity &drive)
 {
-    Result<WinHandle> opened = openChosen(drive, drivePath(drive.number), DriveAccess::BesideOwnVolumes);
+    const QString path = drivePath(drive.number);
+    Result<WinHandle> opened = openChosen(drive, path, DriveAccess::BesideOwnVolumes);
     if (!opened)
         return {.failure = opened.status()};
-    auto released = std::make_unique<WindowsReleasedVolumes>(opened.take());
-    for (const QString &name : volumeNames()) {
-        const auto query = queryVolume(name);
-        if (!query)
-            continue;
-        const auto extents = query.value()->extents(AllExtents);
-        const bool isOnDrive =
-            extents && std::ranges::any_of(extents.value(), [&drive](const Extent &extent) {
-                return extent.diskNumber == drive.number;
-            });
-        if (!isOnDrive)
-            continue;
-        auto volume = openVolume(name, drive);
-        const Status locked = volume ? released->lock(name, volume.take()) : volume.status();
-        if (!locked)
-            return {.failure = locked, .volume = name};
-    }
-    QString mounted;
-    const Status away = released->takeAway(mounted);
+    LockedVolumes volumes;
+    QString inTheWay;
+    const Status locked = lockEveryVolume(drive, path, volumeNames(), volumes, inTheWay);
+    if (!locked)
+        return {.failure = locked, .volume = inTheWay};
+    auto released = std::make_unique<WindowsReleasedVolumes>(opened.take(), std::move(volumes));
+    const Status away = released->takeAway(inTheWay);
     if (!away)
-        return {.failure = away, .volume = mounted};
+        return {.failure = away, .volume = inTheWay};
     return {.volumes = std::move(released)};
 }
 

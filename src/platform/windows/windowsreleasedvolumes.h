@@ -1,12 +1,10 @@
 #pragma once
 
-#include "platform/devices.h"
 #include "platform/releasedvolumes.h"
+#include "platform/windows/lockedvolumes.h"
 #include "platform/windows/winhandle.h"
 
-#include <memory>
 #include <utility>
-#include <vector>
 
 namespace platform {
 
@@ -15,33 +13,29 @@ namespace platform {
 class WindowsReleasedVolumes : public ReleasedVolumes
 {
 public:
-    // A handle of the drive that allows writing.
-    explicit WindowsReleasedVolumes(WinHandle drive)
+    // A handle of the drive that allows writing, and all its volumes; those without a letter have the names
+    // of machineVolumes().
+    WindowsReleasedVolumes(WinHandle drive, LockedVolumes volumes)
         : m_drive(std::move(drive))
+        , m_volumes(std::move(volumes))
     {}
     ~WindowsReleasedVolumes() override;
+    WindowsReleasedVolumes(const WindowsReleasedVolumes &) = delete;
+    WindowsReleasedVolumes &operator=(const WindowsReleasedVolumes &) = delete;
 
-    // Locks a volume of the drive; the name is that of volumeNames().
-    Status lock(const QString &name, std::unique_ptr<VolumeDevice> volume);
-    // When all of them are locked. Failure names the volume that stays mounted, if it was one.
+    // Failure names the volume that stays mounted, if it was one.
     Status takeAway(QString &volume);
 
-    QStringList names() const override;
-    bool holds(const QString &name) const override;
+    QStringList names() const override { return m_volumes.names(); }
+    bool holds(const QString &name) const override { return m_volumes.holds(name); }
     QStringList restore() override;
     Status keep() override;
 
 private:
-    struct Volume
-    {
-        QString name;
-        std::unique_ptr<VolumeDevice> device; // null once the drive is offline
-    };
-
     Status bringBack();
 
     WinHandle m_drive;
-    std::vector<Volume> m_volumes;
+    LockedVolumes m_volumes;
     bool m_isOffline = false; // by this
     bool m_isSettled = false;
 };

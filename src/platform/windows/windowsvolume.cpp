@@ -4,6 +4,27 @@
 
 namespace platform {
 
+// The file systems answer for the mount that this handle has ended, each in its own way: FAT and exFAT pass
+// the flush on to the drive and then say that the volume has changed, others say at once that it is not
+// there.
+Status WindowsVolumeDevice::flush()
+{
+    const Status flushed = WindowsTransfers<VolumeDevice>::flush();
+    if (flushed || !m_isDismounted)
+        return flushed;
+    if (flushed.code == FileInvalid)
+        return {};
+    return flushed.code == NotReady ? flushDrive() : flushed;
+}
+
+Status WindowsVolumeDevice::flushDrive() const
+{
+    const Result<WinHandle> drive = m_openDrive();
+    if (!drive)
+        return drive.status();
+    return statusOf(win32().flushFileBuffers(drive.value().get()), "FlushFileBuffers of the drive");
+}
+
 Status WindowsVolumeDevice::lock()
 {
     return control(FSCTL_LOCK_VOLUME, "FSCTL_LOCK_VOLUME");
@@ -11,7 +32,9 @@ Status WindowsVolumeDevice::lock()
 
 Status WindowsVolumeDevice::dismount()
 {
-    return control(FSCTL_DISMOUNT_VOLUME, "FSCTL_DISMOUNT_VOLUME");
+    const Status dismounted = control(FSCTL_DISMOUNT_VOLUME, "FSCTL_DISMOUNT_VOLUME");
+    m_isDismounted |= dismounted.ok();
+    return dismounted;
 }
 
 Status WindowsVolumeDevice::allowExtendedIo()

@@ -2,14 +2,24 @@
 
 #include "platform/windows/windowsrawdevice.h"
 
+#include <functional>
+#include <utility>
+
 namespace platform {
 
 // A volume opened for raw transfers. The system ends a lock with the handle that took it.
 class WindowsVolumeDevice : public WindowsTransfers<VolumeDevice>
 {
 public:
-    using WindowsTransfers<VolumeDevice>::WindowsTransfers;
+    // Opens the one drive that the volume lies on.
+    using DriveOpener = std::function<Result<WinHandle>()>;
 
+    explicit WindowsVolumeDevice(WinHandle volume, DriveOpener openDrive)
+        : WindowsTransfers<VolumeDevice>(std::move(volume))
+        , m_openDrive(std::move(openDrive))
+    {}
+
+    Status flush() override;
     Status lock() override;
     Status dismount() override;
     Status allowExtendedIo() override;
@@ -17,6 +27,10 @@ public:
 
 private:
     Status control(DWORD code, const char *operation);
+    Status flushDrive() const;
+
+    DriveOpener m_openDrive;
+    bool m_isDismounted = false; // by this
 };
 
 } // namespace platform

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "platform/status.h"
+
+#include <QStringList>
+
+namespace platform {
+
+// Every volume of the machine, with a letter or without, as the path that opens it: "\\?\Volume{...}".
+Result<QStringList> machineVolumes();
+
+} // namespace platform

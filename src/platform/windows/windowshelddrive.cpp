@@ -1,0 +1,13 @@
+#include "platform/windows/windowshelddrive.h"
+
+#include "platform/windows/diskattributes.h"
+
+namespace platform {
+
+WindowsHeldDrive::~WindowsHeldDrive()
+{
+    m_volumes.unlock();
+    lookAnew(handle());
+}
+
+} // namespace platform
