@@ -52,6 +52,9 @@ public:
         GetTokenInformation_,
         ConvertSidToStringSid_,
         LocalFree_,
+        SetThreadExecutionState_,
+        ShutdownBlockReasonCreate_,
+        ShutdownBlockReasonDestroy_,
         CallCount,
         AnyCall = CallCount, // of fail(): whichever comes
     };

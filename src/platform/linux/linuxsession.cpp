@@ -2,6 +2,7 @@
 
 #include "platform/linux/devicesinuse.h"
 #include "platform/linux/mediumtrace.h"
+#include "platform/linux/sleepinhibitor.h"
 
 #include <QDir>
 
@@ -72,6 +73,11 @@ bool LinuxSession::holdsSystemFiles(const QString &rootPath)
 QString LinuxSession::userId()
 {
     return QString::number(::geteuid());
+}
+
+Result<std::unique_ptr<AwakeHold>> LinuxSession::keepAwake(const AwakeRequest &request)
+{
+    return inhibitSleep(request.reason);
 }
 
 } // namespace platform

@@ -15,6 +15,7 @@ public:
     bool isSystemRoot(const QString &rootPath) override;
     bool holdsSystemFiles(const QString &rootPath) override;
     QString userId() override;
+    Result<std::unique_ptr<AwakeHold>> keepAwake(const AwakeRequest &request) override;
 
 private:
     SystemTree m_tree;

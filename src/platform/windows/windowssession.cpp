@@ -1,6 +1,7 @@
 #include "platform/windows/windowssession.h"
 
 #include "platform/windows/win32calls.h"
+#include "platform/windows/windowsawakehold.h"
 #include "platform/windows/windowspaths.h"
 #include "platform/windows/winhandle.h"
 
@@ -50,6 +51,11 @@ QString WindowsSession::userId()
     QString id = decodeName(text);
     win32().localFree(text);
     return id;
+}
+
+Result<std::unique_ptr<AwakeHold>> WindowsSession::keepAwake(const AwakeRequest &request)
+{
+    return WindowsAwakeHold::begin(request);
 }
 
 } // namespace platform
