@@ -15,6 +15,8 @@ export LC_ALL=C.UTF-8
     packages_build+=(librsvg2-bin icoutils)
     # Practice drives: mkfs of three file systems, losetup (in "mount"), and a file system of our own for faults.
     packages_test=(e2fsprogs xfsprogs btrfs-progs util-linux mount libfuse3-dev fuse3 pkg-config)
+    # A bus of the tests' own.
+    packages_test+=(dbus-daemon)
     # A reader of PDF files that is not ours.
     packages_test+=(poppler-utils)
     # A screen that shows windows to nobody.

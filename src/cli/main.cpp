@@ -30,6 +30,7 @@ void printDiagnostics(QtMsgType type, const QMessageLogContext &, const QString 
 
 int main(int argc, char *argv[])
 {
+    platform::failWithoutBoxes();
     platform::holdStopSignals();
     platform::liftOpenFileLimit();
     qInstallMessageHandler(printDiagnostics);

@@ -3,6 +3,8 @@
 #include "engine/wipeengine.h"
 #include "jobs/certificatenumber.h"
 #include "model/wipetask.h"
+#include "platform/platform.h"
+#include "platform/session.h"
 
 #include <new>
 #include <utility>
@@ -71,11 +73,25 @@ QString JobController::start()
         return pendingJob();
     m_engine->setTask(m_task);
     m_refusal.clear();
+    auto awake = platform::Platform::current().session().keepAwake({tr("An erasure is running."), m_window});
     m_engine->start();
     if (!m_engine->isRunning())
         return m_refusal;
     m_state = State::Running;
+    if (awake) {
+        m_awake = awake.take();
+    } else {
+        constexpr int Warning = 1;
+        emit m_engine->logMessage(
+            tr("The system could not be kept from sleeping during this job, error %1").arg(awake.code()),
+            Warning);
+    }
     return {};
+}
+
+bool JobController::delaysShutdown() const
+{
+    return m_state == State::Running && m_awake && m_awake->delaysShutdown();
 }
 
 void JobController::stop()
@@ -115,8 +131,12 @@ void JobController::complete(bool success)
     end.outcome = m_engine->outcome();
     if (!success)
         end.leftUnmounted = m_engine->dismountedVolumes();
-    if (m_keep)
-        m_keep(end);
+    {
+        // Given back before anyone hears of the end, who may show it for hours.
+        const auto awake = std::move(m_awake);
+        if (m_keep)
+            m_keep(end);
+    }
     m_engine->deleteTask(std::exchange(m_endingTask, nullptr));
     const State was = std::exchange(m_state, State::Idle);
     const std::function<void()> then = std::exchange(m_then, {});

@@ -11,10 +11,14 @@
 
 class WipeEngine;
 class WipeTask;
+namespace platform {
+class AwakeHold;
+}
 
 /// One job at a time, from its task to the record of its end. However a job ends, by itself, stopped, by the
 /// end of the program or its restart, it ends here once: what is to be kept of it is kept first, then those
-/// who wait for the end hear of it. Interface thread.
+/// who wait for the end hear of it. The system is kept awake from the start until what is to be kept is kept.
+/// Interface thread.
 class JobController : public QObject
 {
     Q_OBJECT
@@ -38,6 +42,11 @@ public:
     /// Keeps what is to be kept of a job, and notes in the end what became of that. Called once for each job.
     using Keep = std::function<void(JobEnd &end)>;
     void setKeep(Keep keep) { m_keep = std::move(keep); }
+
+    /// The window, as QWidget::winId() tells it, at which the system shows why it is not to be shut down.
+    void setWindow(quintptr window) { m_window = window; }
+    /// A job is running and a shutdown can be refused for its sake: the user is shown the reason and decides.
+    bool delaysShutdown() const;
 
     WipeTask *task() const { return m_task; }
     /// Takes the place of the task before, which a job that is still ending has until then.
@@ -79,4 +88,6 @@ private:
     Keep m_keep;
     std::function<void()> m_then;
     QString m_refusal;
+    quintptr m_window = 0;
+    std::unique_ptr<platform::AwakeHold> m_awake; ///< while a job runs, unless the system refused
 };

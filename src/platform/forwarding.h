@@ -231,6 +231,10 @@ public:
     bool holdsSystemFiles(const QString &rootPath) override { return m_target.holdsSystemFiles(rootPath); }
     QString userId() override { return m_target.userId(); }
     Result<bool> isAdministrator() override { return m_target.isAdministrator(); }
+    Result<std::unique_ptr<AwakeHold>> keepAwake(const AwakeRequest &request) override
+    {
+        return m_target.keepAwake(request);
+    }
 
 protected:
     Session &m_target;

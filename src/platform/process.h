@@ -34,6 +34,12 @@ std::optional<QString> readLine();
 // console, else WriteFile. Linux: write.
 Status writeText(StandardStream stream, const QByteArray &text);
 
+// From now on a call on a drive without a medium, or on a file that cannot be opened, fails at once, instead
+// of waiting behind a box of the system's until somebody closes it: card readers are drives without a medium
+// most of their time. For the whole process and those that it starts. Windows: SetErrorMode,
+// SEM_FAILCRITICALERRORS and SEM_NOOPENFILEERRORBOX beside what is set already. Linux: is so anyway.
+void failWithoutBoxes();
+
 // From now on a write to a pipe whose reader has gone away fails, instead of ending the process: for a
 // program with windows, which does not live for its output. Windows: is so anyway. Linux: SIGPIPE.
 void outliveReaders();

@@ -5,7 +5,30 @@
 #include <QString>
 #include <QStringList>
 
+#include <memory>
+
 namespace platform {
+
+// Why the system is to stay awake.
+struct AwakeRequest
+{
+    QString reason;      // for the user, whom the system may show it: a short sentence
+    quintptr window = 0; // the program's window, as QWidget::winId() tells it, of the calling thread; 0: none
+};
+
+// Keeps the system awake until destruction, which is on the thread that asked for it.
+class AwakeHold
+{
+public:
+    AwakeHold() = default;
+    virtual ~AwakeHold() = default;
+    AwakeHold(const AwakeHold &) = delete;
+    AwakeHold &operator=(const AwakeHold &) = delete;
+
+    // Whether a shutdown can be refused meanwhile: the system then shows the user the reason, and who goes on
+    // all the same ends the program.
+    virtual bool delaysShutdown() const = 0;
+};
 
 // The running system and who uses it. Thread-safe.
 class Session
@@ -41,6 +64,14 @@ public:
     // Whether the program has the rights that drives ask for. Windows: OpenProcessToken(TOKEN_QUERY),
     // GetTokenInformation(TokenElevation). Linux: the effective user is root.
     virtual Result<bool> isAdministrator() = 0;
+
+    // Keeps the system from falling asleep by itself; a screen may go dark. Holds of one thread end in the
+    // reverse order. Fails where nothing can be asked for it (NotSupported) or the answer is no.
+    // Windows: SetThreadExecutionState(ES_CONTINUOUS | ES_SYSTEM_REQUIRED) and back to what was set before;
+    // with a window ShutdownBlockReasonCreate and ShutdownBlockReasonDestroy, whose refusal only leaves the
+    // shutdown as it is. Linux: a lock of logind (Inhibit "sleep:shutdown:idle", "block"), which also keeps
+    // other users from shutting down and may show them the reason.
+    virtual Result<std::unique_ptr<AwakeHold>> keepAwake(const AwakeRequest &request) = 0;
 };
 
 } // namespace platform

@@ -40,6 +40,7 @@ private slots:
     void aVolumeThatAnotherJobFillsIsRefused();
     void aSystemVolumeIsAllowed();
     void severalVolumesAreSeveralJobs();
+    void eachJobKeepsTheSystemAwake();
     void theSameVolumeTwiceIsOneJob();
     void aVolumeAndItsDriveAreOneJob_data();
     void aVolumeAndItsDriveAreOneJob();
@@ -294,6 +295,24 @@ void tst_CliWipeFree::severalVolumesAreSeveralJobs()
     }
     QCOMPARE(order, (QStringList{u"started"_s, u"finished"_s, u"started"_s, u"finished"_s}));
     QCOMPARE(certificates.removeDuplicates(), 0);
+}
+
+void tst_CliWipeFree::eachJobKeepsTheSystemAwake()
+{
+    Machine machine;
+    machine.add(u"/media/a"_s);
+    machine.add(u"/media/b"_s);
+    QList<int> holds; // at the first pass of each job
+    CliRun run;
+    run.io.onOutput = [&](const QByteArray &out) {
+        if (out.count(R"("event":"pass")") > holds.size())
+            holds.append(machine.session.awakeHolds);
+    };
+    run(wipeSmall({u"/media/a"_s, u"/media/b"_s}));
+    QCOMPARE(run.code, 0);
+    QCOMPARE(holds, (QList<int>{1, 1}));
+    QCOMPARE(machine.session.awakeRequests.size(), 2);
+    QCOMPARE(machine.session.awakeHolds, 0);
 }
 
 void tst_CliWipeFree::theSameVolumeTwiceIsOneJob()

@@ -8,6 +8,34 @@ platform::Status fakeFailure(quint32 code)
     return {code, 0, "fake device"};
 }
 
+namespace {
+
+class FakeHold : public platform::AwakeHold
+{
+public:
+    explicit FakeHold(FakeSession &session)
+        : m_session(session)
+    {
+        ++m_session.awakeHolds;
+    }
+    ~FakeHold() override { --m_session.awakeHolds; }
+    bool delaysShutdown() const override { return m_session.canDelayShutdown; }
+
+private:
+    FakeSession &m_session;
+};
+
+} // namespace
+
+platform::Result<std::unique_ptr<platform::AwakeHold>>
+FakeSession::keepAwake(const platform::AwakeRequest &request)
+{
+    awakeRequests.append(request);
+    if (awakeError != platform::NoError)
+        return fakeFailure(awakeError);
+    return std::unique_ptr<platform::AwakeHold>(std::make_unique<FakeHold>(*this));
+}
+
 FakeDrive FakeDrive::onBus(quint32 bus)
 {
     FakeDrive drive;

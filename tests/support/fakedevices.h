@@ -106,11 +106,19 @@ public:
     QString user;
     platform::Result<bool> administrator = true;
 
+    // Of keepAwake(): the answer, unless it is to fail, and how it was used.
+    quint32 awakeError = platform::NoError;
+    bool canDelayShutdown = false;
+    QList<platform::AwakeRequest> awakeRequests;
+    int awakeHolds = 0; // that are there
+
     QStringList systemVolumes() override { return systemVolumeNames; }
     bool isSystemRoot(const QString &rootPath) override { return systemRoots.contains(rootPath); }
     bool holdsSystemFiles(const QString &rootPath) override { return isSystemRoot(rootPath); }
     QString userId() override { return user; }
     platform::Result<bool> isAdministrator() override { return administrator; }
+    platform::Result<std::unique_ptr<platform::AwakeHold>>
+    keepAwake(const platform::AwakeRequest &request) override;
 };
 
 // A machine that has drives and a user, and nothing else: asking for its files is a mistake of the test.

@@ -18,6 +18,9 @@
 
 #include <atomic>
 #include <cstdio>
+#include <functional>
+#include <memory>
+#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -78,6 +81,52 @@ QByteArray resource(const QString &programName, LPCWSTR name, LPCWSTR type)
     return copy;
 }
 
+// The error mode of a process that runs: what its own GetErrorMode answers on a thread that is put into it,
+// at the address that all processes have it at. Nothing when the process is gone.
+std::optional<DWORD> errorModeOf(qint64 processId)
+{
+    HANDLE const process = ::OpenProcess(PROCESS_ALL_ACCESS, FALSE, DWORD(processId));
+    if (!process)
+        return std::nullopt;
+    FARPROC const question = ::GetProcAddress(::GetModuleHandleW(L"kernel32"), "GetErrorMode");
+    std::optional<DWORD> mode;
+    if (HANDLE const thread = ::CreateRemoteThread(
+            process, nullptr, 0, reinterpret_cast<LPTHREAD_START_ROUTINE>(reinterpret_cast<void *>(question)),
+            nullptr, 0, nullptr)) {
+        DWORD answer = 0;
+        if (::WaitForSingleObject(thread, INFINITE) == WAIT_OBJECT_0 && ::GetExitCodeThread(thread, &answer))
+            mode = answer;
+        ::CloseHandle(thread);
+    }
+    ::CloseHandle(process);
+    return mode;
+}
+
+bool failsWithoutBoxes(qint64 processId)
+{
+    constexpr DWORD Quiet = SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX;
+    return (errorModeOf(processId).value_or(0) & Quiet) == Quiet;
+}
+
+bool hasWindow(qint64 processId)
+{
+    struct Search
+    {
+        DWORD process;
+        bool isFound;
+    } search{DWORD(processId), false};
+    ::EnumWindows(
+        [](HWND window, LPARAM target) -> BOOL {
+            auto &wanted = *reinterpret_cast<Search *>(target);
+            DWORD process = 0;
+            ::GetWindowThreadProcessId(window, &process);
+            wanted.isFound = process == wanted.process && ::IsWindowVisible(window);
+            return !wanted.isFound;
+        },
+        reinterpret_cast<LPARAM>(&search));
+    return search.isFound;
+}
+
 struct Finished
 {
     int code = -1;
@@ -113,13 +162,16 @@ private slots:
     void exitCodes_data();
     void exitCodes();
     void interruptCancelsTheJob();
+    void noBoxStopsTheCommandLine();
+    void noBoxStopsTheDesktopProgram();
 
 private:
     QString image(qint64 size = 1 << 20)
     {
         return writeFile(m_folder->filePath(u"disk.img"_s), QByteArray(size, 'x'));
     }
-    Finished run(const QStringList &arguments, const std::function<void()> &onProgress = {})
+    Finished run(const QStringList &arguments, const std::function<void()> &onProgress = {},
+                 const std::function<void(qint64 processId)> &whileItRuns = {})
     {
         QProcess process;
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -132,6 +184,8 @@ private:
         while (process.state() != QProcess::NotRunning) {
             process.waitForReadyRead(100);
             finished.out += process.readAllStandardOutput();
+            if (whileItRuns && process.state() == QProcess::Running && finished.out.contains("\"progress\""))
+                whileItRuns(process.processId());
             // As a person does: again when nothing has come of it. Not sooner, since Wine stumbles over an
             // event that meets a program on its way out.
             if (onProgress && finished.out.contains("\"progress\"") &&
@@ -348,6 +402,41 @@ void tst_WindowsProgram::interruptCancelsTheJob()
     QCOMPARE(last.value(u"cancelled"_s), QJsonValue(true));
     QCOMPARE(last.value(u"success"_s), QJsonValue(false));
     QCOMPARE(QJsonDocument::fromJson(contentOf(report)).object(), last.value(u"report"_s).toObject());
+}
+
+// The program passes its error mode on to those that it starts: the suite's own must not be what is seen.
+void tst_WindowsProgram::noBoxStopsTheCommandLine()
+{
+    QCOMPARE(::GetErrorMode() & (SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX), 0U);
+    const QString path = image(16 << 20);
+    bool isQuiet = false;
+    const Finished finished =
+        run({u"wipe"_s, u"disk"_s, u"0"_s, u"--image"_s, path, u"--yes"_s, u"--method"_s, u"gutmann"_s,
+             u"--buffer-mb"_s, u"1"_s, u"--json"_s},
+            {}, [&isQuiet](qint64 processId) { isQuiet = isQuiet || failsWithoutBoxes(processId); });
+    QCOMPARE(finished.code, 0);
+    QVERIFY(isQuiet);
+}
+
+// Without a way to show windows it says so in a box, and has touched nothing of the user's by then.
+void tst_WindowsProgram::noBoxStopsTheDesktopProgram()
+{
+#ifdef QUORVEX_DESKTOP
+    QProcess process;
+    // With a console it would say so there, and be gone.
+    process.setCreateProcessArgumentsModifier(
+        [](QProcess::CreateProcessArguments *arguments) { arguments->flags |= DETACHED_PROCESS; });
+    process.start(QStringLiteral(QUORVEX_DESKTOP), {u"-platform"_s, u"none"_s});
+    QVERIFY(process.waitForStarted());
+    while (!hasWindow(process.processId()))
+        QVERIFY(!process.waitForFinished(100));
+    const bool isQuiet = failsWithoutBoxes(process.processId());
+    process.kill();
+    process.waitForFinished();
+    QVERIFY(isQuiet);
+#else
+    QSKIP("SKIPPED: built without the desktop program");
+#endif
 }
 
 static int runSuite(int argc, char *argv[])

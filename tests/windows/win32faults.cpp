@@ -159,6 +159,9 @@ Win32Faults::Win32Faults()
     hook<GetTokenInformation_, &Win32Calls::getTokenInformation>();
     hook<ConvertSidToStringSid_, &Win32Calls::convertSidToStringSid>();
     hook<LocalFree_, &Win32Calls::localFree>();
+    hook<SetThreadExecutionState_, &Win32Calls::setThreadExecutionState>();
+    hook<ShutdownBlockReasonCreate_, &Win32Calls::shutdownBlockReasonCreate>();
+    hook<ShutdownBlockReasonDestroy_, &Win32Calls::shutdownBlockReasonDestroy>();
     s_current = this;
     m_scope.emplace(m_table);
 }

@@ -56,6 +56,9 @@ public:
         GetTokenInformation_,
         ConvertSidToStringSid_,
         LocalFree_,
+        SetThreadExecutionState_,
+        ShutdownBlockReasonCreate_,
+        ShutdownBlockReasonDestroy_,
         CallCount,
         AnyCall = CallCount, // of fail(): whichever comes
     };

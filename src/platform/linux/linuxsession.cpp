@@ -2,6 +2,7 @@
 
 #include "platform/linux/devicesinuse.h"
 #include "platform/linux/mediumtrace.h"
+#include "platform/linux/sleepinhibitor.h"
 
 #include <QDir>
 
@@ -77,6 +78,11 @@ QString LinuxSession::userId()
 Result<bool> LinuxSession::isAdministrator()
 {
     return ::geteuid() == 0;
+}
+
+Result<std::unique_ptr<AwakeHold>> LinuxSession::keepAwake(const AwakeRequest &request)
+{
+    return inhibitSleep(request.reason);
 }
 
 } // namespace platform

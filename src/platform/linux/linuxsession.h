@@ -16,6 +16,7 @@ public:
     bool holdsSystemFiles(const QString &rootPath) override;
     QString userId() override;
     Result<bool> isAdministrator() override;
+    Result<std::unique_ptr<AwakeHold>> keepAwake(const AwakeRequest &request) override;
 
 private:
     SystemTree m_tree;

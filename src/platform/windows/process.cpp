@@ -193,6 +193,11 @@ Status writeText(StandardStream stream, const QByteArray &text)
     return {};
 }
 
+void failWithoutBoxes()
+{
+    ::SetErrorMode(::GetErrorMode() | SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX);
+}
+
 void outliveReaders()
 {}
 

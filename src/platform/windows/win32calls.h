@@ -15,7 +15,9 @@
 #endif
 #include <windows.h>
 
+#include <ole2.h>
 #include <sddl.h>
+#include <shellapi.h>
 #include <winioctl.h>
 
 namespace platform {
@@ -63,6 +65,13 @@ struct Win32Calls
     decltype(&::GetTokenInformation) getTokenInformation = &::GetTokenInformation;
     decltype(&::ConvertSidToStringSidW) convertSidToStringSid = &::ConvertSidToStringSidW;
     decltype(&::LocalFree) localFree = &::LocalFree;
+
+    decltype(&::SetThreadExecutionState) setThreadExecutionState = &::SetThreadExecutionState;
+    decltype(&::ShutdownBlockReasonCreate) shutdownBlockReasonCreate = &::ShutdownBlockReasonCreate;
+    decltype(&::ShutdownBlockReasonDestroy) shutdownBlockReasonDestroy = &::ShutdownBlockReasonDestroy;
+    decltype(&::ChangeWindowMessageFilterEx) changeWindowMessageFilter = &::ChangeWindowMessageFilterEx;
+    decltype(&::DragAcceptFiles) dragAcceptFiles = &::DragAcceptFiles;
+    decltype(&::RevokeDragDrop) revokeDragDrop = &::RevokeDragDrop;
 };
 
 // The table in force. Any thread.

@@ -2,6 +2,7 @@
 
 #include "platform/windows/lasterror.h"
 #include "platform/windows/win32calls.h"
+#include "platform/windows/windowsawakehold.h"
 #include "platform/windows/windowspaths.h"
 #include "platform/windows/winhandle.h"
 
@@ -74,6 +75,11 @@ Result<bool> WindowsSession::isAdministrator()
     if (!win32().getTokenInformation(token.get(), TokenElevation, &elevation, size, &size))
         return statusFromLastError("GetTokenInformation");
     return elevation.TokenIsElevated != 0;
+}
+
+Result<std::unique_ptr<AwakeHold>> WindowsSession::keepAwake(const AwakeRequest &request)
+{
+    return WindowsAwakeHold::begin(request);
 }
 
 } // namespace platform

@@ -12,6 +12,7 @@ public:
     bool holdsSystemFiles(const QString &rootPath) override;
     QString userId() override;
     Result<bool> isAdministrator() override;
+    Result<std::unique_ptr<AwakeHold>> keepAwake(const AwakeRequest &request) override;
 };
 
 } // namespace platform

@@ -81,6 +81,7 @@ FileSelectPage::FileSelectPage(QWidget *parent)
     , m_dropZone(new DropZone(tr("Click to add files or drag files here"), tr("📄 Add Files")))
     , m_list(new FileListWidget)
     , m_stats(new QLabel)
+    , m_missing(new QLabel)
     , m_back(new QPushButton(tr("← Back")))
     , m_next(new QPushButton(tr("Next →")))
 {
@@ -89,9 +90,14 @@ FileSelectPage::FileSelectPage(QWidget *parent)
     createToolRow();
     m_list->setAccessibleName(tr("Files and folders to shred"));
     m_stats->setObjectName(u"fileStats"_s);
-    m_stats->setTextFormat(Qt::PlainText);
-    m_stats->setWordWrap(true);
     m_stats->setStyleSheet(u"font-size: 13px; color: #64748b;"_s);
+    m_missing->setObjectName(u"missingLabel"_s);
+    m_missing->setStyleSheet(u"font-size: 13px; color: #ef4444;"_s);
+    m_missing->hide();
+    for (QLabel *label : {m_stats, m_missing}) {
+        label->setTextFormat(Qt::PlainText);
+        label->setWordWrap(true);
+    }
     pagestyle::asBack(*m_back);
     pagestyle::asNext(*m_next);
     createLayout();
@@ -143,6 +149,7 @@ void FileSelectPage::createLayout()
     layout->addWidget(m_toolRow);
     layout->addWidget(m_stack, 1);
     layout->addWidget(m_stats);
+    layout->addWidget(m_missing);
     layout->addLayout(buttons);
 }
 
@@ -165,6 +172,7 @@ void FileSelectPage::clearFiles()
     m_entries.clear();
     m_paths.clear();
     m_list->clear();
+    m_missing->hide();
     updateStats();
 }
 
@@ -203,9 +211,11 @@ void FileSelectPage::hideLoading()
     m_toolRow->show();
 }
 
-void FileSelectPage::addPaths(const QStringList &paths)
+int FileSelectPage::addPaths(const QStringList &paths)
 {
     const WaitCursor waitCursor;
+    m_missing->hide();
+    int missing = 0;
     QList<FileEntry> added;
     for (const QString &path : paths) {
         if (m_paths.contains(path))
@@ -213,11 +223,26 @@ void FileSelectPage::addPaths(const QStringList &paths)
         if (const auto entry = FileEntry::fromPath(path)) {
             m_paths.insert(path);
             added.append(*entry);
+        } else {
+            ++missing;
         }
     }
     m_entries.append(added);
     m_list->append(added);
     updateStats();
+    return missing;
+}
+
+void FileSelectPage::addDropped(const QStringList &paths)
+{
+    if (m_isLoading || m_isReadOnly)
+        return;
+    const int missing = addPaths(paths);
+    if (missing == 0)
+        return;
+    m_missing->setText(missing == 1 ? tr("1 item could not be found")
+                                    : tr("%1 items could not be found").arg(missing));
+    m_missing->show();
 }
 
 void FileSelectPage::onAddFilesClicked()

@@ -45,6 +45,10 @@ public:
     void updateLoadingProgress(int current, int total, const QString &text);
     void hideLoading();
 
+    /// Files that were dropped on the window past the widgets. What is not there is told beside the list: a
+    /// drop of this kind may name drives that only its source knows. Nothing while drops are not taken.
+    void addDropped(const QStringList &paths);
+
     /// For the content of the Recycle Bin.
     QListWidget *list() const;
     QLabel *statsLabel() const { return m_stats; }
@@ -69,7 +73,8 @@ private:
     void onDeletePressed();
     void createToolRow();
     void createLayout();
-    void addPaths(const QStringList &paths);
+    /// Returns how many are not there.
+    int addPaths(const QStringList &paths);
     bool handleDrag(QDropEvent &event);
     void drop(QDropEvent &event);
 
@@ -89,6 +94,7 @@ private:
     DropZone *m_dropZone;
     FileListWidget *m_list;
     QLabel *m_stats;
+    QLabel *m_missing;
     QPushButton *m_back;
     QPushButton *m_next;
 };

@@ -2,6 +2,7 @@
 
 #include "engine/wipeengine.h"
 #include "jobs/jobcontroller.h"
+#include "platform/filedrops.h"
 #include "services/reportdatabase.h"
 #include "ui/disks/diskselectpage.h"
 #include "ui/files/fileselectpage.h"
@@ -20,6 +21,7 @@
 #include <QDebug>
 #include <QFile>
 #include <QListWidget>
+#include <QSessionManager>
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
@@ -171,10 +173,14 @@ void MainWindow::connectEngine()
     m_job->setKeep([this](JobEnd &end) { keepRecords(end); });
     connect(m_job, &JobController::ended, this, &MainWindow::showEnd);
     connect(qApp, &QCoreApplication::aboutToQuit, m_job, &JobController::finish);
-    // The system is about to end the session and does not wait for long.
+    // The system is about to end the session and does not wait for long, unless it can ask the user first.
     connect(
         qApp, &QGuiApplication::commitDataRequest, this,
-        [this] {
+        [this](QSessionManager &manager) {
+            if (m_job->delaysShutdown()) {
+                manager.cancel();
+                return;
+            }
             m_job->finish();
             showHome();
         },

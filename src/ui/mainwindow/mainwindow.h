@@ -7,6 +7,7 @@
 #include <QPoint>
 
 #include <functional>
+#include <memory>
 
 QT_FORWARD_DECLARE_CLASS(QListWidget)
 QT_FORWARD_DECLARE_CLASS(QStackedWidget)
@@ -26,6 +27,9 @@ class WipeEngine;
 class WipeTask;
 struct JobEnd;
 struct RecycleBinInfo;
+namespace platform {
+class FileDrops;
+}
 
 /// The program's one window: sidebar, title bar and the stack of pages. Turns the user's way through the
 /// pages into a task, hands it to the controller of the job, keeps report and certificate at its end,
@@ -91,6 +95,7 @@ private:
     void connectTitleBar();
     void applyStyleSheet();
     void setCorners(bool square);
+    void takeDrop(const QStringList &paths);
 
     void showPage(int index);
     void showDisks(int mode);
@@ -126,6 +131,7 @@ private:
     bool m_asksAboutJob = false;    ///< a box is open that only makes sense while the job runs
     int m_currentPage = Home;
 
+    std::unique_ptr<platform::FileDrops> m_drops; ///< of the native window
     QVBoxLayout *m_outerLayout = nullptr;
     bool m_dragging = false;
     QPoint m_dragPosition; ///< of the cursor, from the window's top left corner

@@ -203,6 +203,7 @@ void MainWindow::onStartWipe()
     m_progressPage->setTotalPasses(method.passCount());
     setMenuEnabled(false);
     showPage(Progress);
+    m_job->setWindow(winId());
     const QString refusal = m_job->start();
     if (refusal.isEmpty())
         return;

@@ -2,8 +2,10 @@
 #include "ui/mainwindow/mainwindow.h"
 
 #include "jobs/jobcontroller.h"
+#include "platform/filedrops.h"
 #include "prompts/prompts.h"
 #include "services/linkmanager.h"
+#include "ui/files/fileselectpage.h"
 #include "ui/mainwindow/sidebar.h"
 #include "ui/titlebar/titlebar.h"
 
@@ -74,7 +76,21 @@ bool MainWindow::event(QEvent *event)
         if (shape != cursor().shape())
             setCursor(shape);
     }
+    if (event->type() == QEvent::WinIdChange) {
+        const WId window = internalWinId();
+        m_drops.reset();
+        if (window != 0)
+            m_drops = std::make_unique<platform::FileDrops>(
+                window, [this](const QStringList &paths) { takeDrop(paths); });
+    }
     return QMainWindow::event(event);
+}
+
+// The pages decide about drops themselves; these come to the window as a whole.
+void MainWindow::takeDrop(const QStringList &paths)
+{
+    if (m_currentPage == FileSelect && !QApplication::activeModalWidget())
+        m_filePage->addDropped(paths);
 }
 
 void MainWindow::onMinimizeClicked()

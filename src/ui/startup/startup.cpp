@@ -66,6 +66,7 @@ QFont interfaceFont()
 
 int runDesktopProgram(int &argc, char **argv)
 {
+    platform::failWithoutBoxes();
     // A terminal that is closed, or a program that restarted this one, takes the reader of the trace with it.
     platform::outliveReaders();
     platform::liftOpenFileLimit();

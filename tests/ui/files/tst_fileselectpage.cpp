@@ -159,6 +159,9 @@ private slots:
     void droppingAFileTwiceListsItOnce();
     void whileLoadingDropsAreIgnored();
     void aReadOnlyPageTakesNoDrops();
+    void aDropPastTheWidgetsIsTaken();
+    void whatADropPastTheWidgetsMissesIsTold();
+    void aDropPastTheWidgetsIsTakenWhereOthersAre();
 
     void removeNeedsASelection();
     void removingTakesTheSelectedRows();
@@ -520,6 +523,52 @@ void tst_FileSelectPage::whileLoadingDropsAreIgnored()
     QVERIFY(drag.enter());
     QVERIFY(drag.drop());
     QCOMPARE(shown.page.files().size(), 1);
+}
+
+void tst_FileSelectPage::aDropPastTheWidgetsIsTaken()
+{
+    Shown shown;
+    const QLabel &missing = *shown.page.findChild<QLabel *>(u"missingLabel"_s);
+    const QString one = written(u"one"_s);
+    const QString two = written(u"two"_s);
+    shown.page.addDropped({one, two, one});
+    QCOMPARE(shown.page.files(), (QStringList{one, two}));
+    QVERIFY(missing.isHidden());
+}
+
+void tst_FileSelectPage::whatADropPastTheWidgetsMissesIsTold()
+{
+    Shown shown;
+    const QLabel &missing = *shown.page.findChild<QLabel *>(u"missingLabel"_s);
+    const QString one = written(u"one"_s);
+    shown.page.addDropped({one, path(u"gone"_s)});
+    QCOMPARE(shown.page.files(), QStringList{one});
+    QVERIFY(missing.isVisible());
+    QCOMPARE(missing.text(), u"1 item could not be found"_s);
+    shown.page.addDropped({path(u"gone"_s), path(u"away"_s)});
+    QCOMPARE(missing.text(), u"2 items could not be found"_s);
+    QCOMPARE(shown.stats.text(), u"Added 1 items, total 1 B"_s);
+    // It is about the drop that was last.
+    add(shown.page, {written(u"two"_s)});
+    QVERIFY(missing.isHidden());
+    shown.page.addDropped({path(u"gone"_s)});
+    QVERIFY(missing.isVisible());
+    shown.page.clearFiles();
+    QVERIFY(missing.isHidden());
+}
+
+void tst_FileSelectPage::aDropPastTheWidgetsIsTakenWhereOthersAre()
+{
+    Shown shown;
+    const QLabel &missing = *shown.page.findChild<QLabel *>(u"missingLabel"_s);
+    const QString one = written(u"one"_s);
+    shown.page.showLoading(u"..."_s);
+    shown.page.addDropped({one, path(u"gone"_s)});
+    shown.page.hideLoading();
+    shown.page.setReadOnly(true);
+    shown.page.addDropped({one, path(u"gone"_s)});
+    QCOMPARE(shown.page.files(), QStringList());
+    QVERIFY(missing.isHidden());
 }
 
 void tst_FileSelectPage::removeNeedsASelection()

@@ -31,6 +31,9 @@ void spoilDatabase()
     QVERIFY(QDir(userdata::folder()).mkdir(u"quorvex.db"_s));
 }
 
+// What ends a job that has been started.
+using End = void (*)(HeldJob &);
+
 } // namespace
 
 // Every way in which a job can end, by its record and by what is shown.
@@ -43,6 +46,11 @@ private slots:
     void aWindowThatIsClosedLeavesTheRecordAndNoDialog();
     void aWindowThatIsClosedWhileAJobStopsIsNotAsked();
     void theEndOfTheSessionLeavesTheRecord();
+    void theSystemIsKeptAwakeDuringTheJob_data();
+    void theSystemIsKeptAwakeDuringTheJob();
+    void theSystemIsKeptAwakeNoLongerThanTheJob();
+    void aJobThatIsRefusedKeepsNothingAwake();
+    void aJobRunsOnWhenTheSystemCannotBeKeptAwake();
     void theWindowDoesNotGoBeforeTheRecord();
     void aRestartWaitsForTheRecord();
     void aRestartWithoutAJobIsAtOnce();
@@ -113,6 +121,94 @@ void tst_JobEnds::theEndOfTheSessionLeavesTheRecord()
     QCOMPARE(held.job().state(), JobController::State::Idle);
     QCOMPARE(held.fixture->window->currentPage(), int(MainWindow::Home));
     QCOMPARE(held.fixture->dialogs.titles, QStringList{u"Confirm Erase"_s});
+}
+
+void tst_JobEnds::theSystemIsKeptAwakeDuringTheJob_data()
+{
+    QTest::addColumn<End>("end");
+    QTest::newRow("stopped") << End([](HeldJob &held) {
+        held.fixture->prompts.buttons = {QMessageBox::Ok};
+        held.fixture->dialogs.answers = {WindowFixture::pressButton(u"Close"_s)};
+        held.fixture->window->onStopClicked();
+    });
+    QTest::newRow("failed") << End(
+        [](HeldJob &held) { held.fixture->dialogs.answers = {WindowFixture::pressButton(u"Close"_s)}; });
+    QTest::newRow("window closed") << End([](HeldJob &held) {
+        held.fixture->prompts.buttons = {QMessageBox::Yes};
+        held.fixture->window->close();
+    });
+    QTest::newRow("restarted") << End(
+        [](HeldJob &held) { held.job().leave(JobController::State::Restarting, [] {}); });
+}
+
+void tst_JobEnds::theSystemIsKeptAwakeDuringTheJob()
+{
+    QFETCH(const End, end);
+    HeldJob held;
+    const FakeSession &session = held.drives.machine.fakeSession;
+    QCOMPARE(session.awakeRequests.size(), 0);
+    if (qstrcmp(QTest::currentDataTag(), "failed") == 0) {
+        held.memory.drive(0).medium.resize(DriveMachine::Size / 2);
+        held.memory.drive(0).endError = platform::IoDevice;
+    }
+    held.start();
+    QCOMPARE(session.awakeRequests.size(), 1);
+    QCOMPARE(session.awakeRequests.constFirst().reason, u"An erasure is running."_s);
+    QCOMPARE(session.awakeRequests.constFirst().window, quintptr(held.fixture->window->winId()));
+    QCOMPARE(session.awakeHolds, 1);
+    end(held);
+    // The worker is still at its transfer.
+    QCOMPARE(session.awakeHolds, 1);
+    held.letGo.release();
+    QTRY_COMPARE_WITH_TIMEOUT(held.job().state(), JobController::State::Idle, 60000);
+    QCOMPARE(session.awakeHolds, 0);
+    QTRY_COMPARE_WITH_TIMEOUT(held.fixture->dialogs.answers.size(), 0, 60000);
+    QCOMPARE(session.awakeRequests.size(), 1);
+}
+
+// The end may be shown for hours.
+void tst_JobEnds::theSystemIsKeptAwakeNoLongerThanTheJob()
+{
+    HeldJob held;
+    const FakeSession &session = held.drives.machine.fakeSession;
+    held.start();
+    int whileShown = -1;
+    held.fixture->dialogs.answers = {[&](QDialog &dialog) {
+        whileShown = session.awakeHolds;
+        dialog.accept();
+    }};
+    held.letGo.release();
+    QTRY_COMPARE_WITH_TIMEOUT(held.fixture->dialogs.answers.size(), 0, 60000);
+    QCOMPARE(held.storedOutcome(), JobOutcome::Complete);
+    QCOMPARE(whileShown, 0);
+}
+
+void tst_JobEnds::aJobThatIsRefusedKeepsNothingAwake()
+{
+    const HeldJob held;
+    const FakeSession &session = held.drives.machine.fakeSession;
+    held.job().newTask(DiskWipe); // of no disk
+    QVERIFY(!held.job().start().isEmpty());
+    QCOMPARE(session.awakeRequests.size(), 1);
+    QCOMPARE(session.awakeHolds, 0);
+}
+
+void tst_JobEnds::aJobRunsOnWhenTheSystemCannotBeKeptAwake()
+{
+    HeldJob held;
+    held.drives.machine.fakeSession.awakeError = platform::AccessDenied;
+    QStringList warnings;
+    connect(&held.engine(), &WipeEngine::logMessage, held.fixture->window.get(),
+            [&warnings](const QString &message, int level) {
+                if (level == 1 && message.startsWith(u"The system"_s))
+                    warnings.append(message);
+            });
+    held.start();
+    held.fixture->dialogs.answers = {WindowFixture::pressButton(u"Done"_s)};
+    held.letGo.release();
+    QTRY_COMPARE_WITH_TIMEOUT(held.fixture->dialogs.answers.size(), 0, 60000);
+    QCOMPARE(held.storedOutcome(), JobOutcome::Complete);
+    QCOMPARE(warnings, QStringList{u"The system could not be kept from sleeping during this job, error 5"_s});
 }
 
 void tst_JobEnds::theWindowDoesNotGoBeforeTheRecord()

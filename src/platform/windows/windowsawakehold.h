@@ -1,0 +1,26 @@
+#pragma once
+
+#include "platform/session.h"
+#include "platform/windows/win32calls.h"
+
+namespace platform {
+
+// The thread's own wish for a system that stays awake, and the reason against a shutdown at a window.
+class WindowsAwakeHold final : public AwakeHold
+{
+public:
+    static Result<std::unique_ptr<AwakeHold>> begin(const AwakeRequest &request);
+    ~WindowsAwakeHold() override;
+
+    bool delaysShutdown() const override { return m_window != nullptr; }
+
+private:
+    explicit WindowsAwakeHold(EXECUTION_STATE before)
+        : m_before(before)
+    {}
+
+    EXECUTION_STATE m_before;
+    HWND m_window = nullptr; // that has the reason
+};
+
+} // namespace platform
