@@ -27,3 +27,12 @@ std::optional<Shortfall> snapshotNote(const QString &path)
         return std::nullopt;
     return Shortfall{.kind = ShortfallKind::ShadowCopies, .place = path, .count = count.valueOr(-1)};
 }
+
+std::optional<Shortfall> SnapshotSurvey::noteFor(const platform::FileId &file,
+                                                 const std::function<QString()> &path)
+{
+    if (m_asked.contains(file.device))
+        return std::nullopt;
+    m_asked.insert(file.device);
+    return snapshotNote(path());
+}

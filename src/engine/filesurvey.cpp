@@ -96,6 +96,9 @@ private:
         if (info.kind != FileKind::Regular)
             return;
         m_survey.bytes += static_cast<quint64>(info.size);
+        if (const auto note =
+                m_snapshots.noteFor(info.id, [&] { return m_tree.path(file.folder, file.name); }))
+            m_survey.snapshots.append(*note);
         if (info.linkCount > 1)
             ++m_survey.filesWithOtherNames;
         if (info.allocatedBytes < 0 || info.allocatedBytes >= info.size)
@@ -111,6 +114,7 @@ private:
     int m_questionsLeft;
     HeldTree m_tree;
     FileList m_list;
+    SnapshotSurvey m_snapshots;
     FileSurvey m_survey;
 };
 

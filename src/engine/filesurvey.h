@@ -1,7 +1,10 @@
 #pragma once
 
+#include "model/shortfall.h"
+
 #include <QCoreApplication>
 #include <QHash>
+#include <QList>
 #include <QString>
 #include <QStringList>
 #include <QtGlobal>
@@ -28,6 +31,7 @@ public:
     quint64 filesWithOtherNames = 0;
     bool isComplete = true;     // false when something could not be looked at, or the look was ended
     QStringList keptElsewhere;  // targets whose content may outlast being overwritten
+    QList<Shortfall> snapshots; // notes on the volumes of the files
     QStringList mounted;        // what other file systems are mounted on; the job does not enter it
     QHash<quint64, Room> rooms; // by device
 

@@ -152,6 +152,8 @@ bool FileWipeWorker::measureFile(std::size_t file)
     if (info.value().kind != FileKind::Regular)
         return true;
     m_singlePassTotal += info.value().size;
+    if (const auto note = m_snapshots.noteFor(info.value().id, [&] { return m_files.pathOf(file); }))
+        task().noteShortfall(*note);
     // No pass opens it, and yet there may be streams beside the one that is empty.
     if (info.value().size == 0) {
         const auto place = m_files.entry(file);

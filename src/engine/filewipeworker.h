@@ -1,6 +1,7 @@
 #pragma once
 
 #include "engine/basewipeworker.h"
+#include "engine/contentsurvey.h"
 #include "engine/filecollector.h"
 #include "engine/fileoverwriting.h"
 #include "engine/fileremoval.h"
@@ -70,6 +71,7 @@ private:
     void progress(qint64 done, qint64 total) override { updateProgress(done, total); }
 
     JobFiles m_files{*this};
+    SnapshotSurvey m_snapshots;
     FileRemoval m_removal;
     qint64 m_singlePassTotal = 0;       // bytes
     bool m_isTotalCertain = true;       // the size of every file that stands was told

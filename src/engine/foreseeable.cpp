@@ -74,6 +74,8 @@ void foreseeFiles(const WipeTask &task, const FileSurvey &survey, OutcomeRecord 
 {
     for (const QString &target : survey.keptElsewhere)
         record.note({ShortfallKind::ContentElsewhere, target});
+    for (const Shortfall &note : survey.snapshots)
+        record.note(note);
     for (const QString &path : survey.mounted)
         record.note({ShortfallKind::EntryNotRemoved, path});
     if (!task.targetsAreNamed())

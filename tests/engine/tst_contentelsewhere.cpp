@@ -48,6 +48,33 @@ platform::Result<ContentPlace> placeByName(const QString &path)
     return InPlace;
 }
 
+class SnapshotFolders : public platform::ForwardingFolders
+{
+public:
+    SnapshotFolders(platform::Folders &target, const Result<int> &answer)
+        : ForwardingFolders(target)
+        , m_answer(answer)
+    {}
+
+    QStringList asked;
+
+    Result<int> snapshots(const QString &path) override
+    {
+        asked.append(path);
+        return m_answer;
+    }
+
+private:
+    Result<int> m_answer;
+};
+
+QList<Shortfall> snapshotsIn(const OutcomeRecord &record)
+{
+    QList<Shortfall> notes = record.notes();
+    notes.removeIf([](const Shortfall &note) { return note.kind != ShortfallKind::ShadowCopies; });
+    return notes;
+}
+
 // The machine's files, lying where placeByName() says, in a folder of the test's own.
 struct Machine
 {
@@ -99,6 +126,7 @@ private slots:
     void freeSpace();
     void snapshots_data();
     void snapshots();
+    void snapshotsBelowFiles();
 };
 
 void tst_ContentElsewhere::theQuestionComesBeforeTheFirstWrite()
@@ -338,16 +366,32 @@ void tst_ContentElsewhere::snapshots()
     partition.freeBytes = 1000 * freespace::MiB;
     job.task.setPartition(partition);
     job.setPasses({{PatternType::Zeros}});
-    const auto snapshotsIn = [](const OutcomeRecord &record) {
-        QList<Shortfall> notes = record.notes();
-        notes.removeIf([](const Shortfall &note) { return note.kind != ShortfallKind::ShadowCopies; });
-        return notes;
-    };
     QTEST(snapshotsIn(foreseeableShortfalls(job.task)), "notes");
     job.run();
     QVERIFY(job.succeeded());
     QTEST(snapshotsIn(job.task.outcome()), "notes");
     QVERIFY(job.task.outcome().shortfalls().isEmpty());
+}
+
+// Once for all files of a volume, before the question and in the record.
+void tst_ContentElsewhere::snapshotsBelowFiles()
+{
+    SnapshotFolders folders(platform::Platform::current().folders(), 2);
+    platform::ForwardingPlatform platform{platform::Platform::current().files(), folders,
+                                          platform::Platform::current().devices(),
+                                          platform::Platform::current().session()};
+    const platform::ScopedPlatform scope{platform};
+    FileJob job(platform.files());
+    const QStringList targets{job.makeFile(u"a"_s, 10), job.makeFile(u"b"_s, 10)};
+    const QList<Shortfall> notes{{.kind = ShortfallKind::ShadowCopies, .place = targets.first(), .count = 2}};
+    job.task.setOperationType(FileWipe);
+    job.task.setFiles(targets);
+    QCOMPARE(snapshotsIn(foreseeableShortfalls(job.task)), notes);
+    QCOMPARE(folders.asked, targets.first(1));
+    QVERIFY(job.run(targets));
+    QCOMPARE(snapshotsIn(job.task.outcome()), notes);
+    QVERIFY(job.task.outcome().shortfalls().isEmpty());
+    QCOMPARE(folders.asked.size(), 2);
 }
 
 QUORVEX_SUITE(tst_ContentElsewhere, QCoreApplication)
