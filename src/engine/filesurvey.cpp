@@ -96,6 +96,8 @@ private:
         if (info.kind != FileKind::Regular)
             return;
         m_survey.bytes += static_cast<quint64>(info.size);
+        if (info.isInCloud)
+            ++m_survey.filesInCloud;
         if (info.linkCount > 1)
             ++m_survey.filesWithOtherNames;
         if (info.allocatedBytes < 0 || info.allocatedBytes >= info.size)

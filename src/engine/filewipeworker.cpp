@@ -88,6 +88,7 @@ bool FileWipeWorker::shred()
 bool FileWipeWorker::concludeJob(bool success)
 {
     m_files.noteVanished();
+    noteCloudCopies();
     if (isStopRequested()) {
         log(tr("擦除任务已由用户取消"), BaseWipeWorker::Warning);
         return false;
@@ -107,9 +108,15 @@ FileCollector::Observer FileWipeWorker::observer()
     // could look at makes it fail.
     const auto unreadable = [this](FileCollector::Unreadable what, const QString &path,
                                    const Status &status) {
-        const QString text = what == FileCollector::Unreadable::Folder ? tr("无法读取文件夹: %1，错误码: %2")
-                                                                       : tr("无法访问: %1，错误码: %2");
-        log(text.arg(displayText(path), QString::number(status.code)), BaseWipeWorker::Error);
+        if (status.code == platform::FileOffline) {
+            log(tr("文件夹内容未全部在本机，部分仅保存在云端，无法擦除: %1").arg(displayText(path)),
+                BaseWipeWorker::Error);
+        } else {
+            const QString text = what == FileCollector::Unreadable::Folder
+                                     ? tr("无法读取文件夹: %1，错误码: %2")
+                                     : tr("无法访问: %1，错误码: %2");
+            log(text.arg(displayText(path), QString::number(status.code)), BaseWipeWorker::Error);
+        }
         traceFile(path, status);
     };
     return {.goOn = [this] { return checkPauseStop(); },
@@ -152,14 +159,10 @@ bool FileWipeWorker::measureFile(std::size_t file)
     if (info.value().kind != FileKind::Regular)
         return true;
     m_singlePassTotal += info.value().size;
-    // No pass opens it, and yet there may be streams beside the one that is empty.
-    if (info.value().size == 0) {
-        const auto place = m_files.entry(file);
-        const auto content =
-            place ? platform::Platform::current().files().contentPlace(place.value()) : place.status();
-        if (!isAbsent(content.status()))
-            m_overwriting.notePlace(m_files.pathOf(file), content);
-    }
+    if (info.value().isInCloud)
+        ++m_inCloud;
+    if (info.value().size == 0)
+        m_isAllEmpty = m_isAllEmpty && isWithoutStreams(file);
     if (info.value().linkCount > 1) {
         const qint64 others = info.value().linkCount - 1;
         log(tr("文件还有 %1 个其他硬链接: %2")
@@ -168,6 +171,15 @@ bool FileWipeWorker::measureFile(std::size_t file)
         task().noteShortfall({ShortfallKind::OtherNames, m_files.pathOf(file), -1, others});
     }
     return true;
+}
+
+// A file that cannot be asked may have some.
+bool FileWipeWorker::isWithoutStreams(std::size_t file)
+{
+    const auto place = m_files.entry(file);
+    const auto streams =
+        place ? platform::Platform::current().files().namedStreams(place.value()) : place.status();
+    return isAbsent(streams.status()) || (streams && streams.value().isEmpty());
 }
 
 std::size_t FileWipeWorker::addLate()
@@ -210,8 +222,9 @@ void FileWipeWorker::announceFiles()
 bool FileWipeWorker::overwriteAll()
 {
     m_bytesBeforePass = 0;
-    // A total of 0 proves that there is nothing to overwrite only when every size was told.
-    if (m_singlePassTotal <= 0 && m_isTotalCertain) {
+    // A total of 0 proves that there is nothing to overwrite only when every size was told, and when there is
+    // nothing beside the content.
+    if (m_singlePassTotal <= 0 && m_isTotalCertain && m_isAllEmpty) {
         log(tr("所有文件为空，跳过数据覆写"));
         return !isStopRequested();
     }
@@ -284,6 +297,15 @@ void FileWipeWorker::logContentElsewhere()
     if (m_overwriting.elsewhereCount() > 0)
         log(tr("%1 个文件的内容可能还保存在别处，未被覆写").arg(m_overwriting.elsewhereCount()),
             BaseWipeWorker::Warning);
+}
+
+// Overwriting reaches what is here, and the service takes that for a new version.
+void FileWipeWorker::noteCloudCopies()
+{
+    if (m_inCloud == 0)
+        return;
+    log(tr("%1 个文件由云服务同步，云端可能仍保留其副本和历史版本").arg(m_inCloud), BaseWipeWorker::Warning);
+    task().noteShortfall({ShortfallKind::CloudCopy, {}, -1, m_inCloud});
 }
 
 // What appeared while files were deleted.

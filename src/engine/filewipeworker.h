@@ -35,6 +35,7 @@ private:
     // Looks at the files from this one on; what is mounted over a name is taken off the list.
     void measureFrom(std::size_t first);
     bool measureFile(std::size_t file);
+    bool isWithoutStreams(std::size_t file);
     void announceFiles();
 
     // Adds what has appeared in the folders of the job since they were listed. The number of the first file.
@@ -47,6 +48,7 @@ private:
     bool overwriteAgain(std::size_t index);
     bool failPass(int pass);
     void logContentElsewhere();
+    void noteCloudCopies();
     bool eraseLate();
     bool settleRemovals();
 
@@ -71,8 +73,10 @@ private:
 
     JobFiles m_files{*this};
     FileRemoval m_removal;
-    qint64 m_singlePassTotal = 0;       // bytes
-    bool m_isTotalCertain = true;       // the size of every file that stands was told
+    qint64 m_singlePassTotal = 0; // bytes
+    bool m_isTotalCertain = true; // the size of every file that stands was told
+    bool m_isAllEmpty = true;     // no file without content has streams
+    qint64 m_inCloud = 0;         // files of which a cloud service keeps copies
     std::size_t m_overwrittenCount = 0; // files from the beginning that received every pass
     FileOverwriting m_overwriting;      // destroyed first, with its threads
 };

@@ -71,6 +71,8 @@ void foreseeFiles(const WipeTask &task, const FileSurvey &survey, OutcomeRecord 
 {
     for (const QString &target : survey.keptElsewhere)
         record.note({ShortfallKind::ContentElsewhere, target});
+    if (survey.filesInCloud > 0)
+        record.note({ShortfallKind::CloudCopy, {}, -1, survey.filesInCloud});
     for (const QString &path : survey.mounted)
         record.note({ShortfallKind::EntryNotRemoved, path});
     if (!task.targetsAreNamed())

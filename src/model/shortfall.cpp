@@ -76,6 +76,9 @@ constexpr std::array kinds{
     KindEntry{ShortfallKind::CopyOnWrite, "copy-on-write", false,
               QT_TRANSLATE_NOOP("OutcomeRecord", "the file system writes to new places and may keep earlier "
                                                  "content, in snapshots for instance")},
+    KindEntry{
+        ShortfallKind::CloudCopy, "cloud-copy", false,
+        QT_TRANSLATE_NOOP("OutcomeRecord", "a cloud service keeps copies and earlier versions of files")},
     KindEntry{ShortfallKind::NoFreeByte, "no-free-byte", false,
               QT_TRANSLATE_NOOP("OutcomeRecord", "there was no free space to overwrite")},
 };

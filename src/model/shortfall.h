@@ -36,6 +36,7 @@ enum class ShortfallKind {
     ReserveKept,
     OtherNames,
     CopyOnWrite,
+    CloudCopy,
     NoFreeByte,
 };
 

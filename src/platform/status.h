@@ -41,6 +41,7 @@ enum ErrorCode : quint32 {
     MisalignedBuffer = 1132,
     DiskQuotaExceeded = 1295,
     CannotAccessFile = 1920,
+    FileOffline = 4350,
 };
 
 // Success, or the number shown to users together with what diagnostics need: the system's own number and the

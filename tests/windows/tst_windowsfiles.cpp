@@ -30,6 +30,11 @@ namespace {
 constexpr OpenMode EveryMode[] = {OpenMode::Overwrite, OpenMode::Verify, OpenMode::Truncate,
                                   OpenMode::CreateFill};
 constexpr DWORD Injected = ERROR_IO_DEVICE;
+constexpr DWORD CloudTag = 0x9000001A;
+// Younger than the headers of some compilers.
+constexpr DWORD Pinned = 0x00080000;
+constexpr DWORD RecallOnOpen = 0x00040000;
+constexpr DWORD RecallOnDataAccess = 0x00400000;
 
 WindowsFiles files;
 WindowsFolders folders;
@@ -117,13 +122,15 @@ QMap<QString, QByteArray> snapshot(const QString &folder)
     return entries;
 }
 
-// The system's calls, but what is named "...link" shows a reparse point with the tag wherever one can ask.
+// The system's calls, but what is named "...link" shows a reparse point with the tag, or other attributes,
+// wherever one can ask.
 class PretendedLinks
 {
 public:
-    explicit PretendedLinks(DWORD tag = IO_REPARSE_TAG_SYMLINK)
+    explicit PretendedLinks(DWORD tag = IO_REPARSE_TAG_SYMLINK, DWORD bits = FILE_ATTRIBUTE_REPARSE_POINT)
     {
         s_tag = tag;
+        s_bits = bits;
         m_faults.target().getFileAttributes = [](LPCWSTR path) -> DWORD {
             const DWORD attributes = ::GetFileAttributesW(path);
             return attributes == INVALID_FILE_ATTRIBUTES ? attributes : marked(path, attributes);
@@ -141,6 +148,15 @@ public:
             ::GetFinalPathNameByHandleW(handle, path, 1000, 0);
             const BOOL found = ::GetFileInformationByHandle(handle, file);
             file->dwFileAttributes = marked(path, file->dwFileAttributes);
+            return found;
+        };
+        m_faults.target().getFileInformationEx = [](HANDLE handle, FILE_INFO_BY_HANDLE_CLASS what,
+                                                    LPVOID data, DWORD size) -> BOOL {
+            if (what != FileAttributeTagInfo)
+                return ::GetFileInformationByHandleEx(handle, what, data, size);
+            BY_HANDLE_FILE_INFORMATION file = {};
+            const BOOL found = win32().getFileInformation(handle, &file);
+            *static_cast<FILE_ATTRIBUTE_TAG_INFO *>(data) = {file.dwFileAttributes, s_tag};
             return found;
         };
         m_faults.target().findFirstFile = [](LPCWSTR path, FINDEX_INFO_LEVELS level, LPVOID data,
@@ -166,11 +182,11 @@ private:
     }
     static DWORD marked(const wchar_t *path, DWORD attributes)
     {
-        return std::wstring_view(path).ends_with(L"link") ? attributes | FILE_ATTRIBUTE_REPARSE_POINT
-                                                          : attributes;
+        return std::wstring_view(path).ends_with(L"link") ? attributes | s_bits : attributes;
     }
 
     inline static DWORD s_tag = 0;
+    inline static DWORD s_bits = 0;
 
     Win32Faults m_faults;
 };
@@ -327,6 +343,14 @@ private slots:
     void aRootMayEndWithEitherSlash();
     void whatMayBeUsedIsLessThanWhatIsFree();
     void linksAreSeen();
+    void filesThatAreInACloudToo();
+    void foldersThatAreInACloudToo();
+    void everyOtherTagIsRefused_data();
+    void everyOtherTagIsRefused();
+    void whatIsOnlyInACloudIsLeftThere_data();
+    void whatIsOnlyInACloudIsLeftThere();
+    void whatIsTakenToACloudMeanwhile();
+    void pathsOfStreams();
     void openOfALinkIsRefused();
     void openOfALinkThatIsSwappedIn();
     void filesWhoseBytesLieElsewhere();
@@ -430,7 +454,7 @@ void tst_WindowsFiles::opensWithWhatItPromises()
         QCOMPARE(opening.access, access);
         QCOMPARE(opening.sharing, sharing);
         QCOMPARE(opening.disposition, disposition);
-        QCOMPARE(opening.flags, flags | DWORD(FILE_FLAG_OPEN_REPARSE_POINT));
+        QCOMPARE(opening.flags, flags | DWORD(FILE_FLAG_OPEN_REPARSE_POINT | FILE_FLAG_OPEN_NO_RECALL));
     };
     compare(lastOpening(u"file"_s, OpenMode::Overwrite), 0xC0000000, 1, 3, 0x88000080);
     compare(lastOpening(u"file"_s, OpenMode::Verify), 0x80000000, 3, 3, 0x80);
@@ -780,6 +804,168 @@ void tst_WindowsFiles::filesWhoseBytesLieElsewhere()
     for (const OpenMode mode : EveryMode)
         QCOMPARE(files.open(path(u"link"_s), mode).code(), quint32(CannotAccessFile));
     QCOMPARE(contentOf(path(u"link"_s)), QByteArray("abc"));
+}
+
+// What the mark says is that there are copies elsewhere, not that the bytes are.
+void tst_WindowsFiles::filesThatAreInACloudToo()
+{
+    writeFile(path(u"a link"_s), "abc");
+    writeFile(path(u"plain"_s), "abc");
+    for (const DWORD tag : {CloudTag, CloudTag | 0x1000, CloudTag | 0xF000}) {
+        const PretendedLinks cloud(tag, FILE_ATTRIBUTE_REPARSE_POINT | Pinned);
+        const Result<FileInfo> info = files.info(path(u"a link"_s));
+        QVERIFY(info.ok());
+        QCOMPARE(info.value().kind, FileKind::Regular);
+        QCOMPARE(info.value().size, 3);
+        QVERIFY(info.value().isInCloud);
+        QVERIFY(!files.info(path(u"plain"_s)).value().isInCloud);
+        for (const OpenMode mode : {OpenMode::Overwrite, OpenMode::Verify, OpenMode::Truncate})
+            QVERIFY(files.open(path(u"a link"_s), mode).ok());
+        QVERIFY(files.contentPlace(path(u"a link"_s)).ok());
+        QCOMPARE(files.readBeginning(path(u"a link"_s), 9).value(), QByteArray("abc"));
+        QVERIFY(files.openForAppending(path(u"a link"_s)).ok());
+    }
+}
+
+void tst_WindowsFiles::foldersThatAreInACloudToo()
+{
+    QVERIFY(QDir().mkpath(path(u"link/sub/sublink"_s)));
+    writeFile(path(u"link/sub/sublink/file"_s), "abc");
+    const PretendedLinks cloud(CloudTag);
+    {
+        const auto held = folders.hold(m_folder->path());
+        QVERIFY(held.ok());
+        const auto entered = folders.holdIn(held.value(), u"link"_s, Folders::Mounts::Refuse);
+        QVERIFY2(entered.ok(), qPrintable(entered.status().diagnostic()));
+        QStringList names;
+        QVERIFY(folders
+                    .forEachEntry(EntryPath(entered.value(), {}),
+                                  [&names](const QString &name, FileKind kind) {
+                                      names += name;
+                                      return kind == FileKind::Folder;
+                                  })
+                    .ok());
+        QCOMPARE(names, QStringList{u"sub"_s});
+    }
+    QVERIFY(folders.create(path(u"link"_s)).ok());
+    QVERIFY(folders.space(path(u"link"_s)).ok());
+    // Removing a file takes no folder away.
+    QVERIFY(QDir().mkpath(path(u"empty link"_s)));
+    QVERIFY(!files.remove(path(u"empty link"_s)).ok());
+    QVERIFY(QDir(path(u"empty link"_s)).exists());
+    QVERIFY(folders.removeEmpty(path(u"empty link"_s)).ok());
+    QVERIFY(folders.removeTree(path(u"link"_s)).ok());
+    QVERIFY(!QDir(path(u"link"_s)).exists());
+}
+
+void tst_WindowsFiles::everyOtherTagIsRefused_data()
+{
+    QTest::addColumn<quint32>("tag");
+    QTest::addColumn<quint32>("ofFolder");
+    QTest::newRow("mount point") << quint32(IO_REPARSE_TAG_MOUNT_POINT) << quint32(PathNotFound);
+    QTest::newRow("symbolic link") << quint32(IO_REPARSE_TAG_SYMLINK) << quint32(PathNotFound);
+    QTest::newRow("deduplicated") << quint32(IO_REPARSE_TAG_DEDUP) << quint32(CannotAccessFile);
+    QTest::newRow("projected") << quint32(0x9000001C) << quint32(CannotAccessFile);
+    QTest::newRow("compressed by the system") << quint32(0x80000017) << quint32(CannotAccessFile);
+    QTest::newRow("no folder bit") << quint32(0x8000001A) << quint32(CannotAccessFile);
+    QTest::newRow("another bit") << quint32(0x9001001A) << quint32(CannotAccessFile);
+    QTest::newRow("a link") << quint32(0xB000001A) << quint32(PathNotFound);
+    QTest::newRow("none") << quint32(0) << quint32(CannotAccessFile);
+}
+
+void tst_WindowsFiles::everyOtherTagIsRefused()
+{
+    QFETCH(quint32, tag);
+    QFETCH(quint32, ofFolder);
+    writeFile(path(u"a link"_s), "abc");
+    writeFile(path(u"b link/file"_s), "abc");
+    const PretendedLinks links(tag);
+    for (const OpenMode mode : EveryMode)
+        QCOMPARE(files.open(path(u"a link"_s), mode).code(), quint32(CannotAccessFile));
+    QVERIFY(!files.readBeginning(path(u"a link"_s), 3).ok());
+    const auto held = folders.hold(m_folder->path());
+    QVERIFY(held.ok());
+    QCOMPARE(folders.holdIn(held.value(), u"b link"_s, Folders::Mounts::Refuse).code(), ofFolder);
+    const auto visit = [](const QString &, FileKind) {
+        QTest::qFail("nothing was to be seen", __FILE__, __LINE__);
+        return true;
+    };
+    QCOMPARE(folders.forEachEntry(path(u"b link"_s), visit).code, ofFolder);
+    QCOMPARE(contentOf(path(u"a link"_s)), QByteArray("abc"));
+}
+
+void tst_WindowsFiles::whatIsOnlyInACloudIsLeftThere_data()
+{
+    QTest::addColumn<quint32>("tag");
+    QTest::addColumn<quint32>("bits");
+    QTest::addColumn<bool>("isRefused");
+    const auto row = [](const char *name, DWORD tag, DWORD bits, bool isRefused) {
+        QTest::newRow(name) << quint32(tag) << quint32(bits) << isRefused;
+    };
+    constexpr DWORD Marked = FILE_ATTRIBUTE_REPARSE_POINT;
+    row("recalled when read", CloudTag, Marked | RecallOnDataAccess, true);
+    row("recalled when opened", CloudTag, Marked | RecallOnOpen, true);
+    row("offline", CloudTag, Marked | FILE_ATTRIBUTE_OFFLINE, true);
+    row("all of it", CloudTag, Marked | RecallOnDataAccess | FILE_ATTRIBUTE_OFFLINE, true);
+    row("the mark is hidden", 0, RecallOnDataAccess, true);
+    // Attributes that mean nothing without the mark.
+    row("offline as a user says", 0, FILE_ATTRIBUTE_OFFLINE, false);
+    row("with extended attributes", 0, RecallOnOpen, false);
+}
+
+void tst_WindowsFiles::whatIsOnlyInACloudIsLeftThere()
+{
+    QFETCH(quint32, tag);
+    QFETCH(quint32, bits);
+    QFETCH(bool, isRefused);
+    const quint32 expected = isRefused ? FileOffline : NoError;
+    writeFile(path(u"a link"_s), "abc");
+    writeFile(path(u"b link/file"_s), "abc");
+    PretendedLinks cloud(tag, bits);
+    for (const OpenMode mode : {OpenMode::Verify, OpenMode::Overwrite, OpenMode::Truncate}) {
+        cloud.faults().forget();
+        QCOMPARE(files.open(path(u"a link"_s), mode).code(), expected);
+        QVERIFY(!isRefused || cloud.faults().openings().isEmpty());
+    }
+    QCOMPARE(files.contentPlace(path(u"a link"_s)).code(), expected);
+    QCOMPARE(files.readBeginning(path(u"a link"_s), 3).code(), expected);
+    const int listings = cloud.faults().seen(Win32Faults::FindNextFile_);
+    QStringList seen;
+    const Status listed = folders.forEachEntry(path(u"b link"_s), [&seen](const QString &name, FileKind) {
+        seen += name;
+        return true;
+    });
+    QCOMPARE(listed.code, expected);
+    QCOMPARE(seen, isRefused ? QStringList() : QStringList{u"file"_s});
+    QVERIFY(!isRefused || cloud.faults().seen(Win32Faults::FindNextFile_) == listings);
+    const auto held = folders.hold(m_folder->path());
+    QVERIFY(held.ok());
+    QCOMPARE(folders.holdIn(held.value(), u"b link"_s, Folders::Mounts::Refuse).code(), expected);
+    QCOMPARE(contentOf(path(u"a link"_s)), QByteArray("abc"));
+}
+
+// It was here at the first look.
+void tst_WindowsFiles::whatIsTakenToACloudMeanwhile()
+{
+    writeFile(path(u"a link"_s), "abc");
+    PretendedLinks cloud(CloudTag, FILE_ATTRIBUTE_REPARSE_POINT | RecallOnDataAccess);
+    cloud.faults().target().getFileAttributes = &::GetFileAttributesW;
+    for (const OpenMode mode : EveryMode) {
+        QCOMPARE(files.open(path(u"a link"_s), mode).code(), quint32(FileOffline));
+        QVERIFY(cloud.faults().openings().constLast().flags & FILE_FLAG_OPEN_NO_RECALL);
+    }
+    QCOMPARE(cloud.faults().seen(Win32Faults::ReadFile_), 0);
+    QCOMPARE(cloud.faults().openHandles(), 0);
+    QCOMPARE(contentOf(path(u"a link"_s)), QByteArray("abc"));
+}
+
+void tst_WindowsFiles::pathsOfStreams()
+{
+    const auto host = [](const wchar_t *path) { return QString::fromStdWString(withoutStream(path)); };
+    QCOMPARE(host(LR"(\\?\C:\a\b)"), uR"(\\?\C:\a\b)"_s);
+    QCOMPARE(host(LR"(\\?\C:\a\b:s:$DATA)"), uR"(\\?\C:\a\b)"_s);
+    QCOMPARE(host(LR"(\\?\C:\)"), uR"(\\?\C:\)"_s);
+    QCOMPARE(host(LR"(\\?\UNC\server\share\b:s)"), uR"(\\?\UNC\server\share\b)"_s);
 }
 
 void tst_WindowsFiles::linksAreNoFolders()
