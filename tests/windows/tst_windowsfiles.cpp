@@ -3,6 +3,7 @@
 #include "support/testfiles.h"
 #include "windows/win32faults.h"
 
+#include "platform/anchoredfolder.h"
 #include "platform/windows/longpath.h"
 #include "platform/windows/windowsfiles.h"
 #include "platform/windows/windowsfolders.h"
@@ -350,6 +351,8 @@ private slots:
     void whatIsOnlyInACloudIsLeftThere_data();
     void whatIsOnlyInACloudIsLeftThere();
     void whatIsTakenToACloudMeanwhile();
+    void newFilesAreStoredAsTheyAreWritten_data();
+    void newFilesAreStoredAsTheyAreWritten();
     void pathsOfStreams();
     void openOfALinkIsRefused();
     void openOfALinkThatIsSwappedIn();
@@ -957,6 +960,58 @@ void tst_WindowsFiles::whatIsTakenToACloudMeanwhile()
     QCOMPARE(cloud.faults().seen(Win32Faults::ReadFile_), 0);
     QCOMPARE(cloud.faults().openHandles(), 0);
     QCOMPARE(contentOf(path(u"a link"_s)), QByteArray("abc"));
+}
+
+void tst_WindowsFiles::newFilesAreStoredAsTheyAreWritten_data()
+{
+    QTest::addColumn<quint32>("error");
+    QTest::addColumn<bool>("staysCompressed");
+    QTest::addColumn<quint32>("expected");
+    QTest::newRow("done") << quint32(ERROR_SUCCESS) << false << quint32(NoError);
+    QTest::newRow("no compression there") << quint32(ERROR_INVALID_FUNCTION) << false << quint32(NoError);
+    QTest::newRow("not supported there") << quint32(ERROR_NOT_SUPPORTED) << false << quint32(NoError);
+    QTest::newRow("refused") << quint32(ERROR_ACCESS_DENIED) << false << quint32(AccessDenied);
+    QTest::newRow("to no effect") << quint32(ERROR_SUCCESS) << true << quint32(NotSupported);
+    QTest::newRow("not supported, yet compressed")
+        << quint32(ERROR_NOT_SUPPORTED) << true << quint32(NotSupported);
+}
+
+// A fill file of zeros that is stored compressed covers nothing.
+void tst_WindowsFiles::newFilesAreStoredAsTheyAreWritten()
+{
+    QFETCH(quint32, error);
+    QFETCH(bool, staysCompressed);
+    QFETCH(quint32, expected);
+    static quint32 s_error;
+    static bool s_compressed;
+    static QList<int> s_formats;
+    s_error = error;
+    s_compressed = staysCompressed;
+    s_formats.clear();
+    Win32Faults faults;
+    faults.target().deviceIoControl = [](HANDLE, DWORD code, LPVOID input, DWORD size, LPVOID, DWORD, LPDWORD,
+                                         LPOVERLAPPED) -> BOOL {
+        if (code == FSCTL_SET_COMPRESSION && size == sizeof(USHORT))
+            s_formats.append(*static_cast<USHORT *>(input));
+        ::SetLastError(s_error);
+        return s_error == ERROR_SUCCESS;
+    };
+    faults.target().getFileInformation = [](HANDLE handle, LPBY_HANDLE_FILE_INFORMATION file) -> BOOL {
+        const BOOL found = ::GetFileInformationByHandle(handle, file);
+        if (s_compressed && !(file->dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY))
+            file->dwFileAttributes |= FILE_ATTRIBUTE_COMPRESSED;
+        return found;
+    };
+    {
+        const auto folder = folders.anchor(m_folder->path());
+        QVERIFY(folder.ok());
+        faults.forget();
+        QCOMPARE(folder.value()->createFile(u"fill"_s).code(), expected);
+        // The system takes the order from a handle for both only.
+        QCOMPARE(faults.openings().constLast().access, DWORD(GENERIC_READ | GENERIC_WRITE));
+    }
+    QCOMPARE(s_formats, QList<int>{COMPRESSION_FORMAT_NONE});
+    QCOMPARE(faults.openHandles(), 0);
 }
 
 void tst_WindowsFiles::pathsOfStreams()
