@@ -2,6 +2,7 @@
 
 #include "engine/filetrace.h"
 #include "engine/jobfiles.h"
+#include "engine/retries.h"
 #include "engine/watchedfile.h"
 #include "model/displaytext.h"
 #include "platform/alignedbuffer.h"
@@ -12,6 +13,7 @@
 #include <QDebug>
 
 #include <algorithm>
+#include <chrono>
 #include <cstddef>
 #include <functional>
 #include <iterator>
@@ -243,7 +245,13 @@ FileOverwriting::Step FileOverwriting::overwriteContent(const Content &content, 
     }
     traceFile(path, files().clearReadOnly(content.file));
     {
-        const auto opened = files().openIn(groups ? groups->of(entry) : nullptr, entry, OpenMode::Overwrite);
+        const auto open = [&] {
+            return files().openIn(groups ? groups->of(entry) : nullptr, entry, OpenMode::Overwrite);
+        };
+        const auto opened =
+            openWithRetries(open, [this](std::chrono::milliseconds time) { return m_work.wait(time); });
+        if (!opened && m_work.isStopping())
+            return Step::Failed;
         if (!opened && isStream) {
             traceFile(path, opened.status());
             if (content.isStreamToBeLocated)
