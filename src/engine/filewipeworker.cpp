@@ -69,6 +69,7 @@ bool FileWipeWorker::shred()
         return false;
     }
     measureFrom(0);
+    m_mayRepeat = false;
     if (isStopRequested())
         return concludeJob(false);
     announceFiles();
@@ -79,6 +80,7 @@ bool FileWipeWorker::shred()
     log(tr("正在执行安全删除及元数据清理..."));
     bool success = m_removal.deleteFrom(0);
     success = eraseLate() && success;
+    success = success && areRepetitionsGone();
     m_removal.removeRest(m_overwrittenCount);
     m_removal.removeFolders();
     success = settleRemovals() && success;
@@ -131,6 +133,7 @@ FileCollector::Observer FileWipeWorker::observer()
 
 FileList FileWipeWorker::collectFiles(const QStringList &targets)
 {
+    m_mayRepeat = targets.size() > 1;
     return FileCollector(m_files.tree(), observer()).collect(targets, task().targetIdentities());
 }
 
@@ -158,6 +161,11 @@ bool FileWipeWorker::measureFile(std::size_t file)
     m_files.watched(file).find(info.value());
     if (info.value().kind != FileKind::Regular)
         return true;
+    // What is found later was renamed meanwhile.
+    if (m_mayRepeat && m_repeated.isRepeated(m_files.list().files[file], info.value())) {
+        m_repetitions.push_back(m_files.list().files[file]);
+        return false;
+    }
     m_singlePassTotal += info.value().size;
     if (info.value().isInCloud)
         ++m_inCloud;
@@ -190,6 +198,7 @@ std::size_t FileWipeWorker::addLate()
         return first;
     std::vector<FileEntry> known = list.files;
     known.insert(known.end(), m_files.left().begin(), m_files.left().end());
+    known.insert(known.end(), m_repetitions.begin(), m_repetitions.end());
     FileList late =
         FileCollector(m_files.tree(), observer()).collectNew(list.folders, FileIndex(m_files.tree(), known));
     list.unreadable += late.unreadable;
@@ -323,6 +332,23 @@ bool FileWipeWorker::eraseLate()
         success = m_removal.deleteFrom(first);
     }
     return success;
+}
+
+// Not every file system's numbers tell all of its files apart.
+bool FileWipeWorker::areRepetitionsGone()
+{
+    const int before = m_standingRepetitions;
+    for (const FileEntry &file : m_repetitions) {
+        const auto place = m_files.tree().entry(file.folder, file.name);
+        const auto found = place ? platform::Platform::current().files().info(place.value()) : place.status();
+        if (isAbsent(found.status()))
+            continue;
+        const QString path = m_files.tree().path(file.folder, file.name);
+        ++m_standingRepetitions;
+        log(tr("删除失败: %1").arg(displayText(path)), BaseWipeWorker::Warning);
+        task().noteShortfall({ShortfallKind::EntryNotRemoved, path});
+    }
+    return m_standingRepetitions == before || isStopRequested();
 }
 
 // A removal that is not on the medium is none. What was removed last may still be in the cache.

@@ -6,9 +6,11 @@
 #include "engine/fileremoval.h"
 #include "engine/filework.h"
 #include "engine/jobfiles.h"
+#include "engine/repeatedfiles.h"
 
 #include <chrono>
 #include <cstddef>
+#include <vector>
 
 // Shreds the files and folders of a task: every pass overwrites all files in place on a pool of threads, then
 // each file is cut, renamed and deleted, then the folders are removed. A pass in which one file failed is the
@@ -50,9 +52,14 @@ private:
     void logContentElsewhere();
     void noteCloudCopies();
     bool eraseLate();
+    // Whether the files went that were listed under another spelling too.
+    bool areRepetitionsGone();
     bool settleRemovals();
 
-    int failedCount() const { return m_overwriting.failedCount() + m_removal.failedCount(); }
+    int failedCount() const
+    {
+        return m_overwriting.failedCount() + m_removal.failedCount() + m_standingRepetitions;
+    }
 
     void note(const QString &message, NoteLevel level = RunningJob::Information) override;
     void reportError(const QString &message) override { emit errorOccurred(message); }
@@ -77,6 +84,10 @@ private:
     bool m_isTotalCertain = true; // the size of every file that stands was told
     bool m_isAllEmpty = true;     // no file without content has streams
     qint64 m_inCloud = 0;         // files of which a cloud service keeps copies
+    RepeatedFiles m_repeated{m_files.tree()};
+    bool m_mayRepeat = false; // as long as the targets are looked at, when there are several
+    std::vector<FileEntry> m_repetitions;
+    int m_standingRepetitions = 0;
     std::size_t m_overwrittenCount = 0; // files from the beginning that received every pass
     FileOverwriting m_overwriting;      // destroyed first, with its threads
 };
