@@ -2,6 +2,7 @@
 
 #include "engine/filetrace.h"
 #include "engine/jobfiles.h"
+#include "engine/protectedfolders.h"
 #include "engine/retries.h"
 #include "engine/watchedfile.h"
 #include "model/displaytext.h"
@@ -260,6 +261,7 @@ FileOverwriting::Step FileOverwriting::overwriteContent(const Content &content, 
         }
         if (!opened) {
             failToOpen(path, opened.status());
+            noteProtection(opened.code());
             return Step::Failed;
         }
         platform::FileHandle &file = *opened.value();
@@ -293,6 +295,14 @@ bool FileOverwriting::failToOpen(const QString &path, const Status &status)
                             ? tr("文件内容不在本机，仅保存在云端，无法擦除: %1")
                             : tr("无法打开文件(WinAPI): %1"),
                         path, status);
+}
+
+// Once, whatever number of files it is about.
+void FileOverwriting::noteProtection(quint32 code)
+{
+    const QString hint = ProtectedFolders::hint(code);
+    if (!hint.isEmpty() && !m_isProtectionNoted.exchange(true))
+        m_work.note(hint, RunningJob::Warning);
 }
 
 bool FileOverwriting::isToBeReadBack(const PassPattern &pattern) const

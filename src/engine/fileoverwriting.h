@@ -101,6 +101,7 @@ private:
     bool overwriteStreams(std::size_t index, const platform::EntryPath &entry, const PassPattern &pattern,
                           quint32 seed);
     Step overwriteContent(const Content &content, const PassPattern &pattern, DurabilityGroups *groups);
+    void noteProtection(quint32 code);
     bool failToOpen(const QString &path, const platform::Status &status);
     bool writeChunks(platform::FileHandle &file, const Content &content, const PassPattern &pattern,
                      platform::AlignedBuffer &buffer);
@@ -118,6 +119,7 @@ private:
     JobFiles &m_files;
     const Settings m_settings;
     std::atomic<int> m_elsewhereCount{0};
+    std::atomic<bool> m_isProtectionNoted{false};
     bool m_isLate = false;
     int m_failedCount = 0;
     FileProgress m_progress;

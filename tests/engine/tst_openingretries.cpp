@@ -1,3 +1,4 @@
+#include "engine/protectedfolders.h"
 #include "filejob.h"
 #include "support/suite.h"
 
@@ -48,6 +49,8 @@ private slots:
     void aFileThatStaysInUse();
     void otherErrorsAreNotTriedAgain();
     void aStopEndsTheAttempts();
+    void protectionIsNamedOnce();
+    void otherErrorsAreNoProtection();
 };
 
 void tst_OpeningRetries::aFileThatIsLetGo()
@@ -90,6 +93,34 @@ void tst_OpeningRetries::aStopEndsTheAttempts()
     QCOMPARE(held.attempts(), 1);
     QVERIFY(held.job.lines().contains(said::cancelled));
     QVERIFY(!held.job.lines().contains(said::cannotOpen(held.file)));
+}
+
+// Where there is such a thing.
+void tst_OpeningRetries::protectionIsNamedOnce()
+{
+#ifdef Q_OS_WIN
+    const QStringList expected{
+        u"1 提示: Windows 安全中心的“受控文件夹访问”可能阻止本程序写入，请在其中允许本程序后重试"_s};
+#else
+    const QStringList expected;
+#endif
+    for (const quint32 code : {quint32(platform::AccessDenied), quint32(platform::FileNotFound)}) {
+        HeldFile held;
+        held.refusals = 2;
+        held.code = code;
+        QVERIFY(!held.job.run({held.file, held.job.makeFile(u"b"_s, 10)}));
+        QCOMPARE(held.job.lines().filter(u"受控文件夹"_s), expected);
+    }
+}
+
+void tst_OpeningRetries::otherErrorsAreNoProtection()
+{
+    HeldFile held;
+    held.refusals = 1;
+    held.code = platform::WriteProtect;
+    QVERIFY(!held.job.run({held.file}));
+    QVERIFY(held.job.lines().filter(u"受控文件夹"_s).isEmpty());
+    QVERIFY(ProtectedFolders::hint(platform::NoError).isEmpty());
 }
 
 QUORVEX_SUITE(tst_OpeningRetries, QCoreApplication)
