@@ -149,7 +149,8 @@ void FileCollector::addFile(Folder folder, const QString &name)
 {
     if (m_mayRepeat) {
         const qsizetype before = m_paths.size();
-        m_paths.insert(m_tree.path(folder, name));
+        // However the folder was spelled.
+        m_paths.insert(m_tree.path(m_tree.firstAs(folder), name));
         if (m_paths.size() == before)
             return;
     }

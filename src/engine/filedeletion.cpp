@@ -2,7 +2,7 @@
 
 #include "engine/durabilitygroups.h"
 #include "engine/filetrace.h"
-#include "engine/removalretries.h"
+#include "engine/retries.h"
 #include "engine/watchedfile.h"
 #include "platform/files.h"
 #include "platform/platform.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/removalretries.h"
+#include "engine/retries.h"
 #include "platform/entrypath.h"
 
 #include <optional>

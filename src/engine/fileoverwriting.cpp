@@ -2,14 +2,19 @@
 
 #include "engine/filetrace.h"
 #include "engine/jobfiles.h"
+#include "engine/protectedfolders.h"
+#include "engine/retries.h"
+#include "engine/watchedfile.h"
 #include "model/displaytext.h"
 #include "platform/alignedbuffer.h"
+#include "platform/contentplace.h"
 #include "platform/files.h"
 #include "platform/platform.h"
 
 #include <QDebug>
 
 #include <algorithm>
+#include <chrono>
 #include <cstddef>
 #include <functional>
 #include <iterator>
@@ -17,6 +22,8 @@
 #include <utility>
 #include <vector>
 
+using platform::ContentPlace;
+using platform::Elsewhere;
 using platform::EntryPath;
 using platform::FileKind;
 using platform::OpenMode;
@@ -166,7 +173,7 @@ bool FileOverwriting::overwriteExisting(std::size_t index, const PassPattern &pa
     const auto place = m_files.entry(index);
     const auto info = place ? files().info(place.value()) : place.status();
     if (!info && !isAbsent(info.status()))
-        return m_files.fail(tr("无法打开文件(WinAPI): %1"), m_files.pathOf(index), info.status());
+        return failToOpen(m_files.pathOf(index), info.status());
     if (!info) {
         // Not a failure, but nobody knows where its content is now.
         m_files.watched(index).vanish();
@@ -186,42 +193,116 @@ bool FileOverwriting::overwriteExisting(std::size_t index, const PassPattern &pa
 bool FileOverwriting::overwriteFile(std::size_t index, const EntryPath &entry, qint64 size,
                                     const PassPattern &pattern, quint32 seed, DurabilityGroups *groups)
 {
-    const QString path = entry.path();
     if (const qint64 lost = m_files.watched(index).beginPass(size); lost > 0)
-        m_work.noteShortfall({ShortfallKind::EntryVanished, path, lost});
-    if (size < 1)
+        m_work.noteShortfall({ShortfallKind::EntryVanished, entry.path(), lost});
+    Step step = Step::Done;
+    if (size >= 1)
+        step = overwriteContent({.index = index, .file = entry, .size = size, .seed = seed}, pattern, groups);
+    return step == Step::Done ? overwriteStreams(index, entry, pattern, seed) : step != Step::Failed;
+}
+
+// What a stream holds may be as secret as the file. One that cannot be opened goes with the file all the
+// same, and is told.
+bool FileOverwriting::overwriteStreams(std::size_t index, const EntryPath &entry, const PassPattern &pattern,
+                                       quint32 seed)
+{
+    const auto streams = files().namedStreams(entry);
+    if (isAbsent(streams.status()) || (streams && streams.value().isEmpty()))
         return true;
+    const bool isToBeLocated = m_files.watched(index).areStreamsToBeLocated();
+    if (!streams && isToBeLocated)
+        notePlace(index, entry.path(), streams.status());
+    bool passed = true;
+    for (const platform::NamedStream &stream : streams.valueOr({})) {
+        if (stream.size < 1)
+            continue;
+        const Step step = overwriteContent({.index = index,
+                                            .file = entry,
+                                            .size = stream.size,
+                                            .seed = ++seed,
+                                            .stream = stream.name,
+                                            .isStreamToBeLocated = isToBeLocated},
+                                           pattern, nullptr);
+        if (step == Step::Replaced)
+            return passed;
+        passed = passed && step == Step::Done;
+    }
+    return passed;
+}
+
+FileOverwriting::Step FileOverwriting::overwriteContent(const Content &content, const PassPattern &pattern,
+                                                        DurabilityGroups *groups)
+{
+    const EntryPath entry = content.entry();
+    const QString path = entry.path();
+    const bool isStream = !content.stream.isEmpty();
+    WatchedFile &watched = m_files.watched(content.index);
     if (m_work.isStopping())
-        return false;
-    platform::AlignedBuffer buffer(bufferSizeFor(size, m_settings.bufferSizeMB));
+        return Step::Failed;
+    platform::AlignedBuffer buffer(bufferSizeFor(content.size, m_settings.bufferSizeMB));
     if (buffer.isNull()) {
         logOutOfMemory();
-        return false;
+        return Step::Failed;
     }
-    traceFile(path, files().clearReadOnly(entry));
+    traceFile(path, files().clearReadOnly(content.file));
     {
-        const auto opened = files().openIn(groups ? groups->of(entry) : nullptr, entry, OpenMode::Overwrite);
-        if (!opened)
-            return m_files.fail(tr("无法打开文件(WinAPI): %1"), path, opened.status());
+        const auto open = [&] {
+            return files().openIn(groups ? groups->of(entry) : nullptr, entry, OpenMode::Overwrite);
+        };
+        const auto opened =
+            openWithRetries(open, [this](std::chrono::milliseconds time) { return m_work.wait(time); });
+        if (!opened && m_work.isStopping())
+            return Step::Failed;
+        if (!opened && isStream) {
+            traceFile(path, opened.status());
+            if (content.isStreamToBeLocated)
+                notePlace(content.index, path, ContentPlace{Elsewhere::NamedStreams, content.size});
+            return Step::Done;
+        }
+        if (!opened) {
+            failToOpen(path, opened.status());
+            noteProtection(opened.code());
+            return Step::Failed;
+        }
         platform::FileHandle &file = *opened.value();
-        if (m_files.watched(index).isReplacedBy(file)) {
-            m_files.noteReplaced(path);
-            return true;
+        if (watched.isReplacedBy(file)) {
+            m_files.noteReplaced(content.file.path());
+            return Step::Replaced;
         }
         // The first write may already change the answer.
-        if (m_files.watched(index).isToBeLocated())
-            notePlace(path, file.contentPlace());
-        if (!writeChunks(file, path, size, pattern, seed, buffer))
-            return false;
+        if (isStream ? content.isStreamToBeLocated : watched.isToBeLocated())
+            notePlace(content.index, path, file.contentPlace());
+        if (!writeChunks(file, content, pattern, buffer))
+            return Step::Failed;
         const Status flushed = file.flush();
-        if (!flushed)
-            return m_files.fail(tr("FlushFileBuffers 失败: %1"), path, flushed);
+        if (!flushed) {
+            m_files.fail(tr("FlushFileBuffers 失败: %1"), path, flushed);
+            return Step::Failed;
+        }
     }
     if (m_work.isStopping())
-        return false;
-    if (groups && groups->add(entry, {index, size}))
-        return true;
-    return !isToBeReadBack(pattern) || verifyFile(index, entry, size, pattern);
+        return Step::Failed;
+    if (groups && groups->add(entry, {content.index, content.size}))
+        return Step::Done;
+    const bool isGood = !isToBeReadBack(pattern) || verifyFile(content.index, entry, content.size, pattern);
+    return isGood ? Step::Done : Step::Failed;
+}
+
+// A content that is only in a cloud is none that could be erased here.
+bool FileOverwriting::failToOpen(const QString &path, const Status &status)
+{
+    return m_files.fail(status.code == platform::FileOffline
+                            ? tr("文件内容不在本机，仅保存在云端，无法擦除: %1")
+                            : tr("无法打开文件(WinAPI): %1"),
+                        path, status);
+}
+
+// Once, whatever number of files it is about.
+void FileOverwriting::noteProtection(quint32 code)
+{
+    const QString hint = ProtectedFolders::hint(code);
+    if (!hint.isEmpty() && !m_isProtectionNoted.exchange(true))
+        m_work.note(hint, RunningJob::Warning);
 }
 
 bool FileOverwriting::isToBeReadBack(const PassPattern &pattern) const
@@ -245,26 +326,26 @@ bool FileOverwriting::readBackJob(const DurabilityGroups::Member &member, const 
 }
 
 // True also when a stop ended the loop between two chunks.
-bool FileOverwriting::writeChunks(platform::FileHandle &file, const QString &path, qint64 size,
-                                  const PassPattern &pattern, quint32 seed, platform::AlignedBuffer &buffer)
+bool FileOverwriting::writeChunks(platform::FileHandle &file, const Content &content,
+                                  const PassPattern &pattern, platform::AlignedBuffer &buffer)
 {
-    PatternGenerator random(seed);
+    PatternGenerator random(content.seed);
     qint64 offset = 0;
-    while (offset < size && !m_work.isStopping()) {
+    while (offset < content.size && !m_work.isStopping()) {
         if (!m_work.mayGoOn())
             return false;
-        const qint64 chunk = std::min(buffer.size(), size - offset);
+        const qint64 chunk = std::min(buffer.size(), content.size - offset);
         if (offset == 0 || !isConstant(pattern))
             m_work.fillFrom(random, buffer.data(), chunk, pattern);
         const Status found = file.seek(offset);
         if (!found)
-            return m_files.fail(tr("SetFilePointerEx 失败: %1"), path, found);
+            return m_files.fail(tr("SetFilePointerEx 失败: %1"), content.entry().path(), found);
         const Status written = writeAll(file, buffer.data(), chunk);
         if (!written)
-            return m_files.fail(tr("WriteFile 失败: %1"), path, written);
+            return m_files.fail(tr("WriteFile 失败: %1"), content.entry().path(), written);
         m_work.noteWritten(chunk);
         offset += chunk;
-        if (!m_isLate)
+        if (!m_isLate && content.stream.isEmpty())
             m_progress.add(chunk);
     }
     return true;
@@ -295,12 +376,14 @@ bool FileOverwriting::verifyFile(std::size_t index, const EntryPath &entry, qint
 }
 
 // What could not be found out counts as elsewhere.
-void FileOverwriting::notePlace(const QString &path, const platform::Result<platform::ContentPlace> &place)
+void FileOverwriting::notePlace(std::size_t index, const QString &path,
+                                const platform::Result<ContentPlace> &place)
 {
     traceFile(path, place.status());
     if (place && !place.value().elsewhere)
         return;
-    ++m_elsewhereCount;
+    if (m_files.watched(index).isToBeCountedElsewhere())
+        ++m_elsewhereCount;
     m_work.noteShortfall({ShortfallKind::ContentElsewhere, path, place ? place.value().bytes : -1});
 }
 

@@ -60,13 +60,29 @@ public:
     // The members of a group whose end failed: nobody knows which of them are on the medium.
     void tellLost(const std::vector<DurabilityGroups::Member> &members, const platform::Status &status);
 
-    // Any thread. A place that could not be found out counts as elsewhere.
-    void notePlace(const QString &path, const platform::Result<platform::ContentPlace> &place);
     // Files whose content may lie elsewhere too.
     int elsewhereCount() const { return m_elsewhereCount; }
     int samplesRead() const { return m_sampling.samplesRead(); }
 
 private:
+    // What a file holds, or one of its streams.
+    struct Content
+    {
+        std::size_t index = 0;
+        platform::EntryPath file;
+        qint64 size = 0;
+        quint32 seed = 0;
+        QString stream{}; // of which nobody hears in the progress
+        bool isStreamToBeLocated = false;
+
+        platform::EntryPath entry() const { return file.stream(stream); }
+    };
+    enum class Step {
+        Done,
+        Failed,
+        Replaced, // another file stands there
+    };
+
     // Waits for the device; the files that are on the medium now.
     std::vector<DurabilityGroups::Member> settle(DurabilityGroups &groups);
     bool readBack(const std::vector<DurabilityGroups::Member> &members, const PassPattern &pattern);
@@ -82,8 +98,16 @@ private:
                            DurabilityGroups *groups);
     bool overwriteFile(std::size_t index, const platform::EntryPath &entry, qint64 size,
                        const PassPattern &pattern, quint32 seed, DurabilityGroups *groups);
-    bool writeChunks(platform::FileHandle &file, const QString &path, qint64 size, const PassPattern &pattern,
-                     quint32 seed, platform::AlignedBuffer &buffer);
+    bool overwriteStreams(std::size_t index, const platform::EntryPath &entry, const PassPattern &pattern,
+                          quint32 seed);
+    Step overwriteContent(const Content &content, const PassPattern &pattern, DurabilityGroups *groups);
+    void noteProtection(quint32 code);
+    bool failToOpen(const QString &path, const platform::Status &status);
+    bool writeChunks(platform::FileHandle &file, const Content &content, const PassPattern &pattern,
+                     platform::AlignedBuffer &buffer);
+    // A place that could not be found out counts as elsewhere.
+    void notePlace(std::size_t index, const QString &path,
+                   const platform::Result<platform::ContentPlace> &place);
     bool isToBeReadBack(const PassPattern &pattern) const;
     bool readBackJob(const DurabilityGroups::Member &member, const PassPattern &pattern) noexcept;
     bool verifyFile(std::size_t index, const platform::EntryPath &entry, qint64 size,
@@ -95,6 +119,7 @@ private:
     JobFiles &m_files;
     const Settings m_settings;
     std::atomic<int> m_elsewhereCount{0};
+    std::atomic<bool> m_isProtectionNoted{false};
     bool m_isLate = false;
     int m_failedCount = 0;
     FileProgress m_progress;

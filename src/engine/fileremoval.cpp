@@ -146,6 +146,9 @@ void FileRemoval::removeFolders()
     const auto replaced = [this](const QString &folder) {
         m_job.noteShortfall({ShortfallKind::EntryReplaced, folder});
     };
-    FolderRemoval(m_files.tree(), {.replaced = replaced, .standing = standing})
+    const auto streams = [this](const QString &folder, qint64 count, qint64 bytes) {
+        m_job.noteShortfall({ShortfallKind::ContentElsewhere, folder, bytes, count});
+    };
+    FolderRemoval(m_files.tree(), {.replaced = replaced, .standing = standing, .streams = streams})
         .remove(m_files.list().folders);
 }

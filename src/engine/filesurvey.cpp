@@ -4,6 +4,7 @@
 #include "engine/filecollector.h"
 #include "engine/filelist.h"
 #include "engine/heldtree.h"
+#include "engine/repeatedfiles.h"
 #include "model/displaytext.h"
 #include "model/formatsize.h"
 #include "model/wipetask.h"
@@ -71,6 +72,8 @@ private:
                 m_survey.mounted.append(m_tree.path(file.folder, file.name));
                 continue;
             }
+            if (m_task.files().size() > 1 && m_repeated.isRepeated(file, info.value()))
+                continue;
             count(file, info.value());
             if (isAsked && info.value().kind == FileKind::Regular)
                 isAsked = askForContent(target, entry.value());
@@ -99,6 +102,8 @@ private:
         if (const auto note =
                 m_snapshots.noteFor(info.id, [&] { return m_tree.path(file.folder, file.name); }))
             m_survey.snapshots.append(*note);
+        if (info.isInCloud)
+            ++m_survey.filesInCloud;
         if (info.linkCount > 1)
             ++m_survey.filesWithOtherNames;
         if (info.allocatedBytes < 0 || info.allocatedBytes >= info.size)
@@ -113,6 +118,7 @@ private:
     const std::function<bool()> &m_shallStop;
     int m_questionsLeft;
     HeldTree m_tree;
+    RepeatedFiles m_repeated{m_tree};
     FileList m_list;
     SnapshotSurvey m_snapshots;
     FileSurvey m_survey;

@@ -29,6 +29,7 @@ public:
     quint64 files = 0; // everything that is no folder
     quint64 bytes = 0;
     quint64 filesWithOtherNames = 0;
+    qint64 filesInCloud = 0;    // of which a cloud service keeps copies
     bool isComplete = true;     // false when something could not be looked at, or the look was ended
     QStringList keptElsewhere;  // targets whose content may outlast being overwritten
     QList<Shortfall> snapshots; // notes on the volumes of the files

@@ -69,6 +69,7 @@ bool FileWipeWorker::shred()
         return false;
     }
     measureFrom(0);
+    m_mayRepeat = false;
     if (isStopRequested())
         return concludeJob(false);
     announceFiles();
@@ -79,6 +80,7 @@ bool FileWipeWorker::shred()
     log(tr("正在执行安全删除及元数据清理..."));
     bool success = m_removal.deleteFrom(0);
     success = eraseLate() && success;
+    success = success && areRepetitionsGone();
     m_removal.removeRest(m_overwrittenCount);
     m_removal.removeFolders();
     success = settleRemovals() && success;
@@ -88,6 +90,7 @@ bool FileWipeWorker::shred()
 bool FileWipeWorker::concludeJob(bool success)
 {
     m_files.noteVanished();
+    noteCloudCopies();
     if (isStopRequested()) {
         log(tr("擦除任务已由用户取消"), BaseWipeWorker::Warning);
         return false;
@@ -107,9 +110,15 @@ FileCollector::Observer FileWipeWorker::observer()
     // could look at makes it fail.
     const auto unreadable = [this](FileCollector::Unreadable what, const QString &path,
                                    const Status &status) {
-        const QString text = what == FileCollector::Unreadable::Folder ? tr("无法读取文件夹: %1，错误码: %2")
-                                                                       : tr("无法访问: %1，错误码: %2");
-        log(text.arg(displayText(path), QString::number(status.code)), BaseWipeWorker::Error);
+        if (status.code == platform::FileOffline) {
+            log(tr("文件夹内容未全部在本机，部分仅保存在云端，无法擦除: %1").arg(displayText(path)),
+                BaseWipeWorker::Error);
+        } else {
+            const QString text = what == FileCollector::Unreadable::Folder
+                                     ? tr("无法读取文件夹: %1，错误码: %2")
+                                     : tr("无法访问: %1，错误码: %2");
+            log(text.arg(displayText(path), QString::number(status.code)), BaseWipeWorker::Error);
+        }
         traceFile(path, status);
     };
     return {.goOn = [this] { return checkPauseStop(); },
@@ -124,6 +133,7 @@ FileCollector::Observer FileWipeWorker::observer()
 
 FileList FileWipeWorker::collectFiles(const QStringList &targets)
 {
+    m_mayRepeat = targets.size() > 1;
     return FileCollector(m_files.tree(), observer()).collect(targets, task().targetIdentities());
 }
 
@@ -151,17 +161,18 @@ bool FileWipeWorker::measureFile(std::size_t file)
     m_files.watched(file).find(info.value());
     if (info.value().kind != FileKind::Regular)
         return true;
+    // What is found later was renamed meanwhile.
+    if (m_mayRepeat && m_repeated.isRepeated(m_files.list().files[file], info.value())) {
+        m_repetitions.push_back(m_files.list().files[file]);
+        return false;
+    }
     m_singlePassTotal += info.value().size;
     if (const auto note = m_snapshots.noteFor(info.value().id, [&] { return m_files.pathOf(file); }))
         task().noteShortfall(*note);
-    // No pass opens it, and yet there may be streams beside the one that is empty.
-    if (info.value().size == 0) {
-        const auto place = m_files.entry(file);
-        const auto content =
-            place ? platform::Platform::current().files().contentPlace(place.value()) : place.status();
-        if (!isAbsent(content.status()))
-            m_overwriting.notePlace(m_files.pathOf(file), content);
-    }
+    if (info.value().isInCloud)
+        ++m_inCloud;
+    if (info.value().size == 0)
+        m_isAllEmpty = m_isAllEmpty && isWithoutStreams(file);
     if (info.value().linkCount > 1) {
         const qint64 others = info.value().linkCount - 1;
         log(tr("文件还有 %1 个其他硬链接: %2")
@@ -172,6 +183,15 @@ bool FileWipeWorker::measureFile(std::size_t file)
     return true;
 }
 
+// A file that cannot be asked may have some.
+bool FileWipeWorker::isWithoutStreams(std::size_t file)
+{
+    const auto place = m_files.entry(file);
+    const auto streams =
+        place ? platform::Platform::current().files().namedStreams(place.value()) : place.status();
+    return isAbsent(streams.status()) || (streams && streams.value().isEmpty());
+}
+
 std::size_t FileWipeWorker::addLate()
 {
     const std::size_t first = m_files.count();
@@ -180,6 +200,7 @@ std::size_t FileWipeWorker::addLate()
         return first;
     std::vector<FileEntry> known = list.files;
     known.insert(known.end(), m_files.left().begin(), m_files.left().end());
+    known.insert(known.end(), m_repetitions.begin(), m_repetitions.end());
     FileList late =
         FileCollector(m_files.tree(), observer()).collectNew(list.folders, FileIndex(m_files.tree(), known));
     list.unreadable += late.unreadable;
@@ -212,8 +233,9 @@ void FileWipeWorker::announceFiles()
 bool FileWipeWorker::overwriteAll()
 {
     m_bytesBeforePass = 0;
-    // A total of 0 proves that there is nothing to overwrite only when every size was told.
-    if (m_singlePassTotal <= 0 && m_isTotalCertain) {
+    // A total of 0 proves that there is nothing to overwrite only when every size was told, and when there is
+    // nothing beside the content.
+    if (m_singlePassTotal <= 0 && m_isTotalCertain && m_isAllEmpty) {
         log(tr("所有文件为空，跳过数据覆写"));
         return !isStopRequested();
     }
@@ -288,6 +310,15 @@ void FileWipeWorker::logContentElsewhere()
             BaseWipeWorker::Warning);
 }
 
+// Overwriting reaches what is here, and the service takes that for a new version.
+void FileWipeWorker::noteCloudCopies()
+{
+    if (m_inCloud == 0)
+        return;
+    log(tr("%1 个文件由云服务同步，云端可能仍保留其副本和历史版本").arg(m_inCloud), BaseWipeWorker::Warning);
+    task().noteShortfall({ShortfallKind::CloudCopy, {}, -1, m_inCloud});
+}
+
 // What appeared while files were deleted.
 bool FileWipeWorker::eraseLate()
 {
@@ -303,6 +334,23 @@ bool FileWipeWorker::eraseLate()
         success = m_removal.deleteFrom(first);
     }
     return success;
+}
+
+// Not every file system's numbers tell all of its files apart.
+bool FileWipeWorker::areRepetitionsGone()
+{
+    const int before = m_standingRepetitions;
+    for (const FileEntry &file : m_repetitions) {
+        const auto place = m_files.tree().entry(file.folder, file.name);
+        const auto found = place ? platform::Platform::current().files().info(place.value()) : place.status();
+        if (isAbsent(found.status()))
+            continue;
+        const QString path = m_files.tree().path(file.folder, file.name);
+        ++m_standingRepetitions;
+        log(tr("删除失败: %1").arg(displayText(path)), BaseWipeWorker::Warning);
+        task().noteShortfall({ShortfallKind::EntryNotRemoved, path});
+    }
+    return m_standingRepetitions == before || isStopRequested();
 }
 
 // A removal that is not on the medium is none. What was removed last may still be in the cache.

@@ -7,9 +7,11 @@
 #include "engine/fileremoval.h"
 #include "engine/filework.h"
 #include "engine/jobfiles.h"
+#include "engine/repeatedfiles.h"
 
 #include <chrono>
 #include <cstddef>
+#include <vector>
 
 // Shreds the files and folders of a task: every pass overwrites all files in place on a pool of threads, then
 // each file is cut, renamed and deleted, then the folders are removed. A pass in which one file failed is the
@@ -36,6 +38,7 @@ private:
     // Looks at the files from this one on; what is mounted over a name is taken off the list.
     void measureFrom(std::size_t first);
     bool measureFile(std::size_t file);
+    bool isWithoutStreams(std::size_t file);
     void announceFiles();
 
     // Adds what has appeared in the folders of the job since they were listed. The number of the first file.
@@ -48,10 +51,16 @@ private:
     bool overwriteAgain(std::size_t index);
     bool failPass(int pass);
     void logContentElsewhere();
+    void noteCloudCopies();
     bool eraseLate();
+    // Whether the files went that were listed under another spelling too.
+    bool areRepetitionsGone();
     bool settleRemovals();
 
-    int failedCount() const { return m_overwriting.failedCount() + m_removal.failedCount(); }
+    int failedCount() const
+    {
+        return m_overwriting.failedCount() + m_removal.failedCount() + m_standingRepetitions;
+    }
 
     void note(const QString &message, NoteLevel level = RunningJob::Information) override;
     void reportError(const QString &message) override { emit errorOccurred(message); }
@@ -73,8 +82,14 @@ private:
     JobFiles m_files{*this};
     SnapshotSurvey m_snapshots;
     FileRemoval m_removal;
-    qint64 m_singlePassTotal = 0;       // bytes
-    bool m_isTotalCertain = true;       // the size of every file that stands was told
+    qint64 m_singlePassTotal = 0; // bytes
+    bool m_isTotalCertain = true; // the size of every file that stands was told
+    bool m_isAllEmpty = true;     // no file without content has streams
+    qint64 m_inCloud = 0;         // files of which a cloud service keeps copies
+    RepeatedFiles m_repeated{m_files.tree()};
+    bool m_mayRepeat = false; // as long as the targets are looked at, when there are several
+    std::vector<FileEntry> m_repetitions;
+    int m_standingRepetitions = 0;
     std::size_t m_overwrittenCount = 0; // files from the beginning that received every pass
     FileOverwriting m_overwriting;      // destroyed first, with its threads
 };

@@ -8,8 +8,8 @@
 
 #include <cstddef>
 
-// What the parts of a file job need of its worker. Everything but drawSeed(), reportError(), wait() and
-// progress() may be called on the threads of the pool.
+// What the parts of a file job need of its worker. Everything but drawSeed(), reportError() and progress()
+// may be called on the threads of the pool.
 class FileWork : public RunningJob
 {
 public:

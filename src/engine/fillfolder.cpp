@@ -1,7 +1,7 @@
 #include "engine/fillfolder.h"
 
 #include "engine/fillnames.h"
-#include "engine/removalretries.h"
+#include "engine/retries.h"
 #include "engine/volumespace.h"
 #include "platform/entrypath.h"
 

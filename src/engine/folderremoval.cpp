@@ -49,6 +49,22 @@ std::vector<HeldTree::Folder> FolderRemoval::topsAmong(const HeldTree &tree,
     return tops;
 }
 
+// Nothing overwrites them.
+void FolderRemoval::tellStreams(HeldTree::Folder folder, const platform::EntryPath &entry)
+{
+    const auto streams = platform::Platform::current().files().namedStreams(entry);
+    if (!streams) {
+        if (!isAbsent(streams.status()))
+            m_observer.streams(m_tree.path(folder), -1, -1);
+        return;
+    }
+    qint64 bytes = 0;
+    for (const platform::NamedStream &stream : streams.value())
+        bytes += stream.size;
+    if (bytes > 0)
+        m_observer.streams(m_tree.path(folder), streams.value().size(), bytes);
+}
+
 void FolderRemoval::removeFolder(HeldTree::Folder folder)
 {
     platform::Platform &system = platform::Platform::current();
@@ -65,6 +81,7 @@ void FolderRemoval::removeFolder(HeldTree::Folder folder)
         m_observer.replaced(m_tree.path(folder));
         return;
     }
+    tellStreams(folder, entry.value());
     Status removed = system.folders().removeEmpty(entry.value());
     // A folder that may not be changed refuses to go on some systems.
     if (removed.code == platform::AccessDenied && system.files().clearReadOnly(entry.value()))

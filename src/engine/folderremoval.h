@@ -17,6 +17,8 @@ public:
     {
         std::function<void(const QString &path)> replaced; // another stands there
         std::function<void(const QString &path, const platform::Status &status)> standing;
+        // What the folder holds beside its entries, which goes with it; below 0: nobody can tell.
+        std::function<void(const QString &path, qint64 streams, qint64 bytes)> streams;
     };
 
     FolderRemoval(HeldTree &tree, Observer observer);
@@ -30,6 +32,7 @@ public:
 
 private:
     void removeFolder(HeldTree::Folder folder);
+    void tellStreams(HeldTree::Folder folder, const platform::EntryPath &entry);
 
     HeldTree &m_tree;
     Observer m_observer;

@@ -76,6 +76,8 @@ void foreseeFiles(const WipeTask &task, const FileSurvey &survey, OutcomeRecord 
         record.note({ShortfallKind::ContentElsewhere, target});
     for (const Shortfall &note : survey.snapshots)
         record.note(note);
+    if (survey.filesInCloud > 0)
+        record.note({ShortfallKind::CloudCopy, {}, -1, survey.filesInCloud});
     for (const QString &path : survey.mounted)
         record.note({ShortfallKind::EntryNotRemoved, path});
     if (!task.targetsAreNamed())

@@ -4,6 +4,7 @@
 #include "engine/contentsurvey.h"
 #include "engine/freespacefill.h"
 #include "engine/leftovers.h"
+#include "engine/protectedfolders.h"
 #include "engine/residuecleaning.h"
 #include "model/displaytext.h"
 #include "model/formatsize.h"
@@ -252,6 +253,8 @@ bool FreeSpaceWipeWorker::createTemporaryFolder()
     const platform::Status created = m_folder.create(*m_anchor);
     if (!created) {
         diagnose(created);
+        if (const QString hint = ProtectedFolders::hint(created.code); !hint.isEmpty())
+            log(hint, BaseWipeWorker::Warning);
         emit errorOccurred(tr("无法创建临时目录: %1").arg(displayText(m_folder.path())));
         return false;
     }

@@ -46,3 +46,13 @@ bool WatchedFile::isToBeLocated()
 {
     return !std::exchange(m_isLocated, true);
 }
+
+bool WatchedFile::areStreamsToBeLocated()
+{
+    return !std::exchange(m_areStreamsLocated, true);
+}
+
+bool WatchedFile::isToBeCountedElsewhere()
+{
+    return !std::exchange(m_isCountedElsewhere, true);
+}

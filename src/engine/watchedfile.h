@@ -32,6 +32,10 @@ public:
 
     // True once: where the content lies has not been asked yet.
     bool isToBeLocated();
+    // The same of its streams.
+    bool areStreamsToBeLocated();
+    // True once, for a file whose content may lie elsewhere.
+    bool isToBeCountedElsewhere();
 
     // Nothing stood there when it was looked for: no byte of it is known to have received every pass.
     void vanish()
@@ -50,6 +54,8 @@ private:
     qint64 m_overwritten = -1; // bytes that received every pass so far; below 0 before the first
     bool m_hasLastingId = false;
     bool m_isLocated = false;
+    bool m_areStreamsLocated = false;
+    bool m_isCountedElsewhere = false;
     bool m_isVanished = false;
     bool m_isRemoved = false;
 };

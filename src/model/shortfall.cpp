@@ -78,6 +78,9 @@ constexpr std::array kinds{
                                                  "content, in snapshots for instance")},
     KindEntry{ShortfallKind::ShadowCopies, "shadow-copies", false,
               QT_TRANSLATE_NOOP("OutcomeRecord", "shadow copies of the volume may keep earlier content")},
+    KindEntry{
+        ShortfallKind::CloudCopy, "cloud-copy", false,
+        QT_TRANSLATE_NOOP("OutcomeRecord", "a cloud service keeps copies and earlier versions of files")},
     KindEntry{ShortfallKind::NoFreeByte, "no-free-byte", false,
               QT_TRANSLATE_NOOP("OutcomeRecord", "there was no free space to overwrite")},
 };

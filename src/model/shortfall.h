@@ -37,6 +37,7 @@ enum class ShortfallKind {
     OtherNames,
     CopyOnWrite,
     ShadowCopies,
+    CloudCopy,
     NoFreeByte,
 };
 

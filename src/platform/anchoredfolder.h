@@ -44,8 +44,9 @@ public:
     virtual Result<FileInfo> info(const QString &name) = 0;
 
     // Makes a new file to be written; AlreadyExists when the name is taken by anything. Data is on the medium
-    // after flush(). Windows: CREATE_NEW without sharing. Linux: openat with O_CREAT | O_EXCL | O_NOFOLLOW,
-    // mode 0600, then O_DIRECT where the file system takes it.
+    // after flush(). Stored as it is written, never compressed; it stays behind empty where that fails.
+    // Windows: CREATE_NEW without sharing, FSCTL_SET_COMPRESSION. Linux: openat with O_CREAT | O_EXCL |
+    // O_NOFOLLOW, mode 0600, then O_DIRECT where the file system takes it.
     virtual Result<std::unique_ptr<FileHandle>> createFile(const QString &name) = 0;
     // As Files::remove. Linux: unlinkat.
     virtual Status removeFile(const QString &name) = 0;

@@ -34,6 +34,8 @@ public:
 
     // Another name in the same folder.
     EntryPath sibling(const QString &name) const;
+    // A stream of the entry, under the name that Files::namedStreams() gives it.
+    EntryPath stream(const QString &name) const { return {m_folder, m_name + name}; }
 
 private:
     std::shared_ptr<FolderHandle> m_folder;

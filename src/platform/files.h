@@ -8,6 +8,7 @@
 
 #include <QByteArray>
 #include <QFileDevice>
+#include <QList>
 #include <QString>
 
 #include <memory>
@@ -32,6 +33,15 @@ struct FileInfo
     // What the content of a regular file occupies, less than its size where there are holes or it is
     // compressed; below 0 where nothing says that it may be less.
     qint64 allocatedBytes = -1;
+    // A cloud service keeps copies of it, and maybe of what it was before. Windows: by its reparse tag.
+    bool isInCloud = false;
+};
+
+// What a file or folder holds beside its content.
+struct NamedStream
+{
+    QString name; // as EntryPath::stream() takes it
+    qint64 size = 0;
 };
 
 // An open file. Positions and lengths are bytes. Transfers loop over short ones and interruptions by
@@ -80,12 +90,11 @@ public:
     // nothing. Windows: GetFileInformationByHandle. Linux: statx.
     virtual Result<FileId> id() = 0;
 
-    // Where the content lies, none of a file without content. To be asked before the first write, which may
-    // already change the answer. What the system still holds back is written out first. A failure leaves the
-    // question open.
-    // Windows: GetFileInformationByHandle(Ex), GetVolumeInformationByHandleW,
-    // FSCTL_GET_INTEGRITY_INFORMATION, FSCTL_GET_RETRIEVAL_POINTERS. Linux: fstatfs, FS_IOC_GETFLAGS,
-    // FS_IOC_FIEMAP, /proc/fs/ext4.
+    // Where the content lies, none of a file without content; not that of other streams. To be asked before
+    // the first write, which may already change the answer. What the system still holds back is written out
+    // first. A failure leaves the question open. Windows: GetFileInformationByHandle(Ex),
+    // GetVolumeInformationByHandleW, FSCTL_GET_INTEGRITY_INFORMATION, FSCTL_GET_RETRIEVAL_POINTERS. Linux:
+    // fstatfs, FS_IOC_GETFLAGS, FS_IOC_FIEMAP, /proc/fs/ext4.
     virtual Result<ContentPlace> contentPlace() = 0;
 };
 
@@ -132,8 +141,10 @@ public:
 
     // Opens a regular file. Everything else is refused with CannotAccessFile, a folder with AccessDenied,
     // before any byte is read or written, and without blocking on a pipe; also a file whose bytes the system
-    // keeps elsewhere. Windows: CreateFileW with FILE_FLAG_OPEN_REPARSE_POINT; any reparse point is refused.
-    // Linux: open with O_NOFOLLOW | O_NONBLOCK, then fstat.
+    // keeps elsewhere. FileOffline where a part of its bytes is only in a cloud: nothing is brought here.
+    // Windows: CreateFileW with FILE_FLAG_OPEN_REPARSE_POINT | FILE_FLAG_OPEN_NO_RECALL; every reparse point
+    // is refused but the mark of a cloud service on what is here. Linux: open with O_NOFOLLOW | O_NONBLOCK,
+    // then fstat.
     Result<std::unique_ptr<FileHandle>> open(const EntryPath &entry, OpenMode mode)
     {
         return openIn(nullptr, entry, mode);
@@ -158,9 +169,15 @@ public:
     // the cache of the drive as it is.
     virtual Status closeGroup(DurabilityGroup &group) = 0;
 
-    // FileHandle::contentPlace() of a regular file; for a folder what holds for new files in it, without a
-    // count of bytes. Everything else is refused as by open(). Needs no permission to write.
+    // FileHandle::contentPlace() of a regular file and of all its streams together; for a folder what holds
+    // for new files in it, without a count of bytes. Everything else is refused as by open(). Needs no
+    // permission to write.
     virtual Result<ContentPlace> contentPlace(const EntryPath &entry) = 0;
+
+    // The streams of a regular file or folder beside its content, none where the file system knows none.
+    // Those of a file are opened as files are, and gone with it. Everything else is refused as by open().
+    // Windows: FileStreamInfo. Linux: none.
+    virtual Result<QList<NamedStream>> namedStreams(const EntryPath &entry) = 0;
 
     // The first bytes of a regular file, at most limit; fewer when it ends before. Read through the system's
     // cache, for the small files that tell about others. Nothing but a regular file is read

@@ -52,6 +52,10 @@ public:
     {
         return m_target.contentPlace(entry);
     }
+    Result<QList<NamedStream>> namedStreams(const EntryPath &entry) override
+    {
+        return m_target.namedStreams(entry);
+    }
     Result<QByteArray> readBeginning(const QString &path, qint64 limit) override
     {
         return m_target.readBeginning(path, limit);

@@ -111,8 +111,6 @@ private slots:
     void whatLiesElsewhereIsTold();
     void aJobThatFailsTellsItAsWell();
     void nothingIsToldOfContentInPlace();
-    void emptyFilesAreAskedAbout();
-    void anEmptyFileThatCannotBeAsked();
     void filesThatAreFilledMeanwhile();
 
     void surveyOfFiles();
@@ -182,37 +180,6 @@ void tst_ContentElsewhere::nothingIsToldOfContentInPlace()
     QVERIFY(job.task.outcome().shortfalls().isEmpty());
 }
 
-// No pass opens them.
-void tst_ContentElsewhere::emptyFilesAreAskedAbout()
-{
-    PlacedFiles files(platform::Platform::current().files(), placeByName);
-    FileJob job(files);
-    const QString file = job.makeFile(u"streams"_s, QByteArray());
-    QVERIFY(job.run({file}));
-    QVERIFY(job.files.calls(FaultPlan::Write).isEmpty());
-    QCOMPARE(job.lines(), (QStringList{said::scanning, said::preparing(1, u"0 B"_s), said::allEmpty,
-                                       warning(1), said::deleting, said::allDone(1), said::succeeded}));
-    QCOMPARE(job.task.outcome().shortfalls(),
-             (QList<Shortfall>{{ShortfallKind::ContentElsewhere, file, 20}}));
-}
-
-void tst_ContentElsewhere::anEmptyFileThatCannotBeAsked()
-{
-    FileJob job;
-    const QString gone = job.makeFile(u"gone"_s, QByteArray());
-    const QString closed = job.makeFile(u"closed"_s, QByteArray());
-    job.files.hook = [&](const FileCall &call) {
-        if (call.kind != FaultPlan::Locate)
-            return Status();
-        if (call.path == gone)
-            QFile::remove(gone);
-        return Status{call.path == gone ? platform::FileNotFound : platform::AccessDenied, 0, "planned"};
-    };
-    QVERIFY(job.run({gone, closed}));
-    QCOMPARE(job.task.outcome().shortfalls(), (QList<Shortfall>{{ShortfallKind::EntryVanished, gone},
-                                                                {ShortfallKind::ContentElsewhere, closed}}));
-}
-
 // Empty when it was found and in the first pass.
 void tst_ContentElsewhere::filesThatAreFilledMeanwhile()
 {
@@ -230,8 +197,8 @@ void tst_ContentElsewhere::filesThatAreFilledMeanwhile()
             order.append(call.kind);
     }
     // In the second pass, and both passes again for what the first could not reach.
-    QCOMPARE(order, (QList<FaultPlan::Kind>{FaultPlan::Locate, FaultPlan::Locate, FaultPlan::Write,
-                                            FaultPlan::Write, FaultPlan::Write}));
+    QCOMPARE(order, (QList<FaultPlan::Kind>{FaultPlan::Locate, FaultPlan::Write, FaultPlan::Write,
+                                            FaultPlan::Write}));
 }
 
 void tst_ContentElsewhere::surveyOfFiles()

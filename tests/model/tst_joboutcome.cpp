@@ -67,8 +67,8 @@ void tst_JobOutcome::everyKindHasANameAndALine()
         names.insert(kindName(kind));
         texts.insert(kindText(kind));
     }
-    QCOMPARE(names.size(), 26);
-    QCOMPARE(texts.size(), 26);
+    QCOMPARE(names.size(), 27);
+    QCOMPARE(texts.size(), 27);
     QCOMPARE(allShortfallKinds().last(), ShortfallKind::NoFreeByte);
     // These words stand in scripts and in databases.
     QCOMPARE(kindName(ShortfallKind::OnlyVolumes), u"only-volumes");
@@ -85,7 +85,7 @@ void tst_JobOutcome::everyKindIsPartialOrANote()
     }
     QCOMPARE(notes,
              (QStringList{u"not-read-back"_s, u"read-back-impossible"_s, u"reserve-kept"_s, u"other-names"_s,
-                          u"copy-on-write"_s, u"shadow-copies"_s, u"no-free-byte"_s}));
+                          u"copy-on-write"_s, u"shadow-copies"_s, u"cloud-copy"_s, u"no-free-byte"_s}));
 }
 
 void tst_JobOutcome::unknownNamesAreNoKind()

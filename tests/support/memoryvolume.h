@@ -93,6 +93,10 @@ public:
     beginGroup(const platform::EntryPath &folder) override;
     platform::Status closeGroup(platform::DurabilityGroup &group) override;
     platform::Result<platform::ContentPlace> contentPlace(const platform::EntryPath &entry) override;
+    platform::Result<QList<platform::NamedStream>> namedStreams(const platform::EntryPath &) override
+    {
+        return QList<platform::NamedStream>();
+    }
     platform::Result<QByteArray> readBeginning(const QString &path, qint64 limit) override;
     platform::Result<std::unique_ptr<QFileDevice>> openForAppending(const QString &path) override;
     platform::Status clearReadOnly(const platform::EntryPath &entry) override;

@@ -23,6 +23,8 @@ namespace {
 constexpr DWORD SupportsIntegrityStreams = 0x04000000;
 constexpr DWORD SupportsBlockRefcounting = 0x08000000;
 constexpr DWORD GetIntegrityInformation = 0x0009027C;
+constexpr DWORD GetExternalBacking = 0x00090310;
+constexpr DWORD NotExternallyBacked = 342;
 constexpr DWORD Injected = ERROR_IO_DEVICE;
 
 struct Stream
@@ -62,6 +64,7 @@ struct Answers
     DWORD integrityError = ERROR_INVALID_FUNCTION;
     WORD checksumAlgorithm = 0;
     DWORD extentsError = ERROR_MORE_DATA; // more than one
+    DWORD backingError = NotExternallyBacked;
 };
 
 Answers s_answers;
@@ -103,6 +106,10 @@ BOOL WINAPI answeredInformationEx(HANDLE, FILE_INFO_BY_HANDLE_CLASS what, LPVOID
 BOOL WINAPI answeredControl(HANDLE, DWORD code, LPVOID, DWORD, LPVOID output, DWORD, LPDWORD returned,
                             LPOVERLAPPED)
 {
+    if (code == GetExternalBacking) {
+        *returned = 16;
+        return s_answers.backingError == ERROR_SUCCESS ? TRUE : fail(s_answers.backingError);
+    }
     if (code != GetIntegrityInformation)
         return fail(s_answers.extentsError);
     if (s_answers.integrityError != ERROR_SUCCESS)
@@ -110,6 +117,18 @@ BOOL WINAPI answeredControl(HANDLE, DWORD code, LPVOID, DWORD, LPVOID output, DW
     std::memcpy(output, &s_answers.checksumAlgorithm, sizeof s_answers.checksumAlgorithm);
     *returned = 16;
     return TRUE;
+}
+
+// A stream is a file of its own here: "file%b" is the stream "b" of "file".
+HANDLE WINAPI openedStream(LPCWSTR path, DWORD access, DWORD sharing, LPSECURITY_ATTRIBUTES security,
+                           DWORD disposition, DWORD flags, HANDLE pattern)
+{
+    QString name = QString::fromWCharArray(path);
+    if (name.endsWith(u":$DATA"_s)) {
+        name.chop(6);
+        name[name.lastIndexOf(u':')] = u'%';
+    }
+    return ::CreateFileW(name.toStdWString().c_str(), access, sharing, security, disposition, flags, pattern);
 }
 
 class AnsweredCalls
@@ -123,6 +142,7 @@ public:
         calls.getFileInformationEx = &answeredInformationEx;
         calls.getVolumeInformation = &answeredVolume;
         calls.deviceIoControl = &answeredControl;
+        calls.createFile = &openedStream;
     }
 
     Win32Faults faults;
@@ -143,6 +163,9 @@ private slots:
     void places();
     void emptyFiles();
     void manyStreams();
+    void streamsThatCanBeOpened();
+    void streamsAreListed();
+    void streamsAreOpenedAsFiles();
     void folders();
     void linksAreRefused();
     void whatFails_data();
@@ -167,6 +190,11 @@ void tst_WindowsContentPlace::places_data()
     row("encrypted", {.attributes = FILE_ATTRIBUTE_ENCRYPTED}, Elsewhere::Encoded, 3);
     row("sparse", {.attributes = FILE_ATTRIBUTE_SPARSE_FILE}, Elsewhere::Sparse, 3);
     row("in its record", {.extentsError = ERROR_HANDLE_EOF}, Elsewhere::Inline, 3);
+    row("compressed by the system", {.backingError = ERROR_SUCCESS}, Elsewhere::Encoded, 3);
+    row("with a longer answer", {.backingError = ERROR_MORE_DATA}, Elsewhere::Encoded, 3);
+    row("backing unknown", {.backingError = ERROR_ACCESS_DENIED}, Elsewhere::Encoded, 3);
+    row("no backing known", {.backingError = ERROR_INVALID_FUNCTION}, {}, 0);
+    row("no backing supported", {.backingError = ERROR_NOT_SUPPORTED}, {}, 0);
     row("extents unknown", {.extentsError = ERROR_NOT_SUPPORTED}, {}, 0);
     row("on a server", {.isRemote = true}, Elsewhere::Unknown, 3);
     row("no stream listed", {.streams = {}}, {}, 0);
@@ -189,9 +217,12 @@ void tst_WindowsContentPlace::places()
     QFETCH(qint64, bytes);
     const QString file = writeFile(m_folder.filePath(u"file"_s), "abc");
     const AnsweredCalls calls(answers);
-    const ContentPlace place{expected, bytes};
-    QCOMPARE(m_files.contentPlace(file).value(), place);
-    QCOMPARE(m_files.open(file, OpenMode::Overwrite).value()->contentPlace().value(), place);
+    QCOMPARE(m_files.contentPlace(file).value(), (ContentPlace{expected, bytes}));
+    // A handle speaks of what was opened only.
+    ContentPlace own{expected, bytes};
+    if (expected & Elsewhere::NamedStreams)
+        own = {expected & ~ElsewhereReasons(Elsewhere::NamedStreams), bytes - 30};
+    QCOMPARE(m_files.open(file, OpenMode::Overwrite).value()->contentPlace().value(), own);
     QCOMPARE(calls.faults.openHandles(), 0);
     QCOMPARE(contentOf(file), QByteArray("abc"));
 }
@@ -219,6 +250,67 @@ void tst_WindowsContentPlace::manyStreams()
         answers.streams.append({u":stream number %1:$DATA"_s.arg(i), 2});
     const AnsweredCalls calls(answers);
     QCOMPARE(m_files.contentPlace(file).value(), (ContentPlace{Elsewhere::NamedStreams, 2000}));
+}
+
+// Each lies in a place of its own.
+void tst_WindowsContentPlace::streamsThatCanBeOpened()
+{
+    const QString file = writeFile(m_folder.filePath(u"file"_s), "abc");
+    writeFile(m_folder.filePath(u"file%b"_s), "1234");
+    const Answers answers{.streams = {{u"::$DATA"_s, 3}, {u":b:$DATA"_s, 4}}};
+    {
+        const AnsweredCalls calls(answers);
+        QCOMPARE(m_files.contentPlace(file).value(), (ContentPlace{{}, 0}));
+        QCOMPARE(calls.faults.openHandles(), 0);
+    }
+    Answers inside = answers;
+    inside.extentsError = ERROR_HANDLE_EOF;
+    const AnsweredCalls calls(inside);
+    QCOMPARE(m_files.contentPlace(file).value(), (ContentPlace{Elsewhere::Inline, 7}));
+}
+
+void tst_WindowsContentPlace::streamsAreListed()
+{
+    const QString file = writeFile(m_folder.filePath(u"file"_s), "abc");
+    const QString folder = m_folder.filePath(u"folder"_s);
+    QVERIFY(QDir().mkpath(folder));
+    AnsweredCalls calls(
+        {.streams = {{u"::$DATA"_s, 3}, {u":Zone.Identifier:$DATA"_s, 26}, {u":b:$DATA"_s, 0}}});
+    for (const QString &path : {file, folder}) {
+        const auto listed = m_files.namedStreams(path);
+        QVERIFY(listed.ok());
+        QCOMPARE(listed.value().size(), 2);
+        QCOMPARE(listed.value().at(0).name, u":Zone.Identifier:$DATA"_s);
+        QCOMPARE(listed.value().at(0).size, 26);
+        QCOMPARE(listed.value().at(1).name, u":b:$DATA"_s);
+    }
+    s_answers.volume = 0;
+    QVERIFY(m_files.namedStreams(file).value().isEmpty());
+    s_answers.volume = FILE_NAMED_STREAMS;
+    for (const int call :
+         {int(Win32Faults::GetFileAttributes_), int(Win32Faults::CreateFile_),
+          int(Win32Faults::GetVolumeInformation_), int(Win32Faults::GetFileInformationEx_)}) {
+        calls.faults.fail(call, 1, Injected);
+        QCOMPARE(m_files.namedStreams(file).code(), quint32(Injected));
+    }
+    QCOMPARE(calls.faults.openHandles(), 0);
+}
+
+void tst_WindowsContentPlace::streamsAreOpenedAsFiles()
+{
+    const QString file = writeFile(m_folder.filePath(u"file"_s), "abc");
+    const QString stream = writeFile(m_folder.filePath(u"file%b"_s), "1234");
+    AnsweredCalls calls({});
+    calls.faults.target().getFileAttributes = [](LPCWSTR) -> DWORD { return FILE_ATTRIBUTE_ARCHIVE; };
+    const EntryPath entry = EntryPath(file).stream(u":b:$DATA"_s);
+    {
+        const auto opened = m_files.open(entry, OpenMode::Overwrite);
+        QVERIFY(opened.ok());
+        QCOMPARE(opened.value()->write("5678", 4).value(), 4);
+    }
+    QVERIFY(m_files.open(entry, OpenMode::Verify).ok());
+    QCOMPARE(contentOf(stream), QByteArray("5678"));
+    QCOMPARE(contentOf(file), QByteArray("abc"));
 }
 
 void tst_WindowsContentPlace::folders()

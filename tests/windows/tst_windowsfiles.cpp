@@ -3,6 +3,7 @@
 #include "support/testfiles.h"
 #include "windows/win32faults.h"
 
+#include "platform/anchoredfolder.h"
 #include "platform/windows/longpath.h"
 #include "platform/windows/windowsfiles.h"
 #include "platform/windows/windowsfolders.h"
@@ -30,6 +31,11 @@ namespace {
 constexpr OpenMode EveryMode[] = {OpenMode::Overwrite, OpenMode::Verify, OpenMode::Truncate,
                                   OpenMode::CreateFill};
 constexpr DWORD Injected = ERROR_IO_DEVICE;
+constexpr DWORD CloudTag = 0x9000001A;
+// Younger than the headers of some compilers.
+constexpr DWORD Pinned = 0x00080000;
+constexpr DWORD RecallOnOpen = 0x00040000;
+constexpr DWORD RecallOnDataAccess = 0x00400000;
 
 WindowsFiles files;
 WindowsFolders folders;
@@ -117,13 +123,15 @@ QMap<QString, QByteArray> snapshot(const QString &folder)
     return entries;
 }
 
-// The system's calls, but what is named "...link" shows a reparse point with the tag wherever one can ask.
+// The system's calls, but what is named "...link" shows a reparse point with the tag, or other attributes,
+// wherever one can ask.
 class PretendedLinks
 {
 public:
-    explicit PretendedLinks(DWORD tag = IO_REPARSE_TAG_SYMLINK)
+    explicit PretendedLinks(DWORD tag = IO_REPARSE_TAG_SYMLINK, DWORD bits = FILE_ATTRIBUTE_REPARSE_POINT)
     {
         s_tag = tag;
+        s_bits = bits;
         m_faults.target().getFileAttributes = [](LPCWSTR path) -> DWORD {
             const DWORD attributes = ::GetFileAttributesW(path);
             return attributes == INVALID_FILE_ATTRIBUTES ? attributes : marked(path, attributes);
@@ -141,6 +149,15 @@ public:
             ::GetFinalPathNameByHandleW(handle, path, 1000, 0);
             const BOOL found = ::GetFileInformationByHandle(handle, file);
             file->dwFileAttributes = marked(path, file->dwFileAttributes);
+            return found;
+        };
+        m_faults.target().getFileInformationEx = [](HANDLE handle, FILE_INFO_BY_HANDLE_CLASS what,
+                                                    LPVOID data, DWORD size) -> BOOL {
+            if (what != FileAttributeTagInfo)
+                return ::GetFileInformationByHandleEx(handle, what, data, size);
+            BY_HANDLE_FILE_INFORMATION file = {};
+            const BOOL found = win32().getFileInformation(handle, &file);
+            *static_cast<FILE_ATTRIBUTE_TAG_INFO *>(data) = {file.dwFileAttributes, s_tag};
             return found;
         };
         m_faults.target().findFirstFile = [](LPCWSTR path, FINDEX_INFO_LEVELS level, LPVOID data,
@@ -166,11 +183,11 @@ private:
     }
     static DWORD marked(const wchar_t *path, DWORD attributes)
     {
-        return std::wstring_view(path).ends_with(L"link") ? attributes | FILE_ATTRIBUTE_REPARSE_POINT
-                                                          : attributes;
+        return std::wstring_view(path).ends_with(L"link") ? attributes | s_bits : attributes;
     }
 
     inline static DWORD s_tag = 0;
+    inline static DWORD s_bits = 0;
 
     Win32Faults m_faults;
 };
@@ -327,6 +344,16 @@ private slots:
     void aRootMayEndWithEitherSlash();
     void whatMayBeUsedIsLessThanWhatIsFree();
     void linksAreSeen();
+    void filesThatAreInACloudToo();
+    void foldersThatAreInACloudToo();
+    void everyOtherTagIsRefused_data();
+    void everyOtherTagIsRefused();
+    void whatIsOnlyInACloudIsLeftThere_data();
+    void whatIsOnlyInACloudIsLeftThere();
+    void whatIsTakenToACloudMeanwhile();
+    void newFilesAreStoredAsTheyAreWritten_data();
+    void newFilesAreStoredAsTheyAreWritten();
+    void pathsOfStreams();
     void openOfALinkIsRefused();
     void openOfALinkThatIsSwappedIn();
     void filesWhoseBytesLieElsewhere();
@@ -431,7 +458,7 @@ void tst_WindowsFiles::opensWithWhatItPromises()
         QCOMPARE(opening.access, access);
         QCOMPARE(opening.sharing, sharing);
         QCOMPARE(opening.disposition, disposition);
-        QCOMPARE(opening.flags, flags | DWORD(FILE_FLAG_OPEN_REPARSE_POINT));
+        QCOMPARE(opening.flags, flags | DWORD(FILE_FLAG_OPEN_REPARSE_POINT | FILE_FLAG_OPEN_NO_RECALL));
     };
     compare(lastOpening(u"file"_s, OpenMode::Overwrite), 0xC0000000, 1, 3, 0x88000080);
     compare(lastOpening(u"file"_s, OpenMode::Verify), 0x80000000, 3, 3, 0x80);
@@ -781,6 +808,220 @@ void tst_WindowsFiles::filesWhoseBytesLieElsewhere()
     for (const OpenMode mode : EveryMode)
         QCOMPARE(files.open(path(u"link"_s), mode).code(), quint32(CannotAccessFile));
     QCOMPARE(contentOf(path(u"link"_s)), QByteArray("abc"));
+}
+
+// What the mark says is that there are copies elsewhere, not that the bytes are.
+void tst_WindowsFiles::filesThatAreInACloudToo()
+{
+    writeFile(path(u"a link"_s), "abc");
+    writeFile(path(u"plain"_s), "abc");
+    for (const DWORD tag : {CloudTag, CloudTag | 0x1000, CloudTag | 0xF000}) {
+        const PretendedLinks cloud(tag, FILE_ATTRIBUTE_REPARSE_POINT | Pinned);
+        const Result<FileInfo> info = files.info(path(u"a link"_s));
+        QVERIFY(info.ok());
+        QCOMPARE(info.value().kind, FileKind::Regular);
+        QCOMPARE(info.value().size, 3);
+        QVERIFY(info.value().isInCloud);
+        QVERIFY(!files.info(path(u"plain"_s)).value().isInCloud);
+        for (const OpenMode mode : {OpenMode::Overwrite, OpenMode::Verify, OpenMode::Truncate})
+            QVERIFY(files.open(path(u"a link"_s), mode).ok());
+        QVERIFY(files.contentPlace(path(u"a link"_s)).ok());
+        QCOMPARE(files.readBeginning(path(u"a link"_s), 9).value(), QByteArray("abc"));
+        QVERIFY(files.openForAppending(path(u"a link"_s)).ok());
+    }
+}
+
+void tst_WindowsFiles::foldersThatAreInACloudToo()
+{
+    QVERIFY(QDir().mkpath(path(u"link/sub/sublink"_s)));
+    writeFile(path(u"link/sub/sublink/file"_s), "abc");
+    const PretendedLinks cloud(CloudTag);
+    {
+        const auto held = folders.hold(m_folder->path());
+        QVERIFY(held.ok());
+        const auto entered = folders.holdIn(held.value(), u"link"_s, Folders::Mounts::Refuse);
+        QVERIFY2(entered.ok(), qPrintable(entered.status().diagnostic()));
+        QStringList names;
+        QVERIFY(folders
+                    .forEachEntry(EntryPath(entered.value(), {}),
+                                  [&names](const QString &name, FileKind kind) {
+                                      names += name;
+                                      return kind == FileKind::Folder;
+                                  })
+                    .ok());
+        QCOMPARE(names, QStringList{u"sub"_s});
+    }
+    QVERIFY(folders.create(path(u"link"_s)).ok());
+    QVERIFY(folders.space(path(u"link"_s)).ok());
+    // Removing a file takes no folder away.
+    QVERIFY(QDir().mkpath(path(u"empty link"_s)));
+    QVERIFY(!files.remove(path(u"empty link"_s)).ok());
+    QVERIFY(QDir(path(u"empty link"_s)).exists());
+    QVERIFY(folders.removeEmpty(path(u"empty link"_s)).ok());
+    QVERIFY(folders.removeTree(path(u"link"_s)).ok());
+    QVERIFY(!QDir(path(u"link"_s)).exists());
+}
+
+void tst_WindowsFiles::everyOtherTagIsRefused_data()
+{
+    QTest::addColumn<quint32>("tag");
+    QTest::addColumn<quint32>("ofFolder");
+    QTest::newRow("mount point") << quint32(IO_REPARSE_TAG_MOUNT_POINT) << quint32(PathNotFound);
+    QTest::newRow("symbolic link") << quint32(IO_REPARSE_TAG_SYMLINK) << quint32(PathNotFound);
+    QTest::newRow("deduplicated") << quint32(IO_REPARSE_TAG_DEDUP) << quint32(CannotAccessFile);
+    QTest::newRow("projected") << quint32(0x9000001C) << quint32(CannotAccessFile);
+    QTest::newRow("compressed by the system") << quint32(0x80000017) << quint32(CannotAccessFile);
+    QTest::newRow("no folder bit") << quint32(0x8000001A) << quint32(CannotAccessFile);
+    QTest::newRow("another bit") << quint32(0x9001001A) << quint32(CannotAccessFile);
+    QTest::newRow("a link") << quint32(0xB000001A) << quint32(PathNotFound);
+    QTest::newRow("none") << quint32(0) << quint32(CannotAccessFile);
+}
+
+void tst_WindowsFiles::everyOtherTagIsRefused()
+{
+    QFETCH(quint32, tag);
+    QFETCH(quint32, ofFolder);
+    writeFile(path(u"a link"_s), "abc");
+    writeFile(path(u"b link/file"_s), "abc");
+    const PretendedLinks links(tag);
+    for (const OpenMode mode : EveryMode)
+        QCOMPARE(files.open(path(u"a link"_s), mode).code(), quint32(CannotAccessFile));
+    QVERIFY(!files.readBeginning(path(u"a link"_s), 3).ok());
+    const auto held = folders.hold(m_folder->path());
+    QVERIFY(held.ok());
+    QCOMPARE(folders.holdIn(held.value(), u"b link"_s, Folders::Mounts::Refuse).code(), ofFolder);
+    const auto visit = [](const QString &, FileKind) {
+        QTest::qFail("nothing was to be seen", __FILE__, __LINE__);
+        return true;
+    };
+    QCOMPARE(folders.forEachEntry(path(u"b link"_s), visit).code, ofFolder);
+    QCOMPARE(contentOf(path(u"a link"_s)), QByteArray("abc"));
+}
+
+void tst_WindowsFiles::whatIsOnlyInACloudIsLeftThere_data()
+{
+    QTest::addColumn<quint32>("tag");
+    QTest::addColumn<quint32>("bits");
+    QTest::addColumn<bool>("isRefused");
+    const auto row = [](const char *name, DWORD tag, DWORD bits, bool isRefused) {
+        QTest::newRow(name) << quint32(tag) << quint32(bits) << isRefused;
+    };
+    constexpr DWORD Marked = FILE_ATTRIBUTE_REPARSE_POINT;
+    row("recalled when read", CloudTag, Marked | RecallOnDataAccess, true);
+    row("recalled when opened", CloudTag, Marked | RecallOnOpen, true);
+    row("offline", CloudTag, Marked | FILE_ATTRIBUTE_OFFLINE, true);
+    row("all of it", CloudTag, Marked | RecallOnDataAccess | FILE_ATTRIBUTE_OFFLINE, true);
+    row("the mark is hidden", 0, RecallOnDataAccess, true);
+    // Attributes that mean nothing without the mark.
+    row("offline as a user says", 0, FILE_ATTRIBUTE_OFFLINE, false);
+    row("with extended attributes", 0, RecallOnOpen, false);
+}
+
+void tst_WindowsFiles::whatIsOnlyInACloudIsLeftThere()
+{
+    QFETCH(quint32, tag);
+    QFETCH(quint32, bits);
+    QFETCH(bool, isRefused);
+    const quint32 expected = isRefused ? FileOffline : NoError;
+    writeFile(path(u"a link"_s), "abc");
+    writeFile(path(u"b link/file"_s), "abc");
+    PretendedLinks cloud(tag, bits);
+    for (const OpenMode mode : {OpenMode::Verify, OpenMode::Overwrite, OpenMode::Truncate}) {
+        cloud.faults().forget();
+        QCOMPARE(files.open(path(u"a link"_s), mode).code(), expected);
+        QVERIFY(!isRefused || cloud.faults().openings().isEmpty());
+    }
+    QCOMPARE(files.contentPlace(path(u"a link"_s)).code(), expected);
+    QCOMPARE(files.readBeginning(path(u"a link"_s), 3).code(), expected);
+    const int listings = cloud.faults().seen(Win32Faults::FindNextFile_);
+    QStringList seen;
+    const Status listed = folders.forEachEntry(path(u"b link"_s), [&seen](const QString &name, FileKind) {
+        seen += name;
+        return true;
+    });
+    QCOMPARE(listed.code, expected);
+    QCOMPARE(seen, isRefused ? QStringList() : QStringList{u"file"_s});
+    QVERIFY(!isRefused || cloud.faults().seen(Win32Faults::FindNextFile_) == listings);
+    const auto held = folders.hold(m_folder->path());
+    QVERIFY(held.ok());
+    QCOMPARE(folders.holdIn(held.value(), u"b link"_s, Folders::Mounts::Refuse).code(), expected);
+    QCOMPARE(contentOf(path(u"a link"_s)), QByteArray("abc"));
+}
+
+// It was here at the first look.
+void tst_WindowsFiles::whatIsTakenToACloudMeanwhile()
+{
+    writeFile(path(u"a link"_s), "abc");
+    PretendedLinks cloud(CloudTag, FILE_ATTRIBUTE_REPARSE_POINT | RecallOnDataAccess);
+    cloud.faults().target().getFileAttributes = &::GetFileAttributesW;
+    for (const OpenMode mode : EveryMode) {
+        QCOMPARE(files.open(path(u"a link"_s), mode).code(), quint32(FileOffline));
+        QVERIFY(cloud.faults().openings().constLast().flags & FILE_FLAG_OPEN_NO_RECALL);
+    }
+    QCOMPARE(cloud.faults().seen(Win32Faults::ReadFile_), 0);
+    QCOMPARE(cloud.faults().openHandles(), 0);
+    QCOMPARE(contentOf(path(u"a link"_s)), QByteArray("abc"));
+}
+
+void tst_WindowsFiles::newFilesAreStoredAsTheyAreWritten_data()
+{
+    QTest::addColumn<quint32>("error");
+    QTest::addColumn<bool>("staysCompressed");
+    QTest::addColumn<quint32>("expected");
+    QTest::newRow("done") << quint32(ERROR_SUCCESS) << false << quint32(NoError);
+    QTest::newRow("no compression there") << quint32(ERROR_INVALID_FUNCTION) << false << quint32(NoError);
+    QTest::newRow("not supported there") << quint32(ERROR_NOT_SUPPORTED) << false << quint32(NoError);
+    QTest::newRow("refused") << quint32(ERROR_ACCESS_DENIED) << false << quint32(AccessDenied);
+    QTest::newRow("to no effect") << quint32(ERROR_SUCCESS) << true << quint32(NotSupported);
+    QTest::newRow("not supported, yet compressed")
+        << quint32(ERROR_NOT_SUPPORTED) << true << quint32(NotSupported);
+}
+
+// A fill file of zeros that is stored compressed covers nothing.
+void tst_WindowsFiles::newFilesAreStoredAsTheyAreWritten()
+{
+    QFETCH(quint32, error);
+    QFETCH(bool, staysCompressed);
+    QFETCH(quint32, expected);
+    static quint32 s_error;
+    static bool s_compressed;
+    static QList<int> s_formats;
+    s_error = error;
+    s_compressed = staysCompressed;
+    s_formats.clear();
+    Win32Faults faults;
+    faults.target().deviceIoControl = [](HANDLE, DWORD code, LPVOID input, DWORD size, LPVOID, DWORD, LPDWORD,
+                                         LPOVERLAPPED) -> BOOL {
+        if (code == FSCTL_SET_COMPRESSION && size == sizeof(USHORT))
+            s_formats.append(*static_cast<USHORT *>(input));
+        ::SetLastError(s_error);
+        return s_error == ERROR_SUCCESS;
+    };
+    faults.target().getFileInformation = [](HANDLE handle, LPBY_HANDLE_FILE_INFORMATION file) -> BOOL {
+        const BOOL found = ::GetFileInformationByHandle(handle, file);
+        if (s_compressed && !(file->dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY))
+            file->dwFileAttributes |= FILE_ATTRIBUTE_COMPRESSED;
+        return found;
+    };
+    {
+        const auto folder = folders.anchor(m_folder->path());
+        QVERIFY(folder.ok());
+        faults.forget();
+        QCOMPARE(folder.value()->createFile(u"fill"_s).code(), expected);
+        // The system takes the order from a handle for both only.
+        QCOMPARE(faults.openings().constLast().access, DWORD(GENERIC_READ | GENERIC_WRITE));
+    }
+    QCOMPARE(s_formats, QList<int>{COMPRESSION_FORMAT_NONE});
+    QCOMPARE(faults.openHandles(), 0);
+}
+
+void tst_WindowsFiles::pathsOfStreams()
+{
+    const auto host = [](const wchar_t *path) { return QString::fromStdWString(withoutStream(path)); };
+    QCOMPARE(host(LR"(\\?\C:\a\b)"), uR"(\\?\C:\a\b)"_s);
+    QCOMPARE(host(LR"(\\?\C:\a\b:s:$DATA)"), uR"(\\?\C:\a\b)"_s);
+    QCOMPARE(host(LR"(\\?\C:\)"), uR"(\\?\C:\)"_s);
+    QCOMPARE(host(LR"(\\?\UNC\server\share\b:s)"), uR"(\\?\UNC\server\share\b)"_s);
 }
 
 void tst_WindowsFiles::linksAreNoFolders()

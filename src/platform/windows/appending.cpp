@@ -1,5 +1,6 @@
 #include "platform/windows/windowsfiles.h"
 
+#include "platform/windows/fileattributes.h"
 #include "platform/windows/filekind.h"
 #include "platform/windows/lasterror.h"
 #include "platform/windows/longpath.h"
@@ -27,11 +28,8 @@ Result<int> appendingDescriptor(const QString &path)
                                           FILE_FLAG_OPEN_REPARSE_POINT, nullptr);
     if (file == INVALID_HANDLE_VALUE)
         return statusFromLastError("CreateFile");
-    BY_HANDLE_FILE_INFORMATION opened = {};
-    constexpr const char *Question = "GetFileInformationByHandle";
-    const Status refusal = win32().getFileInformation(file, &opened)
-                               ? refusalOf(opened.dwFileAttributes, Question)
-                               : statusFromLastError(Question);
+    const Result<EntryAttributes> opened = attributesOf(file);
+    const Status refusal = opened ? refusalOf(opened.value(), "GetFileInformationByHandle") : opened.status();
     if (!refusal) {
         win32().closeHandle(file);
         return refusal;

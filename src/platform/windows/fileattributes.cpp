@@ -1,26 +1,56 @@
 #include "platform/windows/fileattributes.h"
 
 #include "platform/windows/lasterror.h"
+#include "platform/windows/windowspaths.h"
 
 namespace platform {
 
-Result<DWORD> attributesOf(const std::wstring &path)
+Result<EntryAttributes> attributesOf(const std::wstring &path)
 {
     const DWORD attributes = win32().getFileAttributes(path.c_str());
     if (attributes == INVALID_FILE_ATTRIBUTES)
         return statusFromLastError("GetFileAttributes");
-    return attributes;
+    return withTag(path, attributes);
 }
 
-Result<DWORD> reparseTagOf(const std::wstring &path)
+Result<EntryAttributes> attributesOf(HANDLE opened)
 {
+    BY_HANDLE_FILE_INFORMATION found = {};
+    if (!win32().getFileInformation(opened, &found))
+        return statusFromLastError("GetFileInformationByHandle");
+    return withTag(opened, found.dwFileAttributes);
+}
+
+Result<EntryAttributes> withTag(const std::wstring &path, DWORD bits)
+{
+    if (!(bits & FILE_ATTRIBUTE_REPARSE_POINT))
+        return EntryAttributes{bits, 0};
     WIN32_FIND_DATAW entry = {};
-    auto *const search =
-        win32().findFirstFile(path.c_str(), FindExInfoBasic, &entry, FindExSearchNameMatch, nullptr, 0);
+    // Listings have no streams.
+    auto *const search = win32().findFirstFile(withoutStream(path).c_str(), FindExInfoBasic, &entry,
+                                               FindExSearchNameMatch, nullptr, 0);
     if (search == INVALID_HANDLE_VALUE)
         return statusFromLastError("FindFirstFileEx");
     win32().findClose(search);
-    return entry.dwReserved0;
+    // Whether an entry has to be brought here first some systems tell in listings only.
+    const EntryAttributes listed = attributesOf(entry);
+    return EntryAttributes{bits | listed.bits, listed.reparseTag};
+}
+
+Result<EntryAttributes> withTag(HANDLE opened, DWORD bits)
+{
+    if (!(bits & FILE_ATTRIBUTE_REPARSE_POINT))
+        return EntryAttributes{bits, 0};
+    FILE_ATTRIBUTE_TAG_INFO found = {};
+    if (!win32().getFileInformationEx(opened, FileAttributeTagInfo, &found, sizeof found))
+        return statusFromLastError("GetFileInformationByHandleEx");
+    return EntryAttributes{bits | found.FileAttributes, found.ReparseTag};
+}
+
+EntryAttributes attributesOf(const WIN32_FIND_DATAW &listed)
+{
+    const bool hasTag = listed.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT;
+    return {listed.dwFileAttributes, hasTag ? listed.dwReserved0 : 0};
 }
 
 Status clearReadOnlyAttribute(const std::wstring &path, DWORD attributes)

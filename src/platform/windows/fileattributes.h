@@ -1,17 +1,24 @@
 #pragma once
 
 #include "platform/status.h"
+#include "platform/windows/filekind.h"
 #include "platform/windows/win32calls.h"
 
 #include <string>
 
 namespace platform {
 
-// The attributes of what stands under the path itself, a link's own.
-Result<DWORD> attributesOf(const std::wstring &path);
+// Of what stands under the path itself, a link's own.
+Result<EntryAttributes> attributesOf(const std::wstring &path);
+// Of what was opened.
+Result<EntryAttributes> attributesOf(HANDLE opened);
 
-// The reparse tag of an entry that has FILE_ATTRIBUTE_REPARSE_POINT.
-Result<DWORD> reparseTagOf(const std::wstring &path);
+// The same of an entry whose attributes but for the tag are known.
+Result<EntryAttributes> withTag(const std::wstring &path, DWORD bits);
+Result<EntryAttributes> withTag(HANDLE opened, DWORD bits);
+
+// Of a listing.
+EntryAttributes attributesOf(const WIN32_FIND_DATAW &listed);
 
 // Takes FILE_ATTRIBUTE_READONLY away from an entry with these attributes, which keeps the others.
 Status clearReadOnlyAttribute(const std::wstring &path, DWORD attributes);

@@ -1,5 +1,6 @@
 #include "platform/windows/windowsfiles.h"
 
+#include "platform/windows/fileattributes.h"
 #include "platform/windows/filekind.h"
 #include "platform/windows/lasterror.h"
 #include "platform/windows/windowspaths.h"
@@ -38,14 +39,18 @@ Result<QByteArray> WindowsFiles::readBeginning(const QString &path, qint64 limit
     const Result<std::wstring> name = encodePath(path);
     if (!name)
         return name.status();
-    const WinHandle file(win32().createFile(name.value().c_str(), GENERIC_READ, ShareAll, nullptr,
-                                            OPEN_EXISTING, FILE_FLAG_OPEN_REPARSE_POINT, nullptr));
+    const WinHandle file(
+        win32().createFile(name.value().c_str(), GENERIC_READ, ShareAll, nullptr, OPEN_EXISTING,
+                           FILE_FLAG_OPEN_REPARSE_POINT | FILE_FLAG_OPEN_NO_RECALL, nullptr));
     if (!file.isValid())
         return statusFromLastError("CreateFile");
     BY_HANDLE_FILE_INFORMATION opened = {};
     if (!win32().getFileInformation(file.get(), &opened))
         return statusFromLastError("GetFileInformationByHandle");
-    if (const Status refusal = refusalOf(opened.dwFileAttributes, "GetFileInformationByHandle"); !refusal)
+    const Result<EntryAttributes> attributes = withTag(file.get(), opened.dwFileAttributes);
+    if (!attributes)
+        return attributes.status();
+    if (const Status refusal = refusalOf(attributes.value(), "GetFileInformationByHandle"); !refusal)
         return refusal;
     const quint64 size = quint64(opened.nFileSizeHigh) << 32 | opened.nFileSizeLow;
     return readUpTo(file.get(), static_cast<qint64>(std::min<quint64>(size, static_cast<quint64>(limit))));

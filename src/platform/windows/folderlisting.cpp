@@ -1,5 +1,6 @@
 #include "platform/windows/folderlisting.h"
 
+#include "platform/windows/fileattributes.h"
 #include "platform/windows/filekind.h"
 #include "platform/windows/lasterror.h"
 #include "platform/windows/windowspaths.h"
@@ -8,21 +9,38 @@
 
 namespace platform {
 
+namespace {
+
+// Listing a folder that is not all here would have the rest brought here.
+Status refusalToHold(const EntryAttributes &entry)
+{
+    constexpr const char *Question = "GetFileInformationByHandle";
+    if (fileKindFromAttributes(entry) != FileKind::Folder)
+        return {PathNotFound, ERROR_DIRECTORY, Question};
+    if (isPartlyElsewhere(entry))
+        return {FileOffline, ERROR_FILE_OFFLINE, Question};
+    if (!isPlainFolder(entry))
+        return {CannotAccessFile, ERROR_CANT_ACCESS_FILE, Question};
+    return {};
+}
+
+} // namespace
+
 Result<HeldFolder> holdFolder(const std::wstring &path)
 {
     // To list it, since a handle for its attributes alone would keep nobody from deleting it.
     HeldFolder folder;
     folder.handle = WinHandle(win32().createFile(
         path.c_str(), FILE_LIST_DIRECTORY, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING,
-        FILE_FLAG_BACKUP_SEMANTICS | FILE_FLAG_OPEN_REPARSE_POINT, nullptr));
+        FILE_FLAG_BACKUP_SEMANTICS | FILE_FLAG_OPEN_REPARSE_POINT | FILE_FLAG_OPEN_NO_RECALL, nullptr));
     if (!folder.handle.isValid())
         return statusFromLastError("CreateFile");
-    BY_HANDLE_FILE_INFORMATION opened = {};
-    if (!win32().getFileInformation(folder.handle.get(), &opened))
-        return statusFromLastError("GetFileInformationByHandle");
-    if (!isPlainFolder(opened.dwFileAttributes))
-        return Status{PathNotFound, ERROR_DIRECTORY, "GetFileInformationByHandle"};
-    folder.attributes = opened.dwFileAttributes;
+    const Result<EntryAttributes> opened = attributesOf(folder.handle.get());
+    if (!opened)
+        return opened.status();
+    if (const Status refusal = refusalToHold(opened.value()); !refusal)
+        return refusal;
+    folder.attributes = opened.value().bits;
     return folder;
 }
 

@@ -15,7 +15,8 @@ struct HeldFolder
     DWORD attributes = 0;
 };
 
-// PathNotFound for a file or link.
+// PathNotFound for a file or link; CannotAccessFile for a folder whose content is elsewhere, FileOffline
+// where a part of it is only in a cloud.
 Result<HeldFolder> holdFolder(const std::wstring &path);
 
 // Called once per entry except "." and ".."; false ends the listing, which then counts as success.

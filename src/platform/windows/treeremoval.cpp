@@ -62,15 +62,16 @@ void TreeRemoval::enter(const std::wstring &path, HeldFolder held)
     struct Other
     {
         std::wstring name;
-        DWORD attributes;
+        EntryAttributes attributes;
     };
     std::vector<Other> others;
     Level level{path, std::move(held), {}};
     note(FolderListing(path).forEach([&](const WIN32_FIND_DATAW &entry) {
-        if (fileKindFromAttributes(entry.dwFileAttributes, entry.dwReserved0) == FileKind::Folder)
+        const EntryAttributes attributes = attributesOf(entry);
+        if (fileKindFromAttributes(attributes) == FileKind::Folder)
             level.folders.emplace_back(entry.cFileName);
         else
-            others.push_back({entry.cFileName, entry.dwFileAttributes});
+            others.push_back({entry.cFileName, attributes});
         return true;
     }));
     for (const Other &other : others)
@@ -78,12 +79,12 @@ void TreeRemoval::enter(const std::wstring &path, HeldFolder held)
     m_levels.push_back(std::move(level));
 }
 
-void TreeRemoval::removeOther(const std::wstring &path, DWORD attributes)
+void TreeRemoval::removeOther(const std::wstring &path, const EntryAttributes &attributes)
 {
     Status status;
     if (isFolderLink(attributes))
-        status = removeFolderItself(path, attributes);
-    else if (status = clearReadOnlyAttribute(path, attributes); status)
+        status = removeFolderItself(path, attributes.bits);
+    else if (status = clearReadOnlyAttribute(path, attributes.bits); status)
         status = statusOf(win32().deleteFile(path.c_str()), "DeleteFile");
     if (!isNothingThere(status.native))
         note(status);

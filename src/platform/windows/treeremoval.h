@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/status.h"
+#include "platform/windows/filekind.h"
 #include "platform/windows/folderlisting.h"
 
 #include <string>
@@ -27,7 +28,7 @@ private:
 
     void removeFolder(const std::wstring &path);
     void enter(const std::wstring &path, HeldFolder held);
-    void removeOther(const std::wstring &path, DWORD attributes);
+    void removeOther(const std::wstring &path, const EntryAttributes &attributes);
     void leave();
     void note(const Status &status);
 

@@ -29,6 +29,25 @@ Status askWhetherHeld(const std::wstring &path)
     return folder.isValid() ? Status{} : statusFromLastError("CreateFile");
 }
 
+// A new file is compressed where its folder is. Whether it still is has the last word.
+Status storeUncompressed(HANDLE file)
+{
+    USHORT format = COMPRESSION_FORMAT_NONE;
+    DWORD returned = 0;
+    if (!win32().deviceIoControl(file, FSCTL_SET_COMPRESSION, &format, sizeof format, nullptr, 0, &returned,
+                                 nullptr)) {
+        const Status failure = statusFromLastError("FSCTL_SET_COMPRESSION");
+        if (failure.native != ERROR_INVALID_FUNCTION && failure.native != ERROR_NOT_SUPPORTED)
+            return failure;
+    }
+    BY_HANDLE_FILE_INFORMATION now = {};
+    if (!win32().getFileInformation(file, &now))
+        return statusFromLastError("GetFileInformationByHandle");
+    if (now.dwFileAttributes & FILE_ATTRIBUTE_COMPRESSED)
+        return {NotSupported, ERROR_NOT_SUPPORTED, "FSCTL_SET_COMPRESSION"};
+    return {};
+}
+
 } // namespace
 
 Result<std::unique_ptr<AnchoredFolder>> WindowsAnchoredFolder::open(const QString &path)
@@ -66,10 +85,15 @@ Result<std::unique_ptr<FileHandle>> WindowsAnchoredFolder::createFile(const QStr
     const Result<std::wstring> encoded = path ? encodePath(path.value()) : path.status();
     if (!encoded)
         return encoded.status();
-    WinHandle file(win32().createFile(encoded.value().c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
-                                      FILE_ATTRIBUTE_NORMAL | FILE_FLAG_OPEN_REPARSE_POINT, nullptr));
-    if (file.isValid())
+    // Both accesses: only such a handle can be told how to store.
+    WinHandle file(win32().createFile(encoded.value().c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr,
+                                      CREATE_NEW, FILE_ATTRIBUTE_NORMAL | FILE_FLAG_OPEN_REPARSE_POINT,
+                                      nullptr));
+    if (file.isValid()) {
+        if (const Status plain = storeUncompressed(file.get()); !plain)
+            return plain;
         return std::unique_ptr<FileHandle>(std::make_unique<WindowsFileHandle>(std::move(file)));
+    }
     Status failure = statusFromLastError("CreateFile");
     // The system has two numbers for it.
     if (failure.native == ERROR_FILE_EXISTS)

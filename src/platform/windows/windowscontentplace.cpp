@@ -2,12 +2,6 @@
 
 #include "platform/windows/lasterror.h"
 
-#include <QByteArray>
-
-#include <cstddef>
-#include <cstring>
-#include <string_view>
-
 namespace platform {
 
 namespace {
@@ -28,8 +22,16 @@ struct IntegrityInformation
 };
 static_assert(sizeof(IntegrityInformation) == 16);
 
-constexpr qsizetype StreamRoom = 4096;
-constexpr qsizetype LargestStreamRoom = 16LL * 1024 * 1024;
+constexpr DWORD GetExternalBacking = CTL_CODE(FILE_DEVICE_FILE_SYSTEM, 196, METHOD_BUFFERED, FILE_ANY_ACCESS);
+constexpr DWORD NotExternallyBacked = 342;
+
+// What every provider's answer begins with; that there is one is all that is asked.
+struct ExternalBacking
+{
+    DWORD version;
+    DWORD provider;
+    DWORD ofProvider[4];
+};
 
 bool isRemote(HANDLE file)
 {
@@ -45,6 +47,19 @@ ElsewhereReasons reasonsOfAttributes(DWORD attributes)
     if (attributes & FILE_ATTRIBUTE_SPARSE_FILE)
         reasons |= Elsewhere::Sparse;
     return reasons;
+}
+
+// What the system has compressed for its own use shows no attribute of it, and the first write gives it other
+// clusters. Where nobody says that there is no such backing, there may be one.
+bool mayHaveBacking(HANDLE file)
+{
+    ExternalBacking backing = {};
+    DWORD returned = 0;
+    if (win32().deviceIoControl(file, GetExternalBacking, nullptr, 0, &backing, sizeof backing, &returned,
+                                nullptr))
+        return true;
+    const DWORD error = ::GetLastError();
+    return error != NotExternallyBacked && error != ERROR_INVALID_FUNCTION && error != ERROR_NOT_SUPPORTED;
 }
 
 // Clusters with checksums are never overwritten. Where the file system does not say, they may have some.
@@ -68,42 +83,6 @@ bool liesInItsRecord(HANDLE file)
            ::GetLastError() == ERROR_HANDLE_EOF;
 }
 
-Result<QByteArray> streamsOf(HANDLE file)
-{
-    for (qsizetype room = StreamRoom; room <= LargestStreamRoom; room *= 4) {
-        QByteArray streams(room, '\0');
-        if (win32().getFileInformationEx(file, FileStreamInfo, streams.data(), DWORD(room)))
-            return streams;
-        const Status status = statusFromLastError("GetFileInformationByHandleEx");
-        if (status.native == ERROR_HANDLE_EOF)
-            return QByteArray();
-        if (status.native != ERROR_MORE_DATA && status.native != ERROR_INSUFFICIENT_BUFFER)
-            return status;
-    }
-    return Status{MoreData, ERROR_MORE_DATA, "GetFileInformationByHandleEx"};
-}
-
-// Bytes in streams beside the nameless one; below 0 when there is none.
-qint64 bytesInNamedStreams(const QByteArray &streams)
-{
-    constexpr qsizetype Header = offsetof(FILE_STREAM_INFO, StreamName);
-    qint64 bytes = -1;
-    qsizetype at = 0;
-    while (at + Header <= streams.size()) {
-        FILE_STREAM_INFO stream = {};
-        std::memcpy(&stream, streams.constData() + at, std::size_t(Header));
-        const qsizetype room = streams.size() - at - Header;
-        const auto length = qMin(qsizetype(stream.StreamNameLength), room) / qsizetype(sizeof(WCHAR));
-        const auto *const name = reinterpret_cast<const wchar_t *>(streams.constData() + at + Header);
-        if (std::wstring_view(name, std::size_t(length)) != L"::$DATA")
-            bytes = qMax<qint64>(bytes, 0) + stream.StreamSize.QuadPart;
-        if (stream.NextEntryOffset == 0)
-            break;
-        at += stream.NextEntryOffset;
-    }
-    return bytes;
-}
-
 } // namespace
 
 Result<ContentPlace> contentPlaceOf(HANDLE file)
@@ -121,6 +100,8 @@ Result<ContentPlace> contentPlaceOf(HANDLE file)
     ContentPlace place{.elsewhere = {}, .bytes = 0};
     if (isFolder || size > 0) {
         place.elsewhere = reasonsOfAttributes(info.dwFileAttributes);
+        if (!isFolder && mayHaveBacking(file))
+            place.elsewhere |= Elsewhere::Encoded;
         if (isRemote(file))
             place.elsewhere |= Elsewhere::Unknown;
         if ((volume & SupportsIntegrityStreams) && mayHaveChecksums(file))
@@ -132,19 +113,8 @@ Result<ContentPlace> contentPlaceOf(HANDLE file)
             place.elsewhere |= Elsewhere::Inline;
         place.bytes = place.elsewhere ? size : 0;
     }
-    if (isFolder) {
+    if (isFolder)
         place.bytes = -1;
-        return place;
-    }
-    if (volume & FILE_NAMED_STREAMS) {
-        const Result<QByteArray> streams = streamsOf(file);
-        if (!streams)
-            return streams.status();
-        if (const qint64 named = bytesInNamedStreams(streams.value()); named >= 0) {
-            place.elsewhere |= Elsewhere::NamedStreams;
-            place.bytes += named;
-        }
-    }
     return place;
 }
 

@@ -6,7 +6,7 @@
 
 namespace platform {
 
-// Of an open file or folder. Attributes may be all that it was opened for.
+// Of an open file, one stream of it, or a folder. Attributes may be all that it was opened for.
 Result<ContentPlace> contentPlaceOf(HANDLE file);
 
 } // namespace platform

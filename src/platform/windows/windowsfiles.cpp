@@ -8,6 +8,7 @@
 #include "platform/windows/windowsfileid.h"
 #include "platform/windows/windowsfolderhandle.h"
 #include "platform/windows/windowspaths.h"
+#include "platform/windows/windowsstreams.h"
 #include "platform/windows/winhandle.h"
 
 #include <limits>
@@ -17,6 +18,8 @@ namespace platform {
 namespace {
 
 constexpr DWORD ShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+// Nothing is followed, and nothing brought here from a cloud.
+constexpr DWORD AsItIs = FILE_FLAG_OPEN_REPARSE_POINT | FILE_FLAG_OPEN_NO_RECALL;
 
 struct OpenParameters
 {
@@ -44,7 +47,7 @@ OpenParameters parametersOf(OpenMode mode)
 WinHandle openFile(const std::wstring &path, const OpenParameters &how, DWORD disposition)
 {
     return WinHandle(win32().createFile(path.c_str(), how.access, how.share, nullptr, disposition,
-                                        how.flags | FILE_FLAG_OPEN_REPARSE_POINT, nullptr));
+                                        how.flags | AsItIs, nullptr));
 }
 
 // A file that is opened past the cache takes its pages out of the cache when nobody else has it open. Only a
@@ -57,7 +60,7 @@ void dropCached(const std::wstring &path)
 Result<WinHandle> openExisting(const std::wstring &path, OpenMode mode)
 {
     // Opening alone already has effects on what is no regular file.
-    const Result<DWORD> found = attributesOf(path);
+    const Result<EntryAttributes> found = attributesOf(path);
     if (!found)
         return found.status();
     if (const Status refusal = refusalOf(found.value(), "GetFileAttributes"); !refusal)
@@ -68,10 +71,10 @@ Result<WinHandle> openExisting(const std::wstring &path, OpenMode mode)
     if (!file.isValid())
         return statusFromLastError("CreateFile");
     // Something else may have taken its place meanwhile.
-    BY_HANDLE_FILE_INFORMATION opened = {};
-    if (!win32().getFileInformation(file.get(), &opened))
-        return statusFromLastError("GetFileInformationByHandle");
-    if (const Status refusal = refusalOf(opened.dwFileAttributes, "GetFileInformationByHandle"); !refusal)
+    const Result<EntryAttributes> opened = attributesOf(file.get());
+    if (!opened)
+        return opened.status();
+    if (const Status refusal = refusalOf(opened.value(), "GetFileInformationByHandle"); !refusal)
         return refusal;
     return file;
 }
@@ -120,6 +123,42 @@ Result<OpenedInfo> openedInfo(const std::wstring &path)
     return opened;
 }
 
+// A file or folder to be asked about, nothing else.
+Result<WinHandle> openToAsk(const EntryPath &entry)
+{
+    const Result<std::wstring> name = encodePath(entry);
+    if (!name)
+        return name.status();
+    const Result<EntryAttributes> found = attributesOf(name.value());
+    if (!found)
+        return found.status();
+    if (!isPlainFolder(found.value())) {
+        if (const Status refusal = refusalOf(found.value(), "GetFileAttributes"); !refusal)
+            return refusal;
+    }
+    WinHandle file =
+        openFile(name.value(), {FILE_READ_ATTRIBUTES, ShareAll, FILE_FLAG_BACKUP_SEMANTICS}, OPEN_EXISTING);
+    if (!file.isValid())
+        return statusFromLastError("CreateFile");
+    return file;
+}
+
+ContentPlace placeOfStream(const EntryPath &entry, const NamedStream &stream)
+{
+    const ContentPlace unreachable{Elsewhere::NamedStreams, stream.size};
+    const Result<std::wstring> name = encodePath(entry.stream(stream.name));
+    if (!name)
+        return unreachable;
+    const WinHandle opened = openFile(name.value(), {FILE_READ_ATTRIBUTES, ShareAll, 0}, OPEN_EXISTING);
+    return opened.isValid() ? contentPlaceOf(opened.get()).valueOr(unreachable) : unreachable;
+}
+
+void addPlace(ContentPlace &place, const ContentPlace &more)
+{
+    place.elsewhere |= more.elsewhere;
+    place.bytes += more.bytes;
+}
+
 int linkCountOf(const BY_HANDLE_FILE_INFORMATION &file)
 {
     constexpr DWORD Most = std::numeric_limits<int>::max();
@@ -136,15 +175,12 @@ Result<FileInfo> WindowsFiles::info(const EntryPath &entry)
     WIN32_FILE_ATTRIBUTE_DATA found = {};
     if (!win32().getFileAttributesEx(name.value().c_str(), GetFileExInfoStandard, &found))
         return statusFromLastError("GetFileAttributesEx");
-    DWORD tag = 0;
-    if (found.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) {
-        const Result<DWORD> told = reparseTagOf(name.value());
-        if (!told)
-            return told.status();
-        tag = told.value();
-    }
+    const Result<EntryAttributes> attributes = withTag(name.value(), found.dwFileAttributes);
+    if (!attributes)
+        return attributes.status();
     FileInfo info;
-    info.kind = fileKindFromAttributes(found.dwFileAttributes, tag);
+    info.kind = fileKindFromAttributes(attributes.value());
+    info.isInCloud = isInCloud(attributes.value());
     if (info.kind != FileKind::Regular)
         return info;
     info.size = static_cast<qint64>(quint64(found.nFileSizeHigh) << 32 | found.nFileSizeLow);
@@ -183,21 +219,27 @@ Status WindowsFiles::closeGroup(DurabilityGroup &)
 
 Result<ContentPlace> WindowsFiles::contentPlace(const EntryPath &entry)
 {
-    const Result<std::wstring> name = encodePath(entry);
-    if (!name)
-        return name.status();
-    const Result<DWORD> found = attributesOf(name.value());
-    if (!found)
-        return found.status();
-    if (!isPlainFolder(found.value())) {
-        if (const Status refusal = refusalOf(found.value(), "GetFileAttributes"); !refusal)
-            return refusal;
-    }
-    const WinHandle file =
-        openFile(name.value(), {FILE_READ_ATTRIBUTES, ShareAll, FILE_FLAG_BACKUP_SEMANTICS}, OPEN_EXISTING);
-    if (!file.isValid())
-        return statusFromLastError("CreateFile");
-    return contentPlaceOf(file.get());
+    const Result<WinHandle> opened = openToAsk(entry);
+    if (!opened)
+        return opened.status();
+    Result<ContentPlace> place = contentPlaceOf(opened.value().get());
+    // That of a folder is about other files.
+    if (!place || place.value().bytes < 0)
+        return place;
+    const Result<QList<NamedStream>> streams = namedStreamsOf(opened.value().get());
+    if (!streams)
+        return streams.status();
+    for (const NamedStream &stream : streams.value())
+        addPlace(place.value(), placeOfStream(entry, stream));
+    return place;
+}
+
+Result<QList<NamedStream>> WindowsFiles::namedStreams(const EntryPath &entry)
+{
+    const Result<WinHandle> opened = openToAsk(entry);
+    if (!opened)
+        return opened.status();
+    return namedStreamsOf(opened.value().get());
 }
 
 Status WindowsFiles::clearReadOnly(const EntryPath &entry)
@@ -205,10 +247,10 @@ Status WindowsFiles::clearReadOnly(const EntryPath &entry)
     const Result<std::wstring> name = encodePath(entry);
     if (!name)
         return name.status();
-    const Result<DWORD> attributes = attributesOf(name.value());
+    const Result<EntryAttributes> attributes = attributesOf(name.value());
     if (!attributes)
         return isNothingThere(attributes.status().native) ? Status{} : attributes.status();
-    return clearReadOnlyAttribute(name.value(), attributes.value());
+    return clearReadOnlyAttribute(name.value(), attributes.value().bits);
 }
 
 Status WindowsFiles::rename(const EntryPath &from, const EntryPath &to)
@@ -226,7 +268,7 @@ Status WindowsFiles::remove(const EntryPath &entry)
     const Result<std::wstring> name = encodePath(entry);
     if (!name)
         return name.status();
-    const Result<DWORD> attributes = attributesOf(name.value());
+    const Result<EntryAttributes> attributes = attributesOf(name.value());
     if (!attributes)
         return attributes.status();
     if (isFolderLink(attributes.value()))

@@ -24,7 +24,7 @@ Status makeFolder(const std::wstring &path)
     if (status || isNothingThere(status.native))
         return status;
     // Of a root that exists the system says that access is denied, not that it exists.
-    const Result<DWORD> attributes = attributesOf(path);
+    const Result<EntryAttributes> attributes = attributesOf(path);
     if (!attributes)
         return status.native == ERROR_ALREADY_EXISTS ? attributes.status() : status;
     return isPlainFolder(attributes.value()) ? Status{} : status;
@@ -56,8 +56,7 @@ Status WindowsFolders::forEachEntry(const EntryPath &folder, const Visitor &visi
         listing.emplace(name.value());
     }
     return listing->forEach([&](const WIN32_FIND_DATAW &entry) {
-        return visit(decodeName(entry.cFileName),
-                     fileKindFromAttributes(entry.dwFileAttributes, entry.dwReserved0));
+        return visit(decodeName(entry.cFileName), fileKindFromAttributes(attributesOf(entry)));
     });
 }
 
@@ -101,7 +100,7 @@ Status WindowsFolders::removeEmpty(const EntryPath &folder)
     const Result<std::wstring> name = encodePath(folder);
     if (!name)
         return name.status();
-    const Result<DWORD> attributes = attributesOf(name.value());
+    const Result<EntryAttributes> attributes = attributesOf(name.value());
     if (!attributes)
         return attributes.status();
     if (!isPlainFolder(attributes.value()))
@@ -137,7 +136,7 @@ Result<SpaceInfo> WindowsFolders::space(const QString &path)
     if (!name)
         return name.status();
     // The system takes folders only, and would answer for the volume that a link leads to.
-    const Result<DWORD> attributes = attributesOf(name.value());
+    const Result<EntryAttributes> attributes = attributesOf(name.value());
     if (!attributes)
         return attributes.status();
     const std::wstring folder =

@@ -61,6 +61,11 @@ std::wstring parentOf(const std::wstring &path)
     return path.substr(0, end == std::wstring::npos ? root : std::max(root, end));
 }
 
+std::wstring withoutStream(const std::wstring &path)
+{
+    return path.substr(0, path.find(L':', rootLength(path)));
+}
+
 std::wstring entryPath(const std::wstring &folder, std::wstring_view name)
 {
     std::wstring path = folder;

@@ -22,6 +22,9 @@ std::size_t rootLength(std::wstring_view path);
 // The folder that contains the path; the root is its own.
 std::wstring parentOf(const std::wstring &path);
 
+// The path of the entry that the stream belongs to; that of an entry as it is.
+std::wstring withoutStream(const std::wstring &path);
+
 // The entry of that name in the folder.
 std::wstring entryPath(const std::wstring &folder, std::wstring_view name);
 

@@ -1,0 +1,127 @@
+#include "engine/protectedfolders.h"
+#include "filejob.h"
+#include "support/suite.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using platform::OpenMode;
+using platform::Status;
+
+namespace {
+
+// A file of another job's own, which the first openings to overwrite find in use.
+struct HeldFile
+{
+    FileJob job;
+    const QString file = job.makeFile(u"held"_s, 10);
+    int refusals = 0;
+    quint32 code = platform::SharingViolation;
+    bool isStoppedByTheFirst = false;
+
+    HeldFile()
+    {
+        job.setPasses({{PatternType::Zeros}});
+        job.files.hook = [this](const FileCall &call) {
+            if (call.kind != FaultPlan::Open || call.mode != OpenMode::Overwrite || refusals == 0)
+                return Status();
+            --refusals;
+            if (isStoppedByTheFirst)
+                job.stop();
+            return Status{code, 0, "planned"};
+        };
+    }
+    qsizetype attempts() const { return job.files.opened(OpenMode::Overwrite).size(); }
+};
+
+} // namespace
+
+// Files that somebody else has open for moments when they are to be overwritten.
+class tst_OpeningRetries : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void aFileThatIsLetGo();
+    void aFileThatStaysInUse();
+    void otherErrorsAreNotTriedAgain();
+    void aStopEndsTheAttempts();
+    void protectionIsNamedOnce();
+    void otherErrorsAreNoProtection();
+};
+
+void tst_OpeningRetries::aFileThatIsLetGo()
+{
+    HeldFile held;
+    held.refusals = 4;
+    QElapsedTimer clock;
+    clock.start();
+    QVERIFY(held.job.run({held.file}));
+    QCOMPARE(held.attempts(), 5);
+    QVERIFY(clock.elapsed() >= 4 * 50 - 4);
+    QVERIFY(!held.job.lines().contains(said::cannotOpen(held.file)));
+}
+
+void tst_OpeningRetries::aFileThatStaysInUse()
+{
+    HeldFile held;
+    held.refusals = 100;
+    QVERIFY(!held.job.run({held.file}));
+    QCOMPARE(held.attempts(), 5);
+    QCOMPARE(held.job.lines().count(said::cannotOpen(held.file)), 1);
+    QVERIFY(QFile::exists(held.file));
+}
+
+void tst_OpeningRetries::otherErrorsAreNotTriedAgain()
+{
+    HeldFile held;
+    held.refusals = 1;
+    held.code = platform::AccessDenied;
+    QVERIFY(!held.job.run({held.file}));
+    QCOMPARE(held.attempts(), 1);
+}
+
+void tst_OpeningRetries::aStopEndsTheAttempts()
+{
+    HeldFile held;
+    held.refusals = 100;
+    held.isStoppedByTheFirst = true;
+    QVERIFY(!held.job.run({held.file}));
+    QCOMPARE(held.attempts(), 1);
+    QVERIFY(held.job.lines().contains(said::cancelled));
+    QVERIFY(!held.job.lines().contains(said::cannotOpen(held.file)));
+}
+
+// Where there is such a thing.
+void tst_OpeningRetries::protectionIsNamedOnce()
+{
+#ifdef Q_OS_WIN
+    const QStringList expected{
+        u"1 提示: Windows 安全中心的“受控文件夹访问”可能阻止本程序写入，请在其中允许本程序后重试"_s};
+#else
+    const QStringList expected;
+#endif
+    for (const quint32 code : {quint32(platform::AccessDenied), quint32(platform::FileNotFound)}) {
+        HeldFile held;
+        held.refusals = 2;
+        held.code = code;
+        QVERIFY(!held.job.run({held.file, held.job.makeFile(u"b"_s, 10)}));
+        QCOMPARE(held.job.lines().filter(u"受控文件夹"_s), expected);
+    }
+}
+
+void tst_OpeningRetries::otherErrorsAreNoProtection()
+{
+    HeldFile held;
+    held.refusals = 1;
+    held.code = platform::WriteProtect;
+    QVERIFY(!held.job.run({held.file}));
+    QVERIFY(held.job.lines().filter(u"受控文件夹"_s).isEmpty());
+    QVERIFY(ProtectedFolders::hint(platform::NoError).isEmpty());
+}
+
+QUORVEX_SUITE(tst_OpeningRetries, QCoreApplication)
+#include "tst_openingretries.moc"
