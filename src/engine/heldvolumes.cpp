@@ -2,6 +2,7 @@
 
 #include "model/displaytext.h"
 #include "platform/platform.h"
+#include "platform/storagereplies.h"
 
 #include <utility>
 
@@ -52,7 +53,7 @@ QList<HeldVolumes::Found> HeldVolumes::find(int driveNumber)
         const auto query = devices.queryVolume(name);
         if (!query)
             continue;
-        const auto extents = query.value()->extents(platform::ManyExtents);
+        const auto extents = platform::allExtents(*query.value());
         if (!extents || extents.value().isEmpty() || extents.value().first().diskNumber != driveNumber)
             continue;
         found.append({name, extents.value()});

@@ -4,6 +4,7 @@
 #include <QtEndian>
 
 #include <algorithm>
+#include <iterator>
 
 namespace platform {
 
@@ -47,6 +48,22 @@ constexpr quint32 Eui64 = 2;
 constexpr quint32 Naa = 3;
 constexpr quint32 OfUnit = 0; // and not of the port or of the target device
 } // namespace idfield
+
+// DRIVE_LAYOUT_INFORMATION_EX, and within it PARTITION_INFORMATION_EX.
+namespace layoutfield {
+constexpr qsizetype Style = 0;
+constexpr qsizetype Count = 4;
+constexpr qsizetype CountEnd = 8;
+constexpr qsizetype FirstPartition = 48;
+constexpr qsizetype PartitionSize = 144;
+constexpr qsizetype Type = 32;     // one byte in an MBR, 16 in a GPT
+constexpr qsizetype TypeSize = 16; // of a GPT
+constexpr quint32 Mbr = 0;
+constexpr quint32 Gpt = 1;
+} // namespace layoutfield
+
+constexpr QLatin1String StorageSpaces("Storage Spaces");
+constexpr QLatin1String LogicalDisks("LDM"); // the logical disk manager, of dynamic disks
 
 template <typename Number>
 Number numberAt(QByteArrayView bytes, qsizetype offset)
@@ -108,6 +125,29 @@ void putText(QByteArray &reply, qsizetype offsetField, const QString &text)
     reply += '\0';
 }
 
+struct PartitionType
+{
+    const char *hex; // as the bytes stand in a GPT
+    QLatin1String holder;
+};
+constexpr PartitionType HolderTypes[] = {
+    {"8FAF5CE780F6EE4CAFA3B001E56EFC2D", StorageSpaces},
+    {"AAC808588F7EE04285D2E1E90434CFB3", LogicalDisks}, // metadata
+    {"A0609BAF3114624FBC683311714A69AD", LogicalDisks}, // data
+};
+constexpr quint8 MbrLogicalDisks = 0x42;
+
+QLatin1String holderOf(quint32 style, QByteArrayView partition)
+{
+    if (style == layoutfield::Mbr)
+        return numberAt<quint8>(partition, layoutfield::Type) == MbrLogicalDisks ? LogicalDisks
+                                                                                 : QLatin1String();
+    const QByteArrayView type = partition.sliced(layoutfield::Type, layoutfield::TypeSize);
+    const auto *found = std::ranges::find_if(
+        HolderTypes, [type](const PartitionType &known) { return QByteArray::fromHex(known.hex) == type; });
+    return found == std::end(HolderTypes) ? QLatin1String() : found->holder;
+}
+
 } // namespace
 
 DeviceDescriptor decodeDeviceDescriptor(const QByteArray &reply)
@@ -166,11 +206,42 @@ QByteArray encodeExtents(const QList<Extent> &extents)
     return reply;
 }
 
+Result<QList<Extent>> allExtents(DeviceQuery &volume)
+{
+    auto extents = volume.extents(ManyExtents);
+    return extents.code() == MoreData ? volume.extents(AllExtents) : extents;
+}
+
 bool liesOnlyOn(const QList<Extent> &extents, int driveNumber)
 {
     return !extents.isEmpty() && std::ranges::all_of(extents, [driveNumber](const Extent &extent) {
         return extent.diskNumber == driveNumber;
     });
+}
+
+Result<QStringList> decodeHolders(const QByteArray &reply)
+{
+    constexpr const char *Operation = "drive layout";
+    if (reply.size() < layoutfield::CountEnd)
+        return Status{GeneralFailure, 0, Operation};
+    const quint32 style = numberAt<quint32>(reply, layoutfield::Style);
+    // A drive without a table has no partitions that could say anything.
+    if (style != layoutfield::Mbr && style != layoutfield::Gpt)
+        return QStringList();
+    const qint64 counted = numberAt<quint32>(reply, layoutfield::Count);
+    const qint64 room =
+        std::max<qint64>(reply.size() - layoutfield::FirstPartition, 0) / layoutfield::PartitionSize;
+    QStringList holders;
+    for (qint64 i = 0; i < std::min(counted, room); ++i) {
+        const QByteArrayView partition = QByteArrayView(reply).sliced(
+            layoutfield::FirstPartition + i * layoutfield::PartitionSize, layoutfield::PartitionSize);
+        const QLatin1String holder = holderOf(style, partition);
+        if (!holder.isEmpty() && !holders.contains(holder))
+            holders.append(holder);
+    }
+    if (holders.isEmpty() && counted > room)
+        return Status{MoreData, 0, Operation};
+    return holders;
 }
 
 QString decodeWorldWideName(const QByteArray &reply)

@@ -5,10 +5,12 @@
 #include <QByteArray>
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 // Pure functions over the raw bytes in which devices describe themselves. Layouts and numbers are those of
-// the Windows storage stack (STORAGE_DEVICE_DESCRIPTOR, VOLUME_DISK_EXTENTS; winioctl.h), little-endian;
-// other systems fill the same layout, so that one decoder, tested with hand-made replies, serves all.
+// the Windows storage stack (STORAGE_DEVICE_DESCRIPTOR, VOLUME_DISK_EXTENTS and others; winioctl.h),
+// little-endian; other systems fill the same layout, so that one decoder, tested with hand-made replies,
+// serves all.
 
 namespace platform {
 
@@ -49,8 +51,16 @@ QByteArray encodeDeviceDescriptor(const DeviceDescriptor &descriptor);
 QList<Extent> decodeExtents(const QByteArray &reply);
 QByteArray encodeExtents(const QList<Extent> &extents);
 
+// Where a volume lies, in however many stretches.
+Result<QList<Extent>> allExtents(DeviceQuery &volume);
+
 // Whether a volume lies on that drive and nowhere else; false when it does not tell where.
 bool liesOnlyOn(const QList<Extent> &extents, int driveNumber);
+
+// What the partitions in a reply (DRIVE_LAYOUT_INFORMATION_EX) say that the system has built on the drive,
+// each once: "Storage Spaces", "LDM". MoreData when the reply holds fewer partitions than it counts and none
+// of them says so, GeneralFailure when it is too short to count any.
+Result<QStringList> decodeHolders(const QByteArray &reply);
 
 // The world-wide name among the identifiers in a reply (STORAGE_DEVICE_ID_DESCRIPTOR): of those that name the
 // unit itself the NAA one, else the EUI-64. Empty when there is neither.

@@ -53,10 +53,7 @@ QSet<int> diskNumbers(const QList<platform::Extent> &extents)
 
 QSet<int> disksOf(platform::DeviceQuery &volume)
 {
-    auto extents = volume.extents(platform::ManyExtents);
-    if (extents.code() == platform::MoreData)
-        extents = volume.extents(platform::AllExtents);
-    return diskNumbers(extents.valueOr({}));
+    return diskNumbers(platform::allExtents(volume).valueOr({}));
 }
 
 // The disks under a system volume. One that does not tell counts as lying on the likely disk: better to guard

@@ -1,8 +1,10 @@
 #include "platform/storagereplies.h"
 #include "support/suite.h"
 
+#include <QByteArrayList>
 #include <QDebug>
 #include <QRandomGenerator>
+#include <QStringList>
 #include <QTest>
 
 #include <algorithm>
@@ -65,6 +67,25 @@ constexpr int FirstIdentifier = 12;
 constexpr int EuiIdentifier = 12 + 24 + 20;
 constexpr int NaaIdentifier = EuiIdentifier + 24;
 
+// Types of partitions as their GUIDs stand in a GPT.
+constexpr const char *EfiSystem = "28732AC11FF8D211BA4B00A0C93EC93B";
+constexpr const char *Reserved = "16E3C9E35C0BB84D817DF92DF00215AE";
+constexpr const char *BasicData = "A2A0D0EBE5B9334487C068B6B72699C7";
+constexpr const char *StorageSpaces = "8FAF5CE780F6EE4CAFA3B001E56EFC2D";
+constexpr const char *LdmMetadata = "AAC808588F7EE04285D2E1E90434CFB3";
+constexpr const char *LdmData = "A0609BAF3114624FBC683311714A69AD";
+
+// An entry of a partition table in a reply, with what is nobody's affair filled in.
+QByteArray gpt(const QByteArray &type)
+{
+    return QByteArray(32, '\x42') + QByteArray::fromHex(type) + QByteArray(96, '\x42');
+}
+
+QByteArray mbr(quint8 type)
+{
+    return QByteArray(32, '\x42') + char(type) + QByteArray(111, '\x42');
+}
+
 constexpr int ProductIdOffset = 16;
 constexpr int SerialNumberOffset = 24;
 constexpr int FixedPart = 36;
@@ -73,6 +94,14 @@ void putOffset(QByteArray &reply, int field, quint32 offset)
 {
     for (int i = 0; i < 4; ++i)
         reply[field + i] = char(uchar(offset >> (8 * i)));
+}
+
+QByteArray layout(quint32 style, quint32 count, const QByteArrayList &partitions)
+{
+    QByteArray reply(48, '\x42');
+    putOffset(reply, 0, style);
+    putOffset(reply, 4, count);
+    return reply + partitions.join();
 }
 
 // A reply whose product string is the bytes up to the end of the reply.
@@ -139,6 +168,10 @@ private slots:
     void everyShorterIdentifierReplyIsSafe();
     void identifiersBehindTheCountOrTheLastAreNotRead();
 
+    void partitionsNameWhatIsBuiltOnTheDrive_data();
+    void partitionsNameWhatIsBuiltOnTheDrive();
+    void aLayoutThatCountsMoreThanItHoldsIsNotWhole();
+    void everyShorterLayoutReplyIsSafe();
     void theSameDriveHasSerialNumberAndSize_data();
     void theSameDriveHasSerialNumberAndSize();
 
@@ -449,6 +482,67 @@ void tst_StorageReplies::identifiersBehindTheCountOrTheLastAreNotRead()
     decodeExactly(platform::decodeWorldWideName, reply);
 }
 
+void tst_StorageReplies::partitionsNameWhatIsBuiltOnTheDrive_data()
+{
+    QTest::addColumn<QByteArray>("reply");
+    QTest::addColumn<QStringList>("holders");
+    const QStringList none;
+    const QStringList spaces{u"Storage Spaces"_s};
+    const QStringList ldm{u"LDM"_s};
+    QTest::newRow("no table") << layout(2, 0, {}) << none;
+    // Whatever stands where partitions would.
+    QTest::newRow("no table, rest of one") << layout(2, 1, {gpt(StorageSpaces)}) << none;
+    QTest::newRow("unknown style") << layout(3, 1, {gpt(StorageSpaces)}) << none;
+    QTest::newRow("empty MBR") << layout(0, 0, {}) << none;
+    QTest::newRow("empty GPT") << layout(1, 0, {}) << none;
+    QTest::newRow("GPT, data") << layout(1, 2, {gpt(EfiSystem), gpt(BasicData)}) << none;
+    QTest::newRow("GPT, Storage Spaces") << layout(1, 2, {gpt(Reserved), gpt(StorageSpaces)}) << spaces;
+    QTest::newRow("GPT, first of three")
+        << layout(1, 3, {gpt(StorageSpaces), gpt(BasicData), gpt(BasicData)}) << spaces;
+    QTest::newRow("GPT, LDM metadata") << layout(1, 1, {gpt(LdmMetadata)}) << ldm;
+    QTest::newRow("GPT, LDM data") << layout(1, 1, {gpt(LdmData)}) << ldm;
+    QTest::newRow("GPT, once each") << layout(1, 4,
+                                              {gpt(LdmMetadata), gpt(StorageSpaces), gpt(LdmData),
+                                               gpt(StorageSpaces)})
+                                    << ldm + spaces;
+    QTest::newRow("GPT, not counted") << layout(1, 1, {gpt(BasicData), gpt(StorageSpaces)}) << none;
+    QTest::newRow("GPT, one bit off")
+        << layout(1, 1, {gpt(QByteArray(StorageSpaces).replace("8FAF", "8EAF"))}) << none;
+    QTest::newRow("GPT, a type in an MBR's place") << layout(1, 1, {mbr(0x42)}) << none;
+    QTest::newRow("MBR, data") << layout(0, 4, {mbr(0x07), mbr(0x0C), mbr(0), mbr(0)}) << none;
+    QTest::newRow("MBR, LDM") << layout(0, 4, {mbr(0x42), mbr(0), mbr(0), mbr(0)}) << ldm;
+    QTest::newRow("MBR, the last") << layout(0, 4, {mbr(0x07), mbr(0), mbr(0), mbr(0x42)}) << ldm;
+    QTest::newRow("MBR, a GPT's type") << layout(0, 1, {gpt(LdmMetadata)}) << none;
+}
+
+void tst_StorageReplies::partitionsNameWhatIsBuiltOnTheDrive()
+{
+    QFETCH(QByteArray, reply);
+    QFETCH(QStringList, holders);
+    QCOMPARE(platform::decodeHolders(reply).value(), holders);
+}
+
+void tst_StorageReplies::aLayoutThatCountsMoreThanItHoldsIsNotWhole()
+{
+    for (const quint32 count : {2u, 5u, 0x7FFFFFFFu, 0xFFFFFFFFu}) {
+        QCOMPARE(decodeExactly(platform::decodeHolders, layout(1, count, {gpt(BasicData)})).code(),
+                 quint32(platform::MoreData));
+        // What is found counts all the same.
+        QCOMPARE(decodeExactly(platform::decodeHolders, layout(1, count, {gpt(LdmData)})).value(),
+                 QStringList{u"LDM"_s});
+    }
+}
+
+void tst_StorageReplies::everyShorterLayoutReplyIsSafe()
+{
+    const QByteArray whole = layout(1, 2, {gpt(BasicData), gpt(StorageSpaces)});
+    for (qsizetype length = 0; length < whole.size(); ++length) {
+        const quint32 expected = length < 8 ? platform::GeneralFailure : platform::MoreData;
+        QCOMPARE(decodeExactly(platform::decodeHolders, whole.first(length)).code(), expected);
+    }
+    QCOMPARE(decodeExactly(platform::decodeHolders, whole).value(), QStringList{u"Storage Spaces"_s});
+}
+
 void tst_StorageReplies::theSameDriveHasSerialNumberAndSize_data()
 {
     QTest::addColumn<QString>("serial");
@@ -490,7 +584,7 @@ void tst_StorageReplies::randomRepliesAreSafe()
     qInfo() << "seed" << seed;
     QRandomGenerator random(seed);
     for (int round = 0; round < 20'000; ++round) {
-        QByteArray reply(random.bounded(160), '\0');
+        QByteArray reply(random.bounded(400), '\0');
         for (char &byte : reply)
             byte = char(uchar(random.bounded(256)));
         // Half of the offsets and counts near the reply, where mistakes by one show.
@@ -509,6 +603,8 @@ void tst_StorageReplies::randomRepliesAreSafe()
         QCOMPARE(again.serialNumber, descriptor.serialNumber);
         const QString name = decodeExactly(platform::decodeWorldWideName, reply);
         QVERIFY(name.isEmpty() || name.startsWith(u"naa."_s) || name.startsWith(u"eui."_s));
+        const QStringList holders = decodeExactly(platform::decodeHolders, reply).valueOr({});
+        QVERIFY(holders.size() <= 2);
         const QList<Extent> extents = decodeExactly(platform::decodeExtents, reply);
         QVERIFY(extents.size() * 24 + 8 <= std::max<qsizetype>(reply.size(), 8));
         QCOMPARE(platform::decodeExtents(platform::encodeExtents(extents)), extents);

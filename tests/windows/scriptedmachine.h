@@ -35,7 +35,8 @@ QByteArray naaIdentifier(const QByteArray &digits);
 QByteArray extentsHeader(quint32 count);
 QByteArray extent(qint32 disk, qint64 offset, qint64 bytes);
 
-// A drive's partition table up to its first entry, and entries of it; the type of a GPT in hexadecimal digits.
+// A drive's partition table up to its first entry, and entries of it; the type of a GPT in hexadecimal
+// digits.
 QByteArray layout(quint32 style, quint32 count);
 QByteArray gptPartition(const QByteArray &type);
 QByteArray mbrPartition(quint8 type);

@@ -220,6 +220,10 @@ private slots:
     void extentCountsThatLie();
     void aDriveWithoutMediumIsNotReady();
     void onlyWriteProtectionMakesADriveReadOnly();
+    void membersOfSomethingAreNamed();
+    void aLayoutThatIsNotWholeMayHoldAnything_data();
+    void aLayoutThatIsNotWholeMayHoldAnything();
+    void aDriveThatTellsNoLayoutIsHeldByNobody();
 
     void everyFailureIsPassedOn_data();
     void everyFailureIsPassedOn();
@@ -381,7 +385,14 @@ void tst_WindowsDevices::requestsHaveTheirCodesAndSizes()
     QVERIFY(drive.value()->descriptor().ok() && asked(0x002D1400, 12, 10000));
     QVERIFY(drive.value()->seekPenalty().ok() && asked(0x002D1400, 12, 12));
     QVERIFY(drive.value()->trimEnabled().ok() && asked(0x002D1400, 12, 12));
-    QVERIFY(drive.value()->use().ok() && asked(0x00070024, 0, 0));
+    QVERIFY(volume.value()->use().ok() && asked(0x00070024, 0, 0));
+    QVERIFY(drive.value()->use().ok());
+    const QList<Win32Faults::Control> ofUse = machine.faults.controls();
+    machine.faults.forget();
+    QCOMPARE(ofUse.size(), 2);
+    QCOMPARE(ofUse.at(0).code, DWORD(0x00070050));
+    QCOMPARE(ofUse.at(0).outputSize, DWORD(48 + 1024 * 144));
+    QCOMPARE(ofUse.at(1).code, DWORD(0x00070024));
     QVERIFY(volume.value()->extents(ManyExtents).ok() && asked(0x00560000, 0, 800));
     QVERIFY(volume.value()->extents(OneExtent).ok() && asked(0x00560000, 0, 32));
     QVERIFY(raw.value()->bytesPerSector().ok() && asked(0x00070000, 0, 24));
@@ -554,6 +565,60 @@ void tst_WindowsDevices::onlyWriteProtectionMakesADriveReadOnly()
     QVERIFY(isReadOnlyAt(ERROR_WRITE_PROTECT));
     for (const DWORD error : {ERROR_SUCCESS, ERROR_INVALID_FUNCTION, ERROR_NOT_READY, ERROR_NOT_SUPPORTED})
         QVERIFY2(!isReadOnlyAt(DWORD(error)), QByteArray::number(quint32(error)).constData());
+}
+
+void tst_WindowsDevices::membersOfSomethingAreNamed()
+{
+    ScriptedMachine machine;
+    WindowsDevices devices;
+    auto drive = devices.queryDrive(ScriptedMachine::Number);
+    const auto holders = [&](const QByteArray &layout) {
+        machine.script(machine.drive, IOCTL_DISK_GET_DRIVE_LAYOUT_EX, layout);
+        return drive.value()->use().value().holders;
+    };
+    const QByteArray basic = replies::gptPartition("A2A0D0EBE5B9334487C068B6B72699C7");
+    QCOMPARE(holders(replies::layout(1, 1) + basic), QStringList());
+    QCOMPARE(
+        holders(replies::layout(1, 2) + basic + replies::gptPartition("8FAF5CE780F6EE4CAFA3B001E56EFC2D")),
+        QStringList{QStringLiteral("Storage Spaces")});
+    QCOMPARE(holders(replies::layout(0, 4) + replies::mbrPartition(0x42) + QByteArray(3 * 144, '\0')),
+             QStringList{QStringLiteral("LDM")});
+    // The question is one to a drive; a volume of it knows only what releases it.
+    auto volume = devices.queryVolume(QStringLiteral("E:"));
+    QCOMPARE(volume.value()->use().value().holders, QStringList());
+    QCOMPARE(volume.value()->use().value().releaseCommands, QStringList{QStringLiteral("mountvol E: /P")});
+}
+
+void tst_WindowsDevices::aLayoutThatIsNotWholeMayHoldAnything_data()
+{
+    QTest::addColumn<quint32>("error");
+    QTest::addColumn<QByteArray>("layout");
+    QTest::newRow("counted, not told") << 0u << replies::layout(1, 3) + QByteArray(144, '\0');
+    QTest::newRow("too long for its reply") << quint32(ERROR_INSUFFICIENT_BUFFER) << QByteArray();
+    QTest::newRow("more data") << quint32(ERROR_MORE_DATA) << QByteArray();
+}
+
+void tst_WindowsDevices::aLayoutThatIsNotWholeMayHoldAnything()
+{
+    QFETCH(const quint32, error);
+    QFETCH(const QByteArray, layout);
+    ScriptedMachine machine;
+    machine.faults.setReply(machine.drive, IOCTL_DISK_GET_DRIVE_LAYOUT_EX, {error, layout, {}});
+    auto drive = WindowsDevices().queryDrive(ScriptedMachine::Number);
+    QCOMPARE(drive.value()->use().value().holders,
+             QStringList{QStringLiteral("partitions that the system does not tell")});
+}
+
+// As one whose first sector is damaged, or whose driver does not know the question.
+void tst_WindowsDevices::aDriveThatTellsNoLayoutIsHeldByNobody()
+{
+    ScriptedMachine machine;
+    auto drive = WindowsDevices().queryDrive(ScriptedMachine::Number);
+    for (const DWORD error :
+         {ERROR_INVALID_FUNCTION, ERROR_NOT_READY, ERROR_NOT_SUPPORTED, ERROR_IO_DEVICE}) {
+        machine.refuse(machine.drive, IOCTL_DISK_GET_DRIVE_LAYOUT_EX, error);
+        QCOMPARE(drive.value()->use().value().holders, QStringList());
+    }
 }
 
 void tst_WindowsDevices::everyFailureIsPassedOn_data()

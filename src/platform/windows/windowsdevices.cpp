@@ -166,7 +166,7 @@ Result<std::unique_ptr<DeviceQuery>> WindowsDevices::queryDrive(int number)
     Result<WinHandle> drive = openForQuery(drivePath(number));
     if (!drive)
         return drive.status();
-    return std::unique_ptr<DeviceQuery>(std::make_unique<WindowsQuery>(drive.take()));
+    return std::unique_ptr<DeviceQuery>(std::make_unique<WindowsDriveQuery>(drive.take()));
 }
 
 Result<std::unique_ptr<DeviceQuery>> WindowsDevices::queryVolume(const QString &name)
@@ -177,9 +177,7 @@ Result<std::unique_ptr<DeviceQuery>> WindowsDevices::queryVolume(const QString &
     Result<WinHandle> volume = openForQuery(path);
     if (!volume)
         return volume.status();
-    // Takes the volume's letter and the volume offline.
-    const QStringList release{QStringLiteral("mountvol %1 /P").arg(name)};
-    return std::unique_ptr<DeviceQuery>(std::make_unique<WindowsQuery>(volume.take(), release));
+    return std::unique_ptr<DeviceQuery>(std::make_unique<WindowsVolumeQuery>(volume.take(), name));
 }
 
 Result<std::unique_ptr<RawDevice>> WindowsDevices::openDrive(const DriveIdentity &drive, DriveAccess access)

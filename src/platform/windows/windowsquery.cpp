@@ -15,12 +15,19 @@ constexpr DWORD DescriptorRoom = 10000;
 constexpr DWORD IdentifiersRoom = 1024;
 constexpr DWORD ExtentsHeader = 8;
 constexpr DWORD ExtentSize = 24;
+constexpr DWORD LayoutRoom = 48 + 144 * 1024; // eight times the partitions of a usual table
+
+// Named where the system does not tell all partitions of a drive.
+constexpr QLatin1String UntoldPartitions("partitions that the system does not tell");
 
 // What the replies have room for is part of what drivers are asked.
 static_assert(sizeof(DISK_GEOMETRY_EX) == 40);
 static_assert(sizeof(STORAGE_PROPERTY_QUERY) == 12);
 static_assert(sizeof(DEVICE_SEEK_PENALTY_DESCRIPTOR) == 12);
 static_assert(sizeof(DEVICE_TRIM_DESCRIPTOR) == 12);
+static_assert(offsetof(DRIVE_LAYOUT_INFORMATION_EX, PartitionEntry) == 48 &&
+              sizeof(PARTITION_INFORMATION_EX) == 144);
+static_assert(offsetof(PARTITION_INFORMATION_EX, Gpt.PartitionType) == 32);
 static_assert(offsetof(VOLUME_DISK_EXTENTS, Extents) == ExtentsHeader && sizeof(DISK_EXTENT) == ExtentSize);
 
 struct Question
@@ -132,6 +139,13 @@ Result<QList<Extent>> askExtents(HANDLE volume, int maxExtents)
     return decodeExtents(reply.value());
 }
 
+Result<QStringList> askHolders(HANDLE drive)
+{
+    const Result<QByteArray> reply =
+        deviceReply(drive, IOCTL_DISK_GET_DRIVE_LAYOUT_EX, {0, LayoutRoom}, "IOCTL_DISK_GET_DRIVE_LAYOUT_EX");
+    return reply ? decodeHolders(reply.value()) : reply.status();
+}
+
 Result<bool> WindowsQuery::seekPenalty()
 {
     return askFlag(m_device.get(), StorageDeviceSeekPenaltyProperty,
@@ -139,19 +153,34 @@ Result<bool> WindowsQuery::seekPenalty()
                    "StorageDeviceSeekPenaltyProperty");
 }
 
-Result<DeviceUse> WindowsQuery::use()
-{
-    DWORD returned = 0;
-    const Status writable = statusOf(win32().deviceIoControl(m_device.get(), IOCTL_DISK_IS_WRITABLE, nullptr,
-                                                             0, nullptr, 0, &returned, nullptr),
-                                     "IOCTL_DISK_IS_WRITABLE");
-    return DeviceUse{writable.code == WriteProtect, {}, m_releaseCommands};
-}
-
 Result<bool> WindowsQuery::trimEnabled()
 {
     return askFlag(m_device.get(), StorageDeviceTrimProperty, offsetof(DEVICE_TRIM_DESCRIPTOR, TrimEnabled),
                    "StorageDeviceTrimProperty");
+}
+
+bool WindowsQuery::isReadOnly() const
+{
+    DWORD returned = 0;
+    const Status writable = statusOf(
+        win32().deviceIoControl(handle(), IOCTL_DISK_IS_WRITABLE, nullptr, 0, nullptr, 0, &returned, nullptr),
+        "IOCTL_DISK_IS_WRITABLE");
+    return writable.code == WriteProtect;
+}
+
+// A drive that does not answer the question, as one with a damaged first sector, can still be erased; one
+// whose answer is not whole may have anything on it.
+Result<DeviceUse> WindowsDriveQuery::use()
+{
+    const Result<QStringList> holders = askHolders(handle());
+    const bool isCut = holders.code() == MoreData || holders.code() == ERROR_INSUFFICIENT_BUFFER;
+    return DeviceUse{isReadOnly(), isCut ? QStringList{UntoldPartitions} : holders.valueOr({}), {}};
+}
+
+Result<DeviceUse> WindowsVolumeQuery::use()
+{
+    // Takes the volume's letter and the volume offline.
+    return DeviceUse{isReadOnly(), {}, {QStringLiteral("mountvol %1 /P").arg(m_name)}};
 }
 
 } // namespace platform

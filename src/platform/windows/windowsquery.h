@@ -26,14 +26,15 @@ Result<Geometry> askGeometry(HANDLE drive);
 Result<QByteArray> askDescriptor(HANDLE drive);
 Result<QString> askWorldWideName(HANDLE drive);
 Result<QList<Extent>> askExtents(HANDLE volume, int maxExtents);
+// What the system has built on a drive, by name.
+Result<QStringList> askHolders(HANDLE drive);
 
 // A drive or volume, by a handle to ask it.
 class WindowsQuery : public DeviceQuery
 {
 public:
-    explicit WindowsQuery(WinHandle device, QStringList releaseCommands = {})
+    explicit WindowsQuery(WinHandle device)
         : m_device(std::move(device))
-        , m_releaseCommands(std::move(releaseCommands))
     {}
 
     Result<Geometry> geometry() override { return askGeometry(m_device.get()); }
@@ -41,12 +42,36 @@ public:
     Result<QString> worldWideName() override { return askWorldWideName(m_device.get()); }
     Result<bool> seekPenalty() override;
     Result<bool> trimEnabled() override;
-    Result<DeviceUse> use() override;
     Result<QList<Extent>> extents(int maxExtents) override { return askExtents(m_device.get(), maxExtents); }
+
+protected:
+    HANDLE handle() const { return m_device.get(); }
+    bool isReadOnly() const;
 
 private:
     WinHandle m_device;
-    QStringList m_releaseCommands;
+};
+
+class WindowsDriveQuery : public WindowsQuery
+{
+public:
+    using WindowsQuery::WindowsQuery;
+
+    Result<DeviceUse> use() override;
+};
+
+class WindowsVolumeQuery : public WindowsQuery
+{
+public:
+    WindowsVolumeQuery(WinHandle volume, QString name)
+        : WindowsQuery(std::move(volume))
+        , m_name(std::move(name))
+    {}
+
+    Result<DeviceUse> use() override;
+
+private:
+    QString m_name;
 };
 
 } // namespace platform
