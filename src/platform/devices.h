@@ -227,6 +227,11 @@ public:
     // Windows: "A:" to "Z:". Linux: the mount points of block devices, one per device, in mount order.
     virtual QStringList volumeNames() = 0;
 
+    // Every volume under the name that the system itself has for it, whether or not volumeNames() has it too,
+    // as queryVolume() takes it; openVolume() takes none of these. Windows: FindFirstVolumeW,
+    // "\\?\Volume{...}", also those without a letter. Linux: NotSupported, the mount points are the names.
+    virtual Result<QStringList> machineVolumes() = 0;
+
     // Windows: QStorageInfo::mountedVolumes, GetDriveTypeW. Linux: the same mount points as volumeNames, with
     // room and label.
     virtual QList<MountedVolume> mountedVolumes() = 0;

@@ -218,6 +218,7 @@ public:
         return m_target.releaseVolumes(drive);
     }
     QStringList volumeNames() override { return m_target.volumeNames(); }
+    Result<QStringList> machineVolumes() override { return m_target.machineVolumes(); }
     QList<MountedVolume> mountedVolumes() override { return m_target.mountedVolumes(); }
 
 protected:

@@ -13,6 +13,7 @@
 
 #include <functional>
 #include <optional>
+#include <utility>
 
 namespace diagnosis {
 
@@ -205,7 +206,12 @@ QList<Section> devices()
         add(sections, u"drive %1"_s.arg(number), DiskManager::driveKey(number),
             [number] { return aboutDrive(number); });
     }
-    for (const QString &name : currentDevices().volumeNames())
+    QStringList volumes = currentDevices().volumeNames();
+    const Result<QStringList> machineVolumes = currentDevices().machineVolumes();
+    if (!machineVolumes && machineVolumes.code() != platform::NotSupported)
+        sections.append({u"volumes of the machine"_s, {{u"listed"_s, {}, machineVolumes.status()}}});
+    volumes += machineVolumes.valueOr({});
+    for (const QString &name : std::as_const(volumes))
         add(sections, u"volume %1"_s.arg(name), name, [name] { return aboutVolume(name); });
     for (const platform::MountedVolume &volume : currentDevices().mountedVolumes())
         sections.append(aboutMounted(volume));

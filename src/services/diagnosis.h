@@ -28,9 +28,9 @@ struct Section
 /// The running system, who uses it, and which volumes it stands on. Any thread.
 Section system();
 
-/// The drives numbered as DiskManager numbers them, then the volumes by their names, then the mounted ones as
-/// the system lists them. One that does not exist is left out; one that does not answer within the time of
-/// limitedquestion is told as such. Any thread.
+/// The drives numbered as DiskManager numbers them, then the volumes by their names, also those that have one
+/// for the system alone, then the mounted ones as the system lists them. One that does not exist is left out;
+/// one that does not answer within the time of limitedquestion is told as such. Any thread.
 QList<Section> devices();
 
 } // namespace diagnosis

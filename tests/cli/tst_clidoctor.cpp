@@ -204,6 +204,8 @@ void tst_CliDoctor::holdersAndVolumesAreTold()
     FakeVolume mute = FakeVolume::onDrives(u"/mnt/b"_s, {0});
     mute.extentsAnswer = fakeFailure(platform::NotReady);
     devices.mount(mute);
+    devices.volumes.insert(u"hidden"_s, FakeVolume::onDrives(u"hidden"_s, {0}));
+    devices.machineNames = QStringList{u"hidden"_s};
     const Machine machine(devices);
     CliRun run;
     run({u"doctor"_s});
@@ -218,6 +220,12 @@ void tst_CliDoctor::holdersAndVolumesAreTold()
              qPrintable(place));
     QCOMPARE(answer(u"lies on"_s, u"volume /mnt/b"_s), u"error 21, fake device"_s);
     QCOMPARE(answer(u"label"_s, u"mounted at /mnt/a/"_s), u"Photos"_s);
+    QVERIFY(answer(u"lies on"_s, u"volume hidden"_s).startsWith(u"drive 0 from byte "_s));
+
+    devices.machineNames = fakeFailure(platform::AccessDenied);
+    CliRun refused;
+    refused({u"doctor"_s});
+    QCOMPARE(answerTo(u"listed"_s, u"volumes of the machine"_s, refused.io.out), u"error 5, fake device"_s);
 }
 
 void tst_CliDoctor::aSilentDriveIsToldAndTheOthersFollow()

@@ -68,6 +68,7 @@ public:
     QMap<int, FakeDrive> drives;
     QMap<QString, FakeVolume> volumes; // what queryVolume knows
     QStringList mountOrder;            // of those names, what is mounted
+    platform::Result<QStringList> machineNames = fakeFailure(platform::NotSupported);
 
     QMap<int, Questions> asked; // by drive
     QStringList volumesOpened;  // every attempt, in order
@@ -88,6 +89,7 @@ public:
         return {.failure = fakeFailure(platform::NotSupported)};
     }
     QStringList volumeNames() override { return mountOrder; }
+    platform::Result<QStringList> machineVolumes() override { return machineNames; }
 
     QList<platform::MountedVolume> mountedVolumes() override;
 

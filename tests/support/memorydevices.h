@@ -99,6 +99,10 @@ public:
     openVolume(const QString &name, const platform::DriveIdentity &identity) override;
     platform::VolumeRelease releaseVolumes(const platform::DriveIdentity &identity) override;
     QStringList volumeNames() override;
+    platform::Result<QStringList> machineVolumes() override
+    {
+        return platform::Status{platform::NotSupported, 0, "memory devices"};
+    }
     QList<platform::MountedVolume> mountedVolumes() override;
 
 private:

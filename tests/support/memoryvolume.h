@@ -55,10 +55,10 @@ public:
     qint64 largestFile = 0;               // 0: any size
     platform::ElsewhereReasons elsewhere; // what contentPlace() tells of every path
     platform::Result<int> snapshotAnswer = failure(platform::NotSupported);
-    QStringList unremovable;              // remove() fails with SharingViolation
-    QMap<QString, QString> identities;    // of the volumes, by root
-    QStringList heldByOthers;             // folders that somebody else has claimed
-    bool knowsClaims = true;              // whether folders can be claimed at all
+    QStringList unremovable;           // remove() fails with SharingViolation
+    QMap<QString, QString> identities; // of the volumes, by root
+    QStringList heldByOthers;          // folders that somebody else has claimed
+    bool knowsClaims = true;           // whether folders can be claimed at all
 
     // What tests look at.
     QList<Write> writes;

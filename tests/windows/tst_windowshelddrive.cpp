@@ -4,6 +4,7 @@
 #include "windows/scriptedmachine.h"
 
 #include <QCoreApplication>
+#include <QSet>
 #include <QTest>
 
 #include <cstring>
@@ -54,6 +55,7 @@ private slots:
     void volumesThatCannotBeListedAreInTheWay();
     void aVolumeThatDoesNotTellItsPlaceIsLeftAlone();
     void oneVolumeByTwoNamesIsLockedOnce();
+    void machineVolumesAreAskedAndNotOpened();
     void aMachineWithoutVolumesHasNoneInTheWay();
     void noFailureLeavesAnythingHeld_data();
     void noFailureLeavesAnythingHeld();
@@ -233,6 +235,27 @@ void tst_WindowsHeldDrive::noFailureLeavesAnythingHeld()
     // and 2 dismounts; whatever failed at a lock was tried again where it is in use for a moment.
     const int locks = error == AccessDenied ? 0 : 2;
     QCOMPARE(refused, 4 + 4 + 2 * (1 + 1 + 1 + 4) + locks);
+}
+
+void tst_WindowsHeldDrive::machineVolumesAreAskedAndNotOpened()
+{
+    Machine machine;
+    WindowsDevices devices;
+    const auto names = devices.machineVolumes();
+    QVERIFY(names.ok());
+    QCOMPARE(QSet<QString>(names.value().cbegin(), names.value().cend()),
+             (QSet<QString>{machine.boot, machine.rescue, machine.elsewhere}));
+    const auto volume = devices.queryVolume(machine.elsewhere);
+    QVERIFY(volume.ok());
+    QCOMPARE(volume.value()->extents(AllExtents).value().constFirst().diskNumber, 1);
+    QCOMPARE(volume.value()->use().value().releaseCommands, QStringList());
+
+    machine.faults.forget();
+    for (const QString &other : {machine.boot + u'\\', machine.boot.chopped(1), machine.boot + u'\n',
+                                 QStringLiteral(R"(\\?\PhysicalDrive3)"), machine.boot.mid(4)})
+        QCOMPARE(devices.queryVolume(other).code(), quint32(FileNotFound));
+    QCOMPARE(devices.openVolume(machine.boot, machine.identity).code(), quint32(FileNotFound));
+    QVERIFY(machine.faults.openings().isEmpty());
 }
 
 QUORVEX_SUITE(tst_WindowsHeldDrive, QCoreApplication)

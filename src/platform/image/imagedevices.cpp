@@ -247,6 +247,13 @@ QStringList ImageDevices::volumeNames()
     return m_onlyImages ? QStringList() : m_base.volumeNames();
 }
 
+Result<QStringList> ImageDevices::machineVolumes()
+{
+    if (m_onlyImages)
+        return QStringList();
+    return m_base.machineVolumes();
+}
+
 QList<MountedVolume> ImageDevices::mountedVolumes()
 {
     return m_onlyImages ? QList<MountedVolume>() : m_base.mountedVolumes();

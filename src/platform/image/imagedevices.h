@@ -26,6 +26,7 @@ public:
                                                      const DriveIdentity &drive) override;
     VolumeRelease releaseVolumes(const DriveIdentity &drive) override;
     QStringList volumeNames() override;
+    Result<QStringList> machineVolumes() override;
     QList<MountedVolume> mountedVolumes() override;
 
 private:

@@ -23,6 +23,7 @@ public:
                                                      const DriveIdentity &drive) override;
     VolumeRelease releaseVolumes(const DriveIdentity &drive) override;
     QStringList volumeNames() override;
+    Result<QStringList> machineVolumes() override { return Status{NotSupported, 0, "volumes"}; }
     QList<MountedVolume> mountedVolumes() override;
 
 private:

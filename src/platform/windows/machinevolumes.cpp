@@ -2,6 +2,8 @@
 
 #include "platform/windows/lasterror.h"
 
+#include <QRegularExpression>
+
 #include <array>
 
 namespace platform {
@@ -61,6 +63,12 @@ Result<QStringList> machineVolumes()
     if (search.status().native != ERROR_NO_MORE_FILES)
         return search.status();
     return paths;
+}
+
+bool isMachineVolume(const QString &name)
+{
+    static const QRegularExpression form(QStringLiteral(R"(\A\\\\\?\\Volume\{[0-9A-Za-z-]+\}\z)"));
+    return form.match(name).hasMatch();
 }
 
 } // namespace platform

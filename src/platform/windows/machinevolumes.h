@@ -9,4 +9,7 @@ namespace platform {
 // Every volume of the machine, with a letter or without, as the path that opens it: "\\?\Volume{...}".
 Result<QStringList> machineVolumes();
 
+// Whether the name has the form of these paths.
+bool isMachineVolume(const QString &name);
+
 } // namespace platform

@@ -171,7 +171,7 @@ Result<std::unique_ptr<DeviceQuery>> WindowsDevices::queryDrive(int number)
 
 Result<std::unique_ptr<DeviceQuery>> WindowsDevices::queryVolume(const QString &name)
 {
-    const QString path = volumePath(name);
+    const QString path = isMachineVolume(name) ? name : volumePath(name);
     if (path.isEmpty())
         return Status{FileNotFound, 0, "volume name"};
     Result<WinHandle> volume = openForQuery(path);
@@ -231,6 +231,11 @@ QStringList WindowsDevices::volumeNames()
     for (char16_t letter = u'A'; letter <= u'Z'; ++letter)
         names.append(QString(QChar(letter)) + u':');
     return names;
+}
+
+Result<QStringList> WindowsDevices::machineVolumes()
+{
+    return platform::machineVolumes();
 }
 
 QList<MountedVolume> WindowsDevices::mountedVolumes()

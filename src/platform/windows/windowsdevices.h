@@ -16,6 +16,7 @@ public:
                                                      const DriveIdentity &drive) override;
     VolumeRelease releaseVolumes(const DriveIdentity &drive) override;
     QStringList volumeNames() override;
+    Result<QStringList> machineVolumes() override;
     QList<MountedVolume> mountedVolumes() override;
 };
 

@@ -2,6 +2,7 @@
 
 #include "platform/storagereplies.h"
 #include "platform/windows/lasterror.h"
+#include "platform/windows/machinevolumes.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -179,8 +180,12 @@ Result<DeviceUse> WindowsDriveQuery::use()
 
 Result<DeviceUse> WindowsVolumeQuery::use()
 {
+    DeviceUse use;
+    use.isReadOnly = isReadOnly();
     // Takes the volume's letter and the volume offline.
-    return DeviceUse{isReadOnly(), {}, {QStringLiteral("mountvol %1 /P").arg(m_name)}};
+    if (!isMachineVolume(m_name))
+        use.releaseCommands = QStringList{QStringLiteral("mountvol %1 /P").arg(m_name)};
+    return use;
 }
 
 } // namespace platform
