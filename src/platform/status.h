@@ -56,6 +56,7 @@ enum ErrorCode : quint32 {
     FileCorrupt = 1392,
     DeviceRemoved = 1617,
     CannotAccessFile = 1920,
+    EncryptedVolumeLocked = 0x80310000, // FVE_E_LOCKED_VOLUME
 };
 
 // Success, or the number shown to users together with what diagnostics need: the system's own number and the
