@@ -1161,7 +1161,9 @@ void tst_DiskWipeWorker::failedFlushFailsThePass()
         job.chooseDrive(memory.drive(0));
         QVERIFY(!job.run(devices));
         QVERIFY(job.endedProperly());
-        QVERIFY(job.log().contains(u"2 刷新写入失败，错误码: 1117"_s));
+        const qsizetype at = job.log().indexOf(u"2 刷新写入失败，错误码: 1117"_s);
+        QVERIFY(at >= 0);
+        QCOMPARE(job.log().at(at + 1), u"2 错误: 设备或介质故障"_s);
         QVERIFY(!job.log().contains(u"0 正在验证..."_s));
         QCOMPARE(job.errors(), QStringList(u"覆写失败"_s));
         QCOMPARE(job.report().wipedSectors, 0ULL);
