@@ -5,6 +5,7 @@
 #include "cli/translate.h"
 #include "engine/driveidentity.h"
 #include "model/displaytext.h"
+#include "platform/devicefailure.h"
 #include "platform/devices.h"
 #include "platform/platform.h"
 #include "services/diskmanager.h"
@@ -146,7 +147,7 @@ std::optional<Refusal> probeDrive(const DiskInfo &disk)
     if (opened.code() == platform::AccessDenied)
         return Refusal{Refused,
                        notPermitted(Cli::tr("not permitted to write to drive %1").arg(disk.diskNumber))};
-    if (opened.code() == platform::NotReady)
+    if (platform::isDeviceGone(opened.code()))
         return Refusal{Refused,
                        Cli::tr("drive %1 is gone, or another one has taken its place").arg(disk.diskNumber)};
     if (opened.code() == platform::WriteProtect)

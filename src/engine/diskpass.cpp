@@ -1,5 +1,6 @@
 #include "engine/diskpass.h"
 
+#include "engine/failurewords.h"
 #include "model/formatsize.h"
 #include "model/wipetask.h"
 
@@ -210,9 +211,16 @@ DiskPass::VolumeEnd DiskPass::endOfVolume(const platform::Status &failure, qint6
         m_job.note(tr("错误: I/O 设备错误"), DiskJob::Error);
         break;
     default:
+        noteMeaning(failure);
         break;
     }
     return VolumeEnd::Failed;
+}
+
+void DiskPass::noteMeaning(const platform::Status &failure)
+{
+    if (const QString words = FailureWords::of(failure.code); !words.isEmpty())
+        m_job.note(words, DiskJob::Error);
 }
 
 bool DiskPass::flush(platform::RawDevice &device)
@@ -220,6 +228,7 @@ bool DiskPass::flush(platform::RawDevice &device)
     const platform::Status flushed = device.flush();
     if (!flushed) {
         m_job.note(tr("刷新写入失败，错误码: %1").arg(flushed.code), DiskJob::Error);
+        noteMeaning(flushed);
         m_job.diagnose(flushed);
     }
     return flushed.ok();

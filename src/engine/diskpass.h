@@ -57,6 +57,7 @@ private:
     void noteUncovered(qsizetype index, qint64 bytes);
     VolumeEnd writeVolumeChunks(platform::VolumeDevice &volume, qint64 size, qint64 &position, qint64 &total);
     VolumeEnd endOfVolume(const platform::Status &failure, qint64 position);
+    void noteMeaning(const platform::Status &failure);
     bool flush(platform::RawDevice &device);
     bool verify(const PassPattern &pattern);
     qint64 bufferSize() const;

@@ -1,5 +1,6 @@
 #include "engine/freespacefill.h"
 
+#include "engine/failurewords.h"
 #include "engine/fillfolder.h"
 #include "engine/foreseeable.h"
 #include "engine/volumespace.h"
@@ -112,19 +113,23 @@ bool FreeSpaceFill::writeFiles()
             if (!writeFile(*file.value(), bytesInFile))
                 return false;
         }
-        if (bytesInFile < m_volume.chunkLimit || m_job.isStopping()) {
-            if (!m_job.isStopping())
-                noteRoomLeft();
+        if (m_job.isStopping())
             return true;
-        }
+        if (bytesInFile < m_volume.chunkLimit)
+            return noteRoomLeft();
     }
 }
 
 // Quotas, and what a file system keeps for its administrator.
-void FreeSpaceFill::noteRoomLeft()
+bool FreeSpaceFill::noteRoomLeft()
 {
     const auto free = m_folder.freeBytes();
-    const qint64 room = free.valueOr(0) - m_pass.reserve;
+    // A volume that is gone takes nothing either.
+    if (!free) {
+        m_space.noteGone(free.status());
+        return false;
+    }
+    const qint64 room = free.value() - m_pass.reserve;
     if (room >= SmallRoom) {
         m_job.note(tr("警告: 文件系统不再接受数据，仍有 %1 空闲空间未填满").arg(formatSize(room)),
                    RunningJob::Warning);
@@ -132,6 +137,7 @@ void FreeSpaceFill::noteRoomLeft()
     }
     if (room > 0 && m_pass.written == 0)
         m_job.noteShortfall({ShortfallKind::NothingWritten, m_volume.root, room});
+    return true;
 }
 
 bool FreeSpaceFill::endWithoutFile(const platform::Status &status)
@@ -140,15 +146,15 @@ bool FreeSpaceFill::endWithoutFile(const platform::Status &status)
     const QString reason = status.systemText();
     m_job.note(tr("无法创建填充文件: %1").arg(reason.isEmpty() ? tr("错误码: %1").arg(status.code) : reason),
                RunningJob::Warning);
-    if (VolumeSpace::isGone(status.code)) {
-        m_space.noteGone(status);
+    const auto free = m_folder.freeBytes();
+    // Whatever the file's own answer was, a volume that does not even tell its room is not there any more.
+    if (VolumeSpace::isGone(status.code) || !free) {
+        m_space.noteGone(VolumeSpace::isGone(status.code) ? status : free.status());
         return false;
     }
     // There was room when the file was to be made.
     const ShortfallKind kind = m_pass.written == 0 ? ShortfallKind::NothingWritten : ShortfallKind::RoomLeft;
-    const auto free = m_folder.freeBytes();
-    m_job.noteShortfall(
-        {kind, m_volume.root, free ? std::max<qint64>(free.value() - m_pass.reserve, 0) : -1});
+    m_job.noteShortfall({kind, m_volume.root, std::max<qint64>(free.value() - m_pass.reserve, 0)});
     return true;
 }
 
@@ -176,6 +182,8 @@ bool FreeSpaceFill::writeFile(platform::FileHandle &file, qint64 &bytesInFile)
             m_job.note(tr("写入错误，位置: %1，错误码: %2")
                            .arg(QString::number(m_pass.written), QString::number(written.code())),
                        RunningJob::Error);
+            if (const QString words = FailureWords::of(written.code()); !words.isEmpty())
+                m_job.note(words, RunningJob::Error);
             return false;
         }
         if (written.value() < 1)

@@ -54,7 +54,7 @@ private:
     bool writeFile(platform::FileHandle &file, qint64 &bytesInFile);
     platform::Result<qint64> writeChunk(platform::FileHandle &file, qint64 size, qint64 nextSize);
     bool countFilled();
-    void noteRoomLeft();
+    bool noteRoomLeft();
     bool endWithoutFile(const platform::Status &status);
 
     RunningJob &m_job;

@@ -1,6 +1,8 @@
 #include "engine/heldvolumes.h"
 
+#include "engine/failurewords.h"
 #include "model/displaytext.h"
+#include "platform/devicefailure.h"
 #include "platform/platform.h"
 #include "platform/storagereplies.h"
 
@@ -74,6 +76,8 @@ void HeldVolumes::hold(const Found &found, const platform::DriveIdentity &drive)
     if (!opened) {
         m_job.note(tr("无法打开卷 %1，错误码: %2").arg(shownName, QString::number(opened.code())),
                    DiskJob::Error);
+        if (platform::isLockedByEncryption(opened.code()))
+            m_job.note(FailureWords::of(opened.code()), DiskJob::Error);
         m_job.diagnose(opened.status());
         m_job.noteShortfall({.kind = ShortfallKind::VolumeNotOpened, .place = found.name});
         return;

@@ -1,5 +1,7 @@
 #include "engine/volumespace.h"
 
+#include "platform/devicefailure.h"
+
 #include <QDeadlineTimer>
 #include <QDebug>
 
@@ -73,11 +75,9 @@ bool VolumeSpace::isGone(quint32 code)
     case platform::FileNotFound: // under the mount point of a volume that was unmounted
     case platform::PathNotFound:
     case platform::WriteProtect: // what a file system makes of itself after an error
-    case platform::NotReady:
-    case platform::IoDevice:
         return true;
     default:
-        return false;
+        return platform::isDeviceGone(code) || platform::isMediumFault(code);
     }
 }
 

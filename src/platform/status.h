@@ -57,6 +57,7 @@ enum ErrorCode : quint32 {
     DeviceRemoved = 1617,
     CannotAccessFile = 1920,
     FileOffline = 4350,
+    EncryptedVolumeLocked = 0x80310000, // FVE_E_LOCKED_VOLUME
 };
 
 // Success, or the number shown to users together with what diagnostics need: the system's own number and the

@@ -50,6 +50,8 @@ private slots:
     void anUnknownDriveIsRefused();
     void withoutPermissionNothingIsAttempted();
     void aDriveThatChangedIsRefused();
+    void aDriveThatIsGoneIsRefused_data();
+    void aDriveThatIsGoneIsRefused();
     void withoutConfirmationNothingIsOpened();
     void typingEraseRunsTheJob();
     void aFailedJobIsToldAsSuch();
@@ -423,6 +425,30 @@ void tst_CliWipeDisk::aDriveThatChangedIsRefused()
     run(wipeDrive(0, {}));
     QCOMPARE(run.code, 3);
     QVERIFY2(run.complains("taken its place"), run.io.err.constData());
+    QVERIFY(isUntouched(machine, 0));
+}
+
+void tst_CliWipeDisk::aDriveThatIsGoneIsRefused_data()
+{
+    QTest::addColumn<quint32>("error");
+    for (const quint32 error : {21u, 55u, 433u, 1110u, 1167u, 1617u})
+        QTest::addRow("%u", error) << error;
+}
+
+void tst_CliWipeDisk::aDriveThatIsGoneIsRefused()
+{
+    QFETCH(const quint32, error);
+    MemoryMachine machine;
+    addDrive(machine);
+    machine.answer = [error](const DeviceCall &call) {
+        return call.method == QLatin1String("openDrive")
+                   ? fakeFailure(static_cast<platform::ErrorCode>(error))
+                   : platform::Status{};
+    };
+    CliRun run;
+    run(wipeDrive(0));
+    QCOMPARE(run.code, 3);
+    QVERIFY2(run.complains("is gone"), run.io.err.constData());
     QVERIFY(isUntouched(machine, 0));
 }
 

@@ -140,9 +140,11 @@ private slots:
     void extendedIoFailureIsIgnored();
     void volumeThatDoesNotOpenIsOnlyLogged();
     void noVolumeOpens();
+    void volumeThatNobodyHasUnlockedIsToldInWords();
     void volumesThatCannotBeAskedAreSkipped_data();
     void volumesThatCannotBeAskedAreSkipped();
     void volumeThatBeginsOnAnotherDriveIsLeftAlone();
+    void volumeInManyPiecesIsHeldToo();
     void namesAreShownWithoutControlCharacters();
     void driveThatDoesNotOpenIsWipedThroughItsVolumes();
     void driveWithoutGeometryIsMeasuredThroughItsVolumes_data();
@@ -726,6 +728,21 @@ void tst_DiskWipeWorker::noVolumeOpens()
     QCOMPARE(memory.openings(), 0);
 }
 
+void tst_DiskWipeWorker::volumeThatNobodyHasUnlockedIsToldInWords()
+{
+    MemoryDevices memory;
+    addTwoVolumeDrive(memory);
+    InterposedDevices devices(memory, failing("openVolume"_L1, platform::EncryptedVolumeLocked, u"E:"_s));
+    DiskWipeJob job;
+    job.chooseDrive(memory.drive(3));
+    QVERIFY(job.run(devices));
+    const QStringList log = job.log();
+    const qsizetype at = log.indexOf(u"2 无法打开卷 E:，错误码: 2150694912"_s);
+    QVERIFY(at >= 0);
+    QCOMPARE(log.at(at + 1),
+             u"2 错误: 卷已加密且未解锁 (BitLocker)，请先解锁该卷，或擦除整个磁盘 (--whole)"_s);
+}
+
 void tst_DiskWipeWorker::volumesThatCannotBeAskedAreSkipped_data()
 {
     QTest::addColumn<QString>("method");
@@ -765,6 +782,25 @@ void tst_DiskWipeWorker::volumeThatBeginsOnAnotherDriveIsLeftAlone()
     QVERIFY(job.run(devices));
     QVERIFY(job.log().contains(u"0 共找到 2 个需要锁定的卷"_s));
     QVERIFY(devices.medium(5) == markedMedium(MiB));
+}
+
+// As file systems on dynamic disks may lie.
+void tst_DiskWipeWorker::volumeInManyPiecesIsHeldToo()
+{
+    MemoryDevices devices;
+    devices.addDrive(markedDrive(3, TwoVolumeSize));
+    MemoryDriveVolume scattered;
+    scattered.name = u"E:"_s;
+    constexpr qint64 Piece = 8192;
+    for (int i = 0; i < 2 * platform::ManyExtents; ++i)
+        scattered.extents.append({3, i * 2 * Piece, Piece});
+    devices.addVolume(scattered);
+    DiskWipeJob job;
+    job.chooseDrive(devices.drive(3));
+    QVERIFY(job.run(devices));
+    QVERIFY(job.log().contains(u"0 找到卷: E:"_s));
+    QVERIFY(job.log().contains(u"0 通过卷句柄进行擦除..."_s));
+    QCOMPARE(devices.heldLocks(), 0);
 }
 
 void tst_DiskWipeWorker::namesAreShownWithoutControlCharacters()
@@ -974,20 +1010,27 @@ void tst_DiskWipeWorker::driveWithoutProgressFails()
 
 void tst_DiskWipeWorker::volumeWriteErrors_data()
 {
-    QTest::addColumn<int>("code");
+    QTest::addColumn<quint32>("code");
     QTest::addColumn<QString>("extra");
-    QTest::newRow("5") << 5 << u"log 2 错误: 访问被拒绝"_s;
-    QTest::newRow("19") << 19 << u"log 2 错误: 磁盘写保护"_s;
-    QTest::newRow("21") << 21 << u"log 2 错误: 设备未就绪"_s;
-    QTest::newRow("32") << 32 << u"log 2 错误: 磁盘被占用"_s;
-    QTest::newRow("33") << 33 << u"log 2 错误: 锁定冲突"_s;
-    QTest::newRow("1117") << 1117 << u"log 2 错误: I/O 设备错误"_s;
-    QTest::newRow("other") << 112 << QString();
+    QTest::newRow("5") << 5u << u"log 2 错误: 访问被拒绝"_s;
+    QTest::newRow("19") << 19u << u"log 2 错误: 磁盘写保护"_s;
+    QTest::newRow("21") << 21u << u"log 2 错误: 设备未就绪"_s;
+    QTest::newRow("32") << 32u << u"log 2 错误: 磁盘被占用"_s;
+    QTest::newRow("33") << 33u << u"log 2 错误: 锁定冲突"_s;
+    QTest::newRow("1117") << 1117u << u"log 2 错误: I/O 设备错误"_s;
+    for (const quint32 code : {20u, 34u, 55u, 59u, 64u, 433u, 1006u, 1110u, 1112u, 1167u, 1235u, 1617u})
+        QTest::addRow("gone, %u", code) << code << u"log 2 错误: 设备已断开，或介质已更换"_s;
+    for (const quint32 code : {31u, 483u, 1005u, 1392u})
+        QTest::addRow("fails, %u", code) << code << u"log 2 错误: 设备或介质故障"_s;
+    QTest::newRow("encrypted")
+        << 0x80310000u
+        << u"log 2 错误: 卷已加密且未解锁 (BitLocker)，请先解锁该卷，或擦除整个磁盘 (--whole)"_s;
+    QTest::newRow("other") << 112u << QString();
 }
 
 void tst_DiskWipeWorker::volumeWriteErrors()
 {
-    QFETCH(int, code);
+    QFETCH(quint32, code);
     QFETCH(QString, extra);
     MemoryDevices memory;
     addTwoVolumeDrive(memory);
@@ -1118,7 +1161,9 @@ void tst_DiskWipeWorker::failedFlushFailsThePass()
         job.chooseDrive(memory.drive(0));
         QVERIFY(!job.run(devices));
         QVERIFY(job.endedProperly());
-        QVERIFY(job.log().contains(u"2 刷新写入失败，错误码: 1117"_s));
+        const qsizetype at = job.log().indexOf(u"2 刷新写入失败，错误码: 1117"_s);
+        QVERIFY(at >= 0);
+        QCOMPARE(job.log().at(at + 1), u"2 错误: 设备或介质故障"_s);
         QVERIFY(!job.log().contains(u"0 正在验证..."_s));
         QCOMPARE(job.errors(), QStringList(u"覆写失败"_s));
         QCOMPARE(job.report().wipedSectors, 0ULL);

@@ -41,6 +41,8 @@ private slots:
     void fillFileThatCannotBeCreatedEndsThePass();
     void fillFileThatCannotBeCreatedOnALostVolumeFails_data();
     void fillFileThatCannotBeCreatedOnALostVolumeFails();
+    void volumeLostAtTheLastFillFileFails();
+    void volumeLostAtTheEndOfAFillFileFails();
     void fillFileThatCannotBeRemovedDoesNotStopTheOthers();
     void fillFileThatIsHeldForAMomentIsRemoved();
     void fillFileThatIsHeldBetweenPassesIsRemovedAtTheEnd();
@@ -416,7 +418,14 @@ void tst_FreeSpaceWipeFaults::failedWriteIsNeverASuccess()
     prepare(job);
     job.run();
     QVERIFY(job.failed());
-    QCOMPARE(job.log.last(), (LogLine{u"写入错误，位置: 2097152，错误码: %1"_s.arg(error), 2}));
+    QVERIFY(job.logged(u"写入错误，位置: 2097152，错误码: %1"_s.arg(error), 2));
+    // In words where the number alone says little.
+    QString words;
+    if (error == platform::NotReady)
+        words = u"错误: 设备已断开，或介质已更换"_s;
+    if (error == platform::IoDevice || error == platform::GeneralFailure)
+        words = u"错误: 设备或介质故障"_s;
+    QCOMPARE(job.log.last().text.startsWith(u"错误: "_s) ? job.log.last().text : QString(), words);
     QCOMPARE(job.errors, QStringList{u"填充空闲空间失败"_s});
     QCOMPARE(fillFilesLeft(machine.volume), QStringList());
     QVERIFY(machine.volume.pathsBelow(Root).filter(u"quorvex"_s).isEmpty());
@@ -433,7 +442,7 @@ void tst_FreeSpaceWipeFaults::failedFlushIsAFailedWrite()
     prepare(job);
     job.run();
     QVERIFY(job.failed());
-    QCOMPARE(job.log.last(), (LogLine{u"写入错误，位置: 1048576，错误码: 1117"_s, 2}));
+    QVERIFY(job.logged(u"写入错误，位置: 1048576，错误码: 1117"_s, 2));
     QCOMPARE(plan.seen(), 2); // not retried
     QCOMPARE(job.errors, QStringList{u"填充空闲空间失败"_s});
 }
@@ -466,6 +475,9 @@ void tst_FreeSpaceWipeFaults::fillFileThatCannotBeCreatedOnALostVolumeFails_data
     QTest::newRow("input/output") << platform::IoDevice;
     QTest::newRow("unmounted") << platform::PathNotFound;
     QTest::newRow("read-only after an error") << platform::WriteProtect;
+    for (const quint32 code :
+         {20u, 31u, 34u, 55u, 59u, 64u, 433u, 483u, 1005u, 1006u, 1110u, 1112u, 1167u, 1235u, 1392u, 1617u})
+        QTest::addRow("%u", code) << static_cast<platform::ErrorCode>(code);
 }
 
 void tst_FreeSpaceWipeFaults::fillFileThatCannotBeCreatedOnALostVolumeFails()
@@ -483,6 +495,49 @@ void tst_FreeSpaceWipeFaults::fillFileThatCannotBeCreatedOnALostVolumeFails()
                                              {u"无法创建填充文件: 错误码: %1"_s.arg(error), 1},
                                              {u"卷不再可用，错误码: %1"_s.arg(error), 2},
                                          }));
+    QCOMPARE(job.errors, QStringList{u"填充空闲空间失败"_s});
+}
+
+// The volume goes away in the last pass, and the file's own answer does not say so.
+void tst_FreeSpaceWipeFaults::volumeLostAtTheLastFillFileFails()
+{
+    Machine machine;
+    furnish(machine.volume, Reserve + 2 * MiB);
+    FaultPlan plan(FaultPlan::Open | FaultPlan::Space, 1, platform::AccessDenied, FaultPlan::FromThenOn);
+    int opened = 0;
+    machine.volume.onCall = [&](FaultPlan::Kind kind, const QString &path) {
+        if (kind == FaultPlan::Open && path.endsWith(u"/fill_000000.tmp"_s) &&
+            !path.contains(u"0badcafe"_s) && ++opened == 2)
+            machine.volume.setPlan(&plan);
+    };
+    Job job;
+    prepare(job);
+    job.run();
+    QCOMPARE(opened, 2);
+    QVERIFY(job.failed());
+    QVERIFY(job.logged(u"卷不再可用，错误码: 5"_s, 2));
+    QCOMPARE(job.errors, QStringList{u"填充空闲空间失败"_s});
+}
+
+// What takes nothing more need not be full.
+void tst_FreeSpaceWipeFaults::volumeLostAtTheEndOfAFillFileFails()
+{
+    Machine machine;
+    furnish(machine.volume, Reserve + 2 * MiB);
+    FaultPlan full(FaultPlan::Write, 1, platform::DiskFull);
+    FaultPlan gone(FaultPlan::Space, 1, platform::AccessDenied, FaultPlan::FromThenOn);
+    machine.volume.setPlan(&full);
+    machine.volume.onCall = [&](FaultPlan::Kind, const QString &) {
+        if (full.fired() > 0)
+            machine.volume.setPlan(&gone);
+    };
+    Job job;
+    prepare(job);
+    job.setPasses({{PatternType::Zeros}});
+    job.run();
+    QCOMPARE(full.fired(), 1);
+    QVERIFY(job.failed());
+    QVERIFY(job.logged(u"卷不再可用，错误码: 5"_s, 2));
     QCOMPARE(job.errors, QStringList{u"填充空闲空间失败"_s});
 }
 

@@ -70,6 +70,9 @@ private slots:
     void mediaThatCannotGoOfflineStayLocked_data();
     void mediaThatCannotGoOfflineStayLocked();
     void aVolumeThatStaysMountedIsInTheWay();
+    void aVolumeThatNobodyHasUnlockedIsNotInTheWay_data();
+    void aVolumeThatNobodyHasUnlockedIsNotInTheWay();
+    void noOtherAnswerOfEncryptionExcusesALock();
     void aDriveThatStaysOfflineIsTold();
 };
 
@@ -270,6 +273,40 @@ void tst_WindowsReleasedVolumes::aVolumeThatStaysMountedIsInTheWay()
     QCOMPARE(released.failure.code, quint32(AccessDenied));
     QCOMPARE(released.volume, u"F:"_s);
     QCOMPARE(machine.faults.openHandles(), 0);
+}
+
+void tst_WindowsReleasedVolumes::aVolumeThatNobodyHasUnlockedIsNotInTheWay_data()
+{
+    QTest::addColumn<bool>("goesOffline");
+    QTest::newRow("disk") << true;
+    QTest::newRow("stick") << false;
+}
+
+void tst_WindowsReleasedVolumes::aVolumeThatNobodyHasUnlockedIsNotInTheWay()
+{
+    QFETCH(const bool, goesOffline);
+    Machine machine;
+    machine.refuse(machine.second, Lock, EncryptedVolumeLocked);
+    machine.refuse(machine.second, Dismount, EncryptedVolumeLocked);
+    if (!goesOffline)
+        machine.refuse(machine.drive, SetAttributes, ERROR_NOT_SUPPORTED);
+    const VolumeRelease released = release(machine);
+    QVERIFY2(released.volumes, qPrintable(released.failure.diagnostic()));
+    QCOMPARE(machine.deeds().count(u"lock F:"_s), 1);
+    QCOMPARE(machine.deeds().contains(u"dismount E:"_s), !goesOffline);
+    QCOMPARE(released.volumes->holds(u"F:"_s), !goesOffline);
+}
+
+void tst_WindowsReleasedVolumes::noOtherAnswerOfEncryptionExcusesALock()
+{
+    for (const DWORD error : {0x80310001, 0x80310009, 0x80310017, 0x80320000}) {
+        Machine machine;
+        machine.refuse(machine.second, Lock, error);
+        const VolumeRelease released = release(machine);
+        QVERIFY(!released.volumes);
+        QCOMPARE(released.failure.code, quint32(error));
+        QCOMPARE(released.volume, u"F:"_s);
+    }
 }
 
 void tst_WindowsReleasedVolumes::aDriveThatStaysOfflineIsTold()

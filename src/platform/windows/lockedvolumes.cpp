@@ -1,5 +1,6 @@
 #include "platform/windows/lockedvolumes.h"
 
+#include "platform/devicefailure.h"
 #include "platform/windows/win32calls.h"
 
 #include <algorithm>
@@ -17,8 +18,10 @@ Status lockPatiently(VolumeDevice &volume)
 {
     for (int attempt = 1;; ++attempt) {
         Status locked = volume.lock();
-        if (locked)
-            return locked;
+        // One that nobody has unlocked is in nobody's use, and may refuse a lock as it refuses everything
+        // else.
+        if (locked || isLockedByEncryption(locked.code))
+            return {};
         if (locked.code == AccessDenied && attempt < LockAttempts) {
             ::Sleep(BetweenAttempts);
             continue;
@@ -43,7 +46,8 @@ Status LockedVolumes::lock(Volume volume)
 Status LockedVolumes::dismount(QString &volume)
 {
     for (const Volume &held : m_volumes) {
-        if (const Status dismounted = held.device->dismount(); !dismounted) {
+        const Status dismounted = held.device->dismount();
+        if (!dismounted && !isLockedByEncryption(dismounted.code)) {
             volume = held.name;
             return dismounted;
         }
