@@ -47,6 +47,7 @@ class tst_NamedStreams : public QObject
 
 private slots:
     void streamsReceiveEveryPass();
+    void progressIsThatOfTheContent();
     void streamsAreReadBack();
     void streamsOfAnEmptyFile();
     void emptyStreamsAreLeft();
@@ -76,6 +77,23 @@ void tst_NamedStreams::streamsReceiveEveryPass()
                                        said::pass(2, 2), said::deleting, said::allDone(1), said::succeeded}));
     QVERIFY(job.task.outcome().shortfalls().isEmpty());
     QCOMPARE(job.task.outcome().written(), 2 * (10 + 700'000 + 3));
+}
+
+// A report of it is due while a stream is written.
+void tst_NamedStreams::progressIsThatOfTheContent()
+{
+    StreamedFiles files(machineFiles());
+    FileJob job(files);
+    job.setPasses({{PatternType::Zeros}});
+    const QString stream = job.makeFile(u"a@one"_s, 5);
+    job.files.hook = [&stream](const FileCall &call) {
+        if (call.kind == FaultPlan::Write && call.path == stream)
+            QTest::qSleep(150);
+        return Status();
+    };
+    QVERIFY(job.run({job.makeFile(u"a"_s, 10)}));
+    for (const qint64 bytes : job.said.bytes())
+        QVERIFY2(bytes <= 10, QByteArray::number(bytes).constData());
 }
 
 void tst_NamedStreams::streamsAreReadBack()

@@ -95,6 +95,7 @@ class tst_RepeatedFiles : public QObject
 
 private slots:
     void twoWaysToOneFolder();
+    void twoWaysToAHardLink();
     void twoSpellingsOfOneName();
     void aSurveyCountsThemOnce();
     void hardLinksAreSeveralFiles();
@@ -113,6 +114,19 @@ void tst_RepeatedFiles::twoWaysToOneFolder()
     QVERIFY(job.lines().contains(said::allDone(2)));
     QCOMPARE(job.files.calls(FaultPlan::Write).size(), 2);
     QVERIFY(job.task.outcome().shortfalls().isEmpty());
+}
+
+// Its number says nothing, its folder does.
+void tst_RepeatedFiles::twoWaysToAHardLink()
+{
+    FileJob job;
+    job.setPasses({{PatternType::Zeros}});
+    const QString file = job.makeFile(u"p/a"_s, 10);
+    job.makeFolder(u"p/sub"_s);
+    std::filesystem::create_hard_link(file.toStdU16String(), job.path(u"other"_s).toStdU16String());
+    QVERIFY(job.run({file, job.path(u"p/sub/../a"_s)}));
+    QVERIFY(job.lines().contains(said::preparing(1, u"10 B"_s)));
+    QCOMPARE(job.files.calls(FaultPlan::Write).size(), 1);
 }
 
 void tst_RepeatedFiles::twoSpellingsOfOneName()
