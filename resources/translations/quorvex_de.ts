@@ -1400,6 +1400,14 @@
         <source>%1; try it with sudo</source>
         <translation>%1; mit sudo versuchen</translation>
     </message>
+    <message>
+        <source>Tells what drives and volumes answer, for whoever helps from afar</source>
+        <translation>Sagt, was Laufwerke und Volumes antworten, für Hilfe aus der Ferne</translation>
+    </message>
+    <message>
+        <source>Nothing is written. The answers are in English in every language and have serial numbers and paths in them: look through them before you send them on.</source>
+        <translation>Es wird nichts geschrieben. Die Antworten sind in jeder Sprache englisch und enthalten Seriennummern und Pfade: Sehen Sie sie durch, bevor Sie sie weitergeben.</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>
@@ -1886,6 +1894,21 @@ Ein Löschzertifikat wurde erstellt.</translation>
     </message>
 </context>
 <context>
+    <name>FailureWords</name>
+    <message>
+        <source>错误: 卷已加密且未解锁 (BitLocker)，请先解锁该卷，或擦除整个磁盘 (--whole)</source>
+        <translation>Fehler: Das Volume ist verschlüsselt und nicht entsperrt (BitLocker). Entsperren Sie es, oder löschen Sie das ganze Laufwerk (--whole)</translation>
+    </message>
+    <message>
+        <source>错误: 设备已断开，或介质已更换</source>
+        <translation>Fehler: Das Gerät wurde getrennt, oder das Medium wurde gewechselt</translation>
+    </message>
+    <message>
+        <source>错误: 设备或介质故障</source>
+        <translation>Fehler: Das Gerät oder sein Medium ist defekt</translation>
+    </message>
+</context>
+<context>
     <name>FileSelectPage</name>
     <message>
         <source>Select Files to Shred</source>
@@ -1950,6 +1973,14 @@ Ein Löschzertifikat wurde erstellt.</translation>
     <message>
         <source>Added %1 items, total %2</source>
         <translation>Hinzugefügte Elemente: %1, insgesamt %2</translation>
+    </message>
+    <message>
+        <source>1 item could not be found</source>
+        <translation>1 Element wurde nicht gefunden</translation>
+    </message>
+    <message>
+        <source>%1 items could not be found</source>
+        <translation>%1 Elemente wurden nicht gefunden</translation>
     </message>
 </context>
 <context>
@@ -2064,6 +2095,18 @@ Ein Löschzertifikat wurde erstellt.</translation>
     <message>
         <source>任务期间又出现 %1 个文件，同样进行擦除</source>
         <translation>Während des Auftrags sind %1 weitere Dateien erschienen, sie werden ebenfalls gelöscht</translation>
+    </message>
+    <message>
+        <source>文件内容不在本机，仅保存在云端，无法擦除: %1</source>
+        <translation>Der Inhalt der Datei ist nicht auf diesem Computer, sondern nur in der Cloud, und kann nicht gelöscht werden: %1</translation>
+    </message>
+    <message>
+        <source>文件夹内容未全部在本机，部分仅保存在云端，无法擦除: %1</source>
+        <translation>Nicht alles in dem Ordner ist auf diesem Computer, manches nur in der Cloud; er kann nicht gelöscht werden: %1</translation>
+    </message>
+    <message>
+        <source>%1 个文件由云服务同步，云端可能仍保留其副本和历史版本</source>
+        <translation>%1 Dateien werden von einem Cloud-Dienst synchronisiert, der Kopien und frühere Versionen behalten kann</translation>
     </message>
 </context>
 <context>
@@ -2449,6 +2492,14 @@ Dies kann nicht rückgängig gemacht werden!</translation>
         <source>The previous job is still ending.</source>
         <translation>Der vorige Auftrag wird noch beendet.</translation>
     </message>
+    <message>
+        <source>An erasure is running.</source>
+        <translation>Eine Löschung läuft.</translation>
+    </message>
+    <message>
+        <source>The system could not be kept from sleeping during this job, error %1</source>
+        <translation>Das System konnte für die Dauer des Auftrags nicht wach gehalten werden, Fehler %1</translation>
+    </message>
 </context>
 <context>
     <name>LinkManager</name>
@@ -2798,6 +2849,14 @@ Möchten Sie den freien Speicherplatz löschen, damit dies nicht mehr möglich i
         <source>%1: %2</source>
         <translation>%1: %2</translation>
     </message>
+    <message>
+        <source>shadow copies of the volume may keep earlier content</source>
+        <translation>Schattenkopien des Volumes können früheren Inhalt behalten</translation>
+    </message>
+    <message>
+        <source>a cloud service keeps copies and earlier versions of files</source>
+        <translation>ein Cloud-Dienst behält Kopien und frühere Versionen von Dateien</translation>
+    </message>
 </context>
 <context>
     <name>ProgressPage</name>
@@ -2868,6 +2927,13 @@ Möchten Sie den freien Speicherplatz löschen, damit dies nicht mehr möglich i
     <message>
         <source>只暂停此页面的显示；擦除会继续进行</source>
         <translation>Hält nur die Anzeige dieser Seite an; die Löschung läuft weiter</translation>
+    </message>
+</context>
+<context>
+    <name>ProtectedFolders</name>
+    <message>
+        <source>提示: Windows 安全中心的“受控文件夹访问”可能阻止本程序写入，请在其中允许本程序后重试</source>
+        <translation>Hinweis: Der „Überwachte Ordnerzugriff“ der Windows-Sicherheit verhindert möglicherweise, dass dieses Programm schreibt. Lassen Sie es dort zu, und versuchen Sie es erneut</translation>
     </message>
 </context>
 <context>

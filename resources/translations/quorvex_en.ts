@@ -1400,6 +1400,14 @@
         <source>%1; try it with sudo</source>
         <translation>%1; try it with sudo</translation>
     </message>
+    <message>
+        <source>Tells what drives and volumes answer, for whoever helps from afar</source>
+        <translation>Tells what drives and volumes answer, for whoever helps from afar</translation>
+    </message>
+    <message>
+        <source>Nothing is written. The answers are in English in every language and have serial numbers and paths in them: look through them before you send them on.</source>
+        <translation>Nothing is written. The answers are in English in every language and have serial numbers and paths in them: look through them before you send them on.</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>
@@ -1886,6 +1894,21 @@ An erasure certificate has been generated.</translation>
     </message>
 </context>
 <context>
+    <name>FailureWords</name>
+    <message>
+        <source>错误: 卷已加密且未解锁 (BitLocker)，请先解锁该卷，或擦除整个磁盘 (--whole)</source>
+        <translation>Error: the volume is encrypted and locked (BitLocker). Unlock it, or erase the whole drive (--whole)</translation>
+    </message>
+    <message>
+        <source>错误: 设备已断开，或介质已更换</source>
+        <translation>Error: the device was disconnected, or its medium was changed</translation>
+    </message>
+    <message>
+        <source>错误: 设备或介质故障</source>
+        <translation>Error: the device or its medium fails</translation>
+    </message>
+</context>
+<context>
     <name>FileSelectPage</name>
     <message>
         <source>Select Files to Shred</source>
@@ -1950,6 +1973,14 @@ An erasure certificate has been generated.</translation>
     <message>
         <source>Added %1 items, total %2</source>
         <translation>Added %1 items, total %2</translation>
+    </message>
+    <message>
+        <source>1 item could not be found</source>
+        <translation>1 item could not be found</translation>
+    </message>
+    <message>
+        <source>%1 items could not be found</source>
+        <translation>%1 items could not be found</translation>
     </message>
 </context>
 <context>
@@ -2064,6 +2095,18 @@ An erasure certificate has been generated.</translation>
     <message>
         <source>任务期间又出现 %1 个文件，同样进行擦除</source>
         <translation>%1 more files appeared during the job and are erased too</translation>
+    </message>
+    <message>
+        <source>文件内容不在本机，仅保存在云端，无法擦除: %1</source>
+        <translation>The content of the file is not on this computer but only in the cloud, and cannot be erased: %1</translation>
+    </message>
+    <message>
+        <source>文件夹内容未全部在本机，部分仅保存在云端，无法擦除: %1</source>
+        <translation>Not all of the folder is on this computer, some of it only in the cloud; it cannot be erased: %1</translation>
+    </message>
+    <message>
+        <source>%1 个文件由云服务同步，云端可能仍保留其副本和历史版本</source>
+        <translation>%1 files are synchronised by a cloud service, which may keep copies and earlier versions</translation>
     </message>
 </context>
 <context>
@@ -2449,6 +2492,14 @@ This operation cannot be undone!</translation>
         <source>The previous job is still ending.</source>
         <translation>The previous job is still ending.</translation>
     </message>
+    <message>
+        <source>An erasure is running.</source>
+        <translation>An erasure is running.</translation>
+    </message>
+    <message>
+        <source>The system could not be kept from sleeping during this job, error %1</source>
+        <translation>The system could not be kept from sleeping during this job, error %1</translation>
+    </message>
 </context>
 <context>
     <name>LinkManager</name>
@@ -2798,6 +2849,14 @@ Would you like to wipe free space to ensure they cannot be recovered?</translati
         <source>%1: %2</source>
         <translation>%1: %2</translation>
     </message>
+    <message>
+        <source>shadow copies of the volume may keep earlier content</source>
+        <translation>shadow copies of the volume may keep earlier content</translation>
+    </message>
+    <message>
+        <source>a cloud service keeps copies and earlier versions of files</source>
+        <translation>a cloud service keeps copies and earlier versions of files</translation>
+    </message>
 </context>
 <context>
     <name>ProgressPage</name>
@@ -2868,6 +2927,13 @@ Would you like to wipe free space to ensure they cannot be recovered?</translati
     <message>
         <source>只暂停此页面的显示；擦除会继续进行</source>
         <translation>Pauses only the display of this page; the erasure goes on</translation>
+    </message>
+</context>
+<context>
+    <name>ProtectedFolders</name>
+    <message>
+        <source>提示: Windows 安全中心的“受控文件夹访问”可能阻止本程序写入，请在其中允许本程序后重试</source>
+        <translation>Note: &quot;Controlled folder access&quot; of Windows Security may keep this program from writing. Allow it there and try again</translation>
     </message>
 </context>
 <context>

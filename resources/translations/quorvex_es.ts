@@ -1400,6 +1400,14 @@
         <source>%1; try it with sudo</source>
         <translation>%1; inténtelo con sudo</translation>
     </message>
+    <message>
+        <source>Tells what drives and volumes answer, for whoever helps from afar</source>
+        <translation>Muestra lo que responden unidades y volúmenes, para quien ayuda a distancia</translation>
+    </message>
+    <message>
+        <source>Nothing is written. The answers are in English in every language and have serial numbers and paths in them: look through them before you send them on.</source>
+        <translation>No se escribe nada. Las respuestas están en inglés en todos los idiomas y contienen números de serie y rutas: revíselas antes de enviarlas.</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>
@@ -1886,6 +1894,21 @@ Se ha generado un certificado de borrado.</translation>
     </message>
 </context>
 <context>
+    <name>FailureWords</name>
+    <message>
+        <source>错误: 卷已加密且未解锁 (BitLocker)，请先解锁该卷，或擦除整个磁盘 (--whole)</source>
+        <translation>Error: el volumen está cifrado y bloqueado (BitLocker). Desbloquéelo o borre la unidad completa (--whole)</translation>
+    </message>
+    <message>
+        <source>错误: 设备已断开，或介质已更换</source>
+        <translation>Error: el dispositivo se desconectó o se cambió el medio</translation>
+    </message>
+    <message>
+        <source>错误: 设备或介质故障</source>
+        <translation>Error: fallo del dispositivo o del medio</translation>
+    </message>
+</context>
+<context>
     <name>FileSelectPage</name>
     <message>
         <source>Select Files to Shred</source>
@@ -1950,6 +1973,14 @@ Se ha generado un certificado de borrado.</translation>
     <message>
         <source>Added %1 items, total %2</source>
         <translation>Elementos agregados: %1, total: %2</translation>
+    </message>
+    <message>
+        <source>1 item could not be found</source>
+        <translation>No se encontró 1 elemento</translation>
+    </message>
+    <message>
+        <source>%1 items could not be found</source>
+        <translation>No se encontraron %1 elementos</translation>
     </message>
 </context>
 <context>
@@ -2064,6 +2095,18 @@ Se ha generado un certificado de borrado.</translation>
     <message>
         <source>任务期间又出现 %1 个文件，同样进行擦除</source>
         <translation>Durante el trabajo aparecieron %1 archivos más, que también se borran</translation>
+    </message>
+    <message>
+        <source>文件内容不在本机，仅保存在云端，无法擦除: %1</source>
+        <translation>El contenido del archivo no está en este equipo, solo en la nube, y no se puede borrar: %1</translation>
+    </message>
+    <message>
+        <source>文件夹内容未全部在本机，部分仅保存在云端，无法擦除: %1</source>
+        <translation>No todo el contenido de la carpeta está en este equipo, parte está solo en la nube; no se puede borrar: %1</translation>
+    </message>
+    <message>
+        <source>%1 个文件由云服务同步，云端可能仍保留其副本和历史版本</source>
+        <translation>%1 archivos se sincronizan con un servicio en la nube, que puede conservar copias y versiones anteriores</translation>
     </message>
 </context>
 <context>
@@ -2449,6 +2492,14 @@ Se ha generado un certificado de borrado.</translation>
         <source>The previous job is still ending.</source>
         <translation>El trabajo anterior todavía está terminando.</translation>
     </message>
+    <message>
+        <source>An erasure is running.</source>
+        <translation>Hay un borrado en curso.</translation>
+    </message>
+    <message>
+        <source>The system could not be kept from sleeping during this job, error %1</source>
+        <translation>No se pudo evitar que el sistema se suspenda durante este trabajo, error %1</translation>
+    </message>
 </context>
 <context>
     <name>LinkManager</name>
@@ -2798,6 +2849,14 @@ Sin embargo, es posible que los archivos eliminados anteriormente aún se puedan
         <source>%1: %2</source>
         <translation>%1: %2</translation>
     </message>
+    <message>
+        <source>shadow copies of the volume may keep earlier content</source>
+        <translation>las instantáneas del volumen pueden conservar contenido anterior</translation>
+    </message>
+    <message>
+        <source>a cloud service keeps copies and earlier versions of files</source>
+        <translation>un servicio en la nube conserva copias y versiones anteriores de archivos</translation>
+    </message>
 </context>
 <context>
     <name>ProgressPage</name>
@@ -2868,6 +2927,13 @@ Sin embargo, es posible que los archivos eliminados anteriormente aún se puedan
     <message>
         <source>只暂停此页面的显示；擦除会继续进行</source>
         <translation>Pausa solo la visualización de esta página; el borrado continúa</translation>
+    </message>
+</context>
+<context>
+    <name>ProtectedFolders</name>
+    <message>
+        <source>提示: Windows 安全中心的“受控文件夹访问”可能阻止本程序写入，请在其中允许本程序后重试</source>
+        <translation>Nota: el «acceso controlado a carpetas» de Seguridad de Windows puede impedir que este programa escriba. Permítalo allí e inténtelo de nuevo</translation>
     </message>
 </context>
 <context>

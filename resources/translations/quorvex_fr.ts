@@ -1400,6 +1400,14 @@
         <source>%1; try it with sudo</source>
         <translation>%1&#xa0;; essayez avec sudo</translation>
     </message>
+    <message>
+        <source>Tells what drives and volumes answer, for whoever helps from afar</source>
+        <translation>Indique ce que répondent disques et volumes, pour qui aide à distance</translation>
+    </message>
+    <message>
+        <source>Nothing is written. The answers are in English in every language and have serial numbers and paths in them: look through them before you send them on.</source>
+        <translation>Rien n’est écrit. Les réponses sont en anglais dans toutes les langues et contiennent des numéros de série et des chemins&#xa0;: relisez-les avant de les transmettre.</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>
@@ -1886,6 +1894,21 @@ Un certificat d&apos;effacement a été généré.</translation>
     </message>
 </context>
 <context>
+    <name>FailureWords</name>
+    <message>
+        <source>错误: 卷已加密且未解锁 (BitLocker)，请先解锁该卷，或擦除整个磁盘 (--whole)</source>
+        <translation>Erreur&#xa0;: le volume est chiffré et verrouillé (BitLocker). Déverrouillez-le, ou effacez le disque entier (--whole)</translation>
+    </message>
+    <message>
+        <source>错误: 设备已断开，或介质已更换</source>
+        <translation>Erreur&#xa0;: le périphérique a été débranché, ou le support a été changé</translation>
+    </message>
+    <message>
+        <source>错误: 设备或介质故障</source>
+        <translation>Erreur&#xa0;: défaillance du périphérique ou de son support</translation>
+    </message>
+</context>
+<context>
     <name>FileSelectPage</name>
     <message>
         <source>Select Files to Shred</source>
@@ -1950,6 +1973,14 @@ Un certificat d&apos;effacement a été généré.</translation>
     <message>
         <source>Added %1 items, total %2</source>
         <translation>Éléments ajoutés&#xa0;: %1, total&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>1 item could not be found</source>
+        <translation>1 élément est introuvable</translation>
+    </message>
+    <message>
+        <source>%1 items could not be found</source>
+        <translation>%1 éléments sont introuvables</translation>
     </message>
 </context>
 <context>
@@ -2064,6 +2095,18 @@ Un certificat d&apos;effacement a été généré.</translation>
     <message>
         <source>任务期间又出现 %1 个文件，同样进行擦除</source>
         <translation>%1 fichiers de plus sont apparus pendant la tâche et sont effacés aussi</translation>
+    </message>
+    <message>
+        <source>文件内容不在本机，仅保存在云端，无法擦除: %1</source>
+        <translation>Le contenu du fichier n’est pas sur cet ordinateur mais seulement dans le nuage, et ne peut pas être effacé&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>文件夹内容未全部在本机，部分仅保存在云端，无法擦除: %1</source>
+        <translation>Tout le contenu du dossier n’est pas sur cet ordinateur, une partie n’est que dans le nuage&#xa0;; il ne peut pas être effacé&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>%1 个文件由云服务同步，云端可能仍保留其副本和历史版本</source>
+        <translation>%1 fichiers sont synchronisés par un service en nuage, qui peut garder des copies et des versions antérieures</translation>
     </message>
 </context>
 <context>
@@ -2449,6 +2492,14 @@ Cette opération est irréversible&#xa0;!</translation>
         <source>The previous job is still ending.</source>
         <translation>La tâche précédente est encore en train de se terminer.</translation>
     </message>
+    <message>
+        <source>An erasure is running.</source>
+        <translation>Un effacement est en cours.</translation>
+    </message>
+    <message>
+        <source>The system could not be kept from sleeping during this job, error %1</source>
+        <translation>La mise en veille du système n’a pas pu être empêchée pendant cette tâche, erreur %1</translation>
+    </message>
 </context>
 <context>
     <name>LinkManager</name>
@@ -2798,6 +2849,14 @@ Voulez-vous effacer l&apos;espace libre afin qu&apos;ils ne puissent pas être r
         <source>%1: %2</source>
         <translation>%1&#xa0;: %2</translation>
     </message>
+    <message>
+        <source>shadow copies of the volume may keep earlier content</source>
+        <translation>des clichés instantanés du volume peuvent garder un contenu antérieur</translation>
+    </message>
+    <message>
+        <source>a cloud service keeps copies and earlier versions of files</source>
+        <translation>un service en nuage garde des copies et des versions antérieures de fichiers</translation>
+    </message>
 </context>
 <context>
     <name>ProgressPage</name>
@@ -2868,6 +2927,13 @@ Voulez-vous effacer l&apos;espace libre afin qu&apos;ils ne puissent pas être r
     <message>
         <source>只暂停此页面的显示；擦除会继续进行</source>
         <translation>Suspend seulement l&apos;affichage de cette page&#xa0;; l&apos;effacement continue</translation>
+    </message>
+</context>
+<context>
+    <name>ProtectedFolders</name>
+    <message>
+        <source>提示: Windows 安全中心的“受控文件夹访问”可能阻止本程序写入，请在其中允许本程序后重试</source>
+        <translation>Remarque&#xa0;: le « dispositif d’accès contrôlé aux dossiers » de Sécurité Windows empêche peut-être ce programme d’écrire. Autorisez-le à cet endroit, puis réessayez</translation>
     </message>
 </context>
 <context>

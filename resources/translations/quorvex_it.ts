@@ -1400,6 +1400,14 @@
         <source>%1; try it with sudo</source>
         <translation>%1; provare con sudo</translation>
     </message>
+    <message>
+        <source>Tells what drives and volumes answer, for whoever helps from afar</source>
+        <translation>Mostra che cosa rispondono unità e volumi, per chi aiuta a distanza</translation>
+    </message>
+    <message>
+        <source>Nothing is written. The answers are in English in every language and have serial numbers and paths in them: look through them before you send them on.</source>
+        <translation>Non viene scritto nulla. Le risposte sono in inglese in ogni lingua e contengono numeri di serie e percorsi: controllarle prima di inviarle.</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>
@@ -1886,6 +1894,21 @@ An erasure certificate has been generated.</source>
     </message>
 </context>
 <context>
+    <name>FailureWords</name>
+    <message>
+        <source>错误: 卷已加密且未解锁 (BitLocker)，请先解锁该卷，或擦除整个磁盘 (--whole)</source>
+        <translation>Errore: il volume è crittografato e bloccato (BitLocker). Sbloccarlo o cancellare l’intera unità (--whole)</translation>
+    </message>
+    <message>
+        <source>错误: 设备已断开，或介质已更换</source>
+        <translation>Errore: il dispositivo è stato scollegato o il supporto è stato sostituito</translation>
+    </message>
+    <message>
+        <source>错误: 设备或介质故障</source>
+        <translation>Errore: guasto del dispositivo o del supporto</translation>
+    </message>
+</context>
+<context>
     <name>FileSelectPage</name>
     <message>
         <source>Select Files to Shred</source>
@@ -1950,6 +1973,14 @@ An erasure certificate has been generated.</source>
     <message>
         <source>Added %1 items, total %2</source>
         <translation>Elementi aggiunti: %1, totale: %2</translation>
+    </message>
+    <message>
+        <source>1 item could not be found</source>
+        <translation>Impossibile trovare 1 elemento</translation>
+    </message>
+    <message>
+        <source>%1 items could not be found</source>
+        <translation>Impossibile trovare %1 elementi</translation>
     </message>
 </context>
 <context>
@@ -2064,6 +2095,18 @@ An erasure certificate has been generated.</source>
     <message>
         <source>任务期间又出现 %1 个文件，同样进行擦除</source>
         <translation>Durante il lavoro sono comparsi altri %1 file, che vengono cancellati anch&apos;essi</translation>
+    </message>
+    <message>
+        <source>文件内容不在本机，仅保存在云端，无法擦除: %1</source>
+        <translation>Il contenuto del file non è in questo computer ma solo nel cloud e non può essere cancellato: %1</translation>
+    </message>
+    <message>
+        <source>文件夹内容未全部在本机，部分仅保存在云端，无法擦除: %1</source>
+        <translation>Non tutto il contenuto della cartella è in questo computer, una parte è solo nel cloud; non può essere cancellata: %1</translation>
+    </message>
+    <message>
+        <source>%1 个文件由云服务同步，云端可能仍保留其副本和历史版本</source>
+        <translation>%1 file sono sincronizzati da un servizio cloud, che può conservarne copie e versioni precedenti</translation>
     </message>
 </context>
 <context>
@@ -2449,6 +2492,14 @@ Questa operazione è irreversibile!</translation>
         <source>The previous job is still ending.</source>
         <translation>Il lavoro precedente è ancora in fase di chiusura.</translation>
     </message>
+    <message>
+        <source>An erasure is running.</source>
+        <translation>È in corso una cancellazione.</translation>
+    </message>
+    <message>
+        <source>The system could not be kept from sleeping during this job, error %1</source>
+        <translation>Non è stato possibile impedire la sospensione del sistema durante questa operazione, errore %1</translation>
+    </message>
 </context>
 <context>
     <name>LinkManager</name>
@@ -2798,6 +2849,14 @@ Cancellare lo spazio libero in modo che non possano essere recuperati?</translat
         <source>%1: %2</source>
         <translation>%1: %2</translation>
     </message>
+    <message>
+        <source>shadow copies of the volume may keep earlier content</source>
+        <translation>le copie shadow del volume possono conservare contenuti precedenti</translation>
+    </message>
+    <message>
+        <source>a cloud service keeps copies and earlier versions of files</source>
+        <translation>un servizio cloud conserva copie e versioni precedenti di file</translation>
+    </message>
 </context>
 <context>
     <name>ProgressPage</name>
@@ -2868,6 +2927,13 @@ Cancellare lo spazio libero in modo che non possano essere recuperati?</translat
     <message>
         <source>只暂停此页面的显示；擦除会继续进行</source>
         <translation>Sospende solo la visualizzazione di questa pagina; la cancellazione continua</translation>
+    </message>
+</context>
+<context>
+    <name>ProtectedFolders</name>
+    <message>
+        <source>提示: Windows 安全中心的“受控文件夹访问”可能阻止本程序写入，请在其中允许本程序后重试</source>
+        <translation>Nota: l’«accesso alle cartelle controllato» di Sicurezza di Windows può impedire la scrittura a questo programma. Consentirlo lì e riprovare</translation>
     </message>
 </context>
 <context>

@@ -1400,6 +1400,14 @@
         <source>%1; try it with sudo</source>
         <translation>%1。sudo を付けて実行してください</translation>
     </message>
+    <message>
+        <source>Tells what drives and volumes answer, for whoever helps from afar</source>
+        <translation>ドライブとボリュームの応答を表示します（遠隔サポート用）</translation>
+    </message>
+    <message>
+        <source>Nothing is written. The answers are in English in every language and have serial numbers and paths in them: look through them before you send them on.</source>
+        <translation>何も書き込みません。応答はどの言語でも英語で、シリアル番号とパスを含みます。送る前に確認してください。</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>
@@ -1886,6 +1894,21 @@ An erasure certificate has been generated.</source>
     </message>
 </context>
 <context>
+    <name>FailureWords</name>
+    <message>
+        <source>错误: 卷已加密且未解锁 (BitLocker)，请先解锁该卷，或擦除整个磁盘 (--whole)</source>
+        <translation>エラー: ボリュームは暗号化され、ロックされています (BitLocker)。ロックを解除するか、ドライブ全体を消去してください (--whole)</translation>
+    </message>
+    <message>
+        <source>错误: 设备已断开，或介质已更换</source>
+        <translation>エラー: デバイスが取り外されたか、メディアが交換されました</translation>
+    </message>
+    <message>
+        <source>错误: 设备或介质故障</source>
+        <translation>エラー: デバイスまたはメディアの障害</translation>
+    </message>
+</context>
+<context>
     <name>FileSelectPage</name>
     <message>
         <source>Select Files to Shred</source>
@@ -1950,6 +1973,14 @@ An erasure certificate has been generated.</source>
     <message>
         <source>Added %1 items, total %2</source>
         <translation>追加済み: %1 個、合計 %2</translation>
+    </message>
+    <message>
+        <source>1 item could not be found</source>
+        <translation>1 個の項目が見つかりませんでした</translation>
+    </message>
+    <message>
+        <source>%1 items could not be found</source>
+        <translation>%1 個の項目が見つかりませんでした</translation>
     </message>
 </context>
 <context>
@@ -2064,6 +2095,18 @@ An erasure certificate has been generated.</source>
     <message>
         <source>任务期间又出现 %1 个文件，同样进行擦除</source>
         <translation>ジョブ中にさらに %1 個のファイルが現れました。同様に消去します</translation>
+    </message>
+    <message>
+        <source>文件内容不在本机，仅保存在云端，无法擦除: %1</source>
+        <translation>ファイルの内容はこのコンピューターになく、クラウドだけにあるため消去できません: %1</translation>
+    </message>
+    <message>
+        <source>文件夹内容未全部在本机，部分仅保存在云端，无法擦除: %1</source>
+        <translation>フォルダーの内容の一部がこのコンピューターになく、クラウドだけにあるため消去できません: %1</translation>
+    </message>
+    <message>
+        <source>%1 个文件由云服务同步，云端可能仍保留其副本和历史版本</source>
+        <translation>%1 個のファイルはクラウドサービスで同期されており、コピーや以前のバージョンが残っている可能性があります</translation>
     </message>
 </context>
 <context>
@@ -2449,6 +2492,14 @@ An erasure certificate has been generated.</source>
         <source>The previous job is still ending.</source>
         <translation>前のジョブがまだ終了処理中です。</translation>
     </message>
+    <message>
+        <source>An erasure is running.</source>
+        <translation>消去を実行中です。</translation>
+    </message>
+    <message>
+        <source>The system could not be kept from sleeping during this job, error %1</source>
+        <translation>このジョブの間、システムのスリープを防げませんでした。エラー %1</translation>
+    </message>
 </context>
 <context>
     <name>LinkManager</name>
@@ -2798,6 +2849,14 @@ Would you like to wipe free space to ensure they cannot be recovered?</source>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
     </message>
+    <message>
+        <source>shadow copies of the volume may keep earlier content</source>
+        <translation>ボリュームのシャドウコピーに以前の内容が残っている可能性があります</translation>
+    </message>
+    <message>
+        <source>a cloud service keeps copies and earlier versions of files</source>
+        <translation>クラウドサービスがファイルのコピーと以前のバージョンを保持しています</translation>
+    </message>
 </context>
 <context>
     <name>ProgressPage</name>
@@ -2868,6 +2927,13 @@ Would you like to wipe free space to ensure they cannot be recovered?</source>
     <message>
         <source>只暂停此页面的显示；擦除会继续进行</source>
         <translation>このページの表示だけを一時停止します。消去は続きます</translation>
+    </message>
+</context>
+<context>
+    <name>ProtectedFolders</name>
+    <message>
+        <source>提示: Windows 安全中心的“受控文件夹访问”可能阻止本程序写入，请在其中允许本程序后重试</source>
+        <translation>ヒント: Windows セキュリティの「コントロールされたフォルダー アクセス」が書き込みを妨げている可能性があります。そこで本プログラムを許可してから再試行してください</translation>
     </message>
 </context>
 <context>

@@ -1400,6 +1400,14 @@
         <source>%1; try it with sudo</source>
         <translation>%1. sudo로 시도하십시오</translation>
     </message>
+    <message>
+        <source>Tells what drives and volumes answer, for whoever helps from afar</source>
+        <translation>드라이브와 볼륨의 응답을 보여 줍니다(원격 지원용)</translation>
+    </message>
+    <message>
+        <source>Nothing is written. The answers are in English in every language and have serial numbers and paths in them: look through them before you send them on.</source>
+        <translation>아무것도 쓰지 않습니다. 응답은 모든 언어에서 영어이며 일련번호와 경로가 들어 있습니다. 보내기 전에 살펴보십시오.</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>
@@ -1886,6 +1894,21 @@ An erasure certificate has been generated.</source>
     </message>
 </context>
 <context>
+    <name>FailureWords</name>
+    <message>
+        <source>错误: 卷已加密且未解锁 (BitLocker)，请先解锁该卷，或擦除整个磁盘 (--whole)</source>
+        <translation>오류: 볼륨이 암호화되어 잠겨 있습니다(BitLocker). 잠금을 해제하거나 드라이브 전체를 지우십시오(--whole)</translation>
+    </message>
+    <message>
+        <source>错误: 设备已断开，或介质已更换</source>
+        <translation>오류: 장치가 분리되었거나 미디어가 교체되었습니다</translation>
+    </message>
+    <message>
+        <source>错误: 设备或介质故障</source>
+        <translation>오류: 장치 또는 미디어 고장</translation>
+    </message>
+</context>
+<context>
     <name>FileSelectPage</name>
     <message>
         <source>Select Files to Shred</source>
@@ -1950,6 +1973,14 @@ An erasure certificate has been generated.</source>
     <message>
         <source>Added %1 items, total %2</source>
         <translation>항목 %1개 추가됨, 총 %2</translation>
+    </message>
+    <message>
+        <source>1 item could not be found</source>
+        <translation>항목 1개를 찾을 수 없습니다</translation>
+    </message>
+    <message>
+        <source>%1 items could not be found</source>
+        <translation>항목 %1개를 찾을 수 없습니다</translation>
     </message>
 </context>
 <context>
@@ -2064,6 +2095,18 @@ An erasure certificate has been generated.</source>
     <message>
         <source>任务期间又出现 %1 个文件，同样进行擦除</source>
         <translation>작업 중에 파일 %1개가 더 나타나 함께 삭제합니다</translation>
+    </message>
+    <message>
+        <source>文件内容不在本机，仅保存在云端，无法擦除: %1</source>
+        <translation>파일 내용이 이 컴퓨터에 없고 클라우드에만 있어 지울 수 없습니다: %1</translation>
+    </message>
+    <message>
+        <source>文件夹内容未全部在本机，部分仅保存在云端，无法擦除: %1</source>
+        <translation>폴더 내용의 일부가 이 컴퓨터에 없고 클라우드에만 있어 지울 수 없습니다: %1</translation>
+    </message>
+    <message>
+        <source>%1 个文件由云服务同步，云端可能仍保留其副本和历史版本</source>
+        <translation>파일 %1개가 클라우드 서비스와 동기화되며, 그곳에 사본과 이전 버전이 남아 있을 수 있습니다</translation>
     </message>
 </context>
 <context>
@@ -2449,6 +2492,14 @@ An erasure certificate has been generated.</source>
         <source>The previous job is still ending.</source>
         <translation>이전 작업이 아직 끝나는 중입니다.</translation>
     </message>
+    <message>
+        <source>An erasure is running.</source>
+        <translation>지우기 작업이 진행 중입니다.</translation>
+    </message>
+    <message>
+        <source>The system could not be kept from sleeping during this job, error %1</source>
+        <translation>이 작업 동안 시스템의 절전을 막지 못했습니다. 오류 %1</translation>
+    </message>
 </context>
 <context>
     <name>LinkManager</name>
@@ -2798,6 +2849,14 @@ Would you like to wipe free space to ensure they cannot be recovered?</source>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
     </message>
+    <message>
+        <source>shadow copies of the volume may keep earlier content</source>
+        <translation>볼륨의 섀도 복사본에 이전 내용이 남아 있을 수 있습니다</translation>
+    </message>
+    <message>
+        <source>a cloud service keeps copies and earlier versions of files</source>
+        <translation>클라우드 서비스가 파일의 사본과 이전 버전을 보관합니다</translation>
+    </message>
 </context>
 <context>
     <name>ProgressPage</name>
@@ -2868,6 +2927,13 @@ Would you like to wipe free space to ensure they cannot be recovered?</source>
     <message>
         <source>只暂停此页面的显示；擦除会继续进行</source>
         <translation>이 페이지의 표시만 일시 중지합니다. 삭제는 계속됩니다</translation>
+    </message>
+</context>
+<context>
+    <name>ProtectedFolders</name>
+    <message>
+        <source>提示: Windows 安全中心的“受控文件夹访问”可能阻止本程序写入，请在其中允许本程序后重试</source>
+        <translation>참고: Windows 보안의 &quot;제어된 폴더 액세스&quot;가 이 프로그램의 쓰기를 막고 있을 수 있습니다. 그곳에서 이 프로그램을 허용한 뒤 다시 시도하십시오</translation>
     </message>
 </context>
 <context>

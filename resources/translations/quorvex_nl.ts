@@ -1400,6 +1400,14 @@
         <source>%1; try it with sudo</source>
         <translation>%1; probeer het met sudo</translation>
     </message>
+    <message>
+        <source>Tells what drives and volumes answer, for whoever helps from afar</source>
+        <translation>Toont wat schijven en volumes antwoorden, voor wie op afstand helpt</translation>
+    </message>
+    <message>
+        <source>Nothing is written. The answers are in English in every language and have serial numbers and paths in them: look through them before you send them on.</source>
+        <translation>Er wordt niets geschreven. De antwoorden zijn in elke taal Engels en bevatten serienummers en paden: bekijk ze voordat u ze doorstuurt.</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>
@@ -1886,6 +1894,21 @@ Er is een wiscertificaat aangemaakt.</translation>
     </message>
 </context>
 <context>
+    <name>FailureWords</name>
+    <message>
+        <source>错误: 卷已加密且未解锁 (BitLocker)，请先解锁该卷，或擦除整个磁盘 (--whole)</source>
+        <translation>Fout: het volume is versleuteld en vergrendeld (BitLocker). Ontgrendel het, of wis de hele schijf (--whole)</translation>
+    </message>
+    <message>
+        <source>错误: 设备已断开，或介质已更换</source>
+        <translation>Fout: het apparaat is losgekoppeld, of het medium is verwisseld</translation>
+    </message>
+    <message>
+        <source>错误: 设备或介质故障</source>
+        <translation>Fout: het apparaat of het medium werkt niet goed</translation>
+    </message>
+</context>
+<context>
     <name>FileSelectPage</name>
     <message>
         <source>Select Files to Shred</source>
@@ -1950,6 +1973,14 @@ Er is een wiscertificaat aangemaakt.</translation>
     <message>
         <source>Added %1 items, total %2</source>
         <translation>Toegevoegde items: %1, totaal %2</translation>
+    </message>
+    <message>
+        <source>1 item could not be found</source>
+        <translation>1 item is niet gevonden</translation>
+    </message>
+    <message>
+        <source>%1 items could not be found</source>
+        <translation>%1 items zijn niet gevonden</translation>
     </message>
 </context>
 <context>
@@ -2064,6 +2095,18 @@ Er is een wiscertificaat aangemaakt.</translation>
     <message>
         <source>任务期间又出现 %1 个文件，同样进行擦除</source>
         <translation>Tijdens de taak zijn nog %1 bestanden verschenen, die ook worden gewist</translation>
+    </message>
+    <message>
+        <source>文件内容不在本机，仅保存在云端，无法擦除: %1</source>
+        <translation>De inhoud van het bestand staat niet op deze computer maar alleen in de cloud en kan niet worden gewist: %1</translation>
+    </message>
+    <message>
+        <source>文件夹内容未全部在本机，部分仅保存在云端，无法擦除: %1</source>
+        <translation>Niet alles in de map staat op deze computer, een deel alleen in de cloud; de map kan niet worden gewist: %1</translation>
+    </message>
+    <message>
+        <source>%1 个文件由云服务同步，云端可能仍保留其副本和历史版本</source>
+        <translation>%1 bestanden worden door een clouddienst gesynchroniseerd, die kopieën en eerdere versies kan bewaren</translation>
     </message>
 </context>
 <context>
@@ -2449,6 +2492,14 @@ Dit kan niet ongedaan worden gemaakt!</translation>
         <source>The previous job is still ending.</source>
         <translation>De vorige taak wordt nog beëindigd.</translation>
     </message>
+    <message>
+        <source>An erasure is running.</source>
+        <translation>Er loopt een wisopdracht.</translation>
+    </message>
+    <message>
+        <source>The system could not be kept from sleeping during this job, error %1</source>
+        <translation>Het systeem kon tijdens deze opdracht niet wakker worden gehouden, fout %1</translation>
+    </message>
 </context>
 <context>
     <name>LinkManager</name>
@@ -2798,6 +2849,14 @@ Wilt u de vrije ruimte wissen, zodat ze niet meer kunnen worden hersteld?</trans
         <source>%1: %2</source>
         <translation>%1: %2</translation>
     </message>
+    <message>
+        <source>shadow copies of the volume may keep earlier content</source>
+        <translation>schaduwkopieën van het volume kunnen eerdere inhoud bewaren</translation>
+    </message>
+    <message>
+        <source>a cloud service keeps copies and earlier versions of files</source>
+        <translation>een clouddienst bewaart kopieën en eerdere versies van bestanden</translation>
+    </message>
 </context>
 <context>
     <name>ProgressPage</name>
@@ -2868,6 +2927,13 @@ Wilt u de vrije ruimte wissen, zodat ze niet meer kunnen worden hersteld?</trans
     <message>
         <source>只暂停此页面的显示；擦除会继续进行</source>
         <translation>Pauzeert alleen de weergave van deze pagina; het wissen gaat door</translation>
+    </message>
+</context>
+<context>
+    <name>ProtectedFolders</name>
+    <message>
+        <source>提示: Windows 安全中心的“受控文件夹访问”可能阻止本程序写入，请在其中允许本程序后重试</source>
+        <translation>Tip: &quot;Controlled folder access&quot; van Windows-beveiliging verhindert mogelijk dat dit programma schrijft. Sta het daar toe en probeer het opnieuw</translation>
     </message>
 </context>
 <context>

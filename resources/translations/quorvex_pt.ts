@@ -1400,6 +1400,14 @@
         <source>%1; try it with sudo</source>
         <translation>%1; tente com sudo</translation>
     </message>
+    <message>
+        <source>Tells what drives and volumes answer, for whoever helps from afar</source>
+        <translation>Mostra o que unidades e volumes respondem, para quem ajuda à distância</translation>
+    </message>
+    <message>
+        <source>Nothing is written. The answers are in English in every language and have serial numbers and paths in them: look through them before you send them on.</source>
+        <translation>Nada é escrito. As respostas estão em inglês em todos os idiomas e contêm números de série e caminhos: reveja-as antes de as enviar.</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>
@@ -1886,6 +1894,21 @@ Um certificado de apagamento foi gerado.</translation>
     </message>
 </context>
 <context>
+    <name>FailureWords</name>
+    <message>
+        <source>错误: 卷已加密且未解锁 (BitLocker)，请先解锁该卷，或擦除整个磁盘 (--whole)</source>
+        <translation>Erro: o volume está cifrado e bloqueado (BitLocker). Desbloqueie-o ou apague a unidade inteira (--whole)</translation>
+    </message>
+    <message>
+        <source>错误: 设备已断开，或介质已更换</source>
+        <translation>Erro: o dispositivo foi desligado ou o suporte foi trocado</translation>
+    </message>
+    <message>
+        <source>错误: 设备或介质故障</source>
+        <translation>Erro: falha do dispositivo ou do suporte</translation>
+    </message>
+</context>
+<context>
     <name>FileSelectPage</name>
     <message>
         <source>Select Files to Shred</source>
@@ -1950,6 +1973,14 @@ Um certificado de apagamento foi gerado.</translation>
     <message>
         <source>Added %1 items, total %2</source>
         <translation>Itens adicionados: %1, total: %2</translation>
+    </message>
+    <message>
+        <source>1 item could not be found</source>
+        <translation>Não foi possível encontrar 1 item</translation>
+    </message>
+    <message>
+        <source>%1 items could not be found</source>
+        <translation>Não foi possível encontrar %1 itens</translation>
     </message>
 </context>
 <context>
@@ -2064,6 +2095,18 @@ Um certificado de apagamento foi gerado.</translation>
     <message>
         <source>任务期间又出现 %1 个文件，同样进行擦除</source>
         <translation>Durante a tarefa apareceram mais %1 ficheiros, que também são apagados</translation>
+    </message>
+    <message>
+        <source>文件内容不在本机，仅保存在云端，无法擦除: %1</source>
+        <translation>O conteúdo do ficheiro não está neste computador, apenas na nuvem, e não pode ser apagado: %1</translation>
+    </message>
+    <message>
+        <source>文件夹内容未全部在本机，部分仅保存在云端，无法擦除: %1</source>
+        <translation>Nem todo o conteúdo da pasta está neste computador, parte está apenas na nuvem; não pode ser apagada: %1</translation>
+    </message>
+    <message>
+        <source>%1 个文件由云服务同步，云端可能仍保留其副本和历史版本</source>
+        <translation>%1 ficheiros são sincronizados por um serviço na nuvem, que pode guardar cópias e versões anteriores</translation>
     </message>
 </context>
 <context>
@@ -2449,6 +2492,14 @@ Esta operação não pode ser desfeita!</translation>
         <source>The previous job is still ending.</source>
         <translation>A tarefa anterior ainda está terminando.</translation>
     </message>
+    <message>
+        <source>An erasure is running.</source>
+        <translation>Há um apagamento em curso.</translation>
+    </message>
+    <message>
+        <source>The system could not be kept from sleeping during this job, error %1</source>
+        <translation>Não foi possível impedir a suspensão do sistema durante esta tarefa, erro %1</translation>
+    </message>
 </context>
 <context>
     <name>LinkManager</name>
@@ -2798,6 +2849,14 @@ Deseja apagar o espaço livre para que eles não possam ser recuperados?</transl
         <source>%1: %2</source>
         <translation>%1: %2</translation>
     </message>
+    <message>
+        <source>shadow copies of the volume may keep earlier content</source>
+        <translation>as cópias sombra do volume podem guardar conteúdo anterior</translation>
+    </message>
+    <message>
+        <source>a cloud service keeps copies and earlier versions of files</source>
+        <translation>um serviço na nuvem guarda cópias e versões anteriores de ficheiros</translation>
+    </message>
 </context>
 <context>
     <name>ProgressPage</name>
@@ -2868,6 +2927,13 @@ Deseja apagar o espaço livre para que eles não possam ser recuperados?</transl
     <message>
         <source>只暂停此页面的显示；擦除会继续进行</source>
         <translation>Pausa apenas a exibição desta página; o apagamento continua</translation>
+    </message>
+</context>
+<context>
+    <name>ProtectedFolders</name>
+    <message>
+        <source>提示: Windows 安全中心的“受控文件夹访问”可能阻止本程序写入，请在其中允许本程序后重试</source>
+        <translation>Nota: o «Acesso controlado a pastas» da Segurança do Windows pode impedir que este programa escreva. Permita-o aí e tente de novo</translation>
     </message>
 </context>
 <context>

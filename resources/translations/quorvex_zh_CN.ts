@@ -1400,6 +1400,14 @@
         <source>%1; try it with sudo</source>
         <translation>%1；请用 sudo 重试</translation>
     </message>
+    <message>
+        <source>Tells what drives and volumes answer, for whoever helps from afar</source>
+        <translation>显示驱动器和卷的应答，供远程协助者使用</translation>
+    </message>
+    <message>
+        <source>Nothing is written. The answers are in English in every language and have serial numbers and paths in them: look through them before you send them on.</source>
+        <translation>不会写入任何内容。应答在所有语言中均为英文，并包含序列号和路径：发送前请先查看。</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>
@@ -1886,6 +1894,21 @@ An erasure certificate has been generated.</source>
     </message>
 </context>
 <context>
+    <name>FailureWords</name>
+    <message>
+        <source>错误: 卷已加密且未解锁 (BitLocker)，请先解锁该卷，或擦除整个磁盘 (--whole)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>错误: 设备已断开，或介质已更换</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>错误: 设备或介质故障</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>FileSelectPage</name>
     <message>
         <source>Select Files to Shred</source>
@@ -1950,6 +1973,14 @@ An erasure certificate has been generated.</source>
     <message>
         <source>Added %1 items, total %2</source>
         <translation>已添加 %1 个项目，共 %2</translation>
+    </message>
+    <message>
+        <source>1 item could not be found</source>
+        <translation>找不到 1 个项目</translation>
+    </message>
+    <message>
+        <source>%1 items could not be found</source>
+        <translation>找不到 %1 个项目</translation>
     </message>
 </context>
 <context>
@@ -2063,6 +2094,18 @@ An erasure certificate has been generated.</source>
     </message>
     <message>
         <source>文件已被替换，保持原样: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>文件内容不在本机，仅保存在云端，无法擦除: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>文件夹内容未全部在本机，部分仅保存在云端，无法擦除: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 个文件由云服务同步，云端可能仍保留其副本和历史版本</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2447,6 +2490,14 @@ An erasure certificate has been generated.</source>
         <source>The previous job is still ending.</source>
         <translation>前一个任务仍在结束中。</translation>
     </message>
+    <message>
+        <source>An erasure is running.</source>
+        <translation>正在执行擦除。</translation>
+    </message>
+    <message>
+        <source>The system could not be kept from sleeping during this job, error %1</source>
+        <translation>无法在此任务期间阻止系统进入睡眠，错误 %1</translation>
+    </message>
 </context>
 <context>
     <name>LinkManager</name>
@@ -2791,6 +2842,14 @@ Would you like to wipe free space to ensure they cannot be recovered?</source>
         <source>there was no free space to overwrite</source>
         <translation>没有可供覆写的空闲空间</translation>
     </message>
+    <message>
+        <source>shadow copies of the volume may keep earlier content</source>
+        <translation>卷的卷影副本可能保留以前的内容</translation>
+    </message>
+    <message>
+        <source>a cloud service keeps copies and earlier versions of files</source>
+        <translation>云服务保留文件的副本和历史版本</translation>
+    </message>
 </context>
 <context>
     <name>ProgressPage</name>
@@ -2860,6 +2919,13 @@ Would you like to wipe free space to ensure they cannot be recovered?</source>
     </message>
     <message>
         <source>正在擦除数据...</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ProtectedFolders</name>
+    <message>
+        <source>提示: Windows 安全中心的“受控文件夹访问”可能阻止本程序写入，请在其中允许本程序后重试</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -1400,6 +1400,14 @@
         <source>%1; try it with sudo</source>
         <translation>%1；請使用 sudo 執行</translation>
     </message>
+    <message>
+        <source>Tells what drives and volumes answer, for whoever helps from afar</source>
+        <translation>顯示磁碟機和磁碟區的回應，供遠端協助者使用</translation>
+    </message>
+    <message>
+        <source>Nothing is written. The answers are in English in every language and have serial numbers and paths in them: look through them before you send them on.</source>
+        <translation>不會寫入任何內容。回應在所有語言中均為英文，並包含序號和路徑：傳送前請先檢視。</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>
@@ -1886,6 +1894,21 @@ An erasure certificate has been generated.</source>
     </message>
 </context>
 <context>
+    <name>FailureWords</name>
+    <message>
+        <source>错误: 卷已加密且未解锁 (BitLocker)，请先解锁该卷，或擦除整个磁盘 (--whole)</source>
+        <translation>錯誤: 磁碟區已加密且未解除鎖定 (BitLocker)，請先解除鎖定，或抹除整個磁碟 (--whole)</translation>
+    </message>
+    <message>
+        <source>错误: 设备已断开，或介质已更换</source>
+        <translation>錯誤: 裝置已中斷連線，或媒體已更換</translation>
+    </message>
+    <message>
+        <source>错误: 设备或介质故障</source>
+        <translation>錯誤: 裝置或媒體故障</translation>
+    </message>
+</context>
+<context>
     <name>FileSelectPage</name>
     <message>
         <source>Select Files to Shred</source>
@@ -1950,6 +1973,14 @@ An erasure certificate has been generated.</source>
     <message>
         <source>Added %1 items, total %2</source>
         <translation>已新增 %1 個項目，共 %2</translation>
+    </message>
+    <message>
+        <source>1 item could not be found</source>
+        <translation>找不到 1 個項目</translation>
+    </message>
+    <message>
+        <source>%1 items could not be found</source>
+        <translation>找不到 %1 個項目</translation>
     </message>
 </context>
 <context>
@@ -2064,6 +2095,18 @@ An erasure certificate has been generated.</source>
     <message>
         <source>任务期间又出现 %1 个文件，同样进行擦除</source>
         <translation>工作期間又出現 %1 個檔案，一併抹除</translation>
+    </message>
+    <message>
+        <source>文件内容不在本机，仅保存在云端，无法擦除: %1</source>
+        <translation>檔案內容不在本機，僅保存在雲端，無法抹除: %1</translation>
+    </message>
+    <message>
+        <source>文件夹内容未全部在本机，部分仅保存在云端，无法擦除: %1</source>
+        <translation>資料夾內容未全部在本機，部分僅保存在雲端，無法抹除: %1</translation>
+    </message>
+    <message>
+        <source>%1 个文件由云服务同步，云端可能仍保留其副本和历史版本</source>
+        <translation>%1 個檔案由雲端服務同步，雲端可能仍保留其副本和歷史版本</translation>
     </message>
 </context>
 <context>
@@ -2449,6 +2492,14 @@ An erasure certificate has been generated.</source>
         <source>The previous job is still ending.</source>
         <translation>前一個工作仍在結束中。</translation>
     </message>
+    <message>
+        <source>An erasure is running.</source>
+        <translation>正在執行抹除。</translation>
+    </message>
+    <message>
+        <source>The system could not be kept from sleeping during this job, error %1</source>
+        <translation>無法在此工作期間阻止系統進入睡眠，錯誤 %1</translation>
+    </message>
 </context>
 <context>
     <name>LinkManager</name>
@@ -2798,6 +2849,14 @@ Would you like to wipe free space to ensure they cannot be recovered?</source>
         <source>%1: %2</source>
         <translation>%1：%2</translation>
     </message>
+    <message>
+        <source>shadow copies of the volume may keep earlier content</source>
+        <translation>磁碟區的陰影複製可能保留先前的內容</translation>
+    </message>
+    <message>
+        <source>a cloud service keeps copies and earlier versions of files</source>
+        <translation>雲端服務保留檔案的副本和歷史版本</translation>
+    </message>
 </context>
 <context>
     <name>ProgressPage</name>
@@ -2868,6 +2927,13 @@ Would you like to wipe free space to ensure they cannot be recovered?</source>
     <message>
         <source>只暂停此页面的显示；擦除会继续进行</source>
         <translation>只暫停此頁面的顯示；抹除會繼續進行</translation>
+    </message>
+</context>
+<context>
+    <name>ProtectedFolders</name>
+    <message>
+        <source>提示: Windows 安全中心的“受控文件夹访问”可能阻止本程序写入，请在其中允许本程序后重试</source>
+        <translation>提示: Windows 安全性的「受控資料夾存取權」可能阻止本程式寫入，請在其中允許本程式後重試</translation>
     </message>
 </context>
 <context>
