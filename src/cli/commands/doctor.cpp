@@ -111,7 +111,7 @@ Command doctorCommand()
     command.summary = Cli::tr("Tells what drives and volumes answer, for whoever helps from afar");
     command.details = Cli::tr("Nothing is written. The answers are in English in every language and have "
                               "serial numbers and paths in them: look through them before you send them on.");
-    command.example = u"doctor > answers.txt"_s;
+    command.example = u"doctor --json"_s;
     command.run = run;
     return command;
 }
