@@ -54,7 +54,9 @@ public:
         const QStringList paths = droppedPaths(drop);
         ::DragFinish(drop);
         m_receive(paths);
-        *result = 0;
+        // Who takes a message out of the queue asks for no answer.
+        if (result)
+            *result = 0;
         return true;
     }
 
