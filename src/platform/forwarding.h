@@ -229,6 +229,8 @@ public:
     bool isSystemRoot(const QString &rootPath) override { return m_target.isSystemRoot(rootPath); }
     bool holdsSystemFiles(const QString &rootPath) override { return m_target.holdsSystemFiles(rootPath); }
     QString userId() override { return m_target.userId(); }
+    QString foreignAccount() override { return m_target.foreignAccount(); }
+    void tellBinChanged() override { m_target.tellBinChanged(); }
     Result<std::unique_ptr<AwakeHold>> keepAwake(const AwakeRequest &request) override
     {
         return m_target.keepAwake(request);

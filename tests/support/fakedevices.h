@@ -105,6 +105,9 @@ public:
     QStringList systemRoots; // exact root paths
     QString user;
 
+    QString otherAccount; // foreignAccount()
+    int binChanges = 0;   // told
+
     // Of keepAwake(): the answer, unless it is to fail, and how it was used.
     quint32 awakeError = platform::NoError;
     bool canDelayShutdown = false;
@@ -115,6 +118,8 @@ public:
     bool isSystemRoot(const QString &rootPath) override { return systemRoots.contains(rootPath); }
     bool holdsSystemFiles(const QString &rootPath) override { return isSystemRoot(rootPath); }
     QString userId() override { return user; }
+    QString foreignAccount() override { return otherAccount; }
+    void tellBinChanged() override { ++binChanges; }
     platform::Result<std::unique_ptr<platform::AwakeHold>>
     keepAwake(const platform::AwakeRequest &request) override;
 };

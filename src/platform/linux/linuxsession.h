@@ -15,6 +15,8 @@ public:
     bool isSystemRoot(const QString &rootPath) override;
     bool holdsSystemFiles(const QString &rootPath) override;
     QString userId() override;
+    QString foreignAccount() override;
+    void tellBinChanged() override {}
     Result<std::unique_ptr<AwakeHold>> keepAwake(const AwakeRequest &request) override;
 
 private:

@@ -1,9 +1,11 @@
 #include "platform/windows/windowssession.h"
 
 #include "platform/windows/win32calls.h"
+#include "platform/windows/windowsaccount.h"
 #include "platform/windows/windowsawakehold.h"
 #include "platform/windows/windowspaths.h"
-#include "platform/windows/winhandle.h"
+
+#include <shlobj.h>
 
 #include <array>
 #include <memory>
@@ -33,24 +35,23 @@ bool WindowsSession::holdsSystemFiles(const QString &rootPath)
 
 QString WindowsSession::userId()
 {
-    HANDLE opened = nullptr;
-    if (!win32().openProcessToken(::GetCurrentProcess(), TOKEN_QUERY, &opened))
-        return {};
-    const WinHandle token(opened);
-    // The first question only tells how much room the answer takes.
-    DWORD size = 0;
-    win32().getTokenInformation(token.get(), TokenUser, nullptr, 0, &size);
-    if (size < sizeof(TOKEN_USER))
-        return {};
-    const auto reply = std::make_unique<std::byte[]>(size);
-    if (!win32().getTokenInformation(token.get(), TokenUser, reply.get(), size, &size))
-        return {};
-    LPWSTR text = nullptr;
-    if (!win32().convertSidToStringSid(reinterpret_cast<const TOKEN_USER *>(reply.get())->User.Sid, &text))
-        return {};
-    QString id = decodeName(text);
-    win32().localFree(text);
-    return id;
+    return accountOf(::GetCurrentProcess());
+}
+
+QString WindowsSession::foreignAccount()
+{
+    return isDesktopOfAnother() ? accountNameOf(::GetCurrentProcess()) : QString();
+}
+
+void WindowsSession::tellBinChanged()
+{
+    win32().updateRecycleBinIcon();
+    // Windows that show the bin.
+    PIDLIST_ABSOLUTE bin = nullptr;
+    if (FAILED(::SHGetSpecialFolderLocation(nullptr, CSIDL_BITBUCKET, &bin)))
+        return;
+    win32().changeNotify(SHCNE_UPDATEDIR, SHCNF_IDLIST | SHCNF_FLUSHNOWAIT, bin, nullptr);
+    ::CoTaskMemFree(bin);
 }
 
 Result<std::unique_ptr<AwakeHold>> WindowsSession::keepAwake(const AwakeRequest &request)
