@@ -65,12 +65,12 @@ private:
     Receiver m_receive;
 };
 
-FileDrops::FileDrops(quintptr window, Receiver receive)
+FileDrops::FileDrops(quintptr window, const Receiver &receive)
 {
     // Among equals the newer way works, and shows the user more.
     if (!isProcessElevated())
         return;
-    d = std::make_unique<Private>(reinterpret_cast<HWND>(window), std::move(receive));
+    d = std::make_unique<Private>(reinterpret_cast<HWND>(window), receive);
     d->begin();
 }
 
