@@ -2,7 +2,7 @@
 
 #include "platform/windows/win32calls.h"
 
-#include <QtGlobal>
+#include <QByteArray>
 
 namespace platform {
 

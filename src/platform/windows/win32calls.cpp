@@ -29,7 +29,7 @@ void WINAPI updateRecycleBinIcon()
     using Update = void(WINAPI *)();
     HMODULE const shell = ::GetModuleHandleW(L"shell32.dll");
     FARPROC const found = shell ? ::GetProcAddress(shell, "SHUpdateRecycleBinIcon") : nullptr;
-    if (const auto update = reinterpret_cast<Update>(reinterpret_cast<void *>(found)))
+    if (const auto update = reinterpret_cast<Update>(reinterpret_cast<void (*)()>(found)))
         update();
 }
 

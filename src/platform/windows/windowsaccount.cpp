@@ -77,7 +77,7 @@ QString accountNameOf(HANDLE process)
 
 bool isDesktopOfAnother()
 {
-    HWND const shell = win32().getShellWindow();
+    auto *const shell = win32().getShellWindow();
     DWORD id = 0;
     if (shell == nullptr || win32().getWindowThreadProcessId(shell, &id) == 0)
         return false;
