@@ -67,6 +67,13 @@ Outcome<RecycleBinInfo> findTrash(const CommandContext &context, const QStringLi
     return scanner.scan();
 }
 
+QStringList accountLines(const RecycleBinInfo &found)
+{
+    if (found.account.isEmpty())
+        return {};
+    return {Cli::tr("Recycle Bin of %1").arg(displayText(found.account))};
+}
+
 QStringList amountLines(const RecycleBinInfo &found)
 {
     const QString items = found.fileCount == 1 ? Cli::tr("1 item") : Cli::tr("%1 items").arg(found.fileCount);

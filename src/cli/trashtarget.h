@@ -17,6 +17,9 @@ QList<QCommandLineOption> trashOptions();
 // unknown to the system.
 Outcome<RecycleBinInfo> findTrash(const CommandContext &context, const QStringList &commandWords);
 
+// One line where the bins are not those of the account that the desktop belongs to: "Recycle Bin of root".
+QStringList accountLines(const RecycleBinInfo &found);
+
 // "3 items, 12.00 KB", and what is wrong with the sum.
 QStringList amountLines(const RecycleBinInfo &found);
 

@@ -22,7 +22,7 @@ public:
     using Receiver = std::function<void(const QStringList &paths)>;
 
     // The window as QWidget::winId() tells it; it may go before this.
-    FileDrops(quintptr window, Receiver receive);
+    FileDrops(quintptr window, const Receiver &receive);
     ~FileDrops();
     FileDrops(const FileDrops &) = delete;
     FileDrops &operator=(const FileDrops &) = delete;

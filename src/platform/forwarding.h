@@ -236,6 +236,8 @@ public:
     bool holdsSystemFiles(const QString &rootPath) override { return m_target.holdsSystemFiles(rootPath); }
     QString userId() override { return m_target.userId(); }
     Result<bool> isAdministrator() override { return m_target.isAdministrator(); }
+    QString foreignAccount() override { return m_target.foreignAccount(); }
+    void tellBinChanged() override { m_target.tellBinChanged(); }
     Result<std::unique_ptr<AwakeHold>> keepAwake(const AwakeRequest &request) override
     {
         return m_target.keepAwake(request);

@@ -65,6 +65,17 @@ public:
     // GetTokenInformation(TokenElevation). Linux: the effective user is root.
     virtual Result<bool> isAdministrator() = 0;
 
+    // The account that runs the program, as people know it, when it is not that of whoever sits before the
+    // desktop or has asked for more rights: its Recycle Bin is another one. Empty when it is the same, or the
+    // system does not tell. Windows: the owner of GetShellWindow's process; "COMPUTER\name"
+    // (LookupAccountSidW). Linux: the user in effect is not that of SUDO_UID or PKEXEC_UID; the name of
+    // getpwuid.
+    virtual QString foreignAccount() = 0;
+
+    // Something was taken out of the Recycle Bin past the shell, which is to look at it again. Windows:
+    // SHUpdateRecycleBinIcon and SHChangeNotify(SHCNE_UPDATEDIR). Linux: is seen anyway.
+    virtual void tellBinChanged() = 0;
+
     // Keeps the system from falling asleep by itself; a screen may go dark. Holds of one thread end in the
     // reverse order. Fails where nothing can be asked for it (NotSupported) or the answer is no.
     // Windows: SetThreadExecutionState(ES_CONTINUOUS | ES_SYSTEM_REQUIRED) and back to what was set before;

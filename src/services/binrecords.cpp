@@ -1,5 +1,8 @@
 #include "services/binrecords.h"
 
+#include "platform/platform.h"
+#include "platform/session.h"
+
 #ifdef Q_OS_UNIX
 #include "services/trashsizes.h"
 #endif
@@ -17,5 +20,6 @@ platform::Status updateBinRecords(const RecycleBinInfo &erased)
 #else
     Q_UNUSED(erased);
 #endif
+    platform::Platform::current().session().tellBinChanged();
     return first;
 }

@@ -5,5 +5,6 @@
 
 /// To be called when what a scan found has been erased: takes out of the bins' own records what is no longer
 /// there. Windows keeps none beside the "$I" files, which are erased with their items; the Trash of other
-/// desktops has "directorysizes". Answers the first failure, having gone on past it.
+/// desktops has "directorysizes". Then the desktop is told. Answers the first failure, having gone on past
+/// it.
 platform::Status updateBinRecords(const RecycleBinInfo &erased);

@@ -53,6 +53,8 @@ struct RecycleBinInfo
     /// the others.
     QList<RecycleBinItem> unrecorded;
     QList<UnscannedBin> unscanned;
+    /// Whose bins these are when it is not the account of the desktop; otherwise empty.
+    QString account;
 
     bool operator==(const RecycleBinInfo &) const = default;
 

@@ -207,6 +207,7 @@ RecycleBinInfo RecycleBinScanner::scan(const DriveCallback &callback)
     }
     qDebug() << "Scanning recycle bin for SID:" << sid;
     RecycleBinInfo found;
+    found.account = platform::Platform::current().session().foreignAccount();
     QList<Stop> stops;
 #ifdef Q_OS_UNIX
     if (const auto home = homeTrashFolder(found.unscanned))

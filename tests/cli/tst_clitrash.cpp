@@ -1,4 +1,7 @@
 #include "cli/testio.h"
+#include "platform/forwarding.h"
+#include "platform/platform.h"
+#include "support/fakedevices.h"
 #include "support/infofiles.h"
 #include "support/links.h"
 #include "support/suite.h"
@@ -53,6 +56,8 @@ private slots:
     void theDesktopsTrashIsErasedWithItsRecords();
     void aLinkInTheBinMakesNothingPartial();
     void namesOfErasedFoldersLeaveTheRecords();
+    void theBinOfAnotherAccountIsToldAsSuch();
+    void theDesktopIsToldOfItsBin();
     void recordsThatCannotBeMendedAreTold();
     void aTrashThatIsALinkIsLeftAlone();
 #endif
@@ -83,11 +88,32 @@ private:
         return QStringList{u"wipe"_s, u"trash"_s, u"--root"_s, m_root->path()} + more;
     }
 
+    // Into the desktop's own.
+    void addToTrash(const QString &name, const QByteArray &content) const
+    {
+        const QString trash = m_home.filePath(u"Trash"_s);
+        QVERIFY(QDir().mkpath(trash + u"/files"_s));
+        QVERIFY(QDir().mkpath(trash + u"/info"_s));
+        writeFile(trash + u"/files/"_s + name, content);
+        writeFile(trash + u"/info/"_s + name + u".trashinfo"_s, "[Trash Info]\nPath=/tmp/a\n");
+    }
+
     QTemporaryDir m_home;
     std::unique_ptr<QTemporaryDir> m_root;
 };
 
 namespace {
+
+// The real files, and a user of the test's own.
+struct AccountMachine
+{
+    FakeSession session;
+    std::unique_ptr<platform::Platform> native = platform::createPlatform({{}, true});
+    platform::ForwardingPlatform platform{native->files(), native->folders(), native->devices(), session};
+    platform::ScopedPlatform scope{platform};
+
+    AccountMachine() { session.user = native->session().userId(); }
+};
 
 const QString Alice = u"S-1-5-21-1-2-3-1001"_s;
 const QString Bob = u"S-1-5-21-1-2-3-1002"_s;
@@ -434,6 +460,42 @@ void tst_CliTrash::theDesktopsTrashIsErasedWithItsRecords()
     QCOMPARE(erasing.code, 0);
     QVERIFY(QDir(trash + u"/files"_s).isEmpty());
     QVERIFY(QDir(trash + u"/info"_s).isEmpty());
+}
+
+void tst_CliTrash::theBinOfAnotherAccountIsToldAsSuch()
+{
+    AccountMachine machine;
+    machine.session.otherAccount = u"root"_s;
+    CliRun empty;
+    empty({u"wipe"_s, u"trash"_s, u"--yes"_s});
+    QCOMPARE(empty.io.out, QByteArray("The Recycle Bin is empty. Recycle Bin of root\n"));
+    addToTrash(u"letter.txt"_s, QByteArray(100, 'l'));
+    CliRun run;
+    run({u"trash"_s, u"list"_s});
+    QVERIFY2(run.io.out.endsWith("Recycle Bin of root\n1 item, 100 B\n"), run.io.out.constData());
+    CliRun asked;
+    asked({u"wipe"_s, u"trash"_s});
+    QCOMPARE(asked.code, 3);
+    QVERIFY2(asked.io.out.contains("  Recycle Bin of root\n"), asked.io.out.constData());
+    // The bins of folders that are named belong to whom they belong.
+    addDeleted(Alice, u"AAAAAA.txt"_s, u"C:\\a.txt"_s, "a");
+    CliRun named;
+    named(list());
+    QVERIFY2(!named.io.out.contains("Recycle Bin of"), named.io.out.constData());
+}
+
+void tst_CliTrash::theDesktopIsToldOfItsBin()
+{
+    AccountMachine machine;
+    addToTrash(u"letter.txt"_s, "l");
+    CliRun listed;
+    listed({u"trash"_s, u"list"_s});
+    QCOMPARE(machine.session.binChanges, 0);
+    CliRun run;
+    run({u"wipe"_s, u"trash"_s, u"--yes"_s});
+    QCOMPARE(run.code, 0);
+    QVERIFY2(!run.io.out.contains("Recycle Bin of"), run.io.out.constData());
+    QCOMPARE(machine.session.binChanges, 1);
 }
 
 // What a link leads to was never in the bin.

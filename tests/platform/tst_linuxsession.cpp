@@ -1,4 +1,5 @@
 #include "platform/linux/linuxsession.h"
+#include "support/scopedvariable.h"
 #include "support/suite.h"
 
 #include <QCoreApplication>
@@ -19,6 +20,8 @@ private slots:
     void userIsNamedByTheNumber();
     void rightsAreThoseOfTheUserInEffect();
     void rootsOfTheSystem();
+    void whoeverAskedForRightsHasAnotherBin_data();
+    void whoeverAskedForRightsHasAnotherBin();
 };
 
 void tst_LinuxSession::userIsNamedByTheNumber()
@@ -52,6 +55,36 @@ void tst_LinuxSession::rootsOfTheSystem()
     }
     QVERIFY(!session.isSystemRoot(u"/media/data"_s));
     QVERIFY(!session.holdsSystemFiles(u"/homes"_s));
+}
+
+void tst_LinuxSession::whoeverAskedForRightsHasAnotherBin_data()
+{
+    QTest::addColumn<QByteArray>("variable");
+    QTest::addColumn<QByteArray>("user");
+    QTest::addColumn<bool>("isForeign");
+    const QByteArray own = LinuxSession().userId().toLatin1();
+    QTest::newRow("nobody asked") << QByteArray("SUDO_UID") << QByteArray() << false;
+    for (const char *variable : {"SUDO_UID", "PKEXEC_UID"}) {
+        QTest::addRow("%s of another", variable) << QByteArray(variable) << QByteArray("4711") << true;
+        QTest::addRow("%s of the same", variable) << QByteArray(variable) << own << false;
+        QTest::addRow("%s of nobody", variable) << QByteArray(variable) << QByteArray("x") << false;
+    }
+}
+
+void tst_LinuxSession::whoeverAskedForRightsHasAnotherBin()
+{
+    QFETCH(const QByteArray, variable);
+    QFETCH(const QByteArray, user);
+    QFETCH(const bool, isForeign);
+    const ScopedVariable noSudo("SUDO_UID", {});
+    const ScopedVariable noPkexec("PKEXEC_UID", {});
+    const ScopedVariable asked(variable.constData(), user);
+    QProcess id;
+    id.start(u"id"_s, {u"-un"_s});
+    QVERIFY(id.waitForFinished());
+    const QString name = QString::fromLocal8Bit(id.readAllStandardOutput().trimmed());
+    QVERIFY(!name.isEmpty());
+    QCOMPARE(LinuxSession().foreignAccount(), isForeign ? name : QString());
 }
 
 QUORVEX_SUITE(tst_LinuxSession, QCoreApplication)

@@ -108,6 +108,9 @@ public:
     QString user;
     platform::Result<bool> administrator = true;
 
+    QString otherAccount; // foreignAccount()
+    int binChanges = 0;   // told
+
     // Of keepAwake(): the answer, unless it is to fail, and how it was used.
     quint32 awakeError = platform::NoError;
     bool canDelayShutdown = false;
@@ -119,6 +122,8 @@ public:
     bool holdsSystemFiles(const QString &rootPath) override { return isSystemRoot(rootPath); }
     QString userId() override { return user; }
     platform::Result<bool> isAdministrator() override { return administrator; }
+    QString foreignAccount() override { return otherAccount; }
+    void tellBinChanged() override { ++binChanges; }
     platform::Result<std::unique_ptr<platform::AwakeHold>>
     keepAwake(const platform::AwakeRequest &request) override;
 };

@@ -134,6 +134,14 @@ void tst_WindowsFileDrops::aDropReachesTheReceiver()
     QStringList received;
     const platform::FileDrops drops(Window, [&received](const QStringList &paths) { received += paths; });
     const QStringList paths{u"C:\\one"_s, u"C:\\two"_s};
+    // As it comes out of the queue, and as it is sent to the window.
+    MSG queued = {};
+    queued.hwnd = reinterpret_cast<HWND>(Window);
+    queued.message = WM_DROPFILES;
+    queued.wParam = reinterpret_cast<WPARAM>(droppedFiles(paths));
+    QVERIFY(QAbstractEventDispatcher::instance()->filterNativeEvent("windows_generic_MSG", &queued, nullptr));
+    QCOMPARE(received, paths);
+    received.clear();
     QVERIFY(deliver(reinterpret_cast<HWND>(Window), WM_DROPFILES, droppedFiles(paths)));
     QCOMPARE(received, paths);
 }

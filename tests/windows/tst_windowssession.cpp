@@ -4,6 +4,11 @@
 
 #include <QTest>
 
+#include <shlobj.h>
+
+#include <memory>
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -30,6 +35,61 @@ BOOL WINAPI destroyReason(HWND window)
     return TRUE;
 }
 
+// The shell's process, and its token.
+HANDLE const ShellProcess = reinterpret_cast<HANDLE>(quintptr(0x7700));
+HANDLE const ShellToken = reinterpret_cast<HANDLE>(quintptr(0x7800));
+WELL_KNOWN_SID_TYPE s_shellUser = WinLocalSystemSid;
+
+BOOL WINAPI openToken(HANDLE process, DWORD access, PHANDLE token)
+{
+    if (process != ShellProcess)
+        return ::OpenProcessToken(process, access, token);
+    *token = ShellToken;
+    return TRUE;
+}
+
+BOOL WINAPI askToken(HANDLE token, TOKEN_INFORMATION_CLASS kind, void *reply, DWORD size, DWORD *used)
+{
+    if (token != ShellToken)
+        return ::GetTokenInformation(token, kind, reply, size, used);
+    *used = sizeof(TOKEN_USER) + SECURITY_MAX_SID_SIZE;
+    if (size < *used)
+        return FALSE;
+    auto *const user = static_cast<TOKEN_USER *>(reply);
+    user->User.Sid = user + 1;
+    DWORD room = SECURITY_MAX_SID_SIZE;
+    return ::CreateWellKnownSid(s_shellUser, nullptr, user->User.Sid, &room);
+}
+
+BOOL WINAPI closeToken(HANDLE handle)
+{
+    return handle == ShellProcess || handle == ShellToken || ::CloseHandle(handle);
+}
+
+BOOL WINAPI lookUp(LPCWSTR, PSID, LPWSTR name, LPDWORD, LPWSTR domain, LPDWORD, PSID_NAME_USE)
+{
+    QString(u"alice"_s).toWCharArray(name);
+    QString(u"OFFICE"_s).toWCharArray(domain);
+    return TRUE;
+}
+
+int s_icons = 0;
+QList<LONG> s_changes;
+
+void WINAPI updateIcon()
+{
+    ++s_icons;
+}
+
+void WINAPI noteChange(LONG event, UINT flags, const void *item, const void *)
+{
+    PIDLIST_ABSOLUTE bin = nullptr;
+    if (SUCCEEDED(::SHGetSpecialFolderLocation(nullptr, CSIDL_BITBUCKET, &bin)) &&
+        ::ILIsEqual(bin, static_cast<PCIDLIST_ABSOLUTE>(item)) && (flags & SHCNF_TYPE) == SHCNF_IDLIST)
+        s_changes.append(event);
+    ::CoTaskMemFree(bin);
+}
+
 } // namespace
 
 // Who uses the system and what is asked of it meanwhile.
@@ -49,7 +109,18 @@ private slots:
     void aRefusalIsTold();
     void theSystemItselfTakesTheHold();
 
+    void onesOwnDesktopIsNoForeignAccount();
+    void withoutAShellThereIsNoForeignAccount();
+    void anotherAccountIsNamed_data();
+    void anotherAccountIsNamed();
+    void aDesktopThatMayNotBeAskedIsAnothers_data();
+    void aDesktopThatMayNotBeAskedIsAnothers();
+    void theShellLooksAtTheBinAgain();
+
 private:
+    // The desktop of this process, unless a test changes more.
+    static platform::Win32Calls desktopCalls();
+
     std::unique_ptr<Win32Faults> recordingCalls() const
     {
         auto calls = std::make_unique<Win32Faults>();
@@ -148,6 +219,102 @@ void tst_WindowsSession::aRefusalIsTold()
 void tst_WindowsSession::theSystemItselfTakesTheHold()
 {
     QVERIFY(platform::WindowsSession().keepAwake({u"Busy"_s}));
+}
+
+platform::Win32Calls tst_WindowsSession::desktopCalls()
+{
+    platform::Win32Calls calls;
+    calls.getShellWindow = [] { return reinterpret_cast<HWND>(quintptr(9)); };
+    calls.getWindowThreadProcessId = [](HWND, LPDWORD process) -> DWORD {
+        *process = ::GetCurrentProcessId();
+        return 1;
+    };
+    calls.lookupAccountSid = lookUp;
+    return calls;
+}
+
+void tst_WindowsSession::onesOwnDesktopIsNoForeignAccount()
+{
+    const platform::Win32Calls calls = desktopCalls();
+    const platform::ScopedWin32Calls scope(calls);
+    QVERIFY(platform::WindowsSession().userId().startsWith(u"S-1-5-21-"_s));
+    QCOMPARE(platform::WindowsSession().foreignAccount(), QString());
+}
+
+void tst_WindowsSession::withoutAShellThereIsNoForeignAccount()
+{
+    platform::Win32Calls calls = desktopCalls();
+    calls.getShellWindow = []() -> HWND { return nullptr; };
+    calls.openProcess = [](DWORD, BOOL, DWORD) -> HANDLE {
+        ::SetLastError(ERROR_ACCESS_DENIED);
+        return nullptr;
+    };
+    const platform::ScopedWin32Calls scope(calls);
+    QCOMPARE(platform::WindowsSession().foreignAccount(), QString());
+}
+
+void tst_WindowsSession::anotherAccountIsNamed_data()
+{
+    QTest::addColumn<bool>("hasName");
+    QTest::newRow("by name") << true;
+    QTest::newRow("by number") << false;
+}
+
+void tst_WindowsSession::anotherAccountIsNamed()
+{
+    QFETCH(const bool, hasName);
+    platform::Win32Calls calls = desktopCalls();
+    calls.openProcess = [](DWORD, BOOL, DWORD) { return ShellProcess; };
+    calls.openProcessToken = openToken;
+    calls.getTokenInformation = askToken;
+    calls.closeHandle = closeToken;
+    if (!hasName)
+        calls.lookupAccountSid = [](LPCWSTR, PSID, LPWSTR, LPDWORD, LPWSTR, LPDWORD, PSID_NAME_USE) -> BOOL {
+            return FALSE;
+        };
+    const platform::ScopedWin32Calls scope(calls);
+    platform::WindowsSession session;
+    QCOMPARE(session.foreignAccount(), hasName ? u"OFFICE\\alice"_s : session.userId());
+}
+
+void tst_WindowsSession::aDesktopThatMayNotBeAskedIsAnothers_data()
+{
+    QTest::addColumn<DWORD>("error");
+    QTest::addColumn<QString>("account");
+    QTest::newRow("denied") << DWORD(ERROR_ACCESS_DENIED) << u"OFFICE\\alice"_s;
+    QTest::newRow("gone") << DWORD(ERROR_INVALID_PARAMETER) << QString();
+}
+
+void tst_WindowsSession::aDesktopThatMayNotBeAskedIsAnothers()
+{
+    QFETCH(const DWORD, error);
+    QFETCH(const QString, account);
+    static DWORD s_error;
+    s_error = error;
+    platform::Win32Calls calls = desktopCalls();
+    calls.openProcess = [](DWORD, BOOL, DWORD) -> HANDLE {
+        ::SetLastError(s_error);
+        return nullptr;
+    };
+    const platform::ScopedWin32Calls scope(calls);
+    QCOMPARE(platform::WindowsSession().foreignAccount(), account);
+}
+
+void tst_WindowsSession::theShellLooksAtTheBinAgain()
+{
+    s_icons = 0;
+    s_changes.clear();
+    platform::Win32Calls calls;
+    calls.updateRecycleBinIcon = updateIcon;
+    calls.changeNotify = noteChange;
+    {
+        const platform::ScopedWin32Calls scope(calls);
+        platform::WindowsSession().tellBinChanged();
+    }
+    QCOMPARE(s_icons, 1);
+    QCOMPARE(s_changes, QList<LONG>{SHCNE_UPDATEDIR});
+    // And the system itself takes both.
+    platform::WindowsSession().tellBinChanged();
 }
 
 QUORVEX_SUITE(tst_WindowsSession, suites::NoApplication)

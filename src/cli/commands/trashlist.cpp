@@ -32,7 +32,8 @@ Outcome<ExitCode> run(const CommandContext &context)
         text += describeItem(item) + u'\n';
     for (const RecycleBinItem &item : found->unrecorded)
         text += describeItem(item) + u'\n';
-    const QStringList ends = amountLines(*found) + unrecordedLines(*found) + unscannedLines(*found);
+    const QStringList ends =
+        accountLines(*found) + amountLines(*found) + unrecordedLines(*found) + unscannedLines(*found);
     context.io.print(text + ends.join(u'\n') + u'\n');
     return Done;
 }

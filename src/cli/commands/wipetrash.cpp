@@ -27,12 +27,15 @@ QStringList summaryOf(const RecycleBinInfo &found)
 {
     const QStringList items = TargetText::beginningOf(
         found.items.size(), [&found](qsizetype i) { return describeItem(found.items.at(i)); });
-    return indented(items + amountLines(found) + unrecordedLines(found) + unscannedLines(found));
+    return indented(items + accountLines(found) + amountLines(found) + unrecordedLines(found) +
+                    unscannedLines(found));
 }
 
-ExitCode tellEmpty(const CommandContext &context)
+ExitCode tellEmpty(const CommandContext &context, const RecycleBinInfo &found)
 {
-    const QString message = Cli::tr("The Recycle Bin is empty.");
+    // With the account: another one may have something in its bin.
+    const QString message =
+        (QStringList{Cli::tr("The Recycle Bin is empty.")} + accountLines(found)).join(u' ');
     if (wantsJson(context.options)) {
         JsonWriter event(JsonWriter::Layout::Compact);
         event.beginObject().member(u"event", u"log").member(u"level", 0).member(u"message", message);
@@ -73,7 +76,7 @@ Outcome<ExitCode> run(const CommandContext &context)
                                     .arg(unscannedLines(*found).join(u"; "_s))};
     }
     if (doomed.isEmpty())
-        return tellEmpty(context);
+        return tellEmpty(context, *found);
 
     auto task = std::make_unique<WipeTask>();
     task->setOperationType(FileWipe);

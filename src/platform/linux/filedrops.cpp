@@ -5,7 +5,7 @@ namespace platform {
 class FileDrops::Private
 {};
 
-FileDrops::FileDrops(quintptr, Receiver)
+FileDrops::FileDrops(quintptr, const Receiver &)
 {}
 
 FileDrops::~FileDrops() = default;

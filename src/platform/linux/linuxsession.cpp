@@ -6,7 +6,10 @@
 
 #include <QDir>
 
+#include <pwd.h>
 #include <unistd.h>
+
+#include <array>
 
 namespace platform {
 
@@ -24,6 +27,17 @@ const QStringList &systemMountPoints()
 bool isInMemory(const QString &swapArea)
 {
     return swapArea.startsWith(QStringLiteral("/dev/zram"));
+}
+
+// The number where there is no name.
+QString userName(uid_t user)
+{
+    passwd entry{};
+    passwd *found = nullptr;
+    std::array<char, 16384> texts{};
+    if (::getpwuid_r(user, &entry, texts.data(), texts.size(), &found) != 0 || found == nullptr)
+        return QString::number(user);
+    return QString::fromLocal8Bit(found->pw_name);
 }
 
 } // namespace
@@ -78,6 +92,18 @@ QString LinuxSession::userId()
 Result<bool> LinuxSession::isAdministrator()
 {
     return ::geteuid() == 0;
+}
+
+QString LinuxSession::foreignAccount()
+{
+    // Each names whoever asked for more rights.
+    for (const char *variable : {"PKEXEC_UID", "SUDO_UID"}) {
+        bool isNumber = false;
+        const uint asking = qEnvironmentVariable(variable).toUInt(&isNumber);
+        if (isNumber && asking != ::geteuid())
+            return userName(::geteuid());
+    }
+    return {};
 }
 
 Result<std::unique_ptr<AwakeHold>> LinuxSession::keepAwake(const AwakeRequest &request)

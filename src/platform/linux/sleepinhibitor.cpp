@@ -7,8 +7,6 @@
 #include <QDBusReply>
 #include <QDBusUnixFileDescriptor>
 
-#include <utility>
-
 namespace platform {
 
 namespace {
@@ -20,8 +18,8 @@ constexpr int PatienceMs = 5000;
 class Inhibitor final : public AwakeHold
 {
 public:
-    explicit Inhibitor(QDBusUnixFileDescriptor descriptor)
-        : m_descriptor(std::move(descriptor))
+    explicit Inhibitor(const QDBusUnixFileDescriptor &descriptor)
+        : m_descriptor(descriptor)
     {}
     bool delaysShutdown() const override { return false; }
 

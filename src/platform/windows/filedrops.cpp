@@ -54,7 +54,9 @@ public:
         const QStringList paths = droppedPaths(drop);
         ::DragFinish(drop);
         m_receive(paths);
-        *result = 0;
+        // Who takes a message out of the queue asks for no answer.
+        if (result)
+            *result = 0;
         return true;
     }
 
@@ -63,12 +65,12 @@ private:
     Receiver m_receive;
 };
 
-FileDrops::FileDrops(quintptr window, Receiver receive)
+FileDrops::FileDrops(quintptr window, const Receiver &receive)
 {
     // Among equals the newer way works, and shows the user more.
-    if (!isProcessElevated())
+    if (!isProcessElevated().valueOr(false))
         return;
-    d = std::make_unique<Private>(reinterpret_cast<HWND>(window), std::move(receive));
+    d = std::make_unique<Private>(reinterpret_cast<HWND>(window), receive);
     d->begin();
 }
 

@@ -1,13 +1,10 @@
 #pragma once
 
-#include "platform/windows/win32calls.h"
-
-#include <QString>
+#include "platform/status.h"
 
 namespace platform {
 
-// Whether this process has rights that the programs of the same user's desktop have not. False when the
-// system does not tell.
-bool isProcessElevated();
+// Whether this process has rights that the programs of the same user's desktop have not.
+Result<bool> isProcessElevated();
 
 } // namespace platform

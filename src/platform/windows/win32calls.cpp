@@ -1,5 +1,8 @@
 #include "platform/windows/win32calls.h"
 
+#include <ole2.h>
+#include <shlobj.h>
+
 #include <atomic>
 
 namespace platform {
@@ -10,6 +13,25 @@ const Win32Calls s_system;
 std::atomic<const Win32Calls *> s_inForce{&s_system};
 
 } // namespace
+
+HRESULT WINAPI revokeDragDrop(HWND window)
+{
+    return ::RevokeDragDrop(window);
+}
+
+void WINAPI changeNotify(LONG event, UINT flags, LPCVOID first, LPCVOID second)
+{
+    ::SHChangeNotify(event, flags, first, second);
+}
+
+void WINAPI updateRecycleBinIcon()
+{
+    using Update = void(WINAPI *)();
+    HMODULE const shell = ::GetModuleHandleW(L"shell32.dll");
+    FARPROC const found = shell ? ::GetProcAddress(shell, "SHUpdateRecycleBinIcon") : nullptr;
+    if (const auto update = reinterpret_cast<Update>(reinterpret_cast<void (*)()>(found)))
+        update();
+}
 
 const Win32Calls &win32()
 {

@@ -15,12 +15,17 @@
 #endif
 #include <windows.h>
 
-#include <ole2.h>
 #include <sddl.h>
 #include <shellapi.h>
 #include <winioctl.h>
 
 namespace platform {
+
+// RevokeDragDrop and SHChangeNotify, whose headers are long, and SHUpdateRecycleBinIcon, which not every
+// compiler's headers know.
+HRESULT WINAPI revokeDragDrop(HWND window);
+void WINAPI changeNotify(LONG event, UINT flags, LPCVOID first, LPCVOID second);
+void WINAPI updateRecycleBinIcon();
 
 // The calls through which this backend asks the system, each the system's own function unless a test has put
 // another in its place. A replacement fails as the system does: it returns the call's value for failure and
@@ -71,7 +76,16 @@ struct Win32Calls
     decltype(&::ShutdownBlockReasonDestroy) shutdownBlockReasonDestroy = &::ShutdownBlockReasonDestroy;
     decltype(&::ChangeWindowMessageFilterEx) changeWindowMessageFilter = &::ChangeWindowMessageFilterEx;
     decltype(&::DragAcceptFiles) dragAcceptFiles = &::DragAcceptFiles;
-    decltype(&::RevokeDragDrop) revokeDragDrop = &::RevokeDragDrop;
+    decltype(&platform::revokeDragDrop) revokeDragDrop = &platform::revokeDragDrop;
+
+    decltype(&::GetShellWindow) getShellWindow = &::GetShellWindow;
+    decltype(&::GetWindowThreadProcessId) getWindowThreadProcessId = &::GetWindowThreadProcessId;
+    decltype(&::OpenProcess) openProcess = &::OpenProcess;
+    decltype(&::LookupAccountSidW) lookupAccountSid = &::LookupAccountSidW;
+    decltype(&platform::changeNotify) changeNotify = &platform::changeNotify;
+    decltype(&platform::updateRecycleBinIcon) updateRecycleBinIcon = &platform::updateRecycleBinIcon;
+
+    decltype(&::SystemParametersInfoW) systemParametersInfo = &::SystemParametersInfoW;
 };
 
 // The table in force. Any thread.

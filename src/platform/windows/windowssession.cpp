@@ -1,27 +1,17 @@
 #include "platform/windows/windowssession.h"
 
-#include "platform/windows/lasterror.h"
+#include "platform/windows/processtoken.h"
 #include "platform/windows/win32calls.h"
+#include "platform/windows/windowsaccount.h"
 #include "platform/windows/windowsawakehold.h"
 #include "platform/windows/windowspaths.h"
-#include "platform/windows/winhandle.h"
+
+#include <shlobj.h>
 
 #include <array>
 #include <memory>
 
 namespace platform {
-
-namespace {
-
-WinHandle ownToken()
-{
-    HANDLE opened = nullptr;
-    if (!win32().openProcessToken(::GetCurrentProcess(), TOKEN_QUERY, &opened))
-        return {};
-    return WinHandle(opened);
-}
-
-} // namespace
 
 QStringList WindowsSession::systemVolumes()
 {
@@ -46,35 +36,28 @@ bool WindowsSession::holdsSystemFiles(const QString &rootPath)
 
 QString WindowsSession::userId()
 {
-    const WinHandle token = ownToken();
-    if (!token.isValid())
-        return {};
-    // The first question only tells how much room the answer takes.
-    DWORD size = 0;
-    win32().getTokenInformation(token.get(), TokenUser, nullptr, 0, &size);
-    if (size < sizeof(TOKEN_USER))
-        return {};
-    const auto reply = std::make_unique<std::byte[]>(size);
-    if (!win32().getTokenInformation(token.get(), TokenUser, reply.get(), size, &size))
-        return {};
-    LPWSTR text = nullptr;
-    if (!win32().convertSidToStringSid(reinterpret_cast<const TOKEN_USER *>(reply.get())->User.Sid, &text))
-        return {};
-    QString id = decodeName(text);
-    win32().localFree(text);
-    return id;
+    return accountOf(::GetCurrentProcess());
+}
+
+QString WindowsSession::foreignAccount()
+{
+    return isDesktopOfAnother() ? accountNameOf(::GetCurrentProcess()) : QString();
+}
+
+void WindowsSession::tellBinChanged()
+{
+    win32().updateRecycleBinIcon();
+    // Windows that show the bin.
+    PIDLIST_ABSOLUTE bin = nullptr;
+    if (FAILED(::SHGetSpecialFolderLocation(nullptr, CSIDL_BITBUCKET, &bin)))
+        return;
+    win32().changeNotify(SHCNE_UPDATEDIR, SHCNF_IDLIST | SHCNF_FLUSHNOWAIT, bin, nullptr);
+    ::CoTaskMemFree(bin);
 }
 
 Result<bool> WindowsSession::isAdministrator()
 {
-    const WinHandle token = ownToken();
-    if (!token.isValid())
-        return statusFromLastError("OpenProcessToken");
-    TOKEN_ELEVATION elevation = {};
-    DWORD size = sizeof(elevation);
-    if (!win32().getTokenInformation(token.get(), TokenElevation, &elevation, size, &size))
-        return statusFromLastError("GetTokenInformation");
-    return elevation.TokenIsElevated != 0;
+    return isProcessElevated();
 }
 
 Result<std::unique_ptr<AwakeHold>> WindowsSession::keepAwake(const AwakeRequest &request)

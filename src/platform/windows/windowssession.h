@@ -12,6 +12,8 @@ public:
     bool holdsSystemFiles(const QString &rootPath) override;
     QString userId() override;
     Result<bool> isAdministrator() override;
+    QString foreignAccount() override;
+    void tellBinChanged() override;
     Result<std::unique_ptr<AwakeHold>> keepAwake(const AwakeRequest &request) override;
 };
 

@@ -3,11 +3,13 @@
 #include "engine/wipeengine.h"
 #include "jobs/jobcontroller.h"
 #include "platform/filedrops.h"
+#include "platform/windowframe.h"
 #include "services/reportdatabase.h"
 #include "ui/disks/diskselectpage.h"
 #include "ui/files/fileselectpage.h"
 #include "ui/history/historypage.h"
 #include "ui/home/homepage.h"
+#include "ui/mainwindow/frameowner.h"
 #include "ui/mainwindow/recyclebinflow.h"
 #include "ui/mainwindow/shadowcanvas.h"
 #include "ui/mainwindow/sidebar.h"
@@ -16,6 +18,7 @@
 #include "ui/settings/settingspage.h"
 #include "ui/titlebar/programrestart.h"
 #include "ui/titlebar/titlebar.h"
+#include "ui/titlebar/winbutton.h"
 
 #include <QApplication>
 #include <QDebug>
@@ -118,6 +121,7 @@ void MainWindow::createLayout()
     m_titleBar = new TitleBar;
     m_titleBar->setStyleSheet(u"#titleBar {  background-color: #1e293b;  border-top-right-radius: 12px;}"_s);
     column->addWidget(m_titleBar);
+    m_frameOwner = std::make_unique<FrameOwner>(*this, *m_titleBar->maximizeButton());
     m_pages = new QStackedWidget;
     m_pages->setObjectName("pageStack"_L1);
     column->addWidget(m_pages, 1);

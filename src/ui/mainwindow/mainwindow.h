@@ -14,6 +14,7 @@ QT_FORWARD_DECLARE_CLASS(QStackedWidget)
 QT_FORWARD_DECLARE_CLASS(QVBoxLayout)
 class DiskSelectPage;
 class FileSelectPage;
+class FrameOwner;
 class HistoryPage;
 class HomePage;
 class JobController;
@@ -29,7 +30,8 @@ struct JobEnd;
 struct RecycleBinInfo;
 namespace platform {
 class FileDrops;
-}
+class WindowFrame;
+} // namespace platform
 
 /// The program's one window: sidebar, title bar and the stack of pages. Turns the user's way through the
 /// pages into a task, hands it to the controller of the job, keeps report and certificate at its end,
@@ -95,6 +97,7 @@ private:
     void connectTitleBar();
     void applyStyleSheet();
     void setCorners(bool square);
+    void takeNativeWindow();
     void takeDrop(const QStringList &paths);
 
     void showPage(int index);
@@ -131,7 +134,9 @@ private:
     bool m_asksAboutJob = false;    ///< a box is open that only makes sense while the job runs
     int m_currentPage = Home;
 
-    std::unique_ptr<platform::FileDrops> m_drops; ///< of the native window
+    std::unique_ptr<platform::FileDrops> m_drops; ///< of the native window, as m_frame
+    std::unique_ptr<FrameOwner> m_frameOwner;
+    std::unique_ptr<platform::WindowFrame> m_frame;
     QVBoxLayout *m_outerLayout = nullptr;
     bool m_dragging = false;
     QPoint m_dragPosition; ///< of the cursor, from the window's top left corner

@@ -3,9 +3,12 @@
 
 #include "jobs/jobcontroller.h"
 #include "platform/filedrops.h"
+#include "platform/windowframe.h"
 #include "prompts/prompts.h"
 #include "services/linkmanager.h"
 #include "ui/files/fileselectpage.h"
+#include "ui/mainwindow/frameowner.h"
+#include "ui/mainwindow/frameparts.h"
 #include "ui/mainwindow/sidebar.h"
 #include "ui/titlebar/titlebar.h"
 
@@ -23,11 +26,11 @@
 #include <initializer_list>
 
 using namespace Qt::StringLiterals;
+using frameparts::DragHeight;
+using frameparts::edgesAt;
+using frameparts::ShadowMargin;
 
 namespace {
-
-constexpr int ShadowMargin = 10; // pixels, also where the edges are gripped
-constexpr int DragHeight = 80;   // pixels from the top
 
 const QString aboutStyle = u"QMessageBox { background-color: white; }"
                            "QLabel { color: #333333; font-size: 13px; }"
@@ -39,20 +42,6 @@ bool isControl(const QWidget *widget)
 {
     return qobject_cast<const QPushButton *>(widget) || qobject_cast<const QComboBox *>(widget) ||
            qobject_cast<const QLineEdit *>(widget);
-}
-
-Qt::Edges edgesAt(const QPoint &position, const QSize &size)
-{
-    Qt::Edges edges;
-    if (position.x() < ShadowMargin)
-        edges |= Qt::LeftEdge;
-    if (position.x() >= size.width() - ShadowMargin)
-        edges |= Qt::RightEdge;
-    if (position.y() < ShadowMargin)
-        edges |= Qt::TopEdge;
-    if (position.y() >= size.height() - ShadowMargin)
-        edges |= Qt::BottomEdge;
-    return edges;
 }
 
 Qt::CursorShape cursorFor(Qt::Edges edges)
@@ -76,14 +65,22 @@ bool MainWindow::event(QEvent *event)
         if (shape != cursor().shape())
             setCursor(shape);
     }
-    if (event->type() == QEvent::WinIdChange) {
-        const WId window = internalWinId();
-        m_drops.reset();
-        if (window != 0)
-            m_drops = std::make_unique<platform::FileDrops>(
-                window, [this](const QStringList &paths) { takeDrop(paths); });
-    }
+    if (event->type() == QEvent::WinIdChange)
+        takeNativeWindow();
     return QMainWindow::event(event);
+}
+
+// It is made when the window is first shown, and may be made anew.
+void MainWindow::takeNativeWindow()
+{
+    const WId window = internalWinId();
+    m_drops.reset();
+    m_frame.reset();
+    if (window == 0)
+        return;
+    m_drops =
+        std::make_unique<platform::FileDrops>(window, [this](const QStringList &paths) { takeDrop(paths); });
+    m_frame = std::make_unique<platform::WindowFrame>(window, *m_frameOwner);
 }
 
 // The pages decide about drops themselves; these come to the window as a whole.

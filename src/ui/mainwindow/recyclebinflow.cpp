@@ -166,6 +166,8 @@ void RecycleBinFlow::leave()
 QStringList RecycleBinFlow::besideItems(const RecycleBinInfo &found)
 {
     QStringList lines;
+    if (!found.account.isEmpty())
+        lines.append(Window::tr("Recycle Bin of %1").arg(displayText(found.account)));
     if (const QString impossible = BinItemText::impossibleSizes(found); !impossible.isEmpty())
         lines.append(impossible);
     if (!found.unrecorded.isEmpty())

@@ -31,7 +31,8 @@ public:
     void onScrolled();
     void leave();
 
-    /// A line each for what is erased without being an item, and for the bins that stay as they are.
+    /// A line each for whose bin it is, unless it is that of the desktop, for what is erased without being an
+    /// item, and for the bins that stay as they are.
     static QStringList besideItems(const RecycleBinInfo &found);
     /// What is shown, for a question: amount, what is erased besides, the first items.
     QStringList lines() const;

@@ -1,6 +1,7 @@
 #include "ui/startup/startup.h"
 
 #include "model/usersettings.h"
+#include "platform/appearance.h"
 #include "platform/process.h"
 #include "prompts/prompts.h"
 #include "services/applog.h"
@@ -73,6 +74,10 @@ int runDesktopProgram(int &argc, char **argv)
     platform::outliveSizeLimits();
     platform::provideComputerName();
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+    platform::keepLightFrames();
+    // The system's style draws in its own colours then, under the texts of ours; this one draws in ours only.
+    if (platform::hasHighContrast())
+        QApplication::setStyle(u"Fusion"_s);
     QApplication application(argc, argv);
     QApplication::setPalette(lightPalette());
     nameApplication();

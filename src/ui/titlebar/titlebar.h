@@ -23,6 +23,8 @@ public:
     /// To be told by the window whenever its state has changed.
     void setMaximized(bool maximized);
 
+    WinButton *maximizeButton() const { return m_maximizeButton; }
+
     /// What a new language ends with: by default restartProgram().
     void setRestart(std::function<void()> restart) { m_restart = std::move(restart); }
 

@@ -67,6 +67,7 @@ private slots:
     void whatVanishesAfterTheScanStopsTheJob();
     void aBinThatIsNotLookedIntoIsTold();
     void dataWithoutARecordIsErasedToo();
+    void theBinOfAnotherAccountIsToldAsSuch();
 
 private:
     // Below the folder that the window fixture gives to the user.
@@ -449,6 +450,31 @@ void tst_RecycleBinFlow::dataWithoutARecordIsErasedToo()
     QVERIFY(fixture.click(u"Next →"_s));
     fixture.runJob();
     QVERIFY(!QFile::exists(data));
+}
+
+void tst_RecycleBinFlow::theBinOfAnotherAccountIsToldAsSuch()
+{
+    FakeDevices devices;
+    FakeSession session;
+    const std::unique_ptr<platform::Platform> native = platform::createPlatform({});
+    session.user = native->session().userId();
+    session.otherAccount = u"root"_s;
+    WindowFixture fixture(
+        std::make_unique<platform::ForwardingPlatform>(native->files(), native->folders(), devices, session));
+    fixture.prompts.buttons = {QMessageBox::No};
+    fixture.window->onRecycleBinWipeClicked();
+    QTRY_COMPARE_WITH_TIMEOUT(fixture.prompts.boxes.size(), 1, 60000);
+    QVERIFY(fixture.prompts.boxes.constFirst().text.endsWith(u"\n\nRecycle Bin of root"_s));
+
+    addTrash(fixture, 1);
+    fixture.window->onRecycleBinWipeClicked();
+    QTRY_VERIFY_WITH_TIMEOUT(fixture.button(u"Next →"_s)->isEnabled(), 60000);
+    auto *page = fixture.window->findChild<FileSelectPage *>();
+    QCOMPARE(page->statsLabel()->text(), u"Found 1 items, total 7 B\nRecycle Bin of root"_s);
+    QVERIFY(fixture.click(u"Next →"_s));
+    QCOMPARE(session.binChanges, 0);
+    fixture.runJob();
+    QCOMPARE(session.binChanges, 1);
 }
 
 QUORVEX_SUITE(tst_RecycleBinFlow, QApplication)

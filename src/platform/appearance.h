@@ -1,0 +1,16 @@
+#pragma once
+
+// What the system says of looks, to a program that has its own.
+
+namespace platform {
+
+// Windows of the system's own around our content keep light frames on a dark desktop. Before the
+// QApplication. Windows: the option "darkmode=0" of Qt's platform plugin, by QT_QPA_PLATFORM unless that is
+// set already. Linux: the window manager's affair.
+void keepLightFrames();
+
+// Whether the system draws its controls in colours of high contrast. Windows: SPI_GETHIGHCONTRAST. Linux: no
+// such question.
+bool hasHighContrast();
+
+} // namespace platform

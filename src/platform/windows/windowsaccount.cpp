@@ -1,0 +1,96 @@
+#include "platform/windows/windowsaccount.h"
+
+#include "platform/windows/windowspaths.h"
+#include "platform/windows/winhandle.h"
+
+#include <array>
+#include <cstddef>
+#include <memory>
+
+namespace platform {
+
+namespace {
+
+// What the token of a process says of its user; null when it cannot be asked.
+class TokenUser
+{
+public:
+    explicit TokenUser(HANDLE process)
+    {
+        HANDLE opened = nullptr;
+        if (!win32().openProcessToken(process, TOKEN_QUERY, &opened))
+            return;
+        const WinHandle token(opened);
+        // The first question only tells how much room the answer takes.
+        DWORD size = 0;
+        win32().getTokenInformation(token.get(), ::TokenUser, nullptr, 0, &size);
+        if (size < sizeof(TOKEN_USER))
+            return;
+        m_reply = std::make_unique<std::byte[]>(size);
+        if (!win32().getTokenInformation(token.get(), ::TokenUser, m_reply.get(), size, &size))
+            m_reply.reset();
+    }
+
+    PSID sid() const
+    {
+        return m_reply ? reinterpret_cast<const TOKEN_USER *>(m_reply.get())->User.Sid : nullptr;
+    }
+
+private:
+    std::unique_ptr<std::byte[]> m_reply;
+};
+
+QString textOf(PSID sid)
+{
+    LPWSTR text = nullptr;
+    if (sid == nullptr || !win32().convertSidToStringSid(sid, &text))
+        return {};
+    QString id = decodeName(text);
+    win32().localFree(text);
+    return id;
+}
+
+} // namespace
+
+QString accountOf(HANDLE process)
+{
+    return textOf(TokenUser(process).sid());
+}
+
+QString accountNameOf(HANDLE process)
+{
+    const TokenUser user(process);
+    if (user.sid() == nullptr)
+        return {};
+    constexpr DWORD Longest = 256 + 1; // of a name, and of a domain's
+    std::array<wchar_t, Longest> name{};
+    std::array<wchar_t, Longest> domain{};
+    DWORD nameSize = Longest;
+    DWORD domainSize = Longest;
+    SID_NAME_USE use = SidTypeUnknown;
+    if (!win32().lookupAccountSid(nullptr, user.sid(), name.data(), &nameSize, domain.data(), &domainSize,
+                                  &use))
+        return textOf(user.sid());
+    const QString account = decodeName(name.data());
+    return domain.front() == L'\0' ? account : decodeName(domain.data()) + QLatin1Char('\\') + account;
+}
+
+bool isDesktopOfAnother()
+{
+    auto *const shell = win32().getShellWindow();
+    DWORD id = 0;
+    if (shell == nullptr || win32().getWindowThreadProcessId(shell, &id) == 0)
+        return false;
+    const QString own = accountOf(::GetCurrentProcess());
+    if (own.isEmpty())
+        return false;
+    ::SetLastError(ERROR_SUCCESS);
+    const WinHandle process(win32().openProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, id));
+    const QString shown = process.isValid() ? accountOf(process.get()) : QString();
+    // The processes of one's own account may always be asked.
+    if (shown.isEmpty())
+        return ::GetLastError() == ERROR_ACCESS_DENIED;
+    return shown != own;
+}
+
+} // namespace platform
