@@ -1408,6 +1408,10 @@
         <source>Nothing is written. The answers are in English in every language and have serial numbers and paths in them: look through them before you send them on.</source>
         <translation>Es wird nichts geschrieben. Die Antworten sind in jeder Sprache englisch und enthalten Seriennummern und Pfade: Sehen Sie sie durch, bevor Sie sie weitergeben.</translation>
     </message>
+    <message>
+        <source>Recycle Bin of %1</source>
+        <translation>Papierkorb von %1</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>
@@ -2691,6 +2695,10 @@ Möchten Sie den freien Speicherplatz löschen, damit dies nicht mehr möglich i
     <message>
         <source>Reading drives...</source>
         <translation>Datenträger werden gelesen...</translation>
+    </message>
+    <message>
+        <source>Recycle Bin of %1</source>
+        <translation>Papierkorb von %1</translation>
     </message>
 </context>
 <context>

@@ -1408,6 +1408,10 @@
         <source>Nothing is written. The answers are in English in every language and have serial numbers and paths in them: look through them before you send them on.</source>
         <translation>Nothing is written. The answers are in English in every language and have serial numbers and paths in them: look through them before you send them on.</translation>
     </message>
+    <message>
+        <source>Recycle Bin of %1</source>
+        <translation>Recycle Bin of %1</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>
@@ -2691,6 +2695,10 @@ Would you like to wipe free space to ensure they cannot be recovered?</translati
     <message>
         <source>Reading drives...</source>
         <translation>Reading drives...</translation>
+    </message>
+    <message>
+        <source>Recycle Bin of %1</source>
+        <translation>Recycle Bin of %1</translation>
     </message>
 </context>
 <context>

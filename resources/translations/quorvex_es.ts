@@ -1408,6 +1408,10 @@
         <source>Nothing is written. The answers are in English in every language and have serial numbers and paths in them: look through them before you send them on.</source>
         <translation>No se escribe nada. Las respuestas están en inglés en todos los idiomas y contienen números de serie y rutas: revíselas antes de enviarlas.</translation>
     </message>
+    <message>
+        <source>Recycle Bin of %1</source>
+        <translation>Papelera de %1</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>
@@ -2691,6 +2695,10 @@ Sin embargo, es posible que los archivos eliminados anteriormente aún se puedan
     <message>
         <source>Reading drives...</source>
         <translation>Leyendo unidades...</translation>
+    </message>
+    <message>
+        <source>Recycle Bin of %1</source>
+        <translation>Papelera de %1</translation>
     </message>
 </context>
 <context>

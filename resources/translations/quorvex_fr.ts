@@ -1408,6 +1408,10 @@
         <source>Nothing is written. The answers are in English in every language and have serial numbers and paths in them: look through them before you send them on.</source>
         <translation>Rien n’est écrit. Les réponses sont en anglais dans toutes les langues et contiennent des numéros de série et des chemins&#xa0;: relisez-les avant de les transmettre.</translation>
     </message>
+    <message>
+        <source>Recycle Bin of %1</source>
+        <translation>Corbeille de %1</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>
@@ -2691,6 +2695,10 @@ Voulez-vous effacer l&apos;espace libre afin qu&apos;ils ne puissent pas être r
     <message>
         <source>Reading drives...</source>
         <translation>Lecture des disques...</translation>
+    </message>
+    <message>
+        <source>Recycle Bin of %1</source>
+        <translation>Corbeille de %1</translation>
     </message>
 </context>
 <context>

@@ -1408,6 +1408,10 @@
         <source>Nothing is written. The answers are in English in every language and have serial numbers and paths in them: look through them before you send them on.</source>
         <translation>Non viene scritto nulla. Le risposte sono in inglese in ogni lingua e contengono numeri di serie e percorsi: controllarle prima di inviarle.</translation>
     </message>
+    <message>
+        <source>Recycle Bin of %1</source>
+        <translation>Cestino di %1</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>
@@ -2691,6 +2695,10 @@ Cancellare lo spazio libero in modo che non possano essere recuperati?</translat
     <message>
         <source>Reading drives...</source>
         <translation>Lettura dei dischi...</translation>
+    </message>
+    <message>
+        <source>Recycle Bin of %1</source>
+        <translation>Cestino di %1</translation>
     </message>
 </context>
 <context>

@@ -1408,6 +1408,10 @@
         <source>Nothing is written. The answers are in English in every language and have serial numbers and paths in them: look through them before you send them on.</source>
         <translation>何も書き込みません。応答はどの言語でも英語で、シリアル番号とパスを含みます。送る前に確認してください。</translation>
     </message>
+    <message>
+        <source>Recycle Bin of %1</source>
+        <translation>%1 のごみ箱</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>
@@ -2691,6 +2695,10 @@ Would you like to wipe free space to ensure they cannot be recovered?</source>
     <message>
         <source>Reading drives...</source>
         <translation>ドライブを読み込んでいます...</translation>
+    </message>
+    <message>
+        <source>Recycle Bin of %1</source>
+        <translation>%1 のごみ箱</translation>
     </message>
 </context>
 <context>

@@ -1408,6 +1408,10 @@
         <source>Nothing is written. The answers are in English in every language and have serial numbers and paths in them: look through them before you send them on.</source>
         <translation>아무것도 쓰지 않습니다. 응답은 모든 언어에서 영어이며 일련번호와 경로가 들어 있습니다. 보내기 전에 살펴보십시오.</translation>
     </message>
+    <message>
+        <source>Recycle Bin of %1</source>
+        <translation>%1의 휴지통</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>
@@ -2691,6 +2695,10 @@ Would you like to wipe free space to ensure they cannot be recovered?</source>
     <message>
         <source>Reading drives...</source>
         <translation>드라이브를 읽는 중...</translation>
+    </message>
+    <message>
+        <source>Recycle Bin of %1</source>
+        <translation>%1의 휴지통</translation>
     </message>
 </context>
 <context>

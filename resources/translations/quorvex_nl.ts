@@ -1408,6 +1408,10 @@
         <source>Nothing is written. The answers are in English in every language and have serial numbers and paths in them: look through them before you send them on.</source>
         <translation>Er wordt niets geschreven. De antwoorden zijn in elke taal Engels en bevatten serienummers en paden: bekijk ze voordat u ze doorstuurt.</translation>
     </message>
+    <message>
+        <source>Recycle Bin of %1</source>
+        <translation>Prullenbak van %1</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>
@@ -2691,6 +2695,10 @@ Wilt u de vrije ruimte wissen, zodat ze niet meer kunnen worden hersteld?</trans
     <message>
         <source>Reading drives...</source>
         <translation>Schijven worden gelezen...</translation>
+    </message>
+    <message>
+        <source>Recycle Bin of %1</source>
+        <translation>Prullenbak van %1</translation>
     </message>
 </context>
 <context>

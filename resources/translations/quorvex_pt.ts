@@ -1408,6 +1408,10 @@
         <source>Nothing is written. The answers are in English in every language and have serial numbers and paths in them: look through them before you send them on.</source>
         <translation>Nada é escrito. As respostas estão em inglês em todos os idiomas e contêm números de série e caminhos: reveja-as antes de as enviar.</translation>
     </message>
+    <message>
+        <source>Recycle Bin of %1</source>
+        <translation>Reciclagem de %1</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>
@@ -2691,6 +2695,10 @@ Deseja apagar o espaço livre para que eles não possam ser recuperados?</transl
     <message>
         <source>Reading drives...</source>
         <translation>Lendo as unidades...</translation>
+    </message>
+    <message>
+        <source>Recycle Bin of %1</source>
+        <translation>Reciclagem de %1</translation>
     </message>
 </context>
 <context>

@@ -1408,6 +1408,10 @@
         <source>Nothing is written. The answers are in English in every language and have serial numbers and paths in them: look through them before you send them on.</source>
         <translation>不会写入任何内容。应答在所有语言中均为英文，并包含序列号和路径：发送前请先查看。</translation>
     </message>
+    <message>
+        <source>Recycle Bin of %1</source>
+        <translation>%1 的回收站</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>
@@ -2684,6 +2688,10 @@ Would you like to wipe free space to ensure they cannot be recovered?</source>
     <message>
         <source>Click buttons to add files and folders</source>
         <translation>点击按钮以添加文件与文件夹</translation>
+    </message>
+    <message>
+        <source>Recycle Bin of %1</source>
+        <translation>%1 的回收站</translation>
     </message>
 </context>
 <context>

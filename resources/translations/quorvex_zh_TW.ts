@@ -1408,6 +1408,10 @@
         <source>Nothing is written. The answers are in English in every language and have serial numbers and paths in them: look through them before you send them on.</source>
         <translation>不會寫入任何內容。回應在所有語言中均為英文，並包含序號和路徑：傳送前請先檢視。</translation>
     </message>
+    <message>
+        <source>Recycle Bin of %1</source>
+        <translation>%1 的資源回收筒</translation>
+    </message>
 </context>
 <context>
     <name>CompleteDialog</name>
@@ -2691,6 +2695,10 @@ Would you like to wipe free space to ensure they cannot be recovered?</source>
     <message>
         <source>Reading drives...</source>
         <translation>正在讀取磁碟機...</translation>
+    </message>
+    <message>
+        <source>Recycle Bin of %1</source>
+        <translation>%1 的資源回收筒</translation>
     </message>
 </context>
 <context>
