@@ -40,7 +40,9 @@ public:
     Session &operator=(const Session &) = delete;
 
     // Volumes that the running system needs, as Devices::queryVolume takes them. Every drive under one of
-    // them is a system disk. Windows: one, the environment variable "SystemDrive", "C:" when it is empty.
+    // them is a system disk. Windows: the environment variable "SystemDrive", "C:" when it is empty; the
+    // partition that the machine starts from (the value SystemPartition of HKLM\SYSTEM\Setup), when it is
+    // told.
     // Linux: the media under what is mounted on "/", "/boot", "/boot/efi", "/efi", "/usr", "/var", "/home"
     // and
     // "/nix", through overlays and image files, and every active swap device. When the root leads to no

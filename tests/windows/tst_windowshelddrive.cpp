@@ -252,6 +252,8 @@ void tst_WindowsHeldDrive::machineVolumesAreAskedAndNotOpened()
 
     machine.faults.forget();
     for (const QString &other : {machine.boot + u'\\', machine.boot.chopped(1), machine.boot + u'\n',
+                                 QStringLiteral(R"(\\?\GLOBALROOT\Device\Null)"),
+                                 QStringLiteral(R"(\\?\GLOBALROOT\Device\HarddiskVolumeShadowCopy1)"),
                                  QStringLiteral(R"(\\?\PhysicalDrive3)"), machine.boot.mid(4)})
         QCOMPARE(devices.queryVolume(other).code(), quint32(FileNotFound));
     QCOMPARE(devices.openVolume(machine.boot, machine.identity).code(), quint32(FileNotFound));

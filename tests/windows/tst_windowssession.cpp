@@ -1,4 +1,5 @@
 #include "platform/windows/windowssession.h"
+#include "support/scopedvariable.h"
 #include "support/suite.h"
 #include "windows/win32faults.h"
 
@@ -116,6 +117,9 @@ private slots:
     void aDesktopThatMayNotBeAskedIsAnothers_data();
     void aDesktopThatMayNotBeAskedIsAnothers();
     void theShellLooksAtTheBinAgain();
+
+    void whatTheMachineStartsFromIsOfTheSystem_data();
+    void whatTheMachineStartsFromIsOfTheSystem();
 
 private:
     // The desktop of this process, unless a test changes more.
@@ -315,6 +319,44 @@ void tst_WindowsSession::theShellLooksAtTheBinAgain()
     QCOMPARE(s_changes, QList<LONG>{SHCNE_UPDATEDIR});
     // And the system itself takes both.
     platform::WindowsSession().tellBinChanged();
+}
+
+void tst_WindowsSession::whatTheMachineStartsFromIsOfTheSystem_data()
+{
+    QTest::addColumn<QString>("told");
+    QTest::addColumn<QStringList>("volumes");
+    const QString first = u"C:"_s;
+    QTest::newRow("not told") << QString() << QStringList{first};
+    QTest::newRow("a partition") << QStringLiteral(R"(\Device\HarddiskVolume12)")
+                                 << QStringList{first,
+                                                QStringLiteral(R"(\\?\GLOBALROOT\Device\HarddiskVolume12)")};
+    QTest::newRow("something else") << QStringLiteral(R"(\Device\Null)") << QStringList{first};
+    QTest::newRow("nothing") << u" "_s << QStringList{first};
+}
+
+void tst_WindowsSession::whatTheMachineStartsFromIsOfTheSystem()
+{
+    QFETCH(QString, told);
+    static QString s_told;
+    s_told = told;
+    platform::Win32Calls calls;
+    calls.regGetValue = [](HKEY root, LPCWSTR key, LPCWSTR value, DWORD kind, LPDWORD, PVOID reply,
+                           LPDWORD size) -> LSTATUS {
+        const bool isAsked = root == HKEY_LOCAL_MACHINE && kind == RRF_RT_REG_SZ &&
+                             QString::fromWCharArray(key) == QStringLiteral(R"(SYSTEM\Setup)") &&
+                             QString::fromWCharArray(value) == u"SystemPartition";
+        if (!isAsked || s_told.isEmpty())
+            return ERROR_FILE_NOT_FOUND;
+        const auto bytes = DWORD((s_told.size() + 1) * qsizetype(sizeof(wchar_t)));
+        if (*size < bytes)
+            return ERROR_MORE_DATA;
+        auto *const text = static_cast<wchar_t *>(reply);
+        text[s_told.toWCharArray(text)] = L'\0';
+        return ERROR_SUCCESS;
+    };
+    const platform::ScopedWin32Calls scope(calls);
+    const ScopedVariable drive("SystemDrive", "C:");
+    QTEST(platform::WindowsSession().systemVolumes(), "volumes");
 }
 
 QUORVEX_SUITE(tst_WindowsSession, suites::NoApplication)

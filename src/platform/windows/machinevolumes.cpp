@@ -67,7 +67,8 @@ Result<QStringList> machineVolumes()
 
 bool isMachineVolume(const QString &name)
 {
-    static const QRegularExpression form(QStringLiteral(R"(\A\\\\\?\\Volume\{[0-9A-Za-z-]+\}\z)"));
+    static const QRegularExpression form(
+        QStringLiteral(R"(\A\\\\\?\\(Volume\{[0-9A-Za-z-]+\}|GLOBALROOT\\Device\\HarddiskVolume[0-9]+)\z)"));
     return form.match(name).hasMatch();
 }
 

@@ -70,6 +70,7 @@ struct Win32Calls
     decltype(&::GetTokenInformation) getTokenInformation = &::GetTokenInformation;
     decltype(&::ConvertSidToStringSidW) convertSidToStringSid = &::ConvertSidToStringSidW;
     decltype(&::LocalFree) localFree = &::LocalFree;
+    decltype(&::RegGetValueW) regGetValue = &::RegGetValueW;
 
     decltype(&::SetThreadExecutionState) setThreadExecutionState = &::SetThreadExecutionState;
     decltype(&::ShutdownBlockReasonCreate) shutdownBlockReasonCreate = &::ShutdownBlockReasonCreate;

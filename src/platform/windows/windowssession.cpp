@@ -1,5 +1,6 @@
 #include "platform/windows/windowssession.h"
 
+#include "platform/windows/machinevolumes.h"
 #include "platform/windows/processtoken.h"
 #include "platform/windows/win32calls.h"
 #include "platform/windows/windowsaccount.h"
@@ -13,10 +14,35 @@
 
 namespace platform {
 
-QStringList WindowsSession::systemVolumes()
+namespace {
+
+QString systemDrive()
 {
     const QString drive = qEnvironmentVariable("SystemDrive");
-    return {drive.isEmpty() ? QStringLiteral("C:") : drive};
+    return drive.isEmpty() ? QStringLiteral("C:") : drive;
+}
+
+// The partition that the firmware begins with (EFI, or the one that is marked active), which has no letter.
+// Empty when the system does not tell.
+QString bootPartition()
+{
+    std::array<wchar_t, MAX_PATH> name{};
+    auto size = DWORD(sizeof name);
+    if (win32().regGetValue(HKEY_LOCAL_MACHINE, LR"(SYSTEM\Setup)", L"SystemPartition", RRF_RT_REG_SZ,
+                            nullptr, name.data(), &size) != ERROR_SUCCESS)
+        return {};
+    const QString path = QStringLiteral(R"(\\?\GLOBALROOT)") + QString::fromWCharArray(name.data());
+    return isMachineVolume(path) ? path : QString();
+}
+
+} // namespace
+
+QStringList WindowsSession::systemVolumes()
+{
+    QStringList volumes{systemDrive()};
+    if (const QString boot = bootPartition(); !boot.isEmpty())
+        volumes.append(boot);
+    return volumes;
 }
 
 bool WindowsSession::isSystemRoot(const QString &rootPath)
@@ -29,8 +55,7 @@ bool WindowsSession::holdsSystemFiles(const QString &rootPath)
     std::array<wchar_t, MAX_PATH> folder{};
     const UINT length = win32().getWindowsDirectory(folder.data(), MAX_PATH);
     // Without an answer the reserve goes where the system is by all other signs.
-    const QString drive =
-        length >= 2 && length < MAX_PATH ? decodeName({folder.data(), 2}) : systemVolumes().constFirst();
+    const QString drive = length >= 2 && length < MAX_PATH ? decodeName({folder.data(), 2}) : systemDrive();
     return rootPath.startsWith(drive, Qt::CaseInsensitive);
 }
 
