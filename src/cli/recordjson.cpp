@@ -127,6 +127,8 @@ void writeTrash(JsonWriter &writer, const RecycleBinInfo &trash)
     writeTexts(writer, u"drives", trash.drives);
     writeItems(writer, u"unrecorded", trash.unrecorded);
     writeUnscanned(writer, trash.unscanned);
+    if (!trash.account.isEmpty())
+        writer.member(u"account", trash.account);
     writer.endObject();
 }
 

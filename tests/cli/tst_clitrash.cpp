@@ -473,6 +473,12 @@ void tst_CliTrash::theBinOfAnotherAccountIsToldAsSuch()
     CliRun run;
     run({u"trash"_s, u"list"_s});
     QVERIFY2(run.io.out.endsWith("Recycle Bin of root\n1 item, 100 B\n"), run.io.out.constData());
+    const auto accountForMachines = [] {
+        CliRun json;
+        json({u"trash"_s, u"list"_s, u"--json"_s});
+        return json.io.documents().value(0).object().value(u"account"_s);
+    };
+    QCOMPARE(accountForMachines(), QJsonValue(u"root"_s));
     CliRun asked;
     asked({u"wipe"_s, u"trash"_s});
     QCOMPARE(asked.code, 3);
@@ -482,6 +488,8 @@ void tst_CliTrash::theBinOfAnotherAccountIsToldAsSuch()
     CliRun named;
     named(list());
     QVERIFY2(!named.io.out.contains("Recycle Bin of"), named.io.out.constData());
+    machine.session.otherAccount.clear();
+    QVERIFY(accountForMachines().isUndefined());
 }
 
 void tst_CliTrash::theDesktopIsToldOfItsBin()
