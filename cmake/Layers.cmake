@@ -1,38 +1,42 @@
-# A layer is one static library below src/. What a layer may include is stated here, in one table, and checked
-# against the #include lines at every build: a wrong arrow fails the build.
-set(QUORVEX_LAYERS model platform engine services jobs prompts certificate ui cli)
+# A layer is one static library below src/, named by its folder. What a layer may include is stated here, in one table,
+# and checked against the #include lines at every build: a wrong arrow fails the build.
+set(QUORVEX_LAYERS model platform engine services jobs certificate ui/prompts ui/certificate ui cli)
 set(QUORVEX_LAYER_model "")
 set(QUORVEX_LAYER_platform "")
 set(QUORVEX_LAYER_engine model platform)
 set(QUORVEX_LAYER_services model platform)
 set(QUORVEX_LAYER_jobs model platform engine services)
-set(QUORVEX_LAYER_prompts "")
-set(QUORVEX_LAYER_certificate model platform prompts)
-set(QUORVEX_LAYER_ui model platform engine services jobs prompts certificate)
+set(QUORVEX_LAYER_certificate model platform)
+set(QUORVEX_LAYER_ui/prompts "")
+set(QUORVEX_LAYER_ui/certificate model certificate ui/prompts)
+set(QUORVEX_LAYER_ui model platform engine services jobs certificate ui/prompts ui/certificate)
 set(QUORVEX_LAYER_cli model platform engine services jobs certificate)
 
 # quorvex_layer(NAME [MOC] [RCC] [SOURCES file...] [LIBRARIES library...])
 #
+# The library of the layer "ui/prompts" is quorvex_ui_prompts.
 # MOC: it has signals, slots or properties; RCC: it carries resources. Both take their time at every build, so only
 # layers that have something for them ask for them.
 function(quorvex_layer name)
   cmake_parse_arguments(PARSE_ARGV 1 arg "MOC;RCC" "" "SOURCES;LIBRARIES")
-  add_library(quorvex_${name} STATIC ${arg_SOURCES})
-  set_target_properties(quorvex_${name} PROPERTIES AUTOMOC ${arg_MOC} AUTORCC ${arg_RCC})
+  string(REPLACE "/" "_" library "quorvex_${name}")
+  add_library(${library} STATIC ${arg_SOURCES})
+  set_target_properties(${library} PROPERTIES AUTOMOC ${arg_MOC} AUTORCC ${arg_RCC})
   if("Qt6::Widgets" IN_LIST arg_LIBRARIES)
-    target_precompile_headers(quorvex_${name} REUSE_FROM quorvex_precompiled_widgets)
+    target_precompile_headers(${library} REUSE_FROM quorvex_precompiled_widgets)
   else()
-    target_precompile_headers(quorvex_${name} REUSE_FROM quorvex_precompiled_core)
+    target_precompile_headers(${library} REUSE_FROM quorvex_precompiled_core)
   endif()
-  target_include_directories(quorvex_${name} PUBLIC "${PROJECT_SOURCE_DIR}/src")
-  target_link_libraries(quorvex_${name} PUBLIC quorvex_flags Qt6::Core ${arg_LIBRARIES})
+  target_include_directories(${library} PUBLIC "${PROJECT_SOURCE_DIR}/src")
+  target_link_libraries(${library} PUBLIC quorvex_flags Qt6::Core ${arg_LIBRARIES})
   foreach(lower IN LISTS QUORVEX_LAYER_${name})
     # Without windows there are no layers of windows.
-    if(TARGET quorvex_${lower} OR QUORVEX_GUI)
-      target_link_libraries(quorvex_${name} PUBLIC quorvex_${lower})
+    string(REPLACE "/" "_" lower "quorvex_${lower}")
+    if(TARGET ${lower} OR QUORVEX_GUI)
+      target_link_libraries(${library} PUBLIC ${lower})
     endif()
   endforeach()
-  add_dependencies(quorvex_${name} quorvex_layer_check)
+  add_dependencies(${library} quorvex_layer_check)
 endfunction()
 
 set(table "")

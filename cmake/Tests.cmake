@@ -21,7 +21,8 @@ quorvex_precompiled_test_headers()
 
 # quorvex_test_program(NAME [WIDGETS] [SOURCES file...] [LIBRARIES library...])
 #
-# A program for suites; the sources are what they share. WIDGETS: it links Qt Widgets, by itself or through a library.
+# A program for suites; the sources are what they share. WIDGETS: it, or a library of it, uses Qt Gui or Widgets. It links
+# both, so that one precompiled header serves all such programs.
 function(quorvex_test_program name)
   cmake_parse_arguments(PARSE_ARGV 1 arg "WIDGETS" "" "SOURCES;LIBRARIES")
   add_executable(${name} ${arg_SOURCES})
@@ -30,6 +31,7 @@ function(quorvex_test_program name)
   target_link_libraries(${name} PRIVATE quorvex_flags quorvex_testsupport Qt6::Test ${arg_LIBRARIES})
   quorvex_test_options(${name})
   if(arg_WIDGETS AND QUORVEX_GUI)
+    target_link_libraries(${name} PRIVATE Qt6::Widgets)
     target_precompile_headers(${name} REUSE_FROM quorvex_precompiled_widget_tests)
   else()
     target_precompile_headers(${name} REUSE_FROM quorvex_precompiled_tests)

@@ -1,8 +1,9 @@
 #include "certificate/certificatepage.h"
 
-#include "certificate/certificatecontent.h"
 #include "certificate/certificatefonts.h"
+#include "certificate/certificateplan.h"
 #include "certificate/certificaterenderer.h"
+#include "certificate/paperlabels.h"
 #include "model/displaytext.h"
 #include "model/displaytime.h"
 #include "model/wipereport.h"
@@ -30,7 +31,7 @@ constexpr int outcomeRoom = 8;
 constexpr int outcomeGap = 2;
 constexpr int mostOutcomeLines = 4;
 
-constexpr int besideGap = 3;
+constexpr int correctionGap = 3;
 
 constexpr int centred = Qt::AlignCenter;
 constexpr int leftCentred = Qt::AlignLeft | Qt::AlignVCenter;
@@ -82,7 +83,7 @@ void CertificatePage::layOut(const WipeReport &report, const std::optional<Outco
     if (outcome)
         paintOutcome(*outcome);
     bool isFirst = true;
-    for (const CertificateSection &section : certificateContent(report, outcome)) {
+    for (const CertificateSection &section : certificatePlan(report, outcome, paperLabels)) {
         if (!isFirst)
             moveDown(5);
         isFirst = false;
@@ -217,8 +218,8 @@ void CertificatePage::paintRow(const CertificateRow &row)
     write(labelBox, leftCentred, CertificateRenderer::tr("%1:").arg(row.label), font,
           colour(CertificateColour::SecondaryText));
     write(valueBox, leftCentred, row.value, font, colour(CertificateColour::Text));
-    if (!row.beside.isEmpty())
-        paintBeside(row, valueBox, font);
+    if (!row.correction.isEmpty())
+        paintCorrection(row, valueBox, font);
     moveDown(7);
     if (m_hasOutcome && widthOf(row.value, font) > valueBox.width())
         paintWhole(row.value, valueBox.left());
@@ -231,22 +232,22 @@ void CertificatePage::paintHighlightedRow(const CertificateRow &row)
     const QRect valueBox(m_left + indent, m_y, m_width - indent, pixels(rowHeight));
     const QFont strong = textFont(10, QFont::Bold);
     const bool good = row.verdict == Verdict::Good;
-    write(labelBox, leftCentred, row.label, row.strongLabel ? strong : textFont(9),
+    write(labelBox, leftCentred, row.label, row.item == CertificateItem::Status ? strong : textFont(9),
           colour(CertificateColour::SecondaryText));
     write(valueBox, leftCentred, row.value, strong,
           colour(good ? CertificateColour::Success : CertificateColour::Failure));
-    if (!row.beside.isEmpty())
-        paintBeside(row, valueBox, strong);
+    if (!row.correction.isEmpty())
+        paintCorrection(row, valueBox, strong);
     moveDown(8);
 }
 
 // Right behind the value.
-void CertificatePage::paintBeside(const CertificateRow &row, const QRect &valueBox, const QFont &font)
+void CertificatePage::paintCorrection(const CertificateRow &row, const QRect &valueBox, const QFont &font)
 {
     const int value = std::min(widthOf(row.value, font), valueBox.width());
-    const int left = valueBox.left() + value + pixels(besideGap);
+    const int left = valueBox.left() + value + pixels(correctionGap);
     const QRect box(left, m_y, m_left + m_width - left, pixels(rowHeight));
-    write(box, leftCentred, row.beside, font,
+    write(box, leftCentred, row.correction, font,
           colour(row.verdict ? CertificateColour::Text : CertificateColour::SecondaryText));
 }
 

@@ -59,7 +59,7 @@ private:
     void paintHeading(const QString &title);
     void paintRow(const CertificateRow &row);
     void paintHighlightedRow(const CertificateRow &row);
-    void paintBeside(const CertificateRow &row, const QRect &valueBox, const QFont &font);
+    void paintCorrection(const CertificateRow &row, const QRect &valueBox, const QFont &font);
     void paintWhole(const QString &value, int left);
     int widthOf(const QString &text, const QFont &font) const;
     void paintDisclaimer();

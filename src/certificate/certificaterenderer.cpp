@@ -10,7 +10,6 @@
 #include <QBuffer>
 #include <QPainter>
 #include <QPdfWriter>
-#include <QPrinter>
 
 using namespace Qt::StringLiterals;
 
@@ -43,21 +42,6 @@ bool CertificateRenderer::exportToPdf(const WipeReport &report, const QString &f
     if (!painter.end())
         return false;
     return file.commit(withSearchableText(buffer.data(), text, certificatefonts::rawTextFonts()));
-}
-
-bool CertificateRenderer::print(const WipeReport &report, QPrinter *printer,
-                                const std::optional<OutcomeRecord> &outcome) const
-{
-    if (printer == nullptr)
-        return false;
-    printer->setPageSize(QPageSize(QPageSize::A4));
-    printer->setResolution(PaperResolution);
-    QPainter painter(printer);
-    if (!painter.isActive())
-        return false;
-    paintOnPaper(painter, m_palette, {printer->width(), printer->height()}, printer->resolution(), report,
-                 outcome);
-    return true;
 }
 
 void CertificateRenderer::render(QPainter &painter, const WipeReport &report, int width, int height, int dpi,

@@ -35,7 +35,8 @@ public:
                      const std::optional<OutcomeRecord> &outcome = {}) const;
 
     /// False without a printer, or when it does not take the job. Sets the paper to A4 and the resolution to
-    /// that of the file, so that both look alike; so do they on a printer that keeps its own.
+    /// that of the file, so that both look alike; so do they on a printer that keeps its own. Defined in the
+    /// library ui/certificate, which links Qt's printing.
     bool print(const WipeReport &report, QPrinter *printer,
                const std::optional<OutcomeRecord> &outcome = {}) const;
 

@@ -2,13 +2,13 @@
 #include "support/pdfreader.h"
 #include "support/suite.h"
 
-#include "certificate/certificatedialog.h"
-#include "certificate/selectablevalue.h"
 #include "model/markingtranslator.h"
 #include "model/wipereport.h"
 #include "support/scriptedprompts.h"
 #include "support/temporarysettings.h"
 #include "support/testfiles.h"
+#include "ui/certificate/certificatedialog.h"
+#include "ui/certificate/selectablevalue.h"
 
 #include <QApplication>
 #include <QBoxLayout>

@@ -5,9 +5,9 @@
 #include "support/suite.h"
 #include "support/testfiles.h"
 
-#include "certificate/certificatedialog.h"
 #include "certificate/certificaterenderer.h"
 #include "model/joboutcome.h"
+#include "ui/certificate/certificatedialog.h"
 
 #include <QFile>
 #include <QLabel>

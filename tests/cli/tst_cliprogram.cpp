@@ -35,6 +35,7 @@ private slots:
     void init();
 
     void itTellsItsVersion();
+    void itLinksNoWindows();
     void anImageIsErasedToTheLastByte();
     void anotherDataFolderLeavesTheUsersAlone();
     void theReportNamesTheComputer();
@@ -122,6 +123,18 @@ void tst_CliProgram::itTellsItsVersion()
     QCOMPARE(run.code, 0);
     QCOMPARE(run.out, QByteArray("Quorvex 5.0\n"));
     QCOMPARE(run.err, QByteArray());
+}
+
+// Servers have no window system. Certificates need Qt's fonts and painting, and nothing above them.
+void tst_CliProgram::itLinksNoWindows()
+{
+    QProcess ldd;
+    ldd.start(u"ldd"_s, {QStringLiteral(QUORVEX_CLI)});
+    QVERIFY(ldd.waitForFinished());
+    const QByteArray libraries = ldd.readAllStandardOutput();
+    QVERIFY(libraries.contains("libc.so"));
+    QVERIFY2(!libraries.contains("Widgets"), libraries.constData());
+    QVERIFY2(!libraries.contains("PrintSupport"), libraries.constData());
 }
 
 void tst_CliProgram::anImageIsErasedToTheLastByte()

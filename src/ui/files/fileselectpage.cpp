@@ -2,9 +2,9 @@
 
 #include "model/formatsize.h"
 #include "model/spokentext.h"
-#include "prompts/prompts.h"
 #include "ui/files/dropzone.h"
 #include "ui/files/filelistwidget.h"
+#include "ui/prompts/prompts.h"
 #include "ui/style/pagestyle.h"
 
 #include <QBoxLayout>

@@ -2,9 +2,9 @@
 
 #include "certificate/certificaterenderer.h"
 #include "model/displaytext.h"
-#include "prompts/prompts.h"
 #include "services/reportdatabase.h"
 #include "ui/history/storedreport.h"
+#include "ui/prompts/prompts.h"
 #include "ui/style/palette.h"
 #include "ui/style/tooltip.h"
 

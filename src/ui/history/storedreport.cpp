@@ -1,7 +1,7 @@
 #include "ui/history/storedreport.h"
 
-#include "prompts/prompts.h"
 #include "services/reportdatabase.h"
+#include "ui/prompts/prompts.h"
 
 #include <QCoreApplication>
 

@@ -7,11 +7,11 @@
 #include "model/displaytext.h"
 #include "model/targettext.h"
 #include "model/wipetask.h"
-#include "prompts/prompts.h"
 #include "services/diskmanager.h"
 #include "services/loopfiles.h"
 #include "ui/dialogs/confirmdialog.h"
 #include "ui/disks/obstaclestext.h"
+#include "ui/prompts/prompts.h"
 
 #include <QGuiApplication>
 #include <QScopeGuard>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "prompts/prompts.h"
+#include "ui/prompts/prompts.h"
 
 #include <QMainWindow>
 #include <QMessageBox>

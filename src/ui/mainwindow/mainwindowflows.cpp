@@ -1,13 +1,12 @@
 // From the home page through a job to its end.
 #include "ui/mainwindow/mainwindow.h"
 
-#include "certificate/certificatedialog.h"
 #include "jobs/jobcontroller.h"
 #include "model/wipetask.h"
 #include "platform/files.h"
 #include "platform/platform.h"
-#include "prompts/prompts.h"
 #include "services/reportdatabase.h"
+#include "ui/certificate/certificatedialog.h"
 #include "ui/dialogs/completedialog.h"
 #include "ui/disks/diskselectpage.h"
 #include "ui/files/fileselectpage.h"
@@ -19,6 +18,7 @@
 #include "ui/mainwindow/waitnotice.h"
 #include "ui/methods/methodselectpage.h"
 #include "ui/progress/progresspage.h"
+#include "ui/prompts/prompts.h"
 
 #include <QDebug>
 #include <QStackedWidget>

@@ -4,12 +4,12 @@
 #include "jobs/jobcontroller.h"
 #include "platform/filedrops.h"
 #include "platform/windowframe.h"
-#include "prompts/prompts.h"
 #include "services/linkmanager.h"
 #include "ui/files/fileselectpage.h"
 #include "ui/mainwindow/frameowner.h"
 #include "ui/mainwindow/frameparts.h"
 #include "ui/mainwindow/sidebar.h"
+#include "ui/prompts/prompts.h"
 #include "ui/titlebar/titlebar.h"
 
 #include <QApplication>

@@ -1,7 +1,7 @@
 #include "ui/progress/logwidget.h"
 
 #include "platform/wholefile.h"
-#include "prompts/prompts.h"
+#include "ui/prompts/prompts.h"
 
 #include <QClipboard>
 #include <QDateTime>

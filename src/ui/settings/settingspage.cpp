@@ -1,7 +1,7 @@
 #include "ui/settings/settingspage.h"
 
 #include "model/usersettings.h"
-#include "prompts/prompts.h"
+#include "ui/prompts/prompts.h"
 #include "ui/style/pagestyle.h"
 
 #include <QBoxLayout>

@@ -1,8 +1,8 @@
 #include "ui/titlebar/titlebar.h"
 
 #include "model/usersettings.h"
-#include "prompts/prompts.h"
 #include "services/linkmanager.h"
+#include "ui/prompts/prompts.h"
 #include "ui/titlebar/programrestart.h"
 #include "ui/titlebar/winbutton.h"
 

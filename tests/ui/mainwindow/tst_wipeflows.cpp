@@ -9,8 +9,8 @@
 #include "ui/mainwindow/mainwindow.h"
 #include "ui/mainwindow/windowfixture.h"
 
-#include "certificate/certificatedialog.h"
 #include "engine/wipeengine.h"
+#include "ui/certificate/certificatedialog.h"
 #include "ui/dialogs/completedialog.h"
 #include "ui/dialogs/confirmdialog.h"
 

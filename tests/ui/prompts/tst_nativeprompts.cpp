@@ -1,7 +1,7 @@
-#include "prompts/nativeprompts.h"
 #include "support/modaldialogs.h"
 #include "support/suite.h"
 #include "support/testfiles.h"
+#include "ui/prompts/nativeprompts.h"
 
 #include <QApplication>
 #include <QDir>

@@ -1,4 +1,4 @@
-#include "prompts/nativeprompts.h"
+#include "ui/prompts/nativeprompts.h"
 
 #include <QFileDialog>
 #include <QPrintDialog>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "certificate/valuelabel.h"
+#include "ui/certificate/valuelabel.h"
 
 /// A value that can be marked with the mouse and copied: a double click marks all of it, and without a mark
 /// the menu copies all of it.

@@ -1,12 +1,12 @@
-#include "certificate/certificatedialog.h"
+#include "ui/certificate/certificatedialog.h"
 
 #include "certificate/certificaterenderer.h"
-#include "certificate/certificatestyles.h"
-#include "certificate/certificateview.h"
 #include "model/displaytext.h"
 #include "model/spokentext.h"
 #include "model/usersettings.h"
-#include "prompts/prompts.h"
+#include "ui/certificate/certificatestyles.h"
+#include "ui/certificate/certificateview.h"
+#include "ui/prompts/prompts.h"
 
 #include <QFileInfo>
 #include <QFrame>

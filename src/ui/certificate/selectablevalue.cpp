@@ -1,4 +1,4 @@
-#include "certificate/selectablevalue.h"
+#include "ui/certificate/selectablevalue.h"
 
 #include <QAction>
 #include <QClipboard>

@@ -1,4 +1,4 @@
-#include "certificate/valuelabel.h"
+#include "ui/certificate/valuelabel.h"
 
 #include <QPainter>
 #include <QTextLayout>

@@ -1,6 +1,6 @@
-#include "prompts/prompts.h"
+#include "ui/prompts/prompts.h"
 
-#include "prompts/nativeprompts.h"
+#include "ui/prompts/nativeprompts.h"
 
 #include <utility>
 

@@ -1,0 +1,6 @@
+#pragma once
+
+#include "certificate/certificatelabels.h"
+
+/// The words of the certificate on the screen.
+extern const CertificateLabels dialogLabels;
