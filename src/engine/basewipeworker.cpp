@@ -50,6 +50,42 @@ void BaseWipeWorker::runJob()
     emit finished(success);
 }
 
+void BaseWipeWorker::note(const QString &message, NoteLevel level)
+{
+    emit logMessage(message, level);
+}
+
+void BaseWipeWorker::reportError(const QString &message)
+{
+    emit errorOccurred(message);
+}
+
+void BaseWipeWorker::noteShortfall(const Shortfall &shortfall)
+{
+    m_task->noteShortfall(shortfall);
+}
+
+void BaseWipeWorker::noteWritten(qint64 bytes)
+{
+    m_task->noteWritten(bytes);
+}
+
+void BaseWipeWorker::fill(std::byte *data, qint64 size, const PassPattern &pattern)
+{
+    fillBuffer(data, size, pattern);
+}
+
+void BaseWipeWorker::fillFrom(PatternGenerator &random, std::byte *data, qint64 size,
+                              const PassPattern &pattern)
+{
+    fillBuffer(data, size, pattern, random);
+}
+
+bool BaseWipeWorker::matches(const std::byte *data, qint64 size, const PassPattern &pattern) const
+{
+    return verifyBuffer(data, size, pattern);
+}
+
 bool BaseWipeWorker::checkPauseStop()
 {
     if (m_stopRequested.load())

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "engine/patterngenerator.h"
+#include "engine/runningjob.h"
 #include "model/wipemethod.h"
 
 #include <QMutex>
@@ -20,7 +21,7 @@ class WipeTask;
 // process() once and ends it with exactly one finished().
 //
 // Levels of logMessage: 0 information, 1 warning, 2 error.
-class BaseWipeWorker : public QObject
+class BaseWipeWorker : public QObject, protected RunningJob
 {
     Q_OBJECT
 
@@ -50,8 +51,6 @@ signals:
     void logMessage(const QString &message, int level);
 
 protected:
-    enum LogLevel { Information = 0, Warning = 1, Error = 2 };
-
     // What process() does: run(), then complete() whichever way that ended, then finished(). A job that ends
     // for want of memory has failed.
     void runJob();
@@ -60,7 +59,20 @@ protected:
     // Lets go of what the job held, and writes what it did into the task's report.
     virtual void complete() = 0;
 
-    void log(const QString &message, LogLevel level = Information) { emit logMessage(message, level); }
+    // What the parts of the job call. Each worker labels its own diagnostics.
+    void note(const QString &message, NoteLevel level = Information) override;
+    void reportError(const QString &message) override;
+    void noteShortfall(const Shortfall &shortfall) override;
+    void noteWritten(qint64 bytes) override;
+    bool isStopping() const override { return isStopRequested(); }
+    bool mayGoOn() override { return checkPauseStop(); }
+    bool wait(std::chrono::milliseconds time) override { return waitUnlessStopped(time); }
+    void fill(std::byte *data, qint64 size, const PassPattern &pattern) override;
+    void fillFrom(PatternGenerator &random, std::byte *data, qint64 size,
+                  const PassPattern &pattern) override;
+    bool matches(const std::byte *data, qint64 size, const PassPattern &pattern) const override;
+    quint32 drawSeed() override { return m_random.generate(); }
+    void progress(qint64 done, qint64 total) override { updateProgress(done, total); }
 
     WipeTask &task() const { return *m_task; }
     bool isStopRequested() const { return m_stopRequested.load(); }
@@ -76,8 +88,6 @@ protected:
     // The same for a pool thread, which brings a generator of its own.
     static void fillBuffer(std::byte *buffer, qint64 size, const PassPattern &pattern,
                            PatternGenerator &random);
-    // A seed for such a generator, drawn from the worker's.
-    quint32 drawSeed() { return m_random.generate(); }
 
     // Whether a buffer read back is what the pass wrote. An empty buffer passes, and so does everything whose
     // content cannot be predicted (Random, Complement).

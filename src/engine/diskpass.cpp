@@ -12,7 +12,7 @@ namespace {
 constexpr qint64 MiB = 1048576;
 }
 
-DiskPass::DiskPass(DiskJob &job, const WipeTask &task, DiskMedium &medium)
+DiskPass::DiskPass(RunningJob &job, const WipeTask &task, DiskMedium &medium)
     : m_job(job)
     , m_task(task)
     , m_medium(medium)
@@ -42,7 +42,7 @@ bool DiskPass::write(const PassPattern &pattern)
 bool DiskPass::writeDrive()
 {
     if (!m_medium.drive) {
-        m_job.note(tr("错误: 没有可用的磁盘或卷句柄"), DiskJob::Error);
+        m_job.note(tr("错误: 没有可用的磁盘或卷句柄"), RunningJob::Error);
         return false;
     }
     m_job.note(tr("通过磁盘句柄进行擦除..."));
@@ -68,7 +68,7 @@ bool DiskPass::writeDriveChunks(qint64 &offset)
         m_chunks->prepare(chunkSize(remaining - chunk));
         const platform::Status sought = m_medium.drive->seek(offset);
         if (!sought) {
-            m_job.note(tr("SetFilePointerEx 失败，错误码: %1").arg(sought.code), DiskJob::Error);
+            m_job.note(tr("SetFilePointerEx 失败，错误码: %1").arg(sought.code), RunningJob::Error);
             m_job.diagnose(sought);
             return false;
         }
@@ -79,7 +79,7 @@ bool DiskPass::writeDriveChunks(qint64 &offset)
             const platform::Status failure =
                 written ? platform::Status{platform::SectorNotFound, 0, "write without progress"}
                         : written.status();
-            m_job.note(tr("写入错误，位置: %1，错误码: %2").arg(offset).arg(failure.code), DiskJob::Error);
+            m_job.note(tr("写入错误，位置: %1，错误码: %2").arg(offset).arg(failure.code), RunningJob::Error);
             m_job.diagnose(failure);
             return false;
         }
@@ -113,7 +113,7 @@ bool DiskPass::writeVolume(qsizetype index, qint64 &total)
     m_job.note(tr("正在擦除卷 %1/%2，大小: %3").arg(index + 1).arg(count).arg(formatSize(size)));
     const platform::Status sought = held.device->seek(0);
     if (!sought) {
-        m_job.note(tr("SetFilePointerEx 失败，错误码: %1").arg(sought.code), DiskJob::Error);
+        m_job.note(tr("SetFilePointerEx 失败，错误码: %1").arg(sought.code), RunningJob::Error);
         m_job.diagnose(sought);
     }
 
@@ -141,7 +141,7 @@ void DiskPass::noteUncovered(qsizetype index, qint64 bytes)
     const QString name = m_medium.volumes.at(index).name;
     if (bytes >= m_medium.sectorSize) {
         m_job.note(tr("卷 %1 有 %2 未被覆写").arg(QString::number(index + 1), formatSize(bytes)),
-                   DiskJob::Warning);
+                   RunningJob::Warning);
         m_job.noteShortfall({.kind = ShortfallKind::VolumeEndedEarly, .place = name, .bytes = bytes});
     } else if (bytes > 0) {
         // What rounding to whole sectors leaves.
@@ -190,25 +190,25 @@ DiskPass::VolumeEnd DiskPass::endOfVolume(const platform::Status &failure, qint6
     default:
         break;
     }
-    m_job.note(tr("写入错误，位置: %1，错误码: %2").arg(position).arg(failure.code), DiskJob::Error);
+    m_job.note(tr("写入错误，位置: %1，错误码: %2").arg(position).arg(failure.code), RunningJob::Error);
     switch (failure.code) {
     case platform::AccessDenied:
-        m_job.note(tr("错误: 访问被拒绝"), DiskJob::Error);
+        m_job.note(tr("错误: 访问被拒绝"), RunningJob::Error);
         break;
     case platform::WriteProtect:
-        m_job.note(tr("错误: 磁盘写保护"), DiskJob::Error);
+        m_job.note(tr("错误: 磁盘写保护"), RunningJob::Error);
         break;
     case platform::NotReady:
-        m_job.note(tr("错误: 设备未就绪"), DiskJob::Error);
+        m_job.note(tr("错误: 设备未就绪"), RunningJob::Error);
         break;
     case platform::SharingViolation:
-        m_job.note(tr("错误: 磁盘被占用"), DiskJob::Error);
+        m_job.note(tr("错误: 磁盘被占用"), RunningJob::Error);
         break;
     case platform::LockViolation:
-        m_job.note(tr("错误: 锁定冲突"), DiskJob::Error);
+        m_job.note(tr("错误: 锁定冲突"), RunningJob::Error);
         break;
     case platform::IoDevice:
-        m_job.note(tr("错误: I/O 设备错误"), DiskJob::Error);
+        m_job.note(tr("错误: I/O 设备错误"), RunningJob::Error);
         break;
     default:
         noteMeaning(failure);
@@ -220,14 +220,14 @@ DiskPass::VolumeEnd DiskPass::endOfVolume(const platform::Status &failure, qint6
 void DiskPass::noteMeaning(const platform::Status &failure)
 {
     if (const QString words = FailureWords::of(failure.code); !words.isEmpty())
-        m_job.note(words, DiskJob::Error);
+        m_job.note(words, RunningJob::Error);
 }
 
 bool DiskPass::flush(platform::RawDevice &device)
 {
     const platform::Status flushed = device.flush();
     if (!flushed) {
-        m_job.note(tr("刷新写入失败，错误码: %1").arg(flushed.code), DiskJob::Error);
+        m_job.note(tr("刷新写入失败，错误码: %1").arg(flushed.code), RunningJob::Error);
         noteMeaning(flushed);
         m_job.diagnose(flushed);
     }
@@ -260,7 +260,7 @@ bool DiskPass::verify(const PassPattern &pattern)
         const qint64 reduced = DiskVerification::reducedOffset(offset, span, length, sampleSize);
         const std::byte *data = m_verification.read(device, reduced, pattern);
         if (!data || !m_job.matches(data, sampleSize, pattern)) {
-            m_job.note(tr("验证失败，位置: %1").arg(offset), DiskJob::Error);
+            m_job.note(tr("验证失败，位置: %1").arg(offset), RunningJob::Error);
             return false;
         }
     }

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "engine/chunkpipeline.h"
-#include "engine/diskjob.h"
 #include "engine/diskverification.h"
 #include "engine/heldvolumes.h"
+#include "engine/runningjob.h"
 #include "engine/wipecoverage.h"
 #include "platform/devices.h"
 
@@ -34,7 +34,7 @@ class DiskPass
 
 public:
     // All outlive this.
-    DiskPass(DiskJob &job, const WipeTask &task, DiskMedium &medium);
+    DiskPass(RunningJob &job, const WipeTask &task, DiskMedium &medium);
 
     // True also when it was left by a stop.
     bool write(const PassPattern &pattern);
@@ -63,7 +63,7 @@ private:
     qint64 bufferSize() const;
     qint64 chunkSize(qint64 remaining) const;
 
-    DiskJob &m_job;
+    RunningJob &m_job;
     const WipeTask &m_task;
     DiskMedium &m_medium;
     std::optional<ChunkPipeline> m_chunks;

@@ -36,7 +36,7 @@ bool DiskWipeWorker::run()
 {
     noteTarget();
     if (task().disk().isSystemDisk) {
-        emit errorOccurred(tr("无法擦除系统盘"));
+        reportError(tr("无法擦除系统盘"));
         return false;
     }
 
@@ -50,13 +50,13 @@ bool DiskWipeWorker::run()
     if (!locked && isWhole)
         return false;
     if (!locked) {
-        emit errorOccurred(tr("无法锁定磁盘卷，请关闭所有使用该磁盘的程序"));
+        reportError(tr("无法锁定磁盘卷，请关闭所有使用该磁盘的程序"));
         return false;
     }
     note(tr("磁盘卷已锁定并卸载"));
 
     if (!measureDisk()) {
-        emit errorOccurred(tr("无法获取磁盘信息"));
+        reportError(tr("无法获取磁盘信息"));
         return false;
     }
     const bool success = writePasses();
@@ -71,7 +71,7 @@ bool DiskWipeWorker::run()
 bool DiskWipeWorker::cancelled()
 {
     closeDevices();
-    note(tr("擦除已取消"), DiskJob::Warning);
+    note(tr("擦除已取消"), Warning);
     return false;
 }
 
@@ -96,7 +96,7 @@ bool DiskWipeWorker::checkVolumesAreGone()
     back.removeIf([this](const QString &name) { return m_released && m_released->holds(name); });
     if (back.isEmpty())
         return true;
-    emit errorOccurred(tr("卷 %1 又被挂载，未写入任何数据").arg(displayText(back.join(u", "_s))));
+    reportError(tr("卷 %1 又被挂载，未写入任何数据").arg(displayText(back.join(u", "_s))));
     return false;
 }
 
@@ -114,7 +114,7 @@ bool DiskWipeWorker::measureDisk()
             noteUnreachedEnd();
         }
     } else {
-        note(tr("无法打开磁盘，错误码: %1").arg(opened.code), DiskJob::Error);
+        note(tr("无法打开磁盘，错误码: %1").arg(opened.code), Error);
         note(tr("将通过卷句柄进行擦除"));
     }
     if (!measured && !measureVolumes())
@@ -188,7 +188,7 @@ bool DiskWipeWorker::writePasses()
                  .arg(patternLabel(pattern)));
         success = writePass(pattern);
         if (!success)
-            emit errorOccurred(tr("覆写失败"));
+            reportError(tr("覆写失败"));
         m_bytesBeforePass += m_medium.size;
     }
     return success;
@@ -236,7 +236,7 @@ void DiskWipeWorker::settleReleasedVolumes()
     if (m_pass.hasBegun()) {
         task().setDismountedVolumes(m_released->names());
         if (const platform::Status kept = m_released->keep(); !kept) {
-            note(tr("磁盘未能恢复联机，错误码: %1").arg(kept.code), DiskJob::Warning);
+            note(tr("磁盘未能恢复联机，错误码: %1").arg(kept.code), Warning);
             diagnose(kept);
         }
     } else {
@@ -277,36 +277,10 @@ void DiskWipeWorker::noteShortfalls(quint64 wipedSectors)
     noteReadBack(true);
     const quint64 sectors = static_cast<quint64>(task().disk().sizeBytes) >> 9;
     if (task().operationType() == DiskWipe && m_writesVolumes && wipedSectors < sectors)
-        task().noteShortfall(
-            {ShortfallKind::OnlyVolumes, {}, static_cast<qint64>((sectors - wipedSectors) << 9)});
-}
-
-void DiskWipeWorker::note(const QString &message, NoteLevel level)
-{
-    log(message, static_cast<LogLevel>(level));
+        noteShortfall({ShortfallKind::OnlyVolumes, {}, static_cast<qint64>((sectors - wipedSectors) << 9)});
 }
 
 void DiskWipeWorker::diagnose(const platform::Status &failure)
 {
     qDebug().noquote() << "[DiskWipe]" << failure.diagnostic();
-}
-
-void DiskWipeWorker::noteShortfall(const Shortfall &shortfall)
-{
-    task().noteShortfall(shortfall);
-}
-
-void DiskWipeWorker::noteWritten(qint64 bytes)
-{
-    task().noteWritten(bytes);
-}
-
-void DiskWipeWorker::fill(std::byte *data, qint64 size, const PassPattern &pattern)
-{
-    fillBuffer(data, size, pattern);
-}
-
-bool DiskWipeWorker::matches(const std::byte *data, qint64 size, const PassPattern &pattern) const
-{
-    return verifyBuffer(data, size, pattern);
 }

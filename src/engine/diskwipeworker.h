@@ -1,7 +1,6 @@
 #pragma once
 
 #include "engine/basewipeworker.h"
-#include "engine/diskjob.h"
 #include "engine/diskpass.h"
 #include "platform/devices.h"
 
@@ -19,7 +18,7 @@
 //
 // What the job did goes into the task's report before finished(): the sectors that received every pass, and
 // the samples read back.
-class DiskWipeWorker : public BaseWipeWorker, private DiskJob
+class DiskWipeWorker : public BaseWipeWorker
 {
     Q_OBJECT
 
@@ -60,17 +59,7 @@ private:
     void fillReport();
     void noteShortfalls(quint64 wipedSectors);
 
-    void note(const QString &message, NoteLevel level = DiskJob::Information) override;
-    void reportError(const QString &message) override { emit errorOccurred(message); }
     void diagnose(const platform::Status &failure) override;
-    void noteShortfall(const Shortfall &shortfall) override;
-    void noteWritten(qint64 bytes) override;
-    bool isStopping() const override { return isStopRequested(); }
-    bool mayGoOn() override { return checkPauseStop(); }
-    bool wait(std::chrono::milliseconds time) override { return waitUnlessStopped(time); }
-    void fill(std::byte *data, qint64 size, const PassPattern &pattern) override;
-    bool matches(const std::byte *data, qint64 size, const PassPattern &pattern) const override;
-    void progress(qint64 done, qint64 total) override { updateProgress(done, total); }
 
     DiskMedium m_medium{.drive = {}, .volumes = HeldVolumes(*this)};
     DiskPass m_pass;

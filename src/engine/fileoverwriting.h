@@ -1,10 +1,10 @@
 #pragma once
 
+#include "engine/contentoverwriting.h"
 #include "engine/durabilitygroups.h"
 #include "engine/filepool.h"
 #include "engine/fileprogress.h"
-#include "engine/filesampling.h"
-#include "engine/filework.h"
+#include "engine/runningjob.h"
 #include "model/wipemethod.h"
 #include "platform/entrypath.h"
 #include "platform/files.h"
@@ -13,24 +13,18 @@
 #include <QCoreApplication>
 #include <QString>
 
-#include <atomic>
 #include <cstddef>
 #include <functional>
 #include <vector>
 
 class JobFiles;
 
-namespace platform {
-class AlignedBuffer;
-class FileHandle;
-} // namespace platform
-
 QT_BEGIN_NAMESPACE
 class QObject;
 QT_END_NAMESPACE
 
-// How the files of a job receive a pass: a job for each file on a pool of threads, batch after batch, then
-// the wait for the device, then reading back. On the worker's thread but where it is said.
+/// Lets the files of a job receive a pass: each file is a job on a pool of threads, batch after batch. Then
+/// the files are flushed in groups and read back. Worker's thread, except where a comment names the pool.
 class FileOverwriting
 {
     Q_DECLARE_TR_FUNCTIONS(FileWipeWorker)
@@ -39,59 +33,43 @@ public:
     struct Settings
     {
         int threads = 1;
-        int bufferSizeMB = 0; // below 1: the usual
+        int bufferSizeMB = 0; ///< see ContentOverwriting::Settings
         bool readsBack = false;
     };
 
-    // The parent, to which the pool's threads belong, and the others outlive this.
-    FileOverwriting(FileWork &work, JobFiles &files, const Settings &settings, QObject *parent);
+    /// The pool's threads belong to the parent. All four outlive this.
+    FileOverwriting(RunningJob &job, JobFiles &files, const Settings &settings, QObject *parent);
 
-    // What is written from now on is not a part of the progress.
+    /// Files overwritten from now on appeared during the job and do not count in its progress.
     void beLate() { m_isLate = true; }
     FileProgress &progress() { return m_progress; }
 
-    // The files from this one on receive the pass. False when one failed.
+    /// The files from this one on receive the pass. False when one failed.
     bool overwriteFrom(std::size_t first, const PassPattern &pattern);
-    // One file on this thread, which is waited for by itself.
+    /// One file receives the pass on this thread and is flushed by itself.
     bool overwriteOne(std::size_t index, const PassPattern &pattern);
 
-    // Files that failed in a pass, each pass counted.
+    /// Failures of files over all passes; a file that fails in two passes counts twice.
     int failedCount() const { return m_failedCount; }
-    // The members of a group whose end failed: nobody knows which of them are on the medium.
+    /// Counts and logs all members of a group whose flush failed.
     void tellLost(const std::vector<DurabilityGroups::Member> &members, const platform::Status &status);
 
-    // Files whose content may lie elsewhere too.
-    int elsewhereCount() const { return m_elsewhereCount; }
-    int samplesRead() const { return m_sampling.samplesRead(); }
+    /// Files with a content that may lie elsewhere too.
+    int elsewhereCount() const { return m_contents.elsewhereCount(); }
+    int samplesRead() const { return m_contents.samplesRead(); }
 
 private:
-    // What a file holds, or one of its streams.
-    struct Content
-    {
-        std::size_t index = 0;
-        platform::EntryPath file;
-        qint64 size = 0;
-        quint32 seed = 0;
-        QString stream{}; // of which nobody hears in the progress
-        bool isStreamToBeLocated = false;
+    using Step = ContentOverwriting::Step;
 
-        platform::EntryPath entry() const { return file.stream(stream); }
-    };
-    enum class Step {
-        Done,
-        Failed,
-        Replaced, // another file stands there
-    };
-
-    // Waits for the device; the files that are on the medium now.
+    // Flushes the groups, and returns the files that are on the medium now.
     std::vector<DurabilityGroups::Member> settle(DurabilityGroups &groups);
     bool readBack(const std::vector<DurabilityGroups::Member> &members, const PassPattern &pattern);
-    // Jobs 0 to count - 1, a batch at a time; false when one failed.
+    // Runs jobs 0 to count - 1, a batch at a time. False when one failed.
     bool runBatches(std::size_t count, std::size_t atOnce,
                     const std::function<FilePool::Job(std::size_t)> &jobOf);
     std::size_t batchSize() const;
 
-    // On pool threads, from here ... groups: null to have each file on the medium when its job ends.
+    // Called on pool threads, from here on. Without groups each file is on the medium when its job ends.
     bool overwriteJob(std::size_t index, const PassPattern &pattern, quint32 seed,
                       DurabilityGroups *groups) noexcept;
     bool overwriteExisting(std::size_t index, const PassPattern &pattern, quint32 seed,
@@ -100,29 +78,16 @@ private:
                        const PassPattern &pattern, quint32 seed, DurabilityGroups *groups);
     bool overwriteStreams(std::size_t index, const platform::EntryPath &entry, const PassPattern &pattern,
                           quint32 seed);
-    Step overwriteContent(const Content &content, const PassPattern &pattern, DurabilityGroups *groups);
-    void noteProtection(quint32 code);
-    bool failToOpen(const QString &path, const platform::Status &status);
-    bool writeChunks(platform::FileHandle &file, const Content &content, const PassPattern &pattern,
-                     platform::AlignedBuffer &buffer);
-    // A place that could not be found out counts as elsewhere.
-    void notePlace(std::size_t index, const QString &path,
-                   const platform::Result<platform::ContentPlace> &place);
-    bool isToBeReadBack(const PassPattern &pattern) const;
     bool readBackJob(const DurabilityGroups::Member &member, const PassPattern &pattern) noexcept;
-    bool verifyFile(std::size_t index, const platform::EntryPath &entry, qint64 size,
-                    const PassPattern &pattern);
-    void logOutOfMemory() noexcept;
-    // ... to here.
+    // Up to here.
 
-    FileWork &m_work;
+    RunningJob &m_job;
     JobFiles &m_files;
-    const Settings m_settings;
-    std::atomic<int> m_elsewhereCount{0};
-    std::atomic<bool> m_isProtectionNoted{false};
     bool m_isLate = false;
     int m_failedCount = 0;
+    // It counts positions in the whole job, and the worker adds the earlier passes once more: in later passes
+    // the figures run ahead, as all that read them expect.
     FileProgress m_progress;
-    FileSampling m_sampling;
+    ContentOverwriting m_contents;
     FilePool m_pool; // destroyed first
 };

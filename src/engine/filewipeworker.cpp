@@ -59,13 +59,13 @@ bool FileWipeWorker::run()
 
 bool FileWipeWorker::shred()
 {
-    log(tr("正在扫描目标文件..."));
+    note(tr("正在扫描目标文件..."));
     m_files.list() = collectFiles(task().files());
     if (isStopRequested())
         return concludeJob(false);
     if (m_files.list().files.empty()) {
         m_removal.removeFolders();
-        emit errorOccurred(tr("没有找到要擦除的文件"));
+        reportError(tr("没有找到要擦除的文件"));
         return false;
     }
     measureFrom(0);
@@ -77,7 +77,7 @@ bool FileWipeWorker::shred()
     logContentElsewhere();
     if (!isOverwritten)
         return concludeJob(false);
-    log(tr("正在执行安全删除及元数据清理..."));
+    note(tr("正在执行安全删除及元数据清理..."));
     bool success = m_removal.deleteFrom(0);
     success = eraseLate() && success;
     success = success && areRepetitionsGone();
@@ -92,15 +92,15 @@ bool FileWipeWorker::concludeJob(bool success)
     m_files.noteVanished();
     noteCloudCopies();
     if (isStopRequested()) {
-        log(tr("擦除任务已由用户取消"), BaseWipeWorker::Warning);
+        note(tr("擦除任务已由用户取消"), Warning);
         return false;
     }
     const int failed = failedCount() + m_files.list().unreadable;
     if (success && failed == 0) {
-        log(tr("所有文件擦除成功！共处理 %1 个文件").arg(m_removal.processedCount()));
+        note(tr("所有文件擦除成功！共处理 %1 个文件").arg(m_removal.processedCount()));
         return true;
     }
-    log(tr("擦除完成，但有 %1 个文件失败。数据可能不安全！").arg(failed), BaseWipeWorker::Error);
+    note(tr("擦除完成，但有 %1 个文件失败。数据可能不安全！").arg(failed), Error);
     return false;
 }
 
@@ -111,13 +111,12 @@ FileCollector::Observer FileWipeWorker::observer()
     const auto unreadable = [this](FileCollector::Unreadable what, const QString &path,
                                    const Status &status) {
         if (status.code == platform::FileOffline) {
-            log(tr("文件夹内容未全部在本机，部分仅保存在云端，无法擦除: %1").arg(displayText(path)),
-                BaseWipeWorker::Error);
+            note(tr("文件夹内容未全部在本机，部分仅保存在云端，无法擦除: %1").arg(displayText(path)), Error);
         } else {
             const QString text = what == FileCollector::Unreadable::Folder
                                      ? tr("无法读取文件夹: %1，错误码: %2")
                                      : tr("无法访问: %1，错误码: %2");
-            log(text.arg(displayText(path), QString::number(status.code)), BaseWipeWorker::Error);
+            note(text.arg(displayText(path), QString::number(status.code)), Error);
         }
         traceFile(path, status);
     };
@@ -127,7 +126,7 @@ FileCollector::Observer FileWipeWorker::observer()
             .replaced = [this](const QString &path) { m_files.noteReplaced(path); },
             .vanished =
                 [this](const QString &path) {
-                    task().noteShortfall({ShortfallKind::EntryVanished, path});
+                    noteShortfall({ShortfallKind::EntryVanished, path});
                 }};
 }
 
@@ -168,17 +167,17 @@ bool FileWipeWorker::measureFile(std::size_t file)
     }
     m_singlePassTotal += info.value().size;
     if (const auto note = m_snapshots.noteFor(info.value().id, [&] { return m_files.pathOf(file); }))
-        task().noteShortfall(*note);
+        noteShortfall(*note);
     if (info.value().isInCloud)
         ++m_inCloud;
     if (info.value().size == 0)
         m_isAllEmpty = m_isAllEmpty && isWithoutStreams(file);
     if (info.value().linkCount > 1) {
         const qint64 others = info.value().linkCount - 1;
-        log(tr("文件还有 %1 个其他硬链接: %2")
-                .arg(QString::number(others), displayText(m_files.pathOf(file))),
-            BaseWipeWorker::Warning);
-        task().noteShortfall({ShortfallKind::OtherNames, m_files.pathOf(file), -1, others});
+        note(tr("文件还有 %1 个其他硬链接: %2")
+                 .arg(QString::number(others), displayText(m_files.pathOf(file))),
+             Warning);
+        noteShortfall({ShortfallKind::OtherNames, m_files.pathOf(file), -1, others});
     }
     return true;
 }
@@ -209,8 +208,7 @@ std::size_t FileWipeWorker::addLate()
     measureFrom(first);
     m_singlePassTotal = announced;
     if (m_files.count() > first)
-        log(tr("任务期间又出现 %1 个文件，同样进行擦除").arg(m_files.count() - first),
-            BaseWipeWorker::Warning);
+        note(tr("任务期间又出现 %1 个文件，同样进行擦除").arg(m_files.count() - first), Warning);
     return first;
 }
 
@@ -222,12 +220,12 @@ void FileWipeWorker::announceFiles()
         report.fileCount = static_cast<qint32>(m_files.count());
         report.totalBytes = static_cast<quint64>(m_singlePassTotal);
     });
-    log(tr("准备擦除 %1 个文件，单遍总大小 %2")
-            .arg(QString::number(m_files.count()), formatSize(m_singlePassTotal)));
+    note(tr("准备擦除 %1 个文件，单遍总大小 %2")
+             .arg(QString::number(m_files.count()), formatSize(m_singlePassTotal)));
     if (!task().targetsAreNamed())
         return;
     for (const QString &link : linksAmong(task().files()))
-        task().noteShortfall({ShortfallKind::LinkTarget, link});
+        noteShortfall({ShortfallKind::LinkTarget, link});
 }
 
 bool FileWipeWorker::overwriteAll()
@@ -236,7 +234,7 @@ bool FileWipeWorker::overwriteAll()
     // A total of 0 proves that there is nothing to overwrite only when every size was told, and when there is
     // nothing beside the content.
     if (m_singlePassTotal <= 0 && m_isTotalCertain && m_isAllEmpty) {
-        log(tr("所有文件为空，跳过数据覆写"));
+        note(tr("所有文件为空，跳过数据覆写"));
         return !isStopRequested();
     }
     noteReadBack(true);
@@ -297,8 +295,8 @@ bool FileWipeWorker::overwriteAgain(std::size_t index)
 
 bool FileWipeWorker::failPass(int pass)
 {
-    log(tr("第 %1/%2 遍覆写出现失败文件，失败数: %3").arg(pass).arg(m_totalPasses).arg(failedCount()),
-        BaseWipeWorker::Error);
+    note(tr("第 %1/%2 遍覆写出现失败文件，失败数: %3").arg(pass).arg(m_totalPasses).arg(failedCount()),
+         Error);
     return false;
 }
 
@@ -306,8 +304,7 @@ bool FileWipeWorker::failPass(int pass)
 void FileWipeWorker::logContentElsewhere()
 {
     if (m_overwriting.elsewhereCount() > 0)
-        log(tr("%1 个文件的内容可能还保存在别处，未被覆写").arg(m_overwriting.elsewhereCount()),
-            BaseWipeWorker::Warning);
+        note(tr("%1 个文件的内容可能还保存在别处，未被覆写").arg(m_overwriting.elsewhereCount()), Warning);
 }
 
 // Overwriting reaches what is here, and the service takes that for a new version.
@@ -315,8 +312,8 @@ void FileWipeWorker::noteCloudCopies()
 {
     if (m_inCloud == 0)
         return;
-    log(tr("%1 个文件由云服务同步，云端可能仍保留其副本和历史版本").arg(m_inCloud), BaseWipeWorker::Warning);
-    task().noteShortfall({ShortfallKind::CloudCopy, {}, -1, m_inCloud});
+    note(tr("%1 个文件由云服务同步，云端可能仍保留其副本和历史版本").arg(m_inCloud), Warning);
+    noteShortfall({ShortfallKind::CloudCopy, {}, -1, m_inCloud});
 }
 
 // What appeared while files were deleted.
@@ -347,8 +344,8 @@ bool FileWipeWorker::areRepetitionsGone()
             continue;
         const QString path = m_files.tree().path(file.folder, file.name);
         ++m_standingRepetitions;
-        log(tr("删除失败: %1").arg(displayText(path)), BaseWipeWorker::Warning);
-        task().noteShortfall({ShortfallKind::EntryNotRemoved, path});
+        note(tr("删除失败: %1").arg(displayText(path)), Warning);
+        noteShortfall({ShortfallKind::EntryNotRemoved, path});
     }
     return m_standingRepetitions == before || isStopRequested();
 }
@@ -362,45 +359,14 @@ bool FileWipeWorker::settleRemovals()
             continue;
         m_overwriting.tellLost(closed.members, closed.status);
         for (const DurabilityGroups::Member &member : closed.members)
-            task().noteShortfall({ShortfallKind::EntryNotRemoved, m_files.pathOf(member.file)});
+            noteShortfall({ShortfallKind::EntryNotRemoved, m_files.pathOf(member.file)});
     }
     return failedCount() == failures;
-}
-
-void FileWipeWorker::note(const QString &message, NoteLevel level)
-{
-    log(message, static_cast<LogLevel>(level));
 }
 
 void FileWipeWorker::diagnose(const platform::Status &failure)
 {
     traceFile(QString(), failure);
-}
-
-void FileWipeWorker::noteShortfall(const Shortfall &shortfall)
-{
-    task().noteShortfall(shortfall);
-}
-
-void FileWipeWorker::noteWritten(qint64 bytes)
-{
-    task().noteWritten(bytes);
-}
-
-void FileWipeWorker::fill(std::byte *data, qint64 size, const PassPattern &pattern)
-{
-    fillBuffer(data, size, pattern);
-}
-
-void FileWipeWorker::fillFrom(PatternGenerator &random, std::byte *data, qint64 size,
-                              const PassPattern &pattern)
-{
-    fillBuffer(data, size, pattern, random);
-}
-
-bool FileWipeWorker::matches(const std::byte *data, qint64 size, const PassPattern &pattern) const
-{
-    return verifyBuffer(data, size, pattern);
 }
 
 void FileWipeWorker::complete()

@@ -5,7 +5,6 @@
 #include "engine/filecollector.h"
 #include "engine/fileoverwriting.h"
 #include "engine/fileremoval.h"
-#include "engine/filework.h"
 #include "engine/jobfiles.h"
 #include "engine/repeatedfiles.h"
 
@@ -16,7 +15,7 @@
 // Shreds the files and folders of a task: every pass overwrites all files in place on a pool of threads, then
 // each file is cut, renamed and deleted, then the folders are removed. A pass in which one file failed is the
 // last thing that happens: nothing is deleted then, so that the user still has what could not be erased.
-class FileWipeWorker : public BaseWipeWorker, private FileWork
+class FileWipeWorker : public BaseWipeWorker
 {
     Q_OBJECT
 
@@ -62,22 +61,7 @@ private:
         return m_overwriting.failedCount() + m_removal.failedCount() + m_standingRepetitions;
     }
 
-    void note(const QString &message, NoteLevel level = RunningJob::Information) override;
-    void reportError(const QString &message) override { emit errorOccurred(message); }
     void diagnose(const platform::Status &failure) override;
-    void noteShortfall(const Shortfall &shortfall) override;
-    void noteWritten(qint64 bytes) override;
-    bool isStopping() const override { return isStopRequested(); }
-    bool mayGoOn() override { return checkPauseStop(); }
-    bool wait(std::chrono::milliseconds time) override { return waitUnlessStopped(time); }
-    void fill(std::byte *data, qint64 size, const PassPattern &pattern) override;
-    void fillFrom(PatternGenerator &random, std::byte *data, qint64 size,
-                  const PassPattern &pattern) override;
-    bool matches(const std::byte *data, qint64 size, const PassPattern &pattern) const override;
-    quint32 drawSeed() override { return BaseWipeWorker::drawSeed(); }
-    // Already the position in the whole job; updateProgress() counts the earlier passes once more. The
-    // figures run ahead in later passes, as everybody who reads them expects.
-    void progress(qint64 done, qint64 total) override { updateProgress(done, total); }
 
     JobFiles m_files{*this};
     SnapshotSurvey m_snapshots;

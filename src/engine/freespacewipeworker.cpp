@@ -49,7 +49,7 @@ void FreeSpaceWipeWorker::process()
 
 bool FreeSpaceWipeWorker::run()
 {
-    log(tr("开始空闲空间擦除..."));
+    note(tr("开始空闲空间擦除..."));
     const PartitionInfo partition = task().partition();
     const DiskInfo disk = task().disk();
     qDebug() << "Partition driveLetter:" << partition.driveLetter;
@@ -59,29 +59,29 @@ bool FreeSpaceWipeWorker::run()
     if (!partition.driveLetter.isEmpty())
         return wipeVolumes(volumesOf(partition));
     if (disk.diskNumber < 0) {
-        emit errorOccurred(tr("无效的目标"));
+        reportError(tr("无效的目标"));
         return false;
     }
     const QStringList volumes = volumesOf(disk);
     if (!volumes.isEmpty())
         return wipeVolumes(volumes);
     // Nothing that fails, and nothing erased either.
-    task().noteShortfall({ShortfallKind::NoVolume, disk.displayName()});
+    noteShortfall({ShortfallKind::NoVolume, disk.displayName()});
     return true;
 }
 
 QStringList FreeSpaceWipeWorker::volumesOf(const PartitionInfo &partition)
 {
-    log(tr("目标分区: %1").arg(displayText(partition.driveLetter)));
-    log(tr("分区大小: %1").arg(partition.formattedTotal()));
-    log(tr("文件系统: %1").arg(displayText(partition.fileSystem)));
+    note(tr("目标分区: %1").arg(displayText(partition.driveLetter)));
+    note(tr("分区大小: %1").arg(partition.formattedTotal()));
+    note(tr("文件系统: %1").arg(displayText(partition.fileSystem)));
     return {partition.driveLetter};
 }
 
 QStringList FreeSpaceWipeWorker::volumesOf(const DiskInfo &disk)
 {
-    log(tr("目标磁盘: %1").arg(disk.displayName()));
-    log(tr("磁盘大小: %1").arg(disk.formattedSize()));
+    note(tr("目标磁盘: %1").arg(disk.displayName()));
+    note(tr("磁盘大小: %1").arg(disk.formattedSize()));
 
     QStringList volumes;
     for (const PartitionInfo &partition : disk.partitions) {
@@ -89,19 +89,19 @@ QStringList FreeSpaceWipeWorker::volumesOf(const DiskInfo &disk)
             volumes.append(partition.driveLetter);
     }
     if (volumes.isEmpty()) {
-        log(tr("磁盘没有分区表，尝试查找对应的卷..."));
+        note(tr("磁盘没有分区表，尝试查找对应的卷..."));
         if (const QString drive = findDriveForDisk(disk.diskNumber); !drive.isEmpty()) {
             volumes.append(drive);
-            log(tr("找到对应卷: %1").arg(displayText(drive)));
+            note(tr("找到对应卷: %1").arg(displayText(drive)));
         }
     }
     if (volumes.isEmpty()) {
-        log(tr("警告: 磁盘上没有可用的非系统分区"), LogLevel::Warning);
+        note(tr("警告: 磁盘上没有可用的非系统分区"), Warning);
         return volumes;
     }
-    log(tr("将擦除 %1 个分区的空闲空间").arg(volumes.size()));
+    note(tr("将擦除 %1 个分区的空闲空间").arg(volumes.size()));
     for (const QString &volume : std::as_const(volumes))
-        log(tr("  - %1").arg(displayText(volume)));
+        note(tr("  - %1").arg(displayText(volume)));
     return volumes;
 }
 
@@ -130,27 +130,27 @@ QString FreeSpaceWipeWorker::findDriveForDisk(int diskNumber)
 bool FreeSpaceWipeWorker::wipeVolumes(const QStringList &volumes)
 {
     if (volumes.isEmpty()) {
-        emit errorOccurred(tr("没有可用的分区"));
+        reportError(tr("没有可用的分区"));
         return false;
     }
     bool failed = false;
     for (qsizetype i = 0; i < volumes.size() && !failed && !isStopRequested(); ++i) {
         if (volumes.size() > 1) {
-            log(QString());
-            log(tr("========== 分区 %1/%2: %3 ==========")
-                    .arg(QString::number(i + 1), QString::number(volumes.size()),
-                         displayText(volumes.at(i))));
+            note(QString());
+            note(tr("========== 分区 %1/%2: %3 ==========")
+                     .arg(QString::number(i + 1), QString::number(volumes.size()),
+                          displayText(volumes.at(i))));
         }
         failed = !wipeVolume(volumes.at(i));
     }
     if (isStopRequested()) {
-        log(tr("擦除已取消"), LogLevel::Warning);
+        note(tr("擦除已取消"), Warning);
         return false;
     }
     if (failed)
         return false;
-    log(QString());
-    log(tr("空闲空间擦除完成!"));
+    note(QString());
+    note(tr("空闲空间擦除完成!"));
     return true;
 }
 
@@ -168,7 +168,7 @@ bool FreeSpaceWipeWorker::wipeVolume(const QString &root)
 {
     m_root = rootPathOf(root);
     task().noteVolume(root);
-    log(tr("目标分区: %1").arg(displayText(m_root)));
+    note(tr("目标分区: %1").arg(displayText(m_root)));
 
     RunningJob &job = *this;
     m_space.emplace(job, m_root, VolumeSpace::Waits{m_releasePatience, m_releasePoll});
@@ -179,17 +179,17 @@ bool FreeSpaceWipeWorker::wipeVolume(const QString &root)
     if (const platform::Status opened = openVolume(root); !opened)
         return failVolumeGone(opened);
     if (!isChosen(*m_anchor, chosenRecord(task(), root))) {
-        emit errorOccurred(changeText(root));
+        reportError(changeText(root));
         return false;
     }
     if (!cleanUpAfterCrash())
         return false;
     const auto free = m_space->settled([this] { return freeBytesOf(*m_anchor); });
     m_freeAtStart = free.valueOr(0);
-    log(tr("空闲空间: %1").arg(formatSize(m_freeAtStart)));
+    note(tr("空闲空间: %1").arg(formatSize(m_freeAtStart)));
     if (m_freeAtStart == 0) {
-        log(tr("没有空闲空间需要擦除"));
-        task().noteShortfall({ShortfallKind::NoFreeByte, root});
+        note(tr("没有空闲空间需要擦除"));
+        noteShortfall({ShortfallKind::NoFreeByte, root});
         return free || failVolumeGone(free.status());
     }
 
@@ -216,7 +216,7 @@ bool FreeSpaceWipeWorker::wipeVolume(const QString &root)
 bool FreeSpaceWipeWorker::failVolumeGone(const platform::Status &status)
 {
     m_space->noteGone(status);
-    emit errorOccurred(tr("卷不再可用，错误码: %1").arg(status.code));
+    reportError(tr("卷不再可用，错误码: %1").arg(status.code));
     return false;
 }
 
@@ -236,15 +236,15 @@ bool FreeSpaceWipeWorker::cleanUpAfterCrash()
     const auto before = freeBytesOf(*m_anchor);
     LeftOvers leftOvers(*m_anchor);
     if (const QString folder = leftOvers.inUse(); !folder.isEmpty()) {
-        emit errorOccurred(useText(folder));
+        reportError(useText(folder));
         return false;
     }
     const LeftOvers::Removed removed = leftOvers.remove();
     for (const QString &folder : removed.folders)
-        log(tr("已清理上次中断留下的临时文件: %1").arg(displayText(folder)));
+        note(tr("已清理上次中断留下的临时文件: %1").arg(displayText(folder)));
     if (m_space->waitFor([this] { return freeBytesOf(*m_anchor); }, before.valueOr(0), removed.bytes))
         return true;
-    emit errorOccurred(tr("填充空闲空间失败"));
+    reportError(tr("填充空闲空间失败"));
     return false;
 }
 
@@ -254,8 +254,8 @@ bool FreeSpaceWipeWorker::createTemporaryFolder()
     if (!created) {
         diagnose(created);
         if (const QString hint = ProtectedFolders::hint(created.code); !hint.isEmpty())
-            log(hint, BaseWipeWorker::Warning);
-        emit errorOccurred(tr("无法创建临时目录: %1").arg(displayText(m_folder.path())));
+            note(hint, Warning);
+        reportError(tr("无法创建临时目录: %1").arg(displayText(m_folder.path())));
         return false;
     }
     // Another job that has begun at the same moment sees this folder, or is seen here.
@@ -263,7 +263,7 @@ bool FreeSpaceWipeWorker::createTemporaryFolder()
     if (other.isEmpty())
         return true;
     [[maybe_unused]] const platform::Status removed = m_folder.remove(); // told there
-    emit errorOccurred(useText(other));
+    reportError(useText(other));
     return false;
 }
 
@@ -277,12 +277,12 @@ bool FreeSpaceWipeWorker::runPasses()
     m_fill.emplace(job, m_folder, *m_space,
                    FreeSpaceFill::Volume{m_root, m_freeAtStart, task().bufferSizeMB() * MiB});
     if (writesToNewPlaces(m_root))
-        task().noteShortfall({ShortfallKind::CopyOnWrite, m_root});
+        noteShortfall({ShortfallKind::CopyOnWrite, m_root});
     if (const auto note = snapshotNote(m_root))
-        task().noteShortfall(*note);
+        noteShortfall(*note);
     noteReadBack(false);
     const qint64 kept = std::min(m_freeAtStart, FreeSpaceFill::reserveFor(m_root));
-    log(tr("保留 %1 作为安全空间，不会被覆写").arg(formatSize(kept)));
+    note(tr("保留 %1 作为安全空间，不会被覆写").arg(formatSize(kept)));
     qint64 filledInEvery = std::numeric_limits<qint64>::max();
     int passesRun = 0;
     bool filled = true;
@@ -290,13 +290,13 @@ bool FreeSpaceWipeWorker::runPasses()
         m_currentPass = pass;
         emit passChanged(pass, m_totalPasses);
         const PassPattern &pattern = passes.at(pass - 1);
-        log(tr("第 %1/%2 次覆写 (%3)")
-                .arg(QString::number(pass), QString::number(m_totalPasses), patternLabel(pattern)));
+        note(tr("第 %1/%2 次覆写 (%3)")
+                 .arg(QString::number(pass), QString::number(m_totalPasses), patternLabel(pattern)));
         filled = m_fill->reclaim() && fillFreeSpace(pattern);
         filledInEvery = std::min(filledInEvery, m_fill->filled());
         ++passesRun;
         if (!filled)
-            emit errorOccurred(tr("填充空闲空间失败"));
+            reportError(tr("填充空闲空间失败"));
         // The figure that the percentage is based on, not what was written: the two differ by the reserve.
         m_bytesBeforePass += m_freeAtStart;
     }
@@ -341,12 +341,12 @@ platform::Status FreeSpaceWipeWorker::removeTemporaries()
 
 void FreeSpaceWipeWorker::cleanResidue()
 {
-    log(tr("正在清理文件系统残留..."));
+    note(tr("正在清理文件系统残留..."));
     platform::Status first = cleanFileRecords();
     remember(first, cleanDirectoryEntries());
     if (!first) {
         qDebug().noquote() << "[FreeSpaceWipe] residue" << first.diagnostic();
-        log(tr("文件系统残留清理不完整，错误码: %1").arg(first.code), LogLevel::Warning);
+        note(tr("文件系统残留清理不完整，错误码: %1").arg(first.code), Warning);
     }
 }
 
@@ -360,27 +360,7 @@ platform::Status FreeSpaceWipeWorker::cleanDirectoryEntries()
     return ResidueCleaning(*this, m_folder).cleanDirectoryEntries();
 }
 
-void FreeSpaceWipeWorker::note(const QString &message, NoteLevel level)
-{
-    log(message, static_cast<LogLevel>(level));
-}
-
 void FreeSpaceWipeWorker::diagnose(const platform::Status &failure)
 {
     qDebug().noquote() << "[FreeSpaceWipe]" << m_root << failure.diagnostic();
-}
-
-void FreeSpaceWipeWorker::noteShortfall(const Shortfall &shortfall)
-{
-    task().noteShortfall(shortfall);
-}
-
-void FreeSpaceWipeWorker::noteWritten(qint64 bytes)
-{
-    task().noteWritten(bytes);
-}
-
-void FreeSpaceWipeWorker::fill(std::byte *data, qint64 size, const PassPattern &pattern)
-{
-    fillBuffer(data, size, pattern);
 }

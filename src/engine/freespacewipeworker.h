@@ -3,7 +3,6 @@
 #include "engine/basewipeworker.h"
 #include "engine/fillfolder.h"
 #include "engine/freespacefill.h"
-#include "engine/runningjob.h"
 #include "engine/volumespace.h"
 #include "platform/anchoredfolder.h"
 #include "platform/status.h"
@@ -25,7 +24,7 @@ struct PartitionInfo;
 //
 // The task names a volume, or a disk all of whose mounted volumes are wiped one after the other. The first
 // volume that fails ends the job. Whatever ends it, no fill file stays behind.
-class FreeSpaceWipeWorker : public BaseWipeWorker, private RunningJob
+class FreeSpaceWipeWorker : public BaseWipeWorker
 {
     Q_OBJECT
 
@@ -80,16 +79,7 @@ private:
     platform::Status cleanFileRecords();
     platform::Status cleanDirectoryEntries();
 
-    void note(const QString &message, NoteLevel level = RunningJob::Information) override;
-    void reportError(const QString &message) override { emit errorOccurred(message); }
     void diagnose(const platform::Status &failure) override;
-    void noteShortfall(const Shortfall &shortfall) override;
-    void noteWritten(qint64 bytes) override;
-    bool isStopping() const override { return isStopRequested(); }
-    bool mayGoOn() override { return checkPauseStop(); }
-    bool wait(std::chrono::milliseconds time) override { return waitUnlessStopped(time); }
-    void fill(std::byte *data, qint64 size, const PassPattern &pattern) override;
-    void progress(qint64 done, qint64 total) override { updateProgress(done, total); }
 
     // Of the current volume, open as long as it is wiped.
     std::unique_ptr<platform::AnchoredFolder> m_anchor;

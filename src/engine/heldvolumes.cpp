@@ -12,7 +12,7 @@ namespace {
 constexpr int LockAttempts = 30;
 }
 
-HeldVolumes::HeldVolumes(DiskJob &job)
+HeldVolumes::HeldVolumes(RunningJob &job)
     : m_job(job)
 {}
 
@@ -33,7 +33,7 @@ bool HeldVolumes::lock(const platform::DriveIdentity &drive)
 
 void HeldVolumes::noteNone()
 {
-    m_job.note(tr("警告: 未找到任何卷，可能是无分区磁盘"), DiskJob::Warning);
+    m_job.note(tr("警告: 未找到任何卷，可能是无分区磁盘"), RunningJob::Warning);
 }
 
 QStringList HeldVolumes::inSight(int driveNumber)
@@ -75,9 +75,9 @@ void HeldVolumes::hold(const Found &found, const platform::DriveIdentity &drive)
     auto opened = platform::Platform::current().devices().openVolume(found.name, drive);
     if (!opened) {
         m_job.note(tr("无法打开卷 %1，错误码: %2").arg(shownName, QString::number(opened.code())),
-                   DiskJob::Error);
+                   RunningJob::Error);
         if (platform::isLockedByEncryption(opened.code()))
-            m_job.note(FailureWords::of(opened.code()), DiskJob::Error);
+            m_job.note(FailureWords::of(opened.code()), RunningJob::Error);
         m_job.diagnose(opened.status());
         m_job.noteShortfall({.kind = ShortfallKind::VolumeNotOpened, .place = found.name});
         return;
@@ -108,7 +108,7 @@ bool HeldVolumes::lockVolume(platform::VolumeDevice &volume, const QString &show
             return false;
     }
     m_job.note(tr("警告: 卷 %1 锁定失败，错误码: %2").arg(shownName, QString::number(locked.code)),
-               DiskJob::Warning);
+               RunningJob::Warning);
     m_job.diagnose(locked);
     return false;
 }
@@ -122,7 +122,7 @@ bool HeldVolumes::dismountVolume(platform::VolumeDevice &volume, const QString &
         return true;
     }
     m_job.note(tr("警告: 卷 %1 卸载失败，错误码: %2").arg(shownName, QString::number(dismounted.code)),
-               DiskJob::Warning);
+               RunningJob::Warning);
     m_job.diagnose(dismounted);
     return false;
 }

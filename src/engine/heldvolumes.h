@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/diskjob.h"
+#include "engine/runningjob.h"
 #include "platform/devices.h"
 
 #include <QCoreApplication>
@@ -28,7 +28,7 @@ public:
         qint64 readable = 0; // bytes that a verification may expect to read, after a pass
     };
 
-    explicit HeldVolumes(DiskJob &job);
+    explicit HeldVolumes(RunningJob &job);
 
     // The wait after each failed attempt to lock a volume, 500 ms unless set.
     std::chrono::milliseconds lockRetryDelay() const { return m_lockRetryDelay; }
@@ -64,7 +64,7 @@ private:
     bool lockVolume(platform::VolumeDevice &volume, const QString &shownName);
     bool dismountVolume(platform::VolumeDevice &volume, const QString &shownName);
 
-    DiskJob &m_job;
+    RunningJob &m_job;
     std::chrono::milliseconds m_lockRetryDelay{500};
     std::vector<Volume> m_volumes;
     QStringList m_dismounted;

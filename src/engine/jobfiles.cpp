@@ -6,10 +6,31 @@
 #include "platform/platform.h"
 
 #include <algorithm>
+#include <utility>
 
 using platform::EntryPath;
 using platform::Result;
 using platform::Status;
+
+void JobFiles::keepFrom(std::size_t first, const std::function<bool(std::size_t file)> &isKept,
+                        const std::function<bool()> &goOn)
+{
+    std::size_t kept = first;
+    std::size_t i = first;
+    for (; i < m_list.files.size() && goOn(); ++i) {
+        if (!isKept(i))
+            continue;
+        if (kept != i) {
+            m_list.files[kept] = std::move(m_list.files[i]);
+            m_watched[kept] = m_watched[i];
+        }
+        ++kept;
+    }
+    const auto given = static_cast<std::ptrdiff_t>(i);
+    const auto left = static_cast<std::ptrdiff_t>(kept);
+    m_list.files.erase(m_list.files.begin() + left, m_list.files.begin() + given);
+    m_watched.erase(m_watched.begin() + left, m_watched.begin() + given);
+}
 
 Result<EntryPath> JobFiles::entry(std::size_t file)
 {

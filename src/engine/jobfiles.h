@@ -12,12 +12,12 @@
 #include <QString>
 
 #include <cstddef>
-#include <utility>
+#include <functional>
 #include <vector>
 
-// The files of a job with what it knows of each, and the words for what happens to them. Files are added by
-// the worker's thread while no other looks at them; what is known of a file belongs to the one thread that
-// has it.
+/// The files of a job, the job's knowledge of each, and the messages about them. The worker's thread adds
+/// files while no other thread reads the list. The knowledge of a file belongs to the thread that works on
+/// it.
 class JobFiles
 {
     Q_DECLARE_TR_FUNCTIONS(FileWipeWorker)
@@ -30,28 +30,28 @@ public:
     HeldTree &tree() { return m_tree; }
     FileList &list() { return m_list; }
     const FileList &list() const { return m_list; }
-    // Numbers of files count from the beginning of the list.
+    /// Files are numbered from 0, from the beginning of the list.
     std::size_t count() const { return m_list.files.size(); }
     WatchedFile &watched(std::size_t file) { return m_watched[file]; }
-    // For files that were added to the list.
+    /// Begins to watch the files that were added to the list.
     void watchAll() { m_watched.resize(m_list.files.size()); }
-    // Takes those from the first one on off the list for which it answers false; false of goOn leaves the
-    // rest as it is.
-    template <typename Predicate, typename GoOn>
-    void keepFrom(std::size_t first, const Predicate &isKept, const GoOn &goOn);
+    /// Takes those from the first one on off the list for which isKept() is false. Once goOn() is false the
+    /// rest stays as it is.
+    void keepFrom(std::size_t first, const std::function<bool(std::size_t file)> &isKept,
+                  const std::function<bool()> &goOn);
 
     platform::Result<platform::EntryPath> entry(std::size_t file);
     platform::Result<platform::FileInfo> look(std::size_t file);
     QString pathOf(std::size_t file) const;
 
-    // What stands under a name that the list does not have, left there by the job.
+    /// Files that the job renamed and could not remove; the list does not have their names.
     std::vector<FileEntry> &left() { return m_left; }
 
     void noteMounted(const QString &path);
     void noteReplaced(const QString &path);
-    // What vanished on the way to its end.
+    /// Adds the files that vanished during the job to its outcome.
     void noteVanished();
-    // Says why a file failed; always false. message has a place for the path.
+    /// Logs why a file failed; always false. The message has a place for the path.
     bool fail(const QString &message, const QString &path, const platform::Status &status);
 
 private:
@@ -60,25 +60,5 @@ private:
     FileList m_list;
     std::vector<WatchedFile> m_watched; // the files of the list
     std::vector<FileEntry> m_left;
-    QSet<QString> m_mounted; // paths of what is not to be entered
+    QSet<QString> m_mounted; // paths of mount points, which the job does not enter
 };
-
-template <typename Predicate, typename GoOn>
-void JobFiles::keepFrom(std::size_t first, const Predicate &isKept, const GoOn &goOn)
-{
-    std::size_t kept = first;
-    std::size_t i = first;
-    for (; i < m_list.files.size() && goOn(); ++i) {
-        if (!isKept(i))
-            continue;
-        if (kept != i) {
-            m_list.files[kept] = std::move(m_list.files[i]);
-            m_watched[kept] = m_watched[i];
-        }
-        ++kept;
-    }
-    const auto given = static_cast<std::ptrdiff_t>(i);
-    const auto left = static_cast<std::ptrdiff_t>(kept);
-    m_list.files.erase(m_list.files.begin() + left, m_list.files.begin() + given);
-    m_watched.erase(m_watched.begin() + left, m_watched.begin() + given);
-}

@@ -36,6 +36,7 @@ public:
     void process() override { runJob(); }
     bool run() override { return job(); }
     void complete() override { steps.append("complete"); }
+    void diagnose(const platform::Status &) override {}
 
     std::function<bool()> job = [] { return true; };
     QByteArrayList steps;
