@@ -2,7 +2,7 @@
 
 #include "cli/names.h"
 #include "model/jsonwriter.h"
-#include "services/binitemtext.h"
+#include "services/trash/binitemtext.h"
 
 namespace cli {
 

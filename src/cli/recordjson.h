@@ -3,7 +3,7 @@
 #include "model/diskinfo.h"
 #include "model/joboutcome.h"
 #include "model/wipemethod.h"
-#include "services/recyclebininfo.h"
+#include "services/trash/recyclebininfo.h"
 
 #include <QByteArray>
 

@@ -5,8 +5,8 @@
 #include "cli/translate.h"
 #include "model/displaytext.h"
 #include "model/formatsize.h"
-#include "services/binitemtext.h"
-#include "services/recyclebinscanner.h"
+#include "services/trash/binitemtext.h"
+#include "services/trash/recyclebinscanner.h"
 
 #include <QFileInfo>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "cli/command.h"
-#include "services/recyclebininfo.h"
+#include "services/trash/recyclebininfo.h"
 
 #include <QCommandLineOption>
 #include <QList>

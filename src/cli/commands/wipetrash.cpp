@@ -10,7 +10,7 @@
 #include "model/joboutcome.h"
 #include "model/jsonwriter.h"
 #include "model/targettext.h"
-#include "services/binrecords.h"
+#include "services/trash/binrecords.h"
 
 namespace cli {
 

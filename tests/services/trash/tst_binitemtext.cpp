@@ -1,5 +1,5 @@
-#include "services/binitemtext.h"
-#include "services/recyclebininfofile.h"
+#include "services/trash/binitemtext.h"
+#include "services/trash/recyclebininfofile.h"
 #include "support/infofiles.h"
 #include "support/suite.h"
 

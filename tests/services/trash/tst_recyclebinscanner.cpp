@@ -1,4 +1,4 @@
-#include "services/recyclebinscanner.h"
+#include "services/trash/recyclebinscanner.h"
 #include "support/suite.h"
 
 #include "platform/forwarding.h"

@@ -1,8 +1,8 @@
-#include "services/binitemtext.h"
+#include "services/trash/binitemtext.h"
 
 #include "model/displaytext.h"
 #include "model/formatsize.h"
-#include "services/recyclebininfofile.h"
+#include "services/trash/recyclebininfofile.h"
 
 #include <QFileInfo>
 

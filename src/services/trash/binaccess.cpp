@@ -1,4 +1,4 @@
-#include "services/binaccess.h"
+#include "services/trash/binaccess.h"
 
 #include "platform/files.h"
 #include "platform/platform.h"

@@ -1,7 +1,8 @@
-#include "services/recyclebinscanner.h"
-#include "services/trashinfofile.h"
-#include "services/trashscan.h"
-#include "services/trashsizes.h"
+#include "services/trash/binrecords.h"
+#include "services/trash/recyclebinscanner.h"
+#include "services/trash/trashinfofile.h"
+#include "services/trash/trashscan.h"
+#include "services/trash/trashsizes.h"
 #include "support/suite.h"
 
 #include "platform/forwarding.h"
@@ -175,6 +176,7 @@ private slots:
     void noSizesAreNoFailure();
     void anEmptiedTrashKeepsNoNames();
     void theFoldersOfAScanAreNamedOnce();
+    void aFailureIsAnsweredAndTheOtherFoldersAreTidied();
 };
 
 void tst_TrashScan::recordedPaths_data()
@@ -693,6 +695,24 @@ void tst_TrashScan::theFoldersOfAScanAreNamedOnce()
     const RecycleBinInfo info = scan();
     QCOMPARE(info.fileCount, 4);
     QCOMPARE(trashFoldersOf(info), (QStringList{pc.home().folder, stick.folder}));
+}
+
+void tst_TrashScan::aFailureIsAnsweredAndTheOtherFoldersAreTidied()
+{
+    Machine pc;
+    const Trash stick = Machine::own(pc.mount(u"stick"_s));
+    pc.home().add(u"a"_s, "/users/ann/a", "1");
+    stick.add(u"b"_s, "b", "1");
+    const QByteArray sizes("100 1700000000000 gone\n");
+    writeFile(pc.path(u"mine"_s), sizes);
+    QVERIFY(QFile::link(pc.path(u"mine"_s), pc.home().folder + u"/directorysizes"_s));
+    writeFile(stick.folder + u"/directorysizes"_s, sizes);
+    const RecycleBinInfo info = scan();
+    QCOMPARE(trashFoldersOf(info), (QStringList{pc.home().folder, stick.folder}));
+    const platform::Status expected = pruneDirectorySizes(pc.home().folder);
+    QVERIFY(!expected.ok());
+    QCOMPARE(updateBinRecords(info).code, expected.code);
+    QCOMPARE(contentOf(stick.folder + u"/directorysizes"_s), QByteArray());
 }
 
 QUORVEX_SUITE(tst_TrashScan, QCoreApplication)

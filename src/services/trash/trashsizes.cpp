@@ -1,11 +1,11 @@
-#include "services/trashsizes.h"
+#include "services/trash/trashsizes.h"
 
 #include "platform/entrypath.h"
 #include "platform/filenames.h"
 #include "platform/files.h"
 #include "platform/folders.h"
 #include "platform/platform.h"
-#include "services/foldertree.h"
+#include "services/trash/foldertree.h"
 
 #include <QByteArray>
 #include <QRandomGenerator>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "services/recyclebininfo.h"
+#include "services/trash/recyclebininfo.h"
 
 #include "platform/folders.h"
 #include "platform/status.h"

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/status.h"
-#include "services/recyclebininfo.h"
+#include "services/trash/recyclebininfo.h"
 
 #include <QString>
 #include <QStringList>

@@ -1,12 +1,12 @@
-#include "services/trashscan.h"
+#include "services/trash/trashscan.h"
 
 #include "platform/entrypath.h"
 #include "platform/files.h"
 #include "platform/folders.h"
 #include "platform/platform.h"
-#include "services/binaccess.h"
-#include "services/foldertree.h"
-#include "services/trashinfofile.h"
+#include "services/trash/binaccess.h"
+#include "services/trash/foldertree.h"
+#include "services/trash/trashinfofile.h"
 
 #include <QDebug>
 #include <QDir>

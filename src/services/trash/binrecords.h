@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/status.h"
-#include "services/recyclebininfo.h"
+#include "services/trash/recyclebininfo.h"
 
 /// To be called when what a scan found has been erased: takes out of the bins' own records what is no longer
 /// there. Windows keeps none beside the "$I" files, which are erased with their items; the Trash of other

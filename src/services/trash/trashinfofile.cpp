@@ -1,4 +1,4 @@
-#include "services/trashinfofile.h"
+#include "services/trash/trashinfofile.h"
 
 #include "platform/filenames.h"
 

@@ -1,4 +1,4 @@
-#include "services/recyclebininfofile.h"
+#include "services/trash/recyclebininfofile.h"
 
 #include <QtEndian>
 

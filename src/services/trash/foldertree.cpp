@@ -1,4 +1,4 @@
-#include "services/foldertree.h"
+#include "services/trash/foldertree.h"
 
 #include "platform/entrypath.h"
 #include "platform/folders.h"
