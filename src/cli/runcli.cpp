@@ -1,12 +1,12 @@
 #include "cli/runcli.h"
 
-#include "cli/cliio.h"
 #include "cli/commandline.h"
 #include "cli/globaloptions.h"
 #include "cli/help.h"
-#include "cli/language.h"
-#include "cli/refusaloutput.h"
-#include "cli/translate.h"
+#include "cli/io/cliio.h"
+#include "cli/io/language.h"
+#include "cli/io/refusaloutput.h"
+#include "cli/io/translate.h"
 #include "platform/platform.h"
 
 #include <optional>

@@ -1,7 +1,7 @@
-#include "cli/drivetarget.h"
-#include "cli/listing.h"
-#include "cli/translate.h"
-#include "cli/wipeplan.h"
+#include "cli/io/listing.h"
+#include "cli/io/translate.h"
+#include "cli/job/drivetarget.h"
+#include "cli/job/wipeplan.h"
 #include "model/targettext.h"
 #include "services/diskmanager.h"
 

@@ -1,8 +1,8 @@
 #include "cli/commandline.h"
-#include "cli/listing.h"
-#include "cli/translate.h"
-#include "cli/volumetarget.h"
-#include "cli/wipeplan.h"
+#include "cli/io/listing.h"
+#include "cli/io/translate.h"
+#include "cli/job/volumetarget.h"
+#include "cli/job/wipeplan.h"
 #include "model/targettext.h"
 #include "services/diskmanager.h"
 

@@ -1,0 +1,94 @@
+#include "cli/io/names.h"
+
+#include "cli/io/translate.h"
+
+namespace cli {
+
+using namespace Qt::StringLiterals;
+
+QLatin1String machineName(OperationType type)
+{
+    switch (type) {
+    case DiskWipe:
+        return QLatin1String("DiskWipe");
+    case PartitionWipe:
+        return QLatin1String("PartitionWipe");
+    case FreeSpaceWipe:
+        return QLatin1String("FreeSpaceWipe");
+    case FileWipe:
+        return QLatin1String("FileWipe");
+    }
+    return QLatin1String("Unknown");
+}
+
+QLatin1String machineName(DiskType type)
+{
+    switch (type) {
+    case DiskType::HDD:
+        return QLatin1String("HDD");
+    case DiskType::SSD:
+        return QLatin1String("SSD");
+    case DiskType::USB:
+        return QLatin1String("USB");
+    case DiskType::NVMe:
+        return QLatin1String("NVMe");
+    case DiskType::External:
+        return QLatin1String("External");
+    case DiskType::Unknown:
+        break;
+    }
+    return QLatin1String("Unknown");
+}
+
+QLatin1String machineName(BusType type)
+{
+    switch (type) {
+    case BusType::SATA:
+        return QLatin1String("SATA");
+    case BusType::NVMe:
+        return QLatin1String("NVMe");
+    case BusType::USB:
+        return QLatin1String("USB");
+    case BusType::SCSI:
+        return QLatin1String("SCSI");
+    case BusType::IDE:
+        return QLatin1String("IDE");
+    case BusType::Unknown:
+        break;
+    }
+    return QLatin1String("Unknown");
+}
+
+QLatin1String machineName(PatternType type)
+{
+    switch (type) {
+    case PatternType::Zeros:
+        return QLatin1String("Zeros");
+    case PatternType::Ones:
+        return QLatin1String("Ones");
+    case PatternType::Random:
+        return QLatin1String("Random");
+    case PatternType::Custom:
+        return QLatin1String("Custom");
+    case PatternType::Complement:
+        return QLatin1String("Complement");
+    }
+    return QLatin1String("Unknown");
+}
+
+QString passCountText(int count)
+{
+    return count == 1 ? Cli::tr("1 pass") : Cli::tr("%1 passes").arg(count);
+}
+
+QString durationText(qint64 seconds)
+{
+    const qint64 hours = seconds / 3600;
+    const qint64 minutes = seconds / 60 % 60;
+    const qint64 rest = seconds % 60;
+    if (hours > 0)
+        return u"%1h %2m %3s"_s.arg(hours).arg(minutes).arg(rest);
+    return minutes > 0 ? u"%1m %2s"_s.arg(minutes).arg(rest) : u"%1s"_s.arg(rest);
+}
+
+} // namespace cli
