@@ -2,7 +2,7 @@
 
 #include "cli/commandtable.h"
 #include "cli/globaloptions.h"
-#include "cli/io/translate.h"
+#include "cli/texts.h"
 #include "model/displaytext.h"
 #include "services/translations.h"
 

@@ -1,7 +1,7 @@
 #include "cli/globaloptions.h"
 
 #include "cli/io/paths.h"
-#include "cli/io/translate.h"
+#include "cli/texts.h"
 #include "model/displaytext.h"
 #include "platform/files.h"
 #include "platform/platform.h"

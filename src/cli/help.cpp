@@ -3,7 +3,7 @@
 #include "cli/commandtable.h"
 #include "cli/globaloptions.h"
 #include "cli/io/table.h"
-#include "cli/io/translate.h"
+#include "cli/texts.h"
 
 namespace cli {
 

@@ -3,7 +3,7 @@
 #include "support/suite.h"
 #include "support/testfiles.h"
 
-#include "cli/io/names.h"
+#include "cli/io/amounttext.h"
 #include "cli/io/outputfile.h"
 #include "cli/io/paths.h"
 #include "cli/io/table.h"

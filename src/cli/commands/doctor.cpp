@@ -2,7 +2,7 @@
 #include "cli/globaloptions.h"
 #include "cli/io/cliio.h"
 #include "cli/io/table.h"
-#include "cli/io/translate.h"
+#include "cli/texts.h"
 #include "model/displaytext.h"
 #include "model/jsonwriter.h"
 #include "platform/files.h"

@@ -1,8 +1,8 @@
 #include "cli/command.h"
+#include "cli/io/amounttext.h"
 #include "cli/io/listoutput.h"
-#include "cli/io/names.h"
-#include "cli/io/translate.h"
 #include "cli/records/recordjson.h"
+#include "cli/texts.h"
 
 namespace cli {
 

@@ -1,10 +1,10 @@
 #include "cli/command.h"
 #include "cli/globaloptions.h"
 #include "cli/io/cliio.h"
-#include "cli/io/translate.h"
 #include "cli/records/recordjson.h"
 #include "cli/records/reportstore.h"
 #include "cli/records/reporttext.h"
+#include "cli/texts.h"
 #include "model/jsonwriter.h"
 #include "services/reportdatabase.h"
 

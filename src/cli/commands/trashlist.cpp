@@ -1,8 +1,8 @@
 #include "cli/globaloptions.h"
 #include "cli/io/cliio.h"
-#include "cli/io/translate.h"
 #include "cli/job/trashtarget.h"
 #include "cli/records/recordjson.h"
+#include "cli/texts.h"
 #include "model/jsonwriter.h"
 
 namespace cli {

@@ -1,7 +1,6 @@
-#include "cli/io/listing.h"
-#include "cli/io/translate.h"
 #include "cli/job/drivetarget.h"
 #include "cli/job/wipeplan.h"
+#include "cli/texts.h"
 #include "model/targettext.h"
 #include "services/diskmanager.h"
 

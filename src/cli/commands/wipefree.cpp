@@ -1,8 +1,7 @@
 #include "cli/commandline.h"
-#include "cli/io/listing.h"
-#include "cli/io/translate.h"
 #include "cli/job/volumetarget.h"
 #include "cli/job/wipeplan.h"
+#include "cli/texts.h"
 #include "model/targettext.h"
 #include "services/diskmanager.h"
 

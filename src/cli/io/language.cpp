@@ -1,7 +1,7 @@
 #include "cli/io/language.h"
 
 #include "cli/commandline.h"
-#include "cli/io/translate.h"
+#include "cli/texts.h"
 #include "model/displaytext.h"
 #include "services/translations.h"
 

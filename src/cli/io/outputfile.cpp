@@ -1,8 +1,9 @@
 #include "cli/io/outputfile.h"
 
 #include "cli/commandline.h"
+#include "cli/io/namecase.h"
 #include "cli/io/paths.h"
-#include "cli/io/translate.h"
+#include "cli/texts.h"
 #include "model/displaytext.h"
 #include "platform/wholefile.h"
 
@@ -15,18 +16,6 @@
 namespace cli {
 
 namespace {
-
-constexpr Qt::CaseSensitivity NameCase =
-#ifdef Q_OS_WIN
-    Qt::CaseInsensitive;
-#else
-    Qt::CaseSensitive;
-#endif
-
-QString folded(const QString &path)
-{
-    return NameCase == Qt::CaseSensitive ? path : path.toCaseFolded();
-}
 
 // The path and every folder above it, under the names without links.
 QSet<QString> withFoldersAbove(QString path)

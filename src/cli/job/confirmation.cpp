@@ -1,7 +1,7 @@
 #include "cli/job/confirmation.h"
 
 #include "cli/io/cliio.h"
-#include "cli/io/translate.h"
+#include "cli/texts.h"
 
 namespace cli {
 

@@ -2,7 +2,7 @@
 
 #include "cli/io/paths.h"
 #include "cli/io/permission.h"
-#include "cli/io/translate.h"
+#include "cli/texts.h"
 #include "engine/driveidentity.h"
 #include "model/displaytext.h"
 #include "platform/devicefailure.h"

@@ -1,7 +1,7 @@
 #include "cli/job/filetarget.h"
 
 #include "cli/io/paths.h"
-#include "cli/io/translate.h"
+#include "cli/texts.h"
 #include "model/displaytext.h"
 #include "model/wipetask.h"
 #include "platform/files.h"

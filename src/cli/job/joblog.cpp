@@ -1,10 +1,10 @@
 #include "cli/job/joblog.h"
 
 #include "cli/globaloptions.h"
-#include "cli/io/names.h"
+#include "cli/io/machinenames.h"
 #include "cli/io/outputfile.h"
-#include "cli/io/translate.h"
 #include "cli/job/jobview.h"
+#include "cli/texts.h"
 #include "model/displaytext.h"
 #include "model/wipetask.h"
 #include "services/applog.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "cli/records/jobrecords.h"
+#include "cli/records/recordkeeping.h"
 #include "jobs/jobend.h"
 
 #include <QString>
@@ -9,6 +9,10 @@
 class WipeTask;
 
 namespace cli {
+
+// Levels of the lines of a job's log.
+inline constexpr int WarningLevel = 1;
+inline constexpr int ErrorLevel = 2;
 
 struct JobProgress
 {
@@ -39,14 +43,14 @@ public:
     virtual void passChanged(int pass, int passes) = 0;
     // At most ten times a second.
     virtual void progress(const JobProgress &progress) = 0;
-    // Levels: 0 information, 1 warning, 2 error.
+    // A level below WarningLevel is information.
     virtual void log(const QString &message, int level) = 0;
     // What the engine reports as an error; a line of the log tells it too, unless the engine refused the job.
     virtual void engineError(const QString &message) = 0;
     // Something outside the job went wrong.
     virtual void problem(const QString &message) = 0;
     // The last of a job, with where its records went.
-    virtual void finished(const JobResult &result, const JobRecords::Written &written) = 0;
+    virtual void finished(const JobResult &result, const RecordKeeping::Written &written) = 0;
 };
 
 } // namespace cli

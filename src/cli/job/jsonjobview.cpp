@@ -1,7 +1,7 @@
 #include "cli/job/jsonjobview.h"
 
 #include "cli/io/cliio.h"
-#include "cli/io/names.h"
+#include "cli/io/machinenames.h"
 #include "model/jsonwriter.h"
 #include "model/wipetask.h"
 
@@ -10,8 +10,6 @@
 namespace cli {
 
 namespace {
-
-constexpr int ErrorLevel = 2;
 
 JsonWriter beginEvent(const char *name)
 {
@@ -79,7 +77,7 @@ void JsonJobView::problem(const QString &message)
     print(event);
 }
 
-void JsonJobView::finished(const JobResult &result, const JobRecords::Written &)
+void JsonJobView::finished(const JobResult &result, const RecordKeeping::Written &)
 {
     JsonWriter event = beginEvent("finished");
     const JobOutcome outcome = result.end.outcome.outcome();

@@ -20,7 +20,7 @@ public:
     void log(const QString &message, int level) override;
     void engineError(const QString &message) override { problem(message); }
     void problem(const QString &message) override;
-    void finished(const JobResult &result, const JobRecords::Written &written) override;
+    void finished(const JobResult &result, const RecordKeeping::Written &written) override;
 
 private:
     void print(const JsonWriter &writer);

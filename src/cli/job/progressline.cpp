@@ -1,9 +1,9 @@
 #include "cli/job/progressline.h"
 
+#include "cli/io/amounttext.h"
 #include "cli/io/cliio.h"
-#include "cli/io/names.h"
 #include "cli/io/table.h"
-#include "cli/io/translate.h"
+#include "cli/texts.h"
 #include "model/formatsize.h"
 
 #include <QStringList>

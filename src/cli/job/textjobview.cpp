@@ -1,7 +1,8 @@
 #include "cli/job/textjobview.h"
 
+#include "cli/io/amounttext.h"
 #include "cli/io/cliio.h"
-#include "cli/io/translate.h"
+#include "cli/texts.h"
 #include "model/displaytext.h"
 #include "model/formatsize.h"
 #include "model/wipetask.h"
@@ -11,9 +12,6 @@ namespace cli {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr int WarningLevel = 1;
-constexpr int ErrorLevel = 2;
 
 QString levelMark(int level)
 {
@@ -42,9 +40,8 @@ QString amountText(const WipeReport &report)
 {
     if (report.operationType != FileWipe)
         return Cli::tr("%1 written").arg(formatSize(static_cast<qint64>(report.bytesWritten)));
-    const QString files =
-        report.fileCount == 1 ? Cli::tr("1 file") : Cli::tr("%1 files").arg(report.fileCount);
-    return Cli::tr("%1 of %2").arg(files, formatSize(static_cast<qint64>(report.totalBytes)));
+    return Cli::tr("%1 of %2")
+        .arg(fileCountText(report.fileCount), formatSize(static_cast<qint64>(report.totalBytes)));
 }
 
 } // namespace
@@ -84,7 +81,7 @@ void TextJobView::problem(const QString &message)
     m_progressLine.restore();
 }
 
-void TextJobView::finished(const JobResult &result, const JobRecords::Written &written)
+void TextJobView::finished(const JobResult &result, const RecordKeeping::Written &written)
 {
     m_progressLine.end();
     const WipeReport &report = result.end.report;

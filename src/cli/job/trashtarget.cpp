@@ -2,7 +2,7 @@
 
 #include "cli/commandline.h"
 #include "cli/io/paths.h"
-#include "cli/io/translate.h"
+#include "cli/texts.h"
 #include "model/displaytext.h"
 #include "model/formatsize.h"
 #include "services/trash/binitemtext.h"

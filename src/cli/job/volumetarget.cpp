@@ -1,8 +1,8 @@
 #include "cli/job/volumetarget.h"
 
 #include "cli/io/paths.h"
-#include "cli/io/translate.h"
 #include "cli/job/drivetarget.h"
+#include "cli/texts.h"
 #include "model/displaytext.h"
 #include "platform/devices.h"
 #include "platform/platform.h"

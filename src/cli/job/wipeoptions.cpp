@@ -1,7 +1,7 @@
 #include "cli/job/wipeoptions.h"
 
 #include "cli/commandline.h"
-#include "cli/io/translate.h"
+#include "cli/texts.h"
 #include "model/displaytext.h"
 #include "model/wipetask.h"
 

@@ -33,6 +33,9 @@ struct WipePlan
     std::function<QStringList()> afterwards;
 };
 
+// The lines as they stand below another in the summary.
+QStringList indented(const QStringList &lines);
+
 // Confirms, runs and reports. Nothing is written when this refuses.
 Outcome<ExitCode> carryOut(WipePlan &plan, const WipeOptions &options, const CommandContext &context,
                            const QStringList &commandWords);

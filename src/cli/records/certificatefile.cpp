@@ -1,8 +1,8 @@
 #include "cli/records/certificatefile.h"
 
 #include "cli/io/paths.h"
-#include "cli/io/translate.h"
 #include "cli/records/certificateexport.h"
+#include "cli/texts.h"
 #include "model/wipereport.h"
 
 #include <QFileInfo>

@@ -1,6 +1,6 @@
 #include "cli/records/recordjson.h"
 
-#include "cli/io/names.h"
+#include "cli/io/machinenames.h"
 #include "model/jsonwriter.h"
 #include "services/trash/binitemtext.h"
 

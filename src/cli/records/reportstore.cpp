@@ -1,8 +1,8 @@
 #include "cli/records/reportstore.h"
 
 #include "cli/globaloptions.h"
-#include "cli/io/translate.h"
 #include "cli/records/reporttext.h"
+#include "cli/texts.h"
 #include "model/displaytext.h"
 #include "services/reportdatabase.h"
 

@@ -1,8 +1,8 @@
 #include "cli/records/reporttext.h"
 
-#include "cli/io/names.h"
+#include "cli/io/amounttext.h"
 #include "cli/io/table.h"
-#include "cli/io/translate.h"
+#include "cli/texts.h"
 #include "model/displaytext.h"
 #include "model/displaytime.h"
 #include "model/formatsize.h"
@@ -76,7 +76,7 @@ bool namesCertificate(const QByteArray &json)
 QString targetText(const WipeReport &report)
 {
     if (report.operationType == FileWipe)
-        return report.fileCount == 1 ? Cli::tr("1 file") : Cli::tr("%1 files").arg(report.fileCount);
+        return fileCountText(report.fileCount);
     return displayText(report.disk.displayName());
 }
 

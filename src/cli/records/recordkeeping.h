@@ -19,7 +19,7 @@ struct CommandContext;
 struct WipeOptions;
 
 // What is kept of jobs: the record in the database, the report as a file, the certificate.
-class JobRecords
+class RecordKeeping
 {
 public:
     // Where they went; empty paths for what was not wanted or could not be written.
@@ -32,8 +32,8 @@ public:
 
     // Opens the database and tries the files; nothing is written. Refused when one of them lies in what is to
     // be erased, SurroundingsFailed when it cannot be written.
-    static Outcome<JobRecords> prepare(const WipeOptions &options, const CommandContext &context,
-                                       const QStringList &doomedPaths, const QStringList &commandWords);
+    static Outcome<RecordKeeping> prepare(const WipeOptions &options, const CommandContext &context,
+                                          const QStringList &doomedPaths, const QStringList &commandWords);
 
     // Notes in the end what became of its report.
     Written write(JobEnd &end, bool withCertificate) const;

@@ -1,11 +1,11 @@
-#include "cli/records/jobrecords.h"
+#include "cli/records/recordkeeping.h"
 
 #include "cli/command.h"
 #include "cli/commandline.h"
 #include "cli/globaloptions.h"
-#include "cli/io/translate.h"
 #include "cli/job/wipeoptions.h"
 #include "cli/records/reporttext.h"
+#include "cli/texts.h"
 #include "jobs/jobend.h"
 #include "jobs/reportstorage.h"
 #include "model/displaytext.h"
@@ -92,8 +92,8 @@ std::optional<Refusal> checkStore(const ReportStore &store, const QStringList &d
 
 } // namespace
 
-Outcome<JobRecords> JobRecords::prepare(const WipeOptions &options, const CommandContext &context,
-                                        const QStringList &doomedPaths, const QStringList &commandWords)
+Outcome<RecordKeeping> RecordKeeping::prepare(const WipeOptions &options, const CommandContext &context,
+                                              const QStringList &doomedPaths, const QStringList &commandWords)
 {
     if (const auto refusal = check(options.reportFile, doomedPaths, commandWords))
         return *refusal;
@@ -101,7 +101,7 @@ Outcome<JobRecords> JobRecords::prepare(const WipeOptions &options, const Comman
         return *refusal;
     if (const auto refusal = checkOutputs(options, context, commandWords))
         return *refusal;
-    JobRecords records;
+    RecordKeeping records;
     records.m_reportFile = options.reportFile;
     records.m_certificate = options.certificate;
     if (options.storeReport) {
@@ -115,7 +115,7 @@ Outcome<JobRecords> JobRecords::prepare(const WipeOptions &options, const Comman
     return records;
 }
 
-JobRecords::Written JobRecords::write(JobEnd &end, bool withCertificate) const
+RecordKeeping::Written RecordKeeping::write(JobEnd &end, bool withCertificate) const
 {
     Written written;
     const WipeReport &report = end.report;
