@@ -3,7 +3,7 @@
 #include "cli/commandline.h"
 #include "cli/texts.h"
 #include "model/displaytext.h"
-#include "services/translations.h"
+#include "services/languages.h"
 
 #include <QFile>
 
@@ -16,14 +16,14 @@ Outcome<std::unique_ptr<Language>> Language::install(const QString &code)
     std::unique_ptr<Language> language(new Language);
     if (code.isEmpty())
         return language;
-    if (!translations::codes().contains(code)) {
+    if (!languages::codes().contains(code)) {
         return wrongCommandLine(Cli::tr("unknown language '%1', known are: %2")
-                                    .arg(displayText(code), translations::codes().join(u' ')),
+                                    .arg(displayText(code), languages::codes().join(u' ')),
                                 {});
     }
-    QString catalogue = translations::catalogue(code);
+    QString catalogue = languages::catalogue(code);
     if (!QFile::exists(catalogue))
-        catalogue = translations::supplement(code);
+        catalogue = languages::supplement(code);
     if (!language->m_translator.load(catalogue))
         return Refusal{SurroundingsFailed,
                        Cli::tr("the catalogue of the language %1 cannot be read").arg(code)};

@@ -1,4 +1,6 @@
-#include "services/translations.h"
+#include "services/languages.h"
+
+#include "services/languagelist.h"
 
 using namespace Qt::StringLiterals;
 
@@ -9,12 +11,25 @@ static void addCataloguesToResources()
     Q_INIT_RESOURCE(supplement);
 }
 
-namespace translations {
+namespace languages {
+
+const QList<Language> &all()
+{
+    static const QList<Language> languages = [] {
+        QList<Language> list;
+        for (const Listed &language : List)
+            list.append({QString::fromUtf16(language.code), QString::fromUtf16(language.menuLabel)});
+        return list;
+    }();
+    return languages;
+}
 
 QStringList codes()
 {
-    return {u"en"_s, u"fr"_s, u"de"_s, u"ja"_s,    u"es"_s,   u"ko"_s,
-            u"nl"_s, u"pt"_s, u"it"_s, u"zh_TW"_s, u"zh_CN"_s};
+    QStringList codes;
+    for (const Language &language : all())
+        codes.append(language.code);
+    return codes;
 }
 
 QString forSystem(const QString &systemLocale)
@@ -37,4 +52,4 @@ QString supplement(const QString &code)
     return u":/supplement/quorvex_%1.qm"_s.arg(code);
 }
 
-} // namespace translations
+} // namespace languages

@@ -1,13 +1,23 @@
 #pragma once
 
+#include <QList>
 #include <QString>
 #include <QStringList>
 
 /// The languages of the program's texts and their catalogues, which are among the resources. Any thread.
-namespace translations {
+namespace languages {
 
-/// The codes of all languages: those with a catalogue, and "zh_CN", which stands for the source texts as far
-/// as these are Chinese.
+struct Language
+{
+    QString code;
+    QString menuLabel; ///< flag and name, in the language itself; empty for one that the menu does not have
+};
+
+/// All languages in the order of lists and of the menu: those with a catalogue, and "zh_CN", which stands for
+/// the source texts as far as these are Chinese. resources/translations/languages.txt names them.
+const QList<Language> &all();
+
+/// The codes of all(), in the same order.
 QStringList codes();
 
 /// The language for a system's locale as QLocale::name() gives it ("de_DE"), by its first two letters;
@@ -21,4 +31,4 @@ QString catalogue(const QString &code);
 /// the sources.
 QString supplement(const QString &code);
 
-} // namespace translations
+} // namespace languages
