@@ -1,8 +1,8 @@
 #include "model/wipereport.h"
-#include "services/recyclebinscanner.h"
 #include "services/reportdatabase.h"
+#include "services/trash/recyclebinscanner.h"
 #ifdef Q_OS_UNIX
-#include "services/trashscan.h"
+#include "services/trash/trashscan.h"
 #endif
 
 #include <QCoreApplication>

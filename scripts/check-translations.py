@@ -42,16 +42,18 @@ def faults(source, message, language):
     ):
         if measure(source) != measure(text):
             yield what
-    if language not in ("ja", "zh_TW", "zh_CN") and CHINESE.search(text):
+    if not language.startswith(("ja", "zh")) and CHINESE.search(text):
         yield "Chinese"
 
 
 def main():
     folder = pathlib.Path(__file__).resolve().parent.parent / "resources" / "translations"
+    lines = (folder / "languages.txt").read_text(encoding="utf-8").splitlines()
+    languages = [line.split(" | ")[0] for line in lines if line and not line.startswith("#")]
     found = 0
     texts = 0
-    for path in sorted(folder.glob("quorvex_*.ts")):
-        language = path.stem.removeprefix("quorvex_")
+    for language in sorted(languages):
+        path = folder / f"quorvex_{language}.ts"
         for context in ET.parse(path).getroot().findall("context"):
             for message in context.findall("message"):
                 texts += 1

@@ -8,8 +8,7 @@ import xml.etree.ElementTree as ET
 
 CATALOGUES = pathlib.Path("/usr/share/qt6/translations")
 LCONVERT = "/usr/lib/qt6/bin/lconvert"
-# The program's code of a language to Qt's. Qt has the Portuguese of Brazil only.
-LANGUAGES = {code: code for code in ("fr", "de", "ja", "es", "ko", "nl", "it", "zh_TW", "zh_CN")} | {"pt": "pt_BR"}
+TRANSLATIONS = pathlib.Path(__file__).resolve().parent.parent / "resources" / "translations"
 # Without the texts of errors, which go into logs and answers that are no one's language.
 CONTEXTS = {
     "CloseButton",
@@ -42,6 +41,15 @@ CONTEXTS = {
 KEYS = {"Alt", "Backspace", "Ctrl", "Del", "End", "Esc", "Home", "Ins", "Left", "Right", "Shift", "Space", "Tab"}
 
 
+def languages():
+    """The program's code of each language that Qt has texts for, and Qt's. Qt has the Portuguese of Brazil only."""
+    for line in (TRANSLATIONS / "languages.txt").read_text(encoding="utf-8").splitlines():
+        if line and not line.startswith("#"):
+            code, _, theirs, _ = line.split(" | ")
+            if theirs != "-":
+                yield code, theirs
+
+
 def keep(context):
     name = context.find("name").text
     if name not in CONTEXTS:
@@ -59,9 +67,9 @@ def keep(context):
 def main():
     if not CATALOGUES.is_dir():
         sys.exit(f"error: there is no {CATALOGUES}: the package qt6-translations-l10n brings it")
-    folder = pathlib.Path(__file__).resolve().parent.parent / "resources" / "translations" / "qt"
+    folder = TRANSLATIONS / "qt"
     folder.mkdir(exist_ok=True)
-    for code, theirs in LANGUAGES.items():
+    for code, theirs in languages():
         command = [LCONVERT, "-of", "ts", "-i", CATALOGUES / f"qtbase_{theirs}.qm", "-o", "-"]
         root = ET.fromstring(subprocess.run(command, check=True, stdout=subprocess.PIPE).stdout)
         for context in root.findall("context"):

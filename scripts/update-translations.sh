@@ -7,10 +7,11 @@
 source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
 cd "$root"
 
-# That of zh_CN needs the texts only that are English in the sources.
-languages=(en fr de ja es ko nl pt it zh_TW zh_CN)
 lupdate=/usr/lib/qt6/bin/lupdate
 folder=resources/translations
+mapfile -t languages < <(sed -n 's/^\([^#|]*\) |.*/\1/p' "$folder/languages.txt")
+
+((${#languages[@]} > 0)) || fail "there are no languages in $folder/languages.txt"
 
 [[ -x $lupdate ]] || fail "there is no $lupdate: the package qt6-l10n-tools brings it"
 

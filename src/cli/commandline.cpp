@@ -2,9 +2,9 @@
 
 #include "cli/commandtable.h"
 #include "cli/globaloptions.h"
-#include "cli/translate.h"
+#include "cli/texts.h"
 #include "model/displaytext.h"
-#include "services/translations.h"
+#include "services/languages.h"
 
 #include <QSet>
 
@@ -128,7 +128,7 @@ QString languageFor(const QStringList &arguments, const QString &systemLocale)
     parser.parse(withProgramName(arguments));
     if (parser.isSet(u"lang"_s))
         return parser.value(u"lang"_s);
-    return wantsJson(parser) || systemLocale.isEmpty() ? QString() : translations::forSystem(systemLocale);
+    return wantsJson(parser) || systemLocale.isEmpty() ? QString() : languages::forSystem(systemLocale);
 }
 
 Outcome<CommandLine> parseCommandLine(const QStringList &arguments)

@@ -1,10 +1,11 @@
 #include "cli/globaloptions.h"
 
-#include "cli/paths.h"
-#include "cli/translate.h"
+#include "cli/io/paths.h"
+#include "cli/texts.h"
 #include "model/displaytext.h"
 #include "platform/files.h"
 #include "platform/platform.h"
+#include "services/languages.h"
 
 #include <QCommandLineParser>
 #include <QFileInfo>
@@ -43,7 +44,7 @@ QList<QCommandLineOption> globalOptions()
          u"DIR"_s},
         {u"image"_s, Cli::tr("Let this image file appear as a drive (repeatable)"), u"FILE"_s},
         {u"only-images"_s, Cli::tr("List and open no real drive")},
-        {u"lang"_s, Cli::tr("Language: en fr de ja es ko nl pt it zh_TW zh_CN (default: the system's)"),
+        {u"lang"_s, Cli::tr("Language: %1 (default: the system's)").arg(languages::codes().join(u' ')),
          u"CODE"_s},
         {u"quiet"_s, Cli::tr("Print errors and the final line only")},
         {u"help"_s, Cli::tr("Show this help")},

@@ -2,8 +2,8 @@
 
 #include "cli/commandtable.h"
 #include "cli/globaloptions.h"
-#include "cli/table.h"
-#include "cli/translate.h"
+#include "cli/io/table.h"
+#include "cli/texts.h"
 
 namespace cli {
 

@@ -1,6 +1,6 @@
-#include "cli/certificateexport.h"
 #include "cli/exitcode.h"
-#include "cli/processio.h"
+#include "cli/io/processio.h"
+#include "cli/records/certificateexport.h"
 #include "cli/runcli.h"
 #include "model/displaytext.h"
 #include "platform/process.h"

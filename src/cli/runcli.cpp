@@ -1,12 +1,12 @@
 #include "cli/runcli.h"
 
-#include "cli/cliio.h"
 #include "cli/commandline.h"
 #include "cli/globaloptions.h"
 #include "cli/help.h"
-#include "cli/language.h"
-#include "cli/refusaloutput.h"
-#include "cli/translate.h"
+#include "cli/io/cliio.h"
+#include "cli/io/language.h"
+#include "cli/texts.h"
+#include "model/jsonwriter.h"
 #include "platform/platform.h"
 
 #include <optional>
@@ -16,6 +16,19 @@ namespace cli {
 using namespace Qt::StringLiterals;
 
 namespace {
+
+// Tells why the program goes no further, as one line on standard error; with asEvent also as an event on
+// standard output, unless it is the command line that is wrong. Returns the refusal's exit code.
+ExitCode printRefusal(const Refusal &refusal, bool asEvent, CliIo &io)
+{
+    if (asEvent && refusal.code != WrongCommandLine) {
+        JsonWriter writer(JsonWriter::Layout::Compact);
+        writer.beginObject().member(u"event", u"error").member(u"message", refusal.message).endObject();
+        io.printLine(writer.text());
+    }
+    io.printErrorLine(u"quorvex-cli: "_s + refusal.message);
+    return refusal.code;
+}
 
 Outcome<ExitCode> runCommand(const CommandLine &line, CliIo &io)
 {
@@ -28,7 +41,7 @@ Outcome<ExitCode> runCommand(const CommandLine &line, CliIo &io)
     return line.command.run({io, *line.options, line.arguments});
 }
 
-ExitCode carryOut(const CommandLine &line, CliIo &io)
+ExitCode execute(const CommandLine &line, CliIo &io)
 {
     switch (line.wish) {
     case CommandLine::Wish::ShowVersion:
@@ -58,7 +71,7 @@ int runCli(const QStringList &arguments, CliIo &io, const QString &systemLocale)
     if (!line)
         return printRefusal(line.refusal(), false, io);
 
-    const ExitCode code = carryOut(*line, io);
+    const ExitCode code = execute(*line, io);
     if (code != Done || !io.hasLostOutput())
         return code;
     return printRefusal({SurroundingsFailed, Cli::tr("the output could not be written")}, false, io);

@@ -1,6 +1,7 @@
 #include "services/linkmanager.h"
 
 #include "model/usersettings.h"
+#include "services/languages.h"
 
 #include <QDebug>
 #include <QFile>
@@ -25,15 +26,13 @@ const QString metadataMember = u"metadata"_s;
 // The catalogue's language for a locale; empty for one that has none.
 QString languageForLocale(const QString &locale)
 {
-    static const QStringList languages{u"en"_s, u"fr"_s, u"de"_s, u"ja"_s, u"es"_s,
-                                       u"ko"_s, u"nl"_s, u"pt"_s, u"it"_s};
     if (locale == u"zh_TW" || locale == u"zh_HK")
         return u"zh_TW"_s;
     // There are no pages in simplified Chinese, and traditional script is no stand-in for it.
     if (locale == u"zh_CN")
         return u"en"_s;
     const QString language = locale.left(2).toLower();
-    return languages.contains(language) ? language : QString();
+    return languages::codes().contains(language) ? language : QString();
 }
 } // namespace
 

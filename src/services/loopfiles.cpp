@@ -14,7 +14,6 @@
 
 using namespace Qt::StringLiterals;
 
-#ifdef Q_OS_UNIX
 namespace {
 
 namespace fs = std::filesystem;
@@ -81,9 +80,3 @@ QString LoopFiles::problem(const QStringList &paths, const QString &sys)
     }
     return {};
 }
-#else
-QString LoopFiles::problem(const QStringList & /*paths*/, const QString & /*sys*/)
-{
-    return {};
-}
-#endif

@@ -8,7 +8,7 @@
 #include "certificate/certificaterenderer.h"
 #include "model/displaytime.h"
 #include "model/joboutcome.h"
-#include "services/translations.h"
+#include "services/languages.h"
 
 #include <QCoreApplication>
 #include <QGuiApplication>
@@ -93,7 +93,7 @@ class Language
 public:
     explicit Language(const QString &code)
     {
-        if (m_catalogue.load(translations::catalogue(code)))
+        if (m_catalogue.load(languages::catalogue(code)))
             QCoreApplication::installTranslator(&m_catalogue);
     }
     ~Language() { QCoreApplication::removeTranslator(&m_catalogue); }
@@ -238,7 +238,7 @@ void tst_CertificatePaper::everyJobLiesOnThePaper()
 void tst_CertificatePaper::everyLanguageLiesOnThePaper_data()
 {
     QTest::addColumn<QString>("code");
-    for (const QString &code : translations::codes())
+    for (const QString &code : languages::codes())
         QTest::addRow("%s", qPrintable(code)) << code;
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "cli/cliio.h"
+#include "cli/io/cliio.h"
 
 #include <QByteArray>
 #include <QJsonDocument>

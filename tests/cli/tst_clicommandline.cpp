@@ -36,6 +36,7 @@ private slots:
     void nothingIsDoneOnAWrongLine();
     void everyLanguageOfTheProgramIsTaken_data();
     void everyLanguageOfTheProgramIsTaken();
+    void theHelpListsTheLanguages();
     void theSystemDecidesTheLanguageOfWhatPeopleRead_data();
     void theSystemDecidesTheLanguageOfWhatPeopleRead();
     void theLanguageOfTheSourcesIsWhole();
@@ -252,6 +253,15 @@ void tst_CliCommandLine::everyLanguageOfTheProgramIsTaken()
     run({u"methods"_s, u"--lang"_s, language});
     QCOMPARE(run.code, 0);
     QVERIFY(run.io.out.contains("NIST 800-88"));
+}
+
+void tst_CliCommandLine::theHelpListsTheLanguages()
+{
+    CliRun run;
+    run({u"--help"_s});
+    QCOMPARE(run.code, 0);
+    QVERIFY(
+        run.io.out.contains("Language: en fr de ja es ko nl pt it zh_TW zh_CN (default: the system's)\n"));
 }
 
 namespace {

@@ -1,5 +1,5 @@
 #include "fuzz/checks.h"
-#include "services/recyclebininfofile.h"
+#include "services/trash/recyclebininfofile.h"
 
 #include <cstddef>
 #include <cstdint>

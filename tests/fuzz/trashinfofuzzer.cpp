@@ -1,6 +1,6 @@
 #include "fuzz/checks.h"
 #include "platform/filenames.h"
-#include "services/trashinfofile.h"
+#include "services/trash/trashinfofile.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -1,8 +1,8 @@
 #include "cli/command.h"
-#include "cli/listoutput.h"
-#include "cli/names.h"
-#include "cli/recordjson.h"
-#include "cli/translate.h"
+#include "cli/io/amounttext.h"
+#include "cli/io/listoutput.h"
+#include "cli/records/recordjson.h"
+#include "cli/texts.h"
 
 namespace cli {
 

@@ -1,8 +1,8 @@
-#include "cli/cliio.h"
 #include "cli/command.h"
 #include "cli/globaloptions.h"
-#include "cli/reportstore.h"
-#include "cli/translate.h"
+#include "cli/io/cliio.h"
+#include "cli/records/reportstore.h"
+#include "cli/texts.h"
 #include "model/displaytext.h"
 #include "services/reportdatabase.h"
 

@@ -1,8 +1,8 @@
-#include "cli/cliio.h"
 #include "cli/globaloptions.h"
-#include "cli/recordjson.h"
-#include "cli/translate.h"
-#include "cli/trashtarget.h"
+#include "cli/io/cliio.h"
+#include "cli/job/trashtarget.h"
+#include "cli/records/recordjson.h"
+#include "cli/texts.h"
 #include "model/jsonwriter.h"
 
 namespace cli {

@@ -1,7 +1,6 @@
-#include "cli/drivetarget.h"
-#include "cli/listing.h"
-#include "cli/translate.h"
-#include "cli/wipeplan.h"
+#include "cli/job/drivetarget.h"
+#include "cli/job/wipeplan.h"
+#include "cli/texts.h"
 #include "model/targettext.h"
 #include "services/diskmanager.h"
 

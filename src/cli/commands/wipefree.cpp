@@ -1,8 +1,7 @@
 #include "cli/commandline.h"
-#include "cli/listing.h"
-#include "cli/translate.h"
-#include "cli/volumetarget.h"
-#include "cli/wipeplan.h"
+#include "cli/job/volumetarget.h"
+#include "cli/job/wipeplan.h"
+#include "cli/texts.h"
 #include "model/targettext.h"
 #include "services/diskmanager.h"
 

@@ -1,16 +1,15 @@
-#include "cli/cliio.h"
 #include "cli/globaloptions.h"
-#include "cli/listing.h"
-#include "cli/stoprequest.h"
-#include "cli/translate.h"
-#include "cli/trashtarget.h"
-#include "cli/wipeplan.h"
+#include "cli/io/cliio.h"
+#include "cli/io/stoprequest.h"
+#include "cli/job/trashtarget.h"
+#include "cli/job/wipeplan.h"
+#include "cli/texts.h"
 #include "engine/filesurvey.h"
 #include "engine/filetargets.h"
 #include "model/joboutcome.h"
 #include "model/jsonwriter.h"
 #include "model/targettext.h"
-#include "services/binrecords.h"
+#include "services/trash/binrecords.h"
 
 namespace cli {
 

@@ -4,9 +4,9 @@
 #include "model/formatsize.h"
 #include "model/spokentext.h"
 #include "model/targettext.h"
-#include "services/binitemtext.h"
-#include "services/binrecords.h"
-#include "services/recyclebinscanner.h"
+#include "services/trash/binitemtext.h"
+#include "services/trash/binrecords.h"
+#include "services/trash/recyclebinscanner.h"
 #include "ui/files/fileselectpage.h"
 #include "ui/style/tooltip.h"
 

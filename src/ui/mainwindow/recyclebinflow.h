@@ -1,6 +1,6 @@
 #pragma once
 
-#include "services/recyclebininfo.h"
+#include "services/trash/recyclebininfo.h"
 
 #include <QFutureWatcher>
 #include <QObject>

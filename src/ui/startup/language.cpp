@@ -2,7 +2,7 @@
 
 #include "model/usersettings.h"
 #include "services/applog.h"
-#include "services/translations.h"
+#include "services/languages.h"
 
 #include <QCoreApplication>
 #include <QDebug>
@@ -22,7 +22,7 @@ QString chooseLanguage(const QString &stored, const QString &systemLocale)
         return stored;
     }
     qDebug() << "[Main] System language:" << systemLocale.left(2);
-    QString detected = translations::forSystem(systemLocale);
+    QString detected = languages::forSystem(systemLocale);
     qDebug() << "[Main] Auto-detected:" << detected;
     return detected;
 }
@@ -42,7 +42,7 @@ bool loadCatalogue(const QString &path)
 
 void installLanguage(const QString &code)
 {
-    const QString path = translations::catalogue(code);
+    const QString path = languages::catalogue(code);
     qDebug() << "[Main] Translation file:" << path;
     qDebug() << "[Main] File exists:" << QFile::exists(path);
     if (!loadCatalogue(path)) {
@@ -75,7 +75,7 @@ QString initTranslation(const QSettings &store, const QString &systemLocale)
     qDebug() << "=======================================";
     Q_INIT_RESOURCE(qttexts);
     static QTranslator supplement;
-    installBeside(supplement, translations::supplement(code));
+    installBeside(supplement, languages::supplement(code));
     static QTranslator textsOfQt;
     installBeside(textsOfQt, u":/qttexts/qt_%1.qm"_s.arg(code));
     return code;

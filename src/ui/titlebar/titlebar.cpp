@@ -1,6 +1,7 @@
 #include "ui/titlebar/titlebar.h"
 
 #include "model/usersettings.h"
+#include "services/languages.h"
 #include "services/linkmanager.h"
 #include "ui/prompts/prompts.h"
 #include "ui/titlebar/programrestart.h"
@@ -14,33 +15,12 @@
 #include <QMenu>
 #include <QSettings>
 
-#include <array>
-
 using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr int BarHeight = 40;
 constexpr QSize LogoSize(24, 24);
-
-struct Language
-{
-    QLatin1StringView code;
-    QStringView label;
-};
-
-// The names are those that speakers look for, in every language of the program.
-constexpr std::array<Language, 9> languages{{
-    {"en"_L1, u"🇺🇸  English"},
-    {"fr"_L1, u"🇫🇷  Français"},
-    {"de"_L1, u"🇩🇪  Deutsch"},
-    {"ja"_L1, u"🇯🇵  日本語"},
-    {"es"_L1, u"🇪🇸  Español"},
-    {"ko"_L1, u"🇰🇷  한국어"},
-    {"nl"_L1, u"🇳🇱  Nederlands"},
-    {"pt"_L1, u"🇵🇹  Português"},
-    {"it"_L1, u"🇮🇹  Italiano"},
-}};
 
 // An item's width with padding and margin is the menu's 180: the menu does not stretch its items.
 const QString menuStyle =
@@ -138,12 +118,13 @@ void TitleBar::addLanguages()
     dress(*menu, u"languageMenu"_s);
     m_languageGroup = new QActionGroup(this);
     m_languageGroup->setExclusive(true);
-    for (const Language &language : languages) {
-        const QString code = language.code;
-        QAction *const action = menu->addAction(language.label.toString());
+    for (const languages::Language &language : languages::all()) {
+        if (language.menuLabel.isEmpty())
+            continue;
+        QAction *const action = menu->addAction(language.menuLabel);
         action->setCheckable(true);
-        action->setData(code);
-        action->setChecked(code == m_currentLanguage);
+        action->setData(language.code);
+        action->setChecked(language.code == m_currentLanguage);
         m_languageGroup->addAction(action);
     }
     connect(m_languageGroup, &QActionGroup::triggered, this, &TitleBar::onLanguageTriggered);

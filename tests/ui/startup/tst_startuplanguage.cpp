@@ -2,7 +2,7 @@
 #include "ui/startup/language.h"
 
 #include "services/applog.h"
-#include "services/translations.h"
+#include "services/languages.h"
 #include "support/messagecapture.h"
 #include "support/userdata.h"
 
@@ -224,7 +224,7 @@ void tst_StartupLanguage::theSystemDecidesUnlessTheUserDid()
     QString text = QString::fromUtf8(sample);
     if (hasCatalogue) {
         QTranslator catalogue;
-        QVERIFY(catalogue.load(translations::catalogue(code)));
+        QVERIFY(catalogue.load(languages::catalogue(code)));
         text = catalogue.translate("ProgressPage", sample);
         QVERIFY(!text.isEmpty());
         QVERIFY(text != QString::fromUtf8(sample));
@@ -252,11 +252,11 @@ void tst_StartupLanguage::everyLanguageButTheSourceHasACatalogue()
 {
     QFETCH(const QString, code);
     QTranslator catalogue;
-    QVERIFY(catalogue.load(translations::catalogue(code)));
+    QVERIFY(catalogue.load(languages::catalogue(code)));
     const QString text = catalogue.translate("ProgressPage", sample);
     QVERIFY(!text.isEmpty());
     QVERIFY(text != QString::fromUtf8(sample));
-    QVERIFY(!QFile::exists(translations::catalogue(u"zh_CN"_s)));
+    QVERIFY(!QFile::exists(languages::catalogue(u"zh_CN"_s)));
 }
 
 void tst_StartupLanguage::everyLanguageIsWhole_data()
@@ -295,7 +295,7 @@ void tst_StartupLanguage::everyLanguageIsWhole()
 void tst_StartupLanguage::theSupplementHasEveryEnglishText()
 {
     QTranslator supplement;
-    QVERIFY(supplement.load(translations::supplement(u"zh_CN"_s)));
+    QVERIFY(supplement.load(languages::supplement(u"zh_CN"_s)));
     for (const auto &[context, text] :
          {std::pair("MainWindow", "Confirm Stop"), std::pair("FileSelectPage", "Remove"),
           std::pair("Cli", "Lists the drives with their volumes"), std::pair("TitleBar", "Language"),
@@ -303,7 +303,7 @@ void tst_StartupLanguage::theSupplementHasEveryEnglishText()
           std::pair("CertificateDialog", "Data Erasure Certificate"),
           std::pair("WipeTask", "File not found: %1")})
         QVERIFY2(!supplement.translate(context, text).isEmpty(), text);
-    QVERIFY(!QFile::exists(translations::supplement(u"de"_s)));
+    QVERIFY(!QFile::exists(languages::supplement(u"de"_s)));
 }
 
 // Qt takes no translator before there is an application.

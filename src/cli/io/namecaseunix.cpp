@@ -1,0 +1,10 @@
+#include "cli/io/namecase.h"
+
+namespace cli {
+
+QString folded(const QString &path)
+{
+    return path;
+}
+
+} // namespace cli

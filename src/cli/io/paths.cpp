@@ -1,0 +1,79 @@
+#include "cli/io/paths.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+namespace cli {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// A colon at the start names a resource for Qt, and an ordinary file for everybody else.
+bool isAbsolute(const QString &path)
+{
+    return !path.startsWith(u':') && QDir::isAbsolutePath(path);
+}
+
+bool hasDrive(const QString &absolutePath)
+{
+    return absolutePath.size() > 1 && absolutePath.at(0).isLetter() && absolutePath.at(1) == u':';
+}
+
+// For a path that Qt calls absolute, with the root it may lack on Windows.
+QString rooted(const QString &path)
+{
+    if (hasDrive(path)) {
+        const QString drive = path.left(2);
+        const QString rest = path.mid(2);
+        if (rest.isEmpty() || rest.startsWith(u'/'))
+            return drive + u'/' + rest;
+        return QFileInfo(drive).absoluteFilePath() + u'/' + rest;
+    }
+    if (path.startsWith(QLatin1String("//"))) // a network path or a device
+        return path;
+    const QString here = QDir::currentPath();
+    return hasDrive(here) ? here.left(2) + path : path;
+}
+
+QString joined(const QString &path)
+{
+    const QString slashed = QDir::fromNativeSeparators(path);
+    return isAbsolute(slashed) ? rooted(slashed) : QDir::currentPath() + u'/' + slashed;
+}
+
+} // namespace
+
+QString absolutePath(const QString &path)
+{
+    return path.isEmpty() ? path : QDir::cleanPath(joined(path));
+}
+
+bool leadsBackThroughLink(const QString &path)
+{
+    const QStringList components = joined(path).split(u'/');
+    const qsizetype last = components.lastIndexOf(QLatin1String(".."));
+    if (last < 0)
+        return false;
+    // Behind the last ".." both ways are the same.
+    const QString upwards = components.first(last + 1).join(u'/');
+    return QFileInfo(upwards).canonicalFilePath() != QFileInfo(QDir::cleanPath(upwards)).canonicalFilePath();
+}
+
+bool isSameOrBelow(const QString &path, const QString &folder)
+{
+    return path == folder || path.startsWith(folder.endsWith(u'/') ? folder : folder + u'/');
+}
+
+bool isDeviceName(const QString &path)
+{
+    return path.startsWith(QLatin1String("//./"));
+}
+
+bool isSameFile(const QString &one, const QString &other)
+{
+    const QFileInfo info(one);
+    return info.exists() && info == QFileInfo(other);
+}
+
+} // namespace cli

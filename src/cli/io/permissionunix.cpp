@@ -1,0 +1,12 @@
+#include "cli/io/permission.h"
+
+#include "cli/texts.h"
+
+namespace cli {
+
+QString notPermitted(const QString &refusal)
+{
+    return Cli::tr("%1; try it with sudo").arg(refusal);
+}
+
+} // namespace cli

@@ -1,0 +1,61 @@
+#include "services/trash/binitemtext.h"
+
+#include "model/displaytext.h"
+#include "model/formatsize.h"
+#include "services/trash/recyclebininfofile.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+#include <limits>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString upToZero(const QString &text)
+{
+    return text.left(text.indexOf(QChar::Null)); // all of it where there is none
+}
+
+// Every system counts the bytes of a file with a sign.
+bool isImpossible(const RecycleBinItem &item)
+{
+    return item.size > static_cast<quint64>(std::numeric_limits<qint64>::max());
+}
+
+} // namespace
+
+QString BinItemText::originalPath(const RecycleBinItem &item)
+{
+    return upToZero(item.originalPath);
+}
+
+QString BinItemText::fileName(const RecycleBinItem &item)
+{
+    // Behind a zero there may be anything, separators among it.
+    const QString recorded = item.originalPath.contains(QChar::Null)
+                                 ? recyclebin::lastComponent(originalPath(item))
+                                 : item.fileName;
+    return recorded.isEmpty() ? QFileInfo(item.recyclePath).fileName() : recorded;
+}
+
+QString BinItemText::size(const RecycleBinItem &item)
+{
+    const QString text = formatSize(static_cast<qint64>(item.size));
+    return isImpossible(item) ? tr("%1, an impossible size").arg(text) : text;
+}
+
+QString BinItemText::details(const RecycleBinItem &item)
+{
+    QString text = displayText(originalPath(item));
+    if (isImpossible(item))
+        text += u'\n' + tr("Its record says %1 bytes, more than any file can have.").arg(item.size);
+    return text;
+}
+
+QString BinItemText::impossibleSizes(const RecycleBinInfo &found)
+{
+    const auto count = std::ranges::count_if(found.items, isImpossible);
+    return count == 0 ? QString() : tr("Impossible sizes in the sum: %1").arg(count);
+}
