@@ -172,7 +172,7 @@ bool FileOverwriting::overwriteExisting(std::size_t index, const PassPattern &pa
 {
     const auto place = m_files.entry(index);
     const auto info = place ? files().info(place.value()) : place.status();
-    if (!info && !isAbsent(info.status()))
+    if (!info && !info.status().isAbsent())
         return failToOpen(m_files.pathOf(index), info.status());
     if (!info) {
         // Not a failure, but nobody knows where its content is now.
@@ -207,7 +207,7 @@ bool FileOverwriting::overwriteStreams(std::size_t index, const EntryPath &entry
                                        quint32 seed)
 {
     const auto streams = files().namedStreams(entry);
-    if (isAbsent(streams.status()) || (streams && streams.value().isEmpty()))
+    if (streams.status().isAbsent() || (streams && streams.value().isEmpty()))
         return true;
     const bool isToBeLocated = m_files.watched(index).areStreamsToBeLocated();
     if (!streams && isToBeLocated)

@@ -48,7 +48,7 @@ Status readEntries(FileDescriptor folder, const EntryVisitor &visit)
         if (name == "." || name == "..")
             continue;
         const Result<FileKind> kind = kindOf(stream.get(), *entry);
-        if (!kind && kind.code() == FileNotFound)
+        if (kind.status().isAbsent())
             continue;
         if (!kind)
             return kind.status();

@@ -79,4 +79,9 @@ Status statusFromErrno(int error, const char *operation)
     return {row == Table.end() ? GeneralFailure : row->code, error, operation};
 }
 
+bool isAbsentErrno(int error)
+{
+    return error == ENOENT;
+}
+
 } // namespace platform

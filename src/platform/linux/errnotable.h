@@ -9,4 +9,8 @@ namespace platform {
 // of the call.
 Status statusFromErrno(int error, const char *operation);
 
+// Whether the call that has just failed with this number found nothing under its name: Status::isAbsent() for
+// calls that take one name in an open folder.
+bool isAbsentErrno(int error);
+
 } // namespace platform

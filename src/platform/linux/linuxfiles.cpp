@@ -126,7 +126,7 @@ Result<std::unique_ptr<FileHandle>> LinuxFiles::openIn(const std::shared_ptr<Dur
     // wakes up.
     const Result<struct statx> found = look(at.value(), STATX_TYPE);
     if (!found) {
-        if (mode != OpenMode::CreateFill || found.status().native != ENOENT)
+        if (mode != OpenMode::CreateFill || !isAbsentErrno(found.status().native))
             return found.status();
     } else if (const Status refusal = refusalOf(found.value().stx_mode, "statx"); !refusal) {
         return refusal;
@@ -217,7 +217,7 @@ Status LinuxFiles::clearReadOnly(const EntryPath &entry)
         return at.status();
     const Result<struct statx> found = look(at.value(), STATX_TYPE | STATX_MODE);
     if (!found)
-        return isAbsent(found.status()) ? Status{} : found.status();
+        return found.status().isAbsent() ? Status{} : found.status();
     if (const Status mounted = at.value().refusalOf(found.value()); !mounted)
         return mounted;
     const mode_t mode = found.value().stx_mode;

@@ -51,12 +51,12 @@ Result<TreeRemoval::Description> TreeRemoval::describe(const FileDescriptor &fol
 // Most folders are empty when their turn comes, and a mount point is refused here without looking inside.
 void TreeRemoval::removeFolder(const QByteArray &name)
 {
-    if (::unlinkat(m_current.get(), name.constData(), AT_REMOVEDIR) == 0 || errno == ENOENT)
+    if (::unlinkat(m_current.get(), name.constData(), AT_REMOVEDIR) == 0 || isAbsentErrno(errno))
         return;
     const Status status = statusFromErrno(errno, "unlinkat");
     const bool isTop = m_levels.empty();
     if (status.native == ENOTDIR && !isTop) { // a link or file by now
-        if (::unlinkat(m_current.get(), name.constData(), 0) != 0 && errno != ENOENT)
+        if (::unlinkat(m_current.get(), name.constData(), 0) != 0 && !isAbsentErrno(errno))
             note(statusFromErrno(errno, "unlinkat"));
     } else if (status.native == ENOTDIR || (status.native == EBUSY && !isTop)) {
         note(status);
@@ -70,7 +70,7 @@ void TreeRemoval::enter(const QByteArray &name, const Status &whyNotRemoved)
     constexpr int Flags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC;
     FileDescriptor folder(uninterrupted([&] { return ::openat(m_current.get(), name.constData(), Flags); }));
     if (!folder.isValid()) {
-        if (errno != ENOENT)
+        if (!isAbsentErrno(errno))
             note(statusFromErrno(errno, "openat"));
         return;
     }
@@ -102,7 +102,7 @@ void TreeRemoval::emptyCurrent(std::vector<QByteArray> &folders)
     });
     note(seen);
     for (const QByteArray &name : others) {
-        if (::unlinkat(m_current.get(), name.constData(), 0) == 0 || errno == ENOENT)
+        if (::unlinkat(m_current.get(), name.constData(), 0) == 0 || isAbsentErrno(errno))
             continue;
         note(statusFromErrno(errno, "unlinkat"));
     }
@@ -123,7 +123,7 @@ Status TreeRemoval::leave()
         return {GeneralFailure, 0, "openat"};
     m_current = std::move(above);
     m_identity = level.parent;
-    if (::unlinkat(m_current.get(), level.name.constData(), AT_REMOVEDIR) != 0 && errno != ENOENT)
+    if (::unlinkat(m_current.get(), level.name.constData(), AT_REMOVEDIR) != 0 && !isAbsentErrno(errno))
         note(statusFromErrno(errno, "unlinkat"));
     return {};
 }

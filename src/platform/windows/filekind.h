@@ -76,9 +76,4 @@ inline Status refusalOf(const EntryAttributes &entry, const char *operation)
     return {};
 }
 
-inline bool isNothingThere(int error)
-{
-    return error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND;
-}
-
 } // namespace platform

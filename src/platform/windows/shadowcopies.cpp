@@ -1,6 +1,5 @@
 #include "platform/windows/shadowcopies.h"
 
-#include "platform/windows/filekind.h"
 #include "platform/windows/lasterror.h"
 #include "platform/windows/winhandle.h"
 
@@ -57,7 +56,7 @@ Result<int> shadowCopiesOf(const std::wstring &path)
             volumeOf(LR"(\\?\GLOBALROOT\Device\HarddiskVolumeShadowCopy)" + std::to_wstring(number) + L'\\');
         if (copy)
             count += copy.value().serialNumber == volume.value().serialNumber ? 1 : 0;
-        else if (!isNothingThere(copy.status().native))
+        else if (!copy.status().isAbsent())
             unanswered = copy.status();
     }
     // One that does not tell whose it is may be the volume's.

@@ -41,7 +41,7 @@ void TreeRemoval::removeFolder(const std::wstring &path)
 {
     // Most folders are empty when their turn comes. One that has become a link is removed by this as well.
     const Status status = statusOf(win32().removeDirectory(path.c_str()), "RemoveDirectory");
-    if (status || isNothingThere(status.native))
+    if (status || status.isAbsent())
         return;
     // Not empty, or read-only.
     if (status.native != ERROR_DIR_NOT_EMPTY && status.native != ERROR_ACCESS_DENIED) {
@@ -51,7 +51,7 @@ void TreeRemoval::removeFolder(const std::wstring &path)
     Result<HeldFolder> held = holdFolder(path);
     if (held)
         enter(path, held.take());
-    else if (!isNothingThere(held.status().native))
+    else if (!held.status().isAbsent() || held.status().native == ERROR_DIRECTORY) // another entry by now
         note(held.status());
 }
 
@@ -86,7 +86,7 @@ void TreeRemoval::removeOther(const std::wstring &path, const EntryAttributes &a
         status = removeFolderItself(path, attributes.bits);
     else if (status = clearReadOnlyAttribute(path, attributes.bits); status)
         status = statusOf(win32().deleteFile(path.c_str()), "DeleteFile");
-    if (!isNothingThere(status.native))
+    if (!status.isAbsent())
         note(status);
 }
 
@@ -97,7 +97,7 @@ void TreeRemoval::leave()
     // Closes it, nobody can remove what is held.
     m_levels.pop_back();
     const Status status = removeFolderItself(path, attributes);
-    if (!isNothingThere(status.native))
+    if (!status.isAbsent())
         note(status);
 }
 

@@ -249,7 +249,7 @@ Status WindowsFiles::clearReadOnly(const EntryPath &entry)
         return name.status();
     const Result<EntryAttributes> attributes = attributesOf(name.value());
     if (!attributes)
-        return isNothingThere(attributes.status().native) ? Status{} : attributes.status();
+        return attributes.status().isAbsent() ? Status{} : attributes.status();
     return clearReadOnlyAttribute(name.value(), attributes.value().bits);
 }
 

@@ -21,7 +21,7 @@ namespace {
 Status makeFolder(const std::wstring &path)
 {
     const Status status = statusOf(win32().createDirectory(path.c_str(), nullptr), "CreateDirectory");
-    if (status || isNothingThere(status.native))
+    if (status || status.isAbsent())
         return status;
     // Of a root that exists the system says that access is denied, not that it exists.
     const Result<EntryAttributes> attributes = attributesOf(path);
