@@ -10,10 +10,12 @@
 #include "platform/linux/linuxfolderhandle.h"
 
 #include <fcntl.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <cstdio>
+#include <limits>
 
 namespace platform {
 
@@ -208,6 +210,21 @@ Result<ContentPlace> LinuxFiles::contentPlace(const EntryPath &entry)
             return refusal;
     }
     return contentPlaceOf(file.get());
+}
+
+int LinuxFiles::spareOpenFiles()
+{
+    constexpr int Unlimited = std::numeric_limits<int>::max();
+    rlimit limit = {};
+    if (::getrlimit(RLIMIT_NOFILE, &limit) != 0 || limit.rlim_cur >= rlim_t(Unlimited))
+        return Unlimited;
+    const auto most = static_cast<int>(limit.rlim_cur);
+    int spare = 0;
+    // Every free number is one; not all are looked at where there are plenty.
+    constexpr int Plenty = 1024;
+    for (int number = 0; number < most && spare < Plenty; ++number)
+        spare += ::fcntl(number, F_GETFD) < 0 ? 1 : 0;
+    return spare;
 }
 
 Status LinuxFiles::clearReadOnly(const EntryPath &entry)

@@ -17,7 +17,6 @@
 #include <atomic>
 #include <cerrno>
 #include <csignal>
-#include <limits>
 #include <optional>
 #include <utility>
 
@@ -153,21 +152,6 @@ void liftOpenFileLimit()
     limit.rlim_cur = limit.rlim_max;
     // As before is not wrong, only less.
     static_cast<void>(::setrlimit(RLIMIT_NOFILE, &limit));
-}
-
-int spareOpenFiles()
-{
-    constexpr int Unlimited = std::numeric_limits<int>::max();
-    rlimit limit = {};
-    if (::getrlimit(RLIMIT_NOFILE, &limit) != 0 || limit.rlim_cur >= rlim_t(Unlimited))
-        return Unlimited;
-    const auto most = static_cast<int>(limit.rlim_cur);
-    int spare = 0;
-    // Every free number is one; not all are looked at where there are plenty.
-    constexpr int Plenty = 1024;
-    for (int number = 0; number < most && spare < Plenty; ++number)
-        spare += ::fcntl(number, F_GETFD) < 0 ? 1 : 0;
-    return spare;
 }
 
 void holdStopSignals()

@@ -1,18 +1,18 @@
-#include "platform/wholefile.h"
+#include "platform/windows/windowsfiles.h"
 
 namespace platform {
 
-bool isStream(const QString &)
+bool WindowsFiles::isStream(const QString &)
 {
     return false;
 }
 
-bool openStream(QFile &, QIODevice::OpenMode)
+bool WindowsFiles::openStream(QFile &, QIODevice::OpenMode)
 {
     return false;
 }
 
-bool isWrittenOut(const QFileDevice &)
+bool WindowsFiles::isWrittenOut(const QFileDevice &)
 {
     return true; // room is taken as it is written
 }

@@ -12,7 +12,6 @@
 #include <atomic>
 #include <chrono>
 #include <condition_variable>
-#include <limits>
 #include <mutex>
 #include <string>
 #include <utility>
@@ -209,11 +208,6 @@ void provideComputerName()
 
 void liftOpenFileLimit()
 {}
-
-int spareOpenFiles()
-{
-    return std::numeric_limits<int>::max();
-}
 
 void holdStopSignals()
 {}
