@@ -141,6 +141,7 @@ public:
     Result<FolderOwner> owner(const QString &folder) override { return m_target.owner(folder); }
     Status hide(const QString &path) override { return m_target.hide(path); }
     Result<SpaceInfo> space(const QString &path) override { return m_target.space(path); }
+    bool mayDistrustProgram(quint32 code) override { return m_target.mayDistrustProgram(code); }
     Result<int> snapshots(const QString &path) override { return m_target.snapshots(path); }
 
 protected:

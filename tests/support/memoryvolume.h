@@ -122,6 +122,7 @@ public:
     platform::Result<platform::FolderOwner> owner(const QString &folder) override;
     platform::Status hide(const QString &path) override;
     platform::Result<platform::SpaceInfo> space(const QString &path) override;
+    bool mayDistrustProgram(quint32) override { return false; }
     platform::Result<int> snapshots(const QString &) override { return snapshotAnswer; }
 
 private:
