@@ -12,7 +12,8 @@
 namespace platform {
 
 // Error numbers as users are shown them. They are the Win32 numbers on every system: the Windows backend
-// passes GetLastError() on unchanged, the others map their own numbers in one table (linux/errnotable.h).
+// passes GetLastError() on unchanged, the others map their own numbers in one table
+// (linux/linuxerrnotable.h).
 enum ErrorCode : quint32 {
     NoError = 0,
     FileNotFound = 2,

@@ -1,12 +1,12 @@
 #include "platform/linux/linuxfiles.h"
 
 #include "platform/filenames.h"
-#include "platform/linux/errnotable.h"
-#include "platform/linux/filekind.h"
 #include "platform/linux/linuxcontentplace.h"
 #include "platform/linux/linuxdurabilitygroup.h"
+#include "platform/linux/linuxerrnotable.h"
 #include "platform/linux/linuxfilehandle.h"
 #include "platform/linux/linuxfileid.h"
+#include "platform/linux/linuxfilekind.h"
 #include "platform/linux/linuxfolderhandle.h"
 
 #include <fcntl.h>
