@@ -1,7 +1,7 @@
-#include "platform/windows/shadowcopies.h"
+#include "platform/windows/windowsshadowcopies.h"
 
-#include "platform/windows/lasterror.h"
-#include "platform/windows/winhandle.h"
+#include "platform/windows/windowshandle.h"
+#include "platform/windows/windowslasterror.h"
 
 #include <array>
 

@@ -1,8 +1,8 @@
-#include "platform/windows/treeremoval.h"
+#include "platform/windows/windowstreeremoval.h"
 
-#include "platform/windows/fileattributes.h"
-#include "platform/windows/filekind.h"
-#include "platform/windows/lasterror.h"
+#include "platform/windows/windowsfileattributes.h"
+#include "platform/windows/windowsfilekind.h"
+#include "platform/windows/windowslasterror.h"
 #include "platform/windows/windowspaths.h"
 
 namespace platform {

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "platform/status.h"
-#include "platform/windows/filekind.h"
-#include "platform/windows/folderlisting.h"
+#include "platform/windows/windowsfilekind.h"
+#include "platform/windows/windowsfolderlisting.h"
 
 #include <string>
 #include <vector>

@@ -1,7 +1,7 @@
-#include "platform/windows/processtoken.h"
+#include "platform/windows/windowsprocesstoken.h"
 
-#include "platform/windows/lasterror.h"
-#include "platform/windows/winhandle.h"
+#include "platform/windows/windowshandle.h"
+#include "platform/windows/windowslasterror.h"
 
 namespace platform {
 

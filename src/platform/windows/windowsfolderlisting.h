@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/status.h"
-#include "platform/windows/winhandle.h"
+#include "platform/windows/windowshandle.h"
 
 #include <functional>
 #include <string>

@@ -1,6 +1,6 @@
-#include "platform/windows/diskattributes.h"
+#include "platform/windows/windowsdiskattributes.h"
 
-#include "platform/windows/lasterror.h"
+#include "platform/windows/windowslasterror.h"
 #include "platform/windows/windowsquery.h"
 
 #include <cstring>

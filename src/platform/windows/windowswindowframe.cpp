@@ -1,7 +1,7 @@
 #include "platform/windowframe.h"
 
-#include "platform/windows/framemessages.h"
-#include "platform/windows/win32calls.h"
+#include "platform/windows/windowscalls.h"
+#include "platform/windows/windowsframemessages.h"
 
 #include <QAbstractNativeEventFilter>
 #include <QByteArray>

@@ -1,10 +1,10 @@
 #include "platform/windows/windowsfiles.h"
 
-#include "platform/windows/fileattributes.h"
-#include "platform/windows/filekind.h"
-#include "platform/windows/lasterror.h"
-#include "platform/windows/longpath.h"
-#include "platform/windows/win32calls.h"
+#include "platform/windows/windowscalls.h"
+#include "platform/windows/windowsfileattributes.h"
+#include "platform/windows/windowsfilekind.h"
+#include "platform/windows/windowslasterror.h"
+#include "platform/windows/windowslongpath.h"
 
 #include <QFile>
 #include <QFileInfo>

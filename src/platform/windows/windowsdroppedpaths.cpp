@@ -1,4 +1,4 @@
-#include "platform/windows/droppedpaths.h"
+#include "platform/windows/windowsdroppedpaths.h"
 
 #include "platform/windows/windowspaths.h"
 

@@ -1,4 +1,4 @@
-#include "platform/windows/win32calls.h"
+#include "platform/windows/windowscalls.h"
 
 #include <ole2.h>
 #include <shlobj.h>

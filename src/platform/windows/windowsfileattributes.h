@@ -1,8 +1,8 @@
 #pragma once
 
 #include "platform/status.h"
-#include "platform/windows/filekind.h"
-#include "platform/windows/win32calls.h"
+#include "platform/windows/windowscalls.h"
+#include "platform/windows/windowsfilekind.h"
 
 #include <string>
 

@@ -1,4 +1,4 @@
-#include "platform/windows/framemessages.h"
+#include "platform/windows/windowsframemessages.h"
 
 #include <windowsx.h>
 

@@ -1,7 +1,7 @@
-#include "platform/windows/lockedvolumes.h"
+#include "platform/windows/windowslockedvolumes.h"
 
 #include "platform/devicefailure.h"
-#include "platform/windows/win32calls.h"
+#include "platform/windows/windowscalls.h"
 
 #include <algorithm>
 #include <utility>

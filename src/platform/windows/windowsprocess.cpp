@@ -1,7 +1,7 @@
 #include "platform/process.h"
 
-#include "platform/windows/lasterror.h"
-#include "platform/windows/win32calls.h"
+#include "platform/windows/windowscalls.h"
+#include "platform/windows/windowslasterror.h"
 #include "platform/windows/windowspaths.h"
 
 #include <QWinEventNotifier>

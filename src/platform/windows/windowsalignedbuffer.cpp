@@ -1,6 +1,6 @@
 #include "platform/alignedbuffer.h"
 
-#include "platform/windows/win32calls.h"
+#include "platform/windows/windowscalls.h"
 
 namespace platform {
 

@@ -1,8 +1,8 @@
-#include "platform/windows/folderlisting.h"
+#include "platform/windows/windowsfolderlisting.h"
 
-#include "platform/windows/fileattributes.h"
-#include "platform/windows/filekind.h"
-#include "platform/windows/lasterror.h"
+#include "platform/windows/windowsfileattributes.h"
+#include "platform/windows/windowsfilekind.h"
+#include "platform/windows/windowslasterror.h"
 #include "platform/windows/windowspaths.h"
 
 #include <string_view>

@@ -1,4 +1,4 @@
-#include "platform/windows/longpath.h"
+#include "platform/windows/windowslongpath.h"
 
 #include <QDir>
 

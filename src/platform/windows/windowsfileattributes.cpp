@@ -1,6 +1,6 @@
-#include "platform/windows/fileattributes.h"
+#include "platform/windows/windowsfileattributes.h"
 
-#include "platform/windows/lasterror.h"
+#include "platform/windows/windowslasterror.h"
 #include "platform/windows/windowspaths.h"
 
 namespace platform {

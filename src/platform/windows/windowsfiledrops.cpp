@@ -1,9 +1,9 @@
 #include "platform/filedrops.h"
 
-#include "platform/windows/droppedpaths.h"
-#include "platform/windows/lasterror.h"
-#include "platform/windows/processtoken.h"
-#include "platform/windows/win32calls.h"
+#include "platform/windows/windowscalls.h"
+#include "platform/windows/windowsdroppedpaths.h"
+#include "platform/windows/windowslasterror.h"
+#include "platform/windows/windowsprocesstoken.h"
 
 #include <QAbstractNativeEventFilter>
 #include <QCoreApplication>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/windowframe.h"
-#include "platform/windows/win32calls.h"
+#include "platform/windows/windowscalls.h"
 
 #include <QPoint>
 #include <QSize>

@@ -1,6 +1,6 @@
-#include "platform/windows/machinevolumes.h"
+#include "platform/windows/windowsmachinevolumes.h"
 
-#include "platform/windows/lasterror.h"
+#include "platform/windows/windowslasterror.h"
 
 #include <QRegularExpression>
 
