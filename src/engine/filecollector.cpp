@@ -47,7 +47,7 @@ void FileCollector::addTarget(const QString &given, const std::optional<TargetId
 {
     const QString target = targetPath(given);
     const Result<FoundTarget> found = findTarget(m_tree, target);
-    if (isAbsent(found.status())) {
+    if (found.status().isAbsent()) {
         if (expected)
             m_observer.vanished(target);
         return;
@@ -111,7 +111,7 @@ bool FileCollector::listFolder(Folder folder, std::vector<Folder> &pending, bool
     if (!goesOn)
         return false;
     // Gone since it was found; only of one that is listed for the first time nobody knows what was in it.
-    if (m_known && isAbsent(listed))
+    if (m_known && listed.isAbsent())
         return true;
     if (!listed) {
         complete = false;
@@ -134,7 +134,7 @@ bool FileCollector::enter(Folder parent, const QString &name, std::vector<Folder
         pending.push_back(entered.value());
         return true;
     }
-    if (isAbsent(entered.status()))
+    if (entered.status().isAbsent())
         return true;
     const QString path = m_tree.path(parent, name);
     if (entered.code() == platform::NotSameDevice) {

@@ -50,7 +50,7 @@ bool FileDeletion::secureDeleteFile(const EntryPath &file, WatchedFile *watched)
     m_leftAt.reset();
     const auto info = files().info(file);
     if (!info)
-        return isAbsent(info.status());
+        return info.status().isAbsent();
     if (info.value().kind == FileKind::Folder)
         return true;
     m_found = watched && watched->isReplacedBy(info.value()) ? Found::Another : Found::File;
@@ -74,7 +74,7 @@ bool FileDeletion::secureDeleteFile(const EntryPath &file, WatchedFile *watched)
     remove(target);
 
     const auto left = files().info(target);
-    if (!left && isAbsent(left.status()))
+    if (!left && left.status().isAbsent())
         return true;
     m_leftAt = renamed;
     return false;
@@ -101,7 +101,7 @@ Status FileDeletion::cutToNothing(const EntryPath &path, WatchedFile *watched)
 void FileDeletion::giveBack(const EntryPath &renamed, const EntryPath &file)
 {
     const auto standing = files().info(file);
-    if (!isAbsent(standing.status()))
+    if (!standing.status().isAbsent())
         return;
     traceFile(renamed.path(), files().rename(renamed, file));
 }

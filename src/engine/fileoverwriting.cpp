@@ -132,7 +132,7 @@ bool FileOverwriting::overwriteExisting(std::size_t index, const PassPattern &pa
 {
     const auto place = m_files.entry(index);
     const auto info = place ? files().info(place.value()) : place.status();
-    if (!info && !isAbsent(info.status()))
+    if (!info && !info.status().isAbsent())
         return m_contents.failToOpen(m_files.pathOf(index), info.status());
     if (!info) {
         // The name is gone, which is no failure, but its content may still be somewhere.
@@ -173,7 +173,7 @@ bool FileOverwriting::overwriteStreams(std::size_t index, const EntryPath &entry
                                        quint32 seed)
 {
     const auto streams = files().namedStreams(entry);
-    if (isAbsent(streams.status()) || (streams && streams.value().isEmpty()))
+    if (streams.status().isAbsent() || (streams && streams.value().isEmpty()))
         return true;
     const bool isToBeLocated = m_files.watched(index).areStreamsToBeLocated();
     if (!streams && isToBeLocated)

@@ -1,6 +1,7 @@
 #include "engine/filepool.h"
 
-#include "platform/process.h"
+#include "platform/files.h"
+#include "platform/platform.h"
 
 #include <QDeadlineTimer>
 #include <QDebug>
@@ -63,7 +64,8 @@ int FilePool::affordableThreads()
     // Folders that are walked, the log, the database.
     constexpr int FilesOfOthers = 16;
     if (m_affordable < 0)
-        m_affordable = std::max(platform::spareOpenFiles() - FilesOfOthers, 0) / FilesOfOneThread;
+        m_affordable = std::max(platform::Platform::current().files().spareOpenFiles() - FilesOfOthers, 0) /
+                       FilesOfOneThread;
     return std::min(m_affordable, threadCount());
 }
 

@@ -57,9 +57,9 @@ bool FileRemoval::deleteFile(FileDeletion &deletion, std::size_t index)
 {
     const auto place = m_files.entry(index);
     if (!place) {
-        if (isAbsent(place.status()))
+        if (place.status().isAbsent())
             m_files.watched(index).vanish();
-        return isAbsent(place.status());
+        return place.status().isAbsent();
     }
     if (const auto info = files().info(place.value()); info) {
         if (m_files.watched(index).isReplacedBy(info.value())) {
@@ -85,7 +85,7 @@ bool FileRemoval::deleteFile(FileDeletion &deletion, std::size_t index)
         m_files.left().push_back({m_files.list().files[index].folder, deletion.leftAt()->name()});
     // Unknown counts as standing; what a rename took away from under its path counts as gone.
     const auto info = files().info(place.value());
-    return info ? info.value().kind == FileKind::Folder : isAbsent(info.status());
+    return info ? info.value().kind == FileKind::Folder : info.status().isAbsent();
 }
 
 // What a file has gained since its passes is to be gone as the rest of it. False when it could not be

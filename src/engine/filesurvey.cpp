@@ -65,7 +65,7 @@ private:
             const auto info =
                 entry ? platform::Platform::current().files().info(entry.value()) : entry.status();
             if (!info) {
-                m_survey.isComplete = m_survey.isComplete && isAbsent(info.status());
+                m_survey.isComplete = m_survey.isComplete && info.status().isAbsent();
                 continue;
             }
             if (info.value().isMounted && info.value().kind != FileKind::Folder) {

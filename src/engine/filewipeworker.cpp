@@ -148,8 +148,8 @@ bool FileWipeWorker::measureFile(std::size_t file)
 {
     const auto info = m_files.look(file);
     if (!info) {
-        m_isTotalCertain = m_isTotalCertain && isAbsent(info.status());
-        if (isAbsent(info.status()))
+        m_isTotalCertain = m_isTotalCertain && info.status().isAbsent();
+        if (info.status().isAbsent())
             m_files.watched(file).vanish();
         return true;
     }
@@ -188,7 +188,7 @@ bool FileWipeWorker::isWithoutStreams(std::size_t file)
     const auto place = m_files.entry(file);
     const auto streams =
         place ? platform::Platform::current().files().namedStreams(place.value()) : place.status();
-    return isAbsent(streams.status()) || (streams && streams.value().isEmpty());
+    return streams.status().isAbsent() || (streams && streams.value().isEmpty());
 }
 
 std::size_t FileWipeWorker::addLate()
@@ -340,7 +340,7 @@ bool FileWipeWorker::areRepetitionsGone()
     for (const FileEntry &file : m_repetitions) {
         const auto place = m_files.tree().entry(file.folder, file.name);
         const auto found = place ? platform::Platform::current().files().info(place.value()) : place.status();
-        if (isAbsent(found.status()))
+        if (found.status().isAbsent())
             continue;
         const QString path = m_files.tree().path(file.folder, file.name);
         ++m_standingRepetitions;

@@ -71,7 +71,7 @@ qint64 FillFolder::removeFiles()
                               [this](std::chrono::milliseconds pause) { return m_job.wait(pause); });
         if (removed) {
             bytes += file.bytes;
-        } else if (!isAbsent(removed)) {
+        } else if (!removed.isAbsent()) {
             qDebug().noquote() << "[FreeSpaceWipe] fill file" << file.name << removed.diagnostic();
             left.append(file);
         }

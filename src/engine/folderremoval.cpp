@@ -54,7 +54,7 @@ void FolderRemoval::tellStreams(HeldTree::Folder folder, const platform::EntryPa
 {
     const auto streams = platform::Platform::current().files().namedStreams(entry);
     if (!streams) {
-        if (!isAbsent(streams.status()))
+        if (!streams.status().isAbsent())
             m_observer.streams(m_tree.path(folder), -1, -1);
         return;
     }
@@ -71,7 +71,7 @@ void FolderRemoval::removeFolder(HeldTree::Folder folder)
     m_tree.release(folder);
     const auto entry = m_tree.asEntry(folder);
     const auto found = entry ? system.files().info(entry.value()) : entry.status();
-    if (isAbsent(found.status()))
+    if (found.status().isAbsent())
         return;
     if (!found) {
         m_observer.standing(m_tree.path(folder), found.status());
@@ -86,6 +86,6 @@ void FolderRemoval::removeFolder(HeldTree::Folder folder)
     // A folder that may not be changed refuses to go on some systems.
     if (removed.code == platform::AccessDenied && system.files().clearReadOnly(entry.value()))
         removed = system.folders().removeEmpty(entry.value());
-    if (!removed && !isAbsent(removed))
+    if (!removed && !removed.isAbsent())
         m_observer.standing(m_tree.path(folder), removed);
 }

@@ -83,7 +83,7 @@ platform::Status FreeSpaceWipeWorker::checkMounted(const QString &root)
     while (name.size() > 1 && (name.endsWith(u'/') || name.endsWith(u'\\')))
         name.chop(1);
     const auto volume = platform::Platform::current().devices().queryVolume(name);
-    if (isAbsent(volume.status()))
+    if (volume.status().isAbsent())
         return volume.status();
     return {}; // whatever else it refuses to tell, it is there
 }

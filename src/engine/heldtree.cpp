@@ -2,7 +2,6 @@
 
 #include "platform/files.h"
 #include "platform/platform.h"
-#include "platform/process.h"
 
 #include <QMutexLocker>
 
@@ -26,7 +25,8 @@ constexpr std::size_t MostOnTheWay = 32;
 std::size_t affordable(std::size_t most)
 {
     constexpr std::size_t Least = 2;
-    return std::clamp(static_cast<std::size_t>(platform::spareOpenFiles()) / 4, Least, most);
+    return std::clamp(static_cast<std::size_t>(platform::Platform::current().files().spareOpenFiles()) / 4,
+                      Least, most);
 }
 
 Folders &folders()

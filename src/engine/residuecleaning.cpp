@@ -88,7 +88,7 @@ platform::Status ResidueCleaning::makeFolders(platform::AnchoredFolder &folder)
 platform::Status ResidueCleaning::remove(const QString &name)
 {
     const platform::Status removed = m_folder.folder().removeTree(name);
-    if (!removed && !isAbsent(removed))
+    if (!removed && !removed.isAbsent())
         m_job.noteShortfall({ShortfallKind::FillFilesLeft, platform::pathInFolder(m_folder.path(), name)});
     return removed;
 }

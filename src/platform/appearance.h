@@ -1,6 +1,7 @@
 #pragma once
 
-// What the system says of looks, to a program that has its own.
+/// What the system says of looks, to a program that has its own. Free functions: both are needed before the
+/// QApplication, and so before the first Platform exists.
 
 namespace platform {
 

@@ -7,7 +7,9 @@
 #include "platform/status.h"
 
 #include <QByteArray>
+#include <QFile>
 #include <QFileDevice>
+#include <QIODevice>
 #include <QList>
 #include <QString>
 
@@ -191,6 +193,25 @@ public:
     // with the next flush. The device may outlive the Platform; one thread at a time. Windows:
     // FILE_APPEND_DATA without FILE_WRITE_DATA, all sharing but deletion. Linux: O_APPEND | O_NOFOLLOW.
     virtual Result<std::unique_ptr<QFileDevice>> openForAppending(const QString &path) = 0;
+
+    /// Whether the path, followed through links, is a character device or a pipe. Never on Windows, whose
+    /// names for them lie in no folder.
+    virtual bool isStream(const QString &path) = 0;
+
+    /// Opens a character device or pipe to be written in this mode, and waits for a pipe's reader. False for
+    /// everything else that stands under the name of the file by now; it stays as it is. Linux: open, then
+    /// fstat.
+    virtual bool openStream(QFile &stream, QIODevice::OpenMode mode) = 0;
+
+    /// Writes out the bytes of the open file that the system still has in its cache. False when some of them
+    /// were lost on the way; true where the system has nothing to tell. Linux: fsync. Windows: true, room is
+    /// taken as it is written.
+    virtual bool isWrittenOut(const QFileDevice &file) = 0;
+
+    /// How many more files the process can open now. The count is rough while other threads open and close
+    /// theirs, and beyond all needs where no limit is known. Windows: no limit is known. Linux: getrlimit and
+    /// fcntl.
+    virtual int spareOpenFiles() = 0;
 
     // Makes the file writable for its owner. Success when nothing had to change, or when nothing stands
     // there. Windows: clears FILE_ATTRIBUTE_READONLY, keeps the other attributes. Linux: adds the owner's

@@ -94,6 +94,12 @@ public:
     // or does not answer. Windows: GetDiskFreeSpaceExW. Linux: statvfs.
     virtual Result<SpaceInfo> space(const QString &path) = 0;
 
+    /// Whether the system may have refused to let this program write because of the program itself, whatever
+    /// the rights of its user. code: the failure of the call that was to write. Windows: controlled folder
+    /// access, which tells programs that it does not trust that they have no access, or that nothing stands
+    /// there. Linux: never.
+    virtual bool mayDistrustProgram(quint32 code) = 0;
+
     // How many snapshots the system keeps of the volume that holds the path: whatever is overwritten on the
     // volume stays in them. NotSupported where there are none of that kind, any other failure when that
     // cannot be found out. Windows: volume shadow copies, CreateFileW on

@@ -64,6 +64,13 @@ public:
     {
         return m_target.openForAppending(path);
     }
+    bool isStream(const QString &path) override { return m_target.isStream(path); }
+    bool openStream(QFile &stream, QIODevice::OpenMode mode) override
+    {
+        return m_target.openStream(stream, mode);
+    }
+    bool isWrittenOut(const QFileDevice &file) override { return m_target.isWrittenOut(file); }
+    int spareOpenFiles() override { return m_target.spareOpenFiles(); }
     Status clearReadOnly(const EntryPath &entry) override { return m_target.clearReadOnly(entry); }
     Status rename(const EntryPath &from, const EntryPath &to) override { return m_target.rename(from, to); }
     Status remove(const EntryPath &entry) override { return m_target.remove(entry); }
@@ -134,6 +141,7 @@ public:
     Result<FolderOwner> owner(const QString &folder) override { return m_target.owner(folder); }
     Status hide(const QString &path) override { return m_target.hide(path); }
     Result<SpaceInfo> space(const QString &path) override { return m_target.space(path); }
+    bool mayDistrustProgram(quint32 code) override { return m_target.mayDistrustProgram(code); }
     Result<int> snapshots(const QString &path) override { return m_target.snapshots(path); }
 
 protected:

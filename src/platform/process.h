@@ -9,8 +9,12 @@
 #include <memory>
 #include <optional>
 
-// What a program needs of its own process: the standard streams, the arguments as they were given, and the
-// wish of the user or the system to stop it.
+/// What a program needs of its own process: the standard streams, the arguments as they were given, and the
+/// wish of the user or the system to stop it.
+///
+/// These functions are free because a program calls them before its first Platform exists, or because they
+/// belong to the process and not to the machine. The command line reaches its streams through an interface of
+/// its own, which is where a test puts other streams.
 
 namespace platform {
 
@@ -60,10 +64,6 @@ QStringList decodedArguments(int count, char *const *arguments);
 // Lets the process have as many files open as the system allows it. Windows: no limit is known. Linux:
 // setrlimit, the soft limit of RLIMIT_NOFILE becomes the hard one.
 void liftOpenFileLimit();
-
-// How many more files the process can have open by now, some more or less while other threads open and close
-// theirs; a number beyond all needs where no limit is known. Linux: getrlimit and fcntl.
-int spareOpenFiles();
 
 // A wish to stop that comes from now on waits for the first StopHandler, instead of ending a program that has
 // not got as far as having one. To be called once, before other threads run. Windows: does nothing. Linux:

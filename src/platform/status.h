@@ -12,7 +12,8 @@
 namespace platform {
 
 // Error numbers as users are shown them. They are the Win32 numbers on every system: the Windows backend
-// passes GetLastError() on unchanged, the others map their own numbers in one table (linux/errnotable.h).
+// passes GetLastError() on unchanged, the others map their own numbers in one table
+// (linux/linuxerrnotable.h).
 enum ErrorCode : quint32 {
     NoError = 0,
     FileNotFound = 2,
@@ -71,6 +72,10 @@ struct [[nodiscard]] Status
     bool ok() const { return code == NoError; }
     explicit operator bool() const { return ok(); }
 
+    /// Whether the answer to a question about a path says that nothing stands there. Every other failure
+    /// leaves that open: an entry that could not be looked at must never count as gone.
+    bool isAbsent() const { return code == FileNotFound || code == PathNotFound; }
+
     // What the system says to its own number, for users; empty without one.
     QString systemText() const { return native != 0 ? qt_error_string(native) : QString(); }
 
@@ -80,13 +85,6 @@ struct [[nodiscard]] Status
         return QStringLiteral("%1: %2 (system error %3)").arg(QLatin1String(operation)).arg(code).arg(native);
     }
 };
-
-// Whether the answer to a question about a path says that nothing stands there. Every other failure leaves
-// that open: what could not be looked at must never count as gone.
-inline bool isAbsent(const Status &status)
-{
-    return status.code == FileNotFound || status.code == PathNotFound;
-}
 
 // A value, or the Status that says why there is none. Reading the value of a failure is a programming error.
 template <typename T>

@@ -1,20 +1,33 @@
 #include "platform/wholefile.h"
 
+#include "platform/files.h"
+#include "platform/platform.h"
+
 #include <QDebug>
+#include <QFile>
 #include <QFileInfo>
 
 namespace platform {
 
+namespace {
+
+Files &files()
+{
+    return Platform::current().files();
+}
+
+} // namespace
+
 WholeFile::WholeFile(const QString &path, QIODevice::OpenMode lineEnds)
     : m_file(path)
     , m_lineEnds(lineEnds)
-    , m_isStream(isStream(path))
+    , m_isStream(files().isStream(path))
 {}
 
 bool WholeFile::isPossible(const QString &path)
 {
     const QFileInfo existing(path);
-    return !path.isEmpty() && (!existing.exists() || existing.isFile() || isStream(path));
+    return !path.isEmpty() && (!existing.exists() || existing.isFile() || files().isStream(path));
 }
 
 bool WholeFile::open()
@@ -34,7 +47,7 @@ bool WholeFile::commit(const QByteArray &bytes)
         return commitToStream(bytes);
     // commit() tells neither that what was still in the buffer could not be written, nor what a file system
     // that allocates late had no room for.
-    if (m_file.write(bytes) != bytes.size() || !m_file.flush() || !isWrittenOut(m_file)) {
+    if (m_file.write(bytes) != bytes.size() || !m_file.flush() || !files().isWrittenOut(m_file)) {
         m_file.cancelWriting();
         return failed("write", m_file.errorString());
     }
@@ -44,7 +57,7 @@ bool WholeFile::commit(const QByteArray &bytes)
 bool WholeFile::commitToStream(const QByteArray &bytes)
 {
     QFile stream(m_file.fileName());
-    if (!openStream(stream, QIODevice::WriteOnly | QIODevice::Unbuffered | m_lineEnds))
+    if (!files().openStream(stream, QIODevice::WriteOnly | QIODevice::Unbuffered | m_lineEnds))
         return failed("open", stream.errorString());
     return stream.write(bytes) == bytes.size() || failed("write", stream.errorString());
 }

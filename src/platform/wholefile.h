@@ -1,7 +1,7 @@
 #pragma once
 
 #include <QByteArray>
-#include <QFile>
+#include <QIODevice>
 #include <QSaveFile>
 #include <QString>
 
@@ -36,17 +36,5 @@ private:
     QIODevice::OpenMode m_lineEnds;
     bool m_isStream;
 };
-
-/// Whether the path, followed through links, is a character device or a pipe. Never on Windows, whose names
-/// for them lie in no folder.
-bool isStream(const QString &path);
-
-/// Opens one to be written in this mode, and waits for a pipe's reader. False for whatever else stands under
-/// the name of the file by now; it stays as it is.
-bool openStream(QFile &stream, QIODevice::OpenMode mode);
-
-/// Writes out what the open file has in the system's cache, and tells what got lost on the way. True where
-/// the system has nothing to tell.
-bool isWrittenOut(const QFileDevice &file);
 
 } // namespace platform

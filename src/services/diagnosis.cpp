@@ -122,7 +122,7 @@ std::optional<Section> aboutDrive(int number)
 {
     Section section{u"drive %1"_s.arg(number)};
     const auto query = currentDevices().queryDrive(number);
-    if (isAbsent(query.status()))
+    if (query.status().isAbsent())
         return std::nullopt;
     say(section, u"path"_s, currentDevices().drivePath(number));
     if (!query) {
@@ -146,7 +146,7 @@ std::optional<Section> aboutVolume(const QString &name)
 {
     Section section{u"volume %1"_s.arg(name)};
     const auto query = currentDevices().queryVolume(name);
-    if (isAbsent(query.status()))
+    if (query.status().isAbsent())
         return std::nullopt;
     if (!query) {
         section.answers.append({u"opened to be asked"_s, {}, query.status()});

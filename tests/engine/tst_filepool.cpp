@@ -1,5 +1,6 @@
 #include "engine/filepool.h"
-#include "platform/process.h"
+#include "platform/files.h"
+#include "platform/platform.h"
 #include "support/faultplan.h"
 #include "support/suite.h"
 
@@ -193,7 +194,7 @@ void tst_FilePool::noMoreThreadsThanOpenFilesAllow()
     // The lowest free number is the count of those in use, as long as there is no gap.
     for (tight.rlim_cur = 3;; ++tight.rlim_cur) {
         QVERIFY(::setrlimit(RLIMIT_NOFILE, &tight) == 0);
-        if (platform::spareOpenFiles() >= spare)
+        if (platform::Platform::current().files().spareOpenFiles() >= spare)
             break;
     }
     const auto restore = qScopeGuard([&before] { ::setrlimit(RLIMIT_NOFILE, &before); });

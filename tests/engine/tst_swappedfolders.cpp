@@ -2,7 +2,7 @@
 #include "model/joboutcome.h"
 #include "platform/filenames.h"
 #include "platform/forwarding.h"
-#include "platform/linux/filedescriptor.h"
+#include "platform/linux/linuxfiledescriptor.h"
 #include "support/faultplan.h"
 #include "support/fewdescriptors.h"
 #include "support/links.h"

@@ -1,7 +1,7 @@
 #include "platform/fileflags.h"
 
 #include "platform/filenames.h"
-#include "platform/linux/filedescriptor.h"
+#include "platform/linux/linuxfiledescriptor.h"
 #include "support/testfiles.h"
 
 #include <QDir>

@@ -77,8 +77,8 @@ void tst_AnchoredFolder::filesAreMadeListedAndRemoved()
     }
     QVERIFY(folder->removeFile(u"文件.tmp"_s));
     QVERIFY(!stands(path(u"文件.tmp"_s)));
-    QVERIFY(isAbsent(folder->removeFile(u"文件.tmp"_s)));
-    QVERIFY(isAbsent(folder->info(u"文件.tmp"_s).status()));
+    QVERIFY(folder->removeFile(u"文件.tmp"_s).isAbsent());
+    QVERIFY(folder->info(u"文件.tmp"_s).status().isAbsent());
 }
 
 void tst_AnchoredFolder::foldersAreMadeAndRemoved()
@@ -144,9 +144,9 @@ void tst_AnchoredFolder::whatIsNoFolderIsNotOpened()
     QVERIFY(QDir().mkdir(path(u"folder"_s)));
     const auto folder = anchored(m_folder);
     QVERIFY(folder);
-    QVERIFY(isAbsent(folder->openFolder(u"file"_s).status()));
-    QVERIFY(isAbsent(folder->openFolder(u"nothing"_s).status()));
-    QVERIFY(isAbsent(backend().folders().anchor(path(u"file"_s)).status()));
+    QVERIFY(folder->openFolder(u"file"_s).status().isAbsent());
+    QVERIFY(folder->openFolder(u"nothing"_s).status().isAbsent());
+    QVERIFY(backend().folders().anchor(path(u"file"_s)).status().isAbsent());
     if (!makeLink(path(u"folder"_s), path(u"link"_s)))
         return;
     QVERIFY(!folder->openFolder(u"link"_s));

@@ -1,4 +1,4 @@
-#include "platform/linux/blocktree.h"
+#include "platform/linux/linuxblocktree.h"
 #include "platform/linux/linuxdevices.h"
 #include "platform/linux/linuxsession.h"
 #include "support/fakesystemtree.h"

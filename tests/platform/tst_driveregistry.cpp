@@ -1,5 +1,5 @@
-#include "platform/linux/driveregistry.h"
 #include "platform/linux/linuxdevices.h"
+#include "platform/linux/linuxdriveregistry.h"
 #include "platform/storagereplies.h"
 #include "support/fakesystemtree.h"
 #include "support/suite.h"

@@ -8,8 +8,8 @@
 #include "platform/filenames.h"
 #include "platform/files.h"
 #include "platform/folders.h"
-#include "platform/linux/filedescriptor.h"
 #include "platform/linux/linuxdurabilitygroup.h"
+#include "platform/linux/linuxfiledescriptor.h"
 
 #include <QCoreApplication>
 #include <QDir>

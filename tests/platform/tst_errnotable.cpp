@@ -1,4 +1,4 @@
-#include "platform/linux/errnotable.h"
+#include "platform/linux/linuxerrnotable.h"
 #include "support/suite.h"
 
 #include <QTest>

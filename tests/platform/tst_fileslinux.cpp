@@ -7,7 +7,7 @@
 
 #include "platform/filenames.h"
 #include "platform/files.h"
-#include "platform/linux/filedescriptor.h"
+#include "platform/linux/linuxfiledescriptor.h"
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>

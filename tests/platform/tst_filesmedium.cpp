@@ -8,7 +8,7 @@
 #include "platform/alignedbuffer.h"
 #include "platform/filenames.h"
 #include "platform/files.h"
-#include "platform/linux/filedescriptor.h"
+#include "platform/linux/linuxfiledescriptor.h"
 #include "platform/linux/linuxfilehandle.h"
 
 #include <QCoreApplication>

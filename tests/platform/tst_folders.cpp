@@ -76,6 +76,7 @@ private slots:
     void removeTreeOfNothing();
     void hideOfAnEntry();
     void hideOfNothing();
+    void distrustOfPrograms();
     void spaceOfTheVolume();
     void spaceOfAVanishedPath();
     void zeroInAPathIsRefused();
@@ -335,6 +336,19 @@ void tst_Folders::hideOfAnEntry()
 void tst_Folders::hideOfNothing()
 {
     QCOMPARE(folders().hide(path(u"none"_s)).code, quint32(FileNotFound));
+}
+
+void tst_Folders::distrustOfPrograms()
+{
+#ifdef Q_OS_WIN
+    constexpr bool HasControlledFolders = true;
+#else
+    constexpr bool HasControlledFolders = false;
+#endif
+    for (const quint32 code : {quint32(AccessDenied), quint32(FileNotFound)})
+        QCOMPARE(folders().mayDistrustProgram(code), HasControlledFolders);
+    for (const quint32 code : {quint32(NoError), quint32(PathNotFound), quint32(WriteProtect)})
+        QVERIFY(!folders().mayDistrustProgram(code));
 }
 
 void tst_Folders::spaceOfTheVolume()

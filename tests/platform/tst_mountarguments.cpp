@@ -1,4 +1,4 @@
-#include "platform/linux/mountarguments.h"
+#include "platform/linux/linuxmountarguments.h"
 #include "support/suite.h"
 
 #include <QTest>

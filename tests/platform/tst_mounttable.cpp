@@ -1,4 +1,4 @@
-#include "platform/linux/mounttable.h"
+#include "platform/linux/linuxmounttable.h"
 #include "support/suite.h"
 
 #include <QTest>

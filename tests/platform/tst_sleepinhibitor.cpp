@@ -1,5 +1,5 @@
 #include "platform/linux/linuxsession.h"
-#include "platform/linux/sleepinhibitor.h"
+#include "platform/linux/linuxsleepinhibitor.h"
 #include "support/suite.h"
 
 #include <QCoreApplication>

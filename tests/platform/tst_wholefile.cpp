@@ -2,6 +2,8 @@
 #include "support/suite.h"
 #include "support/testfiles.h"
 
+#include "platform/forwarding.h"
+#include "platform/platform.h"
 #include "platform/wholefile.h"
 
 #include <QDir>
@@ -50,6 +52,7 @@ private slots:
     void aNewFileHasItsBytes();
     void aFileIsReplacedAndKeepsItsMode();
     void nothingChangesBeforeTheCommit();
+    void bytesLostOnTheWayKeepWhatWasThere();
     void foldersAreRefused();
     void linksAreFollowed();
 #ifdef Q_OS_LINUX
@@ -93,6 +96,26 @@ void tst_WholeFile::nothingChangesBeforeTheCommit()
         WholeFile file(path);
         QVERIFY(file.open());
     }
+    QCOMPARE(contentOf(path), Previous);
+    QCOMPARE(entriesOf(folder.path()), QStringList{u"r.json"_s});
+}
+
+void tst_WholeFile::bytesLostOnTheWayKeepWhatWasThere()
+{
+    // A system that has taken the bytes and cannot bring them to the medium.
+    class LosingFiles : public platform::ForwardingFiles
+    {
+    public:
+        using ForwardingFiles::ForwardingFiles;
+        bool isWrittenOut(const QFileDevice &) override { return false; }
+    };
+    auto &machine = platform::Platform::current();
+    LosingFiles files(machine.files());
+    platform::ForwardingPlatform losing(files, machine.folders(), machine.devices(), machine.session());
+    const platform::ScopedPlatform scope(losing);
+    const QTemporaryDir folder;
+    const QString path = writeFile(folder.filePath(u"r.json"_s), Previous);
+    QVERIFY(!write(path, "{}"));
     QCOMPARE(contentOf(path), Previous);
     QCOMPARE(entriesOf(folder.path()), QStringList{u"r.json"_s});
 }

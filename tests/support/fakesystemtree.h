@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/linux/systemtree.h"
+#include "platform/linux/linuxsystemtree.h"
 
 #include <QByteArray>
 #include <QString>

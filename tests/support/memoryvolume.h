@@ -11,6 +11,7 @@
 #include <QStringList>
 
 #include <functional>
+#include <limits>
 #include <memory>
 #include <optional>
 
@@ -99,6 +100,10 @@ public:
     }
     platform::Result<QByteArray> readBeginning(const QString &path, qint64 limit) override;
     platform::Result<std::unique_ptr<QFileDevice>> openForAppending(const QString &path) override;
+    bool isStream(const QString &) override { return false; }
+    bool openStream(QFile &, QIODevice::OpenMode) override { return false; }
+    bool isWrittenOut(const QFileDevice &) override { return true; }
+    int spareOpenFiles() override { return std::numeric_limits<int>::max(); }
     platform::Status clearReadOnly(const platform::EntryPath &entry) override;
     platform::Status rename(const platform::EntryPath &, const platform::EntryPath &) override;
     platform::Status remove(const platform::EntryPath &place) override;
@@ -117,6 +122,7 @@ public:
     platform::Result<platform::FolderOwner> owner(const QString &folder) override;
     platform::Status hide(const QString &path) override;
     platform::Result<platform::SpaceInfo> space(const QString &path) override;
+    bool mayDistrustProgram(quint32) override { return false; }
     platform::Result<int> snapshots(const QString &) override { return snapshotAnswer; }
 
 private:

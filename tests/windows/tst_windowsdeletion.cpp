@@ -1,6 +1,6 @@
 #include "engine/filedeletion.h"
-#include "platform/windows/longpath.h"
-#include "platform/windows/winhandle.h"
+#include "platform/windows/windowshandle.h"
+#include "platform/windows/windowslongpath.h"
 #include "support/suite.h"
 #include "support/testfiles.h"
 #include "windows/win32faults.h"

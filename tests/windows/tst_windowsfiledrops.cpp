@@ -1,5 +1,5 @@
 #include "platform/filedrops.h"
-#include "platform/windows/droppedpaths.h"
+#include "platform/windows/windowsdroppedpaths.h"
 #include "support/suite.h"
 #include "windows/droppedfiles.h"
 

@@ -4,12 +4,12 @@
 #include "windows/win32faults.h"
 
 #include "platform/anchoredfolder.h"
-#include "platform/windows/longpath.h"
 #include "platform/windows/windowsfiles.h"
 #include "platform/windows/windowsfolders.h"
+#include "platform/windows/windowshandle.h"
+#include "platform/windows/windowslongpath.h"
 #include "platform/windows/windowspaths.h"
 #include "platform/windows/windowssession.h"
-#include "platform/windows/winhandle.h"
 
 #include <QCoreApplication>
 #include <QDir>

@@ -1,5 +1,5 @@
 #include "platform/appearance.h"
-#include "platform/windows/framemessages.h"
+#include "platform/windows/windowsframemessages.h"
 #include "support/scopedvariable.h"
 #include "support/suite.h"
 

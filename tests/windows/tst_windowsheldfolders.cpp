@@ -2,10 +2,10 @@
 #include "support/testfiles.h"
 
 #include "platform/entrypath.h"
-#include "platform/windows/longpath.h"
-#include "platform/windows/win32calls.h"
+#include "platform/windows/windowscalls.h"
 #include "platform/windows/windowsfiles.h"
 #include "platform/windows/windowsfolders.h"
+#include "platform/windows/windowslongpath.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -165,7 +165,7 @@ void tst_WindowsHeldFolders::whatIsNoFolderIsNotHeld()
     const auto held = folders.hold(path(u"a/b"_s));
     QVERIFY(held.ok());
     QCOMPARE(folders.holdIn(held.value(), u"file"_s, Folders::Mounts::Enter).code(), quint32(PathNotFound));
-    QVERIFY(isAbsent(folders.holdIn(held.value(), u"none"_s, Folders::Mounts::Enter).status()));
+    QVERIFY(folders.holdIn(held.value(), u"none"_s, Folders::Mounts::Enter).status().isAbsent());
     QCOMPARE(folders.holdIn(held.value(), {}, Folders::Mounts::Enter).code(), quint32(InvalidParameter));
 }
 

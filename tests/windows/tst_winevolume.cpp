@@ -1,6 +1,6 @@
 #include "engine/diskwipeworker.h"
 #include "model/wipetask.h"
-#include "platform/windows/win32calls.h"
+#include "platform/windows/windowscalls.h"
 #include "support/suite.h"
 #include "support/testfiles.h"
 #include "support/workerrecord.h"

@@ -45,7 +45,7 @@ Outcome<QString> findFile(const QString &given)
     if (isDeviceName(path))
         return noFile(shown);
     const auto info = platform::Platform::current().files().info(path);
-    if (isAbsent(info.status()))
+    if (info.status().isAbsent())
         return refused(WipeTask::tr("File not found: %1").arg(shown));
     if (!info)
         return refused(Cli::tr("%1 cannot be looked at, error %2").arg(shown).arg(info.code()));

@@ -10,7 +10,8 @@
 #include "jobs/reportstorage.h"
 #include "model/displaytext.h"
 #include "model/wipereport.h"
-#include "platform/wholefile.h"
+#include "platform/files.h"
+#include "platform/platform.h"
 #include "services/reportdatabase.h"
 
 #include <QFile>
@@ -44,7 +45,8 @@ bool isForeign(const OutputFile &file)
 {
     constexpr qint64 LargestReport = 256LL * 1024 * 1024; // a line for each of some million files
     QFile standing(file.path());
-    if (!file.isWanted() || !standing.exists() || platform::isStream(file.path()) || standing.size() == 0)
+    if (!file.isWanted() || !standing.exists() ||
+        platform::Platform::current().files().isStream(file.path()) || standing.size() == 0)
         return false;
     return standing.size() > LargestReport || !standing.open(QIODevice::ReadOnly) ||
            !namesCertificate(standing.readAll());

@@ -2,15 +2,15 @@
 
 #include "platform/entrypath.h"
 #include "platform/filenames.h"
-#include "platform/linux/directoryentries.h"
-#include "platform/linux/errnotable.h"
-#include "platform/linux/filekind.h"
+#include "platform/linux/linuxdirectoryentries.h"
+#include "platform/linux/linuxerrnotable.h"
 #include "platform/linux/linuxfilehandle.h"
 #include "platform/linux/linuxfileid.h"
+#include "platform/linux/linuxfilekind.h"
 #include "platform/linux/linuxfiles.h"
-#include "platform/linux/treeremoval.h"
-#include "platform/linux/volumeidentity.h"
-#include "platform/linux/volumespace.h"
+#include "platform/linux/linuxtreeremoval.h"
+#include "platform/linux/linuxvolumeidentity.h"
+#include "platform/linux/linuxvolumespace.h"
 
 #include <fcntl.h>
 #include <sys/file.h>

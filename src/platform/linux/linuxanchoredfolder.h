@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/anchoredfolder.h"
-#include "platform/linux/filedescriptor.h"
+#include "platform/linux/linuxfiledescriptor.h"
 
 #include <QByteArray>
 

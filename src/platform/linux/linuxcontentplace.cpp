@@ -1,7 +1,7 @@
 #include "platform/linux/linuxcontentplace.h"
 
-#include "platform/linux/errnotable.h"
-#include "platform/linux/filedescriptor.h"
+#include "platform/linux/linuxerrnotable.h"
+#include "platform/linux/linuxfiledescriptor.h"
 
 #include <QByteArray>
 #include <QFile>

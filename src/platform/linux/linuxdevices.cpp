@@ -1,11 +1,11 @@
 #include "platform/linux/linuxdevices.h"
 
 #include "platform/filenames.h"
-#include "platform/linux/devicerelease.h"
-#include "platform/linux/drivedescription.h"
+#include "platform/linux/linuxdevicerelease.h"
+#include "platform/linux/linuxdrivedescription.h"
 #include "platform/linux/linuxreleasedvolumes.h"
-#include "platform/linux/volumeidentity.h"
-#include "platform/linux/volumelabel.h"
+#include "platform/linux/linuxvolumeidentity.h"
+#include "platform/linux/linuxvolumelabel.h"
 #include "platform/storagereplies.h"
 
 #include <algorithm>

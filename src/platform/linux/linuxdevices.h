@@ -1,11 +1,11 @@
 #pragma once
 
 #include "platform/devices.h"
-#include "platform/linux/blocktree.h"
-#include "platform/linux/driveregistry.h"
-#include "platform/linux/filedescriptor.h"
+#include "platform/linux/linuxblocktree.h"
+#include "platform/linux/linuxdriveregistry.h"
+#include "platform/linux/linuxfiledescriptor.h"
+#include "platform/linux/linuxsystemtree.h"
 #include "platform/linux/linuxvolume.h"
-#include "platform/linux/systemtree.h"
 
 namespace platform {
 

@@ -1,6 +1,6 @@
 #include "platform/linux/linuxdurabilitygroup.h"
 
-#include "platform/linux/errnotable.h"
+#include "platform/linux/linuxerrnotable.h"
 
 #include <QString>
 #include <QVersionNumber>

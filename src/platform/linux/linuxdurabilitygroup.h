@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/durabilitygroup.h"
-#include "platform/linux/filedescriptor.h"
+#include "platform/linux/linuxfiledescriptor.h"
 #include "platform/linux/linuxfolderhandle.h"
 #include "platform/status.h"
 

@@ -1,8 +1,8 @@
 #include "platform/linux/linuxfilehandle.h"
 
-#include "platform/linux/errnotable.h"
 #include "platform/linux/linuxcontentplace.h"
 #include "platform/linux/linuxdurabilitygroup.h"
+#include "platform/linux/linuxerrnotable.h"
 #include "platform/linux/linuxfileid.h"
 
 #include <fcntl.h>

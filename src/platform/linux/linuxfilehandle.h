@@ -2,7 +2,7 @@
 
 #include "platform/alignedbuffer.h"
 #include "platform/files.h"
-#include "platform/linux/filedescriptor.h"
+#include "platform/linux/linuxfiledescriptor.h"
 
 #include <memory>
 

@@ -1,6 +1,6 @@
 #include "platform/linux/linuxfileid.h"
 
-#include "platform/linux/errnotable.h"
+#include "platform/linux/linuxerrnotable.h"
 
 #include <fcntl.h>
 #include <linux/magic.h>

@@ -1,19 +1,21 @@
 #include "platform/linux/linuxfiles.h"
 
 #include "platform/filenames.h"
-#include "platform/linux/errnotable.h"
-#include "platform/linux/filekind.h"
 #include "platform/linux/linuxcontentplace.h"
 #include "platform/linux/linuxdurabilitygroup.h"
+#include "platform/linux/linuxerrnotable.h"
 #include "platform/linux/linuxfilehandle.h"
 #include "platform/linux/linuxfileid.h"
+#include "platform/linux/linuxfilekind.h"
 #include "platform/linux/linuxfolderhandle.h"
 
 #include <fcntl.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <cstdio>
+#include <limits>
 
 namespace platform {
 
@@ -126,7 +128,7 @@ Result<std::unique_ptr<FileHandle>> LinuxFiles::openIn(const std::shared_ptr<Dur
     // wakes up.
     const Result<struct statx> found = look(at.value(), STATX_TYPE);
     if (!found) {
-        if (mode != OpenMode::CreateFill || found.status().native != ENOENT)
+        if (mode != OpenMode::CreateFill || !isAbsentErrno(found.status().native))
             return found.status();
     } else if (const Status refusal = refusalOf(found.value().stx_mode, "statx"); !refusal) {
         return refusal;
@@ -210,6 +212,21 @@ Result<ContentPlace> LinuxFiles::contentPlace(const EntryPath &entry)
     return contentPlaceOf(file.get());
 }
 
+int LinuxFiles::spareOpenFiles()
+{
+    constexpr int Unlimited = std::numeric_limits<int>::max();
+    rlimit limit = {};
+    if (::getrlimit(RLIMIT_NOFILE, &limit) != 0 || limit.rlim_cur >= rlim_t(Unlimited))
+        return Unlimited;
+    const auto most = static_cast<int>(limit.rlim_cur);
+    int spare = 0;
+    // Every free number is one; not all are looked at where there are plenty.
+    constexpr int Plenty = 1024;
+    for (int number = 0; number < most && spare < Plenty; ++number)
+        spare += ::fcntl(number, F_GETFD) < 0 ? 1 : 0;
+    return spare;
+}
+
 Status LinuxFiles::clearReadOnly(const EntryPath &entry)
 {
     const Result<EntryAt> at = locate(entry);
@@ -217,7 +234,7 @@ Status LinuxFiles::clearReadOnly(const EntryPath &entry)
         return at.status();
     const Result<struct statx> found = look(at.value(), STATX_TYPE | STATX_MODE);
     if (!found)
-        return isAbsent(found.status()) ? Status{} : found.status();
+        return found.status().isAbsent() ? Status{} : found.status();
     if (const Status mounted = at.value().refusalOf(found.value()); !mounted)
         return mounted;
     const mode_t mode = found.value().stx_mode;

@@ -20,6 +20,10 @@ public:
     Result<QList<NamedStream>> namedStreams(const EntryPath &) override { return QList<NamedStream>(); }
     Result<QByteArray> readBeginning(const QString &path, qint64 limit) override;
     Result<std::unique_ptr<QFileDevice>> openForAppending(const QString &path) override;
+    bool isStream(const QString &path) override;
+    bool openStream(QFile &stream, QIODevice::OpenMode mode) override;
+    bool isWrittenOut(const QFileDevice &file) override;
+    int spareOpenFiles() override;
     Status clearReadOnly(const EntryPath &entry) override;
     Status rename(const EntryPath &from, const EntryPath &to) override;
     Status remove(const EntryPath &entry) override;

@@ -1,7 +1,7 @@
 #include "platform/linux/linuxfolderhandle.h"
 
 #include "platform/filenames.h"
-#include "platform/linux/errnotable.h"
+#include "platform/linux/linuxerrnotable.h"
 #include "platform/linux/linuxfileid.h"
 
 #include <fcntl.h>

@@ -2,7 +2,7 @@
 
 #include "platform/entrypath.h"
 #include "platform/folderhandle.h"
-#include "platform/linux/filedescriptor.h"
+#include "platform/linux/linuxfiledescriptor.h"
 
 #include <QByteArray>
 

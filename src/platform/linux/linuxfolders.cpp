@@ -1,12 +1,12 @@
 #include "platform/linux/linuxfolders.h"
 
 #include "platform/filenames.h"
-#include "platform/linux/directoryentries.h"
-#include "platform/linux/errnotable.h"
 #include "platform/linux/linuxanchoredfolder.h"
+#include "platform/linux/linuxdirectoryentries.h"
+#include "platform/linux/linuxerrnotable.h"
 #include "platform/linux/linuxfolderhandle.h"
-#include "platform/linux/treeremoval.h"
-#include "platform/linux/volumespace.h"
+#include "platform/linux/linuxtreeremoval.h"
+#include "platform/linux/linuxvolumespace.h"
 
 #include <QList>
 

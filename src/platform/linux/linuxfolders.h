@@ -21,6 +21,7 @@ public:
     Result<FolderOwner> owner(const QString &folder) override;
     Status hide(const QString &path) override;
     Result<SpaceInfo> space(const QString &path) override;
+    bool mayDistrustProgram(quint32) override { return false; }
     Result<int> snapshots(const QString &) override { return Status{NotSupported, 0, "snapshots"}; }
 };
 

@@ -1,7 +1,7 @@
 #include "platform/linux/linuxrawdevice.h"
 
 #include "platform/filenames.h"
-#include "platform/linux/errnotable.h"
+#include "platform/linux/linuxerrnotable.h"
 #include "platform/transfercheck.h"
 
 #include <QtGlobal>

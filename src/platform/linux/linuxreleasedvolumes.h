@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/linux/filedescriptor.h"
-#include "platform/linux/mountstack.h"
+#include "platform/linux/linuxfiledescriptor.h"
+#include "platform/linux/linuxmountstack.h"
 #include "platform/releasedvolumes.h"
 
 namespace platform {

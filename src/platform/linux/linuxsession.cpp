@@ -1,8 +1,8 @@
 #include "platform/linux/linuxsession.h"
 
-#include "platform/linux/devicesinuse.h"
-#include "platform/linux/mediumtrace.h"
-#include "platform/linux/sleepinhibitor.h"
+#include "platform/linux/linuxdevicesinuse.h"
+#include "platform/linux/linuxmediumtrace.h"
+#include "platform/linux/linuxsleepinhibitor.h"
 
 #include <QDir>
 

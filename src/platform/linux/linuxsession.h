@@ -1,7 +1,7 @@
 #pragma once
 
+#include "platform/linux/linuxsystemtree.h"
 #include "platform/linux/linuxvolume.h"
-#include "platform/linux/systemtree.h"
 #include "platform/session.h"
 
 namespace platform {

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "platform/linux/blocktree.h"
+#include "platform/linux/linuxblocktree.h"
+#include "platform/linux/linuxmounttable.h"
 #include "platform/linux/linuxrawdevice.h"
-#include "platform/linux/mounttable.h"
-#include "platform/linux/systemtree.h"
+#include "platform/linux/linuxsystemtree.h"
 
 #include <QList>
 

@@ -1,7 +1,7 @@
 #include "platform/windows/windowsaccount.h"
 
+#include "platform/windows/windowshandle.h"
 #include "platform/windows/windowspaths.h"
-#include "platform/windows/winhandle.h"
 
 #include <array>
 #include <cstddef>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/windows/win32calls.h"
+#include "platform/windows/windowscalls.h"
 
 #include <QString>
 

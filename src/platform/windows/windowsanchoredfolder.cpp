@@ -1,12 +1,12 @@
 #include "platform/windows/windowsanchoredfolder.h"
 
 #include "platform/entrypath.h"
-#include "platform/windows/lasterror.h"
-#include "platform/windows/volumeidentity.h"
 #include "platform/windows/windowsfilehandle.h"
 #include "platform/windows/windowsfiles.h"
 #include "platform/windows/windowsfolders.h"
+#include "platform/windows/windowslasterror.h"
 #include "platform/windows/windowspaths.h"
+#include "platform/windows/windowsvolumeidentity.h"
 
 namespace platform {
 

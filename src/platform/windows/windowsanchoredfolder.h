@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/anchoredfolder.h"
-#include "platform/windows/folderlisting.h"
+#include "platform/windows/windowsfolderlisting.h"
 
 #include <string>
 

@@ -1,6 +1,6 @@
 #include "platform/windows/windowsawakehold.h"
 
-#include "platform/windows/lasterror.h"
+#include "platform/windows/windowslasterror.h"
 
 #include <string>
 #include <utility>

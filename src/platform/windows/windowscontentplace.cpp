@@ -1,6 +1,6 @@
 #include "platform/windows/windowscontentplace.h"
 
-#include "platform/windows/lasterror.h"
+#include "platform/windows/windowslasterror.h"
 
 namespace platform {
 

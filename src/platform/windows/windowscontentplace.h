@@ -2,7 +2,7 @@
 
 #include "platform/contentplace.h"
 #include "platform/status.h"
-#include "platform/windows/win32calls.h"
+#include "platform/windows/windowscalls.h"
 
 namespace platform {
 

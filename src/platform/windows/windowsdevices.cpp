@@ -1,14 +1,14 @@
 #include "platform/windows/windowsdevices.h"
 
 #include "platform/storagereplies.h"
-#include "platform/windows/lockedvolumes.h"
-#include "platform/windows/machinevolumes.h"
-#include "platform/windows/volumeidentity.h"
 #include "platform/windows/windowshelddrive.h"
+#include "platform/windows/windowslockedvolumes.h"
+#include "platform/windows/windowsmachinevolumes.h"
 #include "platform/windows/windowsquery.h"
 #include "platform/windows/windowsrawdevice.h"
 #include "platform/windows/windowsreleasedvolumes.h"
 #include "platform/windows/windowsvolume.h"
+#include "platform/windows/windowsvolumeidentity.h"
 
 #include <QDir>
 #include <QStorageInfo>

@@ -1,8 +1,8 @@
 #include "platform/windows/windowsfilehandle.h"
 
-#include "platform/windows/lasterror.h"
 #include "platform/windows/windowscontentplace.h"
 #include "platform/windows/windowsfileid.h"
+#include "platform/windows/windowslasterror.h"
 
 #include <limits>
 

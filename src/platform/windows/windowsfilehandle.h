@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/files.h"
-#include "platform/windows/winhandle.h"
+#include "platform/windows/windowshandle.h"
 
 namespace platform {
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/files.h"
-#include "platform/windows/win32calls.h"
+#include "platform/windows/windowscalls.h"
 
 namespace platform {
 

@@ -1,15 +1,15 @@
 #include "platform/windows/windowsfiles.h"
 
-#include "platform/windows/fileattributes.h"
-#include "platform/windows/filekind.h"
-#include "platform/windows/lasterror.h"
 #include "platform/windows/windowscontentplace.h"
+#include "platform/windows/windowsfileattributes.h"
 #include "platform/windows/windowsfilehandle.h"
 #include "platform/windows/windowsfileid.h"
+#include "platform/windows/windowsfilekind.h"
 #include "platform/windows/windowsfolderhandle.h"
+#include "platform/windows/windowshandle.h"
+#include "platform/windows/windowslasterror.h"
 #include "platform/windows/windowspaths.h"
 #include "platform/windows/windowsstreams.h"
-#include "platform/windows/winhandle.h"
 
 #include <limits>
 
@@ -249,7 +249,7 @@ Status WindowsFiles::clearReadOnly(const EntryPath &entry)
         return name.status();
     const Result<EntryAttributes> attributes = attributesOf(name.value());
     if (!attributes)
-        return isNothingThere(attributes.status().native) ? Status{} : attributes.status();
+        return attributes.status().isAbsent() ? Status{} : attributes.status();
     return clearReadOnlyAttribute(name.value(), attributes.value().bits);
 }
 

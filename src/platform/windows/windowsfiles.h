@@ -2,6 +2,8 @@
 
 #include "platform/files.h"
 
+#include <limits>
+
 namespace platform {
 
 // Files by way of Win32 calls. Without state.
@@ -17,6 +19,10 @@ public:
     Result<QList<NamedStream>> namedStreams(const EntryPath &entry) override;
     Result<QByteArray> readBeginning(const QString &path, qint64 limit) override;
     Result<std::unique_ptr<QFileDevice>> openForAppending(const QString &path) override;
+    bool isStream(const QString &path) override;
+    bool openStream(QFile &stream, QIODevice::OpenMode mode) override;
+    bool isWrittenOut(const QFileDevice &file) override;
+    int spareOpenFiles() override { return std::numeric_limits<int>::max(); }
     Status clearReadOnly(const EntryPath &entry) override;
     Status rename(const EntryPath &from, const EntryPath &to) override;
     Status remove(const EntryPath &entry) override;

@@ -1,8 +1,8 @@
 #include "platform/windows/windowsfolderhandle.h"
 
-#include "platform/windows/folderlisting.h"
-#include "platform/windows/lasterror.h"
 #include "platform/windows/windowsfileid.h"
+#include "platform/windows/windowsfolderlisting.h"
+#include "platform/windows/windowslasterror.h"
 #include "platform/windows/windowspaths.h"
 
 #include <utility>

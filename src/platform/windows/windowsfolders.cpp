@@ -1,14 +1,14 @@
 #include "platform/windows/windowsfolders.h"
 
-#include "platform/windows/fileattributes.h"
-#include "platform/windows/filekind.h"
-#include "platform/windows/folderlisting.h"
-#include "platform/windows/lasterror.h"
-#include "platform/windows/shadowcopies.h"
-#include "platform/windows/treeremoval.h"
 #include "platform/windows/windowsanchoredfolder.h"
+#include "platform/windows/windowsfileattributes.h"
+#include "platform/windows/windowsfilekind.h"
 #include "platform/windows/windowsfolderhandle.h"
+#include "platform/windows/windowsfolderlisting.h"
+#include "platform/windows/windowslasterror.h"
 #include "platform/windows/windowspaths.h"
+#include "platform/windows/windowsshadowcopies.h"
+#include "platform/windows/windowstreeremoval.h"
 
 #include <limits>
 #include <optional>
@@ -21,7 +21,7 @@ namespace {
 Status makeFolder(const std::wstring &path)
 {
     const Status status = statusOf(win32().createDirectory(path.c_str(), nullptr), "CreateDirectory");
-    if (status || isNothingThere(status.native))
+    if (status || status.isAbsent())
         return status;
     // Of a root that exists the system says that access is denied, not that it exists.
     const Result<EntryAttributes> attributes = attributesOf(path);

@@ -22,6 +22,7 @@ public:
     Status hide(const QString &path) override;
     // For a file or link: of the volume on which it stands itself.
     Result<SpaceInfo> space(const QString &path) override;
+    bool mayDistrustProgram(quint32 code) override { return code == AccessDenied || code == FileNotFound; }
     Result<int> snapshots(const QString &path) override;
 };
 

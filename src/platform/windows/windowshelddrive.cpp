@@ -1,6 +1,6 @@
 #include "platform/windows/windowshelddrive.h"
 
-#include "platform/windows/diskattributes.h"
+#include "platform/windows/windowsdiskattributes.h"
 
 namespace platform {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/windows/lockedvolumes.h"
+#include "platform/windows/windowslockedvolumes.h"
 #include "platform/windows/windowsrawdevice.h"
 
 #include <utility>

@@ -1,6 +1,6 @@
 #include "platform/windows/windowspaths.h"
 
-#include "platform/windows/longpath.h"
+#include "platform/windows/windowslongpath.h"
 
 #include <algorithm>
 

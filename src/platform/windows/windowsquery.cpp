@@ -1,8 +1,8 @@
 #include "platform/windows/windowsquery.h"
 
 #include "platform/storagereplies.h"
-#include "platform/windows/lasterror.h"
-#include "platform/windows/machinevolumes.h"
+#include "platform/windows/windowslasterror.h"
+#include "platform/windows/windowsmachinevolumes.h"
 
 #include <algorithm>
 #include <cstddef>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/devices.h"
-#include "platform/windows/winhandle.h"
+#include "platform/windows/windowshandle.h"
 
 #include <QByteArray>
 #include <QString>

@@ -2,7 +2,7 @@
 
 #include "platform/alignedbuffer.h"
 #include "platform/transfercheck.h"
-#include "platform/windows/lasterror.h"
+#include "platform/windows/windowslasterror.h"
 
 #include <algorithm>
 #include <cstring>

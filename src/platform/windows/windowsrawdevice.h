@@ -1,8 +1,8 @@
 #pragma once
 
 #include "platform/devices.h"
+#include "platform/windows/windowshandle.h"
 #include "platform/windows/windowsquery.h"
-#include "platform/windows/winhandle.h"
 
 #include <QString>
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "platform/releasedvolumes.h"
-#include "platform/windows/lockedvolumes.h"
-#include "platform/windows/winhandle.h"
+#include "platform/windows/windowshandle.h"
+#include "platform/windows/windowslockedvolumes.h"
 
 #include <utility>
 

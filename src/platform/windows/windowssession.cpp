@@ -1,11 +1,11 @@
 #include "platform/windows/windowssession.h"
 
-#include "platform/windows/machinevolumes.h"
-#include "platform/windows/processtoken.h"
-#include "platform/windows/win32calls.h"
 #include "platform/windows/windowsaccount.h"
 #include "platform/windows/windowsawakehold.h"
+#include "platform/windows/windowscalls.h"
+#include "platform/windows/windowsmachinevolumes.h"
 #include "platform/windows/windowspaths.h"
+#include "platform/windows/windowsprocesstoken.h"
 
 #include <shlobj.h>
 

@@ -1,6 +1,6 @@
 #include "platform/windows/windowsstreams.h"
 
-#include "platform/windows/lasterror.h"
+#include "platform/windows/windowslasterror.h"
 #include "platform/windows/windowspaths.h"
 
 #include <QByteArray>

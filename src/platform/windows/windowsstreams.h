@@ -2,7 +2,7 @@
 
 #include "platform/files.h"
 #include "platform/status.h"
-#include "platform/windows/win32calls.h"
+#include "platform/windows/windowscalls.h"
 
 #include <QList>
 

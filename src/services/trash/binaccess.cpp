@@ -12,7 +12,7 @@ using Reason = UnscannedBin::Reason;
 bool mayEnterBin(const QString &folder, BinOwner owner, QList<UnscannedBin> &unscanned)
 {
     const auto info = Platform::current().files().info(folder);
-    if (isAbsent(info.status()))
+    if (info.status().isAbsent())
         return false;
     if (!info) {
         unscanned.append({folder, Reason::Unreadable, info.code()});
@@ -40,6 +40,6 @@ void listBin(const QString &folder, QList<UnscannedBin> &unscanned, const platfo
     if (seen)
         return;
     qDebug() << "  Cannot list folder:" << folder << seen.diagnostic();
-    if (!isAbsent(seen))
+    if (!seen.isAbsent())
         unscanned.append({folder, Reason::Unreadable, seen.code});
 }

@@ -32,7 +32,7 @@ void addDataFile(const QString &folder, const QString &name, RecycleBinItem &ite
 {
     const QString path = pathInFolder(folder, name);
     const auto found = platform::Platform::current().files().info(path);
-    if (isAbsent(found.status()))
+    if (found.status().isAbsent())
         return;
     item.recyclePath = path;
     if (item.fileName.isEmpty())

@@ -53,7 +53,7 @@ platform::Result<QSet<QString>> foldersIn(const QString &folder)
                 names.insert(name);
             return true;
         });
-    if (!seen && !isAbsent(seen))
+    if (!seen && !seen.isAbsent())
         return seen;
     return names;
 }
@@ -130,7 +130,7 @@ platform::Status pruneDirectorySizes(const QString &trashFolder)
     const QString path = pathInFolder(trashFolder, u"directorysizes"_s);
     const auto found = files().info(path);
     if (!found)
-        return isAbsent(found.status()) ? platform::Status{} : found.status();
+        return found.status().isAbsent() ? platform::Status{} : found.status();
     const auto record = platform::Platform::current().files().readBeginning(path, LargestRecord);
     if (!record)
         return record.status();

@@ -1,0 +1,240 @@
+#include "platform/linux/linuxmountstack.h"
+
+#include "platform/filenames.h"
+#include "platform/linux/linuxerrnotable.h"
+#include "platform/linux/linuxmountarguments.h"
+
+#include <QDebug>
+#include <QDir>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdlib>
+#include <utility>
+
+#include <fcntl.h>
+#include <sys/mount.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace platform {
+
+namespace {
+
+// Whoever lists the volumes of the machine has each of them open for a moment.
+constexpr int Attempts = 10;
+constexpr useconds_t BetweenAttempts = 50'000;
+
+// What the path leads to may lie on another mount, which hides this one.
+bool leadsTo(const QByteArray &path, int mountId)
+{
+    struct statx info = {};
+    if (::statx(AT_FDCWD, path.constData(), AT_SYMLINK_NOFOLLOW | AT_NO_AUTOMOUNT, STATX_MNT_ID, &info) != 0)
+        return false;
+    // Before Linux 5.8 nobody tells.
+    return (info.stx_mask & STATX_MNT_ID) == 0 || info.stx_mnt_id == static_cast<quint64>(mountId);
+}
+
+Status unmount(const MountEntry &entry)
+{
+    const QByteArray point = encodeName(entry.mountPoint);
+    if (!leadsTo(point, entry.id))
+        return {SharingViolation, 0, "statx"};
+    for (int attempt = 1;; ++attempt) {
+        if (::umount2(point.constData(), UMOUNT_NOFOLLOW) == 0)
+            return {};
+        const int error = errno;
+        if (error != EBUSY || attempt == Attempts)
+            return statusFromErrno(error, "umount2");
+        ::usleep(BetweenAttempts);
+    }
+}
+
+bool mountFileSystem(const QByteArray &source, const QByteArray &point, const MountEntry &entry)
+{
+    const MountArguments arguments = MountArguments::of(entry);
+    // A place that is read-only becomes so later: said here, it would make the file system read-only.
+    const unsigned long flags =
+        arguments.fileSystemFlags | (arguments.mountFlags & ~static_cast<unsigned long>(MS_RDONLY));
+    return ::mount(source.constData(), point.constData(), entry.fileSystem.constData(), flags,
+                   arguments.data.constData()) == 0;
+}
+
+Status mountFailure()
+{
+    return statusFromErrno(errno, "mount");
+}
+
+// A partition is away for a moment when the system has just read the table of a drive anew.
+Status mountWhole(const QByteArray &source, const QByteArray &point, const MountEntry &entry)
+{
+    for (int attempt = 1;; ++attempt) {
+        if (mountFileSystem(source, point, entry))
+            return {};
+        if ((errno != ENOENT && errno != ENXIO && errno != EBUSY) || attempt == Attempts)
+            return mountFailure();
+        ::usleep(BetweenAttempts);
+    }
+}
+
+// A file system of which a folder is to be mounted, for a moment at a place of its own, from which the folder
+// can be reached whatever hides it elsewhere.
+class HiddenPlace
+{
+public:
+    HiddenPlace(const QByteArray &source, const MountEntry &entry)
+    {
+        m_path = QDir::tempPath().toLocal8Bit() + "/quorvex-mount-XXXXXX";
+        if (!::mkdtemp(m_path.data()))
+            return;
+        m_isMade = true;
+        m_isMounted = mountWhole(source, m_path, entry).ok();
+    }
+    // Takes away the folder alone, which fails while something is mounted there: what it holds is the user's.
+    ~HiddenPlace()
+    {
+        const int error = errno; // that somebody is about to look at
+        if (m_isMounted)
+            ::umount2(m_path.constData(), UMOUNT_NOFOLLOW);
+        if (m_isMade)
+            ::rmdir(m_path.constData());
+        errno = error;
+    }
+    HiddenPlace(const HiddenPlace &) = delete;
+    HiddenPlace &operator=(const HiddenPlace &) = delete;
+
+    bool isMounted() const { return m_isMounted; }
+    const QByteArray &path() const { return m_path; }
+
+private:
+    QByteArray m_path;
+    bool m_isMade = false;
+    bool m_isMounted = false;
+};
+
+// A folder of the file system, told from the root of all its subvolumes.
+Status mountFolder(const QByteArray &source, const QByteArray &point, const MountEntry &entry)
+{
+    MountEntry whole = entry;
+    QStringList options = entry.options.split(u',', Qt::SkipEmptyParts);
+    if (options.removeIf([](const QString &option) { return option.startsWith(u"subvol"); }) > 0)
+        options.append(QStringLiteral("subvol=/"));
+    whole.options = options.join(u',');
+    const HiddenPlace hidden(source, whole);
+    if (!hidden.isMounted())
+        return mountFailure();
+    const QByteArray folder = hidden.path() + encodeName(entry.root);
+    if (::mount(folder.constData(), point.constData(), nullptr, MS_BIND, nullptr) != 0)
+        return mountFailure();
+    return {};
+}
+
+Status setUp(const QByteArray &point, const MountArguments &arguments)
+{
+    const unsigned long flags = MS_REMOUNT | MS_BIND | arguments.mountFlags;
+    if (::mount(nullptr, point.constData(), nullptr, flags, nullptr) != 0 ||
+        ::mount(nullptr, point.constData(), nullptr, arguments.propagation, nullptr) != 0)
+        return mountFailure();
+    return {};
+}
+
+} // namespace
+
+MountStack::MountStack(const SystemTree &tree, QList<VolumeTable::Mount> mounts)
+    : m_table(tree)
+    , m_blocks(tree)
+{
+    // A mount that was moved may stand on one that is younger.
+    while (!mounts.isEmpty()) {
+        const auto standsOnNone = [&mounts](const VolumeTable::Mount &mount) {
+            return std::ranges::none_of(mounts, [&mount](const VolumeTable::Mount &other) {
+                return other.entry.id == mount.entry.parent && other.entry.id != mount.entry.id;
+            });
+        };
+        const auto next = std::ranges::find_if(mounts, standsOnNone);
+        m_mounts.append(mounts.takeAt(next == mounts.end() ? 0 : next - mounts.begin()));
+    }
+    m_standing = m_mounts.size();
+}
+
+QString MountStack::pointUnderOther() const
+{
+    const QList<MountEntry> table = m_table.entries();
+    for (const MountEntry &other : table) {
+        const auto isOther = [&other](const VolumeTable::Mount &own) { return own.entry.id != other.id; };
+        const auto under = std::ranges::find_if(
+            m_mounts, [&other](const VolumeTable::Mount &own) { return own.entry.id == other.parent; });
+        if (under != m_mounts.end() && std::ranges::all_of(m_mounts, isOther))
+            return under->entry.mountPoint;
+    }
+    return {};
+}
+
+bool MountStack::isStanding(const MountEntry &entry) const
+{
+    return std::ranges::any_of(m_table.entries(),
+                               [&entry](const MountEntry &other) { return other.id == entry.id; });
+}
+
+Status MountStack::takeDown(QString &inUse)
+{
+    while (m_standing > 0) {
+        const MountEntry &entry = m_mounts.at(m_standing - 1).entry;
+        // Where mounts are passed on, one goes with another.
+        const Status unmounted = isStanding(entry) ? unmount(entry) : Status{};
+        if (!unmounted) {
+            inUse = entry.mountPoint;
+            return unmounted;
+        }
+        --m_standing;
+    }
+    return {};
+}
+
+// Where mounts are passed on, one comes with another, which must not lie there twice.
+bool MountStack::isUpAgain(qsizetype index) const
+{
+    const VolumeTable::Mount &wanted = m_mounts.at(index);
+    const auto isAlike = [&wanted](const VolumeTable::Mount &other) {
+        return other.device == wanted.device && other.entry.root == wanted.entry.root &&
+               other.entry.mountPoint == wanted.entry.mountPoint;
+    };
+    const auto upToThis = std::count_if(m_mounts.begin(), m_mounts.begin() + index + 1, isAlike);
+    return std::ranges::count_if(m_table.mounts(), isAlike) >= upToThis;
+}
+
+Status MountStack::mountAgain(const VolumeTable::Mount &mount) const
+{
+    const MountEntry &entry = mount.entry;
+    const bool isSource = BlockTree::deviceOfNode(entry.source) == mount.device;
+    const QByteArray source = encodeName(isSource ? entry.source : m_blocks.node(mount.device));
+    const QByteArray point = encodeName(entry.mountPoint);
+    const MountArguments arguments = MountArguments::of(entry);
+    const Status mounted =
+        arguments.isWhole ? mountWhole(source, point, entry) : mountFolder(source, point, entry);
+    if (!mounted)
+        return mounted;
+    const Status isSetUp = setUp(point, arguments);
+    // Less guarded than it was it must not stay.
+    if (!isSetUp)
+        ::umount2(point.constData(), UMOUNT_NOFOLLOW);
+    return isSetUp;
+}
+
+QStringList MountStack::putUp()
+{
+    QStringList lost;
+    for (; m_standing < m_mounts.size(); ++m_standing) {
+        if (isUpAgain(m_standing))
+            continue;
+        const VolumeTable::Mount &mount = m_mounts.at(m_standing);
+        const Status mounted = mountAgain(mount);
+        if (mounted)
+            continue;
+        qDebug().noquote() << "[Mounts]" << mount.entry.mountPoint << mounted.diagnostic();
+        lost.append(mount.entry.mountPoint);
+    }
+    return lost;
+}
+
+} // namespace platform

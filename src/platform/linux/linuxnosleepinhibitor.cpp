@@ -1,0 +1,11 @@
+// Built without the bus.
+#include "platform/linux/linuxsleepinhibitor.h"
+
+namespace platform {
+
+Result<std::unique_ptr<AwakeHold>> inhibitSleep(const QString &)
+{
+    return Status{NotSupported, 0, "Inhibit"};
+}
+
+} // namespace platform

@@ -1,0 +1,48 @@
+#include "platform/linux/linuxfiles.h"
+
+#include "platform/filenames.h"
+#include "platform/linux/linuxfiledescriptor.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+
+namespace platform {
+
+namespace {
+
+bool isStreamMode(mode_t mode)
+{
+    return S_ISCHR(mode) || S_ISFIFO(mode);
+}
+
+} // namespace
+
+bool LinuxFiles::isStream(const QString &path)
+{
+    struct stat status = {};
+    return ::stat(encodeName(path).constData(), &status) == 0 && isStreamMode(status.st_mode);
+}
+
+bool LinuxFiles::openStream(QFile &stream, QIODevice::OpenMode mode)
+{
+    const QByteArray name = encodeName(stream.fileName());
+    FileDescriptor opened(
+        uninterrupted([&name] { return ::open(name.constData(), O_WRONLY | O_NOCTTY | O_CLOEXEC); }));
+    struct stat status = {};
+    if (!opened.isValid() || ::fstat(opened.get(), &status) != 0 || !isStreamMode(status.st_mode) ||
+        !stream.open(opened.get(), mode, QFileDevice::AutoCloseHandle))
+        return false;
+    opened.release();
+    return true;
+}
+
+bool LinuxFiles::isWrittenOut(const QFileDevice &file)
+{
+    // What has no medium has nothing to write out.
+    return ::fsync(file.handle()) == 0 || errno == EINVAL || errno == ENOTSUP || errno == EROFS;
+}
+
+} // namespace platform

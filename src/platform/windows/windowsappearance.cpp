@@ -1,0 +1,23 @@
+#include "platform/appearance.h"
+
+#include "platform/windows/windowscalls.h"
+
+#include <QByteArray>
+
+namespace platform {
+
+void keepLightFrames()
+{
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "windows:darkmode=0");
+}
+
+bool hasHighContrast()
+{
+    HIGHCONTRASTW contrast = {};
+    contrast.cbSize = sizeof contrast;
+    return win32().systemParametersInfo(SPI_GETHIGHCONTRAST, sizeof contrast, &contrast, 0) &&
+           (contrast.dwFlags & HCF_HIGHCONTRASTON) != 0;
+}
+
+} // namespace platform

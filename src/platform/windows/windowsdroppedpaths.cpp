@@ -1,0 +1,25 @@
+#include "platform/windows/windowsdroppedpaths.h"
+
+#include "platform/windows/windowspaths.h"
+
+#include <string>
+
+namespace platform {
+
+QStringList droppedPaths(HDROP drop)
+{
+    constexpr UINT Count = 0xFFFFFFFF;
+    const UINT count = ::DragQueryFileW(drop, Count, nullptr, 0);
+    QStringList paths;
+    for (UINT i = 0; i < count; ++i) {
+        // Without the zero at its end, for which there has to be room.
+        const UINT length = ::DragQueryFileW(drop, i, nullptr, 0);
+        std::wstring path(std::size_t(length) + 1, L'\0');
+        path.resize(::DragQueryFileW(drop, i, path.data(), length + 1));
+        if (!path.empty())
+            paths.append(decodeName(path));
+    }
+    return paths;
+}
+
+} // namespace platform

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "platform/windows/windowscalls.h"
+
+#include <QStringList>
+
+#include <shellapi.h>
+
+namespace platform {
+
+// The paths that a WM_DROPFILES carries, which is left as it is.
+QStringList droppedPaths(HDROP drop);
+
+} // namespace platform

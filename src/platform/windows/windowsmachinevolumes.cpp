@@ -1,0 +1,75 @@
+#include "platform/windows/windowsmachinevolumes.h"
+
+#include "platform/windows/windowslasterror.h"
+
+#include <QRegularExpression>
+
+#include <array>
+
+namespace platform {
+
+namespace {
+
+constexpr DWORD NameRoom = MAX_PATH;
+
+class VolumeSearch
+{
+public:
+    VolumeSearch()
+        : m_search(win32().findFirstVolume(m_name.data(), NameRoom))
+    {
+        if (m_search == INVALID_HANDLE_VALUE)
+            m_status = statusFromLastError("FindFirstVolume");
+    }
+    ~VolumeSearch()
+    {
+        if (m_search != INVALID_HANDLE_VALUE)
+            win32().findVolumeClose(m_search);
+    }
+    VolumeSearch(const VolumeSearch &) = delete;
+    VolumeSearch &operator=(const VolumeSearch &) = delete;
+
+    // Of the last call; NoError where it found a volume.
+    const Status &status() const { return m_status; }
+
+    // With its separator it would open the root folder.
+    QString path() const
+    {
+        QString path = QString::fromWCharArray(m_name.data());
+        if (path.endsWith(u'\\'))
+            path.chop(1);
+        return path;
+    }
+
+    void next()
+    {
+        m_status = statusOf(win32().findNextVolume(m_search, m_name.data(), NameRoom), "FindNextVolume");
+    }
+
+private:
+    std::array<wchar_t, NameRoom> m_name = {}; // before the search, which fills it
+    HANDLE m_search;
+    Status m_status;
+};
+
+} // namespace
+
+Result<QStringList> machineVolumes()
+{
+    QStringList paths;
+    VolumeSearch search;
+    for (; search.status(); search.next())
+        paths.append(search.path());
+    if (search.status().native != ERROR_NO_MORE_FILES)
+        return search.status();
+    return paths;
+}
+
+bool isMachineVolume(const QString &name)
+{
+    static const QRegularExpression form(
+        QStringLiteral(R"(\A\\\\\?\\(Volume\{[0-9A-Za-z-]+\}|GLOBALROOT\\Device\\HarddiskVolume[0-9]+)\z)"));
+    return form.match(name).hasMatch();
+}
+
+} // namespace platform

@@ -1,0 +1,20 @@
+#include "platform/windows/windowsfiles.h"
+
+namespace platform {
+
+bool WindowsFiles::isStream(const QString &)
+{
+    return false;
+}
+
+bool WindowsFiles::openStream(QFile &, QIODevice::OpenMode)
+{
+    return false;
+}
+
+bool WindowsFiles::isWrittenOut(const QFileDevice &)
+{
+    return true; // room is taken as it is written
+}
+
+} // namespace platform

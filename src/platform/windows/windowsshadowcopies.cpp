@@ -1,0 +1,68 @@
+#include "platform/windows/windowsshadowcopies.h"
+
+#include "platform/windows/windowshandle.h"
+#include "platform/windows/windowslasterror.h"
+
+#include <array>
+
+namespace platform {
+
+namespace {
+
+// The system gives its copies numbers, deletes the oldest first, and keeps at most 512 of a volume.
+constexpr int LastCopy = 1024;
+
+struct VolumeKind
+{
+    DWORD serialNumber = 0;
+    std::wstring fileSystem;
+};
+
+WinHandle openToAsk(const std::wstring &path)
+{
+    constexpr DWORD ShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+    return WinHandle(win32().createFile(path.c_str(), FILE_READ_ATTRIBUTES, ShareAll, nullptr, OPEN_EXISTING,
+                                        FILE_FLAG_BACKUP_SEMANTICS | FILE_FLAG_OPEN_REPARSE_POINT, nullptr));
+}
+
+Result<VolumeKind> volumeOf(const std::wstring &path)
+{
+    const WinHandle handle = openToAsk(path);
+    if (!handle.isValid())
+        return statusFromLastError("CreateFile");
+    VolumeKind kind;
+    std::array<wchar_t, MAX_PATH + 1> name{};
+    if (!win32().getVolumeInformation(handle.get(), nullptr, 0, &kind.serialNumber, nullptr, nullptr,
+                                      name.data(), DWORD(name.size())))
+        return statusFromLastError("GetVolumeInformationByHandle");
+    kind.fileSystem = name.data();
+    return kind;
+}
+
+} // namespace
+
+Result<int> shadowCopiesOf(const std::wstring &path)
+{
+    const Result<VolumeKind> volume = volumeOf(path);
+    if (!volume)
+        return volume.status();
+    if (volume.value().fileSystem != L"NTFS" && volume.value().fileSystem != L"ReFS")
+        return Status{NotSupported, 0, "shadow copies"};
+    int count = 0;
+    Status unanswered;
+    for (int number = 1; number <= LastCopy; ++number) {
+        // A copy has the serial number of its volume.
+        const Result<VolumeKind> copy =
+            volumeOf(LR"(\\?\GLOBALROOT\Device\HarddiskVolumeShadowCopy)" + std::to_wstring(number) + L'\\');
+        if (copy)
+            count += copy.value().serialNumber == volume.value().serialNumber ? 1 : 0;
+        else if (!copy.status().isAbsent())
+            unanswered = copy.status();
+    }
+    // One that does not tell whose it is may be the volume's.
+    if (count == 0 && !unanswered)
+        return unanswered;
+    return count;
+}
+
+} // namespace platform

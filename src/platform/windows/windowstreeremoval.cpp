@@ -1,0 +1,110 @@
+#include "platform/windows/windowstreeremoval.h"
+
+#include "platform/windows/windowsfileattributes.h"
+#include "platform/windows/windowsfilekind.h"
+#include "platform/windows/windowslasterror.h"
+#include "platform/windows/windowspaths.h"
+
+namespace platform {
+
+namespace {
+
+Status removeFolderItself(const std::wstring &path, DWORD attributes)
+{
+    if (const Status writable = clearReadOnlyAttribute(path, attributes); !writable)
+        return writable;
+    return statusOf(win32().removeDirectory(path.c_str()), "RemoveDirectory");
+}
+
+} // namespace
+
+Status TreeRemoval::run(const std::wstring &path)
+{
+    Result<HeldFolder> top = holdFolder(path);
+    if (!top)
+        return top.status();
+    enter(path, top.take());
+    while (!m_levels.empty()) {
+        Level &level = m_levels.back();
+        if (level.folders.empty()) {
+            leave();
+            continue;
+        }
+        const std::wstring next = entryPath(level.path, level.folders.back());
+        level.folders.pop_back();
+        removeFolder(next);
+    }
+    return m_firstFailure;
+}
+
+void TreeRemoval::removeFolder(const std::wstring &path)
+{
+    // Most folders are empty when their turn comes. One that has become a link is removed by this as well.
+    const Status status = statusOf(win32().removeDirectory(path.c_str()), "RemoveDirectory");
+    if (status || status.isAbsent())
+        return;
+    // Not empty, or read-only.
+    if (status.native != ERROR_DIR_NOT_EMPTY && status.native != ERROR_ACCESS_DENIED) {
+        note(status);
+        return;
+    }
+    Result<HeldFolder> held = holdFolder(path);
+    if (held)
+        enter(path, held.take());
+    else if (!held.status().isAbsent() || held.status().native == ERROR_DIRECTORY) // another entry by now
+        note(held.status());
+}
+
+// Removes everything but the folders. The listing comes first as a whole: what deleting does to a listing
+// that is under way differs between file systems.
+void TreeRemoval::enter(const std::wstring &path, HeldFolder held)
+{
+    struct Other
+    {
+        std::wstring name;
+        EntryAttributes attributes;
+    };
+    std::vector<Other> others;
+    Level level{path, std::move(held), {}};
+    note(FolderListing(path).forEach([&](const WIN32_FIND_DATAW &entry) {
+        const EntryAttributes attributes = attributesOf(entry);
+        if (fileKindFromAttributes(attributes) == FileKind::Folder)
+            level.folders.emplace_back(entry.cFileName);
+        else
+            others.push_back({entry.cFileName, attributes});
+        return true;
+    }));
+    for (const Other &other : others)
+        removeOther(entryPath(path, other.name), other.attributes);
+    m_levels.push_back(std::move(level));
+}
+
+void TreeRemoval::removeOther(const std::wstring &path, const EntryAttributes &attributes)
+{
+    Status status;
+    if (isFolderLink(attributes))
+        status = removeFolderItself(path, attributes.bits);
+    else if (status = clearReadOnlyAttribute(path, attributes.bits); status)
+        status = statusOf(win32().deleteFile(path.c_str()), "DeleteFile");
+    if (!status.isAbsent())
+        note(status);
+}
+
+void TreeRemoval::leave()
+{
+    const std::wstring path = std::move(m_levels.back().path);
+    const DWORD attributes = m_levels.back().held.attributes;
+    // Closes it, nobody can remove what is held.
+    m_levels.pop_back();
+    const Status status = removeFolderItself(path, attributes);
+    if (!status.isAbsent())
+        note(status);
+}
+
+void TreeRemoval::note(const Status &status)
+{
+    if (m_firstFailure)
+        m_firstFailure = status;
+}
+
+} // namespace platform
