@@ -1,7 +1,6 @@
 #include "ui/home/featurecard.h"
 
 #include "ui/home/accessiblecard.h"
-#include "ui/home/cardpainting.h"
 #include "ui/style/palette.h"
 
 #include <QFrame>
@@ -54,7 +53,7 @@ QLabel *wrappingLabel(const QString &text, const QString &name, QWidget *parent)
 
 FeatureCard::FeatureCard(const QString &iconPath, const QString &title, const QString &description, int index,
                          QWidget *parent)
-    : QWidget(parent)
+    : Card(parent)
     , m_iconPath(iconPath)
     , m_title(title)
     , m_description(description)
@@ -63,6 +62,7 @@ FeatureCard::FeatureCard(const QString &iconPath, const QString &title, const QS
     AccessibleCard::install();
     setCursor(Qt::PointingHandCursor);
     setFocusPolicy(Qt::StrongFocus);
+    setFocusHolder(*this);
     setAccessibleName(m_title);
     setAccessibleDescription(m_description);
     createWidgets();
@@ -150,20 +150,6 @@ void FeatureCard::click()
     emit clicked();
 }
 
-void FeatureCard::enterEvent(QEnterEvent *event)
-{
-    m_hovered = true;
-    update();
-    QWidget::enterEvent(event);
-}
-
-void FeatureCard::leaveEvent(QEvent *event)
-{
-    m_hovered = false;
-    update();
-    QWidget::leaveEvent(event);
-}
-
 void FeatureCard::mousePressEvent(QMouseEvent *event)
 {
     m_pressed = event->button() == Qt::LeftButton;
@@ -183,22 +169,9 @@ void FeatureCard::keyPressEvent(QKeyEvent *event)
     const bool isPress =
         event->key() == Qt::Key_Space || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (!isPress)
-        QWidget::keyPressEvent(event);
+        Card::keyPressEvent(event);
     else if (!event->isAutoRepeat())
         click();
-}
-
-void FeatureCard::focusInEvent(QFocusEvent *event)
-{
-    m_focusFrame = cards::showsFocusFrame(event->reason(), m_focusFrame);
-    QWidget::focusInEvent(event);
-    update();
-}
-
-void FeatureCard::focusOutEvent(QFocusEvent *event)
-{
-    QWidget::focusOutEvent(event);
-    update();
 }
 
 // Fills the lower part of a tall card, where there are no texts.
@@ -213,12 +186,10 @@ void FeatureCard::paintEmblem(QPainter &painter) const
 void FeatureCard::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    cards::paintFace(painter, rect(), {Qt::white, palette::Border});
-    if (m_hovered)
-        cards::paintFace(painter, rect(),
-                         {translucent(accent().lighter(125), 24), translucent(accent().lighter(110), 170)});
+    paintFace(painter, {Qt::white, palette::Border});
+    if (isHovered())
+        paintFace(painter, {translucent(accent().lighter(125), 24), translucent(accent().lighter(110), 170)});
     if (!m_compact)
         paintEmblem(painter);
-    if (hasFocus() && m_focusFrame)
-        cards::paintFocusFrame(painter, rect(), accent());
+    paintFocusFrame(painter, accent());
 }
