@@ -188,12 +188,19 @@ void FileSelectPage::setToolRowVisible(bool visible)
     m_toolRow->setVisible(visible);
 }
 
+void FileSelectPage::setMode(Mode mode)
+{
+    m_mode = mode;
+    if (mode != Mode::Loading)
+        m_dropZone->hideLoading();
+    m_toolRow->setVisible(mode == Mode::Choosing);
+}
+
 void FileSelectPage::showLoading(const QString &text)
 {
-    m_isLoading = true;
+    setMode(Mode::Loading);
     m_stack->setCurrentIndex(DropZoneView);
     m_dropZone->showLoading(text);
-    m_toolRow->hide();
     m_next->setEnabled(false);
     m_stats->setText(text);
 }
@@ -206,9 +213,7 @@ void FileSelectPage::updateLoadingProgress(int current, int total, const QString
 
 void FileSelectPage::hideLoading()
 {
-    m_isLoading = false;
-    m_dropZone->hideLoading();
-    m_toolRow->show();
+    setMode(Mode::Choosing);
 }
 
 int FileSelectPage::addPaths(const QStringList &paths)
@@ -235,7 +240,7 @@ int FileSelectPage::addPaths(const QStringList &paths)
 
 void FileSelectPage::addDropped(const QStringList &paths)
 {
-    if (m_isLoading || m_isReadOnly)
+    if (m_mode != Mode::Choosing)
         return;
     const int missing = addPaths(paths);
     if (missing == 0)
@@ -279,10 +284,10 @@ void FileSelectPage::onRemoveSelectedClicked()
     updateStats();
 }
 
-// A list that is only shown stays: its content is erased whatever the list says.
+// The content of a list that is only shown is erased, also without its row in the list.
 void FileSelectPage::onDeletePressed()
 {
-    if (!m_isReadOnly && m_remove->isEnabled())
+    if (m_mode == Mode::Choosing && m_remove->isEnabled())
         onRemoveSelectedClicked();
 }
 
@@ -325,7 +330,7 @@ bool FileSelectPage::eventFilter(QObject *watched, QEvent *event)
 
 bool FileSelectPage::handleDrag(QDropEvent &event)
 {
-    if (m_isLoading || m_isReadOnly) {
+    if (m_mode != Mode::Choosing) {
         event.ignore();
         return true;
     }
