@@ -35,7 +35,7 @@ public:
     WaitCursor &operator=(const WaitCursor &) = delete;
 };
 
-QPushButton *createToolButton(const QString &text, const QString &name, const QString &styleSheet)
+QPushButton *createToolButton(const QString &text, const QString &name, const QString &styleSheet = {})
 {
     auto *button = new QPushButton(text);
     button->setObjectName(name);
@@ -55,17 +55,6 @@ const QString &addStyle()
     return style;
 }
 
-const QString &removeStyle()
-{
-    static const QString style =
-        u"QPushButton {  background-color: white;  border: 1px solid #fecaca;  border-radius: 6px;"
-        "  padding: 6px 12px;  color: #ef4444;  font-size: 12px;}"
-        "QPushButton:hover { background-color: #fef2f2; }"
-        "QPushButton:focus { border-color: #ef4444; outline: none; }"
-        "QPushButton:disabled { border-color: #e2e8f0; color: #9ca3af; }"_s;
-    return style;
-}
-
 } // namespace
 
 FileSelectPage::FileSelectPage(QWidget *parent)
@@ -75,8 +64,8 @@ FileSelectPage::FileSelectPage(QWidget *parent)
     , m_toolRow(new QWidget)
     , m_addFiles(createToolButton(tr("📄 Add Files"), u"addFilesBtn"_s, addStyle()))
     , m_addFolder(createToolButton(tr("📁 Add Folder"), u"addFolderBtn"_s, addStyle()))
-    , m_remove(createToolButton(tr("Remove"), u"removeBtn"_s, removeStyle()))
-    , m_clearAll(createToolButton(tr("Clear All"), u"clearAllBtn"_s, removeStyle()))
+    , m_remove(createToolButton(tr("Remove"), u"removeBtn"_s))
+    , m_clearAll(createToolButton(tr("Clear All"), u"clearAllBtn"_s))
     , m_stack(new QStackedWidget)
     , m_dropZone(new DropZone(tr("Click to add files or drag files here"), tr("📄 Add Files")))
     , m_list(new FileListWidget)
@@ -92,7 +81,6 @@ FileSelectPage::FileSelectPage(QWidget *parent)
     m_stats->setObjectName(u"fileStats"_s);
     m_stats->setStyleSheet(u"font-size: 13px; color: #64748b;"_s);
     m_missing->setObjectName(u"missingLabel"_s);
-    m_missing->setStyleSheet(u"font-size: 13px; color: #ef4444;"_s);
     m_missing->hide();
     for (QLabel *label : {m_stats, m_missing}) {
         label->setTextFormat(Qt::PlainText);

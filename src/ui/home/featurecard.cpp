@@ -11,7 +11,6 @@
 #include <QPainter>
 #include <QVBoxLayout>
 
-#include <array>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -23,9 +22,6 @@ constexpr int IconSize = 36;
 constexpr int TextSpacing = 6;
 constexpr int EmblemSize = 168;
 constexpr double EmblemOpacity = 0.10;
-
-constexpr std::array<QColor, 4> accents{QColor(0x3b, 0x82, 0xf6), QColor(0x22, 0xc5, 0x5e),
-                                        QColor(0xa8, 0x55, 0xf7), QColor(0xef, 0x44, 0x44)};
 
 QColor translucent(QColor colour, int alpha)
 {
@@ -141,8 +137,8 @@ QBoxLayout *FeatureCard::tallLayout() const
 
 QColor FeatureCard::accent() const
 {
-    const int last = static_cast<int>(accents.size()) - 1;
-    return accents.at(static_cast<std::size_t>(qBound(0, m_index, last)));
+    const int last = static_cast<int>(palette::CardAccents.size()) - 1;
+    return palette::CardAccents.at(static_cast<std::size_t>(qBound(0, m_index, last)));
 }
 
 void FeatureCard::click()
@@ -186,7 +182,7 @@ void FeatureCard::paintEmblem(QPainter &painter) const
 void FeatureCard::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    paintFace(painter, {Qt::white, palette::Border});
+    paintFace(painter, {palette::Surface, palette::Border});
     if (isHovered())
         paintFace(painter, {translucent(accent().lighter(125), 24), translucent(accent().lighter(110), 170)});
     if (!m_compact)

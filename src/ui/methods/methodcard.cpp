@@ -1,5 +1,7 @@
 #include "ui/methods/methodcard.h"
 
+#include "ui/style/palette.h"
+
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
@@ -13,22 +15,10 @@ namespace {
 
 constexpr int CardHeight = 80;
 
-QString badgeColour(int level)
+QColor badgeColour(int level)
 {
-    switch (level) {
-    case 1:
-        return u"#22c55e"_s;
-    case 2:
-        return u"#84cc16"_s;
-    case 3:
-        return u"#eab308"_s;
-    case 4:
-        return u"#f97316"_s;
-    case 5:
-        return u"#ef4444"_s;
-    default:
-        return u"#6b7280"_s;
-    }
+    const auto index = static_cast<std::size_t>(level) - 1;
+    return index < palette::LevelBadges.size() ? palette::LevelBadges.at(index) : palette::UnknownLevelBadge;
 }
 
 QLabel *makeLabel(const QString &text, const QString &name)
@@ -65,8 +55,6 @@ void MethodCard::createRadio(const QString &passes)
     m_radio->setAccessibleName(m_method.name);
     m_radio->setAccessibleDescription(
         u"%1, %2, %3"_s.arg(passes, m_method.levelName(), m_method.description));
-    // The card shows the focus.
-    m_radio->setStyleSheet(u"QRadioButton:focus { outline: none; }"_s);
     setFocusHolder(*m_radio);
 }
 
@@ -94,7 +82,7 @@ QLabel *MethodCard::makeBadge() const
     badge->setAlignment(Qt::AlignCenter);
     badge->setFixedHeight(26);
     badge->setStyleSheet(u"background-color: %1;color: white;border-radius: 13px;font-weight: bold;"
-                         "font-size: 12px;padding: 0 12px;"_s.arg(badgeColour(m_method.level)));
+                         "font-size: 12px;padding: 0 12px;"_s.arg(badgeColour(m_method.level).name()));
     return badge;
 }
 
@@ -110,10 +98,10 @@ void MethodCard::mousePressEvent(QMouseEvent *event)
 Card::Face MethodCard::face() const
 {
     if (m_radio->isChecked())
-        return {QColor(0xf0, 0xf7, 0xff), QColor(0x3b, 0x82, 0xf6), 2};
+        return {palette::CardSelected, palette::Primary, 2};
     if (isHovered())
-        return {QColor(0xfa, 0xfb, 0xfc), QColor(0x94, 0xa3, 0xb8), 1};
-    return {QColor(0xff, 0xff, 0xff), QColor(0xd1, 0xd5, 0xdb), 1};
+        return {palette::CardHovered, palette::FaintText, 1};
+    return {palette::Surface, palette::CardBorder, 1};
 }
 
 void MethodCard::paintEvent(QPaintEvent *event)
@@ -121,7 +109,7 @@ void MethodCard::paintEvent(QPaintEvent *event)
     {
         QPainter painter(this);
         paintFace(painter, face());
-        paintFocusFrame(painter, QColor(0x1d, 0x4e, 0xd8));
+        paintFocusFrame(painter, palette::PrimaryPressed);
     }
     Card::paintEvent(event);
 }

@@ -3,6 +3,8 @@
 
 #include "support/scriptedprompts.h"
 #include "support/testfiles.h"
+#include "ui/style/programsheet.h"
+#include "ui/style/uiresources.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -53,6 +55,7 @@ struct Shown
 
     Shown()
     {
+        page.setStyleSheet(programSheet());
         page.resize(720, 600);
         page.show();
     }
@@ -132,6 +135,7 @@ class tst_FileSelectPage : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase() { addUiResources(); }
     void init();
 
     void everyTextIsAsWritten();
