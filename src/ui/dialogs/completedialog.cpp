@@ -1,6 +1,7 @@
 #include "ui/dialogs/completedialog.h"
 
 #include "model/displaytext.h"
+#include "ui/style/palette.h"
 #include "ui/style/tooltip.h"
 
 #include <QIcon>
@@ -16,10 +17,6 @@ namespace {
 constexpr QSize IconSize(80, 80);
 constexpr QSize ButtonSize(150, 42);
 
-// The application's padding would cut long labels in buttons of fixed width, and its focus frame cannot be
-// told from the blue button.
-const QString dialogStyle = u"QPushButton { padding: 0px; }"
-                            "QPushButton:focus { outline: 2px solid #1e3a8a; outline-radius: 6px; }"_s;
 const QString viewButtonStyle =
     u"QPushButton {  background-color: #3b82f6;  color: white;  border: none;  border-radius: 8px;  "
     "font-size: 14px;  font-weight: bold;}QPushButton:hover {  background-color: #2563eb;}"_s;
@@ -47,7 +44,6 @@ CompleteDialog::CompleteDialog(bool success, const QString &certificateId, QWidg
 {
     setWindowTitle(m_success ? tr("Erasing Complete") : tr("Erase Failed"));
     setFixedSize(450, 420);
-    setStyleSheet(dialogStyle);
     auto *const layout = new QVBoxLayout(this);
     layout->setContentsMargins(40, 35, 40, 30);
     layout->setSpacing(12);
@@ -93,8 +89,8 @@ void CompleteDialog::addTexts(QBoxLayout *layout)
     title->setObjectName(u"dialogTitle"_s);
     title->setWordWrap(true);
     title->setAlignment(Qt::AlignCenter);
-    title->setStyleSheet(
-        u"font-size: 22px; font-weight: bold; color: %1;"_s.arg(m_success ? u"#22c55e"_s : u"#ef4444"_s));
+    title->setStyleSheet(u"font-size: 22px; font-weight: bold; color: %1;"_s.arg(
+        (m_success ? palette::Success : palette::Error).name()));
     layout->addWidget(title);
 
     auto *const message = new QLabel(messageText());
@@ -113,7 +109,6 @@ void CompleteDialog::addWarning(const QString &name, const QString &text, const 
     label->setTextFormat(Qt::PlainText);
     label->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
     label->setWordWrap(true);
-    label->setStyleSheet(u"color: #f59e0b; font-size: 13px; font-weight: bold;"_s);
     label->setToolTip(plainTip(tip));
     label->setAccessibleDescription(tip);
     auto *const column = qobject_cast<QBoxLayout *>(layout());

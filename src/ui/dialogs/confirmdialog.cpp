@@ -25,7 +25,7 @@ constexpr int Spacing = 20;
 constexpr int TargetFrame = 2 * (4 + 1);
 constexpr int MostTargetHeight = 160;
 
-QLabel *centredLabel(const QString &text, const QString &style)
+QLabel *centredLabel(const QString &text, const QString &style = {})
 {
     auto *const label = new QLabel(text);
     label->setAlignment(Qt::AlignCenter);
@@ -95,7 +95,7 @@ void ConfirmDialog::addTexts(QBoxLayout *layout)
     message->setWordWrap(true);
     layout->addWidget(message);
 
-    QLabel *const prompt = centredLabel(promptText(), QString());
+    QLabel *const prompt = centredLabel(promptText());
     prompt->setObjectName(u"dialogPrompt"_s);
     prompt->setTextFormat(Qt::RichText);
     layout->addWidget(prompt);
@@ -112,9 +112,6 @@ void ConfirmDialog::showTarget(const QStringList &lines)
     target->setTabChangesFocus(true);
     target->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     target->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    target->setStyleSheet(u"QTextEdit { background-color: white; border: 1px solid #e5e7eb; "
-                          "border-radius: 8px; padding: 4px; color: #1e293b; font-size: 12px; }"
-                          "QTextEdit:focus { border-color: #3b82f6; }"_s);
     target->setPlainText(lines.join(u'\n'));
     target->ensurePolished();
     target->setFixedHeight(qMin(heightOf(*target, width() - 2 * Margin), MostTargetHeight));
@@ -123,7 +120,7 @@ void ConfirmDialog::showTarget(const QStringList &lines)
 
 void ConfirmDialog::addNotice(const QString &text)
 {
-    QLabel *const notice = centredLabel(text, u"color: #92400e;"_s);
+    QLabel *const notice = centredLabel(text);
     notice->setObjectName(u"dialogNotice"_s);
     notice->setTextFormat(Qt::PlainText);
     notice->setWordWrap(true);

@@ -20,23 +20,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString &treeStyle()
-{
-    static const QString style =
-        u"QTreeWidget { background-color: white; border: 1px solid #e2e8f0; border-radius: 12px;"
-        " outline: none; }"
-        "QTreeWidget:focus { border-color: #3b82f6; }"
-        "QTreeWidget::item { padding: 12px 8px; border-bottom: 1px solid #f1f5f9; }"
-        "QTreeWidget::item:hover { background-color: #f8fafc; }"
-        "QTreeWidget::item:selected { background-color: #eff6ff; color: #1e40af; }"
-        "QTreeWidget::item:focus:!selected { border-bottom: 1px solid #3b82f6; }"
-        "QHeaderView::section { background-color: #f8fafc; border: none; border-bottom: 2px solid #e2e8f0;"
-        " padding: 12px 8px; font-weight: 600; color: #64748b; font-size: 13px; }"
-        "QTreeWidget::branch:has-children:closed { image: url(:/icons/arrow-right.svg); }"
-        "QTreeWidget::branch:has-children:open { image: url(:/icons/arrow-down.svg); }"_s;
-    return style;
-}
-
 const QString &warningStyle()
 {
     static const QString style =
@@ -92,7 +75,6 @@ void DiskSelectPage::createTree()
     m_tree->setRootIsDecorated(true);
     m_tree->setAnimated(true);
     m_tree->setMinimumHeight(350);
-    m_tree->setStyleSheet(treeStyle());
     // onItemDoubleClicked() does it; both together would undo each other.
     m_tree->setExpandsOnDoubleClick(false);
 

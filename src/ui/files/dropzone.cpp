@@ -19,8 +19,6 @@ DropZone::DropZone(const QString &hint, const QString &action, QWidget *parent)
 {
     setObjectName(u"dropZone"_s);
     setAcceptDrops(true);
-    setStyleSheet(u"#dropZone { background-color: white; border: 2px dashed #cbd5e1; border-radius: 12px; }"
-                  "#dropZone[dragOver=\"true\"] { border-color: #3b82f6; background-color: #eff6ff; }"_s);
     createButton(action);
     createLoading();
     createLayout();
@@ -34,26 +32,17 @@ void DropZone::createButton(const QString &action)
     m_plus->setFixedSize(70, 70);
     m_plus->setCursor(Qt::PointingHandCursor);
     m_plus->setAccessibleName(spokenText(action));
-    m_plus->setStyleSheet(u"QPushButton { background-color: #3b82f6; border: none; border-radius: 14px;"
-                          " color: white; font-size: 32px; font-weight: bold; padding: 0; }"
-                          "QPushButton:hover { background-color: #2563eb; }"
-                          "QPushButton:pressed { background-color: #1d4ed8; }"
-                          "QPushButton:focus { border: 2px solid #1e3a8a; outline: none; }"_s);
     m_hint->setObjectName(u"dropHint"_s);
-    m_hint->setStyleSheet(u"font-size: 14px; color: #64748b;"_s);
 }
 
 void DropZone::createLoading()
 {
     m_loading->setObjectName(u"loadingLabel"_s);
-    m_loading->setStyleSheet(u"font-size: 15px; color: #3b82f6;"_s);
     m_loading->setTextFormat(Qt::PlainText);
     m_progress->setObjectName(u"loadingProgress"_s);
     m_progress->setFixedSize(300, 6);
     m_progress->setTextVisible(false);
     m_progress->setRange(0, 0);
-    m_progress->setStyleSheet(u"QProgressBar { background-color: #e5e7eb; border: none; border-radius: 3px; }"
-                              "QProgressBar::chunk { background-color: #3b82f6; border-radius: 3px; }"_s);
 }
 
 void DropZone::createLayout()

@@ -22,12 +22,6 @@ FileListWidget::FileListWidget(QWidget *parent)
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setAcceptDrops(true);
     viewport()->setAcceptDrops(true);
-    setStyleSheet(u"QListWidget { background-color: white; border: 1px solid #e2e8f0; border-radius: 12px;"
-                  " outline: none; }"
-                  "QListWidget:focus { border-color: #3b82f6; }"
-                  "QListWidget::item { padding: 10px 12px; border-bottom: 1px solid #f1f5f9; }"
-                  "QListWidget::item:selected { background-color: #eff6ff; color: #1e40af; }"
-                  "QListWidget::item:focus:!selected { border-bottom: 1px solid #3b82f6; }"_s);
 }
 
 void FileListWidget::append(const QList<FileEntry> &entries)

@@ -35,7 +35,7 @@ public:
     WaitCursor &operator=(const WaitCursor &) = delete;
 };
 
-QPushButton *createToolButton(const QString &text, const QString &name, const QString &styleSheet)
+QPushButton *createToolButton(const QString &text, const QString &name, const QString &styleSheet = {})
 {
     auto *button = new QPushButton(text);
     button->setObjectName(name);
@@ -55,17 +55,6 @@ const QString &addStyle()
     return style;
 }
 
-const QString &removeStyle()
-{
-    static const QString style =
-        u"QPushButton {  background-color: white;  border: 1px solid #fecaca;  border-radius: 6px;"
-        "  padding: 6px 12px;  color: #ef4444;  font-size: 12px;}"
-        "QPushButton:hover { background-color: #fef2f2; }"
-        "QPushButton:focus { border-color: #ef4444; outline: none; }"
-        "QPushButton:disabled { border-color: #e2e8f0; color: #9ca3af; }"_s;
-    return style;
-}
-
 } // namespace
 
 FileSelectPage::FileSelectPage(QWidget *parent)
@@ -75,8 +64,8 @@ FileSelectPage::FileSelectPage(QWidget *parent)
     , m_toolRow(new QWidget)
     , m_addFiles(createToolButton(tr("📄 Add Files"), u"addFilesBtn"_s, addStyle()))
     , m_addFolder(createToolButton(tr("📁 Add Folder"), u"addFolderBtn"_s, addStyle()))
-    , m_remove(createToolButton(tr("Remove"), u"removeBtn"_s, removeStyle()))
-    , m_clearAll(createToolButton(tr("Clear All"), u"clearAllBtn"_s, removeStyle()))
+    , m_remove(createToolButton(tr("Remove"), u"removeBtn"_s))
+    , m_clearAll(createToolButton(tr("Clear All"), u"clearAllBtn"_s))
     , m_stack(new QStackedWidget)
     , m_dropZone(new DropZone(tr("Click to add files or drag files here"), tr("📄 Add Files")))
     , m_list(new FileListWidget)
@@ -92,7 +81,6 @@ FileSelectPage::FileSelectPage(QWidget *parent)
     m_stats->setObjectName(u"fileStats"_s);
     m_stats->setStyleSheet(u"font-size: 13px; color: #64748b;"_s);
     m_missing->setObjectName(u"missingLabel"_s);
-    m_missing->setStyleSheet(u"font-size: 13px; color: #ef4444;"_s);
     m_missing->hide();
     for (QLabel *label : {m_stats, m_missing}) {
         label->setTextFormat(Qt::PlainText);
@@ -188,12 +176,19 @@ void FileSelectPage::setToolRowVisible(bool visible)
     m_toolRow->setVisible(visible);
 }
 
+void FileSelectPage::setMode(Mode mode)
+{
+    m_mode = mode;
+    if (mode != Mode::Loading)
+        m_dropZone->hideLoading();
+    m_toolRow->setVisible(mode == Mode::Choosing);
+}
+
 void FileSelectPage::showLoading(const QString &text)
 {
-    m_isLoading = true;
+    setMode(Mode::Loading);
     m_stack->setCurrentIndex(DropZoneView);
     m_dropZone->showLoading(text);
-    m_toolRow->hide();
     m_next->setEnabled(false);
     m_stats->setText(text);
 }
@@ -206,9 +201,7 @@ void FileSelectPage::updateLoadingProgress(int current, int total, const QString
 
 void FileSelectPage::hideLoading()
 {
-    m_isLoading = false;
-    m_dropZone->hideLoading();
-    m_toolRow->show();
+    setMode(Mode::Choosing);
 }
 
 int FileSelectPage::addPaths(const QStringList &paths)
@@ -235,7 +228,7 @@ int FileSelectPage::addPaths(const QStringList &paths)
 
 void FileSelectPage::addDropped(const QStringList &paths)
 {
-    if (m_isLoading || m_isReadOnly)
+    if (m_mode != Mode::Choosing)
         return;
     const int missing = addPaths(paths);
     if (missing == 0)
@@ -279,10 +272,10 @@ void FileSelectPage::onRemoveSelectedClicked()
     updateStats();
 }
 
-// A list that is only shown stays: its content is erased whatever the list says.
+// The content of a list that is only shown is erased, also without its row in the list.
 void FileSelectPage::onDeletePressed()
 {
-    if (!m_isReadOnly && m_remove->isEnabled())
+    if (m_mode == Mode::Choosing && m_remove->isEnabled())
         onRemoveSelectedClicked();
 }
 
@@ -325,7 +318,7 @@ bool FileSelectPage::eventFilter(QObject *watched, QEvent *event)
 
 bool FileSelectPage::handleDrag(QDropEvent &event)
 {
-    if (m_isLoading || m_isReadOnly) {
+    if (m_mode != Mode::Choosing) {
         event.ignore();
         return true;
     }

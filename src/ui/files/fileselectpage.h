@@ -16,8 +16,8 @@ class DropZone;
 class FileListWidget;
 
 /// Collects the files and folders to shred. The sizes of folders are summed up while the user waits. The
-/// window also shows the content of the Recycle Bin on it: it then fills list() by itself, files() knows
-/// nothing of those rows. Interface thread.
+/// main window also shows the content of the Recycle Bin here: it then fills list() itself, and files() does
+/// not contain those rows. Interface thread.
 class FileSelectPage : public QWidget
 {
     Q_OBJECT
@@ -26,7 +26,19 @@ public:
     /// Indexes in stack().
     enum View { DropZoneView = 0, ListView = 1 };
 
+    /// Decides what the page shows beside its list, and whether it takes drops and removals.
+    enum class Mode {
+        Choosing, ///< the user adds and removes files
+        Loading,  ///< only the progress of a search is shown
+        Listing,  ///< the rows belong to the window and cannot be changed
+    };
+
     explicit FileSelectPage(QWidget *parent = nullptr);
+
+    Mode mode() const { return m_mode; }
+    /// Shows the tool row in Mode::Choosing only. Mode::Loading is entered by showLoading(), which has its
+    /// text.
+    void setMode(Mode mode);
 
     /// The paths as given, in the order of the list.
     QStringList files() const;
@@ -36,11 +48,8 @@ public:
     /// An empty subtitle leaves the one that is shown.
     void setHeader(const QString &title, const QString &subtitle);
     void setToolRowVisible(bool visible);
-    /// A read-only page takes no drops: its rows are the window's.
-    void setReadOnly(bool readOnly) { m_isReadOnly = readOnly; }
 
-    /// From showLoading() to hideLoading() the page only shows how far a search is and takes no drops.
-    /// hideLoading() leaves the button Next as it is.
+    /// Enters Mode::Loading; hideLoading() leads back to Mode::Choosing and leaves the button Next as it is.
     void showLoading(const QString &text);
     void updateLoadingProgress(int current, int total, const QString &text);
     void hideLoading();
@@ -80,8 +89,7 @@ private:
 
     QList<FileEntry> m_entries;
     QSet<QString> m_paths; // of m_entries
-    bool m_isLoading = false;
-    bool m_isReadOnly = false;
+    Mode m_mode = Mode::Choosing;
 
     QLabel *m_title;
     QLabel *m_subtitle;

@@ -1,7 +1,6 @@
 #include "ui/home/featurecard.h"
 
 #include "ui/home/accessiblecard.h"
-#include "ui/home/cardpainting.h"
 #include "ui/style/palette.h"
 
 #include <QFrame>
@@ -12,7 +11,6 @@
 #include <QPainter>
 #include <QVBoxLayout>
 
-#include <array>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -24,9 +22,6 @@ constexpr int IconSize = 36;
 constexpr int TextSpacing = 6;
 constexpr int EmblemSize = 168;
 constexpr double EmblemOpacity = 0.10;
-
-constexpr std::array<QColor, 4> accents{QColor(0x3b, 0x82, 0xf6), QColor(0x22, 0xc5, 0x5e),
-                                        QColor(0xa8, 0x55, 0xf7), QColor(0xef, 0x44, 0x44)};
 
 QColor translucent(QColor colour, int alpha)
 {
@@ -54,7 +49,7 @@ QLabel *wrappingLabel(const QString &text, const QString &name, QWidget *parent)
 
 FeatureCard::FeatureCard(const QString &iconPath, const QString &title, const QString &description, int index,
                          QWidget *parent)
-    : QWidget(parent)
+    : Card(parent)
     , m_iconPath(iconPath)
     , m_title(title)
     , m_description(description)
@@ -63,6 +58,7 @@ FeatureCard::FeatureCard(const QString &iconPath, const QString &title, const QS
     AccessibleCard::install();
     setCursor(Qt::PointingHandCursor);
     setFocusPolicy(Qt::StrongFocus);
+    setFocusHolder(*this);
     setAccessibleName(m_title);
     setAccessibleDescription(m_description);
     createWidgets();
@@ -141,27 +137,13 @@ QBoxLayout *FeatureCard::tallLayout() const
 
 QColor FeatureCard::accent() const
 {
-    const int last = static_cast<int>(accents.size()) - 1;
-    return accents.at(static_cast<std::size_t>(qBound(0, m_index, last)));
+    const int last = static_cast<int>(palette::CardAccents.size()) - 1;
+    return palette::CardAccents.at(static_cast<std::size_t>(qBound(0, m_index, last)));
 }
 
 void FeatureCard::click()
 {
     emit clicked();
-}
-
-void FeatureCard::enterEvent(QEnterEvent *event)
-{
-    m_hovered = true;
-    update();
-    QWidget::enterEvent(event);
-}
-
-void FeatureCard::leaveEvent(QEvent *event)
-{
-    m_hovered = false;
-    update();
-    QWidget::leaveEvent(event);
 }
 
 void FeatureCard::mousePressEvent(QMouseEvent *event)
@@ -183,22 +165,9 @@ void FeatureCard::keyPressEvent(QKeyEvent *event)
     const bool isPress =
         event->key() == Qt::Key_Space || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (!isPress)
-        QWidget::keyPressEvent(event);
+        Card::keyPressEvent(event);
     else if (!event->isAutoRepeat())
         click();
-}
-
-void FeatureCard::focusInEvent(QFocusEvent *event)
-{
-    m_focusFrame = cards::showsFocusFrame(event->reason(), m_focusFrame);
-    QWidget::focusInEvent(event);
-    update();
-}
-
-void FeatureCard::focusOutEvent(QFocusEvent *event)
-{
-    QWidget::focusOutEvent(event);
-    update();
 }
 
 // Fills the lower part of a tall card, where there are no texts.
@@ -213,12 +182,10 @@ void FeatureCard::paintEmblem(QPainter &painter) const
 void FeatureCard::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    cards::paintFace(painter, rect(), {Qt::white, palette::Border});
-    if (m_hovered)
-        cards::paintFace(painter, rect(),
-                         {translucent(accent().lighter(125), 24), translucent(accent().lighter(110), 170)});
+    paintFace(painter, {palette::Surface, palette::Border});
+    if (isHovered())
+        paintFace(painter, {translucent(accent().lighter(125), 24), translucent(accent().lighter(110), 170)});
     if (!m_compact)
         paintEmblem(painter);
-    if (hasFocus() && m_focusFrame)
-        cards::paintFocusFrame(painter, rect(), accent());
+    paintFocusFrame(painter, accent());
 }

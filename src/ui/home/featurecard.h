@@ -1,7 +1,8 @@
 #pragma once
 
+#include "ui/cards/card.h"
+
 #include <QString>
-#include <QWidget>
 
 QT_FORWARD_DECLARE_CLASS(QBoxLayout)
 QT_FORWARD_DECLARE_CLASS(QFrame)
@@ -9,7 +10,7 @@ QT_FORWARD_DECLARE_CLASS(QLabel)
 
 /// One kind of wipe on the home page: icon, title, description. Clicked with the left mouse button, or with
 /// Space or Enter when it has the focus.
-class FeatureCard : public QWidget
+class FeatureCard : public Card
 {
     Q_OBJECT
 
@@ -29,13 +30,9 @@ signals:
     void clicked();
 
 protected:
-    void enterEvent(QEnterEvent *event) override;
-    void leaveEvent(QEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
-    void focusInEvent(QFocusEvent *event) override;
-    void focusOutEvent(QFocusEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:
@@ -51,9 +48,7 @@ private:
     QString m_description;
     int m_index;
     bool m_compact = false;
-    bool m_hovered = false;
     bool m_pressed = false;
-    bool m_focusFrame = false;
     QFrame *m_frame = nullptr;
     QWidget *m_iconWidget = nullptr;
     QLabel *m_titleLabel = nullptr;

@@ -41,8 +41,6 @@ QWidget *HomePage::makeHeadline() const
     auto *const headline = new QLabel(tr("Destroy Data Permanently. No Leaks."));
     headline->setObjectName(u"pageTitle"_s);
     headline->setWordWrap(true);
-    headline->setStyleSheet(u"font-size: 23px; font-weight: bold; color: #1e293b; "
-                            "background: transparent; padding: 0px; margin: 0px;"_s);
     return headline;
 }
 

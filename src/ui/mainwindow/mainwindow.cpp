@@ -16,6 +16,7 @@
 #include "ui/methods/methodselectpage.h"
 #include "ui/progress/progresspage.h"
 #include "ui/settings/settingspage.h"
+#include "ui/style/palette.h"
 #include "ui/titlebar/programrestart.h"
 #include "ui/titlebar/titlebar.h"
 #include "ui/titlebar/winbutton.h"
@@ -100,7 +101,7 @@ void MainWindow::createLayout()
     container->setAttribute(Qt::WA_StyledBackground);
     container->setStyleSheet(u"#mainContainer {  background-color: #f8fafc;  border-radius: 12px;}"_s);
     auto *outer = new ShadowCanvas(
-        {.cornerRadius = 12, .blurRadius = 20, .offset = 5, .colour = {0, 0, 0, 60}}, container);
+        {.cornerRadius = 12, .blurRadius = 20, .offset = 5, .colour = palette::WindowShadow}, container);
     setCentralWidget(outer);
     m_outerLayout = new QVBoxLayout(outer);
     m_outerLayout->setContentsMargins(10, 10, 10, 10);

@@ -95,8 +95,7 @@ void RecycleBinFlow::show(const RecycleBinInfo &found)
     m_loadedCount = 0;
 
     m_page.statsLabel()->setText((QStringList{amountOf(found)} + besideItems(found)).join(u'\n'));
-    m_page.setReadOnly(true);
-    m_page.setToolRowVisible(false);
+    m_page.setMode(FileSelectPage::Mode::Listing);
     m_page.nextButton()->setEnabled(true);
     m_page.stack()->setCurrentIndex(FileSelectPage::ListView);
     QScrollBar *bar = m_page.list()->verticalScrollBar();
@@ -156,9 +155,7 @@ void RecycleBinFlow::leave()
     disconnect(bar, &QScrollBar::rangeChanged, this, &RecycleBinFlow::fillList);
     m_found = {};
     m_loadedCount = 0;
-    m_page.setReadOnly(false);
-    m_page.setToolRowVisible(true);
-    m_page.hideLoading();
+    m_page.setMode(FileSelectPage::Mode::Choosing);
     m_page.setHeader(Window::tr("Select Files to Shred"),
                      Window::tr("Click buttons to add files and folders"));
 }

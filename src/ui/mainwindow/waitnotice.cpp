@@ -13,7 +13,6 @@ WaitNotice::WaitNotice(QWidget &over, const QString &text)
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     m_label->setObjectName(u"waitNotice"_s);
     m_label->setAlignment(Qt::AlignCenter);
-    m_label->setStyleSheet(u"background-color: #f0f5fe; color: #475569; font-size: 16px;"_s);
     m_label->setGeometry(over.rect());
     m_label->show();
     m_label->raise();

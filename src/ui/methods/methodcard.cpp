@@ -1,8 +1,7 @@
 #include "ui/methods/methodcard.h"
 
-#include "ui/home/cardpainting.h"
+#include "ui/style/palette.h"
 
-#include <QFocusEvent>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
@@ -16,22 +15,10 @@ namespace {
 
 constexpr int CardHeight = 80;
 
-QString badgeColour(int level)
+QColor badgeColour(int level)
 {
-    switch (level) {
-    case 1:
-        return u"#22c55e"_s;
-    case 2:
-        return u"#84cc16"_s;
-    case 3:
-        return u"#eab308"_s;
-    case 4:
-        return u"#f97316"_s;
-    case 5:
-        return u"#ef4444"_s;
-    default:
-        return u"#6b7280"_s;
-    }
+    const auto index = static_cast<std::size_t>(level) - 1;
+    return index < palette::LevelBadges.size() ? palette::LevelBadges.at(index) : palette::UnknownLevelBadge;
 }
 
 QLabel *makeLabel(const QString &text, const QString &name)
@@ -42,19 +29,10 @@ QLabel *makeLabel(const QString &text, const QString &name)
     return label;
 }
 
-cards::Face face(bool isChecked, bool isHovered)
-{
-    if (isChecked)
-        return {QColor(0xf0, 0xf7, 0xff), QColor(0x3b, 0x82, 0xf6), 2};
-    if (isHovered)
-        return {QColor(0xfa, 0xfb, 0xfc), QColor(0x94, 0xa3, 0xb8), 1};
-    return {QColor(0xff, 0xff, 0xff), QColor(0xd1, 0xd5, 0xdb), 1};
-}
-
 } // namespace
 
 MethodCard::MethodCard(const WipeMethod &method, QWidget *parent)
-    : QWidget(parent)
+    : Card(parent)
     , m_method(method)
 {
     setFixedHeight(CardHeight);
@@ -77,9 +55,7 @@ void MethodCard::createRadio(const QString &passes)
     m_radio->setAccessibleName(m_method.name);
     m_radio->setAccessibleDescription(
         u"%1, %2, %3"_s.arg(passes, m_method.levelName(), m_method.description));
-    // The card shows the focus.
-    m_radio->setStyleSheet(u"QRadioButton:focus { outline: none; }"_s);
-    m_radio->installEventFilter(this);
+    setFocusHolder(*m_radio);
 }
 
 QLayout *MethodCard::makeTexts(const QString &passes) const
@@ -106,22 +82,8 @@ QLabel *MethodCard::makeBadge() const
     badge->setAlignment(Qt::AlignCenter);
     badge->setFixedHeight(26);
     badge->setStyleSheet(u"background-color: %1;color: white;border-radius: 13px;font-weight: bold;"
-                         "font-size: 12px;padding: 0 12px;"_s.arg(badgeColour(m_method.level)));
+                         "font-size: 12px;padding: 0 12px;"_s.arg(badgeColour(m_method.level).name()));
     return badge;
-}
-
-void MethodCard::enterEvent(QEnterEvent *event)
-{
-    m_hovered = true;
-    update();
-    QWidget::enterEvent(event);
-}
-
-void MethodCard::leaveEvent(QEvent *event)
-{
-    m_hovered = false;
-    update();
-    QWidget::leaveEvent(event);
 }
 
 void MethodCard::mousePressEvent(QMouseEvent *event)
@@ -133,23 +95,27 @@ void MethodCard::mousePressEvent(QMouseEvent *event)
     emit clicked();
 }
 
+Card::Face MethodCard::face() const
+{
+    if (m_radio->isChecked())
+        return {palette::CardSelected, palette::Primary, 2};
+    if (isHovered())
+        return {palette::CardHovered, palette::FaintText, 1};
+    return {palette::Surface, palette::CardBorder, 1};
+}
+
 void MethodCard::paintEvent(QPaintEvent *event)
 {
     {
         QPainter painter(this);
-        cards::paintFace(painter, rect(), face(m_radio->isChecked(), m_hovered));
-        if (m_radio->hasFocus() && m_focusFrame)
-            cards::paintFocusFrame(painter, rect(), QColor(0x1d, 0x4e, 0xd8));
+        paintFace(painter, face());
+        paintFocusFrame(painter, palette::PrimaryPressed);
     }
-    QWidget::paintEvent(event);
+    Card::paintEvent(event);
 }
 
 bool MethodCard::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::FocusIn)
-        m_focusFrame = cards::showsFocusFrame(static_cast<QFocusEvent *>(event)->reason(), m_focusFrame);
-    if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut)
-        update();
     if (event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent *>(event)->key();
         if (key == Qt::Key_Return || key == Qt::Key_Enter) {
@@ -157,5 +123,5 @@ bool MethodCard::eventFilter(QObject *watched, QEvent *event)
             return true;
         }
     }
-    return QWidget::eventFilter(watched, event);
+    return Card::eventFilter(watched, event);
 }

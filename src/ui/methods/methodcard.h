@@ -1,8 +1,7 @@
 #pragma once
 
 #include "model/wipemethod.h"
-
-#include <QWidget>
+#include "ui/cards/card.h"
 
 QT_FORWARD_DECLARE_CLASS(QLabel)
 QT_FORWARD_DECLARE_CLASS(QLayout)
@@ -10,7 +9,7 @@ QT_FORWARD_DECLARE_CLASS(QRadioButton)
 
 /// One erasure standard to choose. A press anywhere on the card checks its radio button; the keyboard reaches
 /// the radio button itself.
-class MethodCard : public QWidget
+class MethodCard : public Card
 {
     Q_OBJECT
 
@@ -24,8 +23,6 @@ signals:
     void clicked();
 
 protected:
-    void enterEvent(QEnterEvent *event) override;
-    void leaveEvent(QEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -34,9 +31,8 @@ private:
     void createRadio(const QString &passes);
     QLayout *makeTexts(const QString &passes) const;
     QLabel *makeBadge() const;
+    Face face() const;
 
     WipeMethod m_method;
     QRadioButton *m_radio = nullptr;
-    bool m_hovered = false;
-    bool m_focusFrame = false;
 };

@@ -2,8 +2,10 @@
 
 #include "platform/wholefile.h"
 #include "ui/prompts/prompts.h"
+#include "ui/style/palette.h"
 
 #include <QClipboard>
+#include <QColor>
 #include <QDateTime>
 #include <QGuiApplication>
 #include <QPushButton>
@@ -17,7 +19,7 @@ namespace {
 
 struct Tag
 {
-    QString colour;
+    QColor colour;
     QString text;
 };
 
@@ -25,13 +27,13 @@ Tag tagOf(int level)
 {
     switch (level) {
     case 0:
-        return {u"#22c55e"_s, u"[INFO]"_s};
+        return {palette::Success, u"[INFO]"_s};
     case 1:
-        return {u"#eab308"_s, u"[WARN]"_s};
+        return {palette::Caution, u"[WARN]"_s};
     case 2:
-        return {u"#ef4444"_s, u"[ERROR]"_s};
+        return {palette::Error, u"[ERROR]"_s};
     default:
-        return {u"#94a3b8"_s, u"[LOG]"_s};
+        return {palette::FaintText, u"[LOG]"_s};
     }
 }
 
@@ -84,8 +86,9 @@ void LogWidget::addError(const QString &message)
 void LogWidget::addLine(const QString &message, int level)
 {
     const Tag tag = tagOf(level);
-    m_view->append(u"<span style='color: #64748b;'>[%1]</span> <span style='color: %2;'>%3</span> %4"_s.arg(
-        QTime::currentTime().toString(u"HH:mm:ss"), tag.colour, tag.text, message.toHtmlEscaped()));
+    m_view->append(u"<span style='color: %1;'>[%2]</span> <span style='color: %3;'>%4</span> %5"_s.arg(
+        palette::MutedText.name(), QTime::currentTime().toString(u"HH:mm:ss"), tag.colour.name(), tag.text,
+        message.toHtmlEscaped()));
     m_view->moveCursor(QTextCursor::End);
 }
 

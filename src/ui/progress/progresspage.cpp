@@ -2,7 +2,9 @@
 
 #include "model/spokentext.h"
 #include "ui/progress/wiperate.h"
+#include "ui/style/palette.h"
 
+#include <QColor>
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
@@ -21,7 +23,7 @@ constexpr int TickInterval = 1000; // milliseconds
 
 struct Mark
 {
-    QString colour;
+    QColor colour;
     QString sign;
 };
 
@@ -29,13 +31,13 @@ Mark markOf(int level)
 {
     switch (level) {
     case 0:
-        return {u"#22c55e"_s, u"✓"_s};
+        return {palette::Success, u"✓"_s};
     case 1:
-        return {u"#f59e0b"_s, u"⚠"_s};
+        return {palette::Warning, u"⚠"_s};
     case 2:
-        return {u"#ef4444"_s, u"✗"_s};
+        return {palette::Error, u"✗"_s};
     default:
-        return {u"#64748b"_s, u"•"_s};
+        return {palette::MutedText, u"•"_s};
     }
 }
 
@@ -206,8 +208,9 @@ void ProgressPage::setSpeed(double bytesPerSecond)
 void ProgressPage::addLog(const QString &message, int level)
 {
     const Mark mark = markOf(level);
-    m_log->append(u"<span style='color: #94a3b8;'>[%1]</span> <span style='color: %2;'>%3 %4</span>"_s.arg(
-        QTime::currentTime().toString(u"HH:mm:ss"), mark.colour, mark.sign, message));
+    m_log->append(u"<span style='color: %1;'>[%2]</span> <span style='color: %3;'>%4 %5</span>"_s.arg(
+        palette::FaintText.name(), QTime::currentTime().toString(u"HH:mm:ss"), mark.colour.name(), mark.sign,
+        message));
     m_log->moveCursor(QTextCursor::End);
 }
 

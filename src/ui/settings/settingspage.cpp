@@ -25,23 +25,11 @@ QCheckBox *createCheckBox(const QString &text, const QString &name)
 {
     auto *box = new QCheckBox(text);
     box->setObjectName(name);
-    box->setStyleSheet(
-        u"QCheckBox { spacing: 8px; font-size: 13px; }"
-        "QCheckBox::indicator { width: 16px; height: 16px; border: 2px solid #cbd5e1; border-radius: 4px;"
-        " background-color: white; }"
-        "QCheckBox::indicator:hover { border-color: #3b82f6; }"
-        "QCheckBox::indicator:checked { background-color: #3b82f6; border-color: #3b82f6; }"
-        "QCheckBox::indicator:checked:hover { background-color: #2563eb; border-color: #2563eb; }"_s);
     return box;
 }
 
 QVBoxLayout *createGroup(QGroupBox &group)
 {
-    group.setStyleSheet(
-        u"QGroupBox { font-weight: bold; font-size: 14px; color: #1e293b; border: 1px solid #e2e8f0;"
-        " border-radius: 8px; margin-top: 12px; padding-top: 8px; background-color: white; }"
-        "QGroupBox::title { subcontrol-origin: margin; left: 15px; padding: 0 8px;"
-        " background-color: white; }"_s);
     auto *layout = new QVBoxLayout(&group);
     layout->setContentsMargins(20, 25, 20, 20);
     layout->setSpacing(12);
@@ -105,21 +93,11 @@ QWidget *SettingsPage::createExportGroup()
     auto *label = new QLabel(tr("导出路径:"));
     label->setObjectName(u"exportPathLabel"_s);
     label->setBuddy(m_path);
-    label->setStyleSheet(u"font-size: 13px; font-weight: normal;"_s);
     m_path->setObjectName(u"exportPathEdit"_s);
     m_path->setPlaceholderText(tr("选择默认导出路径..."));
-    m_path->setStyleSheet(
-        u"QLineEdit { background-color: white; border: 1px solid #e2e8f0; border-radius: 6px;"
-        " padding: 6px 12px; font-size: 13px; }"
-        "QLineEdit:hover, QLineEdit:focus { border-color: #3b82f6; }"_s);
     m_browse->setObjectName(u"browseBtn"_s);
     m_browse->setFixedWidth(80);
     m_browse->setToolTip(tr("选择导出目录"));
-    // Little padding: translations have no more than these 80 pixels.
-    m_browse->setStyleSheet(u"QPushButton { background-color: #f1f5f9; border: 1px solid #e2e8f0;"
-                            " border-radius: 6px; padding: 6px 0; font-size: 12px; }"
-                            "QPushButton:hover { background-color: #e2e8f0; }"
-                            "QPushButton:focus { border-color: #3b82f6; outline: none; }"_s);
     connect(m_browse, &QPushButton::clicked, this, &SettingsPage::onBrowseExportPath);
 
     auto *row = new QHBoxLayout;
@@ -138,11 +116,6 @@ QBoxLayout *SettingsPage::createButtons()
 {
     auto *reset = new QPushButton(tr("恢复默认"));
     reset->setObjectName(u"resetBtn"_s);
-    reset->setStyleSheet(
-        u"QPushButton { background-color: white; border: 1px solid #e2e8f0; border-radius: 6px;"
-        " padding: 8px 20px; font-size: 13px; color: #64748b; }"
-        "QPushButton:hover { background-color: #f8fafc; border-color: #cbd5e1; }"
-        "QPushButton:focus { border-color: #3b82f6; outline: none; }"_s);
     auto *save = new QPushButton(tr("保存设置"));
     save->setObjectName(u"primaryBtn"_s);
     connect(reset, &QPushButton::clicked, this, &SettingsPage::onReset);

@@ -12,12 +12,13 @@ namespace pagestyle {
 
 namespace {
 
-void asNavigation(QPushButton &button, const QString &name, const QString &styleSheet)
+void asNavigation(QPushButton &button, const QString &name)
 {
     button.setObjectName(name);
+    // Chosen by the style sheet, which gives buttons of these names other looks elsewhere.
+    button.setProperty("navigation", true);
     button.setFixedSize(140, 45);
     button.setCursor(Qt::PointingHandCursor);
-    button.setStyleSheet(styleSheet);
     button.setAccessibleName(spokenText(button.text()));
 }
 
@@ -46,21 +47,12 @@ QSpacerItem *createGap()
 
 void asBack(QPushButton &button)
 {
-    asNavigation(button, u"secondaryBtn"_s,
-                 u"QPushButton { background-color: white; border: 1px solid #e2e8f0; border-radius: 8px;"
-                 " color: #475569; font-size: 14px; font-weight: 500; }"
-                 "QPushButton:hover { background-color: #f8fafc; border-color: #cbd5e1; }"
-                 "QPushButton:focus { border: 2px solid #3b82f6; outline: none; }"_s);
+    asNavigation(button, u"secondaryBtn"_s);
 }
 
 void asNext(QPushButton &button)
 {
-    asNavigation(button, u"primaryBtn"_s,
-                 u"QPushButton { background-color: #3b82f6; border: none; border-radius: 8px;"
-                 " color: white; font-size: 14px; font-weight: bold; }"
-                 "QPushButton:hover { background-color: #2563eb; }"
-                 "QPushButton:focus { border: 2px solid #1e3a8a; outline: none; }"
-                 "QPushButton:disabled { background-color: #94a3b8; }"_s);
+    asNavigation(button, u"primaryBtn"_s);
 }
 
 } // namespace pagestyle

@@ -22,22 +22,9 @@ namespace {
 constexpr int BarHeight = 40;
 constexpr QSize LogoSize(24, 24);
 
-// An item's width with padding and margin is the menu's 180: the menu does not stretch its items.
-const QString menuStyle =
-    u"QMenu { background-color: white; border: 1px solid #e2e8f0; border-radius: 8px; padding: 8px 4px; "
-    "min-width: 180px; }"
-    "QMenu::item { min-width: 140px; padding: 10px 16px; border-radius: 6px; margin: 2px 4px; color: "
-    "#334155; }"
-    "QMenu::item:selected { background-color: #f1f5f9; color: #1e293b; }"
-    "QMenu::indicator { width: 16px; height: 16px; left: 10px; }"
-    "QMenu::indicator:checked { image: url(:/icons/menu-check.svg); }"
-    "QMenu::right-arrow { image: url(:/icons/arrow-right.svg); width: 12px; height: 12px; right: 8px; }"
-    "QMenu::separator { height: 1px; background-color: #e2e8f0; margin: 6px 8px; }"_s;
-
 void dress(QMenu &menu, const QString &name)
 {
     menu.setObjectName(name);
-    menu.setStyleSheet(menuStyle);
     // Outside the rounded corners there is nothing.
     menu.setWindowFlags(menu.windowFlags() | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint);
     menu.setAttribute(Qt::WA_TranslucentBackground);
@@ -69,7 +56,6 @@ void TitleBar::addName(QBoxLayout *layout)
     auto *const logo = new QLabel;
     logo->setObjectName(u"titleLogo"_s);
     logo->setFixedSize(LogoSize);
-    logo->setStyleSheet(u"background: transparent;"_s);
     logo->setPixmap(QIcon(u":/icons/logo.png"_s).pixmap(LogoSize, devicePixelRatio()));
     layout->addWidget(logo);
     layout->addSpacing(10);

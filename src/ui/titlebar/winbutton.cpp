@@ -1,5 +1,7 @@
 #include "ui/titlebar/winbutton.h"
 
+#include "ui/style/palette.h"
+
 #include <QLineF>
 #include <QPainter>
 #include <QPainterPath>
@@ -9,10 +11,6 @@ namespace {
 constexpr QSize ButtonSize(46, 40);
 constexpr double GlyphSize = 10.0;
 constexpr double RestoreOffset = 3.0;
-constexpr QColor GlyphColour(0x94, 0xa3, 0xb8);
-constexpr QColor HoverColour(255, 255, 255, 30);
-constexpr QColor CloseHoverColour(0xe8, 0x11, 0x23);
-constexpr QColor FocusColour(0x60, 0xa5, 0xfa);
 
 } // namespace
 
@@ -52,16 +50,16 @@ void WinButton::paintEvent(QPaintEvent *)
     // Half a pixel off, thin lines fall on whole pixels.
     painter.translate(0.5, 0.5);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(GlyphColour, 1.0));
+    painter.setPen(QPen(palette::FaintText, 1.0));
     paintGlyph(painter);
 }
 
 void WinButton::paintBackground(QPainter &painter) const
 {
     if (underMouse())
-        painter.fillRect(rect(), m_kind == Close ? CloseHoverColour : HoverColour);
+        painter.fillRect(rect(), m_kind == Close ? palette::CaptionCloseHovered : palette::CaptionHovered);
     if (hasFocus()) {
-        painter.setPen(QPen(FocusColour, 2));
+        painter.setPen(QPen(palette::CaptionFocus, 2));
         painter.drawRect(rect().adjusted(3, 3, -3, -3));
     }
 }

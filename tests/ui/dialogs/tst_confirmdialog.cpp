@@ -1,6 +1,9 @@
 #include "support/suite.h"
 #include "ui/dialogs/confirmdialog.h"
 
+#include "ui/style/programsheet.h"
+#include "ui/style/uiresources.h"
+
 #include <QApplication>
 #include <QCheckBox>
 #include <QClipboard>
@@ -39,6 +42,7 @@ class tst_ConfirmDialog : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase() { addUiResources(); }
     void isModalAndOfFixedSize();
     void showsItsTexts();
     void showsItsButtons();
@@ -283,7 +287,9 @@ void tst_ConfirmDialog::showsTheTarget_data()
 void tst_ConfirmDialog::showsTheTarget()
 {
     QFETCH(const QStringList, lines);
-    ConfirmDialog dialog(nullptr);
+    QWidget window;
+    window.setStyleSheet(programSheet());
+    ConfirmDialog dialog(&window);
     dialog.showTarget(lines);
     dialog.show();
     QVERIFY(QTest::qWaitForWindowActive(&dialog));

@@ -3,6 +3,8 @@
 
 #include "support/scriptedprompts.h"
 #include "support/testfiles.h"
+#include "ui/style/programsheet.h"
+#include "ui/style/uiresources.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -53,6 +55,7 @@ struct Shown
 
     Shown()
     {
+        page.setStyleSheet(programSheet());
         page.resize(720, 600);
         page.show();
     }
@@ -132,6 +135,7 @@ class tst_FileSelectPage : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase() { addUiResources(); }
     void init();
 
     void everyTextIsAsWritten();
@@ -177,6 +181,8 @@ private slots:
 
     void theHeaderCanBeChanged();
     void loadingHidesWhatCannotBeUsed();
+    void eachModeShowsItsParts_data();
+    void eachModeShowsItsParts();
     void loadingTellsHowFarItIs();
     void afterLoadingThePageIsAsBefore();
     void theToolRowCanBeHidden();
@@ -482,7 +488,7 @@ void tst_FileSelectPage::aReadOnlyPageTakesNoDrops()
 {
     const QString file = written(u"a"_s);
     Shown shown;
-    shown.page.setReadOnly(true);
+    shown.page.setMode(FileSelectPage::Mode::Listing);
     for (QWidget *target : {&shown.dropZone, static_cast<QWidget *>(&shown.list), shown.list.viewport()}) {
         Drag drag(*target);
         drag.setFiles({file});
@@ -490,7 +496,7 @@ void tst_FileSelectPage::aReadOnlyPageTakesNoDrops()
         QVERIFY(!drag.drop());
     }
     QVERIFY(shown.page.files().isEmpty());
-    shown.page.setReadOnly(false);
+    shown.page.setMode(FileSelectPage::Mode::Choosing);
     Drag drag(shown.dropZone);
     drag.setFiles({file});
     QVERIFY(drag.enter());
@@ -565,7 +571,7 @@ void tst_FileSelectPage::aDropPastTheWidgetsIsTakenWhereOthersAre()
     shown.page.showLoading(u"..."_s);
     shown.page.addDropped({one, path(u"gone"_s)});
     shown.page.hideLoading();
-    shown.page.setReadOnly(true);
+    shown.page.setMode(FileSelectPage::Mode::Listing);
     shown.page.addDropped({one, path(u"gone"_s)});
     QCOMPARE(shown.page.files(), QStringList());
     QVERIFY(missing.isHidden());
@@ -655,7 +661,7 @@ void tst_FileSelectPage::deleteLeavesAListThatIsOnlyShown()
     Shown shown;
     QVERIFY(QTest::qWaitForWindowActive(&shown.page));
     shown.click(shown.addFiles);
-    shown.page.setReadOnly(true);
+    shown.page.setMode(FileSelectPage::Mode::Listing);
     shown.clickRow(0);
     QTest::keyClick(&shown.list, Qt::Key_Delete);
     QCOMPARE(shown.list.count(), 1);
@@ -758,6 +764,28 @@ void tst_FileSelectPage::loadingHidesWhatCannotBeUsed()
     QCOMPARE(shown.stats.text(), u"Scanning Recycle Bin..."_s);
     QCOMPARE(shown.progress.minimum(), 0);
     QCOMPARE(shown.progress.maximum(), 0);
+}
+
+void tst_FileSelectPage::eachModeShowsItsParts_data()
+{
+    QTest::addColumn<FileSelectPage::Mode>("mode");
+    QTest::newRow("choosing") << FileSelectPage::Mode::Choosing;
+    QTest::newRow("listing") << FileSelectPage::Mode::Listing;
+}
+
+void tst_FileSelectPage::eachModeShowsItsParts()
+{
+    QFETCH(const FileSelectPage::Mode, mode);
+    Shown shown;
+    QCOMPARE(shown.page.mode(), FileSelectPage::Mode::Choosing);
+    shown.page.showLoading(u"Scanning"_s);
+    QCOMPARE(shown.page.mode(), FileSelectPage::Mode::Loading);
+    shown.page.setMode(mode);
+    QCOMPARE(shown.page.mode(), mode);
+    QVERIFY(!shown.loading.isVisible() && !shown.progress.isVisible());
+    QCOMPARE(shown.toolRow.isVisible(), mode == FileSelectPage::Mode::Choosing);
+    shown.page.hideLoading();
+    QCOMPARE(shown.page.mode(), FileSelectPage::Mode::Choosing);
 }
 
 void tst_FileSelectPage::loadingTellsHowFarItIs()

@@ -7,6 +7,7 @@
 #include "support/scriptedprompts.h"
 #include "support/testfiles.h"
 #include "support/userdata.h"
+#include "ui/style/programsheet.h"
 #include "ui/style/uiresources.h"
 
 #include <QAbstractItemView>
@@ -386,7 +387,7 @@ void tst_HistoryPage::theFilterShowsWholeWords()
     // With it the popup is a list below the box, and not a menu over it.
     addUiResources();
     Shown shown;
-    shown.page.setStyleSheet(QString::fromUtf8(contentOf(u":/styles/style.qss"_s)));
+    shown.page.setStyleSheet(programSheet());
     shown.filter.setItemText(2, u"a status of many long words"_s);
     QCOMPARE(shown.filter.width(), 100);
     shown.filter.showPopup();

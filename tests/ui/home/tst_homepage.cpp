@@ -2,6 +2,8 @@
 #include "ui/home/homepage.h"
 
 #include "ui/home/featurecard.h"
+#include "ui/style/palette.h"
+#include "ui/style/programsheet.h"
 #include "ui/style/uiresources.h"
 
 #include <QApplication>
@@ -62,8 +64,11 @@ void tst_HomePage::showsTheHeadline()
 {
     const auto *const title = m_page->findChild<QLabel *>(u"pageTitle"_s);
     QCOMPARE(title->text(), u"Destroy Data Permanently. No Leaks."_s);
-    QCOMPARE(title->styleSheet(), u"font-size: 23px; font-weight: bold; color: #1e293b; "
-                                  "background: transparent; padding: 0px; margin: 0px;"_s);
+    m_page->setStyleSheet(programSheet());
+    title->ensurePolished();
+    QCOMPARE(title->font().pixelSize(), 23);
+    QVERIFY(title->font().bold());
+    QCOMPARE(title->palette().color(QPalette::WindowText), palette::Text);
     QCOMPARE(m_page->layout()->contentsMargins(), QMargins(30, 30, 30, 30));
     m_page->grab();
     QCOMPARE(title->y(), 30);

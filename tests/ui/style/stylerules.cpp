@@ -1,7 +1,12 @@
 #include "ui/style/stylerules.h"
 
-StyleRules::StyleRules(const QString &sheet)
+#include <QRegularExpression>
+
+StyleRules::StyleRules(const QString &text)
 {
+    static const QRegularExpression comment(QStringLiteral("/\\*.*?\\*/"),
+                                            QRegularExpression::DotMatchesEverythingOption);
+    const QString sheet = QString(text).remove(comment);
     if (!sheet.contains(u'{')) {
         m_rules.insert(QString(), declarationsOf(sheet));
         return;

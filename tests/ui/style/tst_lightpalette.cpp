@@ -1,7 +1,7 @@
 #include "support/suite.h"
 #include "ui/style/lightpalette.h"
 
-#include "support/testfiles.h"
+#include "ui/style/programsheet.h"
 #include "ui/style/uiresources.h"
 
 #include <QApplication>
@@ -107,7 +107,7 @@ QImage tst_LightPalette::pictureOn(const QPalette &desktop, const Maker &make) c
     QApplication::setPalette(desktop);
     QApplication::setPalette(lightPalette());
     QWidget window;
-    window.setStyleSheet(QString::fromUtf8(contentOf(u":/styles/style.qss"_s)));
+    window.setStyleSheet(programSheet());
     const std::unique_ptr<QDialog> dialog = make(&window);
     dialog->resize(640, 480);
     return dialog->grab().toImage();

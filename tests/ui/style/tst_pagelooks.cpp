@@ -1,5 +1,6 @@
 #include "support/suite.h"
 #include "support/temporarysettings.h"
+#include "ui/style/programsheet.h"
 #include "ui/style/stylerules.h"
 
 #include "ui/dialogs/confirmdialog.h"
@@ -87,33 +88,37 @@ void tst_PageLooks::aPartHasItsStyle_data()
     };
 
     const Maker disks = page<DiskSelectPage>();
-    row("disks", disks, u"diskTree"_s, u"QTreeWidget"_s,
-        u"background-color: white; border: 1px solid #e2e8f0; border-radius: 12px; outline: none"_s);
-    row("disks", disks, u"diskTree"_s, u"QTreeWidget::item"_s,
+    row("disks", disks, u"diskTree"_s, u"#diskTree"_s,
+        u"background-color: #ffffff; border: 1px solid #e2e8f0; border-radius: 12px; outline: none"_s);
+    row("disks", disks, u"diskTree"_s, u"#diskTree::item"_s,
         u"padding: 12px 8px; border-bottom: 1px solid #f1f5f9"_s);
-    row("disks", disks, u"diskTree"_s, u"QTreeWidget::item:hover"_s, u"background-color: #f8fafc"_s);
-    row("disks", disks, u"diskTree"_s, u"QTreeWidget::item:selected"_s,
+    row("disks", disks, u"diskTree"_s, u"#diskTree::item:hover"_s, u"background-color: #f8fafc"_s);
+    row("disks", disks, u"diskTree"_s, u"#diskTree::item:selected"_s,
         u"background-color: #eff6ff; color: #1e40af"_s);
-    row("disks", disks, u"diskTree"_s, u"QHeaderView::section"_s,
+    row("disks", disks, u"diskTree"_s, u"#diskTree QHeaderView::section"_s,
         u"background-color: #f8fafc; border: none; border-bottom: 2px solid #e2e8f0; padding: 12px 8px;"
         "font-weight: 600; color: #64748b; font-size: 13px"_s);
-    row("disks", disks, u"diskTree"_s, u"QTreeWidget::branch:has-children:closed"_s,
+    row("disks", disks, u"diskTree"_s, u"#diskTree::branch:has-children:closed"_s,
         u"image: url(:/icons/arrow-right.svg)"_s);
-    row("disks", disks, u"diskTree"_s, u"QTreeWidget::branch:has-children:open"_s,
+    row("disks", disks, u"diskTree"_s, u"#diskTree::branch:has-children:open"_s,
         u"image: url(:/icons/arrow-down.svg)"_s);
 
     const Maker files = page<FileSelectPage>();
     for (const auto &[tag, either] : {std::pair("disks", disks), std::pair("files", files)}) {
-        row(tag, either, u"secondaryBtn"_s, u"QPushButton"_s,
-            u"background-color: white; border: 1px solid #e2e8f0; border-radius: 8px; color: #475569;"
-            "font-size: 14px; font-weight: 500"_s);
-        row(tag, either, u"secondaryBtn"_s, u"QPushButton:hover"_s,
+        row(tag, either, u"secondaryBtn"_s, u"#secondaryBtn"_s,
+            u"border-radius: 8px; font-size: 14px; font-weight: 500"_s);
+        row(tag, either, u"secondaryBtn"_s, u"#secondaryBtn[navigation=\"true\"]"_s,
+            u"background-color: #ffffff; border: 1px solid #e2e8f0; color: #475569"_s);
+        row(tag, either, u"secondaryBtn"_s, u"#secondaryBtn[navigation=\"true\"]:hover"_s,
             u"background-color: #f8fafc; border-color: #cbd5e1"_s);
-        row(tag, either, u"primaryBtn"_s, u"QPushButton"_s,
-            u"background-color: #3b82f6; border: none; border-radius: 8px; color: white; font-size: 14px;"
-            "font-weight: bold"_s);
-        row(tag, either, u"primaryBtn"_s, u"QPushButton:hover"_s, u"background-color: #2563eb"_s);
-        row(tag, either, u"primaryBtn"_s, u"QPushButton:disabled"_s, u"background-color: #94a3b8"_s);
+        row(tag, either, u"primaryBtn"_s, u"#primaryBtn"_s,
+            u"border-radius: 8px; color: #ffffff; font-size: 14px; font-weight: bold"_s);
+        row(tag, either, u"primaryBtn"_s, u"#primaryBtn[navigation=\"true\"]"_s,
+            u"background-color: #3b82f6; border: none"_s);
+        row(tag, either, u"primaryBtn"_s, u"#primaryBtn[navigation=\"true\"]:hover"_s,
+            u"background-color: #2563eb"_s);
+        row(tag, either, u"primaryBtn"_s, u"#primaryBtn[navigation=\"true\"]:disabled"_s,
+            u"background-color: #94a3b8"_s);
     }
     for (const QString &name : {u"addFilesBtn"_s, u"addFolderBtn"_s}) {
         row("files", files, name, u"QPushButton"_s,
@@ -122,30 +127,30 @@ void tst_PageLooks::aPartHasItsStyle_data()
         row("files", files, name, u"QPushButton:hover"_s, u"background-color: #f1f5f9"_s);
     }
     for (const QString &name : {u"removeBtn"_s, u"clearAllBtn"_s}) {
-        row("files", files, name, u"QPushButton"_s, u"border: 1px solid #fecaca; color: #ef4444"_s);
-        row("files", files, name, u"QPushButton:hover"_s, u"background-color: #fef2f2"_s);
-        row("files", files, name, u"QPushButton:disabled"_s, u"border-color: #e2e8f0; color: #9ca3af"_s);
+        row("files", files, name, u'#' + name, u"border: 1px solid #fecaca; color: #ef4444"_s);
+        row("files", files, name, u'#' + name + u":hover"_s, u"background-color: #fef2f2"_s);
+        row("files", files, name, u'#' + name + u":disabled"_s, u"border-color: #e2e8f0; color: #9ca3af"_s);
     }
     row("files", files, u"dropZone"_s, u"#dropZone"_s,
-        u"background-color: white; border: 2px dashed #cbd5e1; border-radius: 12px"_s);
+        u"background-color: #ffffff; border: 2px dashed #cbd5e1; border-radius: 12px"_s);
     row("files", files, u"dropZone"_s, u"#dropZone[dragOver=\"true\"]"_s,
         u"border-color: #3b82f6; background-color: #eff6ff"_s);
-    row("files", files, u"plusBtn"_s, u"QPushButton"_s,
-        u"background-color: #3b82f6; border-radius: 14px; color: white; font-size: 32px;"
+    row("files", files, u"plusBtn"_s, u"#plusBtn"_s,
+        u"background-color: #3b82f6; border-radius: 14px; color: #ffffff; font-size: 32px;"
         "font-weight: bold"_s);
-    row("files", files, u"plusBtn"_s, u"QPushButton:hover"_s, u"background-color: #2563eb"_s);
-    row("files", files, u"plusBtn"_s, u"QPushButton:pressed"_s, u"background-color: #1d4ed8"_s);
-    row("files", files, u"dropHint"_s, QString(), u"font-size: 14px; color: #64748b"_s);
-    row("files", files, u"loadingLabel"_s, QString(), u"font-size: 15px; color: #3b82f6"_s);
-    row("files", files, u"loadingProgress"_s, u"QProgressBar"_s,
+    row("files", files, u"plusBtn"_s, u"#plusBtn:hover"_s, u"background-color: #2563eb"_s);
+    row("files", files, u"plusBtn"_s, u"#plusBtn:pressed"_s, u"background-color: #1d4ed8"_s);
+    row("files", files, u"dropHint"_s, u"#dropHint"_s, u"font-size: 14px; color: #64748b"_s);
+    row("files", files, u"loadingLabel"_s, u"#loadingLabel"_s, u"font-size: 15px; color: #3b82f6"_s);
+    row("files", files, u"loadingProgress"_s, u"#loadingProgress"_s,
         u"background-color: #e5e7eb; border-radius: 3px"_s);
-    row("files", files, u"loadingProgress"_s, u"QProgressBar::chunk"_s,
+    row("files", files, u"loadingProgress"_s, u"#loadingProgress::chunk"_s,
         u"background-color: #3b82f6; border-radius: 3px"_s);
-    row("files", files, u"fileList"_s, u"QListWidget"_s,
-        u"background-color: white; border: 1px solid #e2e8f0; border-radius: 12px"_s);
-    row("files", files, u"fileList"_s, u"QListWidget::item"_s,
+    row("files", files, u"fileList"_s, u"#fileList"_s,
+        u"background-color: #ffffff; border: 1px solid #e2e8f0; border-radius: 12px"_s);
+    row("files", files, u"fileList"_s, u"#fileList::item"_s,
         u"padding: 10px 12px; border-bottom: 1px solid #f1f5f9"_s);
-    row("files", files, u"fileList"_s, u"QListWidget::item:selected"_s,
+    row("files", files, u"fileList"_s, u"#fileList::item:selected"_s,
         u"background-color: #eff6ff; color: #1e40af"_s);
 
     const Maker settings = page<SettingsPage>();
@@ -157,31 +162,33 @@ void tst_PageLooks::aPartHasItsStyle_data()
     };
     row("settings", group, u"secondGroup"_s, u"QGroupBox"_s,
         u"font-weight: bold; font-size: 14px; color: #1e293b; border: 1px solid #e2e8f0;"
-        "border-radius: 8px; margin-top: 12px; padding-top: 8px; background-color: white"_s);
+        "border-radius: 8px; margin-top: 12px; padding-top: 8px; background-color: #ffffff"_s);
     row("settings", group, u"secondGroup"_s, u"QGroupBox::title"_s,
-        u"left: 15px; padding: 0 8px; background-color: white"_s);
-    row("settings", settings, u"exportPathEdit"_s, u"QLineEdit"_s,
-        u"background-color: white; border: 1px solid #e2e8f0; border-radius: 6px; padding: 6px 12px;"
+        u"left: 15px; padding: 0 8px; background-color: #ffffff"_s);
+    row("settings", settings, u"exportPathEdit"_s, u"#exportPathEdit"_s,
+        u"background-color: #ffffff; border: 1px solid #e2e8f0; border-radius: 6px; padding: 6px 12px;"
         "font-size: 13px"_s);
-    for (const QString &state : {u"QLineEdit:hover"_s, u"QLineEdit:focus"_s})
+    for (const QString &state : {u"#exportPathEdit:hover"_s, u"#exportPathEdit:focus"_s})
         row("settings", settings, u"exportPathEdit"_s, state, u"border-color: #3b82f6"_s);
-    row("settings", settings, u"browseBtn"_s, u"QPushButton"_s,
+    row("settings", settings, u"browseBtn"_s, u"#browseBtn"_s,
         u"background-color: #f1f5f9; border: 1px solid #e2e8f0; border-radius: 6px"_s);
-    row("settings", settings, u"browseBtn"_s, u"QPushButton:hover"_s, u"background-color: #e2e8f0"_s);
-    row("settings", settings, u"resetBtn"_s, u"QPushButton"_s,
-        u"background-color: white; border: 1px solid #e2e8f0; border-radius: 6px; padding: 8px 20px;"
+    row("settings", settings, u"browseBtn"_s, u"#browseBtn:hover"_s, u"background-color: #e2e8f0"_s);
+    row("settings", settings, u"resetBtn"_s, u"#resetBtn"_s,
+        u"background-color: #ffffff; border: 1px solid #e2e8f0; border-radius: 6px; padding: 8px 20px;"
         "font-size: 13px; color: #64748b"_s);
-    row("settings", settings, u"resetBtn"_s, u"QPushButton:hover"_s,
+    row("settings", settings, u"resetBtn"_s, u"#resetBtn:hover"_s,
         u"background-color: #f8fafc; border-color: #cbd5e1"_s);
     for (const QString &name : {u"verifyCheck"_s, u"reportCheck"_s, u"autoExportCheck"_s}) {
         row("settings", settings, name, u"QCheckBox"_s, u"spacing: 8px; font-size: 13px"_s);
         row("settings", settings, name, u"QCheckBox::indicator"_s,
-            u"width: 16px; height: 16px; border: 2px solid #cbd5e1; border-radius: 4px;"
-            "background-color: white"_s);
-        row("settings", settings, name, u"QCheckBox::indicator:hover"_s, u"border-color: #3b82f6"_s);
-        row("settings", settings, name, u"QCheckBox::indicator:checked"_s,
+            u"width: 16px; height: 16px; border-radius: 4px"_s);
+        row("settings", settings, name, u"#settingsContent QCheckBox::indicator"_s,
+            u"border: 2px solid #cbd5e1; background-color: #ffffff"_s);
+        row("settings", settings, name, u"#settingsContent QCheckBox::indicator:hover"_s,
+            u"border-color: #3b82f6"_s);
+        row("settings", settings, name, u"#settingsContent QCheckBox::indicator:checked"_s,
             u"background-color: #3b82f6; border-color: #3b82f6"_s);
-        row("settings", settings, name, u"QCheckBox::indicator:checked:hover"_s,
+        row("settings", settings, name, u"#settingsContent QCheckBox::indicator:checked:hover"_s,
             u"background-color: #2563eb"_s);
     }
 
@@ -208,12 +215,12 @@ void tst_PageLooks::aPartHasItsStyle_data()
     row("sidebar", sidebar, u"logoIcon"_s, QString(), u"background: transparent; border: none"_s);
     const Maker title = page<TitleBar>();
     for (const QString &name : {u"applicationMenu"_s, u"languageMenu"_s}) {
-        row("title bar", title, name, u"QMenu"_s,
-            u"background-color: white; border: 1px solid #e2e8f0; border-radius: 8px; padding: 8px 4px;"
+        row("title bar", title, name, u'#' + name,
+            u"background-color: #ffffff; border: 1px solid #e2e8f0; border-radius: 8px; padding: 8px 4px;"
             "min-width: 180px"_s);
-        row("title bar", title, name, u"QMenu::item"_s,
+        row("title bar", title, name, u'#' + name + u"::item"_s,
             u"padding: 10px 16px; border-radius: 6px; margin: 2px 4px; color: #334155"_s);
-        row("title bar", title, name, u"QMenu::item:selected"_s,
+        row("title bar", title, name, u'#' + name + u"::item:selected"_s,
             u"background-color: #f1f5f9; color: #1e293b"_s);
         row("title bar", title, name, u"QMenu::separator"_s,
             u"height: 1px; background-color: #e2e8f0; margin: 6px 8px"_s);
@@ -229,12 +236,14 @@ void tst_PageLooks::aPartHasItsStyle()
     const std::unique_ptr<QWidget> shown(maker());
     const QWidget *const part = partOf(*shown, name);
     QVERIFY(part);
-    QCOMPARE(StyleRules(part->styleSheet()).missing(selector, declarations), QStringList());
+    const QString own = part->styleSheet();
+    const StyleRules rules(own.isEmpty() ? programSheet() : own);
+    QCOMPARE(rules.missing(selector, declarations), QStringList());
 }
 
 void tst_PageLooks::rulesTellWhatIsMissing()
 {
-    const StyleRules rules(u"A, B:hover { x: 1px  solid;y:2 }\nA {z: 3;}"_s);
+    const StyleRules rules(u"/* B {\nz: 3; } */ A, B:hover { x: 1px  solid;y:2 }\n/* */A {z: 3;}"_s);
     QCOMPARE(rules.missing(u"A"_s, u"z:3; y: 2; x: 1px solid"_s), QStringList());
     QCOMPARE(rules.missing(u"B:hover"_s, u"z: 3"_s), QStringList{u"z: 3"_s});
     QCOMPARE(rules.missing(u"B"_s, u"y: 2"_s), QStringList{u"y: 2"_s});

@@ -4,7 +4,7 @@
 #include "ui/style/uiresources.h"
 
 #include "support/messagecapture.h"
-#include "support/testfiles.h"
+#include "ui/style/programsheet.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -24,11 +24,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-QString sheet()
-{
-    return QString::fromUtf8(contentOf(u":/styles/style.qss"_s));
-}
 
 // The texts between url( and ).
 QStringList pictures(const QString &text)
@@ -50,7 +45,7 @@ struct Styled
     explicit Styled(const QString &name = {})
         : control(*new Control(&window))
     {
-        window.setStyleSheet(sheet());
+        window.setStyleSheet(programSheet());
         control.setObjectName(name);
         auto *layout = new QVBoxLayout(&window);
         auto *other = new QLineEdit;
@@ -87,10 +82,10 @@ private slots:
 
 void tst_StyleSheet::theToolkitUnderstandsTheSheet()
 {
-    QVERIFY(sheet().size() > 1000);
+    QVERIFY(programSheet().size() > 1000);
     const MessageCapture capture;
     QWidget widget;
-    widget.setStyleSheet(sheet());
+    widget.setStyleSheet(programSheet());
     widget.show();
     QVERIFY2(!capture.texts().join(u'\n').contains(u"stylesheet"_s, Qt::CaseInsensitive),
              qPrintable(capture.texts().join(u'\n')));
@@ -98,7 +93,7 @@ void tst_StyleSheet::theToolkitUnderstandsTheSheet()
 
 void tst_StyleSheet::everyPictureExists()
 {
-    const QStringList paths = pictures(sheet());
+    const QStringList paths = pictures(programSheet());
     QVERIFY(!paths.isEmpty());
     for (const QString &path : paths)
         QVERIFY2(QFile::exists(path), qPrintable(path));
@@ -121,7 +116,7 @@ void tst_StyleSheet::everyNameHasARule()
 {
     QFETCH(QString, name);
     const QRegularExpression rule(u"#%1\\s*[{,]"_s.arg(name));
-    QVERIFY(sheet().contains(rule));
+    QVERIFY(programSheet().contains(rule));
 }
 
 void tst_StyleSheet::everyKindOfControlHasARule_data()
@@ -138,14 +133,16 @@ void tst_StyleSheet::everyKindOfControlHasARule()
 {
     QFETCH(QString, kind);
     const QRegularExpression rule(u"(^|\\n)%1\\s*[{,]"_s.arg(kind));
-    QVERIFY(sheet().contains(rule));
+    QVERIFY(programSheet().contains(rule));
 }
 
 void tst_StyleSheet::thePaletteIsThatOfTheSheet()
 {
-    for (const QColor &color : {palette::Text, palette::MutedText, palette::Primary, palette::Success,
-                                palette::Warning, palette::Error, palette::Border})
-        QVERIFY2(sheet().contains(color.name()), qPrintable(color.name()));
+    for (const QColor &color : {palette::Text, palette::MutedText, palette::FaintText, palette::DisabledText,
+                                palette::Primary, palette::PrimaryHovered, palette::PrimaryPressed,
+                                palette::SelectedText, palette::Success, palette::Warning, palette::Error,
+                                palette::Surface, palette::Container, palette::Border, palette::StrongBorder})
+        QVERIFY2(programSheet().contains(color.name()), qPrintable(color.name()));
 }
 
 void tst_StyleSheet::theFocusIsVisible_data()
@@ -218,21 +215,25 @@ void tst_StyleSheet::fixedSizesStay()
 
 void tst_StyleSheet::theNavigationButtonsAreAsDrawn()
 {
-    QPushButton back;
-    QPushButton next;
+    QWidget window;
+    window.setStyleSheet(programSheet());
+    QPushButton back(&window);
+    QPushButton next(&window);
     pagestyle::asBack(back);
     pagestyle::asNext(next);
     QCOMPARE(back.objectName(), u"secondaryBtn"_s);
     QCOMPARE(next.objectName(), u"primaryBtn"_s);
-    for (QPushButton *button : {&back, &next}) {
-        button->show();
+    window.show();
+    for (const QPushButton *button : {&back, &next})
         QCOMPARE(button->size(), QSize(140, 45));
-    }
-    next.clearFocus();
+    for (QPushButton *button : {&back, &next})
+        button->clearFocus();
     QCOMPARE(next.grab().toImage().pixelColor(20, 22).name(), u"#3b82f6"_s);
     next.setEnabled(false);
     QCOMPARE(next.grab().toImage().pixelColor(20, 22).name(), u"#94a3b8"_s);
     QCOMPARE(back.grab().toImage().pixelColor(20, 22).name(), u"#ffffff"_s);
+    // Its border is paler than that of other secondary buttons.
+    QCOMPARE(back.grab().toImage().pixelColor(70, 0).name(), u"#e2e8f0"_s);
 }
 
 QUORVEX_SUITE(tst_StyleSheet, QApplication)

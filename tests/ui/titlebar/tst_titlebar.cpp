@@ -4,6 +4,7 @@
 #include "services/linkmanager.h"
 #include "support/scriptedprompts.h"
 #include "support/temporarysettings.h"
+#include "ui/style/programsheet.h"
 #include "ui/style/uiresources.h"
 #include "ui/titlebar/winbutton.h"
 
@@ -32,6 +33,7 @@ struct Fixture
     Fixture()
     {
         bar.setRestart([this] { ++restarts; });
+        window.setStyleSheet(programSheet());
         window.resize(700, 400);
         bar.resize(700, 40);
     }
