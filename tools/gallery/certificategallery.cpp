@@ -1,9 +1,9 @@
 #include "gallery.h"
 
-#include "certificate/certificatedialog.h"
 #include "certificate/certificaterenderer.h"
 #include "model/joboutcome.h"
 #include "model/wipereport.h"
+#include "ui/certificate/certificatedialog.h"
 
 #include <QDebug>
 #include <QImage>

@@ -2,13 +2,16 @@
 
 #include <QImage>
 #include <QString>
+#include <QStringList>
 
 class QWidget;
 
-// Pictures of what users see, for people to look at: nothing is compared.
+// Pictures of what users see, for people to look at. Nothing is compared, but texts that are cut are
+// collected.
 class Gallery
 {
 public:
+    // An empty folder: no picture is saved.
     Gallery(QString folder, QString language);
 
     // The language of the texts.
@@ -21,11 +24,14 @@ public:
 
     int count() const { return m_count; }
     bool hasFailed() const { return m_hasFailed; }
+    // Each begins with the name of its picture.
+    QStringList cutTexts() const { return m_cutTexts; }
 
 private:
     QString m_folder;
     QString m_language;
     int m_count = 0;
+    QStringList m_cutTexts;
     bool m_hasFailed = false;
 };
 

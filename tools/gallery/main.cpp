@@ -1,4 +1,6 @@
 #include "gallery.h"
+#include "pseudolocale.h"
+#include "textfit.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -51,6 +53,8 @@ void Gallery::picture(QWidget &widget, const QString &name)
     if (!QTest::qWaitForWindowExposed(&widget))
         m_hasFailed = true;
     QTest::qWait(50);
+    for (const QString &cut : ::cutTexts(widget))
+        m_cutTexts.append(name + u": "_s + cut);
     save(widget.grab().toImage(), name);
     widget.hide();
 }
@@ -58,7 +62,7 @@ void Gallery::picture(QWidget &widget, const QString &name)
 void Gallery::save(const QImage &image, const QString &name)
 {
     const QString path = pathFor(name, u"png"_s);
-    if (image.isNull() || !image.save(path)) {
+    if (image.isNull() || (!m_folder.isEmpty() && !image.save(path))) {
         QTextStream(stderr) << "cannot write " << path << Qt::endl;
         m_hasFailed = true;
         return;
@@ -74,25 +78,30 @@ int main(int argc, char *argv[])
     parser.addPositionalArgument(u"folder"_s, u"where the pictures go"_s);
     parser.addOptions({{u"language"_s, u"code of the texts' language"_s, u"code"_s, u"zh_CN"_s},
                        {u"catalogues"_s, u"folder of the .qm files"_s, u"folder"_s},
-                       {u"room"_s, u"only this family of pictures"_s, u"name"_s}});
+                       {u"room"_s, u"only this family of pictures"_s, u"name"_s},
+                       {u"check-texts"_s, u"save nothing, and fail when a text is cut"_s}});
     parser.addHelpOption();
     parser.process(application);
-    if (parser.positionalArguments().size() != 1)
+    const bool isCheck = parser.isSet(u"check-texts"_s);
+    if (parser.positionalArguments().size() != (isCheck ? 0 : 1))
         parser.showHelp(2);
 
     const QString language = parser.value(u"language"_s);
-    QTranslator translator;
+    QTranslator catalogue;
+    PseudoLocale pseudo;
     if (parser.isSet(u"catalogues"_s)) {
-        const QString file = u"%1/quorvex_%2.qm"_s.arg(parser.value(u"catalogues"_s), language);
-        if (!translator.load(file)) {
+        const bool isPseudo = language == PseudoLocale::Code;
+        const QString file =
+            u"%1/quorvex_%2.qm"_s.arg(parser.value(u"catalogues"_s), isPseudo ? u"en"_s : language);
+        if (!(isPseudo ? pseudo.loadEnglish(file) : catalogue.load(file))) {
             QTextStream(stderr) << "no catalogue " << file << Qt::endl;
             return 1;
         }
-        QApplication::installTranslator(&translator);
+        QApplication::installTranslator(isPseudo ? &pseudo : &catalogue);
     }
 
-    const QString folder = parser.positionalArguments().constFirst();
-    if (!QDir().mkpath(folder)) {
+    const QString folder = parser.positionalArguments().value(0);
+    if (!isCheck && !QDir().mkpath(folder)) {
         QTextStream(stderr) << "cannot make " << folder << Qt::endl;
         return 1;
     }
@@ -101,6 +110,14 @@ int main(int argc, char *argv[])
         if (!parser.isSet(u"room"_s) || parser.value(u"room"_s) == QLatin1String(room->name))
             room->painter(gallery);
     }
-    QTextStream(stdout) << gallery.count() << " pictures in " << folder << Qt::endl;
-    return gallery.hasFailed() || gallery.count() == 0 ? 1 : 0;
+    QTextStream out(stdout);
+    if (isCheck) {
+        for (const QString &cut : gallery.cutTexts())
+            out << "cut: " << cut << Qt::endl;
+        out << gallery.count() << " pictures looked at" << Qt::endl;
+    } else {
+        out << gallery.count() << " pictures in " << folder << Qt::endl;
+    }
+    const bool isGood = !gallery.hasFailed() && gallery.count() > 0;
+    return isGood && (!isCheck || gallery.cutTexts().isEmpty()) ? 0 : 1;
 }
