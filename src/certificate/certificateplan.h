@@ -23,7 +23,7 @@ struct CertificateRow
     QString label;                    ///< without a colon, unless the labels bring one
     QString value;                    ///< safe to show: see displayText()
     std::optional<Verdict> verdict{}; ///< set in a highlighted row
-    QString correction{};             ///< stands beside the value, which stays as the report has it
+    QString correction{};             ///< shown beside the value, which stays as in the report
 };
 
 struct CertificateSection
@@ -33,8 +33,8 @@ struct CertificateSection
     QList<CertificateRow> rows;
 };
 
-/// Everything that a certificate says about a job, in order, in the user's language and in the words of one
-/// of its forms. The outcome may be unknown.
+/// All content of a job's certificate in order, in the user's language and in the words of one form. The
+/// outcome may be unknown.
 QList<CertificateSection> certificatePlan(const WipeReport &report,
                                           const std::optional<OutcomeRecord> &outcome,
                                           const CertificateLabels &labels);
