@@ -13,7 +13,7 @@ using platform::Status;
 
 namespace {
 
-// A file of another job's own, which the first openings to overwrite find in use.
+// A file of its own job that the first attempts to open for overwriting find in use.
 struct HeldFile
 {
     FileJob job;
@@ -39,7 +39,7 @@ struct HeldFile
 
 } // namespace
 
-// Files that somebody else has open for moments when they are to be overwritten.
+// Files that another program holds for moments when the job opens them.
 class tst_OpeningRetries : public QObject
 {
     Q_OBJECT
@@ -95,7 +95,7 @@ void tst_OpeningRetries::aStopEndsTheAttempts()
     QVERIFY(!held.job.lines().contains(said::cannotOpen(held.file)));
 }
 
-// Where there is such a thing.
+// Only on systems with folder protection.
 void tst_OpeningRetries::protectionIsNamedOnce()
 {
 #ifdef Q_OS_WIN
