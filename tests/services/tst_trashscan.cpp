@@ -389,8 +389,7 @@ void tst_TrashScan::namesThatAreNotTextAreKept()
     QCOMPARE(item.size, quint64(5));
     // The path still leads to the file.
     QVERIFY(platform::Platform::current().files().info(item.recyclePath).ok());
-    QVERIFY(
-        platform::Platform::current().folders().removeTree(trash.folder).ok()); // QDir could not remove it
+    QVERIFY(platform::Platform::current().folders().removeTree(trash.folder).ok()); // QDir cannot
 }
 
 void tst_TrashScan::otherFilesBesideRecordsAreNoItems()
