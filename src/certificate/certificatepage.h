@@ -21,6 +21,7 @@ struct WipeReport;
 class CertificatePage
 {
 public:
+    /// The size and resolution of the page.
     struct Paper
     {
         int width;
@@ -31,10 +32,12 @@ public:
 
     CertificatePage(QPainter &painter, const CertificatePalette &palette, const Paper &paper);
 
+    /// Paints the whole page. The outcome may be unknown.
     void paint(const WipeReport &report, const std::optional<OutcomeRecord> &outcome);
 
     /// The end of the content, which may be below the footer or the paper. Paints nothing.
     int contentEnd(const WipeReport &report, const std::optional<OutcomeRecord> &outcome);
+    /// The lower limit for content that fits the page.
     int footerTop() const { return m_paper.height - m_left; }
 
     /// All text written on the page.

@@ -17,6 +17,7 @@ enum class Verdict {
     Open, ///< neither; paper shows it as Bad
 };
 
+/// One line of a section, a label with its value.
 struct CertificateRow
 {
     CertificateItem item;
@@ -26,6 +27,7 @@ struct CertificateRow
     QString correction{};             ///< shown beside the value, which stays as in the report
 };
 
+/// One titled group of rows.
 struct CertificateSection
 {
     CertificateGroup group;

@@ -40,14 +40,20 @@ public:
     void setClock(Clock clock);
 
 public slots:
+    /// Runs the job on the current thread.
     virtual void process() = 0;
 
 signals:
+    /// Percent of all passes, 0 to 100.
     void progressChanged(int percent);
+    /// A pass begins; currentPass counts from 1.
     void passChanged(int currentPass, int totalPasses);
+    /// The progress in bytes over all passes.
     void bytesWritten(qint64 bytes);
     void speedUpdated(double bytesPerSecond);
+    /// The last signal of the worker.
     void finished(bool success);
+    /// The translated reason why the job fails.
     void errorOccurred(const QString &error);
     void logMessage(const QString &message, int level);
 

@@ -23,6 +23,7 @@ public:
     ByteRanges intersected(const ByteRanges &other) const;
 
     const QList<Range> &ranges() const { return m_ranges; }
+    /// The sum of the lengths of all ranges.
     qint64 length() const;
 
 private:

@@ -22,6 +22,7 @@
 class ChunkPipeline
 {
 public:
+    /// Fills size bytes of data with the pattern.
     using Fill = std::function<void(std::byte *data, qint64 size, const PassPattern &pattern)>;
 
     explicit ChunkPipeline(Fill fill);

@@ -26,6 +26,8 @@ std::optional<Shortfall> snapshotNote(const QString &path);
 class SnapshotSurvey
 {
 public:
+    /// The note on the volume of the file, nothing when the volume was asked before. path is called only for
+    /// the first file of a volume.
     std::optional<Shortfall> noteFor(const platform::FileId &file, const std::function<QString()> &path);
 
 private:

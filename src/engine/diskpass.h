@@ -38,6 +38,7 @@ public:
 
     /// Writes one pass. Also true when a stop ended it.
     bool write(const PassPattern &pattern);
+    /// Frees the write buffers after the last pass.
     void releaseBuffers() { m_chunks.reset(); }
 
     /// Whether the medium may have changed; true from the first attempt to write to it.

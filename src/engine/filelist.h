@@ -28,6 +28,7 @@ struct FileList
 class FileIndex
 {
 public:
+    /// Both outlive the object.
     FileIndex(const HeldTree &tree, const std::vector<FileEntry> &files);
 
     /// The names listed in the folder, whichever path led to it.

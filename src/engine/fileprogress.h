@@ -21,6 +21,7 @@ public:
 
     /// Called between passes, while no thread adds. pass counts from 1.
     void beginPass(int pass, int passCount, qint64 bytesPerPass);
+    /// Adds bytes written in the current pass; called on any thread.
     void add(qint64 bytes);
 
     qint64 bytesOfPass() const { return m_bytesOfPass; }

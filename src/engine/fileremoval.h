@@ -40,6 +40,7 @@ public:
     /// Removes files that a stop left in the folders to be removed next. overwritten: the number of files,
     /// from the beginning of the list, that received every pass.
     void removeRest(std::size_t overwritten);
+    /// Removes the target folders whose whole content was listed, and the folders below them.
     void removeFolders();
 
     /// Flushes the removals to the medium and returns the groups, with a failure for those that could not be

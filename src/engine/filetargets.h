@@ -8,7 +8,7 @@
 
 class WipeTask;
 
-/// The entry under the path of a target, never reached through a link of its own. The folders above are those
+/// The entry under the path of a target. A link at the path is itself the entry. The folders above are those
 /// to which the path leads at this moment.
 struct FoundTarget
 {

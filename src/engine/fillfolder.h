@@ -41,6 +41,7 @@ public:
     /// Removes the files and returns their bytes. A file that cannot be removed, in several attempts, is
     /// tried again at the next call.
     qint64 removeFiles();
+    /// Bytes of the fill files that still exist.
     qint64 bytesLeft() const;
     /// Removes the empty folder. Remaining files are logged with their paths.
     platform::Status remove();

@@ -21,6 +21,7 @@ public:
         std::function<void(const QString &path, qint64 streams, qint64 bytes)> streams;
     };
 
+    /// The tree outlives the object.
     FolderRemoval(HeldTree &tree, Observer observer);
 
     /// Removes the folders and all folders of the tree below them.

@@ -42,11 +42,13 @@ public:
     Folder firstAs(Folder folder) const;
     /// Nothing where the file system has no lasting folder numbers.
     std::optional<platform::FileId> idOf(Folder folder) const { return node(folder).id; }
+    /// The path as it was when the folder was found, for messages.
     QString path(Folder folder) const;
     QString path(Folder folder, const QString &name) const;
 
     /// PathNotFound when the folder is gone, or has been replaced.
     platform::Result<platform::EntryPath> entry(Folder folder, const QString &name);
+    /// The folder itself as an entry with an empty name.
     platform::Result<platform::EntryPath> itself(Folder folder) { return entry(folder, {}); }
     /// The folder as an entry of its parent; InvalidParameter for a top.
     platform::Result<platform::EntryPath> asEntry(Folder folder);

@@ -37,6 +37,7 @@ public:
     /// Takes every volume that begins on the drive. All of them have been tried on return, unless the job is
     /// stopped. Returns false when the drive has volumes and none could be opened.
     bool lock(const platform::DriveIdentity &drive);
+    /// Unlocks and closes all volumes.
     void release();
 
     /// The names of the visible volumes that begin on the drive; none of them is taken.

@@ -72,9 +72,9 @@ bool VolumeSpace::waitFor(const FreeBytes &freeBytes, qint64 before, qint64 rele
 bool VolumeSpace::isGone(quint32 code)
 {
     switch (code) {
-    case platform::FileNotFound: // under the mount point of a volume that was unmounted
+    case platform::FileNotFound: // at the mount point of an unmounted volume
     case platform::PathNotFound:
-    case platform::WriteProtect: // what a file system makes of itself after an error
+    case platform::WriteProtect: // after an error a file system becomes read-only
         return true;
     default:
         return platform::isDeviceGone(code) || platform::isMediumFault(code);

@@ -19,6 +19,7 @@ class VolumeSpace
     Q_DECLARE_TR_FUNCTIONS(FreeSpaceWipeWorker)
 
 public:
+    /// Asks for the current free space in bytes.
     using FreeBytes = std::function<platform::Result<qint64>()>;
 
     /// How long to wait for the space of deleted files while none of it comes back, and how often to look.
@@ -43,6 +44,7 @@ public:
 
     /// Whether the code means that the volume was unmounted, pulled out or failed.
     static bool isGone(quint32 code);
+    /// Logs that the volume is gone.
     void noteGone(const platform::Status &status);
 
 private:

@@ -79,7 +79,7 @@ public:
     std::chrono::milliseconds stopPatience() const { return m_stopPatience; }
     void setStopPatience(std::chrono::milliseconds patience) { m_stopPatience = patience; }
 
-    /// The probe tells whether the user already wants the job to stop. start() calls it on the interface
+    /// The probe returns whether the user already wants the job to stop. start() calls it on the interface
     /// thread just before the worker runs, because a stop() after start() may come too late. The job then
     /// ends as cancelled and has touched nothing.
     void setStopProbe(std::function<bool()> isStopWanted) { m_isStopWanted = std::move(isStopWanted); }
@@ -89,7 +89,9 @@ public:
     void setClock(Clock clock) { m_clock = std::move(clock); }
 
 signals:
+    /// Percent of all passes, 0 to 100.
     void progressChanged(int percent);
+    /// A pass begins; currentPass counts from 1.
     void passChanged(int currentPass, int totalPasses);
     /// total is always 0.
     void bytesProcessed(qint64 bytes, qint64 total);
@@ -98,10 +100,12 @@ signals:
     void started();
     void paused();  ///< reserved
     void resumed(); ///< reserved
+    /// stop() has marked the job cancelled.
     void stopped();
     /// The job's worker has ended. May follow stopped().
     void completed(bool success);
     void logMessage(const QString &message, int level);
+    /// The translated reason of a refusal or of a failing job.
     void errorOccurred(const QString &error);
     void verificationStarted();              ///< reserved
     void verificationProgress(int percent);  ///< reserved

@@ -67,6 +67,7 @@ public:
     QList<Shortfall> shortfalls() const { return listed(true); }
     QList<Shortfall> notes() const { return listed(false); }
     bool has(ShortfallKind kind) const { return m_places.contains(kind); }
+    /// Whether a noted kind makes the job partial.
     bool hasShortfalls() const;
     /// The noted kinds that make the job partial, each once.
     QList<ShortfallKind> shortfallKinds() const;

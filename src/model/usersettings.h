@@ -7,7 +7,7 @@
 
 QT_FORWARD_DECLARE_CLASS(QSettings)
 
-/// The user's settings in the platform's own store, user scope. The store is opened anew for every use, so
+/// The user's settings in the platform's own store, user scope. The store is opened again for every use, so
 /// that a job reads the values that a window has just saved. Interface thread.
 namespace usersettings {
 

@@ -78,6 +78,7 @@ public:
     qint32 bufferSizeMB() const { return m_bufferSizeMB; }
     void setBufferSizeMB(qint32 size) { m_bufferSizeMB = size; }
 
+    /// Whether passes that ask for verification are read back.
     bool verifyAfterWipe() const { return m_verifyAfterWipe; }
     void setVerifyAfterWipe(bool verify) { m_verifyAfterWipe = verify; }
 

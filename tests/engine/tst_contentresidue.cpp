@@ -80,7 +80,7 @@ void write(const QString &path)
     writeFile(path, secret(Size));
 }
 
-// The journal starts anew at every mount. The writes of the job do not reach the secret in it.
+// The journal starts again at every mount. The writes of the job do not reach the secret in it.
 void writeDeepInTheJournal(const QString &path)
 {
     const int file = ::open(platform::encodeName(path).constData(), O_WRONLY | O_CREAT | O_CLOEXEC, 0600);

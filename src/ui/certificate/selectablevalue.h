@@ -11,6 +11,7 @@ class SelectableValue : public ValueLabel
 public:
     explicit SelectableValue(const QString &text, QWidget *parent = nullptr);
 
+    /// The selected text, empty without a selection.
     QString markedText() const;
 
 protected:
