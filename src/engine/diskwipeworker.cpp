@@ -89,8 +89,8 @@ bool DiskWipeWorker::lockVolumes()
     return m_medium.volumes.lock(identityOf(task().disk()));
 }
 
-// A volume mounted again since the release would get the writes instead of the drive, and its file system
-// would write over erased sectors.
+// A volume that was mounted again since the release fails the job. Held, it would limit the passes to itself;
+// left alone, its file system would write over erased sectors.
 bool DiskWipeWorker::checkVolumesAreGone()
 {
     QStringList back = m_medium.volumes.inSight(task().disk().diskNumber);

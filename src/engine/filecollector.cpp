@@ -88,8 +88,8 @@ bool FileCollector::addContent(Folder target)
     return complete;
 }
 
-// Returns false when the observer ended the scan. Folders are entered after the listing, so that the listing
-// is not held open meanwhile.
+// Returns false when the observer ended the scan. Folders are entered after the listing, because entering one
+// may take long and the visitor of a listing must not wait.
 bool FileCollector::listFolder(Folder folder, std::vector<Folder> &pending, bool &complete)
 {
     const QSet<QString> known = m_known ? m_known->namesIn(folder) : QSet<QString>();

@@ -23,7 +23,7 @@ constexpr qint64 FillFileBytes = 2 * GiB;
 // Tolerance for space that other programs free meanwhile, and for metadata of the file system.
 constexpr qint64 SmallRoom = 1 * MiB;
 
-// The codes for "no room"; all others mean that the device failed.
+// Whether the error ends only the file ("no room") and not the pass ("no device").
 bool endsFileOnly(quint32 code)
 {
     return code == platform::DiskFull || code == platform::FileTooLarge;

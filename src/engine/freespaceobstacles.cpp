@@ -1,4 +1,4 @@
-// Checks whether a free-space job may begin, before its start and again at its start.
+// Checks whether a free-space job may begin, before its start and again by the job itself.
 #include "engine/freespacewipeworker.h"
 
 #include "engine/leftovers.h"
