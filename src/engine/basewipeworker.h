@@ -91,7 +91,7 @@ protected:
     /// unpredictable patterns (Random, Complement).
     static bool verifyBuffer(const std::byte *buffer, qint64 size, const PassPattern &pattern);
 
-    /// Notes the shortfall in the task when the passes are not read back, or when reading back proves
+    /// Notes in the task when the passes are not read back, or when reading them back proves
     /// nothing. readsBack: the worker reads passes back on request.
     void noteReadBack(bool readsBack);
 

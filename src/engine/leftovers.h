@@ -25,8 +25,8 @@ public:
         QStringList folders; ///< folders from which something was deleted, in the order of the listing
         qint64 bytes = 0;    ///< of fill files
     };
-    /// Deletes the entries with the names of a job, then the empty folders. Other entries stay, and so do
-    /// entries that cannot be deleted.
+    /// Deletes the entries that are named like those of a job, then the empty folders. Other entries stay,
+    /// and so do entries that cannot be deleted.
     Removed remove();
 
 private:

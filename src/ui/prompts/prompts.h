@@ -49,7 +49,7 @@ public:
 
     void information(QWidget *parent, const QString &title, const QString &text);
     void warning(QWidget *parent, const QString &title, const QString &text);
-    /// Asks Yes or No. `byDefault` makes No the default button when set to it.
+    /// Asks Yes or No. byDefault: the default button, chosen by the toolkit unless given.
     bool confirms(QWidget *parent, QMessageBox::Icon icon, const QString &title, const QString &text,
                   QMessageBox::StandardButton byDefault = QMessageBox::NoButton);
 };
