@@ -91,8 +91,8 @@ protected:
     /// unpredictable patterns (Random, Complement).
     static bool verifyBuffer(const std::byte *buffer, qint64 size, const PassPattern &pattern);
 
-    /// Notes in the task when the passes are not read back, or when reading them back proves
-    /// nothing. readsBack: the worker reads passes back on request.
+    /// Notes in the task when the passes are not read back, or when reading them back proves nothing.
+    /// readsBack: the worker reads passes back on request.
     void noteReadBack(bool readsBack);
 
     /// Reports percent, bytes and speed. Both counts are bytes of the current pass; a total of 0 reports only

@@ -11,8 +11,8 @@
 
 /// Overwrites the disk of its task: locks and dismounts every volume on it, opens the drive and writes the
 /// passes. While a volume is held, the passes go through the volumes and the bytes outside them stay. The
-/// drive itself is written when it has no volume. A partition wipe is the same job, with every volume of that
-/// disk.
+/// drive itself is written when no volume is found on it. A partition wipe is the same job, with every volume
+/// of that disk.
 ///
 /// A whole-drive job takes no volume; it fails when the drive still has one. When nothing was written, it
 /// gives the volumes released for it back.

@@ -7,8 +7,8 @@
 #include <functional>
 #include <memory>
 
-/// Virus scanners, indexers and previews hold a file for moments. Only failures caused by such a hold are
-/// retried.
+// Virus scanners, indexers and previews hold a file for moments. Only failures caused by such a hold are
+// retried.
 
 /// Waits for the given time; returns false to give up the attempts.
 using RetryPause = std::function<bool(std::chrono::milliseconds)>;

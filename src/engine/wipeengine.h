@@ -68,8 +68,8 @@ public:
     /// A copy of the task's report; a fresh one without a task. May be called at any time on the interface
     /// thread.
     WipeReport report() const;
-    /// The outcome of the task's job, from completed() or stopped() on; failed without a task. A job
-    /// with completed(true) and another outcome than complete fell short of something.
+    /// The outcome of the task's job, from completed() or stopped() on; failed without a task. A job with
+    /// completed(true) and another outcome than complete fell short of something.
     OutcomeRecord outcome() const;
     /// The names of the volumes that the task's job left dismounted, from completed() on.
     QStringList dismountedVolumes() const;
