@@ -32,7 +32,6 @@ public:
     bool exists() const { return m_folder != nullptr; }
     platform::Result<qint64> freeBytes() const;
 
-    /// Creates the next fill file.
     platform::Result<std::unique_ptr<platform::FileHandle>> createFile();
     /// Records the bytes that the last fill file brought to the medium.
     void setBytesOfLast(qint64 bytes) { m_files.last().bytes = bytes; }

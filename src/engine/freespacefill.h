@@ -40,7 +40,6 @@ public:
     qint64 filled() const { return m_filled; }
 
 private:
-    /// State of the running pass.
     struct Pass
     {
         qint64 reserve = 0;   ///< to stay free

@@ -58,7 +58,6 @@ public:
     /// Closes a folder that is about to be removed, since some systems refuse to remove a folder that is
     /// open.
     void release(Folder folder);
-    /// Closes all folders.
     void releaseAll();
 
 private:

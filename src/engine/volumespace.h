@@ -44,7 +44,6 @@ public:
 
     /// Whether the code means that the volume was unmounted, pulled out or failed.
     static bool isGone(quint32 code);
-    /// Logs that the volume is gone.
     void noteGone(const platform::Status &status);
 
 private:

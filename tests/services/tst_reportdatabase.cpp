@@ -234,13 +234,11 @@ public:
         }
         return QString::fromLatin1(m_process.readLine()).trimmed();
     }
-    // Kills the process at once, whatever it does.
     bool kill()
     {
         m_process.kill();
         return m_process.waitForFinished(60000);
     }
-    // The remaining output.
     QStringList rest()
     {
         QStringList lines = QString::fromLatin1(m_process.readAllStandardOutput()).split(u'\n');
