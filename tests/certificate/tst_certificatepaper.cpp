@@ -55,7 +55,7 @@ namespace {
 constexpr auto noPoppler =
     "SKIPPED: poppler-utils (pdftotext, pdftoppm) is not installed; nobody looks at the paper";
 
-// A hash of realistic length.
+// A filled report with a hash of realistic length.
 WipeReport reportOf(OperationType operation, WipeMethod::Type method)
 {
     WipeReport report = filledReport();

@@ -13,7 +13,7 @@ using platform::Status;
 
 namespace {
 
-// A file of its own job that the first attempts to open for overwriting find in use.
+// A job on one file, which the first attempts to open it for overwriting find in use.
 struct HeldFile
 {
     FileJob job;
