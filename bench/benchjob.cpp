@@ -14,8 +14,8 @@
 // quorvex-bench-job free MOUNTPOINT zeros|random
 // quorvex-bench-job files METHOD PATH...
 //
-// Runs one job, one pass for the first two, without verification for these, and prints the seconds from its
-// start to its end, the bytes that it wrote and the peak of its memory. Exit code 0 when the job succeeded.
+// Runs one job and prints the seconds from its start to its end, the bytes that it wrote and its peak memory.
+// The first two jobs have one pass without verification. Exit code 0 when the job succeeded.
 
 namespace {
 

@@ -15,14 +15,15 @@
 #include <cstdio>
 
 // quorvex-bench-services fill-reports FOLDER COUNT   a database with that many reports
-// quorvex-bench-services read-reports FOLDER TIMES   its first page of 100, and once before that
+// quorvex-bench-services read-reports FOLDER TIMES   reads its first page of 100
 // quorvex-bench-services fill-bin ROOT COUNT         a Recycle Bin of Windows with that many items
-// quorvex-bench-services scan-bin ROOT TIMES         all of it, and once before that
+// quorvex-bench-services scan-bin ROOT TIMES         scans all of it
 // quorvex-bench-services fill-trash, scan-trash      the same for a Trash folder of the desktop, not on
 // Windows
 //
-// The readers print the seconds that all the times took together: the start of a program would hide what is
-// compared. With 0 times only the one before is left. Exit code 0 when all went well.
+// The readers run once more before the TIMES counted runs and print the total seconds of the latter, without
+// the start of the program, which would hide the difference. With 0 TIMES only the first run is left. Exit
+// code 0 when all runs succeeded.
 
 using namespace Qt::StringLiterals;
 
@@ -34,7 +35,7 @@ WipeReport reportNumber(int number)
 {
     WipeReport report;
     report.certificateId = u"QVX-2026-01-01-%1"_s.arg(number);
-    // Stored in another order than that of the times.
+    // The stored order differs from the order of the times.
     report.startTime =
         QDateTime(QDate(2020, 1, 1), QTime(0, 0), Qt::UTC).addSecs(number * 7919LL % 100003 * 60);
     report.endTime = report.startTime.addSecs(600);
@@ -52,7 +53,7 @@ bool fillReports(const QString &folder, int count)
     ReportDatabase &database = ReportDatabase::instance();
     if (!database.initialize(folder))
         return false;
-    // One transaction: each of its own would wait for the medium.
+    // A single transaction, because each transaction waits for the medium.
     QSqlDatabase connection = QSqlDatabase::database();
     bool isDone = connection.transaction();
     for (int i = 0; isDone && i < count; ++i)
@@ -62,7 +63,7 @@ bool fillReports(const QString &folder, int count)
     return isDone;
 }
 
-// Prints the seconds of all the times; one more comes first and is not counted.
+// Prints the total seconds of the counted runs. One uncounted run comes first.
 template <typename Work>
 bool timed(int times, Work work)
 {

@@ -1,7 +1,7 @@
 #include <QApplication>
 #include <QWidget>
 
-// The least that a program of Qt Widgets does until its window is there.
+// The minimum work of a Qt Widgets program until its window is shown.
 int main(int argc, char **argv)
 {
     QApplication application(argc, argv);

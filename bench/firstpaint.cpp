@@ -9,17 +9,17 @@
 #include <cstdlib>
 #include <sys/resource.h>
 
-// Ends a program of Qt Widgets when its first window has been painted, from inside and without a change to
-// it: Qt loads this when QT_QPA_GENERIC_PLUGINS says so.
+// A plugin that ends a Qt Widgets program, without a change to it, when its first window has been painted. Qt
+// loads it by QT_QPA_GENERIC_PLUGINS.
 //
-//   firstpaint      ends it there and then; what the program would tidy up is none of what is measured
-//   firstpaint:10   lets it stand for 10 seconds and prints what it did in that time
+//   firstpaint      ends the program at once, because its clean-up is not measured
+//   firstpaint:10   waits for 10 seconds and prints the program's effort in that time
 
 namespace {
 
 struct Effort
 {
-    double milliseconds = 0; // of processors, in all threads
+    double milliseconds = 0; // processor time in all threads
     long wakeUps = 0;
 };
 
@@ -55,7 +55,7 @@ public:
         if (event->type() == QEvent::Paint && watched->isWidgetType() &&
             static_cast<QWidget *>(watched)->isWindow()) {
             QCoreApplication::instance()->removeEventFilter(this);
-            // After this painting, which does its children and hands the picture to the screen.
+            // Deferred until the paint event has painted the children and sent the picture to the screen.
             QTimer::singleShot(0, this, &FirstPaint::shown);
         }
         return false;

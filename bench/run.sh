@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Speed and memory against what a user would otherwise run. Every row alternates the two commands five times on this
-# machine and compares medians; a ratio is ours over theirs in throughput, so more is better. Works on loop devices and
-# files of its own in a temporary folder (about 4 GiB), needs root.
+# Speed and memory compared with common tools. Every row alternates the two commands five times on this machine and
+# compares the medians; the ratio is the throughput of ours over theirs, so more is better. Works on its own loop devices
+# and files in a temporary folder (about 4 GiB), and needs root.
 #
 #   bench/run.sh [--build FOLDER] [--runs N] [ROW...]     rows: disk shred random file small tiny free count memory
 #            reports bin trash bin-items trash-items start idle; only when named: count-disk
@@ -57,7 +57,7 @@ trap clean_up EXIT
 
 now() { date +%s%N; }
 
-# timed COMMAND...: seconds of one run, in $seconds; its output in $folder/out.
+# timed COMMAND...: runs the command once; the seconds go to $seconds, the output to $folder/out.
 timed() {
   local from to
   sync
@@ -127,14 +127,14 @@ free_dd() {
   rm -f "$folder/mnt/fill" "$folder/mnt/fill2"
 }
 
-# inside COMMAND...: as timed, but the seconds that the program itself counted.
+# inside COMMAND...: like timed, but with the seconds that the program itself measured.
 inside() {
   timed "$@"
   seconds=$(awk '/^seconds/ { print $2 }' "$folder/out")
 }
 
-# grown NAME GOAL FEW MANY: both are functions that leave $seconds of as much work; the ratio is MANY over FEW, so less
-# is better.
+# grown NAME GOAL FEW MANY: FEW and MANY are functions that do the same amount of work and set $seconds; the ratio is
+# MANY over FEW, so less is better.
 grown() {
   local name=$1 goal=$2 few=$3 many=$4 i a=() b=() ma mb
   "$few" # warm-up, not counted
@@ -158,20 +158,20 @@ reports_row() {
   rm -r "$folder/few" "$folder/many"
 }
 
-# Whole programs, since find cannot tell what its work took without its start. $bin: "bin" or "trash".
+# Whole programs are timed, since find cannot measure its work without its start. $bin: "bin" or "trash".
 bin_ours() { "$services" "scan-$bin" "$folder/drive" 0; }
 bin_find() { find "$folder/drive" -printf '%s %f\n'; }
-bin_row() { # $1: what kind it is
+bin_row() { # $1: the kind of bin
   bin=$1
   "$services" "fill-$bin" "$folder/drive" 50000
   compare "50,000 items in a $bin / find" "at least 0.33" nothing bin_ours bin_find
   rm -r "$folder/drive"
 }
 
-# The same number of items both times.
+# Both rows scan the same number of items.
 items_few() { inside "$services" "scan-$bin" "$folder/few" 50; }
 items_many() { inside "$services" "scan-$bin" "$folder/many" 1; }
-items_row() { # $1: what kind it is
+items_row() { # $1: the kind of bin
   bin=$1
   "$services" "fill-$bin" "$folder/few" 1000
   "$services" "fill-$bin" "$folder/many" 50000
@@ -179,9 +179,9 @@ items_row() { # $1: what kind it is
   rm -r "$folder/few" "$folder/many"
 }
 
-# In memory: on a drive each file waits for the medium, as long whatever their number, which takes many minutes and
-# hides what grows. The row "count-disk" has the drive all the same.
-files_each() { # the time of 100,000 files in $seconds, from $1 jobs of $2
+# The files lie in memory. On a drive each file waits for the medium, which takes many minutes and hides the cost that
+# grows with the number of files. The row "count-disk" measures a drive nevertheless.
+files_each() { # sets $seconds to the time of 100,000 files, from $1 jobs of $2 files
   local i sum=0
   for ((i = 0; i < $1; i++)); do
     new_files "$2" 4096
@@ -192,7 +192,7 @@ files_each() { # the time of 100,000 files in $seconds, from $1 jobs of $2
 }
 files_few() { files_each 5 1000; }
 files_many() { files_each 1 100000; }
-count_row() { # $1: where
+count_row() { # $1: the place, for the label
   grown "100,000 files at once / by 1,000, $1" "at most 1.2" files_few files_many
 }
 count_in_memory() {
@@ -215,8 +215,8 @@ memory_row() {
     $(( ($(nproc) * 16 + 64) * 1024 + 100000 * 400 / 1024 ))
 }
 
-# until_shown PROGRAM [IDLE]: a desktop program with a home of its own and no real drive, up to the first painting of its
-# window, and if asked for IDLE seconds more; on $platform.
+# until_shown PROGRAM [IDLE]: runs a desktop program on $platform with its own home and no real drive, until its window
+# is painted for the first time, and on request for IDLE more seconds.
 until_shown() {
   env HOME="$folder/home" XDG_DATA_HOME="$folder/home/data" XDG_CONFIG_HOME="$folder/home/config" \
     XDG_CACHE_HOME="$folder/home/cache" XDG_RUNTIME_DIR="$folder/home/run" QUORVEX_ONLY_IMAGE_DISKS=1 LC_ALL=C.UTF-8 \
@@ -225,7 +225,7 @@ until_shown() {
 }
 new_home() { rm -rf "${folder:?}/home"; mkdir -p "$folder/home/run"; chmod 700 "$folder/home/run"; }
 
-# Seconds in $seconds, those of processors in $processor. No sync: it would wait for the writing of everybody else.
+# Sets $seconds, and the processor time in $processor. No sync, which would wait for the writes of other programs.
 started() {
   local TIMEFORMAT='%3R %3U %3S' times
   times=$({ time until_shown "$1" || echo failed; } 2>&1)
@@ -235,8 +235,9 @@ started() {
   read -r seconds processor < <(awk '{ print $1, $2 + $3 }' <<<"$times")
 }
 
-# Short runs, hence four times as many. Both programs have run before: their files are in memory, ours has its database.
-start_row() { # $1: where
+# Runs are short, hence four times as many. Both programs have run before, so that their files are cached and the
+# database exists.
+start_row() { # $1: the place, for the label
   local i a=() b=() pa=() pb=()
   new_home
   started "$desktop"; started "$window"
@@ -247,18 +248,18 @@ start_row() { # $1: where
   against "until the window is painted, $1" "$(printf '%s\n' "${a[@]}" | median)" "$(printf '%s\n' "${b[@]}" | median)"
   against "  of it processor time" "$(printf '%s\n' "${pa[@]}" | median)" "$(printf '%s\n' "${pb[@]}" | median)"
 }
-against() { # $1 name, $2 ours, $3 theirs: less is better
+against() { # $1 name, $2 ours, $3 theirs; less is better
   printf '%-46s %9.3f s %9.3f s   %5.2f   (goal at most 1.5)\n' "$1" "$2" "$3" "$(awk -v a="$2" -v b="$3" 'BEGIN { print a / b }')"
 }
 
-idle_row() { # $1: where
+idle_row() { # $1: the place, for the label
   new_home
   until_shown "$desktop" 10 || { cat "$folder/trace" >&2; echo "bench: failed: $desktop" >&2; exit 1; }
   awk -v name="idle for 10 s, $1" '/^milliseconds/ { printf "%-46s %9.1f ms of processors, woken %d times   (goal none)\n", name, $2, $4 }' \
     "$folder/out"
 }
 
-# on_screens ROW: without a screen, and on one of X where there is Xvfb.
+# on_screens ROW: runs the row without a screen, and on an X screen where Xvfb is installed.
 on_screens() {
   platform=offscreen
   "$1" "no screen"

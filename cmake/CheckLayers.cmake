@@ -13,7 +13,7 @@ foreach(row IN LISTS rows)
   string(REPLACE "," ";" allowed_${CMAKE_MATCH_1} "${CMAKE_MATCH_2}")
 endforeach()
 
-# layer_of(RESULT PATH): the layer in whose folder the file lies, the inner one of two; empty for none.
+# layer_of(RESULT PATH): the layer whose folder contains the file, the innermost one when folders nest; empty for none.
 function(layer_of result path)
   set(found "")
   foreach(layer IN LISTS layers)

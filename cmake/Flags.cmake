@@ -1,4 +1,4 @@
-# The one place for compiler and linker flags: every target of ours links quorvex_flags.
+# The only place for compiler and linker flags; every target of the project links quorvex_flags.
 add_library(quorvex_flags INTERFACE)
 
 target_compile_features(quorvex_flags INTERFACE cxx_std_20)
@@ -23,19 +23,19 @@ else()
     -Wold-style-cast -Wvla
     -fstack-protector-strong)
   if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
-    # Clang has them under no name of their own, and refuses these.
+    # Clang has no equivalents of these options and rejects them.
     target_compile_options(quorvex_flags INTERFACE -Wduplicated-cond -Wlogical-op)
-    # What ccache compares then tells which precompiled header was used.
+    # With this option ccache sees which precompiled header was used.
     target_compile_options(quorvex_flags INTERFACE -fpch-preprocess)
   endif()
-  # Also when linking: with MinGW what it calls is a library of its own.
+  # Needed for linking too, because with MinGW the called functions are in a separate library.
   target_link_options(quorvex_flags INTERFACE -fstack-protector-strong)
-  # std::string_view and friends check their bounds, which costs nothing measurable here.
+  # std::string_view and other classes check their bounds, at no measurable cost here.
   target_compile_definitions(quorvex_flags INTERFACE $<$<BOOL:${QUORVEX_ASSERTIONS}>:_GLIBCXX_ASSERTIONS>)
 endif()
 
 if(QUORVEX_ASSERTIONS)
-  # RelWithDebInfo defines NDEBUG and QT_NO_DEBUG; assertions come back without giving up optimisation.
+  # RelWithDebInfo defines NDEBUG and QT_NO_DEBUG; assertions are enabled again without losing optimisation.
   target_compile_options(quorvex_flags INTERFACE -UNDEBUG)
   target_compile_definitions(quorvex_flags INTERFACE QT_FORCE_ASSERTS)
 endif()

@@ -1,4 +1,4 @@
-# The logo as a picture and as a Windows icon of all sizes, drawn from the one drawing there is.
+# Renders the logo as a picture and as a Windows icon of all sizes, from one drawing.
 
 find_program(QUORVEX_RSVG_CONVERT rsvg-convert)
 find_program(QUORVEX_ICOTOOL icotool)
@@ -17,7 +17,7 @@ set(commands "")
 foreach(size IN ITEMS 16 20 24 32 40 48 64 128 256)
   set(image "${folder}/logo-${size}.png")
   list(APPEND commands COMMAND "${QUORVEX_RSVG_CONVERT}" --width=${size} --height=${size} "--output=${image}" "${logo}")
-  # From 256 pixels on Windows wants the picture compressed.
+  # Windows expects pictures from 256 pixels on in compressed form.
   if(size EQUAL 256)
     list(APPEND images "--raw=${image}")
   else()

@@ -1,5 +1,5 @@
-# A layer is one static library below src/, named by its folder. What a layer may include is stated here, in one table,
-# and checked against the #include lines at every build: a wrong arrow fails the build.
+# A layer is one static library below src/, named by its folder. This table states the layers that each layer may
+# include. Every build checks it against the #include lines and fails on a violation.
 set(QUORVEX_LAYERS model platform engine services jobs certificate ui/prompts ui/certificate ui cli)
 set(QUORVEX_LAYER_model "")
 set(QUORVEX_LAYER_platform "")
@@ -15,8 +15,8 @@ set(QUORVEX_LAYER_cli model platform engine services jobs certificate)
 # quorvex_layer(NAME [MOC] [RCC] [SOURCES file...] [LIBRARIES library...])
 #
 # The library of the layer "ui/prompts" is quorvex_ui_prompts.
-# MOC: it has signals, slots or properties; RCC: it carries resources. Both take their time at every build, so only
-# layers that have something for them ask for them.
+# MOC: the layer has signals, slots or properties; RCC: it has resources. Both take time at every build, so a layer sets
+# them only when it needs them.
 function(quorvex_layer name)
   cmake_parse_arguments(PARSE_ARGV 1 arg "MOC;RCC" "" "SOURCES;LIBRARIES")
   string(REPLACE "/" "_" library "quorvex_${name}")
@@ -30,7 +30,7 @@ function(quorvex_layer name)
   target_include_directories(${library} PUBLIC "${PROJECT_SOURCE_DIR}/src")
   target_link_libraries(${library} PUBLIC quorvex_flags Qt6::Core ${arg_LIBRARIES})
   foreach(lower IN LISTS QUORVEX_LAYER_${name})
-    # Without windows there are no layers of windows.
+    # A build without a user interface has no interface layers.
     string(REPLACE "/" "_" lower "quorvex_${lower}")
     if(TARGET ${lower} OR QUORVEX_GUI)
       target_link_libraries(${library} PUBLIC ${lower})

@@ -1,11 +1,11 @@
-# The headers of Qt and of the standard library that most files include, compiled once. Files include what they use all the
-# same: static analysis and one sanitizer build do without (CMAKE_DISABLE_PRECOMPILE_HEADERS).
+# The headers of Qt and of the standard library that most files include, compiled once. Files still include the headers
+# they use, because static analysis and one sanitizer build run without this (CMAKE_DISABLE_PRECOMPILE_HEADERS).
 #
-# A precompiled header holds for one set of compiler flags, so there is one for each kind of target. ccache needs to see
-# what is in it: scripts/lib.sh sets what it wants for that.
+# A precompiled header is valid for one set of compiler flags, so there is one for each kind of target. scripts/lib.sh
+# sets the ccache options that precompiled headers need.
 
-# quorvex_precompiled_header(NAME [PROGRAM] LIBRARIES library... HEADERS header...): a target whose header others reuse.
-# Code for programs is compiled in another way than code for libraries; PROGRAM: it is for the former, and for tests.
+# quorvex_precompiled_header(NAME [PROGRAM] LIBRARIES library... HEADERS header...): a target whose header other targets
+# reuse. PROGRAM: for programs and tests, which are compiled with other options than libraries.
 function(quorvex_precompiled_header name)
   cmake_parse_arguments(PARSE_ARGV 1 arg "PROGRAM" "" "LIBRARIES;HEADERS")
   set(source "${CMAKE_BINARY_DIR}/precompiled/${name}.cpp")

@@ -1,18 +1,18 @@
-# Suites and the programs that hold them.
+# Suites and the programs that contain them.
 #
-# Suites of one subject share a program, since linking one for each takes as long as compiling it: "quorvex-tests-engine
-# tst_wipeengine" runs that suite, with the arguments of Qt Test after its name. Each suite is a test of its own for
-# ctest, and runs in a process of its own.
+# Suites of one subject share a program, since linking one per suite takes as long as compiling it.
+# "quorvex-tests-engine tst_wipeengine" runs that suite, with the arguments of Qt Test after its name. In ctest each
+# suite is a separate test with its own process.
 
-# Suites around what is tested compile in half the time with this; what is tested is compiled as users get it.
+# Test code compiles in half the time with these options; the code under test is compiled as users get it.
 function(quorvex_test_options target)
   if(NOT MSVC)
     target_compile_options(${target} PRIVATE -O1 -g1)
   endif()
 endfunction()
 
-# Where a suite's data lie, which none of ours asks: they differ from folder to folder, and so a precompiled header would
-# hold for one folder only.
+# The folder of a suite's test data, which no suite uses. It differs from folder to folder, so a precompiled header
+# would be valid for one folder only.
 get_target_property(definitions Qt6::Test INTERFACE_COMPILE_DEFINITIONS)
 list(FILTER definitions EXCLUDE REGEX "^QT_TESTCASE_")
 set_target_properties(Qt6::Test PROPERTIES INTERFACE_COMPILE_DEFINITIONS "${definitions}")
@@ -21,8 +21,8 @@ quorvex_precompiled_test_headers()
 
 # quorvex_test_program(NAME [WIDGETS] [SOURCES file...] [LIBRARIES library...])
 #
-# A program for suites; the sources are what they share. WIDGETS: it, or a library of it, uses Qt Gui or Widgets. It links
-# both, so that one precompiled header serves all such programs.
+# A program for suites; the sources are shared by them. WIDGETS: it, or one of its libraries, uses Qt Gui or Widgets. It
+# links both, so that one precompiled header serves all such programs.
 function(quorvex_test_program name)
   cmake_parse_arguments(PARSE_ARGV 1 arg "WIDGETS" "" "SOURCES;LIBRARIES")
   add_executable(${name} ${arg_SOURCES})
@@ -39,16 +39,16 @@ function(quorvex_test_program name)
   add_dependencies(quorvex_tests ${name})
 endfunction()
 
-# Everything that the tests of this build run; the programs they start are added where they are started.
+# All programs that the tests of this build run; the programs that suites start are added at their definition.
 add_custom_target(quorvex_tests)
 
 # quorvex_suite(FILE PROGRAM program LABEL label [NAME name] [NEEDS_ROOT] [USER_DATA] [TIMEOUT seconds] [ENVIRONMENT name=value...])
 #
-# FILE is the suite's source without ".cpp", and its last part the suite's name; NAME is the test's where it is another,
-# for a suite that runs more than once. Labels: unit, contract, fault, residue, cli, gui, windows; and root, by NEEDS_ROOT,
-# for suites that attach loop devices or mount file systems. These run side by side like all others: each looks at what
-# it attached itself only, as on a machine where others plug in drives. USER_DATA: for suites of the folder in which the
-# program keeps the user's data; on Windows all of them have the same one, and wait for each other.
+# FILE is the suite's source without ".cpp"; its last part is the suite's name. NAME is the name of the test when it
+# differs, for a suite that runs more than once. Labels: unit, contract, fault, residue, cli, gui, windows; NEEDS_ROOT adds
+# root, for suites that attach loop devices or mount file systems. These suites run side by side like all others, because
+# each looks only at the devices that it attached itself. USER_DATA: for suites that use the folder of the user's data;
+# on Windows they share one folder and wait for each other.
 function(quorvex_suite file)
   cmake_parse_arguments(PARSE_ARGV 1 arg "NEEDS_ROOT;USER_DATA" "PROGRAM;LABEL;NAME;TIMEOUT" "ENVIRONMENT")
   get_filename_component(suite "${file}" NAME)

@@ -1,7 +1,7 @@
-# What a program for Windows carries beside its code, and what must lie beside it to run where it was built.
+# Resources of Windows programs, and the libraries that must lie beside them to run from the build folder.
 
-# quorvex_windows_program(TARGET DESCRIPTION text RIGHTS asInvoker|highestAvailable): manifest, version resource and
-# icon. RIGHTS: what the system is asked for when the program starts.
+# quorvex_windows_program(TARGET DESCRIPTION text RIGHTS asInvoker|highestAvailable): adds manifest, version resource
+# and icon. RIGHTS: the rights that the program requests at its start.
 function(quorvex_windows_program target)
   cmake_parse_arguments(PARSE_ARGV 1 arg "" "DESCRIPTION;RIGHTS" "")
   set(folder "${CMAKE_BINARY_DIR}/windows/${target}")
@@ -15,7 +15,7 @@ function(quorvex_windows_program target)
   set_source_files_properties("${folder}/program.rc" PROPERTIES OBJECT_DEPENDS "${QUORVEX_MANIFEST};${QUORVEX_ICON}")
   add_dependencies(${target} quorvex_icon)
   if(MSVC)
-    # The linker would put a manifest of its own beside ours.
+    # Otherwise the linker would add its own manifest.
     target_link_options(${target} PRIVATE /MANIFEST:NO)
   endif()
 endfunction()

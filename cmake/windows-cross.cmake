@@ -1,4 +1,4 @@
-# Toolchain for Windows x86-64 with the MinGW compilers of Debian. The "posix" ones: their standard library has
+# Toolchain for Windows x86-64 with Debian's MinGW compilers, in their "posix" variant, whose standard library supports
 # threads.
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR x86_64)
@@ -12,5 +12,5 @@ set(CMAKE_FIND_ROOT_PATH /usr/${triplet})
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
-# Qt for Windows lies outside that root; CMAKE_PREFIX_PATH names it.
+# Qt for Windows lies outside that root, in CMAKE_PREFIX_PATH.
 set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE BOTH)

@@ -1,10 +1,10 @@
 #!/usr/bin/env bash
-# Every C++ file in the repository is formatted as .clang-format says.
+# Checks that every C++ file in the repository is formatted by .clang-format.
 # shellcheck source=lib.sh
 source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
 cd "$root"
 
-# A clone that belongs to somebody else is refused by git, which would leave nothing to check.
+# git refuses a clone of another owner, and without a file list nothing would be checked.
 list=$(git -c safe.directory="$root" ls-files -- '*.h' '*.cpp')
 [[ -n $list ]] || fail "git lists no C++ file"
 mapfile -t files <<<"$list"

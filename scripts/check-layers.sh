@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Checks the include arrows between the layers, and that the check still catches the wrong ones.
+# Checks the includes between the layers, and that the check still detects violations.
 # shellcheck source=lib.sh
 source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
 
@@ -10,14 +10,14 @@ check_tree() {
     cmake -DSOURCE="$tree" -DTABLE="model=|platform=|engine=model,platform|ui/prompts=model|ui=model,ui/prompts" -P "$root/cmake/CheckLayers.cmake" 2>&1
 }
 
-# refuses FILE LINE MESSAGE: with LINE in src/FILE the check fails and says MESSAGE.
+# refuses FILE LINE MESSAGE: with LINE in src/FILE the check must fail with MESSAGE.
 refuses() {
     local output
     printf '%s\n' "$2" >"$tree/$1"
     if output=$(check_tree); then
         fail "the layer check lets '$2' in $1 pass"
     fi
-    # CMake breaks long messages into lines of its own.
+    # CMake wraps long messages.
     if [[ $(tr -s ' \n' ' ' <<<"$output") != *"$3"* ]]; then
         printf '%s\n' "$output" >&2
         fail "the layer check fails for '$2' in $1, but not with: $3"

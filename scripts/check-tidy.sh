@@ -1,13 +1,13 @@
 #!/usr/bin/env bash
 # Static analysis with the checks of .clang-tidy; a warning is a failure:
 #
-#   scripts/check-tidy.sh                    everything below src/ that the preset "dev" compiles
-#   scripts/check-tidy.sh src/engine/*.cpp   these files of it
+#   scripts/check-tidy.sh                    all files below src/ that the preset "dev" compiles
+#   scripts/check-tidy.sh src/engine/*.cpp   only these files
 #   scripts/check-tidy.sh --windows          src/platform/windows/, as the preset "windows-cross" compiles it
 #
-# It reads a tree of its own, which is configured and never built, and in which there are no precompiled headers: what a file
-# does not include itself is missing here. A file that was found clean is not read again before it, a header below src/,
-# its compiler flags or the checks have changed; in a fresh clone that is every file.
+# It uses a separate build tree that is configured and never built. The tree has no precompiled headers, so that missing
+# includes are found. A clean file is analysed again only after a change of the file, of a header below src/, of its
+# compiler flags or of the checks; in a fresh clone every file is analysed.
 # shellcheck source=lib.sh
 source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
 cd "$root"
@@ -15,7 +15,7 @@ cd "$root"
 export build_folder=build/tidy
 preset=dev
 folder=src
-# For the target of the cross compiler: its own headers, but clang's in place of the compiler's.
+# The cross compiler's own headers, with clang's builtin headers in place of gcc's.
 target_arguments=()
 if [[ ${1:-} == --windows ]]; then
     shift
@@ -36,7 +36,7 @@ if (($# > 0)); then
 else
     files=()
     while read -r file; do
-        # What this build does not compile has no compile command, and would be analysed with wrong flags.
+        # A file that this build does not compile has no compile command, and would be analysed with wrong flags.
         if grep -qF "\"file\": \"$root/$file\"" "$build_folder/compile_commands.json"; then
             files+=("$file")
         else
@@ -46,11 +46,11 @@ else
 fi
 ((${#files[@]} > 0)) || fail "no file below $folder is in $build_folder/compile_commands.json"
 
-# What all files share.
+# The inputs common to all files.
 common=$(find src -name '*.h' -print0 | sort -z | xargs -0 cat .clang-tidy scripts/check-tidy.sh | sha256sum)
 export common
 
-# analyse FILE ARGUMENT...: its output comes in one piece, without the count of warnings suppressed in Qt's headers.
+# analyse FILE ARGUMENT...: prints its output in one piece, without the count of warnings suppressed in Qt's headers.
 analyse() {
     local output status=0 file=$1 command key clean
     shift

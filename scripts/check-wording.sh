@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Nothing half-done and no path of one computer in the repository.
+# Checks that the repository contains no unfinished work and no path of one computer.
 # shellcheck source=lib.sh
 source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
 cd "$root"
@@ -11,7 +11,7 @@ search() {
     local what=$1 status=0
     shift
     git -c safe.directory="$root" grep -nI "$@" || status=$?
-    # 0: found, 1: not found, anything else: it could not look.
+    # 0: found, 1: not found; any other status means that the search itself failed.
     ((status <= 1)) || fail "git grep could not search for $what"
     if ((status == 0)); then
         printf 'error: %s, see above\n' "$what" >&2
@@ -19,8 +19,7 @@ search() {
     fi
 }
 
-# The words are put together here, so that this file does not find itself.
-# One of them is a word of Spanish.
+# The words are concatenated here, so that this file does not match itself. One of them is a Spanish word.
 search "a marker of unfinished work" -wE -e "TO""DO|FIX""ME|XX""X|HA""CK" -- . ":!resources/translations/*.ts"
 search "a mark of an unresolved merge" -E -e "^(<<<<<<""<|>>>>>>"">)( |\$)"
 search "a path into somebody's home folder" -E -e "(^|[^A-Za-z0-9_.\$}~-])/(ro""ot|home/[A-Za-z0-9_.-]+)/"

@@ -1,18 +1,18 @@
 #!/usr/bin/env bash
-# Feeds the readers of what others wrote with random files, from those in tests/fuzz/corpus/ onwards, and asks of
-# each what must hold for any: scripts/fuzz.sh [RUNS]
+# Feeds the readers of foreign files with random files, starting from those in tests/fuzz/corpus/, and checks the
+# invariants of each reader: scripts/fuzz.sh [RUNS]
 #
-# RUNS is the number of files for each reader; without it as many as fit into half a minute or so. The same SEED (from
+# RUNS is the number of files for each reader; by default as many as fit into about half a minute. The same SEED (from
 # the environment) gives the same files. New finds stay in build/fuzz/.
 # shellcheck source=lib.sh
 source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
 cd "$root"
 
-# As many as each has done in about eight seconds, alone on a small machine.
+# As many as each reader processes in about eight seconds on an idle small machine.
 declare -A runs=([infofile]=400000 [trashinfo]=300000 [wipereport]=30000)
-# However slow the machine; the number really done is told.
+# The limit on a slow machine; the number of runs is printed.
 seconds_at_most=14
-# Longer than the longest that a reader treats in its own way.
+# Longer than the longest input that a reader treats specially.
 declare -A longest=([infofile]=1200 [trashinfo]=600 [wipereport]=1200)
 
 if (($# > 0)); then
@@ -25,7 +25,7 @@ fi
 seed=${SEED:-$((RANDOM << 15 | RANDOM))}
 [[ $seed =~ ^[1-9][0-9]*$ ]] || fail "SEED is no number above 0: $seed"
 
-# As for the other sanitizers: see sanitize.sh.
+# For the same reason as in sanitize.sh.
 launcher=()
 if (($(cat /proc/sys/vm/mmap_rnd_bits 2>/dev/null || echo 28) > 28)); then
     launcher=(setarch "$(uname -m)" --addr-no-randomize)
@@ -38,7 +38,7 @@ fuzz() {
     rm -rf "$work/corpus"
     mkdir -p "$work/findings"
     cp -r "tests/fuzz/corpus/$name" "$work/corpus"
-    # Reports read times, some of them local ones.
+    # Reports contain times, some of them in local time.
     TZ=UTC UBSAN_OPTIONS=print_stacktrace=1 "${launcher[@]}" "build/fuzz/bin/fuzz_$name" -seed="$seed" \
         -runs="${runs[$name]}" -max_total_time="$seconds_at_most" -max_len="${longest[$name]}" -timeout=10 \
         -rss_limit_mb=1024 -print_final_stats=1 -artifact_prefix="$work/findings/" "$work/corpus" \

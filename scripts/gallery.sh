@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Makes the gallery anew: pictures of pages, dialogs and certificates in build/gallery, for people to look at.
+# Renders the gallery again: pictures of pages, dialogs and certificates in build/gallery, for visual review.
 #
 #   scripts/gallery.sh                     Chinese, English, German and Japanese at 100 %, 150 % and 200 %
 #   scripts/gallery.sh de fr               these languages

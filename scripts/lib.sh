@@ -1,5 +1,5 @@
 # shellcheck shell=bash
-# Common to run.sh, test.sh, .ci/run and the other scripts: sourced, never run.
+# Common functions of run.sh, test.sh, .ci/run and the other scripts; only to be sourced.
 set -euo pipefail
 export LC_ALL=C.UTF-8
 
@@ -8,31 +8,32 @@ export LC_ALL=C.UTF-8
 {
     root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd -P)
 
-    # qt6-tools-dev holds the CMake package that finds the translation tools of qt6-l10n-tools.
+    # qt6-tools-dev contains the CMake package that finds the translation tools of qt6-l10n-tools.
     packages_build=(cmake ninja-build g++ qt6-base-dev qt6-base-dev-tools qt6-svg-dev libqt6sql6-sqlite
         qt6-l10n-tools qt6-tools-dev qt6-tools-dev-tools)
     # The program's icon, drawn at build time.
     packages_build+=(librsvg2-bin icoutils)
-    # Practice drives: mkfs of three file systems, losetup (in "mount"), and a file system of our own for faults.
+    # For test drives: mkfs of three file systems, losetup (in "mount"), and libfuse for the project's file system that
+    # injects faults.
     packages_test=(e2fsprogs xfsprogs btrfs-progs util-linux mount libfuse3-dev fuse3 pkg-config)
-    # A bus of the tests' own.
+    # The tests start their own message bus.
     packages_test+=(dbus-daemon)
-    # A reader of PDF files that is not ours.
+    # An independent PDF reader.
     packages_test+=(poppler-utils)
-    # A screen that shows windows to nobody.
+    # A virtual screen.
     packages_test+=(xvfb)
     packages_ci=(git clang-format shellcheck python3)
-    # This one does not apply its checks to the headers of Qt again for every file, and takes a third of the time.
+    # This version does not apply its checks to Qt's headers again for every file, and takes a third of the time.
     packages_ci+=(clang-tidy-22)
-    # Besides the compiler the sanitizers with the loop that feeds a reader, and what names the lines of a stack.
+    # Besides the compiler: the sanitizers with the fuzzing loop, and the tool that resolves stack addresses to lines.
     packages_fuzz=(clang libclang-rt-dev llvm)
-    # Qt from source; SQLite is not among the libraries that its source package brings along.
+    # Qt from source. Its source package does not contain SQLite.
     packages_qt_source=(cmake ninja-build g++ dpkg-dev libsqlite3-dev qt6-base-dev)
-    # The cross compilers; tcl puts SQLite's one source file together. The Qt tools that run here are those of
-    # packages_build.
+    # The cross compilers; tcl is needed to build SQLite's amalgamated source file. The Qt tools that run on the build
+    # machine are in packages_build.
     packages_windows=(g++-mingw-w64-x86-64-posix tcl make qt6-base-dev-tools qt6-tools-dev qt6-tools-dev-tools)
     packages_wine=(wine wine64 xvfb xauth fonts-noto-cjk fonts-dejavu-core)
-    # One hand for all eleven languages, the pictures on buttons, and the letters of the seal on a certificate.
+    # One typeface for all eleven languages, the pictures on buttons, and the letters of the seal on a certificate.
     packages_fonts=(fonts-noto-cjk fonts-noto-color-emoji fonts-dejavu-core)
 }
 
@@ -41,8 +42,9 @@ fail() {
     exit 1
 }
 
-# step NAME COMMAND [ARGUMENT...]: says what is done, and on a failure which step it was. The command may be a
-# function. To be called as a plain statement: behind "if", "&&" or "||" bash would ignore failures inside it.
+# step NAME COMMAND [ARGUMENT...]: prints the step, and its name after a failure. The command may be a function. Must be
+# called as a plain statement, because behind "if", "&&" or "
+# " bash ignores failures inside it.
 steps_done=()
 step() {
     local name=$1 began=$SECONDS status
@@ -63,8 +65,8 @@ step() {
     printf '<== %s\n' "${steps_done[-1]}"
 }
 
-# beside NAME COMMAND [ARGUMENT...]: a step that runs while others do; beside_done waits for it and shows what it printed.
-# One at a time.
+# beside NAME COMMAND [ARGUMENT...]: runs a step in parallel with the following ones; beside_done waits for it and
+# prints its output. One at a time.
 beside() {
     beside_name=$1
     beside_began=$SECONDS
@@ -73,7 +75,7 @@ beside() {
     printf '\n==> %s (beside the next steps)\n' "$beside_name"
     "$@" >"$beside_log" 2>&1 &
     beside_process=$!
-    # A step that fails meanwhile ends it as well.
+    # A failure of another step ends this one too.
     trap 'kill "$beside_process" 2>/dev/null' EXIT
 }
 
@@ -91,7 +93,7 @@ beside_done() {
     printf '<== %s\n' "${steps_done[-1]}"
 }
 
-# One compiler for each processor, but no more than fit: a Qt source file takes up to 1.5 GB with a sanitizer.
+# One compiler per processor, limited by memory, since a Qt source file takes up to 1.5 GB with a sanitizer.
 jobs_count() {
     local processors memory_kb by_memory
     processors=$(nproc)
@@ -115,7 +117,7 @@ as_root() {
 missing_packages() {
     local package
     for package in "$@"; do
-        # One line for each architecture the package is known in; one installed is enough.
+        # dpkg-query prints one line for each architecture that has the package; one installed is enough.
         dpkg-query -W -f '${db:Status-Status}\n' "$package" 2>/dev/null | grep -qx installed || echo "$package"
     done
 }
@@ -125,7 +127,7 @@ apt_install() {
         -o Dpkg::Use-Pty=0 -o DPkg::Lock::Timeout=600 "$@"
 }
 
-# install_packages PACKAGE...: nothing and silence when all are there.
+# install_packages PACKAGE...: prints nothing when all are installed.
 install_packages() {
     local missing log
     command -v dpkg-query >/dev/null || fail "step 'install packages' failed: this script installs Debian packages"
@@ -133,7 +135,8 @@ install_packages() {
     ((${#missing[@]} > 0)) || return 0
     printf 'Installing %s\n' "${missing[*]}"
     log=$(mktemp)
-    # The package lists may be missing, or name files that the mirror has replaced since: then once more with new lists.
+    # Package lists may be missing, or name files that the mirror has replaced since, so a failure is retried with new
+    # lists.
     if ! apt_install "${missing[@]}" >"$log" 2>&1 &&
         ! { as_root apt-get update && apt_install "${missing[@]}"; } >"$log" 2>&1; then
         tail -n 30 "$log" >&2
@@ -151,7 +154,7 @@ build() {
     shift
     cd "$root"
     if command -v ccache >/dev/null; then
-        # Without the second line it keeps nothing of what is compiled with a precompiled header.
+        # Without CCACHE_SLOPPINESS ccache stores no object that uses a precompiled header.
         export CMAKE_CXX_COMPILER_LAUNCHER=ccache
         export CCACHE_SLOPPINESS=pch_defines,time_macros
     fi
@@ -159,9 +162,9 @@ build() {
     cmake --build --preset "$preset" --parallel "$(jobs_count)" "$@"
 }
 
-# run_tests PRESET [OPTION of ctest...]: the last lines that ctest prints stay in build/PRESET/ctest.log, and what a
-# suite skipped is repeated, since ctest shows nothing of a program that passed. Twice as many suites as processors: they
-# wait for media, timers and processes half of the time.
+# run_tests PRESET [OPTION of ctest...]: keeps the last lines of ctest in build/PRESET/ctest.log, and prints the reasons
+# of skipped tests, because ctest shows no output of passed programs. Runs twice as many suites as processors, because
+# suites wait for media, timers and processes half of the time.
 run_tests() {
     local preset=$1 status=0
     shift
@@ -174,8 +177,8 @@ run_tests() {
     skipped_tests "$preset"
 }
 
-# Repeats why suites failed: a suite prints thousands of lines, and whoever shows only the end of a log sees none of
-# these.
+# Prints the failures of suites again. A suite prints thousands of lines, and the end of the log does not show the
+# failures.
 failed_tests() {
     local log="$root/build/$1/Testing/Temporary/LastTest.log"
     [[ -f $log ]] || return 0
@@ -184,7 +187,7 @@ failed_tests() {
         tr -d '\r' || printf '  nothing in the log says so\n'
 }
 
-# Where every check counts (CI=true), only what tests/allowed-skips.txt lists may be skipped.
+# With CI=true only the tests in tests/allowed-skips.txt may be skipped.
 skipped_tests() {
     local preset=$1 log="$root/build/$1/Testing/Temporary/LastTest.log" line skipped refused=()
     [[ -f $log ]] || return 0
@@ -208,7 +211,7 @@ is_allowed_skip() {
     local preset pattern
     while read -r preset pattern; do
         [[ $preset != '#'* && -n $pattern ]] || continue
-        # The right sides are patterns.
+        # The right-hand sides are patterns.
         # shellcheck disable=SC2053
         [[ $1 == $preset && $2 == $pattern ]] && return 0
     done <"$root/tests/allowed-skips.txt"

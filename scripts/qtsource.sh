@@ -1,22 +1,22 @@
 # shellcheck shell=bash
-# Qt built from Debian's own source package, once for each set of options: sourced by the scripts that say which.
+# Builds Qt from Debian's own source package, once for each set of options. Sourced by the scripts that define the
+# options.
 #
 # The result lies outside the checkout, in ${QUORVEX_CACHE:-${XDG_CACHE_HOME:-~/.cache}/quorvex}/<name>-<key>, so that
-# the next clone finds it, and is linked into it as .cache/<name>, where the presets look. A finished build from
-# elsewhere is taken instead where a variable of the environment names its folder: QUORVEX_QT_WINDOWS, QUORVEX_QT_TSAN.
-# Each result carries a file that says which Qt it is, by which compiler and with which options, and one that says
-# anything else is refused.
+# the next clone finds it. It is linked as .cache/<name>, where the presets look. The environment variables
+# QUORVEX_QT_WINDOWS and QUORVEX_QT_TSAN can name the folder of a finished build instead. Each result contains a file
+# with its Qt version, compiler and options; a result with other contents of that file is refused.
 # shellcheck source=lib.sh
 source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
 
-# fetch_source PACKAGE[=VERSION]: unpacks into $work/source. The archives that this computer installs from, as source
-# archives, in a list and folders of our own: nothing in /etc/apt is changed, and no root is needed.
+# fetch_source PACKAGE[=VERSION]: unpacks into $work/source. Uses the source archives of this computer's package
+# archives, in a separate list and separate folders, so that /etc/apt stays unchanged and no root rights are needed.
 fetch_source() {
-    # The names in round brackets are apt's, not the shell's.
+    # The names in parentheses are apt's, not the shell's.
     # shellcheck disable=SC2016
     local line='deb-src [signed-by=/usr/share/keyrings/debian-archive-keyring.gpg] $(REPO_URI) $(RELEASE) $(COMPONENT)'
     local filters=('Created-By: Packages' 'Origin: Debian')
-    # Sandbox: apt would fetch as the user _apt, who may not write into our folder.
+    # Without this setting apt would fetch as the user _apt, who may not write into this folder.
     local apt=(apt-get -q
         -o "Dir::Etc::SourceList=$work/apt/sources.list" -o Dir::Etc::SourceParts=-
         -o "Dir::State::Lists=$work/apt/lists" -o "Dir::Cache=$work/apt/cache"
@@ -43,7 +43,7 @@ build_qt() {
     DESTDIR=$work/stage cmake --install "$work/build"
 }
 
-# Options that every build of ours shares.
+# Options of all Qt builds of the project.
 # shellcheck disable=SC2034  # used by the scripts that source this file
 qt_common_options=(
     -DQT_BUILD_EXAMPLES=OFF
@@ -60,15 +60,15 @@ qt_common_options=(
     -DFEATURE_sql_ibase=OFF
 )
 
-# What a build of Qt says of itself, in the file of this name at its top.
+# The file at the top of a Qt build with its description.
 qt_description_name=quorvex-qt.txt
 
-# describe_qt KEY_TEXT...: one line for each thing that the result depends on.
+# describe_qt KEY_TEXT...: prints one line for each property that the result depends on.
 describe_qt() {
     printf '%s\n' "Qt $qt_version" "$@"
 }
 
-# check_qt FOLDER: whether that is the build that would be made here.
+# check_qt FOLDER: fails unless the folder holds the build that would be made here.
 check_qt() {
     local found=$1/$qt_description_name
     [[ -f $found ]] || fail "$1 is no finished build of Qt: it has no $qt_description_name"
@@ -76,9 +76,9 @@ check_qt() {
         fail "$1 is another build of Qt than this checkout needs"
 }
 
-# provide_qt NAME WHAT MINUTES FUNCTION KEY_TEXT...: runs the function unless there is its result already. It finds the
-# folder to work in as $work and the final folder as $prefix, and stages into $work/stage$prefix. What the result
-# depends on beside Qt's version stands in the texts.
+# provide_qt NAME WHAT MINUTES FUNCTION KEY_TEXT...: runs the function unless its result exists. The function works in
+# $work, builds for the final folder $prefix, and stages into $work/stage$prefix. The texts state all inputs of the
+# result except Qt's version.
 provide_qt() {
     local name=$1 what=$2 minutes=$3 function=$4 home=~ cache log status given began=$SECONDS
     shift 4
@@ -106,13 +106,13 @@ provide_qt() {
         check_qt "$prefix"
         printf '%s: built before\n' "$what"
     else
-        # Only the holder of the lock builds, so these are what a killed build left.
+        # Only the holder of the lock builds, so these folders were left by a killed build.
         rm -rf "$cache/$name"-build.*
         work=$(mktemp -d "$cache/$name-build.XXXXXX")
         trap 'rm -rf "$work"' EXIT
         log=$cache/$name-build.log
         printf 'Building %s (Qt %s), about %s minutes; log: %s\n' "$what" "$qt_version" "$minutes" "$log"
-        # In a subshell of its own, since "set -e" does not hold within a condition.
+        # In a subshell, since "set -e" has no effect within a condition.
         set +e
         (
             set -e

@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
-# Brings the catalogues in resources/translations up to date with the texts in the sources:
+# Updates the catalogues in resources/translations with the texts in the sources:
 #
-#   scripts/update-translations.sh           takes new texts in and drops those that are gone
-#   scripts/update-translations.sh --check   fails when there is anything to take in or to drop
+#   scripts/update-translations.sh           adds new texts and drops removed ones
+#   scripts/update-translations.sh --check   fails when there are texts to add or to drop
 # shellcheck source=lib.sh
 source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
 cd "$root"
@@ -15,7 +15,7 @@ mapfile -t languages < <(sed -n 's/^\([^#|]*\) |.*/\1/p' "$folder/languages.txt"
 
 [[ -x $lupdate ]] || fail "there is no $lupdate: the package qt6-l10n-tools brings it"
 
-# update FOLDER: without line numbers, which would change with every edit of a source.
+# update FOLDER: writes no line numbers, which would change with every edit of a source.
 update() {
     local language files=()
     for language in "${languages[@]}"; do

@@ -13,12 +13,13 @@ options=(
     -DQT_HOST_PATH_CMAKE_DIR=/usr/lib/x86_64-linux-gnu/cmake
     -DINPUT_opengl=no
     -DFEATURE_vulkan=OFF
-    # Debian's source package comes without the header of the tablet interface and without SQLite.
+    # Debian's source package lacks the header of the tablet interface, and SQLite.
     -DFEATURE_tabletevent=OFF
-    # Pictures that no page shows. (Without Direct2D there would be no DirectWrite, whose fonts the program is drawn with.)
+    # Image formats that no page uses. (Without Direct2D there would be no DirectWrite, which renders the program's
+    # fonts.)
     -DFEATURE_gif=OFF
     -DFEATURE_jpeg=OFF
-    # Widgets and dialogs that the program has none of. (The print dialog asks dates.)
+    # Widgets and dialogs that the program does not use. (The print dialog uses date fields.)
     -DFEATURE_colordialog=OFF
     -DFEATURE_columnview=OFF
     -DFEATURE_datawidgetmapper=OFF
@@ -65,7 +66,7 @@ build_windows_qt() {
         plugins/{platforms/qwindows,platforms/qoffscreen,sqldrivers/qsqlite}.dll; do
         [[ -e $work/stage$prefix/$file ]] || fail "the build of Qt left no $file"
     done
-    # A feature goes without a word where one that it needs is switched off.
+    # Qt silently drops a feature that depends on a disabled one.
     grep -q 'QT_FEATURE_printdialog 1' "$work/stage$prefix/include/QtPrintSupport/qtprintsupport-config.h" ||
         fail "Qt was built without a print dialog"
 }

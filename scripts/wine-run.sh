@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Runs a Windows program of build/windows-cross under Wine, in a prefix of its own: scripts/wine-run.sh PROGRAM [ARGUMENT...]
+# Runs a Windows program of build/windows-cross under Wine, in a separate prefix: scripts/wine-run.sh PROGRAM
+# [ARGUMENT...]
 # shellcheck source=lib.sh
 source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
 # shellcheck source=wineprefix.sh

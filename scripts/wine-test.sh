@@ -2,17 +2,17 @@
 # Builds everything for Windows and runs its tests under Wine: scripts/wine-test.sh [OPTION of ctest...]
 #
 #   scripts/wine-test.sh                    everything
-#   scripts/wine-test.sh -L windows         what only Windows has
+#   scripts/wine-test.sh -L windows         suites for Windows only
 #   scripts/wine-test.sh -R tst_files       suites whose name matches
 #   scripts/wine-test.sh --build            builds, and runs nothing
 #
-# Exits with what ctest exits with.
+# Exits with the exit code of ctest.
 # shellcheck source=lib.sh
 source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
 # shellcheck source=wineprefix.sh
 source "$(dirname "${BASH_SOURCE[0]}")/wineprefix.sh"
 
-# What the desktop program looked like stays in build/windows-cross/pictures.
+# Pictures of the desktop program stay in build/windows-cross/pictures.
 tests_under_wine() {
     trap end_wine EXIT
     provide_wine_prefix

@@ -1,22 +1,22 @@
 # shellcheck shell=bash
-# Wine in a prefix of our own, below the build folder: sourced by the scripts that run Windows programs. Nothing of
-# the user's own Wine is read or changed.
+# Provides Wine in a separate prefix below the build folder. Sourced by the scripts that run Windows programs. The
+# user's own Wine prefix is neither read nor changed.
 # shellcheck disable=SC2154  # root: from lib.sh
 export WINEPREFIX=$root/build/windows-cross/wine
 export WINEARCH=win64
 export WINEDEBUG=-all
-# No dialogs that offer to fetch what our programs do not need.
+# No dialogs that offer to download components, which the programs do not need.
 export WINEDLLOVERRIDES='mscoree=;mshtml=;winemenubuilder.exe='
 
-# Without a console Qt's test programs would tell what they found to a debugger only. Wine keeps variables of Qt to
-# itself, but for those named so.
+# Without a console Qt's test programs would print to a debugger only. Wine ignores Qt variables of the host unless they
+# have this prefix.
 export WINEQT_FORCE_STDERR_LOGGING=1
 
-# Wine ends a program that draws with a font of pictures, such as the colour emoji of the host: it gets a choice of
-# outline fonts instead.
+# Wine aborts a program that draws with a picture font, such as the colour emoji of the host, so it gets a selection of
+# outline fonts.
 export FONTCONFIG_FILE=$root/build/windows-cross/fonts/fonts.conf
 
-# Debian starts 32-bit Wine through "wine" where it is installed; our programs are 64-bit ones.
+# Where 32-bit Wine is installed, Debian's "wine" starts it; the programs are 64-bit.
 # shellcheck disable=SC2034  # used by the scripts that source this file
 wine=$(command -v wine64 || echo /usr/lib/wine/wine64)
 wineserver=$(command -v wineserver || echo /usr/lib/wine/wineserver64)
@@ -48,17 +48,17 @@ provide_wine_prefix() {
             tail -n 20 "$WINEPREFIX.log" >&2
             fail "Wine could not set up $WINEPREFIX"
         }
-        # There is no window manager whose answers were worth waiting for.
+        # No window manager runs, so waiting for its answers would be useless.
         "$wine" reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /d N /f >/dev/null 2>&1
-        # What set it up had perhaps no display; programs that join it would have none either.
+        # The processes of the set-up may have had no display, and programs that joined them would have none either.
         "$wineserver" --wait
         touch "$WINEPREFIX/ready"
     fi
     exec 8>&-
 }
 
-# Wine's own processes, which the first program would start and leave behind with the pipe to whoever waits for the end
-# of its output. They stay until end_wine.
+# Starts Wine's background processes. Otherwise the first program would start them and leave them behind with its output
+# pipe, whose reader would wait for ever. They stay until end_wine.
 start_wine() {
     "$wineserver" --persistent >/dev/null 2>&1 </dev/null
     "$wine" net start RpcSs >/dev/null 2>&1 </dev/null

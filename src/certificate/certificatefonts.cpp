@@ -7,8 +7,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Simplified Chinese first: the source texts are. The others have what it may lack of Hangul, kana and
-// traditional characters.
+// Simplified Chinese first, as the source texts are. The other families add Hangul, kana and traditional
+// characters.
 const QStringList &textFamilies()
 {
     static const QStringList families{
@@ -25,8 +25,8 @@ QFont certificatefonts::text(double points, QFont::Weight weight)
 {
     QFont font(textFamilies(), -1, weight);
     font.setPointSizeF(points);
-    // A PDF can only be searched for characters that have a glyph of their own, and shaping puts ligatures
-    // and other forms of the digits in their place.
+    // A PDF can only be searched for characters that have their own glyph, and shaping replaces glyphs by
+    // ligatures and alternative digits.
     font.setStyleStrategy(QFont::PreferNoShaping);
     return font;
 }

@@ -32,34 +32,33 @@ enum class CertificateItem : std::size_t {
     TotalSectors,
     SectorsErased,
     DataWritten,
-    OnTheMedium, ///< only where labels give corrections a row of their own
+    OnTheMedium, ///< only where labels give corrections separate rows
     BadSectors,
     Result,
-    ReadBack, ///< only where labels give corrections a row of their own
+    ReadBack, ///< only where labels give corrections separate rows
     Samples,
     DataHash,
     Operator,
     Computer,
 };
 
-/// The words of one form of the certificate: the paper or the dialog. The texts are sources for translation;
-/// they are static.
+/// The words of one form of the certificate, paper or dialog. The texts are static sources for translation.
 struct CertificateLabels
 {
     static constexpr std::size_t GroupCount = 5;
     static constexpr std::size_t ItemCount = 24;
 
-    /// Where a correction stands: a figure or a finding of the job's outcome that the report states
-    /// otherwise.
+    /// The place of a correction, which is a figure or a finding of the job's outcome that differs from the
+    /// report.
     enum class Corrections {
         BesideTheValue,
         InRowsOfTheirOwn,
     };
 
-    /// Which files a certificate of shredded files counts.
+    /// The files that a certificate of shredded files counts.
     enum class FileCount {
-        Listed,    ///< those in the report's list, which is mostly empty; the number follows as a correction
-        Processed, ///< those that the job worked on
+        Listed,    ///< files in the report's (mostly empty) list; the processed number is the correction
+        Processed, ///< files that the job worked on
     };
 
     struct Title
@@ -70,15 +69,15 @@ struct CertificateLabels
     struct Label
     {
         CertificateItem item;
-        const char *text; ///< null for an item that this form does not have
+        const char *text; ///< null for an item that this form lacks
     };
 
-    const char *context; ///< of the texts, for translation
+    const char *context; ///< translation context of the texts
     std::array<Title, GroupCount> titles;
     std::array<Label, ItemCount> items;
-    const char *passes;  ///< behind the number of passes; null for nothing
-    const char *files;   ///< behind the number of files; null for nothing
-    const char *samples; ///< behind the number of samples; null for nothing
+    const char *passes;  ///< follows the number of passes; null for none
+    const char *files;   ///< follows the number of files; null for none
+    const char *samples; ///< follows the number of samples; null for none
     const char *passed;
     const char *failed;
     const char *notRead;
@@ -93,7 +92,7 @@ struct CertificateLabels
     QString translated(const char *text) const;
 };
 
-/// Whether every title and every label stands at its own place. For a static_assert behind each set.
+/// Whether all titles and labels are in the order of their enumerations. For a static_assert behind each set.
 constexpr bool isInOrder(const CertificateLabels &labels)
 {
     for (std::size_t i = 0; i < labels.titles.size(); ++i) {

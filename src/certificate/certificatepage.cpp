@@ -23,7 +23,7 @@ constexpr int margin = 20;
 constexpr int labelWidth = 35;
 constexpr int labelGap = 5;
 constexpr int rowHeight = 6;
-// The one length that does not grow with the resolution: the certificates of all versions cut long values
+// The one length that does not grow with the resolution, because certificates of all versions cut long values
 // at the same pixel.
 constexpr int valueWidthPixels = 500;
 
@@ -151,8 +151,8 @@ void CertificatePage::paintRule()
     moveDown(outcomeRoom);
 }
 
-// Between the rule and the first section, in letters as large as those of the status, which may say that the
-// job was completed. What one line's room does not hold moves the rest down.
+// Painted between the rule and the first section, in letters as large as those of the status, because the
+// status may say that the job was completed. Text beyond one line moves the rest down.
 void CertificatePage::paintOutcome(const OutcomeRecord &outcome)
 {
     const QFont font = textFont(10, QFont::Bold);
@@ -167,8 +167,7 @@ void CertificatePage::paintOutcome(const OutcomeRecord &outcome)
         m_y += further + pixels(outcomeGap);
 }
 
-// As many kinds of what the job fell short of as a few lines hold; who wants the others is told where they
-// are.
+// Lists as many kinds of shortfall as a few lines hold, and says where to find the others.
 QString CertificatePage::outcomeText(const OutcomeRecord &outcome, const QFont &font) const
 {
     QString all = outcome.summary();
@@ -241,7 +240,7 @@ void CertificatePage::paintHighlightedRow(const CertificateRow &row)
     moveDown(8);
 }
 
-// Right behind the value.
+// Painted right behind the value.
 void CertificatePage::paintCorrection(const CertificateRow &row, const QRect &valueBox, const QFont &font)
 {
     const int value = std::min(widthOf(row.value, font), valueBox.width());
@@ -251,7 +250,7 @@ void CertificatePage::paintCorrection(const CertificateRow &row, const QRect &va
           colour(row.verdict ? CertificateColour::Text : CertificateColour::SecondaryText));
 }
 
-// A serial number or a hash of which a part is missing proves nothing: all of it, once more, below.
+// A cut serial number or hash proves nothing, so the whole value is painted once more below.
 void CertificatePage::paintWhole(const QString &value, int left)
 {
     constexpr int flags = Qt::AlignLeft | Qt::AlignTop | Qt::TextWrapAnywhere;

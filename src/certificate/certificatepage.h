@@ -21,30 +21,33 @@ struct WipeReport;
 class CertificatePage
 {
 public:
+    /// The size and resolution of the page.
     struct Paper
     {
         int width;
         int height;
         int dpi;
-        double letterScale = 1; ///< where the painter's device has another resolution: by what letters differ
+        double letterScale = 1; ///< letter size relative to the painter's device, when its resolution differs
     };
 
     CertificatePage(QPainter &painter, const CertificatePalette &palette, const Paper &paper);
 
+    /// Paints the whole page. The outcome may be unknown.
     void paint(const WipeReport &report, const std::optional<OutcomeRecord> &outcome);
 
-    /// Where the content ends, which may be below the footer or the paper. Paints nothing.
+    /// The end of the content, which may be below the footer or the paper. Paints nothing.
     int contentEnd(const WipeReport &report, const std::optional<OutcomeRecord> &outcome);
+    /// The lower limit for content that fits the page.
     int footerTop() const { return m_paper.height - m_left; }
 
-    /// Everything that was written on the page.
+    /// All text written on the page.
     QString text() const { return m_text; }
 
 private:
     void layOut(const WipeReport &report, const std::optional<OutcomeRecord> &outcome);
     int pixels(int millimetres) const;
     QFont textFont(int points, QFont::Weight weight = QFont::Normal) const;
-    /// Over the whole width of the content, at the present position.
+    /// A box over the whole width of the content, at the current position.
     QRect fullWidth(int heightMillimetres) const;
     void moveDown(int millimetres);
 
@@ -72,7 +75,7 @@ private:
     QPainter &m_painter;
     const CertificatePalette &m_palette;
     const Paper m_paper;
-    const int m_left;  ///< the margin on every side
+    const int m_left;  ///< margin on every side
     const int m_width; ///< of the content
     int m_y;
     bool m_paints = true;

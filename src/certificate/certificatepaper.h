@@ -12,11 +12,11 @@ QT_FORWARD_DECLARE_CLASS(QPainter)
 
 struct WipeReport;
 
-/// Dots per inch of a certificate on paper. Long values are cut at a number of dots: at any other resolution
-/// the same certificate would show less, or more, of them.
+/// Dots per inch of a certificate on paper. Long values are cut at a fixed number of dots, so that another
+/// resolution would show a different part of them.
 inline constexpr int PaperResolution = 300;
 
-/// Paints the certificate so that all of it lies on a page of that many device pixels: what is longer becomes
-/// smaller, in the middle. Returns everything that was written.
+/// Paints the certificate onto one page of the given size in device pixels. Content that is too long is
+/// scaled down and centred. Returns all text written.
 QString paintOnPaper(QPainter &painter, const CertificatePalette &palette, QSize page, int dpi,
                      const WipeReport &report, const std::optional<OutcomeRecord> &outcome);

@@ -10,7 +10,7 @@ namespace {
 
 using Item = CertificateItem;
 
-// Writes the rows of one report in the words of one form.
+// Builds the rows of one report in the words of one form.
 class Plan
 {
 public:
@@ -69,7 +69,7 @@ QString Plan::counted(qint64 number, const char *unit) const
     return QString::number(number) + m_labels.translated(unit);
 }
 
-// Corrects the last row: beside its value, or in a row of its own behind it.
+// Corrects the last row, beside its value or in a new row below.
 void Plan::correct(QList<CertificateRow> &rows, Item item, const QString &beside, const QString &value) const
 {
     if (beside.isEmpty())

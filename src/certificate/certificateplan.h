@@ -17,15 +17,17 @@ enum class Verdict {
     Open, ///< neither; paper shows it as Bad
 };
 
+/// One line of a section, a label with its value.
 struct CertificateRow
 {
     CertificateItem item;
     QString label;                    ///< without a colon, unless the labels bring one
     QString value;                    ///< safe to show: see displayText()
     std::optional<Verdict> verdict{}; ///< set in a highlighted row
-    QString correction{};             ///< stands beside the value, which stays as the report has it
+    QString correction{};             ///< shown beside the value, which stays as in the report
 };
 
+/// One titled group of rows.
 struct CertificateSection
 {
     CertificateGroup group;
@@ -33,8 +35,8 @@ struct CertificateSection
     QList<CertificateRow> rows;
 };
 
-/// Everything that a certificate says about a job, in order, in the user's language and in the words of one
-/// of its forms. The outcome may be unknown.
+/// All content of a job's certificate in order, in the user's language and in the words of one form. The
+/// outcome may be unknown.
 QList<CertificateSection> certificatePlan(const WipeReport &report,
                                           const std::optional<OutcomeRecord> &outcome,
                                           const CertificateLabels &labels);

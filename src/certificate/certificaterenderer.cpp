@@ -25,7 +25,7 @@ bool CertificateRenderer::exportToPdf(const WipeReport &report, const QString &f
     if (!file.open())
         return false;
 
-    // Painted in memory: the writer does not tell when the file could not take its bytes.
+    // Painted in memory, because the PDF writer does not report a failed write to the file.
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
     QPdfWriter writer(&buffer);

@@ -22,26 +22,26 @@ class CertificateRenderer
 public:
     CertificateRenderer();
 
-    /// Writes the page as a PDF file: whole, or not at all. On false whatever lay under the name is as it
-    /// was. A file is replaced, also behind a link; what else may stand there: platform::WholeFile. A
-    /// folder in which no file can be made is refused.
+    /// Writes the page as a PDF file completely, or returns false and leaves the existing file unchanged. A
+    /// file is replaced, also behind a link; for other existing entries see platform::WholeFile. Fails in a
+    /// folder in which no file can be created.
     ///
-    /// All of a longer page lies on the paper, smaller and in the middle.
+    /// A page that is too long for the paper is scaled down and centred.
     ///
-    /// Of a job that is known not to be complete each of these says so, and where the outcome knows better
-    /// than the report what was written, counted and read back, that stands beside it; values that are cut
-    /// stand below once more, whole. A report whose outcome is not known says what it says itself.
+    /// For an incomplete job every output says so. Where the outcome has better figures than the report for
+    /// the bytes written, the files counted and the samples read back, they stand beside those of the report.
+    /// Cut values are repeated in full below. Without an outcome the report is shown as it is.
     bool exportToPdf(const WipeReport &report, const QString &filePath,
                      const std::optional<OutcomeRecord> &outcome = {}) const;
 
-    /// False without a printer, or when it does not take the job. Sets the paper to A4 and the resolution to
-    /// that of the file, so that both look alike; so do they on a printer that keeps its own. Defined in the
-    /// library ui/certificate, which links Qt's printing.
+    /// Returns false without a printer, or when it refuses the job. Sets the paper to A4 and the resolution
+    /// to that of the PDF file, so that both look alike, even on a printer that keeps its own resolution.
+    /// Defined in the library ui/certificate, which links Qt's printing.
     bool print(const WipeReport &report, QPrinter *printer,
                const std::optional<OutcomeRecord> &outcome = {}) const;
 
-    /// Paints one page of width by height device pixels. `dpi` is the resolution of the painter's own device:
-    /// letters take their size from there. What does not fit the page is painted below it.
+    /// Paints one page of width by height device pixels. `dpi` is the resolution of the painter's own device,
+    /// which determines the size of letters. Content that does not fit is painted below the page.
     void render(QPainter &painter, const WipeReport &report, int width, int height, int dpi,
                 const std::optional<OutcomeRecord> &outcome = {}) const;
 

@@ -6,12 +6,12 @@
 
 struct WipeReport;
 
-/// What stands behind a verification that a report calls passed.
+/// The evidence behind a verification that a report calls passed.
 enum class ReadBack {
-    AsReported,    ///< what was written was read and compared, or the report does not say passed
-    NotRead,       ///< nothing was read: passed only because nothing failed
-    NotComparable, ///< read, but no pass wrote what can be foretold
+    AsReported,    ///< the data was read and compared, or the report does not say passed
+    NotRead,       ///< nothing was read, so nothing could fail
+    NotComparable, ///< read, but no pass wrote predictable data
 };
 
-/// An unknown outcome says nothing against the report.
+/// An unknown outcome does not contradict the report.
 ReadBack readBackOf(const WipeReport &report, const std::optional<OutcomeRecord> &outcome);

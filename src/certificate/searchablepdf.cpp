@@ -10,10 +10,10 @@
 
 namespace {
 
-// Number of a glyph within its font, and the text that it stands for.
+// The glyph number within its font, and the text of the glyph.
 using GlyphTexts = QMap<int, QString>;
 
-// What was painted, and which painted character looks like another one.
+// The painted characters, and for each look-alike the painted one.
 class PaintedCharacters
 {
 public:
@@ -41,7 +41,7 @@ public:
             if (painted != m_byGlyph[i].constEnd())
                 return *painted;
         }
-        // A ligature stands for all its letters.
+        // A ligature is named by all its letters.
         return named.normalized(QString::NormalizationForm_KC);
     }
 
@@ -54,7 +54,7 @@ private:
 
     QList<QRawFont> m_fonts;
     QSet<QChar> m_characters;
-    QList<QHash<quint32, QChar>> m_byGlyph; // of each font
+    QList<QHash<quint32, QChar>> m_byGlyph; // one for each font
 };
 
 QByteArray between(const QByteArray &text, QByteArrayView start, QByteArrayView end, qsizetype from = 0)
@@ -67,7 +67,7 @@ QByteArray between(const QByteArray &text, QByteArrayView start, QByteArrayView 
     return last < 0 ? QByteArray() : text.mid(begin, last - begin);
 }
 
-// The file as its writer built it: one table of objects at the end.
+// The structure of the file as Qt's writer builds it, with one object table at the end.
 class PdfObjects
 {
 public:
@@ -91,7 +91,7 @@ public:
     qsizetype table() const { return m_table; }
     QByteArray trailer() const { return m_trailer; }
 
-    // What the object's stream holds; nothing when there is none that can be read as it stands.
+    // The content of the object's stream; nothing without a stream that is stored uncompressed.
     std::optional<QByteArray> plainStream(qsizetype number) const
     {
         if (number <= 0 || number >= m_offsets.size())
@@ -104,7 +104,7 @@ public:
         return m_pdf.mid(stream + 7, between(head, "/Length ", ">>").trimmed().toLongLong());
     }
 
-    // Of the streams that name the glyphs of a font.
+    // The numbers of the streams that name the glyphs of a font.
     QList<qsizetype> namingStreams() const
     {
         QList<qsizetype> numbers;
@@ -188,7 +188,7 @@ QByteArray writeNames(const GlyphTexts &texts)
     return blocks;
 }
 
-// The names with painted characters; nothing when they were right, or are written in a way not known here.
+// The names with painted characters; nothing when they were right, or when their form is unknown.
 std::optional<QByteArray> correctedNames(const QByteArray &names, const PaintedCharacters &characters)
 {
     const qsizetype block = names.indexOf(" beginbfrange");
@@ -214,8 +214,8 @@ std::optional<QByteArray> correctedNames(const QByteArray &names, const PaintedC
 
 } // namespace
 
-// The corrected streams go behind the old end, with a table of their own that leads to the old one, as the
-// format provides for changes: nothing that the writer wrote is touched.
+// An incremental update: the corrected streams follow the old end with their own table, which points to the
+// old one. The writer's bytes stay unchanged.
 QByteArray withSearchableText(const QByteArray &pdf, const QString &painted, const QList<QRawFont> &fonts)
 {
     const PdfObjects objects(pdf);

@@ -27,7 +27,7 @@ void BaseWipeWorker::stop()
 {
     m_stopRequested.exchange(true);
     m_paused.exchange(false);
-    // The lock closes the gap between a waiter's look at the flags and its wait.
+    // Without the lock a waiter could miss the wake-up between its check of the flags and its wait.
     QMutexLocker lock(&m_pauseMutex);
     m_pauseCondition.wakeAll();
 }

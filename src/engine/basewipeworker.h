@@ -16,50 +16,58 @@
 
 class WipeTask;
 
-// What the three workers share: the signals, stopping and pausing, the fill and the check of one pass, and
-// the progress figures. A worker is made on the interface thread, moved to a thread of its own, runs
-// process() once and ends it with exactly one finished().
-//
-// Levels of logMessage: 0 information, 1 warning, 2 error.
+/// The common part of the three workers: the signals, stopping and pausing, the buffer fill and check of one
+/// pass, and the progress figures. A worker is created on the interface thread, moved to its own thread, runs
+/// process() once and ends it with exactly one finished().
+///
+/// Levels of logMessage: 0 information, 1 warning, 2 error.
 class BaseWipeWorker : public QObject, protected RunningJob
 {
     Q_OBJECT
 
 public:
-    // The task is not owned and outlives the worker; nobody changes it while the worker runs, except its
-    // report through WipeTask::updateReport.
+    /// The task is not owned and outlives the worker. It is not changed while the worker runs, except for its
+    /// report through WipeTask::updateReport.
     explicit BaseWipeWorker(WipeTask *task, QObject *parent = nullptr);
     ~BaseWipeWorker() override;
 
-    // Ends the job at its next check. Any thread; wakes a worker that is paused or waiting.
+    /// Ends the job at its next check. May be called from any thread; wakes a worker that is paused or
+    /// waiting.
     void stop();
 
-    // What speeds are measured by, the system's steady clock unless set before process().
+    /// The clock for the speed figures: the steady clock of the system unless another is set before
+    /// process().
     using Clock = std::function<std::chrono::steady_clock::time_point()>;
     void setClock(Clock clock);
 
 public slots:
+    /// Runs the job on the current thread.
     virtual void process() = 0;
 
 signals:
+    /// Percent of all passes, 0 to 100.
     void progressChanged(int percent);
+    /// A pass begins; currentPass counts from 1.
     void passChanged(int currentPass, int totalPasses);
+    /// The progress in bytes over all passes.
     void bytesWritten(qint64 bytes);
     void speedUpdated(double bytesPerSecond);
+    /// The last signal of the worker.
     void finished(bool success);
+    /// The translated reason why the job fails.
     void errorOccurred(const QString &error);
     void logMessage(const QString &message, int level);
 
 protected:
-    // What process() does: run(), then complete() whichever way that ended, then finished(). A job that ends
-    // for want of memory has failed.
+    /// The body of process(): run(), then complete() even after a failure, then finished(). A job that runs
+    /// out of memory has failed.
     void runJob();
-    // The job; its result is what finished() carries.
+    /// Runs the job; finished() carries the result.
     virtual bool run() = 0;
-    // Lets go of what the job held, and writes what it did into the task's report.
+    /// Releases the resources of the job and writes its results into the task's report.
     virtual void complete() = 0;
 
-    // What the parts of the job call. Each worker labels its own diagnostics.
+    // For the parts of the job. diagnose() is left to each worker, which puts its own name before the line.
     void note(const QString &message, NoteLevel level = Information) override;
     void reportError(const QString &message) override;
     void noteShortfall(const Shortfall &shortfall) override;
@@ -77,28 +85,28 @@ protected:
     WipeTask &task() const { return *m_task; }
     bool isStopRequested() const { return m_stopRequested.load(); }
 
-    // Waits while paused. True to go on, false to give up.
+    /// Waits while paused. Returns false when the job has to end.
     bool checkPauseStop();
 
-    // Waits for the time given or until a stop, whichever comes first. False when a stop is requested.
+    /// Waits for the given time or until a stop is requested. Returns false after a stop.
     bool waitUnlessStopped(std::chrono::milliseconds time);
 
-    // Fills the buffer for one pass; Random data comes from the worker's own generator.
+    /// Fills the buffer for one pass; Random data comes from the worker's own generator.
     void fillBuffer(std::byte *buffer, qint64 size, const PassPattern &pattern);
-    // The same for a pool thread, which brings a generator of its own.
+    /// Fills a buffer on a pool thread, which brings its own generator.
     static void fillBuffer(std::byte *buffer, qint64 size, const PassPattern &pattern,
                            PatternGenerator &random);
 
-    // Whether a buffer read back is what the pass wrote. An empty buffer passes, and so does everything whose
-    // content cannot be predicted (Random, Complement).
+    /// Whether a buffer read back holds the data of the pass. True for an empty buffer, and for the
+    /// unpredictable patterns (Random, Complement).
     static bool verifyBuffer(const std::byte *buffer, qint64 size, const PassPattern &pattern);
 
-    // Tells the task that what the method writes is read back by nobody, or to no use. readsBack: the worker
-    // reads passes back when it is asked to.
+    /// Notes in the task when the passes are not read back, or when reading them back proves nothing.
+    /// readsBack: the worker reads passes back on request.
     void noteReadBack(bool readsBack);
 
-    // Reports percent, bytes and speed. Both counts are bytes of the current pass; total 0 reports 0 percent
-    // alone. One thread at a time.
+    /// Reports percent, bytes and speed. Both counts are bytes of the current pass; a total of 0 reports only
+    /// 0 percent. One thread at a time.
     void updateProgress(qint64 done, qint64 total);
 
     int m_currentPass = 0;

@@ -48,7 +48,7 @@ void ChunkPipeline::prepare(qint64 size)
     waitForHelper();
     std::byte *from = other().data() + m_ready;
     const qint64 missing = size - m_ready;
-    // A thread of its own, not one of a pool: a pool waits for ever for a thread that the system refuses.
+    // Not a pool thread: QThreadPool waits for ever for a thread that the system refuses.
     try {
         m_helper =
             std::thread([this, from, missing, pattern = m_pattern] { m_fill(from, missing, pattern); });
@@ -74,8 +74,8 @@ const std::byte *ChunkPipeline::takeRandom(qint64 size)
     if (produced < size) {
         m_fill(current().data() + produced, size - produced, m_pattern);
     } else if (produced > size) {
-        // A volume that ended before its known length leaves data over; it comes first in the chunk after
-        // this one.
+        // A volume that ended before its expected length leaves bytes over; they start the chunk after this
+        // one.
         m_ready = produced - size;
         std::memcpy(other().data(), current().data() + size, static_cast<std::size_t>(m_ready));
     }

@@ -48,7 +48,7 @@ bool DiskPass::writeDrive()
     m_job.note(tr("通过磁盘句柄进行擦除..."));
     qint64 offset = 0;
     const bool written = writeDriveChunks(offset);
-    // Also after a failure or a stop: what the report counts is on the medium.
+    // Flushed after a failure or a stop too, because the report only counts bytes on the medium.
     const bool flushed = flush(*m_medium.drive);
     if (flushed)
         m_coverage.addStretch(0, std::min(offset, m_medium.size));
@@ -75,7 +75,7 @@ bool DiskPass::writeDriveChunks(qint64 &offset)
         m_hasBegun = true;
         const platform::Result<qint64> written = m_medium.drive->write(data, chunk);
         if (written.valueOr(0) <= 0) {
-            // A drive that takes nothing before its end would keep the loop here for ever.
+            // A drive that accepts no bytes before its end would keep the loop here for ever.
             const platform::Status failure =
                 written ? platform::Status{platform::SectorNotFound, 0, "write without progress"}
                         : written.status();
@@ -120,14 +120,14 @@ bool DiskPass::writeVolume(qsizetype index, qint64 &total)
     qint64 position = 0;
     const VolumeEnd end = writeVolumeChunks(*held.device, size, position, total);
     const bool flushed = flush(*held.device);
-    // Data that was written from an unknown place on counts for nothing.
+    // After a failed seek the place of the data is unknown, so none of it counts.
     const qint64 covered = flushed && sought ? std::min(position, size) : 0;
     m_coverage.addVolume(index, held.extents, {size, covered});
     held.readable = length ? size : position;
     const bool ended = end == VolumeEnd::Complete || end == VolumeEnd::Boundary;
     if (flushed && ended && length)
         noteUncovered(index, size - covered);
-    // Behind an estimate that was used up there may be more of the volume.
+    // When the length was only an estimate, the volume may continue behind it.
     if (flushed && end == VolumeEnd::Complete && !length)
         m_job.noteShortfall({.kind = ShortfallKind::VolumeEndedEarly, .place = held.name});
     if (!held.isLocked && position > 0)
@@ -144,7 +144,7 @@ void DiskPass::noteUncovered(qsizetype index, qint64 bytes)
                    RunningJob::Warning);
         m_job.noteShortfall({.kind = ShortfallKind::VolumeEndedEarly, .place = name, .bytes = bytes});
     } else if (bytes > 0) {
-        // What rounding to whole sectors leaves.
+        // The remainder from rounding to whole sectors.
         m_job.noteShortfall({.kind = ShortfallKind::DriveEndUnreached, .place = name, .bytes = bytes});
     }
 }
@@ -239,7 +239,7 @@ bool DiskPass::verify(const PassPattern &pattern)
     m_job.note(tr("正在验证..."));
     const bool throughVolume = !m_medium.volumes.isEmpty();
     platform::RawDevice &device = throughVolume ? *m_medium.volumes.at(0).device : *m_medium.drive;
-    // An encrypted volume may have larger sectors than its drive, and takes no part of one.
+    // An encrypted volume may have larger sectors than its drive, and reads only whole ones.
     const qint32 sampleSize = throughVolume
                                   ? std::max(m_medium.sectorSize, device.bytesPerSector().valueOr(0))
                                   : m_medium.sectorSize;

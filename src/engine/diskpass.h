@@ -15,35 +15,36 @@
 
 class WipeTask;
 
-// What a disk job writes to: as long as a volume is held the volumes, else the drive itself.
+/// The targets of a disk job: the volumes while one is held, else the drive itself.
 struct DiskMedium
 {
-    std::unique_ptr<platform::RawDevice> drive; // null when it could not be opened
+    std::unique_ptr<platform::RawDevice> drive; ///< null when it could not be opened
     HeldVolumes volumes;
-    qint64 size = 0; // bytes
+    qint64 size = 0; ///< bytes
     qint32 sectorSize = 512;
 
     qint64 sectorCount() const { return size / sectorSize; }
 };
 
-// Writes the passes of a disk job one after the other, reads back where the method asks for it, and keeps
-// what every pass has reached. One thread.
+/// Writes the passes of a disk job one after the other, reads them back where the method asks for it, and
+/// records how far each pass came. One thread.
 class DiskPass
 {
     Q_DECLARE_TR_FUNCTIONS(DiskWipeWorker)
 
 public:
-    // All outlive this.
+    /// All parameters outlive the object.
     DiskPass(RunningJob &job, const WipeTask &task, DiskMedium &medium);
 
-    // True also when it was left by a stop.
+    /// Writes one pass. Also true when a stop ended it.
     bool write(const PassPattern &pattern);
+    /// Frees the write buffers after the last pass.
     void releaseBuffers() { m_chunks.reset(); }
 
-    // Whether the medium may have changed: from the first attempt to write to it on.
+    /// Whether the medium may have changed; true from the first attempt to write to it.
     bool hasBegun() const { return m_hasBegun; }
 
-    // Of all passes so far.
+    /// Results over all passes so far.
     const WipeCoverage &coverage() const { return m_coverage; }
     const DiskVerification &verification() const { return m_verification; }
 

@@ -89,7 +89,8 @@ bool DiskWipeWorker::lockVolumes()
     return m_medium.volumes.lock(identityOf(task().disk()));
 }
 
-// A volume that came back since would be all that is written, and its file system would go on writing.
+// A volume that was mounted again since the release fails the job. Held, it would limit the passes to itself;
+// left alone, its file system would write over erased sectors.
 bool DiskWipeWorker::checkVolumesAreGone()
 {
     QStringList back = m_medium.volumes.inSight(task().disk().diskNumber);
@@ -126,8 +127,8 @@ bool DiskWipeWorker::measureDisk()
     return true;
 }
 
-// A drive need not end with a whole sector, and of one that is empty nothing can be erased: neither is a
-// failure, and neither may pass for done.
+// A drive may end with a partial sector, or have no sector at all. Neither case is a failure, and neither may
+// be reported as complete.
 void DiskWipeWorker::noteUnreachedEnd()
 {
     const qint64 length = m_medium.drive->length().valueOr(m_medium.size);
@@ -228,7 +229,7 @@ void DiskWipeWorker::releaseVolumes()
     m_medium.volumes.release();
 }
 
-// What was overwritten cannot be mounted again, not even where it is whole by chance.
+// A drive that was written to does not get its volumes mounted again, not even when they look intact.
 void DiskWipeWorker::settleReleasedVolumes()
 {
     if (!m_released)
@@ -250,7 +251,7 @@ void DiskWipeWorker::settleReleasedVolumes()
 
 void DiskWipeWorker::fillReport()
 {
-    // Measured through its volumes, a drive is larger than what was measured.
+    // A drive written through its volumes was not measured, so its recorded size counts if it is larger.
     const qint64 driveSize = std::max(m_medium.size, task().disk().sizeBytes);
     const quint64 wiped = static_cast<quint64>(m_pass.coverage().bytes(m_totalPasses, driveSize)) >> 9;
     if (const qint64 beyond = m_pass.coverage().bytesBeyond(driveSize); beyond > 0)
@@ -268,8 +269,8 @@ void DiskWipeWorker::fillReport()
     noteShortfalls(wiped);
 }
 
-// A job on a drive that was written through its volumes has done what it does, but what lies between them
-// keeps its bytes, which nobody must take for erased. A partition is one of these volumes.
+// A drive written through its volumes keeps the bytes between them, which must not be reported as erased. A
+// partition is one of these volumes.
 void DiskWipeWorker::noteShortfalls(quint64 wipedSectors)
 {
     if (m_totalPasses == 0)

@@ -8,16 +8,16 @@
 #include <memory>
 #include <utility>
 
-// Overwrites the disk of its task: locks and dismounts every volume on it, opens the drive and writes the
-// passes. As long as a volume is held, they are written through the volumes and what lies outside them stays;
-// the drive itself is written when no volume is found on it. A partition wipe is the same job, with every
-// volume of that disk.
-//
-// A job on the whole drive takes no volume: the drive is rid of them already, or the job fails. It gives back
-// what was released for it when nothing was written.
-//
-// What the job did goes into the task's report before finished(): the sectors that received every pass, and
-// the samples read back.
+/// Overwrites the disk of its task: locks and dismounts every volume on it, opens the drive and writes the
+/// passes. While a volume is held, the passes go through the volumes and the bytes outside them stay. The
+/// drive itself is written when no volume is found on it. A partition wipe is the same job, with every volume
+/// of that disk.
+///
+/// A whole-drive job takes no volume; it fails when the drive still has one. When nothing was written, it
+/// gives the volumes released for it back.
+///
+/// Before finished() the worker writes its results into the task's report: the sectors that received every
+/// pass, and the samples read back.
 class DiskWipeWorker : public BaseWipeWorker
 {
     Q_OBJECT
@@ -26,13 +26,13 @@ public:
     explicit DiskWipeWorker(WipeTask *task, QObject *parent = nullptr);
     ~DiskWipeWorker() override;
 
-    // The volumes that were taken off the drive for a job on all of it. Before process().
+    /// The volumes that were released for a whole-drive job. To be set before process().
     void setReleasedVolumes(std::unique_ptr<platform::ReleasedVolumes> volumes)
     {
         m_released = std::move(volumes);
     }
 
-    // The wait after each failed attempt to lock a volume, 500 ms unless set before process().
+    /// The wait after each failed attempt to lock a volume, 500 ms unless set before process().
     std::chrono::milliseconds lockRetryDelay() const { return m_medium.volumes.lockRetryDelay(); }
     void setLockRetryDelay(std::chrono::milliseconds delay) { m_medium.volumes.setLockRetryDelay(delay); }
 
@@ -64,5 +64,5 @@ private:
     DiskMedium m_medium{.drive = {}, .volumes = HeldVolumes(*this)};
     DiskPass m_pass;
     std::unique_ptr<platform::ReleasedVolumes> m_released;
-    bool m_writesVolumes = false; // as long as a volume is held when the passes begin
+    bool m_writesVolumes = false; ///< a volume is held when the passes begin
 };

@@ -3,7 +3,7 @@
 #include "model/diskinfo.h"
 #include "platform/devices.h"
 
-// What tells the disk of a record from another that takes its number later.
+/// The identity of the disk in a record, which tells it from a disk that gets its number later.
 inline platform::DriveIdentity identityOf(const DiskInfo &disk)
 {
     return {disk.diskNumber, disk.serialNumber, disk.sizeBytes, disk.model, disk.worldWideName};

@@ -11,36 +11,37 @@
 #include <memory>
 #include <vector>
 
-// The files of one stage of a job, which reach the medium together: one group for each file system that has
-// them. Any thread, except for close().
+/// The files of one stage of a job that are flushed to the medium together, one group for each file system
+/// that supports it. Any thread, except for close().
 class DurabilityGroups
 {
 public:
     using Group = std::shared_ptr<platform::DurabilityGroup>;
 
     DurabilityGroups() = default;
-    // On a way out that nobody foresaw; what then fails is only traced.
+    /// Closes the groups that are still open after an exception. Failures are only traced.
     ~DurabilityGroups();
     DurabilityGroups(const DurabilityGroups &) = delete;
     DurabilityGroups &operator=(const DurabilityGroups &) = delete;
 
-    // To be opened with. Null where each file is to be flushed by itself.
+    /// The group to open a file with. Null where each file has to be flushed by itself.
     Group of(const platform::EntryPath &entry);
 
     struct Member
     {
-        std::size_t file = 0; // its number in the list of the job
-        qint64 size = 0;      // bytes that were written
+        std::size_t file = 0; ///< its number in the list of the job
+        qint64 size = 0;      ///< bytes written
     };
-    // What becomes of the file depends on the group of its place from now on. False where there is none.
+    /// Adds a written file to the group of its place, which from now on decides whether the file is on the
+    /// medium. Returns false where there is no group.
     bool add(const platform::EntryPath &entry, const Member &member);
 
     struct Closed
     {
         std::vector<Member> members;
-        platform::Status status; // a failure is one of every member
+        platform::Status status; ///< a failure applies to every member
     };
-    // Nobody writes meanwhile. New groups can be begun afterwards.
+    /// Closes all groups; no file may be written meanwhile. New groups can be started afterwards.
     std::vector<Closed> close();
 
 private:
@@ -52,6 +53,6 @@ private:
 
     Open *find(const platform::EntryPath &entry);
 
-    QMutex m_mutex; // guards what follows
+    QMutex m_mutex; ///< guards the members below
     std::vector<Open> m_open;
 };

@@ -74,7 +74,7 @@ void FileCollector::addTarget(const QString &given, const std::optional<TargetId
     }
 }
 
-// A stack instead of recursion, and few open folders at a time: the depth of a tree is limited by nothing.
+// A stack instead of recursion, and few open folders at a time, because the depth of a tree is unlimited.
 bool FileCollector::addContent(Folder target)
 {
     bool complete = true;
@@ -88,8 +88,8 @@ bool FileCollector::addContent(Folder target)
     return complete;
 }
 
-// False when the observer ended the scan. The folders are entered when the listing is through: a visitor is
-// no place to wait in.
+// Returns false when the observer ended the scan. Folders are entered after the listing, because entering one
+// may take long and the visitor of a listing must not wait.
 bool FileCollector::listFolder(Folder folder, std::vector<Folder> &pending, bool &complete)
 {
     const QSet<QString> known = m_known ? m_known->namesIn(folder) : QSet<QString>();
@@ -110,7 +110,8 @@ bool FileCollector::listFolder(Folder folder, std::vector<Folder> &pending, bool
         entry ? platform::Platform::current().folders().forEachEntry(entry.value(), visit) : entry.status();
     if (!goesOn)
         return false;
-    // Gone since it was found; only of one that is listed for the first time nobody knows what was in it.
+    // A folder that vanished after its first listing is no problem. At the first listing its content would
+    // stay unknown.
     if (m_known && listed.isAbsent())
         return true;
     if (!listed) {
@@ -126,7 +127,7 @@ bool FileCollector::listFolder(Folder folder, std::vector<Folder> &pending, bool
     return true;
 }
 
-// True as well for what is not to be entered.
+// Also true for folders that must not be entered.
 bool FileCollector::enter(Folder parent, const QString &name, std::vector<Folder> &pending)
 {
     const Result<Folder> entered = m_tree.addFolder(parent, name);
@@ -149,7 +150,7 @@ void FileCollector::addFile(Folder folder, const QString &name)
 {
     if (m_mayRepeat) {
         const qsizetype before = m_paths.size();
-        // However the folder was spelled.
+        // Resolves different spellings of the folder.
         m_paths.insert(m_tree.path(m_tree.firstAs(folder), name));
         if (m_paths.size() == before)
             return;

@@ -14,38 +14,38 @@
 #include <optional>
 #include <vector>
 
-// Finds the files of a job. Memory is one name per file and one tree of the folders; the duplicates are
-// looked for only where there can be some.
+/// Finds the files of a job. It needs the memory of one name per file and one tree of the folders. Duplicates
+/// are searched only when the targets can contain some.
 class FileCollector
 {
 public:
     enum class Unreadable {
-        Target, // what it is could not be found out
-        Folder, // its content could not be listed to the end
+        Target, ///< its kind could not be found out
+        Folder, ///< its content could not be listed to the end
     };
 
     struct Observer
     {
-        // Asked at every entry; false ends the scan.
+        /// Called at every entry; false ends the scan.
         std::function<bool()> goOn;
         std::function<void(Unreadable what, const QString &path, const platform::Status &status)> unreadable;
-        // A folder of another file system that is mounted inside a target. It is not entered.
+        /// A folder of another file system that is mounted inside a target. It is not entered.
         std::function<void(const QString &path)> mounted = [](const QString &) {};
-        // A target that is no longer what it has to be, or no longer there.
+        /// A target that differs from its expected identity, or that is gone.
         std::function<void(const QString &path)> replaced = [](const QString &) {};
         std::function<void(const QString &path)> vanished = [](const QString &) {};
     };
 
-    // The folders that are found become part of the tree.
+    /// The folders that are found become part of the tree.
     FileCollector(HeldTree &tree, Observer observer);
 
-    // Targets in order; a folder stands for every file below it, hidden ones included. Links are taken as
-    // they are, never followed. A target where nothing stands, or a special file, is left out. What was found
-    // before the observer ended the scan is a part of the list, without the folder that was being walked.
-    // identities: what some of the targets have to be, see WipeTask; another is left out.
+    /// Collects the targets in order. A folder stands for every file below it, hidden files included. Links
+    /// are listed themselves, never followed. A missing target or a special file is left out. After an early
+    /// end the list holds the files found so far, without the folder that was being walked. identities: the
+    /// expected identities of some targets, see WipeTask; a target that differs is left out.
     FileList collect(const QStringList &targets, const QHash<QString, TargetIdentity> &identities = {});
 
-    // What stands in folders of the tree and below them now and is not among the known.
+    /// The files in the given folders of the tree and below them that are not among the known ones.
     FileList collectNew(const std::vector<HeldTree::Folder> &folders, const FileIndex &known);
 
 private:

@@ -64,7 +64,7 @@ bool FileDeletion::secureDeleteFile(const EntryPath &file, WatchedFile *watched)
         return false;
     const std::optional<EntryPath> renamed = randomRenameFile(file);
     const EntryPath target = renamed.value_or(file);
-    // Under a name that nobody else knows nothing can take its place any more.
+    // Under its random name the file can no longer be replaced unnoticed, so it is checked once more.
     const auto found = renamed && watched ? files().info(target) : info;
     if (found && watched && watched->isReplacedBy(found.value())) {
         m_found = Found::Another;
@@ -97,7 +97,7 @@ Status FileDeletion::cutToNothing(const EntryPath &path, WatchedFile *watched)
     return status;
 }
 
-// It was renamed for the one that had stood there.
+// Undoes the rename of a file that had replaced the expected one.
 void FileDeletion::giveBack(const EntryPath &renamed, const EntryPath &file)
 {
     const auto standing = files().info(file);
@@ -126,6 +126,6 @@ void FileDeletion::remove(const EntryPath &file)
             traceFile(file.path(), removed);
         return removed;
     };
-    // Whether it is gone is asked afterwards.
+    // The caller checks whether the file is gone.
     [[maybe_unused]] const Status last = removeWithRetries(attempt, m_pause);
 }

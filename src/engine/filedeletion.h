@@ -8,30 +8,31 @@
 class DurabilityGroups;
 class WatchedFile;
 
-// Deletes files so that length and name are gone too. Works on whatever is not a folder; only a regular file
-// is ever opened. One thread.
+/// Deletes files so that length and name are gone too. Accepts everything but folders; only regular files are
+/// opened. One thread.
 class FileDeletion
 {
 public:
-    // groups: in which what is cut and removed reaches the medium, null for each file by itself.
+    /// groups: flushes the cuts and removals of the files together; null flushes each file by itself.
     explicit FileDeletion(RetryPause pause, DurabilityGroups *groups = nullptr);
 
-    // Cuts the file to nothing, renames it once and deletes it. True when it is gone, or when there was no
-    // file: what cannot be looked at is not gone. A failure to cut or to rename is no obstacle. watched: what
-    // the file has to be; something else keeps its content and its name.
+    /// Cuts the file to nothing, renames it once and deletes it. Returns true when it is gone, or when there
+    /// was no file; a file that cannot be looked at does not count as gone. A failure to cut or to rename
+    /// does not stop the deletion. watched: the expected identity; another file keeps its content and its
+    /// name.
     bool secureDeleteFile(const platform::EntryPath &file, WatchedFile *watched = nullptr);
 
     enum class Found {
         File,
-        Another, // something else stood there
+        Another, ///< another file stood there
         Nothing,
     };
-    // Of the last file.
+    /// The finding for the last file.
     Found found() const { return m_found; }
-    // Of the last file, when it is not gone: where it stands under another name.
+    /// The place of the last file under its random name, when it was renamed but not deleted.
     const std::optional<platform::EntryPath> &leftAt() const { return m_leftAt; }
 
-    // Gives the file a random name in its folder. The new place, nothing when no attempt succeeded.
+    /// Gives the file a random name in its folder. Returns the new place, nothing when every attempt failed.
     static std::optional<platform::EntryPath> randomRenameFile(const platform::EntryPath &file);
 
 private:

@@ -16,10 +16,10 @@
 #include <memory>
 #include <utility>
 
-// Shared with every thread that was asked for: a late one finds nothing left, but finds it.
+// Shared with every requested thread, so that a late thread finds it valid, with no jobs left.
 struct FilePool::Batch
 {
-    QMutex mutex; // guards all below
+    QMutex mutex; // guards the members below
     QWaitCondition changed;
     std::vector<Job> jobs;
     std::size_t next = 0;
@@ -45,7 +45,7 @@ FilePool::~FilePool()
         delete m_threads;
         return;
     }
-    // It counts a refused thread as busy; its destructor would wait for that one without a limit.
+    // QThreadPool counts a refused thread as busy, and its destructor would wait for it without a limit.
     qWarning("[FileWipe] a thread of the pool never began");
     m_threads->setParent(nullptr);
 }
@@ -55,13 +55,13 @@ int FilePool::threadCount() const
     return m_threads->maxThreadCount();
 }
 
-// A thread of Qt's that gets no descriptor for its event loop ends the process. Asked once: the threads that
-// are there keep theirs.
+// Qt ends the process when a thread gets no descriptor for its event loop. The limit is computed once,
+// because running threads keep their descriptors.
 int FilePool::affordableThreads()
 {
-    // The event loop's, the file's, its folder's.
+    // The event loop, the file and its folder.
     constexpr int FilesOfOneThread = 3;
-    // Folders that are walked, the log, the database.
+    // Walked folders, the log and the database.
     constexpr int FilesOfOthers = 16;
     if (m_affordable < 0)
         m_affordable = std::max(platform::Platform::current().files().spareOpenFiles() - FilesOfOthers, 0) /
@@ -74,7 +74,7 @@ int FilePool::run(std::vector<Job> jobs)
     const auto batch = std::make_shared<Batch>();
     batch->jobs = std::move(jobs);
     batch->limit = std::max(threadCount(), 1);
-    // Also when asking for a thread throws: jobs that run use what belongs to the caller.
+    // Also when the request for a thread throws, because running jobs use objects of the caller.
     const auto cleanUp = qScopeGuard([&batch] {
         const QMutexLocker locker(&batch->mutex);
         batch->next = batch->jobs.size();
@@ -102,7 +102,7 @@ void FilePool::work(Batch &batch)
         locker.relock();
         --batch.running;
         batch.failures += succeeded ? 0 : 1;
-        // Not for every job: waking costs more than a small file.
+        // Not after every job, because a wake-up costs more than a small file.
         if (!batch.hasLeft() && batch.running == 0)
             batch.changed.wakeAll();
     }
@@ -112,13 +112,13 @@ void FilePool::finish(Batch &batch)
 {
     QMutexLocker locker(&batch.mutex);
     while (batch.hasLeft() || batch.running > 0) {
-        // Whoever is at work, even a thread that came late, tells when it is through.
+        // A running thread, even a late one, wakes this wait at its end.
         if (m_hasThreads || batch.running > 0) {
             const QDeadlineTimer patience(m_patience);
             if (batch.changed.wait(&batch.mutex, patience) || batch.running > 0)
                 continue;
         }
-        // Nobody is at work: from here on this thread is, for this batch and those to come.
+        // Without any running thread this one takes over, for this batch and the following ones.
         m_hasThreads = false;
         locker.unlock();
         work(batch);

@@ -52,7 +52,7 @@ bool FileRemoval::deleteFrom(std::size_t first)
     return failures == 0;
 }
 
-// False when it stands under its name.
+// False when the file still exists under its name.
 bool FileRemoval::deleteFile(FileDeletion &deletion, std::size_t index)
 {
     const auto place = m_files.entry(index);
@@ -83,13 +83,12 @@ bool FileRemoval::deleteFile(FileDeletion &deletion, std::size_t index)
     }
     if (deletion.leftAt())
         m_files.left().push_back({m_files.list().files[index].folder, deletion.leftAt()->name()});
-    // Unknown counts as standing; what a rename took away from under its path counts as gone.
+    // Unknown counts as existing. A file that a rename moved away from its path counts as gone.
     const auto info = files().info(place.value());
     return info ? info.value().kind == FileKind::Folder : info.status().isAbsent();
 }
 
-// What a file has gained since its passes is to be gone as the rest of it. False when it could not be
-// written.
+// Overwrites a file again that has grown since its passes. Returns false when it could not be written.
 bool FileRemoval::overwriteGrown(std::size_t index, const EntryPath &entry, const platform::FileInfo &found)
 {
     qint64 grown = m_files.watched(index).grownBy(found);
@@ -105,8 +104,8 @@ bool FileRemoval::overwriteGrown(std::size_t index, const EntryPath &entry, cons
     return true;
 }
 
-// A stop may have left files of the folders that are removed next. They received every pass; what did not is
-// not removed with them, since that would take it out of sight and leave it on the medium.
+// A stop may have left files in the folders to be removed next. Only files that received every pass are
+// removed; deleting the others would hide data that is still on the medium.
 void FileRemoval::removeRest(std::size_t overwritten)
 {
     const std::vector<HeldTree::Folder> tops =
@@ -132,8 +131,8 @@ void FileRemoval::removeRest(std::size_t overwritten)
     }
 }
 
-// Only folders whose content was in the list: what could not be listed was not overwritten, and removing it
-// would take it out of sight and leave it on the medium.
+// Only folders whose content was listed completely. Files that were not listed were not overwritten, and
+// deleting them would hide data that is still on the medium.
 void FileRemoval::removeFolders()
 {
     const auto standing = [this](const QString &folder, const Status &status) {

@@ -14,35 +14,37 @@
 class FileDeletion;
 class JobFiles;
 
-// How files that received their passes are removed, and the folders that held them. On the worker's thread.
+/// Removes the files that received their passes, and the folders that held them. On the worker's thread.
 class FileRemoval
 {
     Q_DECLARE_TR_FUNCTIONS(FileWipeWorker)
 
 public:
-    // Lets one file receive every pass once more; false when it could not.
+    /// Writes every pass to one file once more; returns false when that failed.
     using OverwriteAgain = std::function<bool(std::size_t index)>;
 
-    // Whoever writes faster than it is erased is not waited for.
+    /// Limits the rounds for a file that grows faster than it is erased.
     static constexpr int MostRounds = 10;
 
-    // The others outlive this.
+    /// All parameters outlive the object.
     FileRemoval(RunningJob &job, JobFiles &files, OverwriteAgain overwriteAgain);
 
-    // Cuts, renames and deletes the files from this one on. False when one still stands.
+    /// Cuts, renames and deletes the files from this one on. Returns false when one still exists.
     bool deleteFrom(std::size_t first);
-    // Files that were dealt with, and of these those that still stand.
+    /// Files that were processed, and those of them that still exist.
     int processedCount() const { return m_processedCount; }
     int failedCount() const { return m_failedCount; }
-    // Later files are not counted as dealt with.
+    /// Files behind this number are not counted as processed.
     void countUpTo(std::size_t count) { m_countedFiles = count; }
 
-    // A stop may have left files of the folders that are removed next. overwritten: so many files from the
-    // beginning received every pass.
+    /// Removes files that a stop left in the folders to be removed next. overwritten: the number of files,
+    /// from the beginning of the list, that received every pass.
     void removeRest(std::size_t overwritten);
+    /// Removes the target folders whose whole content was listed, and the folders below them.
     void removeFolders();
 
-    // Waits for the device; the groups whose end failed. Also on a way out that nobody foresaw.
+    /// Flushes the removals to the medium and returns the groups, with a failure for those that could not be
+    /// flushed. Also called after an exception.
     std::vector<DurabilityGroups::Closed> settle() { return m_removals.close(); }
 
 private:

@@ -80,8 +80,8 @@ private:
         }
     }
 
-    // Whether the other files of the target are to be asked as well. Behind the last question the folder
-    // speaks for the rest of its files.
+    // Returns whether to ask the other files of the target too. After the last question the folder itself is
+    // asked for the rest of its files.
     bool askForContent(const QString &target, const EntryPath &file)
     {
         const bool isLast = m_questionsLeft == 0;
@@ -140,7 +140,7 @@ QString FileSurvey::roomProblem() const
 {
     for (const Room &room : rooms) {
         const auto space = platform::Platform::current().folders().space(room.place);
-        // Some file systems in memory count nothing.
+        // Some file systems in memory report no total size.
         if (!space || space.value().totalBytes <= 0 || room.holeBytes <= space.value().availableBytes)
             continue;
         return tr("Sparse files such as %1 take another %2 when they are overwritten, and only %3 are free. "

@@ -13,42 +13,43 @@
 
 class WipeTask;
 
-// What a file job is going to find under its targets.
+/// A survey of the files that a job will find under its targets.
 class FileSurvey
 {
     Q_DECLARE_TR_FUNCTIONS(FileSurvey)
 
 public:
-    // What overwriting takes of the free space of one file system.
+    /// The room that overwriting needs on one file system.
     struct Room
     {
-        QString place; // one of the files
+        QString place; ///< path of one of the files
         qint64 holeBytes = 0;
     };
 
-    quint64 files = 0; // everything that is no folder
+    quint64 files = 0; ///< everything but folders
     quint64 bytes = 0;
     quint64 filesWithOtherNames = 0;
-    qint64 filesInCloud = 0;    // of which a cloud service keeps copies
-    bool isComplete = true;     // false when something could not be looked at, or the look was ended
-    QStringList keptElsewhere;  // targets whose content may outlast being overwritten
-    QList<Shortfall> snapshots; // notes on the volumes of the files
-    QStringList mounted;        // what other file systems are mounted on; the job does not enter it
-    QHash<quint64, Room> rooms; // by device
+    qint64 filesInCloud = 0;    ///< files with copies in a cloud service
+    bool isComplete = true;     ///< false when something could not be read, or the survey was ended early
+    QStringList keptElsewhere;  ///< targets whose content may survive an overwrite
+    QList<Shortfall> snapshots; ///< notes on the volumes of the files
+    QStringList mounted;        ///< mount points of other file systems, which the job does not enter
+    QHash<quint64, Room> rooms; ///< by device
 
-    // "2 files have further names ..."; empty when none has.
+    /// "2 files have further names ..."; empty without such files.
     QString otherNamesText() const;
-    // Why the job is not to begin: to overwrite a sparse file takes room for its holes. Empty when there is
-    // enough of it, or when nobody can tell.
+    /// Why the job must not begin. Overwriting a sparse file takes room for its holes. Empty when there is
+    /// enough room, or when the room is unknown.
     QString roomProblem() const;
 };
 
-// How far the question goes whether content may be kept elsewhere, which has the system write out what it
-// holds back of a file: so many files over all targets; of a folder with more of them it is asked itself.
+/// The number of files, over all targets, that are asked whether their content is kept elsewhere. The
+/// question makes the system write out its cached data of a file. When the number is used up, the folder is
+/// asked instead of its remaining files.
 inline constexpr int MostContentQuestions = 1000;
 
-// Walks as the job itself does: in folders that are held, past links and mounts, each file once. Opens
-// nothing to be written. shallStop ends the walk.
+/// Walks the targets as the job does: in held folders, without following links or entering mounts, each file
+/// once. Opens no file for writing. shallStop ends the walk.
 FileSurvey surveyFiles(
     const WipeTask &task, const std::function<bool()> &shallStop = [] { return false; },
     int mostContentQuestions = MostContentQuestions);

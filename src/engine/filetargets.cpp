@@ -21,7 +21,7 @@ bool isRoot(const QString &path)
 struct Split
 {
     QString folder;
-    QString name; // empty for what no folder contains under a name: a root, "..", ".", nothing
+    QString name; // empty for a root, "..", "." and an empty path, which no folder contains by name
 };
 
 Split split(const QString &path)
@@ -41,8 +41,8 @@ TargetIdentity identityFrom(FileKind kind, const platform::FileId &id)
 
 } // namespace
 
-// "link/" and "link/." mean the folder that the link leads to; a link is to be taken as it is. ".." stays:
-// dropping it from the text could name another folder than the system does.
+// "link/" and "link/." would resolve to the destination of the link, but a link itself is the target. ".."
+// stays, because dropping it from the text could name another folder than the system resolves.
 QString targetPath(const QString &given)
 {
     QString path = QDir::fromNativeSeparators(given);
@@ -68,12 +68,12 @@ Result<FoundTarget> findTarget(HeldTree &tree, const QString &path)
                   .name = parts.name,
                   .folder = HeldTree::None,
                   .kind = info.value().kind,
-                  // Files and links have lasting numbers where their folder has one.
+                  // Files and links have lasting numbers when their folder has one.
                   .identity = identityFrom(info.value().kind,
                                            tree.idOf(above.value()) ? info.value().id : platform::FileId())};
         if (info.value().kind != FileKind::Folder)
             return target;
-        // A volume that the user has named is meant.
+        // A mounted volume is entered when the user has named it.
         const auto folder = tree.addFolder(above.value(), parts.name, platform::Folders::Mounts::Enter);
         if (!folder)
             return folder.status();

@@ -5,7 +5,7 @@
 #include <QDebug>
 #include <QString>
 
-// Diagnostics of a failure at a file; nothing for a success.
+/// Traces a failure at a file; does nothing for a success.
 inline void traceFile(const QString &path, const platform::Status &status)
 {
     if (!status)

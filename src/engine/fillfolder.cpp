@@ -13,7 +13,7 @@
 
 namespace {
 
-// A folder in which every name is taken takes no file.
+// A folder that reports every name as taken takes no files.
 constexpr int MostTakenNames = 1000;
 
 } // namespace
@@ -49,12 +49,12 @@ platform::Result<qint64> FillFolder::freeBytes() const
 platform::Result<std::unique_ptr<platform::FileHandle>> FillFolder::createFile()
 {
     for (int attempt = 1;; ++attempt) {
-        // Listed first, so that nothing that happens between creating it and listing it leaves it behind.
+        // Listed before the creation, so that no failure in between leaves the file behind.
         m_files.append({fillnames::file(m_nextIndex++), 0});
         auto file = m_folder->createFile(m_files.last().name);
         if (file.code() != platform::AlreadyExists)
             return file;
-        // Of an earlier pass, which could not be removed, or somebody else's.
+        // The name belongs to a file of an earlier pass that could not be removed, or to another program.
         m_files.removeLast();
         if (attempt == MostTakenNames)
             return file;

@@ -10,41 +10,41 @@
 
 #include <memory>
 
-// The temporary folder of a job on one volume and the fill files in it, reached through the open folder from
-// its creation to its removal. One thread.
+/// The temporary folder of a job on one volume, with its fill files. It is accessed through an open handle
+/// from its creation to its removal. One thread.
 class FillFolder
 {
 public:
-    // The job outlives this.
+    /// The job outlives the object.
     explicit FillFolder(RunningJob &job)
         : m_job(job)
     {}
 
-    // A new one, hidden, in the root of a volume, which outlives it.
+    /// Creates a new hidden folder in the root of a volume; the root outlives the object.
     platform::Status create(platform::AnchoredFolder &root);
-    // Once it was removed: one of the same name.
+    /// Creates the folder again under the same name after its removal.
     platform::Status createAgain();
     QString path() const;
     QString name() const { return m_name; }
 
-    // Of an existing folder.
+    /// Requires an existing folder.
     platform::AnchoredFolder &folder() { return *m_folder; }
     bool exists() const { return m_folder != nullptr; }
     platform::Result<qint64> freeBytes() const;
 
-    // The next fill file.
     platform::Result<std::unique_ptr<platform::FileHandle>> createFile();
-    // So many bytes have gone to the medium by the file made last.
+    /// Records the bytes that the last fill file brought to the medium.
     void setBytesOfLast(qint64 bytes) { m_files.last().bytes = bytes; }
     bool hasFiles() const { return !m_files.isEmpty(); }
 
-    // The bytes that went with the files. What cannot be removed, in several attempts, is tried again the
-    // next time.
+    /// Removes the files and returns their bytes. A file that cannot be removed, in several attempts, is
+    /// tried again at the next call.
     qint64 removeFiles();
+    /// Bytes of the fill files that still exist.
     qint64 bytesLeft() const;
-    // The empty folder. Files that are still there are told with their paths.
+    /// Removes the empty folder. Remaining files are logged with their paths.
     platform::Status remove();
-    // It stays where it is.
+    /// Closes the folder without removing it.
     void letGo() { m_folder.reset(); }
 
 private:

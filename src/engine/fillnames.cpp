@@ -62,7 +62,7 @@ QString recordFile(int index)
     return QString::number(index) + FileSuffix;
 }
 
-// Written in one way only.
+// Accepts only the canonical spelling of the number.
 bool isRecordFile(QStringView name)
 {
     if (!name.endsWith(FileSuffix))

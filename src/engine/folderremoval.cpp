@@ -22,13 +22,13 @@ void FolderRemoval::remove(const std::vector<HeldTree::Folder> &folders)
         if (meant[static_cast<std::size_t>(folder)] != HeldTree::None)
             order.push_back(folder);
     }
-    // One after the other, each from the end: what is in a folder was found after it.
+    // One target after the other, each from its end, because a folder is listed before the folders in it.
     std::ranges::sort(order, [&meant](HeldTree::Folder a, HeldTree::Folder b) {
         const HeldTree::Folder topOfA = meant[static_cast<std::size_t>(a)];
         const HeldTree::Folder topOfB = meant[static_cast<std::size_t>(b)];
         return topOfA != topOfB ? topOfA < topOfB : a > b;
     });
-    // One of them may be held on another way too.
+    // A folder may also be held under another of its paths.
     m_tree.releaseAll();
     for (const HeldTree::Folder folder : order)
         removeFolder(folder);
@@ -49,7 +49,7 @@ std::vector<HeldTree::Folder> FolderRemoval::topsAmong(const HeldTree &tree,
     return tops;
 }
 
-// Nothing overwrites them.
+// Streams of folders are not overwritten.
 void FolderRemoval::tellStreams(HeldTree::Folder folder, const platform::EntryPath &entry)
 {
     const auto streams = platform::Platform::current().files().namedStreams(entry);
@@ -83,7 +83,7 @@ void FolderRemoval::removeFolder(HeldTree::Folder folder)
     }
     tellStreams(folder, entry.value());
     Status removed = system.folders().removeEmpty(entry.value());
-    // A folder that may not be changed refuses to go on some systems.
+    // Some systems refuse to remove a read-only folder.
     if (removed.code == platform::AccessDenied && system.files().clearReadOnly(entry.value()))
         removed = system.folders().removeEmpty(entry.value());
     if (!removed && !removed.isAbsent())

@@ -8,25 +8,26 @@
 #include <functional>
 #include <vector>
 
-// Removes the folders of a tree, the deepest first, and nothing but folders: one in which something is left
-// stays, and with it those above.
+/// Removes the folders of a tree, the deepest first, and no other entries. A folder that is not empty stays,
+/// and so do the folders above it.
 class FolderRemoval
 {
 public:
     struct Observer
     {
-        std::function<void(const QString &path)> replaced; // another stands there
+        std::function<void(const QString &path)> replaced; ///< another folder stands there
         std::function<void(const QString &path, const platform::Status &status)> standing;
-        // What the folder holds beside its entries, which goes with it; below 0: nobody can tell.
+        /// Named streams of the folder itself, which go with it; below 0 when they could not be counted.
         std::function<void(const QString &path, qint64 streams, qint64 bytes)> streams;
     };
 
+    /// The tree outlives the object.
     FolderRemoval(HeldTree &tree, Observer observer);
 
-    // The folders and all of the tree below them.
+    /// Removes the folders and all folders of the tree below them.
     void remove(const std::vector<HeldTree::Folder> &folders);
 
-    // For each folder of the tree that one of these which it is or is below; None for others.
+    /// For each folder of the tree, the given folder that contains it or is the same; None for the others.
     static std::vector<HeldTree::Folder> topsAmong(const HeldTree &tree,
                                                    const std::vector<HeldTree::Folder> &folders);
 

@@ -14,10 +14,10 @@
 
 namespace {
 
-// More than a tenth of the free space is no small rest.
+// A reserve of more than a tenth of the free space is large.
 constexpr qint64 SmallPart = 10;
 
-// All of the volume, of which its file system shows less; that at least when the volume does not tell.
+// The whole volume; its file system shows less. The size of the file system when the volume cannot be asked.
 qint64 bytesOf(const PartitionInfo &partition)
 {
     const auto query = platform::Platform::current().devices().queryVolume(partition.driveLetter);

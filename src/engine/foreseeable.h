@@ -10,15 +10,15 @@ class WipeTask;
 
 class FileSurvey;
 
-// What a job will fall short of as far as that can be known before it starts, for the question whether to
-// start it; notes tell what is worth a word there. Nothing is written, or opened for more than a question.
+/// The shortfalls of a job that can be known before it starts, for the confirmation; notes carry further
+/// remarks for it. Nothing is written; files and devices are opened for queries only.
 OutcomeRecord foreseeableShortfalls(const WipeTask &task);
-// The same of a file job whose files were looked at.
+/// The shortfalls of a file job whose files have been surveyed.
 OutcomeRecord foreseeableShortfalls(const WipeTask &task, const FileSurvey &survey);
 
-// The targets of a file job that are links: they are removed themselves.
+/// The targets of a file job that are links; the job removes the links themselves.
 QStringList linksAmong(const QStringList &paths);
 
-// What a free-space job does not fill on a volume of which so many bytes are free: a shortfall when it is
-// much of it, else a note.
+/// The reserve that a free-space job leaves on a volume with that many free bytes: a shortfall when it is a
+/// large part of them, else a note.
 Shortfall keptReserve(const QString &volume, qint64 freeBytes, qint64 reserve);

@@ -18,12 +18,12 @@ constexpr qint64 GiB = 1'073'741'824;
 constexpr qint64 Reserve = 100 * MiB;
 // The running system writes to its own volume all the time.
 constexpr qint64 SystemReserve = 1 * GiB;
-// Every file system that is filled here takes files of this size, FAT included.
+// Every supported file system takes files of this size, FAT included.
 constexpr qint64 FillFileBytes = 2 * GiB;
-// What others give back meanwhile, and file systems take for themselves on the way.
+// Tolerance for space that other programs free meanwhile, and for metadata of the file system.
 constexpr qint64 SmallRoom = 1 * MiB;
 
-// "No room", as against "no device".
+// Whether the error ends only the file ("no room") and not the pass ("no device").
 bool endsFileOnly(quint32 code)
 {
     return code == platform::DiskFull || code == platform::FileTooLarge;
@@ -54,7 +54,7 @@ bool FreeSpaceFill::reclaim()
         m_space.noteGone(before.status());
         return false;
     }
-    // A file that is stored compressed takes less than its length.
+    // A compressed file takes less space than its length.
     const qint64 taken = std::min(removed, m_freeBefore - before.value());
     return m_space.waitFor([this] { return m_folder.freeBytes(); }, before.value(), taken);
 }
@@ -93,8 +93,8 @@ bool FreeSpaceFill::writeFiles()
     for (int index = 0;; ++index) {
         if (!m_job.mayGoOn())
             return false;
-        // Asked of the folder: once the volume is unmounted its root is that of another one, which must not
-        // be filled instead.
+        // The folder is asked, not the root. After an unmount the root belongs to another volume, which must
+        // not be filled.
         const auto free = m_folder.freeBytes();
         if (!free || free.value() <= m_pass.reserve) {
             m_job.note(tr("空闲空间已填满"));
@@ -120,11 +120,11 @@ bool FreeSpaceFill::writeFiles()
     }
 }
 
-// Quotas, and what a file system keeps for its administrator.
+// The room may be withheld by a quota, or reserved for the administrator.
 bool FreeSpaceFill::noteRoomLeft()
 {
     const auto free = m_folder.freeBytes();
-    // A volume that is gone takes nothing either.
+    // A volume that is gone refuses new files too.
     if (!free) {
         m_space.noteGone(free.status());
         return false;
@@ -147,12 +147,12 @@ bool FreeSpaceFill::endWithoutFile(const platform::Status &status)
     m_job.note(tr("无法创建填充文件: %1").arg(reason.isEmpty() ? tr("错误码: %1").arg(status.code) : reason),
                RunningJob::Warning);
     const auto free = m_folder.freeBytes();
-    // Whatever the file's own answer was, a volume that does not even tell its room is not there any more.
+    // A volume that does not even report its free space is gone, whatever error the file returned.
     if (VolumeSpace::isGone(status.code) || !free) {
         m_space.noteGone(VolumeSpace::isGone(status.code) ? status : free.status());
         return false;
     }
-    // There was room when the file was to be made.
+    // There was room when the file was created.
     const ShortfallKind kind = m_pass.written == 0 ? ShortfallKind::NothingWritten : ShortfallKind::RoomLeft;
     m_job.noteShortfall({kind, m_volume.root, std::max<qint64>(free.value() - m_pass.reserve, 0)});
     return true;
@@ -208,7 +208,7 @@ platform::Result<qint64> FreeSpaceFill::writeChunk(platform::FileHandle &file, q
         m_job.diagnose(written.status());
         return written;
     }
-    // What is deleted while it is still in the cache has overwritten nothing.
+    // A fill file that is deleted from the cache before a flush overwrites nothing.
     if (const platform::Status flushed = file.flush(); !flushed) {
         m_job.diagnose(flushed);
         return flushed;
@@ -216,7 +216,7 @@ platform::Result<qint64> FreeSpaceFill::writeChunk(platform::FileHandle &file, q
     return written;
 }
 
-// A file system that compresses, or keeps zeros as holes, takes any amount and gives up no space for it.
+// A file system that compresses, or stores zeros as holes, accepts any amount without using free space.
 bool FreeSpaceFill::countFilled()
 {
     if (m_pass.written > 2 * (m_volume.freeAtStart + m_pass.givenBack) + 2 * GiB) {

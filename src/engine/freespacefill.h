@@ -12,8 +12,8 @@
 class FillFolder;
 class VolumeSpace;
 
-// The passes over the free space of one volume: each fills it with files until only a reserve is free. Sizes
-// are bytes. One thread.
+/// The passes over the free space of one volume. Each pass fills it with files until only a reserve is free.
+/// Sizes are bytes. One thread.
 class FreeSpaceFill
 {
     Q_DECLARE_TR_FUNCTIONS(FreeSpaceWipeWorker)
@@ -23,30 +23,29 @@ public:
     {
         QString root;
         qint64 freeAtStart = 0;
-        qint64 chunkLimit = 0; // of one write
+        qint64 chunkLimit = 0; ///< largest single write
     };
 
-    // All outlive this.
+    /// All parameters outlive the object.
     FreeSpaceFill(RunningJob &job, FillFolder &folder, VolumeSpace &space, const Volume &volume);
 
-    // How much of a volume's free space is never filled.
+    /// The part of a volume's free space that is never filled.
     static qint64 reserveFor(const QString &root);
 
-    // Deletes the files of the pass before and makes sure that their space can be filled again.
+    /// Deletes the files of the previous pass and waits until their space can be filled again.
     bool reclaim();
-    // One pass. True also when it was left by a stop.
+    /// Writes one pass. Also true when a stop ended it.
     bool write(const PassPattern &pattern);
-    // What the space gave up for the pass.
+    /// The free space that the pass took up.
     qint64 filled() const { return m_filled; }
 
 private:
-    // The pass at work.
     struct Pass
     {
-        qint64 reserve = 0;   // to stay free
-        qint64 written = 0;   // and flushed
-        qint64 lastFree = -1; // before the last chunk
-        qint64 givenBack = 0; // by others meanwhile
+        qint64 reserve = 0;   ///< to stay free
+        qint64 written = 0;   ///< and flushed
+        qint64 lastFree = -1; ///< before the last chunk
+        qint64 givenBack = 0; ///< by other programs meanwhile
     };
 
     qint64 noteReserve();
@@ -63,6 +62,6 @@ private:
     const Volume m_volume;
     ChunkPipeline m_chunks;
     Pass m_pass;
-    qint64 m_freeBefore = 0; // the pass
+    qint64 m_freeBefore = 0; ///< before the pass
     qint64 m_filled = 0;
 };

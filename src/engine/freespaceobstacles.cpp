@@ -1,4 +1,4 @@
-// Whether a free-space job may begin, which is asked before it is started and again by itself.
+// Checks whether a free-space job may begin, before its start and again by the job itself.
 #include "engine/freespacewipeworker.h"
 
 #include "engine/leftovers.h"
@@ -13,7 +13,7 @@
 
 namespace {
 
-// The records of the volumes that the user has chosen, as far as the task names them.
+// The records of the chosen volumes, as far as the task names them.
 QList<PartitionInfo> chosenVolumes(const WipeTask &task)
 {
     if (const PartitionInfo partition = task.partition(); !partition.driveLetter.isEmpty())
@@ -56,7 +56,7 @@ QString FreeSpaceWipeWorker::obstacleOf(const WipeTask &task)
     return {};
 }
 
-// A volume whose record tells nothing to compare is taken as it is found.
+// A volume whose record has nothing to compare is accepted.
 bool FreeSpaceWipeWorker::isChosen(platform::AnchoredFolder &volume, const PartitionInfo &chosen)
 {
     if (chosen.identity.isEmpty())
@@ -76,7 +76,7 @@ QString FreeSpaceWipeWorker::useText(const QString &folder)
         .arg(displayText(folder));
 }
 
-// An unmounted volume leaves an empty folder under its name, and the free space there is that of another one.
+// An unmounted volume leaves an empty folder under its name, with the free space of another volume.
 platform::Status FreeSpaceWipeWorker::checkMounted(const QString &root)
 {
     QString name = root;
@@ -85,5 +85,5 @@ platform::Status FreeSpaceWipeWorker::checkMounted(const QString &root)
     const auto volume = platform::Platform::current().devices().queryVolume(name);
     if (volume.status().isAbsent())
         return volume.status();
-    return {}; // whatever else it refuses to tell, it is there
+    return {}; // any other refusal still proves that the volume is there
 }

@@ -1,4 +1,4 @@
-// From the fill of the volumes to the end of a job.
+// The course of a job, from the fill of the volumes to its end.
 #include "engine/freespacewipeworker.h"
 
 #include "engine/contentsurvey.h"
@@ -65,7 +65,7 @@ bool FreeSpaceWipeWorker::run()
     const QStringList volumes = volumesOf(disk);
     if (!volumes.isEmpty())
         return wipeVolumes(volumes);
-    // Nothing that fails, and nothing erased either.
+    // Not a failure, but nothing was erased either.
     noteShortfall({ShortfallKind::NoVolume, disk.displayName()});
     return true;
 }
@@ -158,7 +158,7 @@ void FreeSpaceWipeWorker::complete()
 {
     task().updateReport([this](WipeReport &report) {
         report.wipedSectors = m_wipedSectors;
-        // Fill files are not read back, whatever the passes ask for.
+        // Fill files are never read back, even when the passes ask for it.
         report.verificationSampleSize = 0;
         report.verificationMethod.clear();
     });
@@ -205,14 +205,14 @@ bool FreeSpaceWipeWorker::wipeVolume(const QString &root)
         return false;
     if (isStopRequested())
         return true;
-    // Without the volume the residue would be cleaned on the one that its mount point belongs to.
+    // With the volume gone, its path belongs to another volume, whose residue must not be cleaned.
     if (VolumeSpace::isGone(removed.code))
         return failVolumeGone(removed);
     cleanResidue();
     return true;
 }
 
-// Where no failed pass tells of it; always false.
+// Reports the lost volume when no failed pass did. Always false.
 bool FreeSpaceWipeWorker::failVolumeGone(const platform::Status &status)
 {
     m_space->noteGone(status);
@@ -220,7 +220,7 @@ bool FreeSpaceWipeWorker::failVolumeGone(const platform::Status &status)
     return false;
 }
 
-// Whatever happens to the mount point from here on, the job stays on this volume.
+// The open handle keeps the job on this volume, whatever happens to the mount point.
 platform::Status FreeSpaceWipeWorker::openVolume(const QString &root)
 {
     auto opened = platform::Platform::current().folders().anchor(m_root);
@@ -230,7 +230,7 @@ platform::Status FreeSpaceWipeWorker::openVolume(const QString &root)
     return checkMounted(root);
 }
 
-// Before the free space is measured: a crash leaves the volume full.
+// Runs before the free space is measured, because a crash leaves the volume full.
 bool FreeSpaceWipeWorker::cleanUpAfterCrash()
 {
     const auto before = freeBytesOf(*m_anchor);
@@ -258,7 +258,7 @@ bool FreeSpaceWipeWorker::createTemporaryFolder()
         reportError(tr("无法创建临时目录: %1").arg(displayText(m_folder.path())));
         return false;
     }
-    // Another job that has begun at the same moment sees this folder, or is seen here.
+    // Of two jobs that begin at the same moment, at least one sees the folder of the other.
     const QString other = LeftOvers(*m_anchor, m_folder.name()).inUse();
     if (other.isEmpty())
         return true;
@@ -271,7 +271,7 @@ bool FreeSpaceWipeWorker::runPasses()
 {
     const QList<PassPattern> passes = task().method().passes;
     m_totalPasses = static_cast<int>(passes.size());
-    // Gone, with its helper, before the residue steps draw from the same generator.
+    // The fill and its helper thread end before the residue steps use the same generator.
     const auto end = qScopeGuard([this] { m_fill.reset(); });
     RunningJob &job = *this;
     m_fill.emplace(job, m_folder, *m_space,
@@ -297,10 +297,10 @@ bool FreeSpaceWipeWorker::runPasses()
         ++passesRun;
         if (!filled)
             reportError(tr("填充空闲空间失败"));
-        // The figure that the percentage is based on, not what was written: the two differ by the reserve.
+        // The figure behind the percentage, which differs from the written bytes by the reserve.
         m_bytesBeforePass += m_freeAtStart;
     }
-    // Before the last pass has begun, nothing has received all of them.
+    // Before the last pass has begun, no sector has received all passes.
     if (passesRun > 0 && passesRun == m_totalPasses)
         m_wipedSectors += static_cast<quint64>(filledInEvery) >> 9;
     return filled;

@@ -18,12 +18,12 @@
 struct DiskInfo;
 struct PartitionInfo;
 
-// Overwrites the unused space of one or more volumes and leaves their files alone: each pass fills the volume
-// with temporary files until only a reserve is free, and at the end many small files and folders are made and
-// deleted, so that the file system's records of deleted files are used again.
-//
-// The task names a volume, or a disk all of whose mounted volumes are wiped one after the other. The first
-// volume that fails ends the job. Whatever ends it, no fill file stays behind.
+/// Overwrites the unused space of one or more volumes and leaves their files alone. Each pass fills the
+/// volume with temporary files until only a reserve is free. At the end many small files and folders are
+/// created and deleted, so that the file system reuses its records of deleted files.
+///
+/// The task names a volume, or a disk; of a disk all mounted volumes are wiped one after the other. The first
+/// volume that fails ends the job. Fill files are removed whichever way the job ends.
 class FreeSpaceWipeWorker : public BaseWipeWorker
 {
     Q_OBJECT
@@ -32,23 +32,22 @@ public:
     explicit FreeSpaceWipeWorker(WipeTask *task, QObject *parent = nullptr);
     ~FreeSpaceWipeWorker() override;
 
-    // The first volume whose first extent lies on the drive, as Devices names it; empty when there is none.
+    /// The first volume whose first extent lies on the drive, as Devices names it; empty without one.
     static QString findDriveForDisk(int diskNumber);
 
-    // Why a free-space job must not be started, in words for the user: one of its volumes is not the chosen
-    // one any more, or another job is at work there. Empty when nothing is in the way, and when a volume
-    // cannot be asked: the job tells then.
+    /// Why a free-space job must not start, in words for the user: one of its volumes is no longer the chosen
+    /// one, or another job works there. Empty when the job may start. A volume that cannot be queried is no
+    /// obstacle here; the job reports it.
     static QString obstacleOf(const WipeTask &task);
 
-    // The folder at the top of a volume by its name.
+    /// The root folder of a volume by the volume's name.
     static QString rootPathOf(const QString &volume);
 
 public slots:
     void process() override;
 
 protected:
-    // How long deleted files may keep their space while nothing of it comes back, and how often that is
-    // looked at.
+    /// How long to wait for the space of deleted files while none of it comes back, and how often to look.
     std::chrono::milliseconds m_releasePatience{60'000};
     std::chrono::milliseconds m_releasePoll{100};
 
@@ -81,12 +80,12 @@ private:
 
     void diagnose(const platform::Status &failure) override;
 
-    // Of the current volume, open as long as it is wiped.
+    /// Root of the current volume, open while it is wiped.
     std::unique_ptr<platform::AnchoredFolder> m_anchor;
-    QString m_root;           // of the current volume, ends in "/" or "\"
-    qint64 m_freeAtStart = 0; // bytes
+    QString m_root;           ///< of the current volume, ends in "/" or "\"
+    qint64 m_freeAtStart = 0; ///< bytes
     std::optional<VolumeSpace> m_space;
     FillFolder m_folder{*this};
-    std::optional<FreeSpaceFill> m_fill; // during the passes
-    quint64 m_wipedSectors = 0;          // 512-byte units, over all volumes
+    std::optional<FreeSpaceFill> m_fill; ///< during the passes
+    quint64 m_wipedSectors = 0;          ///< 512-byte units, over all volumes
 };

@@ -14,14 +14,14 @@ using platform::Status;
 
 namespace {
 
-// Enough for the jobs of a batch to find theirs, few beside what a process may have open.
+// Enough for the jobs of a batch, and few compared with the limit for open files.
 constexpr std::size_t MostHeld = 96;
-// Beyond these a path has to do.
+// Tops beyond this number are identified by their path only.
 constexpr std::size_t MostPinned = 256;
-// Of the folders on the way to one that was opened again: going up from there needs them next.
+// Parents that are kept after a folder was opened again, since the walk back up needs them next.
 constexpr std::size_t MostOnTheWay = 32;
 
-// Not more than a quarter of what the process may still have open.
+// At most a quarter of the files that the process may still open.
 std::size_t affordable(std::size_t most)
 {
     constexpr std::size_t Least = 2;
@@ -191,7 +191,7 @@ Result<HeldTree::Handle> HeldTree::reopen(Folder folder, const Handle &parent) c
     const Node &wanted = node(folder);
     Result<Handle> opened =
         parent ? folders().holdIn(parent, wanted.name, wanted.mounts) : folders().hold(wanted.name);
-    // Something is mounted over it by now.
+    // Another file system has been mounted over it.
     if (opened.code() == platform::NotSameDevice)
         return Status{platform::PathNotFound, opened.status().native, opened.status().operation};
     if (!opened)
@@ -202,7 +202,7 @@ Result<HeldTree::Handle> HeldTree::reopen(Folder folder, const Handle &parent) c
     return opened;
 }
 
-// With the lock held.
+// The lock is held by the caller.
 void HeldTree::keep(Folder folder, const Handle &handle)
 {
     const auto known = std::ranges::find(m_held, folder, &Held::folder);

@@ -14,47 +14,50 @@
 #include <optional>
 #include <vector>
 
-// The folders of a job, each known by what it was when it was found. Whatever is done in one of them is done
-// relative to a handle to it. Only a few are open at a time, whatever their number and depth; one that is
-// opened again is reached from another one that is held, without following a link, and has to be the same.
-//
-// Folders are added by one thread while no other uses the tree; everything else is thread-safe.
+/// The folders of a job, each with the identity that it had when it was found. All work in a folder is done
+/// relative to its handle. Only a few folders are open at a time, whatever their number and depth. A folder
+/// is opened again from another held folder, without following a link, and must be the same as before.
+///
+/// Folders are added by one thread while no other uses the tree; all other functions are thread-safe.
 class HeldTree
 {
 public:
     using Folder = int;
     static constexpr Folder None = -1;
 
-    // How many folders are open at a time depends on how many the process may have open by then.
+    /// The number of open folders depends on the process limit for open files at this time.
     HeldTree();
 
-    // A folder as the system resolves its path, now; what the path leads to later does not matter.
+    /// Adds a folder as the system resolves its path now. Later changes of the path have no effect.
     platform::Result<Folder> addTop(const QString &path);
-    // A folder in one of the tree; the same one again when it is still that.
+    /// Adds a folder inside a folder of the tree; returns the existing one when it is still the same.
     platform::Result<Folder> addFolder(Folder parent, const QString &name,
                                        platform::Folders::Mounts mounts = platform::Folders::Mounts::Refuse);
 
     int size() const { return static_cast<int>(m_nodes.size()); }
-    // None for a top.
+    /// None for a top.
     Folder parentOf(Folder folder) const { return node(folder).parent; }
-    // The first folder of the tree that is the same one, maybe itself: it may have been reached on two ways.
+    /// The first folder of the tree with the same identity, possibly itself. A folder may be reached on two
+    /// paths.
     Folder firstAs(Folder folder) const;
-    // Nothing where the file system knows its folders by no lasting numbers.
+    /// Nothing where the file system has no lasting folder numbers.
     std::optional<platform::FileId> idOf(Folder folder) const { return node(folder).id; }
+    /// The path as it was when the folder was found, for messages.
     QString path(Folder folder) const;
     QString path(Folder folder, const QString &name) const;
 
-    // PathNotFound when it is no longer there, or another.
+    /// PathNotFound when the folder is gone, or has been replaced.
     platform::Result<platform::EntryPath> entry(Folder folder, const QString &name);
+    /// The folder itself as an entry with an empty name.
     platform::Result<platform::EntryPath> itself(Folder folder) { return entry(folder, {}); }
-    // The folder as an entry of the one that contains it; InvalidParameter for a top.
+    /// The folder as an entry of its parent; InvalidParameter for a top.
     platform::Result<platform::EntryPath> asEntry(Folder folder);
-    // Whether what was found under the name of a folder is still that folder.
+    /// Whether the entry found under the name of a folder is still that folder.
     bool isSame(Folder folder, const platform::FileInfo &found) const;
 
-    // Lets go of a folder that is about to be removed: on some systems nobody can while it is held.
+    /// Closes a folder that is about to be removed, since some systems refuse to remove a folder that is
+    /// open.
     void release(Folder folder);
-    // The same of all of them.
     void releaseAll();
 
 private:
@@ -63,10 +66,11 @@ private:
     struct Node
     {
         Folder parent = None;
-        QString name; // the path of a top
+        QString name; ///< the path of a top
         platform::Folders::Mounts mounts = platform::Folders::Mounts::Refuse;
-        std::optional<platform::FileId> id{}; // where the file system knows its folders by lasting numbers
-        Handle pinned{}; // a top that nothing would tell from another one when it is opened again
+        std::optional<platform::FileId> id{}; ///< where the file system has lasting folder numbers
+        /// A top without an id stays open, since it could not be recognised when it is opened again.
+        Handle pinned{};
     };
     struct Held
     {
@@ -98,8 +102,8 @@ private:
     QHash<platform::FileId, Folder> m_firstById;
     std::size_t m_mostHeld;
     std::size_t m_mostPinned;
-    std::size_t m_pinned = 0; // tops that are
-    QMutex m_mutex;           // guards what follows
+    std::size_t m_pinned = 0; ///< number of pinned tops
+    QMutex m_mutex;           ///< guards the members below
     std::vector<Held> m_held;
     quint64 m_clock = 0;
 };

@@ -82,7 +82,7 @@ void HeldVolumes::hold(const Found &found, const platform::DriveIdentity &drive)
         m_job.noteShortfall({.kind = ShortfallKind::VolumeNotOpened, .place = found.name});
         return;
     }
-    // Held from here on, so that every way out releases it.
+    // Listed before locking, so that every return path releases it.
     m_volumes.push_back({.name = found.name, .device = opened.take(), .extents = found.extents});
     platform::VolumeDevice &volume = *m_volumes.back().device;
     m_volumes.back().isLocked = lockVolume(volume, shownName);
@@ -90,7 +90,7 @@ void HeldVolumes::hold(const Found &found, const platform::DriveIdentity &drive)
         return;
     if (dismountVolume(volume, shownName))
         m_dismounted.append(found.name);
-    // Without it the last sectors of some volumes are out of reach; writing tells.
+    // After a refusal the last sectors of some volumes are out of reach, which the pass detects.
     static_cast<void>(volume.allowExtendedIo());
 }
 

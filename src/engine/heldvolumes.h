@@ -12,8 +12,8 @@
 #include <memory>
 #include <vector>
 
-// The volumes of one drive, locked and dismounted for as long as they are held. Says in the job's log what
-// becomes of each. One thread.
+/// The volumes of one drive, locked and dismounted while they are held. Logs the result for each volume. One
+/// thread.
 class HeldVolumes
 {
     Q_DECLARE_TR_FUNCTIONS(DiskWipeWorker)
@@ -23,31 +23,32 @@ public:
     {
         QString name;
         std::unique_ptr<platform::VolumeDevice> device;
-        QList<platform::Extent> extents; // where it lies
+        QList<platform::Extent> extents; ///< its place on the drives
         bool isLocked = false;
-        qint64 readable = 0; // bytes that a verification may expect to read, after a pass
+        qint64 readable = 0; ///< bytes that a verification can read after a pass
     };
 
     explicit HeldVolumes(RunningJob &job);
 
-    // The wait after each failed attempt to lock a volume, 500 ms unless set.
+    /// The wait after each failed attempt to lock a volume, 500 ms unless set.
     std::chrono::milliseconds lockRetryDelay() const { return m_lockRetryDelay; }
     void setLockRetryDelay(std::chrono::milliseconds delay) { m_lockRetryDelay = delay; }
 
-    // Takes every volume that begins on the drive; all of them have been tried when this returns, unless the
-    // job is stopped. False when there are some and none could be opened.
+    /// Takes every volume that begins on the drive. All of them have been tried on return, unless the job is
+    /// stopped. Returns false when the drive has volumes and none could be opened.
     bool lock(const platform::DriveIdentity &drive);
+    /// Unlocks and closes all volumes.
     void release();
 
-    // The names of the volumes in sight that begin on the drive, none of which is taken.
+    /// The names of the visible volumes that begin on the drive; none of them is taken.
     QStringList inSight(int driveNumber);
 
-    // Everything that was dismounted, by name, released or not. Nothing mounts it again.
+    /// The names of all volumes that were dismounted, released or not. The program never mounts them again.
     QStringList dismounted() const { return m_dismounted; }
 
     bool isEmpty() const { return m_volumes.empty(); }
     qsizetype count() const { return std::ssize(m_volumes); }
-    // In the order in which they were found.
+    /// In the order of discovery.
     Volume &at(qsizetype index) { return m_volumes[static_cast<std::size_t>(index)]; }
     const Volume &at(qsizetype index) const { return m_volumes[static_cast<std::size_t>(index)]; }
 

@@ -12,7 +12,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Entries of one kind whose names pass the test. A listing that fails half-way gives what it showed before.
+// Entries of one kind whose names pass the test. A listing that fails half-way yields the entries before the
+// failure.
 template <typename Test>
 QStringList entries(platform::AnchoredFolder &folder, platform::FileKind wanted, Test isWanted)
 {
@@ -32,7 +33,7 @@ void diagnose(const platform::AnchoredFolder &folder, const QString &name, const
     qDebug().noquote() << "[FreeSpaceWipe] left-over" << folder.path() << name << failure.diagnostic();
 }
 
-// The bytes that went with the files, nothing when there was no file to remove.
+// The bytes of the removed files, nothing when there was no file to remove.
 std::optional<qint64> removeFillFilesIn(platform::AnchoredFolder &folder)
 {
     std::optional<qint64> bytes;
@@ -42,7 +43,7 @@ std::optional<qint64> removeFillFilesIn(platform::AnchoredFolder &folder)
             diagnose(folder, name, removed);
             continue;
         }
-        // A further name keeps the space.
+        // A further hard link keeps the space allocated.
         const bool freesSpace = info && info.value().linkCount == 1;
         bytes = bytes.value_or(0) + (freesSpace ? info.value().size : 0);
     }
@@ -68,7 +69,7 @@ bool removeRecordFolder(platform::AnchoredFolder &folder, const QString &name)
     return removed.ok();
 }
 
-// What a residue step has left. Whether there was any of it.
+// Removes the records that a residue step has left. Returns whether there were any.
 template <typename Test, typename Remove>
 bool removeRecordsIn(platform::AnchoredFolder &folder, const QString &name, platform::FileKind kind,
                      Test isRecord, Remove remove)

@@ -8,25 +8,25 @@
 #include <memory>
 #include <vector>
 
-// The temporary folders in the root of a volume: of a job that is running, or that was cut off and left them
-// behind. Claimed for as long as this lives, so that no other job takes them for its own affair.
+/// The temporary folders in the root of a volume that belong to a running job, or were left behind by an
+/// interrupted one. They are claimed for the lifetime of the object, so that no other job uses them.
 class LeftOvers
 {
 public:
-    // The root outlives this. All but the folder of that name.
+    /// Finds all temporary folders except the one of that name. The root outlives the object.
     explicit LeftOvers(platform::AnchoredFolder &root, const QString &except = {});
 
-    // The path of a folder in which another job is at work, or may be: where the file system does not know
-    // who has a folder open, one that is not empty counts as such. Empty without one.
+    /// The path of a folder in which another job works, or may work; empty without one. Where the file system
+    /// cannot tell whether a folder is open elsewhere, a folder with content counts as in use.
     QString inUse() const { return m_inUse; }
 
     struct Removed
     {
-        QStringList folders; // from which something was deleted, in the order of the listing
-        qint64 bytes = 0;    // of fill files
+        QStringList folders; ///< folders from which something was deleted, in the order of the listing
+        qint64 bytes = 0;    ///< of fill files
     };
-    // Deletes what bears the names that a job gives, then the folders that are empty. Anything else stays,
-    // and so does whatever cannot be deleted.
+    /// Deletes the entries that are named like those of a job, then the empty folders. Other entries stay,
+    /// and so do entries that cannot be deleted.
     Removed remove();
 
 private:

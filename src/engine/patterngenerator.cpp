@@ -6,8 +6,8 @@
 #include <cstring>
 #include <random>
 
-// One copy of the loops for every processor, and one for those with 256-bit vectors, chosen when the program
-// is loaded. Sanitizers instrument that choice, which then runs before they are ready.
+// Compiles the loops twice, for every processor and for 256-bit vectors; the loader selects one. Sanitizers
+// instrument that selection, which then runs before they are ready.
 #if defined(__GNUC__) && !defined(__clang__) && defined(__x86_64__) && defined(__ELF__) &&                   \
     !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
 #define QUORVEX_VECTOR_CLONES __attribute__((target_clones("avx2", "default")))
@@ -25,8 +25,8 @@ inline quint32 mixed(quint32 high, quint32 low)
     return (word >> 1) ^ ((0U - (word & 1U)) & 0x9908B0DFU);
 }
 
-// Each new word takes one old word Shift places ahead, cyclically. Cut where the places wrap around, no loop
-// meets a word that it has written less than a vector's width before.
+// Each new word depends on an old word Shift places ahead, cyclically. The loops are split where the index
+// wraps around, so that none reads a word that it wrote less than a vector's width before.
 QUORVEX_VECTOR_CLONES
 void advance(quint32 *state)
 {

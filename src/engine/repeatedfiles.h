@@ -7,17 +7,17 @@
 
 #include <QSet>
 
-// Tells a file that was already met under another spelling of its name: short names, capitals. A file with
-// several names of its own is none: each of them has to go.
+/// Recognises a file that was already met under another spelling of its name, such as a short name or other
+/// capitals. A file with several hard links is not a repetition, since each of its names has to be deleted.
 class RepeatedFiles
 {
 public:
-    // The tree outlives this.
+    /// The tree outlives the object.
     explicit RepeatedFiles(const HeldTree &tree)
         : m_tree(tree)
     {}
 
-    // False for the first of several, and where files have no lasting numbers.
+    /// False for the first of several, and where files have no lasting numbers.
     bool isRepeated(const FileEntry &file, const platform::FileInfo &found)
     {
         if (found.linkCount != 1 || found.id.number == 0 || !m_tree.idOf(file.folder))

@@ -13,7 +13,7 @@
 
 namespace {
 
-// As the small files take over the records of deleted ones, enough of them do the same to directory entries.
+// Directory entries are taken over by many folders, as file records are by many small files.
 constexpr int RecordFolders = 100;
 
 void remember(platform::Status &first, const platform::Status &status)
@@ -47,7 +47,7 @@ platform::Status ResidueCleaning::cleanIn(const QString &name, const Make &make)
         return first;
     {
         const auto cleanUp = qScopeGuard([&] { remember(first, remove(name)); });
-        // Closed before it is removed.
+        // The handle closes before the removal.
         const auto made = m_folder.folder().createFolder(name);
         remember(first, made.status());
         if (made)
@@ -69,8 +69,8 @@ platform::Status ResidueCleaning::makeFiles(platform::AnchoredFolder &folder)
         const auto written = file.value()->write(content.data(), fillnames::RecordFileBytes);
         remember(first, written.status());
         m_job.noteWritten(written.valueOr(0));
-        // A record that is given back before it reaches the medium has taken none over. The last flush
-        // commits those of all files, at a thousandth of the cost of flushing each.
+        // A record that is given back before it reaches the medium overwrites nothing. The last flush commits
+        // the records of all files, at a thousandth of the cost of one flush per file.
         if (i == fillnames::RecordFiles - 1)
             remember(first, file.value()->flush());
     }

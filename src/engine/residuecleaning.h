@@ -10,18 +10,18 @@
 
 class FillFolder;
 
-// What takes over the file system's records of deleted files and folders: many small ones, made and deleted
-// again. One thread.
+/// Takes over the file system's records of deleted files and folders by creating and deleting many small
+/// ones. One thread.
 class ResidueCleaning
 {
 public:
-    // Both outlive this.
+    /// Both outlive the object.
     ResidueCleaning(RunningJob &job, FillFolder &folder)
         : m_job(job)
         , m_folder(folder)
     {}
 
-    // Each answers its first failure, and leaves nothing that can be removed.
+    /// Each step returns its first failure, and leaves nothing behind that can be removed.
     platform::Status cleanFileRecords();
     platform::Status cleanDirectoryEntries();
 

@@ -7,15 +7,16 @@
 #include <functional>
 #include <memory>
 
-// Virus scanners, indexers and previews hold a file for moments, and only what they cause is tried again.
+// Virus scanners, indexers and previews hold a file for moments. Only failures caused by such a hold are
+// retried.
 
-// Waits for the time given; false to give up the attempts.
+/// Waits for the given time; returns false to give up the attempts.
 using RetryPause = std::function<bool(std::chrono::milliseconds)>;
 
-// Deletes what remove() deletes, in up to ten attempts. The answer of the last attempt.
+/// Calls remove() in up to ten attempts and returns the result of the last one.
 platform::Status removeWithRetries(const std::function<platform::Status()> &remove, const RetryPause &pause);
 
 using OpenedFile = platform::Result<std::unique_ptr<platform::FileHandle>>;
 
-// Opens what open() opens, in up to five attempts. The answer of the last attempt.
+/// Calls open() in up to five attempts and returns the result of the last one.
 OpenedFile openWithRetries(const std::function<OpenedFile()> &open, const RetryPause &pause);

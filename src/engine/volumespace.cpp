@@ -11,7 +11,7 @@ namespace {
 
 constexpr qint64 MiB = 1'048'576;
 
-// Somebody who goes on deleting does not keep the job from starting.
+// Limits the wait when another program keeps deleting files.
 constexpr std::chrono::seconds SettlePatience{10};
 
 } // namespace
@@ -24,8 +24,8 @@ platform::Result<qint64> freeBytesOf(platform::AnchoredFolder &folder)
     return space.value().freeBytes;
 }
 
-// What was deleted just before the job is what it is for, and some file systems (XFS) count it as free only
-// moments later: the figure has to stand still for one look.
+// Space freed just before the job has to be filled as well, but some file systems (XFS) count it as free only
+// moments later. So the figure has to stay the same for one poll.
 platform::Result<qint64> VolumeSpace::settled(const FreeBytes &freeBytes)
 {
     const QDeadlineTimer patience(SettlePatience);
@@ -39,8 +39,8 @@ platform::Result<qint64> VolumeSpace::settled(const FreeBytes &freeBytes)
     return free;
 }
 
-// Some file systems give the space of deleted files back later (XFS in the background, Btrfs with its next
-// commit): a pass that began at once would find the volume still full, and end as done with nothing written.
+// Some file systems release the space of deleted files later (XFS in the background, Btrfs with its next
+// commit). A pass that began at once would find the volume full, and end as done with nothing written.
 bool VolumeSpace::waitFor(const FreeBytes &freeBytes, qint64 before, qint64 released)
 {
     const qint64 takenByOthers = std::max(released / 16, std::min(released / 2, 64 * MiB));
@@ -72,9 +72,9 @@ bool VolumeSpace::waitFor(const FreeBytes &freeBytes, qint64 before, qint64 rele
 bool VolumeSpace::isGone(quint32 code)
 {
     switch (code) {
-    case platform::FileNotFound: // under the mount point of a volume that was unmounted
+    case platform::FileNotFound: // at the mount point of an unmounted volume
     case platform::PathNotFound:
-    case platform::WriteProtect: // what a file system makes of itself after an error
+    case platform::WriteProtect: // after an error a file system becomes read-only
         return true;
     default:
         return platform::isDeviceGone(code) || platform::isMediumFault(code);

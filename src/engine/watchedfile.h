@@ -6,52 +6,52 @@
 
 #include <optional>
 
-// What a job knows of one of its entries since it found it, so that it notices what becomes of it meanwhile.
-// One thread at a time.
+/// The state of one entry since the job found it, which shows whether the entry has changed or vanished
+/// meanwhile. One thread at a time.
 class WatchedFile
 {
 public:
-    // Only the first call counts.
+    /// Records the found entry; only the first call counts.
     void find(const platform::FileInfo &info);
-    // Nothing for an entry that nobody could look at so far.
+    /// Nothing until the entry could be looked at.
     const std::optional<platform::FileInfo> &found() const { return m_found; }
 
-    // Whether something else stands under the path now.
+    /// Whether another entry stands under the path now.
     bool isReplacedBy(const platform::FileInfo &now) const;
-    // The same of what was opened there. Where the file system knows its files by lasting numbers, an earlier
-    // answer counts from now on.
+    /// Whether the opened file is another entry. Where the file system has lasting file numbers, the other
+    /// overload compares them too from then on.
     bool isReplacedBy(platform::FileHandle &opened);
 
-    // A pass is going to overwrite so many bytes, from the beginning. The bytes that the file has lost since
-    // the last look: they were given up before this pass could reach them.
+    /// Starts a pass over the first size bytes. Returns the bytes that the file has lost since the last look;
+    /// the file gave them up before this pass could reach them.
     qint64 beginPass(qint64 size);
-    // All passes are to be received once more.
+    /// All passes have to be written once more.
     void beginAnew() { m_overwritten = -1; }
-    // The bytes at its end that did not receive every pass.
+    /// The bytes at its end that did not receive every pass.
     qint64 grownBy(const platform::FileInfo &now) const;
 
-    // True once: where the content lies has not been asked yet.
+    /// True once, as long as the place of the content has not been queried.
     bool isToBeLocated();
-    // The same of its streams.
+    /// True once, as long as the places of its streams have not been queried.
     bool areStreamsToBeLocated();
-    // True once, for a file whose content may lie elsewhere.
+    /// True once, for a file whose content may lie elsewhere.
     bool isToBeCountedElsewhere();
 
-    // Nothing stood there when it was looked for: no byte of it is known to have received every pass.
+    /// The entry was missing when it was looked for; none of its bytes is known to have received every pass.
     void vanish()
     {
         m_isVanished = true;
         m_overwritten = 0;
     }
     bool isVanished() const { return m_isVanished; }
-    // It was removed by the job.
+    /// The job has removed it.
     void remove() { m_isRemoved = true; }
     bool isRemoved() const { return m_isRemoved; }
 
 private:
     std::optional<platform::FileInfo> m_found;
-    qint64 m_length = 0;       // at the last look
-    qint64 m_overwritten = -1; // bytes that received every pass so far; below 0 before the first
+    qint64 m_length = 0;       ///< at the last look
+    qint64 m_overwritten = -1; ///< bytes that received every pass so far; below 0 before the first
     bool m_hasLastingId = false;
     bool m_isLocated = false;
     bool m_areStreamsLocated = false;

@@ -12,8 +12,8 @@ qint64 totalLength(const QList<platform::Extent> &extents)
         [](qint64 sum, const platform::Extent &extent) { return sum + std::max<qint64>(extent.length, 0); });
 }
 
-// A volume is its extents, one behind the other, when they are as long as it is. Less than a sector is what
-// rounding to whole sectors takes away, and the largest sector has 4096 bytes.
+// Whether the volume consists of its extents, one behind the other, with equal total length. A difference
+// below one sector comes from rounding to whole sectors, and the largest sector has 4096 bytes.
 bool liesExactlyOn(const QList<platform::Extent> &extents, qint64 length)
 {
     const qint64 excess = totalLength(extents) - length;
@@ -34,7 +34,7 @@ void WipeCoverage::addStretch(qint64 begin, qint64 length)
 
 void WipeCoverage::addVolume(qsizetype index, const QList<platform::Extent> &extents, const Written &written)
 {
-    // Of a file system on several devices the first is the one that is written.
+    // Of a file system on several devices only the first is written.
     const bool isFirst = !extents.isEmpty() && liesExactlyOn(extents.first(1), written.length);
     if (!isFirst && !liesExactlyOn(extents, written.length)) {
         m_pass.unplaced.resize(std::max(m_pass.unplaced.size(), index + 1));
@@ -57,7 +57,7 @@ void WipeCoverage::endPass()
         return;
     }
     m_all.ranges = m_all.ranges.intersected(m_pass.ranges);
-    // A pass that did not come to a volume has added nothing for it.
+    // A pass that did not reach a volume has no amount for it.
     m_all.unplaced.resize(std::min(m_all.unplaced.size(), m_pass.unplaced.size()));
     for (qsizetype i = 0; i < m_all.unplaced.size(); ++i)
         m_all.unplaced[i] = std::min(m_all.unplaced[i], m_pass.unplaced[i]);

@@ -6,40 +6,40 @@
 #include <QList>
 #include <QtGlobal>
 
-// What of a drive every pass has reached. Places count, not transfers: what is written under two names is
-// covered once.
+/// The bytes of a drive that every pass has reached. Places are counted, not transfers, so that bytes written
+/// through two volume names count once.
 class WipeCoverage
 {
 public:
-    // How a pass went through a volume: from its start without gaps.
+    /// The extent of a pass in one volume, from its start without gaps.
     struct Written
     {
-        qint64 length = 0;  // of the volume, bytes
-        qint64 covered = 0; // of these, from the first on
+        qint64 length = 0;  ///< of the volume, bytes
+        qint64 covered = 0; ///< bytes from the start that were written
     };
 
     void beginPass();
-    // A stretch of the drive itself.
+    /// Adds a range of the drive itself.
     void addStretch(qint64 begin, qint64 length);
-    // A volume of the drive, the same index in every pass. The extents say where it lies; of a volume that
-    // begins somewhere inside of them (LVM, encryption) only the amount is known.
+    /// Adds a volume of the drive; its index is the same in every pass. The extents are its place on the
+    /// drives. A volume that begins somewhere inside its extents (LVM, encryption) counts by amount only.
     void addVolume(qsizetype index, const QList<platform::Extent> &extents, const Written &written);
     void endPass();
 
-    // Bytes that received all of so many passes: none before the last has ended. Places beyond the end of a
-    // drive of that size do not count.
+    /// Bytes that received all passCount passes; 0 before the last one has ended. Places beyond driveSize do
+    /// not count.
     qint64 bytes(int passCount, qint64 driveSize) const;
-    // Bytes that were written somewhere beyond the end of a drive of that size.
+    /// Bytes written beyond driveSize.
     qint64 bytesBeyond(qint64 driveSize) const;
 
 private:
     struct Pass
     {
         ByteRanges ranges;
-        QList<qint64> unplaced; // by volume
+        QList<qint64> unplaced; ///< by volume
     };
 
     Pass m_pass;
-    Pass m_all; // what all passes so far have in common
+    Pass m_all; ///< intersection of all passes so far
     int m_passes = 0;
 };

@@ -149,7 +149,8 @@ void WipeEngine::start()
     }
 
     m_thread->start();
-    // The thread ends by a call that waits for this one: where it does not run, the system has refused it.
+    // A started thread ends only through a call that waits for this one, so a thread that is not running was
+    // refused by the system.
     if (!m_thread->isRunning()) {
         m_running = false;
         delete m_worker;
@@ -165,7 +166,7 @@ void WipeEngine::start()
 void WipeEngine::beginReport()
 {
     const OperationType type = m_task->operationType();
-    // A task that ran before starts with a clean slate.
+    // A task that ran before must not keep its old results.
     m_task->clearOutcome();
     m_task->updateReport([this, type](WipeReport &report) {
         report.verificationPassed = false;
@@ -176,7 +177,7 @@ void WipeEngine::beginReport()
         report.status = WipeStatus::Running;
         if (type == DiskWipe || type == PartitionWipe || type == FreeSpaceWipe)
             report.disk = m_task->disk();
-        // Counted in 512-byte units whatever the medium's sector is, so that reports can be compared.
+        // Always in 512-byte units, whatever the sector size, so that reports can be compared.
         if (type == DiskWipe || type == PartitionWipe)
             report.totalSectors = static_cast<quint64>(m_task->disk().sizeBytes) >> 9;
         if (type == FreeSpaceWipe)
@@ -221,8 +222,8 @@ bool WipeEngine::createWorker()
 void WipeEngine::connectWorker()
 {
     connect(m_thread, &QThread::started, m_worker, &BaseWipeWorker::process);
-    // The worker counts whole percents, the slot takes a double: a conversion that a plain connection
-    // refuses.
+    // The worker reports whole percents and the slot takes a double; a plain connection refuses this
+    // conversion.
     connect(m_worker, &BaseWipeWorker::progressChanged, this,
             [relay = forThisJob(&WipeEngine::onWorkerProgress)](int percent) { relay(percent); });
     connect(m_worker, &BaseWipeWorker::passChanged, this, forThisJob(&WipeEngine::onWorkerPassChanged));
@@ -337,7 +338,7 @@ void WipeEngine::onWorkerLogMessage(const QString &message, int level)
     emit logMessage(message, level);
 }
 
-// A worker may end after stop() gave up waiting: its result then replaces the cancelled mark, and completed()
+// A worker may end after stop() gave up waiting. Its result then replaces the cancelled mark, and completed()
 // follows stopped().
 void WipeEngine::onWorkerFinished(bool success)
 {

@@ -21,89 +21,95 @@ class ReleasedVolumes;
 struct VolumeRelease;
 } // namespace platform
 
-// Runs one task at a time on a thread of its own and keeps the task's report. Lives on the interface thread,
-// which needs an event loop: all signals are emitted there. Levels of logMessage: 0 information, 1 warning, 2
-// error.
+/// Runs one task at a time on its own thread and maintains the task's report. Lives on the interface thread,
+/// which needs an event loop; all signals are emitted there. Levels of logMessage: 0 information, 1 warning,
+/// 2 error.
 class WipeEngine : public QObject
 {
     Q_OBJECT
 
 public:
     explicit WipeEngine(QObject *parent = nullptr);
-    // Stops a running job as stop() does and waits for its thread, however long its last transfer takes.
+    /// Stops a running job as stop() does, then waits for its thread without a limit, since a transfer cannot
+    /// be interrupted.
     ~WipeEngine() override;
 
-    // The task is not owned; it outlives the job and is not changed while the job runs. Refused with
-    // errorOccurred while a job runs.
+    /// The task is not owned. It outlives the job and must not change while the job runs. Refused with
+    /// errorOccurred while a job runs.
     void setTask(WipeTask *task);
 
-    // Deletes a task that is done with, as soon as no worker reads it any more: one that was told to stop may
-    // still be in a transfer.
+    /// Deletes a finished task once no worker reads it any more. A stopped worker may still be in a transfer.
     void deleteTask(WipeTask *task);
 
-    // What has to be settled between the question and start(): a free-space job is asked whether anything is
-    // in its way, for a job on a whole drive releaseVolumes(). Answers as that.
+    /// Prepares the start after the user has confirmed: checks a free-space job for obstacles, calls
+    /// releaseVolumes() for a whole-drive job. Returns the obstacle in words for the user, empty when the job
+    /// may start.
     QString makeReady();
 
-    // Takes the volumes off the drive of a job on all of it, before start(), which leaves them to the job: it
-    // gives them back when it ends without having written anything. Given back as well when another task is
-    // set and with the engine. Takes as long as the system needs to write out what it holds back. Returns
-    // what is in the way, in words for the user; nothing is started then and the drive is as it was. Empty
-    // after success, and for other jobs, of which nothing is released.
+    /// Releases the volumes of the drive for a whole-drive job, before start(). The job takes them over and
+    /// gives them back when it has written nothing; they are also given back when another task is set, and by
+    /// the destructor. Takes as long as the system needs to write out its cache. Returns the obstacle in
+    /// words for the user; then the drive is unchanged and the job must not start. Empty after success, and
+    /// for other jobs, which release nothing.
     QString releaseVolumes();
 
-    // Starts the job; a refusal is told by errorOccurred and leaves everything as it was.
+    /// Starts the job. A refusal is reported by errorOccurred and changes nothing.
     void start();
 
-    // Ends the running job: asks the worker to stop, waits at most stopPatience() for it and marks the report
-    // cancelled. A worker that ends only after that is still reported by completed(). Nothing happens when no
-    // job runs.
+    /// Ends the running job: asks the worker to stop, waits at most stopPatience() for it and marks the
+    /// report cancelled. completed() still follows for a worker that ends later. Does nothing when no job
+    /// runs.
     void stop();
 
-    // Returns when the job's worker has ended and everything it has sent was passed on, completed() included;
-    // at once without one. However long its last transfer takes.
+    /// Waits until the job's worker has ended and all its signals were passed on, completed() included.
+    /// Returns at once without a worker. There is no limit, since a transfer cannot be interrupted.
     void waitForEnd();
 
-    // A copy of the task's report; without a task a fresh one. Any time on the interface thread.
+    /// A copy of the task's report; a fresh one without a task. May be called at any time on the interface
+    /// thread.
     WipeReport report() const;
-    // How the task's job went, from completed() or stopped() on; failed without a task. Completed and yet not
-    // complete is a job that fell short of something.
+    /// The outcome of the task's job, from completed() or stopped() on; failed without a task. A job with
+    /// completed(true) and another outcome than complete fell short of something.
     OutcomeRecord outcome() const;
-    // What the task's job has left dismounted, by name, from completed() on.
+    /// The names of the volumes that the task's job left dismounted, from completed() on.
     QStringList dismountedVolumes() const;
     bool isRunning() const { return m_running; }
 
-    // The longest wait of stop(), 5000 ms unless set.
+    /// The longest wait of stop(), 5000 ms unless set.
     std::chrono::milliseconds stopPatience() const { return m_stopPatience; }
     void setStopPatience(std::chrono::milliseconds patience) { m_stopPatience = patience; }
 
-    // Asked by start() just before the worker runs, on the interface thread: whether the user already wants
-    // the job to stop. Then the job ends as cancelled and has touched nothing; stop(), which can only be
-    // called behind start(), may come too late for that.
+    /// The probe returns whether the user already wants the job to stop. start() calls it on the interface
+    /// thread just before the worker runs, because a stop() after start() may come too late. The job then
+    /// ends as cancelled and has touched nothing.
     void setStopProbe(std::function<bool()> isStopWanted) { m_isStopWanted = std::move(isStopWanted); }
 
-    // The time of the report and of the speeds, the system's unless set.
+    /// The time for the report and the speeds, the system's unless set.
     using Clock = std::function<QDateTime()>;
     void setClock(Clock clock) { m_clock = std::move(clock); }
 
 signals:
+    /// Percent of all passes, 0 to 100.
     void progressChanged(int percent);
+    /// A pass begins; currentPass counts from 1.
     void passChanged(int currentPass, int totalPasses);
-    // The second figure is always 0.
+    /// total is always 0.
     void bytesProcessed(qint64 bytes, qint64 total);
-    // At most once a second.
+    /// At most once a second.
     void speedUpdated(double bytesPerSecond);
     void started();
-    void paused();  // reserved
-    void resumed(); // reserved
+    void paused();  ///< reserved
+    void resumed(); ///< reserved
+    /// stop() has marked the job cancelled.
     void stopped();
-    // The job's worker has ended. May follow stopped().
+    /// The job's worker has ended. May follow stopped().
     void completed(bool success);
     void logMessage(const QString &message, int level);
+    /// The translated reason of a refusal or of a failing job.
     void errorOccurred(const QString &error);
-    void verificationStarted();              // reserved
-    void verificationProgress(int percent);  // reserved
-    void verificationCompleted(bool passed); // reserved
+    void verificationStarted();              ///< reserved
+    void verificationProgress(int percent);  ///< reserved
+    void verificationCompleted(bool passed); ///< reserved
 
 private slots:
     void onWorkerProgress(double percent);
@@ -121,9 +127,8 @@ private:
     static QString releaseProblem(const platform::VolumeRelease &release);
     void connectWorker();
     void cleanUpThread();
-    // A slot that hears only the job that is current when the connection is made. What the worker of an
-    // earlier job left in the event queue would otherwise be taken for the next job's, its "finished"
-    // included.
+    /// Wraps a slot so that it ignores signals of earlier jobs. Signals that the worker of an earlier job
+    /// left in the event queue, its "finished" included, would otherwise count for the next job.
     template <typename... Args>
     auto forThisJob(void (WipeEngine::*slot)(Args...))
     {
@@ -134,9 +139,9 @@ private:
     }
 
     QPointer<WipeTask> m_task;
-    std::unique_ptr<platform::ReleasedVolumes> m_released; // until the job's worker has them
-    quint64 m_job = 0;                  // counts the jobs, and the changes of task between them
-    BaseWipeWorker *m_worker = nullptr; // deleted by the end of its thread
+    std::unique_ptr<platform::ReleasedVolumes> m_released; ///< until the job's worker has them
+    quint64 m_job = 0;                  ///< counts the jobs, and the changes of task between them
+    BaseWipeWorker *m_worker = nullptr; ///< deleted when its thread ends
     QThread *m_thread = nullptr;
     bool m_running = false;
     bool m_paused = false;

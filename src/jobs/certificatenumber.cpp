@@ -15,7 +15,7 @@ struct Words
     Q_DECLARE_TR_FUNCTIONS(CertificateNumber)
 };
 
-// All but the number.
+// The id without its number.
 QString dayOf(const QString &certificateId)
 {
     return certificateId.left(certificateId.lastIndexOf(u'-') + 1);
@@ -27,8 +27,8 @@ QString claimCertificateId(WipeTask &task, const QStringList &taken)
 {
     ReportDatabase &database = ReportDatabase::instance();
     QString id = task.report().certificateId;
-    QString counted; // once a day: each draw is quick, the count is not
-    // A file that cannot be read cannot lose a report either: storing fails then and is told.
+    QString counted; // the day of the last count, since counting is slow and drawing is quick
+    // An unreadable database cannot lose a report either; storing then fails and is reported.
     while (taken.contains(id) || database.holds(id).value_or(false)) {
         if (const QString day = dayOf(id); day != counted) {
             if (database.countBeginningWith(day).value_or(0) + taken.size() >= NumbersOfADay)

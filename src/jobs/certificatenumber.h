@@ -5,8 +5,7 @@
 
 class WipeTask;
 
-/// Gives the task a freshly made report until no stored one has its certificate id, nor one of those that are
-/// taken besides; ids are drawn from 8,999 a day, and a report takes the place of the stored one with its id.
-/// Empty when it has one, or when the database is not open; otherwise why there is none, in words for the
-/// user. The database's thread.
+/// Gives the task new reports until its certificate id is neither stored nor in `taken`. There are 8,999 ids
+/// a day, and storing a report replaces the stored one with the same id. Returns an empty string on success,
+/// also when the database is not open, else the reason in words for the user. On the database's thread.
 QString claimCertificateId(WipeTask &task, const QStringList &taken = {});

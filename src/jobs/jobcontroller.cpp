@@ -22,9 +22,9 @@ JobController::~JobController()
     try {
         finish();
     } catch (const std::bad_alloc &) { // NOLINT(bugprone-empty-catch)
-        // Without memory there is no record; the engine stops its worker without any.
+        // Without memory there is no record, but the engine can still stop its worker.
     }
-    // The engine's worker may read the task to its end.
+    // Deleted before the task, which the engine's worker may read until it ends.
     delete m_engine;
     delete m_task;
 }
@@ -38,8 +38,7 @@ WipeTask &JobController::newTask(OperationType type)
 
 WipeTask &JobController::takeTask(std::unique_ptr<WipeTask> task)
 {
-    // The worker's thread may be over while the end of the job is still on its way here; until then its task
-    // has the report.
+    // The worker may have ended before its signal arrives here; until then the old task holds the report.
     if (m_state != State::Idle && !m_endingTask)
         m_endingTask = m_task;
     else
@@ -49,7 +48,7 @@ WipeTask &JobController::takeTask(std::unique_ptr<WipeTask> task)
     return *m_task;
 }
 
-// The engine would wait for the worker of that one, however long.
+// Starting now would block in the engine until the old worker has ended.
 QString JobController::pendingJob() const
 {
     return m_state == State::Idle ? QString() : tr("The previous job is still ending.");
@@ -132,7 +131,7 @@ void JobController::complete(bool success)
     if (!success)
         end.leftUnmounted = m_engine->dismountedVolumes();
     {
-        // Given back before anyone hears of the end, who may show it for hours.
+        // Released before ended() is sent, because a receiver may show the end for hours.
         const auto awake = std::move(m_awake);
         if (m_keep)
             m_keep(end);

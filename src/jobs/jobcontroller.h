@@ -15,10 +15,9 @@ namespace platform {
 class AwakeHold;
 }
 
-/// One job at a time, from its task to the record of its end. However a job ends, by itself, stopped, by the
-/// end of the program or its restart, it ends here once: what is to be kept of it is kept first, then those
-/// who wait for the end hear of it. The system is kept awake from the start until what is to be kept is kept.
-/// Interface thread.
+/// Runs one job at a time, from its task to the record of its end. Every end of a job comes through here
+/// exactly once, whether it ran to its end, was stopped, or the program ends or restarts. Its records are
+/// stored first, then ended() is sent. The system is kept awake from the start until then. Interface thread.
 class JobController : public QObject
 {
     Q_OBJECT
@@ -27,57 +26,59 @@ public:
     enum class State {
         Idle,
         Running,
-        Stopping,   ///< the user has stopped the job, whose worker may still be at its last transfer
-        Closing,    ///< the program goes when the job has ended
-        Restarting, ///< the same, and another run of it takes over
+        Stopping,   ///< the user has stopped the job; its worker may still be in its last transfer
+        Closing,    ///< the program closes when the job has ended
+        Restarting, ///< the program closes when the job has ended, and starts again
     };
 
     explicit JobController(QObject *parent = nullptr);
-    /// Stops a job that runs and waits for its end, which is kept.
+    /// Stops a running job, waits for its end and stores its records.
     ~JobController() override;
 
     WipeEngine &engine() const { return *m_engine; }
     State state() const { return m_state; }
 
-    /// Keeps what is to be kept of a job, and notes in the end what became of that. Called once for each job.
+    /// Stores the records of a job and notes the result in `end`. Called once for each job.
     using Keep = std::function<void(JobEnd &end)>;
     void setKeep(Keep keep) { m_keep = std::move(keep); }
 
-    /// The window, as QWidget::winId() tells it, at which the system shows why it is not to be shut down.
+    /// The window, as given by QWidget::winId(), at which the system shows the reason for refusing a
+    /// shutdown.
     void setWindow(quintptr window) { m_window = window; }
-    /// A job is running and a shutdown can be refused for its sake: the user is shown the reason and decides.
+    /// A job is running, and the system can delay a shutdown: it shows the reason to the user, who decides.
     bool delaysShutdown() const;
 
     WipeTask *task() const { return m_task; }
-    /// Takes the place of the task before, which a job that is still ending has until then.
+    /// Replaces the task. A job that is still ending keeps the old task until its end.
     WipeTask &newTask(OperationType type);
-    WipeTask &takeTask(std::unique_ptr<WipeTask> task); ///< the same, with a task that is there already
+    WipeTask &takeTask(std::unique_ptr<WipeTask> task); ///< the same with an existing task
 
-    /// Why no job can start yet, in words for the user. Empty: the one before has ended.
+    /// The reason why no job can start yet, in words for the user; empty when the previous job has ended.
     QString pendingJob() const;
 
-    /// Makes ready what the job needs: a certificate id of its own where its report is to be stored, and what
-    /// WipeEngine::makeReady() does. What is in the way of that, in words for the user; empty: nothing.
+    /// Prepares the job: claims a free certificate id when its report is to be stored, and calls
+    /// WipeEngine::makeReady(). Returns the obstacle in words for the user; empty without one.
     QString makeReady(bool storesReport);
 
-    /// Starts the job of the task. Not empty: it was refused, and why, in words for the user.
+    /// Starts the job of the task. Returns the reason of a refusal in words for the user; empty when it
+    /// started.
     QString start();
 
-    /// Nothing without a job. Waits for the worker as long as WipeEngine::stop() does.
+    /// Stops the job and waits for the worker as long as WipeEngine::stop() does. Does nothing without a job.
     void stop();
 
-    /// Stops the job because the program goes, and calls the function when the end is kept; at once without a
-    /// job. Of the end nobody hears. State: Closing or Restarting.
+    /// Stops the job because the program closes, and calls `then` when its records are stored; at once
+    /// without a job. ended() is not sent. State: Closing or Restarting.
     void leave(State whither, std::function<void()> then = {});
 
-    /// The same, and returns when the end is kept, however long the worker's last transfer takes.
+    /// Like leave(), but returns when the records are stored, without a limit for the worker's last transfer.
     void finish();
 
-    /// The worker has come to its end.
+    /// Called when the worker has ended.
     void complete(bool success);
 
 signals:
-    /// Of a job that ran by itself or was stopped. What is to be kept is kept.
+    /// A job ran to its end or was stopped. Its records are stored.
     void ended(const JobEnd &end);
 
 private:

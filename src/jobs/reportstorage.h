@@ -5,6 +5,7 @@
 class OutcomeRecord;
 struct WipeReport;
 
-/// Puts the report of a job and its outcome into the database, which is opened first where that has failed
-/// before. Empty when it is stored; otherwise why it is not, in words for the user. The database's thread.
+/// Stores the report of a job and its outcome in the database, which is opened when an earlier attempt
+/// failed. Returns an empty string on success, else the reason in words for the user. On the database's
+/// thread.
 QString storeReport(const WipeReport &report, const OutcomeRecord &outcome);

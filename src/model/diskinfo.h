@@ -53,7 +53,7 @@ struct DiskInfo
     QString busTypeName() const;
     QString formattedSize() const;
 
-    /// Appends the volume; a system volume makes this the system disk, for good.
+    /// Appends the volume. A system volume marks the disk as the system disk, which is never undone.
     void addPartition(const PartitionInfo &partition);
 
     bool operator==(const DiskInfo &) const = default;

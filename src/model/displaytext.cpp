@@ -25,11 +25,11 @@ QString hexadecimal(char32_t number)
     return QString::number(static_cast<uint>(number), 16).toUpper();
 }
 
-// Neither a backslash, which separates folders on some systems, nor an angle bracket, which markup takes for
-// its own.
+// The mark contains no backslash, which separates folders on some systems, and no angle bracket, which is
+// markup.
 QString markOf(char32_t codePoint)
 {
-    // A byte of a name that is no UTF-8 comes as U+DC00 and so much.
+    // A byte of a name that is not UTF-8 is decoded as U+DC00 plus the byte.
     if (codePoint >= 0xDC80 && codePoint <= 0xDCFF)
         return u"[0x%1]"_s.arg(hexadecimal(codePoint - 0xDC00));
     return u"[U+%1]"_s.arg(hexadecimal(codePoint).rightJustified(4, u'0'));

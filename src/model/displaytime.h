@@ -4,5 +4,5 @@
 
 QT_FORWARD_DECLARE_CLASS(QDateTime)
 
-/// "2026-03-05 14:07:09", as certificates and lists show a moment; empty for an invalid one.
+/// The format of dates in certificates and lists, "2026-03-05 14:07:09"; empty for an invalid date.
 QString displayTime(const QDateTime &moment);

@@ -2,6 +2,6 @@
 
 #include <QString>
 
-/// A byte count for people: whole bytes below 1024, otherwise two decimals and KB to PB in steps of 1024.
-/// The count is taken as unsigned, and the text is the same in every locale.
+/// A readable byte count: whole bytes below 1024, otherwise two decimals and KB to PB in steps of 1024. The
+/// count is read as unsigned, and the text is the same in every locale.
 QString formatSize(qint64 bytes);

@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// So many places are named in a line for people.
+/// The number of places that a line for the user names.
 constexpr qsizetype placesInLine = 3;
 
 } // namespace

@@ -24,7 +24,7 @@ std::optional<JobOutcome> outcomeFromName(const QString &name)
     return static_cast<JobOutcome>(found - outcomeNames.begin());
 }
 
-/// A decimal string that is an amount; -1 for everything else.
+/// An amount in a decimal string; -1 for anything else.
 qint64 amount(const QJsonValue &value)
 {
     bool isNumber = false;
@@ -100,7 +100,7 @@ std::optional<OutcomeRecord> OutcomeRecord::fromJson(const QByteArray &json)
     for (const QJsonValue entry : further) {
         const auto kind = kindFromName(entry[u"kind"_s].toString());
         const qint64 places = amount(entry[u"places"_s]);
-        // Without a place that is kept there is none that is only counted.
+        // Counted places exist only beside stored ones.
         if (!kind || places <= 0 || !record.has(*kind))
             continue;
         Further &counted = record.m_further[*kind];

@@ -45,7 +45,7 @@ QByteArray quoted(QStringView text)
     return result.toUtf8();
 }
 
-/// Cuts a JSON text that is known to be well-formed into its tokens, without white space.
+/// Splits a well-formed JSON text into its tokens, without white space.
 class TokenReader
 {
 public:
@@ -96,8 +96,8 @@ private:
     qsizetype m_position = 0;
 };
 
-/// Qt's reader accepts line feeds and their like inside strings; a line of compact output must not contain
-/// them.
+/// Qt's reader accepts control characters such as line feeds inside strings, but a line of compact output
+/// must not contain them.
 QByteArray withEscapedControls(QByteArrayView token)
 {
     QByteArray result;
@@ -186,7 +186,7 @@ bool JsonWriter::raw(const QByteArray &json)
             break;
         case ':':
         case ',':
-            break; // written with what they stand between
+            break; // written together with the tokens that they separate
         default:
             isKey ? keyToken(withEscapedControls(token)) : literal(withEscapedControls(token));
         }

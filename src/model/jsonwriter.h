@@ -9,15 +9,15 @@
 
 #include <concepts>
 
-/// Writes one JSON value whose keys keep the order in which they are written, as UTF-8.
+/// Writes one JSON value as UTF-8; its keys keep the order in which they are written.
 ///
 ///     JsonWriter writer(JsonWriter::Layout::Compact);
 ///     writer.beginObject().member(u"event", u"pass").member(u"pass", 2).endObject();
 ///     const QByteArray line = writer.text();
 ///
-/// Calls must form a value: in an object each value follows a key, what is begun is ended (asserted).
-/// A char pointer or a 64-bit integer does not compile as a value: doubles, which readers use for numbers,
-/// hold integers exactly only up to 2^53. Write those with decimal().
+/// The calls must form a value (asserted): in an object each value follows a key, and each begin has its end.
+/// A char pointer or a 64-bit integer does not compile as a value. JSON readers store numbers as doubles,
+/// which hold integers exactly only up to 2^53, so larger ones are written with decimal().
 class JsonWriter
 {
 public:
@@ -46,8 +46,8 @@ public:
     /// The integer as a decimal string.
     JsonWriter &decimal(std::integral auto number) { return value(QString::number(number)); }
 
-    /// A finished JSON object or array, brought into this writer's layout; keys keep their order, numbers and
-    /// strings their spelling. Writes nothing and returns false when `json` is not one.
+    /// Writes a finished JSON object or array in this writer's layout. Keys keep their order; numbers and
+    /// strings keep their spelling. Writes nothing and returns false when `json` is neither.
     [[nodiscard]] bool raw(const QByteArray &json);
 
     /// key() and value() in one.

@@ -2,8 +2,8 @@
 
 #include <QMetaType>
 
-/// What a job wipes. Reports store the number. Unscoped with a fixed width, so that a number from outside
-/// that has no name survives.
+/// The target of a job. Reports store the number. Unscoped with a fixed width, so that an unknown number read
+/// from outside is kept.
 enum OperationType : qint32 {
     DiskWipe = 0,
     PartitionWipe = 1,

@@ -11,12 +11,12 @@ struct PartitionInfo
     QString fileSystem;
     qint64 totalBytes = 0;
     qint64 freeBytes = 0;
-    qint64 usedBytes = 0; ///< stored by whoever fills the record, not computed here
+    qint64 usedBytes = 0; ///< set by the code that fills the record, not computed here
     bool isSystem = false;
     bool isBoot = false;
     qint32 partitionIndex = 0; ///< 0-based position in the disk's list, in order of discovery
-    /// What tells the volume from another that is mounted in its place later; opaque, empty when not known,
-    /// and not stored.
+    /// Distinguishes the volume from one that is mounted in its place later; opaque, empty when unknown, and
+    /// not stored.
     QString identity{};
 
     QString formattedTotal() const;

@@ -8,9 +8,9 @@
 
 class JsonWriter;
 
-/// What a job may fall short of. The names that kindName() gives are stored; the order is that of display.
+/// The kinds of shortfall. The names from kindName() are stored; the order is that of display.
 enum class ShortfallKind {
-    // These make a job partial.
+    /// Shortfalls: these make a job partial.
     OnlyVolumes,
     VolumeNotOpened,
     VolumeEndedEarly,
@@ -30,7 +30,7 @@ enum class ShortfallKind {
     ContentElsewhere,
     LinkTarget,
     BinNotEntered,
-    // These are worth a word and take nothing from the job.
+    /// Notes: these do not change the outcome.
     NotReadBack,
     ReadBackImpossible,
     ReserveKept,
@@ -42,7 +42,7 @@ enum class ShortfallKind {
 };
 
 QList<ShortfallKind> allShortfallKinds();
-/// The kind as one word for machines and command lines, such as "only-volumes".
+/// The kind as one word for machine output and command lines, such as "only-volumes".
 QString kindName(ShortfallKind kind);
 std::optional<ShortfallKind> kindFromName(const QString &name);
 /// False for a note.
@@ -50,20 +50,19 @@ bool makesPartial(ShortfallKind kind);
 /// One translated line, without a full stop and not capitalised.
 QString kindText(ShortfallKind kind);
 
-/// One thing that a job did not do, or that is worth a word.
+/// One shortfall or note of a job.
 struct Shortfall
 {
     ShortfallKind kind = ShortfallKind::OnlyVolumes;
-    QString place{}; ///< a volume, a path; as it is, to be cleaned for display; empty for the job as a whole
+    QString place{};   ///< a volume or a path, not cleaned for display; empty for the job as a whole
     qint64 bytes = -1; ///< below 0: unknown
-    qint64 count = -1; ///< of files, names, whatever the kind speaks of; below 0: unknown
+    qint64 count = -1; ///< number of files, names or other units of the kind; below 0: unknown
 
     bool operator==(const Shortfall &) const = default;
 
-    /// An object with the members that are known; with `text` also the kind's line.
+    /// Writes an object with the known members; with `text` also the kind's line.
     void writeJson(JsonWriter &writer, bool withText = false) const;
 };
 
-/// The sum of two amounts, each of which may be unknown, that is below 0; what does not fit stays at the
-/// largest number.
+/// The sum of two amounts; an amount below 0 is unknown. Stays at the largest number on overflow.
 qint64 sumOfAmounts(qint64 a, qint64 b);

@@ -12,7 +12,7 @@ bool isArrow(QChar character)
     return character >= QChar(0x2190) && character <= QChar(0x21FF);
 }
 
-// How many units of the beginning are a picture; what follows up to the blank belongs to it.
+// The number of UTF-16 units of a leading picture, which extends to the first blank.
 qsizetype pictureLength(const QString &text)
 {
     if (text.isEmpty())

@@ -2,5 +2,5 @@
 
 #include <QString>
 
-/// The text as it is read aloud: without the picture before it and the arrow before or behind it.
+/// The text for a screen reader, without the leading picture and without an arrow at either end.
 QString spokenText(const QString &text);

@@ -2,11 +2,11 @@
 
 #include <QtGlobal>
 
-/// What tells the target of a file job from another that takes its place under the same path. Numbers are 0
-/// where the file system gives its files other ones whenever it likes.
+/// Distinguishes the target of a file job from another file that appears under its path later. Numbers are 0
+/// where the file system does not keep its file numbers.
 struct TargetIdentity
 {
-    int kind = 0; ///< file, folder, link; compared only
+    int kind = 0; ///< file, folder or link; only compared
     quint64 device = 0;
     quint64 number = 0;
     qint64 born = 0;

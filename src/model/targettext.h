@@ -10,7 +10,7 @@
 
 #include <functional>
 
-/// What a job is about to destroy, in words, for the question before it. Names are shown as displayText().
+/// The target of a job in words, for the confirmation. Names are shown as displayText().
 class TargetText
 {
     Q_DECLARE_TR_FUNCTIONS(TargetText)
@@ -22,14 +22,13 @@ public:
     static QString drive(const DiskInfo &disk);
     /// "volume E:, NTFS, 4.00 MB, 3.00 MB free", with the label where it has one.
     static QString volume(const PartitionInfo &partition);
-    /// The drive and its volumes, these indented.
+    /// The drive, followed by its volumes, indented.
     static QStringList driveWithVolumes(const DiskInfo &disk);
-    /// The volume and the drive it lies on, if that is one; the drive with all its volumes when the volume
-    /// has no name.
+    /// The volume and its drive, if it has one; the drive with all its volumes when the volume has no name.
     static QStringList freeSpace(const DiskInfo &disk, const PartitionInfo &partition);
-    /// "3 files, 12.00 KB"; of an amount that is not complete, "at least" so much.
+    /// "3 files, 12.00 KB"; an incomplete amount is preceded by "at least".
     static QString amount(quint64 files, quint64 bytes, bool isComplete);
-    /// The beginning of a list that may be long, a line each, and how many more there are. lineOf is asked
-    /// for those lines only.
+    /// The first lines of a possibly long list and the number of further ones. lineOf is called only for the
+    /// lines shown.
     static QStringList beginningOf(qsizetype count, const std::function<QString(qsizetype index)> &lineOf);
 };

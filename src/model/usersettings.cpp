@@ -28,7 +28,7 @@ std::unique_ptr<QSettings> open()
 bool readBool(const QSettings &store, QStringView key, bool byDefault)
 {
     const QVariant value = store.value(key.toString());
-    // Stores of text give text back, those of the registry numbers; a list is neither.
+    // Text stores return text and the registry returns numbers; a list is neither.
     const bool isScalar = value.typeId() == QMetaType::QString || value.typeId() == QMetaType::Bool ||
                           value.typeId() == QMetaType::Int || value.typeId() == QMetaType::UInt;
     return isScalar ? value.toBool() : byDefault;

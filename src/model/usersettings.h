@@ -7,8 +7,8 @@
 
 QT_FORWARD_DECLARE_CLASS(QSettings)
 
-/// The user's settings: one store of the platform's own kind, user scope, opened anew for every use so that
-/// what one window saved is what the next job reads. Interface thread.
+/// The user's settings in the platform's own store, user scope. The store is opened again for every use, so
+/// that a job reads the values that a window has just saved. Interface thread.
 namespace usersettings {
 
 inline constexpr QStringView Language = u"language";                    ///< code, default empty: the system's
@@ -21,11 +21,11 @@ using Opener = std::function<std::unique_ptr<QSettings>()>;
 
 std::unique_ptr<QSettings> open();
 
-/// What is stored under the key, or the default where nothing is, or something of another kind.
+/// The stored value, or the default when there is none or its type is wrong.
 bool readBool(const QSettings &store, QStringView key, bool byDefault);
 QString readString(const QSettings &store, QStringView key);
 
-/// Puts another store in the place of the user's, for as long as it lives.
+/// Replaces the user's store for the lifetime of the object.
 class ScopedStore
 {
 public:

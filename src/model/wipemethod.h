@@ -5,13 +5,13 @@
 #include <QMetaType>
 #include <QString>
 
-/// What one overwrite pass writes. The numbers are fixed; an out-of-range number is carried, not mended.
+/// The data of one overwrite pass. The numbers are fixed; an out-of-range number is kept, not corrected.
 enum class PatternType : qint32 {
     Zeros = 0,      ///< every byte 0x00
     Ones = 1,       ///< every byte 0xFF
     Random = 2,     ///< fresh pseudo-random bytes
     Custom = 3,     ///< every byte equal to PassPattern::value
-    Complement = 4, ///< the bitwise complement of what the buffer held; no built-in method uses it
+    Complement = 4, ///< the bitwise complement of the buffer's content; not used by a built-in method
 };
 
 /// One overwrite pass.
@@ -30,7 +30,7 @@ struct WipeMethod
     Q_DECLARE_TR_FUNCTIONS(WipeMethod)
 
 public:
-    /// Numbers of the standards, as reports store them.
+    /// Numbers of the standards, as stored in reports.
     enum Type : qint32 {
         Nist80088 = 0,
         BritishHmgIs5 = 1,
@@ -40,15 +40,15 @@ public:
     };
 
     QString name;        ///< never translated
-    QString description; ///< in the language that was installed when the record was built
-    qint32 type = 0;     ///< the number asked for, also when no standard has it
+    QString description; ///< in the language installed at construction
+    qint32 type = 0;     ///< the requested number, even without a standard
     QList<PassPattern> passes;
     qint32 level = 1; ///< security level, 1 to 5
 
     /// NIST 800-88.
     WipeMethod();
 
-    /// The standard of that number. A number without a standard gives NIST 800-88 and stays in `type`.
+    /// The standard with that number. An unknown number gives NIST 800-88 and stays in `type`.
     static WipeMethod fromType(qint32 type);
 
     /// The five standards in the order of their numbers.

@@ -40,7 +40,7 @@ WipeReport::WipeReport()
 
 QString WipeReport::newCertificateId()
 {
-    // One date for both parts, so that midnight cannot come between them.
+    // One date for both parts, so that midnight cannot fall between them.
     const QDate today = QDate::currentDate();
     const quint64 draw = QRandomGenerator::system()->generate();
     const quint64 number = (draw * 8999 >> 32) + 1000;

@@ -13,7 +13,7 @@
 
 class JsonWriter;
 
-/// Where a job stands. Reports store the number; any other number is carried and named "Unknown".
+/// The state of a job. Reports store the number; any other number is kept and named "Unknown".
 enum class WipeStatus : qint32 {
     Pending = 0,
     Running = 1,
@@ -62,10 +62,10 @@ public:
     QString computerName; ///< from the environment
     QString errorMessage;
 
-    /// A fresh report with a certificate id of its own.
+    /// A new report with its own certificate id.
     WipeReport();
 
-    /// "QVX-yyyy-MMdd-n" with today's local date and n from 1000 to 9998, drawn anew by every call.
+    /// "QVX-yyyy-MMdd-n" with today's local date and a random n from 1000 to 9998, new for every call.
     static QString newCertificateId();
 
     /// Indented UTF-8 text of one JSON object. 64-bit numbers are decimal strings.
@@ -74,15 +74,15 @@ public:
     /// Writes the same object as the next value of `writer`, in the writer's layout.
     void writeJson(JsonWriter &writer) const;
 
-    /// Reads back the scalar fields and the disk's model, serial number and size; the items and the rest of
-    /// the disk stay at their defaults. A key that is missing or of another type reads as empty, 0 or false.
-    /// Text that is no JSON document gives a fresh report.
+    /// Reads the scalar fields and the disk's model, serial number and size; the items and the rest of the
+    /// disk keep their defaults. A missing key, or one of another type, reads as empty, 0 or false. Text that
+    /// is no JSON document gives a new report.
     static WipeReport fromJson(const QByteArray &json);
 
     QString operationTypeName() const; ///< translated
     QString statusName() const;        ///< translated
 
-    /// Time from start to end, to now while there is no end, as in "1h 0m 5s"; empty without a start.
+    /// Time from start to end, or to now without an end, as in "1h 0m 5s"; empty without a start.
     QString duration() const;
 
     bool operator==(const WipeReport &) const = default;

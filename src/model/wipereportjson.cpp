@@ -108,7 +108,7 @@ WipeReport WipeReport::fromJson(const QByteArray &json)
     if (document.isNull())
         return report;
 
-    // An array has no keys: everything below reads as missing.
+    // For an array the object is empty, so all fields read as missing.
     const FieldReader fields(document.object());
     report.certificateId = fields.text(u"certificateId");
     report.operationType = static_cast<OperationType>(fields.number(u"operationType"));

@@ -68,7 +68,7 @@ struct CheckResult
     }
 };
 
-/// Receives what the checks look at, line by line, so that they exist once for both callers.
+/// Receives the traces of the checks line by line, so that both callers share the checks.
 using Trace = std::function<void(const QString &line)>;
 
 QString asText(bool truth)
@@ -86,7 +86,7 @@ Check checkDisk(const WipeTask &task)
 
 Check checkPartition(const WipeTask &task)
 {
-    // Loose on purpose: an index alone counts as a selection.
+    // Deliberately loose: an index alone counts as a selection.
     const PartitionInfo partition = task.partition();
     if (partition.driveLetter.isEmpty() && partition.partitionIndex < 0)
         return Check::NoPartition;
@@ -106,8 +106,8 @@ Check checkFreeSpace(const WipeTask &task, const Trace &trace)
     return Check::Passed;
 }
 
-/// A link whose target is gone exists too: it is the link that is removed. A name that is no valid Unicode
-/// cannot be asked for through Qt, which would look for another one; the worker finds out.
+/// A broken link counts as existing, because the link itself is removed. Qt would look up another name for
+/// one that is no valid Unicode, so such a name is accepted and the worker checks it.
 bool pathExists(const QString &path)
 {
     if (!path.isValidUtf16())
@@ -140,7 +140,7 @@ CheckResult checkTarget(const WipeTask &task, const Trace &trace)
     case FileWipe:
         return checkFiles(task);
     }
-    return {}; // a number without a name has no target to check
+    return {}; // an unknown operation has no target to check
 }
 
 bool isInRange(qint32 value, qint32 maximum)
@@ -169,7 +169,7 @@ CheckResult firstFailure(const WipeTask &task, const Trace &trace)
 }
 } // namespace
 
-// The default job must be valid on every machine, so more than 32 processors do not show in the thread count.
+// The default job must be valid on every machine, so the thread count is limited to 32.
 WipeTask::WipeTask(QObject *parent)
     : QObject(parent)
     , m_threadCount(qBound(1, QThread::idealThreadCount(), maximumThreads))
@@ -178,7 +178,7 @@ WipeTask::WipeTask(QObject *parent)
 
 void WipeTask::addFiles(const QStringList &paths)
 {
-    // Searching the list itself would be quadratic, hours for a million files.
+    // Searching the list for each path would be quadratic and take hours for a million files.
     QSet<QString> known(m_files.cbegin(), m_files.cend());
     known.reserve(m_files.size() + paths.size());
     for (const QString &path : paths) {

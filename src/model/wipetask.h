@@ -15,9 +15,9 @@
 #include <QString>
 #include <QStringList>
 
-/// One job, filled before the engine starts and not changed while it runs, so that workers read the fields
-/// from their own threads without a lock. Only the report and the outcome change meanwhile; their functions
-/// may be called from any thread.
+/// One job. It is filled before the engine starts and does not change while it runs, so that workers read the
+/// fields from their own threads without a lock. Only the report and the outcome change meanwhile; their
+/// functions may be called from any thread.
 class WipeTask : public QObject
 {
     Q_OBJECT
@@ -40,8 +40,8 @@ public:
     PartitionInfo partition() const { return m_partition; }
     void setPartition(const PartitionInfo &partition) { m_partition = partition; }
 
-    /// Whether a disk job is to write every sector of its drive, which is rid of its volumes before, instead
-    /// of the volumes alone.
+    /// Whether a disk job writes every sector of its drive instead of its volumes alone. The volumes are
+    /// released before.
     bool isWholeDrive() const { return m_isWholeDrive; }
     void setWholeDrive(bool whole) { m_isWholeDrive = whole; }
 
@@ -54,19 +54,19 @@ public:
     }
     /// Appends the paths that are not yet listed, compared exactly, in the order of their first appearance.
     void addFiles(const QStringList &paths);
-    /// What the files and folders were when the user was asked, by path; what is something else when the job
-    /// begins is not touched. A path without an identity is taken as it is found.
+    /// The identities of the files and folders at the time of the confirmation, by path. A target that
+    /// differs when the job begins is not touched. A path without an identity is accepted as found.
     QHash<QString, TargetIdentity> targetIdentities() const { return m_targetIdentities; }
     void setTargetIdentities(const QHash<QString, TargetIdentity> &identities)
     {
         m_targetIdentities = identities;
     }
-    /// Whether the user has named them one by one; not when a Recycle Bin is emptied. What a link leads to is
-    /// missed only where the link was named.
+    /// Whether the user named the targets one by one; false when a Recycle Bin is emptied. The destination of
+    /// a link counts as missed only when the link was named.
     bool targetsAreNamed() const { return m_targetsAreNamed; }
     void setTargetsAreNamed(bool named) { m_targetsAreNamed = named; }
 
-    /// What is known before the job of what it leaves out; noted whenever it begins.
+    /// Shortfalls that are known before the job; they are noted at every start.
     QList<Shortfall> omissions() const { return m_omissions; }
     void setOmissions(const QList<Shortfall> &omissions) { m_omissions = omissions; }
 
@@ -78,6 +78,7 @@ public:
     qint32 bufferSizeMB() const { return m_bufferSizeMB; }
     void setBufferSizeMB(qint32 size) { m_bufferSizeMB = size; }
 
+    /// Whether passes that ask for verification are read back.
     bool verifyAfterWipe() const { return m_verifyAfterWipe; }
     void setVerifyAfterWipe(bool verify) { m_verifyAfterWipe = verify; }
 
@@ -91,8 +92,8 @@ public:
     /// A copy of the report as it is now.
     WipeReport report() const;
     void setReport(const WipeReport &report);
-    /// Runs `change(WipeReport &)` on the report and returns what it returns, by value. The report is locked
-    /// meanwhile: `change` must not call report functions of this task.
+    /// Calls `change(WipeReport &)` on the report and returns its result by value. The report is locked
+    /// meanwhile, so `change` must not call report functions of this task.
     template <typename Change>
     auto updateReport(Change change)
     {
@@ -100,22 +101,22 @@ public:
         return change(m_report);
     }
 
-    /// How the job went, with what it fell short of so far; failed as long as it has not ended.
+    /// The outcome of the job with the shortfalls so far; failed until the job has ended.
     OutcomeRecord outcome() const;
-    /// To be called where it happens, by workers.
+    /// Called by workers as soon as the shortfall is known.
     void noteShortfall(const Shortfall &shortfall);
-    /// Bytes that the medium has taken. To be called where they are written, on any thread.
+    /// Adds bytes written to the medium. Called at each write, on any thread.
     void noteWritten(qint64 bytes);
     qint64 written() const; ///< 0 before the job
-    /// A volume that the job begins to work on.
+    /// Records a volume when the job begins to work on it.
     void noteVolume(const QString &volume);
-    /// The end of the job; complete becomes partial where that was noted.
+    /// Sets the outcome at the end of the job; complete becomes partial when the shortfalls require it.
     void setOutcome(JobOutcome outcome);
-    /// Forgets what an earlier run has left, the omissions excepted.
+    /// Clears the results of an earlier run, except the omissions.
     void clearOutcome();
 
-    /// The volumes that a disk job has left dismounted, by name: whatever became of the job, nothing mounts
-    /// them again. Set by its worker at the end.
+    /// The names of the volumes that a disk job has left dismounted; the program never mounts them again. Set
+    /// by the worker at its end.
     QStringList dismountedVolumes() const;
     void setDismountedVolumes(const QStringList &volumes);
 
@@ -142,7 +143,7 @@ private:
     mutable QMutex m_reportMutex;
     WipeReport m_report;
     QStringList m_dismountedVolumes;
-    mutable QMutex m_outcomeMutex; // of its own, so that a change of the report may note something
+    mutable QMutex m_outcomeMutex; ///< separate, so that a change of the report can note a shortfall
     OutcomeRecord m_outcome;
     QString m_id;
 };

@@ -95,7 +95,7 @@ QStringList PaperWords::problems() const
         if (!sheet.contains(words[i].box))
             all.append(u"off the paper: "_s + words[i].text);
         for (qsizetype j = i + 1; j < words.size(); ++j) {
-            // Boxes are as high as the tallest letter of the font would be: those of two lines may touch.
+            // Boxes have the height of the font's tallest letter, so the boxes of two lines may touch.
             const QRectF common = words[i].box & words[j].box;
             if (common.width() > 0.5 &&
                 common.height() > 0.25 * std::min(words[i].box.height(), words[j].box.height()))

@@ -6,7 +6,8 @@
 #include <QString>
 #include <QStringList>
 
-// A page as poppler's programs, which are not ours, see it. Points, from the upper left corner of the paper.
+// A page as read by poppler's independent programs. Positions are points from the upper left corner of the
+// paper.
 struct PaperWords
 {
     struct Word
@@ -17,18 +18,18 @@ struct PaperWords
 
     QSizeF paper;
     int pages = 0;
-    QList<Word> words; // only those on the paper: poppler passes over the others
+    QList<Word> words; // only words on the paper; poppler leaves out the others
 
     static bool isPossible();
     static PaperWords of(const QString &pdf);
-    // How far to the right something can be seen within the box.
+    // The rightmost visible position within the box.
     static double visibleEnd(const QString &pdf, const QRectF &box);
 
-    // All characters but blanks, in the order of their numbers: how a text falls into words is not ours.
+    // All characters but blanks, sorted, because the division of a text into words depends on the reader.
     QString characters() const;
-    // Of the first word that has that text.
+    // The box of the first word with that text.
     QRectF boxOf(const QString &text) const;
-    // What lies outside the paper or over something else.
+    // Words outside the paper, or over other words.
     QStringList problems() const;
 };
 

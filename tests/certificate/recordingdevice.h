@@ -12,7 +12,7 @@
 #include <QRectF>
 #include <QString>
 
-// One thing that was painted, in device pixels.
+// One painted element, in device pixels.
 struct Painted
 {
     enum Kind { Text, Line, Ellipse, Path, Other };
@@ -21,7 +21,7 @@ struct Painted
     QString text;
     QFont font;
     QPointF position; // of a text: the left end of its base line
-    QRectF clip;      // of a text; null when nothing cuts it
+    QRectF clip;      // of a text; null without clipping
     QLineF line;
     QRectF bounds;     // of an ellipse
     QPainterPath path; // of any other shape
@@ -57,7 +57,7 @@ private:
     Painted &add(Painted::Kind kind);
 };
 
-// Paper that remembers what was painted on it, and how.
+// Paper that records each painted element and its attributes.
 class RecordingDevice : public QPaintDevice
 {
 public:

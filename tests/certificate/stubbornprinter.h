@@ -4,7 +4,7 @@
 #include <QPrinter>
 #include <QVariant>
 
-// A printer that prints into a PDF file, and whose driver keeps its own resolution, whatever it is told.
+// A printer that prints into a PDF file, and whose driver always keeps its own resolution.
 class StubbornPrinter : public QPrinter
 {
 public:
@@ -37,7 +37,7 @@ private:
         QPrinter::PrinterState printerState() const override { return engine()->printerState(); }
 
     private:
-        // Another one after each change of the format.
+        // The engine changes with each change of the format.
         QPrintEngine *engine() const { return m_printer.printEngine(); }
 
         const QPrinter &m_printer;

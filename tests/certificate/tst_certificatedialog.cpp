@@ -39,7 +39,7 @@ constexpr auto plain = "color: #1e293b; font-size: 13px;";
 constexpr auto green = "color: #22c55e; font-weight: bold;";
 constexpr auto red = "color: #ef4444; font-weight: bold;";
 
-// A row as it is shown, or a section's title, which has neither value nor style.
+// A displayed row, or a section title, which has neither value nor style.
 struct Shown
 {
     QString label;
@@ -174,7 +174,7 @@ void tst_CertificateDialog::windowIsAsTallAsItMustBe()
     QVERIFY(dialog.findChild<QScrollArea *>()->widgetResizable());
 }
 
-// The offscreen platform's screen is 800 pixels high, less than the window is at first.
+// The screen of the offscreen platform is 800 pixels high, lower than the initial window.
 void tst_CertificateDialog::windowFitsALowScreen()
 {
     CertificateDialog dialog(filledReport());
@@ -375,7 +375,7 @@ void tst_CertificateDialog::layoutsHaveTheGivenMargins()
     QVERIFY(grids[2]->verticalSpacing() != 12);
 }
 
-// After the style was applied, which asks for other widths, also once more.
+// The width holds after the style sheet, which sets other widths, is applied, even twice.
 void tst_CertificateDialog::rowLabelsAre130PixelsWide()
 {
     CertificateDialog dialog(filledReport());
@@ -389,7 +389,7 @@ void tst_CertificateDialog::rowLabelsAre130PixelsWide()
         for (const QLabel *value : dialog.findChildren<QLabel *>(u"valueLabel"_s)) {
             const QLabel *label = value->parentWidget()->findChildren<QLabel *>().constFirst();
             QCOMPARE(label->width(), 130);
-            // One column of values; the first body's padding makes it another one there.
+            // All values start in one column; in the first body the padding shifts it.
             if (rows == 7)
                 left = -1;
             const int at = value->mapTo(&dialog, QPoint()).x();
@@ -470,7 +470,7 @@ void tst_CertificateDialog::textsAreTranslated()
                                 u"📄 Export PDF"_s,
                                 u"🖨️ Print"_s,
                                 u"Close"_s})
-        // What stands before the colon of a row, and the two together, which is the language's affair too.
+        // A row's label is translated without its colon, and then again together with the colon.
         QVERIFY2(shown.contains(mark + text) || shown.contains(mark + mark + text), qPrintable(text));
 }
 
@@ -501,7 +501,7 @@ void tst_CertificateDialog::longValuesFitTheWidth()
     const int line = hash->fontMetrics().height();
     QVERIFY(hash->fontMetrics().horizontalAdvance(report.dataHash) > hash->width());
     QVERIFY(hash->height() >= 2 * line);
-    // A wider window gives the lines back.
+    // A wider window needs fewer lines.
     dialog.resize(2000, 900);
     QTRY_VERIFY_WITH_TIMEOUT(hash->height() < 2 * line, 60000);
 }
@@ -522,7 +522,7 @@ void drag(QWidget *widget, QPoint from, QPoint to)
     QTest::mouseRelease(widget, Qt::LeftButton, Qt::NoModifier, to);
 }
 
-// So many pixels in the colour of what is marked.
+// The number of pixels in the colour of the selection.
 int markedPixels(QWidget *widget)
 {
     const QImage picture = widget->grab().toImage();
@@ -559,7 +559,7 @@ void tst_CertificateDialog::valuesAreMarkedWithTheMouse()
     QCOMPARE(value->markedText(), QString());
     QTest::mouseDClick(value, Qt::LeftButton, Qt::NoModifier, {four, middle});
     QCOMPARE(value->markedText(), u"DoD 5220.22-M"_s);
-    // One value is marked at a time.
+    // Only one value is selected at a time.
     QVERIFY(value->hasFocus());
     selectable(dialog, u"Disk Wipe"_s)->setFocus();
     QCOMPARE(value->markedText(), QString());
@@ -576,7 +576,7 @@ void tst_CertificateDialog::aLongValueIsMarkedAcrossItsLines()
     QVERIFY(hash);
     drag(hash, {1, 2}, {hash->width() - 1, hash->height() - 2});
     QCOMPARE(hash->markedText(), report.dataHash);
-    // From the second line on.
+    // The second line to its end.
     drag(hash, {1, hash->height() - 2}, {hash->width() - 1, hash->height() - 2});
     QVERIFY(!hash->markedText().isEmpty());
     QVERIFY(hash->markedText().size() < 128);
@@ -662,7 +662,7 @@ void tst_CertificateDialog::tabGoesThroughTheButtons()
     dialog.show();
     dialog.activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(&dialog));
-    // The arrows scroll at once.
+    // The arrow keys scroll without a click.
     QCOMPARE(dialog.focusWidget(), dialog.findChild<QScrollArea *>());
     for (const QString &text : {u"📄 Export PDF"_s, u"🖨️ Print"_s, u"Close"_s}) {
         QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
@@ -670,7 +670,7 @@ void tst_CertificateDialog::tabGoesThroughTheButtons()
     }
 }
 
-// It may still be meant for the dialog before.
+// The Enter key may still be meant for the previous dialog.
 void tst_CertificateDialog::enterDoesNothing()
 {
     ScriptedPrompts prompts;

@@ -44,8 +44,8 @@ QStringList entriesOf(const QString &folder)
 }
 
 #ifdef Q_OS_LINUX
-// For files this thread is somebody without rights, for as long as it lives: root is stopped by no
-// permission.
+// Switches the file access of this thread to a user without rights for its lifetime, because root ignores
+// permissions.
 class AsNobody
 {
 public:
@@ -147,7 +147,7 @@ void tst_CertificateFile::readOnlyFolderFails()
     QVERIFY(AsNobody::give(folder.path()));
     const QString path = folder.filePath(u"c.pdf"_s);
     const AsNobody nobody;
-    QVERIFY(exportTo(path)); // the same person may, as long as the folder lets him
+    QVERIFY(exportTo(path)); // the same user can export while the folder allows it
     writeFile(path, previous);
     QVERIFY(QFile::setPermissions(folder.path(), QFile::ReadOwner | QFile::ExeOwner));
     const bool replaced = exportTo(path);
@@ -159,7 +159,7 @@ void tst_CertificateFile::readOnlyFolderFails()
     QCOMPARE(entriesOf(folder.path()), QStringList{u"c.pdf"_s});
 }
 
-// In a process of its own, which can become somebody else for good.
+// Runs in a child process, which can switch to another user for good.
 void tst_CertificateFile::readOnlyFileFails()
 {
     const QTemporaryDir folder;
@@ -179,7 +179,7 @@ void tst_CertificateFile::readOnlyFileFails()
     int status = 0;
     QCOMPARE(::waitpid(child, &status, 0), child);
     QVERIFY(WIFEXITED(status));
-    QCOMPARE(WEXITSTATUS(status), 1); // a new file beside it, and nothing else
+    QCOMPARE(WEXITSTATUS(status), 1); // only the new file beside it was written
     QCOMPARE(contentOf(path), previous);
 }
 
@@ -201,10 +201,10 @@ void tst_CertificateFile::fullDiskKeepsThePreviousFile()
         QCOMPARE(contentOf(path), previous);
         QCOMPARE(entriesOf(folder.path()), QStringList{u"c.pdf"_s});
     }
-    QVERIFY(exportTo(path)); // there was nothing else in the way
+    QVERIFY(exportTo(path)); // control: nothing else prevents the export
 }
 
-// Killed by the kernel in the middle of the write.
+// The kernel kills the program in the middle of the write.
 void tst_CertificateFile::killedProgramKeepsThePreviousFile()
 {
     const QTemporaryDir folder;

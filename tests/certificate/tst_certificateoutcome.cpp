@@ -21,7 +21,7 @@
 
 using namespace Qt::StringLiterals;
 
-// What a certificate says of a job that is not complete.
+// The statements of a certificate about an incomplete job.
 class tst_CertificateOutcome : public QObject
 {
     Q_OBJECT
@@ -62,7 +62,7 @@ QList<Painted> painted(const WipeReport &report, const std::optional<OutcomeReco
     return device.painted();
 }
 
-// Each thing on the page with its place; the time of painting is left out.
+// Each element on the page with its place, without the time of painting.
 QStringList placesOf(const QList<Painted> &page)
 {
     QStringList places;
@@ -107,7 +107,7 @@ QString withoutBlanks(QString text)
 void tst_CertificateOutcome::aCompleteJobLooksAsEver()
 {
     OutcomeRecord complete(JobOutcome::Complete);
-    complete.addWritten(static_cast<qint64>(filledReport().bytesWritten)); // as the report says
+    complete.addWritten(static_cast<qint64>(filledReport().bytesWritten)); // the same figure as in the report
     QCOMPARE(placesOf(painted(filledReport(), complete)), placesOf(painted(filledReport(), {})));
 }
 
@@ -127,7 +127,7 @@ void tst_CertificateOutcome::aLineIsPaintedBehindTheRule_data()
     QTest::newRow("cancelled") << OutcomeRecord(JobOutcome::Cancelled) << 1;
 }
 
-// In letters like those of the status; one line has room, for more of them the rest moves down.
+// The letters are those of the status. One line has room; more lines move the rest down.
 void tst_CertificateOutcome::aLineIsPaintedBehindTheRule()
 {
     QFETCH(OutcomeRecord, outcome);
@@ -137,7 +137,7 @@ void tst_CertificateOutcome::aLineIsPaintedBehindTheRule()
     const auto isRule = [](const Painted &one) { return one.kind == Painted::Line; };
     const auto rule = std::ranges::find_if(page, isRule);
     QVERIFY(rule != page.end());
-    // The lines of the text are what stands behind the rule, in red.
+    // The lines of the text are the red ones behind the rule.
     const qsizetype first = rule - page.begin() + 1;
     qsizetype behind = first;
     while (page.at(behind).kind == Painted::Text && page.at(behind).pen.color() == QColor(u"#ef4444"_s)) {
@@ -180,7 +180,7 @@ void tst_CertificateOutcome::aShortenedLineSaysHowManyMoreAndWhere()
     QVERIFY(shown >= 2 && shown < all);
     QCOMPARE(withoutBlanks(text), withoutBlanks(outcome.summary(shown) + u"(全部内容见本程序历史记录)"_s));
     QVERIFY(text.contains(u"and %1 more"_s.arg(all - shown)));
-    // What is not shortened does not speak of more.
+    // A text that is not shortened does not mention further kinds.
     text.clear();
     for (const Painted &one : painted(filledReport(), partialOutcome())) {
         if (one.pen.color() == QColor(u"#ef4444"_s))
@@ -259,7 +259,7 @@ void tst_CertificateOutcome::whatReachedTheMediumStandsWhereItDiffers()
     QList<Painted> page = painted(report, outcome);
     const auto line = std::ranges::find(page, text, &Painted::text);
     QVERIFY(line != page.end());
-    QVERIFY(line->pen.color() != QColor(u"#ef4444"_s)); // nothing is wrong
+    QVERIFY(line->pen.color() != QColor(u"#ef4444"_s)); // not an error
     page.erase(line);
     QCOMPARE(placesOf(page), placesOf(painted(report, {})));
 
@@ -280,19 +280,19 @@ void tst_CertificateOutcome::whatReachedTheMediumStandsWhereItDiffers()
 void tst_CertificateOutcome::theTrueCountOfFilesStandsBeside()
 {
     WipeReport report = shortReport();
-    report.fileCount = 1482; // of two items
+    report.fileCount = 1482; // although the list has two items
     report.dataHash.clear();
     const OutcomeRecord complete(JobOutcome::Complete);
     QList<Painted> page = painted(report, complete);
     const auto label = std::ranges::find(page, u"文件数量:"_s, &Painted::text);
     QVERIFY(label != page.end());
-    // The value arrives in pieces, as does what stands behind it.
+    // The value is painted in pieces, and so is the correction behind it.
     const qsizetype value = label - page.begin() + 1;
     QString text;
     double end = label->position.x();
     while (page.at(value).position.y() == page.at(value - 1).position.y()) {
         text += page.at(value).text;
-        // Each behind the piece before, in another colour than the value.
+        // Each piece follows the previous one, and the correction has another colour than the value.
         QVERIFY(page.at(value).position.x() > end);
         QCOMPARE(page.at(value).pen.color(), QColor(text.size() > 3 ? u"#64748b"_s : u"#1e293b"_s));
         end = page.at(value).position.x();
@@ -303,7 +303,7 @@ void tst_CertificateOutcome::theTrueCountOfFilesStandsBeside()
     while (given.at(value).position.y() == given.at(value - 1).position.y())
         given.removeAt(value);
     QCOMPARE(placesOf(page), placesOf(given));
-    // Nothing where the report counts the same, or the job was none on files.
+    // No correction when the report counts the same, or when the job has no files.
     report.fileCount = 2;
     QCOMPARE(placesOf(painted(report, complete)), placesOf(painted(report, {})));
     report.operationType = DiskWipe;
@@ -396,7 +396,7 @@ void tst_CertificateOutcome::cutValuesStandBelowOnceMore()
         return std::ranges::find(all, text, &Painted::text)->position.y();
     };
     const double step = yOf(given, u"容量:"_s) - yOf(given, u"序列号:"_s);
-    const double lines = 2 * 8 / 72.0 * Dpi; // of 8 points
+    const double lines = 2 * 8 / 72.0 * Dpi; // two lines of 8 points
     QVERIFY(yOf(page, u"容量:"_s) - yOf(page, u"序列号:"_s) > step + lines);
 }
 

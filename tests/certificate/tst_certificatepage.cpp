@@ -27,12 +27,12 @@ constexpr auto grey = "#64748b";
 constexpr auto green = "#22c55e";
 constexpr auto red = "#ef4444";
 
-// Where an element lies: the left edge and size of its box in millimetres, and how the text stands in it.
+// The place of an element: the left edge and size of its box in millimetres, and the alignment of its text.
 enum Place {
     Disc,      // 30 wide and high, in the middle
     Centred,   // from margin to margin
-    Headline,  // the same, with letters that may reach beyond
-    Heading,   // the same, 7 high, text at the left
+    Headline,  // as Centred, with letters that may extend beyond
+    Heading,   // as Centred, 7 high, text at the left
     Label,     // 35 wide, 6 high
     Value,     // at 35 + 5, 500 pixels wide, 6 high
     WideValue, // at 35 + 5, to the right margin, 6 high
@@ -45,7 +45,7 @@ enum Place {
 
 struct Expected
 {
-    QList<int> down; // millimetres since the element before, each step for itself
+    QList<int> down; // millimetres from the previous element, each step rounded separately
     Place place;
     QString text;
     int size;
@@ -132,7 +132,7 @@ QList<Expected> diskPage(const QString &now)
            operatorRows({7, 5}) + bottom(7);
 }
 
-// Two items and a count of 7: the page tells the items.
+// Two items and a count of 7; the page shows the number of items.
 WipeReport fileReport()
 {
     WipeReport report = filledReport();
@@ -170,7 +170,7 @@ struct Paper
     int dpi;
 };
 
-// Paints the report, and tells the second in which that happened.
+// Paints the report within one second and returns that second.
 QList<Painted> paintedPage(const WipeReport &report, const Paper &paper, QString *second)
 {
     while (true) {
@@ -210,7 +210,7 @@ bool isClose(const QRectF &a, const QRectF &b)
     return isClose(a.topLeft(), b.topLeft()) && isClose(a.bottomRight(), b.bottomRight());
 }
 
-// Goes through what was painted beside what was to be, from the top of the page to its bottom.
+// Compares the painted elements with the expected ones, from the top of the page to its bottom.
 class Comparison
 {
 public:
@@ -222,7 +222,7 @@ public:
         , m_y(m_left)
     {}
 
-    // Empty when everything is there, in order and in its place, and nothing else.
+    // Empty when the page shows exactly the expected elements, in order and in their places.
     QString difference(const QList<Expected> &page)
     {
         for (const Expected &element : page) {
@@ -339,8 +339,8 @@ private:
         return {};
     }
 
-    // A text arrives in pieces, by script and line. The same text in the expected box, in the font that was
-    // used, falls into the same pieces.
+    // A text is painted in pieces, by script and line. The same text in the expected box and the used font
+    // splits into the same pieces.
     QString compareText(const Expected &element)
     {
         if (m_next >= m_painted.size() || m_painted[m_next].kind != Painted::Text)
@@ -440,7 +440,7 @@ void tst_CertificatePage::everythingLiesInItsPlace()
     QVERIFY2(fileProblem.isEmpty(), qPrintable(fileProblem));
 }
 
-// The table is only worth something if a shifted element fails.
+// Shows that the comparison detects a shifted element.
 void tst_CertificatePage::comparisonSeesEachDifference()
 {
     const Paper paper{2480, 3508, 300};
@@ -482,7 +482,7 @@ void tst_CertificatePage::longValuesAreCutAfter500Pixels()
     for (const Painted &one : paintedPage(report, paper, &second)) {
         if (one.kind != Painted::Text || one.text != report.disk.model)
             continue;
-        // Three lengths, each a part of a pixel short.
+        // Three lengths, each rounded down by less than a pixel.
         QVERIFY(std::abs(one.clip.left() - dpi * 60 / 25.4) <= 3);
         QCOMPARE(one.clip.width(), 500.0);
         return;
@@ -664,7 +664,7 @@ void tst_CertificatePage::everyLanguageHasItsCharacters()
         layout.createLine();
         layout.endLayout();
         for (const QGlyphRun &run : layout.glyphRuns()) {
-            // The first glyph of a font is the box.
+            // The first glyph of a font is the box for missing characters.
             QVERIFY2(!run.glyphIndexes().contains(0), qPrintable(run.rawFont().familyName()));
         }
         break;

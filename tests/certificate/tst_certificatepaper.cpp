@@ -24,7 +24,7 @@
 
 using namespace Qt::StringLiterals;
 
-// The certificate as it lies on a table: the file and what printers make of it, seen by a program of others.
+// The certificate on paper: the PDF file and the output of printers, read by an independent program.
 class tst_CertificatePaper : public QObject
 {
     Q_OBJECT
@@ -55,7 +55,7 @@ namespace {
 constexpr auto noPoppler =
     "SKIPPED: poppler-utils (pdftotext, pdftoppm) is not installed; nobody looks at the paper";
 
-// A hash of the length it has.
+// A filled report with a hash of realistic length.
 WipeReport reportOf(OperationType operation, WipeMethod::Type method)
 {
     WipeReport report = filledReport();
@@ -160,7 +160,7 @@ QString charactersOf(const QList<Painted> &page)
     return sortedCharacters(all);
 }
 
-// What a printer's own file calls the characters of Chinese fonts is not up to us: they are counted.
+// A printer's own file may name the characters of Chinese fonts differently, so they are only counted.
 QString withoutNames(QString characters)
 {
     constexpr char16_t firstRadical = 0x2e80;
@@ -171,13 +171,13 @@ QString withoutNames(QString characters)
     return sortedCharacters(characters);
 }
 
-// Empty when all of it, and nothing else, lies on one sheet, nothing over something else.
+// Empty when the whole text, and nothing else, lies on one sheet without overlaps.
 QString problemOf(const WipeReport &report, const std::optional<OutcomeRecord> &outcome, Way way,
                   const QString &path)
 {
     PaperWords page;
     QString expected;
-    // The page tells the second of its painting.
+    // The page shows the second of its painting.
     for (QString second; second != displayTime(QDateTime::currentDateTime());) {
         second = displayTime(QDateTime::currentDateTime());
         if (!way(report, outcome, path))
@@ -199,7 +199,7 @@ QString problemOf(const WipeReport &report, const std::optional<OutcomeRecord> &
     return page.problems().join(u'\n');
 }
 
-// How much smaller the page is: from one row to the next there are 7 mm, which are 82 dots.
+// The scale of the page. The distance between two rows is 7 mm, which are 82 dots.
 double fitOf(const PaperWords &page)
 {
     const double rows = page.boxOf(u"耗时:"_s).top() - page.boxOf(u"操作类型:"_s).top();
@@ -288,7 +288,7 @@ void tst_CertificatePaper::nothingButLongValuesIsCut_data()
     everyLanguageLiesOnThePaper_data();
 }
 
-// A reader program finds the whole text also where the paper shows half of it.
+// A reader program finds the whole text, even where the paper shows only half of it.
 void tst_CertificatePaper::nothingButLongValuesIsCut()
 {
     QFETCH(QString, code);
@@ -318,12 +318,12 @@ void tst_CertificatePaper::aLongPageIsSmallerAndInTheMiddle()
     const double fit = fitOf(page);
     QVERIFY2(fit > 0.7 && fit < 0.75, qPrintable(QString::number(fit)));
     QVERIFY(std::abs(page.boxOf(u"QV"_s).center().x() - page.paper.width() / 2) < 0.5);
-    // The rows begin where the smaller page has its left margin.
+    // The rows begin at the left margin of the scaled page.
     const double content = (page.paper.width() - 2 * (10 + 20 / 25.4 * 72)) * fit;
     const double left = (page.paper.width() - content) / 2;
     const double found = page.boxOf(u"擦除标准:"_s).left();
     QVERIFY2(std::abs(found - left) < 1, qPrintable(u"%1, %2"_s.arg(found).arg(left)));
-    // The logo is at the upper end, and the footer at the lower.
+    // The logo is at the top and the footer at the bottom.
     const double margin = (10 + 20 / 25.4 * 72) * fit;
     QVERIFY(page.boxOf(u"QV"_s).top() < margin + 30 / 25.4 * 72 * fit);
     const double below = page.paper.height() - page.boxOf(u"v2.1.0"_s).bottom();
@@ -395,7 +395,7 @@ void tst_CertificatePaper::everyPrinterShowsWhatTheFileShows()
             QVERIFY2(std::abs(apart.x()) < 1.5 && std::abs(apart.y()) < 1.5,
                      qPrintable(u"%1 %2, %3"_s.arg(file.words[i].text).arg(apart.x()).arg(apart.y())));
         }
-        // Where the paper ends a long value, of which the words know all.
+        // The visible end of a long value on paper, while the file contains all of it.
         const double wide = 500.0 / 300 * 72 * fitOf(file);
         const QRectF hash = file.boxOf(report.dataHash);
         const double seen = PaperWords::visibleEnd(pathFor(u"file.pdf"_s), hash);

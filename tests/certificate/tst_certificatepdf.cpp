@@ -226,7 +226,7 @@ void tst_CertificatePdf::popplerFindsEveryValue()
     QVERIFY2(withoutBlanks(popplerText()).contains(withoutBlanks(sample)), qPrintable(popplerText()));
 }
 
-// The file was amended after it was written: another program's reading of its tables counts.
+// The file is amended after it was written, so an independent program has to read its tables.
 void tst_CertificatePdf::popplerHasNothingToComplainAbout()
 {
     if (QStandardPaths::findExecutable(u"pdffonts"_s).isEmpty())

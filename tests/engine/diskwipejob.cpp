@@ -8,7 +8,7 @@
 
 QByteArray markedMedium(qint64 size)
 {
-    static QByteArray bytes; // made once: most tests want a few MiB
+    static QByteArray bytes; // created once, since most tests need a few MiB
     while (bytes.size() < size)
         bytes += QByteArrayLiteral("MARK") + QByteArray::number(bytes.size() / 16).rightJustified(12, '.');
     return bytes.first(size);
@@ -54,7 +54,7 @@ bool DiskWipeJob::run(platform::Devices &devices)
 
 void DiskWipeJob::listen()
 {
-    // Direct: the worker may run on a thread of its own, which the test then waits for.
+    // Direct, because the worker may run on its own thread, for which the test waits.
     const auto direct = Qt::DirectConnection;
     connect(
         &worker, &BaseWipeWorker::logMessage, this,

@@ -12,12 +12,12 @@
 #include <QString>
 #include <QStringList>
 
-// Bytes that are on a drive before its wipe: no stretch of a sector is constant, and every sector differs.
+// The content of a drive before its wipe. No stretch of a sector is constant, and every sector differs.
 QByteArray markedMedium(qint64 size);
 
 MemoryDrive markedDrive(int number, qint64 size, qint32 sectorSize = 512);
 
-// One run of the worker over devices, and everything it said. process() runs on the caller's thread.
+// One run of the worker over devices, with all its signals. process() runs on the caller's thread.
 class DiskWipeJob : public QObject
 {
 public:
@@ -26,7 +26,7 @@ public:
     void setPasses(const QList<PassPattern> &passes);
     void chooseDrive(const MemoryDrive &drive);
 
-    // False also when finished() did not come exactly once and last.
+    // Returns false also when finished() did not come exactly once and last.
     bool run(platform::Devices &devices);
 
     bool endedProperly() const { return finished.size() == 1 && events.last().startsWith(u"finished"); }

@@ -8,11 +8,11 @@
 #include <QByteArray>
 #include <QString>
 
-// The jobs of these suites: chunks of 1 MiB, so that positions tell something.
+// Jobs of the fault suites. Chunks of 1 MiB make the logged positions exact.
 namespace faultjob {
 
 inline constexpr qint64 MiB = 1024 * 1024;
-inline constexpr char Old = 'o'; // what the drives hold before
+inline constexpr char Old = 'o'; // content of the drives before the job
 
 void setUpDisk(WipeTask &task, const FaultyDrive &drive, WipeMethod::Type method);
 

@@ -15,12 +15,12 @@
 
 #include <memory>
 
-// A file job in a folder of its own, on the machine's own files, every call of which is observed. Everything
-// that the job is to leave alone may stand in the same folder: only targets are wiped.
+// A file job in its own folder, on real files, with every call recorded. The folder may also hold files that
+// the job must leave alone, because only targets are wiped.
 class FileJob
 {
 public:
-    // Other files or folders than the machine's own; they outlive the job.
+    // Other files or folders than those of the platform; they outlive the job.
     explicit FileJob(platform::Files &below = platform::Platform::current().files(),
                      platform::Folders &folders = platform::Platform::current().folders());
 
@@ -30,17 +30,17 @@ public:
 
     QString path(const QString &name) const { return m_folder.filePath(name); }
 
-    // Both make what is missing above, and answer the path.
+    // Both create missing parent folders and return the path.
     QString makeFolder(const QString &name);
     QString makeFile(const QString &name, const QByteArray &content);
     QString makeFile(const QString &name, qsizetype size) { return makeFile(name, QByteArray(size, 'M')); }
 
     void setPasses(const QList<PassPattern> &passes);
 
-    // The worker is made at first use, with the task as it is then.
+    // Created at first use, with the task as it is then.
     FileWipeWorker &worker();
     bool run(const QStringList &targets);
-    // As the interface stops a job: from a thread that is not the worker's.
+    // Stops the job like the user interface, from another thread than the worker's.
     void stop();
 
     QStringList lines() const { return said.lines(); }
@@ -52,7 +52,7 @@ private:
     std::unique_ptr<FileWipeWorker> m_worker;
 };
 
-// What the worker says, with its level as WorkerRecord puts it.
+// The log lines of the worker, with the level in front as in WorkerRecord.
 namespace said {
 
 inline const QString scanning = QStringLiteral("0 正在扫描目标文件...");

@@ -16,7 +16,7 @@
 #include <memory>
 #include <utility>
 
-// A machine of memory volumes for free-space jobs, and what a job told.
+// A machine of memory volumes for free-space jobs, and the records of a job.
 
 namespace freespace {
 
@@ -25,7 +25,7 @@ inline constexpr qint64 MiB = 1024 * KiB;
 inline constexpr qint64 GiB = 1024 * MiB;
 inline constexpr qint64 Reserve = 100 * MiB;
 
-// Knows every volume that it is asked about by name, unless told otherwise.
+// Knows every volume by name, unless set otherwise.
 class NamedDevices : public FakeDevices
 {
 public:
@@ -34,7 +34,7 @@ public:
     platform::Result<std::unique_ptr<platform::DeviceQuery>> queryVolume(const QString &name) override;
 };
 
-// In force as long as it lives.
+// Installed for its lifetime.
 struct Machine
 {
     MemoryVolume volume;
@@ -52,10 +52,10 @@ struct LogLine
     bool operator==(const LogLine &) const = default;
 };
 
-// Folder names are random; in what is compared they all end in the same digits.
+// Folder names are random; for comparisons they all get the same digits.
 QString withoutRandom(QString text);
 
-// Opens what only tests need: pausing, which nothing offers yet, and shorter waits.
+// Makes pausing and shorter waits accessible.
 class TestedWorker : public FreeSpaceWipeWorker
 {
 public:
@@ -65,7 +65,7 @@ public:
     void setReleasePatience(std::chrono::milliseconds patience) { m_releasePatience = patience; }
 };
 
-// A task, its worker and everything that the worker signals.
+// A task, its worker and all signals of the worker.
 class Job : public QObject
 {
 public:
@@ -87,7 +87,7 @@ public:
     void setPasses(const QList<PassPattern> &list);
 
     void run() { worker.process(); }
-    // As the interface stops a job: from a thread that is not the worker's.
+    // Stops the job like the user interface, from another thread than the worker's.
     void stopFromElsewhere();
 
     bool succeeded() const { return finished == QList<bool>{true} && !signalledAfterTheEnd; }
@@ -97,7 +97,7 @@ public:
     quint64 wipedSectors() const { return task.report().wipedSectors; }
 };
 
-// Files with the names of fill files, wherever they are.
+// All files with names of fill files, in any folder.
 QStringList fillFiles(const MemoryVolume &volume);
 
 QStringList withoutRandom(const QStringList &texts);
@@ -106,7 +106,7 @@ QList<MemoryVolume::Closed> closedFillFiles(const MemoryVolume &volume);
 
 QList<MemoryVolume::Write> fillWrites(const MemoryVolume &volume);
 
-// So that a comparison that fails shows both logs line by line.
+// Prints both logs line by line when a comparison fails.
 char *toString(const LogLine &line);
 
 bool compareLogs(const QList<LogLine> &actual, const QList<LogLine> &expected);

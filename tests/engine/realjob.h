@@ -7,7 +7,7 @@
 #include <QString>
 #include <QStringList>
 
-// A job on the machine's own platform, run by the engine to its end.
+// A job on the real platform, run by the engine to its end.
 struct RealJob
 {
     bool success = false;
@@ -20,5 +20,5 @@ struct RealJob
 
 RealJob runRealJob(WipeTask &task, int patienceMs = 120000);
 
-// The drive behind a node, as enumeration shows it; a default record when there is none.
+// The record of the drive behind a device node; a default record without a drive.
 DiskInfo diskAt(const QString &node);

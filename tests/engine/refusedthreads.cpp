@@ -1,6 +1,6 @@
 #include "refusedthreads.h"
 
-// A sanitizer starts threads through the same function, in its own way.
+// A sanitizer wraps the same function to start threads.
 #if defined(Q_OS_LINUX) && !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
 
 #include <dlfcn.h>
@@ -18,7 +18,7 @@ bool RefusedThreads::isPossible()
 
 namespace {
 
-// What a late thread does, once it does something.
+// The body of a thread that starts late.
 struct LateThread
 {
     void *(*body)(void *);
@@ -34,7 +34,7 @@ struct LateThread
 
 } // namespace
 
-// In the place of the system's, for every library of this process.
+// Replaces the system's function for every library of this process.
 extern "C" int pthread_create(pthread_t *thread, const pthread_attr_t *attributes, void *(*body)(void *),
                               void *argument) noexcept
 {

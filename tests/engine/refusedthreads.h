@@ -5,7 +5,7 @@
 #include <atomic>
 #include <limits>
 
-// While one lives, the system refuses this process the threads that it asks for.
+// While an object lives, the system refuses new threads to this process.
 class RefusedThreads
 {
 public:
@@ -24,10 +24,10 @@ public:
 
     int count() const { return s_refused; }
 
-    // For that many milliseconds threads do nothing after their start. Until set to 0.
+    // Threads wait this many milliseconds after their start. 0: no wait.
     static inline std::atomic<int> lateByMs{0};
 
-    // Whether the thread that is asked for now is one of them.
+    // Whether to refuse the thread that is requested now.
     static bool refuseNext()
     {
         if (s_left <= 0)

@@ -26,7 +26,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-// Opens to the tests what is there for subclasses.
+// Makes protected members accessible.
 class OpenWorker : public BaseWipeWorker
 {
 public:
@@ -62,8 +62,8 @@ std::byte *bytes(QByteArray &data)
     return reinterpret_cast<std::byte *>(data.data());
 }
 
-// A wait on another thread. One that never ends is left to itself, with its worker, so that the test fails
-// and does not hang.
+// A wait on another thread. A wait that never ends is abandoned with its worker, so that the test fails and
+// does not hang.
 class Waiting
 {
 public:
@@ -78,7 +78,7 @@ public:
     {
         return m_wentOn.wait_for(patience) == std::future_status::ready;
     }
-    // Once it is over.
+    // Requires that the wait is over.
     bool wentOn() { return m_wentOn.get(); }
 
 private:
@@ -90,7 +90,7 @@ bool pauseOf(OpenWorker &worker)
     return worker.checkPauseStop();
 }
 
-constexpr auto Patience = 60s; // in vain only
+constexpr auto Patience = 60s; // reached only by failures
 
 constexpr PassPattern patternOf(PatternType type, quint8 value = 0)
 {
@@ -198,7 +198,7 @@ void tst_BaseWipeWorker::aPausedWorkerWaitsUntilItIsStopped()
     const auto worker = std::make_shared<OpenWorker>();
     worker->m_paused = true;
     Waiting pause(worker, pauseOf);
-    // Nothing may wake it by itself; an early return shows here most of the time, never a late one.
+    // Nothing else may wake the wait. An early return mostly fails here, a correct one never does.
     QVERIFY(!pause.isOver(30ms));
     worker->stop();
     QVERIFY(pause.isOver(Patience));
@@ -207,7 +207,7 @@ void tst_BaseWipeWorker::aPausedWorkerWaitsUntilItIsStopped()
 
 void tst_BaseWipeWorker::aStopBeforeThePauseIsNotMissed()
 {
-    // The stop comes at any moment between the waiter's look at the flag and its wait.
+    // The stop may come at any moment between the waiter's look at the flag and its wait.
     for (int round = 0; round < 500; ++round) {
         const auto worker = std::make_shared<OpenWorker>();
         worker->m_paused = true;
@@ -258,7 +258,7 @@ void tst_BaseWipeWorker::fillsTheBuffer()
     QFETCH(int, value);
     QFETCH(QByteArray, expected);
     OpenWorker worker;
-    // One byte more than is filled on both sides.
+    // The buffer has one byte more than the fill on both sides.
     QByteArray buffer(15, '\x5A');
     worker.fillBuffer(bytes(buffer) + 1, 13,
                       patternOf(static_cast<PatternType>(type), static_cast<quint8>(value)));
@@ -423,7 +423,7 @@ void tst_BaseWipeWorker::bytesCountTheEarlierPasses()
 }
 
 namespace {
-// A worker in the only pass of its job, whose time goes on when told to, and the speeds it reports.
+// A worker in the only pass of its job, with a clock that the test sets, and the speeds it reports.
 class TimedWorker : public OpenWorker
 {
 public:
@@ -434,7 +434,7 @@ public:
         m_totalPasses = 1;
         setClock([this] { return m_now; });
     }
-    // The speed that progress after so long reports, -1 for none.
+    // The reported speed for progress after the given time, -1 for none.
     double speedAt(qint64 done, std::chrono::milliseconds later)
     {
         m_now += later;
@@ -455,7 +455,7 @@ void tst_BaseWipeWorker::speedIsSampledEveryHalfSecond()
     worker.m_bytesBeforePass = 500;
     QCOMPARE(worker.speedAt(1, 0ms), -1.0);
     QCOMPARE(worker.speedAt(1'000, 499ms), -1.0);
-    QCOMPARE(worker.speedAt(1'500, 1ms), 2'000 / 0.5); // since the beginning, with the earlier passes
+    QCOMPARE(worker.speedAt(1'500, 1ms), 2'000 / 0.5); // since the start, including earlier passes
     QCOMPARE(worker.speedAt(9'000, 499ms), -1.0);
     QCOMPARE(worker.speedAt(9'500, 301ms), 8'000 / 0.8); // since the last sample
 }
@@ -464,7 +464,7 @@ void tst_BaseWipeWorker::aSampleWithoutNewBytesOnlyRestartsTheTimer()
 {
     TimedWorker worker;
     QCOMPARE(worker.speedAt(0, 510ms), -1.0);
-    // Had the timer not been restarted, this would be a sample.
+    // Without a restart of the timer this would be a sample.
     QCOMPARE(worker.speedAt(10, 499ms), -1.0);
     QCOMPARE(worker.speedAt(10, 1ms), 20.0);
 }
@@ -489,7 +489,7 @@ void tst_BaseWipeWorker::speedIsOfTheSystemsTimeUnlessSet()
     worker.updateProgress(2'000, 10'000);
     const qint64 longest = timer.elapsed() + 1;
     QCOMPARE(speeds.size(), 1);
-    // In at least the time waited.
+    // The real time is at least the time waited, so the speed has an upper bound.
     const double speed = speeds[0][0].toDouble();
     QVERIFY2(speed <= 2'000 * 1000.0 / 500, qPrintable(QString::number(speed)));
     QVERIFY2(speed >= 2'000 * 1000.0 / static_cast<double>(longest), qPrintable(QString::number(speed)));

@@ -19,7 +19,7 @@ namespace {
 
 const QByteArray Stranger = QByteArrayLiteral("somebody else's");
 
-// Of a file system whose numbers say nothing.
+// A handle of a file system without lasting file numbers.
 class NumberlessHandle : public platform::ForwardingFileHandle
 {
 public:
@@ -27,7 +27,7 @@ public:
     platform::Result<platform::FileId> id() override { return Status{platform::NotSupported, 0, "planned"}; }
 };
 
-// Two passes over two files, the first of which is changed by somebody else on the way.
+// Two passes over two files; another program changes the first file in between.
 struct Scenario
 {
     FileJob job;
@@ -36,7 +36,7 @@ struct Scenario
 
     Scenario() { job.setPasses({{PatternType::Zeros}, {PatternType::Ones}}); }
 
-    // As the editor does that writes a file anew: another file under the same name.
+    // Replaces the file like an editor that saves to a new file under the same name.
     void replace()
     {
         writeFile(job.path(u"new"_s), Stranger);
@@ -50,7 +50,7 @@ struct Scenario
                 change();
         };
     }
-    // On a file system whose numbers say nothing.
+    // Simulates a file system without lasting file numbers.
     void forgetNumbers()
     {
         job.files.wrap = [](std::unique_ptr<platform::FileHandle> handle, const FileCall &) {
@@ -60,7 +60,7 @@ struct Scenario
     }
     bool run() { return job.run({changed, kept}); }
     QList<Shortfall> shortfalls() const { return job.task.outcome().shortfalls(); }
-    // What took the place was left alone, the other file was not.
+    // The replacing file was left alone, the other file was erased.
     bool isLeftAlone() const { return contentIfAny(changed) == Stranger && !QFile::exists(kept); }
     bool isSaid() const { return job.lines().contains(u"1 文件已被替换，保持原样: "_s + changed); }
 };
@@ -79,7 +79,7 @@ void addNumberRows()
 
 } // namespace
 
-// What others do to the files of a job while it runs.
+// Changes that other programs make to the files of a running job.
 class tst_ChangedFiles : public QObject
 {
     Q_OBJECT
@@ -123,7 +123,7 @@ void tst_ChangedFiles::unchangedFiles()
     s.job.makeFile(u"t/empty"_s, QByteArray());
     QVERIFY(s.job.run({s.job.path(u"t"_s), s.kept}));
     QVERIFY(s.shortfalls().isEmpty());
-    QCOMPARE(s.job.task.outcome().outcome(), JobOutcome::Failed); // nobody has decided yet
+    QCOMPARE(s.job.task.outcome().outcome(), JobOutcome::Failed); // the engine has not set the outcome yet
 }
 
 void tst_ChangedFiles::vanishedAfterTheLastPass()
@@ -147,7 +147,7 @@ void tst_ChangedFiles::anEmptyFileThatVanished()
     QCOMPARE(job.task.outcome().shortfalls(), (QList<Shortfall>{{ShortfallKind::EntryVanished, file}}));
 }
 
-// One file, and it is gone under both.
+// Both spellings name one file, and it is deleted.
 void tst_ChangedFiles::twoSpellingsOfOnePath()
 {
 #ifdef Q_OS_WIN
@@ -165,7 +165,7 @@ void tst_ChangedFiles::twoSpellingsOfOnePath()
 void tst_ChangedFiles::replacedWhen_data()
 {
     QTest::addColumn<QString>("line");
-    QTest::addColumn<int>("writes"); // to both files
+    QTest::addColumn<int>("writes"); // number of writes, over both files
     QTest::newRow("before the first pass") << said::preparing(2, u"20 B"_s) << 2;
     QTest::newRow("between the passes") << said::pass(2, 2) << 3;
     QTest::newRow("before it is removed") << said::deleting << 4;
@@ -206,7 +206,7 @@ void tst_ChangedFiles::replacedBetweenTheLookAndTheOpening()
     QCOMPARE(s.shortfalls(), (QList<Shortfall>{{ShortfallKind::EntryReplaced, s.changed}}));
 }
 
-// Some file systems give the number of a deleted file to the next one.
+// Some file systems give the number of a deleted file to the next new one.
 void tst_ChangedFiles::madeAnewUnderItsNumber()
 {
 #ifdef Q_OS_WIN
@@ -214,7 +214,7 @@ void tst_ChangedFiles::madeAnewUnderItsNumber()
 #endif
     Scenario s;
     s.at(said::pass(2, 2), [&] {
-        QTest::qSleep(50); // births are some milliseconds coarse
+        QTest::qSleep(50); // birth times have a resolution of some milliseconds
         QFile::remove(s.changed);
         writeFile(s.changed, Stranger);
     });
@@ -240,7 +240,7 @@ void tst_ChangedFiles::replacedByALink()
     QVERIFY(s.run());
     if (!isMade)
         QSKIP("SKIPPED: no symbolic links here");
-    QVERIFY(s.isLeftAlone()); // through the link
+    QVERIFY(s.isLeftAlone()); // the content is read through the link
     QCOMPARE(s.shortfalls(), (QList<Shortfall>{{ShortfallKind::EntryReplaced, s.changed}}));
 }
 
@@ -288,7 +288,7 @@ void tst_ChangedFiles::aLinkThatBecameAFile()
     QCOMPARE(s.shortfalls(), (QList<Shortfall>{{ShortfallKind::EntryReplaced, link}}));
 }
 
-// Another number is no other file there.
+// A changed number does not mean another file here.
 void tst_ChangedFiles::withoutLastingNumbers()
 {
     Scenario s;
@@ -320,8 +320,7 @@ void tst_ChangedFiles::grewAfterTheLastPass()
     QVERIFY(s.shortfalls().isEmpty());
 }
 
-// What was added received one pass of two.
-// Whoever writes on is not waited for.
+// The file grows in every round. The job ends the rounds after the tenth and reports the rest.
 void tst_ChangedFiles::goesOnGrowing()
 {
     Scenario s;
@@ -357,7 +356,7 @@ void tst_ChangedFiles::whatGrewCannotBeWritten()
     QCOMPARE(s.shortfalls(), (QList<Shortfall>{{ShortfallKind::EntryNotRemoved, s.changed}}));
 }
 
-// It was not there to be overwritten, and then it was.
+// The file is missing during the first pass and back in the second.
 void tst_ChangedFiles::awayDuringAPass()
 {
     Scenario s;
@@ -427,7 +426,7 @@ void tst_ChangedFiles::grewBeforeTheFirstPass()
     QVERIFY(s.shortfalls().isEmpty());
 }
 
-// By the time of the second pass.
+// The file grew and shrank before the second pass.
 void tst_ChangedFiles::grewAndShrankBeforeItWasOverwritten()
 {
     Scenario s;
@@ -454,7 +453,7 @@ void tst_ChangedFiles::anEmptyFileThatGrew()
     QVERIFY(job.task.outcome().shortfalls().isEmpty());
 }
 
-// Whoever cut it gave its blocks back as they were.
+// The program that cut the file released its blocks without erasing them.
 void tst_ChangedFiles::shrankBeforeItWasOverwritten()
 {
     for (const qint64 left : {4, 0}) {

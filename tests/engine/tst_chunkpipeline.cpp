@@ -24,7 +24,7 @@ PassPattern constantPass(quint8 value)
     return {PatternType::Custom, value};
 }
 
-// Fills as the workers do and counts.
+// Fills like the workers and counts the calls.
 struct Source
 {
     void operator()(std::byte *data, qint64 size, const PassPattern &pattern)
@@ -95,7 +95,7 @@ void tst_ChunkPipeline::chunksBeginOnAPageBoundary()
 void tst_ChunkPipeline::randomChunksAreOneUnbrokenSequence_data()
 {
     QTest::addColumn<QList<qint64>>("sizes");
-    QTest::addColumn<QList<qint64>>("prepared"); // after each chunk
+    QTest::addColumn<QList<qint64>>("prepared"); // size prepared after each chunk
     using Sizes = QList<qint64>;
     QTest::newRow("nothing ahead") << Sizes{512, 1024, 512} << Sizes{0, 0, 0};
     QTest::newRow("as expected") << Sizes{Limit, Limit, 512} << Sizes{Limit, 512, 0};
@@ -172,7 +172,7 @@ void tst_ChunkPipeline::preparingDoesNotWaitForTheData()
     allowed.release();
     chunks.take(512);
     QCOMPARE(filledOn, QThread::currentThread());
-    // Comes back although the data cannot be produced yet: that is the time in which the caller writes.
+    // prepare() returns before the data is produced, so that the caller can write meanwhile.
     chunks.prepare(512);
     allowed.release();
     QCOMPARE(taken(chunks, 512), QByteArray(512, '\x3C'));
@@ -189,7 +189,7 @@ void tst_ChunkPipeline::withoutAHelperNothingIsLost()
     QVERIFY(chunks.beginPass(randomPass, Limit));
     QByteArray bytes = taken(chunks, 512);
     chunks.prepare(4096);
-    bytes += taken(chunks, 1024); // leaves 3072 bytes of what the helper made
+    bytes += taken(chunks, 1024); // leaves 3072 bytes that the helper produced
     {
         const RefusedThreads refused;
         chunks.prepare(Limit);
@@ -236,7 +236,7 @@ void tst_ChunkPipeline::complementIsThatOfThePassBefore()
     QVERIFY(chunks.beginPass(constantPass(0x0F), Limit));
     chunks.take(Limit);
     QVERIFY(chunks.beginPass({PatternType::Complement}, Limit));
-    // Every chunk of the pass, not every other one.
+    // Every chunk of the pass is inverted, not every other one.
     for (int i = 0; i < 3; ++i)
         QCOMPARE(taken(chunks, Limit), QByteArray(Limit, '\xF0'));
     QVERIFY(chunks.beginPass({PatternType::Complement}, Limit));

@@ -14,8 +14,7 @@ using platform::Status;
 
 namespace {
 
-// A cloud service keeps copies of what is named "cloud...", and of what is named "offline..." has the only
-// one.
+// Files named "cloud..." have copies in a cloud service; files named "offline..." exist only there.
 class CloudFiles : public platform::ForwardingFiles
 {
 public:
@@ -62,7 +61,7 @@ const Shortfall TwoCopies{ShortfallKind::CloudCopy, {}, -1, 2};
 
 } // namespace
 
-// What a job makes of files that are in a cloud too, or nowhere else.
+// Jobs on files with copies in a cloud, or with their only copy there.
 class tst_CloudFiles : public QObject
 {
     Q_OBJECT

@@ -35,7 +35,7 @@ QString warning(int files)
     return u"1 %1 个文件的内容可能还保存在别处，未被覆写"_s.arg(files);
 }
 
-// By the name of the file: what it says is where it lies.
+// The name of the file decides the reported place of its content.
 platform::Result<ContentPlace> placeByName(const QString &path)
 {
     const QString name = QFileInfo(path).fileName();
@@ -75,7 +75,7 @@ QList<Shortfall> snapshotsIn(const OutcomeRecord &record)
     return notes;
 }
 
-// The machine's files, lying where placeByName() says, in a folder of the test's own.
+// The platform's files with the places of placeByName(), in a temporary folder.
 struct Machine
 {
     PlacedFiles files{platform::Platform::current().files(), placeByName};
@@ -101,7 +101,7 @@ QStringList targetsKeptElsewhere(const QStringList &targets, int mostQuestions =
 
 Q_DECLARE_METATYPE(ElsewhereReasons)
 
-// What a job makes of content that lies elsewhere.
+// Jobs on files whose content lies elsewhere.
 class tst_ContentElsewhere : public QObject
 {
     Q_OBJECT
@@ -153,7 +153,7 @@ void tst_ContentElsewhere::whatLiesElsewhereIsTold()
     QCOMPARE(job.lines(),
              (QStringList{said::scanning, said::preparing(3, u"30 B"_s), said::pass(1, 2), said::pass(2, 2),
                           warning(2), said::deleting, said::allDone(3), said::succeeded}));
-    // Where it lies cannot be excluded to be elsewhere when nobody says.
+    // A file whose place is unknown counts as elsewhere.
     QCOMPARE(job.task.outcome().shortfalls(), (QList<Shortfall>{{ShortfallKind::ContentElsewhere, shared, 6},
                                                                 {ShortfallKind::ContentElsewhere, refused}}));
 }
@@ -180,7 +180,7 @@ void tst_ContentElsewhere::nothingIsToldOfContentInPlace()
     QVERIFY(job.task.outcome().shortfalls().isEmpty());
 }
 
-// Empty when it was found and in the first pass.
+// The file is empty at the scan and in the first pass.
 void tst_ContentElsewhere::filesThatAreFilledMeanwhile()
 {
     FileJob job;
@@ -196,7 +196,7 @@ void tst_ContentElsewhere::filesThatAreFilledMeanwhile()
         if (call.path == file)
             order.append(call.kind);
     }
-    // In the second pass, and both passes again for what the first could not reach.
+    // Located in the second pass; both passes are repeated for the bytes that the first missed.
     QCOMPARE(order, (QList<FaultPlan::Kind>{FaultPlan::Locate, FaultPlan::Write, FaultPlan::Write,
                                             FaultPlan::Write}));
 }
@@ -218,7 +218,7 @@ void tst_ContentElsewhere::surveyOfFolders()
     machine.make(u"d/plain"_s);
     const QStringList targets{machine.folder.filePath(u"a"_s), machine.folder.filePath(u"d"_s)};
     QCOMPARE(targetsKeptElsewhere(targets), QStringList{targets.at(0)});
-    // All that there is was looked at: the folder itself says nothing more.
+    // All files were asked, so the folder itself need not be.
     QVERIFY(!machine.files.asked.contains(targets.at(1)));
 }
 
@@ -238,11 +238,11 @@ void tst_ContentElsewhere::surveyHasAnEnd()
         machine.make(u"shared folder/plain%1"_s.arg(i));
     const QString folder = machine.folder.filePath(u"shared folder"_s);
     const QString single = machine.make(u"shared"_s);
-    // Behind the last file that may be looked at the folder speaks for the rest of them.
+    // After the last question the folder is asked instead of its remaining files.
     QCOMPARE(targetsKeptElsewhere({folder, single}, 7), QStringList{folder});
     QCOMPARE(machine.files.asked.size(), 8);
     QCOMPARE(machine.files.asked.last(), folder);
-    // Once, whatever it says.
+    // The folder is asked once, whatever it answers.
     for (int i = 0; i < 20; ++i)
         machine.make(u"plain folder/plain%1"_s.arg(i));
     machine.files.asked.clear();
@@ -289,7 +289,7 @@ void tst_ContentElsewhere::freeSpace_data()
     QTest::newRow("compressed") << ElsewhereReasons(Elsewhere::Encoded) << false;
 }
 
-// It is filled wherever it is; what stays is in snapshots, for instance.
+// The fill goes to any place; the bytes that stay are in snapshots, for instance.
 void tst_ContentElsewhere::freeSpace()
 {
     QFETCH(ElsewhereReasons, elsewhere);
@@ -320,7 +320,7 @@ void tst_ContentElsewhere::snapshots_data()
     QTest::newRow("nobody can tell") << Result<int>(Status{platform::AccessDenied, 0, ""}) << note(-1);
 }
 
-// Told before the question and in the record, and no failure.
+// Noted before the confirmation and in the record, and not a failure.
 void tst_ContentElsewhere::snapshots()
 {
     QFETCH(Result<int>, answer);
@@ -340,7 +340,7 @@ void tst_ContentElsewhere::snapshots()
     QVERIFY(job.task.outcome().shortfalls().isEmpty());
 }
 
-// Once for all files of a volume, before the question and in the record.
+// Noted once for all files of a volume, before the confirmation and in the record.
 void tst_ContentElsewhere::snapshotsBelowFiles()
 {
     SnapshotFolders folders(platform::Platform::current().folders(), 2);

@@ -45,7 +45,7 @@ QByteArray secret(int size)
 
 void run(const QString &program, const QStringList &arguments)
 {
-    // The administrator's folders are not in everybody's PATH.
+    // The folders of administration tools are not in every PATH.
     const QString found = QStandardPaths::findExecutable(program);
     const QStringList others{u"/usr/sbin"_s, u"/sbin"_s};
     QProcess process;
@@ -55,7 +55,7 @@ void run(const QString &program, const QStringList &arguments)
                      __LINE__);
 }
 
-// An empty file with a flag that counts for what is written to it from then on.
+// Creates an empty file with a flag that applies to later writes.
 QString makeFlagged(const QString &path, int flag)
 {
     writeFile(path, {});
@@ -80,7 +80,7 @@ void write(const QString &path)
     writeFile(path, secret(Size));
 }
 
-// The journal begins anew with every mount. What the job writes to it does not reach as far as the secret.
+// The journal starts again at every mount. The writes of the job do not reach the secret in it.
 void writeDeepInTheJournal(const QString &path)
 {
     const int file = ::open(platform::encodeName(path).constData(), O_WRONLY | O_CREAT | O_CLOEXEC, 0600);
@@ -97,7 +97,7 @@ void clone(const QString &from, const QString &to)
     run(u"cp"_s, {u"--reflink=always"_s, from, to});
 }
 
-// So many pieces that the kernel does not show them at one time, the last of which another file has too.
+// Makes more extents than the kernel returns in one query; another file shares the last one.
 void cloneLastOfMany(const QString &path, const QString &copy)
 {
     constexpr int Block = 4 * KiB;
@@ -118,15 +118,15 @@ void cloneLastOfMany(const QString &path, const QString &copy)
     ::close(other);
 }
 
-// How a file comes to lie where it lies, and what the job is to say of it.
+// The setup of one file's place, and the expected note of the job.
 struct Case
 {
     const char *name;
     LoopMount::Options volume;
-    // On the volume before it is mounted for the first time.
+    // Runs before the first mount.
     std::function<void(const QString &device)> tune;
     std::function<void(const QString &file, const QString &root)> make;
-    std::optional<qint64> bytesElsewhere; // none: nothing is to be said
+    std::optional<qint64> bytesElsewhere; // empty: no note expected
 };
 
 const QList<Case> &cases()
@@ -135,7 +135,7 @@ const QList<Case> &cases()
     const LoopMount::Options inlining{.fileSystem = LoopMount::Ext4,
                                       .makeArguments = {u"-O"_s, u"inline_data"_s, u"-I"_s, u"256"_s}};
     const LoopMount::Options xfs{.fileSystem = LoopMount::Xfs, .makeArguments = {u"-m"_s, u"reflink=1"_s}};
-    // What is discarded would be holes in the image, which no medium promises.
+    // Discarded blocks would become holes in the image, which a real medium does not guarantee.
     const LoopMount::Options btrfs{.fileSystem = LoopMount::Btrfs, .mountOptions = u"nodiscard"_s};
     const auto plainly = [](const QString &file, const QString &) { write(file); };
     const auto journalled = [](const QString &file, const QString &) { writeDeepInTheJournal(file); };
@@ -210,7 +210,7 @@ const QList<Case> &cases()
     return list;
 }
 
-// Two layers on one volume, and what they show together.
+// Two layers on one volume, and their merged view.
 class Overlay
 {
 public:
@@ -240,7 +240,7 @@ private:
 
 } // namespace
 
-// What is told to lie elsewhere is what stays on the medium, on real file systems.
+// The content reported as elsewhere is the content that stays on the medium, on real file systems.
 class tst_ContentResidue : public QObject
 {
     Q_OBJECT
@@ -273,7 +273,7 @@ void tst_ContentResidue::checkThatWhatIsToldStays(LoopMount &volume, const QStri
     {
         FileJob job;
         job.task.setFiles({file});
-        // Asked before, it says the same without the bytes.
+        // Before the job the forecast is the same, without the bytes.
         const QList<Shortfall> foreseen = foreseeableShortfalls(job.task).shortfalls();
         QCOMPARE(foreseen.size(), told.size());
         QVERIFY(job.run({file}));
@@ -313,13 +313,13 @@ void tst_ContentResidue::whatIsToldIsWhatStays()
     checkThatWhatIsToldStays(volume, file, given.bytesElsewhere);
 }
 
-// The flag takes a capability to set, and none to write it into the image.
+// Setting the flag needs a capability; writing it into the image does not.
 void tst_ContentResidue::aFileWithAJournal()
 {
     if (const QString reason = LoopMount::unavailableReason(LoopMount::Ext4); !reason.isEmpty())
         QSKIP(qPrintable(reason));
     const QTemporaryDir folder;
-    // With delayed allocation the flag means nothing.
+    // The flag has no effect with delayed allocation.
     LoopMount volume(folder.path(), {.fileSystem = LoopMount::Ext4, .mountOptions = u"nodelalloc"_s});
     QVERIFY2(volume.isReady(), qPrintable(volume.error()));
     const QString file = writeFile(volume.mountPoint() + u"/secret"_s, {});
@@ -355,7 +355,7 @@ void tst_ContentResidue::aLowerLayerStays()
     QCOMPARE(contentOf(volume.mountPoint() + u"/lower/secret"_s), secret(Size));
 }
 
-// A folder is what is in it, not what would be made in it.
+// A folder is judged by its files, not by files that would be created in it.
 void tst_ContentResidue::foldersAreForeseen()
 {
     if (const QString reason = LoopMount::unavailableReason(LoopMount::Btrfs); !reason.isEmpty())

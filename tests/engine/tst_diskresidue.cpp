@@ -40,7 +40,7 @@ bool fillImage(LoopMount &drive, qint64 size)
     return true;
 }
 
-// Where the first byte is that is not the one expected; -1 when every one is.
+// The offset of the first unexpected byte; -1 without one.
 qint64 firstOther(LoopMount &drive, qint64 size, char expected)
 {
     for (qint64 offset = 0; offset < size; offset += MiB) {
@@ -77,7 +77,7 @@ int repeatedBlocks(LoopMount &drive, qint64 size)
 
 } // namespace
 
-// Whole drives of the test's own, wiped by the real backend and looked at below it.
+// Loop drives of the test, wiped by the real backend and checked through their images.
 class tst_DiskResidue : public QObject
 {
     Q_OBJECT
@@ -198,7 +198,7 @@ void tst_DiskResidue::wholeDriveIsErasedOutsideItsVolumesToo()
     QCOMPARE(firstOther(loop.drive(), PartitionedLoop::Size, '\0'), -1);
 }
 
-// What the job on all of the drive is for.
+// The reason for whole-drive jobs.
 void tst_DiskResidue::volumesAloneLeaveWhatIsOutside()
 {
     const QTemporaryDir folder;
@@ -250,7 +250,7 @@ void tst_DiskResidue::driveHeldBySomebodyElseIsLeftAlone()
     LoopMount drive(folder.path(), options);
     QVERIFY2(drive.isReady(), qPrintable(drive.error()));
     QVERIFY(fillImage(drive, MiB));
-    // As LVM, md or another program hold a drive: without a mount, exclusively.
+    // LVM, md and other programs hold a drive like this, exclusively and without a mount.
     const int holder = ::open(QFile::encodeName(drive.device()).constData(), O_RDWR | O_EXCL | O_CLOEXEC);
     QVERIFY(holder >= 0);
     WipeTask task;
@@ -266,7 +266,7 @@ void tst_DiskResidue::driveHeldBySomebodyElseIsLeftAlone()
 
 void tst_DiskResidue::fullBackingIsAFailure()
 {
-    // A drive that promises more than there is behind it, as thin provisioning does.
+    // A thin-provisioned drive, which promises more space than it has.
     const QTemporaryDir folder;
     LoopMount::Options outerOptions;
     outerOptions.sizeBytes = 32 * MiB;
@@ -282,7 +282,7 @@ void tst_DiskResidue::fullBackingIsAFailure()
     task.setOperationType(DiskWipe);
     task.setDisk(diskAt(drive.device()));
     task.setBufferSizeMB(4);
-    task.setMethod(WipeMethod::fromType(WipeMethod::GermanVsitr)); // zeros alone could stay holes
+    task.setMethod(WipeMethod::fromType(WipeMethod::GermanVsitr)); // zeros alone could remain holes
     const RealJob job = runRealJob(task);
     QVERIFY(!job.success);
     QVERIFY2(job.hasLine(QStringLiteral("写入错误，位置: ")) || job.hasLine(QStringLiteral("刷新写入失败")),
@@ -311,7 +311,7 @@ void tst_DiskResidue::driveThatShrinksDuringTheJobIsAFailure()
     engine.start();
     QSignalSpy passes(&engine, &WipeEngine::passChanged);
     QTRY_VERIFY_WITH_TIMEOUT(passes.size() >= 2, 60000);
-    // All that is left of a drive that was pulled out: a device without a size.
+    // A drive that was pulled out is a device without a size.
     QVERIFY(QFile::resize(drive.image(), 0));
     QCOMPARE(QProcess::execute(QStringLiteral("losetup"), {QStringLiteral("-c"), drive.device()}), 0);
     QTRY_COMPARE_WITH_TIMEOUT(completed.size(), 1, 60000);
@@ -332,7 +332,7 @@ void tst_DiskResidue::otherDriveUnderTheNumberIsLeftAlone()
     options.sizeBytes = MiB;
     DiskInfo chosen;
     std::unique_ptr<LoopMount> second;
-    // Until nobody else has taken the device between the two.
+    // Repeats when another process took the device in between.
     do {
         second.reset();
         {

@@ -27,7 +27,7 @@ namespace {
 constexpr qint64 MiB = 1048576;
 constexpr qint64 DriveSize = MiB + 131072; // two chunks
 constexpr int Number = 2;
-constexpr int Patience = 60'000; // in vain only, in ms
+constexpr int Patience = 60'000; // ms, reached only by failures
 
 struct Stretch
 {
@@ -49,11 +49,11 @@ struct Scenario
         targets = {{u"E:"_s, 4096, MiB + 4096}, {u"F:"_s, MiB + 16384, 65536}};
         for (const Stretch &target : targets)
             memory.addVolume(target.name, Number, target.start, target.length);
-        // Needs a second attempt, so that a failing first one is part of every run.
+        // The lock needs a second attempt, so that every run includes a failed one.
         memory.volume(u"F:"_s).failingLocks = 1;
     }
 
-    // 512-byte units that hold neither the content from before nor that of the first pass, zeros.
+    // The number of 512-byte units that hold neither the old content nor the zeros of the first pass.
     quint64 overwritten(const Stretch &target) const
     {
         static const QByteArray before = markedMedium(DriveSize);
@@ -85,7 +85,7 @@ struct Scenario
     QList<Stretch> targets;
 };
 
-// Whether the log owns up to a target that a successful job did not cover, or never found.
+// Whether the log names a target that the job did not cover or find.
 bool isToldAsIncomplete(const QStringList &log, const Stretch &target)
 {
     return !log.contains(u"0 找到卷: "_s + target.name) ||
@@ -93,7 +93,7 @@ bool isToldAsIncomplete(const QStringList &log, const Stretch &target)
            !log.filter(QRegularExpression(u"未被覆写$|^0 使用估算卷大小"_s)).isEmpty();
 }
 
-// What holds for every run, whatever failed. Empty, or what is wrong.
+// Checks the invariants of every run, whatever call failed. Returns the violation, empty without one.
 QString complaint(const Scenario &scenario, const DiskWipeJob &job)
 {
     if (!job.endedProperly())
@@ -149,7 +149,7 @@ private slots:
 
 void tst_DiskWipeFaults::initTestCase()
 {
-    // Thousands of planned faults, each with its diagnostics.
+    // Thousands of planned faults, each with its diagnostics, would fill the log.
     QLoggingCategory::setFilterRules(u"default.debug=false"_s);
 }
 
@@ -179,7 +179,7 @@ void tst_DiskWipeFaults::everyCallFailing()
         ++call;
         QVERIFY2(call < 500, "the loop does not end");
         Scenario scenario(withVolumes);
-        // What the report claims has to survive a power cut as well.
+        // The claims of the report must survive a power cut too.
         PowerCutDevices powerCut(scenario.memory);
         FaultPlan plan(FaultPlan::Every, call, static_cast<platform::ErrorCode>(error),
                        forEver ? FaultPlan::FromThenOn : FaultPlan::Once);
@@ -301,7 +301,7 @@ void tst_DiskWipeFaults::stopInEveryStage()
     prepare(job, scenario);
     const std::unique_ptr<QThread> thread(QThread::create([&] {
         job.run(devices);
-        reached.release(); // nobody waits for a call that did not come
+        reached.release(); // wakes the test when the call never came
     }));
     thread->start();
     reached.tryAcquire(1, Patience);
@@ -325,7 +325,7 @@ void tst_DiskWipeFaults::stopDuringLockAttempts()
     scenario.memory.volume(u"E:"_s).failingLocks = -1;
     DiskWipeJob job;
     prepare(job, scenario);
-    // Longer than a stop is waited for, so that one that does not end the wait is seen.
+    // Longer than the patience of the test, so that a stop that does not end the wait is detected.
     job.worker.setLockRetryDelay(std::chrono::milliseconds(2 * Patience));
     QSemaphore reached;
     InterposedDevices devices(scenario.memory, [&](const DeviceCall &call) {
@@ -391,7 +391,7 @@ void tst_DiskWipeFaults::stopAtAnyTime()
 }
 
 namespace {
-// Paused from the start, until it is stopped.
+// Paused from the start until it is stopped.
 class PausedWorker : public DiskWipeWorker
 {
 public:
@@ -432,7 +432,7 @@ void tst_DiskWipeFaults::stopOfAPausedWorker()
     QVERIFY(arrived);
     QVERIFY(!ended);
     QCOMPARE(writes, 0);
-    // A pause that a stop ends fails the pass; one that is stopped between chunks is merely left.
+    // A stop during a pause fails the pass; a stop between chunks only ends it.
     QCOMPARE(ends, QStringList({u"覆写失败"_s, u"0"_s}));
     QCOMPARE(scenario.memory.writes(), 0);
     QCOMPARE(scenario.memory.openHandles(), 0);

@@ -32,7 +32,7 @@ QList<Shortfall> ofKind(const DiskWipeJob &job, ShortfallKind kind)
 }
 } // namespace
 
-// What a disk job tells of that it did not reach.
+// The shortfalls that a disk job notes.
 class tst_DiskWipeShortfalls : public QObject
 {
     Q_OBJECT
@@ -151,7 +151,7 @@ void tst_DiskWipeShortfalls::aVolumeWrittenFromAnUnknownPlace()
 
 void tst_DiskWipeShortfalls::aVolumeOfUnknownLength()
 {
-    // The drive has two volumes, so that the estimate is half of it; the first is larger.
+    // The estimate is half of the drive, because it has two volumes; the first one is larger.
     MemoryDevices memory;
     memory.addDrive(markedDrive(1, 4 * MiB));
     memory.addVolume(u"E:"_s, 1, 0, 3 * MiB);

@@ -28,7 +28,7 @@ void addDriveWithVolumes(MemoryDevices &devices, qint64 firstLength, qint64 seco
     devices.addVolume(u"F:"_s, 1, 2 * MiB, secondLength);
 }
 
-// Answers reads in a way of its own.
+// Answers reads by a function of the test.
 class ReadingDevices : public platform::ForwardingDevices
 {
 public:
@@ -83,7 +83,7 @@ platform::Result<qint64> emptyRead(platform::RawDevice &, void *, qint64)
     return qint64(0);
 }
 
-// Success without a byte delivered.
+// Reports success without delivering a byte.
 platform::Result<qint64> idleRead(platform::RawDevice &, void *, qint64 size)
 {
     return size;
@@ -166,7 +166,7 @@ void tst_DiskWipeVerification::sampleOffsetsAreReduced()
 }
 
 namespace {
-// The positions that a verification read, of a job that writes one pass: seeks follow the last flush.
+// The sample positions of a job that writes one pass. Its reads follow the last flush.
 struct SampleReads
 {
     InterposedDevices::Before before()
@@ -247,7 +247,7 @@ void tst_DiskWipeVerification::volumeThatEndsWithinASectorIsVerified()
     DiskWipeJob job;
     job.chooseDrive(memory.drive(1));
     QVERIFY(job.run(devices));
-    // The second sector is not there as a whole.
+    // The second sector is incomplete.
     QCOMPARE(reads.positions, QList<qint64>(20, 0));
     QCOMPARE(job.report().wipedSectors, 1ULL);
 }
@@ -272,7 +272,7 @@ void tst_DiskWipeVerification::volumeWithLargerSectorsThanItsDriveIsVerified()
 
 void tst_DiskWipeVerification::samplesLieWithinTheFirstVolumesShare()
 {
-    // Two volumes: the first stands for half of the drive, although it is larger than that.
+    // With two volumes the first one stands for half of the drive, although it is larger.
     MemoryDevices memory;
     memory.addDrive(markedDrive(1, 4 * MiB));
     memory.addVolume(u"E:"_s, 1, 0, 3 * MiB);
@@ -291,7 +291,7 @@ void tst_DiskWipeVerification::samplesLieWithinTheFirstVolumesShare()
 
 void tst_DiskWipeVerification::volumeOfUnknownLengthIsVerifiedWhereItWasWritten()
 {
-    // Taken for half of the drive, it ends after an eighth.
+    // The volume stands for half of the drive, but ends after an eighth.
     MemoryDevices memory;
     addDriveWithVolumes(memory, 512 * KiB, 2 * MiB);
     SampleReads reads;
@@ -343,7 +343,7 @@ void tst_DiskWipeVerification::nothingIsReadAfterAStop()
     SampleReads reads;
     InterposedDevices devices(memory, [&](const DeviceCall &call) {
         if (call.kind == FaultPlan::Flush)
-            job.worker.stop(); // the pass is written
+            job.worker.stop(); // the pass is written by now
         return reads.before()(call);
     });
     job.chooseDrive(memory.drive(1));
@@ -426,14 +426,14 @@ void tst_DiskWipeVerification::readThatDeliversNothingIsFound()
         QCOMPARE(job.log().filter(u"2 验证失败，位置: "_s).size(), 1);
         QVERIFY(!job.log().contains(u"0 验证通过"_s));
         QCOMPARE(job.errors(), QStringList(u"覆写失败"_s));
-        // What the pass wrote is written, whatever the reading says.
+        // The written sectors count, whatever the verification finds.
         QCOMPARE(job.report().wipedSectors, quint64(MiB / 512));
     }
 }
 
 void tst_DiskWipeVerification::laterReadThatDeliversNothingIsFound()
 {
-    // The sample before must not stand in for the one that did not come.
+    // The previous sample must not pass for the missing one.
     for (const PatternType type : {PatternType::Zeros, PatternType::Random}) {
         MemoryDevices memory;
         memory.addDrive(markedDrive(1, MiB));
@@ -522,8 +522,8 @@ void tst_DiskWipeVerification::driveThatEndsBeforeItsSizeIsFound()
     QCOMPARE(job.log().filter(u"2 验证失败，位置: "_s).size(), 1);
 }
 
-// Every place of such a drive reads back as what was written to it last, and its medium is overwritten in
-// full: the samples cannot tell it from a drive that is as large as it says.
+// Every place of such a drive reads back the data last written to it, and its medium is overwritten in full.
+// The samples cannot tell it from a drive of the size it reports.
 void tst_DiskWipeVerification::wrappingDriveLooksLikeAWipedOne()
 {
     MemoryDevices memory;
@@ -555,7 +555,7 @@ void tst_DiskWipeVerification::uncoveredVolumeEndIsFound()
 
 void tst_DiskWipeVerification::unreducedOffsetIsNamed()
 {
-    // One sector can be read through the volume, while the offsets drawn go over the whole disk.
+    // One sector can be read through the volume, while the drawn offsets cover the whole disk.
     MemoryDevices memory;
     memory.addDrive(markedDrive(1, 4 * MiB));
     memory.addVolume(u"E:"_s, 1, 0, 512);
@@ -629,7 +629,7 @@ void tst_DiskWipeVerification::failedVerificationReportsWhatWasRead()
 
 void tst_DiskWipeVerification::nothingReadBackIsReportedAsNothing()
 {
-    // A report begins with 1000 samples.
+    // A new report has 1000 samples.
     MemoryDevices memory;
     memory.addDrive(markedDrive(1, MiB));
     FaultPlan plan(FaultPlan::Read, 1, platform::IoDevice);
@@ -682,7 +682,7 @@ void tst_DiskWipeVerification::wipedSectorsBeforeTheLastPass()
 
 void tst_DiskWipeVerification::wipedSectorsAfterAFailedSeek()
 {
-    // The volume is written from wherever it stands, here its start, which nobody knows.
+    // After a failed seek the start position of the volume is unknown; here it is the volume's start.
     MemoryDevices memory;
     memory.addDrive(markedDrive(1, 2 * MiB));
     memory.addVolume(u"E:"_s, 1, 0, 2 * MiB);
@@ -737,7 +737,7 @@ void tst_DiskWipeVerification::volumeAfterAStopIsNotBegun()
 
 void tst_DiskWipeVerification::wipedSectorsNeverExceedTheDisk()
 {
-    // Two names for one volume, as after a second mount under Windows.
+    // Two names for one volume, as after a second mount on Windows.
     MemoryDevices devices;
     devices.addDrive(markedDrive(1, MiB));
     devices.addVolume(u"E:"_s, 1, 0, MiB);

@@ -41,7 +41,7 @@ QByteArray constant(qint64 size, int value)
     return QByteArray(size, static_cast<char>(value));
 }
 
-// What the two-volume drive holds after a pass of one byte through its volumes.
+// The content of the two-volume drive after a pass of one byte through its volumes.
 QByteArray twoVolumesOverwritten(int value)
 {
     QByteArray medium = markedMedium(TwoVolumeSize);
@@ -50,7 +50,7 @@ QByteArray twoVolumesOverwritten(int value)
     return medium;
 }
 
-// Neither old content nor anything repeated.
+// Whether the bytes contain neither old content nor repetitions.
 bool looksRandom(const QByteArray &bytes)
 {
     if (bytes.contains("MARK......"))
@@ -72,7 +72,7 @@ QStringList callsOf(const QList<DeviceCall> &calls, QLatin1String method)
     return found;
 }
 
-// Lets everything through and keeps it.
+// Records all calls and lets them through.
 InterposedDevices::Before recorder(QList<DeviceCall> &calls)
 {
     return [&calls](const DeviceCall &call) {
@@ -90,7 +90,7 @@ InterposedDevices::Before failing(QLatin1String method, platform::ErrorCode erro
     };
 }
 
-// The state of the 32-bit generator that put these words out: each step of the tempering taken back.
+// The generator state behind the 32-bit word; inverts each step of the tempering.
 quint32 untempered(quint32 word)
 {
     word ^= word >> 18;
@@ -401,7 +401,7 @@ void tst_DiskWipeWorker::randomDataIsOneUnbrokenSequence()
     job.chooseDrive(devices.drive(0));
     QVERIFY(job.run(devices));
 
-    // The first block of words gives the generator's state, which foretells every byte that follows.
+    // The first block of words gives the generator's state, which predicts all following bytes.
     const QByteArray medium = devices.medium(0);
     const auto wordAt = [&medium](qsizetype index) {
         return qFromLittleEndian<quint32>(medium.constData() + index * 4);
@@ -599,7 +599,7 @@ void tst_DiskWipeWorker::everyVolumeIsHeldAndReleased()
     DiskWipeJob job;
     job.chooseDrive(memory.drive(3));
     QCOMPARE(job.run(devices), failingWrite == 0);
-    // All is held before the first write, and the last calls let go of all.
+    // All volumes are held before the first write, and released by the last calls.
     QStringList held;
     for (const DeviceCall &call : std::as_const(calls)) {
         if (call.kind == FaultPlan::Write)
@@ -660,7 +660,7 @@ void tst_DiskWipeWorker::dismountFailureIsOnlyLogged()
 {
     MemoryDevices memory;
     addTwoVolumeDrive(memory);
-    // The volume goes on to take writes, as one does that another program has dismounted.
+    // The volume still accepts writes, like one that another program has dismounted.
     memory.volume(u"E:"_s).mounted = false;
     InterposedDevices devices(memory, failing("dismount"_L1, platform::SharingViolation, u"E:"_s));
     DiskWipeJob job;
@@ -784,7 +784,7 @@ void tst_DiskWipeWorker::volumeThatBeginsOnAnotherDriveIsLeftAlone()
     QVERIFY(devices.medium(5) == markedMedium(MiB));
 }
 
-// As file systems on dynamic disks may lie.
+// File systems on dynamic disks can have many extents.
 void tst_DiskWipeWorker::volumeInManyPiecesIsHeldToo()
 {
     MemoryDevices devices;
@@ -943,7 +943,7 @@ void tst_DiskWipeWorker::failedSeekOnAVolumeIsLogged()
     DiskWipeJob job;
     job.chooseDrive(memory.drive(0));
     job.setPasses({{PatternType::Zeros}, {PatternType::Ones}});
-    // The second pass begins where the first one ended, at the end of the volume.
+    // Without the seek the second pass begins where the first one ended, at the end of the volume.
     QVERIFY(job.run(devices));
     const QStringList log = job.log();
     const qsizetype at = log.indexOf(u"2 SetFilePointerEx 失败，错误码: 1117"_s);
@@ -1097,7 +1097,7 @@ void tst_DiskWipeWorker::writeOfNothingEndsAVolume()
 }
 
 namespace {
-// Writes at most so many bytes at a time.
+// Writes a limited number of bytes at a time.
 class ShortDevices : public platform::ForwardingDevices
 {
 public:

@@ -15,7 +15,7 @@ namespace {
 constexpr qint64 DriveBytes = 16 * MiB;
 }
 
-// Disk jobs on devices that really fail: the errors come from the kernel.
+// Disk jobs on devices with real errors from the kernel.
 class tst_DriveFaults : public QObject
 {
     Q_OBJECT
@@ -53,14 +53,14 @@ void tst_DriveFaults::withoutAFaultTheDriveIsErased()
     QVERIFY2(job.success, qPrintable(job.log.join(u'\n')));
     QCOMPARE(job.report.wipedSectors, job.report.totalSectors);
     QCOMPARE(job.report.verificationSampleSize, 1000);
-    QVERIFY(drive.content().count(Old) < DriveBytes / 128); // what random data has of them, and a margin
+    QVERIFY(drive.content().count(Old) < DriveBytes / 128); // the share expected in random data, and a margin
 }
 
 void tst_DriveFaults::writeErrorEndsTheJobAtItsPosition_data()
 {
     QTest::addColumn<qint64>("first");
     QTest::addColumn<qint64>("end");
-    QTest::addColumn<qint64>("chunk"); // start of the chunk that the range lies in
+    QTest::addColumn<qint64>("chunk"); // start of the chunk that contains the range
     QTest::newRow("the first sector") << qint64(0) << qint64(512) << qint64(0);
     QTest::newRow("inside a chunk") << 5 * MiB + 4096 << 5 * MiB + 8192 << 5 * MiB;
     QTest::newRow("the last sector") << DriveBytes - 512 << DriveBytes << DriveBytes - MiB;
@@ -158,7 +158,7 @@ void tst_DriveFaults::mediumWithoutRoomIsAFailure()
     const RealJob job = runRealJob(task);
     QVERIFY(drive.faults.failedWrites() > 0);
     QVERIFY(!job.success);
-    // A loop device without direct I/O tells of nothing but I/O errors.
+    // A loop device without direct I/O reports all errors as I/O errors.
     QVERIFY2(job.hasLine(writeErrorAt(9 * MiB, 112)) || job.hasLine(writeErrorAt(9 * MiB, 1117)),
              qPrintable(job.log.join(u'\n')));
     QCOMPARE(job.report.status, WipeStatus::Failed);
@@ -184,7 +184,7 @@ void tst_DriveFaults::readErrorFailsTheVerification()
     QCOMPARE(job.report.verificationSampleSize, 0);
     QCOMPARE(job.report.verificationMethod, QString());
     QCOMPARE(job.report.dataHash, QString());
-    QCOMPARE(drive.content(), stretchOf('\0', DriveBytes)); // everything was written all the same
+    QCOMPARE(drive.content(), stretchOf('\0', DriveBytes)); // everything was written nevertheless
 }
 
 void tst_DriveFaults::readErrorWithoutVerificationIsNoFailure()
@@ -238,7 +238,8 @@ void tst_DriveFaults::vanishedDriveCannotBeVerified()
     WipeEngine engine;
     QSignalSpy completed(&engine, &WipeEngine::completed);
     QStringList lines;
-    // From another thread than the worker's: it is somewhere between the flush and the last sample by then.
+    // The drive vanishes from another thread than the worker's, which is between the flush and the last
+    // sample by then.
     task.setVerifySampleSize(2'000'000);
     connect(&engine, &WipeEngine::logMessage, &engine, [&](const QString &message, int) {
         lines.append(message);

@@ -20,11 +20,11 @@ using platform::OpenMode;
 
 namespace {
 
-// Odd sizes go through the page cache, so that only the closing of the group writes them to the drive.
+// Odd sizes go through the page cache, so that only the close of the group writes them to the drive.
 constexpr int Size = 3000;
 constexpr int Count = 3;
 
-// Small files in a folder of a drive that can fail, each with the place of its first byte there.
+// Small files in a folder of a faulty drive, each with the place of its first byte.
 struct Folder
 {
     FaultyDrive drive;
@@ -57,7 +57,7 @@ struct Folder
     void loseWritesOf(int i) { drive.faults.failWrites(positions[i], positions[i] + Size); }
 };
 
-// As everybody can.
+// Any process can call it.
 bool syncFileSystem(const QString &folder)
 {
     QProcess sync;
@@ -67,7 +67,7 @@ bool syncFileSystem(const QString &folder)
 
 } // namespace
 
-// Groups on a drive that loses what the page cache writes to it, and on one whose cache cannot be emptied.
+// Groups on a drive that loses writes from the page cache, and on a drive whose flush fails.
 class tst_DurabilityFaults : public QObject
 {
     Q_OBJECT
@@ -86,7 +86,7 @@ void tst_DurabilityFaults::initTestCase()
         QSKIP(qPrintable(reason));
 }
 
-// Of another member than the one that is flushed at the end.
+// The lost write belongs to another member than the one that is flushed last.
 void tst_DurabilityFaults::aWriteThatIsLostIsToldOnClosing()
 {
     Folder folder;
@@ -97,7 +97,7 @@ void tst_DurabilityFaults::aWriteThatIsLostIsToldOnClosing()
     const auto group = machine.files().beginGroup(EntryPath(held.value(), {}));
     QVERIFY(group.ok());
     for (int i = 0; i < Count; ++i) {
-        // The others are written by then: neighbours could go in one request.
+        // The other files are written by then, because neighbours could share one request.
         if (i == Count - 1) {
             QVERIFY(syncFileSystem(folder.path));
             folder.loseWritesOf(i);
@@ -108,13 +108,13 @@ void tst_DurabilityFaults::aWriteThatIsLostIsToldOnClosing()
         QCOMPARE(file.value()->write(QByteArray(Size, 'z').constData(), Size).valueOr(-1), Size);
         QVERIFY(file.value()->flush().ok());
     }
-    // Whoever writes out first hears of it; a descriptor that is opened afterwards does not.
+    // The first caller of a sync gets the error; a descriptor opened afterwards does not.
     QVERIFY(!syncFileSystem(folder.path));
     QVERIFY(folder.drive.faults.failedWrites() > 0);
     QCOMPARE(machine.files().closeGroup(*group.value()).code, quint32(platform::IoDevice));
 }
 
-// Where nothing is left for syncfs to do.
+// syncfs has nothing left to write.
 void tst_DurabilityFaults::aFlushThatFailsIsToldOnClosing()
 {
     Folder folder(LoopMount::Xfs);

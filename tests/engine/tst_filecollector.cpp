@@ -164,7 +164,7 @@ void tst_FileCollector::aFileInsideAGivenFolderIsListedOnceWhereItCameFirst()
     QCOMPARE(fileFirst.files, (QStringList{inside, other}));
     const Scan folderFirst({folder, inside, folder + QStringLiteral("/sub")});
     QCOMPARE(folderFirst.sortedFiles(), (QStringList{other, inside}));
-    // With a separator at the end the paths inside are the same.
+    // A trailing separator does not change the paths inside.
     QCOMPARE(Scan({inside, folder + QLatin1Char('/')}).files, (QStringList{inside, other}));
 }
 
@@ -226,7 +226,7 @@ void tst_FileCollector::aFolderThatCannotBeListedIsTold()
 
 void tst_FileCollector::whatWasListedBeforeTheFailureStays()
 {
-    // Fails after it has shown every entry, as a folder with a damaged block does.
+    // Fails after the last entry, like a folder with a damaged block.
     class LateFailure : public platform::ForwardingFolders
     {
     public:

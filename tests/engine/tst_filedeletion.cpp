@@ -24,7 +24,7 @@ Status failure(quint32 code)
     return {code, 0, "planned"};
 }
 
-// A deletion whose pauses are counted instead of waited for.
+// A deletion that counts its pauses instead of waiting.
 struct CountedDeletion
 {
     FileJob job;

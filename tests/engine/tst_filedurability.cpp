@@ -29,7 +29,7 @@ QString lost(const QString &path)
     return u"2 FlushFileBuffers 失败: "_s + path;
 }
 
-// Two passes, the second one read back, over a folder on a drive whose power can fail.
+// Two passes, the second one read back, over a folder on a drive that can lose power.
 struct Scenario
 {
     PowerCutFiles drive{platform::Platform::current().files()};
@@ -56,7 +56,7 @@ struct Scenario
     static qsizetype sizeOf(int i) { return i == 3 ? 2 * MiB + 17 : 1 + i * 700; }
 
     bool run() { return job.run(targets); }
-    // All of it is one byte.
+    // Every byte of the file has the value.
     bool holds(int i, char byte) const { return contentIfAny(pathOf(i)) == QByteArray(sizeOf(i), byte); }
     int filesHolding(char byte) const
     {
@@ -69,7 +69,7 @@ struct Scenario
 
 } // namespace
 
-// What of a file job is on the medium when.
+// The order in which a file job brings its changes to the medium.
 class tst_FileDurability : public QObject
 {
     Q_OBJECT
@@ -94,7 +94,7 @@ private slots:
     void withoutAGroupEachFileIsFlushed();
 };
 
-// The double itself.
+// Tests the double itself.
 void tst_FileDurability::thePowerCutTakesBackWhatIsNotOnTheMedium()
 {
     FileJob job;
@@ -219,7 +219,7 @@ void tst_FileDurability::oneGroupForEachPassAndOneForTheRemoval()
         return Status();
     };
     QVERIFY(scenario.run());
-    // The names of the folders are to be gone from the medium too.
+    // The folder names must be gone from the medium too.
     QCOMPARE(standing, (QList<bool>{true, true, false}));
     QList<int> order;
     for (const FileCall &call : scenario.job.files.calls()) {
@@ -323,7 +323,7 @@ void tst_FileDurability::aGroupThatIsNotClosedWellFailsAllItsFiles()
     QVERIFY(!lines.contains(said::deleting));
     const ObservedFiles &calls = scenario.job.files;
     QVERIFY(calls.calls(FaultPlan::SetEnd | FaultPlan::Rename | FaultPlan::Remove).isEmpty());
-    // Nothing of it is worth being read back.
+    // Nothing is read back after the failure.
     QVERIFY(calls.calls(FaultPlan::Read).isEmpty());
     QCOMPARE(scenario.drive.unsettled().size(), Files);
 }

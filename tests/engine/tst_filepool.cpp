@@ -41,10 +41,10 @@ private slots:
 
 namespace {
 
-// For threads that never come, or come after it.
+// For threads that never start, or start later than this.
 constexpr std::chrono::milliseconds ShortPatience{100};
 
-// Jobs that count themselves and those that ran on the thread that made them.
+// Jobs that count their runs, and the runs on the thread that created them.
 struct Counting
 {
     std::vector<FilePool::Job> jobs(int count)
@@ -135,7 +135,7 @@ void tst_FilePool::withoutThreadsTheCallerDoesTheWork()
     QVERIFY(refused.count() > 0);
 }
 
-// They take jobs after the caller has given them up and begun to work itself.
+// The threads take jobs after the caller has given them up and works itself.
 void tst_FilePool::threadsThatComeLateAreWaitedFor()
 {
     if (!RefusedThreads::isPossible())
@@ -167,7 +167,7 @@ void tst_FilePool::filesAreErasedWithoutThreads()
     const bool success = job.run(files);
     QVERIFY(refused.count() > 0);
     QVERIFY2(success, qPrintable(job.lines().join(u'\n')));
-    QCOMPARE(job.files.calls(FaultPlan::Flush).size(), 9 * 2); // overwritten, and cut
+    QCOMPARE(job.files.calls(FaultPlan::Flush).size(), 9 * 2); // flushed after each pass and after the cut
     for (const QString &file : std::as_const(files))
         QVERIFY(!QFile::exists(file));
 }
@@ -182,7 +182,7 @@ void tst_FilePool::noMoreThreadsThanOpenFilesAllow_data()
     QTest::newRow("plenty") << 500 << 8;
 }
 
-// A thread of the pool without a descriptor for its event loop would end the process here.
+// A pool thread without a descriptor for its event loop would end the process here.
 void tst_FilePool::noMoreThreadsThanOpenFilesAllow()
 {
 #ifdef Q_OS_LINUX
@@ -191,7 +191,7 @@ void tst_FilePool::noMoreThreadsThanOpenFilesAllow()
     rlimit before = {};
     QCOMPARE(::getrlimit(RLIMIT_NOFILE, &before), 0);
     rlimit tight = before;
-    // The lowest free number is the count of those in use, as long as there is no gap.
+    // Without gaps the lowest free number is the count of open files.
     for (tight.rlim_cur = 3;; ++tight.rlim_cur) {
         QVERIFY(::setrlimit(RLIMIT_NOFILE, &tight) == 0);
         if (platform::Platform::current().files().spareOpenFiles() >= spare)

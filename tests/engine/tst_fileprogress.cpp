@@ -9,7 +9,7 @@
 
 namespace {
 
-// Reports at times that the test sets.
+// Progress with a clock that the test sets.
 struct TimedProgress
 {
     qint64 now = 7000;

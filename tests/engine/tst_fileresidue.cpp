@@ -28,7 +28,7 @@ void writeMarkers(const QString &path, qint64 size)
 
 } // namespace
 
-// Files on real file systems, shredded by the real backend; then the raw image is searched.
+// Files on real file systems, shredded by the real backend. The raw image is searched afterwards.
 class tst_FileResidue : public QObject
 {
     Q_OBJECT
@@ -71,7 +71,7 @@ void tst_FileResidue::noMarkerIsLeft()
     writeMarkers(root.filePath(QStringLiteral("single")), 9999);
     QVERIFY(volume.unmount());
     const qint64 before = volume.countInImage(marker());
-    QVERIFY2(before > 150000, qPrintable(QString::number(before))); // the control: all of it is on the medium
+    QVERIFY2(before > 150000, qPrintable(QString::number(before))); // control: all of it is on the medium
     QVERIFY(volume.mount());
 
     WipeTask task;

@@ -18,7 +18,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Files of which a test says what they occupy.
+// Files with allocated sizes set by the test.
 class SparseFiles : public platform::ForwardingFiles
 {
 public:
@@ -39,7 +39,7 @@ public:
     QHash<QString, quint64> devices;
 };
 
-// With so much room, or an error.
+// Folders with the given free space, or an error.
 class FullFolders : public platform::ForwardingFolders
 {
 public:
@@ -49,7 +49,7 @@ public:
     {
         if (available < 0)
             return platform::Status{platform::NotReady, 0, "space"};
-        // What only an administrator may use helps nobody.
+        // The space reserved for the administrator does not count.
         return platform::SpaceInfo{.totalBytes = total, .freeBytes = 1 << 30, .availableBytes = available};
     }
 
@@ -83,7 +83,7 @@ void addName(const QString &file, const QString &name)
 
 } // namespace
 
-// What is known of the files of a job before it begins.
+// The survey of a job's files before it begins.
 class tst_FileSurvey : public QObject
 {
     Q_OBJECT

@@ -55,7 +55,7 @@ void tst_FileSurveyMounts::whatIsMountedInsideIsNeitherCountedNorAskedAbout()
     for (const QString &path : survey.mounted)
         QVERIFY(foreseen.contains(Shortfall{ShortfallKind::EntryNotRemoved, path}));
 
-    // The same in the job.
+    // The job finds the same files.
     QVERIFY(job.run(job.task.files()));
     QCOMPARE(quint64(job.task.report().fileCount), survey.files);
     QCOMPARE(job.task.report().totalBytes, survey.bytes);

@@ -19,7 +19,7 @@ namespace {
 
 const QByteArray Stranger = QByteArrayLiteral("somebody else's");
 
-// A folder and two files are chosen, then the user is asked.
+// A folder and two files are chosen before the user is asked.
 struct Scenario
 {
     FileJob job;
@@ -50,7 +50,7 @@ struct Scenario
 
 } // namespace
 
-// What becomes of targets between the question and the start of the job.
+// Changes of targets between the confirmation and the start of the job.
 class tst_FileTargets : public QObject
 {
     Q_OBJECT

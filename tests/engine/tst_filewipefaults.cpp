@@ -45,11 +45,11 @@ constexpr FaultKind faultKinds[] = {
     {"everything", FaultPlan::Every},
 };
 
-// One job over a tree with every kind of file, with faults below it.
+// One job over a tree with every kind of file, with planned faults.
 struct Scenario
 {
     FaultPlan plan;
-    PowerCutFiles drive{platform::Platform::current().files()}; // has groups on every system
+    PowerCutFiles drive{platform::Platform::current().files()}; // supports groups on every system
     FaultyFiles faultyFiles;
     FaultyFolders faultyFolders;
     FileJob job;
@@ -78,7 +78,7 @@ struct Scenario
 
     bool run() { return job.run({folder, single}); }
 
-    // How many files still hold a secret, beside the one outside.
+    // The number of files that still hold a secret, without the one outside.
     int secretsLeft() const
     {
         int secrets = 0;
@@ -161,7 +161,7 @@ void tst_FileWipeFaults::loop(quint32 kinds, platform::ErrorCode error, FaultPla
             QVERIFY2(!QFileInfo::exists(scenario.single), context.constData());
         } else {
             QVERIFY2(scenario.plan.fired() > 0, context.constData());
-            // A failure never goes unsaid.
+            // Every failure is logged.
             const bool isSaid = scenario.job.lines().contains(said::nothingFound) ||
                                 !scenario.job.lines().filter(QStringLiteral("2 擦除完成")).isEmpty();
             QVERIFY2(isSaid, context.constData());

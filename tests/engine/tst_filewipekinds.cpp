@@ -24,7 +24,7 @@ using platform::Status;
 
 namespace {
 
-// Whether a name stands there, be it a link to nothing.
+// Whether an entry exists under the name, a broken link included.
 bool stands(const QString &path)
 {
     struct stat status = {};
@@ -41,7 +41,7 @@ void makeRawFile(const QByteArray &path, const QByteArray &content)
 
 } // namespace
 
-// Links, hard links, pipes, sockets, device nodes, and names that are no text.
+// Links, hard links, pipes, sockets, device nodes, and names that are not valid text.
 class tst_FileWipeKinds : public QObject
 {
     Q_OBJECT
@@ -79,7 +79,7 @@ void tst_FileWipeKinds::aGivenLinkIsRemovedItself()
     QCOMPARE(contentOf(target), QByteArray(100, 'M'));
     for (const FileCall &call : job.files.calls(FaultPlan::Open))
         QCOMPARE(call.path, file);
-    // Renamed first, as everything is.
+    // Links are renamed before the deletion like files.
     QCOMPARE(job.files.calls(FaultPlan::Rename).size(), 2);
 }
 
@@ -146,7 +146,7 @@ void tst_FileWipeKinds::onlyLinksCountAsEmptyFiles()
 
 void tst_FileWipeKinds::aLinkThatTakesTheFilesPlaceIsNotFollowed()
 {
-    // Between the last look and the opening: the moment nobody can exclude.
+    // The file is replaced between the last check and the opening, a gap that cannot be closed.
     FileJob job;
     const QString victim = job.makeFile(QStringLiteral("victim"), 10);
     const QString file = job.makeFile(QStringLiteral("file"), 10);
@@ -230,7 +230,7 @@ void tst_FileWipeKinds::deviceNodesInsideAFolderAreRemovedUnopened()
 {
     FileJob job;
     job.makeFile(QStringLiteral("t/file"), 10);
-    // The null device: even if it were written to, nothing would be lost.
+    // The null device, so that a write would do no damage.
     const QByteArray node = QFile::encodeName(job.path(QStringLiteral("t/node")));
     if (::mknod(node.constData(), S_IFCHR | 0600, makedev(1, 3)) != 0)
         QSKIP("SKIPPED: making a device node needs root");
@@ -271,7 +271,7 @@ void tst_FileWipeKinds::aFileWithOtherNamesIsOverwrittenAndTold()
     QCOMPARE(job.lines(),
              (QStringList{said::scanning, told, said::preparing(1, QStringLiteral("10 B")), said::pass(1, 2),
                           said::pass(2, 2), said::deleting, said::allDone(1), said::succeeded}));
-    // The other names stay; the content that they share is gone.
+    // The other names stay, but their shared content is gone.
     QCOMPARE(contentOf(job.path(QStringLiteral("second"))), QByteArray());
 }
 
@@ -302,7 +302,7 @@ void tst_FileWipeKinds::namesThatAreNoTextAreWiped()
         }
         return Status();
     };
-    // Latin-1, a cut UTF-8 sequence, an encoded surrogate, a folder too.
+    // Latin-1, a cut UTF-8 sequence and an encoded surrogate, in names of files and of a folder.
     makeRawFile(folder + "caf\xe9", QByteArray(10, 'M'));
     makeRawFile(folder + "\xe4\xb8", QByteArray(10, 'M'));
     makeRawFile(folder + "\xed\xb3\xa9", QByteArray(10, 'M'));

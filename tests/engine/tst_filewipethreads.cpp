@@ -24,7 +24,7 @@
 using platform::OpenMode;
 using platform::Status;
 
-// The pool, stopping from outside, and the thread that the engine gives the worker.
+// The pool, stops from other threads, and the thread that the engine gives the worker.
 class tst_FileWipeThreads : public QObject
 {
     Q_OBJECT
@@ -124,10 +124,10 @@ void tst_FileWipeThreads::neverMoreFilesAtOnceThanThreads()
             onWorkersThread = onWorkersThread || QThread::currentThread() == workersThread;
             most = std::max(most, ++inside);
             arrived.wakeAll();
-            // The other thread may be late.
+            // The second thread may start late.
             for (const QDeadlineTimer patience(60'000); most < 2 && arrived.wait(&mutex, patience);) {
             }
-            arrived.wait(&mutex, QDeadlineTimer(1)); // for a third one, which must not come
+            arrived.wait(&mutex, QDeadlineTimer(1)); // time for a third thread, which must not come
         } else if (call.kind == FaultPlan::Flush && call.mode == OpenMode::Overwrite) {
             --inside;
         }
@@ -143,7 +143,7 @@ void tst_FileWipeThreads::neverMoreFilesAtOnceThanThreads()
 
 void tst_FileWipeThreads::aBatchWaitsForTheOneBefore()
 {
-    // Two threads make batches of four: the fifth file waits for the slow fourth one, although a thread is
+    // Two threads make batches of four, so the fifth file waits for the slow fourth one, although a thread is
     // free.
     FileJob job;
     job.task.setThreadCount(2);
@@ -167,7 +167,7 @@ void tst_FileWipeThreads::aBatchWaitsForTheOneBefore()
     QCOMPARE(flushedAtFifth.load(), 4);
 }
 
-// Twice as many files as threads: one thread does the other three meanwhile.
+// There are twice as many files as threads, and one thread processes the other three meanwhile.
 void tst_FileWipeThreads::aSlowFileDoesNotHoldUpItsBatch()
 {
     FileJob job;
@@ -280,7 +280,7 @@ void tst_FileWipeThreads::aStopWhileSizesAreAddedUp()
 
 void tst_FileWipeThreads::aStopBetweenTwoBatches()
 {
-    // Of a batch of two, the second file has no byte left to write when the stop comes: both succeed.
+    // The second file of a batch of two has no byte left to write when the stop comes, so both succeed.
     FileJob job;
     QStringList files;
     for (int i = 0; i < 4; ++i)
@@ -332,7 +332,7 @@ void tst_FileWipeThreads::aStopEndsTheFileAfterTheChunk()
     };
     QVERIFY(!job.run({file}));
     QCOMPARE(writes, 2);
-    // What was written is flushed before the file is left.
+    // The written data is flushed before the file is closed.
     QCOMPARE(job.files.calls(FaultPlan::Flush).size(), 1);
     QCOMPARE(job.lines(),
              (QStringList{said::scanning, said::preparing(1, QStringLiteral("4.00 MB")), said::pass(1, 1),
@@ -385,7 +385,7 @@ void tst_FileWipeThreads::aStopAfterThePasses()
     QVERIFY(!job.run({job.path(QStringLiteral("t"))}));
     QVERIFY(!job.lines().contains(said::deleting));
     QCOMPARE(job.lines().mid(job.lines().size() - 2), (QStringList{said::cancelled, said::failed}));
-    // Without a deletion stage the folder stays too.
+    // Without the deletion stage the folder stays too.
     QCOMPARE(contentOf(file), QByteArray(10, '\0'));
 }
 
@@ -402,7 +402,7 @@ void tst_FileWipeThreads::aStopDuringTheDeletionStillRemovesTheFolders()
     };
     QVERIFY(!job.run({job.path(QStringLiteral("t"))}));
     QCOMPARE(removals, 5);
-    QCOMPARE(job.files.calls(FaultPlan::Rename).size(), 2); // the others under their own names
+    QCOMPARE(job.files.calls(FaultPlan::Rename).size(), 2); // the others keep their names
     QCOMPARE(job.lines(), (QStringList{said::scanning, said::preparing(5, QStringLiteral("50 B")),
                                        said::pass(1, 1), said::deleting, said::cancelled, said::failed}));
     QVERIFY(QDir(job.path({})).isEmpty());
@@ -493,8 +493,8 @@ void tst_FileWipeThreads::aStopAtAnyCall()
 // ---- The worker's thread
 
 namespace {
-// A worker and a thread of its own, as the engine has them: no parent, deleted when the thread ends. However
-// the test ends, the worker is stopped and its thread waited for.
+// A worker and its thread as the engine has them: without a parent, and deleted when the thread ends. The
+// destructor stops the worker and waits for its thread, however the test ends.
 class ThreadedWorker
 {
 public:
@@ -563,7 +563,7 @@ void tst_FileWipeThreads::isStoppedInItsThread()
     for (int i = 0; i < 20; ++i)
         files += job.makeFile(QString::number(i), 10);
     job.task.setFiles(files);
-    // Every write waits until the stop has been asked for.
+    // Every write waits until the stop has been requested.
     std::atomic<bool> writing{false};
     std::atomic<bool> stopped{false};
     job.files.hook = [&](const FileCall &call) {
@@ -576,7 +576,7 @@ void tst_FileWipeThreads::isStoppedInItsThread()
     };
     ThreadedWorker threaded(&job.task);
     job.said.attach(*threaded.worker);
-    // Nobody waits for a write that did not come.
+    // Wakes the test when no write came.
     connect(
         threaded.worker, &BaseWipeWorker::finished, this,
         [&writing] {
@@ -593,7 +593,7 @@ void tst_FileWipeThreads::isStoppedInItsThread()
     QVERIFY(threaded.thread.wait());
     QCOMPARE(job.said.finishedCount(), 1);
     QVERIFY(!job.said.succeeded());
-    // Two were being written when it came; no other one was touched.
+    // Two files were being written at the stop; no other file was touched.
     QVERIFY(!job.files.calls(FaultPlan::Write).isEmpty());
     QVERIFY(job.files.calls(FaultPlan::Write).size() <= 2);
     int untouched = 0;

@@ -43,7 +43,7 @@ PassPattern verified(PatternType type, quint8 value = 0)
     return {type, value, true};
 }
 
-// Answers a chosen transfer in its own way.
+// Answers one chosen transfer by a function of the test.
 class OddHandle : public platform::ForwardingFileHandle
 {
 public:
@@ -77,7 +77,7 @@ void setTransfers(FileJob &job, OddHandle::Write write, OddHandle::Read read = {
     };
 }
 
-// What a file held at the end of each pass, and right before it was cut.
+// The content of a file at the end of each pass, and right before it was cut.
 struct Contents
 {
     QList<QByteArray> afterPass;
@@ -95,7 +95,7 @@ struct Contents
     }
 };
 
-// Puts the context before every text that is translated.
+// Puts the context in front of every translated text.
 class ContextTranslator : public QTranslator
 {
 public:
@@ -117,7 +117,7 @@ class tst_FileWipeWorker : public QObject
     Q_OBJECT
 
 private slots:
-    // The order of things
+    // Order of the steps
     void aJobSaysEveryStepInOrder();
     void everyPassIsAnnounced();
     void allCallsForOneFileInOrder();
@@ -125,7 +125,7 @@ private slots:
     void pathsWithPlaceholdersAreShownAsTheyAre();
     void controlCharactersInNamesAreNotShown();
 
-    // What is found
+    // Scan
     void emptyFoldersHoldNothingToWipe();
     void missingTargetsHoldNothingToWipe();
     void anEmptyTargetListHoldsNothingToWipe();
@@ -189,7 +189,7 @@ private slots:
     void aFolderThatCannotBeRemovedIsLogged();
     void aFolderThatVanishedNeedsNoRemoval();
 
-    // What could not be looked into
+    // Unreadable folders
     void aFolderThatCannotBeListedFailsTheJob();
     void aFolderThatCannotBeListedKeepsItsTarget();
     void aTargetThatCannotBeLookedAtFailsTheJob();
@@ -202,7 +202,7 @@ private slots:
     void progressRunsAheadInLaterPasses();
 };
 
-// ---- The order of things
+// ---- Order of the steps
 
 void tst_FileWipeWorker::aJobSaysEveryStepInOrder()
 {
@@ -326,7 +326,7 @@ void tst_FileWipeWorker::controlCharactersInNamesAreNotShown()
              qPrintable(job.lines().join(QLatin1Char('\n'))));
 }
 
-// ---- What is found
+// ---- Scan
 
 void tst_FileWipeWorker::emptyFoldersHoldNothingToWipe()
 {
@@ -597,7 +597,7 @@ void tst_FileWipeWorker::complementPassesInvertTheBuffer()
     Contents contents;
     contents.watch(job);
     QVERIFY(job.run({job.makeFile(QStringLiteral("a"), 2 * MiB)}));
-    // A new buffer is zeros, and is inverted at every chunk.
+    // A new buffer holds zeros and is inverted at every chunk.
     QCOMPARE(contents.afterPass, QList<QByteArray>{QByteArray(MiB, '\xFF') + QByteArray(MiB, '\0')});
 }
 
@@ -631,7 +631,7 @@ void tst_FileWipeWorker::aReadOnlyFileIsWiped()
     FileJob job;
     const QString file = job.makeFile(QStringLiteral("a"), 10);
     QVERIFY(QFile::setPermissions(file, QFileDevice::ReadOwner));
-    // Root writes to such a file all the same: the permission itself shows that it was given.
+    // Root can write to such a file anyway, so the permissions at the opening are checked instead.
     std::optional<QFileDevice::Permissions> atOpening;
     job.files.hook = [&atOpening](const FileCall &call) {
         if (call.kind == FaultPlan::Open && call.mode == OpenMode::Overwrite)
@@ -664,7 +664,7 @@ void tst_FileWipeWorker::shortWritesAreContinued()
 
 namespace {
 
-// The lines of a job over one file of 10 bytes whose first pass failed.
+// The log of a job over one file of 10 bytes whose first pass failed.
 QStringList failedFirstPass(const QStringList &why, int passes = 1)
 {
     return QStringList{said::scanning, said::preparing(1, QStringLiteral("10 B")), said::pass(1, passes)} +
@@ -779,7 +779,7 @@ void tst_FileWipeWorker::sizesThatCannotBeToldAreNotTakenForEmpty()
     int looks = 0;
     const auto watch = job.files.hook;
     job.files.hook = [&looks, watch](const FileCall &call) {
-        // The first look is the scan's, the second one adds up the sizes.
+        // The first query belongs to the scan, the second one to the sum of the sizes.
         if (call.kind == FaultPlan::Info && ++looks == 2)
             return failure(1117);
         return watch(call);
@@ -817,7 +817,7 @@ void tst_FileWipeWorker::oneFailedFileKeepsAllFilesAndEndsThePasses()
     for (const QString &file : files)
         QCOMPARE(QFileInfo(file).size(), 10);
     QCOMPARE(contentOf(files[1]), QByteArray(10, '\xFF'));
-    // The other files of that pass were written nevertheless.
+    // The other files of that pass were still written.
     for (const int i : {0, 2, 3, 4})
         QVERIFY(contentOf(files[i]) != QByteArray(10, '\xFF'));
     QVERIFY(job.files.opened(OpenMode::Truncate).isEmpty());
@@ -881,7 +881,7 @@ void tst_FileWipeWorker::noBufferForAFile()
     QCOMPARE(getrlimit(RLIMIT_AS, &before), 0);
     const QThread *const workerThread = QThread::currentThread();
     job.files.hook = [&](const FileCall &call) {
-        // The last call before the buffer is made. What the heap has already got stays usable.
+        // The last call before the buffer is allocated. Memory that the heap already has stays usable.
         if (call.kind == FaultPlan::Info && QThread::currentThread() != workerThread) {
             rlimit none = before;
             none.rlim_cur = 1;
@@ -908,7 +908,7 @@ void tst_FileWipeWorker::noBufferForAFile()
 void tst_FileWipeWorker::samplesAreReadWithinTheFile_data()
 {
     QTest::addColumn<qint64>("size");
-    QTest::addColumn<qint64>("end"); // offsets lie below
+    QTest::addColumn<qint64>("end"); // offsets are below this
     QTest::newRow("1 byte") << qint64(1) << qint64(1);
     QTest::newRow("1023 bytes") << qint64(1023) << qint64(1);
     QTest::newRow("1024 bytes") << qint64(1024) << qint64(1);
@@ -983,7 +983,7 @@ void tst_FileWipeWorker::aTaskMaySwitchReadingBackOff()
 void tst_FileWipeWorker::bytesThatDifferFailTheFile()
 {
     FileJob job;
-    // A device that accepts the bytes and forgets them.
+    // A device that accepts bytes and drops them.
     setTransfers(job, [](platform::FileHandle &, const void *, qint64 size) {
         return platform::Result<qint64>(size);
     });
@@ -1159,7 +1159,7 @@ void tst_FileWipeWorker::aFolderThatVanishedNeedsNoRemoval()
     QVERIFY(job.lines().filter(QRegularExpression(QStringLiteral("^1 "))).isEmpty());
 }
 
-// ---- What could not be looked into
+// ---- Unreadable folders
 
 void tst_FileWipeWorker::aFolderThatCannotBeListedFailsTheJob()
 {
@@ -1175,7 +1175,7 @@ void tst_FileWipeWorker::aFolderThatCannotBeListedFailsTheJob()
                           said::preparing(1, QStringLiteral("10 B")), said::pass(1, 1), said::deleting,
                           said::someFailed(1), said::failed}));
     QVERIFY(!QFileInfo::exists(seen));
-    // Removed without having been overwritten it would be on the medium, and nobody could wipe it any more.
+    // Deleted without an overwrite, the content would stay on the medium out of reach.
     QCOMPARE(contentOf(unseen), QByteArray(10, 'M'));
 }
 
@@ -1219,7 +1219,7 @@ void tst_FileWipeWorker::theReportCarriesCountAndSize()
     expected.totalBytes = 1'024;
     expected.verificationSampleSize = 6;
     expected.verificationMethod = QStringLiteral("random sampling, 3 samples per file");
-    // Everything else is the engine's to fill.
+    // The engine fills the other fields.
     QCOMPARE(job.task.report(), expected);
 }
 

@@ -30,11 +30,11 @@ Q_DECLARE_METATYPE(LoopMount::FileSystem)
 
 // Free-space jobs on real file systems, judged by the raw image.
 //
-// A job leaves 100 MiB free on purpose, and which blocks these are is up to the file system's allocator. The
-// volumes are laid out so that they are none that held a marker: behind the marker files a filler of 320 MiB
-// is written, and deleted too. It is the largest stretch of free space and the last that was allocated from,
-// so that allocation goes on behind it, comes back to the space of the markers, and only then enters the
-// filler's, part of which stays over.
+// A job leaves 100 MiB free on purpose, and the file system's allocator chooses these blocks. The layout of
+// the volumes keeps the markers out of them: a filler of 320 MiB is written behind the marker files, and
+// deleted too. It is the largest stretch of free space and the last that was allocated. So the allocation
+// continues behind it, returns to the space of the markers, and only then enters the space of the filler,
+// part of which stays free.
 class tst_FreeSpaceResidue : public QObject
 {
     Q_OBJECT
@@ -76,8 +76,8 @@ public:
             m_marker.append(static_cast<char>(m_random.generate() | 0x80));
     }
 
-    // Files that stay, then those to be deleted, one after the other. The outer ones of these carry no
-    // marker: the blocks at either end of the space that they give back may be too few for another chunk.
+    // Creates the files that stay, then those to be deleted, one after the other. The outermost of the latter
+    // carry no marker, because the blocks at either end of their space may be too few for another chunk.
     void populate()
     {
         for (int i = 0; i < KeptFiles; ++i)
@@ -86,7 +86,7 @@ public:
             addDeleted(2048, i >= MarginFiles && i < DeletedFiles - MarginFiles);
         writeFiller();
     }
-    // Files of all sizes that stay and that are deleted, side by side.
+    // Creates files of all sizes that stay and that are deleted, side by side.
     void populateMixed()
     {
         for (int i = 0; i < 300; ++i) {
@@ -102,7 +102,7 @@ public:
                            [](const QString &file) { return QFile::remove(file); });
     }
 
-    // Ext4 keeps up to 16 MiB for its own records, as free space that no file can have.
+    // Ext4 reserves up to 16 MiB for its own records, as free space that files cannot use.
     bool holdNothingBack() const
     {
         QFile reserved(u"/sys/fs/ext4/%1/reserved_clusters"_s.arg(QFileInfo(mount.device()).fileName()));
@@ -162,8 +162,8 @@ public:
     LoopMount mount;
 };
 
-// Shows the reserve as room above what there is, so that nothing is held back and every free block is filled,
-// whatever the allocator's order.
+// Reports the reserve on top of the real free space, so that every free block is filled, whatever the
+// allocator's order.
 class WholeSpaceFolder : public platform::ForwardingAnchoredFolder
 {
 public:
@@ -256,7 +256,7 @@ void tst_FreeSpaceResidue::deletedDataIsGone()
     const QStringList lines = job.record.lines();
     QVERIFY2(lines.last() == u"finished true"_s, qPrintable(lines.join(u'\n')));
     QCOMPARE(lines.filter(QRegularExpression(u"^[12] "_s)), QStringList());
-    // All but the reserve, to a few blocks that the file system needs for the fill files themselves.
+    // All but the reserve, minus a few blocks that the file system needs for the fill files themselves.
     const auto wiped = static_cast<qint64>(job.task.report().wipedSectors) * 512;
     QVERIFY2(wiped > free - 100 * MiB - 4 * MiB && wiped <= free - 100 * MiB, qPrintable(lines.join(u'\n')));
     QCOMPARE(volume.entries().filter(u".quorvex_temp_"_s).size(), 1);
@@ -272,9 +272,9 @@ void tst_FreeSpaceResidue::deletedDataBetweenFilesIsGone()
     if (const QString reason = LoopMount::unavailableReason(LoopMount::Ext4); !reason.isEmpty())
         QSKIP(qPrintable(reason));
     QTemporaryDir folder;
-    // With a journal, a block that records where a fill file lies may be given back before it was ever
-    // written in its place, and keeps what it held before: up to a block or two of a space as scattered as
-    // this.
+    // With a journal, a block that records the place of a fill file may be released before it was ever
+    // written in its place. It then keeps its old content. In free space as scattered as this, one or two
+    // blocks are affected.
     Volume volume(folder.path(), LoopMount::Ext4, m_seed, {u"-O"_s, u"^has_journal"_s});
     QVERIFY2(volume.mount.isReady(), qPrintable(volume.mount.error()));
     QVERIFY(volume.holdNothingBack());

@@ -22,7 +22,7 @@ using namespace Qt::StringLiterals;
 
 Q_DECLARE_METATYPE(LoopMount::FileSystem)
 
-// Free-space jobs on mounted volumes that change under them.
+// Free-space jobs on mounted volumes that change during the job.
 class tst_FreeSpaceVolumes : public QObject
 {
     Q_OBJECT
@@ -41,7 +41,7 @@ namespace {
 
 constexpr qint64 MiB = 1'048'576;
 
-// As the lists of both programs have it.
+// The record as the lists of both programs contain it.
 PartitionInfo recordOf(const LoopMount &volume)
 {
     PartitionInfo partition;
@@ -113,7 +113,7 @@ void tst_FreeSpaceVolumes::aFolderSwappedForALinkIsNotFollowed()
     QVERIFY(swapped);
     QVERIFY2(!job.succeeded(), qPrintable(job.record.lines().join(u'\n')));
     QCOMPARE(contentOf(precious), QByteArray("stays"));
-    // Nothing of the job is left, wherever the folder went.
+    // The job leaves nothing behind, wherever the folder was moved.
     QCOMPARE(entriesOf(moved), QStringList());
 }
 
@@ -125,7 +125,7 @@ void tst_FreeSpaceVolumes::anotherVolumeInItsPlaceIsNotFilled_data()
     QTest::newRow("btrfs") << LoopMount::Btrfs;
 }
 
-// On the same device and the same mount point, so that no number of either tells them apart.
+// The other volume has the same device and mount point, so that neither number distinguishes them.
 void tst_FreeSpaceVolumes::anotherVolumeInItsPlaceIsNotFilled()
 {
     QFETCH(const LoopMount::FileSystem, fileSystem);
@@ -141,7 +141,7 @@ void tst_FreeSpaceVolumes::anotherVolumeInItsPlaceIsNotFilled()
     QCOMPARE(engine.makeReady(), QString());
 
     QVERIFY2(volume.unmount(), qPrintable(volume.error()));
-    // The first one comes back: still the chosen one.
+    // The first volume is mounted again and counts as the chosen one.
     QVERIFY2(volume.mount(), qPrintable(volume.error()));
     QCOMPARE(engine.makeReady(), QString());
 
@@ -174,12 +174,12 @@ void tst_FreeSpaceVolumes::aVolumeWithoutFreeInodesIsNotDone()
         QVERIFY(made < 10'000);
     } while (last.open(QIODevice::WriteOnly | QIODevice::NewOnly));
 
-    // None for the folder: the job fails.
+    // No file number is left for the folder, so the job fails.
     Job none(volume);
     none.worker.process();
     QVERIFY(!none.succeeded());
 
-    // One, for the folder: there is none for a fill file.
+    // One file number is left, which the folder takes; none is left for a fill file.
     QVERIFY(QFile::remove(volume.mountPoint() + u"/0"_s));
     Job one(volume);
     one.worker.process();
@@ -225,7 +225,7 @@ void tst_FreeSpaceVolumes::aSecondJobOnAVolumeIsRefused()
     QCOMPARE(after, before);
     QVERIFY2(first.succeeded(), qPrintable(first.record.lines().join(u'\n')));
 
-    // The folder that the first one leaves is nobody's any more.
+    // The first job has released its folder.
     QVERIFY(!temporaryFolder(volume).isEmpty());
     QCOMPARE(FreeSpaceWipeWorker::obstacleOf(second.task), QString());
 }

@@ -17,7 +17,7 @@ using namespace Qt::StringLiterals;
 
 Q_DECLARE_METATYPE(platform::ErrorCode)
 
-// What goes wrong in a free-space job, and what it leaves.
+// Failures during a free-space job, and the files they leave.
 class tst_FreeSpaceWipeFaults : public QObject
 {
     Q_OBJECT
@@ -69,7 +69,7 @@ private slots:
     void unmountedVolumeIsNotReplacedByItsParent();
     void temporaryFolderTakenAwayEndsTheJob();
 
-    // What an earlier job left.
+    // Left-overs of an earlier job.
     void fillFilesOfACrashAreRemovedFirst();
     void leftOverFilesThatCannotBeRemovedAreNotAnnounced();
     void nothingElseOfALeftOverIsTouched();
@@ -96,7 +96,7 @@ namespace {
 const QString Root = u"/media/data/"_s;
 constexpr qint64 UserBytes = 12345;
 
-// A volume with a user's files and what is left of another job's folder.
+// A volume with a user's files and the left-overs of another job's folder.
 void furnish(MemoryVolume &volume, qint64 freeBytes)
 {
     volume.freeBytes[Root] = freeBytes;
@@ -127,8 +127,7 @@ void prepare(Job &job)
     job.setPasses({{PatternType::Zeros}, {PatternType::Random}});
 }
 
-// Whether a call that fails with an I/O error means that something was not overwritten, or that the volume is
-// gone.
+// Whether an I/O error of the call means that data was not overwritten, or that the volume is gone.
 bool mattersToTheResult(FaultPlan::Kind kind, const QString &path)
 {
     const bool isResidue = path.contains(u"/mft_clean"_s) || path.contains(u"/dir_clean"_s);
@@ -147,7 +146,7 @@ bool mattersToTheResult(FaultPlan::Kind kind, const QString &path)
     }
 }
 
-// The temporary folder is made twice, the second time for the residue steps alone.
+// The temporary folder is created twice, the second time for the residue steps only.
 bool isOfTheResidue(quint32 kind, const Job &job)
 {
     return kind == FaultPlan::CreateFolder && job.logged(u"正在清理文件系统残留..."_s, 0);
@@ -193,7 +192,7 @@ void addKinds()
         QTest::newRow(nameOf(kind)) << static_cast<quint32>(kind);
 }
 
-// The thousand record files fail one like the other: every 40th of them is enough.
+// The thousand record files fail alike, so every 40th of them is enough.
 int nextCall(int call, const MemoryVolume &volume)
 {
     const bool inResidue = !volume.faulted.isEmpty() && volume.faulted.last().contains(u"_clean/"_s);
@@ -240,7 +239,7 @@ void tst_FreeSpaceWipeFaults::faultLoop()
         }
         ++fired;
         const QString path = machine.volume.faulted.first();
-        // The very first look at the free space only serves the wait for that of left-overs.
+        // The first query of the free space only serves the wait for the space of left-overs.
         const bool matters = mattersToTheResult(static_cast<FaultPlan::Kind>(kind), path) &&
                              !(kind == FaultPlan::Space && call == 1) && !isOfTheResidue(kind, job);
         QVERIFY2(job.finished.first() == !matters, where);
@@ -298,7 +297,7 @@ void tst_FreeSpaceWipeFaults::outOfMemoryLoop()
         int calls = 0;
         bool thrown = false;
         machine.volume.onCall = [&](FaultPlan::Kind kind, const QString &) {
-            // Cleaning up runs without memory to spare, or not at all.
+            // The clean-up runs without spare memory, or not at all.
             const bool cleansUp =
                 kind == FaultPlan::Remove || kind == FaultPlan::RemoveFolder || kind == FaultPlan::RemoveTree;
             if (cleansUp || ++calls != call)
@@ -340,7 +339,8 @@ void tst_FreeSpaceWipeFaults::fullVolumeEndsTheFileOnly()
 {
     QFETCH(const quint32, kind);
     QFETCH(const platform::ErrorCode, error);
-    // The third chunk of the first file does not go in: that file has its buffer, so another one follows.
+    // The third chunk of the first file is refused. That file already has a whole buffer, so another file
+    // follows.
     Machine machine;
     furnish(machine.volume, Reserve + 5 * MiB);
     FaultPlan plan(kind, 3, error);
@@ -353,7 +353,7 @@ void tst_FreeSpaceWipeFaults::fullVolumeEndsTheFileOnly()
     QCOMPARE(plan.fired(), 1);
     const auto files = closedFillFiles(machine.volume);
     QCOMPARE(files.size(), 2);
-    // A chunk that could not be flushed takes its room, but does not count as written.
+    // A chunk that could not be flushed uses space, but does not count as written.
     const qint64 counted = (kind == FaultPlan::Flush ? 4 : 5) * MiB;
     QVERIFY(job.logged(u"已写入: %1.00 MB"_s.arg(counted / MiB), 0));
     QCOMPARE(job.wipedSectors(), static_cast<quint64>(counted / 512));
@@ -363,7 +363,7 @@ void tst_FreeSpaceWipeFaults::fullVolumeEndsTheFileOnly()
 
 void tst_FreeSpaceWipeFaults::shortWriteIsCountedAndGoneOnFrom()
 {
-    // Room for less than the free bytes promised.
+    // The volume takes less than the free bytes that it reports.
     Machine machine;
     furnish(machine.volume, Reserve + 4 * MiB);
     Job job;
@@ -419,7 +419,7 @@ void tst_FreeSpaceWipeFaults::failedWriteIsNeverASuccess()
     job.run();
     QVERIFY(job.failed());
     QVERIFY(job.logged(u"写入错误，位置: 2097152，错误码: %1"_s.arg(error), 2));
-    // In words where the number alone says little.
+    // Described in words where the number alone says little.
     QString words;
     if (error == platform::NotReady)
         words = u"错误: 设备已断开，或介质已更换"_s;
@@ -498,7 +498,7 @@ void tst_FreeSpaceWipeFaults::fillFileThatCannotBeCreatedOnALostVolumeFails()
     QCOMPARE(job.errors, QStringList{u"填充空闲空间失败"_s});
 }
 
-// The volume goes away in the last pass, and the file's own answer does not say so.
+// The volume vanishes in the last pass, and the error of the file does not show it.
 void tst_FreeSpaceWipeFaults::volumeLostAtTheLastFillFileFails()
 {
     Machine machine;
@@ -519,7 +519,7 @@ void tst_FreeSpaceWipeFaults::volumeLostAtTheLastFillFileFails()
     QCOMPARE(job.errors, QStringList{u"填充空闲空间失败"_s});
 }
 
-// What takes nothing more need not be full.
+// A volume that accepts no more bytes need not be full.
 void tst_FreeSpaceWipeFaults::volumeLostAtTheEndOfAFillFileFails()
 {
     Machine machine;
@@ -602,13 +602,13 @@ void tst_FreeSpaceWipeFaults::fillFileThatIsHeldBetweenPassesIsRemovedAtTheEnd()
     QVERIFY(job.succeeded());
     QCOMPARE(fillFilesLeft(machine.volume), QStringList());
     QVERIFY(!job.task.outcome().has(ShortfallKind::FillFilesLeft));
-    // The second pass filled all but the file of the first, whose name it left alone.
+    // The second pass filled all space but that of the first pass's file, whose name it did not reuse.
     QVERIFY(job.task.outcome().shortfalls().contains(Shortfall{ShortfallKind::RoomLeft, Root, 2 * MiB}));
     QVERIFY(job.logged(u"已写入: 3.00 MB"_s, 0));
     QCOMPARE(job.wipedSectors(), static_cast<quint64>(3 * MiB / 512));
 }
 
-// A quota, or what is kept for the administrator: there is room that this job does not get.
+// A quota or the administrator's reserve leaves free space that the job cannot use.
 void tst_FreeSpaceWipeFaults::roomThatIsNotGivenIsTold()
 {
     Machine machine;
@@ -767,7 +767,7 @@ void tst_FreeSpaceWipeFaults::spaceOfFilesDeletedJustBeforeIsFilledToo()
 
 void tst_FreeSpaceWipeFaults::unfinishedMethodWipedNothing()
 {
-    // The second of two passes never writes: the space has not had the method.
+    // The second of two passes never writes, so the space has not received the method.
     Machine machine;
     furnish(machine.volume, Reserve + 4 * MiB);
     FaultPlan plan(FaultPlan::Write, 5, platform::IoDevice);
@@ -785,7 +785,7 @@ void tst_FreeSpaceWipeFaults::residueThatCannotBeCleanedIsTold()
     furnish(machine.volume, Reserve + 4 * MiB);
     Job job;
     prepare(job);
-    // Somebody fills the volume before the residue steps.
+    // Another program fills the volume before the residue steps.
     machine.volume.onCall = [&](FaultPlan::Kind kind, const QString &path) {
         if (kind == FaultPlan::CreateFolder && path.endsWith(u"/mft_clean"_s))
             machine.volume.freeBytes[Root] = 100;
@@ -827,7 +827,7 @@ void tst_FreeSpaceWipeFaults::volumeThatIsNotMountedAnyMore_data()
 void tst_FreeSpaceWipeFaults::volumeThatIsNotMountedAnyMore()
 {
     QFETCH(const QString, name);
-    // The folder still stands, and the free space under it is the parent volume's.
+    // The folder still exists, and the free space under it belongs to the parent volume.
     Machine machine;
     furnish(machine.volume, 40 * GiB);
     machine.devices.unmounted = QStringList{u"/media/data"_s};
@@ -879,7 +879,7 @@ void tst_FreeSpaceWipeFaults::volumeThatVanishesLoop()
         machine.volume.vanishAtCall(call, error);
         int residueFrom = 0;
         machine.volume.onCall = [&](FaultPlan::Kind kind, const QString &path) {
-            // The temporary folder is made again for the residue steps.
+            // The temporary folder is created again for the residue steps.
             if (kind == FaultPlan::CreateFolder && fillnames::isFolder(path.mid(Root.size())) &&
                 !machine.volume.createdFolders.isEmpty() && residueFrom == 0)
                 residueFrom = machine.volume.calls + 1;
@@ -945,7 +945,7 @@ void tst_FreeSpaceWipeFaults::unmountedVolumeIsNotReplacedByItsParent()
     QVERIFY(job.log.last().text.startsWith(u"卷不再可用，错误码: "_s));
     QVERIFY2(machine.volume.pathsBelow(Root).isEmpty(), "something was made on the other volume");
     QCOMPARE(machine.volume.freeBytes.value(Root), 40 * GiB);
-    // The chunk that was on its way when the volume went.
+    // Only the chunk in transfer when the volume vanished may follow.
     QVERIFY(machine.volume.writes.size() <= writesBefore + (kind == FaultPlan::Write));
 }
 
@@ -1018,7 +1018,7 @@ void tst_FreeSpaceWipeFaults::nothingElseOfALeftOverIsTouched()
     volume.addFolder(folder.chopped(1));
     volume.addFile(folder + u"fill_000000.tmp"_s, 5);
 
-    // In a folder of the right name.
+    // Entries inside a folder with the right name.
     volume.addFile(folder + u"notes.txt"_s, 1);
     volume.addFile(folder + u"fill_00000.tmp"_s, 1);
     volume.addFile(folder + u"fill_000000.tmp.bak"_s, 1);
@@ -1026,7 +1026,7 @@ void tst_FreeSpaceWipeFaults::nothingElseOfALeftOverIsTouched()
     volume.addLink(folder + u"fill_000001.tmp"_s);
     volume.addFolder(folder + u"fill_000002.tmp"_s);
     volume.addFile(folder + u"fill_000002.tmp/fill_000000.tmp"_s, 1);
-    // In places that only resemble one.
+    // Entries in places that only resemble such a folder.
     volume.addLink(Root + u".quorvex_temp_00000000"_s);
     volume.addFile(Root + u".quorvex_temp_11111111"_s, 1);
     for (const QString &name :
@@ -1096,7 +1096,7 @@ void tst_FreeSpaceWipeFaults::residueOfAKilledJobIsRemoved()
         volume.addFile(gone + u"/mft_clean/%1.tmp"_s.arg(i), 256);
     volume.addFolder(gone + u"/dir_clean"_s);
     volume.addFolder(gone + uuid);
-    // The same names with something that no job has made among them.
+    // The same names, with entries that no job creates among them.
     const QString stays = Root + u".quorvex_temp_89abcdef"_s;
     volume.addFolder(stays);
     volume.addFolder(stays + u"/mft_clean"_s);
@@ -1275,7 +1275,7 @@ void tst_FreeSpaceWipeFaults::stopInEveryStage()
     QVERIFY(job.failed());
     QCOMPARE(job.log.last(), (LogLine{u"擦除已取消"_s, 1}));
     QVERIFY(!job.logged(u"空闲空间擦除完成!"_s, 0));
-    // At most the chunk, or the record file, that was on its way.
+    // At most the chunk, or the record file, in transfer.
     QVERIFY(writesAfter <= 1);
     QVERIFY(newAfter <= 1);
     QCOMPARE(machine.volume.openHandles, 0);
@@ -1299,14 +1299,14 @@ void tst_FreeSpaceWipeFaults::stopBetweenVolumesLeavesTheNextAlone()
     QVERIFY(job.failed());
     QVERIFY(compareLogs(job.log.last(2), {{u"正在清理文件系统残留..."_s, 0}, {u"擦除已取消"_s, 1}}));
     QVERIFY(machine.volume.pathsBelow(u"F:/"_s).isEmpty());
-    // The first volume had the whole method.
+    // The first volume received the whole method.
     QCOMPARE(job.wipedSectors(), static_cast<quint64>(MiB / 512));
 }
 
 void tst_FreeSpaceWipeFaults::stopDuringAPauseFailsTheFill()
 {
-    // Whether the worker already waits cannot be seen from outside: a stop that comes too early is one
-    // between two chunks, which is no failure, and the next try waits longer.
+    // The test cannot see whether the worker already waits. A stop that comes too early falls between two
+    // chunks, which is no failure, and the next round waits longer.
     for (int patience = 20; patience <= 5000; patience *= 2) {
         Machine machine;
         furnish(machine.volume, Reserve + 5 * MiB);
@@ -1321,7 +1321,7 @@ void tst_FreeSpaceWipeFaults::stopDuringAPauseFailsTheFill()
         };
         std::thread worker([&] {
             job.run();
-            paused.release(); // nobody waits for a pause that did not come
+            paused.release(); // wakes the test when the pause never came
         });
         paused.acquire();
         QThread::msleep(static_cast<unsigned long>(patience));

@@ -511,8 +511,7 @@ void tst_FreeSpaceWipeWorker::fileBelowOneBufferEndsTheFill()
 {
     Machine machine;
     machine.volume.freeBytes[u"E:/"_s] = Reserve + 5 * MiB;
-    // Room that appears while the last file is being written is left alone: that file received less than one
-    // buffer.
+    // The last file received less than one buffer, so space that appears while it is written is left alone.
     machine.volume.onCall = [&](FaultPlan::Kind kind, const QString &) {
         if (kind == FaultPlan::Flush && machine.volume.writes.size() == 1)
             machine.volume.freeBytes[u"E:/"_s] = Reserve;
@@ -537,7 +536,7 @@ void tst_FreeSpaceWipeWorker::wholeBuffersEndWithTheVolumeFull()
     job.task.setBufferSizeMB(8);
     job.run();
     QVERIFY(job.succeeded());
-    // The file took a whole buffer, so another one is tried, and finds the volume full.
+    // The file took a whole buffer, so another one is tried, and the volume is full.
     QCOMPARE(job.count(u"空闲空间已填满"_s, 0), 1);
     QCOMPARE(closedFillFiles(machine.volume).size(), 1);
 }
@@ -575,7 +574,7 @@ void tst_FreeSpaceWipeWorker::everythingIsFlushedBeforeItIsDeleted()
     QVERIFY(job.succeeded());
     QCOMPARE(machine.volume.removed.size(), 2 + 1000);
     QCOMPARE(machine.volume.removedUnflushed.filter(u"/fill_"_s), QStringList());
-    // One flush commits the records of all: that of the last file, before any is deleted.
+    // One flush commits all records, that of the last file, before any file is deleted.
     QVERIFY(lastRecordIsFlushed);
     QCOMPARE(unflushedChunks, 0);
 }
@@ -610,7 +609,7 @@ void tst_FreeSpaceWipeWorker::randomPassesWriteFreshBytes()
     QSet<QPair<quint8, quint8>> ends;
     for (const auto &write : fillWrites(machine.volume))
         ends.insert({write.first, write.last});
-    // 16 chunks; that 9 of them begin and end with the bytes of another one has odds below 1e-20.
+    // 16 chunks; the odds that 9 of them begin and end with the bytes of another one are below 1e-20.
     QVERIFY(ends.size() > 7);
 }
 
@@ -686,7 +685,7 @@ void tst_FreeSpaceWipeWorker::temporaryFolderIsHiddenAndNamedAtRandom()
         const QString folder = machine.volume.createdFolders.first();
         QVERIFY(name.match(folder).hasMatch());
         names.insert(folder);
-        // Once for the fill, once for the one that the residue steps make again.
+        // Hidden once for the fill, and once when the residue steps create it again.
         QCOMPARE(machine.volume.hidden, (QStringList{folder, folder}));
     }
     QCOMPARE(names.size(), 5);
@@ -701,7 +700,7 @@ void tst_FreeSpaceWipeWorker::fillFileNamesHaveSixDigits()
     QVERIFY(!fillnames::isFile(u"fill_0000123.tmp"));
     QVERIFY(!fillnames::isFile(u"fill_00012a.tmp"));
     QVERIFY(!fillnames::isFile(u"fill_+00123.tmp"));
-    QVERIFY(!fillnames::isFile(u"fill_٠٠٠١٢٣.tmp")); // digits, but not these
+    QVERIFY(!fillnames::isFile(u"fill_٠٠٠١٢٣.tmp")); // other digits than ASCII
     QVERIFY(!fillnames::isFile(u"Fill_000123.tmp"));
     QVERIFY(!fillnames::isFile(u"fill_000123.tmpx"));
     QVERIFY(!fillnames::isFile(u"fill_000123.TMP"));
@@ -747,7 +746,7 @@ void tst_FreeSpaceWipeWorker::recordFilesAndFoldersAreMadeAndRemoved()
     QCOMPARE(names.first(), u"0.tmp"_s);
     QCOMPARE(names.at(10), u"10.tmp"_s);
     QCOMPARE(names.last(), u"999.tmp"_s);
-    QVERIFY(bytes.size() > 200); // 2,000 at random
+    QVERIFY(bytes.size() > 200); // 2,000 random bytes
 
     const QStringList folders = machine.volume.createdFolders.filter(folder + u"/dir_clean/"_s);
     QCOMPARE(folders.size(), 100);
@@ -796,7 +795,7 @@ void tst_FreeSpaceWipeWorker::passesAndPercentRestartWithEveryVolume()
     job.run();
     QVERIFY(job.succeeded());
     QCOMPARE(job.passes, (QList<std::pair<int, int>>{{1, 2}, {2, 2}, {1, 2}, {2, 2}}));
-    // Half of the free space is the reserve: each pass goes half of its way.
+    // The reserve is half of the free space, so each pass covers half of its range.
     QCOMPARE(job.percents, (QList<int>{25, 75, 25, 75}));
 }
 
@@ -819,7 +818,7 @@ void tst_FreeSpaceWipeWorker::reportTellsWhatEveryPassFilled()
 {
     Machine machine;
     machine.volume.freeBytes[u"E:/"_s] = Reserve + 10 * MiB;
-    // Somebody else takes 4 MiB between the passes.
+    // Another program takes 4 MiB between the passes.
     int passes = 0;
     Job job;
     QObject::connect(&job.worker, &BaseWipeWorker::passChanged, &job, [&] {
@@ -849,7 +848,7 @@ void tst_FreeSpaceWipeWorker::roomGivenBackMeanwhileIsFilledToo()
 {
     Machine machine;
     machine.volume.freeBytes[u"E:/"_s] = Reserve + 2 * MiB;
-    // Room that somebody else gives back meanwhile is filled too.
+    // Space that another program frees meanwhile is filled too.
     bool given = false;
     machine.volume.onCall = [&](FaultPlan::Kind kind, const QString &) {
         if (kind == FaultPlan::Flush && !std::exchange(given, true))

@@ -13,7 +13,7 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-constexpr int Many = 150; // more than are held at a time
+constexpr int Many = 150; // more than the tree holds at a time
 }
 
 class tst_HeldTree : public QObject
@@ -31,7 +31,7 @@ private slots:
 
 private:
     QString path(const QString &name) const { return m_folder.filePath(name); }
-    // So many folders that none of those before is open any more.
+    // Opens so many folders that all earlier ones are closed.
     void crowdOut(HeldTree &tree)
     {
         const auto top = tree.addTop(path(u"crowd"_s));

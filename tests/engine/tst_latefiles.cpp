@@ -27,12 +27,12 @@ QString appeared(int files)
     return u"1 任务期间又出现 %1 个文件，同样进行擦除"_s.arg(files);
 }
 
-// Two passes over a folder; what is cut is looked at before.
+// Two passes over a folder; the content of each file is recorded before its cut.
 struct Scenario
 {
     FileJob job;
     QString folder = job.path(u"t"_s);
-    QMap<QString, QByteArray> cut; // by the name that the file had
+    QMap<QString, QByteArray> cut; // by the original name
 
     Scenario()
     {
@@ -63,7 +63,7 @@ struct Scenario
 
 } // namespace
 
-// What appears in the folders of a job while it runs.
+// Files that appear in the folders of a running job.
 class tst_LateFiles : public QObject
 {
     Q_OBJECT
@@ -113,7 +113,7 @@ void tst_LateFiles::aFileThatIsRenamed_data()
     QTest::newRow("in the delete stage") << said::deleting;
 }
 
-// It is erased under its other name, and has not vanished.
+// The file is erased under its new name and does not count as vanished.
 void tst_LateFiles::aFileThatIsRenamed()
 {
     QFETCH(QString, line);
@@ -152,7 +152,7 @@ void tst_LateFiles::theCountsStayThoseOfTheScan()
     QCOMPARE(s.job.task.report().totalBytes, quint64(24));
 }
 
-// A report of progress is due at the first byte.
+// A progress report is due at the first byte.
 void tst_LateFiles::lateFilesAreNoPartOfTheProgress()
 {
     Scenario s;
@@ -202,7 +202,7 @@ void tst_LateFiles::aLateFileThatFailsAfterTheDeletionStays()
     QCOMPARE(s.shortfalls(), (QList<Shortfall>{{ShortfallKind::EntryNotRemoved, s.folder}}));
 }
 
-// One more file for every one that is removed.
+// One file is added for every file that is removed.
 void tst_LateFiles::whoeverGoesOnIsNotWaitedFor()
 {
     Scenario s;
@@ -219,7 +219,7 @@ void tst_LateFiles::whoeverGoesOnIsNotWaitedFor()
     QVERIFY(made < 100);
 }
 
-// The name that it got is the job's own.
+// The random name comes from the job itself.
 void tst_LateFiles::aFileThatCannotBeDeletedIsNotFoundAnew()
 {
     Scenario s;
@@ -248,7 +248,7 @@ void tst_LateFiles::aStopLeavesLateFilesStanding()
     QCOMPARE(s.job.lines().last(), said::failed);
 }
 
-// Once on its own and once within another: nothing in it is found anew.
+// The folder is a target itself and inside another target; its files are not found twice.
 void tst_LateFiles::oneFolderGivenTwice()
 {
     Scenario s;
@@ -258,7 +258,7 @@ void tst_LateFiles::oneFolderGivenTwice()
     QVERIFY(s.shortfalls().isEmpty());
 }
 
-// Held no longer by the time it is listed again.
+// The target is no longer held when it is listed again.
 void tst_LateFiles::aTargetThatIsMovedAway()
 {
     Scenario s;

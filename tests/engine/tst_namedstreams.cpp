@@ -23,7 +23,7 @@ platform::Files &machineFiles()
     return platform::Platform::current().files();
 }
 
-// Takes writes and forgets them.
+// Accepts writes and drops them.
 class ForgetfulHandle : public platform::ForwardingFileHandle
 {
 public:
@@ -40,7 +40,7 @@ QList<FileCall> callsOn(const FileJob &job, const QString &path, quint32 kinds)
 
 } // namespace
 
-// What a file holds beside its content is erased with it.
+// Named streams are erased together with the file.
 class tst_NamedStreams : public QObject
 {
     Q_OBJECT
@@ -72,14 +72,14 @@ void tst_NamedStreams::streamsReceiveEveryPass()
     QCOMPARE(contentOf(one), QByteArray(700'000, '\xFF'));
     QCOMPARE(contentOf(two), QByteArray(3, '\xFF'));
     QCOMPARE(callsOn(job, two, FaultPlan::Write | FaultPlan::Flush).size(), 4);
-    // The figures of the report are those of the content.
+    // The figures of the report count the content only.
     QCOMPARE(job.lines(), (QStringList{said::scanning, said::preparing(1, u"10 B"_s), said::pass(1, 2),
                                        said::pass(2, 2), said::deleting, said::allDone(1), said::succeeded}));
     QVERIFY(job.task.outcome().shortfalls().isEmpty());
     QCOMPARE(job.task.outcome().written(), 2 * (10 + 700'000 + 3));
 }
 
-// A report of it is due while a stream is written.
+// A progress report is due while a stream is written.
 void tst_NamedStreams::progressIsThatOfTheContent()
 {
     StreamedFiles files(machineFiles());
@@ -152,7 +152,7 @@ void tst_NamedStreams::aStreamThatCannotBeWritten()
     QVERIFY(QFile::exists(file));
 }
 
-// It goes with the file, which does not wait for it.
+// The stream cannot be overwritten, and is deleted with the file nevertheless.
 void tst_NamedStreams::aStreamThatCannotBeOpened()
 {
     StreamedFiles files(machineFiles());
@@ -201,7 +201,7 @@ void tst_NamedStreams::whereAStreamLies()
              (QList<Shortfall>{{ShortfallKind::ContentElsewhere, stream, 5}}));
 }
 
-// The stream that is opened is not that of the file that was chosen.
+// The opened stream belongs to another file than the chosen one.
 void tst_NamedStreams::anotherFilesStreamsAreLeft()
 {
     StreamedFiles files(machineFiles());

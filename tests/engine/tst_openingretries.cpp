@@ -15,7 +15,7 @@ using platform::Status;
 
 namespace {
 
-// A system that tells programs it does not trust this one number.
+// The folders of a system that tells programs it does not trust by this one number.
 class DistrustfulFolders : public platform::ForwardingFolders
 {
 public:
@@ -23,7 +23,7 @@ public:
     bool mayDistrustProgram(quint32 code) override { return code == platform::AccessDenied; }
 };
 
-// A file of another job's own, which the first openings to overwrite find in use.
+// A job on one file, which the first attempts to open it for overwriting find in use.
 struct HeldFile
 {
     DistrustfulFolders folders{platform::Platform::current().folders()};
@@ -50,7 +50,7 @@ struct HeldFile
 
 } // namespace
 
-// Files that somebody else has open for moments when they are to be overwritten.
+// Files that another program holds for moments when the job opens them.
 class tst_OpeningRetries : public QObject
 {
     Q_OBJECT

@@ -19,7 +19,7 @@ QByteArray filled(PatternGenerator &generator, qint64 size)
     return bytes;
 }
 
-// One 64-bit draw after another, the last one cut off.
+// Single 64-bit draws, the last one cut off.
 QByteArray drawn(QRandomGenerator &generator, qint64 size)
 {
     QByteArray bytes;
@@ -73,7 +73,7 @@ void tst_PatternGenerator::singleDrawsAreThoseOfQtsGenerator()
         const quint32 spread = seed * 2654435761U;
         PatternGenerator ours(spread);
         QRandomGenerator reference(spread);
-        for (int i = 0; i < 1500; ++i) // beyond two blocks of 624
+        for (int i = 0; i < 1500; ++i) // more than two blocks of 624
             QCOMPARE(ours.generate(), reference.generate());
     }
 }

@@ -23,14 +23,14 @@ platform::Files &machineFiles()
     return platform::Platform::current().files();
 }
 
-// To "p/a".
+// Another spelling of "p/a".
 #ifdef Q_OS_WIN
 const QString OtherWay = u"P/a"_s;
 #else
 const QString OtherWay = u"p/sub/../a"_s;
 #endif
 
-// Names in capitals stand for those in small letters.
+// Treats capitals like small letters in names.
 class CaselessFiles : public platform::ForwardingFiles
 {
 public:
@@ -123,7 +123,7 @@ void tst_RepeatedFiles::twoWaysToOneFolder()
     QVERIFY(job.task.outcome().shortfalls().isEmpty());
 }
 
-// Its number says nothing, its folder does.
+// The number of a file with hard links proves no repetition, but its folder does.
 void tst_RepeatedFiles::twoWaysToAHardLink()
 {
     FileJob job;
@@ -162,7 +162,7 @@ void tst_RepeatedFiles::aSurveyCountsThemOnce()
     QCOMPARE(survey.bytes, 20);
 }
 
-// Each of the names has to go.
+// Each name has to be deleted.
 void tst_RepeatedFiles::hardLinksAreSeveralFiles()
 {
     FileJob job;
@@ -175,7 +175,7 @@ void tst_RepeatedFiles::hardLinksAreSeveralFiles()
     QVERIFY(!QFile::exists(two));
 }
 
-// Nobody may take a file for another one and call it erased.
+// A file must not pass for another one and be reported as erased.
 void tst_RepeatedFiles::filesThatShareANumber()
 {
     NumberlessFiles files(machineFiles());
@@ -190,7 +190,7 @@ void tst_RepeatedFiles::filesThatShareANumber()
     QCOMPARE(job.task.outcome().shortfalls(), (QList<Shortfall>{{ShortfallKind::EntryNotRemoved, two}}));
 }
 
-// Under its later name it is not yet dealt with.
+// Under its later name the file has not been processed yet.
 void tst_RepeatedFiles::aFileThatIsRenamedMeanwhile()
 {
     FileJob job;

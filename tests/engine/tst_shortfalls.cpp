@@ -13,7 +13,7 @@
 
 using namespace Qt::StringLiterals;
 
-// What the workers tell the task that their job falls short of, though it succeeds.
+// The shortfalls that workers note for successful jobs.
 class tst_Shortfalls : public QObject
 {
     Q_OBJECT
@@ -54,7 +54,7 @@ private slots:
     void noFreeByte();
     void aDriveWithoutVolumes();
 
-    // Before the job.
+    // Forecast.
     void nothingIsForeseenForAnEmptyDrive();
     void mountedVolumesAreForeseen();
     void aLargeReserveIsForeseen();
@@ -221,7 +221,7 @@ void tst_Shortfalls::aFileThatVanishedBeforeItWasMeasured()
     FileJob job;
     const QString gone = job.makeFile(u"a"_s, 10);
     const QString empty = job.makeFile(u"b"_s, QByteArray());
-    // Seen by the scan, asked for again when it is measured.
+    // Found by the scan; its size is queried again later.
     int asked = 0;
     job.files.hook = [&](const FileCall &call) {
         if (call.kind == FaultPlan::Info && call.path == gone && ++asked == 2)
@@ -353,7 +353,7 @@ void tst_Shortfalls::roomThatIsNotGivenAfterTheFirstChunk()
     freespace::Machine machine;
     freespace::Job job;
     prepare(machine, job, 2000 * MiB);
-    // The second file takes nothing any more.
+    // The second file accepts no more bytes.
     FaultPlan plan(FaultPlan::Write, 2, platform::DiskFull, FaultPlan::FromThenOn);
     machine.volume.setPlan(&plan);
     job.run();
@@ -368,7 +368,7 @@ void tst_Shortfalls::roomLessThanAChunkThatIsNotGiven()
     prepare(machine, job, 2000 * MiB);
     job.task.setBufferSizeMB(64);
     machine.volume.largestFile = 1850 * MiB;
-    // The volume takes all but the last 50 MiB.
+    // The volume accepts all but the last 50 MiB.
     machine.volume.onCall = [&](FaultPlan::Kind kind, const QString &path) {
         if (kind == FaultPlan::Open && path.endsWith(u"/fill_000001.tmp"_s))
             machine.volume.largestFile = 1;

@@ -36,7 +36,7 @@ namespace {
 const QByteArray Secret = QByteArrayLiteral("to be erased ");
 const QByteArray Stranger = QByteArrayLiteral("somebody else's");
 
-// Tells when a folder is listed or removed.
+// Calls the test when a folder is listed or removed.
 class WatchedFolders : public platform::ForwardingFolders
 {
 public:
@@ -59,7 +59,7 @@ public:
     }
 };
 
-// Two passes with verification over a folder with a folder in it, and the same names elsewhere.
+// Two passes with verification over nested folders, with the same names elsewhere.
 struct Scenario
 {
     WatchedFolders folders{platform::Platform::current().folders()};
@@ -71,9 +71,9 @@ struct Scenario
         job.setPasses({{PatternType::Zeros, 0, true}, {PatternType::Ones, 0xFF, true}});
         for (const QString &name : names())
             job.makeFile(u"p/t/"_s + name, Secret + name.toUtf8());
-        makeStrangers(u"p/t"_s); // what is reached when "p" is a link
-        makeStrangers(u"t"_s);   // "t"
-        makeStrangers({});       // "sub"
+        makeStrangers(u"p/t"_s); // reached when "p" is a link
+        makeStrangers(u"t"_s);   // reached when "t" is a link
+        makeStrangers({});       // reached when "sub" is a link
     }
     static QStringList names() { return {u"a"_s, u"sub/b"_s, u"sub/deep/c"_s}; }
 
@@ -85,7 +85,7 @@ struct Scenario
                 job.makeFile(u"victims/"_s + (below.isEmpty() ? u"bare/"_s : below + u'/') + inSub, Stranger);
         }
     }
-    // A link to what has the same names takes the place of one of the folders on the way.
+    // Replaces one folder of the path by a link to a folder with the same names.
     void swap(const QString &folder)
     {
         const QString path = job.path(folder);
@@ -123,7 +123,7 @@ private:
 
 } // namespace
 
-// Folders that somebody moves, replaces or mounts over while a job is at work in them.
+// Folders that another program moves, replaces or mounts over while a job works in them.
 class tst_SwappedFolders : public QObject
 {
     Q_OBJECT
@@ -203,17 +203,17 @@ void tst_SwappedFolders::aLinkTakesAFoldersPlace()
     const bool success = s.job.run({s.target});
     QVERIFY(s.isSwapped);
     QCOMPARE(s.strangersLeft(), s.strangers());
-    // What was not erased is told.
+    // Files that were not erased are reported.
     QVERIFY2(s.secretsLeft() == 0 || !success || !s.shortfalls().isEmpty(),
              qPrintable(s.job.lines().join(u'\n')));
     QCOMPARE(s.job.said.finishedCount(), 1);
 }
 
-// Its files were not chosen; those of the folder that was are found nowhere any more.
+// The new folder's files were not chosen, and the chosen folder cannot be found any more.
 void tst_SwappedFolders::anotherFolderTakesAFoldersPlace()
 {
     Scenario s;
-    for (int i = 0; i < 120; ++i) // more than are held
+    for (int i = 0; i < 120; ++i) // more than the tree holds
         s.job.makeFile(u"p/t/x%1/file"_s.arg(i), Secret);
     s.job.said.onLine = [&](const QString &line) {
         if (line == said::pass(1, 2))
@@ -245,7 +245,8 @@ void tst_SwappedFolders::swappedAllTheTime()
         Scenario s;
         for (int i = 0; i < 20; ++i)
             s.job.makeFile(u"p/t/sub/more%1"_s.arg(i), Secret);
-        // The link stands beside until the job has begun: what the target leads to is asked then.
+        // The link waits under another name until the job has begun, because the destination of a target is
+        // resolved at that time.
         const QByteArray one = platform::encodeName(s.job.path(folder));
         const QByteArray other = one + ".away";
         s.swap(folder);
@@ -287,7 +288,7 @@ void tst_SwappedFolders::moreFoldersThanAreHeld()
     QCOMPARE(job.files.calls(FaultPlan::Rename).size(), 300);
 }
 
-// Deeper than any path that the system takes, with fewer descriptors than levels.
+// Deeper than the longest path of the system, with fewer descriptors than levels.
 void tst_SwappedFolders::aThousandLevels()
 {
     constexpr int Levels = 1000;
@@ -357,7 +358,7 @@ void tst_SwappedFolders::aFileMountedInside()
                                                {ShortfallKind::EntryNotRemoved, s.target}}));
 }
 
-// It was named: its content is meant.
+// The user named the folder, so its content is a target.
 void tst_SwappedFolders::aFolderThatIsMountedItselfIsErased()
 {
     if (::geteuid() != 0)

@@ -40,7 +40,7 @@ struct PlacedFile
         , content("begin of the secret" + stretchOf(Old, 3 * MiB - 19))
     {
         writeThrough(path, content);
-        position = drive.content().indexOf(content.left(19)); // in one piece on a fresh volume
+        position = drive.content().indexOf(content.left(19)); // contiguous on a fresh volume
     }
 
     QString path;
@@ -50,7 +50,7 @@ struct PlacedFile
 
 } // namespace
 
-// Jobs on the files and the free space of volumes whose device really fails.
+// Jobs on the files and the free space of volumes with real device errors.
 class tst_VolumeFaults : public QObject
 {
     Q_OBJECT
@@ -152,7 +152,7 @@ void tst_VolumeFaults::volumeUnmountedBeforeTheFillIsLeftAlone()
     QVERIFY2(!job.success, qPrintable(job.log.join(u'\n')));
     QCOMPARE(job.report.status, WipeStatus::Failed);
     QCOMPARE(job.report.errorMessage, QStringLiteral("卷不再可用，错误码: 2"));
-    // Where it was mounted is a folder of another volume now.
+    // The mount point is a folder of another volume now.
     QCOMPARE(QDir(drive.mountPoint()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
              QStringList());
 }

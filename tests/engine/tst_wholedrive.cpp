@@ -21,9 +21,9 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr qint64 MiB = 1024 * 1024;
-constexpr int Patience = 60'000; // in vain only, in ms
+constexpr int Patience = 60'000; // ms, reached only by failures
 
-// Drive 3 with two volumes and room around them.
+// Drive 3 with two volumes and space around them.
 class Machine
 {
 public:
@@ -44,7 +44,7 @@ private:
     platform::Status before(const DeviceCall &call) { return answer ? answer(call) : platform::Status{}; }
 };
 
-// A job of the engine on that drive, with everything that it said.
+// An engine job on that drive, with all its log lines.
 class EngineJob
 {
 public:
@@ -61,7 +61,7 @@ public:
         makeEngine();
     }
 
-    // True when the job succeeded.
+    // Returns true when the job succeeded.
     bool run()
     {
         QSignalSpy completed(engine.get(), &WipeEngine::completed);
@@ -94,7 +94,7 @@ public:
 
 } // namespace
 
-// Jobs on all of a drive, whose volumes are released before.
+// Whole-drive jobs, whose volumes are released before the start.
 class tst_WholeDrive : public QObject
 {
     Q_OBJECT
@@ -187,7 +187,7 @@ void tst_WholeDrive::aVolumeThatCameBackIsAFailure()
     QCOMPARE(machine.memory.restores(), 1);
 }
 
-// Nobody took it off the drive.
+// The volume was not released before the start.
 void tst_WholeDrive::aVolumeThatWasNotReleasedIsAFailure()
 {
     Machine machine;
@@ -337,7 +337,7 @@ void tst_WholeDrive::aDriveThatDoesNotOpenGivesThemBack()
     QVERIFY(job.log.contains(u"已重新挂载: /a, /b"_s));
 }
 
-// It is open when the job gives up.
+// The drive is open when the job fails.
 void tst_WholeDrive::aDriveThatDoesNotTellItsSizeGivesThemBack()
 {
     Machine machine;
@@ -358,7 +358,7 @@ void tst_WholeDrive::aStopBeforeTheFirstWriteGivesThemBack()
     Machine machine;
     EngineJob job(machine);
     QCOMPARE(job.engine->releaseVolumes(), QString());
-    // The worker is at the drive when the stop comes.
+    // The worker uses the drive when the stop comes.
     machine.answer = [&job](const DeviceCall &call) {
         if (call.method == "geometry"_L1)
             QMetaObject::invokeMethod(job.engine.get(), &WipeEngine::stop, Qt::BlockingQueuedConnection);
@@ -373,7 +373,7 @@ void tst_WholeDrive::aStopBeforeTheFirstWriteGivesThemBack()
     QCOMPARE(job.engine->dismountedVolumes(), QStringList());
 }
 
-// Nobody knows how much of it has reached the medium.
+// The amount that has reached the medium is unknown.
 void tst_WholeDrive::afterTheFirstWriteTheyStayUnmounted()
 {
     Machine machine;
@@ -446,7 +446,7 @@ void tst_WholeDrive::anEmptyDriveGivesThemBack()
     QCOMPARE(machine.memory.restores(), 1);
 }
 
-// To open it alone is refused while somebody holds it, be it this job.
+// Opening the drive exclusively fails while any handle holds it, even one of this job.
 void tst_WholeDrive::theDriveIsOpenedBesideWhatIsHeld()
 {
     for (const bool isReleased : {true, false}) {
@@ -504,7 +504,7 @@ void tst_WholeDrive::aVolumeOverAllOfTheDriveLeavesNothing()
     DiskInfo disk = job.task.disk();
     PartitionInfo partition;
     partition.driveLetter = u"/all"_s;
-    partition.totalBytes = 3 * MiB; // as its file system counts
+    partition.totalBytes = 3 * MiB; // as reported by its file system
     disk.addPartition(partition);
     job.task.setDisk(disk);
     QVERIFY(!foreseeableShortfalls(job.task).hasShortfalls());
@@ -519,7 +519,7 @@ void tst_WholeDrive::whatStaysIsTheRoomOutsideTheVolumes()
     for (const QString &name : {u"/a"_s, u"/b"_s}) {
         PartitionInfo partition;
         partition.driveLetter = name;
-        partition.totalBytes = MiB / 2; // as its file system counts
+        partition.totalBytes = MiB / 2; // as reported by its file system
         disk.addPartition(partition);
     }
     job.task.setDisk(disk);

@@ -122,12 +122,12 @@ void tst_WipeCoverage::overlappingVolumesCountOnce()
 
 void tst_WipeCoverage::volumeOfSeveralExtents()
 {
-    // The second extent of the volume lies before the first on the drive.
+    // The second extent of the volume lies before the first one on the drive.
     const auto extents = onDrive({{50 * KiB, 60 * KiB}, {0, 10 * KiB}});
     WipeCoverage coverage;
     coverage.beginPass();
     coverage.addVolume(0, extents, {20 * KiB, 15 * KiB});
-    coverage.addStretch(0, 5 * KiB); // what the volume has covered of its second extent
+    coverage.addStretch(0, 5 * KiB); // the part of the second extent that the volume has covered
     coverage.endPass();
     QCOMPARE(coverage.bytes(1, DriveSize), 15 * KiB);
 }
@@ -196,7 +196,7 @@ void tst_WipeCoverage::amountsBeyondTheDrive()
 
 void tst_WipeCoverage::lessThanASectorIsRounding()
 {
-    // A partition of an odd number of 512-byte units on a drive of 4096-byte sectors.
+    // A partition with an odd number of 512-byte units on a drive of 4096-byte sectors.
     const auto extents = onDrive({{10 * KiB, 30 * KiB + 512}});
     WipeCoverage coverage;
     coverage.beginPass();

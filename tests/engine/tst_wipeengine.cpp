@@ -31,9 +31,9 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr qint64 MiB = 1024 * 1024;
-constexpr int Patience = 60'000; // in vain only, in ms
+constexpr int Patience = 60'000; // ms, reached only by failures
 
-// A raw device that waits at every write until it is let go.
+// A raw device that blocks every write until it is released.
 class GatedDevice : public platform::ForwardingRawDevice
 {
 public:
@@ -81,10 +81,10 @@ public:
 
     std::atomic<bool> open{false};
     std::atomic<int> waiting{0};
-    std::atomic<int> handles{0}; // open now
+    std::atomic<int> handles{0}; // currently open
 };
 
-// An image drive of its own, as the only drive there is, whose writes can be held up.
+// An image as the only drive, whose writes can be blocked.
 class ImageMachine
 {
 public:
@@ -121,8 +121,8 @@ void makeDiskTask(WipeTask &task, const ImageMachine &machine)
     task.setBufferSizeMB(1);
 }
 
-// A disk job whose first write is held up until it is let go. However a test ends, the job is let go first:
-// the engine waits for it.
+// A disk job whose first write is blocked until it is released. The destructor releases it, however the test
+// ends, because the engine waits for it.
 class GatedJob
 {
 public:
@@ -140,12 +140,12 @@ public:
     bool isDriveOpen() const { return machine.devices.handles > 0; }
     void letGo() { machine.devices.letGo(); }
 
-    // From here on the engine's time is `now`.
+    // From here on the engine's clock shows `now`.
     void stopTheClock()
     {
         engine->setClock([this] { return now; });
     }
-    // What the worker would say.
+    // Sends the worker's signal.
     void reportBytes(qint64 bytes)
     {
         QMetaObject::invokeMethod(&*engine, "onWorkerBytesWritten", Q_ARG(qint64, bytes));
@@ -155,8 +155,8 @@ public:
         QMetaObject::invokeMethod(&*engine, "onWorkerProgress", Q_ARG(double, percent));
     }
 
-    // Stops the engine while the worker is in a write, which ends by itself after the time given, unless
-    // stop() returns before. Whether stop() waited for the worker.
+    // Stops the engine while the worker is in a write. The write ends after the given time, unless stop()
+    // returns before. Returns whether stop() waited for the worker.
     bool stopWaits(std::chrono::milliseconds writeTime)
     {
         std::atomic<bool> returned{false};
@@ -305,7 +305,7 @@ void tst_WipeEngine::aThreadThatTheSystemRefusesIsTold()
     QCOMPARE(messages(errors), QStringList({QStringLiteral("创建工作线程失败")}));
     QVERIFY(!engine.isRunning());
     QCOMPARE(starts.size(), 0);
-    // The next attempt is not in its way.
+    // The failed attempt does not block the next one.
     engine.start();
     QTRY_COMPARE_WITH_TIMEOUT(ends.size(), 1, Patience);
     QCOMPARE(engine.report().status, WipeStatus::Completed);
@@ -455,7 +455,7 @@ void tst_WipeEngine::driveOfTheJobIsInItsReport_data()
 void tst_WipeEngine::driveOfTheJobIsInItsReport()
 {
     QFETCH(int, type);
-    const ImageMachine machine(MiB); // no drive answers under the number
+    const ImageMachine machine(MiB); // no drive has this number
     WipeTask task;
     task.setOperationType(static_cast<OperationType>(type));
     DiskInfo disk;
@@ -475,7 +475,7 @@ void tst_WipeEngine::driveOfTheJobIsInItsReport()
 
 void tst_WipeEngine::totalSectorsCount512ByteUnits()
 {
-    // No drive answers under this number, so the job only gets as far as its report.
+    // No drive has this number, so the job only gets as far as its report.
     const ImageMachine machine(MiB);
     WipeTask task;
     task.setOperationType(PartitionWipe);
@@ -514,7 +514,7 @@ void tst_WipeEngine::freeBytesOfAllVolumesOfADisk()
     task.setOperationType(FreeSpaceWipe);
     DiskInfo disk;
     disk.diskNumber = 31;
-    PartitionInfo partition; // without a letter it is counted but not wiped
+    PartitionInfo partition; // a volume without a letter is counted but not wiped
     partition.freeBytes = 1000;
     disk.addPartition(partition);
     partition.freeBytes = 234;
@@ -578,7 +578,7 @@ void tst_WipeEngine::speedIsOfTheTimeSinceTheLastSample()
     };
     QCOMPARE(sample(1'000'000, 2'000), 500'000.0);
     QCOMPARE(sample(1'100'000, 999), -1.0);
-    // What came since the last sample, not since the beginning or the last report.
+    // Counts the bytes since the last sample, not since the start or the last report.
     QCOMPARE(sample(1'300'000, 501), 200'000.0);
     QCOMPARE(sample(1'300'000, 1'000), 0.0);
     QCOMPARE(sample(1'300'500, 1'250), 400.0);
@@ -663,7 +663,7 @@ void tst_WipeEngine::stopWhenIdle()
     QCOMPARE(lines.size(), 0);
 }
 
-// As when the user presses Ctrl+C while the volumes are unmounted.
+// Simulates Ctrl+C while the volumes are unmounted.
 void tst_WipeEngine::aStopWantedBeforeTheStartTouchesNothing()
 {
     ImageMachine machine(2 * MiB);
@@ -702,7 +702,7 @@ void tst_WipeEngine::stopDuringAJob()
     job.engine->start();
     QTRY_VERIFY_WITH_TIMEOUT(job.isWriting(), Patience);
     order.clear();
-    // The write under way ends only while stop() waits, as a slow device's does.
+    // The current write ends only during stop(), like on a slow device.
     QVERIFY(job.stopWaits(200ms));
     QVERIFY(!job.engine->isRunning());
     QCOMPARE(job.engine->report().status, WipeStatus::Cancelled);
@@ -812,12 +812,12 @@ void tst_WipeEngine::outcomeOfACompleteJob()
     ImageMachine machine(MiB);
     WipeTask task;
     makeDiskTask(task, machine);
-    task.noteShortfall({ShortfallKind::RoomLeft}); // of an earlier run
+    task.noteShortfall({ShortfallKind::RoomLeft}); // from an earlier run
     WipeEngine engine;
     QSignalSpy completed(&engine, &WipeEngine::completed);
     engine.setTask(&task);
     engine.start();
-    QCOMPARE(engine.outcome().outcome(), JobOutcome::Failed); // as long as it has not ended
+    QCOMPARE(engine.outcome().outcome(), JobOutcome::Failed); // until the job has ended
     QTRY_COMPARE_WITH_TIMEOUT(completed.size(), 1, Patience);
     OutcomeRecord expected(JobOutcome::Complete);
     expected.addWritten(MiB);
@@ -837,7 +837,7 @@ void tst_WipeEngine::outcomeOfAJobThatFellShort()
     task.noteShortfall({ShortfallKind::VolumeInUse, QStringLiteral("E:")});
     machine.devices.letGo();
     QTRY_COMPARE_WITH_TIMEOUT(completed.size(), 1, Patience);
-    // The signal and the stored status say that the job did what it does.
+    // The signal and the stored status say that the job ran to its end.
     QCOMPARE(completed[0][0].toBool(), true);
     QCOMPARE(engine.report().status, WipeStatus::Completed);
     QCOMPARE(engine.outcome().outcome(), JobOutcome::Partial);
@@ -879,7 +879,7 @@ void tst_WipeEngine::outcomeOfAStoppedJob()
     engine.stop();
     QCOMPARE(whenStopped, QList{JobOutcome::Cancelled});
     QTRY_COMPARE_WITH_TIMEOUT(completed.size(), 1, Patience);
-    // Which the stored status cannot say any more.
+    // The stored status can no longer show this.
     QCOMPARE(engine.report().status, WipeStatus::Failed);
     QCOMPARE(engine.outcome().outcome(), JobOutcome::Cancelled);
 }
@@ -895,7 +895,7 @@ void tst_WipeEngine::outcomeOfAJobThatWasStoppedTooLate()
     QTRY_VERIFY_WITH_TIMEOUT(machine.devices.waiting > 0, Patience);
     machine.devices.letGo();
     engine.stop();
-    // A worker that was through when it was told to stop has erased everything.
+    // A worker that had finished before the stop has erased everything.
     QMetaObject::invokeMethod(&engine, "onWorkerFinished", Q_ARG(bool, true));
     QCOMPARE(engine.outcome().outcome(), JobOutcome::Complete);
 }

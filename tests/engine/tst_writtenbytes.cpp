@@ -20,11 +20,11 @@ namespace {
 constexpr qint64 KiB = 1024;
 constexpr qint64 MiB = 1024 * KiB;
 constexpr int Passes = 2;
-// What a file system writes for itself meanwhile.
+// Allowance for the file system's own writes.
 constexpr qint64 Journal = 8 * MiB;
 
-// The bytes that the kernel has written to the device so far, the 7th field: whatever its sectors are, it
-// counts units of 512 bytes.
+// The bytes that the kernel has written to the device, from the 7th field. It counts units of 512 bytes,
+// whatever the sector size.
 qint64 bytesOn(const LoopMount &drive)
 {
     ::sync();
@@ -44,7 +44,7 @@ void prepare(WipeTask &task, OperationType type)
 
 } // namespace
 
-// What a job says that it has written, against the count that the kernel keeps of the device.
+// Compares the bytes that a job reports as written with the kernel's count for the device.
 class tst_WrittenBytes : public QObject
 {
     Q_OBJECT
@@ -71,7 +71,7 @@ void tst_WrittenBytes::ofADrive()
     WipeTask task;
     prepare(task, DiskWipe);
     task.setDisk(diskAt(drive.device()));
-    for (int run = 0; run < 2; ++run) { // each run counts anew
+    for (int run = 0; run < 2; ++run) { // each run starts at 0
         const qint64 before = bytesOn(drive);
         QVERIFY(runRealJob(task).success);
         QCOMPARE(bytesOn(drive) - before, Passes * 5 * MiB);

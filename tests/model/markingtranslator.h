@@ -3,7 +3,7 @@
 #include <QCoreApplication>
 #include <QTranslator>
 
-/// Translates every text to "<context>source", so that a test sees which texts are translated, and where.
+/// Translates every text to "<context>source", which shows the translated texts and their contexts.
 class MarkingTranslator : public QTranslator
 {
 public:

@@ -70,7 +70,7 @@ void tst_JobOutcome::everyKindHasANameAndALine()
     QCOMPARE(names.size(), 27);
     QCOMPARE(texts.size(), 27);
     QCOMPARE(allShortfallKinds().last(), ShortfallKind::NoFreeByte);
-    // These words stand in scripts and in databases.
+    // Scripts and databases use these words.
     QCOMPARE(kindName(ShortfallKind::OnlyVolumes), u"only-volumes");
     QCOMPARE(kindName(ShortfallKind::ContentElsewhere), u"content-elsewhere");
     QCOMPARE(kindName(ShortfallKind::NotReadBack), u"not-read-back");
@@ -154,7 +154,7 @@ void tst_JobOutcome::placesBeyondTheMostAreCounted()
     QCOMPARE(record.further(ShortfallKind::EntryVanished), (OutcomeRecord::Further{1, -1}));
     record.note({ShortfallKind::EntryVanished, u"b"_s, 20, -1});
     record.note({ShortfallKind::EntryVanished, u"c"_s, 30, -1});
-    record.note({ShortfallKind::EntryVanished, u"7"_s, 9, -1}); // known
+    record.note({ShortfallKind::EntryVanished, u"7"_s, 9, -1}); // already listed
     QCOMPARE(record.shortfalls().size(), OutcomeRecord::MostPlaces);
     QCOMPARE(record.further(ShortfallKind::EntryVanished), (OutcomeRecord::Further{3, 50}));
     QVERIFY2(record.shortfallLines().constFirst().endsWith(u": 0, 1, 2 and 100 more (158 B)"_s),
@@ -201,7 +201,7 @@ void tst_JobOutcome::whatReachedTheMediumIsToldWhereItDiffers()
 {
     OutcomeRecord record(JobOutcome::Complete);
     QVERIFY(record.written() < 0);
-    QCOMPARE(record.writtenText(0), QString()); // nobody counted
+    QCOMPARE(record.writtenText(0), QString()); // not counted
     QVERIFY(!record.toJson().contains("written"));
     record.addWritten(0);
     QCOMPARE(record.written(), 0);
@@ -304,7 +304,8 @@ void tst_JobOutcome::aForgedCompletenessIsPartial()
 
 void tst_JobOutcome::anyTextIsRead()
 {
-    // Bytes changed at random in what was written: whatever is still read can be written and read again.
+    // Random bytes of a written record are changed. Whatever can still be read must survive writing and
+    // reading again.
     const quint32 seed = QRandomGenerator::global()->generate();
     qInfo("seed %u", seed);
     QRandomGenerator random(seed);
@@ -362,8 +363,8 @@ void tst_JobOutcome::whatATaskLeavesOutMakesItPartial()
 
 void tst_JobOutcome::taskIsSafeAcrossThreads()
 {
-    // Every place is another one, so that all but the first are counted; a count that was not locked loses
-    // some.
+    // Every place is different, so that all but the first are only counted. Without the lock some would be
+    // lost.
     constexpr int writers = 4;
     constexpr int places = 150000;
     WipeTask task;
@@ -404,7 +405,7 @@ void tst_JobOutcome::aSummaryOfSomeKindsTellsHowManyMore()
     record.note({ShortfallKind::RoomLeft});
     record.note({ShortfallKind::LargeReserve});
     record.note({ShortfallKind::LinkTarget});
-    record.note({ShortfallKind::NotReadBack}); // a note, and none of them
+    record.note({ShortfallKind::NotReadBack}); // a note, which is not counted
     const QString first = u"Partly erased: "_s + kindText(ShortfallKind::RoomLeft);
     const QString second = u"; "_s + kindText(ShortfallKind::LargeReserve);
     QCOMPARE(record.summary(1), first + u"; and 2 more"_s);

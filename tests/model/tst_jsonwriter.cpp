@@ -42,7 +42,7 @@ QByteArray compact(const QByteArray &json)
     return writer.raw(json) ? writer.text() : QByteArray();
 }
 
-/// Writes what Qt's own document holds. Qt sorts the keys, so that the two texts are comparable.
+/// Writes the content of Qt's own document. Qt sorts the keys, so that the two texts are comparable.
 void write(JsonWriter &writer, const QJsonValue &value)
 {
     switch (value.type()) {
@@ -411,7 +411,7 @@ void tst_JsonWriter::rawRefusesWhatIsNoDocument()
     JsonWriter writer(Layout::Compact);
     writer.beginObject().key(u"r");
     QVERIFY(!writer.raw(json));
-    writer.nullValue().endObject(); // nothing was written: the key still waits for its value
+    writer.nullValue().endObject(); // nothing was written, so the key still waits for its value
     QCOMPARE(writer.text(), QByteArray(R"({"r":null})"));
 }
 

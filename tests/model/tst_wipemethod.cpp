@@ -10,8 +10,8 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-/// "0" a pass of zeros, "1" of ones, "R" random, two hexadecimal digits for a byte; "v" after it: to be
-/// verified.
+/// "0" for a pass of zeros, "1" for ones, "R" for random, two hexadecimal digits for a byte, followed by "v"
+/// for verification.
 QString passText(const PassPattern &pass)
 {
     QString text;

@@ -24,7 +24,7 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-/// What a report becomes by being written and read back.
+/// The report after it was written and read back.
 WipeReport afterRoundTrip(const WipeReport &report)
 {
     WipeReport expected = report;
@@ -36,7 +36,7 @@ WipeReport afterRoundTrip(const WipeReport &report)
     return expected;
 }
 
-/// What a document without any known key reads as.
+/// The result of a document without any known key.
 WipeReport allMissing()
 {
     WipeReport report;
@@ -56,7 +56,7 @@ QByteArray withValue(const QString &key, const QJsonValue &value)
     return QJsonDocument(object).toJson();
 }
 
-/// A fresh report apart from its certificate id, which differs with every construction.
+/// Compares with a fresh report, except for the certificate id, which differs with every construction.
 void compareFresh(const WipeReport &report)
 {
     WipeReport fresh;
@@ -232,7 +232,7 @@ void tst_WipeReport::everyReportGetsItsOwnCertificateId()
     QSet<QString> ids;
     for (int i = 0; i < 100; ++i)
         ids.insert(WipeReport().certificateId);
-    QVERIFY2(ids.size() > 80, qPrintable(QString::number(ids.size()))); // a few may meet by chance
+    QVERIFY2(ids.size() > 80, qPrintable(QString::number(ids.size()))); // a few may coincide by chance
     const WipeReport report;
     const WipeReport copy = report;
     QCOMPARE(copy.certificateId, report.certificateId);
@@ -622,7 +622,7 @@ void tst_WipeReport::damagedTextNeverBreaksTheReader()
         for (int hit = 0; hit < 3; ++hit)
             text[random.bounded(int(text.size()))] = char(random.bounded(256));
         const WipeReport report = WipeReport::fromJson(text);
-        // Whatever was read can be written and read again without change.
+        // Everything read can be written and read again without change.
         QCOMPARE(WipeReport::fromJson(report.toJson()), report);
     }
 }

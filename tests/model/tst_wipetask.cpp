@@ -34,7 +34,7 @@ bool isValidQuietly(const WipeTask &task)
     return task.isValid();
 }
 
-/// The lines before the checks of a task with the default disk.
+/// The traced lines before the checks of a task with the default disk.
 QStringList traceHead(int type, const QString &letter = QString())
 {
     return {u"=== WipeTask::isValid() ==="_s, u"Operation type: %1"_s.arg(type),
@@ -404,7 +404,7 @@ void tst_WipeTask::fileWipeOfADanglingLink()
 {
     QTemporaryDir folder;
     QVERIFY(folder.isValid());
-    // Windows knows a file as a link only by this ending.
+    // Windows recognises a link file only by this suffix.
     const QString link = folder.filePath(u"link.lnk"_s);
     QVERIFY(QFile::link(folder.filePath(u"gone"_s), link));
     const auto task = taskOfType(FileWipe);
@@ -607,8 +607,8 @@ void tst_WipeTask::updateReportReturnsAValue()
 
 void tst_WipeTask::reportIsSafeAcrossThreads()
 {
-    // Writers keep the first and the last field of the record and a count between them in step; a copy that
-    // was made without the lock shows them out of step, or a string that is no longer there.
+    // The writers keep the first and the last field of the record, and a count between them, in step. A copy
+    // made without the lock would show them out of step, or a deleted string.
     constexpr int writers = 2;
     constexpr int reads = 20000;
     WipeTask task;

@@ -49,7 +49,7 @@ const QString timeFormat = u"yyyy-MM-dd HH:mm:ss.zzz"_s;
 QStringList linesOf(const QString &path)
 {
     QStringList lines = QString::fromUtf8(textOf(path)).split(u'\n');
-    // What follows the last line feed is no line.
+    // The rest after the last line feed is no line.
     lines.removeLast();
     for (QString &line : lines)
         line = line.mid(timeFormat.size() + 3);
@@ -59,7 +59,7 @@ QStringList linesOf(const QString &path)
 QFile::Permissions permissionsOf(const QString &path)
 {
 #ifdef Q_OS_WIN
-    ++qt_ntfs_permission_lookup; // look at the access list, which is slow and thus off
+    ++qt_ntfs_permission_lookup; // checks the access list, which is slow and off by default
 #endif
     const QFile::Permissions permissions = QFile::permissions(path);
 #ifdef Q_OS_WIN
@@ -74,7 +74,7 @@ void useHome(QProcessEnvironment &environment, const QString &home)
     environment.insert(u"XDG_DATA_HOME"_s, home);
 }
 
-// One run of a program that logs, as a process of its own.
+// One run of a logging program in its own process.
 struct Run
 {
     Run(const QString &home, const QStringList &arguments)
@@ -94,7 +94,7 @@ struct Run
     QProcess process;
 };
 
-// Where such a run keeps its data. Windows has one folder for all of them, told by the registry.
+// The data folder of such a run. Windows has one folder for all runs, taken from the registry.
 QString dataFolder(const QString &home)
 {
 #ifdef Q_OS_WIN
@@ -110,7 +110,7 @@ QString defaultLog(const QString &home)
     return dataFolder(home) + u"/quorvex.log"_s;
 }
 
-// What Run starts. The exit codes are chosen so that none is that of a crash or of a sanitizer.
+// The ways a Run ends. The exit codes differ from those of a crash or of a sanitizer.
 enum ChildExit { Done = 0, WrongUse = 41, WrongFolder = 42, Abrupt = 43 };
 
 int logAndEnd(const QStringList &messages)
@@ -135,7 +135,7 @@ int logManyLines(const QStringList &arguments)
 }
 
 #ifdef Q_OS_UNIX
-// A file-size limit stands for a volume without room: a write takes what fits, then nothing.
+// A file-size limit simulates a full volume: a write takes the bytes that fit, then none.
 int logThroughAFullVolume(const QStringList &)
 {
     std::signal(SIGXFSZ, SIG_IGN);
@@ -223,7 +223,7 @@ private:
 
 void tst_AppLog::initTestCase()
 {
-    // The user's own log stays untouched.
+    // The user's own log is not touched.
     QVERIFY2(userdata::isOfTests(), qPrintable(userdata::folder()));
 }
 
@@ -288,7 +288,7 @@ void tst_AppLog::linesAreInTheFileWhenARunVanishes()
 
 void tst_AppLog::withoutAFolderLinesAreStillEchoed()
 {
-    // A file where the folder should be refuses everybody, root included.
+    // A file in the place of the folder stops even root.
     const QString folder = dataFolder(m_dir->path());
     writeFile(folder, {});
     Run run(m_dir->path(), {u"end"_s, u"still here"_s});
@@ -482,7 +482,7 @@ void tst_AppLog::aClosedFileGetsNoMoreLines()
     AppLog::instance().info(u"two"_s);
     QCOMPARE(linesOf(m_path), QStringList{u"[INFO] one"_s});
     QCOMPARE(capture.messages().size(), 2);
-    QVERIFY(QFile::remove(m_path)); // which Windows refuses while it is open
+    QVERIFY(QFile::remove(m_path)); // Windows refuses this while the file is open
     AppLog::instance().setLogFile(m_path);
     AppLog::instance().info(u"three"_s);
     QCOMPARE(linesOf(m_path), QStringList{u"[INFO] three"_s});
@@ -620,7 +620,7 @@ void tst_AppLog::threadsNeverShareALine()
         QCOMPARE(match.captured(2).toInt(), number);
         QCOMPARE(match.captured(3), QString(number % 200, QChar(u'a' + thread)));
     }
-    // Between threads the echo may come in another order; per line there is exactly one.
+    // The order of the echo may differ between threads, but each line has exactly one.
     QStringList echoed = capture.texts();
     echoed.sort();
     written.sort();
@@ -635,7 +635,7 @@ static int runSuite(int argc, char *argv[])
         const QCoreApplication application(argc, argv);
         return runChild(QCoreApplication::arguments().mid(2));
     }
-    // The instance opens its default file at first use: not in the folder of whoever runs the tests.
+    // The instance opens its default file at first use, which must not be in the real user's folder.
     const QTemporaryDir home;
     qputenv("HOME", QFile::encodeName(home.path()));
     userdata::moveTo(home.path());

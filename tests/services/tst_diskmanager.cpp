@@ -21,7 +21,7 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-// The disk of a machine whose only drive is number 1; the system lies elsewhere.
+// The disk of a machine whose only drive is number 1; the system is on another medium.
 DiskInfo onlyDisk(const FakeDrive &drive)
 {
     FakeMachine machine;
@@ -47,7 +47,7 @@ QStringList driveLetters(const QList<PartitionInfo> &partitions)
     return letters;
 }
 
-// A fresh machine in force for the duration of a test, with four drives.
+// A fresh machine with four drives, installed for the duration of a test.
 struct FourDrives
 {
     FakeMachine machine;
@@ -199,7 +199,7 @@ void tst_DiskManager::aDiskCarriesWhatItsDriveAnswers()
     expected.model = u"Ultra \u00b5"_s;
     expected.serialNumber = u"4C53 0001"_s;
     expected.sizeBytes = 1'000'000'001'000;
-    expected.totalSectors = 244'140'625; // the odd 1000 bytes are no sector
+    expected.totalSectors = 244'140'625; // the last 1000 bytes are not a whole sector
     expected.bytesPerSector = 4096;
     expected.diskType = DiskType::USB;
     expected.busType = BusType::USB;
@@ -374,7 +374,7 @@ void tst_DiskManager::aSataSsdLogsBothDetections()
 
 void tst_DiskManager::theKindFollowsFromSeekPenaltyAndTrim_data()
 {
-    // Without a value: the request fails.
+    // Without a value the request fails.
     QTest::addColumn<std::optional<bool>>("seekPenalty");
     QTest::addColumn<std::optional<bool>>("trim");
     QTest::addColumn<DiskType>("type");
@@ -515,7 +515,7 @@ void tst_DiskManager::disk0IsNotListedOnlyBecauseItIsTheLikelyOne()
 
 void tst_DiskManager::aSystemPartitionMarksItsDiskForGood()
 {
-    // The volume shown as the system's lies on another disk than the running system.
+    // The volume listed as the system's lies on another disk than the running system.
     FourDrives pc;
     pc.mount(u"D:"_s, {3});
     pc.mount(u"C:"_s, {1});
@@ -573,7 +573,7 @@ void tst_DiskManager::driveLettersAreKeptAsGiven()
 {
     FourDrives pc;
     pc.mount(u"e:"_s, {2});
-    // What would be removed for showing is needed to open the volume.
+    // A character that the display would replace is needed to open the volume.
     pc.mount(u"/media/\u202Edata"_s, {2});
     QCOMPARE(driveLetters(DiskManager::partitionsForDisk(2)), (QStringList{u"e:"_s, u"/media/\u202Edata"_s}));
 }
@@ -635,7 +635,7 @@ void tst_DiskManager::aVolumeOnTwoDisksIsListedUnderNeither()
 
 void tst_DiskManager::aVolumeMountedInAFolderIsOpenedByItsName()
 {
-    // The volume in C:/mnt/photos lies on drive 3, but the name in front of its root is that of drive 1.
+    // The volume in C:/mnt/photos lies on drive 3, but its root begins with the name of drive 1.
     FourDrives pc;
     FakeVolume volume = FakeVolume::onDrives(u"C:"_s, {1});
     volume.mounted.rootPath = u"C:/mnt/photos/"_s;
@@ -739,7 +739,7 @@ void tst_DiskManager::theSameUnitOnAnotherWayIsASystemDiskToo()
         drive = named(u"A"_s, {}, 1 << 20);
     QCOMPARE(pc.systemDisks(), QList<int>{1});
 
-    // A bridge may tell another model, and its own serial number; it passes the unit's name on.
+    // A bridge may report another model and its own serial number, but passes on the unit's worldwide name.
     pc.devices.drives[0] = named(u"Bridge"_s, u"9"_s, 1 << 20);
     pc.devices.drives[0].worldWideName = u"naa.5000c500a1b2c3d4"_s;
     pc.devices.drives[1].worldWideName = u"naa.5000c500a1b2c3d4"_s;
@@ -792,13 +792,13 @@ void tst_DiskManager::noHandleStaysOpen()
     pc.machine.fakeSession.systemVolumeNames = {u"C:"_s};
     DiskManager::enumerateDisks();
     QCOMPARE(pc.devices.openHandles, 0);
-    // Nor is a drive held while its volumes or a second handle on it are opened.
+    // No drive is held open while its volumes or a second handle on it are opened.
     QCOMPARE(pc.devices.mostOpenHandles, 1);
 }
 
 namespace {
 
-// One of them answers when it is told to.
+// Devices of which one answers only on request.
 class SilentDevices : public platform::ForwardingDevices
 {
 public:
@@ -847,11 +847,11 @@ struct SilentMachine
     Machine machine{devices, pc.machine.session()};
     platform::ScopedPlatform scope{machine};
 
-    // Those that answer have all the time that a busy machine may need.
+    // The answering devices get all the time that a busy machine may need.
     SilentMachine() { limitedquestion::setLimit(std::chrono::seconds(3)); }
     ~SilentMachine() { limitedquestion::setLimit(limitedquestion::DefaultLimit); }
 
-    // Until the late answer is in: nobody else asks the devices meanwhile.
+    // Waits until the late answer has arrived; no other query runs meanwhile.
     void letAnswer(const QString &device)
     {
         devices.answers.release(100);

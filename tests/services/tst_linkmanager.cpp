@@ -20,7 +20,7 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-// For a test that needs only some; the program's catalogue is checked on its own.
+// A partial catalogue; the program's own is checked separately.
 const QByteArray smallCatalogue = "{\"metadata\": {\"version\": \"2.1\", \"last_updated\": \"2026-02-03\","
                                   " \"supported_languages\": [\"en\", \"de\", \"zh_TW\"],"
                                   " \"fallback_language\": \"en\"},"
@@ -131,7 +131,7 @@ private:
         return sources;
     }
 
-    // Takes what openLink() opens and warns with.
+    // Records the addresses and warnings of openLink().
     void watch(LinkManager &links, bool opens)
     {
         links.setBrowser([this, opens](const QUrl &address) {
@@ -523,7 +523,7 @@ void tst_LinkManager::setLanguageRefusesOthers()
 void tst_LinkManager::aSettingThatCannotBeStoredStillApplies()
 {
     LinkManager links(sources(u"en_US"_s));
-    QVERIFY(QDir(m_dir->path()).mkdir(u"settings.ini"_s)); // a folder where the file should be
+    QVERIFY(QDir(m_dir->path()).mkdir(u"settings.ini"_s)); // a folder in the place of the file
     const MessageCapture capture;
     links.setLanguage(u"de"_s);
     QCOMPARE(links.currentLanguage(), u"de"_s);
@@ -547,7 +547,7 @@ void tst_LinkManager::openLinkShowsTheAddressWhenNothingOpensIt()
     LinkManager links(sources(u"de_DE"_s));
     watch(links, false);
     const MessageCapture capture;
-    // Only handed on, never looked into.
+    // The pointer is only passed on, never dereferenced.
     int owner = 0;
     QWidget *const parent = reinterpret_cast<QWidget *>(&owner);
     links.openLink(u"help"_s, u"all"_s, parent);
@@ -649,7 +649,8 @@ void tst_LinkManager::metadataOfAnotherShapeLeavesNoLanguage()
 
 static int runSuite(int argc, char *argv[])
 {
-    // The program's own settings are read by its instance, and never written here; not the user's anyway.
+    // The instance reads the program's own settings. They are never written here, and they are not the
+    // user's.
     const QTemporaryDir home;
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, home.path());
     const QCoreApplication application(argc, argv);

@@ -14,7 +14,7 @@
 
 using namespace Qt::StringLiterals;
 
-// On a folder that stands for what the system tells of its devices.
+// Runs on a folder that stands in for the system's device information.
 class tst_LoopFiles : public QObject
 {
     Q_OBJECT
@@ -65,7 +65,7 @@ void tst_LoopFiles::aFolderThatHoldsItIsTold()
 {
     QCOMPARE(problem(file(u"images"_s)), told());
     QCOMPARE(problem(m_folder->path()), told());
-    // Of a name that only begins alike.
+    // Another name that begins alike.
     QVERIFY(QDir().mkpath(file(u"image"_s)));
     QCOMPARE(problem(file(u"image"_s)), QString());
 }

@@ -41,7 +41,7 @@ using namespace std::chrono_literals;
 namespace {
 constexpr int NoLimit = 1000000;
 
-// What the child process ends with; none is the exit code of a crash or of a sanitizer.
+// The exit codes of the child process; they differ from those of a crash or of a sanitizer.
 enum ChildExit { Done = 0, WrongUse = 41, WrongFolder = 42, NotStored = 43 };
 
 ReportDatabase &database()
@@ -54,7 +54,7 @@ QString databasePath()
     return userdata::folder() + u"/quorvex.db"_s;
 }
 
-// Another program's connection to the file. Made and used on one thread.
+// Another program's connection to the file. Created and used on one thread.
 class OtherProgram
 {
 public:
@@ -99,7 +99,7 @@ public:
         return values;
     }
     QVariant value(const QString &statement) { return column(statement).value(0); }
-    // A row as an older or damaged program would have left it.
+    // Inserts a row as an older or damaged program would have left it.
     bool insertRaw(const QString &id, const QVariant &json)
     {
         return execute(u"INSERT INTO wipe_reports (certificate_id, operation_type, method_name, method_type,"
@@ -112,7 +112,7 @@ private:
     QSqlDatabase m_db;
 };
 
-// A statement on the connection that the database itself uses.
+// Runs a statement on the connection that the database itself uses.
 QVariant onOwnConnection(const QString &statement)
 {
     QSqlQuery query(QSqlDatabase::database());
@@ -129,7 +129,7 @@ WipeReport reportOf(const QString &id, const QDateTime &start = QDateTime(QDate(
     return report;
 }
 
-// What a report comes back as: items and most of the disk are not read.
+// The report after it was stored and read; items and most of the disk are not read.
 WipeReport readBack(const WipeReport &report)
 {
     return WipeReport::fromJson(report.toJson());
@@ -151,7 +151,7 @@ OutcomeRecord partialOutcome()
     return outcome;
 }
 
-// A report whose parts all tell its number, large enough to fill many pages of the file.
+// A report with its number in every part, large enough to fill many pages of the file.
 WipeReport numberedReport(int number)
 {
     WipeReport report = reportOf(u"QVX-%1"_s.arg(number));
@@ -166,7 +166,7 @@ void tell(const QString &word)
     std::fflush(stdout);
 }
 
-// Until it is killed.
+// Stores reports until the process is killed.
 int storeForEver(int number)
 {
     while (true) {
@@ -176,7 +176,7 @@ int storeForEver(int number)
     }
 }
 
-// A transaction that has reached the file with half of what it writes, and does not go on.
+// A transaction that has written half of its data to the file and then waits.
 int stopInTransaction()
 {
     onOwnConnection(u"PRAGMA cache_size = 4"_s);
@@ -186,7 +186,7 @@ int stopInTransaction()
             return NotStored;
     }
     tell(u"within"_s);
-    std::getchar(); // nothing ever comes
+    std::getchar(); // no input ever comes
     return WrongUse;
 }
 
@@ -207,7 +207,7 @@ int runChild(const QStringList &arguments)
     return WrongUse;
 }
 
-// One run of this program as a process of its own, with the same data folder.
+// One run of this program in its own process, with the same data folder.
 class Run
 {
 public:
@@ -225,7 +225,7 @@ public:
     Run(const Run &) = delete;
     Run &operator=(const Run &) = delete;
 
-    // The next line it tells; empty when it ended.
+    // The next line of output; empty when the process has ended.
     QString line()
     {
         while (!m_process.canReadLine()) {
@@ -234,13 +234,11 @@ public:
         }
         return QString::fromLatin1(m_process.readLine()).trimmed();
     }
-    // At once, within whatever it does.
     bool kill()
     {
         m_process.kill();
         return m_process.waitForFinished(60000);
     }
-    // What it had told besides.
     QStringList rest()
     {
         QStringList lines = QString::fromLatin1(m_process.readAllStandardOutput()).split(u'\n');
@@ -260,7 +258,7 @@ private:
     QProcess m_process;
 };
 
-// A small file system in memory in the place of the data folder, for what only a volume of its own shows.
+// A small tmpfs mounted over the data folder, for tests that need a separate volume.
 class TmpfsVolume
 {
 public:
@@ -393,7 +391,7 @@ void tst_ReportDatabase::init()
     m_dir = std::make_unique<QTemporaryDir>();
     QVERIFY(m_dir->isValid());
     userdata::moveTo(m_dir->path());
-    // The user's own reports stay untouched.
+    // The user's own reports are not touched.
     QVERIFY(userdata::isOfTests());
     userdata::clear();
     QVERIFY(!QFileInfo::exists(userdata::folder()));
@@ -579,7 +577,7 @@ void tst_ReportDatabase::numbersOf64BitsStayNumbers()
     QCOMPARE(other.value(row.arg(u"disk_size"_s)), u"integer 9223372036854775807"_s);
     QCOMPARE(other.value(row.arg(u"total_sectors"_s)), u"integer 9223372036854775807"_s);
     QCOMPARE(other.value(row.arg(u"wiped_sectors"_s)), u"integer 9007199254740993"_s);
-    // All bits are there; the column has a sign.
+    // All bits are stored; the column is signed.
     QCOMPARE(other.value(row.arg(u"bytes_written"_s)), u"integer -1"_s);
     const WipeReport back = database().getReport(report.certificateId);
     QCOMPARE(back.bytesWritten, std::numeric_limits<quint64>::max());
@@ -668,7 +666,7 @@ void tst_ReportDatabase::reportsOfOneStartAllAppear()
     QVERIFY(database().initialize());
     for (const QString &id : {u"b"_s, u"a"_s, u"c"_s})
         QVERIFY(database().saveReport(reportOf(id)));
-    // In the order that SQLite gives.
+    // In SQLite's own order.
     OtherProgram other;
     QStringList order;
     for (const QVariant &id :
@@ -715,7 +713,7 @@ void tst_ReportDatabase::theBytesOfADeletedReportLeaveTheFile()
     const auto markers = [] { return contentOf(databasePath()).count("7f3a-marker"); };
     QVERIFY(database().saveReport(report));
     QVERIFY(database().saveReport(reportOf(u"two"_s)));
-    QVERIFY(markers() >= 9000); // in a column and in the JSON text, but for those across two pages
+    QVERIFY(markers() >= 9000); // in a column and in the JSON text, except those across two pages
     QVERIFY(database().deleteReport(u"one"_s));
     QCOMPARE(markers(), 0);
     QCOMPARE(QDir(userdata::folder()).entryList(QDir::Files), QStringList{u"quorvex.db"_s});
@@ -745,7 +743,7 @@ void tst_ReportDatabase::theAnnexStandsBesideTheRecord()
     QCOMPARE(other.value(u"SELECT schema_version FROM report_annex"_s).toInt(), 1);
     QCOMPARE(other.value(u"SELECT annex_json FROM report_annex"_s).toString().toUtf8(),
              partialOutcome().toJson());
-    // The record is byte for byte what it is without.
+    // The stored report is byte for byte the same as without an outcome.
     QCOMPARE(other.value(u"SELECT report_json FROM wipe_reports"_s).toString().toUtf8(),
              reportOf(u"one"_s).toJson());
 }
@@ -756,7 +754,7 @@ void tst_ReportDatabase::anOutcomeIsReplacedWithItsReport()
     QVERIFY(database().saveReport(reportOf(u"one"_s), partialOutcome()));
     QVERIFY(database().saveReport(reportOf(u"one"_s), OutcomeRecord(JobOutcome::Cancelled)));
     QCOMPARE(database().outcome(u"one"_s), OutcomeRecord(JobOutcome::Cancelled));
-    // What was said of another job says nothing of this one.
+    // The outcome of an earlier job does not apply to this one.
     QVERIFY(database().saveReport(reportOf(u"one"_s)));
     QVERIFY(!database().outcome(u"one"_s));
 }
@@ -794,7 +792,7 @@ void tst_ReportDatabase::aFileOfAnEarlierVersionGetsOutcomes()
     QVERIFY(database().saveReport(reportOf(u"new"_s), partialOutcome()));
     QCOMPARE(database().outcome(u"new"_s), partialOutcome());
     QVERIFY(!database().outcome(u"old"_s));
-    // Also when the table goes meanwhile.
+    // The table may also vanish while the database is open.
     onOwnConnection(u"DROP TABLE report_annex"_s);
     QVERIFY(database().saveReport(reportOf(u"newer"_s), partialOutcome()));
     onOwnConnection(u"DROP TABLE report_annex"_s);
@@ -834,7 +832,7 @@ void tst_ReportDatabase::reportAndOutcomeAreDeletedTogetherOrNot()
     QVERIFY(!database().deleteReport(u"one"_s));
     QCOMPARE(idsOf(database().getReports(NoLimit, 0)), QStringList{u"one"_s});
     QCOMPARE(database().outcome(u"one"_s), partialOutcome());
-    // The transaction is over.
+    // The transaction has ended.
     onOwnConnection(u"DROP TRIGGER refuse"_s);
     QVERIFY(database().deleteReport(u"one"_s));
     QVERIFY(database().getReports(NoLimit, 0).isEmpty());
@@ -944,7 +942,7 @@ void tst_ReportDatabase::damagedJsonReadsAsAFreshReport()
     }
     QVERIFY(database().saveReport(filledReport()));
     const QList<WipeReport> reports = database().getReports(NoLimit, 0);
-    QCOMPARE(reports.size(), 2); // not left out
+    QCOMPARE(reports.size(), 2); // the damaged row is not left out
     QCOMPARE(idsOf(reports).count(u"QVX-2026-0305-4821"_s), 1);
     const WipeReport damaged = database().getReport(u"damaged"_s);
     WipeReport fresh;
@@ -1023,7 +1021,7 @@ void tst_ReportDatabase::aKilledProgramLeavesWholeReportsOnly()
         QVERIFY2(database().initialize(), qPrintable(database().lastError()));
         QCOMPARE(onOwnConnection(u"PRAGMA integrity_check"_s).toString(), u"ok"_s);
         const int rows = onOwnConnection(u"SELECT count(*) FROM wipe_reports"_s).toInt();
-        // Whatever it had told is there, and at most the one that it could not tell any more.
+        // All reported rows are stored, and at most one whose report was cut off.
         QVERIFY2(rows == stored || rows == stored + 1, qPrintable(u"%1 %2"_s.arg(rows).arg(stored)));
         for (int number = 0; number < rows; ++number) {
             QVERIFY(database().getReport(u"QVX-%1"_s.arg(number)) == readBack(numberedReport(number)));
@@ -1042,7 +1040,7 @@ void tst_ReportDatabase::aKillWithinATransactionLeavesNothingOfIt()
     Run run({u"within"_s});
     QCOMPARE(run.line(), u"within"_s);
     QVERIFY(run.kill());
-    // Half of it is in the file.
+    // Half of the transaction is in the file.
     QVERIFY(QFileInfo(databasePath()).size() > size);
     QVERIFY(QFileInfo(databasePath() + u"-journal"_s).size() > 0);
 
@@ -1085,7 +1083,7 @@ void tst_ReportDatabase::aSecondProgramWaits()
         OtherProgram other;
         bool ok = other.execute(lock) && other.insertRaw(u"theirs"_s, u"{}"_s);
         locked.release();
-        // The other side is then within its call, or soon will be.
+        // The other thread is in its call by then, or soon will be.
         QTest::qSleep(500);
         released = true;
         ok = other.execute(u"COMMIT"_s) && ok;
@@ -1135,7 +1133,7 @@ void tst_ReportDatabase::aFileThatIsNoDatabaseIsRefused()
     QVERIFY(database().getReports(NoLimit, 0).isEmpty());
     QCOMPARE(contentOf(databasePath()), content);
 
-    // Not held any more, and tried anew once the user has moved it away.
+    // The file is no longer held, and opening is tried again after the user has moved it away.
     QVERIFY(QFile::rename(databasePath(), databasePath() + u".old"_s));
     QVERIFY2(database().initialize(), qPrintable(database().lastError()));
     QVERIFY(database().saveReport(filledReport()));
@@ -1201,7 +1199,7 @@ void tst_ReportDatabase::aFileThatIsHeldIsOpenedLater()
         other.close();
     }
     QSqlDatabase::removeDatabase(u"other"_s);
-    // From then on with patience.
+    // Later calls wait.
     QCOMPARE(onOwnConnection(u"PRAGMA busy_timeout"_s), QVariant(10000));
 }
 
@@ -1276,7 +1274,7 @@ void tst_ReportDatabase::aFullFileRefusesReportsAndKeepsTheRest()
     QCOMPARE(onOwnConnection(u"PRAGMA max_page_count = %1"_s.arg(pages + 5)), QVariant(pages + 5));
     QVERIFY(!database().saveReport(numberedReport(2)));
     QVERIFY2(database().lastError().contains(u"full"_s), qPrintable(database().lastError()));
-    // Replacing needs the room of the new one.
+    // Replacing a report needs room for the new one.
     WipeReport larger = numberedReport(1);
     larger.errorMessage = larger.errorMessage.repeated(20);
     QVERIFY(!database().saveReport(larger));

@@ -32,7 +32,7 @@ QPushButton *makeButton(const QString &text, QStringView style, QWidget *parent)
     auto *button = new QPushButton(text, parent);
     button->setStyleSheet(style.toString());
     button->setFixedHeight(buttonHeight);
-    // The enter key, pressed for the dialog before perhaps, must not write or print.
+    // An Enter key meant for the previous dialog must not export or print.
     button->setAutoDefault(false);
     button->setAccessibleName(spokenText(text));
     return button;
@@ -60,7 +60,7 @@ CertificateDialog::CertificateDialog(const WipeReport &report, QWidget *parent,
     layout->addWidget(makeButtonBar());
 }
 
-// On a low screen the buttons would lie below its end. Which screen it is, is known only now.
+// On a low screen the buttons would lie below its edge. The screen is known only when the dialog is shown.
 void CertificateDialog::showEvent(QShowEvent *event)
 {
     if (!event->spontaneous()) {

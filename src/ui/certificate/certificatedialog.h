@@ -10,7 +10,7 @@
 QT_FORWARD_DECLARE_CLASS(QPushButton)
 
 /// Shows the certificate of a finished job, and exports or prints it. The view is built once, from a copy of
-/// the report. Of a job that is known not to be complete all of them say so.
+/// the report. For an incomplete job the view, the export and the print all say so.
 class CertificateDialog : public QDialog
 {
     Q_OBJECT

@@ -4,7 +4,7 @@
 #include <QPainter>
 #include <QPrinter>
 
-// Defined apart from the rest of the class: what only writes files does not link the printing library.
+// In a separate library, so that programs that only write files do not link the printing library.
 bool CertificateRenderer::print(const WipeReport &report, QPrinter *printer,
                                 const std::optional<OutcomeRecord> &outcome) const
 {

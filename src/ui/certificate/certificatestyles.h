@@ -19,7 +19,7 @@ inline constexpr QStringView SectionTitle =
 inline constexpr QStringView SectionBody = u"background-color: #f8fafc; border-radius: 8px;";
 inline constexpr QStringView FirstSectionBody =
     u"background-color: #f8fafc; border-radius: 8px; padding: 15px;";
-/// Of the widget around a row: a body's padding is its own and not that of every label in it.
+/// For the widget around a row, so that the padding of a section body does not apply to every label in it.
 inline constexpr QStringView Row = u"padding: 0px;";
 inline constexpr QStringView RowLabel = u"color: #64748b; font-size: 13px; min-width: 100px;";
 inline constexpr QStringView Value = u"color: #1e293b; font-size: 13px;";

@@ -40,8 +40,8 @@ QLabel *makeLabel(const QString &text, QStringView style, QWidget *parent)
     return label;
 }
 
-// The label of a row. Its style asks for 100 pixels at least, and would take back the fixed width each time
-// it is applied.
+// The label of a row. Its style sheet has a minimum width of 100 pixels, which would replace the fixed width
+// each time it is applied.
 class RowLabel : public ValueLabel
 {
 public:

@@ -14,7 +14,7 @@
 SelectableValue::SelectableValue(const QString &text, QWidget *parent)
     : ValueLabel(text, parent)
 {
-    // Not by the tab key, which goes through the buttons.
+    // No focus by Tab, which moves between the buttons.
     setFocusPolicy(Qt::ClickFocus);
     setCursor(Qt::IBeamCursor);
 }
@@ -69,7 +69,7 @@ void SelectableValue::keyPressEvent(QKeyEvent *event)
 void SelectableValue::contextMenuEvent(QContextMenuEvent *event)
 {
     QMenu menu(this);
-    // The value's own style is not that of a menu.
+    // The menu must not inherit the value's style.
     menu.setStyleSheet(QString());
     connect(menu.addAction(tr("Copy")), &QAction::triggered, this, &SelectableValue::copy);
     menu.exec(event->globalPos());

@@ -2,8 +2,8 @@
 
 #include "ui/certificate/valuelabel.h"
 
-/// A value that can be marked with the mouse and copied: a double click marks all of it, and without a mark
-/// the menu copies all of it.
+/// A value that can be selected with the mouse and copied. A double click selects all of it; without a
+/// selection the menu copies all of it.
 class SelectableValue : public ValueLabel
 {
     Q_OBJECT
@@ -11,6 +11,7 @@ class SelectableValue : public ValueLabel
 public:
     explicit SelectableValue(const QString &text, QWidget *parent = nullptr);
 
+    /// The selected text, empty without a selection.
     QString markedText() const;
 
 protected:
@@ -27,5 +28,5 @@ private:
     void copy() const;
 
     int m_from = 0;
-    int m_to = 0; ///< before m_from when marked from right to left
+    int m_to = 0; ///< before m_from when selected from right to left
 };

@@ -6,10 +6,10 @@
 
 namespace {
 
-// Narrower than this no text is readable.
+// A narrower text is not readable.
 constexpr int fewestCharacters = 8;
 
-// Breaks the text into lines of that width, and returns their height.
+// Breaks the text into lines of the given width and returns their total height.
 int layOut(QTextLayout &layout, qreal width)
 {
     QTextOption option(Qt::AlignLeft);
@@ -37,7 +37,7 @@ ValueLabel::ValueLabel(const QString &text, QWidget *parent)
     setSizePolicy(policy);
 }
 
-// What the style puts around the text.
+// The size of the frame that the style draws around the text.
 QSize ValueLabel::frameSize() const
 {
     return size() - contentsRect().size();
@@ -80,7 +80,7 @@ QPointF ValueLabel::layOutInside(QTextLayout &layout) const
 {
     const QRect box = contentsRect();
     const int height = layOut(layout, box.width());
-    // Whole pixels, or letters would blur.
+    // Whole pixels, because letters would blur otherwise.
     const int above = (box.height() - height + 1) / 2;
     return QPointF(box.left(), box.top() + above);
 }

@@ -4,8 +4,8 @@
 #include <QList>
 #include <QTextLayout>
 
-/// A label for text of any length from outside: never rich text, and a word that is longer than the line,
-/// such as a hash, goes on in the next one.
+/// A label for external text of any length. The text is always plain, and a word longer than the line, such
+/// as a hash, continues in the next one.
 class ValueLabel : public QLabel
 {
     Q_OBJECT
@@ -21,13 +21,13 @@ public:
 protected:
     void paintEvent(QPaintEvent *event) override;
 
-    /// Parts of the text to be painted otherwise.
+    /// Parts of the text with another format.
     virtual QList<QTextLayout::FormatRange> marks() const { return {}; }
-    /// Of the boundary between two characters that is nearest to the point.
+    /// The position between two characters that is nearest to the point.
     int positionAt(QPoint point) const;
 
 private:
     QSize frameSize() const;
-    /// Where the text begins, once it is laid out at the label's width.
+    /// The origin of the text, laid out at the label's width.
     QPointF layOutInside(QTextLayout &layout) const;
 };

@@ -42,7 +42,7 @@ QString NativePrompts::fileToSave(QWidget *parent, const QString &caption, const
     return QFileDialog::getSaveFileName(parent, caption, proposal, forThisSystem(filter));
 }
 
-// Links and shortcuts stay what they are: what they lead to was not chosen.
+// Links and shortcuts are not resolved, because the user did not choose their destinations.
 QStringList NativePrompts::filesToOpen(QWidget *parent, const QString &caption, const QString &filter)
 {
     return QFileDialog::getOpenFileNames(parent, caption, QString(), forThisSystem(filter), nullptr,

@@ -17,5 +17,5 @@ public:
     bool print(QWidget *parent, const QString &title, QPrinter &printer) override;
 
 private:
-    QList<QMessageBox *> m_shown; ///< one within the other
+    QList<QMessageBox *> m_shown; ///< nested boxes, the innermost last
 };

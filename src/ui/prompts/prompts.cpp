@@ -6,7 +6,7 @@
 
 namespace {
 
-// Null: the platform's own.
+// Null stands for the platform's prompts.
 Prompts *&replacement()
 {
     static Prompts *instance = nullptr;

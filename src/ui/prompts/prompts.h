@@ -7,8 +7,8 @@
 QT_FORWARD_DECLARE_CLASS(QPrinter)
 QT_FORWARD_DECLARE_CLASS(QWidget)
 
-/// Everything that stops a user and waits for an answer: message boxes, file dialogs, the print dialog. The
-/// program shows the platform's own; a test puts answers in their place. Interface thread.
+/// All dialogs that wait for an answer of the user: message boxes, file dialogs, the print dialog. The
+/// program shows those of the platform; tests replace them by prepared answers. Interface thread.
 class Prompts
 {
 public:
@@ -19,8 +19,8 @@ public:
         QString text;
         QMessageBox::StandardButtons buttons = QMessageBox::Ok;
         QMessageBox::StandardButton byDefault = QMessageBox::NoButton; ///< NoButton: the toolkit's choice
-        QString styleSheet;                                            ///< of this box alone
-        Qt::TextFormat format = Qt::PlainText; ///< paths and names in a text must not turn into markup
+        QString styleSheet;                                            ///< for this box only
+        Qt::TextFormat format = Qt::PlainText; ///< plain, so that paths and names are not read as markup
     };
 
     Prompts() = default;
@@ -28,34 +28,33 @@ public:
     Prompts(const Prompts &) = delete;
     Prompts &operator=(const Prompts &) = delete;
 
-    /// The one in force.
+    /// The prompts in use.
     static Prompts &current();
 
-    /// The button that was pressed; one that the escape key stands for when the box was closed.
+    /// The button that was pressed, or the escape button when the box was closed.
     virtual QMessageBox::StandardButton show(QWidget *parent, const Box &box) = 0;
 
-    /// Closes the box that show() waits for as the escape key would, the latest of several; nothing without
-    /// one.
+    /// Closes the innermost box that show() waits for, like the Escape key. Does nothing without one.
     virtual void withdraw() = 0;
 
-    /// Of the four below, empty (false) means that the user cancelled. A filter reads as QFileDialog wants
-    /// it.
+    /// The four functions below return empty (false) when the user cancelled. Filters have the form of
+    /// QFileDialog.
     virtual QString fileToSave(QWidget *parent, const QString &caption, const QString &proposal,
                                const QString &filter) = 0;
     virtual QStringList filesToOpen(QWidget *parent, const QString &caption, const QString &filter) = 0;
-    /// Folders only; starts in the folder start, or where the platform likes when that is empty.
+    /// Chooses a folder, starting in `start`, or in the platform's default when it is empty.
     virtual QString folder(QWidget *parent, const QString &caption, const QString &start) = 0;
-    /// Lets the user choose printer and options, and leaves them in the printer.
+    /// Lets the user choose printer and options, and stores them in the printer.
     virtual bool print(QWidget *parent, const QString &title, QPrinter &printer) = 0;
 
     void information(QWidget *parent, const QString &title, const QString &text);
     void warning(QWidget *parent, const QString &title, const QString &text);
-    /// Yes and No; No is the default button where that is asked for.
+    /// Asks Yes or No. byDefault: the default button, chosen by the toolkit unless given.
     bool confirms(QWidget *parent, QMessageBox::Icon icon, const QString &title, const QString &text,
                   QMessageBox::StandardButton byDefault = QMessageBox::NoButton);
 };
 
-/// Puts other prompts in the place of the platform's for as long as it lives. They must outlive it.
+/// Replaces the platform's prompts for the lifetime of the object; the prompts must outlive it.
 class ScopedPrompts
 {
 public:

@@ -56,7 +56,7 @@ void tst_BinItemText::whatStandsBehindTheZeroGivesNoName()
 
 void tst_BinItemText::namesWithoutAZeroAreAsRecorded()
 {
-    // Names on Linux may hold what separates folders elsewhere.
+    // On Linux names may contain the folder separator of other systems.
     QCOMPARE(BinItemText::fileName(item(u"a\\b"_s, u"/tmp/a\\b"_s)), u"a\\b"_s);
 }
 

@@ -35,7 +35,7 @@ quint64 byteByByte(const QByteArray &bytes, qsizetype offset, int width)
     return number;
 }
 
-// Where the path lies, worked out by other means than those under test: offset and units, -1 for none.
+// The position of the path, computed independently of the code under test: offset and units, -1 for none.
 std::pair<qint64, qint64> pathField(const QByteArray &bytes)
 {
     const quint64 version = byteByByte(bytes, 0, 8);
@@ -64,7 +64,7 @@ QString expectedPath(const QByteArray &bytes)
     return path;
 }
 
-// Random bytes with a version and a length that make most of them reach the path.
+// Random bytes with a version and a length with which most of them reach the path.
 QByteArray randomFile(QRandomGenerator &random, int length)
 {
     QByteArray bytes;
@@ -77,8 +77,8 @@ QByteArray randomFile(QRandomGenerator &random, int length)
     put(0, littleEndian(quint64(random.bounded(4))));
     if (random.bounded(4) != 0)
         put(24, littleEndian(quint32(random.bounded(300))));
-    // Zeros, white space and separators are what the path is cut at; halves of pairs and a byte order mark
-    // are what decoders change.
+    // The path is cut at zeros, white space and separators. Decoders change half surrogate pairs and byte
+    // order marks.
     constexpr std::array<char16_t, 7> units{0, u' ', u'\\', u'/', 0xD800, 0xDC00, 0xFEFF};
     for (int i = 0; i < length / 16; ++i) {
         const QChar unit(units.at(static_cast<std::size_t>(random.bounded(int(units.size())))));
@@ -218,7 +218,7 @@ void tst_RecycleBinInfoFile::bytesBehindThePathAreIgnored()
 {
     for (const char *behind : {"x", "xy", "xyz"})
         QCOMPARE(parseInfo(::version2(u"C:\\abc"_s, 6) + behind).originalPath, u"C:\\abc"_s);
-    // Half a unit is none.
+    // Half a UTF-16 unit does not count.
     QCOMPARE(parseInfo(::version2(u"C:\\abc"_s, 7) + 'x').originalPath, QString());
 }
 

@@ -24,7 +24,7 @@ namespace {
 const QString Ann = u"S-1-5-21-1-2-3-1001"_s;
 const QString Ben = u"S-1-5-21-1-2-3-1002"_s;
 
-// The real ones, with one that cannot be listed, one of another owner and one that does not tell its owner.
+// The real folders, with one that cannot be listed, one of another owner and one of unknown owner.
 class Folders : public platform::ForwardingFolders
 {
 public:
@@ -50,7 +50,7 @@ public:
     QString ownerless;
 };
 
-// Drives are folders of ours; files are real.
+// Temporary folders act as drives; the files are real.
 class Machine
 {
 public:
@@ -85,7 +85,7 @@ public:
 
 private:
     QTemporaryDir m_folder;
-    // Where no Trash is: the user's own must not be listed.
+    // A folder without a Trash, because the user's own must not be listed.
     ScopedVariable m_dataHome{"XDG_DATA_HOME", QFile::encodeName(m_folder.path() + u"/data"_s)};
     FakeDevices m_devices;
     FakeSession m_session;
@@ -98,7 +98,7 @@ QStringList names(const RecycleBinInfo &info)
     QStringList names;
     for (const RecycleBinItem &item : info.items)
         names.append(item.fileName);
-    names.sort(); // the order within a folder is the file system's
+    names.sort(); // the order within a folder depends on the file system
     return names;
 }
 } // namespace
@@ -320,7 +320,7 @@ void tst_RecycleBinScanner::dataFilesWithoutRecordsAreKeptBesideTheItems()
     expected[1].isDirectory = true;
     QCOMPARE(info.unrecorded, expected);
     QCOMPARE(info.doomedPaths(), (QStringList{bin + u"/$R5.txt"_s, bin + u"/$r6"_s}));
-    // What the bin shows and counts is another thing.
+    // The items that the bin shows and counts are separate.
     RecycleBinInfo items = info;
     items.unrecorded.clear();
     QCOMPARE(items, RecycleBinInfo());
@@ -350,7 +350,7 @@ void tst_RecycleBinScanner::capitalsOfADataFileDoNotMakeItAnother()
     const QString bin = Machine::binOf(pc.mount(u"c"_s));
     writeFile(bin + u"/$I1.TXT"_s, infoVersion2(u"C:\\a.txt"_s, 1));
     writeFile(bin + u"/$r1.txt"_s, "1");
-    // Where capitals count it is another file, which has no record.
+    // On a case-sensitive file system it is another file, which has no record.
     const bool isSame = platform::Platform::current().files().info(bin + u"/$R1.TXT"_s).ok();
     QCOMPARE(RecycleBinScanner().scan().unrecorded.size(), isSame ? 0 : 1);
     QCOMPARE(RecycleBinScanner().scan().doomedPaths().size(), 2);
@@ -390,7 +390,7 @@ void tst_RecycleBinScanner::linksAreNotFollowed()
     QVERIFY(makeLink(outside + u"/$I5.txt"_s, bin + u"/$I2.txt"_s));
     const RecycleBinInfo info = RecycleBinScanner().scan();
     QCOMPARE(info.fileCount, 2);
-    // The record that is a link is not read, and no link is a folder, wherever it leads.
+    // A linked record is not read, and a link never counts as a folder.
     QCOMPARE(names(info), (QStringList{QString(), u"a.txt"_s}));
     QVERIFY(!info.items.first().isDirectory && !info.items.last().isDirectory);
     QCOMPARE(info.totalSize, quint64(0));
@@ -452,7 +452,7 @@ void tst_RecycleBinScanner::aBinOfAnotherOwnerIsTold()
     pc.folders.ownerless = bin;
     told.unscanned = {{bin, UnscannedBin::Reason::Unreadable, platform::AccessDenied}};
     QCOMPARE(RecycleBinScanner().scan(), told);
-    // Whoever names a root and its bins means them, whosever they are.
+    // A root named by the user includes the bins of all owners.
     QCOMPARE(RecycleBinScanner().scanRoots({root}).doomedPaths().size(), 2);
 }
 
@@ -478,7 +478,7 @@ void tst_RecycleBinScanner::drivesAreScannedInOrderAndAnnounced()
     QStringList announced;
     const RecycleBinInfo info = RecycleBinScanner().scan([&](const QString &drive, int index, int count) {
         announced.append(u"%1 %2/%3"_s.arg(drive).arg(index).arg(count));
-        // What is announced is still to be scanned.
+        // Each announced drive is scanned after the announcement.
         if (drive == e)
             writeFile(Machine::binOf(e) + u"/$I2"_s, infoVersion2(u"E:\\late"_s, 3));
     });
@@ -534,7 +534,7 @@ void tst_RecycleBinScanner::parsingTellsWhatItDid()
     const MessageCapture capture;
     QCOMPARE(RecycleBinScanner::parseInfoFile(missing), RecycleBinItem());
     QCOMPARE(RecycleBinScanner::parseInfoFile(small), RecycleBinItem());
-    // A folder is no file to be read.
+    // A folder is not read as a file.
     QCOMPARE(RecycleBinScanner::parseInfoFile(folder.path()), RecycleBinItem());
     QCOMPARE(capture.texts(),
              (QStringList{u"  Cannot open $I file: \"%1\""_s.arg(missing), u"  $I file too small: 27"_s,
@@ -547,7 +547,7 @@ void tst_RecycleBinScanner::aRootOfAnotherMachineIsScannedForASid()
     const QString root = pc.drive(u"copy"_s);
     writeFile(Machine::binOf(root, Ann) + u"/$I1"_s, infoVersion2(u"C:\\ann"_s, 1));
     writeFile(Machine::binOf(root, Ben) + u"/$I1"_s, infoVersion2(u"C:\\ben"_s, 2));
-    pc.mount(u"c"_s); // not looked at
+    pc.mount(u"c"_s); // not scanned
     QStringList announced;
     const RecycleBinInfo info =
         RecycleBinScanner().scanRoots({root}, Ben, [&](const QString &drive, int index, int count) {
@@ -608,7 +608,7 @@ void tst_RecycleBinScanner::aBinOfASidIsThereOrNot()
     QVERIFY(!RecycleBinScanner::hasBin({pc.drive(u"none"_s)}, Ann));
     if (!makeLink(Machine::binOf(one, Ann), Machine::binOf(other, Ann)))
         QSKIP("SKIPPED: the system makes no links");
-    // Something is there; the scan tells why it does not count.
+    // An entry exists; the scan reports why it does not count.
     QVERIFY(RecycleBinScanner::hasBin({other}, Ann));
 }
 

@@ -40,7 +40,7 @@ QByteArray record(const QByteArray &path)
     return "[Trash Info]\nPath=" + path + "\nDeletionDate=2026-01-02T03:04:05\n";
 }
 
-// A Trash folder with what a file manager would put there.
+// A Trash folder with the files that a file manager creates.
 struct Trash
 {
     QString folder;
@@ -54,7 +54,7 @@ struct Trash
     }
 };
 
-// Drives are folders of ours, and so is the user's home; files are real.
+// Temporary folders act as drives and as the user's home; the files are real.
 class Machine
 {
 public:
@@ -78,7 +78,7 @@ public:
         return root;
     }
     static Trash own(const QString &root) { return {root + u"/.Trash-"_s + User}; }
-    // With the sticky bit, as an administrator makes it.
+    // Has the sticky bit, like one created by an administrator.
     static Trash shared(const QString &root)
     {
         Trash trash{root + u"/.Trash/"_s + User};
@@ -103,7 +103,7 @@ RecycleBinInfo scan()
     return RecycleBinScanner().scan();
 }
 
-// Nothing found, and these bins told.
+// A result without items that reports these bins.
 RecycleBinInfo onlyTold(const QList<UnscannedBin> &unscanned)
 {
     RecycleBinInfo info;
@@ -229,7 +229,7 @@ void tst_TrashScan::anyRecordCanBeParsed()
                 bytes.remove(at, random.bounded(4));
         }
         const QString path = parseTrashInfo(bytes);
-        // Decoding never makes anything longer, and there is no path without its key.
+        // Decoding never lengthens a path, and there is no path without its key.
         QVERIFY(path.size() <= bytes.size());
         QVERIFY(path.isEmpty() || bytes.contains("Path"));
     }
@@ -389,9 +389,9 @@ void tst_TrashScan::namesThatAreNotTextAreKept()
     QCOMPARE(item.originalPath, u"/users/ann/"_s + name);
     QCOMPARE(item.recyclePath, trash.file(name));
     QCOMPARE(item.size, quint64(5));
-    // It still leads to the file.
+    // The path still leads to the file.
     QVERIFY(platform::Platform::current().files().info(item.recyclePath).ok());
-    QVERIFY(platform::Platform::current().folders().removeTree(trash.folder).ok()); // Qt could not
+    QVERIFY(platform::Platform::current().folders().removeTree(trash.folder).ok()); // QDir cannot
 }
 
 void tst_TrashScan::otherFilesBesideRecordsAreNoItems()
@@ -471,7 +471,7 @@ void tst_TrashScan::bothFoldersOfAVolumeAreScanned()
     const QString root = pc.mount(u"stick"_s);
     Machine::shared(root).add(u"a"_s, "a", "1");
     Machine::own(root).add(u"b"_s, "b", "22");
-    // Those of other users beside them.
+    // Trash folders of other users.
     Trash{root + u"/.Trash/4711"_s}.add(u"c"_s, "c", "333");
     Trash{root + u"/.Trash-4711"_s}.add(u"d"_s, "d", "4444");
     const RecycleBinInfo info = scan();
