@@ -1,6 +1,7 @@
 #pragma once
 
 #include "engine/realjob.h"
+#include "model/units.h"
 #include "model/wipemethod.h"
 #include "model/wipetask.h"
 #include "support/faultydrive.h"
@@ -11,7 +12,6 @@
 // The jobs of these suites: chunks of 1 MiB, so that positions tell something.
 namespace faultjob {
 
-inline constexpr qint64 MiB = 1024 * 1024;
 inline constexpr char Old = 'o'; // what the drives hold before
 
 void setUpDisk(WipeTask &task, const FaultyDrive &drive, WipeMethod::Type method);
