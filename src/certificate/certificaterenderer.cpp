@@ -4,6 +4,7 @@
 #include "certificate/certificatepage.h"
 #include "certificate/certificatepaper.h"
 #include "certificate/searchablepdf.h"
+#include "model/version.h"
 #include "model/wipereport.h"
 #include "platform/wholefile.h"
 
@@ -32,7 +33,7 @@ bool CertificateRenderer::exportToPdf(const WipeReport &report, const QString &f
     writer.setPageSize(QPageSize(QPageSize::A4));
     writer.setResolution(PaperResolution);
     writer.setTitle(u"%1 %2"_s.arg(tr("数据擦除证书"), report.certificateId));
-    writer.setCreator(u"Quorvex 5.0"_s);
+    writer.setCreator(programTitle());
 
     QPainter painter(&writer);
     if (!painter.isActive())

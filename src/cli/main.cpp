@@ -3,6 +3,7 @@
 #include "cli/records/certificateexport.h"
 #include "cli/runcli.h"
 #include "model/displaytext.h"
+#include "model/version.h"
 #include "platform/process.h"
 
 #include <QCoreApplication>
@@ -42,7 +43,7 @@ int main(int argc, char *argv[])
     const std::unique_ptr<QCoreApplication> application = cli::makeApplication(argc, argv);
     QCoreApplication::setOrganizationName(u"Veltrano"_s);
     QCoreApplication::setApplicationName(u"Quorvex"_s);
-    QCoreApplication::setApplicationVersion(u"5.0"_s);
+    QCoreApplication::setApplicationVersion(programVersion());
 
     cli::ProcessIo io;
     try {

@@ -7,6 +7,7 @@
 #include "cli/io/language.h"
 #include "cli/texts.h"
 #include "model/jsonwriter.h"
+#include "model/version.h"
 #include "platform/platform.h"
 
 #include <optional>
@@ -45,7 +46,7 @@ ExitCode execute(const CommandLine &line, CliIo &io)
 {
     switch (line.wish) {
     case CommandLine::Wish::ShowVersion:
-        io.printLine(u"Quorvex 5.0"_s);
+        io.printLine(programTitle());
         return Done;
     case CommandLine::Wish::ShowHelp:
         io.print(helpText(line.helpWords));

@@ -9,6 +9,7 @@
 #include "engine/runningjob.h"
 #include "engine/watchedfile.h"
 #include "model/displaytext.h"
+#include "model/units.h"
 #include "platform/alignedbuffer.h"
 #include "platform/contentplace.h"
 #include "platform/files.h"
@@ -27,8 +28,7 @@ using platform::Status;
 
 namespace {
 
-constexpr qint64 MiB = 1024LL * 1024;
-constexpr qint64 SmallestBuffer = 256LL * 1024;
+constexpr qint64 SmallestBuffer = 256 * KiB;
 constexpr qint64 LargestBuffer = 16 * MiB;
 constexpr int DefaultBufferMB = 4;
 

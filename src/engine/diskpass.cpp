@@ -2,15 +2,12 @@
 
 #include "engine/failurewords.h"
 #include "model/formatsize.h"
+#include "model/units.h"
 #include "model/wipetask.h"
 
 #include <QRandomGenerator>
 
 #include <algorithm>
-
-namespace {
-constexpr qint64 MiB = 1048576;
-}
 
 DiskPass::DiskPass(RunningJob &job, const WipeTask &task, DiskMedium &medium)
     : m_job(job)

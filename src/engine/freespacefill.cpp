@@ -5,15 +5,13 @@
 #include "engine/foreseeable.h"
 #include "engine/volumespace.h"
 #include "model/formatsize.h"
+#include "model/units.h"
 #include "platform/platform.h"
 #include "platform/session.h"
 
 #include <algorithm>
 
 namespace {
-
-constexpr qint64 MiB = 1'048'576;
-constexpr qint64 GiB = 1'073'741'824;
 
 constexpr qint64 Reserve = 100 * MiB;
 // The running system writes to its own volume all the time.

@@ -8,6 +8,7 @@
 #include "engine/residuecleaning.h"
 #include "model/displaytext.h"
 #include "model/formatsize.h"
+#include "model/units.h"
 #include "model/wipetask.h"
 #include "platform/devices.h"
 #include "platform/folders.h"
@@ -22,8 +23,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr qint64 MiB = 1'048'576;
 
 void remember(platform::Status &first, const platform::Status &status)
 {

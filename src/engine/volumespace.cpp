@@ -1,5 +1,6 @@
 #include "engine/volumespace.h"
 
+#include "model/units.h"
 #include "platform/devicefailure.h"
 
 #include <QDeadlineTimer>
@@ -8,8 +9,6 @@
 #include <algorithm>
 
 namespace {
-
-constexpr qint64 MiB = 1'048'576;
 
 // Limits the wait when another program keeps deleting files.
 constexpr std::chrono::seconds SettlePatience{10};

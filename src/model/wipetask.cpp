@@ -13,9 +13,6 @@
 #include <functional>
 
 namespace {
-constexpr qint32 maximumThreads = 32;
-constexpr qint32 maximumBufferMB = 1024;
-
 enum class Check : std::size_t {
     Passed,
     NoDisk,
@@ -151,10 +148,10 @@ bool isInRange(qint32 value, qint32 maximum)
 Check checkTuning(const WipeTask &task, const Trace &trace)
 {
     trace(QStringLiteral("Thread count: %1").arg(task.threadCount()));
-    if (!isInRange(task.threadCount(), maximumThreads))
+    if (!isInRange(task.threadCount(), WipeTask::MostThreads))
         return Check::ThreadCount;
     trace(QStringLiteral("Buffer size MB: %1").arg(task.bufferSizeMB()));
-    return isInRange(task.bufferSizeMB(), maximumBufferMB) ? Check::Passed : Check::BufferSize;
+    return isInRange(task.bufferSizeMB(), WipeTask::LargestBufferMB) ? Check::Passed : Check::BufferSize;
 }
 
 CheckResult firstFailure(const WipeTask &task, const Trace &trace)
@@ -172,7 +169,7 @@ CheckResult firstFailure(const WipeTask &task, const Trace &trace)
 // The default job must be valid on every machine, so the thread count is limited to 32.
 WipeTask::WipeTask(QObject *parent)
     : QObject(parent)
-    , m_threadCount(qBound(1, QThread::idealThreadCount(), maximumThreads))
+    , m_threadCount(qBound(1, QThread::idealThreadCount(), MostThreads))
     , m_id(QUuid::createUuid().toString(QUuid::WithoutBraces))
 {}
 

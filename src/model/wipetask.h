@@ -23,6 +23,9 @@ class WipeTask : public QObject
     Q_OBJECT
 
 public:
+    static constexpr qint32 MostThreads = 32;
+    static constexpr qint32 LargestBufferMB = 1024;
+
     explicit WipeTask(QObject *parent = nullptr);
 
     QString id() const { return m_id; }
@@ -70,11 +73,11 @@ public:
     QList<Shortfall> omissions() const { return m_omissions; }
     void setOmissions(const QList<Shortfall> &omissions) { m_omissions = omissions; }
 
-    /// Parallelism of a file wipe, valid from 1 to 32.
+    /// Parallelism of a file wipe, valid from 1 to MostThreads.
     qint32 threadCount() const { return m_threadCount; }
     void setThreadCount(qint32 count) { m_threadCount = count; }
 
-    /// Size of the write buffer in MiB, valid from 1 to 1024.
+    /// Size of the write buffer in MiB, valid from 1 to LargestBufferMB.
     qint32 bufferSizeMB() const { return m_bufferSizeMB; }
     void setBufferSizeMB(qint32 size) { m_bufferSizeMB = size; }
 

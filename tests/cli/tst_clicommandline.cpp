@@ -5,6 +5,7 @@
 #include "support/testfiles.h"
 
 #include "cli/commandtable.h"
+#include "model/wipetask.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -37,6 +38,7 @@ private slots:
     void everyLanguageOfTheProgramIsTaken_data();
     void everyLanguageOfTheProgramIsTaken();
     void theHelpListsTheLanguages();
+    void theHelpTellsTheLimitsOfATask();
     void theSystemDecidesTheLanguageOfWhatPeopleRead_data();
     void theSystemDecidesTheLanguageOfWhatPeopleRead();
     void theLanguageOfTheSourcesIsWhole();
@@ -262,6 +264,18 @@ void tst_CliCommandLine::theHelpListsTheLanguages()
     QCOMPARE(run.code, 0);
     QVERIFY(
         run.io.out.contains("Language: en fr de ja es ko nl pt it zh_TW zh_CN (default: the system's)\n"));
+}
+
+void tst_CliCommandLine::theHelpTellsTheLimitsOfATask()
+{
+    CliRun run;
+    run({u"wipe"_s, u"files"_s, u"--help"_s});
+    const WipeTask usual;
+    QVERIFY(
+        run.io.out.contains("at the same time, 1 to " + QByteArray::number(WipeTask::MostThreads) + '\n'));
+    QVERIFY(run.io.out.contains("buffer in MiB, 1 to " + QByteArray::number(WipeTask::LargestBufferMB) +
+                                " (" + QByteArray::number(usual.bufferSizeMB()) + ")\n"));
+    QVERIFY(run.io.out.contains("from a drive (" + QByteArray::number(usual.verifySampleSize()) + ")\n"));
 }
 
 namespace {

@@ -1,6 +1,7 @@
 #include "cli/testio.h"
 #include "support/suite.h"
 
+#include "model/units.h"
 #include "platform/forwarding.h"
 #include "support/fakedevices.h"
 #include "support/faultplan.h"
@@ -57,7 +58,6 @@ private:
 
 namespace {
 
-constexpr qint64 MiB = 1 << 20;
 constexpr qint64 Reserve = 100 * MiB;
 
 // Memory volumes with room for a few fill files, on one drive, in force as long as it lives.

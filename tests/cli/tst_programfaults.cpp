@@ -1,4 +1,5 @@
 #include "cli/programrun.h"
+#include "model/units.h"
 #include "model/wipemethod.h"
 #include "model/wipereport.h"
 #include "support/faultydrive.h"
@@ -18,7 +19,6 @@
 
 namespace {
 
-constexpr qint64 MiB = 1024 * 1024;
 constexpr qint64 DriveBytes = 16 * MiB;
 
 QJsonObject jsonOf(const QString &path)

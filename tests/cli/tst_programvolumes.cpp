@@ -1,3 +1,4 @@
+#include "model/units.h"
 #include "support/loopmount.h"
 #include "support/suite.h"
 #include "support/testfiles.h"
@@ -41,8 +42,6 @@ private:
 };
 
 namespace {
-
-constexpr qint64 MiB = 1'048'576;
 
 // Started with construction; one data folder each.
 struct Program

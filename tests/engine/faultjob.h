@@ -1,6 +1,7 @@
 #pragma once
 
 #include "engine/realjob.h"
+#include "model/units.h"
 #include "model/wipemethod.h"
 #include "model/wipetask.h"
 #include "support/faultydrive.h"
@@ -11,7 +12,6 @@
 // Jobs of the fault suites. Chunks of 1 MiB make the logged positions exact.
 namespace faultjob {
 
-inline constexpr qint64 MiB = 1024 * 1024;
 inline constexpr char Old = 'o'; // content of the drives before the job
 
 void setUpDisk(WipeTask &task, const FaultyDrive &drive, WipeMethod::Type method);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "engine/freespacewipeworker.h"
+#include "model/units.h"
 #include "model/wipetask.h"
 #include "platform/forwarding.h"
 #include "platform/platform.h"
@@ -20,9 +21,6 @@
 
 namespace freespace {
 
-inline constexpr qint64 KiB = 1024;
-inline constexpr qint64 MiB = 1024 * KiB;
-inline constexpr qint64 GiB = 1024 * MiB;
 inline constexpr qint64 Reserve = 100 * MiB;
 
 // Knows every volume by name, unless set otherwise.

@@ -5,6 +5,7 @@
 #include "filejob.h"
 #include "freespacefixture.h"
 #include "model/joboutcome.h"
+#include "model/units.h"
 #include "model/wipetask.h"
 #include "support/faultplan.h"
 #include "support/links.h"
@@ -295,7 +296,7 @@ void tst_ContentElsewhere::freeSpace()
     QFETCH(ElsewhereReasons, elsewhere);
     freespace::Machine machine;
     freespace::Job job;
-    machine.volume.freeBytes[u"/media/data/"_s] = 1000 * freespace::MiB;
+    machine.volume.freeBytes[u"/media/data/"_s] = 1000 * MiB;
     machine.volume.elsewhere = elsewhere;
     job.setVolume(u"/media/data"_s);
     job.setPasses({{PatternType::Zeros}});
@@ -326,11 +327,11 @@ void tst_ContentElsewhere::snapshots()
     QFETCH(Result<int>, answer);
     freespace::Machine machine;
     freespace::Job job;
-    machine.volume.freeBytes[u"/media/data/"_s] = 1000 * freespace::MiB;
+    machine.volume.freeBytes[u"/media/data/"_s] = 1000 * MiB;
     machine.volume.snapshotAnswer = answer;
     job.setVolume(u"/media/data"_s);
     PartitionInfo partition = job.task.partition();
-    partition.freeBytes = 1000 * freespace::MiB;
+    partition.freeBytes = 1000 * MiB;
     job.task.setPartition(partition);
     job.setPasses({{PatternType::Zeros}});
     QTEST(snapshotsIn(foreseeableShortfalls(job.task)), "notes");

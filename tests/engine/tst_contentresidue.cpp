@@ -2,6 +2,7 @@
 #include "engine/freespacewipeworker.h"
 #include "filejob.h"
 #include "model/joboutcome.h"
+#include "model/units.h"
 #include "model/wipetask.h"
 #include "platform/filenames.h"
 #include "support/loopmount.h"
@@ -29,7 +30,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qint64 KiB = 1024;
 constexpr int Size = 64 * KiB;
 
 const QByteArray &marker()

@@ -1,4 +1,5 @@
 #include "engine/wipeengine.h"
+#include "model/units.h"
 #include "model/wipetask.h"
 #include "realjob.h"
 #include "support/loopmount.h"
@@ -19,8 +20,6 @@
 #include <unistd.h>
 
 namespace {
-
-constexpr qint64 MiB = 1024 * 1024;
 
 const QByteArray &marker()
 {

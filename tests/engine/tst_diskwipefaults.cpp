@@ -1,4 +1,5 @@
 #include "diskwipejob.h"
+#include "model/units.h"
 #include "model/wipereport.h"
 #include "model/wipetask.h"
 #include "support/deviceplatform.h"
@@ -24,7 +25,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-constexpr qint64 MiB = 1048576;
 constexpr qint64 DriveSize = MiB + 131072; // two chunks
 constexpr int Number = 2;
 constexpr int Patience = 60'000; // ms, reached only by failures

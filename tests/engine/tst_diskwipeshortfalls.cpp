@@ -1,5 +1,6 @@
 #include "diskwipejob.h"
 
+#include "model/units.h"
 #include "support/faultplan.h"
 #include "support/faultydevices.h"
 #include "support/interposeddevices.h"
@@ -10,7 +11,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-constexpr qint64 MiB = 1048576;
 
 // Fails every call of a method on one target.
 InterposedDevices::Before failing(QLatin1String method, platform::ErrorCode error, const QString &target)

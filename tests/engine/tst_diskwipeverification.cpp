@@ -1,4 +1,5 @@
 #include "diskwipejob.h"
+#include "model/units.h"
 #include "support/faultplan.h"
 #include "support/faultydevices.h"
 #include "support/interposeddevices.h"
@@ -18,8 +19,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-constexpr qint64 KiB = 1024;
-constexpr qint64 MiB = 1024 * KiB;
 
 void addDriveWithVolumes(MemoryDevices &devices, qint64 firstLength, qint64 secondLength)
 {

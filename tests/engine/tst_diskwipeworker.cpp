@@ -1,4 +1,5 @@
 #include "diskwipejob.h"
+#include "model/units.h"
 #include "support/faultplan.h"
 #include "support/faultydevices.h"
 #include "support/interposeddevices.h"
@@ -19,8 +20,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-constexpr qint64 KiB = 1024;
-constexpr qint64 MiB = 1024 * KiB;
 
 // Drive 3 with a volume "E:" from 64 KiB on and a smaller one "/mnt/x" after a gap.
 constexpr qint64 TwoVolumeSize = 4 * MiB;

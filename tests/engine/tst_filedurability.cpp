@@ -1,5 +1,6 @@
 #include "filejob.h"
 #include "model/joboutcome.h"
+#include "model/units.h"
 #include "support/faultplan.h"
 #include "support/faultyfiles.h"
 #include "support/powercutfiles.h"
@@ -19,7 +20,6 @@ using platform::Status;
 
 namespace {
 
-constexpr qint64 MiB = 1024 * 1024;
 constexpr int Files = 7;
 
 const Status failure{platform::IoDevice, 0, "planned"};

@@ -1,4 +1,5 @@
 #include "filejob.h"
+#include "model/units.h"
 #include "support/faultplan.h"
 #include "support/observedfiles.h"
 #include "support/suite.h"
@@ -320,7 +321,6 @@ void tst_FileWipeThreads::aStopBetweenTwoPasses()
 
 void tst_FileWipeThreads::aStopEndsTheFileAfterTheChunk()
 {
-    constexpr qint64 MiB = 1024 * 1024;
     FileJob job;
     job.task.setBufferSizeMB(1);
     const QString file = job.makeFile(QStringLiteral("a"), 4 * MiB);

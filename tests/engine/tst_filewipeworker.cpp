@@ -1,6 +1,7 @@
 #include "filejob.h"
 #include "support/suite.h"
 
+#include "model/units.h"
 #include "model/wipereport.h"
 #include "support/faultplan.h"
 #include "support/faultyfiles.h"
@@ -30,8 +31,6 @@ using platform::OpenMode;
 using platform::Status;
 
 namespace {
-
-constexpr qint64 MiB = 1024 * 1024;
 
 Status failure(quint32 code)
 {

@@ -1,4 +1,5 @@
 #include "engine/freespacewipeworker.h"
+#include "model/units.h"
 #include "model/wipetask.h"
 #include "platform/folders.h"
 #include "platform/forwarding.h"
@@ -55,7 +56,6 @@ private:
 
 namespace {
 
-constexpr qint64 MiB = 1'048'576;
 constexpr qint64 VolumeBytes = 600 * MiB;
 constexpr qint64 FillerBytes = 320 * MiB;
 constexpr int DeletedFiles = 90;

@@ -1,5 +1,6 @@
 #include "engine/freespacewipeworker.h"
 #include "engine/wipeengine.h"
+#include "model/units.h"
 #include "model/wipetask.h"
 #include "platform/devices.h"
 #include "platform/filenames.h"
@@ -38,8 +39,6 @@ private slots:
 };
 
 namespace {
-
-constexpr qint64 MiB = 1'048'576;
 
 // The record as the lists of both programs contain it.
 PartitionInfo recordOf(const LoopMount &volume)

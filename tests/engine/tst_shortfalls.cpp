@@ -2,6 +2,7 @@
 #include "engine/foreseeable.h"
 #include "filejob.h"
 #include "freespacefixture.h"
+#include "model/units.h"
 #include "support/faultplan.h"
 #include "support/links.h"
 #include "support/suite.h"
@@ -64,7 +65,6 @@ private slots:
 
 namespace {
 
-constexpr qint64 MiB = 1024 * 1024;
 const QString Root = u"/media/data/"_s;
 
 QList<Shortfall> shortfalls(const WipeTask &task)

@@ -2,6 +2,7 @@
 #include "engine/driveidentity.h"
 #include "engine/foreseeable.h"
 #include "engine/wipeengine.h"
+#include "model/units.h"
 #include "refusedthreads.h"
 #include "support/describeddisk.h"
 #include "support/deviceplatform.h"
@@ -20,7 +21,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qint64 MiB = 1024 * 1024;
 constexpr int Patience = 60'000; // ms, reached only by failures
 
 // Drive 3 with two volumes and space around them.

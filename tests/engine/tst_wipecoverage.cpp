@@ -1,4 +1,5 @@
 #include "engine/wipecoverage.h"
+#include "model/units.h"
 #include "support/suite.h"
 
 #include <QTest>
@@ -6,7 +7,6 @@
 #include <initializer_list>
 
 namespace {
-constexpr qint64 KiB = 1024;
 constexpr qint64 DriveSize = 100 * KiB;
 
 QList<platform::Extent> onDrive(std::initializer_list<ByteRanges::Range> ranges)

@@ -3,6 +3,7 @@
 #include "support/suite.h"
 #include "support/testfiles.h"
 
+#include "model/units.h"
 #include "model/wipereport.h"
 #include "model/wipetask.h"
 #include "platform/devices.h"
@@ -30,7 +31,6 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr qint64 MiB = 1024 * 1024;
 constexpr int Patience = 60'000; // ms, reached only by failures
 
 // A raw device that blocks every write until it is released.

@@ -1,3 +1,4 @@
+#include "model/units.h"
 #include "model/wipetask.h"
 #include "realjob.h"
 #include "support/loopmount.h"
@@ -17,8 +18,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qint64 KiB = 1024;
-constexpr qint64 MiB = 1024 * KiB;
 constexpr int Passes = 2;
 // Allowance for the file system's own writes.
 constexpr qint64 Journal = 8 * MiB;

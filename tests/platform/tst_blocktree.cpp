@@ -1,3 +1,4 @@
+#include "model/units.h"
 #include "platform/linux/linuxblocktree.h"
 #include "platform/linux/linuxdevices.h"
 #include "platform/linux/linuxsession.h"
@@ -7,12 +8,6 @@
 #include <QTest>
 
 using namespace platform;
-
-namespace {
-
-constexpr qint64 MiB = 1024 * 1024;
-
-} // namespace
 
 // What stands on what, on machines laid out as trees of files.
 class tst_BlockTree : public QObject

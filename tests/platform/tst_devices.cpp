@@ -1,3 +1,4 @@
+#include "model/units.h"
 #include "platform/alignedbuffer.h"
 #include "platform/devices.h"
 #include "platform/platform.h"
@@ -21,8 +22,6 @@
 using namespace platform;
 
 namespace {
-
-constexpr qint64 MiB = 1024 * 1024;
 
 // A drive of the test's own behind the real interfaces, with the bytes below it in a file.
 class Backing

@@ -1,3 +1,4 @@
+#include "model/units.h"
 #include "platform/linux/linuxdevices.h"
 #include "platform/linux/linuxdriveregistry.h"
 #include "platform/storagereplies.h"
@@ -9,8 +10,6 @@
 using namespace platform;
 
 namespace {
-
-constexpr qint64 GiB = 1024LL * 1024 * 1024;
 
 QStringList names(const QList<Drive> &drives)
 {

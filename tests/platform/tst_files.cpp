@@ -3,6 +3,7 @@
 #include "support/suite.h"
 #include "support/testfiles.h"
 
+#include "model/units.h"
 #include "platform/alignedbuffer.h"
 #include "platform/files.h"
 
@@ -22,8 +23,6 @@ using namespace platform;
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr qint64 MiB = 1024 * 1024;
 
 Files &files()
 {

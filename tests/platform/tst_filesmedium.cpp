@@ -5,6 +5,7 @@
 #include "support/suite.h"
 #include "support/testfiles.h"
 
+#include "model/units.h"
 #include "platform/alignedbuffer.h"
 #include "platform/filenames.h"
 #include "platform/files.h"
@@ -36,7 +37,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr qint64 Page = 4096;
-constexpr qint64 MiB = 1024 * 1024;
 
 Files &files()
 {

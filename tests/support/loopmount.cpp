@@ -1,4 +1,5 @@
 #include "support/loopmount.h"
+#include "model/units.h"
 
 #include <QDebug>
 #include <QDir>
@@ -161,7 +162,6 @@ qint64 LoopMount::flushCount() const
 
 qint64 LoopMount::defaultSize(FileSystem fileSystem)
 {
-    constexpr qint64 MiB = 1024 * 1024;
     switch (fileSystem) {
     case Xfs:
         return 320 * MiB; // mkfs.xfs refuses below 300

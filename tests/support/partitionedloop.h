@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/units.h"
 #include "support/loopmount.h"
 
 #include <QByteArray>
@@ -16,7 +17,6 @@
 class PartitionedLoop
 {
 public:
-    static constexpr qint64 MiB = 1024 * 1024;
     static constexpr qint64 Size = 48 * MiB;
     static constexpr qint64 First = 1 * MiB;
     static constexpr qint64 Second = 22 * MiB;

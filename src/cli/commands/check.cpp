@@ -9,6 +9,7 @@
 #include "model/displaytext.h"
 #include "model/formatsize.h"
 #include "model/jsonwriter.h"
+#include "model/units.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -20,7 +21,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // No report comes near it.
-constexpr qint64 LargestReport = 64 << 20; // bytes
+constexpr qint64 LargestReport = 64 * MiB;
 
 QStringList words()
 {

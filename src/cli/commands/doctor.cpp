@@ -5,6 +5,7 @@
 #include "cli/texts.h"
 #include "model/displaytext.h"
 #include "model/jsonwriter.h"
+#include "model/version.h"
 #include "platform/files.h"
 #include "platform/platform.h"
 #include "services/diagnosis.h"
@@ -30,7 +31,7 @@ diagnosis::Section aboutProgram(const CommandContext &context)
 {
     const DataFolder data = dataFolder(context.options);
     diagnosis::Section section{u"program"_s};
-    section.answers = {{u"version"_s, u"Quorvex 5.0"_s},
+    section.answers = {{u"version"_s, programTitle()},
                        {u"path"_s, QCoreApplication::applicationFilePath()},
                        {u"data folder"_s, data.path},
                        aboutFile(u"database"_s, data.database()),

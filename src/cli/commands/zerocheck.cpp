@@ -7,6 +7,7 @@
 #include "cli/texts.h"
 #include "engine/driveidentity.h"
 #include "model/displaytext.h"
+#include "model/units.h"
 #include "platform/alignedbuffer.h"
 #include "platform/devices.h"
 #include "platform/files.h"
@@ -23,7 +24,7 @@ namespace cli {
 
 namespace {
 
-constexpr qint64 ChunkSize = 8 << 20; // bytes
+constexpr qint64 ChunkSize = 8 * MiB;
 
 // What a file and a drive have in common here.
 using Reader = std::function<platform::Result<qint64>(void *data, qint64 size)>;

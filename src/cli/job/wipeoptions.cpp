@@ -15,9 +15,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int MostThreads = 32;
-constexpr int LargestBufferMB = 1024;
-
 std::optional<WipeMethod> findMethod(const QString &nameOrNumber)
 {
     const QList<WipeMethod> methods = WipeMethod::allMethods();
@@ -165,8 +162,8 @@ Outcome<WipeOptions> readWipeOptions(const CommandContext &context, const QStrin
     OptionReader reader(context.options, commandWords);
     reader.readMethod(options.method);
     reader.readNumber(u"samples"_s, 1, std::numeric_limits<int>::max(), options.samples);
-    reader.readNumber(u"threads"_s, 1, MostThreads, options.threads);
-    reader.readNumber(u"buffer-mb"_s, 1, LargestBufferMB, options.bufferMB);
+    reader.readNumber(u"threads"_s, 1, WipeTask::MostThreads, options.threads);
+    reader.readNumber(u"buffer-mb"_s, 1, WipeTask::LargestBufferMB, options.bufferMB);
     reader.readKinds(options.accepted);
     reader.readFile(u"report"_s, options.reportFile);
     options.replacesAnything = context.options.isSet(u"force"_s);

@@ -9,6 +9,7 @@
 #include "jobs/jobend.h"
 #include "jobs/reportstorage.h"
 #include "model/displaytext.h"
+#include "model/units.h"
 #include "model/wipereport.h"
 #include "platform/files.h"
 #include "platform/platform.h"
@@ -43,7 +44,7 @@ std::optional<Refusal> check(const File &file, const QStringList &doomedPaths,
 // Something else than a report, which somebody may miss.
 bool isForeign(const OutputFile &file)
 {
-    constexpr qint64 LargestReport = 256LL * 1024 * 1024; // a line for each of some million files
+    constexpr qint64 LargestReport = 256 * MiB; // a line for each of some million files
     QFile standing(file.path());
     if (!file.isWanted() || !standing.exists() ||
         platform::Platform::current().files().isStream(file.path()) || standing.size() == 0)

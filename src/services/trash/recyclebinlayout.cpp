@@ -1,5 +1,6 @@
 #include "services/trash/recyclebinlayout.h"
 
+#include "model/units.h"
 #include "platform/entrypath.h"
 #include "platform/files.h"
 #include "platform/platform.h"
@@ -19,7 +20,7 @@ using platform::pathInFolder;
 namespace {
 // Whatever has a longer path than Windows can make is no information file; a deleted folder may hold any file
 // under such a name.
-constexpr qint64 LargestInfoFile = 1 << 20; // bytes
+constexpr qint64 LargestInfoFile = 1 * MiB;
 
 bool isInfoName(const QString &name)
 {

@@ -1,5 +1,6 @@
 #include "services/trash/trashscan.h"
 
+#include "model/units.h"
 #include "platform/entrypath.h"
 #include "platform/files.h"
 #include "platform/folders.h"
@@ -18,7 +19,7 @@ using platform::pathInFolder;
 
 namespace {
 // Three characters for each byte of the longest path, and more than enough for the rest.
-constexpr qint64 LargestTrashInfo = 64 << 10; // bytes
+constexpr qint64 LargestTrashInfo = 64 * KiB;
 
 constexpr auto InfoSuffix = ".trashinfo"_L1;
 

@@ -1,5 +1,6 @@
 #include "services/trash/trashsizes.h"
 
+#include "model/units.h"
 #include "platform/entrypath.h"
 #include "platform/filenames.h"
 #include "platform/files.h"
@@ -18,7 +19,7 @@ using platform::pathInFolder;
 
 namespace {
 // A line for each deleted folder; what lies behind that is dropped, and computed anew by the desktop.
-constexpr qint64 LargestRecord = 64 << 20; // bytes
+constexpr qint64 LargestRecord = 64 * MiB;
 
 platform::Files &files()
 {
@@ -76,7 +77,7 @@ platform::Status writeNew(const QString &path, const QByteArray &bytes)
 
 platform::Status overwrite(platform::FileHandle &file, qint64 size)
 {
-    const QByteArray zeros(1 << 20, '\0');
+    const QByteArray zeros(MiB, '\0');
     for (qint64 done = 0; done < size; done += zeros.size()) {
         const auto piece = static_cast<qsizetype>(qMin<qint64>(zeros.size(), size - done));
         const platform::Status written = writeAll(file, zeros.first(piece));

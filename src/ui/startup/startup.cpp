@@ -1,6 +1,7 @@
 #include "ui/startup/startup.h"
 
 #include "model/usersettings.h"
+#include "model/version.h"
 #include "platform/appearance.h"
 #include "platform/process.h"
 #include "services/applog.h"
@@ -30,7 +31,7 @@ namespace {
 void nameApplication()
 {
     QApplication::setApplicationName(u"Quorvex"_s);
-    QApplication::setApplicationVersion(u"5.0"_s);
+    QApplication::setApplicationVersion(programVersion());
     QApplication::setOrganizationName(u"Veltrano"_s);
     QApplication::setOrganizationDomain(QStringLiteral(QUORVEX_WEB_DOMAIN));
 }
