@@ -1,10 +1,10 @@
 #include "ui/files/fileselectpage.h"
 
 #include "model/formatsize.h"
-#include "model/spokentext.h"
 #include "prompts/prompts.h"
 #include "ui/files/dropzone.h"
 #include "ui/files/filelistwidget.h"
+#include "ui/style/buttons.h"
 #include "ui/style/pagestyle.h"
 
 #include <QBoxLayout>
@@ -35,14 +35,9 @@ public:
     WaitCursor &operator=(const WaitCursor &) = delete;
 };
 
-QPushButton *createToolButton(const QString &text, const QString &name, const QString &styleSheet = {})
+buttons::Look toolLook(const QString &name, const QString &styleSheet = {})
 {
-    auto *button = new QPushButton(text);
-    button->setObjectName(name);
-    button->setCursor(Qt::PointingHandCursor);
-    button->setStyleSheet(styleSheet);
-    button->setAccessibleName(spokenText(text));
-    return button;
+    return {.name = name, .hasHandCursor = true, .styleSheet = styleSheet};
 }
 
 const QString &addStyle()
@@ -62,17 +57,17 @@ FileSelectPage::FileSelectPage(QWidget *parent)
     , m_title(new QLabel(tr("Select Files to Shred")))
     , m_subtitle(new QLabel(tr("Click buttons to add files and folders")))
     , m_toolRow(new QWidget)
-    , m_addFiles(createToolButton(tr("📄 Add Files"), u"addFilesBtn"_s, addStyle()))
-    , m_addFolder(createToolButton(tr("📁 Add Folder"), u"addFolderBtn"_s, addStyle()))
-    , m_remove(createToolButton(tr("Remove"), u"removeBtn"_s))
-    , m_clearAll(createToolButton(tr("Clear All"), u"clearAllBtn"_s))
+    , m_addFiles(buttons::make(tr("📄 Add Files"), toolLook(u"addFilesBtn"_s, addStyle())))
+    , m_addFolder(buttons::make(tr("📁 Add Folder"), toolLook(u"addFolderBtn"_s, addStyle())))
+    , m_remove(buttons::make(tr("Remove"), toolLook(u"removeBtn"_s)))
+    , m_clearAll(buttons::make(tr("Clear All"), toolLook(u"clearAllBtn"_s)))
     , m_stack(new QStackedWidget)
     , m_dropZone(new DropZone(tr("Click to add files or drag files here"), tr("📄 Add Files")))
     , m_list(new FileListWidget)
     , m_stats(new QLabel)
     , m_missing(new QLabel)
-    , m_back(new QPushButton(tr("← Back")))
-    , m_next(new QPushButton(tr("Next →")))
+    , m_back(buttons::makeBack(tr("← Back")))
+    , m_next(buttons::makeNext(tr("Next →")))
 {
     pagestyle::asTitle(*m_title);
     pagestyle::asSubtitle(*m_subtitle, u"font-size: 14px; color: #64748b;"_s);
@@ -86,8 +81,6 @@ FileSelectPage::FileSelectPage(QWidget *parent)
         label->setTextFormat(Qt::PlainText);
         label->setWordWrap(true);
     }
-    pagestyle::asBack(*m_back);
-    pagestyle::asNext(*m_next);
     createLayout();
     updateStats();
     onSelectionChanged();

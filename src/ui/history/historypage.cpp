@@ -5,6 +5,7 @@
 #include "prompts/prompts.h"
 #include "services/reportdatabase.h"
 #include "ui/history/storedreport.h"
+#include "ui/style/buttons.h"
 #include "ui/style/palette.h"
 #include "ui/style/tooltip.h"
 
@@ -84,10 +85,10 @@ HistoryPage::HistoryPage(QWidget *parent)
     , m_exporter(&exportWithRenderer)
     , m_filter(new FilterBox)
     , m_table(new QTableWidget)
-    , m_view(new QPushButton(tr("查看证书")))
-    , m_export(new QPushButton(tr("导出PDF")))
-    , m_delete(new QPushButton(tr("删除")))
-    , m_clearAll(new QPushButton(tr("清除所有")))
+    , m_view(buttons::make(tr("查看证书"), {.name = u"primaryBtn"_s}))
+    , m_export(buttons::make(tr("导出PDF"), {.name = u"exportBtn"_s}))
+    , m_delete(buttons::make(tr("删除"), {.name = u"deleteBtn"_s}))
+    , m_clearAll(buttons::make(tr("清除所有"), {.name = u"dangerBtn"_s}))
 {
     auto *title = new QLabel(tr("擦除历史记录"));
     title->setObjectName(u"pageTitle"_s);
@@ -172,10 +173,6 @@ void HistoryPage::connectKey(const QKeySequence &key, const QPushButton &button)
 
 QBoxLayout *HistoryPage::createButtons()
 {
-    m_view->setObjectName(u"primaryBtn"_s);
-    m_export->setObjectName(u"exportBtn"_s);
-    m_delete->setObjectName(u"deleteBtn"_s);
-    m_clearAll->setObjectName(u"dangerBtn"_s);
     connect(m_view, &QPushButton::clicked, this, &HistoryPage::onViewClicked);
     connect(m_export, &QPushButton::clicked, this, &HistoryPage::onExportClicked);
     connect(m_delete, &QPushButton::clicked, this, &HistoryPage::onDeleteClicked);
@@ -238,9 +235,7 @@ void HistoryPage::addRow(const WipeReport &report)
     status->setFont(font);
     m_table->setItem(row, StatusColumn, status);
 
-    auto *view = new QPushButton(tr("查看"));
-    view->setObjectName(u"tableViewBtn"_s);
-    view->setCursor(Qt::PointingHandCursor);
+    QPushButton *view = buttons::make(tr("查看"), {.name = u"tableViewBtn"_s, .hasHandCursor = true});
     // The keyboard has the button below the table: a hundred stops more would make Tab useless.
     view->setFocusPolicy(Qt::NoFocus);
     view->setAccessibleDescription(report.certificateId);
