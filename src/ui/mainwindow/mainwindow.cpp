@@ -3,8 +3,6 @@
 #include "certificate/certificatedialog.h"
 #include "jobs/jobcontroller.h"
 #include "model/wipetask.h"
-#include "platform/files.h"
-#include "platform/platform.h"
 #include "prompts/prompts.h"
 #include "services/linkmanager.h"
 #include "services/reportdatabase.h"
@@ -19,6 +17,7 @@
 #include "ui/mainwindow/nativeframe.h"
 #include "ui/mainwindow/recyclebinflow.h"
 #include "ui/mainwindow/sidebar.h"
+#include "ui/mainwindow/taskchoice.h"
 #include "ui/mainwindow/waitnotice.h"
 #include "ui/mainwindow/windowsheet.h"
 #include "ui/mainwindow/windowshell.h"
@@ -54,15 +53,6 @@ int menuRowOf(int page)
     if (page < MainWindow::History)
         return Sidebar::DataWipe;
     return page == MainWindow::History ? Sidebar::History : Sidebar::Settings;
-}
-
-// Drops the paths that have vanished. A path that cannot be examined stays: the job then fails on it, instead
-// of telling that everything was erased.
-QStringList existing(QStringList paths)
-{
-    platform::Files &files = platform::Platform::current().files();
-    paths.removeIf([&files](const QString &path) { return isAbsent(files.info(path).status()); });
-    return paths;
 }
 
 } // namespace
@@ -118,6 +108,7 @@ void MainWindow::createPages()
                                                           m_progressPage, m_historyPage, m_settingsPage})
         m_pages->addWidget(page);
     m_bin = new RecycleBinFlow(*m_filePage, this);
+    m_choice = std::make_unique<TaskChoice>(*m_job, *m_diskPage, *m_filePage, *m_bin);
 }
 
 void MainWindow::createJobFlow()
@@ -238,16 +229,13 @@ void MainWindow::setMenuEnabled(bool enabled)
 
 void MainWindow::onDiskWipeClicked()
 {
-    // The menu leads home without a way back through the bin.
-    m_bin->leave();
-    m_job->newTask(DiskWipe);
+    m_choice->begin(DiskWipe);
     showDisks(DiskSelectPage::WipeDisk);
 }
 
 void MainWindow::onFreeSpaceWipeClicked()
 {
-    m_bin->leave();
-    m_job->newTask(FreeSpaceWipe);
+    m_choice->begin(FreeSpaceWipe);
     showDisks(DiskSelectPage::WipeFreeSpace);
 }
 
@@ -262,8 +250,7 @@ void MainWindow::showDisks(int mode)
 
 void MainWindow::onFileWipeClicked()
 {
-    m_bin->leave();
-    m_job->newTask(FileWipe);
+    m_choice->begin(FileWipe);
     m_filePage->clearFiles();
     showPage(FileSelect);
 }
@@ -285,7 +272,7 @@ void MainWindow::onRecycleBinScanFinished()
     if (found.fileCount < 1 && found.unrecorded.isEmpty())
         offerFreeSpaceWipeOfEmptyBin(found);
     else
-        takeRecycleBin(found);
+        m_choice->takeRecycleBin(found);
 }
 
 void MainWindow::offerFreeSpaceWipeOfEmptyBin(const RecycleBinInfo &found)
@@ -299,15 +286,6 @@ void MainWindow::offerFreeSpaceWipeOfEmptyBin(const RecycleBinInfo &found)
     if (Prompts::current().confirms(this, QMessageBox::Question, tr("Recycle Bin is Empty"),
                                     texts.join(QStringLiteral("\n\n"))))
         onFreeSpaceWipeClicked();
-}
-
-void MainWindow::takeRecycleBin(const RecycleBinInfo &found)
-{
-    WipeTask &task = m_job->newTask(FileWipe);
-    task.setFiles(existing(found.doomedPaths()));
-    task.setTargetsAreNamed(false);
-    task.setOmissions(found.omissions());
-    m_bin->show(found);
 }
 
 void MainWindow::loadMoreRecycleBinItems()
@@ -354,15 +332,11 @@ void MainWindow::onNextClicked()
 {
     switch (m_currentPage) {
     case DiskSelect:
-        takeDiskSelection();
+        m_choice->takeDisk();
         showPage(MethodSelect);
         break;
     case FileSelect:
-        // The content of the bin was handed over when the scan ended.
-        if (m_job->task() && !m_bin->isActive()) {
-            m_job->task()->setFiles(m_filePage->files());
-            m_job->task()->setOperationType(FileWipe);
-        }
+        m_choice->takeFiles();
         showPage(MethodSelect);
         break;
     case MethodSelect:
@@ -371,19 +345,6 @@ void MainWindow::onNextClicked()
     default:
         break;
     }
-}
-
-void MainWindow::takeDiskSelection()
-{
-    if (!m_job->task())
-        return;
-    const bool isWholeDisk = m_diskPage->selectionType() == DiskSelectPage::DiskSelected;
-    m_job->task()->setDisk(m_diskPage->selectedDisk());
-    // What an earlier choice left must not stay.
-    m_job->task()->setPartition(isWholeDisk ? PartitionInfo() : m_diskPage->selectedPartition());
-    // The flow that began decides; a choice on the page only changes what is wiped within it.
-    if (m_job->task()->operationType() != FreeSpaceWipe)
-        m_job->task()->setOperationType(isWholeDisk ? DiskWipe : PartitionWipe);
 }
 
 void MainWindow::onStartWipe()

@@ -21,12 +21,13 @@ class NativeFrame;
 class ProgressPage;
 class RecycleBinFlow;
 class SettingsPage;
+class TaskChoice;
 class TitleBar;
 class WindowShell;
 struct RecycleBinInfo;
 
-/// The program's one window: sidebar, title bar and the stack of pages. Turns the user's way through the
-/// pages into a task, and hands the task to the flow of the job. Opens the report database. Interface thread.
+/// The program's one window: sidebar, title bar and the stack of pages. Leads the user through the pages up
+/// to the job and back from it. Opens the report database. Interface thread.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -92,11 +93,9 @@ private:
     void showDisks(int mode);
     void backFromMethods();
     void showHome();
-    void takeDiskSelection();
     void setMenuEnabled(bool enabled);
 
     void offerFreeSpaceWipeOfEmptyBin(const RecycleBinInfo &found);
-    void takeRecycleBin(const RecycleBinInfo &found);
 
     std::unique_ptr<WindowShell> m_shell;
     QListWidget *m_menu = nullptr; ///< the shell's, as stack and title bar
@@ -110,6 +109,7 @@ private:
     HistoryPage *m_historyPage = nullptr;
     SettingsPage *m_settingsPage = nullptr;
     RecycleBinFlow *m_bin = nullptr; ///< on the file page
+    std::unique_ptr<TaskChoice> m_choice;
     JobController *m_job = nullptr;
     JobFlow *m_flow = nullptr;
     int m_currentPage = Home;
