@@ -1,6 +1,7 @@
 #include "ui/dialogs/completedialog.h"
 
 #include "model/displaytext.h"
+#include "ui/style/buttons.h"
 #include "ui/style/palette.h"
 #include "ui/style/tooltip.h"
 
@@ -15,7 +16,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr QSize IconSize(80, 80);
-constexpr QSize ButtonSize(150, 42);
 
 const QString viewButtonStyle =
     u"QPushButton {  background-color: #3b82f6;  color: white;  border: none;  border-radius: 8px;  "
@@ -24,13 +24,9 @@ const QString closeButtonStyle =
     u"QPushButton {  background-color: white;  color: #374151;  border: 1px solid #d1d5db;  "
     "border-radius: 8px;  font-size: 14px;}QPushButton:hover {  background-color: #f9fafb;}"_s;
 
-QPushButton *makeButton(const QString &text, const QString &name, const QString &style)
+buttons::Look look(const QString &name, const QString &styleSheet)
 {
-    auto *const button = new QPushButton(text);
-    button->setObjectName(name);
-    button->setFixedSize(ButtonSize);
-    button->setStyleSheet(style);
-    return button;
+    return {.name = name, .width = 150, .height = 42, .styleSheet = styleSheet};
 }
 
 } // namespace
@@ -161,12 +157,12 @@ void CompleteDialog::addButtons(QBoxLayout *layout)
     row->addStretch();
     if (offersCertificate()) {
         QPushButton *const view =
-            makeButton(tr("View Certificate"), u"viewCertificateBtn"_s, viewButtonStyle);
+            buttons::make(tr("View Certificate"), look(u"viewCertificateBtn"_s, viewButtonStyle));
         connect(view, &QPushButton::clicked, this, &CompleteDialog::onViewCertificateClicked);
         row->addWidget(view);
     }
     QPushButton *const close =
-        makeButton(m_success ? tr("Done") : tr("Close"), u"closeBtn"_s, closeButtonStyle);
+        buttons::make(m_success ? tr("Done") : tr("Close"), look(u"closeBtn"_s, closeButtonStyle));
     close->setDefault(true);
     close->setFocus();
     connect(close, &QPushButton::clicked, this, &CompleteDialog::accept);

@@ -1,6 +1,7 @@
 #include "ui/dialogs/confirmdialog.h"
 
 #include "model/formatsize.h"
+#include "ui/style/buttons.h"
 #include "ui/style/tooltip.h"
 
 #include <QCheckBox>
@@ -19,7 +20,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr QSize DialogSize(400, 320);
-constexpr QSize ButtonSize(120, 40);
 constexpr int Margin = 30;
 constexpr int Spacing = 20;
 constexpr int TargetFrame = 2 * (4 + 1);
@@ -33,12 +33,9 @@ QLabel *centredLabel(const QString &text, const QString &style = {})
     return label;
 }
 
-QPushButton *makeButton(const QString &text, const QString &name)
+buttons::Look look(const QString &name)
 {
-    auto *const button = new QPushButton(text);
-    button->setObjectName(name);
-    button->setFixedSize(ButtonSize);
-    return button;
+    return {.name = name, .width = 120, .height = 40};
 }
 
 // With its text seen whole. The field itself lays its document out for the width that it has before it is
@@ -168,10 +165,10 @@ void ConfirmDialog::addInput(QBoxLayout *layout)
 
 void ConfirmDialog::addButtons(QBoxLayout *layout)
 {
-    m_cancelButton = makeButton(tr("Cancel"), u"secondaryBtn"_s);
+    m_cancelButton = buttons::make(tr("Cancel"), look(u"secondaryBtn"_s));
     connect(m_cancelButton, &QPushButton::clicked, this, &ConfirmDialog::reject);
 
-    m_confirmButton = makeButton(tr("Confirm"), u"dangerBtn"_s);
+    m_confirmButton = buttons::make(tr("Confirm"), look(u"dangerBtn"_s));
     m_confirmButton->setEnabled(false);
     // Without a default of its own the dialog would take the first button, and Enter after the word would
     // cancel.

@@ -5,6 +5,7 @@
 #include "ui/disks/disktree.h"
 #include "ui/disks/disktreerows.h"
 #include "ui/disks/obstaclestext.h"
+#include "ui/style/buttons.h"
 #include "ui/style/pagestyle.h"
 
 #include <QBoxLayout>
@@ -44,8 +45,8 @@ DiskSelectPage::DiskSelectPage(QWidget *parent)
     , m_subtitle(new QLabel(tr("Select a disk or partition to wipe. Expand disks to see partitions.")))
     , m_tree(new DiskTree)
     , m_notice(new QLabel)
-    , m_back(new QPushButton(tr("← Back")))
-    , m_next(new QPushButton(tr("Next →")))
+    , m_back(buttons::makeBack(tr("← Back")))
+    , m_next(buttons::makeNext(tr("Next →")))
 {
     pagestyle::asTitle(*m_title);
     pagestyle::asSubtitle(*m_subtitle, u"font-size: 14px;color: #64748b;"_s);
@@ -53,8 +54,6 @@ DiskSelectPage::DiskSelectPage(QWidget *parent)
     m_notice->setObjectName(u"warningLabel"_s);
     m_notice->setTextFormat(Qt::PlainText);
     m_notice->setWordWrap(true);
-    pagestyle::asBack(*m_back);
-    pagestyle::asNext(*m_next);
     createLayout();
     clearSelection();
 

@@ -1,6 +1,7 @@
 #include "ui/files/dropzone.h"
 
 #include "model/spokentext.h"
+#include "ui/style/buttons.h"
 
 #include <QBoxLayout>
 #include <QLabel>
@@ -12,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 DropZone::DropZone(const QString &hint, const QString &action, QWidget *parent)
     : QFrame(parent)
-    , m_plus(new QPushButton(u"+"_s))
+    , m_plus(buttons::make(u"+"_s, {.name = u"plusBtn"_s, .width = 70, .height = 70, .hasHandCursor = true}))
     , m_hint(new QLabel(hint))
     , m_loading(new QLabel)
     , m_progress(new QProgressBar)
@@ -28,9 +29,6 @@ DropZone::DropZone(const QString &hint, const QString &action, QWidget *parent)
 
 void DropZone::createButton(const QString &action)
 {
-    m_plus->setObjectName(u"plusBtn"_s);
-    m_plus->setFixedSize(70, 70);
-    m_plus->setCursor(Qt::PointingHandCursor);
     m_plus->setAccessibleName(spokenText(action));
     m_hint->setObjectName(u"dropHint"_s);
 }

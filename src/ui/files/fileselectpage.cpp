@@ -1,22 +1,20 @@
 #include "ui/files/fileselectpage.h"
 
 #include "model/formatsize.h"
-#include "model/spokentext.h"
 #include "ui/files/dropzone.h"
+#include "ui/files/filedropfilter.h"
 #include "ui/files/filelistwidget.h"
 #include "ui/prompts/prompts.h"
+#include "ui/style/buttons.h"
 #include "ui/style/pagestyle.h"
 
 #include <QBoxLayout>
-#include <QDropEvent>
 #include <QGuiApplication>
 #include <QKeySequence>
 #include <QLabel>
-#include <QMimeData>
 #include <QPushButton>
 #include <QShortcut>
 #include <QStackedWidget>
-#include <QUrl>
 
 #include <algorithm>
 #include <utility>
@@ -35,14 +33,9 @@ public:
     WaitCursor &operator=(const WaitCursor &) = delete;
 };
 
-QPushButton *createToolButton(const QString &text, const QString &name, const QString &styleSheet = {})
+buttons::Look toolLook(const QString &name, const QString &styleSheet = {})
 {
-    auto *button = new QPushButton(text);
-    button->setObjectName(name);
-    button->setCursor(Qt::PointingHandCursor);
-    button->setStyleSheet(styleSheet);
-    button->setAccessibleName(spokenText(text));
-    return button;
+    return {.name = name, .hasHandCursor = true, .styleSheet = styleSheet};
 }
 
 const QString &addStyle()
@@ -62,17 +55,18 @@ FileSelectPage::FileSelectPage(QWidget *parent)
     , m_title(new QLabel(tr("Select Files to Shred")))
     , m_subtitle(new QLabel(tr("Click buttons to add files and folders")))
     , m_toolRow(new QWidget)
-    , m_addFiles(createToolButton(tr("📄 Add Files"), u"addFilesBtn"_s, addStyle()))
-    , m_addFolder(createToolButton(tr("📁 Add Folder"), u"addFolderBtn"_s, addStyle()))
-    , m_remove(createToolButton(tr("Remove"), u"removeBtn"_s))
-    , m_clearAll(createToolButton(tr("Clear All"), u"clearAllBtn"_s))
+    , m_addFiles(buttons::make(tr("📄 Add Files"), toolLook(u"addFilesBtn"_s, addStyle())))
+    , m_addFolder(buttons::make(tr("📁 Add Folder"), toolLook(u"addFolderBtn"_s, addStyle())))
+    , m_remove(buttons::make(tr("Remove"), toolLook(u"removeBtn"_s)))
+    , m_clearAll(buttons::make(tr("Clear All"), toolLook(u"clearAllBtn"_s)))
     , m_stack(new QStackedWidget)
+    , m_drops(new FileDropFilter(this))
     , m_dropZone(new DropZone(tr("Click to add files or drag files here"), tr("📄 Add Files")))
     , m_list(new FileListWidget)
     , m_stats(new QLabel)
     , m_missing(new QLabel)
-    , m_back(new QPushButton(tr("← Back")))
-    , m_next(new QPushButton(tr("Next →")))
+    , m_back(buttons::makeBack(tr("← Back")))
+    , m_next(buttons::makeNext(tr("Next →")))
 {
     pagestyle::asTitle(*m_title);
     pagestyle::asSubtitle(*m_subtitle, u"font-size: 14px; color: #64748b;"_s);
@@ -86,14 +80,14 @@ FileSelectPage::FileSelectPage(QWidget *parent)
         label->setTextFormat(Qt::PlainText);
         label->setWordWrap(true);
     }
-    pagestyle::asBack(*m_back);
-    pagestyle::asNext(*m_next);
     createLayout();
     updateStats();
     onSelectionChanged();
 
     for (QWidget *target : std::initializer_list<QWidget *>{m_dropZone, m_list, m_list->viewport()})
-        target->installEventFilter(this);
+        m_drops->watch(*target);
+    connect(m_drops, &FileDropFilter::dragOver, m_dropZone, &DropZone::setDragOver);
+    connect(m_drops, &FileDropFilter::dropped, this, &FileSelectPage::addPaths);
     connect(m_addFiles, &QPushButton::clicked, this, &FileSelectPage::onAddFilesClicked);
     connect(m_dropZone, &DropZone::clicked, this, &FileSelectPage::onAddFilesClicked);
     connect(m_addFolder, &QPushButton::clicked, this, &FileSelectPage::onAddFolderClicked);
@@ -179,6 +173,7 @@ void FileSelectPage::setToolRowVisible(bool visible)
 void FileSelectPage::setMode(Mode mode)
 {
     m_mode = mode;
+    m_drops->setEnabled(mode == Mode::Choosing);
     if (mode != Mode::Loading)
         m_dropZone->hideLoading();
     m_toolRow->setVisible(mode == Mode::Choosing);
@@ -296,57 +291,4 @@ void FileSelectPage::updateStats()
     m_next->setEnabled(!m_entries.isEmpty());
     m_clearAll->setEnabled(!m_entries.isEmpty());
     m_stack->setCurrentIndex(m_entries.isEmpty() ? DropZoneView : ListView);
-}
-
-bool FileSelectPage::eventFilter(QObject *watched, QEvent *event)
-{
-    switch (event->type()) {
-    case QEvent::DragEnter:
-    case QEvent::DragMove:
-    case QEvent::Drop:
-        if (handleDrag(static_cast<QDropEvent &>(*event)))
-            return true;
-        break;
-    case QEvent::DragLeave:
-        m_dropZone->setDragOver(false);
-        break;
-    default:
-        break;
-    }
-    return QWidget::eventFilter(watched, event);
-}
-
-bool FileSelectPage::handleDrag(QDropEvent &event)
-{
-    if (m_mode != Mode::Choosing) {
-        event.ignore();
-        return true;
-    }
-    if (event.type() == QEvent::Drop)
-        m_dropZone->setDragOver(false);
-    if (!event.mimeData()->hasUrls())
-        return false;
-    if (event.type() == QEvent::Drop) {
-        drop(event);
-        return true;
-    }
-    event.acceptProposedAction();
-    if (event.type() == QEvent::DragEnter)
-        m_dropZone->setDragOver(true);
-    return true;
-}
-
-void FileSelectPage::drop(QDropEvent &event)
-{
-    // Never a move: the source would then delete its files by itself, unshredded.
-    event.setDropAction(Qt::CopyAction);
-    event.accept();
-    QStringList paths;
-    const QList<QUrl> urls = event.mimeData()->urls();
-    for (const QUrl &url : urls) {
-        const QString path = url.toLocalFile();
-        if (!path.isEmpty())
-            paths.append(path);
-    }
-    addPaths(paths);
 }

@@ -7,12 +7,12 @@
 #include <QStringList>
 #include <QWidget>
 
-QT_FORWARD_DECLARE_CLASS(QDropEvent)
 QT_FORWARD_DECLARE_CLASS(QLabel)
 QT_FORWARD_DECLARE_CLASS(QListWidget)
 QT_FORWARD_DECLARE_CLASS(QPushButton)
 QT_FORWARD_DECLARE_CLASS(QStackedWidget)
 class DropZone;
+class FileDropFilter;
 class FileListWidget;
 
 /// Collects the files and folders to shred. The sizes of folders are summed up while the user waits. The
@@ -64,8 +64,6 @@ public:
     QStackedWidget *stack() const { return m_stack; }
     QPushButton *nextButton() const { return m_next; }
 
-    bool eventFilter(QObject *watched, QEvent *event) override;
-
 signals:
     void backClicked();
     void nextClicked();
@@ -84,8 +82,6 @@ private:
     void createLayout();
     /// Returns how many are not there.
     int addPaths(const QStringList &paths);
-    bool handleDrag(QDropEvent &event);
-    void drop(QDropEvent &event);
 
     QList<FileEntry> m_entries;
     QSet<QString> m_paths; // of m_entries
@@ -99,6 +95,7 @@ private:
     QPushButton *m_remove;
     QPushButton *m_clearAll;
     QStackedWidget *m_stack;
+    FileDropFilter *m_drops;
     DropZone *m_dropZone;
     FileListWidget *m_list;
     QLabel *m_stats;

@@ -1,24 +1,20 @@
 #include "ui/history/historypage.h"
 
 #include "certificate/certificaterenderer.h"
-#include "model/displaytext.h"
 #include "services/reportdatabase.h"
+#include "ui/history/historytable.h"
 #include "ui/history/storedreport.h"
 #include "ui/prompts/prompts.h"
-#include "ui/style/palette.h"
-#include "ui/style/tooltip.h"
+#include "ui/style/buttons.h"
 
 #include <QAbstractItemView>
 #include <QBoxLayout>
 #include <QComboBox>
 #include <QFrame>
-#include <QHeaderView>
 #include <QKeySequence>
 #include <QLabel>
 #include <QPushButton>
 #include <QShortcut>
-#include <QStyle>
-#include <QTableWidget>
 
 #include <utility>
 
@@ -27,43 +23,12 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int LoadedReports = 100;
-constexpr int RowHeight = 42;
-constexpr int StatusPixels = 12; // "Completed" in a column of 80
 constexpr int AnyStatus = -1;
-constexpr int CertificateIdRole = Qt::UserRole;
-
-QColor statusColor(WipeStatus status)
-{
-    switch (status) {
-    case WipeStatus::Completed:
-        return palette::Success;
-    case WipeStatus::Failed:
-        return palette::Error;
-    default:
-        return palette::Warning;
-    }
-}
-
-// Columns have a fixed width and translations are long: the whole text is in the tip.
-QTableWidgetItem *createItem(const QString &text)
-{
-    auto *item = new QTableWidgetItem(text);
-    item->setToolTip(plainTip(text));
-    return item;
-}
 
 bool exportWithRenderer(const WipeReport &report, const std::optional<OutcomeRecord> &outcome,
                         const QString &file)
 {
     return CertificateRenderer().exportToPdf(report, file, outcome);
-}
-
-// Whether the stored status does not tell how the job went: it calls a partial job completed, and one that
-// was stopped in time for its worker to say so failed.
-bool isMoreThanTheStatusTells(const WipeReport &report, const OutcomeRecord &outcome)
-{
-    return outcome.outcome() == JobOutcome::Partial ||
-           (outcome.outcome() == JobOutcome::Cancelled && report.status != WipeStatus::Cancelled);
 }
 
 // Its list is as wide as its words, which some styles cut to the width of the box.
@@ -83,15 +48,15 @@ HistoryPage::HistoryPage(QWidget *parent)
     : QWidget(parent)
     , m_exporter(&exportWithRenderer)
     , m_filter(new FilterBox)
-    , m_table(new QTableWidget)
-    , m_view(new QPushButton(tr("查看证书")))
-    , m_export(new QPushButton(tr("导出PDF")))
-    , m_delete(new QPushButton(tr("删除")))
-    , m_clearAll(new QPushButton(tr("清除所有")))
+    , m_table(new HistoryTable)
+    , m_view(buttons::make(tr("查看证书"), {.name = u"primaryBtn"_s}))
+    , m_export(buttons::make(tr("导出PDF"), {.name = u"exportBtn"_s}))
+    , m_delete(buttons::make(tr("删除"), {.name = u"deleteBtn"_s}))
+    , m_clearAll(buttons::make(tr("清除所有"), {.name = u"dangerBtn"_s}))
 {
     auto *title = new QLabel(tr("擦除历史记录"));
     title->setObjectName(u"pageTitle"_s);
-    createTable();
+    connectTable();
 
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(30, 25, 30, 25);
@@ -127,42 +92,6 @@ QWidget *HistoryPage::createFilterBar()
     return bar;
 }
 
-void HistoryPage::createTable()
-{
-    m_table->setObjectName(u"historyTable"_s);
-    m_table->setAccessibleName(tr("擦除历史记录"));
-    m_table->setColumnCount(ColumnCount);
-    m_table->setHorizontalHeaderLabels({tr("目标"), tr("擦除方法"), tr("时间"), tr("状态"), tr("操作")});
-    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
-    m_table->setSelectionMode(QAbstractItemView::SingleSelection);
-    m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    m_table->setAlternatingRowColors(true);
-    m_table->setShowGrid(false);
-    m_table->setWordWrap(false);
-    // Tab leads on to the buttons instead of through every cell.
-    m_table->setTabKeyNavigation(false);
-    m_table->verticalHeader()->hide();
-    m_table->verticalHeader()->setDefaultSectionSize(RowHeight);
-
-    QHeaderView *header = m_table->horizontalHeader();
-    header->setHighlightSections(false);
-    header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    header->setSectionResizeMode(QHeaderView::Fixed);
-    header->setSectionResizeMode(TargetColumn, QHeaderView::Stretch);
-    m_table->setColumnWidth(MethodColumn, 120);
-    m_table->setColumnWidth(TimeColumn, 150);
-    m_table->setColumnWidth(StatusColumn, 80);
-    m_table->setColumnWidth(ActionColumn, 100);
-    for (const int centred : {StatusColumn, ActionColumn})
-        m_table->horizontalHeaderItem(centred)->setTextAlignment(Qt::AlignCenter);
-    connect(m_table, &QTableWidget::itemSelectionChanged, this, &HistoryPage::onSelectionChanged);
-    connect(m_table, &QTableWidget::cellDoubleClicked, this, &HistoryPage::onViewClicked);
-    // Not when a row is "activated", which on some desktops a single click does.
-    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter})
-        connectKey(key, *m_view);
-    connectKey(QKeySequence::Delete, *m_delete);
-}
-
 // Without a selection, when the button is disabled, nothing happens.
 void HistoryPage::connectKey(const QKeySequence &key, const QPushButton &button)
 {
@@ -170,12 +99,19 @@ void HistoryPage::connectKey(const QKeySequence &key, const QPushButton &button)
             &QPushButton::click);
 }
 
+void HistoryPage::connectTable()
+{
+    connect(m_table, &QTableWidget::itemSelectionChanged, this, &HistoryPage::onSelectionChanged);
+    connect(m_table, &HistoryTable::viewWanted, this, &HistoryPage::viewCertificate);
+    connect(m_table, &QTableWidget::cellDoubleClicked, this, &HistoryPage::onViewClicked);
+    // Not when a row is "activated", which on some desktops a single click does.
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter})
+        connectKey(key, *m_view);
+    connectKey(QKeySequence::Delete, *m_delete);
+}
+
 QBoxLayout *HistoryPage::createButtons()
 {
-    m_view->setObjectName(u"primaryBtn"_s);
-    m_export->setObjectName(u"exportBtn"_s);
-    m_delete->setObjectName(u"deleteBtn"_s);
-    m_clearAll->setObjectName(u"dangerBtn"_s);
     connect(m_view, &QPushButton::clicked, this, &HistoryPage::onViewClicked);
     connect(m_export, &QPushButton::clicked, this, &HistoryPage::onExportClicked);
     connect(m_delete, &QPushButton::clicked, this, &HistoryPage::onDeleteClicked);
@@ -206,93 +142,13 @@ void HistoryPage::loadHistory()
         if (const auto outcome = ReportDatabase::instance().outcome(report.certificateId))
             m_outcomes.insert(report.certificateId, *outcome);
     }
-    fillTable(m_reports);
+    showReports(m_reports);
 }
 
-void HistoryPage::fillTable(const QList<WipeReport> &shown)
+void HistoryPage::showReports(const QList<WipeReport> &reports)
 {
-    m_table->setUpdatesEnabled(false);
-    m_table->setRowCount(0);
-    for (const WipeReport &report : shown)
-        addRow(report);
-    m_table->setUpdatesEnabled(true);
+    m_table->fill(reports, m_outcomes);
     onSelectionChanged();
-}
-
-void HistoryPage::addRow(const WipeReport &report)
-{
-    const int row = m_table->rowCount();
-    m_table->insertRow(row);
-
-    QTableWidgetItem *target = createItem(targetText(report));
-    target->setData(CertificateIdRole, report.certificateId);
-    showOutcome(report, *target);
-    m_table->setItem(row, TargetColumn, target);
-    m_table->setItem(row, MethodColumn, createItem(displayText(report.method.name)));
-    m_table->setItem(row, TimeColumn, createItem(report.startTime.toString(u"MM-dd HH:mm"_s)));
-    QTableWidgetItem *status = createItem(report.statusName());
-    status->setTextAlignment(Qt::AlignCenter);
-    status->setForeground(statusColor(report.status));
-    QFont font = m_table->font();
-    font.setPixelSize(StatusPixels);
-    status->setFont(font);
-    m_table->setItem(row, StatusColumn, status);
-
-    auto *view = new QPushButton(tr("查看"));
-    view->setObjectName(u"tableViewBtn"_s);
-    view->setCursor(Qt::PointingHandCursor);
-    // The keyboard has the button below the table: a hundred stops more would make Tab useless.
-    view->setFocusPolicy(Qt::NoFocus);
-    view->setAccessibleDescription(report.certificateId);
-    connect(view, &QPushButton::clicked, this,
-            [this, id = report.certificateId] { emit viewCertificate(id); });
-    m_table->setCellWidget(row, ActionColumn, view);
-}
-
-// Beside the target: the column of the status has room for its word only.
-void HistoryPage::showOutcome(const WipeReport &report, QTableWidgetItem &item) const
-{
-    const auto outcome = m_outcomes.constFind(report.certificateId);
-    if (outcome == m_outcomes.cend() || !isMoreThanTheStatusTells(report, *outcome))
-        return;
-    item.setIcon(style()->standardIcon(QStyle::SP_MessageBoxWarning));
-    item.setToolTip(plainTip(outcome->fullSummary()));
-    item.setData(Qt::AccessibleDescriptionRole, outcome->fullSummary());
-}
-
-QString HistoryPage::targetText(const WipeReport &report) const
-{
-    switch (report.operationType) {
-    case DiskWipe:
-        return tr("[磁盘] ") + report.disk.displayName();
-    case PartitionWipe:
-        return tr("[分区] ") + report.disk.displayName();
-    case FreeSpaceWipe:
-        return tr("[空闲] ") + report.disk.displayName();
-    case FileWipe:
-        return tr("[文件] ") + tr("%1 个文件").arg(report.fileCount);
-    }
-    // A number that another version, or nobody, wrote.
-    return report.disk.displayName();
-}
-
-std::optional<QString> HistoryPage::currentCertificateId() const
-{
-    const int row = m_table->currentRow();
-    const QTableWidgetItem *item = row < 0 ? nullptr : m_table->item(row, TargetColumn);
-    if (!item)
-        return std::nullopt;
-    return item->data(CertificateIdRole).toString();
-}
-
-void HistoryPage::makeCurrent(const QString &certificateId)
-{
-    for (int row = 0; row < m_table->rowCount(); ++row) {
-        if (m_table->item(row, TargetColumn)->data(CertificateIdRole).toString() == certificateId) {
-            m_table->setCurrentCell(row, TargetColumn);
-            return;
-        }
-    }
 }
 
 void HistoryPage::onFilterChanged()
@@ -303,15 +159,15 @@ void HistoryPage::onFilterChanged()
         if (status < 0 || static_cast<int>(report.status) == status)
             shown.append(report);
     }
-    fillTable(shown);
+    showReports(shown);
 }
 
 void HistoryPage::onSearch()
 {
-    const std::optional<QString> certificateId = currentCertificateId();
+    const std::optional<QString> certificateId = m_table->currentCertificateId();
     onFilterChanged();
     if (certificateId)
-        makeCurrent(*certificateId);
+        m_table->makeCurrent(*certificateId);
 }
 
 void HistoryPage::onSelectionChanged()
@@ -324,13 +180,13 @@ void HistoryPage::onSelectionChanged()
 
 void HistoryPage::onViewClicked()
 {
-    if (const std::optional<QString> certificateId = currentCertificateId())
+    if (const std::optional<QString> certificateId = m_table->currentCertificateId())
         emit viewCertificate(*certificateId);
 }
 
 void HistoryPage::onExportClicked()
 {
-    const std::optional<QString> certificateId = currentCertificateId();
+    const std::optional<QString> certificateId = m_table->currentCertificateId();
     if (!certificateId)
         return;
     const std::optional<WipeReport> report = storedReport(*certificateId, this);
@@ -348,7 +204,7 @@ void HistoryPage::onExportClicked()
 
 void HistoryPage::onDeleteClicked()
 {
-    const std::optional<QString> certificateId = currentCertificateId();
+    const std::optional<QString> certificateId = m_table->currentCertificateId();
     if (!certificateId || !Prompts::current().confirms(this, QMessageBox::Question, tr("确认删除"),
                                                        tr("确定要删除此擦除记录吗？"), QMessageBox::No))
         return;

@@ -14,8 +14,7 @@ QT_FORWARD_DECLARE_CLASS(QBoxLayout)
 QT_FORWARD_DECLARE_CLASS(QComboBox)
 QT_FORWARD_DECLARE_CLASS(QKeySequence)
 QT_FORWARD_DECLARE_CLASS(QPushButton)
-QT_FORWARD_DECLARE_CLASS(QTableWidget)
-QT_FORWARD_DECLARE_CLASS(QTableWidgetItem)
+class HistoryTable;
 
 /// Lists the latest stored reports and lets the user view, export and delete them. Reads ReportDatabase,
 /// which must be open already. Interface thread.
@@ -51,25 +50,17 @@ public slots:
     void onSearch();
 
 private:
-    enum Column { TargetColumn, MethodColumn, TimeColumn, StatusColumn, ActionColumn, ColumnCount };
-
     QWidget *createFilterBar();
-    void createTable();
+    void connectTable();
     void connectKey(const QKeySequence &key, const QPushButton &button);
     QBoxLayout *createButtons();
-    void fillTable(const QList<WipeReport> &shown);
-    void addRow(const WipeReport &report);
-    void showOutcome(const WipeReport &report, QTableWidgetItem &item) const;
-    QString targetText(const WipeReport &report) const;
-    // Of the current row, if there is one.
-    std::optional<QString> currentCertificateId() const;
-    void makeCurrent(const QString &certificateId);
+    void showReports(const QList<WipeReport> &reports);
 
     Exporter m_exporter;
     QList<WipeReport> m_reports;
     QHash<QString, OutcomeRecord> m_outcomes; // by certificate id, those that are known
     QComboBox *m_filter;
-    QTableWidget *m_table;
+    HistoryTable *m_table;
     QPushButton *m_view;
     QPushButton *m_export;
     QPushButton *m_delete;

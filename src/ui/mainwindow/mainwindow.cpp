@@ -1,57 +1,52 @@
 #include "ui/mainwindow/mainwindow.h"
 
-#include "engine/wipeengine.h"
 #include "jobs/jobcontroller.h"
-#include "platform/filedrops.h"
-#include "platform/windowframe.h"
+#include "model/wipetask.h"
+#include "services/linkmanager.h"
 #include "services/reportdatabase.h"
+#include "ui/certificate/certificatedialog.h"
 #include "ui/disks/diskselectpage.h"
 #include "ui/files/fileselectpage.h"
 #include "ui/history/historypage.h"
+#include "ui/history/storedreport.h"
 #include "ui/home/homepage.h"
-#include "ui/mainwindow/frameowner.h"
+#include "ui/mainwindow/aboutbox.h"
+#include "ui/mainwindow/framegrips.h"
+#include "ui/mainwindow/jobflow.h"
+#include "ui/mainwindow/nativeframe.h"
 #include "ui/mainwindow/recyclebinflow.h"
-#include "ui/mainwindow/shadowcanvas.h"
 #include "ui/mainwindow/sidebar.h"
+#include "ui/mainwindow/taskchoice.h"
+#include "ui/mainwindow/waitnotice.h"
+#include "ui/mainwindow/windowsheet.h"
+#include "ui/mainwindow/windowshell.h"
 #include "ui/methods/methodselectpage.h"
 #include "ui/progress/progresspage.h"
+#include "ui/prompts/prompts.h"
 #include "ui/settings/settingspage.h"
-#include "ui/style/palette.h"
 #include "ui/titlebar/programrestart.h"
 #include "ui/titlebar/titlebar.h"
 #include "ui/titlebar/winbutton.h"
 
 #include <QApplication>
+#include <QCloseEvent>
 #include <QDebug>
-#include <QFile>
+#include <QHoverEvent>
 #include <QListWidget>
+#include <QMessageBox>
+#include <QMouseEvent>
 #include <QSessionManager>
+#include <QSignalBlocker>
 #include <QStackedWidget>
-#include <QVBoxLayout>
 
 #include <chrono>
+#include <initializer_list>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 namespace {
-
-// On top of the application's sheet, so that the sidebar has its looks whatever that says.
-const QString sidebarRules =
-    u"#sidebar { background-color: #1e293b; border-bottom-left-radius: 12px; }"
-    "#logoWidget { background: transparent; border-bottom: 1px solid #334155; }"
-    "#logoTitle { color: #f8fafc; font-size: 16px; font-weight: bold; }"
-    "#logoVersion { color: #64748b; font-size: 11px; }"
-    "#menuList { background: transparent; border: none; outline: none; padding: 10px;"
-    " font-size: 14px; }"
-    "#menuList::item { color: #94a3b8; padding: 12px 16px; border-radius: 8px;"
-    " margin: 2px 0; }"
-    "#menuList::item:hover { background-color: rgba(255, 255, 255, 0.05);"
-    " color: #f1f5f9; }"
-    "#menuList::item:selected { background-color: rgba(59, 130, 246, 0.2);"
-    " color: #60a5fa; }"
-    "#pageStack, #contentWidget { background-color: #F0F5FE; }"
-    "#pageStack { border-bottom-right-radius: 12px; }"_s;
 
 int menuRowOf(int page)
 {
@@ -65,7 +60,6 @@ int menuRowOf(int page)
 MainWindow::MainWindow(QWidget *parent)
     : QMainWindow(parent)
     , m_job(new JobController(this))
-    , m_engine(&m_job->engine())
 {
     // With the system menu, which is how a window without a frame is moved by keyboard.
     setWindowFlags(Qt::Window | Qt::FramelessWindowHint | Qt::WindowSystemMenuHint |
@@ -76,57 +70,29 @@ MainWindow::MainWindow(QWidget *parent)
     setMinimumSize(980, 660);
     resize(980, 660);
 
-    // Another program may hold it; then it is opened when there is something to store.
+    // The database is opened later, for the first report to store, while another program holds it.
     if (!ReportDatabase::instance().initialize({}, 250ms))
         qWarning() << "[MainWindow] Report database:" << ReportDatabase::instance().lastError();
     // First, or every widget would be given its looks twice.
-    applyStyleSheet();
-    createLayout();
+    setStyleSheet(windowSheet());
+    m_shell = std::make_unique<WindowShell>(*this);
+    m_menu = m_shell->sidebar().menu();
+    m_pages = &m_shell->pages();
+    m_titleBar = &m_shell->titleBar();
+    m_grips = std::make_unique<FrameGrips>(*this);
+    m_nativeFrame = std::make_unique<NativeFrame>(*this, *m_titleBar->maximizeButton(),
+                                                  [this](const QStringList &paths) { takeDrop(paths); });
     createPages();
+    createJobFlow();
     connectPages();
-    connectEngine();
     connectTitleBar();
+    connectSession();
 }
 
 MainWindow::~MainWindow()
 {
-    // Its end is kept with the help of the window.
+    // The pages are needed to keep the records of a last job.
     delete m_job;
-}
-
-void MainWindow::createLayout()
-{
-    auto *container = new QWidget;
-    container->setObjectName("mainContainer"_L1);
-    container->setAttribute(Qt::WA_StyledBackground);
-    container->setStyleSheet(u"#mainContainer {  background-color: #f8fafc;  border-radius: 12px;}"_s);
-    auto *outer = new ShadowCanvas(
-        {.cornerRadius = 12, .blurRadius = 20, .offset = 5, .colour = palette::WindowShadow}, container);
-    setCentralWidget(outer);
-    m_outerLayout = new QVBoxLayout(outer);
-    m_outerLayout->setContentsMargins(10, 10, 10, 10);
-    m_outerLayout->addWidget(container);
-
-    auto *row = new QHBoxLayout(container);
-    row->setContentsMargins({});
-    row->setSpacing(0);
-    m_sidebar = new Sidebar;
-    m_menu = m_sidebar->menu();
-    row->addWidget(m_sidebar);
-
-    auto *right = new QWidget;
-    right->setObjectName("rightWidget"_L1);
-    auto *column = new QVBoxLayout(right);
-    column->setContentsMargins({});
-    column->setSpacing(0);
-    m_titleBar = new TitleBar;
-    m_titleBar->setStyleSheet(u"#titleBar {  background-color: #1e293b;  border-top-right-radius: 12px;}"_s);
-    column->addWidget(m_titleBar);
-    m_frameOwner = std::make_unique<FrameOwner>(*this, *m_titleBar->maximizeButton());
-    m_pages = new QStackedWidget;
-    m_pages->setObjectName("pageStack"_L1);
-    column->addWidget(m_pages, 1);
-    row->addWidget(right, 1);
 }
 
 void MainWindow::createPages()
@@ -142,6 +108,28 @@ void MainWindow::createPages()
                                                           m_progressPage, m_historyPage, m_settingsPage})
         m_pages->addWidget(page);
     m_bin = new RecycleBinFlow(*m_filePage, this);
+    m_choice = std::make_unique<TaskChoice>(*m_job, *m_diskPage, *m_filePage, *m_bin);
+}
+
+void MainWindow::createJobFlow()
+{
+    m_flow = new JobFlow({*m_job, *m_progressPage, *m_historyPage, *m_bin, *this}, this);
+    connect(m_flow, &JobFlow::started, this, [this] {
+        setMenuEnabled(false);
+        showPage(Progress);
+    });
+    connect(m_flow, &JobFlow::refused, this, [this] {
+        setMenuEnabled(true);
+        showPage(MethodSelect);
+    });
+    connect(m_flow, &JobFlow::stopped, this, [this] {
+        setMenuEnabled(true);
+        showHome();
+    });
+    connect(m_flow, &JobFlow::ended, this, [this] { setMenuEnabled(true); });
+    connect(m_flow, &JobFlow::certificateWanted, this, &MainWindow::onViewCertificate);
+    connect(m_flow, &JobFlow::left, this, &MainWindow::showHome);
+    connect(m_flow, &JobFlow::freeSpaceWanted, this, &MainWindow::onFreeSpaceWipeClicked);
 }
 
 void MainWindow::connectPages()
@@ -166,37 +154,6 @@ void MainWindow::connectPages()
     connect(m_historyPage, &HistoryPage::viewCertificate, this, &MainWindow::onViewCertificate);
 }
 
-void MainWindow::connectEngine()
-{
-    // The engine counts whole percents, the page takes a double: a conversion that a plain connection
-    // refuses.
-    connect(m_engine, &WipeEngine::progressChanged, m_progressPage,
-            [page = m_progressPage](int percent) { page->setProgress(percent); });
-    connect(m_engine, &WipeEngine::passChanged, m_progressPage, &ProgressPage::setPass);
-    connect(m_engine, &WipeEngine::speedUpdated, m_progressPage, &ProgressPage::setSpeed);
-    connect(m_engine, &WipeEngine::logMessage, m_progressPage, &ProgressPage::addLog);
-    m_job->setKeep([this](JobEnd &end) { keepRecords(end); });
-    connect(m_job, &JobController::ended, this, &MainWindow::showEnd);
-    connect(qApp, &QCoreApplication::aboutToQuit, m_job, &JobController::finish);
-    // The system is about to end the session and does not wait for long, unless it can ask the user first.
-    connect(
-        qApp, &QGuiApplication::commitDataRequest, this,
-        [this](QSessionManager &manager) {
-            if (m_job->delaysShutdown()) {
-                manager.cancel();
-                return;
-            }
-            m_job->finish();
-            showHome();
-        },
-        Qt::DirectConnection);
-    // The errors of a running job are lines of its log already; a job that is refused has no other line.
-    connect(m_engine, &WipeEngine::errorOccurred, m_progressPage, [this](const QString &error) {
-        if (!m_engine->isRunning())
-            m_progressPage->addLog(error.toHtmlEscaped(), 2);
-    });
-}
-
 void MainWindow::connectTitleBar()
 {
     connect(m_titleBar, &TitleBar::minimizeClicked, this, &MainWindow::onMinimizeClicked);
@@ -210,11 +167,21 @@ void MainWindow::connectTitleBar()
         [this] { m_job->leave(JobController::State::Restarting, [] { restartProgram(); }); });
 }
 
-void MainWindow::applyStyleSheet()
+void MainWindow::connectSession()
 {
-    QFile sheet(u":/styles/style.qss"_s);
-    const QString rules = sheet.open(QIODevice::ReadOnly) ? QString::fromUtf8(sheet.readAll()) : QString();
-    setStyleSheet(rules + sidebarRules);
+    connect(qApp, &QCoreApplication::aboutToQuit, m_job, &JobController::finish);
+    // The system is about to end the session and does not wait for long, unless it can ask the user first.
+    connect(
+        qApp, &QGuiApplication::commitDataRequest, this,
+        [this](QSessionManager &manager) {
+            if (m_job->delaysShutdown()) {
+                manager.cancel();
+                return;
+            }
+            m_job->finish();
+            showHome();
+        },
+        Qt::DirectConnection);
 }
 
 void MainWindow::showPage(int index)
@@ -258,4 +225,253 @@ void MainWindow::setMenuEnabled(bool enabled)
 {
     m_menu->setEnabled(enabled);
     m_menu->setStyleSheet(enabled ? QString() : u"QListWidget { opacity: 0.5; }"_s);
+}
+
+void MainWindow::onDiskWipeClicked()
+{
+    m_choice->begin(DiskWipe);
+    showDisks(DiskSelectPage::WipeDisk);
+}
+
+void MainWindow::onFreeSpaceWipeClicked()
+{
+    m_choice->begin(FreeSpaceWipe);
+    showDisks(DiskSelectPage::WipeFreeSpace);
+}
+
+// A drive that is asleep takes seconds to answer.
+void MainWindow::showDisks(int mode)
+{
+    const WaitNotice notice(*m_pages, tr("Reading drives..."));
+    m_diskPage->setMode(mode);
+    m_diskPage->refresh();
+    showPage(DiskSelect);
+}
+
+void MainWindow::onFileWipeClicked()
+{
+    m_choice->begin(FileWipe);
+    m_filePage->clearFiles();
+    showPage(FileSelect);
+}
+
+void MainWindow::onRecycleBinWipeClicked()
+{
+    m_bin->begin();
+    showPage(FileSelect);
+    m_bin->scan();
+}
+
+void MainWindow::onRecycleBinScanFinished()
+{
+    m_filePage->hideLoading();
+    // The user left meanwhile.
+    if (m_currentPage != FileSelect || !m_bin->isActive())
+        return;
+    const RecycleBinInfo found = m_bin->result();
+    if (found.fileCount < 1 && found.unrecorded.isEmpty())
+        offerFreeSpaceWipeOfEmptyBin(found);
+    else
+        m_choice->takeRecycleBin(found);
+}
+
+void MainWindow::offerFreeSpaceWipeOfEmptyBin(const RecycleBinInfo &found)
+{
+    m_bin->leave();
+    showHome();
+    const QString question = tr("The Recycle Bin is already empty.\n\n"
+                                "However, previously deleted files may still be recoverable.\n"
+                                "Would you like to wipe free space to ensure they cannot be recovered?");
+    const QStringList texts = QStringList{question} + RecycleBinFlow::besideItems(found);
+    if (Prompts::current().confirms(this, QMessageBox::Question, tr("Recycle Bin is Empty"),
+                                    texts.join(QStringLiteral("\n\n"))))
+        onFreeSpaceWipeClicked();
+}
+
+void MainWindow::loadMoreRecycleBinItems()
+{
+    m_bin->showMore();
+}
+
+void MainWindow::onRecycleBinListScrolled()
+{
+    m_bin->onScrolled();
+}
+
+void MainWindow::onBackClicked()
+{
+    switch (m_currentPage) {
+    case DiskSelect:
+    case FileSelect:
+        m_bin->leave();
+        showHome();
+        break;
+    case MethodSelect:
+        backFromMethods();
+        break;
+    case Progress:
+        break;
+    default:
+        showHome();
+        break;
+    }
+}
+
+void MainWindow::backFromMethods()
+{
+    if (m_job->task() && m_job->task()->operationType() == FileWipe) {
+        showPage(FileSelect);
+        return;
+    }
+    // The page reads the drives again whenever it is shown.
+    const WaitNotice notice(*m_pages, tr("Reading drives..."));
+    showPage(DiskSelect);
+}
+
+void MainWindow::onNextClicked()
+{
+    switch (m_currentPage) {
+    case DiskSelect:
+        m_choice->takeDisk();
+        showPage(MethodSelect);
+        break;
+    case FileSelect:
+        m_choice->takeFiles();
+        showPage(MethodSelect);
+        break;
+    case MethodSelect:
+        onStartWipe();
+        break;
+    default:
+        break;
+    }
+}
+
+void MainWindow::onStartWipe()
+{
+    m_flow->start(m_methodPage->selectedMethod());
+}
+
+void MainWindow::onStopClicked()
+{
+    m_flow->stop();
+}
+
+void MainWindow::onWipeCompleted(bool success)
+{
+    if (!m_job->task()) {
+        setMenuEnabled(true);
+        qWarning() << "m_currentTask is null";
+        showHome();
+        return;
+    }
+    m_job->complete(success);
+}
+
+void MainWindow::onViewCertificate(const QString &certificateId)
+{
+    if (const std::optional<WipeReport> report = storedReport(certificateId, this))
+        CertificateDialog(*report, this, ReportDatabase::instance().outcome(certificateId)).exec();
+}
+
+bool MainWindow::event(QEvent *event)
+{
+    if (event->type() == QEvent::HoverMove)
+        m_grips->hover(static_cast<QHoverEvent *>(event)->position().toPoint());
+    // The native window is made when the window is first shown, and may be made anew.
+    if (event->type() == QEvent::WinIdChange)
+        m_nativeFrame->attach();
+    return QMainWindow::event(event);
+}
+
+// The pages handle drops on their widgets; these come to the window as a whole.
+void MainWindow::takeDrop(const QStringList &paths)
+{
+    if (m_currentPage == FileSelect && !QApplication::activeModalWidget())
+        m_filePage->addDropped(paths);
+}
+
+void MainWindow::onMinimizeClicked()
+{
+    showMinimized();
+}
+
+void MainWindow::onMaximizeClicked()
+{
+    const bool maximize = !isMaximized();
+    if (maximize)
+        showMaximized();
+    else
+        showNormal();
+    m_titleBar->setMaximized(maximize);
+}
+
+void MainWindow::onCloseClicked()
+{
+    close();
+}
+
+// The system maximises and restores windows too, by a drag to the edge of the screen or from the keyboard.
+void MainWindow::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::WindowStateChange)
+        m_shell->setMaximized(isMaximized());
+    QMainWindow::changeEvent(event);
+}
+
+void MainWindow::mousePressEvent(QMouseEvent *event)
+{
+    if (m_grips->press(*event))
+        event->accept();
+    else
+        QMainWindow::mousePressEvent(event);
+}
+
+void MainWindow::mouseMoveEvent(QMouseEvent *event)
+{
+    if (m_grips->drag(*event))
+        event->accept();
+    else
+        QMainWindow::mouseMoveEvent(event);
+}
+
+void MainWindow::mouseReleaseEvent(QMouseEvent *event)
+{
+    m_grips->release();
+    QMainWindow::mouseReleaseEvent(event);
+}
+
+void MainWindow::closeEvent(QCloseEvent *event)
+{
+    if (!m_flow->mayClose()) {
+        event->ignore();
+        return;
+    }
+    m_job->leave(JobController::State::Closing);
+    event->accept();
+}
+
+void MainWindow::leaveUnasked(std::function<void()> then)
+{
+    m_job->leave(JobController::State::Closing, std::move(then));
+}
+
+void MainWindow::onAboutClicked()
+{
+    AboutBox::show(*this);
+}
+
+void MainWindow::onHelpClicked()
+{
+    LinkManager::instance().openLink(u"support"_s, u"help"_s, this);
+}
+
+void MainWindow::onSupportClicked()
+{
+    LinkManager::instance().openLink(u"support"_s, u"contact"_s, this);
+}
+
+void MainWindow::onLanguageChanged(const QString &langCode)
+{
+    qDebug() << "[MainWindow] Language changed to:" << langCode;
 }

@@ -1,41 +1,33 @@
 #pragma once
 
-#include "ui/prompts/prompts.h"
-
 #include <QMainWindow>
-#include <QMessageBox>
-#include <QPoint>
+#include <QString>
+#include <QStringList>
 
 #include <functional>
 #include <memory>
 
 QT_FORWARD_DECLARE_CLASS(QListWidget)
 QT_FORWARD_DECLARE_CLASS(QStackedWidget)
-QT_FORWARD_DECLARE_CLASS(QVBoxLayout)
 class DiskSelectPage;
 class FileSelectPage;
-class FrameOwner;
+class FrameGrips;
 class HistoryPage;
 class HomePage;
 class JobController;
+class JobFlow;
 class MethodSelectPage;
+class NativeFrame;
 class ProgressPage;
 class RecycleBinFlow;
 class SettingsPage;
-class Sidebar;
+class TaskChoice;
 class TitleBar;
-class WipeEngine;
-class WipeTask;
-struct JobEnd;
+class WindowShell;
 struct RecycleBinInfo;
-namespace platform {
-class FileDrops;
-class WindowFrame;
-} // namespace platform
 
-/// The program's one window: sidebar, title bar and the stack of pages. Turns the user's way through the
-/// pages into a task, hands it to the controller of the job, keeps report and certificate at its end,
-/// whichever way it comes, and tells of it. Opens the report database. Interface thread.
+/// The program's one window: sidebar, title bar and the stack of pages. Leads the user through the pages up
+/// to the job and back from it. Opens the report database. Interface thread.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -49,8 +41,8 @@ public:
 
     int currentPage() const { return m_currentPage; }
 
-    /// The program is asked to go and nobody is there to ask back: a job that runs is stopped, and the
-    /// function is called when its end is kept.
+    /// Stops a job that runs, without a question, and calls the function when the records of its end are
+    /// kept.
     void leaveUnasked(std::function<void()> then);
 
 public slots:
@@ -90,35 +82,23 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
-    void createLayout();
     void createPages();
+    void createJobFlow();
     void connectPages();
-    void connectEngine();
     void connectTitleBar();
-    void applyStyleSheet();
-    void setCorners(bool square);
-    void takeNativeWindow();
+    void connectSession();
     void takeDrop(const QStringList &paths);
 
     void showPage(int index);
     void showDisks(int mode);
     void backFromMethods();
     void showHome();
-    void takeDiskSelection();
     void setMenuEnabled(bool enabled);
 
-    QMessageBox::StandardButton askAboutJob(const Prompts::Box &box);
-
-    void keepRecords(JobEnd &end);
-    void showEnd(const JobEnd &end);
-    void viewCertificate(const JobEnd &end);
-    void leaveCompletedJob(bool success);
-
     void offerFreeSpaceWipeOfEmptyBin(const RecycleBinInfo &found);
-    void takeRecycleBin(const RecycleBinInfo &found);
 
-    Sidebar *m_sidebar = nullptr;
-    QListWidget *m_menu = nullptr;
+    std::unique_ptr<WindowShell> m_shell;
+    QListWidget *m_menu = nullptr; ///< the shell's, as stack and title bar
     QStackedWidget *m_pages = nullptr;
     TitleBar *m_titleBar = nullptr;
     HomePage *m_homePage = nullptr;
@@ -129,15 +109,11 @@ private:
     HistoryPage *m_historyPage = nullptr;
     SettingsPage *m_settingsPage = nullptr;
     RecycleBinFlow *m_bin = nullptr; ///< on the file page
+    std::unique_ptr<TaskChoice> m_choice;
     JobController *m_job = nullptr;
-    WipeEngine *m_engine = nullptr; ///< the job's
-    bool m_asksAboutJob = false;    ///< a box is open that only makes sense while the job runs
+    JobFlow *m_flow = nullptr;
     int m_currentPage = Home;
 
-    std::unique_ptr<platform::FileDrops> m_drops; ///< of the native window, as m_frame
-    std::unique_ptr<FrameOwner> m_frameOwner;
-    std::unique_ptr<platform::WindowFrame> m_frame;
-    QVBoxLayout *m_outerLayout = nullptr;
-    bool m_dragging = false;
-    QPoint m_dragPosition; ///< of the cursor, from the window's top left corner
+    std::unique_ptr<FrameGrips> m_grips;
+    std::unique_ptr<NativeFrame> m_nativeFrame;
 };

@@ -1,6 +1,7 @@
 #include "ui/methods/methodselectpage.h"
 
 #include "ui/methods/methodcard.h"
+#include "ui/style/buttons.h"
 #include "ui/style/pagestyle.h"
 
 #include <QButtonGroup>
@@ -14,14 +15,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QPushButton *makeButton(const QString &text, const QString &name)
+buttons::Look navigationLook(const QString &name)
 {
-    auto *const button = new QPushButton(text);
-    button->setObjectName(name);
-    button->setFixedWidth(120);
-    button->setMinimumHeight(40);
-    button->setCursor(Qt::PointingHandCursor);
-    return button;
+    return {.name = name, .width = 120, .leastHeight = 40, .hasHandCursor = true};
 }
 
 } // namespace
@@ -93,9 +89,9 @@ void MethodSelectPage::addNavigation()
     bar->setStyleSheet(
         u"#navBar { background-color: #ffffff; border-radius: 10px; border: 1px solid #e2e8f0; }"_s);
 
-    QPushButton *const back = makeButton(tr("← 返回"), u"secondaryBtn"_s);
+    QPushButton *const back = buttons::make(tr("← 返回"), navigationLook(u"secondaryBtn"_s));
     connect(back, &QPushButton::clicked, this, &MethodSelectPage::backClicked);
-    QPushButton *const start = makeButton(tr("Start"), u"dangerBtn"_s);
+    QPushButton *const start = buttons::make(tr("Start"), navigationLook(u"dangerBtn"_s));
     connect(start, &QPushButton::clicked, this, &MethodSelectPage::startClicked);
 
     auto *const row = new QHBoxLayout(bar);

@@ -2,6 +2,7 @@
 
 #include "model/spokentext.h"
 #include "ui/progress/wiperate.h"
+#include "ui/style/buttons.h"
 #include "ui/style/palette.h"
 
 #include <QColor>
@@ -49,12 +50,9 @@ QLabel *makeLabel(const QString &text, const QString &name, Qt::Alignment alignm
     return label;
 }
 
-QPushButton *makeButton(const QString &name)
+buttons::Look look(const QString &name)
 {
-    auto *const button = new QPushButton;
-    button->setObjectName(name);
-    button->setFixedWidth(120);
-    return button;
+    return {.name = name, .width = 120};
 }
 
 } // namespace
@@ -145,11 +143,9 @@ void ProgressPage::addLogView(QBoxLayout *layout)
 
 void ProgressPage::addButtons(QBoxLayout *layout)
 {
-    m_pauseButton = makeButton(u"secondaryBtn"_s);
+    m_pauseButton = buttons::make(QString(), look(u"secondaryBtn"_s));
     connect(m_pauseButton, &QPushButton::clicked, this, &ProgressPage::onPauseClicked);
-    m_stopButton = makeButton(u"dangerBtn"_s);
-    m_stopButton->setText(tr("⏹️ 停止"));
-    m_stopButton->setAccessibleName(spokenText(m_stopButton->text()));
+    m_stopButton = buttons::make(tr("⏹️ 停止"), look(u"dangerBtn"_s));
     connect(m_stopButton, &QPushButton::clicked, this, &ProgressPage::stopClicked);
 
     auto *const row = new QHBoxLayout;

@@ -2,6 +2,7 @@
 
 #include "model/usersettings.h"
 #include "ui/prompts/prompts.h"
+#include "ui/style/buttons.h"
 #include "ui/style/pagestyle.h"
 
 #include <QBoxLayout>
@@ -43,7 +44,7 @@ SettingsPage::SettingsPage(QWidget *parent)
     , m_verify(createCheckBox(tr("擦除后验证数据"), u"verifyCheck"_s))
     , m_report(createCheckBox(tr("自动生成擦除证书"), u"reportCheck"_s))
     , m_path(new QLineEdit)
-    , m_browse(new QPushButton(tr("浏览...")))
+    , m_browse(buttons::make(tr("浏览..."), {.name = u"browseBtn"_s, .width = 80}))
     , m_autoExport(createCheckBox(tr("擦除完成后自动导出PDF证书"), u"autoExportCheck"_s))
 {
     auto *title = new QLabel(tr("设置"));
@@ -95,8 +96,6 @@ QWidget *SettingsPage::createExportGroup()
     label->setBuddy(m_path);
     m_path->setObjectName(u"exportPathEdit"_s);
     m_path->setPlaceholderText(tr("选择默认导出路径..."));
-    m_browse->setObjectName(u"browseBtn"_s);
-    m_browse->setFixedWidth(80);
     m_browse->setToolTip(tr("选择导出目录"));
     connect(m_browse, &QPushButton::clicked, this, &SettingsPage::onBrowseExportPath);
 
@@ -114,10 +113,8 @@ QWidget *SettingsPage::createExportGroup()
 
 QBoxLayout *SettingsPage::createButtons()
 {
-    auto *reset = new QPushButton(tr("恢复默认"));
-    reset->setObjectName(u"resetBtn"_s);
-    auto *save = new QPushButton(tr("保存设置"));
-    save->setObjectName(u"primaryBtn"_s);
+    QPushButton *reset = buttons::make(tr("恢复默认"), {.name = u"resetBtn"_s});
+    QPushButton *save = buttons::make(tr("保存设置"), {.name = u"primaryBtn"_s});
     connect(reset, &QPushButton::clicked, this, &SettingsPage::onReset);
     connect(save, &QPushButton::clicked, this, &SettingsPage::onSave);
 

@@ -4,7 +4,6 @@
 #include <QString>
 
 QT_FORWARD_DECLARE_CLASS(QLabel)
-QT_FORWARD_DECLARE_CLASS(QPushButton)
 QT_FORWARD_DECLARE_CLASS(QSpacerItem)
 
 /// What the pages have in common.
@@ -19,9 +18,5 @@ void asSubtitle(QLabel &subtitle, const QString &styleSheet);
 
 /// Space between two parts of a page that gives way where the page is full. The layout owns it.
 QSpacerItem *createGap();
-
-/// The pair at the foot of a page that leads back and on; 140 by 45.
-void asBack(QPushButton &button);
-void asNext(QPushButton &button);
 
 } // namespace pagestyle

@@ -1,5 +1,5 @@
 #include "support/suite.h"
-#include "ui/style/pagestyle.h"
+#include "ui/style/buttons.h"
 #include "ui/style/palette.h"
 #include "ui/style/uiresources.h"
 
@@ -217,10 +217,12 @@ void tst_StyleSheet::theNavigationButtonsAreAsDrawn()
 {
     QWidget window;
     window.setStyleSheet(programSheet());
-    QPushButton back(&window);
-    QPushButton next(&window);
-    pagestyle::asBack(back);
-    pagestyle::asNext(next);
+    QPushButton &back = *buttons::makeBack(u"← Back"_s);
+    QPushButton &next = *buttons::makeNext(u"Next →"_s);
+    back.setParent(&window);
+    next.setParent(&window);
+    QCOMPARE(back.accessibleName(), u"Back"_s);
+    QCOMPARE(next.accessibleName(), u"Next"_s);
     QCOMPARE(back.objectName(), u"secondaryBtn"_s);
     QCOMPARE(next.objectName(), u"primaryBtn"_s);
     window.show();
