@@ -43,8 +43,7 @@ fail() {
 }
 
 # step NAME COMMAND [ARGUMENT...]: prints the step, and its name after a failure. The command may be a function. Must be
-# called as a plain statement, because behind "if", "&&" or "
-# " bash ignores failures inside it.
+# called as a plain statement, because behind "if", "&&" or "||" bash ignores failures inside it.
 steps_done=()
 step() {
     local name=$1 began=$SECONDS status

@@ -4,10 +4,12 @@
 #include <QAbstractScrollArea>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QFontMetrics>
 #include <QHeaderView>
 #include <QLabel>
 #include <QStyle>
 #include <QStyleOptionButton>
+#include <QStyleOptionComboBox>
 #include <QTextDocument>
 #include <QWidget>
 #include <QtMath>
@@ -69,8 +71,25 @@ QSize roomOf(const QAbstractButton &button)
 
 QSize needOf(const QAbstractButton &button)
 {
-    const QSize text = button.fontMetrics().size(Qt::TextShowMnemonic, button.text());
+    // Fonts for Chinese have lines that are higher than their letters.
+    const QFontMetrics metrics = button.fontMetrics();
+    QSize text = metrics.size(Qt::TextShowMnemonic, button.text());
+    if (!button.text().contains(u'\n'))
+        text.setHeight(metrics.tightBoundingRect(button.text()).height());
     return button.icon().isNull() ? text : text + QSize(button.iconSize().width() + 4, 0);
+}
+
+void addEntries(QStringList &cut, const QComboBox &box)
+{
+    QStyleOptionComboBox option;
+    option.initFrom(&box);
+    const int room =
+        box.style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, &box).width();
+    for (int i = 0; i < box.count(); ++i) {
+        const int missing = box.fontMetrics().horizontalAdvance(box.itemText(i)) - room;
+        if (missing > Rounding)
+            cut.append(line(box, box.itemText(i), missing, u"width"));
+    }
 }
 
 // Up to the window or to a scroll area, which brings into view what lies outside.
@@ -107,7 +126,7 @@ QStringList cutTexts(const QWidget &window)
             addIfCut(cut, *button, button->text(), button->size() + needOf(*button) - roomOf(*button));
             addIfOutside(cut, window, *button, button->text());
         } else if (const auto *box = qobject_cast<const QComboBox *>(widget)) {
-            addIfCut(cut, *box, box->currentText(), box->sizeHint());
+            addEntries(cut, *box);
         } else if (const auto *header = qobject_cast<const QHeaderView *>(widget)) {
             for (int i = 0; i < header->count(); ++i) {
                 const int missing = header->sectionSizeHint(i) - header->sectionSize(i);

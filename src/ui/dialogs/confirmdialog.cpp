@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QStyle>
 #include <QTextDocument>
 #include <QTextDocumentFragment>
 #include <QTextEdit>
@@ -48,6 +49,30 @@ int heightOf(const QTextEdit &field, int width)
     document.setPlainText(field.toPlainText());
     document.setTextWidth(width - TargetFrame);
     return qCeil(document.size().height()) + TargetFrame;
+}
+
+// A check box does not wrap its text. Lines of the text that are longer than the dialog is wide are broken
+// between words.
+QString brokenIntoLines(const QCheckBox &box, int width)
+{
+    const QStyle &style = *box.style();
+    const int room = width - style.pixelMetric(QStyle::PM_IndicatorWidth, nullptr, &box) -
+                     style.pixelMetric(QStyle::PM_CheckBoxLabelSpacing, nullptr, &box);
+    QStringList lines;
+    for (const QString &given : box.text().split(u'\n')) {
+        QString line;
+        for (const QString &word : given.split(u' ')) {
+            const QString longer = line.isEmpty() ? word : line + u' ' + word;
+            if (!line.isEmpty() && box.fontMetrics().horizontalAdvance(longer) > room) {
+                lines.append(line);
+                line = word;
+            } else {
+                line = longer;
+            }
+        }
+        lines.append(line);
+    }
+    return lines.join(u'\n');
 }
 
 } // namespace
@@ -131,7 +156,6 @@ void ConfirmDialog::insertAbovePrompt(QWidget *widget, int itsHeight, Qt::Alignm
     setFixedHeight(height() + itsHeight + column->spacing());
 }
 
-// A check box does not wrap its text; its lines are those of the text.
 void ConfirmDialog::offerWholeDrive(qint64 bytesLeft)
 {
     m_wholeDrive = new QCheckBox(
@@ -139,6 +163,8 @@ void ConfirmDialog::offerWholeDrive(qint64 bytesLeft)
             ? tr("Erase the whole disk\n(otherwise all outside its volumes stays)")
             : tr("Erase the whole disk\n(otherwise %1 outside its volumes stay)").arg(formatSize(bytesLeft)));
     m_wholeDrive->setObjectName(u"wholeDriveBox"_s);
+    m_wholeDrive->ensurePolished();
+    m_wholeDrive->setText(brokenIntoLines(*m_wholeDrive, width() - 2 * Margin));
     m_wholeDrive->setToolTip(plainTip(tr("Every sector is overwritten, the partition table too. All volumes "
                                          "of the disk are unmounted before.")));
     insertAbovePrompt(m_wholeDrive, m_wholeDrive->sizeHint().height(), Qt::AlignHCenter);

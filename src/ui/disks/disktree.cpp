@@ -16,11 +16,12 @@ void DiskTree::fitColumns()
     for (int column = 1; column < columnCount(); ++column)
         others += std::max(sizeHintForColumn(column), header()->sectionSizeHint(column));
     const int width = viewport()->width() - others;
-    header()->resizeSection(0, std::max(SmallestName, width));
+    const int smallest = std::max(SmallestName, header()->sectionSizeHint(0));
+    header()->resizeSection(0, std::max(smallest, width));
     // Contents may turn out wider than they hinted at.
     const int surplus = header()->length() - viewport()->width();
     if (surplus > 0)
-        header()->resizeSection(0, std::max(SmallestName, width - surplus));
+        header()->resizeSection(0, std::max(smallest, width - surplus));
 }
 
 void DiskTree::updateGeometries()

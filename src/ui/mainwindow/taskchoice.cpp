@@ -20,7 +20,7 @@ namespace {
 QStringList existing(QStringList paths)
 {
     platform::Files &files = platform::Platform::current().files();
-    paths.removeIf([&files](const QString &path) { return isAbsent(files.info(path).status()); });
+    paths.removeIf([&files](const QString &path) { return files.info(path).status().isAbsent(); });
     return paths;
 }
 
