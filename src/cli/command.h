@@ -13,26 +13,26 @@ namespace cli {
 
 class CliIo;
 
-// What a running command works with.
+/// The input of a running command.
 struct CommandContext
 {
     CliIo &io;
-    const QCommandLineParser &options; // the global ones and the command's own
-    QStringList arguments;             // behind the command's words
+    const QCommandLineParser &options; ///< the global options and those of the command
+    QStringList arguments;             ///< arguments after the words of the command
 };
 
-// One command: what its line looks like, and what it does.
+/// A command: its syntax, its help and its function.
 struct Command
 {
-    QStringList words; // "wipe", "disk"
-    QString synopsis;  // its arguments: "DRIVE"
-    QString summary;   // one line
-    QString details;   // further lines of its help
-    QString example;   // what follows the program's name
+    QStringList words; ///< "wipe", "disk"
+    QString synopsis;  ///< the arguments as shown in the help: "DRIVE"
+    QString summary;   ///< one line
+    QString details;   ///< more lines of the help
+    QString example;   ///< an example line without the program's name
     QList<QCommandLineOption> options;
     int minimumArguments = 0;
-    int maximumArguments = 0;  // -1: any number
-    bool printsEvents = false; // with --json a refusal is an event too
+    int maximumArguments = 0;  ///< -1: no limit
+    bool printsEvents = false; ///< with --json a refusal is also printed as an event
     Outcome<ExitCode> (*run)(const CommandContext &context) = nullptr;
 
     QString name() const { return words.join(u' '); }

@@ -32,8 +32,8 @@ void addOptions(QCommandLineParser &parser, const QList<QCommandLineOption> &opt
     }
 }
 
-// Knows the options of all commands: options may stand before the command, so that it takes a first reading
-// to find out which one it is.
+// Adds the options of all commands. Options may stand before the command, so that a first parse has to find
+// the command.
 void addAllOptions(QCommandLineParser &parser)
 {
     QSet<QString> known;
@@ -47,7 +47,7 @@ bool beginsWith(const QStringList &words, const QStringList &beginning)
     return words.size() >= beginning.size() && words.first(beginning.size()) == beginning;
 }
 
-// How many of the words, from the first, are words of commands.
+// The leading words that are words of a command.
 QStringList knownWords(const QStringList &words)
 {
     QStringList known;

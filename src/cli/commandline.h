@@ -10,27 +10,28 @@
 
 namespace cli {
 
-// The language that the arguments ask for, else the system's. Empty, so that the source texts stay, where
-// there is none, and for machine output that asks for none: it is the same on every machine. Says nothing
-// about what else is wrong with the arguments.
+/// The language of the arguments, otherwise that of the system. Empty when there is none, and for machine
+/// output without an explicit language, which is the same on every machine; the source texts are used then.
+/// Other errors in the arguments are ignored.
 QString languageFor(const QStringList &arguments, const QString &systemLocale);
 
-// What a command line asks for.
+/// A parsed command line.
 struct CommandLine
 {
     enum class Wish { Run, ShowHelp, ShowVersion };
 
     Wish wish = Wish::Run;
-    Command command;       // to be run
-    QStringList helpWords; // of the command, or group of commands, to be explained
-    QStringList arguments; // behind the command's words
+    Command command;       ///< the command to run
+    QStringList helpWords; ///< words of the command, or group of commands, to explain
+    QStringList arguments; ///< arguments after the words of the command
     std::unique_ptr<QCommandLineParser> options;
 };
 
-// The arguments do not begin with the program's name. The message of a refusal tells which help to read.
+/// Parses the arguments, which do not include the program's name. The message of a refusal names the help to
+/// read.
 Outcome<CommandLine> parseCommandLine(const QStringList &arguments);
 
-// A refusal of a line that was understood but makes no sense: what is wrong, and which help to read.
+/// The refusal of an invalid command line: the error and the help to read.
 Refusal wrongCommandLine(const QString &what, const QStringList &commandWords);
 
 } // namespace cli

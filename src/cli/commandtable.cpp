@@ -2,7 +2,7 @@
 
 namespace cli {
 
-// Each is defined in a file of its own below commands/.
+// Each command is defined in its own file below commands/.
 Command disksCommand();
 Command methodsCommand();
 Command wipeDiskCommand();

@@ -4,7 +4,7 @@
 
 namespace cli {
 
-// Every command of the program in the order of the help, with texts in the language that is installed now.
+/// All commands in the order of the help, with texts in the current language.
 QList<Command> allCommands();
 
 } // namespace cli

@@ -19,15 +19,15 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Only a regular file may stand for a drive: a device node would bring a real drive past its own protection,
-// that of the system disk included.
+// Only a regular file may act as a drive. A device node would bypass the protection of a real drive, that of
+// the system disk included.
 bool isRegularFile(const QString &path)
 {
     const auto info = platform::Platform::current().files().info(path);
     return info.ok() && info.value().kind == platform::FileKind::Regular;
 }
 
-// A link to an image is as good as the image; the platform itself follows none.
+// The platform does not follow links, so that a link to an image is resolved here.
 QString withoutLink(const QString &path)
 {
     const QString target = QFileInfo(path).canonicalFilePath();

@@ -5,8 +5,8 @@
 
 namespace cli {
 
-// The help on a command, on a group of commands that begin with the same words, or with no words on the
-// program.
+/// The help on a command, on a group of commands with the same first words, or on the program when there are
+/// no words.
 QString helpText(const QStringList &words);
 
 } // namespace cli

@@ -16,12 +16,12 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-// Engine and services trace every step; between the lines for the user that would hide what matters.
+// Hides the traces of engine and services, which would bury the lines for the user.
 void printDiagnostics(QtMsgType type, const QMessageLogContext &, const QString &message)
 {
     static const bool isDebugging = qEnvironmentVariable("QUORVEX_DEBUG") == u"1"_s;
     if (isDebugging || (type != QtDebugMsg && type != QtInfoMsg)) {
-        // Where even standard error is gone nobody can be told.
+        // If standard error fails too, there is no way left to report it.
         [[maybe_unused]] const auto status =
             platform::writeText(platform::StandardStream::Error, displayText(message).toUtf8() + '\n');
     }
@@ -36,7 +36,8 @@ int main(int argc, char *argv[])
     platform::liftOpenFileLimit();
     qInstallMessageHandler(printDiagnostics);
     platform::outliveSizeLimits();
-    // GLib's event loop ends the process when memory runs short; the other one lets it be told.
+    // GLib's event loop aborts the process when memory runs short; Qt's own loop throws, and the failure can
+    // be reported.
     qputenv("QT_NO_GLIB", "1");
     platform::provideComputerName();
     const QStringList arguments = platform::decodedArguments(argc, argv);
@@ -49,7 +50,7 @@ int main(int argc, char *argv[])
     try {
         return cli::runCli(arguments.mid(1), io, QLocale::system().name());
     } catch (const std::bad_alloc &) {
-        // What ran has been stopped on the way here. Nothing that needs memory.
+        // The job was stopped while the stack unwound. This output must not allocate memory.
         static_cast<void>(std::fputs("out of memory\n", stderr));
     }
     return cli::SurroundingsFailed;

@@ -9,14 +9,14 @@
 
 namespace cli {
 
-// Why a command goes no further, in words for the user, and the exit code that says so.
+/// The reason why a command stops, in words for the user, and its exit code.
 struct Refusal
 {
     ExitCode code = Refused;
     QString message;
 };
 
-// A value, or why there is none.
+/// A value, or the refusal in its place.
 template <typename T>
 class [[nodiscard]] Outcome
 {

@@ -18,8 +18,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Tells why the program goes no further, as one line on standard error; with asEvent also as an event on
-// standard output, unless it is the command line that is wrong. Returns the refusal's exit code.
+// Prints the refusal as one line on standard error. With asEvent it is also printed as an event on standard
+// output, unless the command line is wrong. Returns the exit code of the refusal.
 ExitCode printRefusal(const Refusal &refusal, bool asEvent, CliIo &io)
 {
     if (asEvent && refusal.code != WrongCommandLine) {

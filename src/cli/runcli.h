@@ -6,10 +6,10 @@ namespace cli {
 
 class CliIo;
 
-// Runs the command that the arguments (without the program's name) ask for and returns the exit code, see
-// exitcode.h. Needs a QCoreApplication, whose events it processes while a job runs. The locale, as
-// QLocale::name() gives it, decides the language where the arguments do not;
-// an empty one leaves the texts of the sources.
+/// Runs the command of the arguments, which do not include the program's name, and returns the exit code
+/// (exitcode.h). Needs a QCoreApplication and processes its events while a job runs. Without a language in
+/// the arguments, the locale (in the form of QLocale::name()) decides the language; an empty locale leaves
+/// the source texts.
 int runCli(const QStringList &arguments, CliIo &io, const QString &systemLocale);
 
 } // namespace cli

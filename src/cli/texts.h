@@ -4,7 +4,7 @@
 
 namespace cli {
 
-// Cli::tr(): all of the program's own texts share one translation context.
+/// Cli::tr(): all texts of the command line have one translation context.
 struct Cli
 {
     Q_DECLARE_TR_FUNCTIONS(Cli)

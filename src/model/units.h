@@ -2,7 +2,7 @@
 
 #include <QtGlobal>
 
-// Units of bytes.
+/// Units of bytes.
 inline constexpr qint64 KiB = 1024;
 inline constexpr qint64 MiB = 1024 * KiB;
 inline constexpr qint64 GiB = 1024 * MiB;

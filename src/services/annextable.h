@@ -8,18 +8,18 @@
 
 #include <optional>
 
-// The table "report_annex" of the report database: what is known of a job beside its report, keyed by the
-// certificate id. It stands beside the table of the reports, whose columns other programs know.
+/// The table "report_annex" of the report database: the outcome of a job, keyed by the certificate id of its
+/// report. It is a table of its own, because other programs know the columns of the table of reports.
 namespace annextable {
 
 extern const QString create;
 
-// What belongs to the report that was there before says nothing about the new one: it goes in any case.
-// NoError on success.
+/// Replaces the row of that certificate id. The old outcome is removed in any case, because it says nothing
+/// about the new report. NoError on success.
 QSqlError replace(const QSqlDatabase &database, const QString &certificateId,
                   const std::optional<OutcomeRecord> &outcome);
 
-// Nothing when there is none, or none that can be read.
+/// The stored outcome; nothing when there is none or it cannot be read.
 std::optional<OutcomeRecord> outcome(const QSqlDatabase &database, const QString &certificateId);
 
 extern const QString deleteOne;

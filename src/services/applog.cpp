@@ -65,7 +65,7 @@ AppLog::AppLog()
         return;
     }
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
-    // Without the folder the file does not open either, and the log does without.
+    // If the folder cannot be created, the file does not open either and the log works without a file.
     QDir().mkpath(folder);
     setLogFile(folder + u"/quorvex.log"_s);
 }
@@ -73,9 +73,10 @@ AppLog::AppLog()
 void AppLog::setLogFile(const QString &path)
 {
     const QMutexLocker locker(&m_mutex);
-    m_file.reset(); // before: to the same file, nothing it still holds may land behind later lines
-    // Names of wiped files are nobody else's business. Permissions given at creation leave no moment in which
-    // others can open the file; those of a file that exists are its owner's choice.
+    m_file.reset(); // closed first: with the same file, its buffered data must not land behind later lines
+    // The log has the names of wiped files, so that only its owner may read it. The permissions are set at
+    // creation, which leaves no moment in which others can open the file. The permissions of an existing file
+    // are the owner's choice.
     auto opened = platform::Platform::current().files().openForAppending(path);
     if (opened)
         m_file = opened.take();
@@ -103,8 +104,8 @@ void AppLog::writeLine(const QString &line)
     const QMutexLocker locker(&m_mutex);
     if (!m_file)
         return;
-    // No text stream in between: it gives up for good after one failed write, and the volume of the log is
-    // full for a while whenever its free space is wiped.
+    // No QTextStream: it gives up for good after one failed write, and the volume of the log is full for a
+    // while whenever its free space is wiped.
     m_file->write((line + u'\n').toUtf8());
     m_file->flush();
 }

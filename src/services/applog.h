@@ -7,8 +7,7 @@
 #include <atomic>
 #include <memory>
 
-/// How grave a line of the log is. The numbers are fixed; a line of any other number bears the name
-/// "UNKNOWN".
+/// The severity of a line. The numbers are fixed; a line with any other number is labelled "UNKNOWN".
 enum class LogLevel : qint32 {
     Debug = 0,
     Info = 1,
@@ -16,11 +15,11 @@ enum class LogLevel : qint32 {
     Error = 3,
 };
 
-/// The log file of the program, one for the process. Lines read "[yyyy-MM-dd HH:mm:ss.zzz] [INFO] text" in
-/// local time and are in the file when the call returns, so that it is complete after a crash. The file is
-/// UTF-8, readable by its owner only when it is created here, and never cut or limited: each run appends.
+/// The log file of the process. A line reads "[yyyy-MM-dd HH:mm:ss.zzz] [INFO] text" in local time. It is in
+/// the file when the call returns, so that a crash loses no line. The file is UTF-8 and is only ever appended
+/// to. A file that is created here can be read by its owner only.
 ///
-/// No failure is reported; without a file lines only go to the message output. Any thread; lines never
+/// Errors are not reported; without a file, lines only go to the message output. Any thread; lines never
 /// interleave.
 class AppLog
 {
@@ -28,21 +27,22 @@ public:
     AppLog(const AppLog &) = delete;
     AppLog &operator=(const AppLog &) = delete;
 
-    /// Made at first use, with "quorvex.log" in the application's data folder of the user, which is created.
-    /// The names of application and organisation decide that folder: set them first.
+    /// Created at first use with "quorvex.log" in the user's application data folder, which is created too.
+    /// The application and organisation names decide that folder and must be set before.
     static AppLog &instance();
 
-    /// Takes the place of the default file, whose folder then is not created. Before the first use of
-    /// instance(); later it does nothing. The folder must exist.
+    /// Sets the first file instead of the default one, whose folder is then not created. Has an effect only
+    /// before the first use of instance(). The folder must exist.
     static void setFirstLogFile(const QString &path);
 
-    /// Closes the file in use and appends to that one. The folder must exist.
+    /// Closes the current file and appends to this one. The folder must exist.
     void setLogFile(const QString &path);
-    /// Closes the file in use; Windows keeps its folder until then. Lines are only echoed from then on.
+    /// Closes the current file; until then Windows does not let its folder be removed. Later lines only go to
+    /// the message output.
     void closeLogFile();
 
-    /// Writes the line, and hands it to the framework's message output at the same level; a level without a
-    /// name is only written. Levels below minLevel() do neither.
+    /// Writes the line and passes it to the framework's message output at the same level. A level without a
+    /// name is only written. Levels below minLevel() are dropped.
     void log(LogLevel level, const QString &message);
     void debug(const QString &message) { log(LogLevel::Debug, message); }
     void info(const QString &message) { log(LogLevel::Info, message); }
@@ -61,7 +61,7 @@ private:
     void writeLine(const QString &line);
 
     QMutex m_mutex;                      ///< guards m_file
-    std::unique_ptr<QFileDevice> m_file; ///< none: lines are only echoed
+    std::unique_ptr<QFileDevice> m_file; ///< null: lines only go to the message output
     std::atomic<LogLevel> m_minLevel{LogLevel::Info};
     std::atomic<bool> m_echoToConsole{true};
 };

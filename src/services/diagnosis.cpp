@@ -91,8 +91,7 @@ void noteUse(Section &section, const Result<platform::DeviceUse> &use)
     say(section, u"released by"_s, orNone(use.value().releaseCommands));
 }
 
-// Whether the medium behind the handle can be read at all, which some drives and locked volumes refuse
-// although they open.
+// Whether the medium can be read at all: some drives and locked volumes open, but refuse to be read.
 Result<qint64> readFirstSector(platform::RawDevice &drive)
 {
     const Result<qint32> sector = drive.bytesPerSector();

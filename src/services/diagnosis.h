@@ -5,16 +5,16 @@
 #include <QList>
 #include <QString>
 
-/// What the machine answers when it is asked all that a job would ask before its first write. For whoever
-/// helps a user from afar: questions and answers are in English and in the system's own numbers. Nothing is
-/// written and nothing is opened for writing.
+/// Asks the system and its devices everything that a job asks before its first write. The answers help to
+/// support a user remotely: they are in English and use the system's own numbers. Nothing is written and
+/// nothing is opened for writing.
 namespace diagnosis {
 
-/// One question and what came back.
+/// One question and its answer.
 struct Answer
 {
     QString question;
-    QString text{};             ///< for people; as the device gave it, to be cleaned for display
+    QString text{};             ///< readable text, unchanged from the device; must be cleaned before display
     platform::Status failure{}; ///< success when `text` is the answer
 };
 
@@ -25,12 +25,12 @@ struct Section
     QList<Answer> answers{};
 };
 
-/// The running system, who uses it, and which volumes it stands on. Any thread.
+/// The running system, its user, and the volumes it runs from. Any thread.
 Section system();
 
-/// The drives numbered as DiskManager numbers them, then the volumes by their names, also those that have one
-/// for the system alone, then the mounted ones as the system lists them. One that does not exist is left out;
-/// one that does not answer within the time of limitedquestion is told as such. Any thread.
+/// Drives in the numbering of DiskManager, then all volumes by name, including those without a mount point,
+/// then mounted volumes in the system's order. Devices that do not exist are left out. A device that does not
+/// answer within the limit of limitedquestion is listed as such. Any thread.
 QList<Section> devices();
 
 } // namespace diagnosis

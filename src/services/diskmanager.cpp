@@ -15,17 +15,18 @@
 #include <optional>
 
 namespace {
-// Taken for the system disk when a system volume does not tell where it lies.
+// Assumed to be the system disk when a system volume does not tell its disks.
 constexpr int LikelySystemDisk = 0;
 
 struct BusMeaning
 {
     quint32 reported;
     BusType bus;
-    DiskType disk; // Unknown: left to detectDiskType()
+    DiskType disk; // Unknown: decided by detectDiskType()
 };
 
-// RAID controllers nearly always hold SATA drives, and SAS speaks SCSI; people look for these names.
+// RAID controllers nearly always hold SATA drives, and SAS uses the SCSI commands; SATA and SCSI are the
+// names that users look for.
 constexpr std::array busMeanings{
     BusMeaning{platform::BusScsi, BusType::SCSI, DiskType::Unknown},
     BusMeaning{platform::BusAtapi, BusType::IDE, DiskType::Unknown},
@@ -56,9 +57,9 @@ QSet<int> disksOf(platform::DeviceQuery &volume)
     return diskNumbers(platform::allExtents(volume).valueOr({}));
 }
 
-// The disks under a system volume. One that does not tell counts as lying on the likely disk: better to guard
-// one disk too many than to offer the running system for wiping. A device without a number (-1) does tell: it
-// is on no disk that could be offered.
+// The disks of a system volume. A volume that does not tell its disks counts as lying on the likely disk,
+// because protecting one disk too many is better than offering the running system for wiping. A device
+// without a number (-1) has told its place: it is on no disk that could be offered.
 QSet<int> disksUnder(const QString &systemVolume)
 {
     QSet<int> disks;
@@ -68,7 +69,7 @@ QSet<int> disksUnder(const QString &systemVolume)
         if (extents && !extents.value().isEmpty()) {
             disks.insert(extents.value().first().diskNumber);
         } else if (extents.code() == platform::MoreData) {
-            // Striped or mirrored: the system needs every one of the disks.
+            // A striped or mirrored volume needs every one of its disks.
             disks = diskNumbers(volume.value()->extents(platform::ManyExtents).valueOr({}));
         }
     }
@@ -86,7 +87,8 @@ QSet<int> systemDisks()
     return disks;
 }
 
-// One drive that is reached in two ways. Nothing tells that of drives without a name or serial number.
+// Whether both records are one drive with two paths. Drives without a name or serial number cannot be
+// compared.
 bool isSameUnit(const DiskInfo &a, const DiskInfo &b)
 {
     if (!a.worldWideName.isEmpty() && a.worldWideName == b.worldWideName)
@@ -108,8 +110,7 @@ void guardOtherWays(QList<DiskInfo> &disks)
 void readGeometry(platform::DeviceQuery &drive, DiskInfo &disk)
 {
     const auto geometry = drive.geometry();
-    // A sector size of 0 comes from card readers without a card; nothing else in such an answer is worth
-    // keeping.
+    // Card readers without a card report a sector size of 0; nothing else in such an answer is valid.
     if (!geometry || geometry.value().bytesPerSector <= 0)
         return;
     disk.sizeBytes = geometry.value().sizeBytes;
@@ -136,8 +137,8 @@ void readDescriptor(platform::DeviceQuery &drive, DiskInfo &disk)
     }
 }
 
-// Empty when the drive cannot be opened. The handle is closed on return, before others are opened on the same
-// drive.
+// Nothing when the drive cannot be opened. The handle is closed on return, before the same drive is opened
+// again.
 std::optional<DiskInfo> describeDrive(int number)
 {
     platform::Devices &devices = platform::Platform::current().devices();
@@ -154,7 +155,7 @@ std::optional<DiskInfo> describeDrive(int number)
     return disk;
 }
 
-// A volume on several disks has more extents than the reply has room for: the failure puts it on none of
+// The query asks for one extent. It fails for a volume on several disks, which is then listed under none of
 // them.
 bool liesOnDisk(const platform::MountedVolume &volume, int diskNumber)
 {
@@ -190,7 +191,7 @@ QList<DiskInfo> DiskManager::enumerateDisks()
 {
     const QSet<int> system = systemDisks();
     QList<DiskInfo> disks;
-    // Drives that were unplugged leave gaps in the numbers.
+    // Unplugged drives leave gaps in the numbers.
     for (int number = FirstDrive; number <= LastDrive; ++number) {
         const auto answer = limitedquestion::answerOf<std::optional<DiskInfo>>(
             driveKey(number), [number] { return describeDrive(number); });

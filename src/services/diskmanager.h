@@ -6,13 +6,13 @@
 
 #include <QList>
 
-/// Finds the physical disks of the machine and the mounted volumes on each, through the platform in force.
-/// Needs no administrator rights. Every call asks the devices anew; nothing is kept between calls and no
-/// handle stays open. A list waits for each device for the time of limitedquestion; one that does not answer
-/// counts as one that cannot be opened. Any thread.
+/// Finds the physical disks and the mounted volumes on each, through the current platform. Needs no
+/// administrator rights. Every call asks the devices again; nothing is cached and no handle stays open. A
+/// list waits for each device up to the limit of limitedquestion; a device that does not answer counts as one
+/// that cannot be opened. Any thread.
 ///
-/// Nothing fails as a whole: a device that cannot be opened is left out, a question without an answer leaves
-/// the defaults of the record. Diagnostics go to the debug output.
+/// There are no errors: a device that cannot be opened is left out, and a query that fails leaves the default
+/// of its field. Diagnostics go to the debug output.
 class DiskManager
 {
 public:
@@ -21,24 +21,24 @@ public:
     static constexpr int FirstDrive = 0;
     static constexpr int LastDrive = 31;
 
-    /// What limitedquestion knows a disk as.
+    /// The name of a disk for limitedquestion.
     static QString driveKey(int diskNumber);
 
-    /// The disks numbered FirstDrive to LastDrive that can be opened, ascending, each with its volumes.
+    /// The disks FirstDrive to LastDrive that can be opened, ascending, each with its volumes.
     static QList<DiskInfo> enumerateDisks();
 
-    /// The mounted volumes that lie wholly on that disk, in the order of the system's list. `driveLetter` is
-    /// the name that opens the volume and is kept as it is; labels are safe to show.
+    /// The mounted volumes that lie wholly on that disk, in the system's order. `driveLetter` is the
+    /// unchanged name that opens the volume; labels are safe to display.
     static QList<PartitionInfo> partitionsForDisk(int diskNumber);
 
-    /// The mounted volumes that lie on that disk and elsewhere too, in the order of the system's list. They
-    /// are in no list of partitionsForDisk().
+    /// The mounted volumes that lie on that disk and also elsewhere, in the system's order.
+    /// partitionsForDisk() does not list them.
     static QList<SpanningVolume> spanningVolumesForDisk(int diskNumber);
 
-    /// What is in the way of erasing that disk; of one that cannot be asked, nothing is known to be.
+    /// The reasons why that disk cannot be erased. A disk that cannot be queried has none.
     static DiskObstacles obstacles(int diskNumber);
 
-    /// SSD when the disk has no seek penalty or takes trim commands, HDD when it claims neither, Unknown when
-    /// it cannot be opened.
+    /// SSD when the disk has no seek penalty or supports trim, HDD when it reports neither, Unknown when it
+    /// cannot be opened.
     static DiskType detectDiskType(int diskNumber);
 };

@@ -4,7 +4,7 @@
 
 using namespace Qt::StringLiterals;
 
-// The resources of a static library are not found by themselves. The macro does not work within a namespace.
+// A static library's resources must be registered explicitly. The macro does not work within a namespace.
 static void addCataloguesToResources()
 {
     Q_INIT_RESOURCE(translations);

@@ -18,7 +18,7 @@ namespace limitedquestion {
 
 namespace {
 
-// One question on its way. Shared by its thread and whoever asked.
+// A running query, shared by its thread and the caller.
 struct Question
 {
     std::mutex mutex;
@@ -47,7 +47,7 @@ struct Question
     }
 };
 
-// Devices that did not answer in time.
+// Devices whose query has not returned in time.
 class Owing
 {
 public:
@@ -57,7 +57,7 @@ public:
             one.thread.join();
     }
 
-    // Also lets go of the threads that are through by now.
+    // Also joins the threads that have finished.
     bool has(const QString &device)
     {
         const std::scoped_lock lock(m_mutex);
@@ -90,7 +90,7 @@ private:
 
 Owing &owing()
 {
-    // What a late answer still needs is there for longer than these.
+    // Declared first, so that they outlive the threads that may still use them.
     static_cast<void>(platform::Platform::current());
     static Owing devices;
     return devices;
@@ -116,7 +116,7 @@ bool ask(const QString &device, const std::function<void()> &question)
     try {
         thread = std::thread([asked, question] { asked->run(question); });
     } catch (const std::system_error &) {
-        question(); // without a thread nobody limits it
+        question(); // without a thread there is no limit
         return true;
     }
     if (!asked->wait(s_limit.load())) {

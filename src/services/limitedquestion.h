@@ -7,20 +7,23 @@
 #include <memory>
 #include <optional>
 
-/// Questions to devices that may never answer: each runs on a thread of its own, and whoever asks waits for a
-/// limited time. A device that owes an answer is not asked again before it has given it. The threads that
-/// still wait then are joined when they are through, the last of them at the end of the program. Any thread.
+/// Runs queries to devices that may never answer. Each query runs on a thread of its own, and the caller
+/// waits for a limited time. A device with an unanswered query is not queried again until that query returns.
+/// Threads that are still blocked are joined when they finish, at the latest at the end of the program. Any
+/// thread.
 namespace limitedquestion {
 
 /// Longer than a drive takes to wake up.
 inline constexpr std::chrono::milliseconds DefaultLimit{20'000};
-/// For all questions from now on.
+/// For all later queries.
 void setLimit(std::chrono::milliseconds limit);
 
-/// False when the question was not answered in time, or not asked. What it throws in time is thrown here.
+/// False when the query was not answered in time or not run. An exception that it throws in time is rethrown
+/// here.
 bool ask(const QString &device, const std::function<void()> &question);
 
-/// The same, with what the question answers. It must not refer to anything that whoever asks may take away.
+/// The same with the return value of the query. The query may outlive the call: it must not refer to the
+/// caller's objects.
 template <typename Answer>
 std::optional<Answer> answerOf(const QString &device, std::function<Answer()> question)
 {

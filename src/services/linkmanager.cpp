@@ -13,7 +13,7 @@
 
 using namespace Qt::StringLiterals;
 
-// The resources of a static library are not found by themselves. The macro does not work within a namespace.
+// A static library's resources must be registered explicitly. The macro does not work within a namespace.
 static void addCatalogueToResources()
 {
     Q_INIT_RESOURCE(links);
@@ -23,12 +23,12 @@ namespace {
 const QString languageSetting = usersettings::Language.toString();
 const QString metadataMember = u"metadata"_s;
 
-// The catalogue's language for a locale; empty for one that has none.
+// The catalogue's language for a locale; empty when there is none.
 QString languageForLocale(const QString &locale)
 {
     if (locale == u"zh_TW" || locale == u"zh_HK")
         return u"zh_TW"_s;
-    // There are no pages in simplified Chinese, and traditional script is no stand-in for it.
+    // There are no pages in simplified Chinese, and the pages in traditional script are no substitute.
     if (locale == u"zh_CN")
         return u"en"_s;
     const QString language = locale.left(2).toLower();
@@ -72,7 +72,7 @@ bool LinkManager::loadCatalogue(const QString &path)
         return false;
     }
     m_catalogue = document.object();
-    // What remains are the categories.
+    // The other members are the categories.
     readMetadata(m_catalogue.take(metadataMember).toObject());
     return true;
 }
@@ -103,7 +103,7 @@ QString LinkManager::determineLanguage() const
     return m_fallbackLanguage;
 }
 
-// The addresses of a page by language; nothing when the catalogue has no such page.
+// The addresses of a page by language; nothing when the catalogue does not have the page.
 std::optional<QJsonObject> LinkManager::addresses(const QString &category, const QString &key) const
 {
     if (!m_catalogue.contains(category)) {

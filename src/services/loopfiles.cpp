@@ -29,7 +29,7 @@ struct Attached
     QString file;
 };
 
-// Of a file that is deleted or out of sight the device tells a name that leads nowhere.
+// For a file that is deleted or out of sight the attribute holds a path that leads nowhere.
 QList<Attached> attachedLoops(const QString &sys)
 {
     QList<Attached> loops;
@@ -47,7 +47,7 @@ QList<Attached> attachedLoops(const QString &sys)
     return loops;
 }
 
-// A link is removed itself.
+// A symbolic link is erased itself, its target is not touched.
 bool isAnyNameOf(const QString &file, const QString &path)
 {
     std::error_code error;
@@ -65,7 +65,7 @@ bool isWithin(const QString &file, const QString &folder)
 
 } // namespace
 
-// Not through the platform: what is attached on this machine is no part of what a job goes through.
+// Reads sysfs directly: the loop devices of this machine do not depend on the platform that a job uses.
 QString LoopFiles::problem(const QStringList &paths, const QString &sys)
 {
     const QList<Attached> loops = attachedLoops(sys);

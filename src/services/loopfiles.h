@@ -4,8 +4,8 @@
 #include <QString>
 #include <QStringList>
 
-/// Files that a loop device is attached to. They look like any other, and what is mounted on the device would
-/// be erased below it. None on Windows.
+/// Finds files that back a loop device. They look like any other file, but erasing one destroys the file
+/// system that is mounted from it. Windows has no loop devices.
 class LoopFiles
 {
     Q_DECLARE_TR_FUNCTIONS(LoopFiles)
@@ -13,7 +13,8 @@ class LoopFiles
 public:
     LoopFiles() = delete;
 
-    /// Why the files, or what is in the folders, are not to be erased: the first that a loop device is
-    /// attached to, in words that name both. Empty when there is none.
+    /// The reason why the files or folders must not be erased: names the first file that backs a loop device,
+    /// and the device. Empty when there is none. Folders are searched with everything below them; `sys` is
+    /// the mount point of sysfs.
     static QString problem(const QStringList &paths, const QString &sys = QStringLiteral("/sys"));
 };

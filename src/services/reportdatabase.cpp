@@ -17,14 +17,14 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-// SQLite's rollback journal, the mode of new files, with every step on the medium before the next; EXTRA is
-// FULL and the folder entry of the journal as well, without which a power cut could bring back the journal of
-// a finished transaction and undo it. Not the write-ahead log: at one report per job its speed buys nothing,
-// it keeps what was deleted in a second file, a copy of the first lacks the latest reports, and its shared
-// memory does not work in a home folder on a network.
+// The rollback journal, the default of new files, with every step on the medium before the next one. EXTRA is
+// FULL plus a sync of the folder entry of the journal; without it a power cut could bring back the journal of
+// a finished transaction and undo it. The write-ahead log has no use here: one report per job needs no speed,
+// deleted data would stay in a second file, a copy of the first file alone would lack the latest reports, and
+// its shared memory does not work in a home folder on a network.
 const QString durable = u"PRAGMA synchronous = EXTRA"_s;
 
-// Whoever deletes the record of a job wants it gone: freed parts of the file are overwritten.
+// A deleted record must be gone: freed parts of the file are overwritten.
 const QString overwriting = u"PRAGMA secure_delete = ON"_s;
 
 constexpr QFile::Permissions OwnerMayReadAndWrite = QFile::ReadOwner | QFile::WriteOwner;
@@ -37,7 +37,7 @@ QStringList filesOf(const QString &path)
     return {path, path + u"-journal"_s, path + u"-wal"_s, path + u"-shm"_s};
 }
 
-// What stands behind a link is somebody else's file. Empty: none is one.
+// The first path that is a link, whose target may belong to another user; empty when none is one.
 QString linkAmong(const QString &path)
 {
     const QStringList files = filesOf(path);
@@ -48,14 +48,14 @@ QString linkAmong(const QString &path)
     return link == files.end() ? QString() : *link;
 }
 
-// SQLite would make the file for everybody to read; the files it puts beside it get the permissions of this
-// one. What fails here fails again, with a reason to show, when SQLite opens the file.
+// SQLite would create the file readable for everybody, and its journal files take the permissions of the
+// file. A failure here is not reported: it occurs again, with an error text, when SQLite opens the file.
 void keepToOwner(const QString &path)
 {
     QFile file(path);
     if (file.open(QIODevice::WriteOnly | QIODevice::NewOnly, OwnerMayReadAndWrite))
         return;
-    // Left by a program that was killed, the ones at the side have what the file had then.
+    // Journal files that a killed program has left keep the permissions that the file had then.
     for (const QString &name : filesOf(path)) {
         const QFile::Permissions permissions = QFile::permissions(name);
         if (permissions & AnyPermissionOfOthers)
@@ -63,13 +63,13 @@ void keepToOwner(const QString &path)
     }
 }
 
-// Null text would be bound as NULL.
+// A null text would be bound as NULL.
 QString key(const QString &certificateId)
 {
     return certificateId.isNull() ? u""_s : certificateId;
 }
 
-// The lower byte of SQLite's result codes.
+// The low byte of SQLite's result codes.
 ReportDatabase::Problem problemOf(const QSqlError &error)
 {
     using Problem = ReportDatabase::Problem;
@@ -106,8 +106,8 @@ ReportDatabase &ReportDatabase::instance()
 
 ReportDatabase::ReportDatabase()
 {
-    // Makes the framework's list of connections before this object is complete: it is there until after the
-    // destructor.
+    // Creates the framework's list of connections before this object is complete, so that it is destroyed
+    // after this object.
     QSqlDatabase::connectionNames();
 }
 
@@ -126,7 +126,7 @@ bool ReportDatabase::initialize(const QString &folder, std::chrono::milliseconds
         return false;
     }
     reporttable::createIndexes(m_db);
-    // A file of an earlier version that cannot be written can be read all the same.
+    // A failure is ignored: a file of an earlier version can be read even if it cannot be written.
     QSqlQuery(m_db).exec(annextable::create);
     m_initialized = true;
     return true;
@@ -134,7 +134,7 @@ bool ReportDatabase::initialize(const QString &folder, std::chrono::milliseconds
 
 bool ReportDatabase::open(const QString &folder, std::chrono::milliseconds patience)
 {
-    // Without the folder the file does not open, which says so.
+    // If the folder cannot be created, opening the file fails and has the error.
     QDir().mkpath(folder);
     const QString path = folder + u"/quorvex.db"_s;
     if (const QString link = linkAmong(path); !link.isEmpty()) {
@@ -149,7 +149,8 @@ bool ReportDatabase::open(const QString &folder, std::chrono::milliseconds patie
     m_db.setConnectOptions(u"QSQLITE_BUSY_TIMEOUT=%1"_s.arg(patience.count()));
     if (!m_db.open())
         return succeeded(m_db.lastError());
-    // Better a window that stands still for a moment than a job without its record.
+    // From here on calls wait longer: a window that does not react for a moment is better than a job without
+    // its record.
     return execute(durable) && execute(overwriting) && execute(reporttable::create) &&
            execute(u"PRAGMA busy_timeout = %1"_s.arg(Patience.count()));
 }
@@ -167,7 +168,7 @@ void ReportDatabase::close()
     if (!m_db.isValid())
         return;
     m_db.close();
-    // The framework gives up a connection only when nobody holds it any more.
+    // The framework only removes a connection that no object refers to.
     m_db = QSqlDatabase();
     QSqlDatabase::removeDatabase(QLatin1StringView(QSqlDatabase::defaultConnection));
 }
@@ -295,7 +296,7 @@ std::optional<int> ReportDatabase::countBeginningWith(const QString &idBeginning
     return query.value(0).toInt();
 }
 
-// An error may come with any row.
+// Fetching any of the rows may fail.
 bool ReportDatabase::hasAnswered(const QSqlQuery &query)
 {
     return succeeded(query.lastError());

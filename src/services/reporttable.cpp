@@ -25,8 +25,7 @@ const QString insertReport =
     "            data_hash, operator_name, computer_name, error_message, report_json\n"
     "        ) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)"_s;
 
-// The framework binds null text as NULL, which the table refuses in places and which is not what an empty
-// field says.
+// The framework binds a null text as NULL. An empty field is not NULL, and some columns do not accept NULL.
 QString text(const QString &value)
 {
     return value.isNull() ? u""_s : value;
@@ -117,7 +116,7 @@ void createIndexes(const QSqlDatabase &database)
 QSqlError insert(const QSqlDatabase &database, const WipeReport &report)
 {
     QSqlQuery query(database);
-    // What failed to prepare has the error that tells; executing it would put another in its place.
+    // A query that could not be prepared has the error that counts; executing it would replace that error.
     if (query.prepare(insertReport)) {
         bindReport(query, report);
         query.exec();

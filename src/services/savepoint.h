@@ -5,7 +5,7 @@
 #include <QSqlQuery>
 #include <QString>
 
-// Takes back what was not committed. A savepoint, which may also stand within a transaction.
+/// A savepoint, which may be nested in a transaction. The destructor rolls back when it was not committed.
 class Savepoint
 {
 public:
@@ -26,7 +26,7 @@ public:
     bool isOpen() const { return m_isOpen; }
     bool commit()
     {
-        // One that failed is still open.
+        // A savepoint whose commit failed is still open.
         const bool committed = m_query.exec(QStringLiteral("RELEASE report"));
         m_isOpen = !committed;
         return committed;

@@ -20,7 +20,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// No report comes near it.
+// Far larger than any report.
 constexpr qint64 LargestReport = 64 * MiB;
 
 QStringList words()
@@ -32,7 +32,7 @@ Outcome<QByteArray> readReport(const QString &given)
 {
     const QString shown = displayText(given);
     QFile file(absolutePath(given));
-    // A pipe would be waited for.
+    // Reading a pipe would block.
     if (!QFileInfo(file).isFile())
         return Refusal{Refused, Cli::tr("%1 is no file").arg(shown)};
     if (!file.open(QIODevice::ReadOnly))
@@ -57,7 +57,7 @@ QString differenceText(const Difference &difference)
         .arg(displayText(difference.field), shown(difference.inRecord), shown(difference.inFile));
 }
 
-// What came of it, as one object or one line.
+// Prints the result as one object or one line.
 ExitCode tell(const CommandContext &context, const QString &id, const QString &text,
               const std::optional<Difference> &difference, bool isSame)
 {

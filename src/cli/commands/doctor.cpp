@@ -19,7 +19,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// What there is of a file without opening it: a database that is opened may be repaired.
+// Describes a file without opening it, because opening a database may repair it.
 diagnosis::Answer aboutFile(const QString &question, const QString &path)
 {
     const auto info = platform::Platform::current().files().info(path);

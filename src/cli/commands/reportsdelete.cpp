@@ -18,7 +18,7 @@ Outcome<ExitCode> run(const CommandContext &context)
     const auto store = ReportStore::open(context.options);
     if (!store)
         return store.refusal();
-    // A damaged one can be deleted too.
+    // A damaged report can be deleted too.
     const auto json = findStoredReport(**store, id);
     if (!json)
         return json.refusal();

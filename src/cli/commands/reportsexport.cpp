@@ -26,7 +26,7 @@ bool isStandardOutput(const QString &path)
     return path == u'-';
 }
 
-// What was asked for, checked before anything is written.
+// The requested outputs, checked before anything is written.
 struct Destinations
 {
     CertificateFile certificate;
@@ -67,7 +67,7 @@ Refusal notWritten(const QString &path)
     return {SurroundingsFailed, Cli::tr("%1 could not be written").arg(displayText(path))};
 }
 
-// The text of a report as it was stored, so that whoever has it can have it compared byte for byte.
+// Exports the stored text unchanged, so that it can be compared byte for byte later.
 std::optional<Refusal> exportJson(const QByteArray &json, const Destinations &destinations,
                                   const CommandContext &context)
 {

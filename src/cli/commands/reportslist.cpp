@@ -26,7 +26,7 @@ QStringList words()
     return {u"reports"_s, u"list"_s};
 }
 
-// Text that is no report any more must not look like one that is.
+// A damaged text must not look like a report.
 void writeStored(JsonWriter &writer, const StoredReport &stored)
 {
     if (!writeStoredReport(writer, stored.json, stored.outcome))

@@ -17,7 +17,7 @@ QStringList words()
     return {u"wipe"_s, u"disk"_s};
 }
 
-// What the question says beside the drive and its volumes.
+// Lines of the question on the whole drive.
 QStringList wholeDriveLines(const DiskInfo &disk)
 {
     QStringList lines{

@@ -39,7 +39,7 @@ Outcome<ExitCode> run(const CommandContext &context)
     const auto options = readWipeOptions(context, words());
     if (!options)
         return options.refusal();
-    // An empty argument, often a variable that was never set, would stand for the current folder.
+    // An empty argument is often an unset variable and would name the current folder.
     if (context.arguments.contains(QString()))
         return wrongCommandLine(Cli::tr("a path is empty"), words());
     const auto paths = findFiles(context.arguments);

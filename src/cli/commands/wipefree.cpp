@@ -30,13 +30,13 @@ PlannedJob jobFor(const VolumeTarget &target)
     return {std::move(task), target.name};
 }
 
-// A volume may be mounted in two places.
+// The identity comes first, because a volume may be mounted in two places.
 QString keyOf(const PartitionInfo &partition)
 {
     return partition.identity.isEmpty() ? partition.driveLetter : partition.identity;
 }
 
-// What the target stands for; of a drive without volumes, the drive.
+// The keys of the target's volumes; the name of a drive without volumes.
 QSet<QString> keysOf(const VolumeTarget &target)
 {
     if (!target.partition.driveLetter.isEmpty())
@@ -47,7 +47,7 @@ QSet<QString> keysOf(const VolumeTarget &target)
     return keys.isEmpty() ? QSet<QString>{target.name} : keys;
 }
 
-// Without those that are named twice, be it by way of their drive.
+// Removes targets that are given twice, by themselves or through their drive.
 QList<VolumeTarget> eachOnce(const QList<VolumeTarget> &targets)
 {
     QList<VolumeTarget> once;

@@ -32,14 +32,14 @@ QStringList summaryOf(const RecycleBinInfo &found)
 
 ExitCode tellEmpty(const CommandContext &context, const RecycleBinInfo &found)
 {
-    // With the account: another one may have something in its bin.
+    // Names the account, because another account may have items in its bin.
     const QString message =
         (QStringList{Cli::tr("The Recycle Bin is empty.")} + accountLines(found)).join(u' ');
     if (wantsJson(context.options)) {
         JsonWriter event(JsonWriter::Layout::Compact);
         event.beginObject().member(u"event", u"log").member(u"level", 0).member(u"message", message);
         context.io.printLine(event.endObject().text());
-        // Without a job there is no report; everything asked for is done.
+        // There is no report without a job.
         JsonWriter end(JsonWriter::Layout::Compact);
         end.beginObject().member(u"event", u"finished").member(u"success", true).member(u"cancelled", false);
         end.member(u"certificateId", QString()).key(u"report").beginObject().endObject();
@@ -51,7 +51,7 @@ ExitCode tellEmpty(const CommandContext &context, const RecycleBinInfo &found)
     return Done;
 }
 
-// The bins' own records of what they hold name what was erased.
+// The bins' own records still name the erased items.
 QStringList tidyUp(const RecycleBinInfo &found)
 {
     const platform::Status tidied = updateBinRecords(found);

@@ -26,7 +26,7 @@ namespace {
 
 constexpr qint64 ChunkSize = 8 * MiB;
 
-// What a file and a drive have in common here.
+// The read function of a file or a drive.
 using Reader = std::function<platform::Result<qint64>(void *data, qint64 size)>;
 
 Outcome<ZeroCheck> readThrough(const Reader &read, qint64 length, const QString &shown,
@@ -46,7 +46,7 @@ Outcome<ZeroCheck> readThrough(const Reader &read, qint64 length, const QString 
                                           .arg(check.bytesRead)
                                           .arg(count.code())};
         }
-        // A file may have grown meanwhile.
+        // The file may have grown meanwhile.
         const qint64 valid = std::min(count.value(), length - check.bytesRead);
         const std::byte *const begin = buffer.data();
         const std::byte *const other =
@@ -99,7 +99,7 @@ Outcome<ZeroCheck> checkDrive(const DiskInfo &disk, const StopRequest &stop)
 
 Outcome<ZeroCheck> checkZeros(const QString &path, const StopRequest &stop)
 {
-    // A link to an image is as good as the image; the platform itself follows none.
+    // The platform does not follow links, so that a link to an image is resolved here.
     const QString canonical = QFileInfo(absolutePath(path)).canonicalFilePath();
     const auto info = platform::Platform::current().files().info(canonical);
     if (!canonical.isEmpty() && info && info.value().kind == platform::FileKind::Regular)

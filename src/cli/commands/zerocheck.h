@@ -14,13 +14,13 @@ class StopRequest;
 struct ZeroCheck
 {
     qint64 bytesRead = 0;
-    qint64 firstOther = -1; // offset of the first byte that is not 0x00; below 0: there is none
-    int otherByte = 0;      // that byte
+    qint64 firstOther = -1; ///< offset of the first byte other than 0x00; negative: there is none
+    int otherByte = 0;      ///< value of that byte
 };
 
-// Reads an image file or a whole drive, past any cache, up to the first byte that is not 0x00. Nothing is
-// written. Refused when there is no such file or drive, or not permitted; Cancelled on a stop request;
-// JobFailed when it cannot be read to its end, so that nobody takes the rest for zeros.
+/// Reads an image file or a drive, bypassing caches, up to the first byte other than 0x00. Nothing is
+/// written. Refused when the file or drive does not exist or may not be read; Cancelled on a stop request;
+/// JobFailed when it cannot be read completely, because unread bytes must not count as zeros.
 Outcome<ZeroCheck> checkZeros(const QString &path, const StopRequest &stop);
 
 } // namespace cli

@@ -5,13 +5,13 @@
 
 namespace cli {
 
-// "1 pass", "7 passes".
+/// "1 pass", "7 passes".
 QString passCountText(int count);
 
-// "1 file", "7 files".
+/// "1 file", "7 files".
 QString fileCountText(int count);
 
-// "5s", "1m 5s", "1h 0m 5s".
+/// "5s", "1m 5s", "1h 0m 5s".
 QString durationText(qint64 seconds);
 
 } // namespace cli

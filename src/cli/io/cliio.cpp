@@ -18,7 +18,7 @@ void CliIo::printLine(const QByteArray &utf8)
 
 void CliIo::printError(const QString &text)
 {
-    // There is no third stream to complain on.
+    // If standard error fails, there is no way left to report it.
     [[maybe_unused]] const bool written = write(StandardStream::Error, text.toUtf8());
 }
 

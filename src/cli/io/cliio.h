@@ -9,7 +9,7 @@
 
 namespace cli {
 
-// What a command reads, writes and listens to: the process's own streams and signals, or those of a test.
+/// The input and output of a command: streams and signals of the process, or those of a test.
 class CliIo
 {
 public:
@@ -19,25 +19,26 @@ public:
     CliIo &operator=(const CliIo &) = delete;
 
     virtual bool isTerminal(platform::StandardStream stream) const = 0;
-    // Of the terminal behind standard error, 0 when unknown.
+    /// The width of the terminal of standard error; 0 when unknown.
     virtual int columns() const = 0;
-    // The next line without its end; nothing at the end of the input or when a stop is requested meanwhile.
+    /// The next line of the input without its line end. Nothing at the end of the input, or when a stop is
+    /// requested while waiting.
     virtual std::optional<QString> readLine() = 0;
     virtual StopRequest &stopRequest() = 0;
 
-    // To standard output.
+    /// Prints to standard output.
     void print(const QString &text);
     void printLine(const QString &text) { print(text + u'\n'); }
     void printLine(const QByteArray &utf8);
-    // To standard error.
+    /// Prints to standard error.
     void printError(const QString &text);
     void printErrorLine(const QString &text) { printError(text + u'\n'); }
 
-    // Whether something meant for standard output did not get there.
+    /// Whether a write to standard output has failed.
     bool hasLostOutput() const { return m_hasLostOutput; }
 
 protected:
-    // False when not all of it was written.
+    /// False when not everything was written.
     virtual bool write(platform::StandardStream stream, const QByteArray &utf8) = 0;
 
 private:

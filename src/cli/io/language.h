@@ -9,8 +9,8 @@
 
 namespace cli {
 
-// The language with that code, in force until destruction. An empty code changes nothing: the texts then are
-// those of the sources, in English and Chinese.
+/// Installs the language with that code until destruction. An empty code leaves the source texts, which are
+/// English and Chinese.
 class Language
 {
 public:

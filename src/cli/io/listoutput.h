@@ -10,8 +10,8 @@
 
 namespace cli {
 
-// All that a listing command does: prints the records, for a machine as one JSON array on one line, otherwise
-// as the text that is made of them.
+/// Prints the records of a listing command: with --json as one JSON array on one line, otherwise as the text
+/// of `textOf`.
 template <typename Record>
 Outcome<ExitCode> printList(const CommandContext &context, const QList<Record> &records,
                             void (*writeRecord)(JsonWriter &, const Record &),

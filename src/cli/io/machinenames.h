@@ -8,7 +8,7 @@
 
 namespace cli {
 
-// The fixed names of numbers in machine output, never translated; "Unknown" for a number without a name.
+/// The fixed names of enumerators in machine output, never translated; "Unknown" for a number without a name.
 QLatin1String machineName(OperationType type);
 QLatin1String machineName(DiskType type);
 QLatin1String machineName(BusType type);

@@ -4,8 +4,8 @@
 
 namespace cli {
 
-// The path with the differences taken out that the system makes none of: two paths name the same entry when
-// their folded forms are equal.
+/// The path in the form in which the system compares names: two paths name the same entry when these forms
+/// are equal.
 QString folded(const QString &path);
 
 } // namespace cli

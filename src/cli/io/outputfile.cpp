@@ -17,7 +17,7 @@ namespace cli {
 
 namespace {
 
-// The path and every folder above it, under the names without links.
+// The path and all folders above it, without links.
 QSet<QString> withFoldersAbove(QString path)
 {
     QSet<QString> names;
@@ -30,8 +30,8 @@ QSet<QString> withFoldersAbove(QString path)
     return names;
 }
 
-// Paths without links but in the last component, which is erased itself. What is to be erased may be a
-// hundred thousand files of one folder: each folder is looked at once.
+// Resolves the links of a path except in its last component, because a link is erased itself. A job may erase
+// a hundred thousand files of one folder: each folder is resolved once.
 class FolderNames
 {
 public:
@@ -56,7 +56,7 @@ Outcome<OutputFile> OutputFile::at(const QString &path, const QStringList &comma
     const auto wrong = [&](const char *why) {
         return wrongCommandLine(Cli::tr(why).arg(displayText(path)), commandWords);
     };
-    // Qt would write a file of another name instead.
+    // Qt would write to a file of another name.
     if (path.isEmpty() || !path.isValidUtf16())
         return wrong(QT_TRANSLATE_NOOP("Cli", "'%1' cannot be the name of a file"));
     OutputFile file;
@@ -93,7 +93,7 @@ bool OutputFile::isSameAs(const OutputFile &other) const
     const auto place = [](const OutputFile &file) {
         const QFileInfo info(file.m_path);
         const QString canonical = info.canonicalFilePath();
-        // One that is not there yet.
+        // A file that does not exist yet.
         return folded(canonical.isEmpty() ? FolderNames().canonical(file.m_path) : canonical);
     };
     return isWanted() && other.isWanted() && place(*this) == place(other);

@@ -8,30 +8,30 @@
 
 namespace cli {
 
-// A file that a command writes: a report, a certificate.
+/// A file written by a command, such as a report or a certificate.
 class OutputFile
 {
 public:
-    // No file is wanted.
+    /// No file.
     OutputFile() = default;
 
-    // For the path as it was given. WrongCommandLine when it cannot name a file, with the words of the
-    // command for the help.
+    /// The file of a path as the user gave it. WrongCommandLine when the path cannot name a file;
+    /// `commandWords` are for the help that is named then.
     static Outcome<OutputFile> at(const QString &path, const QStringList &commandWords);
 
     bool isWanted() const { return !m_path.isEmpty(); }
-    // Absolute.
+    /// Absolute.
     QString path() const { return m_path; }
 
-    // Whether the file is one of the absolute paths or lies below one, also through links: it would be
-    // destroyed with them.
+    /// Whether the file is one of the absolute paths or lies below one, also through links. It would be
+    /// destroyed with them.
     bool liesWithin(const QStringList &paths) const;
-    // Whether both are one file, also through links.
+    /// Whether both are the same file, also through links.
     bool isSameAs(const OutputFile &other) const;
-    // Tries whether it could be written; changes nothing.
+    /// Tests whether the file can be written; changes nothing.
     bool isWritable() const;
-    // Writes it as a whole or not at all, replacing what stood there; devices and pipes are written through.
-    // False when that failed.
+    /// Writes the file completely or not at all, replacing an existing one; devices and pipes are written
+    /// through. False when that failed.
     bool write(const QByteArray &content) const;
 
 private:

@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// A colon at the start names a resource for Qt, and an ordinary file for everybody else.
+// Qt takes a colon at the start for a resource; for users it is a file like any other.
 bool isAbsolute(const QString &path)
 {
     return !path.startsWith(u':') && QDir::isAbsolutePath(path);
@@ -20,7 +20,7 @@ bool hasDrive(const QString &absolutePath)
     return absolutePath.size() > 1 && absolutePath.at(0).isLetter() && absolutePath.at(1) == u':';
 }
 
-// For a path that Qt calls absolute, with the root it may lack on Windows.
+// Completes the root of a path that Qt calls absolute; on Windows it may be missing.
 QString rooted(const QString &path)
 {
     if (hasDrive(path)) {
@@ -55,7 +55,7 @@ bool leadsBackThroughLink(const QString &path)
     const qsizetype last = components.lastIndexOf(QLatin1String(".."));
     if (last < 0)
         return false;
-    // Behind the last ".." both ways are the same.
+    // After the last ".." both paths are the same.
     const QString upwards = components.first(last + 1).join(u'/');
     return QFileInfo(upwards).canonicalFilePath() != QFileInfo(QDir::cleanPath(upwards)).canonicalFilePath();
 }

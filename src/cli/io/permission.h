@@ -4,7 +4,7 @@
 
 namespace cli {
 
-// The refusal with a word on who is permitted.
+/// Adds a hint on the missing rights to the refusal.
 QString notPermitted(const QString &refusal);
 
 } // namespace cli

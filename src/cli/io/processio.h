@@ -4,7 +4,8 @@
 
 namespace cli {
 
-// The streams and stop signals of this process. One at a time, on the thread of the QCoreApplication.
+/// The streams and stop signals of this process. Only one instance at a time, on the thread of the
+/// QCoreApplication.
 class ProcessIo : public CliIo
 {
 public:

@@ -7,21 +7,20 @@
 
 namespace cli {
 
-// The wish to stop, from a signal or from a test. Once requested it stays so. Lives on the thread that runs
-// the command.
+/// A stop request, from a signal or a test. It cannot be withdrawn. Lives on the thread of the command.
 class StopRequest : public QObject
 {
     Q_OBJECT
 
 public:
-    // isAsked tells of a wish that no event loop has passed on yet.
+    /// isAsked reports a request that the event loop has not delivered yet.
     explicit StopRequest(std::function<bool()> isAsked = {}, QObject *parent = nullptr);
 
     void request();
-    bool isRequested() const; // any thread
+    bool isRequested() const; ///< any thread
 
 signals:
-    // Once.
+    /// Emitted once.
     void requested();
 
 private:

@@ -17,7 +17,7 @@ struct CharacterRange
     char32_t last;
 };
 
-// Hangul, CJK with its punctuation and kana, compatibility and full-width forms, and the ideographs of plane
+// Hangul, CJK with its punctuation and kana, compatibility and full-width forms, and the ideographs of planes
 // 2 and 3.
 constexpr std::array WideRanges{
     CharacterRange{0x1100, 0x115F}, CharacterRange{0x2E80, 0xA4CF},   CharacterRange{0xAC00, 0xD7A3},
@@ -62,7 +62,7 @@ QString Table::text(int indent) const
 {
     QList<int> widths;
     for (const QStringList &row : m_rows) {
-        // The last cell of a row is followed by nothing, so that its width does not matter.
+        // The last cell of a row needs no padding.
         for (qsizetype i = 0; i + 1 < row.size(); ++i) {
             if (i == widths.size())
                 widths.append(0);

@@ -6,21 +6,23 @@
 
 namespace cli {
 
-// Columns that the text takes on a terminal: two for wide East Asian characters, none for combining marks.
+/// The width of the text on a terminal in columns: two for wide East Asian characters, none for combining
+/// marks.
 int displayWidth(const QString &text);
 
-// The beginning of the text that fits into so many columns.
+/// The beginning of the text that fits into that many columns.
 QString clipped(const QString &text, int columns);
 
-// Rows of cells in aligned columns.
+/// A table of text in aligned columns.
 class Table
 {
 public:
     void addRow(const QStringList &cells) { m_rows.append(cells); }
-    // A line of its own below the row that was added last; it does not take part in the alignment.
+    /// Adds a line below the last row; it is not aligned with the columns.
     void addLine(const QString &line) { m_rows.append(QStringList{line}); }
 
-    // Each line indented by so many blanks and with a line feed at its end, none with blanks there.
+    /// The table with each line indented by that many blanks and ended by a line feed; no line has trailing
+    /// blanks.
     QString text(int indent = 0) const;
 
 private:

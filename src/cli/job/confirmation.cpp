@@ -11,7 +11,7 @@ using platform::StandardStream;
 std::optional<Refusal> confirm(const QStringList &summary, const ConfirmationOptions &options, CliIo &io)
 {
     const bool asks = !options.skipQuestion && io.isTerminal(StandardStream::Input);
-    // A question that goes into a file is not seen.
+    // Nobody sees a question that is written to a file.
     const bool onErrorStream = options.json || (asks && !io.isTerminal(StandardStream::Output));
     const auto print = [&](const QString &words) { onErrorStream ? io.printError(words) : io.print(words); };
 
@@ -26,7 +26,7 @@ std::optional<Refusal> confirm(const QStringList &summary, const ConfirmationOpt
     print(Cli::tr("Type %1 to destroy it:").arg(u"ERASE"_s) + u' ');
     const std::optional<QString> answer = io.readLine();
     if (!answer)
-        print(u"\n"_s); // nobody has ended the line of the question
+        print(u"\n"_s); // ends the line of the question
     if (io.stopRequest().isRequested())
         return Refusal{Cancelled, Cli::tr("cancelled, nothing was written")};
     if (answer != u"ERASE"_s)

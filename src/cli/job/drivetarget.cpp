@@ -41,12 +41,12 @@ const DiskInfo *findDisk(const QList<DiskInfo> &disks, Condition condition)
     return found == disks.end() ? nullptr : &*found;
 }
 
-// The drive that a volume or partition lies on. Null for everything else.
+// The drive of a volume or partition; null for any other path.
 const DiskInfo *findDriveOfPart(const QString &given, const QList<DiskInfo> &disks)
 {
     platform::Devices &devices = platform::Platform::current().devices();
     auto query = devices.queryVolume(QFileInfo(absolutePath(given)).canonicalFilePath());
-    // Not every name of a volume is a path.
+    // The name of a volume need not be a path.
     if (!query)
         query = devices.queryVolume(given);
     if (!query)
@@ -58,7 +58,7 @@ const DiskInfo *findDriveOfPart(const QString &given, const QList<DiskInfo> &dis
     return findDisk(disks, [number](const DiskInfo &disk) { return disk.diskNumber == number; });
 }
 
-// A device that cannot be written is in no list of drives.
+// Read-only devices are not in the list of drives.
 bool isReadOnlyDevice(const QString &path)
 {
     const QString canonical = QFileInfo(path).canonicalFilePath();
@@ -152,7 +152,7 @@ std::optional<Refusal> probeDrive(const DiskInfo &disk)
                        Cli::tr("drive %1 is gone, or another one has taken its place").arg(disk.diskNumber)};
     if (opened.code() == platform::WriteProtect)
         return Refusal{Refused, Cli::tr("drive %1 is read-only").arg(disk.diskNumber)};
-    // Whatever else is wrong, the job knows other ways to the drive and tells what it meets.
+    // The job has other ways to open the drive and reports any other failure itself.
     return std::nullopt;
 }
 

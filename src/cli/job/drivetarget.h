@@ -11,25 +11,25 @@
 
 namespace cli {
 
-// Whether the word is a drive number, and which.
+/// The drive number; nothing when the word is not one.
 std::optional<int> driveNumber(const QString &word);
 
-// The drive with that number or device path, also through links. Refused when there is none, and when a part
-// of a drive is named.
+/// The drive with that number or device path; links are followed. Refused when there is none or the path is a
+/// part of a drive.
 Outcome<DiskInfo> findDrive(const QString &numberOrPath, const QList<DiskInfo> &disks);
 
-// The same; refused for a system disk.
+/// The same; also refused for a system disk.
 Outcome<DiskInfo> findDriveToErase(const QString &numberOrPath, const QList<DiskInfo> &disks);
 
-// Why the drive is not to be erased as it is: it is read-only, something is built on it, or a volume on it
-// lies on other drives too. Nothing when none of that is so.
+/// The refusal of a drive that cannot be erased: it is read-only, a device is built on it, or a volume on it
+/// also lies on other drives. Nothing when the drive can be erased.
 std::optional<Refusal> checkObstacles(const DiskInfo &disk);
 
-// Whether the drive can be opened for writing, nothing being written: a refusal without the rights and when
-// another drive has taken its place, nothing otherwise.
+/// Tests whether the drive can be opened for writing; writes nothing. The refusal when rights are missing,
+/// the drive is read-only or another drive has taken its place; otherwise nothing.
 std::optional<Refusal> probeDrive(const DiskInfo &disk);
 
-// That a volume lies on the drive and where else.
+/// A text with the drives of a volume that lies on several.
 QString describeSpanning(const SpanningVolume &volume, int diskNumber);
 
 } // namespace cli

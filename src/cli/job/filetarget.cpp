@@ -27,8 +27,8 @@ Refusal noFile(const QString &shown)
     return refused(Cli::tr("%1 is no file or folder; a drive is erased with 'wipe disk'").arg(shown));
 }
 
-// Whether the folder is where a file system begins; wiping it would take everything on that file system. The
-// topmost folder is one whatever the system says: in a chroot it need not be a mount point.
+// Whether the folder is the root of a file system; wiping it would take every file on it. "/" always counts
+// as one, because in a chroot it need not be a mount point.
 bool isVolumeRoot(const QString &folder)
 {
     const QString canonical = QFileInfo(folder).canonicalFilePath();

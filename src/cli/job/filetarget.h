@@ -7,9 +7,9 @@
 
 namespace cli {
 
-// The absolute paths of the files and folders that were named. Refused when one does not exist, is a device,
-// pipe or socket, is the root of a mounted file system, or cannot be told apart from another;
-// WrongCommandLine never.
+/// The absolute paths of the given files and folders. Refused when a path does not exist or cannot be
+/// queried, is a device, pipe or socket, is the root of a volume, or goes back through a link. Never
+/// WrongCommandLine.
 Outcome<QStringList> findFiles(const QStringList &given);
 
 } // namespace cli

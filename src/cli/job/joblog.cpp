@@ -39,7 +39,7 @@ std::optional<Refusal> openJobLog(const DataFolder &folder, const QStringList &d
     AppLog &log = AppLog::instance();
     log.setEchoToConsole(false);
     log.setLogFile(path);
-    // Without its usual folder the program works as well; a folder that was asked for is another matter.
+    // The program works without its default folder, but not without a folder that the user has given.
     if (folder.isGiven && (!exists || !QFileInfo(path).isWritable())) {
         closeJobLog();
         return Refusal{SurroundingsFailed,

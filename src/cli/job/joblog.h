@@ -14,8 +14,9 @@ namespace cli {
 struct DataFolder;
 struct JobResult;
 
-// Points the program's log file into the folder. SurroundingsFailed when one that was asked for cannot be
-// made, or the file in it not written; refused when the file would be destroyed with the absolute paths.
+/// Opens the program's log file in the folder. SurroundingsFailed when a given folder cannot be created or
+/// the file in it cannot be written; refused when the file lies within the absolute paths, which will be
+/// erased.
 std::optional<Refusal> openJobLog(const DataFolder &folder, const QStringList &doomedPaths);
 void closeJobLog();
 

@@ -14,7 +14,7 @@ namespace cli {
 
 namespace {
 
-// Ten a second at most.
+// At most ten updates a second.
 constexpr qint64 ProgressIntervalMs = 100;
 
 class Run
@@ -37,7 +37,7 @@ public:
 
     JobResult result()
     {
-        // The plan has claimed the certificate ids of all its jobs before the question.
+        // The plan has claimed the certificate ids of all jobs before the question.
         QString problem = m_stop.isRequested() ? QString() : m_controller.makeReady(false);
         if (problem.isEmpty())
             problem = m_controller.start();
@@ -45,7 +45,7 @@ public:
             m_result.lastError = problem;
             return m_result;
         }
-        // A request that came before the engine's thread was there has only been seen by the probe.
+        // Only the probe has seen a request that came before the engine's thread existed.
         if (m_stop.isRequested())
             m_controller.stop();
         m_loop.exec();
@@ -64,7 +64,7 @@ private:
     StopRequest &m_stop;
     JobResult m_result;
     JobProgress m_progress;
-    QElapsedTimer m_sinceProgress; // not running before the first report
+    QElapsedTimer m_sinceProgress; // not started before the first update
     QEventLoop m_loop;
 };
 
@@ -86,7 +86,7 @@ void Run::connectJob()
                      [this](int percent) { m_progress.percent = percent; });
     QObject::connect(&m_engine, &WipeEngine::speedUpdated, &m_loop,
                      [this](double bytesPerSecond) { m_progress.bytesPerSecond = bytesPerSecond; });
-    // Comes after the percentage of the same moment.
+    // Is emitted after progressChanged of the same moment.
     QObject::connect(&m_engine, &WipeEngine::bytesProcessed, &m_loop,
                      [this](qint64 bytes) { onBytesProcessed(bytes); });
     QObject::connect(&m_controller, &JobController::ended, &m_loop, [this](const JobEnd &end) {
@@ -99,7 +99,7 @@ void Run::connectJob()
 
 void Run::onBytesProcessed(qint64 bytes)
 {
-    // The engine's figure counts the earlier passes of files twice.
+    // The engine's number counts earlier passes of files twice.
     m_progress.bytes = std::min(bytes, m_task.written());
     if (m_sinceProgress.isValid() && m_sinceProgress.elapsed() < ProgressIntervalMs)
         return;

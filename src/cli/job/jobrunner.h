@@ -9,9 +9,9 @@ namespace cli {
 
 class StopRequest;
 
-// Runs the job of the controller's task from start to end, events included, and shows it. A stop request ends
-// it; the function returns when the worker is through and has given everything back, however long its last
-// transfer takes, and the end is kept.
+/// Runs the job of the controller's task to its end, processes events meanwhile, and shows it in the view. A
+/// stop request stops the job. Returns after the worker has finished and released its devices, even if its
+/// last transfer takes long, and after the end has been stored.
 JobResult runJob(JobController &controller, const QString &target, JobView &view, StopRequest &stop);
 
 } // namespace cli

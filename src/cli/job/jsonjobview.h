@@ -8,7 +8,7 @@ namespace cli {
 
 class CliIo;
 
-// A job as events, one JSON object a line on standard output. Quiet: errors and the last event only.
+/// Prints a job as events, one JSON object a line on standard output. Quiet: only errors and the last event.
 class JsonJobView : public JobView
 {
 public:

@@ -31,7 +31,8 @@ PlanRun::PlanRun(WipePlan &plan, const WipeOptions &options, const RecordKeeping
 bool PlanRun::run(PlannedJob &job)
 {
     logJobStart(*job.task, job.target);
-    // One for each job: it goes when the job's thread is over, before the next one begins.
+    // Each job has a controller of its own, which is destroyed with the job's thread before the next job
+    // starts.
     JobController controller;
     controller.takeTask(std::move(job.task));
     controller.setKeep(

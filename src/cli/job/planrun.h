@@ -16,14 +16,14 @@ class StopRequest;
 struct CommandContext;
 struct WipeOptions;
 
-// Runs the jobs of a plan and remembers the gravest that happened.
+/// Runs the jobs of a plan and keeps the most serious result.
 class PlanRun
 {
 public:
     PlanRun(WipePlan &plan, const WipeOptions &options, const RecordKeeping &records,
             const CommandContext &context);
 
-    // False when the jobs behind this one are not to be run.
+    /// False when the remaining jobs must not run.
     bool run(PlannedJob &job);
     Outcome<ExitCode> result() const;
 
@@ -33,11 +33,11 @@ private:
     const RecordKeeping &m_records;
     StopRequest &m_stop;
     std::unique_ptr<JobView> m_view;
-    RecordKeeping::Written m_written; // of the job that ended last
+    RecordKeeping::Written m_written; ///< records of the last job
     int m_started = 0;
     std::optional<QString> m_engineRefusal;
     bool m_isCancelled = false;
-    bool m_hasFailed = false; // or fell short
+    bool m_hasFailed = false; ///< includes jobs with shortfalls
     bool m_hasProblem = false;
 };
 

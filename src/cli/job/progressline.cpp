@@ -25,7 +25,7 @@ QString lineText(const JobProgress &progress, qint64 elapsedMs)
                       Cli::tr("pass %1/%2").arg(progress.pass).arg(progress.passes)};
     if (progress.bytesPerSecond > 0)
         parts.append(Cli::tr("%1/s").arg(formatSize(std::llround(progress.bytesPerSecond))));
-    // Before the first percent there is nothing to reckon with.
+    // The remaining time cannot be estimated before the first percent.
     if (progress.percent > 0) {
         const qint64 seconds = elapsedMs * (100 - progress.percent) / progress.percent / 1000;
         parts.append(Cli::tr("%1 left").arg(durationText(seconds)));
@@ -68,7 +68,7 @@ void ProgressLine::draw(const QString &line)
 {
     if (!m_isTerminal || (line.isEmpty() && m_drawnWidth == 0))
         return;
-    // The last column stays empty: a cursor behind it would begin a new line on some terminals.
+    // The last column stays empty, because some terminals begin a new line after it.
     const int columns = m_io.columns() > 0 ? m_io.columns() : UsualColumns;
     const QString fitting = clipped(line, columns - 1);
     const int width = displayWidth(fitting);

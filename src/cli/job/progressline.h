@@ -9,21 +9,21 @@ namespace cli {
 
 class CliIo;
 
-// One line on the terminal behind standard error that is drawn over and over: percent, pass, rate, remaining
-// time. Does nothing where standard error is no terminal.
+/// A line on the terminal of standard error that is drawn repeatedly: percent, pass, rate and remaining time.
+/// Does nothing when standard error is not a terminal.
 class ProgressLine
 {
 public:
     explicit ProgressLine(CliIo &io);
 
-    // Begins to measure the time.
+    /// Starts to measure the time.
     void start() { m_time.start(); }
     void show(const JobProgress &progress);
-    // Takes the line away, so that other text can be printed where it stood.
+    /// Removes the line, so that other text can be printed in its place.
     void clear();
-    // Draws it again.
+    /// Draws it again.
     void restore();
-    // Takes it away for good.
+    /// Removes the line for good.
     void end();
 
 private:
@@ -33,7 +33,7 @@ private:
     bool m_isTerminal;
     QElapsedTimer m_time;
     QString m_line;
-    int m_drawnWidth = 0; // columns taken on the terminal now
+    int m_drawnWidth = 0; ///< columns currently drawn
 };
 
 } // namespace cli

@@ -35,7 +35,7 @@ QString resultText(JobOutcome outcome)
     return Cli::tr("FAILED");
 }
 
-// A file job reports its bytes by the way only, and the last of them not at all; what it was to do is exact.
+// A file job reports its bytes irregularly, and the last of them not at all; the size of its files is exact.
 QString amountText(const WipeReport &report)
 {
     if (report.operationType != FileWipe)
@@ -69,7 +69,7 @@ void TextJobView::log(const QString &message, int level)
     if (m_quiet && level < ErrorLevel)
         return;
     m_progressLine.clear();
-    // An empty message sets the blocks of several volumes apart.
+    // An empty message separates the blocks of several volumes.
     m_io.printLine(message.isEmpty() ? QString() : levelMark(level) + u' ' + displayText(message));
     m_progressLine.restore();
 }

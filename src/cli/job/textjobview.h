@@ -7,18 +7,18 @@ namespace cli {
 
 class CliIo;
 
-// A job for a person: the lines of its log, a progress line on a terminal, and one line at the end. Quiet:
-// errors and the line at the end only.
+/// Prints a job for a person: the lines of its log, a progress line on a terminal, and one line at the end.
+/// Quiet: only errors and the line at the end.
 class TextJobView : public JobView
 {
 public:
     TextJobView(CliIo &io, bool quiet);
 
     void started(const WipeTask &task, const QString &target) override;
-    void passChanged(int, int) override {} // the log tells
+    void passChanged(int, int) override {} ///< the log has it
     void progress(const JobProgress &progress) override;
     void log(const QString &message, int level) override;
-    void engineError(const QString &) override {} // the log tells, or the refusal
+    void engineError(const QString &) override {} ///< the log or the refusal has it
     void problem(const QString &message) override;
     void finished(const JobResult &result, const RecordKeeping::Written &written) override;
 

@@ -26,7 +26,7 @@ Outcome<QStringList> requestedRoots(const CommandContext &context, const QString
         const QString path = absolutePath(root);
         if (!QFileInfo(path).isDir())
             return Refusal{Refused, Cli::tr("%1 is no folder").arg(displayText(root))};
-        // One folder under two names would have its items listed, and erased, twice.
+        // A folder with two names would be listed, and erased, twice.
         const QString canonical = QFileInfo(path).canonicalFilePath();
         if (!roots.contains(canonical))
             roots.append(canonical);

@@ -9,27 +9,28 @@
 
 namespace cli {
 
-// The options that say whose bins are meant.
+/// The options that select the bins.
 QList<QCommandLineOption> trashOptions();
 
-// What is in the current user's Recycle Bin and Trash, or in the bins of the roots that are named. Refused
-// when a root is no folder or none has a bin of the SID that was given, SurroundingsFailed when the user is
-// unknown to the system.
+/// The contents of the current user's Recycle Bin and Trash, or of the bins in the given roots. Refused when
+/// a root is not a folder or none has a bin of the given SID; SurroundingsFailed when the system does not
+/// tell the user.
 Outcome<RecycleBinInfo> findTrash(const CommandContext &context, const QStringList &commandWords);
 
-// One line where the bins are not those of the account that the desktop belongs to: "Recycle Bin of root".
+/// A line such as "Recycle Bin of root" when the bins belong to another account than the desktop; otherwise
+/// empty.
 QStringList accountLines(const RecycleBinInfo &found);
 
-// "3 items, 12.00 KB", and what is wrong with the sum.
+/// "3 items, 12.00 KB", and a line on impossible sizes.
 QStringList amountLines(const RecycleBinInfo &found);
 
-// One line where something is to be erased that no record stands for: "and 1 entry without a record, 5 B".
+/// A line such as "and 1 entry without a record, 5 B" when there are such entries; otherwise empty.
 QStringList unrecordedLines(const RecycleBinInfo &found);
 
-// Each bin that was not looked into, with the reason, in words for the user.
+/// A line for each bin that was not scanned, with the reason.
 QStringList unscannedLines(const RecycleBinInfo &found);
 
-// The line that stands for the item, with cleaned names.
+/// The line of the item, with names safe to display.
 QString describeItem(const RecycleBinItem &item);
 
 } // namespace cli

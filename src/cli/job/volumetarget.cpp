@@ -23,7 +23,7 @@ bool isDriveLetter(const QString &name)
     return name.size() == 2 && name.at(0).isLetter() && name.at(1) == u':';
 }
 
-// Without the separators at the end that "E:\" and "/media/data/" may have.
+// Removes trailing separators, as in "E:\" and "/media/data/".
 QString trimmedName(const QString &name)
 {
     QString trimmed = QDir::fromNativeSeparators(name);
@@ -32,7 +32,7 @@ QString trimmedName(const QString &name)
     return trimmed;
 }
 
-// Compares names of volumes with the one that the user typed.
+// Compares names of volumes with the name given by the user.
 class NameMatch
 {
 public:
@@ -61,8 +61,8 @@ private:
     QString m_canonical;
 };
 
-// A volume that spans several drives belongs to none of them, and its free space can be filled like any
-// other.
+// A volume that spans several drives is listed under none of them; its free space can be filled like that of
+// any other.
 std::optional<PartitionInfo> findVolumeWithoutDrive(const NameMatch &match)
 {
     const auto volumes = platform::Platform::current().devices().mountedVolumes();
@@ -82,7 +82,7 @@ std::optional<PartitionInfo> findVolumeWithoutDrive(const NameMatch &match)
     return std::nullopt;
 }
 
-// For the report and the lists of reports, which know targets by their drive.
+// The disk record for reports, which identify targets by their drive.
 DiskInfo recordOf(const PartitionInfo &partition)
 {
     DiskInfo disk;

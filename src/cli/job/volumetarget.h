@@ -9,16 +9,16 @@
 
 namespace cli {
 
-// What one argument of a free-space job stands for.
+/// The target of one argument of a free-space job.
 struct VolumeTarget
 {
-    DiskInfo disk;           // without a number, and named after the volume, when that is on no single drive
-    PartitionInfo partition; // its name is empty when all volumes of the drive are meant
-    QString name;            // for the user
+    DiskInfo disk;           ///< no number, and the name of the volume, when the volume is on no single drive
+    PartitionInfo partition; ///< no name when all volumes of the drive are meant
+    QString name;            ///< for the user
 };
 
-// A volume by drive letter or mount point, or all volumes of a drive by its number. Refused when there is
-// none.
+/// The volume with that drive letter or mount point, or all volumes of the drive with that number. Refused
+/// when there is none.
 Outcome<VolumeTarget> findVolume(const QString &nameOrNumber, const QList<DiskInfo> &disks);
 
 } // namespace cli

@@ -36,7 +36,7 @@ QString shortfallNames()
     return names.join(u", "_s);
 }
 
-// Reads the values of options one after the other and keeps the first thing that is wrong.
+// Reads the values of options one after the other and keeps the first error.
 class OptionReader
 {
 public:

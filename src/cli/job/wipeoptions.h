@@ -10,7 +10,7 @@ class WipeTask;
 
 namespace cli {
 
-// The options that all wipe commands share.
+/// The options of all wipe commands.
 QList<QCommandLineOption> wipeOptions();
 
 struct WipeOptions
@@ -20,20 +20,21 @@ struct WipeOptions
     int samples = 0;
     int threads = 0;
     int bufferMB = 0;
-    bool storeReport = true; // in the database
+    bool storeReport = true; ///< store in the database
     OutputFile reportFile;
-    bool replacesAnything = false; // with the report, not only another one
+    bool replacesAnything = false; ///< the report may replace a file that is not a report
     CertificateFile certificate;
     bool skipQuestion = false;
-    QList<ShortfallKind> accepted; // which do not make the exit code that of a failed job
+    QList<ShortfallKind> accepted; ///< shortfalls that do not count as a failure in the exit code
 
-    // Whether the outcome is what the user asked for: complete, or short of nothing else than was accepted.
+    /// Whether the outcome is complete, or has only accepted shortfalls.
     bool accepts(const OutcomeRecord &outcome) const;
 
     void applyTo(WipeTask &task) const;
 };
 
-// WrongCommandLine for a value that makes no sense; what an option leaves open is as a fresh task has it.
+/// Reads the options. WrongCommandLine for an invalid value; an option that is not given has the default of
+/// WipeTask.
 Outcome<WipeOptions> readWipeOptions(const CommandContext &context, const QStringList &commandWords);
 
 } // namespace cli

@@ -25,7 +25,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// What fills free space is deleted again and never read back.
+// Fill files are deleted again and never read back.
 bool isReadBack(const WipePlan &plan, const WipeOptions &options)
 {
     return options.verify && std::ranges::any_of(plan.jobs, [](const PlannedJob &job) {
@@ -54,7 +54,7 @@ std::optional<Refusal> checkTasks(const WipePlan &plan)
     return std::nullopt;
 }
 
-// None of the plan's reports may take the place of a stored one, nor of each other.
+// A report of the plan must not replace a stored report or another report of the plan.
 std::optional<Refusal> claimCertificateIds(const WipePlan &plan, const WipeOptions &options)
 {
     QStringList taken;
@@ -68,8 +68,7 @@ std::optional<Refusal> claimCertificateIds(const WipePlan &plan, const WipeOptio
     return std::nullopt;
 }
 
-// What the jobs will fall short of, and what they keep, in lines; the user decides whether they are started
-// all the same.
+// Lines on the parts that the jobs will not erase; the user decides whether the jobs start.
 QStringList foreseenLines(const WipePlan &plan)
 {
     OutcomeRecord foreseen;
@@ -128,7 +127,7 @@ Outcome<ExitCode> carryOut(WipePlan &plan, const WipeOptions &options, const Com
         return *refusal;
     if (const auto refusal = ask(plan, options, context))
         return *refusal;
-    // Whoever stops now gets the end of a job that has touched nothing.
+    // After a stop request the jobs end at once and have written nothing, so that no check is needed.
     if (plan.lastCheck && !context.io.stopRequest().isRequested()) {
         if (const auto refusal = plan.lastCheck())
             return *refusal;

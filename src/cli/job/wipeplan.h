@@ -18,25 +18,25 @@ namespace cli {
 struct PlannedJob
 {
     std::unique_ptr<WipeTask> task;
-    QString target;      // for the user, uncleaned
-    FileSurvey survey{}; // of a file job
+    QString target;      ///< for the user, not safe to display
+    FileSurvey survey{}; ///< only for a file job
 };
 
-// Everything that a wipe command has made of its arguments.
+/// A wipe command after all of its arguments are resolved.
 struct WipePlan
 {
-    std::vector<PlannedJob> jobs; // run one after the other
-    QStringList summary;          // what is destroyed, in lines for the user
-    QStringList doomedPaths;      // what the jobs destroy; a report must not be written there
-    std::function<std::optional<Refusal>()> lastCheck; // after the confirmation; may be empty
-    // When a job has ended, however it did; answers with problems in words. May be empty.
+    std::vector<PlannedJob> jobs; ///< run in this order
+    QStringList summary;          ///< lines for the user on everything that is destroyed
+    QStringList doomedPaths;      ///< paths that the jobs destroy; no report may lie there
+    std::function<std::optional<Refusal>()> lastCheck; ///< called after the confirmation; may be empty
+    /// Called after each job, whatever its end; returns problems in words for the user. May be empty.
     std::function<QStringList()> afterwards;
 };
 
-// The lines as they stand below another in the summary.
+/// Indents the lines below another line of the summary.
 QStringList indented(const QStringList &lines);
 
-// Confirms, runs and reports. Nothing is written when this refuses.
+/// Asks for confirmation, runs the jobs and reports. When this refuses, nothing has been written.
 Outcome<ExitCode> carryOut(WipePlan &plan, const WipeOptions &options, const CommandContext &context,
                            const QStringList &commandWords);
 

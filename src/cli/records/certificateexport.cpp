@@ -9,11 +9,11 @@ namespace cli {
 
 namespace {
 
-// What a graphics system finds missing around it is of no interest to a program without windows.
+// Warnings of the graphics system do not concern a program without windows.
 void dropWarnings(QtMsgType type, const QMessageLogContext &, const QString &message)
 {
     if (type == QtFatalMsg || type == QtCriticalMsg) {
-        // Where even standard error is gone nobody can be told.
+        // If standard error fails too, there is no way left to report it.
         [[maybe_unused]] const auto status =
             platform::writeText(platform::StandardStream::Error, message.toUtf8() + '\n');
     }
@@ -28,7 +28,7 @@ bool canExportCertificates()
 
 std::unique_ptr<QCoreApplication> makeApplication(int &argc, char **argv)
 {
-    // Whatever display there is, and also when there is none.
+    // No display is used, even if there is one.
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QtMessageHandler handler = qInstallMessageHandler(dropWarnings);
     auto application = std::make_unique<QGuiApplication>(argc, argv);

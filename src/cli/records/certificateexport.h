@@ -12,15 +12,15 @@ struct WipeReport;
 
 namespace cli {
 
-// Certificates need fonts, and with them the parts of the framework that a build without windows leaves out.
-// Two files define these functions, one for each build.
+/// Certificates need fonts, and fonts need Qt Gui, which a build without windows does not have. Each kind of
+/// build has its own source for these functions.
 
 bool canExportCertificates();
 
-// The application object that the program needs, which takes no display. argc must outlive it.
+/// Creates the application object of the program, which needs no display. argc must outlive it.
 std::unique_ptr<QCoreApplication> makeApplication(int &argc, char **argv);
 
-// Writes the certificate as a PDF, as a whole or not at all, with the outcome if it is known.
+/// Writes the certificate as a PDF, completely or not at all, with the outcome if it is known.
 bool exportCertificate(const WipeReport &report, const std::optional<OutcomeRecord> &outcome,
                        const QString &path);
 

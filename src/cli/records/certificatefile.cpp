@@ -34,7 +34,7 @@ bool CertificateFile::liesWithin(const QStringList &paths) const
 
 bool CertificateFile::isWritable() const
 {
-    // Of a folder a name is tried that no certificate has.
+    // A folder is tested with a name that no certificate has.
     return fileFor(u"certificate"_s).isWritable();
 }
 

@@ -12,31 +12,30 @@ struct WipeReport;
 
 namespace cli {
 
-// Where a job's certificate goes as a PDF: a file, or a folder that each certificate gets a file of its own
-// in.
+/// The destination of a certificate as PDF: a file, or a folder in which each certificate has its own file.
 class CertificateFile
 {
 public:
-    // No certificate is wanted.
+    /// No certificate.
     CertificateFile() = default;
 
-    // For the path as it was given. WrongCommandLine when it can be neither; refused by a program that was
-    // built without certificates.
+    /// The destination of a path as the user gave it. WrongCommandLine when the path can name neither file
+    /// nor folder; refused when the program was built without certificates.
     static Outcome<CertificateFile> at(const QString &path, const QStringList &commandWords);
 
     bool isWanted() const { return isFolder() || m_file.isWanted(); }
     bool isFolder() const { return !m_folder.isEmpty(); }
-    // Absolute, for the user: the file, or the folder.
+    /// The absolute path of the file or folder, for the user.
     QString path() const { return isFolder() ? m_folder : m_file.path(); }
 
-    // The file; none where it is a folder.
+    /// The file; not wanted when the destination is a folder.
     const OutputFile &file() const { return m_file; }
 
     bool liesWithin(const QStringList &paths) const;
-    // Tries whether one could be written; changes nothing.
+    /// Tests whether a certificate can be written; changes nothing.
     bool isWritable() const;
-    // Writes the certificate as a whole or not at all, with the outcome if it is known. The path, empty when
-    // that failed.
+    /// Writes the certificate completely or not at all, with the outcome if it is known. Returns its path,
+    /// empty on failure.
     QString write(const WipeReport &report, const std::optional<OutcomeRecord> &outcome) const;
 
 private:

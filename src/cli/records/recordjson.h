@@ -13,13 +13,13 @@ class JsonWriter;
 
 namespace cli {
 
-// Records as machine output, their fields under their own names.
+/// Writes records as machine output, with the names of their fields.
 void writeDisk(JsonWriter &writer, const DiskInfo &disk);
 void writeMethod(JsonWriter &writer, const WipeMethod &method);
 void writeTrash(JsonWriter &writer, const RecycleBinInfo &trash);
 
-// A report as it was stored, and behind its fields, where it is known, how the job went, as "annex". Writes
-// nothing and returns false for a text that is no report.
+/// Writes a stored report unchanged; a known outcome is added as the member "annex". Returns false and writes
+/// nothing when the text is not a report.
 [[nodiscard]] bool writeStoredReport(JsonWriter &writer, const QByteArray &json,
                                      const std::optional<OutcomeRecord> &outcome);
 

@@ -41,10 +41,10 @@ std::optional<Refusal> check(const File &file, const QStringList &doomedPaths,
     return std::nullopt;
 }
 
-// Something else than a report, which somebody may miss.
+// Whether the file exists and is not a report; replacing it might lose data.
 bool isForeign(const OutputFile &file)
 {
-    constexpr qint64 LargestReport = 256 * MiB; // a line for each of some million files
+    constexpr qint64 LargestReport = 256 * MiB; // some million files with a line each
     QFile standing(file.path());
     if (!file.isWanted() || !standing.exists() ||
         platform::Platform::current().files().isStream(file.path()) || standing.size() == 0)
@@ -53,7 +53,7 @@ bool isForeign(const OutputFile &file)
            !namesCertificate(standing.readAll());
 }
 
-// What the job writes by itself lies in the data folder.
+// All files that the job writes; those that were not asked for lie in the data folder.
 QList<OutputFile> outputsOf(const WipeOptions &options, const CommandContext &context)
 {
     const DataFolder folder = dataFolder(context.options);

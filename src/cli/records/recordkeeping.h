@@ -18,28 +18,28 @@ namespace cli {
 struct CommandContext;
 struct WipeOptions;
 
-// What is kept of jobs: the record in the database, the report as a file, the certificate.
+/// Keeps the records of jobs: the report in the database, the report as a file, and the certificate.
 class RecordKeeping
 {
 public:
-    // Where they went; empty paths for what was not wanted or could not be written.
+    /// The paths of the records; empty for one that was not wanted or could not be written.
     struct Written
     {
         QString report;
         QString certificate;
-        QStringList problems; // in words for the user
+        QStringList problems; ///< for the user
     };
 
-    // Opens the database and tries the files; nothing is written. Refused when one of them lies in what is to
-    // be erased, SurroundingsFailed when it cannot be written.
+    /// Opens the database and tests the files; writes nothing. Refused when a record would lie in an erased
+    /// path, SurroundingsFailed when it cannot be written.
     static Outcome<RecordKeeping> prepare(const WipeOptions &options, const CommandContext &context,
                                           const QStringList &doomedPaths, const QStringList &commandWords);
 
-    // Notes in the end what became of its report.
+    /// Writes the records and notes in `end` whether the report was stored.
     Written write(JobEnd &end, bool withCertificate) const;
 
 private:
-    std::unique_ptr<ReportStore> m_store; // null: not wanted
+    std::unique_ptr<ReportStore> m_store; ///< null: reports are not stored
     OutputFile m_reportFile;
     CertificateFile m_certificate;
 };

@@ -13,8 +13,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// The names of both objects, in the order in which the record's text has them; the framework sorts them. What
-// only the file has comes last.
+// The member names of both objects in the order of the record's text, because QJsonObject sorts them. Members
+// that only the file has come last.
 QStringList namesInOrder(const QJsonObject &record, const QJsonObject &file, const QByteArray &text)
 {
     const auto place = [&text](const QString &name) { return text.indexOf('"' + name.toUtf8() + "\":"); };
@@ -33,7 +33,7 @@ QString asJson(const QJsonValue &value)
 {
     if (value.isUndefined())
         return {};
-    // Only arrays and objects make a document.
+    // QJsonDocument only takes arrays and objects.
     const QByteArray text = QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact);
     return QString::fromUtf8(text.sliced(1, text.size() - 2));
 }

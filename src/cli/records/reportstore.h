@@ -13,21 +13,22 @@ class ReportDatabase;
 
 namespace cli {
 
-// The report database, open as long as this lives. One at a time.
+/// The report database, open during the lifetime of the object. Only one instance at a time.
 class ReportStore
 {
 public:
-    // In the folder that the options name, or in the user's. SurroundingsFailed with the reason.
+    /// Opens the database in the folder of the options, or in the user's folder. SurroundingsFailed with the
+    /// reason.
     static Outcome<std::unique_ptr<ReportStore>> open(const QCommandLineParser &options);
     ~ReportStore();
     ReportStore(const ReportStore &) = delete;
     ReportStore &operator=(const ReportStore &) = delete;
 
     ReportDatabase &database() const;
-    // The folder with the file, absolute.
+    /// The absolute path of the folder with the file.
     QString folder() const { return m_folder; }
 
-    // For a question that the database did not answer.
+    /// The refusal after a failed query of the database.
     Refusal unreadable() const;
 
 private:
@@ -36,11 +37,11 @@ private:
     QString m_folder;
 };
 
-// The text of a report as it was stored: refused when there is none of that certificate id,
-// SurroundingsFailed when the database does not answer.
+/// The stored text of a report. Refused when there is none with that certificate id; SurroundingsFailed when
+/// the database cannot be read.
 Outcome<QByteArray> findStoredReport(const ReportStore &store, const QString &certificateId);
 
-// The same, and SurroundingsFailed when the text is no report any more.
+/// The same; also SurroundingsFailed when the text is not a report any more.
 Outcome<QByteArray> readStoredReport(const ReportStore &store, const QString &certificateId);
 
 } // namespace cli

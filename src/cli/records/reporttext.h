@@ -10,19 +10,19 @@
 
 namespace cli {
 
-// Whether the text can be read as a report at all: one JSON object.
+/// Whether the text is one JSON object, which can be read as a report.
 bool isReportText(const QByteArray &json);
 
-// Whether it is a report, whatever became of its fields.
+/// Whether the text has a certificate id, even if other fields are damaged.
 bool namesCertificate(const QByteArray &json);
 
-// What the job was about, in a few words with cleaned names: the drive, or how many files.
+/// The target in a few words, safe to display: the drive, or the number of files.
 QString targetText(const WipeReport &report);
 
-// The whole report for a person, a field a line, with cleaned names, and how the job went.
+/// The report for a person, a field a line, safe to display, with the outcome of the job.
 QString reportText(const WipeReport &report, const std::optional<OutcomeRecord> &outcome);
 
-// In one word; also for one that is not known.
+/// The outcome in one word; also for an unknown one.
 QString outcomeText(const std::optional<OutcomeRecord> &outcome);
 
 } // namespace cli

@@ -13,10 +13,11 @@ enum class BinOwner {
     Anybody,
 };
 
-/// Whether a folder that is a bin, or on the way to one, may be looked into: a real folder, the user's own
-/// where that is asked for and the system knows such owners. What stands there and may not be looked into
-/// goes to `unscanned`, a plain file excepted.
+/// Whether a bin, or a folder on the way to it, may be entered. It must be a real folder and, for
+/// BinOwner::User, belong to the user if the system knows owners. An entry that may not be entered is added
+/// to `unscanned`, except a plain file.
 bool mayEnterBin(const QString &folder, BinOwner owner, QList<UnscannedBin> &unscanned);
 
-/// Lists a folder of a bin; one that cannot be listed goes to `unscanned`, and to the debug output.
+/// Lists a folder of a bin. A folder that cannot be listed is added to `unscanned` and traced to the debug
+/// output.
 void listBin(const QString &folder, QList<UnscannedBin> &unscanned, const platform::Folders::Visitor &visit);

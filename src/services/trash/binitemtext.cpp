@@ -15,10 +15,10 @@ namespace {
 
 QString upToZero(const QString &text)
 {
-    return text.left(text.indexOf(QChar::Null)); // all of it where there is none
+    return text.left(text.indexOf(QChar::Null)); // the whole text when there is no zero
 }
 
-// Every system counts the bytes of a file with a sign.
+// File sizes are signed on every system.
 bool isImpossible(const RecycleBinItem &item)
 {
     return item.size > static_cast<quint64>(std::numeric_limits<qint64>::max());
@@ -33,7 +33,7 @@ QString BinItemText::originalPath(const RecycleBinItem &item)
 
 QString BinItemText::fileName(const RecycleBinItem &item)
 {
-    // Behind a zero there may be anything, separators among it.
+    // The text behind a zero is arbitrary and may hold separators.
     const QString recorded = item.originalPath.contains(QChar::Null)
                                  ? recyclebin::lastComponent(originalPath(item))
                                  : item.fileName;

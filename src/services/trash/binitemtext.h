@@ -5,9 +5,9 @@
 #include <QCoreApplication>
 #include <QString>
 
-/// What a bin holds, in words. Its records are whatever stands in files that anybody may have written: paths
-/// end at their first zero, as they do for the system that wrote them, names are shown as displayText(), and
-/// sizes that no file can have are told as such.
+/// The contents of a bin in words. Any user may have written the records of a bin. Recorded paths therefore
+/// end at their first zero, as they do for the system that wrote them; names are shown by displayText(); and
+/// sizes that no file can have are marked.
 class BinItemText
 {
     Q_DECLARE_TR_FUNCTIONS(BinItemText)
@@ -15,15 +15,15 @@ class BinItemText
 public:
     BinItemText() = delete;
 
-    /// As recorded, up to the first zero. Not yet fit to be shown.
+    /// The recorded path up to its first zero. Not safe to display.
     static QString originalPath(const RecycleBinItem &item);
-    /// The last component of that; otherwise the name the item bears in the bin. Not yet fit to be shown.
+    /// The last component of that path, or the name of the item in the bin. Not safe to display.
     static QString fileName(const RecycleBinItem &item);
 
     /// "4.00 KB".
     static QString size(const RecycleBinItem &item);
-    /// Where the item was, and what is wrong with its size.
+    /// The original path and, when its size is impossible, a line on that.
     static QString details(const RecycleBinItem &item);
-    /// How many of the items have such sizes, which are part of the sum; empty when none has.
+    /// The number of items with impossible sizes, which are part of the sum; empty when there is none.
     static QString impossibleSizes(const RecycleBinInfo &found);
 };

@@ -9,15 +9,14 @@
 #include <functional>
 #include <optional>
 
-/// One step of a scan: the bins that are listed under a drive.
+/// One step of a scan: the bins that are listed under one drive.
 struct BinStop
 {
     QString drive; ///< "C:"; elsewhere a mount point, and the home folder for the bin in it
     std::function<void(RecycleBinInfo &found)> scan;
 };
 
-/// One kind of bin: where it lies on the machine, and which records belong to it. Any thread; nothing is kept
-/// between calls.
+/// One kind of bin: its places on the machine and its records. Any thread; nothing is kept between calls.
 class BinLayout
 {
 public:
@@ -26,17 +25,17 @@ public:
     BinLayout(const BinLayout &) = delete;
     BinLayout &operator=(const BinLayout &) = delete;
 
-    /// The bin in the user's home folder; nothing when there is none. A link in its place goes to
+    /// The bin in the user's home folder; nothing when there is none. A link in its place is added to
     /// `unscanned`.
     virtual std::optional<BinStop> homeBin(QList<UnscannedBin> &unscanned) const = 0;
 
-    /// Adds what the user's bins on the volume with that root hold.
+    /// Adds the contents of the user's bins on the volume with that root.
     virtual void scanVolume(const QString &root, const QString &userId, RecycleBinInfo &found) const = 0;
 
-    /// Takes out of the bins' own records what has been erased. Answers the first failure, having gone on
-    /// past it.
+    /// Removes the erased items from the bins' own records. Continues past a failure and returns the first
+    /// one.
     virtual platform::Status updateRecords(const RecycleBinInfo &erased) const = 0;
 };
 
-/// The kinds of bins that this system has, in the order they are scanned.
+/// The kinds of bins of this system, in the order of the scan.
 const QList<const BinLayout *> &binLayouts();

@@ -10,7 +10,7 @@
 void forEachFileBelow(const QString &folder, const EntryVisitor &visit)
 {
     platform::Folders &folders = platform::Platform::current().folders();
-    // A list of what is to come instead of recursion: nobody limits how deep folders lie.
+    // A list of pending folders instead of recursion: the depth of folders is not limited.
     QStringList pending{folder};
     while (!pending.isEmpty()) {
         const QString current = pending.takeFirst();

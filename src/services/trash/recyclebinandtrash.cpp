@@ -2,7 +2,7 @@
 #include "services/trash/recyclebinlayout.h"
 #include "services/trash/trashlayout.h"
 
-// A volume that Windows has used brings its Recycle Bins along.
+// Volumes that are shared with Windows have its Recycle Bins.
 const QList<const BinLayout *> &binLayouts()
 {
     static const RecycleBinLayout recycleBin;

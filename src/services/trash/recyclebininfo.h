@@ -11,54 +11,54 @@
 #include <limits>
 #include <numeric>
 
-/// Something the user threw away that is still there.
+/// A deleted item that still exists in a bin.
 struct RecycleBinItem
 {
-    QString fileName;     ///< last component of originalPath, otherwise the name it bears in the bin
-    QString originalPath; ///< as recorded when it was deleted; text only, never to be opened
-    QString recyclePath;  ///< the deleted file or folder as it lies in the bin; empty when it is missing
-    QString infoPath;     ///< the file that records where it came from; empty when there is none
+    QString fileName;     ///< last component of originalPath, or the name of the item in the bin
+    QString originalPath; ///< path recorded at the deletion; only a text, never opened
+    QString recyclePath;  ///< the deleted file or folder in the bin; empty when it is missing
+    QString infoPath;     ///< the file with the original path; empty when there is none
     quint64 size = 0;     ///< bytes
     bool isDirectory = false;
 
     bool operator==(const RecycleBinItem &) const = default;
 };
 
-/// Something that stands where a bin is looked for and was not looked into.
+/// A bin, or an entry in the place of one, that was not scanned.
 struct UnscannedBin
 {
     enum class Reason {
-        Link,       ///< it leads elsewhere, to what nobody has thrown away
-        NotOwn,     ///< it belongs to another user
-        Unreadable, ///< it could not be listed, or does not tell what it is
+        Link,       ///< a link, whose target is not in a bin
+        NotOwn,     ///< belongs to another user
+        Unreadable, ///< cannot be listed, or its kind cannot be queried
     };
 
     QString path;
     Reason reason = Reason::Unreadable;
-    quint32 error = 0; ///< of Unreadable
+    quint32 error = 0; ///< error code for Unreadable
 
     bool operator==(const UnscannedBin &) const = default;
 };
 
-/// What one user has in the bins of the machine.
+/// The contents of a user's bins.
 struct RecycleBinInfo
 {
     QList<RecycleBinItem> items; ///< in the order found, drive by drive
-    /// What to erase: of each item infoPath and recyclePath, as far as they exist.
+    /// The paths to erase: infoPath and recyclePath of each item, if they exist.
     QStringList filePaths;
-    quint64 totalSize = 0; ///< bytes of all items; the largest number when there are more
+    quint64 totalSize = 0; ///< bytes of all items; saturates at the largest number
     qint32 fileCount = 0;  ///< number of items
-    QStringList drives;    ///< those with at least one item
-    /// Data files in Recycle Bins that no "$I" file stands for, so that they are no items. To be erased with
-    /// the others.
+    QStringList drives;    ///< drives with at least one item
+    /// Data files in Recycle Bins that have no "$I" file and are therefore no items. They are erased with the
+    /// items.
     QList<RecycleBinItem> unrecorded;
     QList<UnscannedBin> unscanned;
-    /// Whose bins these are when it is not the account of the desktop; otherwise empty.
+    /// The account of these bins when it is not the account of the desktop; otherwise empty.
     QString account;
 
     bool operator==(const RecycleBinInfo &) const = default;
 
-    /// Takes the item in, with its paths and its size.
+    /// Appends the item, its paths and its size.
     void add(const RecycleBinItem &item)
     {
         items.append(item);
@@ -70,13 +70,13 @@ struct RecycleBinInfo
         fileCount = static_cast<qint32>(items.size());
     }
 
-    /// Bytes of all that no information file stands for.
+    /// The bytes of all data files without an information file.
     quint64 unrecordedSize() const
     {
         return std::accumulate(unrecorded.cbegin(), unrecorded.cend(), quint64{0}, sumOf);
     }
 
-    /// filePaths, and behind them what no information file stands for.
+    /// filePaths followed by the data files without an information file.
     QStringList doomedPaths() const
     {
         QStringList paths = filePaths;
@@ -85,7 +85,7 @@ struct RecycleBinInfo
         return paths;
     }
 
-    /// What a job on doomedPaths() leaves out.
+    /// The parts that a job on doomedPaths() leaves out.
     QList<Shortfall> omissions() const
     {
         QList<Shortfall> left;
@@ -95,7 +95,7 @@ struct RecycleBinInfo
     }
 
 private:
-    // A file may record any size; the sum ends at the largest number instead of beginning anew.
+    // The recorded sizes are arbitrary; the sum saturates instead of overflowing.
     static quint64 sumOf(quint64 sum, const RecycleBinItem &item)
     {
         return sum + std::min(item.size, std::numeric_limits<quint64>::max() - sum);

@@ -11,7 +11,7 @@ constexpr qsizetype FixedPathAt = 24;
 constexpr qsizetype FixedPathUnits = 260;
 constexpr qsizetype SmallestVersion1 = 544; // bytes
 
-// Version 2: the number of UTF-16 code units, and then the path.
+// Version 2: the number of UTF-16 code units, followed by the path.
 constexpr qsizetype LengthAt = 24;
 constexpr qsizetype PathAt = 28;
 constexpr qsizetype SmallestVersion2 = 29; // bytes
@@ -22,7 +22,7 @@ T numberAt(QByteArrayView contents, qsizetype offset)
     return qFromLittleEndian<T>(contents.data() + offset);
 }
 
-// Unit by unit: a decoder would take a byte order mark away and replace lone surrogates, which are both
+// Copied unit by unit: a decoder would remove a byte order mark and replace lone surrogates, which are both
 // allowed in file names.
 QString textAt(QByteArrayView contents, qsizetype offset, qsizetype units)
 {
@@ -37,7 +37,7 @@ QString recordedPath(QByteArrayView contents)
     if (version == 1 && contents.size() >= SmallestVersion1)
         return textAt(contents, FixedPathAt, FixedPathUnits);
     if (version == 2 && contents.size() >= SmallestVersion2) {
-        // Up to 4 G units as stored, whatever the file really holds.
+        // The stored length may be up to 4 G units, whatever the size of the file.
         const qint64 units = numberAt<quint32>(contents, LengthAt);
         if (PathAt + 2 * units <= contents.size())
             return textAt(contents, PathAt, static_cast<qsizetype>(units));

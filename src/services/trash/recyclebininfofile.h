@@ -7,15 +7,15 @@
 /// The "$I" file that the Recycle Bin keeps beside each deleted item.
 namespace recyclebin {
 
-/// Shorter ones tell nothing.
+/// Shorter files hold no information.
 inline constexpr qsizetype SmallestInfoFile = 28; // bytes
 
-/// `fileName`, `originalPath` and `size` from the contents, of any origin and in any state. The path of an
-/// unknown version, or of one that does not fit into the file, is empty; the path of version 1 keeps the
-/// zeros that fill its field. Lone surrogates stay as they are.
+/// Reads `fileName`, `originalPath` and `size` from contents of any origin. The path is empty when the
+/// version is unknown or the path does not fit into the file. The path of version 1 keeps the zeros that pad
+/// its field. Lone surrogates are kept.
 RecycleBinItem parseInfo(QByteArrayView contents);
 
-/// What stands behind the last backslash, or behind the last slash where there is no backslash.
+/// The part behind the last backslash or, without a backslash, behind the last slash.
 QString lastComponent(const QString &path);
 
 } // namespace recyclebin

@@ -18,8 +18,8 @@ using namespace Qt::StringLiterals;
 using platform::pathInFolder;
 
 namespace {
-// Whatever has a longer path than Windows can make is no information file; a deleted folder may hold any file
-// under such a name.
+// A larger file cannot be an information file, because Windows has no paths of that length. A deleted folder
+// may hold any file with such a name.
 constexpr qint64 LargestInfoFile = 1 * MiB;
 
 bool isInfoName(const QString &name)
@@ -27,8 +27,8 @@ bool isInfoName(const QString &name)
     return name.startsWith("$I"_L1, Qt::CaseInsensitive);
 }
 
-// Only an answer that nothing is there makes the data file missing; one that refuses to tell of itself is to
-// be erased all the same.
+// A data file is missing only when the system says that it does not exist. A file that cannot be queried is
+// erased all the same.
 void addDataFile(const QString &folder, const QString &name, RecycleBinItem &item)
 {
     const QString path = pathInFolder(folder, name);
@@ -45,7 +45,7 @@ void addDataFile(const QString &folder, const QString &name, RecycleBinItem &ite
         item.size = static_cast<quint64>(found.value().size);
 }
 
-// The data files that lie in a bin itself, until their information files are found.
+// The data files directly in a bin for which no information file has been found yet.
 class DataFiles
 {
 public:
@@ -63,7 +63,7 @@ public:
     {
         if (m_left.remove(name) > 0)
             return;
-        // It was found under this name all the same: the file system does not tell capitals apart.
+        // The file system ignores case: the entry has the same name in other letters.
         m_left.removeIf([&name](const std::pair<const QString &, platform::FileKind &> &entry) {
             return entry.first.compare(name, Qt::CaseInsensitive) == 0;
         });
@@ -93,7 +93,7 @@ private:
 
 using NameTest = std::function<bool(const QString &name)>;
 
-// The folders in the given one whose names are accepted, in the order listed. Links are none.
+// The folders in the parent whose names are accepted, in the order listed. Links are left out.
 QStringList foldersIn(const QString &parent, const NameTest &accept, QList<UnscannedBin> &unscanned)
 {
     QStringList paths;
@@ -128,7 +128,7 @@ platform::Status RecycleBinLayout::updateRecords(const RecycleBinInfo & /*erased
     return {};
 }
 
-// Some systems write the name of the bin in capitals, and not every file system that holds one ignores case.
+// Some systems write the name of the bin in capitals, and some file systems with bins are case-sensitive.
 QStringList RecycleBinLayout::binsIn(const QString &root, const QString &sid, QList<UnscannedBin> &unscanned)
 {
     QStringList bins;

@@ -19,7 +19,7 @@ QStringList localDrives()
     QStringList drives;
     const QList<platform::MountedVolume> volumes = platform::Platform::current().devices().mountedVolumes();
     for (const platform::MountedVolume &volume : volumes) {
-        // A mount may lie over another on the same place.
+        // One mount point may be listed twice, when a mount covers another.
         if (volume.isReady && volume.isLocal && !drives.contains(volume.name))
             drives.append(volume.name);
     }

@@ -8,40 +8,40 @@
 
 #include <functional>
 
-/// Lists what the current user has in the bins of all local fixed and removable drives: the Recycle Bin of
-/// Windows, and elsewhere also the Trash of the desktop. Reads only; erases nothing. Any thread, one scan at
-/// a time for each scanner; nothing is kept between calls.
+/// Lists the contents of the current user's bins on all local fixed and removable drives: the Recycle Bin of
+/// Windows and, on other systems, also the Trash of the desktop. Reads only. Any thread, one scan at a time
+/// for each scanner; nothing is kept between calls.
 ///
-/// No scan fails: what cannot be read is listed with an empty name and path, a bin that is not looked into is
-/// told in `unscanned`, and diagnostics go to the debug output.
+/// A scan does not fail: an item that cannot be read has an empty name and path, a bin that is not entered is
+/// listed in `unscanned`, and diagnostics go to the debug output.
 class RecycleBinScanner : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Called before each drive is scanned, on the scanning thread: the drive ("C:"; elsewhere a mount point,
-    /// and the home folder for the Trash in it), its index from 0, and how many there are.
+    /// Called before each drive is scanned, on the scanning thread, with the drive ("C:"; on other systems a
+    /// mount point, or the home folder for the Trash in it), its index from 0, and the number of drives.
     using DriveCallback = std::function<void(const QString &drive, int index, int count)>;
 
     using QObject::QObject;
 
-    /// Empty when there is nothing, or when the user cannot be identified.
+    /// Empty when the bins are empty or the user cannot be identified.
     RecycleBinInfo scan(const DriveCallback &callback = {});
 
-    /// The Recycle Bins of Windows in folders that stand for roots of drives, such as a mounted volume of
-    /// another machine; whose it is goes by the SID, or everybody's when it is empty. Each root counts as a
-    /// drive under the name given.
+    /// Lists the Recycle Bins of Windows in folders that stand for roots of drives, such as a mounted volume
+    /// of another machine: the bins of that SID, or of every user when it is empty. Each root counts as a
+    /// drive with that name.
     RecycleBinInfo scanRoots(const QStringList &roots, const QString &sid = {},
                              const DriveCallback &callback = {});
 
-    /// Whether one of the roots has a bin of that SID, or may have one where that cannot be told.
+    /// Whether one of the roots has a bin of that SID; true as well when that cannot be determined.
     static bool hasBin(const QStringList &roots, const QString &sid);
 
-    /// `fileName`, `originalPath` and `size` from a "$I" file; all empty when it cannot be read or is too
-    /// small.
+    /// Reads `fileName`, `originalPath` and `size` from a "$I" file; all are empty when the file cannot be
+    /// read or is too small.
     static RecycleBinItem parseInfoFile(const QString &path);
 
-    /// The security identifier in its usual form, "S-1-5-21-..."; elsewhere than on Windows the numeric user
-    /// id. Empty when the system does not tell.
+    /// The security identifier in its usual form, "S-1-5-21-..."; on other systems than Windows the numeric
+    /// user id. Empty when the user cannot be identified.
     static QString currentUserSid();
 };

@@ -15,7 +15,7 @@ QString parseTrashInfo(const QByteArray &contents)
             continue;
         }
         const qsizetype equals = line.indexOf('=');
-        // Of several the first one counts.
+        // The first of several paths counts.
         if (isInGroup && equals >= 0 && line.first(equals).trimmed() == "Path")
             return platform::decodeName(QByteArray::fromPercentEncoding(line.sliced(equals + 1).trimmed()));
     }

@@ -18,7 +18,7 @@ using namespace Qt::StringLiterals;
 using platform::pathInFolder;
 
 namespace {
-// Three characters for each byte of the longest path, and more than enough for the rest.
+// Three characters for each byte of the longest path, and room for the other fields.
 constexpr qint64 LargestTrashInfo = 64 * KiB;
 
 constexpr auto InfoSuffix = ".trashinfo"_L1;
@@ -126,7 +126,7 @@ private:
     const QString m_files;
     const QString m_info;
     RecycleBinInfo &m_found;
-    QHash<QString, platform::FileKind> m_unrecorded; // entries that no record was found for yet
+    QHash<QString, platform::FileKind> m_unrecorded; // entries without a record so far
 };
 
 bool isSticky(const QString &folder)
@@ -139,7 +139,7 @@ bool isSticky(const QString &folder)
 std::optional<TrashFolder> homeTrashFolder(QList<UnscannedBin> &unscanned)
 {
     QString data = QFile::decodeName(qgetenv("XDG_DATA_HOME"));
-    // A relative one would mean another folder for every program.
+    // A relative path would mean another folder for every program.
     if (!data.startsWith(u'/'))
         data = QDir::homePath() + u"/.local/share"_s;
     TrashFolder trash{pathInFolder(data, u"Trash"_s), QDir::homePath(), {}};

@@ -18,7 +18,7 @@ using namespace Qt::StringLiterals;
 using platform::pathInFolder;
 
 namespace {
-// A line for each deleted folder; what lies behind that is dropped, and computed anew by the desktop.
+// A line for each deleted folder. Longer contents are cut; the desktop computes the missing sizes again.
 constexpr qint64 LargestRecord = 64 * MiB;
 
 platform::Files &files()
@@ -26,7 +26,7 @@ platform::Files &files()
     return platform::Platform::current().files();
 }
 
-// "<bytes> <time> <name>", the name with percent signs.
+// A line is "<bytes> <time> <name>", the name percent-encoded.
 QByteArray nameIn(const QByteArray &line)
 {
     const qsizetype time = line.indexOf(' ') + 1;
@@ -87,8 +87,8 @@ platform::Status overwrite(platform::FileHandle &file, qint64 size)
     return {};
 }
 
-// The old contents are opened before the new ones take the name: afterwards nothing leads to them. Under a
-// second name they are somebody else's.
+// The old file is opened before the new one replaces it, because no name leads to it afterwards. A file with
+// a second hard link is not overwritten: that name may belong to another user.
 platform::Status exchange(const QString &path, const QByteArray &contents, const platform::FileInfo &before)
 {
     const auto old = files().open(path, platform::OpenMode::Overwrite);
@@ -98,7 +98,7 @@ platform::Status exchange(const QString &path, const QByteArray &contents, const
     if (status)
         status = files().rename(next, path);
     if (!status) {
-        // What went wrong first is told, also when not even this works.
+        // The first failure is returned, even if this one fails too.
         static_cast<void>(files().remove(next));
         return status;
     }

@@ -6,11 +6,10 @@
 #include <QString>
 #include <QStringList>
 
-/// The Trash folders that items of the scan lie in, each once.
+/// The Trash folders of the items of the scan, each once.
 QStringList trashFoldersOf(const RecycleBinInfo &info);
 
-/// Takes out of the folder's "directorysizes", the desktop's record of how large deleted folders are, the
-/// names of those that are no longer there. The new contents take the place of the old in one step, and the
-/// old are overwritten, since they name what was erased. Success when there is no such file or nothing to
-/// take out.
+/// Removes deleted names from "directorysizes", in which the desktop records the sizes of deleted folders.
+/// The new contents replace the old ones atomically, and the old ones are overwritten, because they name
+/// erased folders. Success when the file does not exist or needs no change.
 platform::Status pruneDirectorySizes(const QString &trashFolder);
