@@ -17,7 +17,7 @@ void DiskTree::fitColumns()
         others += std::max(sizeHintForColumn(column), header()->sectionSizeHint(column));
     const int width = viewport()->width() - others;
     header()->resizeSection(0, std::max(SmallestName, width));
-    // Contents may turn out wider than they hinted at.
+    // The contents may be wider than their hints.
     const int surplus = header()->length() - viewport()->width();
     if (surplus > 0)
         header()->resizeSection(0, std::max(SmallestName, width - surplus));
@@ -26,6 +26,6 @@ void DiskTree::fitColumns()
 void DiskTree::updateGeometries()
 {
     QTreeWidget::updateGeometries();
-    // Ends by itself: a section that has its size already is not resized.
+    // This does not go on for ever, as a section that has its size already is not resized.
     fitColumns();
 }
