@@ -29,7 +29,7 @@ struct Language
     QStringView label;
 };
 
-// The names are those that speakers look for, in every language of the program.
+// Every language is listed by its own name, which its speakers look for.
 constexpr std::array<Language, 9> languages{{
     {"en"_L1, u"🇺🇸  English"},
     {"fr"_L1, u"🇫🇷  Français"},
@@ -45,7 +45,7 @@ constexpr std::array<Language, 9> languages{{
 void dress(QMenu &menu, const QString &name)
 {
     menu.setObjectName(name);
-    // Outside the rounded corners there is nothing.
+    // Nothing is drawn outside the rounded corners.
     menu.setWindowFlags(menu.windowFlags() | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint);
     menu.setAttribute(Qt::WA_TranslucentBackground);
 }
