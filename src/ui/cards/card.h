@@ -5,8 +5,8 @@
 
 QT_FORWARD_DECLARE_CLASS(QPainter)
 
-/// A card to choose from: draws its face, knows the mouse over it, and frames itself while the keyboard acts
-/// on it. Interface thread.
+/// A card to choose from. It draws its face, follows the mouse over it, and frames itself while the keyboard
+/// acts on it. Interface thread.
 class Card : public QWidget
 {
 public:
@@ -29,7 +29,8 @@ protected:
     /// Draws the rounded face, one pixel inside the card.
     void paintFace(QPainter &painter, const Face &face) const;
 
-    /// Draws the frame of the focus if the keyboard brought it: a click needs no hint where it went.
+    /// Draws the frame of the focus if the keyboard brought the focus. After a click the user knows where it
+    /// is.
     void paintFocusFrame(QPainter &painter, const QColor &colour) const;
 
     void enterEvent(QEnterEvent *event) override;

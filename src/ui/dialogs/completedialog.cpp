@@ -60,7 +60,7 @@ void CompleteDialog::addIcon(QBoxLayout *layout)
     icon->setFixedSize(IconSize);
     icon->setAlignment(Qt::AlignCenter);
     if (m_success) {
-        // Drawn at the resolution of the screen; an icon keeps the aspect ratio and draws smoothly.
+        // QIcon draws at the resolution of the screen, keeps the aspect ratio and smooths.
         icon->setPixmap(QIcon(u":/icons/icon_success.svg"_s).pixmap(IconSize, devicePixelRatio()));
     } else {
         icon->setText(u"❌"_s);
@@ -97,7 +97,7 @@ void CompleteDialog::addTexts(QBoxLayout *layout)
     layout->addWidget(message);
 }
 
-// However many kinds there are, the window keeps its size: the beginning is seen, the tip holds everything.
+// The dialog keeps its size, so a long text is cut. The tip has the whole text.
 void CompleteDialog::addWarning(const QString &name, const QString &text, const QString &tip)
 {
     auto *const label = new QLabel(text);

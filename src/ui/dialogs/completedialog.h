@@ -8,22 +8,22 @@
 
 QT_FORWARD_DECLARE_CLASS(QBoxLayout)
 
-/// Tells the end of a job and, where a certificate was made, offers to view it.
+/// Tells the user of the end of a job, and offers to view the certificate if there is one.
 class CompleteDialog : public QDialog
 {
     Q_OBJECT
 
 public:
-    /// An empty id means that there is no certificate. After a failure none is offered, whatever the id.
-    /// A job that succeeded and yet is not complete is told as such below the message.
+    /// An empty id means that there is no certificate. After a failure no certificate is offered. A warning
+    /// below the message tells of a job that succeeded only in part.
     CompleteDialog(bool success, const QString &certificateId, QWidget *parent = nullptr,
                    const OutcomeRecord &outcome = OutcomeRecord(JobOutcome::Complete));
 
-    /// Tells below the message which volumes a job that failed has left unmounted; nothing when there are
-    /// none. Names are cleaned for display here.
+    /// Names below the message the volumes that a failed job has left unmounted. Does nothing with an empty
+    /// list. The names are shown as displayText().
     void addLeftUnmounted(const QStringList &volumes);
 
-    /// Tells below the message why the report is not stored; nothing when the cause is empty.
+    /// Tells below the message why the report is not stored. Does nothing with an empty cause.
     void addNotStored(const QString &cause);
 
 signals:

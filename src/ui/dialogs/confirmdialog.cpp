@@ -39,8 +39,8 @@ buttons::Look look(const QString &name)
     return {.name = name, .width = 120, .height = 40};
 }
 
-// With its text seen whole. The field itself lays its document out for the width that it has before it is
-// shown.
+// The height at which the whole text is seen. The field itself lays out its document for the width that it
+// has before it is shown.
 int heightOf(const QTextEdit &field, int width)
 {
     QTextDocument document;
@@ -123,7 +123,7 @@ void ConfirmDialog::addTexts(QBoxLayout *layout)
     layout->addWidget(prompt);
 }
 
-// Lines break anywhere, as a path may be one long word.
+// Lines may break anywhere, as a path may be one long word.
 void ConfirmDialog::showTarget(const QStringList &lines)
 {
     auto *const target = new QTextEdit(this);
@@ -196,13 +196,12 @@ void ConfirmDialog::addButtons(QBoxLayout *layout)
 
     m_confirmButton = buttons::make(tr("Confirm"), look(u"dangerBtn"_s));
     m_confirmButton->setEnabled(false);
-    // Without a default of its own the dialog would take the first button, and Enter after the word would
-    // cancel.
+    // Without a default button the dialog takes the first one, and Enter after the word would cancel.
     m_confirmButton->setDefault(true);
     connect(m_confirmButton, &QPushButton::clicked, this, &ConfirmDialog::onConfirmClicked);
 
     auto *const row = new QHBoxLayout;
-    row->setSpacing(12); // else it would follow the gaps above
+    row->setSpacing(12); // by default it follows the gaps above
     row->addStretch();
     row->addWidget(m_cancelButton);
     row->addWidget(m_confirmButton);
@@ -210,8 +209,8 @@ void ConfirmDialog::addButtons(QBoxLayout *layout)
     layout->addLayout(row);
 }
 
-// Large fonts and long translations need more than the dialog's fixed height; then the gaps give way, not the
-// texts.
+// Large fonts and long translations need more than the fixed height of the dialog. The gaps shrink then, not
+// the texts.
 void ConfirmDialog::tightenSpacing()
 {
     const int excess = layout()->totalHeightForWidth(width()) - height();

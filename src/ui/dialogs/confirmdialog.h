@@ -9,8 +9,8 @@ QT_FORWARD_DECLARE_CLASS(QCheckBox)
 QT_FORWARD_DECLARE_CLASS(QLineEdit)
 QT_FORWARD_DECLARE_CLASS(QPushButton)
 
-/// Stands between the choice of a method and the start of a job: accepted only after the user has typed the
-/// word ERASE, in whatever case.
+/// Asks for a confirmation before a job starts. The dialog can be accepted only after the user has typed the
+/// word ERASE, in upper or lower case. Interface thread.
 class ConfirmDialog : public QDialog
 {
     Q_OBJECT
@@ -18,17 +18,17 @@ class ConfirmDialog : public QDialog
 public:
     explicit ConfirmDialog(QWidget *parent = nullptr);
 
-    /// What will be destroyed, line by line, plain text, under the message. The dialog grows by what it
-    /// takes, up to a limit; behind that it is scrolled.
+    /// Shows the targets of the job as lines of plain text under the message. The dialog grows with them up
+    /// to a limit, beyond which the lines are scrolled.
     void showTarget(const QStringList &lines);
 
-    /// One more line under the message, plain text; the dialog grows by what it takes.
+    /// Adds a text under the message, as plain text. The dialog grows with it.
     void addNotice(const QString &text);
 
-    /// A box to check, off at first, above the prompt: erase the whole disk and not its volumes alone, which
-    /// leaves so many bytes of it; below 0 nobody knows how many. The dialog grows by what it takes.
+    /// Adds a check box, off at first, for erasing the whole disk and not only its volumes. `bytesLeft` is
+    /// the part of the disk outside the volumes, below 0 when it is not known. The dialog grows with the box.
     void offerWholeDrive(qint64 bytesLeft);
-    /// Whether it was checked.
+    /// Returns whether the box was offered and is checked.
     bool wantsWholeDrive() const;
 
 private slots:
@@ -44,7 +44,7 @@ private:
     void tightenSpacing();
 
     const QString m_confirmText = QStringLiteral("ERASE");
-    QCheckBox *m_wholeDrive = nullptr; ///< when it is offered
+    QCheckBox *m_wholeDrive = nullptr; ///< null unless it is offered
     QLineEdit *m_input = nullptr;
     QPushButton *m_cancelButton = nullptr;
     QPushButton *m_confirmButton = nullptr;

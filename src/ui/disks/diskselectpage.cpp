@@ -74,7 +74,7 @@ void DiskSelectPage::createTree()
     m_tree->setRootIsDecorated(true);
     m_tree->setAnimated(true);
     m_tree->setMinimumHeight(350);
-    // onItemDoubleClicked() does it; both together would undo each other.
+    // onItemDoubleClicked() expands the row; both together would undo each other.
     m_tree->setExpandsOnDoubleClick(false);
 
     QHeaderView *header = m_tree->header();
@@ -217,7 +217,7 @@ void DiskSelectPage::showNotice(const QString &text, const QString &styleSheet)
 
 void DiskSelectPage::onItemExpanded(QTreeWidgetItem *item)
 {
-    // At the lower edge the partitions would unfold out of sight.
+    // The partitions of a disk at the lower edge would be out of sight.
     if (item && item->childCount() > 0)
         m_tree->scrollToItem(item->child(item->childCount() - 1));
     if (item)
@@ -233,7 +233,7 @@ void DiskSelectPage::onItemDoubleClicked(QTreeWidgetItem *item, int)
 void DiskSelectPage::showEvent(QShowEvent *event)
 {
     QWidget::showEvent(event);
-    // Coming back from an icon is no new visit.
+    // Restoring a minimised window is no new visit of the page.
     if (!event->spontaneous())
         refresh();
 }

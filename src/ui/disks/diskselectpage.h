@@ -10,8 +10,8 @@ QT_FORWARD_DECLARE_CLASS(QPushButton)
 QT_FORWARD_DECLARE_CLASS(QTreeWidgetItem)
 class DiskTree;
 
-/// Lets the user pick a disk or one of its partitions. The list is read anew whenever the page is shown,
-/// which drops the selection and lasts as long as the devices take to answer. Interface thread.
+/// Lets the user choose a disk or one of its partitions. Showing the page reads the list anew, which clears
+/// the selection and takes as long as the devices need to answer. Interface thread.
 class DiskSelectPage : public QWidget
 {
     Q_OBJECT
@@ -22,17 +22,17 @@ public:
 
     explicit DiskSelectPage(QWidget *parent = nullptr);
 
-    /// A Mode: what is refused differs, system disks and partitions only take a wipe of their free space.
-    /// Sets the texts; a selection is judged again by the next refresh.
+    /// Takes a Mode and sets the texts. System disks and partitions are refused in WipeDisk only. The next
+    /// refresh() judges a selection by the new mode.
     void setMode(int mode);
-    /// Reads the disks of the machine; nothing is selected afterwards.
+    /// Reads the disks of the machine and clears the selection.
     void refresh();
 
-    /// A SelectionType.
+    /// Returns a SelectionType.
     int selectionType() const { return m_selectionType; }
-    /// Of a selected partition, the disk it lies on; an empty record when nothing is selected.
+    /// Returns the selected disk, or the disk of the selected partition; an empty record without a selection.
     DiskInfo selectedDisk() const;
-    /// An empty record unless a partition is selected.
+    /// Returns an empty record unless a partition is selected.
     PartitionInfo selectedPartition() const;
 
 signals:
@@ -53,7 +53,7 @@ private:
     void clearSelection();
     void selectDisk(const QTreeWidgetItem &row);
     void selectPartition(const QTreeWidgetItem &row);
-    // What the mode says to a choice that is or is not one of the system's.
+    // Allows or refuses the choice, by the mode, and shows the notice for it.
     void judge(bool isSystem, const QString &refusal, const QString &reassurance);
     void showNotice(const QString &text, const QString &styleSheet);
 

@@ -18,7 +18,7 @@ void DiskTree::fitColumns()
     const int width = viewport()->width() - others;
     const int smallest = std::max(SmallestName, header()->sectionSizeHint(0));
     header()->resizeSection(0, std::max(smallest, width));
-    // Contents may turn out wider than they hinted at.
+    // The contents may be wider than their hints.
     const int surplus = header()->length() - viewport()->width();
     if (surplus > 0)
         header()->resizeSection(0, std::max(smallest, width - surplus));
@@ -27,6 +27,6 @@ void DiskTree::fitColumns()
 void DiskTree::updateGeometries()
 {
     QTreeWidget::updateGeometries();
-    // Ends by itself: a section that has its size already is not resized.
+    // This does not go on for ever, as a section that has its size already is not resized.
     fitColumns();
 }

@@ -2,8 +2,8 @@
 
 #include <QTreeWidget>
 
-/// A tree whose first column takes the room that the contents of the others leave, so that as much as
-/// possible of a drive's name can be read; the last one stretches over what rounding leaves.
+/// A tree whose first column takes the room that the other columns leave, so that as much as possible of a
+/// drive's name can be read. The last column takes the pixels that rounding leaves.
 class DiskTree : public QTreeWidget
 {
     Q_OBJECT
@@ -11,10 +11,10 @@ class DiskTree : public QTreeWidget
 public:
     using QTreeWidget::QTreeWidget;
 
-    /// To be called when rows have changed.
+    /// Fits the columns to the rows. To be called when rows have changed.
     void fitColumns();
 
 protected:
-    // Also when a scroll bar comes or goes.
+    // Called when a scroll bar appears or disappears.
     void updateGeometries() override;
 };

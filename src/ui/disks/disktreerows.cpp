@@ -26,7 +26,7 @@ void greyOut(QTreeWidgetItem &row)
         row.setForeground(column, palette::DisabledText);
 }
 
-// The first column takes what room is left, and the names of devices are longer than that.
+// The names of devices are longer than the first column, so the whole name is in the tip.
 void setName(QTreeWidgetItem &row, const QString &name)
 {
     row.setText(DiskTreeRows::NameColumn, name);

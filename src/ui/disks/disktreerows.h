@@ -6,7 +6,7 @@
 
 QT_FORWARD_DECLARE_CLASS(QTreeWidgetItem)
 
-/// The rows of a tree of disks. Names that a device or a file system chose are shown as displayText().
+/// The rows of the tree of disks. Names from devices and file systems are shown as displayText().
 class DiskTreeRows
 {
     Q_DECLARE_TR_FUNCTIONS(DiskSelectPage)
@@ -16,7 +16,7 @@ public:
 
     enum Column { NameColumn, SizeColumn, TypeColumn, InterfaceColumn, StatusColumn, ColumnCount };
     enum RowType { DiskRow = 0, PartitionRow = 1 };
-    /// What a row carries in its first column.
+    /// Data in the first column of a row.
     enum Role {
         TypeRole = Qt::UserRole, ///< a RowType
         DiskIndexRole,           ///< position of the disk, also of a partition's
@@ -25,7 +25,7 @@ public:
         IsSystemPartitionRole,   ///< partitions only
     };
 
-    /// The disk's row with one child for each of its partitions; the caller owns it.
+    /// Makes the disk's row with one child for each partition. The caller owns the row.
     static QTreeWidgetItem *create(const DiskInfo &disk, int diskIndex);
 
 private:

@@ -5,7 +5,7 @@
 #include <QCoreApplication>
 #include <QString>
 
-/// What is in the way of erasing a disk, in words. Names are shown as displayText().
+/// Words for the obstacles to erasing a disk. Names are shown as displayText().
 class ObstaclesText
 {
     Q_DECLARE_TR_FUNCTIONS(DiskSelectPage)
@@ -13,7 +13,7 @@ class ObstaclesText
 public:
     ObstaclesText() = delete;
 
-    /// Empty when nothing is.
+    /// Empty without obstacles.
     static QString of(const DiskObstacles &obstacles);
     static QString of(const SpanningVolume &volume);
 };

@@ -6,8 +6,8 @@ QT_FORWARD_DECLARE_CLASS(QLabel)
 QT_FORWARD_DECLARE_CLASS(QProgressBar)
 QT_FORWARD_DECLARE_CLASS(QPushButton)
 
-/// Where files are dropped while none is chosen: a button and a hint, or how far a search is. It takes drags;
-/// what becomes of them is for whoever filters its events. Interface thread.
+/// The area for dropping files while no file is chosen. It shows a button and a hint, or the progress of a
+/// search. It accepts drags; the owner handles them by an event filter. Interface thread.
 class DropZone : public QFrame
 {
     Q_OBJECT

@@ -54,7 +54,7 @@ bool FileDropFilter::handle(QDropEvent &event)
 
 void FileDropFilter::drop(QDropEvent &event)
 {
-    // Never a move: the source would then delete its files by itself, unshredded.
+    // After a move the source would delete its files itself, without overwriting them.
     event.setDropAction(Qt::CopyAction);
     event.accept();
     QStringList paths;

@@ -15,7 +15,7 @@ FileListWidget::FileListWidget(QWidget *parent)
 {
     setObjectName(u"fileList"_s);
     setSelectionMode(QAbstractItemView::ExtendedSelection);
-    // All rows are alike, and measuring each costs more than reading its file.
+    // All rows are of one height, and measuring each takes longer than reading its file.
     setUniformItemSizes(true);
     // The size stands at the end of a row.
     setTextElideMode(Qt::ElideMiddle);
@@ -36,7 +36,7 @@ void FileListWidget::append(const QList<FileEntry> &entries)
     setUpdatesEnabled(false);
     insertItems(firstRow, texts);
     {
-        // Neither a tip nor what is read aloud changes anything that is drawn.
+        // Tips and accessible texts are not drawn, so the view need not hear of them.
         const QSignalBlocker blocker(model());
         for (int i = 0; i < entries.size(); ++i) {
             QListWidgetItem *const row = item(firstRow + i);
@@ -60,7 +60,7 @@ QList<FileListWidget::Run> FileListWidget::selectedRuns() const
 void FileListWidget::remove(const QList<Run> &runs)
 {
     setUpdatesEnabled(false);
-    // A selection is adjusted at every removal, which takes long when it has many parts.
+    // Every removal adjusts the selection, which takes long when the selection has many parts.
     clearSelection();
     for (const Run &run : runs)
         model()->removeRows(run.first, run.count);

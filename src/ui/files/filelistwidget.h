@@ -5,8 +5,8 @@
 #include <QList>
 #include <QListWidget>
 
-/// A list of what is to be shredded, made for many thousands of rows. Takes no rows from drags of other
-/// programs: a row stands for a file that was added.
+/// The list of the files to shred, fast with many thousands of rows. It takes no rows from drags itself, as
+/// every row stands for a file that was added. Interface thread.
 class FileListWidget : public QListWidget
 {
     Q_OBJECT
@@ -14,10 +14,10 @@ class FileListWidget : public QListWidget
 public:
     explicit FileListWidget(QWidget *parent = nullptr);
 
-    /// Appends one row each, drawn once for all of them.
+    /// Appends one row for each entry. All rows are drawn at once.
     void append(const QList<FileEntry> &entries);
 
-    /// Rows that are selected, as first row and count, from the last to the first.
+    /// A run of selected rows. selectedRuns() begins with the last run.
     struct Run
     {
         int first = 0;

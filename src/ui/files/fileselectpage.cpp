@@ -23,7 +23,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// A folder of a million files takes seconds.
+// Summing up a folder of a million files takes seconds.
 class WaitCursor
 {
 public:
@@ -255,7 +255,7 @@ void FileSelectPage::onSelectionChanged()
 void FileSelectPage::onRemoveSelectedClicked()
 {
     QList<FileListWidget::Run> runs = m_list->selectedRuns();
-    // Rows that the window added have no entry, and stay.
+    // Rows that the main window added have no entry; they stay.
     erase_if(runs, [this](const FileListWidget::Run &run) { return run.first >= m_entries.size(); });
     for (FileListWidget::Run &run : runs) {
         run.count = std::min(run.count, static_cast<int>(m_entries.size()) - run.first);
@@ -267,7 +267,7 @@ void FileSelectPage::onRemoveSelectedClicked()
     updateStats();
 }
 
-// The content of a list that is only shown is erased, also without its row in the list.
+// In other modes an item without a row would be erased all the same.
 void FileSelectPage::onDeletePressed()
 {
     if (m_mode == Mode::Choosing && m_remove->isEnabled())

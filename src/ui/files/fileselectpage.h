@@ -15,9 +15,9 @@ class DropZone;
 class FileDropFilter;
 class FileListWidget;
 
-/// Collects the files and folders to shred. The sizes of folders are summed up while the user waits. The
-/// main window also shows the content of the Recycle Bin here: it then fills list() itself, and files() does
-/// not contain those rows. Interface thread.
+/// Collects the files and folders to shred. The user waits while the sizes of folders are summed up. The main
+/// window also shows the content of the Recycle Bin here: it then fills list() itself, and files() does not
+/// contain those rows. Interface thread.
 class FileSelectPage : public QWidget
 {
     Q_OBJECT
@@ -42,10 +42,10 @@ public:
 
     /// The paths as given, in the order of the list.
     QStringList files() const;
-    /// Also removes rows that the window put there.
+    /// Also removes the rows that the main window added.
     void clearFiles();
 
-    /// An empty subtitle leaves the one that is shown.
+    /// An empty subtitle does not replace the one that is shown.
     void setHeader(const QString &title, const QString &subtitle);
     void setToolRowVisible(bool visible);
 
@@ -54,11 +54,11 @@ public:
     void updateLoadingProgress(int current, int total, const QString &text);
     void hideLoading();
 
-    /// Files that were dropped on the window past the widgets. What is not there is told beside the list: a
-    /// drop of this kind may name drives that only its source knows. Nothing while drops are not taken.
+    /// Adds files that were dropped on the window as a whole. Missing files are counted beside the list, as
+    /// such a drop may name drives that only its source knows. Does nothing outside Mode::Choosing.
     void addDropped(const QStringList &paths);
 
-    /// For the content of the Recycle Bin.
+    /// The parts that the main window fills with the content of the Recycle Bin.
     QListWidget *list() const;
     QLabel *statsLabel() const { return m_stats; }
     QStackedWidget *stack() const { return m_stack; }
@@ -80,11 +80,11 @@ private:
     void onDeletePressed();
     void createToolRow();
     void createLayout();
-    /// Returns how many are not there.
+    /// Returns the number of paths that do not exist.
     int addPaths(const QStringList &paths);
 
     QList<FileEntry> m_entries;
-    QSet<QString> m_paths; // of m_entries
+    QSet<QString> m_paths; ///< of m_entries
     Mode m_mode = Mode::Choosing;
 
     QLabel *m_title;

@@ -31,7 +31,7 @@ bool exportWithRenderer(const WipeReport &report, const std::optional<OutcomeRec
     return CertificateRenderer().exportToPdf(report, file, outcome);
 }
 
-// Its list is as wide as its words, which some styles cut to the width of the box.
+// Makes the list as wide as its words, as some styles cut it to the width of the box.
 class FilterBox : public QComboBox
 {
 public:
@@ -92,7 +92,7 @@ QWidget *HistoryPage::createFilterBar()
     return bar;
 }
 
-// Without a selection, when the button is disabled, nothing happens.
+// A disabled button ignores the key, so nothing happens without a selection.
 void HistoryPage::connectKey(const QKeySequence &key, const QPushButton &button)
 {
     connect(new QShortcut(key, m_table, nullptr, nullptr, Qt::WidgetShortcut), &QShortcut::activated, &button,
@@ -104,7 +104,7 @@ void HistoryPage::connectTable()
     connect(m_table, &QTableWidget::itemSelectionChanged, this, &HistoryPage::onSelectionChanged);
     connect(m_table, &HistoryTable::viewWanted, this, &HistoryPage::viewCertificate);
     connect(m_table, &QTableWidget::cellDoubleClicked, this, &HistoryPage::onViewClicked);
-    // Not when a row is "activated", which on some desktops a single click does.
+    // The signal itemActivated() is not used, as a single click emits it on some desktops.
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter})
         connectKey(key, *m_view);
     connectKey(QKeySequence::Delete, *m_delete);
@@ -134,7 +134,7 @@ void HistoryPage::loadHistory()
     const auto stored = ReportDatabase::instance().storedReports(LoadedReports, 0);
     for (const auto &[certificateId, json] : stored.value_or(QList<ReportDatabase::StoredReport>())) {
         WipeReport report = WipeReport::fromJson(json);
-        // What is damaged has another id, or none, by which it could not be deleted.
+        // A damaged report has another id or none, and could not be deleted by it.
         report.certificateId = certificateId;
         m_reports.append(report);
     }
@@ -221,7 +221,7 @@ void HistoryPage::onClearAllClicked()
     if (!Prompts::current().confirms(this, QMessageBox::Warning, tr("确认清除"),
                                      tr("确定要清除所有擦除记录吗？\n\n此操作不可恢复！"), QMessageBox::No))
         return;
-    // Those that the page knows; older ones stay in the file.
+    // Older reports, which the page has not loaded, stay in the database.
     for (const WipeReport &report : std::as_const(m_reports))
         ReportDatabase::instance().deleteReport(report.certificateId);
     loadHistory();

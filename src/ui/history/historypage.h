@@ -23,17 +23,17 @@ class HistoryPage : public QWidget
     Q_OBJECT
 
 public:
-    /// Writes the report's certificate, with the outcome of the job if it is known, into the file; false when
-    /// it could not.
+    /// Writes the certificate of the report into the file, with the outcome of the job if it is known.
+    /// Returns false when the file could not be written.
     using Exporter = std::function<bool(const WipeReport &report, const std::optional<OutcomeRecord> &outcome,
                                         const QString &file)>;
 
     explicit HistoryPage(QWidget *parent = nullptr);
 
-    /// Reads the stored reports and shows them all, whatever the filter says.
+    /// Reads the stored reports and shows all of them, without the filter.
     void loadHistory();
 
-    /// CertificateRenderer unless another one is set.
+    /// Replaces the export by CertificateRenderer.
     void setExporter(Exporter exporter) { m_exporter = std::move(exporter); }
 
 signals:
@@ -46,7 +46,7 @@ public slots:
     void onDeleteClicked();
     void onClearAllClicked();
     void onSelectionChanged();
-    /// Applies the filter again and stays on the current report as long as it is listed.
+    /// Applies the filter again. The current report stays current if it is still listed.
     void onSearch();
 
 private:
@@ -58,7 +58,7 @@ private:
 
     Exporter m_exporter;
     QList<WipeReport> m_reports;
-    QHash<QString, OutcomeRecord> m_outcomes; // by certificate id, those that are known
+    QHash<QString, OutcomeRecord> m_outcomes; ///< known ones by certificate id
     QComboBox *m_filter;
     HistoryTable *m_table;
     QPushButton *m_view;

@@ -31,7 +31,7 @@ QColor statusColor(WipeStatus status)
     }
 }
 
-// Columns have a fixed width and translations are long: the whole text is in the tip.
+// Translations are longer than the columns are wide, so the whole text is in the tip.
 QTableWidgetItem *createItem(const QString &text)
 {
     auto *item = new QTableWidgetItem(text);
@@ -39,8 +39,8 @@ QTableWidgetItem *createItem(const QString &text)
     return item;
 }
 
-// Whether the stored status does not tell how the job went: it calls a partial job completed, and one that
-// was stopped in time for its worker to say so failed.
+// The stored status calls a partial job completed. It calls a stopped job failed if the worker reported the
+// stop itself.
 bool isMoreThanTheStatusTells(const WipeReport &report, const OutcomeRecord &outcome)
 {
     return outcome.outcome() == JobOutcome::Partial ||
@@ -63,7 +63,7 @@ HistoryTable::HistoryTable(QWidget *parent)
     setAlternatingRowColors(true);
     setShowGrid(false);
     setWordWrap(false);
-    // Tab leads on to the buttons instead of through every cell.
+    // Tab leads to the buttons instead of through every cell.
     setTabKeyNavigation(false);
     verticalHeader()->hide();
     verticalHeader()->setDefaultSectionSize(RowHeight);
@@ -114,14 +114,14 @@ void HistoryTable::addRow(const WipeReport &report, const std::optional<OutcomeR
 
     QPushButton *view =
         buttons::make(HistoryPage::tr("查看"), {.name = u"tableViewBtn"_s, .hasHandCursor = true});
-    // The keyboard has the button below the table: a hundred stops more would make Tab useless.
+    // The keyboard uses the button below the table. Tab would have to pass a hundred more buttons here.
     view->setFocusPolicy(Qt::NoFocus);
     view->setAccessibleDescription(report.certificateId);
     connect(view, &QPushButton::clicked, this, [this, id = report.certificateId] { emit viewWanted(id); });
     setCellWidget(row, ActionColumn, view);
 }
 
-// The icon stands beside the target, as the column of the status has room for its word only.
+// The icon is beside the target, because the status column has room for one word only.
 void HistoryTable::showOutcome(const OutcomeRecord &outcome, QTableWidgetItem &item) const
 {
     item.setIcon(style()->standardIcon(QStyle::SP_MessageBoxWarning));
@@ -141,7 +141,7 @@ QString HistoryTable::targetText(const WipeReport &report)
     case FileWipe:
         return HistoryPage::tr("[文件] ") + HistoryPage::tr("%1 个文件").arg(report.fileCount);
     }
-    // A number of another version, or a damaged one.
+    // Another version of the program may have stored other numbers.
     return report.disk.displayName();
 }
 

@@ -9,7 +9,7 @@
 
 #include <optional>
 
-/// Stored reports as rows to choose one from. Interface thread.
+/// Shows stored reports as rows, one of which can be chosen. Interface thread.
 class HistoryTable : public QTableWidget
 {
     Q_OBJECT
@@ -17,12 +17,12 @@ class HistoryTable : public QTableWidget
 public:
     explicit HistoryTable(QWidget *parent = nullptr);
 
-    /// Takes the place of all rows. The outcomes, by certificate id, are those that are known.
+    /// Replaces all rows. `outcomes` has the known outcomes by certificate id.
     void fill(const QList<WipeReport> &reports, const QHash<QString, OutcomeRecord> &outcomes);
 
-    /// Of the report in the current row, if there is one.
+    /// Returns the id of the report in the current row, if there is one.
     std::optional<QString> currentCertificateId() const;
-    /// Changes nothing when no row has the report.
+    /// Makes the row of the report the current one, if there is such a row.
     void makeCurrent(const QString &certificateId);
 
 signals:

@@ -8,6 +8,6 @@
 
 QT_FORWARD_DECLARE_CLASS(QWidget)
 
-/// The report of that id for a certificate. Where it is not stored any more, or damaged, the user is told,
-/// and there is none: the database gives a new one for it, whose certificate would be false.
+/// Returns the stored report with that id for a certificate. Empty, after a message to the user, when the
+/// report is missing or damaged: the database returns a new report then, whose certificate would be false.
 std::optional<WipeReport> storedReport(const QString &certificateId, QWidget *parent);

@@ -5,7 +5,7 @@
 #include <QAbstractTableModel>
 #include <QList>
 
-/// Reports as a table, one row each, in the order given. Interface thread.
+/// A table of reports with one row for each, in the given order. Interface thread.
 class WipeHistoryModel : public QAbstractTableModel
 {
     Q_OBJECT

@@ -20,7 +20,7 @@ AccessibleCard::AccessibleCard(FeatureCard *card)
 
 void AccessibleCard::install()
 {
-    // A factory that is installed already is not added again.
+    // Qt does not add a factory twice.
     QAccessible::installFactory(makeAccessibleCard);
 }
 

@@ -29,7 +29,7 @@ QColor translucent(QColor colour, int alpha)
     return colour;
 }
 
-// On white, so that nothing shines through.
+// Mixed with white instead of transparent, so that the emblem does not shine through.
 QColor tint(const QColor &colour, double share)
 {
     const auto mixed = [share](int channel) { return qRound(255 - (255 - channel) * share); };
@@ -154,7 +154,7 @@ void FeatureCard::mousePressEvent(QMouseEvent *event)
 
 void FeatureCard::mouseReleaseEvent(QMouseEvent *event)
 {
-    // A press that is drawn away from the card is taken back.
+    // Releasing the button outside the card takes the press back.
     if (event->button() == Qt::LeftButton && std::exchange(m_pressed, false) &&
         rect().contains(event->position().toPoint()))
         click();
@@ -170,7 +170,7 @@ void FeatureCard::keyPressEvent(QKeyEvent *event)
         click();
 }
 
-// Fills the lower part of a tall card, where there are no texts.
+// The lower part of a tall card has no texts.
 void FeatureCard::paintEmblem(QPainter &painter) const
 {
     const QRect place(width() - EmblemSize - 18, height() - EmblemSize - 18, EmblemSize, EmblemSize);

@@ -8,8 +8,8 @@ QT_FORWARD_DECLARE_CLASS(QBoxLayout)
 QT_FORWARD_DECLARE_CLASS(QFrame)
 QT_FORWARD_DECLARE_CLASS(QLabel)
 
-/// One kind of wipe on the home page: icon, title, description. Clicked with the left mouse button, or with
-/// Space or Enter when it has the focus.
+/// One kind of wipe on the home page: icon, title, description. The left mouse button clicks the card; so do
+/// Space and Enter while the card has the focus.
 class FeatureCard : public Card
 {
     Q_OBJECT
@@ -19,11 +19,11 @@ public:
     FeatureCard(const QString &iconPath, const QString &title, const QString &description, int index,
                 QWidget *parent = nullptr);
 
-    /// Compact: icon beside the texts. Otherwise, as at first, above them.
+    /// A compact card has its icon beside the texts, a tall one above them. Tall at first.
     void setCompact(bool compact);
     bool isCompact() const { return m_compact; }
 
-    /// As if the card had been clicked.
+    /// Emits clicked(), for assistive technology.
     void click();
 
 signals:

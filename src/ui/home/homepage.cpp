@@ -28,7 +28,7 @@ HomePage::HomePage(QWidget *parent)
     content->addLayout(makeStandards());
     content->addStretch();
 
-    // In a wide window everything stays together in the middle, headline and cards on one left edge.
+    // In a wide window headline and cards stay together in the middle, on one left edge.
     auto *const layout = new QHBoxLayout(this);
     layout->setContentsMargins(30, 30, 30, 30);
     layout->addStretch();

@@ -5,7 +5,8 @@
 QT_FORWARD_DECLARE_CLASS(QBoxLayout)
 class FeatureCard;
 
-/// Where every flow starts: one card for each kind of wipe, and the erasure standards by name.
+/// The page where every flow starts. It shows one card for each kind of wipe, and the erasure standards by
+/// name.
 class HomePage : public QWidget
 {
     Q_OBJECT

@@ -11,7 +11,7 @@
 
 namespace {
 
-// What is part of a caption gets no press of its own.
+// The system sends no press for a caption, so a widget that takes presses must not be part of it.
 bool takesPress(const QWidget *widget, const QWidget &window)
 {
     for (; widget && widget != &window; widget = widget->parentWidget()) {

@@ -12,7 +12,7 @@ QT_FORWARD_DECLARE_CLASS(QWidget)
 class FrameOwner : public platform::WindowFrame::Owner
 {
 public:
-    /// Both outlive this.
+    /// Window and button outlive this.
     FrameOwner(QWidget &window, QAbstractButton &maximizeButton)
         : m_window(window)
         , m_maximizeButton(maximizeButton)

@@ -6,7 +6,7 @@
 #include <QSize>
 #include <Qt>
 
-/// The frame of a window that draws its own: the margin of its shadow is where its edges are gripped.
+/// The frame of a window that draws it itself. The margin of the shadow takes the place of the edges.
 namespace frameparts {
 
 constexpr int ShadowMargin = 10; ///< pixels
@@ -14,9 +14,9 @@ constexpr int DragHeight = 80;   ///< pixels from the top
 
 Qt::Edges edgesAt(const QPoint &position, const QSize &window);
 
-/// What lies under a place of the window.
+/// Kinds of widgets under a place of the window.
 enum class Under {
-    Nothing, ///< that takes a press
+    Nothing, ///< no widget that takes a press
     Control,
     MaximizeButton,
 };

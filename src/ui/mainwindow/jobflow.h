@@ -65,5 +65,5 @@ private:
     void leave(bool success);
 
     Parts m_parts;
-    bool m_asksAboutJob = false; ///< a box is open that only makes sense while the job runs
+    bool m_asksAboutJob = false; ///< a question about the running job is open
 };

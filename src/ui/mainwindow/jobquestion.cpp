@@ -50,7 +50,7 @@ bool JobQuestion::isPossible()
     return false;
 }
 
-// A job on one partition goes over all volumes of its disk; empty when that says nothing new.
+// A job on one partition erases all volumes of its disk. Empty when the disk has only that one.
 QString JobQuestion::erasedVolumesText() const
 {
     const QList<PartitionInfo> partitions = m_task.disk().partitions;
@@ -63,8 +63,8 @@ QString JobQuestion::erasedVolumesText() const
         .arg(displayText(m_task.partition().driveLetter), names.join(QStringLiteral(", ")));
 }
 
-// A walk through all the folders takes its time. What asks of every file where its content lies takes more,
-// and is left to the job.
+// Walking through all folders takes time. Finding the place of every file on the disk takes more time and is
+// left to the job.
 FileSurvey JobQuestion::lookAtFiles()
 {
     if (m_task.operationType() != FileWipe)
@@ -97,7 +97,7 @@ QStringList JobQuestion::targetLines(const FileSurvey &survey, const QStringList
 
 bool JobQuestion::isConfirmed(const QStringList &binLines)
 {
-    // What an earlier confirmation has left.
+    // An earlier confirmation may have set it.
     m_task.setWholeDrive(false);
     const FileSurvey survey = lookAtFiles();
     QString problem = survey.roomProblem();
@@ -135,7 +135,7 @@ bool JobQuestion::isConfirmed(const QStringList &binLines)
     return true;
 }
 
-// The system writes out what it holds back for a volume, which takes its time.
+// The system flushes its caches of the volume, which takes time.
 bool JobQuestion::isReady(bool storesReport)
 {
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);

@@ -9,24 +9,25 @@ class FileSurvey;
 class JobController;
 class WipeTask;
 
-/// What stands between the choice and the start of a job: what is in its way is told, what it destroys is
-/// confirmed. Whoever gets an answer that forbids the start need not tell the user. Interface thread.
+/// Checks a task and asks the user before its job starts. Each question tells the user the reason itself when
+/// it forbids the start. Interface thread.
 class JobQuestion
 {
     Q_DECLARE_TR_FUNCTIONS(MainWindow)
 
 public:
-    /// Of the controller's task; both outlive this.
+    /// Asks about the controller's task. Controller, task and window outlive this.
     JobQuestion(JobController &job, QWidget &window);
 
-    /// Tells the reason of a refusal; false without one.
+    /// Shows the reason of a refusal. Returns false without a reason.
     bool isRefused(const QString &reason);
 
-    /// Nothing forbids to erase the drive.
+    /// Returns whether the drive can be erased.
     bool isPossible();
-    /// The user wants it. binLines: what lies in the Recycle Bin when that is erased.
+    /// Returns whether the user confirms the job. `binLines` describes the content of the Recycle Bin if the
+    /// job erases it.
     bool isConfirmed(const QStringList &binLines);
-    /// The job has all that it needs. storesReport: a certificate id of its own too.
+    /// Prepares the job, with a certificate id if `storesReport`. Returns whether the job can start.
     bool isReady(bool storesReport);
 
 private:

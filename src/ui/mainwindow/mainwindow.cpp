@@ -61,7 +61,7 @@ MainWindow::MainWindow(QWidget *parent)
     : QMainWindow(parent)
     , m_job(new JobController(this))
 {
-    // With the system menu, which is how a window without a frame is moved by keyboard.
+    // A window without a frame is moved by keyboard through the system menu.
     setWindowFlags(Qt::Window | Qt::FramelessWindowHint | Qt::WindowSystemMenuHint |
                    Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint);
     setAttribute(Qt::WA_TranslucentBackground);
@@ -73,7 +73,7 @@ MainWindow::MainWindow(QWidget *parent)
     // The database is opened later, for the first report to store, while another program holds it.
     if (!ReportDatabase::instance().initialize({}, 250ms))
         qWarning() << "[MainWindow] Report database:" << ReportDatabase::instance().lastError();
-    // First, or every widget would be given its looks twice.
+    // Set first, or every widget would be polished twice.
     setStyleSheet(windowSheet());
     m_shell = std::make_unique<WindowShell>(*this);
     m_menu = m_shell->sidebar().menu();
@@ -188,7 +188,7 @@ void MainWindow::showPage(int index)
 {
     m_currentPage = index;
     m_pages->setCurrentIndex(index);
-    // Choosing a row shows the first page behind it, which is not always the one meant.
+    // A change of the row would show the first page of that row instead.
     const QSignalBlocker blocker(m_menu);
     m_menu->setCurrentRow(menuRowOf(index));
 }
@@ -239,7 +239,7 @@ void MainWindow::onFreeSpaceWipeClicked()
     showDisks(DiskSelectPage::WipeFreeSpace);
 }
 
-// A drive that is asleep takes seconds to answer.
+// A sleeping drive takes seconds to answer.
 void MainWindow::showDisks(int mode)
 {
     const WaitNotice notice(*m_pages, tr("Reading drives..."));
@@ -265,7 +265,7 @@ void MainWindow::onRecycleBinWipeClicked()
 void MainWindow::onRecycleBinScanFinished()
 {
     m_filePage->hideLoading();
-    // The user left meanwhile.
+    // The user has left the page during the scan.
     if (m_currentPage != FileSelect || !m_bin->isActive())
         return;
     const RecycleBinInfo found = m_bin->result();
@@ -323,7 +323,7 @@ void MainWindow::backFromMethods()
         showPage(FileSelect);
         return;
     }
-    // The page reads the drives again whenever it is shown.
+    // Showing the page reads the drives again.
     const WaitNotice notice(*m_pages, tr("Reading drives..."));
     showPage(DiskSelect);
 }

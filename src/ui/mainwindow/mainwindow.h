@@ -98,7 +98,7 @@ private:
     void offerFreeSpaceWipeOfEmptyBin(const RecycleBinInfo &found);
 
     std::unique_ptr<WindowShell> m_shell;
-    QListWidget *m_menu = nullptr; ///< the shell's, as stack and title bar
+    QListWidget *m_menu = nullptr; ///< owned by the shell, as are stack and title bar
     QStackedWidget *m_pages = nullptr;
     TitleBar *m_titleBar = nullptr;
     HomePage *m_homePage = nullptr;

@@ -2,17 +2,17 @@
 
 struct JobEnd;
 
-/// What the desktop program keeps of a job, as the settings want it, and its line in the log. Interface
+/// Keeps the records of a job as the settings say: report, certificate file, line in the log. Interface
 /// thread.
 namespace recordkeeping {
 
 bool isWanted();
 
-/// Puts the report into the database, and notes in the end what became of it. Only the log hears of an end
-/// whose report is not wanted.
+/// Stores the report in the database and sets hasRecord, isStored and notStoredBecause. Without a wanted
+/// report only the log gets a line.
 void store(JobEnd &end);
 
-/// Exports the certificate of a job that succeeded into the folder that the user has chosen for that.
+/// Exports the certificate of a successful job into the folder from the settings.
 void exportCertificate(const JobEnd &end);
 
 } // namespace recordkeeping

@@ -28,7 +28,7 @@ namespace {
 
 constexpr int PageSize = 20;
 
-// The window's own texts.
+// The texts belong to the main window.
 struct Window
 {
     Q_DECLARE_TR_FUNCTIONS(MainWindow)
@@ -68,7 +68,7 @@ void RecycleBinFlow::begin()
 void RecycleBinFlow::scan()
 {
     const auto forward = [flow = QPointer<RecycleBinFlow>(this)](const QString &drive, int index, int count) {
-        // The application outlives the scan; whether the window still does is asked on its own thread.
+        // The application outlives the scan. The interface thread checks whether the window still exists.
         QMetaObject::invokeMethod(
             qApp,
             [flow, drive, index, count] {
@@ -102,13 +102,13 @@ void RecycleBinFlow::show(const RecycleBinInfo &found)
     disconnect(bar, &QScrollBar::valueChanged, this, &RecycleBinFlow::onScrolled);
     connect(bar, &QScrollBar::valueChanged, this, &RecycleBinFlow::onScrolled);
     disconnect(bar, &QScrollBar::rangeChanged, this, &RecycleBinFlow::fillList);
-    // Later: the list is in the middle of laying out its rows.
+    // Queued, because the list is laying out its rows when the signal comes.
     connect(bar, &QScrollBar::rangeChanged, this, &RecycleBinFlow::fillList, Qt::QueuedConnection);
     showMore();
     QMetaObject::invokeMethod(this, &RecycleBinFlow::fillList, Qt::QueuedConnection);
 }
 
-// Rows that all fit leave nothing to scroll, and the others would never come.
+// Without a scroll bar there is no scrolling, and the other items would never be shown.
 void RecycleBinFlow::fillList()
 {
     QListWidget *const list = m_page.list();
@@ -144,7 +144,7 @@ void RecycleBinFlow::onScrolled()
         showMore();
 }
 
-// A scan that still runs finds nobody waiting.
+// The result of a scan that still runs is ignored.
 void RecycleBinFlow::leave()
 {
     if (!m_isActive)

@@ -8,8 +8,9 @@
 
 class FileSelectPage;
 
-/// The Recycle Bin on the file page: scanned in the background, shown in pieces. As long as it is active the
-/// page cannot be edited; leave() gives it back to the file flow. Interface thread.
+/// Shows the Recycle Bin on the file page: scans it in the background and adds its items in pieces. The user
+/// cannot edit the page while the flow is active. leave() gives the page back to the file flow. Interface
+/// thread.
 class RecycleBinFlow : public QObject
 {
     Q_OBJECT
@@ -18,26 +19,26 @@ public:
     /// The page outlives this.
     explicit RecycleBinFlow(FileSelectPage &page, QObject *parent = nullptr);
 
-    /// Makes the page tell of a scan, which scan() then begins.
+    /// begin() shows the progress of a scan on the page, scan() starts the scan.
     void begin();
     void scan();
     bool isActive() const { return m_isActive; }
-    /// What the scan that ended last has found; shown by nobody yet.
+    /// Returns the result of the last scan that ended. show() shows it.
     RecycleBinInfo result() const { return m_scan.result(); }
 
     void show(const RecycleBinInfo &found);
     void showMore();
-    /// Shows more when the list is near its end.
+    /// Shows more items when the list is scrolled near its end.
     void onScrolled();
     void leave();
 
-    /// A line each for whose bin it is, unless it is that of the desktop, for what is erased without being an
-    /// item, and for the bins that stay as they are.
+    /// Returns lines beside the items: the account of the bin unless it is the desktop's, the number of files
+    /// that are erased without a record, and the bins that are not erased.
     static QStringList besideItems(const RecycleBinInfo &found);
-    /// What is shown, for a question: amount, what is erased besides, the first items.
+    /// Returns the lines for the confirmation: the amount, besideItems() and the first items.
     QStringList lines() const;
 
-    /// The bins' own records of what they hold name what was erased.
+    /// Updates the bins' own records, which still name the erased items.
     void updateRecords() const;
 
 signals:
@@ -49,6 +50,6 @@ private:
     FileSelectPage &m_page;
     QFutureWatcher<RecycleBinInfo> m_scan;
     bool m_isActive = false;
-    RecycleBinInfo m_found; ///< what is shown
+    RecycleBinInfo m_found; ///< shown items
     int m_loadedCount = 0;  ///< items that are shown already
 };

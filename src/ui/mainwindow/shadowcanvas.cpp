@@ -12,13 +12,13 @@ ShadowCanvas::ShadowCanvas(const Look &look, const QWidget *box)
     , m_box(box)
 {}
 
-// How far beyond the box there may be shadow.
+// The largest distance of shadow from the box.
 int ShadowCanvas::reach() const
 {
     return m_look.blurRadius + m_look.offset;
 }
 
-// In pixels of the screen, since the effect knows no others.
+// In pixels of the screen, as the effect does not scale.
 QPixmap ShadowCanvas::painted(qreal ratio) const
 {
     const qreal side = ratio * (2 * (m_look.cornerRadius + m_look.blurRadius) + 1);
@@ -38,7 +38,7 @@ QPixmap ShadowCanvas::painted(qreal ratio) const
     QPainter painter(&pixmap);
     painter.setRenderHint(QPainter::Antialiasing);
     scene.render(&painter, pixmap.rect(), pixmap.rect());
-    // The box is the widget's own to paint.
+    // The box paints its own area.
     painter.setCompositionMode(QPainter::CompositionMode_DestinationOut);
     painter.fillPath(box, Qt::black);
     return pixmap;

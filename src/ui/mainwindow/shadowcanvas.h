@@ -4,14 +4,14 @@
 #include <QPixmap>
 #include <QWidget>
 
-/// Stands behind a rounded box of the same layout and paints its shadow. An effect on the box itself would
-/// blur all that is in it again for every letter that changes.
+/// Paints the shadow of a rounded box, behind the box. A graphics effect on the box would blur the whole
+/// window again for every letter that changes. Interface thread.
 class ShadowCanvas : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// Corner and what the shadow is like: pixels, independent of the screen's scale.
+    /// Corner of the box and form of the shadow, in pixels that do not depend on the scale of the screen.
     struct Look
     {
         int cornerRadius = 0;
@@ -20,7 +20,7 @@ public:
         QColor colour;
     };
 
-    /// `box` is a child of this, or becomes one; it outlives every painting.
+    /// `box` is a child of this or becomes one before the first painting.
     ShadowCanvas(const Look &look, const QWidget *box);
 
 protected:

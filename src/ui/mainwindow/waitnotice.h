@@ -4,8 +4,8 @@ class QLabel;
 class QString;
 class QWidget;
 
-/// Words over a widget, with the cursor that goes with them, for as long as this lives. They are on the
-/// screen when the constructor returns: what follows keeps the interface thread busy.
+/// Covers a widget with a text and shows the wait cursor for as long as it lives. The text is on the screen
+/// when the constructor returns, before a long call keeps the interface thread busy. Interface thread.
 class WaitNotice
 {
 public:

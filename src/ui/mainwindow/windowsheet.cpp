@@ -6,7 +6,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// On top of the application's sheet, so that the sidebar has its looks whatever that says.
+// These come after the application's sheet, so that the sidebar has its looks also without the sheet.
 const QString sidebarRules =
     u"#sidebar { background-color: #1e293b; border-bottom-left-radius: 12px; }"
     "#logoWidget { background: transparent; border-bottom: 1px solid #334155; }"

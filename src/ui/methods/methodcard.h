@@ -7,8 +7,8 @@ QT_FORWARD_DECLARE_CLASS(QLabel)
 QT_FORWARD_DECLARE_CLASS(QLayout)
 QT_FORWARD_DECLARE_CLASS(QRadioButton)
 
-/// One erasure standard to choose. A press anywhere on the card checks its radio button; the keyboard reaches
-/// the radio button itself.
+/// One erasure standard to choose. A press anywhere on the card checks its radio button. The keyboard reaches
+/// the radio button, not the card.
 class MethodCard : public Card
 {
     Q_OBJECT

@@ -9,8 +9,8 @@ QT_FORWARD_DECLARE_CLASS(QButtonGroup)
 QT_FORWARD_DECLARE_CLASS(QScrollArea)
 class MethodCard;
 
-/// Every erasure standard of the catalogue as a card, one of which is always chosen, and the way on to the
-/// start of the job. Keeps the choice as long as it lives.
+/// Shows every erasure standard of the catalogue as a card, one of which is always chosen. The choice stays
+/// as long as the page lives. Interface thread.
 class MethodSelectPage : public QWidget
 {
     Q_OBJECT

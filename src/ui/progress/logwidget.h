@@ -5,7 +5,7 @@
 
 QT_FORWARD_DECLARE_CLASS(QTextEdit)
 
-/// A log to look at, copy, save and clear. Messages are shown literally, whatever they contain.
+/// A log that the user can copy, save and clear. Markup in messages is shown literally. Interface thread.
 class LogWidget : public QWidget
 {
     Q_OBJECT
@@ -18,9 +18,9 @@ public slots:
     void addWarning(const QString &message);
     void addError(const QString &message);
     void onClearClicked();
-    /// The log as plain text to the clipboard.
+    /// Copies the log as plain text to the clipboard.
     void onCopyClicked();
-    /// The log as plain text to a file of the user's choice.
+    /// Asks for a file and writes the log into it as plain text.
     void onSaveClicked();
 
 private:

@@ -135,7 +135,7 @@ void ProgressPage::addLogView(QBoxLayout *layout)
     m_log->setReadOnly(true);
     m_log->setAcceptRichText(true);
     m_log->setMaximumHeight(200);
-    // Not a place to write: Tab leads on to the buttons.
+    // The view takes no input, so Tab leads on to the buttons.
     m_log->setTabChangesFocus(true);
     m_log->setAccessibleName(title->text());
     layout->addWidget(m_log, 1);
@@ -236,7 +236,7 @@ void ProgressPage::showPaused()
 {
     m_pauseButton->setText(m_isPaused ? tr("▶️ 继续") : tr("⏸️ 暂停"));
     m_pauseButton->setAccessibleName(spokenText(m_pauseButton->text()));
-    // The job does not know of it.
+    // The tip says that the job itself is not paused.
     m_pauseButton->setToolTip(m_isPaused ? tr("恢复此页面的显示；擦除并未停止")
                                          : tr("只暂停此页面的显示；擦除会继续进行"));
     m_pauseButton->setAccessibleDescription(m_pauseButton->toolTip());

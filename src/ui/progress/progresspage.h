@@ -10,8 +10,8 @@ QT_FORWARD_DECLARE_CLASS(QPushButton)
 QT_FORWARD_DECLARE_CLASS(QTextEdit)
 QT_FORWARD_DECLARE_CLASS(QTimer)
 
-/// One running wipe: percent, method, speed, estimate of the time left and the log. Fed by the engine's
-/// signals; used again for every job after a reset(). Interface thread.
+/// Shows the running job: percent, method, speed, estimate of the time left and the log. The signals of the
+/// engine feed the page. reset() makes it ready for the next job. Interface thread.
 class ProgressPage : public QWidget
 {
     Q_OBJECT
@@ -19,27 +19,27 @@ class ProgressPage : public QWidget
 public:
     explicit ProgressPage(QWidget *parent = nullptr);
 
-    /// Back to how the page looks before a job. Starts the estimate's timer, which from then on runs for
-    /// ever.
+    /// Restores the looks that the page has before a job. Starts the timer of the estimate, which then never
+    /// stops.
     void reset();
     void setMethod(const QString &name);
     void setTotalPasses(int count);
 
-    /// "9 分 0 秒", in the user's language.
+    /// Returns "9 分 0 秒", for example, in the user's language.
     static QString durationText(int seconds);
 
 signals:
-    /// The button changes this page only: the job runs on.
+    /// The button changes this page only; the job runs on.
     void pauseClicked();
     void stopClicked();
-    /// For whoever wants to lead the user home from here; the page itself never does.
+    /// The page itself never emits this.
     void backToHome();
 
 public slots:
-    void setProgress(double percent); // 0 to 100
+    void setProgress(double percent); ///< 0 to 100
     void setPass(int current, int total);
     void setSpeed(double bytesPerSecond);
-    /// Level 0 information, 1 warning, 2 error. Markup in the message is rendered.
+    /// Level 0 is information, 1 a warning, 2 an error. Markup in the message is rendered.
     void addLog(const QString &message, int level);
 
 private slots:
@@ -58,8 +58,8 @@ private:
     bool m_isPaused = false;
     int m_currentPass = 0;
     int m_totalPasses = 1;
-    double m_currentProgress = 0.0; // percent
-    double m_currentSpeed = 0.0;    // bytes per second
+    double m_currentProgress = 0.0; ///< percent
+    double m_currentSpeed = 0.0;    ///< bytes per second
     QTimer *m_timer = nullptr;
     QLabel *m_icon = nullptr;
     QLabel *m_statusLabel = nullptr;

@@ -30,7 +30,7 @@ std::optional<int> remainingSeconds(double percent, double bytesPerSecond)
     if (!(bytesPerSecond > 0.0) || !(percent > 0.0) || !(percent < 100.0))
         return std::nullopt;
     const double seconds = (100.0 - percent) / percent * SecondsOfProgress;
-    // Compared before the truncation: what a tiny percent gives fits into no integer.
+    // Compared before the truncation, as a tiny percent gives a number that fits into no integer.
     if (seconds < 1.0 || seconds >= SecondsPerDay)
         return std::nullopt;
     return static_cast<int>(seconds);

@@ -62,7 +62,7 @@ QWidget *SettingsPage::createGroups()
 {
     auto *content = new QWidget;
     content->setObjectName(u"settingsContent"_s);
-    // Named, so that the boxes inside keep a background of their own.
+    // The rule has the name so that the boxes inside keep their own background.
     content->setStyleSheet(u"#settingsContent { background: transparent; }"_s);
     auto *layout = new QVBoxLayout(content);
     layout->setContentsMargins(0, 0, 10, 0);
@@ -157,7 +157,7 @@ void SettingsPage::onSave()
     store->setValue(usersettings::GenerateReport.toString(), m_report->isChecked());
     store->setValue(usersettings::ExportPath.toString(), m_path->text());
     store->setValue(usersettings::AutoExport.toString(), m_autoExport->isChecked());
-    // Written, before the box tells that it is saved.
+    // The settings are on the disk before the box says that they are saved.
     store->sync();
     if (store->status() != QSettings::NoError) {
         Prompts::current().warning(this, tr("保存失败"), tr("无法保存设置"));

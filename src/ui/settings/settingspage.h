@@ -7,8 +7,8 @@ QT_FORWARD_DECLARE_CLASS(QCheckBox)
 QT_FORWARD_DECLARE_CLASS(QLineEdit)
 QT_FORWARD_DECLARE_CLASS(QPushButton)
 
-/// Edits the user's settings of wiping and exporting. They are read once, when the page is made, and written
-/// only when the user saves; the folder is stored as it was typed, whether it exists or not. Interface
+/// Edits the user's settings of wiping and exporting. The settings are read once, when the page is made, and
+/// written when the user saves. The folder is stored as it was typed, also when it does not exist. Interface
 /// thread.
 class SettingsPage : public QWidget
 {

@@ -35,7 +35,7 @@ QTranslator &translator()
 
 bool loadCatalogue(const QString &path)
 {
-    // Empty, but not null: null stands for "_." and ".qm", with which a stored "fr_CA" would end up at "fr".
+    // Empty strings, as null strings mean "_." and ".qm", by which a stored "fr_CA" would load "fr".
     const QString none = u""_s;
     return translator().load(path, none, none, none);
 }
@@ -56,8 +56,8 @@ void installLanguage(const QString &code)
     }
 }
 
-// What the program's own catalogue does not have, without a word: a language that lacks one of these has it
-// in the sources.
+// These complete the program's own catalogue. A missing one is no error, as its texts are in the sources
+// then.
 void installBeside(QTranslator &beside, const QString &path)
 {
     if (QCoreApplication::instance() && QFile::exists(path) && beside.load(path))

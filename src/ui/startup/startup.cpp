@@ -39,7 +39,7 @@ void nameApplication()
 void openLog()
 {
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
-    // Without the folder the log does without its file.
+    // Without the folder there is no log file.
     QDir().mkpath(folder);
     AppLog &log = AppLog::instance();
     log.setLogFile(folder + u"/quorvex.log"_s);
@@ -69,14 +69,15 @@ QFont interfaceFont()
 int runDesktopProgram(int &argc, char **argv)
 {
     platform::failWithoutBoxes();
-    // A terminal that is closed, or a program that restarted this one, takes the reader of the trace with it.
+    // Standard error has no reader after its terminal was closed or the program that started this one has
+    // ended.
     platform::outliveReaders();
     platform::liftOpenFileLimit();
     platform::outliveSizeLimits();
     platform::provideComputerName();
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     platform::keepLightFrames();
-    // The system's style draws in its own colours then, under the texts of ours; this one draws in ours only.
+    // The system's style would draw its own colours under our texts. Fusion draws in our palette only.
     if (platform::hasHighContrast())
         QApplication::setStyle(u"Fusion"_s);
     QApplication application(argc, argv);
@@ -93,7 +94,7 @@ int runDesktopProgram(int &argc, char **argv)
     auto window = std::make_unique<MainWindow>();
     window->show();
     AppLog::instance().info(u"Main window displayed"_s);
-    // The end of the session, or of the terminal: nobody is asked, and a job that runs keeps its record.
+    // At the end of the session or of the terminal there is no question. The record of a running job is kept.
     const platform::StopHandler stopping([&window] { window->leaveUnasked([] { QApplication::exit(0); }); });
     const int code = QApplication::exec();
     window.reset();

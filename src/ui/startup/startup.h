@@ -1,5 +1,5 @@
 #pragma once
 
-/// The desktop program from its first to its last step: identity, log, language, font, window, event loop.
-/// The exit code of the loop. argc must outlive it; no argument of the command line means anything.
+/// Runs the desktop program: identity, log, language, font, window, event loop. Returns the exit code of the
+/// loop. argc must outlive the call. The arguments are ignored.
 int runDesktopProgram(int &argc, char **argv);

@@ -2,6 +2,6 @@
 
 #include <QPalette>
 
-/// The colours of the style sheet for whatever the sheet does not name, dialogs of Qt's own above all. On a
-/// dark desktop these would have its dark surfaces under the sheet's dark text.
+/// Returns the colours of the style sheet as a palette, for widgets that the sheet does not name, such as the
+/// dialogs of Qt. On a dark desktop they would have dark surfaces under the dark text of the sheet.
 QPalette lightPalette();

@@ -19,7 +19,7 @@ void asSubtitle(QLabel &subtitle, const QString &styleSheet)
     subtitle.setObjectName(u"pageSubtitle"_s);
     subtitle.setStyleSheet(styleSheet);
     subtitle.setTextFormat(Qt::PlainText);
-    // A translation may need two lines; unwrapped it would widen the window.
+    // A translation may need two lines, and on one line it would widen the window.
     subtitle.setWordWrap(true);
 }
 

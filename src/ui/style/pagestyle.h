@@ -6,17 +6,17 @@
 QT_FORWARD_DECLARE_CLASS(QLabel)
 QT_FORWARD_DECLARE_CLASS(QSpacerItem)
 
-/// What the pages have in common.
+/// Looks that the pages have in common.
 namespace pagestyle {
 
-/// Around the content of most pages.
+/// Margins around the content of most pages.
 inline constexpr QMargins Margins{40, 30, 40, 30};
 
-/// Headline of a page whose texts change, and the line under it, which wraps.
+/// Dress the headline of a page whose texts change, and the wrapping line under it.
 void asTitle(QLabel &title);
 void asSubtitle(QLabel &subtitle, const QString &styleSheet);
 
-/// Space between two parts of a page that gives way where the page is full. The layout owns it.
+/// Makes a space between two parts of a page that shrinks when the page is full. The layout owns it.
 QSpacerItem *createGap();
 
 } // namespace pagestyle

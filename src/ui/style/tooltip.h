@@ -2,6 +2,6 @@
 
 #include <QString>
 
-/// The tip that shows the text as it is: a tool tip takes what looks like rich text for that, which names of
-/// files and devices must not become.
+/// Returns a tool tip that shows the text literally. Qt renders a tip that looks like rich text, and names of
+/// files and devices may look like that.
 QString plainTip(const QString &text);

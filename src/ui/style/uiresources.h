@@ -1,5 +1,5 @@
 #pragma once
 
-/// Makes ":/icons/" and ":/styles/" known. To be called once, before the first widget: the resources of a
-/// static library are not found by themselves.
+/// Registers ":/icons/" and ":/styles/", which a static library does not do by itself. To be called before
+/// the first widget.
 void addUiResources();

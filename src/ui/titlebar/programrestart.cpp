@@ -9,7 +9,7 @@ void restartProgram(const ProgramStarter &start)
     const QString program = QCoreApplication::applicationFilePath();
     if (!start(program, QCoreApplication::arguments().mid(1)))
         qWarning() << "[TitleBar] The program could not be started again:" << program;
-    // Not quit(): that would first ask every window to close, and a running job would object.
+    // quit() would first ask every window to close, and a running job would object.
     QCoreApplication::exit(0);
 }
 

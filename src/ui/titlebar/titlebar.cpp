@@ -25,7 +25,7 @@ constexpr QSize LogoSize(24, 24);
 void dress(QMenu &menu, const QString &name)
 {
     menu.setObjectName(name);
-    // Outside the rounded corners there is nothing.
+    // Nothing is drawn outside the rounded corners.
     menu.setWindowFlags(menu.windowFlags() | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint);
     menu.setAttribute(Qt::WA_TranslucentBackground);
 }

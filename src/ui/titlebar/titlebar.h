@@ -11,8 +11,8 @@ QT_FORWARD_DECLARE_CLASS(QBoxLayout)
 QT_FORWARD_DECLARE_CLASS(QMenu)
 class WinButton;
 
-/// The caption of the frameless main window: name, menu, and the buttons that the system's caption would
-/// have. Choosing a language stores it and restarts the program, also while a wipe runs.
+/// The caption of the frameless main window: name, menu, and the buttons of a system's caption. Choosing a
+/// language stores it and restarts the program, also while a job runs. Interface thread.
 class TitleBar : public QWidget
 {
     Q_OBJECT
@@ -20,12 +20,12 @@ class TitleBar : public QWidget
 public:
     explicit TitleBar(QWidget *parent = nullptr);
 
-    /// To be told by the window whenever its state has changed.
+    /// The window calls this whenever its state has changed.
     void setMaximized(bool maximized);
 
     WinButton *maximizeButton() const { return m_maximizeButton; }
 
-    /// What a new language ends with: by default restartProgram().
+    /// Replaces restartProgram(), which is called after a new language was chosen.
     void setRestart(std::function<void()> restart) { m_restart = std::move(restart); }
 
 signals:
@@ -35,7 +35,7 @@ signals:
     void aboutClicked();
     void helpClicked();
     void supportClicked();
-    /// The choice is stored; the restart comes after this.
+    /// The language is stored already. The restart follows.
     void languageChanged(const QString &langCode);
 
 private slots:

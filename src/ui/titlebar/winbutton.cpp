@@ -20,7 +20,7 @@ WinButton::WinButton(Kind kind, QWidget *parent)
 {
     setFixedSize(ButtonSize);
     setFlat(true);
-    // Reached by Tab; a click leaves the focus with the page.
+    // Tab reaches the button. A click leaves the focus with the page.
     setFocusPolicy(Qt::TabFocus);
     setAttribute(Qt::WA_Hover);
 }
@@ -47,7 +47,7 @@ void WinButton::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     paintBackground(painter);
-    // Half a pixel off, thin lines fall on whole pixels.
+    // Thin lines cover whole pixels when they are moved by half a pixel.
     painter.translate(0.5, 0.5);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(palette::FaintText, 1.0));
@@ -82,7 +82,7 @@ void WinButton::paintGlyph(QPainter &painter) const
             painter.drawRect(box);
             break;
         }
-        // A window before another, of which only the edges behind it are seen.
+        // Two windows, of which the rear one is partly covered.
         painter.drawRect(box.adjusted(0, RestoreOffset, -RestoreOffset, 0));
         painter.drawPolyline(QPolygonF({QPointF(box.left() + RestoreOffset, box.top() + RestoreOffset),
                                         QPointF(box.left() + RestoreOffset, box.top()), box.topRight(),

@@ -2,7 +2,7 @@
 
 #include <QPushButton>
 
-/// One of the buttons of the title bar, which draws its own sign.
+/// A button of the title bar that draws its own sign.
 class WinButton : public QPushButton
 {
     Q_OBJECT
@@ -14,7 +14,7 @@ public:
 
     Kind kind() const { return m_kind; }
 
-    /// Of a Maximize button: shows the sign for restoring.
+    /// Makes a Maximize button show the sign for restoring.
     void setMaximized(bool maximized);
 
 protected:

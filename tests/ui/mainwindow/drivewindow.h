@@ -9,7 +9,7 @@
 
 QT_FORWARD_DECLARE_CLASS(QTreeWidgetItem)
 
-// Drives 0 and 1 in memory, and no files but those of the program.
+// A machine with drives 0 and 1 in memory and the files of the system.
 class DriveMachine : public platform::Platform
 {
 public:
@@ -28,7 +28,7 @@ private:
     std::unique_ptr<platform::Platform> m_files = platform::createPlatform({{}, true});
 };
 
-// The same before a window has it: WindowFixture(std::move(drives.owned)).
+// A machine for a window: WindowFixture(std::move(drives.owned)).
 struct DriveWindow
 {
     std::unique_ptr<DriveMachine> owned = std::make_unique<DriveMachine>();
@@ -40,5 +40,5 @@ struct DriveWindow
 };
 
 QTreeWidgetItem *diskRow(const WindowFixture &fixture, int index);
-// On the disk page; goes on to the methods.
+// Chooses the row on the disk page and goes on to the methods.
 void choose(const WindowFixture &fixture, QTreeWidgetItem *row);

@@ -13,20 +13,20 @@
 class JobController;
 class WipeEngine;
 
-// A job on a drive in memory that waits with each write until the test lets it go on.
+// A job on a drive in memory whose writes wait until the test releases them.
 struct HeldJob
 {
     HeldJob();
-    // No test leaves a worker that waits for it.
+    // Releases the worker, which would otherwise wait for ever.
     ~HeldJob();
     HeldJob(const HeldJob &) = delete;
     HeldJob &operator=(const HeldJob &) = delete;
 
     WipeEngine &engine() const;
     JobController &job() const;
-    // From the home page to the first write.
+    // Leads from the home page to the first write.
     void start();
-    // Nothing unless there is exactly one report.
+    // Empty unless there is exactly one report.
     std::optional<JobOutcome> storedOutcome() const;
 
     DriveWindow drives;

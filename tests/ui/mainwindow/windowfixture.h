@@ -15,15 +15,15 @@
 
 #include <memory>
 
-// The real window on drives of the test's own, with a database, settings and answers of the test's own.
+// The main window with drives, database, settings and answers of the test.
 class WindowFixture
 {
 public:
-    // The drives are image files that are there already.
+    // The drives are existing image files.
     explicit WindowFixture(const QStringList &images = {})
         : WindowFixture(platform::createPlatform({images, true}))
     {}
-    // Other drives; the test sees to it that they are its own.
+    // Other drives, which must be those of the test.
     explicit WindowFixture(std::unique_ptr<platform::Platform> platform);
     ~WindowFixture();
     WindowFixture(const WindowFixture &) = delete;
@@ -43,15 +43,15 @@ public:
     }
 
     QWidget *page() const;
-    // The button of the current page with that text.
+    // The button with that text on the current page.
     QPushButton *button(const QString &text) const;
     bool click(const QString &text) const;
     QList<WipeReport> reports() const;
 
-    // What the screen shows, for people to look at, into the folder that QUORVEX_TEST_PICTURES names.
+    // Saves a picture of the screen into the folder QUORVEX_TEST_PICTURES, for people to look at.
     void photograph(const QString &name) const;
 
-    // From the chosen job on: confirms it, and presses that button of the completion dialog.
+    // Confirms the chosen job, and presses that button of the completion dialog.
     void runJob(const QString &button = QStringLiteral("Done"));
 
     // Answers for the program's own dialogs.

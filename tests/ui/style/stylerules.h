@@ -5,14 +5,14 @@
 #include <QString>
 #include <QStringList>
 
-// A style sheet by its rules, however it is written down: order, blanks and line ends mean nothing.
+// The rules of a style sheet. Order, blanks, line ends and comments do not matter.
 class StyleRules
 {
 public:
     explicit StyleRules(const QString &sheet);
 
-    // Those of "a: b; c: d" that the rule for the selector does not hold. A bare list of declarations, which
-    // speaks of the widget itself, is found under an empty selector.
+    // The declarations of "a: b; c: d" that the rule for the selector lacks. A sheet without selectors has
+    // its declarations under an empty one.
     QStringList missing(const QString &selector, const QString &declarations) const;
 
 private:
