@@ -1,6 +1,7 @@
 #pragma once
 
 #include "cli/exitcode.h"
+#include "model/refusal.h"
 
 #include <QString>
 
@@ -10,10 +11,18 @@
 namespace cli {
 
 /// The reason why a command stops, in words for the user, and its exit code.
-struct Refusal
+struct Refusal : ::Refusal
 {
     ExitCode code = Refused;
-    QString message;
+
+    Refusal() = default;
+    Refusal(ExitCode exitCode, QString message)
+        : ::Refusal{std::move(message)}
+        , code(exitCode)
+    {}
+    Refusal(::Refusal refusal) // NOLINT(google-explicit-constructor): a job that must not start is refused
+        : ::Refusal(std::move(refusal))
+    {}
 };
 
 /// A value, or the refusal in its place.

@@ -136,17 +136,18 @@ QString FileSurvey::otherNamesText() const
                      .arg(filesWithOtherNames);
 }
 
-QString FileSurvey::roomProblem() const
+std::optional<Refusal> FileSurvey::roomProblem() const
 {
     for (const Room &room : rooms) {
         const auto space = platform::Platform::current().folders().space(room.place);
         // Some file systems in memory report no total size.
         if (!space || space.value().totalBytes <= 0 || room.holeBytes <= space.value().availableBytes)
             continue;
-        return tr("Sparse files such as %1 take another %2 when they are overwritten, and only %3 are free. "
-                  "Nothing was written.")
-            .arg(displayText(room.place), formatSize(room.holeBytes),
-                 formatSize(space.value().availableBytes));
+        return Refusal{
+            tr("Sparse files such as %1 take another %2 when they are overwritten, and only %3 are free. "
+               "Nothing was written.")
+                .arg(displayText(room.place), formatSize(room.holeBytes),
+                     formatSize(space.value().availableBytes))};
     }
     return {};
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/refusal.h"
 #include "model/shortfall.h"
 
 #include <QCoreApplication>
@@ -10,6 +11,7 @@
 #include <QtGlobal>
 
 #include <functional>
+#include <optional>
 
 class WipeTask;
 
@@ -38,9 +40,8 @@ public:
 
     /// "2 files have further names ..."; empty without such files.
     QString otherNamesText() const;
-    /// Why the job must not begin. Overwriting a sparse file takes room for its holes. Empty when there is
-    /// enough room, or when the room is unknown.
-    QString roomProblem() const;
+    /// Overwriting a sparse file takes room for its holes. Nothing is refused when the room is unknown.
+    std::optional<Refusal> roomProblem() const;
 };
 
 /// The number of files, over all targets, that are asked whether their content is kept elsewhere. The

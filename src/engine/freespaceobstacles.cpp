@@ -39,7 +39,7 @@ PartitionInfo FreeSpaceWipeWorker::chosenRecord(const WipeTask &task, const QStr
     return {};
 }
 
-QString FreeSpaceWipeWorker::obstacleOf(const WipeTask &task)
+std::optional<Refusal> FreeSpaceWipeWorker::obstacleOf(const WipeTask &task)
 {
     for (const PartitionInfo &chosen : chosenVolumes(task)) {
         const auto volume = platform::Platform::current().folders().anchor(rootPathOf(chosen.driveLetter));
@@ -51,7 +51,7 @@ QString FreeSpaceWipeWorker::obstacleOf(const WipeTask &task)
         else if (const QString folder = LeftOvers(*volume.value()).inUse(); !folder.isEmpty())
             obstacle = useText(folder);
         if (!obstacle.isEmpty())
-            return obstacle + u' ' + tr("Nothing was written.");
+            return Refusal{obstacle + u' ' + tr("Nothing was written.")};
     }
     return {};
 }

@@ -4,6 +4,7 @@
 #include "engine/fillfolder.h"
 #include "engine/freespacefill.h"
 #include "engine/volumespace.h"
+#include "model/refusal.h"
 #include "platform/anchoredfolder.h"
 #include "platform/status.h"
 
@@ -38,7 +39,7 @@ public:
     /// Why a free-space job must not start, in words for the user: one of its volumes is no longer the chosen
     /// one, or another job works there. Empty when the job may start. A volume that cannot be queried is no
     /// obstacle here; the job reports it.
-    static QString obstacleOf(const WipeTask &task);
+    static std::optional<Refusal> obstacleOf(const WipeTask &task);
 
     /// The root folder of a volume by the volume's name.
     static QString rootPathOf(const QString &volume);

@@ -69,23 +69,25 @@ void WipeEngine::deleteTask(WipeTask *task)
     connect(m_thread, &QThread::finished, task, &QObject::deleteLater);
 }
 
-QString WipeEngine::makeReady()
+std::optional<Refusal> WipeEngine::makeReady()
 {
     const bool isFreeSpaceJob = m_task && !m_running && m_task->operationType() == FreeSpaceWipe;
     return isFreeSpaceJob ? FreeSpaceWipeWorker::obstacleOf(*m_task) : releaseVolumes();
 }
 
-QString WipeEngine::releaseVolumes()
+std::optional<Refusal> WipeEngine::releaseVolumes()
 {
     if (!m_task || m_running || m_released || m_task->operationType() != DiskWipe || !m_task->isWholeDrive())
         return {};
-    if (QString error = m_task->validationError(); !error.isEmpty())
-        return error;
+    if (const QString error = m_task->validationError(); !error.isEmpty())
+        return Refusal{error};
     platform::VolumeRelease release =
         platform::Platform::current().devices().releaseVolumes(identityOf(m_task->disk()));
     if (release.volumes)
         m_released = std::move(release.volumes);
-    return m_released ? QString() : releaseProblem(release);
+    if (m_released)
+        return {};
+    return Refusal{releaseProblem(release)};
 }
 
 QString WipeEngine::releaseProblem(const platform::VolumeRelease &release)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/joboutcome.h"
+#include "model/refusal.h"
 #include "model/wipetask.h"
 
 #include <QDateTime>
@@ -12,6 +13,7 @@
 #include <chrono>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <utility>
 
 class BaseWipeWorker;
@@ -42,16 +44,15 @@ public:
     void deleteTask(WipeTask *task);
 
     /// Prepares the start after the user has confirmed: checks a free-space job for obstacles, calls
-    /// releaseVolumes() for a whole-drive job. Returns the obstacle in words for the user, empty when the job
+    /// releaseVolumes() for a whole-drive job. Without a value the job
     /// may start.
-    QString makeReady();
+    std::optional<Refusal> makeReady();
 
     /// Releases the volumes of the drive for a whole-drive job, before start(). The job takes them over and
     /// gives them back when it has written nothing; they are also given back when another task is set, and by
-    /// the destructor. Takes as long as the system needs to write out its cache. Returns the obstacle in
-    /// words for the user; then the drive is unchanged and the job must not start. Empty after success, and
-    /// for other jobs, which release nothing.
-    QString releaseVolumes();
+    /// the destructor. Takes as long as the system needs to write out its cache. After a
+    /// refusal the drive is unchanged. Nothing is refused for other jobs, which release nothing.
+    std::optional<Refusal> releaseVolumes();
 
     /// Starts the job. A refusal is reported by errorOccurred and changes nothing.
     void start();

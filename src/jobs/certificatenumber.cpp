@@ -23,7 +23,7 @@ QString dayOf(const QString &certificateId)
 
 } // namespace
 
-QString claimCertificateId(WipeTask &task, const QStringList &taken)
+std::optional<Refusal> claimCertificateId(WipeTask &task, const QStringList &taken)
 {
     ReportDatabase &database = ReportDatabase::instance();
     QString id = task.report().certificateId;
@@ -32,7 +32,7 @@ QString claimCertificateId(WipeTask &task, const QStringList &taken)
     while (taken.contains(id) || database.holds(id).value_or(false)) {
         if (const QString day = dayOf(id); day != counted) {
             if (database.countBeginningWith(day).value_or(0) + taken.size() >= NumbersOfADay)
-                return Words::tr("All certificate numbers of this day are taken.");
+                return Refusal{Words::tr("All certificate numbers of this day are taken.")};
             counted = day;
         }
         const WipeReport fresh;

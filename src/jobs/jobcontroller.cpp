@@ -49,24 +49,26 @@ WipeTask &JobController::takeTask(std::unique_ptr<WipeTask> task)
 }
 
 // Starting now would block in the engine until the old worker has ended.
-QString JobController::pendingJob() const
+std::optional<Refusal> JobController::pendingJob() const
 {
-    return m_state == State::Idle ? QString() : tr("The previous job is still ending.");
+    if (m_state == State::Idle)
+        return {};
+    return Refusal{tr("The previous job is still ending.")};
 }
 
-QString JobController::makeReady(bool storesReport)
+std::optional<Refusal> JobController::makeReady(bool storesReport)
 {
     if (m_state != State::Idle)
         return pendingJob();
     if (storesReport && m_task) {
-        if (const QString problem = claimCertificateId(*m_task); !problem.isEmpty())
-            return problem;
+        if (const auto refusal = claimCertificateId(*m_task))
+            return refusal;
     }
     m_engine->setTask(m_task);
     return m_engine->makeReady();
 }
 
-QString JobController::start()
+std::optional<Refusal> JobController::start()
 {
     if (m_state != State::Idle)
         return pendingJob();
@@ -75,7 +77,7 @@ QString JobController::start()
     auto awake = platform::Platform::current().session().keepAwake({tr("An erasure is running."), m_window});
     m_engine->start();
     if (!m_engine->isRunning())
-        return m_refusal;
+        return Refusal{m_refusal};
     m_state = State::Running;
     if (awake) {
         m_awake = awake.take();

@@ -2,12 +2,14 @@
 
 #include "jobs/jobend.h"
 #include "model/operationtype.h"
+#include "model/refusal.h"
 
 #include <QObject>
 #include <QString>
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 class WipeEngine;
 class WipeTask;
@@ -53,16 +55,15 @@ public:
     WipeTask &newTask(OperationType type);
     WipeTask &takeTask(std::unique_ptr<WipeTask> task); ///< the same with an existing task
 
-    /// The reason why no job can start yet, in words for the user; empty when the previous job has ended.
-    QString pendingJob() const;
+    /// Refuses as long as the previous job has not ended.
+    std::optional<Refusal> pendingJob() const;
 
     /// Prepares the job: claims a free certificate id when its report is to be stored, and calls
-    /// WipeEngine::makeReady(). Returns the obstacle in words for the user; empty without one.
-    QString makeReady(bool storesReport);
+    /// WipeEngine::makeReady().
+    std::optional<Refusal> makeReady(bool storesReport);
 
-    /// Starts the job of the task. Returns the reason of a refusal in words for the user; empty when it
-    /// started.
-    QString start();
+    /// Starts the job of the task.
+    std::optional<Refusal> start();
 
     /// Stops the job and waits for the worker as long as WipeEngine::stop() does. Does nothing without a job.
     void stop();

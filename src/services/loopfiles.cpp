@@ -66,7 +66,7 @@ bool isWithin(const QString &file, const QString &folder)
 } // namespace
 
 // Reads sysfs directly: the loop devices of this machine do not depend on the platform that a job uses.
-QString LoopFiles::problem(const QStringList &paths, const QString &sys)
+std::optional<Refusal> LoopFiles::problem(const QStringList &paths, const QString &sys)
 {
     const QList<Attached> loops = attachedLoops(sys);
     if (loops.isEmpty())
@@ -74,8 +74,8 @@ QString LoopFiles::problem(const QStringList &paths, const QString &sys)
     for (const QString &path : paths) {
         for (const Attached &loop : loops) {
             if (isWithin(loop.file, path) || isAnyNameOf(loop.file, path))
-                return tr("The loop device %1 is attached to %2. Nothing was written.")
-                    .arg(loop.node, displayText(loop.file));
+                return Refusal{tr("The loop device %1 is attached to %2. Nothing was written.")
+                                   .arg(loop.node, displayText(loop.file))};
         }
     }
     return {};

@@ -1,6 +1,6 @@
 #include "services/loopfiles.h"
 
-QString LoopFiles::problem(const QStringList & /*paths*/, const QString & /*sys*/)
+std::optional<Refusal> LoopFiles::problem(const QStringList & /*paths*/, const QString & /*sys*/)
 {
     return {};
 }

@@ -15,8 +15,8 @@ RealJob runRealJob(WipeTask &task, int patienceMs)
     QObject::connect(&engine, &WipeEngine::errorOccurred, &engine,
                      [&job](const QString &error) { job.errors.append(error); });
     engine.setTask(&task);
-    if (const QString problem = engine.releaseVolumes(); !problem.isEmpty()) {
-        job.errors.append(problem);
+    if (const auto refusal = engine.releaseVolumes()) {
+        job.errors.append(refusal->message);
         return job;
     }
     engine.start();

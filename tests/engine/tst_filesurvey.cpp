@@ -4,6 +4,7 @@
 #include "filejob.h"
 #include "platform/forwarding.h"
 #include "support/links.h"
+#include "support/reason.h"
 #include "support/suite.h"
 
 #include <QCoreApplication>
@@ -72,7 +73,7 @@ struct Machine
     QString problem()
     {
         job.task.setFiles({job.path({})});
-        return surveyFiles(job.task).roomProblem();
+        return reasonOf(surveyFiles(job.task).roomProblem());
     }
 };
 

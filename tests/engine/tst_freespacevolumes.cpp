@@ -7,6 +7,7 @@
 #include "platform/platform.h"
 #include "support/links.h"
 #include "support/loopmount.h"
+#include "support/reason.h"
 #include "support/suite.h"
 #include "support/testfiles.h"
 #include "support/workerrecord.h"
@@ -137,12 +138,12 @@ void tst_FreeSpaceVolumes::anotherVolumeInItsPlaceIsNotFilled()
     QVERIFY(!job.task.partition().identity.isEmpty());
     WipeEngine engine;
     engine.setTask(&job.task);
-    QCOMPARE(engine.makeReady(), QString());
+    QCOMPARE(reasonOf(engine.makeReady()), QString());
 
     QVERIFY2(volume.unmount(), qPrintable(volume.error()));
     // The first volume is mounted again and counts as the chosen one.
     QVERIFY2(volume.mount(), qPrintable(volume.error()));
-    QCOMPARE(engine.makeReady(), QString());
+    QCOMPARE(reasonOf(engine.makeReady()), QString());
 
     QVERIFY2(volume.unmount(), qPrintable(volume.error()));
     const QString force = fileSystem == LoopMount::Ext4 ? u"-F"_s : u"-f"_s;
@@ -153,7 +154,7 @@ void tst_FreeSpaceVolumes::anotherVolumeInItsPlaceIsNotFilled()
     QVERIFY2(volume.mount(), qPrintable(volume.error()));
     const QStringList before = entriesOf(volume.mountPoint());
     const QString text = u"Volume %1 is not the one that was chosen any more."_s.arg(volume.mountPoint());
-    QCOMPARE(engine.makeReady(), text + u" Nothing was written."_s);
+    QCOMPARE(reasonOf(engine.makeReady()), text + u" Nothing was written."_s);
     job.worker.process();
     QVERIFY(!job.succeeded());
     QVERIFY2(job.record.lines().contains(u"error "_s + text), qPrintable(job.record.lines().join(u'\n')));
@@ -211,7 +212,7 @@ void tst_FreeSpaceVolumes::aSecondJobOnAVolumeIsRefused()
         if (!inTheWay.isEmpty())
             return;
         const QString temporary = temporaryFolder(volume);
-        inTheWay.append(FreeSpaceWipeWorker::obstacleOf(second.task));
+        inTheWay.append(reasonOf(FreeSpaceWipeWorker::obstacleOf(second.task)));
         before = entriesOf(volume.mountPoint()) + entriesOf(temporary);
         second.worker.process();
         after = entriesOf(volume.mountPoint()) + entriesOf(temporary);
@@ -226,7 +227,7 @@ void tst_FreeSpaceVolumes::aSecondJobOnAVolumeIsRefused()
 
     // The first job has released its folder.
     QVERIFY(!temporaryFolder(volume).isEmpty());
-    QCOMPARE(FreeSpaceWipeWorker::obstacleOf(second.task), QString());
+    QCOMPARE(reasonOf(FreeSpaceWipeWorker::obstacleOf(second.task)), QString());
 }
 
 QUORVEX_SUITE(tst_FreeSpaceVolumes, QCoreApplication)

@@ -2,6 +2,7 @@
 #include "engine/freespacefixture.h"
 #include "support/faultplan.h"
 #include "support/memoryvolume.h"
+#include "support/reason.h"
 #include "support/suite.h"
 
 #include <QCoreApplication>
@@ -1148,7 +1149,7 @@ void tst_FreeSpaceWipeFaults::volumeThatAnotherJobFillsIsLeftAlone()
     prepare(job);
     const QString text =
         u"Another job is erasing the free space of this volume; its files are in %1."_s.arg(folder);
-    QCOMPARE(FreeSpaceWipeWorker::obstacleOf(job.task), text + u" Nothing was written."_s);
+    QCOMPARE(reasonOf(FreeSpaceWipeWorker::obstacleOf(job.task)), text + u" Nothing was written."_s);
     job.run();
     QVERIFY(job.failed());
     QCOMPARE(job.errors, QStringList{withoutRandom(text)});
@@ -1184,7 +1185,7 @@ void tst_FreeSpaceWipeFaults::emptyFolderThatNobodyCanClaimIsNoJob()
     machine.volume.knowsClaims = false;
     Job job;
     prepare(job);
-    QCOMPARE(FreeSpaceWipeWorker::obstacleOf(job.task), QString());
+    QCOMPARE(reasonOf(FreeSpaceWipeWorker::obstacleOf(job.task)), QString());
     job.run();
     QVERIFY(job.succeeded());
 }

@@ -7,6 +7,7 @@
 #include "support/describeddisk.h"
 #include "support/deviceplatform.h"
 #include "support/interposeddevices.h"
+#include "support/reason.h"
 #include "support/suite.h"
 
 #include <QCoreApplication>
@@ -135,7 +136,7 @@ void tst_WholeDrive::everySectorIsErased()
 {
     Machine machine;
     EngineJob job(machine);
-    QCOMPARE(job.engine->releaseVolumes(), QString());
+    QCOMPARE(reasonOf(job.engine->releaseVolumes()), QString());
     QCOMPARE(machine.memory.releasedDrives(), 1);
     QVERIFY(machine.isUntouched());
     QVERIFY(job.run());
@@ -167,7 +168,7 @@ void tst_WholeDrive::aPartitionJobTakesItsVolumes()
     PartitionInfo partition;
     partition.driveLetter = u"/a"_s;
     job.task.setPartition(partition);
-    QCOMPARE(job.engine->releaseVolumes(), QString());
+    QCOMPARE(reasonOf(job.engine->releaseVolumes()), QString());
     QVERIFY(job.run());
     QVERIFY(job.log.contains(u"通过卷句柄进行擦除..."_s));
     QCOMPARE(machine.memory.releasedDrives(), 0);
@@ -177,7 +178,7 @@ void tst_WholeDrive::aVolumeThatCameBackIsAFailure()
 {
     Machine machine;
     EngineJob job(machine);
-    QCOMPARE(job.engine->releaseVolumes(), QString());
+    QCOMPARE(reasonOf(job.engine->releaseVolumes()), QString());
     machine.memory.addVolume(u"/back"_s, 3, 64 * 1024, MiB);
     QVERIFY(!job.run());
     QVERIFY(machine.isUntouched());
@@ -203,7 +204,7 @@ void tst_WholeDrive::aVolumeThatIsHeldIsNone()
     Machine machine;
     machine.memory.volume(u"/b"_s).staysInSight = true;
     EngineJob job(machine);
-    QCOMPARE(job.engine->releaseVolumes(), QString());
+    QCOMPARE(reasonOf(job.engine->releaseVolumes()), QString());
     QVERIFY(job.run());
     QVERIFY(machine.isErased());
 }
@@ -231,7 +232,7 @@ void tst_WholeDrive::whatIsInTheWayIsSaid()
     machine.memory.volume(u"/b"_s).releaseError = static_cast<platform::ErrorCode>(error);
     machine.memory.volume(u"/a"_s).isLost = isLost;
     EngineJob job(machine);
-    QCOMPARE(job.engine->releaseVolumes(), problem);
+    QCOMPARE(reasonOf(job.engine->releaseVolumes()), problem);
     QCOMPARE(machine.memory.releasedDrives(), 0);
 
     for (const auto &[code, words] :
@@ -241,7 +242,7 @@ void tst_WholeDrive::whatIsInTheWayIsSaid()
             return call.method == "releaseVolumes"_L1 ? platform::Status{code, 0, "test"}
                                                       : platform::Status{};
         };
-        QCOMPARE(job.engine->releaseVolumes(), words + u" Nothing was written."_s);
+        QCOMPARE(reasonOf(job.engine->releaseVolumes()), words + u" Nothing was written."_s);
     }
 }
 
@@ -252,7 +253,8 @@ void tst_WholeDrive::theSystemDiskIsNotReleased()
     DiskInfo disk = job.task.disk();
     disk.isSystemDisk = true;
     job.task.setDisk(disk);
-    QCOMPARE(job.engine->releaseVolumes(), u"Cannot wipe system disk. Please boot from external drive."_s);
+    QCOMPARE(reasonOf(job.engine->releaseVolumes()),
+             u"Cannot wipe system disk. Please boot from external drive."_s);
     QCOMPARE(machine.memory.releasedDrives(), 0);
 }
 
@@ -262,21 +264,21 @@ void tst_WholeDrive::otherJobsReleaseNothing()
     EngineJob job(machine);
     for (const OperationType type : {PartitionWipe, FreeSpaceWipe, FileWipe}) {
         job.task.setOperationType(type);
-        QCOMPARE(job.engine->releaseVolumes(), QString());
+        QCOMPARE(reasonOf(job.engine->releaseVolumes()), QString());
     }
     job.task.setOperationType(DiskWipe);
     job.task.setWholeDrive(false);
-    QCOMPARE(job.engine->releaseVolumes(), QString());
+    QCOMPARE(reasonOf(job.engine->releaseVolumes()), QString());
     QCOMPARE(machine.memory.releasedDrives(), 0);
     WipeEngine idle;
-    QCOMPARE(idle.releaseVolumes(), QString());
+    QCOMPARE(reasonOf(idle.releaseVolumes()), QString());
 }
 
 void tst_WholeDrive::anotherTaskGivesTheVolumesBack()
 {
     Machine machine;
     EngineJob job(machine);
-    QCOMPARE(job.engine->releaseVolumes(), QString());
+    QCOMPARE(reasonOf(job.engine->releaseVolumes()), QString());
     job.engine->setTask(&job.task);
     QCOMPARE(machine.memory.releasedDrives(), 1);
     WipeTask other;
@@ -289,7 +291,7 @@ void tst_WholeDrive::theEndOfTheEngineGivesThemBack()
 {
     Machine machine;
     EngineJob job(machine);
-    QCOMPARE(job.engine->releaseVolumes(), QString());
+    QCOMPARE(reasonOf(job.engine->releaseVolumes()), QString());
     job.engine.reset();
     QCOMPARE(machine.memory.restores(), 1);
     QCOMPARE(machine.memory.volumeNames(), (QStringList{u"/a"_s, u"/b"_s}));
@@ -299,8 +301,8 @@ void tst_WholeDrive::aJobReleasesOnce()
 {
     Machine machine;
     EngineJob job(machine);
-    QCOMPARE(job.engine->releaseVolumes(), QString());
-    QCOMPARE(job.engine->releaseVolumes(), QString());
+    QCOMPARE(reasonOf(job.engine->releaseVolumes()), QString());
+    QCOMPARE(reasonOf(job.engine->releaseVolumes()), QString());
     QCOMPARE(machine.memory.releasedDrives(), 1);
     QCOMPARE(machine.memory.restores(), 0);
 }
@@ -311,7 +313,7 @@ void tst_WholeDrive::aThreadThatTheSystemRefusesGivesThemBack()
         QSKIP(RefusedThreads::whyNot);
     Machine machine;
     EngineJob job(machine);
-    QCOMPARE(job.engine->releaseVolumes(), QString());
+    QCOMPARE(reasonOf(job.engine->releaseVolumes()), QString());
     {
         const RefusedThreads refused;
         QVERIFY(!job.run());
@@ -324,7 +326,7 @@ void tst_WholeDrive::aDriveThatDoesNotOpenGivesThemBack()
 {
     Machine machine;
     EngineJob job(machine);
-    QCOMPARE(job.engine->releaseVolumes(), QString());
+    QCOMPARE(reasonOf(job.engine->releaseVolumes()), QString());
     machine.answer = [](const DeviceCall &call) {
         return call.method == "openDrive"_L1 ? platform::Status{platform::AccessDenied, 0, "test"}
                                              : platform::Status{};
@@ -342,7 +344,7 @@ void tst_WholeDrive::aDriveThatDoesNotTellItsSizeGivesThemBack()
 {
     Machine machine;
     EngineJob job(machine);
-    QCOMPARE(job.engine->releaseVolumes(), QString());
+    QCOMPARE(reasonOf(job.engine->releaseVolumes()), QString());
     machine.answer = [](const DeviceCall &call) {
         return call.method == "geometry"_L1 ? platform::Status{platform::NotSupported, 0, "test"}
                                             : platform::Status{};
@@ -357,7 +359,7 @@ void tst_WholeDrive::aStopBeforeTheFirstWriteGivesThemBack()
 {
     Machine machine;
     EngineJob job(machine);
-    QCOMPARE(job.engine->releaseVolumes(), QString());
+    QCOMPARE(reasonOf(job.engine->releaseVolumes()), QString());
     // The worker uses the drive when the stop comes.
     machine.answer = [&job](const DeviceCall &call) {
         if (call.method == "geometry"_L1)
@@ -378,7 +380,7 @@ void tst_WholeDrive::afterTheFirstWriteTheyStayUnmounted()
 {
     Machine machine;
     EngineJob job(machine);
-    QCOMPARE(job.engine->releaseVolumes(), QString());
+    QCOMPARE(reasonOf(job.engine->releaseVolumes()), QString());
     machine.answer = [](const DeviceCall &call) {
         return call.method == "write"_L1 ? platform::Status{platform::IoDevice, 0, "test"}
                                          : platform::Status{};
@@ -394,7 +396,7 @@ void tst_WholeDrive::aStopAfterTheFirstWriteLeavesThemUnmounted()
 {
     Machine machine;
     EngineJob job(machine);
-    QCOMPARE(job.engine->releaseVolumes(), QString());
+    QCOMPARE(reasonOf(job.engine->releaseVolumes()), QString());
     machine.answer = [&job](const DeviceCall &call) {
         if (call.method == "write"_L1)
             QMetaObject::invokeMethod(job.engine.get(), &WipeEngine::stop, Qt::BlockingQueuedConnection);
@@ -412,7 +414,7 @@ void tst_WholeDrive::whatCannotBeGivenBackIsNamed()
     Machine machine;
     machine.memory.volume(u"/b"_s).isLost = true;
     EngineJob job(machine);
-    QCOMPARE(job.engine->releaseVolumes(), QString());
+    QCOMPARE(reasonOf(job.engine->releaseVolumes()), QString());
     machine.answer = [](const DeviceCall &call) {
         return call.method == "openDrive"_L1 ? platform::Status{platform::AccessDenied, 0, "test"}
                                              : platform::Status{};
@@ -427,7 +429,7 @@ void tst_WholeDrive::aDriveThatStaysOfflineIsTold()
     Machine machine;
     machine.memory.keepError = platform::AccessDenied;
     EngineJob job(machine);
-    QCOMPARE(job.engine->releaseVolumes(), QString());
+    QCOMPARE(reasonOf(job.engine->releaseVolumes()), QString());
     QVERIFY(job.run());
     QVERIFY(job.log.contains(u"磁盘未能恢复联机，错误码: 5"_s));
 }
@@ -440,7 +442,7 @@ void tst_WholeDrive::anEmptyDriveGivesThemBack()
     DiskInfo disk = job.task.disk();
     disk.sizeBytes = 0;
     job.task.setDisk(disk);
-    QCOMPARE(job.engine->releaseVolumes(), QString());
+    QCOMPARE(reasonOf(job.engine->releaseVolumes()), QString());
     static_cast<void>(job.run());
     QCOMPARE(job.engine->outcome().outcome(), JobOutcome::Partial);
     QCOMPARE(machine.memory.restores(), 1);

@@ -1,5 +1,6 @@
 #include "services/loopfiles.h"
 #include "support/links.h"
+#include "support/reason.h"
 #include "support/suite.h"
 #include "support/testfiles.h"
 
@@ -31,7 +32,7 @@ private slots:
 private:
     QString sys() const { return m_folder->filePath(u"sys"_s); }
     QString file(const QString &name) const { return m_folder->filePath(name); }
-    QString problem(const QString &path) const { return LoopFiles::problem({path}, sys()); }
+    QString problem(const QString &path) const { return reasonOf(LoopFiles::problem({path}, sys())); }
     QString told() const
     {
         return u"The loop device /dev/loop3 is attached to %1. Nothing was written."_s.arg(m_image);
@@ -52,7 +53,7 @@ void tst_LoopFiles::init()
 void tst_LoopFiles::aFileThatADeviceIsAttachedToIsNamed()
 {
     QCOMPARE(problem(m_image), told());
-    QCOMPARE(LoopFiles::problem({writeFile(file(u"other"_s), "a"), m_image}, sys()), told());
+    QCOMPARE(reasonOf(LoopFiles::problem({writeFile(file(u"other"_s), "a"), m_image}, sys())), told());
 }
 
 void tst_LoopFiles::itIsFoundUnderAnotherNameToo()
@@ -74,7 +75,7 @@ void tst_LoopFiles::otherFilesAreNot()
 {
     QCOMPARE(problem(writeFile(file(u"images/other.img"_s), "content")), QString());
     QCOMPARE(problem(file(u"missing"_s)), QString());
-    QCOMPARE(LoopFiles::problem({m_image}, file(u"nosys"_s)), QString());
+    QCOMPARE(reasonOf(LoopFiles::problem({m_image}, file(u"nosys"_s))), QString());
 }
 
 void tst_LoopFiles::aLinkToItIsNot()

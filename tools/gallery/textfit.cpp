@@ -20,8 +20,9 @@ namespace {
 
 QString line(const QWidget &widget, const QString &text, int missing, QStringView way)
 {
-    const QString name = widget.objectName().isEmpty() ? QString::fromLatin1(widget.metaObject()->className())
-                                                       : widget.objectName();
+    QString name = widget.objectName();
+    if (name.isEmpty() && widget.parent() != nullptr)
+        name = widget.parent()->objectName() + u"/"_s + QLatin1String(widget.metaObject()->className());
     return u"%1: \"%2\" lacks %3 px in %4"_s.arg(name, QString(text).replace(u'\n', u' '),
                                                  QString::number(missing), way.toString());
 }

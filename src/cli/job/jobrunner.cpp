@@ -38,11 +38,13 @@ public:
     JobResult result()
     {
         // The plan has claimed the certificate ids of all jobs before the question.
-        QString problem = m_stop.isRequested() ? QString() : m_controller.makeReady(false);
-        if (problem.isEmpty())
-            problem = m_controller.start();
-        if (!problem.isEmpty()) {
-            m_result.lastError = problem;
+        std::optional<::Refusal> refusal;
+        if (!m_stop.isRequested())
+            refusal = m_controller.makeReady(false);
+        if (!refusal)
+            refusal = m_controller.start();
+        if (refusal) {
+            m_result.lastError = refusal->message;
             return m_result;
         }
         // Only the probe has seen a request that came before the engine's thread existed.

@@ -46,12 +46,10 @@ std::optional<Refusal> checkTasks(const WipePlan &plan)
         const QString error = job.task->validationError();
         if (!error.isEmpty())
             return Refusal{Refused, error};
-        if (const QString problem = job.survey.roomProblem(); !problem.isEmpty())
-            return Refusal{Refused, problem};
+        if (const auto refusal = job.survey.roomProblem())
+            return refusal;
     }
-    if (const QString problem = LoopFiles::problem(plan.doomedPaths); !problem.isEmpty())
-        return Refusal{Refused, problem};
-    return std::nullopt;
+    return LoopFiles::problem(plan.doomedPaths);
 }
 
 // A report of the plan must not replace a stored report or another report of the plan.
@@ -61,8 +59,8 @@ std::optional<Refusal> claimCertificateIds(const WipePlan &plan, const WipeOptio
     for (const PlannedJob &job : plan.jobs) {
         if (!options.storeReport)
             break;
-        if (const QString problem = claimCertificateId(*job.task, taken); !problem.isEmpty())
-            return Refusal{Refused, problem + u' ' + Cli::tr("--no-report does without.")};
+        if (const auto refusal = claimCertificateId(*job.task, taken))
+            return Refusal{Refused, refusal->message + u' ' + Cli::tr("--no-report does without.")};
         taken.append(job.task->report().certificateId);
     }
     return std::nullopt;

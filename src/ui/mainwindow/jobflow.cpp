@@ -58,8 +58,8 @@ void JobFlow::start(const WipeMethod &method)
     m_parts.progress.setTotalPasses(method.passCount());
     emit started();
     job.setWindow(m_parts.window.winId());
-    const QString refusal = job.start();
-    if (refusal.isEmpty())
+    const auto refusal = job.start();
+    if (!refusal)
         return;
     emit refused();
     question.isRefused(refusal);

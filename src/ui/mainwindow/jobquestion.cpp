@@ -22,11 +22,11 @@ JobQuestion::JobQuestion(JobController &job, QWidget &window)
     , m_window(window)
 {}
 
-bool JobQuestion::isRefused(const QString &reason)
+bool JobQuestion::isRefused(const std::optional<Refusal> &refusal)
 {
-    if (!reason.isEmpty())
-        Prompts::current().warning(&m_window, tr("The Erasure Cannot Start"), reason);
-    return !reason.isEmpty();
+    if (refusal)
+        Prompts::current().warning(&m_window, tr("The Erasure Cannot Start"), refusal->message);
+    return refusal.has_value();
 }
 
 bool JobQuestion::isPossible()
@@ -37,7 +37,7 @@ bool JobQuestion::isPossible()
     const DiskInfo disk = m_task.disk();
     QString obstacles = ObstaclesText::of(DiskManager::obstacles(disk.diskNumber));
     if (obstacles.isEmpty())
-        obstacles = LoopFiles::problem({disk.devicePath});
+        obstacles = LoopFiles::problem({disk.devicePath}).value_or(Refusal()).message;
     if (obstacles.isEmpty())
         return true;
     Prompts::current().show(&m_window, {QMessageBox::Warning,
@@ -100,11 +100,11 @@ bool JobQuestion::isConfirmed(const QStringList &binLines)
     // An earlier confirmation may have set it.
     m_task.setWholeDrive(false);
     const FileSurvey survey = lookAtFiles();
-    QString problem = survey.roomProblem();
-    if (problem.isEmpty() && m_task.operationType() == FileWipe)
-        problem = LoopFiles::problem(m_task.files());
-    if (!problem.isEmpty()) {
-        Prompts::current().warning(&m_window, tr("These Files Cannot Be Erased"), problem);
+    std::optional<Refusal> refusal = survey.roomProblem();
+    if (!refusal && m_task.operationType() == FileWipe)
+        refusal = LoopFiles::problem(m_task.files());
+    if (refusal) {
+        Prompts::current().warning(&m_window, tr("These Files Cannot Be Erased"), refusal->message);
         return false;
     }
     ConfirmDialog confirmation(&m_window);
@@ -139,12 +139,12 @@ bool JobQuestion::isConfirmed(const QStringList &binLines)
 bool JobQuestion::isReady(bool storesReport)
 {
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-    const QString problem = m_job.makeReady(storesReport);
+    const auto refusal = m_job.makeReady(storesReport);
     QGuiApplication::restoreOverrideCursor();
-    if (problem.isEmpty())
+    if (!refusal)
         return true;
     const QString title = m_task.operationType() == FreeSpaceWipe ? tr("This Volume Cannot Be Erased")
                                                                   : tr("This Disk Cannot Be Erased");
-    Prompts::current().warning(&m_window, title, problem);
+    Prompts::current().warning(&m_window, title, refusal->message);
     return false;
 }

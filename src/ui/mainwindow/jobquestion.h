@@ -1,8 +1,12 @@
 #pragma once
 
+#include "model/refusal.h"
+
 #include <QCoreApplication>
 #include <QString>
 #include <QStringList>
+
+#include <optional>
 
 QT_FORWARD_DECLARE_CLASS(QWidget)
 class FileSurvey;
@@ -19,8 +23,8 @@ public:
     /// Asks about the controller's task. Controller, task and window outlive this.
     JobQuestion(JobController &job, QWidget &window);
 
-    /// Shows the reason of a refusal. Returns false without a reason.
-    bool isRefused(const QString &reason);
+    /// Shows the refusal. False without one.
+    bool isRefused(const std::optional<Refusal> &refusal);
 
     /// Returns whether the drive can be erased.
     bool isPossible();

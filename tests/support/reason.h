@@ -1,0 +1,13 @@
+#pragma once
+
+#include "model/refusal.h"
+
+#include <QString>
+
+#include <optional>
+
+// The words of a refusal; empty without one.
+inline QString reasonOf(const std::optional<Refusal> &refusal)
+{
+    return refusal ? refusal->message : QString();
+}
