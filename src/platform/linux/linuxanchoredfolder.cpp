@@ -4,6 +4,7 @@
 #include "platform/filenames.h"
 #include "platform/linux/linuxdirectoryentries.h"
 #include "platform/linux/linuxerrnotable.h"
+#include "platform/linux/linuxfilecalls.h"
 #include "platform/linux/linuxfilehandle.h"
 #include "platform/linux/linuxfileid.h"
 #include "platform/linux/linuxfilekind.h"
@@ -37,7 +38,8 @@ Result<QByteArray> component(const QString &name)
 FileDescriptor openFolderAt(int above, const char *name)
 {
     const auto openAs = [&](int how) {
-        return FileDescriptor(uninterrupted([&] { return ::openat(above, name, how | FolderFlags); }));
+        return FileDescriptor(
+            uninterrupted([&] { return fileCalls().openat(above, name, how | FolderFlags, 0); }));
     };
     FileDescriptor folder = openAs(O_RDONLY);
     return !folder.isValid() && errno == EACCES ? openAs(O_PATH) : std::move(folder);
@@ -46,7 +48,7 @@ FileDescriptor openFolderAt(int above, const char *name)
 // Held with the descriptor; nothing where the file system has no locks.
 Result<bool> claim(int folder)
 {
-    if (uninterrupted([&] { return ::flock(folder, LOCK_EX | LOCK_NB); }) == 0)
+    if (uninterrupted([&] { return fileCalls().flock(folder, LOCK_EX | LOCK_NB); }) == 0)
         return true;
     if (errno == EWOULDBLOCK)
         return Status{SharingViolation, errno, "flock"};
@@ -81,7 +83,7 @@ Status LinuxAnchoredFolder::forEachEntry(const Folders::Visitor &visit)
 {
     // With a position of its own.
     FileDescriptor listed(
-        uninterrupted([&] { return ::openat(m_folder.get(), ".", O_RDONLY | FolderFlags); }));
+        uninterrupted([&] { return fileCalls().openat(m_folder.get(), ".", O_RDONLY | FolderFlags, 0); }));
     if (!listed.isValid())
         return statusFromErrno(errno, "openat");
     return readEntries(std::move(listed), [&](const char *entry, FileKind kind) {
@@ -104,14 +106,16 @@ Result<std::unique_ptr<FileHandle>> LinuxAnchoredFolder::createFile(const QStrin
         return entry.status();
     constexpr int Flags = O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
     OpenedFile file;
-    file.descriptor = FileDescriptor(uninterrupted(
-        [&] { return ::openat(m_folder.get(), entry.value().constData(), Flags, S_IRUSR | S_IWUSR); }));
+    file.descriptor = FileDescriptor(uninterrupted([&] {
+        return fileCalls().openat(m_folder.get(), entry.value().constData(), Flags, S_IRUSR | S_IWUSR);
+    }));
     if (!file.descriptor.isValid())
         return statusFromErrno(errno, "openat");
     // Asked for afterwards: an opening that is refused for its sake has made the file by then.
-    file.directOn = ::fcntl(file.descriptor.get(), F_SETFL, O_DIRECT) == 0;
+    file.directOn = fileCalls().fcntl(file.descriptor.get(), F_SETFL, O_DIRECT) == 0;
     struct statx opened = {};
-    if (file.directOn && ::statx(file.descriptor.get(), "", AT_EMPTY_PATH, DirectTransfersMask, &opened) == 0)
+    if (file.directOn &&
+        fileCalls().statx(file.descriptor.get(), "", AT_EMPTY_PATH, DirectTransfersMask, &opened) == 0)
         file.direct = directTransfersOf(opened);
     return std::unique_ptr<FileHandle>(std::make_unique<LinuxFileHandle>(std::move(file)));
 }
@@ -126,7 +130,7 @@ Result<std::unique_ptr<AnchoredFolder>> LinuxAnchoredFolder::createFolder(const 
     const Result<QByteArray> entry = component(name);
     if (!entry)
         return entry.status();
-    if (::mkdirat(m_folder.get(), entry.value().constData(), S_IRWXU) != 0)
+    if (fileCalls().mkdirat(m_folder.get(), entry.value().constData(), S_IRWXU) != 0)
         return statusFromErrno(errno, "mkdirat");
     return openFolder(name);
 }
@@ -136,8 +140,9 @@ Result<std::unique_ptr<AnchoredFolder>> LinuxAnchoredFolder::openFolder(const QS
     const Result<QByteArray> entry = component(name);
     if (!entry)
         return entry.status();
-    FileDescriptor folder(uninterrupted(
-        [&] { return ::openat(m_folder.get(), entry.value().constData(), O_RDONLY | FolderFlags); }));
+    FileDescriptor folder(uninterrupted([&] {
+        return fileCalls().openat(m_folder.get(), entry.value().constData(), O_RDONLY | FolderFlags, 0);
+    }));
     if (!folder.isValid())
         return statusFromErrno(errno, "openat");
     const Result<bool> claimed = claim(folder.get());
@@ -158,11 +163,11 @@ Status LinuxAnchoredFolder::removeTree(const QString &name)
     if (!entry)
         return entry.status();
     struct stat found = {};
-    if (::fstatat(m_folder.get(), entry.value().constData(), &found, AT_SYMLINK_NOFOLLOW) != 0)
+    if (fileCalls().fstatat(m_folder.get(), entry.value().constData(), &found, AT_SYMLINK_NOFOLLOW) != 0)
         return statusFromErrno(errno, "fstatat");
     if (!S_ISDIR(found.st_mode))
         return statusFromErrno(ENOTDIR, "fstatat");
-    FileDescriptor parent(::fcntl(m_folder.get(), F_DUPFD_CLOEXEC, 0));
+    FileDescriptor parent(fileCalls().fcntl(m_folder.get(), F_DUPFD_CLOEXEC, 0));
     if (!parent.isValid())
         return statusFromErrno(errno, "fcntl");
     return TreeRemoval(std::move(parent)).run(entry.value());
@@ -173,7 +178,7 @@ Status LinuxAnchoredFolder::remove(const QString &name, int flags)
     const Result<QByteArray> entry = component(name);
     if (!entry)
         return entry.status();
-    if (::unlinkat(m_folder.get(), entry.value().constData(), flags) != 0)
+    if (fileCalls().unlinkat(m_folder.get(), entry.value().constData(), flags) != 0)
         return statusFromErrno(errno, "unlinkat");
     return {};
 }

@@ -1,3 +1,4 @@
+#include "platform/linux/linuxfilecalls.h"
 #include "platform/linux/linuxfiles.h"
 
 #include "platform/filenames.h"
@@ -20,12 +21,12 @@ Result<std::unique_ptr<QFileDevice>> LinuxFiles::openForAppending(const QString 
     const QByteArray name = encodeName(path);
     // O_NONBLOCK: a pipe without a reader would be waited for.
     constexpr int Flags = O_WRONLY | O_APPEND | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
-    FileDescriptor opened(
-        uninterrupted([&name] { return ::open(name.constData(), Flags, S_IRUSR | S_IWUSR); }));
+    FileDescriptor opened(uninterrupted(
+        [&name] { return fileCalls().openat(AT_FDCWD, name.constData(), Flags, S_IRUSR | S_IWUSR); }));
     if (!opened.isValid())
         return statusFromErrno(errno, Operation);
     struct stat status = {};
-    if (::fstat(opened.get(), &status) != 0)
+    if (fileCalls().fstat(opened.get(), &status) != 0)
         return statusFromErrno(errno, Operation);
     if (fileKindFromMode(status.st_mode) != FileKind::Regular)
         return Status{CannotAccessFile, 0, Operation};

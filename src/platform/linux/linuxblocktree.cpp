@@ -1,11 +1,13 @@
 #include "platform/linux/linuxblocktree.h"
 
 #include "platform/filenames.h"
+#include "platform/linux/linuxfilecalls.h"
 
 #include <QDir>
 #include <QFileInfo>
 #include <QSet>
 
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <sys/sysmacros.h>
 
@@ -42,7 +44,7 @@ QString BlockTree::node(const QByteArray &device) const
 QByteArray BlockTree::deviceOfNode(const QString &path)
 {
     struct stat info = {};
-    if (::stat(encodeName(path).constData(), &info) != 0 || !S_ISBLK(info.st_mode))
+    if (fileCalls().fstatat(AT_FDCWD, encodeName(path).constData(), &info, 0) != 0 || !S_ISBLK(info.st_mode))
         return {};
     return QByteArray::number(major(info.st_rdev)) + ':' + QByteArray::number(minor(info.st_rdev));
 }

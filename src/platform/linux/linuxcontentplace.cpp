@@ -1,6 +1,8 @@
 #include "platform/linux/linuxcontentplace.h"
 
+#include "platform/linux/linuxdevicecalls.h"
 #include "platform/linux/linuxerrnotable.h"
+#include "platform/linux/linuxfilecalls.h"
 #include "platform/linux/linuxfiledescriptor.h"
 
 #include <QByteArray>
@@ -121,7 +123,7 @@ Result<std::optional<QList<FileExtent>>> nextExtents(int file, qint64 from, bool
     head.fm_flags = FIEMAP_FLAG_SYNC;
     head.fm_extent_count = AtOnce;
     std::memcpy(request.bytes.data(), &head, sizeof head);
-    if (uninterrupted([&] { return ::ioctl(file, FS_IOC_FIEMAP, request.bytes.data()); }) != 0) {
+    if (uninterrupted([&] { return deviceCalls().ioctl(file, FS_IOC_FIEMAP, request.bytes.data()); }) != 0) {
         if (isUnsupported(errno))
             return std::optional<QList<FileExtent>>();
         return statusFromErrno(errno, "FS_IOC_FIEMAP");
@@ -191,19 +193,19 @@ ContentPlace placeOf(const QList<FileExtent> &extents, qint64 size)
 Result<ContentPlace> contentPlaceOf(int file)
 {
     struct stat status = {};
-    if (::fstat(file, &status) != 0)
+    if (fileCalls().fstat(file, &status) != 0)
         return statusFromErrno(errno, "fstat");
     const bool isFolder = S_ISDIR(status.st_mode);
     if (!isFolder && status.st_size <= 0)
         return ContentPlace{.elsewhere = {}, .bytes = 0};
     struct statfs volume = {};
-    if (::fstatfs(file, &volume) != 0)
+    if (fileCalls().fstatfs(file, &volume) != 0)
         return statusFromErrno(errno, "fstatfs");
     FileTraits traits;
     traits.fileSystem = static_cast<quint32>(volume.f_type);
     // Declared with a long, written as an int.
     int flags = 0;
-    if (::ioctl(file, FS_IOC_GETFLAGS, &flags) == 0)
+    if (deviceCalls().ioctl(file, FS_IOC_GETFLAGS, &flags) == 0)
         traits.flags = static_cast<quint32>(flags);
     traits.journalsData = traits.fileSystem == EXT4_SUPER_MAGIC && journalsData(status.st_dev);
     // Folders show no extents where their files do.

@@ -2,6 +2,8 @@
 
 #include "platform/filenames.h"
 #include "platform/linux/linuxblocktree.h"
+#include "platform/linux/linuxdevicecalls.h"
+#include "platform/linux/linuxfilecalls.h"
 #include "platform/linux/linuxfiledescriptor.h"
 #include "platform/linux/linuxudevdatabase.h"
 
@@ -25,9 +27,10 @@ bool isMemberOfSomething(const SystemTree &tree, const QByteArray &device)
 // The device whose file system holds the file behind a loop device; empty when that cannot be told.
 QByteArray deviceBehindLoop(const QString &node)
 {
-    const FileDescriptor loop(::open(encodeName(node).constData(), O_RDONLY | O_CLOEXEC));
+    const FileDescriptor loop(
+        fileCalls().openat(AT_FDCWD, encodeName(node).constData(), O_RDONLY | O_CLOEXEC, 0));
     loop_info64 info = {};
-    if (!loop.isValid() || ::ioctl(loop.get(), LOOP_GET_STATUS64, &info) != 0)
+    if (!loop.isValid() || deviceCalls().ioctl(loop.get(), LOOP_GET_STATUS64, &info) != 0)
         return {};
     return QByteArray::number(major(info.lo_device)) + ':' + QByteArray::number(minor(info.lo_device));
 }

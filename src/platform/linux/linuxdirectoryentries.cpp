@@ -1,6 +1,7 @@
 #include "platform/linux/linuxdirectoryentries.h"
 
 #include "platform/linux/linuxerrnotable.h"
+#include "platform/linux/linuxfilecalls.h"
 #include "platform/linux/linuxfilekind.h"
 
 #include <dirent.h>
@@ -25,7 +26,7 @@ Result<FileKind> kindOf(DIR *stream, const dirent &entry)
         return fileKindFromMode(DTTOIF(entry.d_type));
     const int folder = ::dirfd(stream);
     struct stat file = {};
-    if (folder < 0 || ::fstatat(folder, entry.d_name, &file, AT_SYMLINK_NOFOLLOW) != 0)
+    if (folder < 0 || fileCalls().fstatat(folder, entry.d_name, &file, AT_SYMLINK_NOFOLLOW) != 0)
         return statusFromErrno(errno, "fstatat");
     return fileKindFromMode(file.st_mode);
 }
@@ -34,14 +35,14 @@ Result<FileKind> kindOf(DIR *stream, const dirent &entry)
 
 Status readEntries(FileDescriptor folder, const EntryVisitor &visit)
 {
-    const std::unique_ptr<DIR, CloseStream> stream(::fdopendir(folder.get()));
+    const std::unique_ptr<DIR, CloseStream> stream(fileCalls().fdopendir(folder.get()));
     if (!stream)
         return statusFromErrno(errno, "fdopendir");
     folder.release();
     while (true) {
         errno = 0;
         // NOLINTNEXTLINE(concurrency-mt-unsafe): the stream is this call's own
-        const dirent *const entry = ::readdir(stream.get());
+        const dirent *const entry = fileCalls().readdir(stream.get());
         if (!entry)
             return errno == 0 ? Status{} : statusFromErrno(errno, "readdir");
         const std::string_view name(entry->d_name);

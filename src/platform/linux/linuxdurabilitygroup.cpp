@@ -1,6 +1,8 @@
 #include "platform/linux/linuxdurabilitygroup.h"
 
+#include "platform/linux/linuxdevicecalls.h"
 #include "platform/linux/linuxerrnotable.h"
+#include "platform/linux/linuxfilecalls.h"
 
 #include <QString>
 #include <QVersionNumber>
@@ -42,7 +44,7 @@ bool isOnMount([[maybe_unused]] const struct statx &found, [[maybe_unused]] quin
 bool isOnRealtimeDevice(int file)
 {
     struct fsxattr attributes = {};
-    return ::ioctl(file, FS_IOC_FSGETXATTR, &attributes) == 0 &&
+    return deviceCalls().ioctl(file, FS_IOC_FSGETXATTR, &attributes) == 0 &&
            (attributes.fsx_xflags & FS_XFLAG_REALTIME) != 0;
 }
 
@@ -51,7 +53,7 @@ bool isOnRealtimeDevice(int file)
 bool isKnownToFlush(int file)
 {
     struct statfs volume = {};
-    if (::fstatfs(file, &volume) != 0)
+    if (fileCalls().fstatfs(file, &volume) != 0)
         return false;
     switch (static_cast<quint32>(volume.f_type)) {
     case EXT4_SUPER_MAGIC: // ext2 and ext3 as well
@@ -73,15 +75,17 @@ Result<std::shared_ptr<DurabilityGroup>> LinuxDurabilityGroup::begin(const Linux
 {
     if (!kernelTellsLostWrites())
         return Status{NotSupported, 0, "uname"};
-    FileDescriptor opened(uninterrupted(
-        [&] { return ::openat(folder.descriptor(), ".", O_RDONLY | O_DIRECTORY | O_NONBLOCK | O_CLOEXEC); }));
+    FileDescriptor opened(uninterrupted([&] {
+        return fileCalls().openat(folder.descriptor(), ".", O_RDONLY | O_DIRECTORY | O_NONBLOCK | O_CLOEXEC,
+                                  0);
+    }));
     if (!opened.isValid())
         return statusFromErrno(errno, "openat");
     if (!isKnownToFlush(opened.get()))
         return Status{NotSupported, 0, "fstatfs"};
 #ifdef STATX_MNT_ID
     struct statx found = {};
-    if (::statx(opened.get(), "", AT_EMPTY_PATH, MountMask, &found) != 0)
+    if (fileCalls().statx(opened.get(), "", AT_EMPTY_PATH, MountMask, &found) != 0)
         return statusFromErrno(errno, "statx");
     if (found.stx_mask & STATX_MNT_ID) {
         return std::shared_ptr<DurabilityGroup>(
@@ -113,7 +117,7 @@ bool LinuxDurabilityGroup::take(int file, bool isWritten)
     if (m_isClosed)
         return false;
     if (isWritten && !m_written.isValid())
-        m_written = FileDescriptor(::fcntl(file, F_DUPFD_CLOEXEC, 0));
+        m_written = FileDescriptor(fileCalls().fcntl(file, F_DUPFD_CLOEXEC, 0));
     return !isWritten || m_written.isValid();
 }
 
@@ -123,12 +127,12 @@ Status LinuxDurabilityGroup::close()
     if (std::exchange(m_isClosed, true))
         return {InvalidParameter, 0, "closeGroup"};
     Status status;
-    if (uninterrupted([&] { return ::syncfs(m_folder.get()); }) != 0)
+    if (uninterrupted([&] { return fileCalls().syncfs(m_folder.get()); }) != 0)
         status = statusFromErrno(errno, "syncfs");
     // What was written past the page cache left nothing for syncfs to write, and may still be in the cache of
     // the drive.
     const FileDescriptor &last = m_written.isValid() ? m_written : m_folder;
-    if (uninterrupted([&] { return ::fdatasync(last.get()); }) != 0 && status)
+    if (uninterrupted([&] { return fileCalls().fdatasync(last.get()); }) != 0 && status)
         status = statusFromErrno(errno, "fdatasync");
     m_written = {};
     m_folder = {};

@@ -1,3 +1,4 @@
+#include "platform/linux/linuxfilecalls.h"
 #include "platform/linux/linuxfiles.h"
 
 #include "platform/filenames.h"
@@ -28,11 +29,12 @@ Result<QByteArray> LinuxFiles::readBeginning(const QString &path, qint64 limit)
     if (!name)
         return name.status();
     constexpr int Flags = O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
-    const FileDescriptor file(uninterrupted([&] { return ::open(name.value().constData(), Flags); }));
+    const FileDescriptor file(
+        uninterrupted([&] { return fileCalls().openat(AT_FDCWD, name.value().constData(), Flags, 0); }));
     if (!file.isValid())
         return statusFromErrno(errno, "open");
     struct stat found = {};
-    if (::fstat(file.get(), &found) != 0)
+    if (fileCalls().fstat(file.get(), &found) != 0)
         return statusFromErrno(errno, "fstat");
     if (const Status refusal = refusalOf(found); !refusal)
         return refusal;
@@ -41,7 +43,8 @@ Result<QByteArray> LinuxFiles::readBeginning(const QString &path, qint64 limit)
     qsizetype done = 0;
     while (done < bytes.size()) {
         const ssize_t count = uninterrupted([&] {
-            return ::read(file.get(), bytes.data() + done, static_cast<size_t>(bytes.size() - done));
+            return fileCalls().read(file.get(), bytes.data() + done,
+                                    static_cast<size_t>(bytes.size() - done));
         });
         if (count < 0)
             return statusFromErrno(errno, "read");

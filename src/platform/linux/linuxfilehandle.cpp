@@ -3,6 +3,7 @@
 #include "platform/linux/linuxcontentplace.h"
 #include "platform/linux/linuxdurabilitygroup.h"
 #include "platform/linux/linuxerrnotable.h"
+#include "platform/linux/linuxfilecalls.h"
 #include "platform/linux/linuxfileid.h"
 
 #include <fcntl.h>
@@ -139,7 +140,8 @@ Result<qint64> LinuxFileHandle::readDirect(qint64 position, std::byte *data, qin
     const qint64 unit = m_direct.fileUnit;
     if (position % unit == 0 && size >= unit && fitsMemory(data)) {
         const auto length = static_cast<std::size_t>(roundedDown(size, unit));
-        const ssize_t count = uninterrupted([&] { return ::pread(m_file.get(), data, length, position); });
+        const ssize_t count =
+            uninterrupted([&] { return fileCalls().pread(m_file.get(), data, length, position); });
         if (count < 0)
             return statusFromErrno(errno, "pread");
         return count;
@@ -149,7 +151,8 @@ Result<qint64> LinuxFileHandle::readDirect(qint64 position, std::byte *data, qin
     if (!provideBounce(wanted))
         return Status{NotEnoughMemory, ENOMEM, "mmap"};
     const auto length = static_cast<std::size_t>(qMin(wanted, m_bounce.size()));
-    const ssize_t count = uninterrupted([&] { return ::pread(m_file.get(), m_bounce.data(), length, from); });
+    const ssize_t count =
+        uninterrupted([&] { return fileCalls().pread(m_file.get(), m_bounce.data(), length, from); });
     if (count < 0)
         return statusFromErrno(errno, "pread");
     const qint64 usable = qBound(qint64(0), count - (position - from), size);
@@ -164,7 +167,7 @@ Result<qint64> LinuxFileHandle::readCached(qint64 position, std::byte *data, qin
     if (!m_writtenOut) {
         // Pages that are still to be written cannot be dropped. EINVAL: this file system has nothing to write
         // out.
-        if (uninterrupted([&] { return ::fdatasync(m_file.get()); }) != 0 && errno != EINVAL)
+        if (uninterrupted([&] { return fileCalls().fdatasync(m_file.get()); }) != 0 && errno != EINVAL)
             return statusFromErrno(errno, "fdatasync");
         m_writtenOut = true;
         // Without this the kernel reads ahead, and the next read would come from there.
@@ -172,7 +175,8 @@ Result<qint64> LinuxFileHandle::readCached(qint64 position, std::byte *data, qin
         dropCached();
     }
     const auto length = static_cast<std::size_t>(size);
-    const ssize_t count = uninterrupted([&] { return ::pread(m_file.get(), data, length, position); });
+    const ssize_t count =
+        uninterrupted([&] { return fileCalls().pread(m_file.get(), data, length, position); });
     if (count < 0)
         return statusFromErrno(errno, "pread");
     return count;
@@ -227,7 +231,7 @@ Result<qint64> LinuxFileHandle::writeSome(qint64 position, const std::byte *data
     // Under way now, not at the group's end, which a stop would have to wait for. A failure stays for that
     // end to tell.
     if (count && m_group)
-        ::sync_file_range(m_file.get(), position, count.value(), SYNC_FILE_RANGE_WRITE);
+        fileCalls().syncFileRange(m_file.get(), position, count.value(), SYNC_FILE_RANGE_WRITE);
     return count;
 }
 
@@ -247,7 +251,8 @@ Result<qint64> LinuxFileHandle::writeDirect(qint64 position, const std::byte *da
 Result<qint64> LinuxFileHandle::transferOut(qint64 position, const std::byte *data, qint64 size)
 {
     const auto length = static_cast<std::size_t>(size);
-    const ssize_t count = uninterrupted([&] { return ::pwrite(m_file.get(), data, length, position); });
+    const ssize_t count =
+        uninterrupted([&] { return fileCalls().pwrite(m_file.get(), data, length, position); });
     if (count < 0)
         return statusFromErrno(errno, "pwrite");
     return count;
@@ -255,7 +260,7 @@ Result<qint64> LinuxFileHandle::transferOut(qint64 position, const std::byte *da
 
 Status LinuxFileHandle::setEnd()
 {
-    if (uninterrupted([&] { return ::ftruncate(m_file.get(), m_position); }) != 0)
+    if (uninterrupted([&] { return fileCalls().ftruncate(m_file.get(), m_position); }) != 0)
         return statusFromErrno(errno, "ftruncate");
     m_endMoved = true;
     m_writtenOut = false;
@@ -274,8 +279,8 @@ Status LinuxFileHandle::flush()
         return {};
     if (m_group && !m_writeFailed && m_group->take(m_file.get(), m_written))
         return {};
-    const int answer =
-        uninterrupted([&] { return m_endMoved ? ::fsync(m_file.get()) : ::fdatasync(m_file.get()); });
+    const int answer = uninterrupted(
+        [&] { return m_endMoved ? fileCalls().fsync(m_file.get()) : fileCalls().fdatasync(m_file.get()); });
     if (answer != 0) {
         m_flushFailure = statusFromErrno(errno, m_endMoved ? "fsync" : "fdatasync");
         return m_flushFailure;
@@ -315,7 +320,7 @@ Status LinuxFileHandle::switchDirect(bool on)
 {
     if (m_directOn == on)
         return {};
-    if (::fcntl(m_file.get(), F_SETFL, on ? O_DIRECT : 0) != 0)
+    if (fileCalls().fcntl(m_file.get(), F_SETFL, on ? O_DIRECT : 0) != 0)
         return statusFromErrno(errno, "fcntl");
     m_directOn = on;
     return {};

@@ -1,6 +1,7 @@
 #include "platform/linux/linuxfileid.h"
 
 #include "platform/linux/linuxerrnotable.h"
+#include "platform/linux/linuxfilecalls.h"
 
 #include <fcntl.h>
 #include <linux/magic.h>
@@ -49,12 +50,12 @@ FileId fileIdFrom(const struct statx &file)
 Result<FileId> fileIdOf(int file)
 {
     struct statfs volume = {};
-    if (::fstatfs(file, &volume) != 0)
+    if (fileCalls().fstatfs(file, &volume) != 0)
         return statusFromErrno(errno, "fstatfs");
     if (!hasLastingNumbers(static_cast<quint32>(volume.f_type)))
         return Status{NotSupported, 0, "fstatfs"};
     struct statx found = {};
-    if (::statx(file, "", AT_EMPTY_PATH, FileIdMask, &found) != 0)
+    if (fileCalls().statx(file, "", AT_EMPTY_PATH, FileIdMask, &found) != 0)
         return statusFromErrno(errno, "statx");
     return fileIdFrom(found);
 }

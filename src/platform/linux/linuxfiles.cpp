@@ -4,6 +4,7 @@
 #include "platform/linux/linuxcontentplace.h"
 #include "platform/linux/linuxdurabilitygroup.h"
 #include "platform/linux/linuxerrnotable.h"
+#include "platform/linux/linuxfilecalls.h"
 #include "platform/linux/linuxfilehandle.h"
 #include "platform/linux/linuxfileid.h"
 #include "platform/linux/linuxfilekind.h"
@@ -55,16 +56,17 @@ FileDescriptor openFile(const EntryAt &entry, int flags)
 {
     // O_NONBLOCK in case that a pipe takes the place of the file after it was looked at.
     constexpr int Always = O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
-    return FileDescriptor(uninterrupted(
-        [&] { return ::openat(entry.folder, entry.name.constData(), flags | Always, S_IRUSR | S_IWUSR); }));
+    return FileDescriptor(uninterrupted([&] {
+        return fileCalls().openat(entry.folder, entry.name.constData(), flags | Always, S_IRUSR | S_IWUSR);
+    }));
 }
 
 // What stands under the name itself.
 Result<struct statx> look(const EntryAt &entry, unsigned int wanted)
 {
     struct statx found = {};
-    if (::statx(entry.folder, entry.name.constData(), AT_SYMLINK_NOFOLLOW | AT_NO_AUTOMOUNT,
-                wanted | MountMask, &found) != 0)
+    if (fileCalls().statx(entry.folder, entry.name.constData(), AT_SYMLINK_NOFOLLOW | AT_NO_AUTOMOUNT,
+                          wanted | MountMask, &found) != 0)
         return statusFromErrno(errno, "statx");
     return found;
 }
@@ -146,7 +148,8 @@ Result<std::unique_ptr<FileHandle>> LinuxFiles::openIn(const std::shared_ptr<Dur
         return statusFromErrno(errno, "open");
 
     struct statx opened = {};
-    if (::statx(file.get(), "", AT_EMPTY_PATH, STATX_TYPE | MountMask | DirectTransfersMask, &opened) != 0)
+    if (fileCalls().statx(file.get(), "", AT_EMPTY_PATH, STATX_TYPE | MountMask | DirectTransfersMask,
+                          &opened) != 0)
         return statusFromErrno(errno, "statx");
     if (const Status refusal = refusalOf(opened.stx_mode, "statx"); !refusal)
         return refusal;
@@ -201,7 +204,7 @@ Result<ContentPlace> LinuxFiles::contentPlace(const EntryPath &entry)
     if (!file.isValid())
         return statusFromErrno(errno, "open");
     struct statx opened = {};
-    if (::statx(file.get(), "", AT_EMPTY_PATH, STATX_TYPE | MountMask, &opened) != 0)
+    if (fileCalls().statx(file.get(), "", AT_EMPTY_PATH, STATX_TYPE | MountMask, &opened) != 0)
         return statusFromErrno(errno, "statx");
     if (const Status mounted = at.value().refusalOf(opened); !mounted)
         return mounted;
@@ -240,8 +243,8 @@ Status LinuxFiles::clearReadOnly(const EntryPath &entry)
     const mode_t mode = found.value().stx_mode;
     if (S_ISLNK(mode) || (mode & S_IWUSR))
         return {};
-    if (::fchmodat(at.value().folder, at.value().name.constData(), (mode & ALLPERMS) | S_IWUSR,
-                   AT_SYMLINK_NOFOLLOW) != 0)
+    if (fileCalls().fchmodat(at.value().folder, at.value().name.constData(), (mode & ALLPERMS) | S_IWUSR,
+                             AT_SYMLINK_NOFOLLOW) != 0)
         return statusFromErrno(errno, "fchmodat");
     return {};
 }
@@ -252,8 +255,8 @@ Status LinuxFiles::rename(const EntryPath &from, const EntryPath &to)
     const Result<EntryAt> target = locate(to);
     if (!source || !target)
         return source ? target.status() : source.status();
-    if (::renameat(source.value().folder, source.value().name.constData(), target.value().folder,
-                   target.value().name.constData()) != 0)
+    if (fileCalls().renameat(source.value().folder, source.value().name.constData(), target.value().folder,
+                             target.value().name.constData()) != 0)
         return statusFromErrno(errno, "rename");
     return {};
 }
@@ -263,7 +266,7 @@ Status LinuxFiles::remove(const EntryPath &entry)
     const Result<EntryAt> at = locate(entry);
     if (!at)
         return at.status();
-    if (::unlinkat(at.value().folder, at.value().name.constData(), 0) != 0)
+    if (fileCalls().unlinkat(at.value().folder, at.value().name.constData(), 0) != 0)
         return statusFromErrno(errno, "unlink");
     return {};
 }

@@ -2,6 +2,7 @@
 
 #include "platform/filenames.h"
 #include "platform/linux/linuxerrnotable.h"
+#include "platform/linux/linuxfilecalls.h"
 #include "platform/linux/linuxfileid.h"
 
 #include <fcntl.h>
@@ -18,7 +19,8 @@ constexpr int HoldFlags = O_PATH | O_DIRECTORY | O_CLOEXEC;
 
 FileDescriptor openFolder(int above, const char *name, int flags)
 {
-    return FileDescriptor(uninterrupted([&] { return ::openat(above, name, HoldFlags | flags); }));
+    return FileDescriptor(
+        uninterrupted([&] { return fileCalls().openat(above, name, HoldFlags | flags, 0); }));
 }
 
 // In pieces: the system takes none as long as PATH_MAX.
@@ -50,7 +52,7 @@ FileDescriptor openLongPath(QByteArray path)
 Result<struct statx> describe(int folder)
 {
     struct statx found = {};
-    if (::statx(folder, "", AT_EMPTY_PATH, STATX_TYPE | FileIdMask | MountMask, &found) != 0)
+    if (fileCalls().statx(folder, "", AT_EMPTY_PATH, STATX_TYPE | FileIdMask | MountMask, &found) != 0)
         return statusFromErrno(errno, "statx");
     return found;
 }

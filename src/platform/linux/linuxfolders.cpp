@@ -4,6 +4,7 @@
 #include "platform/linux/linuxanchoredfolder.h"
 #include "platform/linux/linuxdirectoryentries.h"
 #include "platform/linux/linuxerrnotable.h"
+#include "platform/linux/linuxfilecalls.h"
 #include "platform/linux/linuxfolderhandle.h"
 #include "platform/linux/linuxtreeremoval.h"
 #include "platform/linux/linuxvolumespace.h"
@@ -30,11 +31,13 @@ qsizetype endOfParent(const QByteArray &path, qsizetype length)
 
 Status makeFolder(const QByteArray &path)
 {
-    if (::mkdir(path.constData(), S_IRWXU) == 0)
+    if (fileCalls().mkdirat(AT_FDCWD, path.constData(), S_IRWXU) == 0)
         return {};
     const Status status = statusFromErrno(errno, "mkdir");
     struct stat found = {};
-    if (status.native == EEXIST && ::lstat(path.constData(), &found) == 0 && S_ISDIR(found.st_mode))
+    if (status.native == EEXIST &&
+        fileCalls().fstatat(AT_FDCWD, path.constData(), &found, AT_SYMLINK_NOFOLLOW) == 0 &&
+        S_ISDIR(found.st_mode))
         return {};
     return status;
 }
@@ -52,13 +55,13 @@ Status LinuxFolders::forEachEntry(const EntryPath &folder, const Visitor &visit)
     if (!at)
         return at.status();
     constexpr int Flags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC;
-    FileDescriptor opened(
-        uninterrupted([&] { return ::openat(at.value().folder, at.value().name.constData(), Flags); }));
+    FileDescriptor opened(uninterrupted(
+        [&] { return fileCalls().openat(at.value().folder, at.value().name.constData(), Flags, 0); }));
     if (!opened.isValid())
         return statusFromErrno(errno, "open");
     if (at.value().held) {
         struct statx found = {};
-        if (::statx(opened.get(), "", AT_EMPTY_PATH, MountMask, &found) != 0)
+        if (fileCalls().statx(opened.get(), "", AT_EMPTY_PATH, MountMask, &found) != 0)
             return statusFromErrno(errno, "statx");
         if (const Status mounted = at.value().refusalOf(found); !mounted)
             return mounted;
@@ -107,7 +110,7 @@ Status LinuxFolders::removeEmpty(const EntryPath &folder)
     const Result<EntryAt> at = locate(folder);
     if (!at)
         return at.status();
-    if (::unlinkat(at.value().folder, at.value().name.constData(), AT_REMOVEDIR) != 0)
+    if (fileCalls().unlinkat(at.value().folder, at.value().name.constData(), AT_REMOVEDIR) != 0)
         return statusFromErrno(errno, "rmdir");
     return {};
 }
@@ -118,7 +121,7 @@ Status LinuxFolders::removeTree(const QString &folder)
     if (!path)
         return path.status();
     struct stat found = {};
-    if (::lstat(path.value().constData(), &found) != 0)
+    if (fileCalls().fstatat(AT_FDCWD, path.value().constData(), &found, AT_SYMLINK_NOFOLLOW) != 0)
         return statusFromErrno(errno, "lstat");
     if (!S_ISDIR(found.st_mode))
         return statusFromErrno(ENOTDIR, "lstat");
@@ -128,8 +131,9 @@ Status LinuxFolders::removeTree(const QString &folder)
     if (name.isEmpty() || name == "." || name == "..")
         return {InvalidParameter, 0, "rmdir"};
     const QByteArray above = slash < 0 ? QByteArray(".") : path.value().left(slash + 1);
-    FileDescriptor parent(
-        uninterrupted([&] { return ::open(above.constData(), O_PATH | O_DIRECTORY | O_CLOEXEC); }));
+    FileDescriptor parent(uninterrupted([&] {
+        return fileCalls().openat(AT_FDCWD, above.constData(), O_PATH | O_DIRECTORY | O_CLOEXEC, 0);
+    }));
     if (!parent.isValid())
         return statusFromErrno(errno, "open");
     return TreeRemoval(std::move(parent)).run(name);
@@ -141,7 +145,7 @@ Status LinuxFolders::hide(const QString &path)
     if (!name)
         return name.status();
     struct stat found = {};
-    if (::lstat(name.value().constData(), &found) != 0)
+    if (fileCalls().fstatat(AT_FDCWD, name.value().constData(), &found, AT_SYMLINK_NOFOLLOW) != 0)
         return statusFromErrno(errno, "lstat");
     return {};
 }
@@ -152,7 +156,7 @@ Result<FolderOwner> LinuxFolders::owner(const QString &folder)
     if (!name)
         return name.status();
     struct stat found = {};
-    if (::lstat(name.value().constData(), &found) != 0)
+    if (fileCalls().fstatat(AT_FDCWD, name.value().constData(), &found, AT_SYMLINK_NOFOLLOW) != 0)
         return statusFromErrno(errno, "lstat");
     if (!S_ISDIR(found.st_mode))
         return statusFromErrno(ENOTDIR, "lstat");
@@ -165,8 +169,9 @@ Result<SpaceInfo> LinuxFolders::space(const QString &path)
     if (!name)
         return name.status();
     // statvfs() would answer for the volume that a link leads to.
-    const FileDescriptor opened(
-        uninterrupted([&] { return ::open(name.value().constData(), O_PATH | O_NOFOLLOW | O_CLOEXEC); }));
+    const FileDescriptor opened(uninterrupted([&] {
+        return fileCalls().openat(AT_FDCWD, name.value().constData(), O_PATH | O_NOFOLLOW | O_CLOEXEC, 0);
+    }));
     if (!opened.isValid())
         return statusFromErrno(errno, "open");
     return spaceOf(opened.get());

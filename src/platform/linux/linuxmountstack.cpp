@@ -1,7 +1,9 @@
 #include "platform/linux/linuxmountstack.h"
 
 #include "platform/filenames.h"
+#include "platform/linux/linuxdevicecalls.h"
 #include "platform/linux/linuxerrnotable.h"
+#include "platform/linux/linuxfilecalls.h"
 #include "platform/linux/linuxmountarguments.h"
 
 #include <QDebug>
@@ -29,7 +31,8 @@ constexpr useconds_t BetweenAttempts = 50'000;
 bool leadsTo(const QByteArray &path, int mountId)
 {
     struct statx info = {};
-    if (::statx(AT_FDCWD, path.constData(), AT_SYMLINK_NOFOLLOW | AT_NO_AUTOMOUNT, STATX_MNT_ID, &info) != 0)
+    if (fileCalls().statx(AT_FDCWD, path.constData(), AT_SYMLINK_NOFOLLOW | AT_NO_AUTOMOUNT, STATX_MNT_ID,
+                          &info) != 0)
         return false;
     // Before Linux 5.8 nobody tells.
     return (info.stx_mask & STATX_MNT_ID) == 0 || info.stx_mnt_id == static_cast<quint64>(mountId);
@@ -41,7 +44,7 @@ Status unmount(const MountEntry &entry)
     if (!leadsTo(point, entry.id))
         return {SharingViolation, 0, "statx"};
     for (int attempt = 1;; ++attempt) {
-        if (::umount2(point.constData(), UMOUNT_NOFOLLOW) == 0)
+        if (deviceCalls().umount2(point.constData(), UMOUNT_NOFOLLOW) == 0)
             return {};
         const int error = errno;
         if (error != EBUSY || attempt == Attempts)
@@ -56,8 +59,8 @@ bool mountFileSystem(const QByteArray &source, const QByteArray &point, const Mo
     // A place that is read-only becomes so later: said here, it would make the file system read-only.
     const unsigned long flags =
         arguments.fileSystemFlags | (arguments.mountFlags & ~static_cast<unsigned long>(MS_RDONLY));
-    return ::mount(source.constData(), point.constData(), entry.fileSystem.constData(), flags,
-                   arguments.data.constData()) == 0;
+    return deviceCalls().mount(source.constData(), point.constData(), entry.fileSystem.constData(), flags,
+                               arguments.data.constData()) == 0;
 }
 
 Status mountFailure()
@@ -95,7 +98,7 @@ public:
     {
         const int error = errno; // that somebody is about to look at
         if (m_isMounted)
-            ::umount2(m_path.constData(), UMOUNT_NOFOLLOW);
+            deviceCalls().umount2(m_path.constData(), UMOUNT_NOFOLLOW);
         if (m_isMade)
             ::rmdir(m_path.constData());
         errno = error;
@@ -124,7 +127,7 @@ Status mountFolder(const QByteArray &source, const QByteArray &point, const Moun
     if (!hidden.isMounted())
         return mountFailure();
     const QByteArray folder = hidden.path() + encodeName(entry.root);
-    if (::mount(folder.constData(), point.constData(), nullptr, MS_BIND, nullptr) != 0)
+    if (deviceCalls().mount(folder.constData(), point.constData(), nullptr, MS_BIND, nullptr) != 0)
         return mountFailure();
     return {};
 }
@@ -132,8 +135,8 @@ Status mountFolder(const QByteArray &source, const QByteArray &point, const Moun
 Status setUp(const QByteArray &point, const MountArguments &arguments)
 {
     const unsigned long flags = MS_REMOUNT | MS_BIND | arguments.mountFlags;
-    if (::mount(nullptr, point.constData(), nullptr, flags, nullptr) != 0 ||
-        ::mount(nullptr, point.constData(), nullptr, arguments.propagation, nullptr) != 0)
+    if (deviceCalls().mount(nullptr, point.constData(), nullptr, flags, nullptr) != 0 ||
+        deviceCalls().mount(nullptr, point.constData(), nullptr, arguments.propagation, nullptr) != 0)
         return mountFailure();
     return {};
 }
@@ -217,7 +220,7 @@ Status MountStack::mountAgain(const VolumeTable::Mount &mount) const
     const Status isSetUp = setUp(point, arguments);
     // Less guarded than it was it must not stay.
     if (!isSetUp)
-        ::umount2(point.constData(), UMOUNT_NOFOLLOW);
+        deviceCalls().umount2(point.constData(), UMOUNT_NOFOLLOW);
     return isSetUp;
 }
 

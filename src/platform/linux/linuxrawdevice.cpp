@@ -1,7 +1,9 @@
 #include "platform/linux/linuxrawdevice.h"
 
 #include "platform/filenames.h"
+#include "platform/linux/linuxdevicecalls.h"
 #include "platform/linux/linuxerrnotable.h"
+#include "platform/linux/linuxfilecalls.h"
 #include "platform/transfercheck.h"
 
 #include <QtGlobal>
@@ -38,11 +40,11 @@ Result<FileDescriptor> openBlockDevice(const QString &node, const QByteArray &de
     flags |= access == DriveAccess::ReadOnly ? O_RDONLY : O_RDWR | O_DSYNC;
     if (access == DriveAccess::Alone)
         flags |= O_EXCL;
-    FileDescriptor fd(::open(encodeName(node).constData(), flags));
+    FileDescriptor fd(fileCalls().openat(AT_FDCWD, encodeName(node).constData(), flags, 0));
     if (!fd.isValid())
         return statusFromErrno(errno, "open");
     struct stat info = {};
-    if (::fstat(fd.get(), &info) != 0)
+    if (fileCalls().fstat(fd.get(), &info) != 0)
         return statusFromErrno(errno, "fstat");
     const QByteArray opened =
         QByteArray::number(major(info.st_rdev)) + ':' + QByteArray::number(minor(info.st_rdev));
@@ -55,9 +57,9 @@ Result<BlockTransfers> BlockTransfers::on(FileDescriptor fd)
 {
     quint64 size = 0;
     int sector = 0;
-    if (::ioctl(fd.get(), BLKGETSIZE64, &size) != 0)
+    if (deviceCalls().ioctl(fd.get(), BLKGETSIZE64, &size) != 0)
         return statusFromErrno(errno, "BLKGETSIZE64");
-    if (::ioctl(fd.get(), BLKSSZGET, &sector) != 0)
+    if (deviceCalls().ioctl(fd.get(), BLKSSZGET, &sector) != 0)
         return statusFromErrno(errno, "BLKSSZGET");
     if (sector <= 0)
         return Status{NotReady, 0, "BLKSSZGET"};
@@ -79,8 +81,8 @@ Result<qint64> BlockTransfers::read(void *data, qint64 size)
         return refusal;
     qint64 done = 0;
     while (done < size) {
-        const ssize_t count = ::pread(m_fd.get(), static_cast<char *>(data) + done,
-                                      static_cast<size_t>(size - done), m_position);
+        const ssize_t count = fileCalls().pread(m_fd.get(), static_cast<char *>(data) + done,
+                                                static_cast<size_t>(size - done), m_position);
         if (count < 0 && errno == EINTR)
             continue;
         if (count < 0)
@@ -103,8 +105,8 @@ Result<qint64> BlockTransfers::write(const void *data, qint64 size)
     const qint64 wanted = std::min(size, room);
     qint64 done = 0;
     while (done < wanted) {
-        const ssize_t count = ::pwrite(m_fd.get(), static_cast<const char *>(data) + done,
-                                       static_cast<size_t>(wanted - done), m_position);
+        const ssize_t count = fileCalls().pwrite(m_fd.get(), static_cast<const char *>(data) + done,
+                                                 static_cast<size_t>(wanted - done), m_position);
         if (count < 0 && errno == EINTR)
             continue;
         if (count < 0)
@@ -119,7 +121,7 @@ Result<qint64> BlockTransfers::write(const void *data, qint64 size)
 
 Status BlockTransfers::flush()
 {
-    if (::fdatasync(m_fd.get()) != 0)
+    if (fileCalls().fdatasync(m_fd.get()) != 0)
         return statusFromErrno(errno, "fdatasync");
     return {};
 }

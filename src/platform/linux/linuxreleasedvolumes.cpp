@@ -1,5 +1,7 @@
 #include "platform/linux/linuxreleasedvolumes.h"
 
+#include "platform/linux/linuxdevicecalls.h"
+
 #include <QDebug>
 #include <QSet>
 
@@ -40,7 +42,7 @@ Status LinuxReleasedVolumes::keep()
     m_isSettled = true;
     // Partitions that are gone would still be offered for mounting. A drive without partitions refuses, and
     // nothing depends on it.
-    if (m_drive.isValid() && ::ioctl(m_drive.get(), BLKRRPART) != 0)
+    if (m_drive.isValid() && deviceCalls().ioctl(m_drive.get(), BLKRRPART, nullptr) != 0)
         qDebug() << "[Mounts] The partition table was not read anew";
     m_drive = {};
     return {};

@@ -2,6 +2,7 @@
 
 #include "platform/linux/linuxdirectoryentries.h"
 #include "platform/linux/linuxerrnotable.h"
+#include "platform/linux/linuxfilecalls.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -35,7 +36,7 @@ Status TreeRemoval::run(const QByteArray &name)
 Result<TreeRemoval::Description> TreeRemoval::describe(const FileDescriptor &folder) const
 {
     struct statx file = {};
-    if (::statx(folder.get(), "", AT_EMPTY_PATH, STATX_INO, &file) != 0)
+    if (fileCalls().statx(folder.get(), "", AT_EMPTY_PATH, STATX_INO, &file) != 0)
         return statusFromErrno(errno, "statx");
     Description description;
     description.identity = {::makedev(file.stx_dev_major, file.stx_dev_minor), file.stx_ino};
@@ -51,12 +52,12 @@ Result<TreeRemoval::Description> TreeRemoval::describe(const FileDescriptor &fol
 // Most folders are empty when their turn comes, and a mount point is refused here without looking inside.
 void TreeRemoval::removeFolder(const QByteArray &name)
 {
-    if (::unlinkat(m_current.get(), name.constData(), AT_REMOVEDIR) == 0 || isAbsentErrno(errno))
+    if (fileCalls().unlinkat(m_current.get(), name.constData(), AT_REMOVEDIR) == 0 || isAbsentErrno(errno))
         return;
     const Status status = statusFromErrno(errno, "unlinkat");
     const bool isTop = m_levels.empty();
     if (status.native == ENOTDIR && !isTop) { // a link or file by now
-        if (::unlinkat(m_current.get(), name.constData(), 0) != 0 && !isAbsentErrno(errno))
+        if (fileCalls().unlinkat(m_current.get(), name.constData(), 0) != 0 && !isAbsentErrno(errno))
             note(statusFromErrno(errno, "unlinkat"));
     } else if (status.native == ENOTDIR || (status.native == EBUSY && !isTop)) {
         note(status);
@@ -68,7 +69,8 @@ void TreeRemoval::removeFolder(const QByteArray &name)
 void TreeRemoval::enter(const QByteArray &name, const Status &whyNotRemoved)
 {
     constexpr int Flags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC;
-    FileDescriptor folder(uninterrupted([&] { return ::openat(m_current.get(), name.constData(), Flags); }));
+    FileDescriptor folder(
+        uninterrupted([&] { return fileCalls().openat(m_current.get(), name.constData(), Flags, 0); }));
     if (!folder.isValid()) {
         if (!isAbsentErrno(errno))
             note(statusFromErrno(errno, "openat"));
@@ -90,7 +92,7 @@ void TreeRemoval::enter(const QByteArray &name, const Status &whyNotRemoved)
 // that is under way differs between file systems.
 void TreeRemoval::emptyCurrent(std::vector<QByteArray> &folders)
 {
-    FileDescriptor listed(::fcntl(m_current.get(), F_DUPFD_CLOEXEC, 0));
+    FileDescriptor listed(fileCalls().fcntl(m_current.get(), F_DUPFD_CLOEXEC, 0));
     if (!listed.isValid()) {
         note(statusFromErrno(errno, "fcntl"));
         return;
@@ -102,7 +104,7 @@ void TreeRemoval::emptyCurrent(std::vector<QByteArray> &folders)
     });
     note(seen);
     for (const QByteArray &name : others) {
-        if (::unlinkat(m_current.get(), name.constData(), 0) == 0 || isAbsentErrno(errno))
+        if (fileCalls().unlinkat(m_current.get(), name.constData(), 0) == 0 || isAbsentErrno(errno))
             continue;
         note(statusFromErrno(errno, "unlinkat"));
     }
@@ -110,8 +112,8 @@ void TreeRemoval::emptyCurrent(std::vector<QByteArray> &folders)
 
 Status TreeRemoval::leave()
 {
-    FileDescriptor above(
-        uninterrupted([&] { return ::openat(m_current.get(), "..", O_PATH | O_DIRECTORY | O_CLOEXEC); }));
+    FileDescriptor above(uninterrupted(
+        [&] { return fileCalls().openat(m_current.get(), "..", O_PATH | O_DIRECTORY | O_CLOEXEC, 0); }));
     if (!above.isValid())
         return statusFromErrno(errno, "openat");
     const Level level = std::move(m_levels.back());
@@ -123,7 +125,8 @@ Status TreeRemoval::leave()
         return {GeneralFailure, 0, "openat"};
     m_current = std::move(above);
     m_identity = level.parent;
-    if (::unlinkat(m_current.get(), level.name.constData(), AT_REMOVEDIR) != 0 && !isAbsentErrno(errno))
+    if (fileCalls().unlinkat(m_current.get(), level.name.constData(), AT_REMOVEDIR) != 0 &&
+        !isAbsentErrno(errno))
         note(statusFromErrno(errno, "unlinkat"));
     return {};
 }

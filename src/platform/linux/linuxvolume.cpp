@@ -1,6 +1,7 @@
 #include "platform/linux/linuxvolume.h"
 
 #include "platform/filenames.h"
+#include "platform/linux/linuxdevicecalls.h"
 #include "platform/linux/linuxerrnotable.h"
 
 #include <QSet>
@@ -111,7 +112,7 @@ Status LinuxVolumeDevice::unmountEverywhere()
 {
     Status first;
     for (const QString &point : m_table.mountPointsOf(m_device)) {
-        if (::umount2(encodeName(point).constData(), UMOUNT_NOFOLLOW) != 0 && first.ok())
+        if (deviceCalls().umount2(encodeName(point).constData(), UMOUNT_NOFOLLOW) != 0 && first.ok())
             first = statusFromErrno(errno, "umount2");
     }
     return first;

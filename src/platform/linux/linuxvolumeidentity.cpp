@@ -2,6 +2,7 @@
 
 #include "platform/filenames.h"
 #include "platform/linux/linuxerrnotable.h"
+#include "platform/linux/linuxfilecalls.h"
 #include "platform/linux/linuxfiledescriptor.h"
 #include "platform/linux/linuxfileid.h"
 #include "platform/linux/linuxudevdatabase.h"
@@ -31,10 +32,10 @@ quint64 fileSystemId(const struct statfs &volume)
 Result<QString> volumeIdentityOf(int root, const SystemTree &tree)
 {
     struct statfs volume = {};
-    if (uninterrupted([&] { return ::fstatfs(root, &volume); }) != 0)
+    if (uninterrupted([&] { return fileCalls().fstatfs(root, &volume); }) != 0)
         return statusFromErrno(errno, "fstatfs");
     struct statx found = {};
-    if (::statx(root, "", AT_EMPTY_PATH, FileIdMask, &found) != 0)
+    if (fileCalls().statx(root, "", AT_EMPTY_PATH, FileIdMask, &found) != 0)
         return statusFromErrno(errno, "statx");
     const FileId id = fileIdFrom(found);
     const QByteArray device =
@@ -51,7 +52,8 @@ Result<QString> volumeIdentityOf(int root, const SystemTree &tree)
 QString volumeIdentityAt(const QString &mountPoint, const SystemTree &tree)
 {
     const FileDescriptor root(uninterrupted([&] {
-        return ::open(encodeName(mountPoint).constData(), O_PATH | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
+        return fileCalls().openat(AT_FDCWD, encodeName(mountPoint).constData(),
+                                  O_PATH | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC, 0);
     }));
     return root.isValid() ? volumeIdentityOf(root.get(), tree).valueOr({}) : QString();
 }

@@ -1,6 +1,8 @@
 #include "platform/linux/linuxvolumelabel.h"
 
 #include "platform/filenames.h"
+#include "platform/linux/linuxdevicecalls.h"
+#include "platform/linux/linuxfilecalls.h"
 #include "platform/linux/linuxfiledescriptor.h"
 #include "platform/linux/linuxudevdatabase.h"
 
@@ -18,9 +20,10 @@ QString volumeLabel(const SystemTree &tree, const QByteArray &device, const QStr
     if (udev.contains("ID_FS_LABEL"))
         return QString::fromUtf8(udev.value("ID_FS_LABEL"));
 
-    const FileDescriptor root(::open(encodeName(mountPoint).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    const FileDescriptor root(fileCalls().openat(AT_FDCWD, encodeName(mountPoint).constData(),
+                                                 O_RDONLY | O_DIRECTORY | O_CLOEXEC, 0));
     std::array<char, FSLABEL_MAX + 1> label = {};
-    if (!root.isValid() || ::ioctl(root.get(), FS_IOC_GETFSLABEL, label.data()) != 0)
+    if (!root.isValid() || deviceCalls().ioctl(root.get(), FS_IOC_GETFSLABEL, label.data()) != 0)
         return {};
     return QString::fromUtf8(label.data());
 }

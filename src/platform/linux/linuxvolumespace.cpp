@@ -1,6 +1,7 @@
 #include "platform/linux/linuxvolumespace.h"
 
 #include "platform/linux/linuxerrnotable.h"
+#include "platform/linux/linuxfilecalls.h"
 #include "platform/linux/linuxfiledescriptor.h"
 
 #include <sys/statvfs.h>
@@ -26,7 +27,7 @@ qint64 bytesIn(quint64 blocks, quint64 blockSize)
 Result<SpaceInfo> spaceOf(int file)
 {
     struct statvfs volume = {};
-    if (uninterrupted([&] { return ::fstatvfs(file, &volume); }) != 0)
+    if (uninterrupted([&] { return fileCalls().fstatvfs(file, &volume); }) != 0)
         return statusFromErrno(errno, "fstatvfs");
     const auto available = ::geteuid() == 0 ? volume.f_bfree : volume.f_bavail;
     return SpaceInfo{.totalBytes = bytesIn(volume.f_blocks, volume.f_frsize),

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "platform/calltable.h"
+
+#include <sys/mount.h>
+
+namespace platform {
+
+/// ioctl() with the argument that this backend gives it: a table has no variable ones.
+int deviceControl(int file, unsigned long request, void *argument);
+
+/// The calls that ask open files and devices about themselves, and those that mount and unmount volumes.
+struct LinuxDeviceCalls
+{
+    int (*ioctl)(int, unsigned long, void *) = &platform::deviceControl;
+    int (*mount)(const char *, const char *, const char *, unsigned long, const void *) = &::mount;
+    int (*umount2)(const char *, int) = &::umount2;
+};
+
+/// The table in force. Any thread.
+inline const LinuxDeviceCalls &deviceCalls()
+{
+    return CallTable<LinuxDeviceCalls>::current();
+}
+
+} // namespace platform
