@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QtGlobal>
+
 QT_FORWARD_DECLARE_CLASS(QMainWindow)
 QT_FORWARD_DECLARE_CLASS(QStackedWidget)
 QT_FORWARD_DECLARE_CLASS(QVBoxLayout)
