@@ -1,8 +1,9 @@
 # cmake -DSOURCE=<src> -DTABLE="layer=lower,lower|layer=..." -P CheckLayers.cmake
 #
-# Three rules: a file of a layer includes only its own layer and those in its row of the table; headers of an
+# Four rules: a file of a layer includes only its own layer and those in its row of the table; headers of an
 # operating system appear only below src/platform/, in the folder of a backend; those of Windows only in
-# src/platform/windows/.
+# src/platform/windows/; no line asks the preprocessor for the operating system outside src/platform/, where CMake chooses
+# between two sources instead.
 cmake_minimum_required(VERSION 3.25)
 
 string(REPLACE "|" ";" rows "${TABLE}")
@@ -37,6 +38,12 @@ foreach(folder IN LISTS layers)
     layer_of(layer "${file}")
     if(NOT layer STREQUAL folder)
       continue()
+    endif()
+    if(NOT layer STREQUAL "platform")
+      file(STRINGS "${SOURCE}/${file}" lines REGEX "^[ \t]*#[ \t]*(el)?if.*(Q_OS_|_WIN32|_WIN64|__linux|__unix)")
+      foreach(line IN LISTS lines)
+        list(APPEND problems "src/${file}: '${line}' belongs below src/platform/")
+      endforeach()
     endif()
     file(STRINGS "${SOURCE}/${file}" lines REGEX "^[ \t]*#[ \t]*include")
     foreach(line IN LISTS lines)

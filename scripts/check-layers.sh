@@ -39,6 +39,8 @@ refuses engine/b.cpp '#include <unistd.h>' "'unistd.h' belongs below src/platfor
 refuses platform/b.cpp '#include <unistd.h>' "'unistd.h' belongs into a backend's folder"
 refuses engine/b.cpp '#include <windows.h>' "'windows.h' belongs below src/platform/"
 refuses platform/linux/b.cpp '#include <winioctl.h>' "'winioctl.h' belongs below src/platform/windows/"
+refuses engine/b.cpp '#ifdef Q_OS_WIN' "'#ifdef Q_OS_WIN' belongs below src/platform/"
+refuses engine/b.cpp '#elif defined(__linux__)' "belongs below src/platform/"
 refuses engine/b.cpp '#include "a.h"' 'write "a.h" as a path from src/'
 check_tree >/dev/null || fail "the layer check refuses a tree whose wrong includes are gone"
 printf 'The layer check refuses what it should.\n'

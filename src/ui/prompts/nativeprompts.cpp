@@ -1,20 +1,9 @@
 #include "ui/prompts/nativeprompts.h"
 
+#include "ui/prompts/filefilter.h"
+
 #include <QFileDialog>
 #include <QPrintDialog>
-
-namespace {
-
-// "*.*" means every file on Windows only; elsewhere it leaves out names without a dot.
-QString forThisSystem(QString filter)
-{
-#ifndef Q_OS_WIN
-    filter.replace(QLatin1String("*.*"), QLatin1String("*"));
-#endif
-    return filter;
-}
-
-} // namespace
 
 QMessageBox::StandardButton NativePrompts::show(QWidget *parent, const Box &box)
 {
@@ -39,13 +28,13 @@ void NativePrompts::withdraw()
 QString NativePrompts::fileToSave(QWidget *parent, const QString &caption, const QString &proposal,
                                   const QString &filter)
 {
-    return QFileDialog::getSaveFileName(parent, caption, proposal, forThisSystem(filter));
+    return QFileDialog::getSaveFileName(parent, caption, proposal, filterForThisSystem(filter));
 }
 
 // Links and shortcuts are not resolved, because the user did not choose their destinations.
 QStringList NativePrompts::filesToOpen(QWidget *parent, const QString &caption, const QString &filter)
 {
-    return QFileDialog::getOpenFileNames(parent, caption, QString(), forThisSystem(filter), nullptr,
+    return QFileDialog::getOpenFileNames(parent, caption, QString(), filterForThisSystem(filter), nullptr,
                                          QFileDialog::DontResolveSymlinks);
 }
 

@@ -1,0 +1,6 @@
+#include "ui/prompts/filefilter.h"
+
+QString filterForThisSystem(QString filter)
+{
+    return filter;
+}
