@@ -56,9 +56,12 @@ QStringList TargetText::freeSpace(const DiskInfo &disk, const PartitionInfo &par
 
 QString TargetText::amount(quint64 files, quint64 bytes, bool isComplete)
 {
-    const QString atLeast = isComplete ? QString() : tr("at least ");
-    const QString count = files == 1 ? tr("1 file") : tr("%1 files").arg(files);
-    return tr("%1%2, %3").arg(atLeast, count, formatSize(static_cast<qint64>(bytes)));
+    // Whole sentences, as languages differ in the order of their parts.
+    const QString size = formatSize(static_cast<qint64>(bytes));
+    if (files == 1)
+        return isComplete ? tr("1 file, %1").arg(size) : tr("at least 1 file, %1").arg(size);
+    const QString text = isComplete ? tr("%1 files, %2") : tr("at least %1 files, %2");
+    return text.arg(QString::number(files), size);
 }
 
 QStringList TargetText::beginningOf(qsizetype count, const std::function<QString(qsizetype)> &lineOf)

@@ -103,6 +103,7 @@ void tst_TargetText::amounts_data()
     QTest::newRow("none") << quint64(0) << true << u"0 files, 1.00 KB"_s;
     QTest::newRow("one") << quint64(1) << true << u"1 file, 1.00 KB"_s;
     QTest::newRow("many") << quint64(12) << true << u"12 files, 1.00 KB"_s;
+    QTest::newRow("not all seen, one so far") << quint64(1) << false << u"at least 1 file, 1.00 KB"_s;
     QTest::newRow("not all seen") << quint64(12) << false << u"at least 12 files, 1.00 KB"_s;
 }
 
