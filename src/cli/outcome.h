@@ -16,8 +16,8 @@ struct Refusal : ::Refusal
     ExitCode code = Refused;
 
     Refusal() = default;
-    Refusal(ExitCode exitCode, QString message)
-        : ::Refusal{std::move(message)}
+    Refusal(ExitCode exitCode, QString words)
+        : ::Refusal{std::move(words)}
         , code(exitCode)
     {}
     Refusal(::Refusal refusal) // NOLINT(google-explicit-constructor): a job that must not start is refused

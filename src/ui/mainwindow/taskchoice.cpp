@@ -4,7 +4,7 @@
 #include "model/wipetask.h"
 #include "platform/files.h"
 #include "platform/platform.h"
-#include "services/recyclebininfo.h"
+#include "services/trash/recyclebininfo.h"
 #include "ui/disks/diskselectpage.h"
 #include "ui/files/fileselectpage.h"
 #include "ui/mainwindow/recyclebinflow.h"
