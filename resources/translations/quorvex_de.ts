@@ -821,10 +821,6 @@
         <translation>Keine echten Datenträger auflisten oder öffnen</translation>
     </message>
     <message>
-        <source>Language: en fr de ja es ko nl pt it zh_TW zh_CN (default: the system&apos;s)</source>
-        <translation>Sprache: en fr de ja es ko nl pt it zh_TW zh_CN (Vorgabe: die des Systems)</translation>
-    </message>
-    <message>
         <source>Print errors and the final line only</source>
         <translation>Nur Fehler und die letzte Zeile ausgeben</translation>
     </message>
@@ -1411,6 +1407,10 @@
     <message>
         <source>Recycle Bin of %1</source>
         <translation>Papierkorb von %1</translation>
+    </message>
+    <message>
+        <source>Language: %1 (default: the system&apos;s)</source>
+        <translation>Sprache: %1 (Vorgabe: die des Systems)</translation>
     </message>
 </context>
 <context>
@@ -3133,24 +3133,24 @@ Möchten Sie den freien Speicherplatz löschen, damit dies nicht mehr möglich i
         <translation>keine eingehängten Volumes</translation>
     </message>
     <message>
-        <source>at least </source>
-        <translation>mindestens </translation>
-    </message>
-    <message>
-        <source>1 file</source>
-        <translation>1 Datei</translation>
-    </message>
-    <message>
-        <source>%1 files</source>
-        <translation>%1 Dateien</translation>
-    </message>
-    <message>
-        <source>%1%2, %3</source>
-        <translation>%1%2, %3</translation>
-    </message>
-    <message>
         <source>and %1 more</source>
         <translation>und %1 weitere</translation>
+    </message>
+    <message>
+        <source>1 file, %1</source>
+        <translation>1 Datei, %1</translation>
+    </message>
+    <message>
+        <source>at least 1 file, %1</source>
+        <translation>mindestens 1 Datei, %1</translation>
+    </message>
+    <message>
+        <source>%1 files, %2</source>
+        <translation>%1 Dateien, %2</translation>
+    </message>
+    <message>
+        <source>at least %1 files, %2</source>
+        <translation>mindestens %1 Dateien, %2</translation>
     </message>
 </context>
 <context>

@@ -821,10 +821,6 @@
         <translation>List and open no real drive</translation>
     </message>
     <message>
-        <source>Language: en fr de ja es ko nl pt it zh_TW zh_CN (default: the system&apos;s)</source>
-        <translation>Language: en fr de ja es ko nl pt it zh_TW zh_CN (default: the system&apos;s)</translation>
-    </message>
-    <message>
         <source>Print errors and the final line only</source>
         <translation>Print errors and the final line only</translation>
     </message>
@@ -1411,6 +1407,10 @@
     <message>
         <source>Recycle Bin of %1</source>
         <translation>Recycle Bin of %1</translation>
+    </message>
+    <message>
+        <source>Language: %1 (default: the system&apos;s)</source>
+        <translation>Language: %1 (default: the system&apos;s)</translation>
     </message>
 </context>
 <context>
@@ -3133,24 +3133,24 @@ Would you like to wipe free space to ensure they cannot be recovered?</translati
         <translation>no mounted volumes</translation>
     </message>
     <message>
-        <source>at least </source>
-        <translation>at least </translation>
-    </message>
-    <message>
-        <source>1 file</source>
-        <translation>1 file</translation>
-    </message>
-    <message>
-        <source>%1 files</source>
-        <translation>%1 files</translation>
-    </message>
-    <message>
-        <source>%1%2, %3</source>
-        <translation>%1%2, %3</translation>
-    </message>
-    <message>
         <source>and %1 more</source>
         <translation>and %1 more</translation>
+    </message>
+    <message>
+        <source>1 file, %1</source>
+        <translation>1 file, %1</translation>
+    </message>
+    <message>
+        <source>at least 1 file, %1</source>
+        <translation>at least 1 file, %1</translation>
+    </message>
+    <message>
+        <source>%1 files, %2</source>
+        <translation>%1 files, %2</translation>
+    </message>
+    <message>
+        <source>at least %1 files, %2</source>
+        <translation>at least %1 files, %2</translation>
     </message>
 </context>
 <context>

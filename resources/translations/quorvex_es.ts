@@ -821,10 +821,6 @@
         <translation>No muestra ni abre ninguna unidad real</translation>
     </message>
     <message>
-        <source>Language: en fr de ja es ko nl pt it zh_TW zh_CN (default: the system&apos;s)</source>
-        <translation>Idioma: en fr de ja es ko nl pt it zh_TW zh_CN (por defecto: el del sistema)</translation>
-    </message>
-    <message>
         <source>Print errors and the final line only</source>
         <translation>Muestra solo los errores y la línea final</translation>
     </message>
@@ -1411,6 +1407,10 @@
     <message>
         <source>Recycle Bin of %1</source>
         <translation>Papelera de %1</translation>
+    </message>
+    <message>
+        <source>Language: %1 (default: the system&apos;s)</source>
+        <translation>Idioma: %1 (por defecto: el del sistema)</translation>
     </message>
 </context>
 <context>
@@ -3133,24 +3133,24 @@ Sin embargo, es posible que los archivos eliminados anteriormente aún se puedan
         <translation>sin volúmenes montados</translation>
     </message>
     <message>
-        <source>at least </source>
-        <translation>al menos </translation>
-    </message>
-    <message>
-        <source>1 file</source>
-        <translation>1 archivo</translation>
-    </message>
-    <message>
-        <source>%1 files</source>
-        <translation>%1 archivos</translation>
-    </message>
-    <message>
-        <source>%1%2, %3</source>
-        <translation>%1%2, %3</translation>
-    </message>
-    <message>
         <source>and %1 more</source>
         <translation>y %1 más</translation>
+    </message>
+    <message>
+        <source>1 file, %1</source>
+        <translation>1 archivo, %1</translation>
+    </message>
+    <message>
+        <source>at least 1 file, %1</source>
+        <translation>al menos 1 archivo, %1</translation>
+    </message>
+    <message>
+        <source>%1 files, %2</source>
+        <translation>%1 archivos, %2</translation>
+    </message>
+    <message>
+        <source>at least %1 files, %2</source>
+        <translation>al menos %1 archivos, %2</translation>
     </message>
 </context>
 <context>

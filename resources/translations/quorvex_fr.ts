@@ -821,10 +821,6 @@
         <translation>Ne liste et n&apos;ouvre aucun disque réel</translation>
     </message>
     <message>
-        <source>Language: en fr de ja es ko nl pt it zh_TW zh_CN (default: the system&apos;s)</source>
-        <translation>Langue&#xa0;: en fr de ja es ko nl pt it zh_TW zh_CN (par défaut&#xa0;: celle du système)</translation>
-    </message>
-    <message>
         <source>Print errors and the final line only</source>
         <translation>N&apos;affiche que les erreurs et la ligne finale</translation>
     </message>
@@ -1411,6 +1407,10 @@
     <message>
         <source>Recycle Bin of %1</source>
         <translation>Corbeille de %1</translation>
+    </message>
+    <message>
+        <source>Language: %1 (default: the system&apos;s)</source>
+        <translation>Langue&#xa0;: %1 (par défaut&#xa0;: celle du système)</translation>
     </message>
 </context>
 <context>
@@ -3133,24 +3133,24 @@ Voulez-vous effacer l&apos;espace libre afin qu&apos;ils ne puissent pas être r
         <translation>aucun volume monté</translation>
     </message>
     <message>
-        <source>at least </source>
-        <translation>au moins </translation>
-    </message>
-    <message>
-        <source>1 file</source>
-        <translation>1 fichier</translation>
-    </message>
-    <message>
-        <source>%1 files</source>
-        <translation>%1 fichiers</translation>
-    </message>
-    <message>
-        <source>%1%2, %3</source>
-        <translation>%1%2, %3</translation>
-    </message>
-    <message>
         <source>and %1 more</source>
         <translation>et %1 de plus</translation>
+    </message>
+    <message>
+        <source>1 file, %1</source>
+        <translation>1 fichier, %1</translation>
+    </message>
+    <message>
+        <source>at least 1 file, %1</source>
+        <translation>au moins 1 fichier, %1</translation>
+    </message>
+    <message>
+        <source>%1 files, %2</source>
+        <translation>%1 fichiers, %2</translation>
+    </message>
+    <message>
+        <source>at least %1 files, %2</source>
+        <translation>au moins %1 fichiers, %2</translation>
     </message>
 </context>
 <context>

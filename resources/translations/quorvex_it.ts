@@ -821,10 +821,6 @@
         <translation>Non elenca né apre alcun disco reale</translation>
     </message>
     <message>
-        <source>Language: en fr de ja es ko nl pt it zh_TW zh_CN (default: the system&apos;s)</source>
-        <translation>Lingua: en fr de ja es ko nl pt it zh_TW zh_CN (predefinita: quella del sistema)</translation>
-    </message>
-    <message>
         <source>Print errors and the final line only</source>
         <translation>Mostra solo gli errori e la riga finale</translation>
     </message>
@@ -1411,6 +1407,10 @@
     <message>
         <source>Recycle Bin of %1</source>
         <translation>Cestino di %1</translation>
+    </message>
+    <message>
+        <source>Language: %1 (default: the system&apos;s)</source>
+        <translation>Lingua: %1 (predefinita: quella del sistema)</translation>
     </message>
 </context>
 <context>
@@ -3133,24 +3133,24 @@ Cancellare lo spazio libero in modo che non possano essere recuperati?</translat
         <translation>nessun volume montato</translation>
     </message>
     <message>
-        <source>at least </source>
-        <translation>almeno </translation>
-    </message>
-    <message>
-        <source>1 file</source>
-        <translation>1 file</translation>
-    </message>
-    <message>
-        <source>%1 files</source>
-        <translation>%1 file</translation>
-    </message>
-    <message>
-        <source>%1%2, %3</source>
-        <translation>%1%2, %3</translation>
-    </message>
-    <message>
         <source>and %1 more</source>
         <translation>e altri %1</translation>
+    </message>
+    <message>
+        <source>1 file, %1</source>
+        <translation>1 file, %1</translation>
+    </message>
+    <message>
+        <source>at least 1 file, %1</source>
+        <translation>almeno 1 file, %1</translation>
+    </message>
+    <message>
+        <source>%1 files, %2</source>
+        <translation>%1 file, %2</translation>
+    </message>
+    <message>
+        <source>at least %1 files, %2</source>
+        <translation>almeno %1 file, %2</translation>
     </message>
 </context>
 <context>

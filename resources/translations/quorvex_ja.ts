@@ -821,10 +821,6 @@
         <translation>実際のドライブは一覧に含めず、開きもしない</translation>
     </message>
     <message>
-        <source>Language: en fr de ja es ko nl pt it zh_TW zh_CN (default: the system&apos;s)</source>
-        <translation>言語: en fr de ja es ko nl pt it zh_TW zh_CN（既定: システムの言語）</translation>
-    </message>
-    <message>
         <source>Print errors and the final line only</source>
         <translation>エラーと最終行のみを表示</translation>
     </message>
@@ -1411,6 +1407,10 @@
     <message>
         <source>Recycle Bin of %1</source>
         <translation>%1 のごみ箱</translation>
+    </message>
+    <message>
+        <source>Language: %1 (default: the system&apos;s)</source>
+        <translation>言語: %1（既定: システムの言語）</translation>
     </message>
 </context>
 <context>
@@ -3133,24 +3133,24 @@ Would you like to wipe free space to ensure they cannot be recovered?</source>
         <translation>マウントされたボリュームなし</translation>
     </message>
     <message>
-        <source>at least </source>
-        <translation>少なくとも </translation>
-    </message>
-    <message>
-        <source>1 file</source>
-        <translation>1 個のファイル</translation>
-    </message>
-    <message>
-        <source>%1 files</source>
-        <translation>%1 個のファイル</translation>
-    </message>
-    <message>
-        <source>%1%2, %3</source>
-        <translation>%1%2, %3</translation>
-    </message>
-    <message>
         <source>and %1 more</source>
         <translation>ほか %1 件</translation>
+    </message>
+    <message>
+        <source>1 file, %1</source>
+        <translation>1 個のファイル, %1</translation>
+    </message>
+    <message>
+        <source>at least 1 file, %1</source>
+        <translation>少なくとも 1 個のファイル, %1</translation>
+    </message>
+    <message>
+        <source>%1 files, %2</source>
+        <translation>%1 個のファイル, %2</translation>
+    </message>
+    <message>
+        <source>at least %1 files, %2</source>
+        <translation>少なくとも %1 個のファイル, %2</translation>
     </message>
 </context>
 <context>

@@ -821,10 +821,6 @@
         <translation>실제 드라이브를 나열하지도 열지도 않음</translation>
     </message>
     <message>
-        <source>Language: en fr de ja es ko nl pt it zh_TW zh_CN (default: the system&apos;s)</source>
-        <translation>언어: en fr de ja es ko nl pt it zh_TW zh_CN (기본값: 시스템 언어)</translation>
-    </message>
-    <message>
         <source>Print errors and the final line only</source>
         <translation>오류와 마지막 줄만 출력</translation>
     </message>
@@ -1411,6 +1407,10 @@
     <message>
         <source>Recycle Bin of %1</source>
         <translation>%1의 휴지통</translation>
+    </message>
+    <message>
+        <source>Language: %1 (default: the system&apos;s)</source>
+        <translation>언어: %1 (기본값: 시스템 언어)</translation>
     </message>
 </context>
 <context>
@@ -3133,24 +3133,24 @@ Would you like to wipe free space to ensure they cannot be recovered?</source>
         <translation>마운트된 볼륨 없음</translation>
     </message>
     <message>
-        <source>at least </source>
-        <translation>최소 </translation>
-    </message>
-    <message>
-        <source>1 file</source>
-        <translation>파일 1개</translation>
-    </message>
-    <message>
-        <source>%1 files</source>
-        <translation>파일 %1개</translation>
-    </message>
-    <message>
-        <source>%1%2, %3</source>
-        <translation>%1%2, %3</translation>
-    </message>
-    <message>
         <source>and %1 more</source>
         <translation>외 %1개</translation>
+    </message>
+    <message>
+        <source>1 file, %1</source>
+        <translation>파일 1개, %1</translation>
+    </message>
+    <message>
+        <source>at least 1 file, %1</source>
+        <translation>파일 최소 1개, %1</translation>
+    </message>
+    <message>
+        <source>%1 files, %2</source>
+        <translation>파일 %1개, %2</translation>
+    </message>
+    <message>
+        <source>at least %1 files, %2</source>
+        <translation>파일 최소 %1개, %2</translation>
     </message>
 </context>
 <context>

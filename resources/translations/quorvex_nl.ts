@@ -821,10 +821,6 @@
         <translation>Geen echte schijven tonen of openen</translation>
     </message>
     <message>
-        <source>Language: en fr de ja es ko nl pt it zh_TW zh_CN (default: the system&apos;s)</source>
-        <translation>Taal: en fr de ja es ko nl pt it zh_TW zh_CN (standaard: die van het systeem)</translation>
-    </message>
-    <message>
         <source>Print errors and the final line only</source>
         <translation>Alleen fouten en de laatste regel weergeven</translation>
     </message>
@@ -1411,6 +1407,10 @@
     <message>
         <source>Recycle Bin of %1</source>
         <translation>Prullenbak van %1</translation>
+    </message>
+    <message>
+        <source>Language: %1 (default: the system&apos;s)</source>
+        <translation>Taal: %1 (standaard: die van het systeem)</translation>
     </message>
 </context>
 <context>
@@ -3133,24 +3133,24 @@ Wilt u de vrije ruimte wissen, zodat ze niet meer kunnen worden hersteld?</trans
         <translation>geen gekoppelde volumes</translation>
     </message>
     <message>
-        <source>at least </source>
-        <translation>minstens </translation>
-    </message>
-    <message>
-        <source>1 file</source>
-        <translation>1 bestand</translation>
-    </message>
-    <message>
-        <source>%1 files</source>
-        <translation>%1 bestanden</translation>
-    </message>
-    <message>
-        <source>%1%2, %3</source>
-        <translation>%1%2, %3</translation>
-    </message>
-    <message>
         <source>and %1 more</source>
         <translation>en nog %1</translation>
+    </message>
+    <message>
+        <source>1 file, %1</source>
+        <translation>1 bestand, %1</translation>
+    </message>
+    <message>
+        <source>at least 1 file, %1</source>
+        <translation>minstens 1 bestand, %1</translation>
+    </message>
+    <message>
+        <source>%1 files, %2</source>
+        <translation>%1 bestanden, %2</translation>
+    </message>
+    <message>
+        <source>at least %1 files, %2</source>
+        <translation>minstens %1 bestanden, %2</translation>
     </message>
 </context>
 <context>

@@ -821,10 +821,6 @@
         <translation>Não mostra nem abre nenhuma unidade real</translation>
     </message>
     <message>
-        <source>Language: en fr de ja es ko nl pt it zh_TW zh_CN (default: the system&apos;s)</source>
-        <translation>Idioma: en fr de ja es ko nl pt it zh_TW zh_CN (padrão: o do sistema)</translation>
-    </message>
-    <message>
         <source>Print errors and the final line only</source>
         <translation>Mostra somente os erros e a linha final</translation>
     </message>
@@ -1411,6 +1407,10 @@
     <message>
         <source>Recycle Bin of %1</source>
         <translation>Reciclagem de %1</translation>
+    </message>
+    <message>
+        <source>Language: %1 (default: the system&apos;s)</source>
+        <translation>Idioma: %1 (padrão: o do sistema)</translation>
     </message>
 </context>
 <context>
@@ -3133,24 +3133,24 @@ Deseja apagar o espaço livre para que eles não possam ser recuperados?</transl
         <translation>nenhum volume montado</translation>
     </message>
     <message>
-        <source>at least </source>
-        <translation>pelo menos </translation>
-    </message>
-    <message>
-        <source>1 file</source>
-        <translation>1 arquivo</translation>
-    </message>
-    <message>
-        <source>%1 files</source>
-        <translation>%1 arquivos</translation>
-    </message>
-    <message>
-        <source>%1%2, %3</source>
-        <translation>%1%2, %3</translation>
-    </message>
-    <message>
         <source>and %1 more</source>
         <translation>e mais %1</translation>
+    </message>
+    <message>
+        <source>1 file, %1</source>
+        <translation>1 arquivo, %1</translation>
+    </message>
+    <message>
+        <source>at least 1 file, %1</source>
+        <translation>pelo menos 1 arquivo, %1</translation>
+    </message>
+    <message>
+        <source>%1 files, %2</source>
+        <translation>%1 arquivos, %2</translation>
+    </message>
+    <message>
+        <source>at least %1 files, %2</source>
+        <translation>pelo menos %1 arquivos, %2</translation>
     </message>
 </context>
 <context>

@@ -869,10 +869,6 @@
         <translation>不列出也不打开任何实际的驱动器</translation>
     </message>
     <message>
-        <source>Language: en fr de ja es ko nl pt it zh_TW zh_CN (default: the system&apos;s)</source>
-        <translation>语言：en fr de ja es ko nl pt it zh_TW zh_CN (默认：系统语言)</translation>
-    </message>
-    <message>
         <source>Print errors and the final line only</source>
         <translation>仅输出错误与最后一行</translation>
     </message>
@@ -1411,6 +1407,10 @@
     <message>
         <source>Recycle Bin of %1</source>
         <translation>%1 的回收站</translation>
+    </message>
+    <message>
+        <source>Language: %1 (default: the system&apos;s)</source>
+        <translation>语言：%1 (默认：系统语言)</translation>
     </message>
 </context>
 <context>
@@ -3126,24 +3126,24 @@ Would you like to wipe free space to ensure they cannot be recovered?</source>
         <translation>没有已挂载的卷</translation>
     </message>
     <message>
-        <source>at least </source>
-        <translation>至少 </translation>
-    </message>
-    <message>
-        <source>1 file</source>
-        <translation>1 个文件</translation>
-    </message>
-    <message>
-        <source>%1 files</source>
-        <translation>%1 个文件</translation>
-    </message>
-    <message>
-        <source>%1%2, %3</source>
-        <translation>%1%2，%3</translation>
-    </message>
-    <message>
         <source>and %1 more</source>
         <translation>及其他 %1 项</translation>
+    </message>
+    <message>
+        <source>1 file, %1</source>
+        <translation>1 个文件，%1</translation>
+    </message>
+    <message>
+        <source>at least 1 file, %1</source>
+        <translation>至少 1 个文件，%1</translation>
+    </message>
+    <message>
+        <source>%1 files, %2</source>
+        <translation>%1 个文件，%2</translation>
+    </message>
+    <message>
+        <source>at least %1 files, %2</source>
+        <translation>至少 %1 个文件，%2</translation>
     </message>
 </context>
 <context>

@@ -821,10 +821,6 @@
         <translation>不列出也不開啟任何實際的磁碟機</translation>
     </message>
     <message>
-        <source>Language: en fr de ja es ko nl pt it zh_TW zh_CN (default: the system&apos;s)</source>
-        <translation>語言：en fr de ja es ko nl pt it zh_TW zh_CN（預設：系統語言）</translation>
-    </message>
-    <message>
         <source>Print errors and the final line only</source>
         <translation>僅輸出錯誤與最後一行</translation>
     </message>
@@ -1411,6 +1407,10 @@
     <message>
         <source>Recycle Bin of %1</source>
         <translation>%1 的資源回收筒</translation>
+    </message>
+    <message>
+        <source>Language: %1 (default: the system&apos;s)</source>
+        <translation>語言：%1（預設：系統語言）</translation>
     </message>
 </context>
 <context>
@@ -3133,24 +3133,24 @@ Would you like to wipe free space to ensure they cannot be recovered?</source>
         <translation>沒有已掛載的磁碟區</translation>
     </message>
     <message>
-        <source>at least </source>
-        <translation>至少 </translation>
-    </message>
-    <message>
-        <source>1 file</source>
-        <translation>1 個檔案</translation>
-    </message>
-    <message>
-        <source>%1 files</source>
-        <translation>%1 個檔案</translation>
-    </message>
-    <message>
-        <source>%1%2, %3</source>
-        <translation>%1%2，%3</translation>
-    </message>
-    <message>
         <source>and %1 more</source>
         <translation>及其他 %1 項</translation>
+    </message>
+    <message>
+        <source>1 file, %1</source>
+        <translation>1 個檔案，%1</translation>
+    </message>
+    <message>
+        <source>at least 1 file, %1</source>
+        <translation>至少 1 個檔案，%1</translation>
+    </message>
+    <message>
+        <source>%1 files, %2</source>
+        <translation>%1 個檔案，%2</translation>
+    </message>
+    <message>
+        <source>at least %1 files, %2</source>
+        <translation>至少 %1 個檔案，%2</translation>
     </message>
 </context>
 <context>
