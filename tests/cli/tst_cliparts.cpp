@@ -6,6 +6,7 @@
 #include "cli/io/amounttext.h"
 #include "cli/io/outputfile.h"
 #include "cli/io/paths.h"
+#include "cli/io/permission.h"
 #include "cli/io/table.h"
 #include "cli/job/confirmation.h"
 #include "cli/job/progressline.h"
@@ -32,6 +33,8 @@ private slots:
     void aPathOfWindowsIsCompleted();
     void aPathThroughALinkAndBackIsNoticed();
     void belowAFolderIsNotBesideIt();
+    void lettersCountAsTheyDoForTheSystem();
+    void missingRightsAreHintedAt();
 
     void cellsStandBelowEachOther();
     void wideCharactersTakeTwoColumns();
@@ -123,6 +126,34 @@ void tst_CliParts::belowAFolderIsNotBesideIt()
     QVERIFY(cli::isSameOrBelow(u"/a"_s, u"/"_s));
     QVERIFY(!cli::isSameOrBelow(u"/ab"_s, u"/a"_s));
     QVERIFY(!cli::isSameOrBelow(u"/"_s, u"/a"_s));
+}
+
+void tst_CliParts::lettersCountAsTheyDoForTheSystem()
+{
+#ifdef Q_OS_WIN
+    const bool isOneFile = true;
+#else
+    const bool isOneFile = false;
+#endif
+    const QTemporaryDir folder;
+    const auto small = cli::OutputFile::at(folder.filePath(u"report.json"_s), {});
+    const auto large = cli::OutputFile::at(folder.filePath(u"REPORT.json"_s), {});
+    QVERIFY(small && large);
+    QVERIFY(small->isSameAs(*small));
+    QCOMPARE(small->isSameAs(*large), isOneFile);
+    writeFile(large->path(), "{}");
+    QCOMPARE(small->isSameAs(*large), isOneFile);
+    QCOMPARE(small->liesWithin({large->path()}), isOneFile);
+    QVERIFY(large->liesWithin({large->path()}));
+}
+
+void tst_CliParts::missingRightsAreHintedAt()
+{
+#ifdef Q_OS_WIN
+    QCOMPARE(cli::notPermitted(u"no"_s), u"no; try it as administrator"_s);
+#else
+    QCOMPARE(cli::notPermitted(u"no"_s), u"no; try it with sudo"_s);
+#endif
 }
 
 void tst_CliParts::cellsStandBelowEachOther()
