@@ -1,15 +1,16 @@
 # A layer is one static library below src/, named by its folder. This table states the layers that each layer may
 # include. Every build checks it against the #include lines and fails on a violation.
-set(QUORVEX_LAYERS model platform engine services jobs certificate ui/prompts ui/certificate ui cli)
+set(QUORVEX_LAYERS model platform engine services jobs certificate ui/style ui/prompts ui/certificate ui cli)
 set(QUORVEX_LAYER_model "")
 set(QUORVEX_LAYER_platform "")
 set(QUORVEX_LAYER_engine model platform)
 set(QUORVEX_LAYER_services model platform)
 set(QUORVEX_LAYER_jobs model platform engine services)
 set(QUORVEX_LAYER_certificate model platform)
+set(QUORVEX_LAYER_ui/style model)
 set(QUORVEX_LAYER_ui/prompts "")
-set(QUORVEX_LAYER_ui/certificate model certificate ui/prompts)
-set(QUORVEX_LAYER_ui model platform engine services jobs certificate ui/prompts ui/certificate)
+set(QUORVEX_LAYER_ui/certificate model certificate ui/style ui/prompts)
+set(QUORVEX_LAYER_ui model platform engine services jobs certificate ui/style ui/prompts ui/certificate)
 set(QUORVEX_LAYER_cli model platform engine services jobs certificate)
 
 # quorvex_layer(NAME [MOC] [RCC] [SOURCES file...] [LIBRARIES library...])

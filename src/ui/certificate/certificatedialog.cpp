@@ -2,11 +2,11 @@
 
 #include "certificate/certificaterenderer.h"
 #include "model/displaytext.h"
-#include "model/spokentext.h"
 #include "model/usersettings.h"
 #include "ui/certificate/certificatestyles.h"
 #include "ui/certificate/certificateview.h"
 #include "ui/prompts/prompts.h"
+#include "ui/style/buttons.h"
 
 #include <QFileInfo>
 #include <QFrame>
@@ -27,14 +27,11 @@ namespace {
 
 constexpr int buttonHeight = 38;
 
-QPushButton *makeButton(const QString &text, QStringView style, QWidget *parent)
+QPushButton *makeButton(const QString &text, QStringView style)
 {
-    auto *button = new QPushButton(text, parent);
-    button->setStyleSheet(style.toString());
-    button->setFixedHeight(buttonHeight);
+    auto *button = buttons::make(text, {.height = buttonHeight, .styleSheet = style.toString()});
     // An Enter key meant for the previous dialog must not export or print.
     button->setAutoDefault(false);
-    button->setAccessibleName(spokenText(text));
     return button;
 }
 
@@ -76,9 +73,9 @@ QWidget *CertificateDialog::makeButtonBar()
 {
     auto *bar = new QFrame(this);
     bar->setStyleSheet(certificatestyles::ButtonBar.toString());
-    m_exportButton = makeButton(tr("📄 Export PDF"), certificatestyles::PrimaryButton, bar);
-    m_printButton = makeButton(tr("🖨️ Print"), certificatestyles::SecondaryButton, bar);
-    m_closeButton = makeButton(tr("Close"), certificatestyles::SecondaryButton, bar);
+    m_exportButton = makeButton(tr("📄 Export PDF"), certificatestyles::PrimaryButton);
+    m_printButton = makeButton(tr("🖨️ Print"), certificatestyles::SecondaryButton);
+    m_closeButton = makeButton(tr("Close"), certificatestyles::SecondaryButton);
     connect(m_exportButton, &QPushButton::clicked, this, &CertificateDialog::onExportPdf);
     connect(m_printButton, &QPushButton::clicked, this, &CertificateDialog::onPrint);
     connect(m_closeButton, &QPushButton::clicked, this, &CertificateDialog::close);
