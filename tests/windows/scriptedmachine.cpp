@@ -2,6 +2,8 @@
 
 #include "support/testfiles.h"
 
+#include <winioctl.h>
+
 #include <QFile>
 
 namespace replies {

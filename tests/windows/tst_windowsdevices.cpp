@@ -985,7 +985,7 @@ void tst_WindowsDevices::onlyFixedAndRemovableDrivesAreLocal()
 {
     static UINT driveType;
     QVERIFY(!WindowsDevices().mountedVolumes().isEmpty());
-    Win32Calls calls = win32();
+    Win32Calls calls = Win32Calls::inForce();
     calls.getDriveType = [](LPCWSTR root) -> UINT {
         return QString::fromWCharArray(root).endsWith(u'\\') ? driveType : DRIVE_UNKNOWN;
     };
@@ -999,3 +999,5 @@ void tst_WindowsDevices::onlyFixedAndRemovableDrivesAreLocal()
 
 QUORVEX_SUITE(tst_WindowsDevices, QCoreApplication)
 #include "tst_windowsdevices.moc"
+
+#include <winioctl.h>

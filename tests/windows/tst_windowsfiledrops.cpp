@@ -2,6 +2,7 @@
 #include "platform/windows/windowsdroppedpaths.h"
 #include "support/suite.h"
 #include "windows/droppedfiles.h"
+#include "windows/win32calls.h"
 
 #include <QAbstractEventDispatcher>
 #include <QCoreApplication>
@@ -169,3 +170,5 @@ void tst_WindowsFileDrops::nobodyIsCalledWhenTheDropsAreGone()
 
 QUORVEX_SUITE(tst_WindowsFileDrops, QCoreApplication)
 #include "tst_windowsfiledrops.moc"
+
+#include <shellapi.h>

@@ -156,7 +156,7 @@ public:
             if (what != FileAttributeTagInfo)
                 return ::GetFileInformationByHandleEx(handle, what, data, size);
             BY_HANDLE_FILE_INFORMATION file = {};
-            const BOOL found = win32().getFileInformation(handle, &file);
+            const BOOL found = fileCalls().getFileInformation(handle, &file);
             *static_cast<FILE_ATTRIBUTE_TAG_INFO *>(data) = {file.dwFileAttributes, s_tag};
             return found;
         };
@@ -1317,3 +1317,5 @@ void tst_WindowsFiles::rightsAreThoseOfTheToken()
 
 QUORVEX_SUITE(tst_WindowsFiles, QCoreApplication)
 #include "tst_windowsfiles.moc"
+
+#include <winioctl.h>

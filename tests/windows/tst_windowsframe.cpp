@@ -2,6 +2,7 @@
 #include "platform/windows/windowsframemessages.h"
 #include "support/scopedvariable.h"
 #include "support/suite.h"
+#include "windows/win32calls.h"
 
 #include <QSize>
 #include <QTest>

@@ -262,3 +262,5 @@ void tst_WindowsHeldDrive::machineVolumesAreAskedAndNotOpened()
 
 QUORVEX_SUITE(tst_WindowsHeldDrive, QCoreApplication)
 #include "tst_windowshelddrive.moc"
+
+#include <winioctl.h>

@@ -2,10 +2,10 @@
 #include "support/testfiles.h"
 
 #include "platform/entrypath.h"
-#include "platform/windows/windowscalls.h"
 #include "platform/windows/windowsfiles.h"
 #include "platform/windows/windowsfolders.h"
 #include "platform/windows/windowslongpath.h"
+#include "windows/win32calls.h"
 
 #include <QCoreApplication>
 #include <QDir>

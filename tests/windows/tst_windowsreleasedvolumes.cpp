@@ -326,3 +326,5 @@ void tst_WindowsReleasedVolumes::aDriveThatStaysOfflineIsTold()
 
 QUORVEX_SUITE(tst_WindowsReleasedVolumes, QCoreApplication)
 #include "tst_windowsreleasedvolumes.moc"
+
+#include <winioctl.h>

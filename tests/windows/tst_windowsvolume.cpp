@@ -141,3 +141,5 @@ void tst_WindowsVolume::aVolumeOfManyStretchesIsWhole()
 
 QUORVEX_SUITE(tst_WindowsVolume, QCoreApplication)
 #include "tst_windowsvolume.moc"
+
+#include <winioctl.h>

@@ -1,9 +1,9 @@
 #include "engine/diskwipeworker.h"
 #include "model/wipetask.h"
-#include "platform/windows/windowscalls.h"
 #include "support/suite.h"
 #include "support/testfiles.h"
 #include "support/workerrecord.h"
+#include "windows/win32calls.h"
 
 #include <QCoreApplication>
 #include <QHash>
@@ -191,3 +191,5 @@ void tst_WineVolume::everyByteIsWrittenThroughTheVolume()
 
 QUORVEX_SUITE(tst_WineVolume, QCoreApplication)
 #include "tst_winevolume.moc"
+
+#include <winioctl.h>

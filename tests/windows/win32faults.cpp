@@ -1,5 +1,7 @@
 #include "windows/win32faults.h"
 
+#include <winioctl.h>
+
 #include <algorithm>
 #include <cstring>
 
@@ -35,7 +37,7 @@ R failureValue(First first)
 
 } // namespace
 
-template <int call, typename R, typename... Args, R (WINAPI *platform::Win32Calls::*Member)(Args...)>
+template <int call, typename Calls, typename R, typename... Args, R (WINAPI *Calls::*Member)(Args...)>
 struct Win32Faults::Hook<call, Member>
 {
     static R WINAPI invoke(Args... args);
@@ -99,7 +101,7 @@ void Win32Faults::noteResult(const QString &path, R result, Args... args)
     }
 }
 
-template <int call, typename R, typename... Args, R (WINAPI *platform::Win32Calls::*Member)(Args...)>
+template <int call, typename Calls, typename R, typename... Args, R (WINAPI *Calls::*Member)(Args...)>
 R WINAPI Win32Faults::Hook<call, Member>::invoke(Args... args)
 {
     Win32Faults &self = *s_current;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/windows/windowscalls.h"
+#include "windows/win32calls.h"
 
 #include <QByteArray>
 #include <QHash>

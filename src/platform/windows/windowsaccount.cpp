@@ -1,7 +1,10 @@
 #include "platform/windows/windowsaccount.h"
 
+#include "platform/windows/windowsdesktopcalls.h"
 #include "platform/windows/windowshandle.h"
 #include "platform/windows/windowspaths.h"
+#include "platform/windows/windowsprocesscalls.h"
+#include "platform/windows/windowsprocesstoken.h"
 
 #include <array>
 #include <cstddef>
@@ -17,17 +20,16 @@ class TokenUser
 public:
     explicit TokenUser(HANDLE process)
     {
-        HANDLE opened = nullptr;
-        if (!win32().openProcessToken(process, TOKEN_QUERY, &opened))
+        const WinHandle token = openToken(process);
+        if (!token.isValid())
             return;
-        const WinHandle token(opened);
         // The first question only tells how much room the answer takes.
         DWORD size = 0;
-        win32().getTokenInformation(token.get(), ::TokenUser, nullptr, 0, &size);
+        processCalls().getTokenInformation(token.get(), ::TokenUser, nullptr, 0, &size);
         if (size < sizeof(TOKEN_USER))
             return;
         m_reply = std::make_unique<std::byte[]>(size);
-        if (!win32().getTokenInformation(token.get(), ::TokenUser, m_reply.get(), size, &size))
+        if (!processCalls().getTokenInformation(token.get(), ::TokenUser, m_reply.get(), size, &size))
             m_reply.reset();
     }
 
@@ -43,10 +45,10 @@ private:
 QString textOf(PSID sid)
 {
     LPWSTR text = nullptr;
-    if (sid == nullptr || !win32().convertSidToStringSid(sid, &text))
+    if (sid == nullptr || !processCalls().convertSidToStringSid(sid, &text))
         return {};
     QString id = decodeName(text);
-    win32().localFree(text);
+    processCalls().localFree(text);
     return id;
 }
 
@@ -68,8 +70,8 @@ QString accountNameOf(HANDLE process)
     DWORD nameSize = Longest;
     DWORD domainSize = Longest;
     SID_NAME_USE use = SidTypeUnknown;
-    if (!win32().lookupAccountSid(nullptr, user.sid(), name.data(), &nameSize, domain.data(), &domainSize,
-                                  &use))
+    if (!processCalls().lookupAccountSid(nullptr, user.sid(), name.data(), &nameSize, domain.data(),
+                                         &domainSize, &use))
         return textOf(user.sid());
     const QString account = decodeName(name.data());
     return domain.front() == L'\0' ? account : decodeName(domain.data()) + QLatin1Char('\\') + account;
@@ -77,15 +79,15 @@ QString accountNameOf(HANDLE process)
 
 bool isDesktopOfAnother()
 {
-    auto *const shell = win32().getShellWindow();
+    auto *const shell = desktopCalls().getShellWindow();
     DWORD id = 0;
-    if (shell == nullptr || win32().getWindowThreadProcessId(shell, &id) == 0)
+    if (shell == nullptr || desktopCalls().getWindowThreadProcessId(shell, &id) == 0)
         return false;
     const QString own = accountOf(::GetCurrentProcess());
     if (own.isEmpty())
         return false;
     ::SetLastError(ERROR_SUCCESS);
-    const WinHandle process(win32().openProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, id));
+    const WinHandle process(processCalls().openProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, id));
     const QString shown = process.isValid() ? accountOf(process.get()) : QString();
     // The processes of one's own account may always be asked.
     if (shown.isEmpty())

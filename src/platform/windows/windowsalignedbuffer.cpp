@@ -1,6 +1,6 @@
 #include "platform/alignedbuffer.h"
 
-#include "platform/windows/windowscalls.h"
+#include "platform/windows/windowsprocesscalls.h"
 
 namespace platform {
 
@@ -8,8 +8,8 @@ AlignedBuffer::AlignedBuffer(qint64 size)
 {
     if (size < 1)
         return;
-    void *const memory =
-        win32().virtualAlloc(nullptr, static_cast<SIZE_T>(size), MEM_COMMIT | MEM_RESERVE, PAGE_READWRITE);
+    void *const memory = processCalls().virtualAlloc(nullptr, static_cast<SIZE_T>(size),
+                                                     MEM_COMMIT | MEM_RESERVE, PAGE_READWRITE);
     if (memory == nullptr)
         return;
     m_data = static_cast<std::byte *>(memory);
@@ -19,7 +19,7 @@ AlignedBuffer::AlignedBuffer(qint64 size)
 AlignedBuffer::~AlignedBuffer()
 {
     if (m_data)
-        win32().virtualFree(m_data, 0, MEM_RELEASE);
+        processCalls().virtualFree(m_data, 0, MEM_RELEASE);
 }
 
 } // namespace platform

@@ -1,12 +1,16 @@
 #include "platform/windows/windowsanchoredfolder.h"
 
 #include "platform/entrypath.h"
+#include "platform/windows/windowsfilecalls.h"
 #include "platform/windows/windowsfilehandle.h"
 #include "platform/windows/windowsfiles.h"
 #include "platform/windows/windowsfolders.h"
 #include "platform/windows/windowslasterror.h"
 #include "platform/windows/windowspaths.h"
+#include "platform/windows/windowsvolumecalls.h"
 #include "platform/windows/windowsvolumeidentity.h"
+
+#include <winioctl.h>
 
 namespace platform {
 
@@ -23,7 +27,7 @@ Result<HeldFolder> hold(const QString &path)
 // Whoever holds a folder shares its deletion with nobody, so that an opening for that is refused.
 Status askWhetherHeld(const std::wstring &path)
 {
-    const WinHandle folder(win32().createFile(
+    const WinHandle folder(fileCalls().createFile(
         path.c_str(), DELETE, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
         FILE_FLAG_BACKUP_SEMANTICS | FILE_FLAG_OPEN_REPARSE_POINT, nullptr));
     return folder.isValid() ? Status{} : statusFromLastError("CreateFile");
@@ -34,14 +38,14 @@ Status storeUncompressed(HANDLE file)
 {
     USHORT format = COMPRESSION_FORMAT_NONE;
     DWORD returned = 0;
-    if (!win32().deviceIoControl(file, FSCTL_SET_COMPRESSION, &format, sizeof format, nullptr, 0, &returned,
-                                 nullptr)) {
+    if (!volumeCalls().deviceIoControl(file, FSCTL_SET_COMPRESSION, &format, sizeof format, nullptr, 0,
+                                       &returned, nullptr)) {
         const Status failure = statusFromLastError("FSCTL_SET_COMPRESSION");
         if (failure.native != ERROR_INVALID_FUNCTION && failure.native != ERROR_NOT_SUPPORTED)
             return failure;
     }
     BY_HANDLE_FILE_INFORMATION now = {};
-    if (!win32().getFileInformation(file, &now))
+    if (!fileCalls().getFileInformation(file, &now))
         return statusFromLastError("GetFileInformationByHandle");
     if (now.dwFileAttributes & FILE_ATTRIBUTE_COMPRESSED)
         return {NotSupported, ERROR_NOT_SUPPORTED, "FSCTL_SET_COMPRESSION"};
@@ -86,9 +90,9 @@ Result<std::unique_ptr<FileHandle>> WindowsAnchoredFolder::createFile(const QStr
     if (!encoded)
         return encoded.status();
     // Both accesses: only such a handle can be told how to store.
-    WinHandle file(win32().createFile(encoded.value().c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr,
-                                      CREATE_NEW, FILE_ATTRIBUTE_NORMAL | FILE_FLAG_OPEN_REPARSE_POINT,
-                                      nullptr));
+    WinHandle file(fileCalls().createFile(encoded.value().c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr,
+                                          CREATE_NEW, FILE_ATTRIBUTE_NORMAL | FILE_FLAG_OPEN_REPARSE_POINT,
+                                          nullptr));
     if (file.isValid()) {
         if (const Status plain = storeUncompressed(file.get()); !plain)
             return plain;
@@ -113,7 +117,7 @@ Result<std::unique_ptr<AnchoredFolder>> WindowsAnchoredFolder::createFolder(cons
     const Result<std::wstring> encoded = path ? encodePath(path.value()) : path.status();
     if (!encoded)
         return encoded.status();
-    if (!win32().createDirectory(encoded.value().c_str(), nullptr))
+    if (!fileCalls().createDirectory(encoded.value().c_str(), nullptr))
         return statusFromLastError("CreateDirectory");
     return openFolder(name);
 }

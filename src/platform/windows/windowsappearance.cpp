@@ -1,6 +1,6 @@
 #include "platform/appearance.h"
 
-#include "platform/windows/windowscalls.h"
+#include "platform/windows/windowsdesktopcalls.h"
 
 #include <QByteArray>
 
@@ -16,7 +16,7 @@ bool hasHighContrast()
 {
     HIGHCONTRASTW contrast = {};
     contrast.cbSize = sizeof contrast;
-    return win32().systemParametersInfo(SPI_GETHIGHCONTRAST, sizeof contrast, &contrast, 0) &&
+    return desktopCalls().systemParametersInfo(SPI_GETHIGHCONTRAST, sizeof contrast, &contrast, 0) &&
            (contrast.dwFlags & HCF_HIGHCONTRASTON) != 0;
 }
 

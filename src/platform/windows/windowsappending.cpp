@@ -1,7 +1,7 @@
 #include "platform/windows/windowsfiles.h"
 
-#include "platform/windows/windowscalls.h"
 #include "platform/windows/windowsfileattributes.h"
+#include "platform/windows/windowsfilecalls.h"
 #include "platform/windows/windowsfilekind.h"
 #include "platform/windows/windowslasterror.h"
 #include "platform/windows/windowslongpath.h"
@@ -23,20 +23,20 @@ constexpr QIODevice::OpenMode Mode = QIODevice::WriteOnly | QIODevice::Append | 
 Result<int> appendingDescriptor(const QString &path)
 {
     const std::wstring name = toLongPath(QFileInfo(path).absoluteFilePath());
-    auto *const file = win32().createFile(name.c_str(), FILE_APPEND_DATA | FILE_READ_ATTRIBUTES | SYNCHRONIZE,
-                                          FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING,
-                                          FILE_FLAG_OPEN_REPARSE_POINT, nullptr);
+    auto *const file = fileCalls().createFile(
+        name.c_str(), FILE_APPEND_DATA | FILE_READ_ATTRIBUTES | SYNCHRONIZE,
+        FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING, FILE_FLAG_OPEN_REPARSE_POINT, nullptr);
     if (file == INVALID_HANDLE_VALUE)
         return statusFromLastError("CreateFile");
     const Result<EntryAttributes> opened = attributesOf(file);
     const Status refusal = opened ? refusalOf(opened.value(), "GetFileInformationByHandle") : opened.status();
     if (!refusal) {
-        win32().closeHandle(file);
+        fileCalls().closeHandle(file);
         return refusal;
     }
     const int descriptor = ::_open_osfhandle(reinterpret_cast<intptr_t>(file), _O_APPEND | _O_BINARY);
     if (descriptor < 0) {
-        win32().closeHandle(file);
+        fileCalls().closeHandle(file);
         return Status{TooManyOpenFiles, 0, "_open_osfhandle"};
     }
     return descriptor;

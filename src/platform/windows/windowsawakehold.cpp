@@ -1,6 +1,8 @@
 #include "platform/windows/windowsawakehold.h"
 
+#include "platform/windows/windowsdesktopcalls.h"
 #include "platform/windows/windowslasterror.h"
+#include "platform/windows/windowsprocesscalls.h"
 
 #include <string>
 #include <utility>
@@ -11,14 +13,14 @@ Result<std::unique_ptr<AwakeHold>> WindowsAwakeHold::begin(const AwakeRequest &r
 {
     // The call tells nothing but that it failed.
     ::SetLastError(ERROR_SUCCESS);
-    const EXECUTION_STATE before = win32().setThreadExecutionState(ES_CONTINUOUS | ES_SYSTEM_REQUIRED);
+    const EXECUTION_STATE before = processCalls().setThreadExecutionState(ES_CONTINUOUS | ES_SYSTEM_REQUIRED);
     if (before == 0)
         return statusFromLastError("SetThreadExecutionState");
     std::unique_ptr<WindowsAwakeHold> hold(new WindowsAwakeHold(before));
     // The system takes no more.
     const std::wstring reason = request.reason.left(MAX_STR_BLOCKREASON - 1).toStdWString();
     auto *const window = reinterpret_cast<HWND>(request.window);
-    if (window != nullptr && win32().shutdownBlockReasonCreate(window, reason.c_str()))
+    if (window != nullptr && desktopCalls().shutdownBlockReasonCreate(window, reason.c_str()))
         hold->m_window = window;
     return std::unique_ptr<AwakeHold>(std::move(hold));
 }
@@ -26,9 +28,9 @@ Result<std::unique_ptr<AwakeHold>> WindowsAwakeHold::begin(const AwakeRequest &r
 WindowsAwakeHold::~WindowsAwakeHold()
 {
     if (m_window != nullptr)
-        win32().shutdownBlockReasonDestroy(m_window);
+        desktopCalls().shutdownBlockReasonDestroy(m_window);
     // Without the first flag the rest would hold for a moment only.
-    win32().setThreadExecutionState(m_before | ES_CONTINUOUS);
+    processCalls().setThreadExecutionState(m_before | ES_CONTINUOUS);
 }
 
 } // namespace platform

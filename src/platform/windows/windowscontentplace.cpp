@@ -1,6 +1,10 @@
 #include "platform/windows/windowscontentplace.h"
 
+#include "platform/windows/windowsfilecalls.h"
 #include "platform/windows/windowslasterror.h"
+#include "platform/windows/windowsvolumecalls.h"
+
+#include <winioctl.h>
 
 namespace platform {
 
@@ -36,7 +40,7 @@ struct ExternalBacking
 bool isRemote(HANDLE file)
 {
     FILE_REMOTE_PROTOCOL_INFO protocol = {};
-    return win32().getFileInformationEx(file, FileRemoteProtocolInfo, &protocol, sizeof protocol);
+    return fileCalls().getFileInformationEx(file, FileRemoteProtocolInfo, &protocol, sizeof protocol);
 }
 
 ElsewhereReasons reasonsOfAttributes(DWORD attributes)
@@ -55,8 +59,8 @@ bool mayHaveBacking(HANDLE file)
 {
     ExternalBacking backing = {};
     DWORD returned = 0;
-    if (win32().deviceIoControl(file, GetExternalBacking, nullptr, 0, &backing, sizeof backing, &returned,
-                                nullptr))
+    if (volumeCalls().deviceIoControl(file, GetExternalBacking, nullptr, 0, &backing, sizeof backing,
+                                      &returned, nullptr))
         return true;
     const DWORD error = ::GetLastError();
     return error != NotExternallyBacked && error != ERROR_INVALID_FUNCTION && error != ERROR_NOT_SUPPORTED;
@@ -67,8 +71,8 @@ bool mayHaveChecksums(HANDLE file)
 {
     IntegrityInformation integrity = {};
     DWORD returned = 0;
-    const BOOL answered = win32().deviceIoControl(file, GetIntegrityInformation, nullptr, 0, &integrity,
-                                                  sizeof integrity, &returned, nullptr);
+    const BOOL answered = volumeCalls().deviceIoControl(file, GetIntegrityInformation, nullptr, 0, &integrity,
+                                                        sizeof integrity, &returned, nullptr);
     return !answered || returned < sizeof(WORD) || integrity.checksumAlgorithm != 0;
 }
 
@@ -78,8 +82,8 @@ bool liesInItsRecord(HANDLE file)
     STARTING_VCN_INPUT_BUFFER start = {};
     RETRIEVAL_POINTERS_BUFFER extents = {};
     DWORD returned = 0;
-    return !win32().deviceIoControl(file, FSCTL_GET_RETRIEVAL_POINTERS, &start, sizeof start, &extents,
-                                    sizeof extents, &returned, nullptr) &&
+    return !volumeCalls().deviceIoControl(file, FSCTL_GET_RETRIEVAL_POINTERS, &start, sizeof start, &extents,
+                                          sizeof extents, &returned, nullptr) &&
            ::GetLastError() == ERROR_HANDLE_EOF;
 }
 
@@ -88,13 +92,13 @@ bool liesInItsRecord(HANDLE file)
 Result<ContentPlace> contentPlaceOf(HANDLE file)
 {
     BY_HANDLE_FILE_INFORMATION info = {};
-    if (!win32().getFileInformation(file, &info))
+    if (!fileCalls().getFileInformation(file, &info))
         return statusFromLastError("GetFileInformationByHandle");
     const bool isFolder = info.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY;
     const auto size =
         isFolder ? 0 : static_cast<qint64>(quint64(info.nFileSizeHigh) << 32 | info.nFileSizeLow);
     DWORD volume = 0;
-    if (!win32().getVolumeInformation(file, nullptr, 0, nullptr, nullptr, &volume, nullptr, 0))
+    if (!fileCalls().getVolumeInformation(file, nullptr, 0, nullptr, nullptr, &volume, nullptr, 0))
         return statusFromLastError("GetVolumeInformationByHandle");
 
     ContentPlace place{.elsewhere = {}, .bytes = 0};

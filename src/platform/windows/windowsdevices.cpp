@@ -8,6 +8,7 @@
 #include "platform/windows/windowsrawdevice.h"
 #include "platform/windows/windowsreleasedvolumes.h"
 #include "platform/windows/windowsvolume.h"
+#include "platform/windows/windowsvolumecalls.h"
 #include "platform/windows/windowsvolumeidentity.h"
 
 #include <QDir>
@@ -148,7 +149,7 @@ Status lockEveryVolume(const DriveIdentity &drive, const QString &drivePath, con
 // The call wants the root with its separator, and only that of the system is sure to be understood.
 bool isOnLocalDrive(const QString &root)
 {
-    const UINT type = win32().getDriveType(QDir::toNativeSeparators(root).toStdWString().c_str());
+    const UINT type = volumeCalls().getDriveType(QDir::toNativeSeparators(root).toStdWString().c_str());
     return type == DRIVE_REMOVABLE || type == DRIVE_FIXED;
 }
 

@@ -2,6 +2,9 @@
 
 #include "platform/windows/windowslasterror.h"
 #include "platform/windows/windowsquery.h"
+#include "platform/windows/windowsvolumecalls.h"
+
+#include <winioctl.h>
 
 #include <cstring>
 
@@ -52,15 +55,16 @@ Status setOffline(HANDLE drive, bool offline)
     wanted.attributes = offline ? Offline : 0;
     wanted.mask = Offline;
     DWORD returned = 0;
-    return statusOf(win32().deviceIoControl(drive, SetDiskAttributes, &wanted, sizeof(wanted), nullptr, 0,
-                                            &returned, nullptr),
+    return statusOf(volumeCalls().deviceIoControl(drive, SetDiskAttributes, &wanted, sizeof(wanted), nullptr,
+                                                  0, &returned, nullptr),
                     "IOCTL_DISK_SET_DISK_ATTRIBUTES");
 }
 
 void lookAnew(HANDLE drive)
 {
     DWORD returned = 0;
-    win32().deviceIoControl(drive, IOCTL_DISK_UPDATE_PROPERTIES, nullptr, 0, nullptr, 0, &returned, nullptr);
+    volumeCalls().deviceIoControl(drive, IOCTL_DISK_UPDATE_PROPERTIES, nullptr, 0, nullptr, 0, &returned,
+                                  nullptr);
 }
 
 } // namespace platform

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/status.h"
-#include "platform/windows/windowscalls.h"
+#include "platform/windows/windowsheaders.h"
 
 namespace platform {
 

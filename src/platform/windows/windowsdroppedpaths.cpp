@@ -2,6 +2,8 @@
 
 #include "platform/windows/windowspaths.h"
 
+#include <shellapi.h>
+
 #include <string>
 
 namespace platform {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/windows/windowscalls.h"
+#include "platform/windows/windowsheaders.h"
 
 #include <QStringList>
 

@@ -1,5 +1,6 @@
 #include "platform/windows/windowsfileattributes.h"
 
+#include "platform/windows/windowsfilecalls.h"
 #include "platform/windows/windowslasterror.h"
 #include "platform/windows/windowspaths.h"
 
@@ -7,7 +8,7 @@ namespace platform {
 
 Result<EntryAttributes> attributesOf(const std::wstring &path)
 {
-    const DWORD attributes = win32().getFileAttributes(path.c_str());
+    const DWORD attributes = fileCalls().getFileAttributes(path.c_str());
     if (attributes == INVALID_FILE_ATTRIBUTES)
         return statusFromLastError("GetFileAttributes");
     return withTag(path, attributes);
@@ -16,7 +17,7 @@ Result<EntryAttributes> attributesOf(const std::wstring &path)
 Result<EntryAttributes> attributesOf(HANDLE opened)
 {
     BY_HANDLE_FILE_INFORMATION found = {};
-    if (!win32().getFileInformation(opened, &found))
+    if (!fileCalls().getFileInformation(opened, &found))
         return statusFromLastError("GetFileInformationByHandle");
     return withTag(opened, found.dwFileAttributes);
 }
@@ -27,11 +28,11 @@ Result<EntryAttributes> withTag(const std::wstring &path, DWORD bits)
         return EntryAttributes{bits, 0};
     WIN32_FIND_DATAW entry = {};
     // Listings have no streams.
-    auto *const search = win32().findFirstFile(withoutStream(path).c_str(), FindExInfoBasic, &entry,
-                                               FindExSearchNameMatch, nullptr, 0);
+    auto *const search = fileCalls().findFirstFile(withoutStream(path).c_str(), FindExInfoBasic, &entry,
+                                                   FindExSearchNameMatch, nullptr, 0);
     if (search == INVALID_HANDLE_VALUE)
         return statusFromLastError("FindFirstFileEx");
-    win32().findClose(search);
+    fileCalls().findClose(search);
     // Whether an entry has to be brought here first some systems tell in listings only.
     const EntryAttributes listed = attributesOf(entry);
     return EntryAttributes{bits | listed.bits, listed.reparseTag};
@@ -42,7 +43,7 @@ Result<EntryAttributes> withTag(HANDLE opened, DWORD bits)
     if (!(bits & FILE_ATTRIBUTE_REPARSE_POINT))
         return EntryAttributes{bits, 0};
     FILE_ATTRIBUTE_TAG_INFO found = {};
-    if (!win32().getFileInformationEx(opened, FileAttributeTagInfo, &found, sizeof found))
+    if (!fileCalls().getFileInformationEx(opened, FileAttributeTagInfo, &found, sizeof found))
         return statusFromLastError("GetFileInformationByHandleEx");
     return EntryAttributes{bits | found.FileAttributes, found.ReparseTag};
 }
@@ -53,13 +54,21 @@ EntryAttributes attributesOf(const WIN32_FIND_DATAW &listed)
     return {listed.dwFileAttributes, hasTag ? listed.dwReserved0 : 0};
 }
 
+WinHandle openForAttributes(const std::wstring &path, DWORD flags)
+{
+    constexpr DWORD ShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+    constexpr DWORD AsItIs = FILE_FLAG_OPEN_REPARSE_POINT | FILE_FLAG_OPEN_NO_RECALL;
+    return WinHandle(fileCalls().createFile(path.c_str(), FILE_READ_ATTRIBUTES, ShareAll, nullptr,
+                                            OPEN_EXISTING, flags | AsItIs, nullptr));
+}
+
 Status clearReadOnlyAttribute(const std::wstring &path, DWORD attributes)
 {
     if (!(attributes & FILE_ATTRIBUTE_READONLY))
         return {};
     const DWORD others = attributes & ~DWORD(FILE_ATTRIBUTE_READONLY);
     // No attribute at all would mean to leave them as they are.
-    return statusOf(win32().setFileAttributes(path.c_str(), others == 0 ? FILE_ATTRIBUTE_NORMAL : others),
+    return statusOf(fileCalls().setFileAttributes(path.c_str(), others == 0 ? FILE_ATTRIBUTE_NORMAL : others),
                     "SetFileAttributes");
 }
 

@@ -1,6 +1,7 @@
 #include "platform/windows/windowsfiles.h"
 
 #include "platform/windows/windowsfileattributes.h"
+#include "platform/windows/windowsfilecalls.h"
 #include "platform/windows/windowsfilekind.h"
 #include "platform/windows/windowshandle.h"
 #include "platform/windows/windowslasterror.h"
@@ -22,7 +23,7 @@ Result<QByteArray> readUpTo(HANDLE file, qint64 size)
     while (done < bytes.size()) {
         const DWORD wanted = static_cast<DWORD>(std::min<qint64>(bytes.size() - done, LargestRead));
         DWORD count = 0;
-        if (!win32().readFile(file, bytes.data() + done, wanted, &count, nullptr))
+        if (!fileCalls().readFile(file, bytes.data() + done, wanted, &count, nullptr))
             return statusFromLastError("ReadFile");
         if (count == 0)
             break;
@@ -40,12 +41,12 @@ Result<QByteArray> WindowsFiles::readBeginning(const QString &path, qint64 limit
     if (!name)
         return name.status();
     const WinHandle file(
-        win32().createFile(name.value().c_str(), GENERIC_READ, ShareAll, nullptr, OPEN_EXISTING,
-                           FILE_FLAG_OPEN_REPARSE_POINT | FILE_FLAG_OPEN_NO_RECALL, nullptr));
+        fileCalls().createFile(name.value().c_str(), GENERIC_READ, ShareAll, nullptr, OPEN_EXISTING,
+                               FILE_FLAG_OPEN_REPARSE_POINT | FILE_FLAG_OPEN_NO_RECALL, nullptr));
     if (!file.isValid())
         return statusFromLastError("CreateFile");
     BY_HANDLE_FILE_INFORMATION opened = {};
-    if (!win32().getFileInformation(file.get(), &opened))
+    if (!fileCalls().getFileInformation(file.get(), &opened))
         return statusFromLastError("GetFileInformationByHandle");
     const Result<EntryAttributes> attributes = withTag(file.get(), opened.dwFileAttributes);
     if (!attributes)

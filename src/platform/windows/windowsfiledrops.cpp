@@ -1,9 +1,11 @@
 #include "platform/filedrops.h"
 
-#include "platform/windows/windowscalls.h"
+#include "platform/windows/windowsdesktopcalls.h"
 #include "platform/windows/windowsdroppedpaths.h"
 #include "platform/windows/windowslasterror.h"
 #include "platform/windows/windowsprocesstoken.h"
+
+#include <shellapi.h>
 
 #include <QAbstractNativeEventFilter>
 #include <QCoreApplication>
@@ -35,13 +37,13 @@ public:
     void begin()
     {
         for (const UINT message : {UINT(WM_DROPFILES), UINT(WM_COPYDATA), CopyGlobalData}) {
-            if (!win32().changeWindowMessageFilter(m_window, message, MSGFLT_ALLOW, nullptr))
+            if (!desktopCalls().changeWindowMessageFilter(m_window, message, MSGFLT_ALLOW, nullptr))
                 qWarning() << "[FileDrops]"
                            << statusFromLastError("ChangeWindowMessageFilterEx").diagnostic();
         }
         // The source asks a window for the newer way first, and is refused it.
-        win32().revokeDragDrop(m_window);
-        win32().dragAcceptFiles(m_window, TRUE);
+        desktopCalls().revokeDragDrop(m_window);
+        desktopCalls().dragAcceptFiles(m_window, TRUE);
         QCoreApplication::instance()->installNativeEventFilter(this);
     }
 

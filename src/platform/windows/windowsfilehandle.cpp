@@ -1,6 +1,7 @@
 #include "platform/windows/windowsfilehandle.h"
 
 #include "platform/windows/windowscontentplace.h"
+#include "platform/windows/windowsfilecalls.h"
 #include "platform/windows/windowsfileid.h"
 #include "platform/windows/windowslasterror.h"
 
@@ -46,7 +47,7 @@ Status WindowsFileHandle::seek(qint64 position)
     }
     LARGE_INTEGER distance;
     distance.QuadPart = position;
-    if (!win32().setFilePointer(m_file.get(), distance, nullptr, FILE_BEGIN))
+    if (!fileCalls().setFilePointer(m_file.get(), distance, nullptr, FILE_BEGIN))
         return statusFromLastError("SetFilePointerEx");
     m_position = position;
     m_pointerIsThere = true;
@@ -77,7 +78,7 @@ Result<qint64> WindowsFileHandle::readPieces(std::byte *data, qint64 size)
     qint64 done = 0;
     while (done < size) {
         DWORD count = 0;
-        if (!win32().readFile(m_file.get(), data + done, pieceOf(size - done), &count, nullptr)) {
+        if (!fileCalls().readFile(m_file.get(), data + done, pieceOf(size - done), &count, nullptr)) {
             const Status status = statusFromLastError("ReadFile");
             if (status.native != ERROR_HANDLE_EOF)
                 return status;
@@ -107,7 +108,7 @@ Result<qint64> WindowsFileHandle::writePieces(const std::byte *data, qint64 size
     qint64 done = 0;
     while (done < size) {
         DWORD count = 0;
-        if (!win32().writeFile(m_file.get(), data + done, pieceOf(size - done), &count, nullptr)) {
+        if (!fileCalls().writeFile(m_file.get(), data + done, pieceOf(size - done), &count, nullptr)) {
             const Status status = statusFromLastError("WriteFile");
             if (done == 0 || !isOutOfRoom(status.native))
                 return status;
@@ -126,7 +127,7 @@ Status WindowsFileHandle::setEnd()
         return {InvalidParameter, ERROR_INVALID_PARAMETER, "SetEndOfFile"};
     if (const Status there = provideFilePointer(); !there)
         return there;
-    return statusOf(win32().setEndOfFile(m_file.get()), "SetEndOfFile");
+    return statusOf(fileCalls().setEndOfFile(m_file.get()), "SetEndOfFile");
 }
 
 Status WindowsFileHandle::flush()
@@ -134,14 +135,14 @@ Status WindowsFileHandle::flush()
     // What the cache failed to write it may have dropped: a second attempt would succeed over data that is
     // not there.
     if (m_flushFailure)
-        m_flushFailure = statusOf(win32().flushFileBuffers(m_file.get()), "FlushFileBuffers");
+        m_flushFailure = statusOf(fileCalls().flushFileBuffers(m_file.get()), "FlushFileBuffers");
     return m_flushFailure;
 }
 
 Result<FileId> WindowsFileHandle::id()
 {
     BY_HANDLE_FILE_INFORMATION opened = {};
-    if (!win32().getFileInformation(m_file.get(), &opened))
+    if (!fileCalls().getFileInformation(m_file.get(), &opened))
         return statusFromLastError("GetFileInformationByHandle");
     const FileId id = fileIdFrom(opened);
     if (id.number == 0)

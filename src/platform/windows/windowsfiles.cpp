@@ -2,6 +2,7 @@
 
 #include "platform/windows/windowscontentplace.h"
 #include "platform/windows/windowsfileattributes.h"
+#include "platform/windows/windowsfilecalls.h"
 #include "platform/windows/windowsfilehandle.h"
 #include "platform/windows/windowsfileid.h"
 #include "platform/windows/windowsfilekind.h"
@@ -46,8 +47,8 @@ OpenParameters parametersOf(OpenMode mode)
 
 WinHandle openFile(const std::wstring &path, const OpenParameters &how, DWORD disposition)
 {
-    return WinHandle(win32().createFile(path.c_str(), how.access, how.share, nullptr, disposition,
-                                        how.flags | AsItIs, nullptr));
+    return WinHandle(fileCalls().createFile(path.c_str(), how.access, how.share, nullptr, disposition,
+                                            how.flags | AsItIs, nullptr));
 }
 
 // A file that is opened past the cache takes its pages out of the cache when nobody else has it open. Only a
@@ -90,7 +91,7 @@ Result<WinHandle> createOrCut(const std::wstring &path)
     if (refusal.native != ERROR_FILE_EXISTS && refusal.native != ERROR_ALREADY_EXISTS)
         return refusal;
     Result<WinHandle> existing = openExisting(path, OpenMode::CreateFill);
-    if (existing && !win32().setEndOfFile(existing.value().get()))
+    if (existing && !fileCalls().setEndOfFile(existing.value().get()))
         return statusFromLastError("SetEndOfFile");
     return existing;
 }
@@ -104,7 +105,7 @@ struct OpenedInfo
 qint64 allocatedBytesOf(HANDLE file)
 {
     FILE_COMPRESSION_INFO compression = {};
-    if (!win32().getFileInformationEx(file, FileCompressionInfo, &compression, sizeof compression))
+    if (!fileCalls().getFileInformationEx(file, FileCompressionInfo, &compression, sizeof compression))
         return -1;
     return compression.CompressedFileSize.QuadPart;
 }
@@ -112,11 +113,11 @@ qint64 allocatedBytesOf(HANDLE file)
 // How many names the file has, which it is, and what it occupies: only an open handle tells.
 Result<OpenedInfo> openedInfo(const std::wstring &path)
 {
-    const WinHandle file = openFile(path, {FILE_READ_ATTRIBUTES, ShareAll, 0}, OPEN_EXISTING);
+    const WinHandle file = openForAttributes(path);
     if (!file.isValid())
         return statusFromLastError("CreateFile");
     OpenedInfo opened;
-    if (!win32().getFileInformation(file.get(), &opened.file))
+    if (!fileCalls().getFileInformation(file.get(), &opened.file))
         return statusFromLastError("GetFileInformationByHandle");
     if (opened.file.dwFileAttributes & (FILE_ATTRIBUTE_SPARSE_FILE | FILE_ATTRIBUTE_COMPRESSED))
         opened.allocatedBytes = allocatedBytesOf(file.get());
@@ -136,8 +137,7 @@ Result<WinHandle> openToAsk(const EntryPath &entry)
         if (const Status refusal = refusalOf(found.value(), "GetFileAttributes"); !refusal)
             return refusal;
     }
-    WinHandle file =
-        openFile(name.value(), {FILE_READ_ATTRIBUTES, ShareAll, FILE_FLAG_BACKUP_SEMANTICS}, OPEN_EXISTING);
+    WinHandle file = openForAttributes(name.value(), FILE_FLAG_BACKUP_SEMANTICS);
     if (!file.isValid())
         return statusFromLastError("CreateFile");
     return file;
@@ -149,7 +149,7 @@ ContentPlace placeOfStream(const EntryPath &entry, const NamedStream &stream)
     const Result<std::wstring> name = encodePath(entry.stream(stream.name));
     if (!name)
         return unreachable;
-    const WinHandle opened = openFile(name.value(), {FILE_READ_ATTRIBUTES, ShareAll, 0}, OPEN_EXISTING);
+    const WinHandle opened = openForAttributes(name.value());
     return opened.isValid() ? contentPlaceOf(opened.get()).valueOr(unreachable) : unreachable;
 }
 
@@ -173,7 +173,7 @@ Result<FileInfo> WindowsFiles::info(const EntryPath &entry)
     if (!name)
         return name.status();
     WIN32_FILE_ATTRIBUTE_DATA found = {};
-    if (!win32().getFileAttributesEx(name.value().c_str(), GetFileExInfoStandard, &found))
+    if (!fileCalls().getFileAttributesEx(name.value().c_str(), GetFileExInfoStandard, &found))
         return statusFromLastError("GetFileAttributesEx");
     const Result<EntryAttributes> attributes = withTag(name.value(), found.dwFileAttributes);
     if (!attributes)
@@ -260,7 +260,8 @@ Status WindowsFiles::rename(const EntryPath &from, const EntryPath &to)
     if (!source || !target)
         return source ? target.status() : source.status();
     constexpr DWORD Flags = MOVEFILE_REPLACE_EXISTING | MOVEFILE_COPY_ALLOWED;
-    return statusOf(win32().moveFile(source.value().c_str(), target.value().c_str(), Flags), "MoveFileEx");
+    return statusOf(fileCalls().moveFile(source.value().c_str(), target.value().c_str(), Flags),
+                    "MoveFileEx");
 }
 
 Status WindowsFiles::remove(const EntryPath &entry)
@@ -272,8 +273,8 @@ Status WindowsFiles::remove(const EntryPath &entry)
     if (!attributes)
         return attributes.status();
     if (isFolderLink(attributes.value()))
-        return statusOf(win32().removeDirectory(name.value().c_str()), "RemoveDirectory");
-    return statusOf(win32().deleteFile(name.value().c_str()), "DeleteFile");
+        return statusOf(fileCalls().removeDirectory(name.value().c_str()), "RemoveDirectory");
+    return statusOf(fileCalls().deleteFile(name.value().c_str()), "DeleteFile");
 }
 
 } // namespace platform

@@ -1,5 +1,6 @@
 #include "platform/windows/windowsfolderhandle.h"
 
+#include "platform/windows/windowsfilecalls.h"
 #include "platform/windows/windowsfileid.h"
 #include "platform/windows/windowsfolderlisting.h"
 #include "platform/windows/windowslasterror.h"
@@ -27,7 +28,7 @@ public:
     Result<FileId> id() override
     {
         BY_HANDLE_FILE_INFORMATION opened = {};
-        if (!win32().getFileInformation(m_folder.get(), &opened))
+        if (!fileCalls().getFileInformation(m_folder.get(), &opened))
             return statusFromLastError("GetFileInformationByHandle");
         const FileId id = fileIdFrom(opened);
         if (id.number == 0)
@@ -48,19 +49,19 @@ private:
 WinHandle openToHold(const std::wstring &path)
 {
     constexpr DWORD Share = FILE_SHARE_READ | FILE_SHARE_WRITE;
-    WinHandle folder(win32().createFile(path.c_str(), FILE_LIST_DIRECTORY, Share, nullptr, OPEN_EXISTING,
-                                        FILE_FLAG_BACKUP_SEMANTICS, nullptr));
+    WinHandle folder(fileCalls().createFile(path.c_str(), FILE_LIST_DIRECTORY, Share, nullptr, OPEN_EXISTING,
+                                            FILE_FLAG_BACKUP_SEMANTICS, nullptr));
     if (folder.isValid() || ::GetLastError() != ERROR_ACCESS_DENIED)
         return folder;
-    return WinHandle(win32().createFile(path.c_str(), FILE_TRAVERSE, Share, nullptr, OPEN_EXISTING,
-                                        FILE_FLAG_BACKUP_SEMANTICS, nullptr));
+    return WinHandle(fileCalls().createFile(path.c_str(), FILE_TRAVERSE, Share, nullptr, OPEN_EXISTING,
+                                            FILE_FLAG_BACKUP_SEMANTICS, nullptr));
 }
 
 // Whether the path leads through a link, or might.
 bool mayHaveLink(const std::wstring &path)
 {
     for (std::wstring part = path; part.size() > rootLength(part); part = parentOf(part)) {
-        const DWORD attributes = win32().getFileAttributes(part.c_str());
+        const DWORD attributes = fileCalls().getFileAttributes(part.c_str());
         if (attributes == INVALID_FILE_ATTRIBUTES || (attributes & FILE_ATTRIBUTE_REPARSE_POINT))
             return true;
     }
@@ -73,11 +74,11 @@ Result<std::wstring> placeOf(HANDLE folder, const std::wstring &path)
     Status failure;
     // Of a volume without a letter only the name of the volume is known.
     for (const DWORD form : {DWORD(VOLUME_NAME_DOS), DWORD(VOLUME_NAME_GUID)}) {
-        const DWORD length = win32().getFinalPathName(folder, nullptr, 0, FILE_NAME_NORMALIZED | form);
+        const DWORD length = fileCalls().getFinalPathName(folder, nullptr, 0, FILE_NAME_NORMALIZED | form);
         std::wstring place(length, L'\0');
-        const DWORD written =
-            length == 0 ? 0
-                        : win32().getFinalPathName(folder, place.data(), length, FILE_NAME_NORMALIZED | form);
+        const DWORD written = length == 0 ? 0
+                                          : fileCalls().getFinalPathName(folder, place.data(), length,
+                                                                         FILE_NAME_NORMALIZED | form);
         if (written > 0 && written < length) {
             place.resize(written);
             return place;

@@ -1,6 +1,7 @@
 #include "platform/windows/windowsfolderlisting.h"
 
 #include "platform/windows/windowsfileattributes.h"
+#include "platform/windows/windowsfilecalls.h"
 #include "platform/windows/windowsfilekind.h"
 #include "platform/windows/windowslasterror.h"
 #include "platform/windows/windowspaths.h"
@@ -30,7 +31,7 @@ Result<HeldFolder> holdFolder(const std::wstring &path)
 {
     // To list it, since a handle for its attributes alone would keep nobody from deleting it.
     HeldFolder folder;
-    folder.handle = WinHandle(win32().createFile(
+    folder.handle = WinHandle(fileCalls().createFile(
         path.c_str(), FILE_LIST_DIRECTORY, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING,
         FILE_FLAG_BACKUP_SEMANTICS | FILE_FLAG_OPEN_REPARSE_POINT | FILE_FLAG_OPEN_NO_RECALL, nullptr));
     if (!folder.handle.isValid())
@@ -45,8 +46,8 @@ Result<HeldFolder> holdFolder(const std::wstring &path)
 }
 
 FolderListing::FolderListing(const std::wstring &path)
-    : m_search(win32().findFirstFile(entryPath(path, L"*").c_str(), FindExInfoBasic, &m_entry,
-                                     FindExSearchNameMatch, nullptr, FIND_FIRST_EX_LARGE_FETCH))
+    : m_search(fileCalls().findFirstFile(entryPath(path, L"*").c_str(), FindExInfoBasic, &m_entry,
+                                         FindExSearchNameMatch, nullptr, FIND_FIRST_EX_LARGE_FETCH))
 {
     if (m_search == INVALID_HANDLE_VALUE)
         m_status = statusFromLastError("FindFirstFileEx");
@@ -55,7 +56,7 @@ FolderListing::FolderListing(const std::wstring &path)
 FolderListing::~FolderListing()
 {
     if (m_search != INVALID_HANDLE_VALUE)
-        win32().findClose(m_search);
+        fileCalls().findClose(m_search);
 }
 
 Status FolderListing::forEach(const EntryVisitor &visit)
@@ -69,7 +70,7 @@ Status FolderListing::forEach(const EntryVisitor &visit)
         const std::wstring_view name = m_entry.cFileName;
         if (name != L"." && name != L".." && !visit(m_entry))
             return {};
-    } while (win32().findNextFile(m_search, &m_entry));
+    } while (fileCalls().findNextFile(m_search, &m_entry));
     const Status end = statusFromLastError("FindNextFile");
     return end.native == ERROR_NO_MORE_FILES ? Status{} : end;
 }

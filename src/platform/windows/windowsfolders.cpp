@@ -2,6 +2,7 @@
 
 #include "platform/windows/windowsanchoredfolder.h"
 #include "platform/windows/windowsfileattributes.h"
+#include "platform/windows/windowsfilecalls.h"
 #include "platform/windows/windowsfilekind.h"
 #include "platform/windows/windowsfolderhandle.h"
 #include "platform/windows/windowsfolderlisting.h"
@@ -9,6 +10,7 @@
 #include "platform/windows/windowspaths.h"
 #include "platform/windows/windowsshadowcopies.h"
 #include "platform/windows/windowstreeremoval.h"
+#include "platform/windows/windowsvolumecalls.h"
 
 #include <limits>
 #include <optional>
@@ -20,7 +22,7 @@ namespace {
 
 Status makeFolder(const std::wstring &path)
 {
-    const Status status = statusOf(win32().createDirectory(path.c_str(), nullptr), "CreateDirectory");
+    const Status status = statusOf(fileCalls().createDirectory(path.c_str(), nullptr), "CreateDirectory");
     if (status || status.isAbsent())
         return status;
     // Of a root that exists the system says that access is denied, not that it exists.
@@ -105,7 +107,7 @@ Status WindowsFolders::removeEmpty(const EntryPath &folder)
         return attributes.status();
     if (!isPlainFolder(attributes.value()))
         return {PathNotFound, ERROR_DIRECTORY, "GetFileAttributes"};
-    return statusOf(win32().removeDirectory(name.value().c_str()), "RemoveDirectory");
+    return statusOf(fileCalls().removeDirectory(name.value().c_str()), "RemoveDirectory");
 }
 
 Status WindowsFolders::removeTree(const QString &folder)
@@ -127,7 +129,7 @@ Status WindowsFolders::hide(const QString &path)
     if (!name)
         return name.status();
     constexpr DWORD Hidden = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM;
-    return statusOf(win32().setFileAttributes(name.value().c_str(), Hidden), "SetFileAttributes");
+    return statusOf(fileCalls().setFileAttributes(name.value().c_str(), Hidden), "SetFileAttributes");
 }
 
 Result<SpaceInfo> WindowsFolders::space(const QString &path)
@@ -144,7 +146,7 @@ Result<SpaceInfo> WindowsFolders::space(const QString &path)
     ULARGE_INTEGER available = {};
     ULARGE_INTEGER total = {};
     ULARGE_INTEGER free = {};
-    if (!win32().getDiskFreeSpace(folder.c_str(), &available, &total, &free))
+    if (!volumeCalls().getDiskFreeSpace(folder.c_str(), &available, &total, &free))
         return statusFromLastError("GetDiskFreeSpaceEx");
     return SpaceInfo{bytesOf(total), bytesOf(free), bytesOf(available)};
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/windows/windowscalls.h"
+#include "platform/windows/windowsfilecalls.h"
 
 #include <utility>
 
@@ -37,7 +37,7 @@ private:
         if (!isValid())
             return;
         const DWORD error = ::GetLastError();
-        win32().closeHandle(m_handle);
+        fileCalls().closeHandle(m_handle);
         ::SetLastError(error);
     }
 

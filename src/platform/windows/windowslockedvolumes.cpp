@@ -1,7 +1,7 @@
 #include "platform/windows/windowslockedvolumes.h"
 
 #include "platform/devicefailure.h"
-#include "platform/windows/windowscalls.h"
+#include "platform/windows/windowsheaders.h"
 
 #include <algorithm>
 #include <utility>

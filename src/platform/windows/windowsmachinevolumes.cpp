@@ -1,6 +1,7 @@
 #include "platform/windows/windowsmachinevolumes.h"
 
 #include "platform/windows/windowslasterror.h"
+#include "platform/windows/windowsvolumecalls.h"
 
 #include <QRegularExpression>
 
@@ -16,7 +17,7 @@ class VolumeSearch
 {
 public:
     VolumeSearch()
-        : m_search(win32().findFirstVolume(m_name.data(), NameRoom))
+        : m_search(volumeCalls().findFirstVolume(m_name.data(), NameRoom))
     {
         if (m_search == INVALID_HANDLE_VALUE)
             m_status = statusFromLastError("FindFirstVolume");
@@ -24,7 +25,7 @@ public:
     ~VolumeSearch()
     {
         if (m_search != INVALID_HANDLE_VALUE)
-            win32().findVolumeClose(m_search);
+            volumeCalls().findVolumeClose(m_search);
     }
     VolumeSearch(const VolumeSearch &) = delete;
     VolumeSearch &operator=(const VolumeSearch &) = delete;
@@ -43,7 +44,8 @@ public:
 
     void next()
     {
-        m_status = statusOf(win32().findNextVolume(m_search, m_name.data(), NameRoom), "FindNextVolume");
+        m_status =
+            statusOf(volumeCalls().findNextVolume(m_search, m_name.data(), NameRoom), "FindNextVolume");
     }
 
 private:

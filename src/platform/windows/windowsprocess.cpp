@@ -1,8 +1,8 @@
 #include "platform/process.h"
 
-#include "platform/windows/windowscalls.h"
 #include "platform/windows/windowslasterror.h"
 #include "platform/windows/windowspaths.h"
+#include "platform/windows/windowsprocesscalls.h"
 
 #include <QWinEventNotifier>
 
@@ -222,7 +222,7 @@ QStringList decodedArguments(int, char *const *)
     result.reserve(count);
     for (int i = 0; i < count; ++i)
         result.append(decodeName(arguments[i]));
-    win32().localFree(static_cast<void *>(arguments));
+    processCalls().localFree(static_cast<void *>(arguments));
     return result;
 }
 

@@ -1,19 +1,26 @@
 #include "platform/windows/windowsprocesstoken.h"
 
-#include "platform/windows/windowshandle.h"
 #include "platform/windows/windowslasterror.h"
+#include "platform/windows/windowsprocesscalls.h"
 
 namespace platform {
 
-Result<bool> isProcessElevated()
+WinHandle openToken(HANDLE process)
 {
     HANDLE opened = nullptr;
-    if (!win32().openProcessToken(::GetCurrentProcess(), TOKEN_QUERY, &opened))
+    if (!processCalls().openProcessToken(process, TOKEN_QUERY, &opened))
+        return {};
+    return WinHandle(opened);
+}
+
+Result<bool> isProcessElevated()
+{
+    const WinHandle token = openToken(::GetCurrentProcess());
+    if (!token.isValid())
         return statusFromLastError("OpenProcessToken");
-    const WinHandle token(opened);
     TOKEN_ELEVATION elevation = {};
     DWORD size = 0;
-    if (!win32().getTokenInformation(token.get(), TokenElevation, &elevation, sizeof elevation, &size))
+    if (!processCalls().getTokenInformation(token.get(), TokenElevation, &elevation, sizeof elevation, &size))
         return statusFromLastError("GetTokenInformation");
     return elevation.TokenIsElevated != 0;
 }

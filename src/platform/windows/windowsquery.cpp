@@ -1,8 +1,12 @@
 #include "platform/windows/windowsquery.h"
 
 #include "platform/storagereplies.h"
+#include "platform/windows/windowsfilecalls.h"
 #include "platform/windows/windowslasterror.h"
 #include "platform/windows/windowsmachinevolumes.h"
+#include "platform/windows/windowsvolumecalls.h"
+
+#include <winioctl.h>
 
 #include <algorithm>
 #include <cstddef>
@@ -43,8 +47,8 @@ Result<QByteArray> ask(HANDLE device, const Question &question, ReplySize size, 
     QByteArray reply(qsizetype(size.room), '\0');
     DWORD returned = 0;
     const BOOL answered =
-        win32().deviceIoControl(device, question.code, const_cast<void *>(question.input), question.inputSize,
-                                reply.data(), size.room, &returned, nullptr);
+        volumeCalls().deviceIoControl(device, question.code, const_cast<void *>(question.input),
+                                      question.inputSize, reply.data(), size.room, &returned, nullptr);
     if (!answered)
         return statusFromLastError(operation);
     if (returned < size.needed)
@@ -76,8 +80,8 @@ Result<bool> askFlag(HANDLE device, STORAGE_PROPERTY_ID property, qsizetype flag
 Result<WinHandle> openForQuery(const QString &devicePath)
 {
     const std::wstring path = devicePath.toStdWString();
-    WinHandle device(win32().createFile(path.c_str(), 0, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
-                                        OPEN_EXISTING, 0, nullptr));
+    WinHandle device(fileCalls().createFile(path.c_str(), 0, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
+                                            OPEN_EXISTING, 0, nullptr));
     if (!device.isValid())
         return statusFromLastError("CreateFile to query");
     return device;
@@ -163,9 +167,9 @@ Result<bool> WindowsQuery::trimEnabled()
 bool WindowsQuery::isReadOnly() const
 {
     DWORD returned = 0;
-    const Status writable = statusOf(
-        win32().deviceIoControl(handle(), IOCTL_DISK_IS_WRITABLE, nullptr, 0, nullptr, 0, &returned, nullptr),
-        "IOCTL_DISK_IS_WRITABLE");
+    const Status writable = statusOf(volumeCalls().deviceIoControl(handle(), IOCTL_DISK_IS_WRITABLE, nullptr,
+                                                                   0, nullptr, 0, &returned, nullptr),
+                                     "IOCTL_DISK_IS_WRITABLE");
     return writable.code == WriteProtect;
 }
 

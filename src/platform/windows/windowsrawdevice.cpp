@@ -2,7 +2,10 @@
 
 #include "platform/alignedbuffer.h"
 #include "platform/transfercheck.h"
+#include "platform/windows/windowsfilecalls.h"
 #include "platform/windows/windowslasterror.h"
+
+#include <winioctl.h>
 
 #include <algorithm>
 #include <cstring>
@@ -23,9 +26,9 @@ Result<WinHandle> openForTransfers(const QString &devicePath, DriveAccess access
 {
     const std::wstring path = devicePath.toStdWString();
     const DWORD rights = access == DriveAccess::ReadOnly ? GENERIC_READ : GENERIC_READ | GENERIC_WRITE;
-    WinHandle device(win32().createFile(path.c_str(), rights, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
-                                        OPEN_EXISTING, FILE_FLAG_WRITE_THROUGH | FILE_FLAG_NO_BUFFERING,
-                                        nullptr));
+    WinHandle device(fileCalls().createFile(path.c_str(), rights, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
+                                            OPEN_EXISTING, FILE_FLAG_WRITE_THROUGH | FILE_FLAG_NO_BUFFERING,
+                                            nullptr));
     if (!device.isValid())
         return statusFromLastError("CreateFile");
     return device;
@@ -83,7 +86,8 @@ bool DeviceTransfers::isAtUntoldEnd()
     if (m_end >= 0 || sector.isNull() || !seek(m_position))
         return false;
     DWORD count = 0;
-    const BOOL answered = win32().readFile(handle(), sector.data(), DWORD(sector.size()), &count, nullptr);
+    const BOOL answered =
+        fileCalls().readFile(handle(), sector.data(), DWORD(sector.size()), &count, nullptr);
     return seek(m_position) && answered && count == 0;
 }
 
@@ -93,7 +97,7 @@ Status DeviceTransfers::seek(qint64 position)
         return {InvalidParameter, 0, "seek"};
     LARGE_INTEGER distance = {};
     distance.QuadPart = position;
-    if (!win32().setFilePointer(handle(), distance, nullptr, FILE_BEGIN))
+    if (!fileCalls().setFilePointer(handle(), distance, nullptr, FILE_BEGIN))
         return statusFromLastError("SetFilePointerEx");
     m_position = position;
     return {};
@@ -108,7 +112,7 @@ Result<qint64> DeviceTransfers::read(void *data, qint64 size)
     while (done < wanted) {
         const auto piece = DWORD(std::min(wanted - done, CallLimit));
         DWORD count = 0;
-        if (!win32().readFile(handle(), static_cast<char *>(data) + done, piece, &count, nullptr)) {
+        if (!fileCalls().readFile(handle(), static_cast<char *>(data) + done, piece, &count, nullptr)) {
             const Status failure = statusFromLastError("ReadFile");
             if (failure.code == ERROR_HANDLE_EOF)
                 break;
@@ -133,7 +137,8 @@ Result<qint64> DeviceTransfers::write(const void *data, qint64 size)
     while (done < wanted) {
         const auto piece = DWORD(std::min(wanted - done, CallLimit));
         DWORD count = 0;
-        if (!win32().writeFile(handle(), static_cast<const char *>(data) + done, piece, &count, nullptr)) {
+        if (!fileCalls().writeFile(handle(), static_cast<const char *>(data) + done, piece, &count,
+                                   nullptr)) {
             const Status failure = statusFromLastError("WriteFile");
             // What was written before counts; the next write meets the end again.
             if (done > 0 && isEndOfDevice(failure.code))
@@ -152,7 +157,7 @@ Result<qint64> DeviceTransfers::write(const void *data, qint64 size)
 
 Status DeviceTransfers::flush()
 {
-    return statusOf(win32().flushFileBuffers(handle()), "FlushFileBuffers");
+    return statusOf(fileCalls().flushFileBuffers(handle()), "FlushFileBuffers");
 }
 
 } // namespace platform

@@ -2,9 +2,10 @@
 
 #include "platform/windows/windowsaccount.h"
 #include "platform/windows/windowsawakehold.h"
-#include "platform/windows/windowscalls.h"
+#include "platform/windows/windowsdesktopcalls.h"
 #include "platform/windows/windowsmachinevolumes.h"
 #include "platform/windows/windowspaths.h"
+#include "platform/windows/windowsprocesscalls.h"
 #include "platform/windows/windowsprocesstoken.h"
 
 #include <shlobj.h>
@@ -28,8 +29,8 @@ QString bootPartition()
 {
     std::array<wchar_t, MAX_PATH> name{};
     auto size = DWORD(sizeof name);
-    if (win32().regGetValue(HKEY_LOCAL_MACHINE, LR"(SYSTEM\Setup)", L"SystemPartition", RRF_RT_REG_SZ,
-                            nullptr, name.data(), &size) != ERROR_SUCCESS)
+    if (processCalls().regGetValue(HKEY_LOCAL_MACHINE, LR"(SYSTEM\Setup)", L"SystemPartition", RRF_RT_REG_SZ,
+                                   nullptr, name.data(), &size) != ERROR_SUCCESS)
         return {};
     const QString path = QStringLiteral(R"(\\?\GLOBALROOT)") + QString::fromWCharArray(name.data());
     return isMachineVolume(path) ? path : QString();
@@ -53,7 +54,7 @@ bool WindowsSession::isSystemRoot(const QString &rootPath)
 bool WindowsSession::holdsSystemFiles(const QString &rootPath)
 {
     std::array<wchar_t, MAX_PATH> folder{};
-    const UINT length = win32().getWindowsDirectory(folder.data(), MAX_PATH);
+    const UINT length = processCalls().getWindowsDirectory(folder.data(), MAX_PATH);
     // Without an answer the reserve goes where the system is by all other signs.
     const QString drive = length >= 2 && length < MAX_PATH ? decodeName({folder.data(), 2}) : systemDrive();
     return rootPath.startsWith(drive, Qt::CaseInsensitive);
@@ -71,12 +72,12 @@ QString WindowsSession::foreignAccount()
 
 void WindowsSession::tellBinChanged()
 {
-    win32().updateRecycleBinIcon();
+    desktopCalls().updateRecycleBinIcon();
     // Windows that show the bin.
     PIDLIST_ABSOLUTE bin = nullptr;
     if (FAILED(::SHGetSpecialFolderLocation(nullptr, CSIDL_BITBUCKET, &bin)))
         return;
-    win32().changeNotify(SHCNE_UPDATEDIR, SHCNF_IDLIST | SHCNF_FLUSHNOWAIT, bin, nullptr);
+    desktopCalls().changeNotify(SHCNE_UPDATEDIR, SHCNF_IDLIST | SHCNF_FLUSHNOWAIT, bin, nullptr);
     ::CoTaskMemFree(bin);
 }
 

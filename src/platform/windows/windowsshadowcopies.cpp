@@ -1,5 +1,7 @@
 #include "platform/windows/windowsshadowcopies.h"
 
+#include "platform/windows/windowsfileattributes.h"
+#include "platform/windows/windowsfilecalls.h"
 #include "platform/windows/windowshandle.h"
 #include "platform/windows/windowslasterror.h"
 
@@ -18,22 +20,15 @@ struct VolumeKind
     std::wstring fileSystem;
 };
 
-WinHandle openToAsk(const std::wstring &path)
-{
-    constexpr DWORD ShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
-    return WinHandle(win32().createFile(path.c_str(), FILE_READ_ATTRIBUTES, ShareAll, nullptr, OPEN_EXISTING,
-                                        FILE_FLAG_BACKUP_SEMANTICS | FILE_FLAG_OPEN_REPARSE_POINT, nullptr));
-}
-
 Result<VolumeKind> volumeOf(const std::wstring &path)
 {
-    const WinHandle handle = openToAsk(path);
+    const WinHandle handle = openForAttributes(path, FILE_FLAG_BACKUP_SEMANTICS);
     if (!handle.isValid())
         return statusFromLastError("CreateFile");
     VolumeKind kind;
     std::array<wchar_t, MAX_PATH + 1> name{};
-    if (!win32().getVolumeInformation(handle.get(), nullptr, 0, &kind.serialNumber, nullptr, nullptr,
-                                      name.data(), DWORD(name.size())))
+    if (!fileCalls().getVolumeInformation(handle.get(), nullptr, 0, &kind.serialNumber, nullptr, nullptr,
+                                          name.data(), DWORD(name.size())))
         return statusFromLastError("GetVolumeInformationByHandle");
     kind.fileSystem = name.data();
     return kind;

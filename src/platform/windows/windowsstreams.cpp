@@ -1,5 +1,6 @@
 #include "platform/windows/windowsstreams.h"
 
+#include "platform/windows/windowsfilecalls.h"
 #include "platform/windows/windowslasterror.h"
 #include "platform/windows/windowspaths.h"
 
@@ -20,7 +21,7 @@ Result<QByteArray> listingOf(HANDLE opened)
 {
     for (qsizetype room = FirstRoom; room <= LargestRoom; room *= 4) {
         QByteArray listing(room, '\0');
-        if (win32().getFileInformationEx(opened, FileStreamInfo, listing.data(), DWORD(room)))
+        if (fileCalls().getFileInformationEx(opened, FileStreamInfo, listing.data(), DWORD(room)))
             return listing;
         const Status status = statusFromLastError("GetFileInformationByHandleEx");
         if (status.native == ERROR_HANDLE_EOF)
@@ -57,7 +58,7 @@ QList<NamedStream> namedAmong(const QByteArray &listing)
 Result<QList<NamedStream>> namedStreamsOf(HANDLE opened)
 {
     DWORD volume = 0;
-    if (!win32().getVolumeInformation(opened, nullptr, 0, nullptr, nullptr, &volume, nullptr, 0))
+    if (!fileCalls().getVolumeInformation(opened, nullptr, 0, nullptr, nullptr, &volume, nullptr, 0))
         return statusFromLastError("GetVolumeInformationByHandle");
     if (!(volume & FILE_NAMED_STREAMS))
         return QList<NamedStream>();

@@ -2,7 +2,7 @@
 
 #include "platform/files.h"
 #include "platform/status.h"
-#include "platform/windows/windowscalls.h"
+#include "platform/windows/windowsheaders.h"
 
 #include <QList>
 

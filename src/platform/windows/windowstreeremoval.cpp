@@ -1,6 +1,7 @@
 #include "platform/windows/windowstreeremoval.h"
 
 #include "platform/windows/windowsfileattributes.h"
+#include "platform/windows/windowsfilecalls.h"
 #include "platform/windows/windowsfilekind.h"
 #include "platform/windows/windowslasterror.h"
 #include "platform/windows/windowspaths.h"
@@ -13,7 +14,7 @@ Status removeFolderItself(const std::wstring &path, DWORD attributes)
 {
     if (const Status writable = clearReadOnlyAttribute(path, attributes); !writable)
         return writable;
-    return statusOf(win32().removeDirectory(path.c_str()), "RemoveDirectory");
+    return statusOf(fileCalls().removeDirectory(path.c_str()), "RemoveDirectory");
 }
 
 } // namespace
@@ -40,7 +41,7 @@ Status TreeRemoval::run(const std::wstring &path)
 void TreeRemoval::removeFolder(const std::wstring &path)
 {
     // Most folders are empty when their turn comes. One that has become a link is removed by this as well.
-    const Status status = statusOf(win32().removeDirectory(path.c_str()), "RemoveDirectory");
+    const Status status = statusOf(fileCalls().removeDirectory(path.c_str()), "RemoveDirectory");
     if (status || status.isAbsent())
         return;
     // Not empty, or read-only.
@@ -85,7 +86,7 @@ void TreeRemoval::removeOther(const std::wstring &path, const EntryAttributes &a
     if (isFolderLink(attributes))
         status = removeFolderItself(path, attributes.bits);
     else if (status = clearReadOnlyAttribute(path, attributes.bits); status)
-        status = statusOf(win32().deleteFile(path.c_str()), "DeleteFile");
+        status = statusOf(fileCalls().deleteFile(path.c_str()), "DeleteFile");
     if (!status.isAbsent())
         note(status);
 }

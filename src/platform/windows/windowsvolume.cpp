@@ -1,6 +1,10 @@
 #include "platform/windows/windowsvolume.h"
 
+#include "platform/windows/windowsfilecalls.h"
 #include "platform/windows/windowslasterror.h"
+#include "platform/windows/windowsvolumecalls.h"
+
+#include <winioctl.h>
 
 namespace platform {
 
@@ -22,7 +26,7 @@ Status WindowsVolumeDevice::flushDrive() const
     const Result<WinHandle> drive = m_openDrive();
     if (!drive)
         return drive.status();
-    return statusOf(win32().flushFileBuffers(drive.value().get()), "FlushFileBuffers of the drive");
+    return statusOf(fileCalls().flushFileBuffers(drive.value().get()), "FlushFileBuffers of the drive");
 }
 
 Status WindowsVolumeDevice::lock()
@@ -50,7 +54,7 @@ Status WindowsVolumeDevice::unlock()
 Status WindowsVolumeDevice::control(DWORD code, const char *operation)
 {
     DWORD returned = 0;
-    return statusOf(win32().deviceIoControl(handle(), code, nullptr, 0, nullptr, 0, &returned, nullptr),
+    return statusOf(volumeCalls().deviceIoControl(handle(), code, nullptr, 0, nullptr, 0, &returned, nullptr),
                     operation);
 }
 

@@ -1,5 +1,6 @@
 #include "platform/windows/windowsvolumeidentity.h"
 
+#include "platform/windows/windowsfilecalls.h"
 #include "platform/windows/windowsfileid.h"
 #include "platform/windows/windowsfolderlisting.h"
 #include "platform/windows/windowslasterror.h"
@@ -10,7 +11,7 @@ namespace platform {
 Result<QString> volumeIdentityOf(HANDLE root)
 {
     BY_HANDLE_FILE_INFORMATION found = {};
-    if (!win32().getFileInformation(root, &found))
+    if (!fileCalls().getFileInformation(root, &found))
         return statusFromLastError("GetFileInformationByHandle");
     const FileId id = fileIdFrom(found);
     // Roots are born with their volumes, but have the same number on all of them.

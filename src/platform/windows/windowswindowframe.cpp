@@ -1,7 +1,7 @@
 #include "platform/windowframe.h"
 
-#include "platform/windows/windowscalls.h"
 #include "platform/windows/windowsframemessages.h"
+#include "platform/windows/windowsheaders.h"
 
 #include <QAbstractNativeEventFilter>
 #include <QByteArray>
