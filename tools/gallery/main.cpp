@@ -26,14 +26,20 @@ std::vector<const GalleryRoom *> &rooms()
 
 // The size of these is part of the design. The texts of every language fit, and the pseudo-locale shows that
 // longer ones would not.
-const QStringList ofGivenSize{u"browseBtn"_s,    u"cardDescription"_s,          u"dangerBtn"_s,
-                              u"methodDesc"_s,   u"historyTable/QHeaderView"_s, u"secondaryBtn"_s,
-                              u"statusFilter"_s, u"viewCertificateBtn"_s};
+const QStringList ofGivenSize{u"browseBtn"_s,
+                              u"cardDescription"_s,
+                              u"dangerBtn"_s,
+                              u"methodDesc"_s,
+                              u"historyTable/QHeaderView"_s,
+                              u"primaryBtn"_s,
+                              u"secondaryBtn"_s,
+                              u"statusFilter"_s,
+                              u"viewCertificateBtn"_s};
 
 bool isOfGivenSize(const QString &cut)
 {
     return std::ranges::any_of(ofGivenSize,
-                               [&cut](const QString &name) { return cut.startsWith(name + u": "); });
+                               [&cut](const QString &name) { return cut.startsWith(name + u": "_s); });
 }
 
 QString scaleText()

@@ -29,7 +29,7 @@ constexpr int buttonHeight = 38;
 
 QPushButton *makeButton(const QString &text, QStringView style)
 {
-    auto *button = buttons::make(text, {.height = buttonHeight, .styleSheet = style.toString()});
+    auto *button = buttons::make(text, {.name = {}, .height = buttonHeight, .styleSheet = style.toString()});
     // An Enter key meant for the previous dialog must not export or print.
     button->setAutoDefault(false);
     return button;

@@ -8,7 +8,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QStyle>
 #include <QTextDocument>
 #include <QTextDocumentFragment>
 #include <QTextEdit>
@@ -55,9 +54,9 @@ int heightOf(const QTextEdit &field, int width)
 // between words.
 QString brokenIntoLines(const QCheckBox &box, int width)
 {
-    const QStyle &style = *box.style();
-    const int room = width - style.pixelMetric(QStyle::PM_IndicatorWidth, nullptr, &box) -
-                     style.pixelMetric(QStyle::PM_CheckBoxLabelSpacing, nullptr, &box);
+    const int besideText =
+        box.sizeHint().width() - box.fontMetrics().size(Qt::TextShowMnemonic, box.text()).width();
+    const int room = width - besideText;
     QStringList lines;
     for (const QString &given : box.text().split(u'\n')) {
         QString line;
