@@ -2,6 +2,7 @@
 
 #include "certificate/certificaterenderer.h"
 #include "model/displaytext.h"
+#include "model/spokentext.h"
 #include "model/usersettings.h"
 #include "ui/certificate/certificatestyles.h"
 #include "ui/certificate/certificateview.h"
@@ -32,6 +33,7 @@ QPushButton *makeButton(const QString &text, QStringView style)
     auto *button = buttons::make(text, {.name = {}, .height = buttonHeight, .styleSheet = style.toString()});
     // An Enter key meant for the previous dialog must not export or print.
     button->setAutoDefault(false);
+    button->setAccessibleName(spokenText(text));
     return button;
 }
 

@@ -160,7 +160,8 @@ void ConfirmDialog::offerWholeDrive(qint64 bytesLeft)
     m_wholeDrive = new QCheckBox(
         bytesLeft < 0
             ? tr("Erase the whole disk\n(otherwise all outside its volumes stays)")
-            : tr("Erase the whole disk\n(otherwise %1 outside its volumes stay)").arg(formatSize(bytesLeft)));
+            : tr("Erase the whole disk\n(otherwise %1 outside its volumes stay)").arg(formatSize(bytesLeft)),
+        this);
     m_wholeDrive->setObjectName(u"wholeDriveBox"_s);
     m_wholeDrive->ensurePolished();
     m_wholeDrive->setText(brokenIntoLines(*m_wholeDrive, width() - 2 * Margin));
