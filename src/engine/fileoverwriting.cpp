@@ -16,8 +16,6 @@
 #include <utility>
 #include <vector>
 
-using platform::ContentPlace;
-using platform::Elsewhere;
 using platform::EntryPath;
 using platform::FileKind;
 using platform::Status;
