@@ -30,7 +30,7 @@ struct FileInfo
     qint64 size = 0;   ///< bytes; 0 except for regular files
     int linkCount = 1; ///< number of names (hard links), at least 1
     FileId id{};       ///< comparable only where FileHandle::id() succeeds
-    /// In a held folder: another file system is mounted over the name, so the entry is not in the folder.
+    /// In a held folder: the name is a mount point, so the entry found is not one of the folder.
     bool isMounted = false;
     /// The space allocated for the content of a regular file, less than its size if it has holes or is
     /// compressed; below 0 where it is not known to be less.

@@ -15,8 +15,7 @@ namespace platform {
 
 namespace {
 
-constexpr qint64 KernelSector =
-    512; // the unit of "start" and "size", independent of the device's sector size
+constexpr qint64 KernelSector = 512; // the unit of "start" and "size", on every device
 
 } // namespace
 

@@ -23,8 +23,8 @@ namespace {
 // Large enough for a verification sample at any position, and small compared to a worker's own buffers.
 constexpr qint64 LargestBounce = qint64(1024) * 1024;
 // Writing the incomplete last unit separately would flush the device a second time, which dominates the time
-// for a small file. So an unaligned write up to this size goes through the cache as a whole. The same holds
-// for each write of a group's member, because the write does not wait and the device gets many at a time.
+// for a small file. So an unaligned write up to this size goes through the cache as a whole. Every write of a
+// group's member up to this size does so too, because it does not wait and the device gets many at a time.
 constexpr qint64 LargestCachedWrite = 256LL * 1024;
 constexpr qint64 LargestFileUnit = 65536;
 constexpr qint64 LargestMemoryUnit = 4096; // the alignment of every AlignedBuffer
@@ -272,8 +272,8 @@ Status LinuxFileHandle::flush()
     // The kernel reports lost data only once, so a second attempt would succeed although the data is missing.
     if (!m_flushFailure)
         return m_flushFailure;
-    // Each write has already waited for the device. Another flush of its cache would take a third of the time
-    // for small files.
+    // Each write has already waited for the device. Another flush of the device's cache
+    // would take a third of the time for small files.
     if (m_writeThrough && !m_endMoved && !m_writeFailed)
         return {};
     if (m_group && !m_writeFailed && m_group->take(m_file.get(), m_written))
