@@ -143,7 +143,7 @@ public:
     /// Allows transfers up to the very end of the volume. Windows: FSCTL_ALLOW_EXTENDED_DASD_IO. Linux:
     /// success.
     virtual Status allowExtendedIo() = 0;
-    /// Windows: FSCTL_UNLOCK_VOLUME. Linux: ends the exclusive opening.
+    /// Windows: FSCTL_UNLOCK_VOLUME. Linux: gives up the exclusive access.
     virtual Status unlock() = 0;
 };
 

@@ -192,8 +192,8 @@ public:
     /// O_NOFOLLOW.
     virtual Result<std::unique_ptr<QFileDevice>> openForAppending(const QString &path) = 0;
 
-    /// Whether the path, followed through links, is a character device or a pipe. Never on Windows, whose
-    /// names for them lie in no folder.
+    /// Whether the path, followed through links, is a character device or a pipe. Always false on Windows,
+    /// whose names of devices and pipes lie in no folder.
     virtual bool isStream(const QString &path) = 0;
 
     /// Opens a character device or pipe for writing in this mode, and waits for a pipe's reader. False when

@@ -12,8 +12,9 @@ namespace platform {
 /// A request to keep the system awake.
 struct AwakeRequest
 {
-    QString reason;      ///< a short sentence that the system may show to the user
-    quintptr window = 0; ///< the caller's window, of its thread, as QWidget::winId() returns it; 0: none
+    QString reason; ///< a short sentence that the system may show to the user
+    /// A window of the program that belongs to the calling thread, as QWidget::winId() returns it; 0: none.
+    quintptr window = 0;
 };
 
 /// Keeps the system awake until destruction, which must happen on the thread that made the request.
