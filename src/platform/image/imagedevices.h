@@ -14,7 +14,7 @@ namespace platform {
 class ImageDevices : public Devices
 {
 public:
-    /// Both bases outlive this object. An invalid path becomes a drive that does not answer.
+    /// Both bases outlive this object. A path without a file becomes a drive that does not answer.
     ImageDevices(Devices &base, Files &files, const ImageDriveOptions &options);
 
     QString drivePath(int number) override;
