@@ -9,7 +9,7 @@ import xml.etree.ElementTree as ET
 CATALOGUES = pathlib.Path("/usr/share/qt6/translations")
 LCONVERT = "/usr/lib/qt6/bin/lconvert"
 TRANSLATIONS = pathlib.Path(__file__).resolve().parent.parent / "resources" / "translations"
-# Without the texts of errors, which go into logs and answers that are no one's language.
+# Error texts are left out, because they go into logs and answers that are not translated.
 CONTEXTS = {
     "CloseButton",
     "QAbstractSpinBox",
@@ -37,7 +37,7 @@ CONTEXTS = {
     "QUnicodeControlCharacterMenu",
     "QWidgetTextControl",
 }
-# Of the names of keys those that stand in menus.
+# The names of the keys that appear in menus.
 KEYS = {"Alt", "Backspace", "Ctrl", "Del", "End", "Esc", "Home", "Ins", "Left", "Right", "Shift", "Space", "Tab"}
 
 
@@ -56,7 +56,7 @@ def keep(context):
         return False
     for message in context.findall("message"):
         source = message.find("source").text
-        # What is the same in both needs no catalogue; nobody is told about Qt.
+        # A text that is equal in both languages needs no catalogue, and the box about Qt is never shown.
         is_same = message.find("translation").text == source
         is_foreign = "About Qt" in source or "C++" in source or (name == "QShortcut" and source not in KEYS)
         if is_same or is_foreign:

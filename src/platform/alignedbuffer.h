@@ -7,17 +7,17 @@
 
 namespace platform {
 
-// Memory that unbuffered device transfers accept: it begins on a page boundary, and its length is kept in
-// bytes as asked for (the allocation itself is whole pages). Contents are zero after allocation.
-//
-// Windows: VirtualAlloc(MEM_COMMIT | MEM_RESERVE, PAGE_READWRITE) and VirtualFree(MEM_RELEASE). Linux: an
-// anonymous private mapping, for small ones aligned_alloc. Movable, not copyable; released on destruction. A
-// buffer is used by one thread at a time.
+/// Memory for unbuffered device transfers. It begins on a page boundary. The size is kept in bytes as
+/// requested; the allocation itself is whole pages. The contents are zero after allocation.
+///
+/// Windows: VirtualAlloc(MEM_COMMIT | MEM_RESERVE, PAGE_READWRITE) and VirtualFree(MEM_RELEASE). Linux: an
+/// anonymous private mapping, aligned_alloc for small buffers. Movable, not copyable; released on
+/// destruction. One thread at a time.
 class AlignedBuffer
 {
 public:
     AlignedBuffer() = default;
-    // On failure the buffer is null; nothing is thrown. A size below 1 gives a null buffer.
+    /// On failure the buffer is null; nothing is thrown. A size below 1 gives a null buffer.
     explicit AlignedBuffer(qint64 size);
     ~AlignedBuffer();
     AlignedBuffer(AlignedBuffer &&other) noexcept

@@ -10,11 +10,11 @@
 
 namespace platform {
 
-// An open folder. What is done in it reaches this folder and its volume, whatever becomes of its path
-// meanwhile: a link that takes its place, another volume that is mounted over it.
-//
-// Names are single components; everything else fails with InvalidParameter. No operation follows a link. One
-// thread at a time; closes on destruction. As long as a folder is open, its volume is in use.
+/// An open folder. Every operation reaches this folder and its volume, even if a link replaces the folder's
+/// path or another volume is mounted over it.
+///
+/// Names are single components; other names fail with InvalidParameter. No operation follows a link. One
+/// thread at a time; closes on destruction. The volume is in use as long as the folder is open.
 class AnchoredFolder
 {
 public:
@@ -23,44 +23,44 @@ public:
     AnchoredFolder(const AnchoredFolder &) = delete;
     AnchoredFolder &operator=(const AnchoredFolder &) = delete;
 
-    // Under which it was opened, for display.
+    /// The path under which the folder was opened, for display.
     virtual QString path() const = 0;
 
-    // Whether this handle alone has the folder: openFolder() and createFolder() claim it. False of the folder
-    // that Folders::anchor() opened, and where the file system knows no such claims.
+    /// Whether this handle holds the folder exclusively. openFolder() and createFolder() claim it. False for
+    /// a folder from Folders::anchor(), and where the file system does not support such claims.
     virtual bool isClaimed() const = 0;
 
-    // What tells the volume of the folder from another that takes its place later: the same text as
-    // MountedVolume::identity. Windows: serial number, number and time of birth of its root. Linux: device,
-    // number and time of birth of its root, f_fsid of statfs, and the UUID that udev has noted.
+    /// Identifies the folder's volume, so that another volume mounted there later is detected. The same text
+    /// as MountedVolume::identity. Windows: serial number, and number and creation time of the root. Linux:
+    /// device, number and creation time of the root, f_fsid of statfs, and the UUID from udev's database.
     virtual Result<QString> volumeIdentity() = 0;
 
-    // Room on its volume. Windows: GetDiskFreeSpaceExW. Linux: fstatvfs.
+    /// Space on the folder's volume. Windows: GetDiskFreeSpaceExW. Linux: fstatvfs.
     virtual Result<SpaceInfo> space() = 0;
 
-    // As Folders::forEachEntry.
+    /// As Folders::forEachEntry.
     virtual Status forEachEntry(const Folders::Visitor &visit) = 0;
-    // As Files::info.
+    /// As Files::info.
     virtual Result<FileInfo> info(const QString &name) = 0;
 
-    // Makes a new file to be written; AlreadyExists when the name is taken by anything. Data is on the medium
-    // after flush(). Stored as it is written, never compressed; it stays behind empty where that fails.
-    // Windows: CREATE_NEW without sharing, FSCTL_SET_COMPRESSION. Linux: openat with O_CREAT | O_EXCL |
-    // O_NOFOLLOW, mode 0600, then O_DIRECT where the file system takes it.
+    /// Creates a new file for writing; AlreadyExists when any entry has the name. Data is on the medium after
+    /// flush(). The file is stored uncompressed; if compression cannot be turned off, the call fails and
+    /// leaves an empty file. Windows: CREATE_NEW without sharing, FSCTL_SET_COMPRESSION. Linux: openat with
+    /// O_CREAT | O_EXCL | O_NOFOLLOW, mode 0600, then O_DIRECT where the file system accepts it.
     virtual Result<std::unique_ptr<FileHandle>> createFile(const QString &name) = 0;
-    // As Files::remove. Linux: unlinkat.
+    /// As Files::remove. Linux: unlinkat.
     virtual Status removeFile(const QString &name) = 0;
 
-    // Makes a new folder, claims and opens it; AlreadyExists when the name is taken by anything.
-    // Windows: CreateDirectoryW, then as openFolder. Linux: mkdirat, mode 0700.
+    /// Creates, claims and opens a new folder; AlreadyExists when any entry has the name. Windows:
+    /// CreateDirectoryW, then as openFolder. Linux: mkdirat, mode 0700.
     virtual Result<std::unique_ptr<AnchoredFolder>> createFolder(const QString &name) = 0;
-    // Opens a folder and claims it: SharingViolation when somebody has it open by such a call. PathNotFound
-    // for a link. Windows: held without FILE_SHARE_DELETE, so that nobody renames or deletes it meanwhile.
-    // Linux: openat with O_DIRECTORY | O_NOFOLLOW, then flock.
+    /// Opens and claims a folder. SharingViolation when another handle has claimed it, PathNotFound for a
+    /// link. Windows: opened without FILE_SHARE_DELETE, so that the folder cannot be renamed or deleted
+    /// meanwhile. Linux: openat with O_DIRECTORY | O_NOFOLLOW, then flock.
     virtual Result<std::unique_ptr<AnchoredFolder>> openFolder(const QString &name) = 0;
-    // Hides the folder itself, as Folders::hide.
+    /// Hides the folder itself, as Folders::hide.
     virtual Status hide() = 0;
-    // As Folders::removeEmpty and removeTree. The folder must not be open here.
+    /// As Folders::removeEmpty and removeTree. This process must not have the folder open.
     virtual Status removeFolder(const QString &name) = 0;
     virtual Status removeTree(const QString &name) = 0;
 };

@@ -1,17 +1,17 @@
 #pragma once
 
-/// What the system says of looks, to a program that has its own. Free functions: both are needed before the
-/// QApplication, and so before the first Platform exists.
+/// The desktop's settings for a program that draws its own look. These are free functions because both are
+/// needed before the QApplication, and so before the first Platform exists.
 
 namespace platform {
 
-// Windows of the system's own around our content keep light frames on a dark desktop. Before the
-// QApplication. Windows: the option "darkmode=0" of Qt's platform plugin, by QT_QPA_PLATFORM unless that is
-// set already. Linux: the window manager's affair.
+/// Keeps light frames around native windows on a dark desktop. Call it before the QApplication exists.
+/// Windows: the option "darkmode=0" of Qt's platform plugin, set in QT_QPA_PLATFORM unless the variable is
+/// set already. Linux: does nothing, the window manager draws the frames.
 void keepLightFrames();
 
-// Whether the system draws its controls in colours of high contrast. Windows: SPI_GETHIGHCONTRAST. Linux: no
-// such question.
+/// Whether the system draws its controls in high-contrast colours. Windows: SPI_GETHIGHCONTRAST. Linux:
+/// false, there is no such setting.
 bool hasHighContrast();
 
 } // namespace platform

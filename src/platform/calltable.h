@@ -4,9 +4,9 @@
 
 namespace platform {
 
-/// The calls of one subject through which a backend asks the system. Calls is a struct of function pointers,
-/// each the system's own function unless a test has put another in its place. A replacement fails as the
-/// system does: it returns the call's value for failure and leaves the error number behind.
+/// The system calls that a backend uses for one subject. Calls is a struct of function pointers, each the
+/// system's own function unless a test has replaced it. A replacement reports failures as the system does: it
+/// returns the call's value for failure and sets the error number.
 template <typename Calls>
 class CallTable
 {
@@ -14,7 +14,7 @@ public:
     /// The table in force. Any thread.
     static const Calls &current() { return *s_inForce.load(std::memory_order_acquire); }
 
-    /// Puts another table in force and answers the one before. Not while jobs run.
+    /// Puts another table in force and returns the previous one. Not while jobs run.
     static const Calls *exchange(const Calls *calls) { return s_inForce.exchange(calls); }
 
 private:
@@ -22,7 +22,7 @@ private:
     inline static std::atomic<const Calls *> s_inForce{&s_system};
 };
 
-/// Puts another table in force until destruction. Not to be changed while jobs run; scopes nest.
+/// Puts another table in force until destruction. The table must not change while jobs run; scopes nest.
 template <typename Calls>
 class ScopedCalls
 {

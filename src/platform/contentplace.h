@@ -5,26 +5,26 @@
 
 namespace platform {
 
-// Why what a file held may outlast being overwritten in place.
+/// Reasons why old content of a file may survive overwriting the file in place.
 enum class Elsewhere : quint32 {
-    Shared = 1 << 0,       // blocks belong to other files or to snapshots too
-    Inline = 1 << 1,       // bytes lie in a record of the file system, old copies of which its journal keeps
-    Encoded = 1 << 2,      // stored compressed or encrypted, by the system too, not as they are written
-    Sparse = 1 << 3,       // stored with holes that get blocks and lose them again
-    Relocating = 1 << 4,   // what is written goes to new blocks
-    Journalled = 1 << 5,   // what is written goes through a journal, and so did what is there
-    LowerLayer = 1 << 6,   // may lie in a layer that is never written to
-    NamedStreams = 1 << 7, // there are further streams, which cannot be opened
-    Unknown = 1 << 8,      // a server or a program keeps it, which cannot be asked
+    Shared = 1 << 0,       ///< blocks are shared with other files or with snapshots
+    Inline = 1 << 1,       ///< bytes lie in a file system record, and the journal keeps old copies of it
+    Encoded = 1 << 2,      ///< stored compressed or encrypted, also by the system, and not as written
+    Sparse = 1 << 3,       ///< stored with holes; blocks are allocated for them and freed again
+    Relocating = 1 << 4,   ///< writes go to new blocks
+    Journalled = 1 << 5,   ///< writes go through a journal, and so did the present content
+    LowerLayer = 1 << 6,   ///< may lie in a lower layer that is never written
+    NamedStreams = 1 << 7, ///< the file has further streams that cannot be opened
+    Unknown = 1 << 8,      ///< stored by a server or program that cannot be queried
 };
 Q_DECLARE_FLAGS(ElsewhereReasons, Elsewhere)
 Q_DECLARE_OPERATORS_FOR_FLAGS(ElsewhereReasons)
 
-// Where the content of a file lies.
+/// Where the content of a file lies.
 struct ContentPlace
 {
-    ElsewhereReasons elsewhere; // none: in blocks of the file's own, which are overwritten in place
-    qint64 bytes = -1;          // of the content that the reasons are about; below 0: unknown
+    ElsewhereReasons elsewhere; ///< none: the file has blocks of its own, which are overwritten in place
+    qint64 bytes = -1;          ///< size of the content that the reasons apply to; below 0: unknown
 
     bool operator==(const ContentPlace &) const = default;
 };

@@ -4,11 +4,11 @@
 
 namespace platform {
 
-// What the error numbers of a device say. Systems answer the same mishap with many numbers, by driver, file
-// system and moment.
+/// Classification of device error numbers. Systems report the same failure with different numbers, depending
+/// on driver, file system and moment.
 
-// It was pulled out, switched off, cut off, or has another medium or none; also what a volume on it answers
-// then.
+/// The device was unplugged, switched off or disconnected, or its medium was changed or removed. A volume on
+/// the device reports the same numbers then.
 constexpr bool isDeviceGone(quint32 code)
 {
     switch (code) {
@@ -31,8 +31,8 @@ constexpr bool isDeviceGone(quint32 code)
     }
 }
 
-// The device or its medium fails, or what is on it can no longer be understood. Some of these are also given
-// for other reasons, so that they never excuse anything.
+/// The device or its medium fails, or the data on it is no longer readable as a volume. Some of these numbers
+/// have other causes too, so a caller must never ignore a failure because of them.
 constexpr bool isMediumFault(quint32 code)
 {
     switch (code) {
@@ -47,7 +47,7 @@ constexpr bool isMediumFault(quint32 code)
     }
 }
 
-// The volume is encrypted and nobody has unlocked it: there is no file system of anybody's on it.
+/// The volume is encrypted and locked, so no file system on it is accessible.
 constexpr bool isLockedByEncryption(quint32 code)
 {
     return code == EncryptedVolumeLocked;

@@ -4,9 +4,9 @@ namespace platform {
 
 class FolderHandle;
 
-// Files of one file system that reach the medium together: waiting for the device once for all of them takes
-// a fraction of the time that waiting for each takes. Begun and closed by Files; one that is not closed says
-// nothing about its members. Any thread.
+/// Files of one file system that are flushed to the medium together. One flush for all of them takes a
+/// fraction of the time of a flush for each. Files begins and closes a group; without the close, the data of
+/// its members may not be on the medium. Any thread.
 class DurabilityGroup
 {
 public:
@@ -15,7 +15,7 @@ public:
     DurabilityGroup(const DurabilityGroup &) = delete;
     DurabilityGroup &operator=(const DurabilityGroup &) = delete;
 
-    // Whether what stands in the folder can be a member, without what is mounted there.
+    /// Whether entries of the folder can be members, except entries that are mount points.
     virtual bool covers(const FolderHandle &folder) const = 0;
 };
 

@@ -6,7 +6,7 @@ namespace platform {
 
 namespace {
 
-// In the names of other systems, whose paths begin with a slash, a back slash is a character like any other.
+// On systems whose paths begin with a slash, a backslash is an ordinary character of a name.
 bool endsWithSeparator(const QString &folder)
 {
     return folder.endsWith(u'/') || (folder.endsWith(u'\\') && !folder.startsWith(u'/'));
@@ -25,8 +25,8 @@ EntryPath EntryPath::sibling(const QString &name) const
 {
     if (m_folder)
         return {m_folder, name};
-    // Text up to the last separator: resolving ".." here could lead into another folder than it does for the
-    // system.
+    // Cuts the text at the last separator. Resolving ".." here could lead to a different folder than the
+    // system's own resolution.
     const qsizetype separator = m_name.lastIndexOf(u'/');
     return {pathInFolder(separator < 0 ? QDir::currentPath() : m_name.left(separator + 1), name)};
 }

@@ -8,20 +8,20 @@
 
 namespace platform {
 
-// Files that are dropped onto a window of this program, when it has more rights than the desktop they come
-// from: the system then keeps from it the drops that widgets are told of. Where it has not, nothing comes
-// this way. One thread, that of the window and of the QCoreApplication.
-//
-// Windows: of a process whose token is elevated, ChangeWindowMessageFilterEx for WM_DROPFILES and the two
-// messages that carry its content, RevokeDragDrop and DragAcceptFiles; then WM_DROPFILES. Linux: nothing.
+/// Receives files that are dropped onto a window of this program when the program has more rights than the
+/// desktop. The system then withholds the drop events for widgets. Without the additional rights no drop
+/// arrives here. Used by the thread of the window and of the QCoreApplication only.
+///
+/// Windows: for a process whose token is elevated, ChangeWindowMessageFilterEx for WM_DROPFILES and the two
+/// messages that carry its content, RevokeDragDrop and DragAcceptFiles; then WM_DROPFILES. Linux: nothing.
 class FileDrops
 {
 public:
-    // The paths as the source names them. Drives that are mapped in the session of the source may be unknown
-    // here.
+    /// The paths as the source of the drop names them. Network drives of the source's session may be unknown
+    /// to this process.
     using Receiver = std::function<void(const QStringList &paths)>;
 
-    // The window as QWidget::winId() tells it; it may go before this.
+    /// window: as QWidget::winId() returns it. The window may be destroyed before this object.
     FileDrops(quintptr window, const Receiver &receive);
     ~FileDrops();
     FileDrops(const FileDrops &) = delete;

@@ -5,13 +5,13 @@
 
 namespace platform {
 
-// What tells a file from every other one, under whatever name. The number of a deleted file may be given
-// again; the time of birth, where the file system keeps one, tells the two apart.
+/// Identifies a file under any of its names. A file system may reuse the number of a deleted file; the
+/// creation time, where the file system keeps one, distinguishes the two files.
 struct FileId
 {
     quint64 device = 0;
     quint64 number = 0;
-    qint64 born = 0; // ns since 1970, 0 without one
+    qint64 born = 0; ///< ns since 1970, 0 without one
 
     bool operator==(const FileId &) const = default;
 };

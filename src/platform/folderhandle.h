@@ -9,11 +9,11 @@
 
 namespace platform {
 
-// A folder that is held open, so that it stays the one that was opened whatever becomes of its path. Linux:
-// a descriptor. Windows: handles to it and to those above it up to the one that the first was opened in,
-// without FILE_SHARE_DELETE, so that none of them can be moved or removed meanwhile.
-//
-// Used by any number of threads; closes on destruction.
+/// A folder that is held open, so that it stays the same folder even if its path changes. Linux: a
+/// descriptor. Windows: handles to the folder and to the folders above it, up to the one in which the first
+/// was opened, without FILE_SHARE_DELETE, so that none of them can be moved or removed meanwhile.
+///
+/// Any number of threads; closes on destruction.
 class FolderHandle
 {
 public:
@@ -24,10 +24,10 @@ public:
     FolderHandle(const FolderHandle &) = delete;
     FolderHandle &operator=(const FolderHandle &) = delete;
 
-    // What it was opened under.
+    /// The path under which the folder was opened.
     const QString &path() const { return m_path; }
 
-    // NotSupported where the file system gives its folders other numbers whenever it likes.
+    /// NotSupported where the file system may renumber its folders.
     virtual Result<FileId> id() = 0;
 
 private:

@@ -14,22 +14,22 @@ namespace platform {
 
 class AnchoredFolder;
 
-// Room on a mounted volume, in bytes.
+/// Space on a mounted volume, in bytes.
 struct SpaceInfo
 {
     qint64 totalBytes = 0;
-    qint64 freeBytes = 0;      // all free bytes, also those that only an administrator may use
-    qint64 availableBytes = 0; // those of them that the user in effect may use
+    qint64 freeBytes = 0;      ///< all free bytes, also those reserved for administrators
+    qint64 availableBytes = 0; ///< the free bytes that the effective user may use
 };
 
 struct FolderOwner
 {
-    bool isOwn = false;    // belongs to the user in effect
-    bool isSticky = false; // several may put entries in it, and only remove their own
+    bool isOwn = false;    ///< belongs to the effective user
+    bool isSticky = false; ///< several users may create entries, and each may remove only their own
 };
 
-// Operations on folders and on the volume below them. Paths as in Files; no operation follows a link in the
-// last component. Thread-safe.
+/// Operations on folders and on their volumes. Paths as in Files; no operation follows a link in the last
+/// component. Thread-safe.
 class Folders
 {
 public:
@@ -38,73 +38,71 @@ public:
     Folders(const Folders &) = delete;
     Folders &operator=(const Folders &) = delete;
 
-    // Opens a folder to work in it, without claiming it. PathNotFound for a link and for everything else that
-    // is no folder.
+    /// Opens a folder to work in it, without claiming it. PathNotFound for a link and for any entry that is
+    /// no folder.
     virtual Result<std::unique_ptr<AnchoredFolder>> anchor(const QString &folder) = 0;
 
-    // Called once per entry with its name (no path) and kind; false ends the listing, which then counts as
-    // success.
+    /// Called once per entry with its name (no path) and kind. The result false ends the listing, which then
+    /// succeeds.
     using Visitor = std::function<bool(const QString &name, FileKind kind)>;
 
-    // Lists a folder: hidden and system entries too, without "." and "..", in the order the system gives.
-    // Success means that every entry was seen (or the visitor ended it); a failure may come after some were.
-    // Windows: FindFirstFileExW. Linux: readdir; the kind is asked for separately where readdir leaves it
-    // open.
+    /// Lists a folder, including hidden and system entries, without "." and "..", in the system's order.
+    /// Success means that every entry was visited, or that the visitor ended the listing. A failure may come
+    /// after some entries were visited. Windows: FindFirstFileExW. Linux: readdir; the kind is queried
+    /// separately where readdir does not report it.
     virtual Status forEachEntry(const EntryPath &folder, const Visitor &visit) = 0;
 
-    // Opens a folder to be held, as the system resolves its path: the last component, too, may be a link.
-    // Windows: CreateFileW. Linux: open.
+    /// Opens and holds a folder. The system resolves the path, so the last component may be a link. Windows:
+    /// CreateFileW. Linux: open.
     virtual Result<std::shared_ptr<FolderHandle>> hold(const QString &folder) = 0;
 
     enum class Mounts {
         Refuse,
         Enter,
     };
-    // Opens a folder in a held one. PathNotFound for a link and for everything else that is no folder,
-    // NotSameDevice for what is mounted over the name, unless that is to be entered.
-    // Windows: CreateFileW with FILE_FLAG_OPEN_REPARSE_POINT; whatever is mounted is a link there. Linux:
-    // openat and statx.
+    /// Opens a folder in a held one. PathNotFound for a link and for any entry that is no folder;
+    /// NotSameDevice for a mount point unless mounts is Enter. Windows: CreateFileW with
+    /// FILE_FLAG_OPEN_REPARSE_POINT; mount points are links there. Linux: openat and statx.
     virtual Result<std::shared_ptr<FolderHandle>> holdIn(const std::shared_ptr<FolderHandle> &parent,
                                                          const QString &name, Mounts mounts) = 0;
 
-    // Creates the folder with all missing parents; success when it exists already as a real folder.
-    // Windows: CreateDirectoryW. Linux: mkdir, mode 0700 for what it creates.
+    /// Creates the folder with all missing parents; success when it exists already as a real folder. Windows:
+    /// CreateDirectoryW. Linux: mkdir, mode 0700 for new folders.
     virtual Status create(const QString &folder) = 0;
 
-    // Removes an empty folder; DirectoryNotEmpty otherwise.
-    // Windows: RemoveDirectoryW. Linux: rmdir.
+    /// Removes an empty folder; DirectoryNotEmpty otherwise.
+    /// Windows: RemoveDirectoryW. Linux: rmdir.
     virtual Status removeEmpty(const EntryPath &folder) = 0;
 
-    // Removes the folder with everything in it. Links inside are removed themselves, what they lead to is
-    // never touched. Goes on past what cannot be removed and answers the first failure. Windows:
-    // FindFirstFileExW, DeleteFileW, RemoveDirectoryW. Linux: openat and unlinkat, so that a folder that is
-    // swapped for a link meanwhile is not followed.
+    /// Removes the folder with all its contents. Links inside are removed themselves, their targets are never
+    /// touched. Continues after an entry that cannot be removed, and returns the first failure. Windows:
+    /// FindFirstFileExW, DeleteFileW, RemoveDirectoryW. Linux: openat and unlinkat, so that a folder that is
+    /// replaced by a link meanwhile is not followed.
     virtual Status removeTree(const QString &folder) = 0;
 
-    // Whose the folder is. PathNotFound for a link, wherever it leads, and for everything else that is no
-    // folder. Windows: NotSupported, folders do not belong to numbered users there. Linux: lstat.
+    /// The owner of the folder. PathNotFound for a link, whatever its target, and for any entry that is no
+    /// folder. Windows: NotSupported, because its users have no numbers. Linux: lstat.
     virtual Result<FolderOwner> owner(const QString &folder) = 0;
 
-    // Hides the entry from ordinary listings.
-    // Windows: SetFileAttributesW(FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM). Linux: nothing to do, a
-    // leading dot in the name hides it; success when the entry exists.
+    /// Hides the entry from ordinary listings. Windows: SetFileAttributesW(FILE_ATTRIBUTE_HIDDEN |
+    /// FILE_ATTRIBUTE_SYSTEM). Linux: does nothing, because a leading dot in the name hides the entry;
+    /// success when the entry exists.
     virtual Status hide(const QString &path) = 0;
 
-    // Room on the volume that holds the path. NotReady, or the system's own number, when the volume is gone
-    // or does not answer. Windows: GetDiskFreeSpaceExW. Linux: statvfs.
+    /// Space on the volume that holds the path. When the volume is gone or does not answer, NotReady or the
+    /// system's own number. Windows: GetDiskFreeSpaceExW. Linux: statvfs.
     virtual Result<SpaceInfo> space(const QString &path) = 0;
 
-    /// Whether the system may have refused to let this program write because of the program itself, whatever
-    /// the rights of its user. code: the failure of the call that was to write. Windows: controlled folder
-    /// access, which tells programs that it does not trust that they have no access, or that nothing stands
-    /// there. Linux: never.
+    /// Whether the system may have denied a write because of this program itself, regardless of its user's
+    /// rights. code: the failure of the call that was to write. Windows: controlled folder access, which
+    /// reports to untrusted programs that access is denied or that the entry does not exist. Linux: never.
     virtual bool mayDistrustProgram(quint32 code) = 0;
 
-    // How many snapshots the system keeps of the volume that holds the path: whatever is overwritten on the
-    // volume stays in them. NotSupported where there are none of that kind, any other failure when that
-    // cannot be found out. Windows: volume shadow copies, CreateFileW on
-    // "\?\GLOBALROOT\Device\HarddiskVolumeShadowCopy%1" and GetVolumeInformationByHandleW, NTFS and ReFS.
-    // Linux: NotSupported; a file system that has snapshots tells of them at each file (ContentPlace).
+    /// The number of snapshots that the system keeps of the volume that holds the path. Snapshots retain data
+    /// that is overwritten on the volume. NotSupported where the system has no such snapshots; any other
+    /// failure when the number cannot be determined. Windows: volume shadow copies, CreateFileW on
+    /// "\\?\GLOBALROOT\Device\HarddiskVolumeShadowCopy%1" and GetVolumeInformationByHandleW, NTFS and ReFS.
+    /// Linux: NotSupported; file systems with snapshots report them for each file (ContentPlace).
     virtual Result<int> snapshots(const QString &path) = 0;
 };
 

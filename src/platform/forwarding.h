@@ -7,9 +7,9 @@
 #include "platform/platform.h"
 #include "platform/session.h"
 
-// A wrapper beside each interface that passes every call on, so that whoever wants to change two methods
-// overrides two. The wrapped object is not owned unless it is given as a unique_ptr, and outlives the
-// wrapper.
+/// A wrapper beside each interface that forwards every call, so that a subclass overrides only the methods
+/// that it changes. The wrapped object is not owned unless it is given as a unique_ptr; otherwise it must
+/// outlive the wrapper.
 
 namespace platform {
 
@@ -166,7 +166,7 @@ protected:
     std::unique_ptr<DeviceQuery> m_target;
 };
 
-// For both kinds of raw device: Base is RawDevice or VolumeDevice.
+/// For both kinds of raw device: Base is RawDevice or VolumeDevice.
 template <typename Base>
 class ForwardingTransfers : public Base
 {
@@ -255,7 +255,7 @@ protected:
     Session &m_target;
 };
 
-// A platform put together from parts of any origin.
+/// A platform composed of parts of any origin.
 class ForwardingPlatform : public Platform
 {
 public:

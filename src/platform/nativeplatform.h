@@ -6,10 +6,10 @@
 
 namespace platform {
 
-// The operating system's own platform, without image drives. Each backend's folder implements it.
+/// The operating system's own platform, without image drives. Each backend's folder implements it.
 std::unique_ptr<Platform> createNativePlatform();
 
-// The four parts of a backend, which live as long as this.
+/// Holds the four parts of a backend, which live as long as this object.
 template <typename FilesPart, typename FoldersPart, typename DevicesPart, typename SessionPart>
 class BackendPlatform final : public Platform
 {

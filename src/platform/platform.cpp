@@ -32,7 +32,7 @@ ImageDriveOptions ImageDriveOptions::fromEnvironment()
     ImageDriveOptions options;
     options.imageFiles =
         qEnvironmentVariable("QUORVEX_IMAGE_DISKS").split(QDir::listSeparator(), Qt::SkipEmptyParts);
-    // Whatever else was meant by it: a drive too few is a lesser evil than one too many.
+    // Every other value hides the real drives, because a missing drive does less harm than an unwanted one.
     static const QStringList refusals{QString(), QStringLiteral("0"), QStringLiteral("no"),
                                       QStringLiteral("false")};
     options.onlyImages =

@@ -11,8 +11,8 @@ class Files;
 class Folders;
 class Session;
 
-// Everything that workers and services may ask of the operating system. The four parts live as long as the
-// Platform and are thread-safe.
+/// The interface of workers and services to the operating system. The four parts live as long as the Platform
+/// and are thread-safe.
 class Platform
 {
 public:
@@ -26,26 +26,27 @@ public:
     virtual Devices &devices() = 0;
     virtual Session &session() = 0;
 
-    // The platform in force: the innermost ScopedPlatform, otherwise the machine's own, which is made at
-    // first use with the image drives that the environment names. Any thread.
+    /// The platform in force: the innermost ScopedPlatform, otherwise the machine's own, which is created at
+    /// first use with the image drives named in the environment. Any thread.
     static Platform &current();
 };
 
-// Image files that appear as drives, after the real ones.
+/// Image files that appear as drives, after the real ones.
 struct ImageDriveOptions
 {
-    QStringList imageFiles;  // paths
-    bool onlyImages = false; // no real drive or volume is listed or opened
+    QStringList imageFiles;  ///< neither lists nor opens real drives and volumes
+    bool onlyImages = false; ///< no real drive or volume is listed or opened
 
-    // From QUORVEX_IMAGE_DISKS (separated as in PATH) and QUORVEX_ONLY_IMAGE_DISKS (anything but
-    // nothing, "0", "no" and "false").
+    /// Reads QUORVEX_IMAGE_DISKS (separated as in PATH) and QUORVEX_ONLY_IMAGE_DISKS (on for every value
+    /// except an empty one, "0", "no" and "false").
     static ImageDriveOptions fromEnvironment();
 };
 
-// The machine's own platform with image drives.
+/// The machine's own platform with image drives.
 std::unique_ptr<Platform> createPlatform(const ImageDriveOptions &options);
 
-// Puts another platform in force until destruction. Not to be changed while jobs run; scopes nest.
+/// Puts another platform in force until destruction. The platform must not change while jobs run; scopes
+/// nest.
 class ScopedPlatform
 {
 public:

@@ -9,10 +9,10 @@
 
 namespace platform {
 
-// The volumes of a drive that the system has let go of, so that the drive itself can be written from its
-// first sector to its last. As long as this lives nobody else gets them back, and the drive is to be opened
-// with DriveAccess::BesideOwnVolumes. Destroyed before restore() or keep(), it restores. One thread at a
-// time.
+/// The volumes that the system has released from a drive, so that the drive itself can be written from its
+/// first sector to its last. While this object exists, no other process can mount them, and the drive is
+/// opened with DriveAccess::BesideOwnVolumes. Destruction without restore() or keep() restores. One thread at
+/// a time.
 class ReleasedVolumes
 {
 public:
@@ -21,32 +21,31 @@ public:
     ReleasedVolumes(const ReleasedVolumes &) = delete;
     ReleasedVolumes &operator=(const ReleasedVolumes &) = delete;
 
-    // Their names, as Devices::volumeNames() had them.
+    /// The names of the volumes, as Devices::volumeNames() listed them.
     virtual QStringList names() const = 0;
 
-    // Whether the volume, which is still in sight, is one that this holds locked and dismounted.
+    /// Whether this object holds the still visible volume, locked and dismounted.
     virtual bool holds(const QString &name) const = 0;
 
-    // The drive is as it was: the volumes are back where and how they were. Those that cannot be brought back
-    // are the answer. All handles of the drive are closed by then.
-    // Windows: takes the drive online again. Linux: mounts in the order of the mounts before, with their
-    // source, file system, options and propagation.
+    /// Call it when the drive is unchanged: mounts the volumes again where and how they were, and returns
+    /// those that could not be restored. All handles of the drive must be closed. Windows: takes the drive
+    /// online again. Linux: mounts in the original order, with the original source, file system, options and
+    /// propagation.
     virtual QStringList restore() = 0;
 
-    // What was on the drive is gone: nothing is brought back, and the system looks at the drive anew. All
-    // handles of the drive are closed by then.
-    // Windows: takes the drive online again; a failure leaves it offline. Linux: has the partition table
-    // read, where the system does that.
+    /// Call it when the content of the drive is gone: restores nothing, and the system reads the drive anew.
+    /// All handles of the drive must be closed. Windows: takes the drive online again; a failure leaves it
+    /// offline. Linux: has the partition table read, where the system does that.
     virtual Status keep() = 0;
 };
 
-// What became of the attempt to release a drive of its volumes.
+/// The result of releasing the volumes of a drive.
 struct VolumeRelease
 {
-    std::unique_ptr<ReleasedVolumes> volumes{}; // null after a failure
+    std::unique_ptr<ReleasedVolumes> volumes{}; ///< null after a failure
     Status failure{};
-    QString volume{};          // that is in the way, where it is known
-    QStringList notRestored{}; // let go of before the failure, and lost to it
+    QString volume{};          ///< the volume that prevents the release, where it is known
+    QStringList notRestored{}; ///< volumes that were released before the failure and could not be restored
 };
 
 } // namespace platform

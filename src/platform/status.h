@@ -6,14 +6,13 @@
 #include <optional>
 #include <utility>
 
-// What an operation of the platform layer answers. Nothing in this layer throws; whoever asks decides what a
-// failure means.
+/// The results of operations of the platform layer. Nothing in this layer throws; the caller decides how to
+/// treat a failure.
 
 namespace platform {
 
-// Error numbers as users are shown them. They are the Win32 numbers on every system: the Windows backend
-// passes GetLastError() on unchanged, the others map their own numbers in one table
-// (linux/linuxerrnotable.h).
+/// Error numbers as shown to users. They are the Win32 numbers on every system. The Windows backend passes
+/// GetLastError() on unchanged; the others map their own numbers in one table (linux/linuxerrnotable.h).
 enum ErrorCode : quint32 {
     NoError = 0,
     FileNotFound = 2,
@@ -58,11 +57,11 @@ enum ErrorCode : quint32 {
     DeviceRemoved = 1617,
     CannotAccessFile = 1920,
     FileOffline = 4350,
-    EncryptedVolumeLocked = 0x80310000, // FVE_E_LOCKED_VOLUME
+    EncryptedVolumeLocked = 0x80310000, ///< FVE_E_LOCKED_VOLUME
 };
 
-// Success, or the number shown to users together with what diagnostics need: the system's own number and the
-// name of the call that failed (a string literal).
+/// Success, or the number shown to users together with the details for diagnostics: the system's own number
+/// and the name of the failed call (a string literal).
 struct [[nodiscard]] Status
 {
     quint32 code = NoError;
@@ -72,21 +71,21 @@ struct [[nodiscard]] Status
     bool ok() const { return code == NoError; }
     explicit operator bool() const { return ok(); }
 
-    /// Whether the answer to a question about a path says that nothing stands there. Every other failure
-    /// leaves that open: an entry that could not be looked at must never count as gone.
+    /// Whether a query of a path reports that the entry does not exist. Every other failure leaves that
+    /// unknown, and such an entry must never count as absent.
     bool isAbsent() const { return code == FileNotFound || code == PathNotFound; }
 
-    // What the system says to its own number, for users; empty without one.
+    /// The system's text for its own number, for users; empty without a number.
     QString systemText() const { return native != 0 ? qt_error_string(native) : QString(); }
 
-    // "open: 32 (system error 16)", for the debug output.
+    /// "open: 32 (system error 16)", for the debug output.
     QString diagnostic() const
     {
         return QStringLiteral("%1: %2 (system error %3)").arg(QLatin1String(operation)).arg(code).arg(native);
     }
 };
 
-// A value, or the Status that says why there is none. Reading the value of a failure is a programming error.
+/// A value, or the Status of the failure. Reading the value of a failure is a programming error.
 template <typename T>
 class [[nodiscard]] Result
 {
@@ -102,7 +101,7 @@ public:
 
     bool ok() const { return m_value.has_value(); }
     explicit operator bool() const { return ok(); }
-    // Success when there is a value.
+    /// Success when there is a value.
     const Status &status() const { return m_status; }
     quint32 code() const { return m_status.code; }
 

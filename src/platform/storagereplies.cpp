@@ -10,7 +10,8 @@ namespace platform {
 
 namespace {
 
-// STORAGE_DEVICE_DESCRIPTOR up to RawDeviceProperties. Version and Size begin the reply of either query.
+// STORAGE_DEVICE_DESCRIPTOR up to RawDeviceProperties. The replies to both queries begin with Version and
+// Size.
 namespace descriptorfield {
 constexpr qsizetype Version = 0;
 constexpr qsizetype Size = 4;
@@ -19,10 +20,10 @@ constexpr qsizetype ProductIdOffset = 16;
 constexpr qsizetype SerialNumberOffset = 24;
 constexpr qsizetype BusType = 28;
 constexpr qsizetype FixedPart = 36;
-constexpr quint32 StructureSize = 40; // with one byte of properties, padded; what Version states
+constexpr quint32 StructureSize = 40; // with one byte of properties, padded; the value of Version
 } // namespace descriptorfield
 
-// VOLUME_DISK_EXTENTS: the extents begin on an 8-byte boundary, and so do the 64-bit numbers in each.
+// VOLUME_DISK_EXTENTS. The extents, and the 64-bit numbers in each, begin on an 8-byte boundary.
 namespace extentfield {
 constexpr qsizetype Count = 0;
 constexpr qsizetype Header = 8;
@@ -32,7 +33,7 @@ constexpr qsizetype Length = 16;
 constexpr qsizetype ExtentSize = 24;
 } // namespace extentfield
 
-// STORAGE_DEVICE_ID_DESCRIPTOR, and within it STORAGE_IDENTIFIER: the designators of SCSI's vital product
+// STORAGE_DEVICE_ID_DESCRIPTOR with its STORAGE_IDENTIFIER entries, the designators of SCSI's vital product
 // data page 0x83.
 namespace idfield {
 constexpr qsizetype Count = 8;
@@ -46,10 +47,10 @@ constexpr qsizetype Identifier = 16;
 constexpr quint32 Binary = 1;
 constexpr quint32 Eui64 = 2;
 constexpr quint32 Naa = 3;
-constexpr quint32 OfUnit = 0; // and not of the port or of the target device
+constexpr quint32 OfUnit = 0; // not of the port or of the target device
 } // namespace idfield
 
-// DRIVE_LAYOUT_INFORMATION_EX, and within it PARTITION_INFORMATION_EX.
+// DRIVE_LAYOUT_INFORMATION_EX with its PARTITION_INFORMATION_EX entries.
 namespace layoutfield {
 constexpr qsizetype Style = 0;
 constexpr qsizetype Count = 4;
@@ -57,13 +58,13 @@ constexpr qsizetype CountEnd = 8;
 constexpr qsizetype FirstPartition = 48;
 constexpr qsizetype PartitionSize = 144;
 constexpr qsizetype Type = 32;     // one byte in an MBR, 16 in a GPT
-constexpr qsizetype TypeSize = 16; // of a GPT
+constexpr qsizetype TypeSize = 16; // for a GPT
 constexpr quint32 Mbr = 0;
 constexpr quint32 Gpt = 1;
 } // namespace layoutfield
 
 constexpr QLatin1String StorageSpaces("Storage Spaces");
-constexpr QLatin1String LogicalDisks("LDM"); // the logical disk manager, of dynamic disks
+constexpr QLatin1String LogicalDisks("LDM"); // the logical disk manager of dynamic disks
 
 template <typename Number>
 Number numberAt(QByteArrayView bytes, qsizetype offset)
@@ -78,7 +79,7 @@ void putNumber(QByteArray &bytes, qsizetype offset, Number number)
     qToLittleEndian<Number>(number, bytes.data() + offset);
 }
 
-// C0, DEL and C1 controls steer terminals; a soft hyphen is invisible, so that two serial numbers could look
+// C0, DEL and C1 controls affect terminals. A soft hyphen is invisible and could make two serial numbers look
 // the same.
 bool isPrinting(QChar character)
 {
@@ -86,7 +87,8 @@ bool isPrinting(QChar character)
     return code >= 0x20 && !(code >= 0x7F && code <= 0x9F) && code != 0xAD;
 }
 
-// Blanks that non-printing characters separated from the text go with those around it, hence the order.
+// Non-printing characters are removed first, so that trimming also removes the blanks between them and the
+// text.
 QString printingPart(QString text)
 {
     text.removeIf([](QChar character) { return !isPrinting(character); });
@@ -95,7 +97,7 @@ QString printingPart(QString text)
 
 QString textAt(QByteArrayView reply, quint32 offset)
 {
-    // Compared as 64-bit numbers: 0xFFFFFFFF, which some bridges answer for "none", would wrap around in 32.
+    // Compared as 64-bit numbers, because 0xFFFFFFFF, the "none" of some bridges, would overflow in 32 bits.
     if (offset == 0 || qint64(offset) >= reply.size())
         return {};
     const QByteArrayView tail = reply.sliced(qsizetype(offset));
@@ -103,7 +105,7 @@ QString textAt(QByteArrayView reply, quint32 offset)
     return printingPart(QString::fromLatin1(terminator < 0 ? tail : tail.first(terminator)));
 }
 
-// QString::toLatin1 leaves open what becomes of other characters.
+// QString::toLatin1 does not define the result for other characters.
 QByteArray latin1Text(const QString &text)
 {
     QByteArray bytes;
@@ -114,7 +116,7 @@ QByteArray latin1Text(const QString &text)
     return bytes;
 }
 
-// Appends the terminated text and notes where it begins; no text leaves the offset 0.
+// Appends the terminated text and stores its offset; the offset stays 0 for an empty text.
 void putText(QByteArray &reply, qsizetype offsetField, const QString &text)
 {
     const QByteArray bytes = latin1Text(text);
@@ -127,7 +129,7 @@ void putText(QByteArray &reply, qsizetype offsetField, const QString &text)
 
 struct PartitionType
 {
-    const char *hex; // as the bytes stand in a GPT
+    const char *hex; // in the byte order of a GPT
     QLatin1String holder;
 };
 constexpr PartitionType HolderTypes[] = {
@@ -225,7 +227,7 @@ Result<QStringList> decodeHolders(const QByteArray &reply)
     if (reply.size() < layoutfield::CountEnd)
         return Status{GeneralFailure, 0, Operation};
     const quint32 style = numberAt<quint32>(reply, layoutfield::Style);
-    // A drive without a table has no partitions that could say anything.
+    // A drive without a partition table has no partitions to examine.
     if (style != layoutfield::Mbr && style != layoutfield::Gpt)
         return QStringList();
     const qint64 counted = numberAt<quint32>(reply, layoutfield::Count);

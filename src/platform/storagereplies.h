@@ -7,14 +7,14 @@
 #include <QString>
 #include <QStringList>
 
-// Pure functions over the raw bytes in which devices describe themselves. Layouts and numbers are those of
-// the Windows storage stack (STORAGE_DEVICE_DESCRIPTOR, VOLUME_DISK_EXTENTS and others; winioctl.h),
-// little-endian; other systems fill the same layout, so that one decoder, tested with hand-made replies,
-// serves all.
+/// Pure functions over the raw replies in which devices describe themselves. Layouts and numbers are those of
+/// the Windows storage stack (STORAGE_DEVICE_DESCRIPTOR, VOLUME_DISK_EXTENTS and others; winioctl.h),
+/// little-endian. Other systems fill the same layouts, so that one decoder serves all and is tested with
+/// hand-made replies.
 
 namespace platform {
 
-// STORAGE_BUS_TYPE, as far as backends produce it; a reply may carry any number.
+/// STORAGE_BUS_TYPE, as far as backends produce it; a reply may contain any number.
 enum StorageBus : quint32 {
     BusUnknown = 0,
     BusScsi = 1,
@@ -35,41 +35,41 @@ enum StorageBus : quint32 {
 
 struct DeviceDescriptor
 {
-    QString productId;    // Latin-1 in the reply; trimmed, without non-printing characters
-    QString serialNumber; // the same
+    QString productId;    ///< Latin-1 in the reply; trimmed, without non-printing characters
+    QString serialNumber; ///< the same
     bool removableMedia = false;
     quint32 busType = BusUnknown;
 };
 
-// Never reads outside the reply: a string whose offset is 0 or beyond the end is empty, one without a
-// terminator ends with the reply. A reply too short for the fixed part gives an empty record.
+/// Never reads outside the reply: a string whose offset is 0 or beyond the end is empty, one without a
+/// terminator ends with the reply. A reply too short for the fixed part gives an empty record.
 DeviceDescriptor decodeDeviceDescriptor(const QByteArray &reply);
-// The reply that decodes to the record. Characters outside Latin-1 become '?'.
+/// The reply that decodes to the record. Characters outside Latin-1 become '?'.
 QByteArray encodeDeviceDescriptor(const DeviceDescriptor &descriptor);
 
-// The extents in a reply. Those that do not lie wholly inside the reply are left out.
+/// The extents in a reply. Those that do not lie wholly inside the reply are left out.
 QList<Extent> decodeExtents(const QByteArray &reply);
 QByteArray encodeExtents(const QList<Extent> &extents);
 
-// Where a volume lies, in however many stretches.
+/// All extents of a volume, whatever their number.
 Result<QList<Extent>> allExtents(DeviceQuery &volume);
 
-// Whether a volume lies on that drive and nowhere else; false when it does not tell where.
+/// Whether a volume lies on that drive and nowhere else; false without extents.
 bool liesOnlyOn(const QList<Extent> &extents, int driveNumber);
 
-// What the partitions in a reply (DRIVE_LAYOUT_INFORMATION_EX) say that the system has built on the drive,
-// each once: "Storage Spaces", "LDM". MoreData when the reply holds fewer partitions than it counts and none
-// of them says so, GeneralFailure when it is too short to count any.
+/// The layers that the partitions in a reply (DRIVE_LAYOUT_INFORMATION_EX) reveal on the drive, each once:
+/// "Storage Spaces", "LDM". MoreData when the reply holds fewer partitions than it counts and none of them
+/// reveals a layer, GeneralFailure when it is too short for the count.
 Result<QStringList> decodeHolders(const QByteArray &reply);
 
-// The world-wide name among the identifiers in a reply (STORAGE_DEVICE_ID_DESCRIPTOR): of those that name the
-// unit itself the NAA one, else the EUI-64. Empty when there is neither.
+/// The world-wide name among the identifiers in a reply (STORAGE_DEVICE_ID_DESCRIPTOR). Of the identifiers of
+/// the unit itself the NAA one, else the EUI-64. Empty when there is neither.
 QString decodeWorldWideName(const QByteArray &reply);
 
-// A drive as it describes itself now. What it did not answer is empty or 0.
+/// The identity from the drive's present replies. Missing values are empty or 0.
 DriveIdentity identityFrom(int number, const QByteArray &descriptorReply, qint64 sizeBytes,
                            const QString &worldWideName);
-// The same, asked.
+/// The same, with the replies read from the drive.
 DriveIdentity identityOf(int number, DeviceQuery &drive);
 
 } // namespace platform

@@ -7,9 +7,10 @@
 
 namespace platform {
 
-// What every raw transfer has to fulfil before the system is asked: whole sectors, InvalidParameter else, in
-// a buffer that begins where a sector may, MisalignedBuffer else. For sectors that are no power of two (520
-// bytes, say) that is the power of two in their size, and a page at most. The operation is a string literal.
+/// Checks a raw transfer before the system is called. The size must be whole sectors (else InvalidParameter),
+/// and the buffer must be aligned (else MisalignedBuffer). The alignment is the largest power of two that
+/// divides the sector size (which may be 520 bytes, for example), and at most a page. The operation is a
+/// string literal.
 inline Status checkTransfer(const void *data, qint64 size, qint32 sectorSize, const char *operation)
 {
     constexpr qint32 Page = 4096;

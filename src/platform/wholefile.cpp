@@ -35,7 +35,7 @@ bool WholeFile::open()
     const QString path = m_file.fileName();
     if (!isPossible(path))
         return failed("open", QStringLiteral("not a regular file"));
-    // Opening a pipe waits for its reader, who has no reason to be there before the job's end.
+    // Opening a pipe waits for its reader, which may not exist before the end of the job.
     if (m_isStream)
         return QFileInfo(path).isWritable() || failed("open", QStringLiteral("not writable"));
     return m_file.open(QIODevice::WriteOnly | m_lineEnds) || failed("open", m_file.errorString());
@@ -45,8 +45,8 @@ bool WholeFile::commit(const QByteArray &bytes)
 {
     if (m_isStream)
         return commitToStream(bytes);
-    // commit() tells neither that what was still in the buffer could not be written, nor what a file system
-    // that allocates late had no room for.
+    // commit() reports neither a failed write of its remaining buffer nor a lack of space on a file system
+    // with delayed allocation.
     if (m_file.write(bytes) != bytes.size() || !m_file.flush() || !files().isWrittenOut(m_file)) {
         m_file.cancelWriting();
         return failed("write", m_file.errorString());

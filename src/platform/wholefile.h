@@ -7,25 +7,25 @@
 
 namespace platform {
 
-/// The file that a person named for a result: a report, a certificate.
+/// The file that the user named for a result, such as a report or a certificate.
 ///
-/// A regular file appears with all its bytes or does not change: a full disk, a crash or a missing permission
-/// leave what was there before. Its mode stays, links are followed to the file they name. Character devices
-/// and pipes are written through, which waits for a pipe's reader. Everything else is refused: folders,
-/// sockets, and block devices above all, whose data nobody meant.
+/// A regular file is replaced with all its bytes or does not change, so that a full disk, a crash or a
+/// missing permission leave the old content. Its mode stays, links are followed to their target. Character
+/// devices and pipes are written directly, which waits for a pipe's reader. All other entries are refused:
+/// folders, sockets, and above all block devices, whose data would be destroyed.
 class WholeFile
 {
 public:
-    /// lineEnds: QIODevice::Text for those of the system, in a text.
+    /// lineEnds: QIODevice::Text for the system's line ends in a text.
     explicit WholeFile(const QString &path, QIODevice::OpenMode lineEnds = {});
 
-    /// Whether something of this kind is written: a regular file, a stream, or what is not there yet.
+    /// Whether the path can be written: a regular file, a stream, or no entry yet.
     static bool isPossible(const QString &path);
 
-    /// False where nothing can be written; changes nothing yet.
+    /// False where the file cannot be written; changes nothing yet.
     bool open();
 
-    /// Puts the bytes into place. False leaves the old file; a stream may have got a part.
+    /// Writes the bytes and replaces the file. False leaves the old file; a stream may have received a part.
     bool commit(const QByteArray &bytes);
 
 private:

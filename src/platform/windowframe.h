@@ -8,7 +8,7 @@
 
 namespace platform {
 
-// What a place of a window that draws its own frame stands for.
+/// The function of a point in a window that draws its own frame.
 enum class FramePart {
     Content,
     Caption,
@@ -23,13 +23,13 @@ enum class FramePart {
     BottomRight,
 };
 
-// A window that draws its own frame, with what the system does for others: maximising leaves the taskbar of
-// every screen, edges and caption are gripped and snap, the maximise button offers layouts. One thread, that
-// of the window and of the QCoreApplication.
-//
-// Windows: WS_THICKFRAME without its looks (WM_NCCALCSIZE), without which nothing snaps; WM_GETMINMAXINFO and
-// WM_WINDOWPOSCHANGING; WM_NCHITTEST and the messages of the maximise button that come with its answer.
-// Linux: nothing, the window system is asked at each press.
+/// Gives a window that draws its own frame the system's behaviour of ordinary windows: a maximised window
+/// leaves the taskbar of every screen free, edges and caption can be dragged and snap, the maximise button
+/// offers layouts. Used by the thread of the window and of the QCoreApplication only.
+///
+/// Windows: WS_THICKFRAME without its looks (WM_NCCALCSIZE), because windows snap only with this style;
+/// WM_GETMINMAXINFO and WM_WINDOWPOSCHANGING; WM_NCHITTEST and the messages of the maximise button that
+/// follow its answer. Linux: nothing, the window system is asked at each press.
 class WindowFrame
 {
 public:
@@ -41,15 +41,16 @@ public:
         Owner(const Owner &) = delete;
         Owner &operator=(const Owner &) = delete;
 
-        // In pixels of the screen, from the window's top left corner.
+        /// pixel: in screen pixels, from the window's top left corner.
         virtual FramePart partAt(const QPoint &pixel) const = 0;
         virtual QSize smallestSize() const = 0;
-        // The button gets no mouse of its own.
+        /// The button itself receives no mouse events.
         virtual void showMaximizeHover(bool isOver) = 0;
         virtual void pressMaximize() = 0;
     };
 
-    // The window as QWidget::winId() tells it; it may go before this. The owner may not.
+    /// window: as QWidget::winId() returns it. The window may be destroyed before this object, the owner may
+    /// not.
     WindowFrame(quintptr window, Owner &owner);
     ~WindowFrame();
     WindowFrame(const WindowFrame &) = delete;

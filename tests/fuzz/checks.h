@@ -3,7 +3,7 @@
 #include <cstdio>
 #include <cstdlib>
 
-/// Ends the program, which counts as a finding, and says what did not hold.
+/// Ends the program with the failed condition's text, which counts as a finding.
 inline void require(bool holds, const char *what)
 {
     if (holds)

@@ -5,8 +5,8 @@
 #include <cstdint>
 #include <span>
 
-// Anybody who can write to a drive can leave "$I" files on it. What is asked of their reader is worked out
-// here a second time, byte by byte, so that both would have to be wrong in the same way.
+// Every user with write access to a drive can leave "$I" files on it. The checks compute the reader's result
+// a second time, byte by byte, so that an error goes unnoticed only if both make it.
 
 namespace {
 using Bytes = std::span<const std::uint8_t>;
@@ -27,7 +27,7 @@ QString unitsOf(Bytes field)
     return text;
 }
 
-// The field of the path; empty for a file that has none to be trusted.
+// The field of the path; empty for a file without a trustworthy one.
 QString storedPath(Bytes file)
 {
     const std::uint64_t version = numberAt(file, 0, 8);
@@ -39,7 +39,7 @@ QString storedPath(Bytes file)
     return {};
 }
 
-// Of the field only white space around it, and one zero, may be missing.
+// Compared with the field, the path may lack only surrounding white space and one zero.
 void checkPath(const QString &path, const QString &stored)
 {
     require(path.size() <= stored.size(), "no more characters than the file has units");
@@ -86,7 +86,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     const RecycleBinItem item = recyclebin::parseInfo(contents);
     checkItem(item, Bytes(data, size));
 
-    // Elsewhere in memory, at an odd address.
+    // The same bytes elsewhere in memory, at an odd address.
     const QByteArray moved = '\x7f' + contents.toByteArray();
     require(recyclebin::parseInfo(QByteArrayView(moved).sliced(1)) == item, "the same file, the same item");
 

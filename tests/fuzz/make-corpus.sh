@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Writes what the random files for the readers begin with: small files of every shape that matters, into
-# tests/fuzz/corpus/. To be run after a change here; the files are kept in the repository.
+# Writes the initial corpus of the fuzzers into tests/fuzz/corpus/: small files of every relevant shape. Run
+# it after a change here; the files are kept in the repository.
 set -euo pipefail
 export LC_ALL=C.UTF-8
 cd "$(dirname "${BASH_SOURCE[0]}")/corpus"
@@ -16,14 +16,14 @@ little() {
 utf16() { iconv -f UTF-8 -t UTF-16LE; }
 repeated() { head -c "$2" /dev/zero | tr '\0' "$1"; }
 
-# header VERSION SIZE: also the time of the deletion.
+# header VERSION SIZE: writes also the time of the deletion.
 header() { little "$1" 8; little "$2" 8; little 133500000000000000 8; }
 # fixed_path SIZE FILE: version 1, the path in a field of 260 units.
 fixed_path() {
     { header 1 "$1"; utf16; } >"$2"
     truncate -s 544 "$2"
 }
-# counted_path SIZE UNITS: version 2, the length as it is claimed, whatever follows.
+# counted_path SIZE UNITS: version 2, with this length even if the text has another one.
 counted_path() { header 2 "$1"; little "$2" 4; utf16; }
 
 rm -rf infofile trashinfo wipereport

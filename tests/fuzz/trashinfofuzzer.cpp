@@ -5,10 +5,10 @@
 #include <cstddef>
 #include <cstdint>
 
-// ".trashinfo" files come from every desktop there is, and on a shared volume from anybody.
+// ".trashinfo" files come from every desktop, and on a shared volume from any user.
 
 namespace {
-// Of several paths the first one counts, also when it is empty.
+// Of several paths the first one is valid, even an empty one.
 void checkFirstCounts(const QByteArray &contents, const QString &path)
 {
     const QString longer = parseTrashInfo(contents + "\n[Trash Info]\nPath=/other\n");

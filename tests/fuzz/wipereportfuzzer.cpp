@@ -7,7 +7,7 @@
 #include <cstddef>
 #include <cstdint>
 
-// The text of a report comes from a database, or from a file that somebody wants checked.
+// The text of a report comes from a database, or from a file that the user wants checked.
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size);
 
@@ -15,7 +15,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
 {
     const QByteArray text(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
     const WipeReport report = WipeReport::fromJson(text);
-    // Otherwise every reading draws an id of its own.
+    // If the text is no JSON, every reading creates a new id.
     if (!QJsonDocument::fromJson(text).isNull())
         require(WipeReport::fromJson(text) == report, "the same text, the same report");
     else

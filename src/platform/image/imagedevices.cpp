@@ -13,14 +13,15 @@ namespace platform {
 namespace {
 
 constexpr qint32 SectorSize = 512;
-constexpr int DriveNumbers = 32; // as many as enumeration looks at
+constexpr int DriveNumbers = 32; // the number of drives that enumeration examines
 
 Status noSuchDrive()
 {
     return {FileNotFound, 0, "image drive"};
 }
 
-// A stable stand-in for a serial number, so that one image is never taken for another of the same size.
+// A stable replacement for a serial number, so that one image is never confused with another of the same
+// size.
 QString serialNumberOf(const QString &path)
 {
     const QByteArray hash =
@@ -124,7 +125,7 @@ private:
     qint64 m_position = 0;
 };
 
-// An image has no volumes that anybody could have mounted.
+// An image has no mounted volumes.
 class NoVolumes : public ReleasedVolumes
 {
 public:
@@ -134,8 +135,8 @@ public:
     Status keep() override { return {}; }
 };
 
-// Which file it is, so that another one that takes its path later is another drive. Empty where the file
-// system does not tell.
+// The identity of the file, so that another file under the same path later is a different drive. Empty where
+// the file system does not report one.
 QString nameOf(FileHandle &file)
 {
     const Result<FileId> id = file.id();

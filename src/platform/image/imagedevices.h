@@ -8,14 +8,13 @@
 
 namespace platform {
 
-// Image files as drives with 512-byte sectors and no volumes. Their numbers follow the highest number that a
-// real drive has when this is made and never change; a real drive that later appears under such a number
-// stays hidden. The file keeps its length: a last sector that it holds only in part is written as far as it
-// goes.
+/// Image files as drives with 512-byte sectors and no volumes. Their numbers follow the highest number of a
+/// real drive at construction and never change; a real drive that later gets such a number stays hidden. The
+/// file keeps its length, so an incomplete last sector is written up to the end of the file.
 class ImageDevices : public Devices
 {
 public:
-    // Both bases outlive this. A path that leads nowhere is a drive that does not answer.
+    /// Both bases outlive this object. A path without a file becomes a drive that does not answer.
     ImageDevices(Devices &base, Files &files, const ImageDriveOptions &options);
 
     QString drivePath(int number) override;
@@ -33,7 +32,7 @@ private:
     Devices &m_base;
     Files &m_files;
     bool m_onlyImages;
-    QHash<int, QString> m_images; // by drive number
+    QHash<int, QString> m_images; ///< by drive number
 };
 
 } // namespace platform

@@ -4,8 +4,8 @@ namespace platform {
 
 namespace {
 
-// Without real drives no volume of the system can be named: it would not open, and an unknown system volume
-// marks the first drive, which is an image here.
+// Without real drives, no volume of the system can be opened. An unknown system volume would mark the first
+// drive, which is an image here, so this session names none.
 class SessionWithoutDrives : public ForwardingSession
 {
 public:

@@ -8,7 +8,7 @@
 
 namespace platform {
 
-// A platform with image drives beside, or instead of, the drives of another one.
+/// Adds image drives to another platform, or replaces its drives with them.
 class ImagePlatform : public Platform
 {
 public:

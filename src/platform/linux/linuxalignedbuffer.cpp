@@ -10,8 +10,8 @@ namespace platform {
 namespace {
 
 constexpr std::size_t Page = 4096;
-// Giving a mapping back interrupts every other processor that the program runs on. Not worth it for a buffer
-// that is filled in less time.
+// Unmapping interrupts every other processor that runs the program, which takes longer than filling a small
+// buffer.
 constexpr qint64 LargestFromHeap = 64LL * 1024;
 
 std::size_t wholePages(qint64 size)

@@ -34,7 +34,7 @@ Result<QByteArray> component(const QString &name)
     return bytes;
 }
 
-// A folder that may not be listed can still have files made in it.
+// Falls back to O_PATH, because files can be created even in a folder that may not be listed.
 FileDescriptor openFolderAt(int above, const char *name)
 {
     const auto openAs = [&](int how) {
@@ -45,7 +45,7 @@ FileDescriptor openFolderAt(int above, const char *name)
     return !folder.isValid() && errno == EACCES ? openAs(O_PATH) : std::move(folder);
 }
 
-// Held with the descriptor; nothing where the file system has no locks.
+// Locks the folder for the life of the descriptor. False where the file system has no locks.
 Result<bool> claim(int folder)
 {
     if (uninterrupted([&] { return fileCalls().flock(folder, LOCK_EX | LOCK_NB); }) == 0)
@@ -81,7 +81,7 @@ Result<SpaceInfo> LinuxAnchoredFolder::space()
 
 Status LinuxAnchoredFolder::forEachEntry(const Folders::Visitor &visit)
 {
-    // With a position of its own.
+    // Reopened, so that the listing has a position of its own.
     FileDescriptor listed(
         uninterrupted([&] { return fileCalls().openat(m_folder.get(), ".", O_RDONLY | FolderFlags, 0); }));
     if (!listed.isValid())
@@ -111,7 +111,7 @@ Result<std::unique_ptr<FileHandle>> LinuxAnchoredFolder::createFile(const QStrin
     }));
     if (!file.descriptor.isValid())
         return statusFromErrno(errno, "openat");
-    // Asked for afterwards: an opening that is refused for its sake has made the file by then.
+    // Set after creation, because an openat() that fails because of O_DIRECT has already created the file.
     file.directOn = fileCalls().fcntl(file.descriptor.get(), F_SETFL, O_DIRECT) == 0;
     struct statx opened = {};
     if (file.directOn &&

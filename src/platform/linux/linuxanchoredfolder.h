@@ -7,7 +7,7 @@
 
 namespace platform {
 
-// A folder by its descriptor.
+/// A folder by its descriptor.
 class LinuxAnchoredFolder final : public AnchoredFolder
 {
 public:

@@ -19,7 +19,7 @@ Result<std::unique_ptr<QFileDevice>> LinuxFiles::openForAppending(const QString 
 {
     constexpr const char *Operation = "open for appending";
     const QByteArray name = encodeName(path);
-    // O_NONBLOCK: a pipe without a reader would be waited for.
+    // O_NONBLOCK, so that opening a pipe does not wait for its reader.
     constexpr int Flags = O_WRONLY | O_APPEND | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
     FileDescriptor opened(uninterrupted(
         [&name] { return fileCalls().openat(AT_FDCWD, name.constData(), Flags, S_IRUSR | S_IWUSR); }));

@@ -15,7 +15,7 @@ namespace platform {
 
 namespace {
 
-constexpr qint64 KernelSector = 512; // the unit of "start" and "size", whatever the device's own sector is
+constexpr qint64 KernelSector = 512; // the unit of "start" and "size", on every device
 
 } // namespace
 
@@ -37,7 +37,7 @@ QString BlockTree::kernelName(const QByteArray &device) const
 QString BlockTree::node(const QByteArray &device) const
 {
     const QString name = kernelName(device);
-    // The kernel writes '!' for the '/' in names such as cciss/c0d0.
+    // The kernel replaces '/' by '!' in names such as cciss/c0d0.
     return name.isEmpty() ? QString() : m_tree.dev + u'/' + QString(name).replace(u'!', u'/');
 }
 
@@ -112,7 +112,7 @@ QList<QByteArray> BlockTree::holdersOf(const QByteArray &device) const
             const QByteArray holder = deviceOfName(name);
             if (holder.isEmpty())
                 continue;
-            // Reached on a longer way it belongs further up.
+            // A holder that is reached again over a longer path moves further up.
             holders.removeAll(holder);
             holders.append(holder);
             open.append(holder);
@@ -138,7 +138,7 @@ QList<DriveExtent> BlockTree::extentsOf(const QByteArray &device) const
         if (!slaves.isEmpty())
             continue;
         const DriveExtent extent = leafExtent(next);
-        // A partition of a device that itself stands on others (md with partitions).
+        // A partition of a device that itself has lower devices (md with partitions).
         if (extent.drive != next && !QDir(folder(extent.drive) + QLatin1String("/slaves"))
                                          .isEmpty(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot))
             open.append(extent.drive);

@@ -8,18 +8,18 @@
 
 namespace platform {
 
-// A stretch of a whole drive that lies below some block device.
+/// A part of a whole drive that lies below a block device.
 struct DriveExtent
 {
-    QByteArray drive;          // device number of the whole drive, "8:0"
-    qint64 startingOffset = 0; // bytes
-    qint64 length = 0;         // bytes
+    QByteArray drive;          ///< device number of the whole drive, "8:0"
+    qint64 startingOffset = 0; ///< bytes
+    qint64 length = 0;         ///< bytes
 
     bool operator==(const DriveExtent &) const = default;
 };
 
-// How block devices stand on one another, read from /sys at each call. Devices are named by their numbers,
-// "8:1".
+/// The stacking of block devices, read from /sys at each call. Devices are identified by their numbers,
+/// "8:1".
 class BlockTree
 {
 public:
@@ -28,23 +28,23 @@ public:
     {}
 
     bool exists(const QByteArray &device) const;
-    // The name that the kernel gives, "sda1" or "dm-0"; empty when the device is gone.
+    /// The kernel's name of the device, "sda1" or "dm-0"; empty when the device is gone.
     QString kernelName(const QByteArray &device) const;
-    // The node that opens it, "/dev/sda1"; empty when the device is gone.
+    /// The device's node, "/dev/sda1"; empty when the device is gone.
     QString node(const QByteArray &device) const;
-    // The device number of a node or of a link to one; empty when the path is no block device.
+    /// The device number of a node or of a link to one; empty when the path is no block device.
     static QByteArray deviceOfNode(const QString &path);
-    // The device number behind the name that the kernel gives; empty when there is none.
+    /// The device number for a kernel name; empty when there is none.
     QByteArray deviceOfName(const QString &kernelName) const;
 
-    // The members of a btrfs file system, of which one is given; at least that one.
+    /// The members of the btrfs file system that the device belongs to; at least the device itself.
     QList<QByteArray> fileSystemMembers(const QByteArray &device) const;
 
-    // The drives below a device, through partitions, LVM, dm-crypt and md, each stretch once. A whole drive
-    // is its own only extent.
+    /// The drives below a device, through partitions, LVM, dm-crypt and md, each extent once. A whole drive
+    /// is its own only extent.
     QList<DriveExtent> extentsOf(const QByteArray &device) const;
 
-    // What is built on a device or on its partitions: a device never comes before one that it stands on.
+    /// The devices that are built on a device or on its partitions, every device after those below it.
     QList<QByteArray> holdersOf(const QByteArray &device) const;
     bool isReadOnly(const QByteArray &device) const;
 

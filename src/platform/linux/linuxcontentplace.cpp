@@ -31,14 +31,14 @@ namespace platform {
 
 namespace {
 
-// Not among the kernel's public numbers.
+// Missing from the kernel's public headers.
 constexpr quint32 BcachefsMagic = 0xCA451A4E;
 constexpr quint32 ZfsMagic = 0x2FC12FC1;
 constexpr quint32 UbifsMagic = 0x24051905;
 constexpr quint32 HfsMagic = 0x4244;
 constexpr quint32 HfsPlusMagic = 0x482B;
 
-// File systems without a flag for single files that write nothing in place.
+// File systems that never write in place and have no flag for single files.
 bool alwaysRelocates(quint32 fileSystem)
 {
     switch (fileSystem) {
@@ -54,7 +54,7 @@ bool alwaysRelocates(quint32 fileSystem)
     }
 }
 
-// In place, though they show no extents.
+// File systems that write in place although they report no extents.
 bool writesInPlace(quint32 fileSystem)
 {
     switch (fileSystem) {
@@ -72,7 +72,7 @@ bool writesInPlace(quint32 fileSystem)
     }
 }
 
-// They show the extents of the file as the server presents it.
+// File systems that report the extents of the file as presented by the server.
 bool isElsewhereInTheNetwork(quint32 fileSystem)
 {
     return fileSystem == CIFS_SUPER_MAGIC || fileSystem == SMB2_SUPER_MAGIC || fileSystem == SMB_SUPER_MAGIC;
@@ -87,13 +87,13 @@ ElsewhereReasons reasonsOfExtent(quint32 flags)
         reasons |= Elsewhere::Inline;
     if (flags & FIEMAP_EXTENT_ENCODED)
         reasons |= Elsewhere::Encoded;
-    // What has no place yet is in the cache alone, and takes the first place it gets.
+    // Content with delayed allocation is only in the cache, and its first write allocates its blocks.
     if ((flags & FIEMAP_EXTENT_UNKNOWN) && !(flags & FIEMAP_EXTENT_DELALLOC))
         reasons |= Elsewhere::Unknown;
     return reasons;
 }
 
-// The mount table does not show what the file system has as its own default.
+// The mount table does not show the file system's own default.
 bool journalsData(dev_t device)
 {
     const QString node = QFile::symLinkTarget(
@@ -108,7 +108,7 @@ bool isUnsupported(int error)
     return error == EOPNOTSUPP || error == ENOTTY || error == EINVAL || error == ENOSYS || error == EBADR;
 }
 
-// The next extents from the position on; none where the file system has no map of them.
+// The next extents from a position; no value where the file system has no extent map.
 Result<std::optional<QList<FileExtent>>> nextExtents(int file, qint64 from, bool &isLast)
 {
     constexpr quint32 AtOnce = 128;
@@ -141,7 +141,7 @@ Result<std::optional<QList<FileExtent>>> nextExtents(int file, qint64 from, bool
     return std::optional(extents);
 }
 
-// All extents of a file; none where the file system has no map of them.
+// All extents of a file; no value where the file system has no extent map.
 Result<std::optional<QList<FileExtent>>> extentsOf(int file, qint64 size)
 {
     QList<FileExtent> all;
@@ -167,7 +167,7 @@ ElsewhereReasons reasonsOf(const FileTraits &traits)
         reasons |= Elsewhere::Relocating;
     if (traits.journalsData || (traits.flags & FS_JOURNAL_DATA_FL))
         reasons |= Elsewhere::Journalled;
-    // Opening a file for writing copies it up, so that nobody can tell any more where it came from.
+    // Opening a file for writing copies it up, which hides whether its content came from a lower layer.
     if (traits.fileSystem == OVERLAYFS_SUPER_MAGIC)
         reasons |= Elsewhere::LowerLayer;
     if (isElsewhereInTheNetwork(traits.fileSystem))
@@ -203,12 +203,12 @@ Result<ContentPlace> contentPlaceOf(int file)
         return statusFromErrno(errno, "fstatfs");
     FileTraits traits;
     traits.fileSystem = static_cast<quint32>(volume.f_type);
-    // Declared with a long, written as an int.
+    // The kernel declares the argument as long and writes an int.
     int flags = 0;
     if (deviceCalls().ioctl(file, FS_IOC_GETFLAGS, &flags) == 0)
         traits.flags = static_cast<quint32>(flags);
     traits.journalsData = traits.fileSystem == EXT4_SUPER_MAGIC && journalsData(status.st_dev);
-    // Folders show no extents where their files do.
+    // Folders report no extents even where files do.
     traits.hasExtentMap = true;
     ElsewhereReasons reasons = reasonsOf(traits);
     if (isFolder)

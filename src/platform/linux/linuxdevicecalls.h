@@ -6,10 +6,10 @@
 
 namespace platform {
 
-/// ioctl() with the argument that this backend gives it: a table has no variable ones.
+/// ioctl() with a fixed argument list, because a call table cannot hold variadic functions.
 int deviceControl(int file, unsigned long request, void *argument);
 
-/// The calls that ask open files and devices about themselves, and those that mount and unmount volumes.
+/// The calls that query open files and devices, and those that mount and unmount volumes.
 struct LinuxDeviceCalls
 {
     int (*ioctl)(int, unsigned long, void *) = &platform::deviceControl;

@@ -9,7 +9,7 @@ namespace platform {
 
 namespace {
 
-// A name as a shell takes it.
+// A name, quoted for the shell.
 QString quoted(const QString &name)
 {
     static const QString plain = QStringLiteral("/._-+:@%");

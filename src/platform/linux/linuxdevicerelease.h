@@ -8,18 +8,18 @@
 
 namespace platform {
 
-// Who stands on a block device, and how it is got rid of.
+/// The layers on a block device, and the commands that remove them.
 class DeviceRelease
 {
 public:
     explicit DeviceRelease(const SystemTree &tree);
 
-    // What is built on the device or a partition of it, the lowest first: "LUKS secret", "LVM vg-data",
-    // "RAID md0".
+    /// The layers on the device or a partition of it, the lowest first: "LUKS secret", "LVM vg-data", "RAID
+    /// md0".
     QStringList holders(const QByteArray &device) const;
-    // Takes all of that down, the highest first.
+    /// The commands that remove all these layers, the highest first.
     QStringList commands(const QByteArray &device) const;
-    // Unmounts the file system of the device everywhere.
+    /// The commands that unmount the device's file system everywhere.
     QStringList unmountCommands(const QByteArray &device) const;
 
 private:

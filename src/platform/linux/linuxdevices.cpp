@@ -21,7 +21,7 @@ Status noSuchDrive()
     return {FileNotFound, 0, "drive number"};
 }
 
-// A whole drive or a volume, by its kernel name and what was found when it was opened.
+// A query of a whole drive or a volume, by its kernel name and the identity at its opening.
 class LinuxQuery : public DeviceQuery
 {
 public:
@@ -115,8 +115,8 @@ QList<Extent> LinuxDevices::extentsOf(const QByteArray &device)
 {
     QList<Extent> extents;
     const QList<Drive> drives = m_registry.drives();
-    // The device itself is what an opened volume writes to: of a file system on several, its drive comes
-    // first.
+    // An opened volume writes to the device itself, so its drive comes first among those of a file system on
+    // several devices.
     QList<QByteArray> members = m_blocks.fileSystemMembers(device);
     members.removeAll(device);
     members.prepend(device);
@@ -157,7 +157,7 @@ Result<FileDescriptor> LinuxDevices::openChosen(const DriveIdentity &drive, Driv
     Result<FileDescriptor> fd = openBlockDevice(m_blocks.node(present->device), present->device, access);
     if (!fd)
         return fd.status();
-    // Asked only now that the device is held: before, it could still be exchanged for another.
+    // Queried after opening, because the device could be replaced by another before it is held.
     const std::optional<Drive> held = m_registry.byNumber(drive.number);
     const Status identity = held && held->isSameDevice(*present) ? checkIdentity(drive, *held)
                                                                  : Status{NotReady, 0, "identity check"};
@@ -230,7 +230,7 @@ VolumeRelease LinuxDevices::releaseVolumes(const DriveIdentity &drive)
     VolumeRelease release;
     release.failure = mounts.takeDown(release.volume);
     if (release.failure.ok()) {
-        // Only now it shows whether somebody holds a part of the drive without a mount in sight.
+        // A user of the drive without a visible mount shows only now.
         Result<FileDescriptor> held = openChosen(drive, DriveAccess::Alone);
         if (held)
             released->setDrive(held.take());

@@ -9,7 +9,7 @@
 
 namespace platform {
 
-// Drives and volumes of a Linux machine, as the kernel tells of them at each call.
+/// The drives and volumes of a Linux machine, queried from the kernel at each call.
 class LinuxDevices : public Devices
 {
 public:

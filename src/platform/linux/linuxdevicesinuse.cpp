@@ -24,7 +24,7 @@ bool isMemberOfSomething(const SystemTree &tree, const QByteArray &device)
     return usage == "raid" || usage == "crypto";
 }
 
-// The device whose file system holds the file behind a loop device; empty when that cannot be told.
+// The device whose file system holds the file behind a loop device; empty when it is unknown.
 QByteArray deviceBehindLoop(const QString &node)
 {
     const FileDescriptor loop(

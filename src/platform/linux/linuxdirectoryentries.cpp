@@ -19,7 +19,7 @@ struct CloseStream
     void operator()(DIR *stream) const { ::closedir(stream); }
 };
 
-// Some file systems leave the kind open in the listing.
+// Some file systems do not report the kind in the listing.
 Result<FileKind> kindOf(DIR *stream, const dirent &entry)
 {
     if (entry.d_type != DT_UNKNOWN)

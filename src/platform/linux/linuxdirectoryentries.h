@@ -7,11 +7,11 @@
 
 namespace platform {
 
-// Called with the bytes of a name; false ends the listing, which then counts as success.
+/// Called with the bytes of a name. The result false ends the listing, which then succeeds.
 using EntryVisitor = std::function<bool(const char *name, FileKind kind)>;
 
-// Every entry of an open folder but "." and "..". An entry whose kind can no longer be asked for, because it
-// is gone meanwhile, is left out.
+/// Visits every entry of an open folder except "." and "..". An entry that disappears before its kind is
+/// queried is left out.
 Status readEntries(FileDescriptor folder, const EntryVisitor &visit);
 
 } // namespace platform

@@ -15,7 +15,7 @@ QByteArray serialPage(const QString &deviceFolder)
     return page.size() > 4 ? page.mid(4, static_cast<quint8>(page[3])) : QByteArray();
 }
 
-// The nearest device above that is one on the USB: it has both a vendor id and a serial number.
+// The serial number of the nearest USB device above, which has both a vendor id and a serial number.
 QByteArray usbSerial(QString folder, const QString &top)
 {
     while (folder.size() > top.size()) {

@@ -12,7 +12,7 @@ namespace platform {
 
 namespace {
 
-constexpr int NumbersInReach = 32; // as many as enumeration looks at
+constexpr int NumbersInReach = 32; // the number of drives that enumeration examines
 
 bool isDriveName(const QString &name)
 {
@@ -77,7 +77,7 @@ QList<Drive> DriveRegistry::scan() const
     return found;
 }
 
-// Only the latest holder of a number has it. An earlier one gets it back when the latest is gone.
+// A number belongs to its latest holder only. An earlier holder gets it back when the latest one is gone.
 int DriveRegistry::numberFor(const Drive &drive, const QList<Drive> &present)
 {
     const auto sameDevice = [&drive](const Drive &other) { return other.isSameDevice(drive); };

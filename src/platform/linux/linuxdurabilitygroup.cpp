@@ -29,7 +29,7 @@ bool kernelTellsLostWrites()
     return ::uname(&kernel) == 0 && tellsLostWrites(kernel.release);
 }
 
-// False where the kernel does not tell mounts.
+// False where the kernel does not report mounts.
 bool isOnMount([[maybe_unused]] const struct statx &found, [[maybe_unused]] quint64 mount)
 {
 #ifdef STATX_MNT_ID
@@ -39,8 +39,8 @@ bool isOnMount([[maybe_unused]] const struct statx &found, [[maybe_unused]] quin
 #endif
 }
 
-// XFS keeps the bytes of some files on a device of their own, whose cache the flush of another file leaves as
-// it is.
+// XFS stores the bytes of some files on a separate device, whose cache the flush of another file does not
+// empty.
 bool isOnRealtimeDevice(int file)
 {
     struct fsxattr attributes = {};
@@ -129,8 +129,8 @@ Status LinuxDurabilityGroup::close()
     Status status;
     if (uninterrupted([&] { return fileCalls().syncfs(m_folder.get()); }) != 0)
         status = statusFromErrno(errno, "syncfs");
-    // What was written past the page cache left nothing for syncfs to write, and may still be in the cache of
-    // the drive.
+    // Data that was written past the page cache leaves syncfs nothing to write, and may still be in the
+    // drive's cache.
     const FileDescriptor &last = m_written.isValid() ? m_written : m_folder;
     if (uninterrupted([&] { return fileCalls().fdatasync(last.get()); }) != 0 && status)
         status = statusFromErrno(errno, "fdatasync");

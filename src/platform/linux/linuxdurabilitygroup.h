@@ -14,16 +14,15 @@ struct statx;
 
 namespace platform {
 
-// Whether the kernel itself keeps O_DSYNC on the file system of an open file, and tells syncfs of lost
-// writes. A file system in user space may take the flag and forget about it, and others are not known well
-// enough.
+/// Whether the kernel itself implements O_DSYNC for the file system of an open file, and reports lost writes
+/// to syncfs. File systems in user space may ignore the flag, and for others it is not known well enough.
 bool isKnownToFlush(int file);
 
-// Whether a kernel of this release tells syncfs of writes that were lost since its descriptor was opened.
-// Pure.
+/// Whether a kernel of this release reports to syncfs the writes that were lost since its descriptor was
+/// opened. Pure.
 bool tellsLostWrites(const char *release);
 
-// What lies on one mount. A bind mount of the same file system is another one.
+/// The files of one mount. A bind mount of the same file system is a different mount.
 class LinuxDurabilityGroup final : public DurabilityGroup
 {
 public:
@@ -35,22 +34,22 @@ public:
     {}
 
     bool covers(const FolderHandle &folder) const override;
-    // found: with MountMask.
+    /// found: with MountMask.
     bool contains(const struct statx &found) const;
-    // Whether an open file can be a member.
+    /// Whether an open file can be a member.
     bool admits(int file, const struct statx &found) const;
 
-    // Leaves it to close() to bring the file to the medium; isWritten: bytes, not only its length. False when
-    // the file has to do that itself. Any thread.
+    /// Defers the flush of the file to close(). isWritten: its bytes changed, not only its length. False when
+    /// the file needs a flush of its own. Any thread.
     bool take(int file, bool isWritten);
 
     Status close();
 
 private:
     const quint64 m_mount;
-    std::mutex m_mutex; // guards what follows
+    std::mutex m_mutex; ///< guards the members below
     FileDescriptor m_folder;
-    FileDescriptor m_written; // one of the members
+    FileDescriptor m_written; ///< one of the written members
     bool m_isClosed = false;
 };
 

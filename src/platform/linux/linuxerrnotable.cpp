@@ -17,9 +17,9 @@ struct Row
 constexpr std::array Table{
     Row{EPERM, AccessDenied},
     Row{EACCES, AccessDenied},
-    Row{EISDIR, AccessDenied}, // what Windows answers when a folder is opened as a file
+    Row{EISDIR, AccessDenied}, // the Windows error for a folder that is opened as a file
     Row{EROFS, WriteProtect},
-    // The device is gone: pulled out, switched off, or a server that no longer knows the file.
+    // The device was unplugged or switched off, or the server no longer knows the file.
     Row{ENOMEDIUM, NotReady},
     Row{ENODEV, NotReady},
     Row{ENXIO, NotReady},
@@ -30,8 +30,8 @@ constexpr std::array Table{
     Row{EAGAIN, LockViolation},
     Row{ENOSPC, DiskFull},
     Row{EDQUOT, DiskQuotaExceeded},
-    // A block that cannot be read or written. ENODATA is what drivers answer for a medium error, EILSEQ for
-    // one of protection information, EUCLEAN and EBADMSG what file systems answer when their own checks fail.
+    // A block cannot be read or written. Drivers report ENODATA for a medium error and EILSEQ for an error in
+    // protection information; file systems report EUCLEAN and EBADMSG when their own checks fail.
     Row{EIO, IoDevice},
     Row{EREMOTEIO, IoDevice},
     Row{ENODATA, IoDevice},

@@ -13,11 +13,11 @@
 
 namespace platform {
 
-/// openat() and fcntl() with the arguments that this backend gives them: a table has no variable ones.
+/// openat() and fcntl() with fixed argument lists, because a call table cannot hold variadic functions.
 int openAt(int folder, const char *name, int flags, mode_t mode);
 int fileControl(int file, int command, int argument);
 
-/// The calls that find, open, write and remove files and folders, and those that transfer to an open device.
+/// The calls that find, open, write and remove files and folders, and the transfers on open devices.
 struct LinuxFileCalls
 {
     int (*openat)(int, const char *, int, mode_t) = &platform::openAt;

@@ -7,7 +7,8 @@
 
 namespace platform {
 
-// Owns a file descriptor. Closing reports nothing: whoever needs to know that data arrived flushes before.
+/// Owns a file descriptor. Closing reports no errors, so a caller that needs the data on the medium flushes
+/// before.
 class FileDescriptor
 {
 public:
@@ -33,14 +34,14 @@ public:
 
     bool isValid() const { return m_number >= 0; }
     int get() const { return m_number; }
-    // The caller closes it.
+    /// Releases ownership; the caller closes the descriptor.
     int release() { return std::exchange(m_number, -1); }
 
 private:
     int m_number = -1;
 };
 
-// Makes a system call again for as long as a signal interrupts it.
+/// Repeats a system call as long as a signal interrupts it.
 template <typename Call>
 auto uninterrupted(Call call)
 {

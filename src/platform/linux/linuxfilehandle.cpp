@@ -20,15 +20,15 @@ namespace platform {
 
 namespace {
 
-// Large enough for a verification sample at any position, small beside a worker's own buffers.
+// Large enough for a verification sample at any position, and small compared to a worker's own buffers.
 constexpr qint64 LargestBounce = qint64(1024) * 1024;
-// Up to here a write that does not end on a whole unit goes through the cache as a whole: apart, its last
-// bytes would have the device flushed a second time, which takes longer than everything else about a small
-// file. So does each write of a group's member, which is not waited for: the device gets many at a time.
+// Writing the incomplete last unit separately would flush the device a second time, which dominates the time
+// for a small file. So an unaligned write up to this size goes through the cache as a whole. Every write of a
+// group's member up to this size does so too, because it does not wait and the device gets many at a time.
 constexpr qint64 LargestCachedWrite = 256LL * 1024;
 constexpr qint64 LargestFileUnit = 65536;
-constexpr qint64 LargestMemoryUnit = 4096; // what every AlignedBuffer keeps
-// Far beyond any file, and rounding up to whole units cannot overflow.
+constexpr qint64 LargestMemoryUnit = 4096; // the alignment of every AlignedBuffer
+// Larger than any file, and small enough that rounding up to whole units cannot overflow.
 constexpr qint64 EndOfPositions = std::numeric_limits<qint64>::max() - LargestBounce;
 
 bool isTransferable(qint64 position, qint64 size)
@@ -46,7 +46,8 @@ qint64 roundedUp(qint64 value, qint64 unit)
     return roundedDown(value + unit - 1, unit);
 }
 
-// No room is not a fault of what was already written: it ends a write as the end of the file ends a read.
+// A full disk does not affect the data already written, so it ends a write as the end of the file ends a
+// read.
 bool isOutOfRoom(int error)
 {
     return error == ENOSPC || error == EDQUOT || error == EFBIG;
@@ -71,7 +72,7 @@ DirectTransfers directTransfersOf([[maybe_unused]] const struct statx &file)
     direct.possible = true;
 #ifdef STATX_DIOALIGN
     if (file.stx_mask & STATX_DIOALIGN) {
-        // Zeros where the file system takes the flag and then works through the page cache after all.
+        // The values are zero where the file system accepts O_DIRECT but uses the page cache.
         direct.possible = isUnit(file.stx_dio_offset_align, LargestFileUnit) &&
                           isUnit(file.stx_dio_mem_align, LargestMemoryUnit);
         if (direct.possible) {
@@ -103,8 +104,8 @@ Result<qint64> LinuxFileHandle::read(void *data, qint64 size)
 {
     if (!isTransferable(m_position, size))
         return Status{InvalidParameter, 0, "pread"};
-    // Also with direct transfers: file systems answer some of them from the cache without a word, ext4 those
-    // of files with data journalling, btrfs those of compressed extents.
+    // Also with direct transfers, because file systems silently serve some of them from the cache: ext4 for
+    // files with data journalling, btrfs for compressed extents.
     dropCached();
     qint64 done = 0;
     while (done < size) {
@@ -165,12 +166,11 @@ Result<qint64> LinuxFileHandle::readCached(qint64 position, std::byte *data, qin
     if (const Status switched = switchDirect(false); !switched)
         return switched;
     if (!m_writtenOut) {
-        // Pages that are still to be written cannot be dropped. EINVAL: this file system has nothing to write
-        // out.
+        // Dirty pages cannot be dropped. EINVAL: this file system has nothing to write out.
         if (uninterrupted([&] { return fileCalls().fdatasync(m_file.get()); }) != 0 && errno != EINVAL)
             return statusFromErrno(errno, "fdatasync");
         m_writtenOut = true;
-        // Without this the kernel reads ahead, and the next read would come from there.
+        // Turns off read-ahead, because the next read would be served from the pages that it loads.
         ::posix_fadvise(m_file.get(), 0, 0, POSIX_FADV_RANDOM);
         dropCached();
     }
@@ -228,8 +228,8 @@ Result<qint64> LinuxFileHandle::writeSome(qint64 position, const std::byte *data
     if (const Status switched = switchDirect(false); !switched)
         return switched;
     const Result<qint64> count = transferOut(position, data, size);
-    // Under way now, not at the group's end, which a stop would have to wait for. A failure stays for that
-    // end to tell.
+    // Starts writing now, because a stop would otherwise have to wait for all data at the group's end.
+    // closeGroup() reports a failure.
     if (count && m_group)
         fileCalls().syncFileRange(m_file.get(), position, count.value(), SYNC_FILE_RANGE_WRITE);
     return count;
@@ -269,12 +269,11 @@ Status LinuxFileHandle::setEnd()
 
 Status LinuxFileHandle::flush()
 {
-    // The kernel reports lost data once and then forgets it: a second attempt would succeed over data that is
-    // not there.
+    // The kernel reports lost data only once, so a second attempt would succeed although the data is missing.
     if (!m_flushFailure)
         return m_flushFailure;
-    // Each write has already waited for the device, and its cache would only be flushed once more: a third of
-    // the time that small files take.
+    // Each write has already waited for the device. Another flush of the device's cache
+    // would take a third of the time for small files.
     if (m_writeThrough && !m_endMoved && !m_writeFailed)
         return {};
     if (m_group && !m_writeFailed && m_group->take(m_file.get(), m_written))
@@ -305,7 +304,7 @@ bool LinuxFileHandle::fitsMemory(const std::byte *data) const
     return reinterpret_cast<std::uintptr_t>(data) % static_cast<std::uintptr_t>(m_direct.memoryUnit) == 0;
 }
 
-// At least one unit, at most LargestBounce; what is larger goes through it piece by piece.
+// At least one unit, at most LargestBounce; larger transfers go through it in pieces.
 bool LinuxFileHandle::provideBounce(qint64 size)
 {
     const qint64 needed = roundedUp(qMin(size, LargestBounce), m_direct.fileUnit);
@@ -314,8 +313,7 @@ bool LinuxFileHandle::provideBounce(qint64 size)
     return !m_bounce.isNull();
 }
 
-// O_DIRECT and O_NONBLOCK are all that F_SETFL could change here, and the latter means nothing to regular
-// files.
+// F_SETFL can change only O_DIRECT and O_NONBLOCK here, and O_NONBLOCK has no effect on regular files.
 Status LinuxFileHandle::switchDirect(bool on)
 {
     if (m_directOn == on)
@@ -326,8 +324,8 @@ Status LinuxFileHandle::switchDirect(bool on)
     return {};
 }
 
-// Of the whole file: the kernel skips a folio that reaches beyond a given range, and it holds a file in
-// folios of up to some megabytes. Only a hint, it also keeps pages that are dirty or mapped.
+// Drops the whole file, because the kernel keeps files in folios of up to some megabytes and skips a folio
+// that reaches beyond a given range. This is only a hint, and dirty or mapped pages stay.
 void LinuxFileHandle::dropCached()
 {
     ::posix_fadvise(m_file.get(), 0, 0, POSIX_FADV_DONTNEED);

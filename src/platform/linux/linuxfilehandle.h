@@ -10,18 +10,18 @@ struct statx;
 
 namespace platform {
 
-// What a file demands of transfers past the page cache.
+/// The alignment that a file requires for transfers past the page cache.
 struct DirectTransfers
 {
     bool possible = false;
-    qint64 memoryUnit = 4096; // the buffer begins on a multiple of it
-    qint64 fileUnit = 4096;   // position and length are multiples of it
+    qint64 memoryUnit = 4096; ///< the buffer begins on a multiple of it
+    qint64 fileUnit = 4096;   ///< position and length are multiples of it
 };
 
-// What has to be asked of statx for them.
+/// The statx fields that directTransfersOf() needs.
 extern const unsigned int DirectTransfersMask;
 
-// Of a file that is opened with O_DIRECT.
+/// For a file that is opened with O_DIRECT.
 DirectTransfers directTransfersOf(const struct statx &file);
 
 class LinuxDurabilityGroup;
@@ -30,14 +30,14 @@ struct OpenedFile
 {
     FileDescriptor descriptor;
     DirectTransfers direct;
-    bool directOn = false;     // O_DIRECT is set, whether or not the file then takes direct transfers
-    bool writeThrough = false; // O_DSYNC is set, and the file system is known to keep it
-    std::shared_ptr<LinuxDurabilityGroup> group{}; // that the file belongs to
+    bool directOn = false;     ///< O_DIRECT is set, even if the file then refuses direct transfers
+    bool writeThrough = false; ///< O_DSYNC is set, and the file system is known to honour it
+    std::shared_ptr<LinuxDurabilityGroup> group{}; ///< the file's group, or null
 };
 
-// An open regular file. With direct transfers what fits the file's units goes straight between the caller's
-// buffer and the device; what does not is read through a small aligned buffer, and written through the page
-// cache, which knows how to leave the neighbouring bytes and the length alone.
+/// An open regular file. Direct transfers move whole units between the caller's buffer and the device. The
+/// remainder is read through a small aligned buffer, and written through the page cache, which preserves the
+/// neighbouring bytes and the length.
 class LinuxFileHandle final : public FileHandle
 {
 public:
@@ -76,7 +76,7 @@ private:
     bool m_endMoved = false;
     bool m_written = false;
     bool m_writeFailed = false;
-    bool m_writtenOut = false; // no page is still to be written
+    bool m_writtenOut = false; ///< the page cache has no unwritten pages of the file
 };
 
 } // namespace platform

@@ -15,8 +15,8 @@ namespace platform {
 
 namespace {
 
-// The others either have no numbers of their own and give some at will, or are not known well enough; an
-// overlay gives a file another one when it copies it up.
+// Other file systems have no lasting numbers or are not known well enough. An overlay changes a file's number
+// when it copies the file up.
 bool hasLastingNumbers(quint32 fileSystem)
 {
     switch (fileSystem) {

@@ -6,12 +6,12 @@ struct statx;
 
 namespace platform {
 
-// What has to be asked of statx for the identity of a file.
+/// The statx fields that identify a file.
 extern const unsigned int FileIdMask;
 
 FileId fileIdFrom(const struct statx &file);
 
-// Of an open file; NotSupported where numbers do not last.
+/// For an open file; NotSupported where the file system may renumber its files.
 Result<FileId> fileIdOf(int file);
 
 } // namespace platform

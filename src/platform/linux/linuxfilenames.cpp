@@ -12,8 +12,8 @@ struct Decoded
     int length = 0; // bytes; 0 when no valid character begins here
 };
 
-// Shortest form only, no surrogates, nothing above U+10FFFF: whatever else there is stays bytes, or two names
-// would become one.
+// Accepts only the shortest form, no surrogates and nothing above U+10FFFF. All other bytes stay bytes,
+// because otherwise two names could decode to the same string.
 Decoded decodeCharacter(QByteArrayView bytes)
 {
     const auto first = static_cast<uchar>(bytes[0]);

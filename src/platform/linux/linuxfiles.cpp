@@ -54,14 +54,14 @@ Status refusalOf(mode_t mode, const char *operation)
 
 FileDescriptor openFile(const EntryAt &entry, int flags)
 {
-    // O_NONBLOCK in case that a pipe takes the place of the file after it was looked at.
+    // O_NONBLOCK, because a pipe may have replaced the file since the lookup.
     constexpr int Always = O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
     return FileDescriptor(uninterrupted([&] {
         return fileCalls().openat(entry.folder, entry.name.constData(), flags | Always, S_IRUSR | S_IWUSR);
     }));
 }
 
-// What stands under the name itself.
+// The entry of the name itself, without following a link.
 Result<struct statx> look(const EntryAt &entry, unsigned int wanted)
 {
     struct statx found = {};
@@ -71,13 +71,13 @@ Result<struct statx> look(const EntryAt &entry, unsigned int wanted)
     return found;
 }
 
-// Each write of a member would wait for the device by itself.
+// O_DSYNC would make each write of a member wait for the device.
 int flagsOf(OpenMode mode, bool isMember)
 {
     return isMember ? flagsOf(mode) & ~O_DSYNC : flagsOf(mode);
 }
 
-// Not a constant: a part of it is told by another file.
+// A function and not a constant, because FileIdMask is defined in another file.
 unsigned int infoMask()
 {
     return STATX_TYPE | STATX_SIZE | STATX_BLOCKS | STATX_NLINK | FileIdMask;
@@ -88,7 +88,7 @@ FileInfo infoFrom(const struct statx &file)
     FileInfo info;
     info.kind = fileKindFromMode(file.stx_mode);
     info.size = info.kind == FileKind::Regular ? static_cast<qint64>(file.stx_size) : 0;
-    constexpr qint64 Block = 512; // whatever the file system's own are
+    constexpr qint64 Block = 512; // the unit of stx_blocks, independent of the file system
     if (info.kind == FileKind::Regular && (file.stx_mask & STATX_BLOCKS))
         info.allocatedBytes = static_cast<qint64>(file.stx_blocks) * Block;
     info.linkCount = qMax(1, static_cast<int>(file.stx_nlink));
@@ -126,8 +126,8 @@ Result<std::unique_ptr<FileHandle>> LinuxFiles::openIn(const std::shared_ptr<Dur
     const Result<EntryAt> at = locate(entry);
     if (!at)
         return at.status();
-    // Opening alone already has effects on what is no regular file: a tape rewinds, the writer at a pipe
-    // wakes up.
+    // Checked before opening, because opening alone has effects on special files: a tape rewinds, a pipe's
+    // writer wakes up.
     const Result<struct statx> found = look(at.value(), STATX_TYPE);
     if (!found) {
         if (mode != OpenMode::CreateFill || !isAbsentErrno(found.status().native))
@@ -153,7 +153,7 @@ Result<std::unique_ptr<FileHandle>> LinuxFiles::openIn(const std::shared_ptr<Dur
         return statusFromErrno(errno, "statx");
     if (const Status refusal = refusalOf(opened.stx_mode, "statx"); !refusal)
         return refusal;
-    // Something may have been mounted over the name after the look.
+    // A file system may have been mounted over the name since the lookup.
     if (const Status mounted = at.value().refusalOf(opened); !mounted)
         return mounted;
     OpenedFile handle;
@@ -188,7 +188,8 @@ Result<ContentPlace> LinuxFiles::contentPlace(const EntryPath &entry)
     const Result<EntryAt> at = locate(entry);
     if (!at)
         return at.status();
-    // Opening alone already has effects on special files, and a file without content needs no opening.
+    // Checked before opening, because opening alone has effects on special files. A file without content need
+    // not be opened.
     const Result<struct statx> found = look(at.value(), STATX_TYPE | STATX_SIZE);
     if (!found)
         return found.status();
@@ -223,7 +224,7 @@ int LinuxFiles::spareOpenFiles()
         return Unlimited;
     const auto most = static_cast<int>(limit.rlim_cur);
     int spare = 0;
-    // Every free number is one; not all are looked at where there are plenty.
+    // Counts the free descriptor numbers, and stops when there are plenty.
     constexpr int Plenty = 1024;
     for (int number = 0; number < most && spare < Plenty; ++number)
         spare += ::fcntl(number, F_GETFD) < 0 ? 1 : 0;

@@ -4,10 +4,10 @@
 
 namespace platform {
 
-// What stands under the name in an open folder, or under the path with AT_FDCWD.
+/// The entry of the name in an open folder, or of the path with AT_FDCWD.
 Result<FileInfo> fileInfoAt(int folder, const char *name);
 
-// Files by way of POSIX calls. Without state.
+/// Files through POSIX calls. Without state.
 class LinuxFiles final : public Files
 {
 public:

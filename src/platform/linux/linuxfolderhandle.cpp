@@ -23,7 +23,7 @@ FileDescriptor openFolder(int above, const char *name, int flags)
         uninterrupted([&] { return fileCalls().openat(above, name, HoldFlags | flags, 0); }));
 }
 
-// In pieces: the system takes none as long as PATH_MAX.
+// Opens the path in pieces, because the system refuses paths of PATH_MAX bytes or more.
 FileDescriptor openLongPath(QByteArray path)
 {
     constexpr qsizetype Longest = PATH_MAX - 1;

@@ -12,15 +12,15 @@
 
 namespace platform {
 
-// Whether what was found in a folder is mounted over its name there. A bind mount shares the device number of
-// what it shows, and a btrfs subvolume has its own without being mounted: only kernels that do not tell
-// mounts themselves are left to the device number. Pure.
+/// Whether the entry found in a folder is a mount point. The device number is only the fallback for kernels
+/// that do not report mounts, because a bind mount shares the device number of its source, and a btrfs
+/// subvolume has its own without being mounted. Pure.
 bool isOnAnotherMount(const struct statx &folder, const struct statx &found);
 
-// What has to be asked of statx for that.
+/// The statx fields that isOnAnotherMount() needs.
 extern const unsigned int MountMask;
 
-// A folder held for lookups alone (O_PATH), which takes no permission to list it.
+/// A folder that is open for lookups only (O_PATH), which needs no permission to list it.
 class LinuxFolderHandle final : public FolderHandle
 {
 public:
@@ -38,25 +38,25 @@ private:
     const Result<FileId> m_id;
 };
 
-// Opened under the path, wherever links in it lead, and however long it is.
+/// Opens the path, follows its links, and accepts a path of any length.
 Result<std::shared_ptr<FolderHandle>> openHeld(const QString &path);
-// PathNotFound for what is no folder itself.
+/// PathNotFound when the entry itself is no folder.
 Result<std::shared_ptr<FolderHandle>> openHeldIn(const LinuxFolderHandle &parent, const QString &name,
                                                  bool entersMounts);
 
-// An entry as system calls take it: a name relative to a descriptor.
+/// An entry in the form for system calls: a name relative to a descriptor.
 struct EntryAt
 {
     int folder = -1;
     QByteArray name;
     const LinuxFolderHandle *held = nullptr;
 
-    // NotSameDevice for what is mounted over the name in a held folder.
+    /// NotSameDevice for a mount point in a held folder.
     Status refusalOf(const struct statx &found) const;
 };
 
-// Valid as long as the entry is. A held folder of another system's fails with InvalidParameter, and so does a
-// name that is none.
+/// Valid as long as the entry is. InvalidParameter for a folder handle of another backend, and for an invalid
+/// name.
 Result<EntryAt> locate(const EntryPath &entry);
 
 } // namespace platform

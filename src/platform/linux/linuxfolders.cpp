@@ -19,8 +19,8 @@ namespace platform {
 
 namespace {
 
-// The slash between a path's last component and the folder that contains it, -1 without one; several in a row
-// are one separator.
+// The position of the slash before a path's last component, -1 without one. Several slashes in a row are one
+// separator.
 qsizetype endOfParent(const QByteArray &path, qsizetype length)
 {
     qsizetype end = path.lastIndexOf('/', length - 1);
@@ -90,7 +90,8 @@ Status LinuxFolders::create(const QString &folder)
     const Result<QByteArray> name = encodePath(folder);
     if (!name)
         return name.status();
-    // Down from the end to the first folder that exists or can be made, then up again with the missing ones.
+    // Goes up from the end to the first folder that exists or can be created, then creates the missing
+    // folders on the way down.
     const QByteArray &path = name.value();
     QList<qsizetype> missing;
     qsizetype length = path.size();
@@ -127,7 +128,7 @@ Status LinuxFolders::removeTree(const QString &folder)
         return statusFromErrno(ENOTDIR, "lstat");
     const qsizetype slash = path.value().lastIndexOf('/');
     const QByteArray name = path.value().mid(slash + 1);
-    // The root itself, and names whose last component is not that of the folder they lead to.
+    // The root itself, and paths whose last component is not the folder's own name.
     if (name.isEmpty() || name == "." || name == "..")
         return {InvalidParameter, 0, "rmdir"};
     const QByteArray above = slash < 0 ? QByteArray(".") : path.value().left(slash + 1);
@@ -168,7 +169,7 @@ Result<SpaceInfo> LinuxFolders::space(const QString &path)
     const Result<QByteArray> name = encodePath(path);
     if (!name)
         return name.status();
-    // statvfs() would answer for the volume that a link leads to.
+    // statvfs() would follow a link to another volume.
     const FileDescriptor opened(uninterrupted([&] {
         return fileCalls().openat(AT_FDCWD, name.value().constData(), O_PATH | O_NOFOLLOW | O_CLOEXEC, 0);
     }));

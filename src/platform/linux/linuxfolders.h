@@ -4,7 +4,7 @@
 
 namespace platform {
 
-// Folders by way of POSIX calls. Without state.
+/// Folders through POSIX calls. Without state.
 class LinuxFolders final : public Folders
 {
 public:
@@ -15,8 +15,8 @@ public:
                                                  const QString &name, Mounts mounts) override;
     Status create(const QString &folder) override;
     Status removeEmpty(const EntryPath &folder) override;
-    // Stays on the mounted file system it began on: what is mounted inside keeps its contents, and the mount
-    // point counts as a failure (SharingViolation). Any depth, with a handful of descriptors.
+    /// Stays on the file system of the folder. A file system mounted inside keeps its contents, and its mount
+    /// point counts as a failure (SharingViolation). Any depth, with a few descriptors.
     Status removeTree(const QString &folder) override;
     Result<FolderOwner> owner(const QString &folder) override;
     Status hide(const QString &path) override;

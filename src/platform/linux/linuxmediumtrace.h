@@ -9,15 +9,15 @@
 
 namespace platform {
 
-// Follows what is mounted on a place down to the media that it needs: an overlay to the folders that it lays
-// over one another, an image file to the file system that holds it.
+/// Traces a mount down to its media: an overlay to its layers, an image file to the file system that holds
+/// it.
 class MediumTrace
 {
 public:
     explicit MediumTrace(const SystemTree &tree);
 
-    // The mount points of block devices that hold what is mounted there, as Devices::queryVolume takes them.
-    // Empty when there are none in sight.
+    /// The mount points of the block devices below a mount, as Devices::queryVolume takes them. Empty when
+    /// none is visible.
     QStringList volumesUnder(const QString &mountPoint) const;
 
 private:

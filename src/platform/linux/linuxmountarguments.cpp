@@ -63,7 +63,7 @@ MountArguments MountArguments::of(const MountEntry &entry)
 
     for (const QString &option : entry.mountOptions.split(u',', Qt::SkipEmptyParts))
         arguments.mountFlags |= mountFlag(option);
-    // The kernel has no word for the oldest way of keeping access times.
+    // The mount table has no word for strict access times.
     if ((arguments.mountFlags & (MS_NOATIME | MS_RELATIME)) == 0)
         arguments.mountFlags |= MS_STRICTATIME;
     arguments.propagation = propagationOf(entry.propagation);

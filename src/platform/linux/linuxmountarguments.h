@@ -6,17 +6,17 @@
 
 namespace platform {
 
-// How a mount that is in the table was made, as mount(2) takes it.
+/// The arguments of mount(2) that recreate a mount from the mount table.
 struct MountArguments
 {
-    unsigned long fileSystemFlags = 0; // of the file system, wherever it is mounted
-    QByteArray data;                   // what else its driver was told
-    unsigned long mountFlags = 0;      // of this mount alone
-    unsigned long propagation = 0;     // shared, private or unbindable
-    // Whether the file system itself is mounted, and not a folder of it.
+    unsigned long fileSystemFlags = 0; ///< of the file system, the same at all its mount points
+    QByteArray data;                   ///< the remaining options for the file system driver
+    unsigned long mountFlags = 0;      ///< of this mount alone
+    unsigned long propagation = 0;     ///< shared, private or unbindable
+    /// Whether the whole file system is mounted, and not one of its folders.
     bool isWhole = true;
 
-    // Pure. The master of a mount that receives from one is not found again: it counts as private.
+    /// Pure. A slave mount counts as private, because its master cannot be found again.
     static MountArguments of(const MountEntry &entry);
 };
 

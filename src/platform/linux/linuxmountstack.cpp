@@ -23,18 +23,18 @@ namespace platform {
 
 namespace {
 
-// Whoever lists the volumes of the machine has each of them open for a moment.
+// Programs that list volumes open each of them briefly.
 constexpr int Attempts = 10;
 constexpr useconds_t BetweenAttempts = 50'000;
 
-// What the path leads to may lie on another mount, which hides this one.
+// Whether the path leads to this mount, and not to another mount that hides it.
 bool leadsTo(const QByteArray &path, int mountId)
 {
     struct statx info = {};
     if (fileCalls().statx(AT_FDCWD, path.constData(), AT_SYMLINK_NOFOLLOW | AT_NO_AUTOMOUNT, STATX_MNT_ID,
                           &info) != 0)
         return false;
-    // Before Linux 5.8 nobody tells.
+    // Kernels before Linux 5.8 do not report the mount.
     return (info.stx_mask & STATX_MNT_ID) == 0 || info.stx_mnt_id == static_cast<quint64>(mountId);
 }
 
@@ -56,7 +56,8 @@ Status unmount(const MountEntry &entry)
 bool mountFileSystem(const QByteArray &source, const QByteArray &point, const MountEntry &entry)
 {
     const MountArguments arguments = MountArguments::of(entry);
-    // A place that is read-only becomes so later: said here, it would make the file system read-only.
+    // Without MS_RDONLY, which would make the whole file system read-only. setUp() makes a read-only mount
+    // point so afterwards.
     const unsigned long flags =
         arguments.fileSystemFlags | (arguments.mountFlags & ~static_cast<unsigned long>(MS_RDONLY));
     return deviceCalls().mount(source.constData(), point.constData(), entry.fileSystem.constData(), flags,
@@ -68,7 +69,7 @@ Status mountFailure()
     return statusFromErrno(errno, "mount");
 }
 
-// A partition is away for a moment when the system has just read the table of a drive anew.
+// After the system has re-read a partition table, partitions are missing for a moment.
 Status mountWhole(const QByteArray &source, const QByteArray &point, const MountEntry &entry)
 {
     for (int attempt = 1;; ++attempt) {
@@ -80,8 +81,8 @@ Status mountWhole(const QByteArray &source, const QByteArray &point, const Mount
     }
 }
 
-// A file system of which a folder is to be mounted, for a moment at a place of its own, from which the folder
-// can be reached whatever hides it elsewhere.
+// Mounts a file system at a temporary place, from which a folder of it can be mounted even if another mount
+// hides the folder elsewhere.
 class HiddenPlace
 {
 public:
@@ -93,10 +94,11 @@ public:
         m_isMade = true;
         m_isMounted = mountWhole(source, m_path, entry).ok();
     }
-    // Takes away the folder alone, which fails while something is mounted there: what it holds is the user's.
+    // Removes only the folder itself. While a file system is still mounted there, rmdir() fails and the
+    // user's data stays.
     ~HiddenPlace()
     {
-        const int error = errno; // that somebody is about to look at
+        const int error = errno; // preserved for the caller
         if (m_isMounted)
             deviceCalls().umount2(m_path.constData(), UMOUNT_NOFOLLOW);
         if (m_isMade)
@@ -115,7 +117,7 @@ private:
     bool m_isMounted = false;
 };
 
-// A folder of the file system, told from the root of all its subvolumes.
+// Mounts a folder of the file system. Its path starts at the root of all subvolumes.
 Status mountFolder(const QByteArray &source, const QByteArray &point, const MountEntry &entry)
 {
     MountEntry whole = entry;
@@ -147,7 +149,7 @@ MountStack::MountStack(const SystemTree &tree, QList<VolumeTable::Mount> mounts)
     : m_table(tree)
     , m_blocks(tree)
 {
-    // A mount that was moved may stand on one that is younger.
+    // A moved mount may stand on a younger one.
     while (!mounts.isEmpty()) {
         const auto standsOnNone = [&mounts](const VolumeTable::Mount &mount) {
             return std::ranges::none_of(mounts, [&mount](const VolumeTable::Mount &other) {
@@ -183,7 +185,7 @@ Status MountStack::takeDown(QString &inUse)
 {
     while (m_standing > 0) {
         const MountEntry &entry = m_mounts.at(m_standing - 1).entry;
-        // Where mounts are passed on, one goes with another.
+        // With shared propagation, unmounting one mount may also unmount another.
         const Status unmounted = isStanding(entry) ? unmount(entry) : Status{};
         if (!unmounted) {
             inUse = entry.mountPoint;
@@ -194,7 +196,7 @@ Status MountStack::takeDown(QString &inUse)
     return {};
 }
 
-// Where mounts are passed on, one comes with another, which must not lie there twice.
+// With shared propagation, mounting one mount may also create another, which must not be mounted twice.
 bool MountStack::isUpAgain(qsizetype index) const
 {
     const VolumeTable::Mount &wanted = m_mounts.at(index);
@@ -218,7 +220,7 @@ Status MountStack::mountAgain(const VolumeTable::Mount &mount) const
     if (!mounted)
         return mounted;
     const Status isSetUp = setUp(point, arguments);
-    // Less guarded than it was it must not stay.
+    // A mount must not stay with weaker restrictions than before.
     if (!isSetUp)
         deviceCalls().umount2(point.constData(), UMOUNT_NOFOLLOW);
     return isSetUp;

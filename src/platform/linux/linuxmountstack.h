@@ -11,23 +11,23 @@
 
 namespace platform {
 
-// Mounts that are taken down and put up again as they were: none before what it stands on, otherwise in the
-// order in which they were mounted.
+/// Mounts that are unmounted and mounted again as they were. Every mount comes after the mount that it stands
+/// on, otherwise in the order of mounting.
 class MountStack
 {
 public:
     MountStack(const SystemTree &tree, QList<VolumeTable::Mount> mounts);
 
-    // The mounts, what stands above others behind them.
+    /// The mounts, the lower ones first.
     const QList<VolumeTable::Mount> &mounts() const { return m_mounts; }
 
-    // The mount point of one on which another mount stands that does not belong to them; empty when there is
-    // none.
+    /// The mount point of a mount in the stack below a mount outside it; empty when there is none.
     QString pointUnderOther() const;
 
-    // Takes them down, the last one first, and stops where one is in use: its mount point is left in `inUse`.
+    /// Unmounts the stack, the last mount first, and stops at the first mount in use, whose mount point is
+    /// stored in `inUse`.
     Status takeDown(QString &inUse);
-    // Puts up again what was taken down. The mount points that stay empty are the answer.
+    /// Mounts the unmounted ones again, and returns the mount points that stay empty.
     QStringList putUp();
 
 private:
@@ -38,7 +38,7 @@ private:
     VolumeTable m_table;
     BlockTree m_blocks;
     QList<VolumeTable::Mount> m_mounts;
-    qsizetype m_standing = 0; // so many of them, from the first, are mounted
+    qsizetype m_standing = 0; ///< number of mounts, counted from the first, that are mounted
 };
 
 } // namespace platform

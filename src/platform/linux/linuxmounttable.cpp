@@ -6,7 +6,7 @@ namespace platform {
 
 namespace {
 
-// The kernel writes blank, tab, line feed and backslash as three octal digits.
+// The kernel escapes blank, tab, line feed and backslash as three octal digits.
 QString unescaped(const QByteArray &field)
 {
     QByteArray text;

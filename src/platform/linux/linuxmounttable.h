@@ -7,25 +7,25 @@
 
 namespace platform {
 
-// One line of /proc/self/mountinfo.
+/// One line of /proc/self/mountinfo.
 struct MountEntry
 {
-    QByteArray deviceNumber; // "8:1"; of file systems over several devices a number of their own ("0:42")
-    QString root;            // the part of the file system that is mounted, "/" for all of it
+    QByteArray deviceNumber; ///< "8:1"; a file system on several devices has a number of its own ("0:42")
+    QString root;            ///< the part of the file system that is mounted, "/" for all of it
     QString mountPoint;
     QByteArray fileSystem;
-    QString source;           // usually a device node
-    QString options{};        // the file system's own
-    QString mountOptions{};   // of this mount alone
-    QByteArray propagation{}; // "shared:7 master:1", as the line has it
+    QString source;           ///< usually a device node
+    QString options{};        ///< the file system's own
+    QString mountOptions{};   ///< of this mount alone
+    QByteArray propagation{}; ///< "shared:7 master:1", as in the mount table
     int id = 0;
-    int parent = 0; // the mount on which it stands
+    int parent = 0; ///< the mount that this one is mounted on
 };
 
-// Pure; lines that are not of the form are passed over. Order as in the text, which is the order of mounting.
+/// Pure; malformed lines are skipped. The order is that of the text, which is the order of mounting.
 QList<MountEntry> parseMountInfo(const QByteArray &text);
 
-// The active swap areas in the text of /proc/swaps: device nodes and files.
+/// The active swap areas in the text of /proc/swaps: device nodes and files.
 QStringList parseSwaps(const QByteArray &text);
 
 } // namespace platform

@@ -1,4 +1,4 @@
-// Built without the bus.
+// For builds without D-Bus.
 #include "platform/linux/linuxsleepinhibitor.h"
 
 namespace platform {

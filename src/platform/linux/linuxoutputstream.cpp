@@ -41,7 +41,7 @@ bool LinuxFiles::openStream(QFile &stream, QIODevice::OpenMode mode)
 
 bool LinuxFiles::isWrittenOut(const QFileDevice &file)
 {
-    // What has no medium has nothing to write out.
+    // A stream without a medium has nothing to write out.
     return ::fsync(file.handle()) == 0 || errno == EINVAL || errno == ENOTSUP || errno == EROFS;
 }
 

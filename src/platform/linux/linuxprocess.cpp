@@ -24,15 +24,15 @@ namespace platform {
 
 namespace {
 
-// What the signal handler may touch; it can run on any thread at any moment.
+// The state of the signal handler, which can run on any thread at any moment.
 std::atomic<bool> s_stopAsked{false};
 std::atomic<int> s_wakeUpEnd{-1};
 static_assert(std::atomic<bool>::is_always_lock_free && std::atomic<int>::is_always_lock_free);
 
-// The end of the pipe that becomes readable with the first signal, -1 without a StopHandler.
+// The pipe's end that becomes readable with the first signal, -1 without a StopHandler.
 int s_notifiedEnd = -1;
 
-// The mask from before holdStopSignals().
+// The signal mask before holdStopSignals().
 std::optional<sigset_t> s_maskBefore;
 
 extern "C" void onStopSignal(int)
@@ -40,7 +40,7 @@ extern "C" void onStopSignal(int)
     const int error = errno;
     s_stopAsked.store(true);
     const char wakeUp = 0;
-    // A full pipe has woken the reader already.
+    // If the pipe is full, the reader is awake already.
     [[maybe_unused]] const ssize_t count = ::write(s_wakeUpEnd.load(), &wakeUp, 1);
     errno = error;
 }
@@ -58,7 +58,7 @@ int descriptorOf(StandardStream stream)
     return STDERR_FILENO;
 }
 
-// False when a stop is asked for before the input has something to read.
+// Waits for input. False when a stop is requested first.
 bool waitForInput()
 {
     std::array<pollfd, 2> ends{pollfd{STDIN_FILENO, POLLIN, 0}, pollfd{s_notifiedEnd, POLLIN, 0}};
@@ -84,7 +84,7 @@ std::optional<QString> readLine()
     QByteArray line;
     char character = 0;
     while (waitForInput()) {
-        // One byte at a time, so that what follows the line is left to the next reader.
+        // Reads single bytes, so that the text after the line remains for the next reader.
         const ssize_t count = uninterrupted([&character] { return ::read(STDIN_FILENO, &character, 1); });
         if (count < 1)
             return std::nullopt;
@@ -106,7 +106,7 @@ Status writeText(StandardStream stream, const QByteArray &text)
             data += count;
             left -= count;
         } else if (errno == EAGAIN) {
-            // Whoever shares the terminal or pipe has made it non-blocking.
+            // Another process that shares the terminal or pipe may have made it non-blocking.
             pollfd end{descriptor, POLLOUT, 0};
             uninterrupted([&end] { return ::poll(&end, 1, -1); });
         } else if (errno != EINTR) {
@@ -150,7 +150,7 @@ void liftOpenFileLimit()
     if (::getrlimit(RLIMIT_NOFILE, &limit) != 0 || limit.rlim_cur == limit.rlim_max)
         return;
     limit.rlim_cur = limit.rlim_max;
-    // As before is not wrong, only less.
+    // A failure is harmless, because the old limit remains.
     static_cast<void>(::setrlimit(RLIMIT_NOFILE, &limit));
 }
 

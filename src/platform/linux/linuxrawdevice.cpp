@@ -22,8 +22,8 @@ namespace platform {
 
 namespace {
 
-// Zero and the three numbers of an end reached are the only answers that end a volume without a failure, so
-// inside the device none of them may come from here: EINVAL would be "invalid parameter".
+// Zero and the three codes for the end of a device end a volume without a failure. Inside the device none of
+// them may be returned, so EINVAL must not become InvalidParameter.
 Status writeFailure(int error)
 {
     Status status = statusFromErrno(error, "pwrite");
@@ -111,7 +111,7 @@ Result<qint64> BlockTransfers::write(const void *data, qint64 size)
             continue;
         if (count < 0)
             return writeFailure(errno);
-        if (count == 0) // no device does that inside its length; looping on it would never end
+        if (count == 0) // a device never does that within its length, and repeating the call would never end
             return writeFailure(EIO);
         done += count;
         m_position += count;

@@ -8,16 +8,16 @@
 
 namespace platform {
 
-// Transfers to an open block device; the position is kept here, so that the descriptor can be exchanged.
+/// Transfers to an open block device. The position is kept here, so that the descriptor can be replaced.
 class BlockTransfers
 {
 public:
-    // Takes over a descriptor of a block device and asks it for its size.
+    /// Takes over a descriptor of a block device and queries its size.
     static Result<BlockTransfers> on(FileDescriptor fd);
 
-    // What can be addressed, in whole sectors.
+    /// The addressable part, in whole sectors.
     Geometry geometry() const { return m_geometry; }
-    // Of the device, also of bytes behind the last whole sector.
+    /// The device's length, including bytes behind the last whole sector.
     qint64 length() const { return m_length; }
     Status seek(qint64 position);
     Result<qint64> read(void *data, qint64 size);
@@ -38,11 +38,11 @@ private:
     qint64 m_position = 0;
 };
 
-// Opens the node of a block device for raw transfers and makes sure that it is the device meant (by its
-// number, "8:0"): a node can be replaced between looking and opening.
+/// Opens the node of a block device for raw transfers. A node can be replaced between the lookup and the
+/// opening, so the call checks the number of the opened device ("8:0").
 Result<FileDescriptor> openBlockDevice(const QString &node, const QByteArray &device, DriveAccess access);
 
-// Base is RawDevice or VolumeDevice.
+/// Base is RawDevice or VolumeDevice.
 template <typename Base>
 class LinuxTransfers : public Base
 {

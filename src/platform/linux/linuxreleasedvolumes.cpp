@@ -16,7 +16,7 @@ LinuxReleasedVolumes::~LinuxReleasedVolumes()
         LinuxReleasedVolumes::restore();
 }
 
-// One for each volume, however often it was mounted.
+// One name for each volume, whatever the number of its mounts.
 QStringList LinuxReleasedVolumes::names() const
 {
     QStringList names;
@@ -40,8 +40,8 @@ QStringList LinuxReleasedVolumes::restore()
 Status LinuxReleasedVolumes::keep()
 {
     m_isSettled = true;
-    // Partitions that are gone would still be offered for mounting. A drive without partitions refuses, and
-    // nothing depends on it.
+    // Without a re-read the system would still offer the old partitions for mounting. The call fails on a
+    // drive without partitions, which is harmless.
     if (m_drive.isValid() && deviceCalls().ioctl(m_drive.get(), BLKRRPART, nullptr) != 0)
         qDebug() << "[Mounts] The partition table was not read anew";
     m_drive = {};

@@ -6,12 +6,12 @@
 
 namespace platform {
 
-// Mounts that were taken down, and the drive below them, opened with O_EXCL so that nothing on it can be
-// mounted meanwhile.
+/// The unmounted file systems of a drive, and the drive itself, opened with O_EXCL so that nothing on it can
+/// be mounted meanwhile.
 class LinuxReleasedVolumes : public ReleasedVolumes
 {
 public:
-    // The drive's descriptor comes once the mounts are down.
+    /// The drive's descriptor is set after unmounting.
     explicit LinuxReleasedVolumes(MountStack mounts)
         : m_mounts(std::move(mounts))
     {}
@@ -21,7 +21,7 @@ public:
     void setDrive(FileDescriptor drive) { m_drive = std::move(drive); }
 
     QStringList names() const override;
-    bool holds(const QString &) const override { return false; } // nothing is in sight that is not mounted
+    bool holds(const QString &) const override { return false; } // the list shows mounted volumes only
     QStringList restore() override;
     Status keep() override;
 

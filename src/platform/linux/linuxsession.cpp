@@ -23,13 +23,13 @@ const QStringList &systemMountPoints()
     return points;
 }
 
-// Compressed swap, which lies on no drive.
+// Compressed swap in memory, which uses no drive.
 bool isInMemory(const QString &swapArea)
 {
     return swapArea.startsWith(QStringLiteral("/dev/zram"));
 }
 
-// The number where there is no name.
+// The user's name, or the number where there is no name.
 QString userName(uid_t user)
 {
     passwd entry{};
@@ -53,7 +53,7 @@ QStringList LinuxSession::systemVolumes()
     QStringList volumes;
     for (const QString &point : systemMountPoints())
         volumes += trace.volumesUnder(point);
-    // A root that leads to no medium in sight may stand on any that is in use.
+    // If the root leads to no visible medium, any medium in use may hold it.
     if (trace.volumesUnder(QStringLiteral("/")).isEmpty()) {
         for (const VolumeTable::Volume &volume : m_volumes.mounted())
             volumes += trace.volumesUnder(volume.name);
@@ -96,7 +96,7 @@ Result<bool> LinuxSession::isAdministrator()
 
 QString LinuxSession::foreignAccount()
 {
-    // Each names whoever asked for more rights.
+    // Each variable holds the user who requested more rights.
     for (const char *variable : {"PKEXEC_UID", "SUDO_UID"}) {
         bool isNumber = false;
         const uint asking = qEnvironmentVariable(variable).toUInt(&isNumber);

@@ -11,10 +11,10 @@ namespace platform {
 
 namespace {
 
-// The daemon may have to be started first. A job does not wait longer for it.
+// The daemon may have to start first. A job waits no longer than this.
 constexpr int PatienceMs = 5000;
 
-// logind gives the lock back when the last copy of the descriptor is closed, by the end of the process too.
+// logind releases the lock when the last copy of the descriptor is closed, also at the end of the process.
 class Inhibitor final : public AwakeHold
 {
 public:
@@ -27,7 +27,8 @@ private:
     QDBusUnixFileDescriptor m_descriptor;
 };
 
-// A connection for one question. The shared one of the process would not notice a bus that comes back.
+// A connection for one call, because the shared connection of the process would not recover after a restart
+// of the bus.
 class SystemBus
 {
 public:

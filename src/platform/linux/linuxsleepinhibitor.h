@@ -4,8 +4,8 @@
 
 namespace platform {
 
-// A lock of logind against sleep, shutdown and what follows when nobody touches the computer. The system's
-// bus is where DBUS_SYSTEM_BUS_ADDRESS says, or in its usual place.
+/// A lock of logind against sleep, shutdown and idle actions. The system bus is at DBUS_SYSTEM_BUS_ADDRESS,
+/// or at its default address.
 Result<std::unique_ptr<AwakeHold>> inhibitSleep(const QString &reason);
 
 } // namespace platform

@@ -9,7 +9,7 @@ QByteArray readAttribute(const QString &path)
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
         return {};
-    // Attributes report a size of 4096 whatever they hold, and files below /proc a size of 0.
+    // The reported size is no help: attributes report 4096, and files below /proc report 0.
     QByteArray text;
     while (true) {
         const QByteArray part = file.read(65536);

@@ -5,7 +5,7 @@
 
 namespace platform {
 
-// Where the kernel and udev tell about devices. Tests lay out a tree of their own.
+/// The folders of the kernel's and udev's device information. Tests provide a tree of their own.
 struct SystemTree
 {
     QString sys = QStringLiteral("/sys");
@@ -14,9 +14,9 @@ struct SystemTree
     QString udev = QStringLiteral("/run/udev/data");
 };
 
-// The contents of one small attribute file without the trailing line end; empty when it cannot be read.
+/// The contents of a small attribute file without the trailing line end; empty when it cannot be read.
 QByteArray readAttribute(const QString &path);
-// The same as a number; 0 when there is none.
+/// The contents as a number; 0 when there is none.
 qint64 readNumber(const QString &path);
 
 } // namespace platform

@@ -40,8 +40,8 @@ Result<TreeRemoval::Description> TreeRemoval::describe(const FileDescriptor &fol
         return statusFromErrno(errno, "statx");
     Description description;
     description.identity = {::makedev(file.stx_dev_major, file.stx_dev_minor), file.stx_ino};
-    // A bind mount shares the device number of what it shows, and a btrfs subvolume has its own without being
-    // mounted: only kernels that do not tell mounts themselves are left to the device number.
+    // The device number is only the fallback for kernels that do not report mounts, because a bind mount
+    // shares the device number of its source, and a btrfs subvolume has its own without being mounted.
     if (file.stx_attributes_mask & STATX_ATTR_MOUNT_ROOT)
         description.isMountPoint = file.stx_attributes & STATX_ATTR_MOUNT_ROOT;
     else
@@ -49,14 +49,15 @@ Result<TreeRemoval::Description> TreeRemoval::describe(const FileDescriptor &fol
     return description;
 }
 
-// Most folders are empty when their turn comes, and a mount point is refused here without looking inside.
+// Tries to remove the folder without listing it, because most folders are empty by now and rmdir() refuses
+// mount points.
 void TreeRemoval::removeFolder(const QByteArray &name)
 {
     if (fileCalls().unlinkat(m_current.get(), name.constData(), AT_REMOVEDIR) == 0 || isAbsentErrno(errno))
         return;
     const Status status = statusFromErrno(errno, "unlinkat");
     const bool isTop = m_levels.empty();
-    if (status.native == ENOTDIR && !isTop) { // a link or file by now
+    if (status.native == ENOTDIR && !isTop) { // replaced by a link or file meanwhile
         if (fileCalls().unlinkat(m_current.get(), name.constData(), 0) != 0 && !isAbsentErrno(errno))
             note(statusFromErrno(errno, "unlinkat"));
     } else if (status.native == ENOTDIR || (status.native == EBUSY && !isTop)) {
@@ -88,8 +89,8 @@ void TreeRemoval::enter(const QByteArray &name, const Status &whyNotRemoved)
     emptyCurrent(m_levels.back().folders);
 }
 
-// Removes everything but the folders. The listing comes first as a whole: what deleting does to a listing
-// that is under way differs between file systems.
+// Removes all entries except folders. The listing is completed first, because file systems differ in how a
+// deletion affects a listing in progress.
 void TreeRemoval::emptyCurrent(std::vector<QByteArray> &folders)
 {
     FileDescriptor listed(fileCalls().fcntl(m_current.get(), F_DUPFD_CLOEXEC, 0));

@@ -11,17 +11,17 @@
 
 namespace platform {
 
-// Removes a folder with everything in it, level by level without recursion: at any time only the folder at
-// work is open, whatever the depth. Going up again is by "..", checked against the folder it was entered
-// from, so that moving a part of the tree away meanwhile ends the removal instead of leading it elsewhere.
+/// Removes a folder with all its contents, level by level without recursion. Only the current folder is open
+/// at any time, whatever the depth. The way up is "..", compared with the folder that was left on the way
+/// down, so that moving a part of the tree away meanwhile ends the removal and cannot redirect it.
 class TreeRemoval
 {
 public:
-    // parent: the folder that contains the one to be removed, open for lookups (O_PATH is enough).
+    /// parent: the folder that contains the folder to be removed, open for lookups (O_PATH is enough).
     explicit TreeRemoval(FileDescriptor parent)
         : m_current(std::move(parent))
     {}
-    // The first failure. name: one component, not a link. Once per object.
+    /// Returns the first failure. name: one component, not a link. Once per object.
     Status run(const QByteArray &name);
 
 private:
@@ -41,7 +41,7 @@ private:
     {
         QByteArray name;
         Identity parent;
-        std::vector<QByteArray> folders; // still to be removed
+        std::vector<QByteArray> folders; ///< folders that are still to be removed
     };
 
     Result<Description> describe(const FileDescriptor &folder) const;

@@ -9,7 +9,7 @@ namespace platform {
 
 using UdevProperties = QHash<QByteArray, QByteArray>;
 
-// What udev has noted of a block device, "8:1"; empty where it does not run.
+/// udev's properties of a block device, "8:1"; empty where udev does not run.
 UdevProperties udevProperties(const SystemTree &tree, const QByteArray &device);
 
 } // namespace platform

@@ -23,8 +23,8 @@ QList<MountEntry> VolumeTable::entries() const
     return parseMountInfo(readAttribute(m_tree.proc + QLatin1String("/self/mountinfo")));
 }
 
-// File systems over several devices have a device number of their own, which names no block device; their
-// source does.
+// A file system on several devices has a device number of its own without a block device, so its device comes
+// from its source.
 QByteArray VolumeTable::deviceOf(const MountEntry &entry) const
 {
     return m_blocks.exists(entry.deviceNumber) ? entry.deviceNumber : BlockTree::deviceOfNode(entry.source);
@@ -56,7 +56,7 @@ QList<VolumeTable::Volume> VolumeTable::mounted() const
 
 VolumeTable::Volume VolumeTable::byName(const QString &name) const
 {
-    // The latest mount on a place hides the earlier ones.
+    // The latest mount on a mount point hides the earlier ones.
     const QList<MountEntry> table = entries();
     for (auto entry = table.rbegin(); entry != table.rend(); ++entry) {
         if (entry->mountPoint == name)
@@ -118,7 +118,7 @@ Status LinuxVolumeDevice::unmountEverywhere()
     return first;
 }
 
-// The new descriptor is opened before the old one goes, so that a failure leaves the handle as it was.
+// The new descriptor is opened before the old one is closed, so that a failure leaves the handle unchanged.
 Status LinuxVolumeDevice::reopen(bool exclusive)
 {
     Result<FileDescriptor> fd =

@@ -9,7 +9,7 @@
 
 namespace platform {
 
-// The mounts of block devices in a mount table, and what they stand on.
+/// The mounts of block devices in a mount table, and the devices below them.
 class VolumeTable
 {
 public:
@@ -17,33 +17,33 @@ public:
 
     struct Volume
     {
-        QString name;      // mount point, or the node of a volume that is not mounted
-        QByteArray device; // the block device
+        QString name;      ///< mount point, or the node of an unmounted volume
+        QByteArray device; ///< the block device
         QByteArray fileSystem;
         bool isMounted = false;
     };
 
-    // A mount and the block device that its file system is on.
+    /// A mount and the block device of its file system.
     struct Mount
     {
         MountEntry entry;
         QByteArray device;
     };
-    // Every mount of a block device, in mount order.
+    /// Every mount of a block device, in mount order.
     QList<Mount> mounts() const;
-    // Every mount there is.
+    /// Every mount in the table.
     QList<MountEntry> entries() const;
 
-    // One volume per device, under its first mount point, in mount order.
+    /// One volume per device, under its first mount point, in mount order.
     QList<Volume> mounted() const;
-    // By mount point or node; an empty device means that there is none.
+    /// By mount point or node; the device is empty when there is no such volume.
     Volume byName(const QString &name) const;
-    // The mount that a path lies on, the latest of several on one place.
+    /// The mount that a path lies on, the latest one where several share a mount point.
     MountEntry entryOver(const QString &path) const;
-    // The mount point of the block device that holds the file of that path (a swap file, say); empty when
-    // none does.
+    /// The mount point of the block device that holds the file (a swap file, for example); empty when there
+    /// is none.
     QString mountPointOver(const QString &path) const;
-    // Every place where the device's file system is mounted, the latest mount first.
+    /// All mount points of the device's file system, the latest mount first.
     QStringList mountPointsOf(const QByteArray &device) const;
 
 private:
@@ -53,8 +53,8 @@ private:
     BlockTree m_blocks;
 };
 
-// A volume opened for raw transfers. It is written to only while no file system is mounted on it and nobody
-// else holds it, which lock() and dismount() bring about.
+/// A volume opened for raw transfers. write() works only while the volume is unmounted and held exclusively,
+/// which lock() and dismount() ensure.
 class LinuxVolumeDevice : public LinuxTransfers<VolumeDevice>
 {
 public:

@@ -18,7 +18,7 @@ namespace platform {
 
 namespace {
 
-// Two numbers that the file system has made of its UUID, or of its device.
+// Two numbers that the file system derives from its UUID or its device.
 quint64 fileSystemId(const struct statfs &volume)
 {
     static_assert(sizeof volume.f_fsid == sizeof(quint64));

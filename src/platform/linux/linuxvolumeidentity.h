@@ -7,11 +7,11 @@
 
 namespace platform {
 
-// What tells the volume whose root is open from another one that is mounted in its place. A number alone
-// does not: devices and mounts give theirs again.
+/// Identifies the volume whose root is open, so that another volume mounted in its place is detected. A
+/// number alone is not enough, because devices and mounts reuse theirs.
 Result<QString> volumeIdentityOf(int root, const SystemTree &tree);
 
-// The same of a mount point, empty when it does not tell.
+/// The same for a mount point; empty when the identity is unknown.
 QString volumeIdentityAt(const QString &mountPoint, const SystemTree &tree);
 
 } // namespace platform

@@ -7,8 +7,8 @@
 
 namespace platform {
 
-// The label of a mounted volume: what udev read from it, otherwise what its file system answers; empty when
-// neither knows. The device is a number such as "8:1".
+/// The label of a mounted volume, from udev, otherwise from its file system; empty when neither provides it.
+/// device: a number such as "8:1".
 QString volumeLabel(const SystemTree &tree, const QByteArray &device, const QString &mountPoint);
 
 } // namespace platform

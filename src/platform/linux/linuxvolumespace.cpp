@@ -13,7 +13,7 @@ namespace platform {
 
 namespace {
 
-// Some network file systems count more blocks than 63 bits have bytes.
+// On some network file systems the size in bytes exceeds 63 bits.
 qint64 bytesIn(quint64 blocks, quint64 blockSize)
 {
     constexpr auto Most = static_cast<quint64>(std::numeric_limits<qint64>::max());

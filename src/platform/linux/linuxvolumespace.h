@@ -4,7 +4,7 @@
 
 namespace platform {
 
-// Room on the volume of an open file or folder.
+/// Space on the volume of an open file or folder.
 Result<SpaceInfo> spaceOf(int file);
 
 } // namespace platform
