@@ -14,11 +14,6 @@
 //         QSKIP(qPrintable(reason));
 //
 // The temporary folder outlives it. Needs root.
-//
-//     if (const QString reason = PartitionedLoop::unavailableReason(); !reason.isEmpty())
-//         QSKIP(qPrintable(reason));
-//
-// The temporary folder outlives it. Needs root.
 class PartitionedLoop
 {
 public:
