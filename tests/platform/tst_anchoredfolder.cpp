@@ -66,7 +66,7 @@ void tst_AnchoredFolder::filesAreMadeListedAndRemoved()
     }
     QCOMPARE(contentOf(path(u"文件.tmp"_s)), QByteArray(10'000, 'x'));
     QCOMPARE(folder->info(u"文件.tmp"_s).value().size, qint64(10'000));
-    // A second listing begins anew.
+    // A second listing starts from the beginning.
     for (int i = 0; i < 2; ++i) {
         QStringList names;
         QVERIFY(folder->forEachEntry([&](const QString &name, FileKind kind) {

@@ -373,7 +373,7 @@ void tst_BlockTree::aRootWithoutAMediumGuardsWhatIsBuiltOn()
     QSet<int> drives;
     LinuxDevices devices(fake.tree());
     for (const QString &volume : volumes) {
-        // The nodes here are no block devices: their kernel names stand for them.
+        // The nodes here are no block devices, so their kernel names identify them.
         const QString name = volume.section(u'/', -1);
         for (const QString &drive :
              {QStringLiteral("sda"), QStringLiteral("sdb"), QStringLiteral("sdc"), QStringLiteral("sdd")}) {

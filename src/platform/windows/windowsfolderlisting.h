@@ -35,7 +35,7 @@ public:
     Status forEach(const EntryVisitor &visit);
 
 private:
-    WIN32_FIND_DATAW m_entry = {}; ///< stands before the search handle, which fills it
+    WIN32_FIND_DATAW m_entry = {}; ///< declared before the search handle, whose opening fills it
     HANDLE m_search;
     Status m_status;
 };

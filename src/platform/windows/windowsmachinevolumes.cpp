@@ -49,7 +49,7 @@ public:
     }
 
 private:
-    std::array<wchar_t, NameRoom> m_name = {}; // stands before the search handle, which fills it
+    std::array<wchar_t, NameRoom> m_name = {}; // declared before the search handle, whose opening fills it
     HANDLE m_search;
     Status m_status;
 };
