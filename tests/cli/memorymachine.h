@@ -12,8 +12,8 @@
 #include <functional>
 #include <memory>
 
-// Drives in memory beside the real files, in force as long as it lives. Records which drives and volumes are
-// opened for writing, and can answer in their place.
+// Drives in memory beside the real files, in force for the lifetime of the object. Records the drives and
+// volumes opened for writing, and can replace their answers.
 class MemoryMachine
 {
 public:

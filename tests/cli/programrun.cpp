@@ -19,7 +19,7 @@ ProgramRun &ProgramRun::operator()(QByteArrayList arguments)
     arguments.prepend(QByteArray(QUORVEX_CLI));
     arguments.append("--only-images");
     const Ends ends = onTerminal ? terminal() : pipes();
-    // What is sent before the program is there must not meet the handlers of this process.
+    // Signals sent before the program has started must not reach the handlers of this process.
     sigset_t held;
     sigset_t before;
     ::sigemptyset(&held);

@@ -9,22 +9,22 @@
 #include <functional>
 #include <vector>
 
-// The program, run with arguments of any bytes on pipes or on a terminal of its own; it sees no real drive
-// and no folder of the user.
+// Runs the program with arbitrary bytes as arguments, on pipes or on a new terminal. The run sees no real
+// drive and no folder of the user.
 class ProgramRun
 {
 public:
-    QByteArray out; // all that a terminal shows, when there is one
+    QByteArray out; // with a terminal, all of its output
     QByteArray err;
     int code = -1;        // -1: ended by a signal
-    int signalNumber = 0; // that ended it
+    int signalNumber = 0; // the signal that ended it
     bool onTerminal = false;
     QByteArray input;         // piped in, or typed as an answer to the question
-    bool closeOutput = false; // nobody reads standard output
+    bool closeOutput = false; // standard output has no reader
     QByteArrayList environment;
-    int openFiles = 0; // so many at a time and no more; 0: as many as this process
+    int openFiles = 0; // limit of open files; 0: the limit of this process
     std::function<void(pid_t process)> onStart;
-    // With all output so far, whenever there is more; may send signals to the process.
+    // Called with the whole output so far whenever it grows; may send signals to the process.
     std::function<void(const QByteArray &out, pid_t process)> onOutput;
 
     ProgramRun &operator()(QByteArrayList arguments);

@@ -32,7 +32,7 @@ QList<QJsonDocument> TestIo::documents() const
     QList<QJsonDocument> documents;
     QList<QByteArray> lines = out.split('\n');
     if (!lines.takeLast().isEmpty())
-        return {}; // the last line has no end
+        return {}; // the last line has no line end
     for (const QByteArray &line : std::as_const(lines)) {
         documents.append(QJsonDocument::fromJson(line));
         if (documents.constLast().isNull())

@@ -12,7 +12,7 @@
 #include <functional>
 #include <optional>
 
-// Streams in memory, no terminals unless a test says so, and a stop request that a test can make.
+// Streams in memory that are no terminals unless a test says so, and a stop request that a test can make.
 class TestIo : public cli::CliIo
 {
 public:
@@ -22,7 +22,7 @@ public:
     int width = 80;
     QStringList input;                                // lines not yet read
     bool losesOutput = false;                         // as on a full disk
-    std::function<void(const QByteArray &)> onOutput; // with everything on standard output so far
+    std::function<void(const QByteArray &)> onOutput; // called with the whole standard output so far
     std::function<void()> onQuestion;                 // before a line is read
     QByteArray out;
     QByteArray err;
@@ -33,7 +33,7 @@ public:
     std::optional<QString> readLine() override;
     cli::StopRequest &stopRequest() override { return m_stop; }
 
-    // The lines of standard output, each of which must be JSON. Empty when one is not.
+    // The lines of standard output, each of which must be JSON. Empty when one line is not.
     QList<QJsonDocument> documents() const;
     QList<QJsonObject> events(const QString &name = {}) const;
 
@@ -44,11 +44,10 @@ private:
     cli::StopRequest m_stop;
 };
 
-// The system's locale in tests: none, and the texts are those of the sources.
+// No locale in tests, so the texts are those of the sources.
 inline const QString SourceTexts = QString();
 
-// One run of a command: what it answered and what it printed. With a log folder of its own, and without real
-// drives.
+// One run of a command with its result and output. It has its own log folder and no real drives.
 class CliRun
 {
 public:
@@ -58,14 +57,14 @@ public:
     CliRun &operator()(const QStringList &arguments);
     QString folder() const { return m_folder.path(); }
     QByteArray log() const;
-    // Whether standard error is one line that holds the words.
+    // Whether standard error is a single line that contains the words.
     bool complains(const char *words) const;
 
 private:
     QTemporaryDir m_folder;
 };
 
-// What every suite does first: no real drive, no folder of the user.
+// First step of every suite: hides the real drives and the user's folders.
 void hideMachine(const QTemporaryDir &home);
 
 constexpr const char *NoLinks = "SKIPPED: the system makes no symbolic links here";

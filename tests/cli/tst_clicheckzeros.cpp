@@ -49,7 +49,7 @@ QStringList check(const QString &target, const QStringList &more = {})
 
 } // namespace
 
-// A copy that was cut to nothing proves nothing.
+// A truncated copy proves nothing.
 void tst_CliCheckZeros::anEmptyFileDoesNotPass()
 {
     CliRun run;

@@ -105,7 +105,7 @@ void tst_CliCommandLine::everyExampleIsAValidCommandLine()
 {
     const QTemporaryDir folder;
     const QString previous = QDir::currentPath();
-    QVERIFY(QDir::setCurrent(folder.path())); // what an example names exists nowhere here
+    QVERIFY(QDir::setCurrent(folder.path())); // the files named in examples do not exist here
     for (const cli::Command &command : cli::allCommands()) {
         CliRun run;
         run(QProcess::splitCommand(command.example));
@@ -134,7 +134,7 @@ void tst_CliCommandLine::optionsMayStandAnywhere()
         QCOMPARE(run.code, 0);
         QCOMPARE(run.io.documents().size(), 1);
     }
-    // An option of the command before its words.
+    // An option of the command stands before the command's words.
     CliRun run;
     run({u"--method"_s, u"nonsense"_s, u"wipe"_s, u"disk"_s, u"0"_s});
     QCOMPARE(run.code, 2);
@@ -312,7 +312,7 @@ void tst_CliCommandLine::theSystemDecidesTheLanguageOfWhatPeopleRead()
     QVERIFY(wanted != methodsOn(u"ja_JP"_s, {}));
 }
 
-// Half of them are English there.
+// Half of the source texts are English.
 void tst_CliCommandLine::theLanguageOfTheSourcesIsWhole()
 {
     CliRun run;
@@ -353,7 +353,7 @@ void tst_CliCommandLine::anImageMayBeGivenThroughALink()
          folder.filePath(u"a.img"_s)});
     QCOMPARE(run.code, 0);
     QCOMPARE(run.io.documents().size(), 1);
-    QCOMPARE(run.io.documents().constFirst().array().size(), 1); // one file, one drive
+    QCOMPARE(run.io.documents().constFirst().array().size(), 1); // one file on one drive
 }
 
 void tst_CliCommandLine::anImageGivenTwiceIsOneDrive()
@@ -361,7 +361,7 @@ void tst_CliCommandLine::anImageGivenTwiceIsOneDrive()
     const QTemporaryDir folder;
     writeFile(folder.filePath(u"a.img"_s), QByteArray(4096, 'x'));
     QStringList names{folder.filePath(u"a.img"_s), folder.filePath(u"./a.img"_s)};
-    if (QFileInfo::exists(folder.filePath(u"A.IMG"_s))) // where case makes no difference
+    if (QFileInfo::exists(folder.filePath(u"A.IMG"_s))) // on a case-insensitive file system
         names.append(folder.filePath(u"A.IMG"_s));
     QStringList arguments{u"--json"_s, u"disks"_s, u"--only-images"_s};
     for (const QString &name : std::as_const(names))

@@ -45,7 +45,7 @@ private:
 
 namespace {
 
-// Files and folders are the system's, drives and user those of a test.
+// Files and folders come from the system, drives and user from the test.
 class Machine
 {
 public:
@@ -61,7 +61,7 @@ private:
     platform::ScopedPlatform m_scope{m_platform};
 };
 
-// Notes how drives and volumes are opened, and can be slow to be asked.
+// Records the openings of drives and volumes, and can delay queries.
 class NotedDevices : public platform::ForwardingDevices
 {
 public:
@@ -98,7 +98,7 @@ public:
     }
 };
 
-// The answer on the line of that question below the subject; null without one.
+// The answer in the line of that question below the subject; null without one.
 QString answerTo(const QString &question, const QString &subject, const QByteArray &out)
 {
     bool isThere = false;
@@ -241,7 +241,7 @@ void tst_CliDoctor::aSilentDriveIsToldAndTheOthersFollow()
         const Machine machine(devices);
         run({u"doctor"_s});
         devices.mayAnswer = true;
-        // What is owed comes before the devices go.
+        // The pending query must end before the devices are destroyed.
         QTRY_VERIFY_WITH_TIMEOUT(limitedquestion::ask(u"drive 0"_s, [] {}), 60'000);
     }
     limitedquestion::setLimit(limitedquestion::DefaultLimit);

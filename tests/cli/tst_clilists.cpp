@@ -112,7 +112,7 @@ void tst_CliLists::disksAreListedWithTheirVolumes()
     QVERIFY(!lines.at(3).contains("system"));
 }
 
-// It is among the volumes of neither.
+// The volume is not among the volumes of either drive.
 void tst_CliLists::aVolumeOnSeveralDrivesIsToldAtEach()
 {
     MemoryMachine machine;

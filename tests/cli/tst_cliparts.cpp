@@ -80,7 +80,7 @@ void tst_CliParts::aPathIsSeenFromTheCurrentFolder()
     QCOMPARE(cli::absolutePath(u"/x//y/../z"_s), root + u"x/z"_s);
     QCOMPARE(cli::absolutePath(u"."_s), here);
     QCOMPARE(cli::absolutePath(QString()), QString());
-    // What Qt takes for the name of a resource is a file for everybody else.
+    // A path that Qt takes for a resource is a file to all other programs.
     QCOMPARE(cli::absolutePath(u":/icons"_s), here + u"/:/icons"_s);
     QCOMPARE(cli::absolutePath(u"qrc:x"_s), here + u"/qrc:x"_s);
 }
@@ -288,7 +288,7 @@ void tst_CliParts::progressIsDrawnOnOneLine()
     QVERIFY(!io.err.contains('\n'));
     QCOMPARE(io.out, QByteArray());
 
-    // Neither a rate nor a time that nobody knows yet.
+    // Rate and remaining time are left out while they are unknown.
     io.err.clear();
     line.show({.percent = 0, .pass = 1, .passes = 2});
     QVERIFY(io.err.startsWith("\r  0%  pass 1/2 "));
@@ -305,7 +305,7 @@ void tst_CliParts::progressNeverWraps()
     line.show(halfWay());
     QCOMPARE(io.err, QByteArray("\r 50%  pass "));
     io.err.clear();
-    io.width = 4; // the window has been made smaller
+    io.width = 4; // the window was made smaller
     line.show(halfWay());
     QCOMPARE(io.err, QByteArray("\r 50"));
 }
@@ -316,7 +316,7 @@ void tst_CliParts::progressLeavesNoTraceBehind()
     io.errorIsTerminal = true;
     cli::ProgressLine line(io);
     line.end();
-    QCOMPARE(io.err, QByteArray()); // nothing was drawn, nothing is to be cleared
+    QCOMPARE(io.err, QByteArray()); // an undrawn line needs no clearing
     line.show(halfWay());
     const qsizetype drawn = io.err.size() - 1;
     io.err.clear();
@@ -379,7 +379,7 @@ void tst_CliParts::anOutputFileInsideWhatIsErasedIsNoticed()
     QVERIFY(lies(u"link/r.json"_s, u"erased"_s));
     writeFile(folder.filePath(u"target"_s), "x");
     QVERIFY(makeLink(folder.filePath(u"target"_s), folder.filePath(u"r2.json"_s)));
-    QVERIFY(lies(u"r2.json"_s, u"target"_s)); // a report follows the link, into what is erased
+    QVERIFY(lies(u"r2.json"_s, u"target"_s)); // the report would follow the link into the target
 }
 
 void tst_CliParts::anOutputFileIsReplacedAsAWhole()

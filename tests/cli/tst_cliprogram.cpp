@@ -26,7 +26,7 @@
 
 using namespace Qt::StringLiterals;
 
-// The program itself, as a shell starts it.
+// The program itself, started as by a shell.
 class tst_CliProgram : public QObject
 {
     Q_OBJECT
@@ -79,7 +79,7 @@ private:
             qFatal("no file");
         ::close(descriptor);
     }
-    // So many passes over so large an image that a signal in the first pass comes long before the end.
+    // Enough passes over a large enough image for a signal in the first pass to arrive long before the end.
     QByteArrayList longJob()
     {
         return {"wipe",  "disk",     "0",       "--image",     image(64 << 20),
@@ -125,7 +125,7 @@ void tst_CliProgram::itTellsItsVersion()
     QCOMPARE(run.err, QByteArray());
 }
 
-// Servers have no window system. Certificates need Qt's fonts and painting, and nothing above them.
+// Servers have no window system. Certificates need Qt's fonts and painting, but no widgets.
 void tst_CliProgram::itLinksNoWindows()
 {
     QProcess ldd;
@@ -139,7 +139,7 @@ void tst_CliProgram::itLinksNoWindows()
 
 void tst_CliProgram::anImageIsErasedToTheLastByte()
 {
-    const QByteArray path = image(5'000'700); // no whole number of sectors
+    const QByteArray path = image(5'000'700); // not a multiple of the sector size
     ProgramRun run;
     run({"wipe", "disk", path, "--image", path, "--yes"});
     QCOMPARE(run.code, 0);
@@ -212,7 +212,7 @@ void tst_CliProgram::onATerminalItAsksAndShowsProgress()
     QCOMPARE(content(path), QByteArray(16 << 20, '\0'));
     QVERIFY(run.out.contains("Type ERASE to destroy it: "));
     QVERIFY(run.out.contains("\r  6%  pass 1/1")); // the first of 16 writes
-    // Every line of the log begins where the progress line was taken away.
+    // Every log line begins where the progress line was cleared.
     const QList<QByteArray> lines = run.out.split('\n');
     for (const QByteArray &line : lines) {
         if (line.contains("[info]"))
@@ -276,7 +276,7 @@ void tst_CliProgram::aSignalCancelsTheJob()
 void tst_CliProgram::impatienceDoesNotChangeTheEnd()
 {
     ProgramRun run;
-    // With every line, the last one included.
+    // Called with every line, including the last one.
     run.onOutput = [](const QByteArray &out, pid_t process) {
         if (out.contains("\"progress\""))
             ::kill(process, SIGINT);
@@ -289,7 +289,7 @@ void tst_CliProgram::impatienceDoesNotChangeTheEnd()
 
 void tst_CliProgram::interruptIsHeardInTheBackgroundOfAShell()
 {
-    // Shells make a process that they start with "&" ignore SIGINT, which it inherits.
+    // A shell makes programs that it starts with "&" ignore SIGINT, and they inherit this.
     ::signal(SIGINT, SIG_IGN);
     ProgramRun run;
     run.onOutput = sendAt("\"progress\"", {SIGINT});
@@ -298,13 +298,13 @@ void tst_CliProgram::interruptIsHeardInTheBackgroundOfAShell()
     QCOMPARE(run.code, 4);
 }
 
-// Before the program's first line there is nobody to hear a signal, and nothing is touched either.
+// Before the program's first line no handler receives the signal, but no data has been touched either.
 void tst_CliProgram::aStopAtAnyMomentIsTold()
 {
     const quint32 seed = QRandomGenerator::global()->generate();
     qInfo("seed %u", seed);
     QRandomGenerator random(seed);
-    // How long a run takes is the machine's affair: one of them tells where its moments lie.
+    // The duration of a run depends on the machine, so a first run determines the moments.
     const QByteArrayList job = {"--yes", "--buffer-mb", "1", "--method", "gutmann", "--json"};
     const auto begin = std::chrono::steady_clock::now();
     ProgramRun whole;
@@ -319,7 +319,7 @@ void tst_CliProgram::aStopAtAnyMomentIsTold()
         ProgramRun run;
         std::thread sender;
         run.onStart = [&sender, delay](pid_t child) {
-            // Once the process is gone its number may be another one's.
+            // After the process has ended its number may be reused.
             const int process = static_cast<int>(::syscall(SYS_pidfd_open, child, 0));
             sender = std::thread([process, delay] {
                 std::this_thread::sleep_for(std::chrono::microseconds(delay));
@@ -332,7 +332,7 @@ void tst_CliProgram::aStopAtAnyMomentIsTold()
         const QByteArray where =
             "after " + QByteArray::number(delay) + " us: " + run.out.right(300) + run.err;
         if (run.code == 0)
-            continue; // through already
+            continue; // already ended
         if (run.signalNumber != 0) {
             QVERIFY2(run.out.isEmpty() && run.err.isEmpty(), where.constData());
             QVERIFY2(content(path) == QByteArray(4 << 20, 'x'), where.constData());
@@ -344,7 +344,7 @@ void tst_CliProgram::aStopAtAnyMomentIsTold()
     }
 }
 
-// One descriptor for each thread and each folder would be more than there are here.
+// The limit is below one descriptor for each thread and folder.
 void tst_CliProgram::fewOpenFilesAreEnough()
 {
     const QByteArray folder = inFolder("many");
@@ -400,12 +400,12 @@ void tst_CliProgram::aReportGoesThroughAPipe()
     ProgramRun run;
     run({"wipe", "disk", "0", "--image", image(1 << 20), "--yes", "--report", pipe});
     if (run.code != 0)
-        ::close(::open(pipe.constData(), O_WRONLY | O_NONBLOCK)); // or its reader waits for ever
+        ::close(::open(pipe.constData(), O_WRONLY | O_NONBLOCK)); // otherwise its reader waits forever
     const QJsonObject report = QJsonDocument::fromJson(reader.get()).object();
     QVERIFY2(run.code == 0, run.err.constData());
     QCOMPARE(report.value(u"status"), QJsonValue(3));
 
-    // The job is done, its report is not.
+    // The job succeeds, but its report cannot be written.
     ProgramRun full;
     full({"wipe", "disk", "0", "--image", image(1 << 20), "--yes", "--report", "/dev/full"});
     QCOMPARE(full.code, 5);
@@ -428,7 +428,7 @@ void tst_CliProgram::diagnosticsAreSilentUnlessWanted()
 
 void tst_CliProgram::aFileWithAnUndecodableNameIsErased()
 {
-    // "été" and "ß" in Latin-1: no text in UTF-8.
+    // "été" and "ß" in Latin-1 are not valid UTF-8.
     const QByteArray direct = inFolder("\xE9t\xE9.txt");
     const QByteArray folder = inFolder("folder\xDF");
     QCOMPARE(::mkdir(folder.constData(), 0700), 0);
@@ -439,7 +439,7 @@ void tst_CliProgram::aFileWithAnUndecodableNameIsErased()
     QCOMPARE(run.code, 0);
     QVERIFY(!exists(direct));
     QVERIFY(!exists(folder));
-    QVERIFY(QString::fromUtf8(run.out).toUtf8() == run.out); // valid UTF-8 all the same
+    QVERIFY(QString::fromUtf8(run.out).toUtf8() == run.out); // still valid UTF-8
 
     ProgramRun missing;
     missing({"wipe", "files", direct, "--yes"});
@@ -455,7 +455,7 @@ void tst_CliProgram::anUndecodableImageIsErased()
     run({"wipe", "disk", "0", "--image", path, "--yes"});
     QCOMPARE(run.code, 0);
     QCOMPARE(content(path), QByteArray(65536, '\0'));
-    QCOMPARE(::unlink(path.constData()), 0); // Qt, which removes the folder, cannot name it
+    QCOMPARE(::unlink(path.constData()), 0); // QTemporaryDir cannot name it when it removes the folder
 }
 
 void tst_CliProgram::theLogGoesIntoTheUsersFolder()

@@ -25,7 +25,7 @@
 
 using namespace Qt::StringLiterals;
 
-// "reports", "check", and what "wipe" leaves in the database.
+// "reports", "check", and the records that "wipe" stores in the database.
 class tst_CliReports : public QObject
 {
     Q_OBJECT
@@ -114,7 +114,7 @@ bool store(const QString &folder, const QList<WipeReport> &reports)
     return stored;
 }
 
-// Puts other text in the place of a stored report.
+// Replaces the text of a stored report.
 bool damage(const QString &folder, const QString &id, const QString &text)
 {
     ReportDatabase &database = ReportDatabase::instance();
@@ -130,7 +130,7 @@ bool damage(const QString &folder, const QString &id, const QString &text)
     return done;
 }
 
-// Stores a record for each certificate number of today and tomorrow but that one.
+// Stores a record for each certificate number of today and tomorrow except the spared one.
 bool takeNumbers(const QString &folder, int spared)
 {
     ReportDatabase &database = ReportDatabase::instance();
@@ -184,7 +184,7 @@ void tst_CliReports::anErasedDriveIsInTheDatabase()
     const QJsonObject finished = run.io.events().constLast();
     const QByteArray text = storedText(run.folder(), finished.value(u"certificateId").toString());
     QCOMPARE(QJsonDocument::fromJson(text).object(), finished.value(u"report").toObject());
-    // The file is closed: another run of the program in this process takes another folder.
+    // The file is closed, because another run in this process uses another folder.
     CliRun other;
     other({u"reports"_s, u"list"_s});
     QCOMPARE(other.io.out, QByteArray("No reports.\n"));
@@ -278,7 +278,7 @@ void tst_CliReports::aReportThatCannotBeStoredIsToldAndTheResultToo()
     MemoryMachine machine;
     addDrive(machine);
     CliRun run;
-    // The table is gone when the job has ended.
+    // The table disappears before the end of the job.
     run.io.onOutput = [&](const QByteArray &out) {
         if (out.contains("\"event\":\"pass\"") && QSqlDatabase::contains())
             QSqlQuery(u"DROP TABLE IF EXISTS wipe_reports"_s);
@@ -306,7 +306,7 @@ void tst_CliReports::aForeignFileIsReplacedOnlyByForce()
     QCOMPARE(forced.code, 0);
     const QByteArray first = contentOf(path);
     QVERIFY(first.contains("certificateId"));
-    // An earlier report, or a name that was only reserved, needs no force.
+    // Replacing an earlier report or a reserved name needs no --force.
     CliRun again;
     again(wipeDrive({u"--report"_s, path}));
     QCOMPARE(again.code, 0);
@@ -340,7 +340,7 @@ void tst_CliReports::noStoredReportIsReplaced()
     MemoryMachine machine;
     addDrive(machine);
     CliRun run;
-    // Midnight may come between this and the job.
+    // Midnight may pass between this call and the job.
     QVERIFY(takeNumbers(run.folder(), 4711));
     run(wipeDrive({u"--json"_s}));
     QCOMPARE(run.code, 0);
@@ -464,7 +464,7 @@ void tst_CliReports::aReportIsShownToMachines()
     QCOMPARE(run.io.documents().constFirst().object(), QJsonDocument::fromJson(report.toJson()).object());
 }
 
-// Of jobs that the database knows more of than their report says.
+// Jobs of which the database knows more than their report says.
 void tst_CliReports::outcomesAreListedAndShown()
 {
     CliRun run;
@@ -509,7 +509,7 @@ void tst_CliReports::outcomesAreListedAndShown()
     const QJsonArray listed = QJsonDocument::fromJson(output({u"list"_s, u"--json"_s})).array();
     QCOMPARE(listed.at(1).toObject(), machine);
     QVERIFY(!listed.at(2).toObject().contains(u"annex"));
-    // What is exported is the record.
+    // The export is the record itself.
     QCOMPARE(output({u"export"_s, u"QVX-B"_s, u"--json-file"_s, u"-"_s}), reportOf(u"QVX-B"_s, 2).toJson());
 }
 

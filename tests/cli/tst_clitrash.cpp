@@ -21,7 +21,7 @@
 
 using namespace Qt::StringLiterals;
 
-// "trash list" and "wipe trash", on bins in folders of the test's own.
+// "trash list" and "wipe trash", on bins in folders of the test.
 class tst_CliTrash : public QObject
 {
     Q_OBJECT
@@ -88,7 +88,7 @@ private:
         return QStringList{u"wipe"_s, u"trash"_s, u"--root"_s, m_root->path()} + more;
     }
 
-    // Into the desktop's own.
+    // Adds a file to the trash of the desktop.
     void addToTrash(const QString &name, const QByteArray &content) const
     {
         const QString trash = m_home.filePath(u"Trash"_s);
@@ -104,7 +104,7 @@ private:
 
 namespace {
 
-// The real files, and a user of the test's own.
+// The real files, and a user defined by the test.
 struct AccountMachine
 {
     FakeSession session;
@@ -196,7 +196,7 @@ void tst_CliTrash::sidWithoutRootMakesNoSense()
     QCOMPARE(run.code, 2);
     QVERIFY2(run.complains("--sid needs --root"), run.io.err.constData());
     CliRun empty;
-    empty(wipe({u"--sid="_s, u"--yes"_s})); // a variable that was never set must not stand for everybody
+    empty(wipe({u"--sid="_s, u"--yes"_s})); // an empty variable must not mean all users
     QCOMPARE(empty.code, 2);
 }
 
@@ -483,7 +483,7 @@ void tst_CliTrash::theBinOfAnotherAccountIsToldAsSuch()
     asked({u"wipe"_s, u"trash"_s});
     QCOMPARE(asked.code, 3);
     QVERIFY2(asked.io.out.contains("  Recycle Bin of root\n"), asked.io.out.constData());
-    // The bins of folders that are named belong to whom they belong.
+    // The owner of a named bin does not depend on the account of this process.
     addDeleted(Alice, u"AAAAAA.txt"_s, u"C:\\a.txt"_s, "a");
     CliRun named;
     named(list());
@@ -506,7 +506,7 @@ void tst_CliTrash::theDesktopIsToldOfItsBin()
     QCOMPARE(machine.session.binChanges, 1);
 }
 
-// What a link leads to was never in the bin.
+// The target of a link was never in the bin.
 void tst_CliTrash::aLinkInTheBinMakesNothingPartial()
 {
     const QTemporaryDir elsewhere;
@@ -544,13 +544,13 @@ void tst_CliTrash::recordsThatCannotBeMendedAreTold()
     QVERIFY(QDir().mkpath(trash + u"/files"_s));
     QVERIFY(QDir().mkpath(trash + u"/info"_s));
     writeFile(trash + u"/files/a"_s, "a");
-    // What stands there is no file that could be read.
+    // The entry is not a readable file.
     QVERIFY(QDir().mkpath(trash + u"/directorysizes/x"_s));
     CliRun run;
     run({u"wipe"_s, u"trash"_s, u"--yes"_s, u"--json"_s});
     QCOMPARE(run.code, 5);
     QVERIFY(!QFile::exists(trash + u"/files/a"_s));
-    QVERIFY(run.io.events().constLast().value(u"success").toBool()); // what was erased is still told
+    QVERIFY(run.io.events().constLast().value(u"success").toBool()); // the erased files are still reported
     QCOMPARE(run.io.events(u"error"_s).size(), 1);
 }
 

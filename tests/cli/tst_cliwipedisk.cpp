@@ -140,7 +140,7 @@ void stopAt(TestIo &io, const QByteArray &text, int times = 1)
     };
 }
 
-// Every write takes long enough for progress to be told.
+// Every write takes long enough for progress to be reported.
 void makeSlow(MemoryMachine &machine)
 {
     machine.answer = [](const DeviceCall &call) {
@@ -150,14 +150,14 @@ void makeSlow(MemoryMachine &machine)
     };
 }
 
-// As above; and the job does not end before it is stopped, however late the stop comes.
+// In addition, the job only ends after the stop, however late it comes.
 void makeSlowUntilStopped(MemoryMachine &machine, TestIo &io)
 {
     machine.answer = [&io, writes = 0](const DeviceCall &call) mutable {
         if (call.kind != FaultPlan::Write)
             return platform::Status{};
         std::this_thread::sleep_for(std::chrono::milliseconds(20));
-        const QDeadlineTimer patience(60'000); // in vain only
+        const QDeadlineTimer patience(60'000); // only reached on failure
         for (++writes; writes > 20 && !io.stopRequest().isRequested() && !patience.hasExpired();)
             std::this_thread::sleep_for(std::chrono::milliseconds(1));
         return platform::Status{};
@@ -327,7 +327,7 @@ void tst_CliWipeDisk::aDriveThatIsHeldIsRefused()
     QCOMPARE(run.code, 3);
     QVERIFY2(run.complains("drive 1 is held by LUKS secret, LVM vg-data; to release it: one && two"),
              run.io.err.constData());
-    QCOMPARE(run.io.out, QByteArray()); // there is nothing to ask for
+    QCOMPARE(run.io.out, QByteArray()); // there is no question to ask
     QCOMPARE(machine.openings(), QStringList());
     QVERIFY(isUntouched(machine, 1));
 }
@@ -571,7 +571,7 @@ void tst_CliWipeDisk::aStopBeforeTheJobWritesNothing()
         QCOMPARE(machine.openings(), QStringList());
         QCOMPARE(machine.memory.keeps() + machine.memory.restores(), 0);
         QVERIFY(isUntouched(machine, 0));
-        // A script that waits for the end of the job gets it.
+        // A script that waits for the end of the job receives it.
         const QJsonObject finished = run.io.events().constLast();
         QCOMPARE(finished.value(u"event"), QJsonValue(u"finished"_s));
         QCOMPARE(finished.value(u"outcome"), QJsonValue(u"cancelled"_s));
@@ -741,7 +741,7 @@ void tst_CliWipeDisk::theLastLinesTellWhatWasNotErased()
     }
 }
 
-// Nothing that a script reads says that the drive is erased.
+// The output for scripts must not say that the drive is erased.
 void tst_CliWipeDisk::aPartOfADriveIsNoSuccess()
 {
     MemoryMachine machine;
@@ -808,7 +808,7 @@ void tst_CliWipeDisk::acceptedShortfallsAreNoFailure()
         CliRun run;
         run(wipeDrive(0) + accepted + QStringList{u"--json"_s});
         QCOMPARE(run.code, 0);
-        // It is what it is all the same.
+        // The outcome stays the same.
         QCOMPARE(run.io.events().constLast().value(u"outcome"), QJsonValue(u"partial"_s));
         QCOMPARE(run.io.events().constLast().value(u"success"), QJsonValue(false));
     }
@@ -1103,7 +1103,7 @@ void tst_CliWipeDisk::aReportLostBehindAnErasureIsTold()
     QCOMPARE(errors.size(), 1);
     QVERIFY(errors.constFirst().value(u"message").toString().contains(path));
     QCOMPARE(run.io.events().constLast().value(u"success"),
-             QJsonValue(true)); // what was erased is still told
+             QJsonValue(true)); // the erased drive is still reported
 }
 
 void tst_CliWipeDisk::aReportMustNotReplaceTheDrive()

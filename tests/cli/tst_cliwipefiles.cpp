@@ -97,8 +97,8 @@ void tst_CliWipeFiles::filesAndFoldersAreErased()
 
 void tst_CliWipeFiles::progressNeverPassesItsTotal()
 {
-    // The engine's figure runs ahead in the later passes: only a line from there tells whether it is shown. A
-    // faster machine needs a larger file to get as far as a second line.
+    // The engine's percentage runs ahead in later passes, so only a line from there shows whether it is
+    // printed. A faster machine needs a larger file to reach a second line.
     constexpr int LatePass = 20;
     constexpr qint64 Largest = 256 << 20;
     bool isLate = false;
@@ -173,7 +173,7 @@ void tst_CliWipeFiles::theRootOfAVolumeIsRefused_data()
 void tst_CliWipeFiles::theRootOfAVolumeIsRefused()
 {
     QFETCH(const QString, root);
-    // No --yes and nobody to ask: were it not refused, it would still be safe.
+    // Without --yes and without a terminal the command would stay safe even if it were not refused.
     CliRun run;
     run(wipeFiles({u"one.txt"_s, root}, {}));
     QCOMPARE(run.code, 3);
@@ -196,7 +196,7 @@ void tst_CliWipeFiles::aPathBackThroughALinkIsRefused()
 #endif
     QVERIFY(makeLink(path(u"folder/sub"_s), path(u"keep/link"_s)));
     CliRun run;
-    run(wipeFiles({u"keep/link/../kept.txt"_s})); // which the system takes for folder/kept.txt
+    run(wipeFiles({u"keep/link/../kept.txt"_s})); // resolved by the system to folder/kept.txt
     QCOMPARE(run.code, 3);
     QVERIFY2(run.complains("back through a link"), run.io.err.constData());
     QVERIFY(exists(u"keep/kept.txt"_s));

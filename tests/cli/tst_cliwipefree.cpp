@@ -60,7 +60,7 @@ namespace {
 
 constexpr qint64 Reserve = 100 * MiB;
 
-// Memory volumes with room for a few fill files, on one drive, in force as long as it lives.
+// Memory volumes with space for a few fill files, on one drive, in force for the lifetime of the object.
 struct Machine
 {
     MemoryVolume volume;
@@ -80,7 +80,7 @@ struct Machine
         devices.mount(mounted);
         volume.freeBytes.insert(name + u'/', Reserve + 8 * MiB);
     }
-    // Bytes that fill files got on the volume.
+    // The number of bytes written to fill files on the volume.
     qint64 filled(const QString &name) const
     {
         qint64 sum = 0;
@@ -185,7 +185,7 @@ void tst_CliWipeFree::aVolumeOfSeveralDrivesIsFound()
     QCOMPARE(run.code, 0);
     QCOMPARE(machine.filled(u"/media/pool"_s), 8 * MiB);
 
-    // It has no drive to be known by in the lists.
+    // The record has no drive that identifies it in the lists.
     const QString id = run.io.events(u"finished"_s).constFirst().value(u"certificateId").toString();
     run.io.out.clear();
     run({u"reports"_s, u"list"_s});
@@ -391,7 +391,7 @@ void tst_CliWipeFree::aStopSparesTheVolumesBehind()
     machine.add(u"/media/a"_s);
     machine.add(u"/media/b"_s);
     CliRun run;
-    // In the middle of the first job, which waits for it.
+    // Requested in the middle of the first job, which waits for the request.
     std::atomic<bool> requested = false;
     machine.volume.onCall = [&](FaultPlan::Kind kind, const QString &) {
         if (kind != FaultPlan::Write)
@@ -399,10 +399,10 @@ void tst_CliWipeFree::aStopSparesTheVolumesBehind()
         if (!requested.exchange(true))
             QMetaObject::invokeMethod(&run.io.stopRequest(), &cli::StopRequest::request,
                                       Qt::QueuedConnection);
-        const QDeadlineTimer patience(60'000); // in vain only
+        const QDeadlineTimer patience(60'000); // only reached on failure
         while (!run.io.stopRequest().isRequested() && !patience.hasExpired())
             QThread::msleep(1);
-        QThread::msleep(5); // the engine is told a moment later
+        QThread::msleep(5); // the engine receives the request slightly later
     };
     run(wipeFree({u"/media/a"_s, u"/media/b"_s, u"--method"_s, u"4"_s}));
     QCOMPARE(run.code, 4);

@@ -26,7 +26,8 @@ QJsonObject jsonOf(const QString &path)
     return QJsonDocument::fromJson(contentOf(path)).object();
 }
 
-// The program as a script calls it, on a device node. It is told which drive; the image list that its other
+// The program as a script calls it, on a device node. The drive is named on the command line, and the image
+// list used by other tests stays empty.
 // tests use is left empty.
 struct ProgramOnDrive
 {
@@ -57,7 +58,7 @@ struct ProgramOnDrive
 
 } // namespace
 
-// The program, started as by a script, on devices that really fail.
+// The program, started as by a script, on devices with real faults.
 class tst_ProgramFaults : public QObject
 {
     Q_OBJECT

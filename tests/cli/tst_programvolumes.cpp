@@ -20,7 +20,7 @@
 
 using namespace Qt::StringLiterals;
 
-// The program, started as by a script, on mounted volumes of the test's own.
+// The program, started as by a script, on mounted volumes of the test.
 class tst_ProgramVolumes : public QObject
 {
     Q_OBJECT
@@ -43,7 +43,7 @@ private:
 
 namespace {
 
-// Started with construction; one data folder each.
+// Started by the constructor, with its own data folder.
 struct Program
 {
     explicit Program(const LoopMount &volume, const QString &before = {})
@@ -56,7 +56,7 @@ struct Program
         environment.insert(u"LC_ALL"_s, u"C.UTF-8"_s);
         process.setProcessEnvironment(environment);
         process.setProcessChannelMode(QProcess::MergedChannels);
-        // The shell sets limits and becomes the program.
+        // The shell sets limits and then replaces itself by the program.
         process.start(u"/bin/sh"_s,
                       QStringList{u"-c"_s, before + u" exec \"$@\""_s, u"sh"_s, QStringLiteral(QUORVEX_CLI),
                                   u"wipe"_s} +
@@ -139,7 +139,8 @@ void tst_ProgramVolumes::theFileBelowADeviceIsRefused()
 
 void tst_ProgramVolumes::aLimitOfFileSizesEndsInAReport()
 {
-    // Blocks of 512 bytes for a POSIX shell: less than a buffer, more than database and log come to.
+    // ulimit counts blocks of 512 bytes in a POSIX shell. The limit is below a buffer and above the size of
+    // database and log.
     Program program(*m_volume, u"ulimit -f 1500;"_s);
     QCOMPARE(program.code(), 1);
     QVERIFY2(program.output.contains("PARTLY DONE"), program.output.constData());
@@ -150,8 +151,8 @@ void tst_ProgramVolumes::aLimitOfFileSizesEndsInAReport()
 
 void tst_ProgramVolumes::whatAKilledJobLeftIsRemovedByTheNext()
 {
-    // In the last phase, with some of its files made. That is over in a moment: another one is killed where
-    // it has ended before.
+    // The program is killed in the last phase, after it has made some files. That phase is short, so another
+    // run is killed where the phase was already over.
     QStringList left;
     while (left.isEmpty()) {
         Program killed(*m_volume);
@@ -166,7 +167,7 @@ void tst_ProgramVolumes::whatAKilledJobLeftIsRemovedByTheNext()
 
     Program next(*m_volume);
     const int code = next.code();
-    QVERIFY2(code == 1, next.output.constData()); // the reserve is large on this small volume
+    QVERIFY2(code == 1, next.output.constData()); // the reserve is large relative to this small volume
     QVERIFY(next.output.contains("PARTLY DONE"));
     QVERIFY(!QFileInfo::exists(left.first()));
     QVERIFY(below(*m_volume, u"*"_s).isEmpty());
@@ -178,7 +179,7 @@ void tst_ProgramVolumes::aSecondProgramIsRefused()
     QVERIFY(first.process.waitForStarted(-1));
     while (below(*m_volume, u"fill_*"_s).isEmpty() && !first.process.waitForFinished(1)) {
     }
-    // It stands still, so that it cannot end before the second has begun.
+    // The first process is stopped, so that it cannot end before the second has begun.
     const auto process = static_cast<pid_t>(first.process.processId());
     QVERIFY(process > 0 && ::kill(process, SIGSTOP) == 0);
     Program second(*m_volume);
@@ -200,7 +201,7 @@ void tst_ProgramVolumes::holesThatDoNotFitAreRefused()
     QVERIFY(QDir(m_volume->mountPoint()).mkpath(u"folder/sub"_s));
     const QString folder = m_volume->mountPoint() + u"/folder"_s;
     const QString other = writeFile(folder + u"/other"_s, QByteArray(5000, 'o'));
-    // Neither of them is larger than the room, both are.
+    // Each file alone fits into the free space, but not both.
     const QStringList sparse{writeFile(folder + u"/a"_s, "beginning"), folder + u"/sub/b"_s};
     writeFile(sparse.last(), "beginning");
     for (const QString &path : sparse)
@@ -218,7 +219,7 @@ void tst_ProgramVolumes::holesThatDoNotFitAreRefused()
     for (const QString &path : sparse)
         QCOMPARE(contentOf(path).first(9), QByteArray("beginning"));
 
-    // One of them fits.
+    // One file fits.
     Program fitting({u"files"_s, sparse.first()});
     QVERIFY2(fitting.code() == 0, fitting.output.constData());
     QVERIFY(!QFileInfo::exists(sparse.first()));

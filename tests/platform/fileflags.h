@@ -2,9 +2,8 @@
 
 #include <QString>
 
-// Sets or takes back the flag with which nobody, root included, changes or removes a file. False where that
-// cannot be done.
+// Sets or clears the flag that protects a file against changes and removal, even by root. False on failure.
 bool setImmutable(const QString &path, bool immutable);
 
-// Flags with which this process has a file open, as the kernel tells; -1 when it has not.
+// The flags with which this process has the file open, as reported by the kernel; -1 when it is not open.
 int openFlags(const QString &path);

@@ -54,7 +54,7 @@ void Places::leave()
     if (m_folder.isEmpty())
         return;
 #ifdef Q_OS_WIN
-    // The standard library that comes with MinGW does not get beyond 260 characters.
+    // MinGW's standard library is limited to 260 characters.
     if (!QDir(m_folder).removeRecursively())
         QTest::qFail("cannot remove the test's folder", __FILE__, __LINE__);
 #else

@@ -16,43 +16,44 @@
 #include "support/plainmount.h"
 #endif
 
-// The backend under test: what the program itself uses on this system.
+// The backend under test, which the program itself uses on this system.
 platform::Platform &backend();
 
-// A path as the standard library takes it.
+// A path in the form of the standard library.
 std::filesystem::path nativePath(const QString &path);
 
-// The file systems on which a suite runs, as global data of it: each test function runs once per place, in a
-// folder of its own there. A suite runs twice: on what everybody can write to, and on what root mounts.
+// The file systems on which a suite runs, as its global data. Each test function runs once per place, in its
+// own folder there. A suite runs twice: on places that every user can write to, and on places that root
+// mounts.
 class Places
 {
 public:
     // For initTestCase_data().
     static void addRows(const QStringList &places = names());
 
-    // For init(): an empty folder at the place; empty when there is none, see problem().
+    // For init(): returns an empty folder at the place, or an empty path on failure, see problem().
     QString enter(const QString &place);
-    // For cleanup(). QDir would not find names that are no text.
+    // For cleanup(). QDir would miss names that are not valid text.
     void leave();
-    // For cleanupTestCase(): unmounts while a test can still fail over it.
+    // For cleanupTestCase(): unmounts while a failure can still fail a test.
     void close();
-    // Why this machine cannot have the place; the test is to be skipped.
+    // Why this machine lacks the place; the test is to be skipped.
     QString unavailable() const { return m_unavailable; }
-    // Why enter() failed where it should not; the test is to fail.
+    // Why enter() failed unexpectedly; the test is to fail.
     QString problem() const { return m_problem; }
 
-    // Whether the places are those that root mounts, not those that everybody can write to.
+    // Whether the places are those that root mounts.
     static bool areMounted() { return qEnvironmentVariableIsSet("QUORVEX_TEST_MOUNTED_PLACES"); }
 
     static QStringList names();
 
 #ifdef Q_OS_LINUX
-    // The loop device under the place, null where there is none.
+    // The loop device of the place; null without one.
     LoopMount *loop()
     {
         return m_loop.get();
     }
-    // Whether the page cache is all there is.
+    // Whether the place keeps its files in the page cache only.
     bool isMemoryOnly() const;
 #endif
 
@@ -76,7 +77,7 @@ private:
 #endif
 };
 
-// Base of the contract suites: m_folder is the test's own, empty folder at the place of the row.
+// Base of the contract suites. m_folder is an empty folder of the test at the current place.
 class ContractSuite : public QObject
 {
     Q_OBJECT

@@ -35,7 +35,7 @@ bool stands(const QString &path)
 
 } // namespace
 
-// What the header promises of folders that are open, on every backend and file system.
+// The contract of anchored folders, on every backend and file system.
 class tst_AnchoredFolder : public ContractSuite
 {
     Q_OBJECT
@@ -66,7 +66,7 @@ void tst_AnchoredFolder::filesAreMadeListedAndRemoved()
     }
     QCOMPARE(contentOf(path(u"文件.tmp"_s)), QByteArray(10'000, 'x'));
     QCOMPARE(folder->info(u"文件.tmp"_s).value().size, qint64(10'000));
-    // A second listing begins anew.
+    // A second listing starts from the beginning.
     for (int i = 0; i < 2; ++i) {
         QStringList names;
         QVERIFY(folder->forEachEntry([&](const QString &name, FileKind kind) {
@@ -171,7 +171,8 @@ void tst_AnchoredFolder::aFolderIsClaimedOnce()
     QCOMPARE(folder->openFolder(u"mine"_s).code(), quint32(SharingViolation));
 }
 
-// Where the system lets it be swapped, the open folder is the old one; where it does not, that is as good.
+// Where the system allows the folder to be replaced, the handle still means the old one. Where it refuses,
+// the result is equally safe.
 void tst_AnchoredFolder::aFolderInUseIsNotMistakenForAnother()
 {
     QVERIFY(QDir().mkdir(path(u"other"_s)));
@@ -215,7 +216,7 @@ void tst_AnchoredFolder::volumesTellWhichTheyAre()
         if (!volume.isReady)
             continue;
         const auto root = backend().folders().anchor(volume.rootPath);
-        if (!root) // not everybody may open it
+        if (!root) // opening may need root
             continue;
         const auto identity = root.value()->volumeIdentity();
         QVERIFY(identity);

@@ -9,7 +9,7 @@
 
 using namespace platform;
 
-// What stands on what, on machines laid out as trees of files.
+// The relations between block devices, on machines given as trees of files.
 class tst_BlockTree : public QObject
 {
     Q_OBJECT
@@ -141,8 +141,8 @@ void tst_BlockTree::systemVolumesAreTracedThroughLvm()
 
 void tst_BlockTree::systemOnAMultiDeviceBtrfs()
 {
-    // The node that the mount names is no block device here, so the device number has to be the file system's
-    // own; a single-device tree stands for it, the members come from /sys/fs.
+    // The mounted node is not a block device here, so the device number must be the file system's own. A
+    // tree with a single device provides it; the members come from /sys/fs.
     FakeSystemTree fake;
     fake.addDrive(QStringLiteral("sda"), "8:0", 100 * MiB);
     fake.addDrive(QStringLiteral("sdb"), "8:16", 100 * MiB);
@@ -154,7 +154,7 @@ void tst_BlockTree::systemOnAMultiDeviceBtrfs()
     const Result<QList<Extent>> extents = query.value()->extents(ManyExtents);
     QVERIFY(extents.ok());
     QCOMPARE(extents.value().size(), 2);
-    // What is opened for the volume comes first, whatever the names.
+    // The device opened for the volume comes first, whatever the names.
     QCOMPARE(extents.value()[0].diskNumber, 1);
     QCOMPARE(extents.value()[1].diskNumber, 0);
 }
@@ -191,7 +191,7 @@ void tst_BlockTree::holdersOfADrive()
         QCOMPARE(query.value()->use().value().holders, holders);
         QVERIFY(!query.value()->use().value().isReadOnly);
     }
-    // The volume that is mounted lies on both.
+    // The mounted volume lies on both drives.
     auto volume = devices.queryVolume(QStringLiteral("/data"));
     QVERIFY(volume.ok());
     QCOMPARE(volume.value()->extents(ManyExtents).value().size(), 2);
@@ -298,7 +298,8 @@ void tst_BlockTree::aSystemRunningFromMemoryHasNoSystemVolume()
 
 void tst_BlockTree::aLiveSystemGuardsItsMedium()
 {
-    // A stick with an image in it; the internal drive is mounted to be looked at, and stays erasable.
+    // The live system is an image on a stick. The internal drive is only mounted for viewing and stays
+    // erasable.
     FakeSystemTree fake;
     fake.addDrive(QStringLiteral("sda"), "8:0", 100 * MiB);
     fake.addDrive(QStringLiteral("sdb"), "8:16", 100 * MiB);
@@ -372,7 +373,7 @@ void tst_BlockTree::aRootWithoutAMediumGuardsWhatIsBuiltOn()
     QSet<int> drives;
     LinuxDevices devices(fake.tree());
     for (const QString &volume : volumes) {
-        // The nodes here are no block devices: their kernel names stand for them.
+        // The nodes here are no block devices, so their kernel names identify them.
         const QString name = volume.section(u'/', -1);
         for (const QString &drive :
              {QStringLiteral("sda"), QStringLiteral("sdb"), QStringLiteral("sdc"), QStringLiteral("sdd")}) {

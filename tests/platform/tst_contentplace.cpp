@@ -21,7 +21,7 @@ constexpr quint32 HfsPlus = 0x482B;
 
 Q_DECLARE_METATYPE(ElsewhereReasons)
 
-// What follows from what the kernel says of a file.
+// The conclusions drawn from the kernel's answers about a file.
 class tst_ContentPlace : public QObject
 {
     Q_OBJECT

@@ -6,7 +6,7 @@
 
 using namespace platform;
 
-// What error numbers of devices mean.
+// The meaning of device error numbers.
 class tst_DeviceFailure : public QObject
 {
     Q_OBJECT
@@ -25,7 +25,7 @@ void tst_DeviceFailure::everyNumberHasItsMeaning()
         QVERIFY2(isMediumFault(code) == faults.contains(code), QByteArray::number(code).constData());
         QVERIFY(!isLockedByEncryption(code));
     }
-    // Of the numbers of encrypted volumes the one that says that nobody has unlocked it.
+    // The only error number of encrypted volumes that means a locked volume.
     for (quint32 code = 0x80310000; code < 0x80310200; ++code) {
         QCOMPARE(isLockedByEncryption(code), code == 0x80310000);
         QVERIFY(!isDeviceGone(code) && !isMediumFault(code));

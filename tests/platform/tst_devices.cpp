@@ -23,7 +23,7 @@ using namespace platform;
 
 namespace {
 
-// A drive of the test's own behind the real interfaces, with the bytes below it in a file.
+// A drive owned by the test behind the real interfaces, with its bytes in a file.
 class Backing
 {
 public:
@@ -114,7 +114,7 @@ AlignedBuffer filled(qint64 size, char value)
 
 } // namespace
 
-// What devices.h promises, of every backend that has drives.
+// The contract of devices.h, for every backend that has drives.
 class tst_Devices : public QObject
 {
     Q_OBJECT
@@ -142,7 +142,7 @@ private slots:
     void readOnlyLeavesTheDriveToOthers();
 };
 
-// Why there is no such backing here; empty when there is.
+// Why such a backing is missing here; empty when it exists.
 static QString unavailable(const QString &kind)
 {
 #ifdef Q_OS_LINUX
@@ -235,7 +235,7 @@ void tst_Devices::readSeesTheMedium()
     QVERIFY(device.value()->seek(0).ok());
     QCOMPARE(device.value()->read(data.data(), sector).value(), sector);
     QCOMPARE(static_cast<char>(data.data()[0]), '\0');
-    // Changed below the device: a cache above it would still answer with zeros.
+    // The file is changed below the device, so a cache above it would still answer with zeros.
     QFile image(drive.image());
     QVERIFY(image.open(QIODevice::ReadWrite | QIODevice::Unbuffered));
     QCOMPARE(image.write(QByteArray(sector, 'N')), sector);
@@ -306,7 +306,7 @@ void tst_Devices::unalignedTransfersAreRefused()
     QCOMPARE(device.value()->seek(-sector).code, quint32(InvalidParameter));
     QCOMPARE(device.value()->write(data.data(), sector - 1).code(), quint32(InvalidParameter));
     QCOMPARE(device.value()->read(data.data(), sector + 1).code(), quint32(InvalidParameter));
-    // What a device at its end answers must not be mistaken for a fault of this program.
+    // The answer of a device at its end must not be mistaken for a fault of this program.
     const QByteArray before = drive.bytes(0, MiB);
     QCOMPARE(device.value()->write(data.data() + 8, sector).code(), quint32(MisalignedBuffer));
     QCOMPARE(device.value()->read(data.data() + 8, sector).code(), quint32(MisalignedBuffer));

@@ -133,7 +133,7 @@ void tst_DriveRegistry::numbersStayInReachOfEnumeration()
     }
     fake.addDrive(QStringLiteral("sda"), "8:0", GiB, "NEW");
     QCOMPARE(registry.byDevice("8:0")->number, 0);
-    // The first holder of number 0 comes back while another has it.
+    // The first drive with number 0 returns after another drive got that number.
     fake.addDrive(QStringLiteral("sdb"), "8:16", GiB, "S0");
     QCOMPARE(registry.byDevice("8:16")->number, 1);
     QCOMPARE(registry.byDevice("8:0")->number, 0);
@@ -141,7 +141,8 @@ void tst_DriveRegistry::numbersStayInReachOfEnumeration()
 
 void tst_DriveRegistry::aSpareNumberNeverGoesToADriveThatCouldBeConfused()
 {
-    // The same node, without a serial number and without a count of attachments: the same drive or another.
+    // The same node may be the same drive or another one, because it has neither a serial number nor a count
+    // of attachments.
     FakeSystemTree fake;
     DriveRegistry registry(fake.tree());
     for (int i = 0; i < 40; ++i) {
@@ -167,7 +168,7 @@ void tst_DriveRegistry::sticksWithoutSerialNumbersStayInReach()
         QCOMPARE(identity.worldWideName, QStringLiteral("attachment.%1").arg(i + 1));
         if (i == 0)
             first = identity;
-        QCOMPARE(identity == first, i == 0); // what was chosen first is not what is there now
+        QCOMPARE(identity == first, i == 0); // the drive chosen first is not the present one
         fake.removeDrive(QStringLiteral("sda"), "8:0");
     }
 }

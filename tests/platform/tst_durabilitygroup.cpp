@@ -40,7 +40,7 @@ EntryPath held(const QString &folder, const QString &name = {})
     return {backend().folders().hold(folder).take(), name};
 }
 
-// Written to its end, flushed and left open.
+// A file written to its end, flushed and left open.
 std::unique_ptr<FileHandle> written(const std::shared_ptr<DurabilityGroup> &group, const EntryPath &entry,
                                     const QByteArray &bytes)
 {
@@ -51,7 +51,7 @@ std::unique_ptr<FileHandle> written(const std::shared_ptr<DurabilityGroup> &grou
     return file.take();
 }
 
-// As everybody can.
+// Syncs the file system through a call that needs no root.
 bool syncFileSystem(const QString &folder)
 {
     const FileDescriptor opened(::open(encodeName(folder).constData(), O_RDONLY | O_CLOEXEC));
@@ -109,7 +109,7 @@ void tst_DurabilityGroup::membersAreOnTheMediumWhenItIsClosed_data()
         QTest::addRow("%lld", static_cast<long long>(size)) << size;
 }
 
-// Several of them: the last step of closing is about one alone.
+// Uses several members, because the last step of closing concerns a single one.
 void tst_DurabilityGroup::membersAreOnTheMediumWhenItIsClosed()
 {
     QFETCH(qint64, size);
@@ -126,7 +126,7 @@ void tst_DurabilityGroup::membersAreOnTheMediumWhenItIsClosed()
     QVERIFY(files().closeGroup(*group.value()).ok());
     QVERIFY(m_places.loop()->flushCount() > before);
     const QByteArray image = m_places.loop()->readImage(0, QFileInfo(m_places.loop()->image()).size());
-    // Only where small files lie apart from what describes them.
+    // Checked only where small files are stored apart from metadata.
     if (size >= Page)
         QVERIFY(image.count(content.left(Page - 100)) >= 3);
     else if (size >= marker.size())
@@ -143,7 +143,7 @@ void tst_DurabilityGroup::theDriveIsFlushedWhereNothingIsToBeLogged()
     const qint64 before = m_places.loop()->flushCount();
     QVERIFY(files().closeGroup(*group.value()).ok());
     QFETCH_GLOBAL(QString, place);
-    if (place != u"btrfs"_s) // has flushed with its own commit, and knows it
+    if (place != u"btrfs"_s) // its commit has flushed already, and the file system knows it
         QVERIFY(m_places.loop()->flushCount() > before);
 }
 
@@ -195,7 +195,7 @@ void tst_DurabilityGroup::isClosedOnce()
     QCOMPARE(files().closeGroup(*group.value()).code, quint32(InvalidParameter));
 }
 
-// The same file system, and yet nothing that a held folder leads to.
+// The other mount shows the same file system, but a held folder does not lead to it.
 void tst_DurabilityGroup::anotherMountIsNotCovered()
 {
     writeFile(path(u"below/file"_s), QByteArray(Page, 'a'));

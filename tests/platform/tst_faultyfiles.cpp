@@ -14,7 +14,7 @@
 using namespace platform;
 using namespace Qt::StringLiterals;
 
-// The double itself: what is planned fails and does nothing, everything else reaches the real system.
+// The double itself: planned calls fail without effect, the others reach the real system.
 class tst_FaultyFiles : public QObject
 {
     Q_OBJECT
@@ -63,7 +63,7 @@ void tst_FaultyFiles::withoutAPlanEverythingPasses()
     QVERIFY(file.value()->seek(0).ok());
     QVERIFY(file.value()->setEnd().ok());
     QCOMPARE(files.info(path(u"file"_s)).value().size, 0);
-    file.value().reset(); // Windows renames nothing that is open
+    file.value().reset(); // Windows cannot rename open files
     QVERIFY(files.rename(path(u"file"_s), path(u"other"_s)).ok());
     QVERIFY(files.remove(path(u"other"_s)).ok());
     QVERIFY(folders.create(path(u"a/b"_s)).ok());
@@ -90,7 +90,7 @@ void tst_FaultyFiles::everyFileCallFails()
     const QString name = path(u"file"_s);
     QCOMPARE(files.info(name).code(), kind == FaultPlan::Info ? quint32(IoDevice) : 0);
     QCOMPARE(files.open(name, OpenMode::CreateFill).code(), kind == FaultPlan::Open ? quint32(IoDevice) : 0);
-    QCOMPARE(QFileInfo(name).size(), kind == FaultPlan::Open ? 3 : 0); // not cut by an opening that failed
+    QCOMPARE(QFileInfo(name).size(), kind == FaultPlan::Open ? 3 : 0); // not truncated by the failed opening
     QCOMPARE(files.clearReadOnly(name).code, kind == FaultPlan::ClearReadOnly ? quint32(IoDevice) : 0);
     QCOMPARE(files.rename(name, name + u'x').code, kind == FaultPlan::Rename ? quint32(IoDevice) : 0);
     const QString now = kind == FaultPlan::Rename ? name : name + u'x';
@@ -127,7 +127,7 @@ void tst_FaultyFiles::everyHandleCallFails()
     QCOMPARE(file.value()->read(bytes, 3).code(), expected(FaultPlan::Read));
     QCOMPARE(file.value()->flush().code, expected(FaultPlan::Flush));
     QCOMPARE(plan.fired(), 1);
-    // A write that fails leaves the position at the start, where the file is then cut.
+    // A failed write leaves the position at the start, and the file is then truncated there.
     QCOMPARE(contentOf(path(u"file"_s)), kind == FaultPlan::Write ? QByteArray() : QByteArray("xyz"));
 }
 

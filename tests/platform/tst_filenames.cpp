@@ -96,7 +96,7 @@ void tst_FileNames::anyBytesComeBack()
     QRandomGenerator random(seed);
     for (int round = 0; round < 20000; ++round) {
         QByteArray bytes;
-        // Mostly the bytes at which sequences begin, go on and break off.
+        // Mostly bytes that begin, continue and break sequences.
         for (int i = random.bounded(1, 24); i > 0; --i)
             bytes += char(random.bounded(4) ? random.bounded(0x80, 0x100) : random.bounded(1, 0x80));
         QCOMPARE(encodeName(decodeName(bytes)), bytes);
@@ -105,7 +105,7 @@ void tst_FileNames::anyBytesComeBack()
 
 void tst_FileNames::differentBytesGiveDifferentNames()
 {
-    // Every one of these is shown, or read by a lax decoder, as the same.
+    // Each of these looks the same on screen, or is the same to a lax decoder.
     const QByteArrayList alike{"\xC3\xA9", "\xE9", "e\xCC\x81", "\xE0\x83\xA9", "\xEF\xBB\xBF\xC3\xA9"};
     QStringList names;
     for (const QByteArray &bytes : alike)

@@ -31,7 +31,7 @@ Files &files()
 
 } // namespace
 
-// What the headers promise of files, on every backend and file system.
+// The contract of files, on every backend and file system.
 class tst_Files : public ContractSuite
 {
     Q_OBJECT
@@ -219,7 +219,7 @@ void tst_Files::readAnswersWhatIsThere()
                 QVERIFY(file.value()->seek(offset).ok());
                 QCOMPARE(file.value()->read(buffer.data(), size).valueOr(-1), expected.size());
                 QVERIFY(buffer.startsWith(expected));
-                // Nothing behind what was asked for is touched.
+                // Bytes behind the requested size stay untouched.
                 QCOMPARE(buffer.mid(size), guard);
             }
         }
@@ -258,7 +258,7 @@ void tst_Files::readTakesBuffersThatAreNotAligned()
     }
 }
 
-// Against a plain array that knows nothing of sectors.
+// Compared with a plain array, which has no sectors.
 void tst_Files::anyOrderOfOperations()
 {
     const QString name = path(u"file"_s);
@@ -271,7 +271,7 @@ void tst_Files::anyOrderOfOperations()
     qint64 position = 0;
     for (int round = 0; round < 200; ++round) {
         const qint64 unit = QList<qint64>{1, 512, 4096}.at(random.bounded(3));
-        // Now and then a long one, which goes to the device in pieces.
+        // Some transfers are long, so that they reach the device in pieces.
         const qint64 size = random.bounded(qint64(20)) * unit +
                             (random.bounded(2) ? 0 : random.bounded(700)) + (random.bounded(4) ? 0 : 307200);
         switch (random.bounded(8)) {
@@ -502,7 +502,7 @@ void tst_Files::createFillTakesAnyChunk_data()
         QTest::addRow("%lld", static_cast<long long>(chunk)) << chunk;
 }
 
-// A fill ends with a chunk that is as long as the room that is left.
+// A fill ends with a chunk as long as the remaining space.
 void tst_Files::createFillTakesAnyChunk()
 {
     QFETCH(qint64, chunk);
@@ -599,7 +599,8 @@ void tst_Files::infoTellsWhatAFileOccupies()
     writeFile(path(u"dense"_s), QByteArray(1 << 20, 'x'));
     writeFile(path(u"hollow"_s), QByteArray(1 << 16, 'x'));
     QVERIFY(QFile::resize(path(u"hollow"_s), 64 << 20));
-    QVERIFY(files().open(path(u"dense"_s), OpenMode::Overwrite).value()->flush().ok()); // else not yet given
+    QVERIFY(files().open(path(u"dense"_s), OpenMode::Overwrite).value()->flush().ok()); // otherwise not
+                                                                                        // allocated yet
     const Result<FileInfo> dense = files().info(path(u"dense"_s));
     QVERIFY(dense.value().allocatedBytes < 0 || dense.value().allocatedBytes >= 1 << 20);
 #ifdef Q_OS_LINUX
@@ -624,7 +625,7 @@ void tst_Files::infoOfAFolder()
     }
 }
 
-// Whatever happens to name, content and the files around it.
+// The id does not depend on the name, the content or neighbouring files.
 void tst_Files::theIdStaysWithTheFile()
 {
     writeFile(path(u"file"_s), "abc");
@@ -659,7 +660,7 @@ void tst_Files::anotherFileHasAnotherId()
 #ifdef Q_OS_WIN
     QSKIP("SKIPPED: Windows gives no number twice, and Wine knows no births");
 #endif
-    // Some file systems give a number again at once; births a few milliseconds apart are told apart.
+    // Some file systems reuse a number at once. The times of birth differ by a few milliseconds.
     QTest::qSleep(50);
     QVERIFY(files().remove(path(u"file"_s)).ok());
     writeFile(path(u"file"_s), "abc");
@@ -698,7 +699,7 @@ void tst_Files::clearReadOnlyMakesWritable()
     QVERIFY(!(QFile::permissions(name) & QFileDevice::WriteOwner));
     QVERIFY(files().clearReadOnly(name).ok());
     QVERIFY(QFile::permissions(name) & QFileDevice::WriteOwner);
-    QVERIFY(files().clearReadOnly(name).ok()); // nothing to change any more
+    QVERIFY(files().clearReadOnly(name).ok()); // already cleared
     QVERIFY(files().open(name, OpenMode::Overwrite).ok());
     QCOMPARE(contentOf(name), QByteArray("abc"));
 }
@@ -792,7 +793,7 @@ void tst_Files::namesOutsideAscii()
 
 void tst_Files::longPaths()
 {
-    // Well beyond the 260 characters at which Windows needs another form of path.
+    // Well beyond the 260 characters above which Windows needs the long form of a path.
     QString folder = m_folder;
     for (int i = 0; i < 6; ++i)
         folder += u'/' + QString(100, QChar(u'a' + i));

@@ -50,7 +50,7 @@ struct stat statusOf(const QString &path)
 
 } // namespace
 
-// What only Linux has: names that are no text, links and special files that everybody may create.
+// Behaviour specific to Linux: names that are not valid text, and links and special files that need no root.
 class tst_FilesLinux : public ContractSuite
 {
     Q_OBJECT
@@ -91,7 +91,7 @@ void tst_FilesLinux::opensWithTheFlagsItPromises()
     const QString name = path(u"file"_s);
     writeFile(name, QByteArray(10000, 'a'));
     QFETCH_GLOBAL(QString, place);
-    // It keeps files in the page cache alone and refuses the flag.
+    // ramfs keeps files in the page cache only and refuses the flag.
     const int direct = place == u"ramfs"_s ? 0 : O_DIRECT;
     constexpr int Asked = O_ACCMODE | O_DIRECT | O_SYNC | O_CLOEXEC | O_APPEND;
     const auto flagsIn = [&](OpenMode mode) {
@@ -137,7 +137,7 @@ void tst_FilesLinux::overwriteFillsHoles()
     file.take().reset();
     QCOMPARE(firstDifference(contentOf(name), QByteArray(length, 'z')), -1);
     QFETCH_GLOBAL(QString, place);
-    if (place != u"ramfs"_s) // counts no blocks
+    if (place != u"ramfs"_s) // reports no blocks
         QVERIFY(statusOf(name).st_blocks * 512 >= length);
 }
 
@@ -197,7 +197,7 @@ void tst_FilesLinux::contentPlaceSaysWhereItIsOverwritten()
     QCOMPARE(contentOf(path(u"file"_s)), QByteArray(12345, 'a'));
 }
 
-// A file system that is known for nothing, the kernel's own.
+// The kernel's own file system, of which no properties are known.
 void tst_FilesLinux::contentPlaceWhereNoExtentsAreShown()
 {
     const QString file = u"/sys/class/net/lo/mtu"_s;
@@ -286,7 +286,7 @@ void tst_FilesLinux::linksOnTheWayAreFollowed()
     QVERIFY(QDir(path(u"folder"_s)).isEmpty());
 }
 
-// Somebody else keeps exchanging the file for a link to one that must not be touched.
+// Another thread keeps exchanging the file for a link to a file that must not be touched.
 void tst_FilesLinux::openNeverFollowsALinkThatIsSwappedIn()
 {
     const QByteArray precious(512, 'p');
@@ -311,7 +311,7 @@ void tst_FilesLinux::openNeverFollowsALinkThatIsSwappedIn()
     int refused = 0;
     const QDeadlineTimer deadline(60s);
     for (int i = 0; i < 5000 || ((opened == 0 || refused == 0) && !deadline.hasExpired()); ++i) {
-        // Not Overwrite, in which each success would wait for the device.
+        // Overwrite is left out, because each of its writes would wait for the device.
         auto file = files().open(path(u"victim"_s), i % 2 ? OpenMode::Truncate : OpenMode::CreateFill);
         if (file && file.value()->write(QByteArray(100, 'z').constData(), 100).ok())
             ++opened;
@@ -376,7 +376,7 @@ void tst_FilesLinux::specialFilesAreRefused()
     if (isDevice && ::geteuid() != 0)
         QSKIP("SKIPPED: only root makes device nodes");
     const QString name = path(u"special"_s);
-    // A number that no driver has: opening it would answer NotReady.
+    // No driver has this device number, so opening the node would fail with NotReady.
     QCOMPARE(::mknod(encodeName(name).constData(), type | 0600, isDevice ? ::makedev(240, 77) : 0), 0);
     const Result<FileInfo> info = files().info(name);
     QVERIFY(info.ok());
@@ -389,7 +389,7 @@ void tst_FilesLinux::specialFilesAreRefused()
     QVERIFY(QDir(m_folder).isEmpty(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot));
 }
 
-// Opening for writing and closing again would tell whoever reads from the pipe that nothing more comes.
+// Opening for writing and closing again would signal the end of the data to the reader of the pipe.
 void tst_FilesLinux::pipeIsNotEvenOpened()
 {
     const QString name = path(u"pipe"_s);
@@ -400,7 +400,7 @@ void tst_FilesLinux::pipeIsNotEvenOpened()
         QVERIFY(!files().open(name, mode).ok());
     pollfd noticed = {reader.get(), POLLIN, 0};
     QCOMPARE(::poll(&noticed, 1, 0), 0);
-    // The check itself notices an opening.
+    // The check itself detects an opening.
     {
         const FileDescriptor writer(::open(encodeName(name).constData(), O_WRONLY | O_NONBLOCK | O_CLOEXEC));
         QVERIFY(writer.isValid());

@@ -46,13 +46,13 @@ Files &files()
 struct Stretch
 {
     quint64 logical = 0;
-    quint64 physical = 0; // on the device
+    quint64 physical = 0; // position on the device
     quint64 length = 0;
 
     bool operator==(const Stretch &) const = default;
 };
 
-// Where a file lies on its device; empty when the file system does not say.
+// The location of a file on its device; empty when the file system does not report it.
 QList<Stretch> stretchesOf(const QString &path)
 {
     const FileDescriptor file(::open(encodeName(path).constData(), O_RDONLY | O_CLOEXEC));
@@ -71,7 +71,7 @@ QList<Stretch> stretchesOf(const QString &path)
     return stretches;
 }
 
-// Pages of a file that are in memory.
+// The pages of a file that are in memory.
 int cachedPages(const QString &path)
 {
     const qint64 size = QFileInfo(path).size();
@@ -98,7 +98,7 @@ OpenedFile opened(const QString &path, int flags)
 
 } // namespace
 
-// What reaches the medium and what comes from it, on file systems that write in place.
+// Writes that reach the medium and reads that come from it, on file systems that write in place.
 class tst_FilesMedium : public ContractSuite
 {
     Q_OBJECT
@@ -158,7 +158,7 @@ void tst_FilesMedium::overwrittenBytesLeaveTheImage()
     QCOMPARE(m_places.loop()->countInImage(marker), 0);
 }
 
-// Without a flush: what a power cut after the call would leave.
+// Checked without a flush, as after a power cut following the call.
 void tst_FilesMedium::writtenBytesAreOnTheMediumAtOnce()
 {
     const QString name = path(u"file"_s);
@@ -219,7 +219,7 @@ void tst_FilesMedium::flushHasTheDeviceFlushed()
     }
 }
 
-// A flush is what a small file costs, so that one too many doubles the time of a job.
+// A flush dominates the cost of a small file, so a second one doubles the time of a job.
 void tst_FilesMedium::smallWritesFlushTheDeviceOnce()
 {
     for (const qint64 size : {16384, 5000}) {
@@ -227,7 +227,7 @@ void tst_FilesMedium::smallWritesFlushTheDeviceOnce()
         writeThrough(name, QByteArray(size, 'a'));
         auto file = files().open(name, OpenMode::Overwrite);
         QVERIFY(file.ok());
-        // The fewest of several, since the file system writes its journal every few seconds.
+        // Takes the lowest count of several, because the file system writes its journal every few seconds.
         qint64 fewest = std::numeric_limits<qint64>::max();
         for (int i = 0; i < 5; ++i) {
             const qint64 before = m_places.loop()->flushCount();
@@ -247,7 +247,7 @@ void tst_FilesMedium::readDoesNotComeFromTheCache_data()
     QTest::newRow("Verify") << OpenMode::Verify;
 }
 
-// The medium is changed below the file system, which cannot know of it.
+// The medium is changed below the file system, which does not notice it.
 void tst_FilesMedium::readDoesNotComeFromTheCache()
 {
     QFETCH(OpenMode, mode);
@@ -260,7 +260,7 @@ void tst_FilesMedium::readDoesNotComeFromTheCache()
     auto file = files().open(name, mode);
     QVERIFY(file.ok());
     QVERIFY(m_places.loop()->writeImage(qint64(stretches[0].physical), QByteArray(length, 'm')));
-    QCOMPARE(contentOf(name), QByteArray(length, 'a')); // an ordinary read is none the wiser
+    QCOMPARE(contentOf(name), QByteArray(length, 'a')); // an ordinary read still sees the cache
 
     QByteArray sample(1024, '\0');
     for (const qint64 offset : {qint64(0), 3 * Page, 3 * Page + 77, length - 1024}) {
@@ -295,7 +295,7 @@ void tst_FilesMedium::readWithoutDirectTransfersDoesNotComeFromTheCache()
     }
 }
 
-// Pages that are still to be written must not be lost, nor answer in place of the medium.
+// Dirty pages must neither be lost nor be read instead of the medium.
 void tst_FilesMedium::readWithoutDirectTransfersSeesWhatWasJustWritten()
 {
     const QString name = path(u"file"_s);
@@ -320,7 +320,7 @@ void tst_FilesMedium::verifyLeavesNothingInTheCache()
     const qint64 length = 64 * Page + 100;
     writeThrough(name, QByteArray(length, 'a'));
     QCOMPARE(contentOf(name).size(), length);
-    QVERIFY(cachedPages(name) >= 64); // the control; a last page that is not full may count as absent
+    QVERIFY(cachedPages(name) >= 64); // the control; a partial last page may count as absent
     auto file = files().open(name, OpenMode::Verify);
     QVERIFY(file.ok());
     QByteArray found(length, '\0');
@@ -328,7 +328,7 @@ void tst_FilesMedium::verifyLeavesNothingInTheCache()
     QCOMPARE(cachedPages(name), 0);
 }
 
-// Some file systems take O_DIRECT when a file is opened, and refuse the transfer.
+// Some file systems accept O_DIRECT on opening and refuse the transfer.
 void tst_FilesMedium::refusedFirstTransferGoesThroughTheCache()
 {
     const QString name = path(u"file"_s);
@@ -367,7 +367,7 @@ void tst_FilesMedium::unreadableBlocksAnswerIoDevice()
     QVERIFY(file.ok());
     QByteArray sample(1024, '\0');
     QCOMPARE(file.value()->read(sample.data(), sample.size()).valueOr(-1), sample.size());
-    // The loop device keeps its length, with nothing behind its end any more.
+    // The loop device keeps its length, but its end has no backing any more.
     QVERIFY(QFile::resize(volume.image(), qint64(stretches[0].physical)));
     QVERIFY(file.value()->seek(5 * Page).ok());
     QCOMPARE(file.value()->read(sample.data(), sample.size()).code(), quint32(IoDevice));
@@ -411,7 +411,7 @@ void tst_FilesMedium::fullVolumeEndsAWriteWithTheCountThatFitted()
     std::memset(buffer.data(), 'z', static_cast<std::size_t>(buffer.size()));
     qint64 total = 0;
     int shortWrites = 0;
-    // Whole chunks are refused while there is still room for less.
+    // Whole chunks are refused while smaller ones still fit.
     for (const qint64 chunk : {buffer.size(), qint64(200001)}) {
         Result<qint64> count = qint64(0);
         for (int i = 0; i < 1000 && count; ++i) {
@@ -425,7 +425,7 @@ void tst_FilesMedium::fullVolumeEndsAWriteWithTheCountThatFitted()
     QVERIFY(file.value()->flush().ok());
     QVERIFY(total > 20 * MiB);
     QCOMPARE(QFileInfo(name).size(), total);
-    // What was counted is there.
+    // All counted bytes are in the file.
     auto reader = files().open(name, OpenMode::Verify);
     QVERIFY(reader.ok());
     QVERIFY(reader.value()->seek(total - MiB).ok());

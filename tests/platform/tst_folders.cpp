@@ -25,8 +25,8 @@ Folders &folders()
     return backend().folders();
 }
 
-// Of the volume that the folder is on, by other means. QStorageInfo knows none where the root is no mount
-// point, and the standard library of MinGW does not take the long form of a path.
+// The space of the folder's volume, determined by other means. QStorageInfo cannot tell it where the root is
+// no mount point, and MinGW's standard library cannot read long paths.
 std::uintmax_t sizeOfVolume(const QString &folder)
 {
 #ifdef Q_OS_WIN
@@ -43,7 +43,7 @@ bool isEmptyFolder(const QString &path)
 
 } // namespace
 
-// What the headers promise of folders, on every backend and file system.
+// The contract of folders, on every backend and file system.
 class tst_Folders : public ContractSuite
 {
     Q_OBJECT
@@ -103,7 +103,7 @@ void tst_Folders::listingSeesEveryEntryOnce()
 {
     QStringList names{u".hidden"_s, u"文件.txt"_s, u"a b"_s, u"file"_s, u".quorvex_temp_0a1b2c3d"_s};
 #ifndef Q_OS_WIN
-    names.append(u"..."_s); // Windows takes dots away from the end of names
+    names.append(u"..."_s); // Windows removes trailing dots
 #endif
     for (const QString &name : names)
         writeFile(path(name), "abc");

@@ -41,7 +41,7 @@ bool exists(const QString &path)
     return ::lstat(encodeName(path).constData(), &found) == 0;
 }
 
-// Folders in folders, with a file in every hundredth; deeper than any path could name.
+// Nested folders with a file in every hundredth, deeper than any path can name.
 bool makeChain(const QString &folder, int levels)
 {
     FileDescriptor at(::open(encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
@@ -64,8 +64,8 @@ int openDescriptors()
 
 } // namespace
 
-// What only Linux has: names that are no text, links and special files that everybody may create, mounts in
-// folders.
+// Behaviour specific to Linux: names that are not valid text, links and special files that need no root, and
+// mounts in folders.
 class tst_FoldersLinux : public ContractSuite
 {
     Q_OBJECT
@@ -248,7 +248,7 @@ void tst_FoldersLinux::removeTreeOfNamesThatAreNoText()
 void tst_FoldersLinux::removeTreeOfADeepChain()
 {
     QVERIFY(QDir().mkdir(path(u"tree"_s)));
-    // Half a minute on a busy disk, which waits for each of these folders.
+    // Takes half a minute on a busy disk, because each of these folders is synced.
     QVERIFY(makeChain(path(u"tree"_s), m_places.isMemoryOnly() ? 10000 : 1500));
     const FewDescriptors limit(rlim_t(openDescriptors()) + 8);
     QVERIFY(limit.isSet());
@@ -323,7 +323,7 @@ void tst_FoldersLinux::removeTreeStaysOutOfAMountedVolume()
     QVERIFY(folders().removeTree(path(u"tree"_s)).ok());
 }
 
-// The same volume, and so the same device number.
+// The same volume, and therefore the same device number.
 void tst_FoldersLinux::removeTreeStaysOutOfAFolderMountedFromElsewhere()
 {
     if (::geteuid() != 0)
@@ -354,7 +354,7 @@ void tst_FoldersLinux::removeTreeOfAMountPointEmptiesIt()
     QVERIFY(QDir(path(u"mounted"_s)).isEmpty());
 }
 
-// Somebody else keeps exchanging a folder of the tree for a link to one that must not be touched.
+// Another thread keeps exchanging a folder of the tree for a link to a folder that must not be touched.
 void tst_FoldersLinux::removeTreeNeverFollowsALinkThatIsSwappedIn()
 {
     QVERIFY(QDir().mkpath(path(u"precious/folder"_s)));
@@ -363,7 +363,7 @@ void tst_FoldersLinux::removeTreeNeverFollowsALinkThatIsSwappedIn()
     std::thread swapper([&] {
         const QByteArray target = encodeName(path(u"precious"_s));
         const QByteArray inside = encodeName(path(u"tree/swapped"_s));
-        while (!ended) { // the tree comes and goes, so that each of these may fail
+        while (!ended) { // each call may fail, since the tree keeps changing
             ::mkdir(inside.constData(), 0700);
             ::mkdir((inside + "/a").constData(), 0700);
             ::rmdir((inside + "/a").constData());
@@ -399,7 +399,7 @@ void tst_FoldersLinux::spaceCountsWhatIsReserved()
     QVERIFY(space.ok());
     QCOMPARE(space.value().totalBytes, qint64(volume.f_blocks * volume.f_frsize));
     if (!Places::areMounted())
-        return; // others write there meanwhile
+        return; // other processes also write there
     // ext4 keeps a twentieth for root.
     QCOMPARE(space.value().freeBytes, qint64(volume.f_bfree * volume.f_frsize));
     const auto available = ::geteuid() == 0 ? volume.f_bfree : volume.f_bavail;

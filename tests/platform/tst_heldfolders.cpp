@@ -36,7 +36,7 @@ Folders &folders()
 
 } // namespace
 
-// Folders that are held open, and entries that are reached in them.
+// Folders that are held open, and their entries.
 class tst_HeldFolders : public QObject
 {
     Q_OBJECT
@@ -80,7 +80,7 @@ void tst_HeldFolders::pathsOfEntries()
     QCOMPARE(pathInFolder(u"/"_s, u"a"_s), u"/a"_s);
     QCOMPARE(pathInFolder(u"/x/"_s, u"a"_s), u"/x/a"_s);
     QCOMPARE(pathInFolder(u"E:\\"_s, u"a"_s), u"E:\\a"_s);
-    // A name may end with a back slash here.
+    // A name may end with a backslash here.
     QCOMPARE(pathInFolder(u"/x\\"_s, u"a"_s), u"/x\\/a"_s);
 }
 
@@ -230,7 +230,7 @@ void tst_HeldFolders::mountsAreEnteredOnlyWhenAsked()
                                     [](const QString &, FileKind) { return true; }));
     const auto inside = folders().holdIn(before, u"here"_s, Folders::Mounts::Enter);
     QVERIFY(inside.ok());
-    // What is in it is on the same mount as the folder itself.
+    // An entry inside is on the same mount as the folder itself.
     writeFile(path(u"mounts/here/a"_s), "abc");
     QVERIFY(!files().info(EntryPath(inside.value(), u"a"_s)).value().isMounted);
     QCOMPARE(folders().removeEmpty(EntryPath(before, u"here"_s)).code, quint32(SharingViolation));
@@ -283,7 +283,7 @@ void tst_HeldFolders::mountsAreToldByWhatTheKernelTells()
     struct statx found = folder;
     found.stx_attributes = 0;
     QVERIFY(!isOnAnotherMount(folder, found));
-    // A subvolume of btrfs: another device number, the same mount.
+    // A subvolume of btrfs has its own device number but lies on the same mount.
     found.stx_dev_minor = 2;
     QCOMPARE(isOnAnotherMount(folder, found), !hasMountId && !hasAttribute);
     found.stx_dev_minor = 1;

@@ -11,7 +11,7 @@
 using namespace Qt::StringLiterals;
 using platform::ImageDriveOptions;
 
-// What the environment says of image drives.
+// The settings for image drives in the environment.
 class tst_ImageDriveOptions : public QObject
 {
     Q_OBJECT

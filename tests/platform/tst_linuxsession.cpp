@@ -11,7 +11,7 @@
 using namespace Qt::StringLiterals;
 using namespace platform;
 
-// What the session knows beside its volumes (tst_blocktree).
+// The answers of the session apart from its volumes (see tst_blocktree).
 class tst_LinuxSession : public QObject
 {
     Q_OBJECT

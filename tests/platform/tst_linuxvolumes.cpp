@@ -266,7 +266,7 @@ void tst_LinuxVolumes::driveOpensBesideOwnVolumes()
 void tst_LinuxVolumes::newAttachmentIsAnotherDrive()
 {
     QVERIFY(m_volume->unmount());
-    // As a listing of the machine's volumes by another process has it open for a moment.
+    // Another process that lists the volumes of the machine briefly opens the device.
     const int held = ::open(QFile::encodeName(m_volume->device()).constData(), O_RDONLY | O_CLOEXEC);
     QVERIFY(held >= 0);
     const std::jthread listing([held] {
@@ -279,7 +279,7 @@ void tst_LinuxVolumes::newAttachmentIsAnotherDrive()
     options.sizeBytes = m_identity.sizeBytes;
     LoopMount other(m_folder->path(), options, QStringLiteral("other"));
     QVERIFY2(other.isReady(), qPrintable(other.error()));
-    // The same node and size as the drive that was chosen, and no serial number to tell them apart.
+    // Node and size equal those of the chosen drive, and no serial number distinguishes them.
     QVERIFY(!devices().openDrive(m_identity, DriveAccess::Alone).ok());
     QVERIFY(numberOf(devices(), other.device()) != m_number);
     QCOMPARE(other.countInImage(QByteArray(1, 'x')), 0);
@@ -292,7 +292,7 @@ void tst_LinuxVolumes::theMediumOfALoopDeviceIsFoundWithoutItsMount()
     inner.sizeBytes = 1024 * 1024;
     LoopMount image(m_volume->mountPoint(), inner, QStringLiteral("inner"));
     QVERIFY2(image.isReady(), qPrintable(image.error()));
-    // The mount table of a system whose media were taken out of sight at boot.
+    // The mount table of a system whose media were hidden at boot.
     FakeSystemTree fake;
     fake.write(QStringLiteral("proc/self/mountinfo"), "1 0 0:20 / / rw - tmpfs tmpfs rw\n");
     platform::SystemTree tree;

@@ -17,7 +17,7 @@ MountArguments argumentsOf(const QByteArray &line)
 
 } // namespace
 
-// How mounts were made, read from the table.
+// The arguments of mounts, derived from the mount table.
 class tst_MountArguments : public QObject
 {
     Q_OBJECT

@@ -35,8 +35,8 @@ DriveIdentity identityOf(Devices &devices, const QString &node)
     return {};
 }
 
-// Sees whether a file system that is mounted on one of the places is unmounted, be it for a moment, and does
-// not hold it.
+// Detects whether a file system mounted on one of the places is unmounted, even briefly. Does not keep it
+// mounted.
 class UnmountWatch
 {
 public:
@@ -64,7 +64,7 @@ private:
 
 } // namespace
 
-// Drives with partitions of the test's own, rid of their volumes and given them back.
+// Partitioned drives owned by the test whose volumes are released and restored.
 class tst_ReleasedVolumes : public QObject
 {
     Q_OBJECT
@@ -109,11 +109,11 @@ private:
     DriveIdentity m_identity;
 
     VolumeRelease release() { return m_platform->devices().releaseVolumes(m_identity); }
-    // Releases and restores; nothing is mounted between.
+    // Releases and restores. No volume is mounted in between.
     void releaseAndRestore();
-    // That volume is in the way, and nothing has changed.
+    // The release fails on that volume and changes nothing.
     void isInTheWay(const QString &volume, quint32 code = SharingViolation);
-    // Nor was anything unmounted for a moment.
+    // In addition, no volume was unmounted even briefly.
     void isInTheWayAtOnce(const QString &volume, quint32 code = SharingViolation);
 };
 
@@ -221,7 +221,7 @@ void tst_ReleasedVolumes::foldersOfAVolumeComeBack()
     QVERIFY(QDir(one).exists(u"my folder"_s));
 }
 
-// Nothing else of the file system is mounted from which it could be taken.
+// The file system has no other mount from which the folder could be bound.
 void tst_ReleasedVolumes::aFolderComesBackWithoutItsVolume()
 {
     const QString one = m_loop->folder(u"one"_s);
@@ -252,7 +252,7 @@ void tst_ReleasedVolumes::stackedMountsComeBackInTheirOrder()
     releaseAndRestore();
 }
 
-// It stands on a younger one.
+// The mount lies on a younger mount.
 void tst_ReleasedVolumes::aMountThatWasMovedComesBack()
 {
     const QString first = m_loop->folder(u"first"_s);
@@ -270,7 +270,7 @@ void tst_ReleasedVolumes::aMountThatWasMovedComesBack()
     QVERIFY2(released.volumes, qPrintable(released.failure.diagnostic() + released.volume));
     QCOMPARE(m_loop->mounts(), QStringList());
     QCOMPARE(released.volumes->restore(), QStringList());
-    // In an order in which they can be mounted.
+    // The order may differ, as long as the mounts are possible in it.
     QStringList after = m_loop->mounts();
     before.sort();
     after.sort();
@@ -312,7 +312,7 @@ void tst_ReleasedVolumes::subvolumesComeBack()
     releaseAndRestore();
     QVERIFY(QDir(home).exists(u"me/deep"_s));
     QVERIFY(QDir(root).exists(u"@home/me"_s));
-    m_loop->unmountAll(); // the folders that are mounted beside it hold the volume
+    m_loop->unmountAll(); // the folders mounted beside it keep the volume busy
 }
 
 void tst_ReleasedVolumes::filesAreThereAgain()
@@ -332,7 +332,7 @@ void tst_ReleasedVolumes::aVolumeInUseIsInTheWay()
 {
     const QString one = m_loop->folder(u"one"_s);
     QVERIFY(m_loop->mount(1, one, u"noexec,commit=33"_s));
-    // Mounted later, it has been let go of when the one in use is met.
+    // The later mount is already released when the one in use is reached.
     QVERIFY(m_loop->mount(2, m_loop->folder(u"two"_s), u"ro,nosuid"_s));
     QVERIFY(PartitionedLoop::mount({u"--bind"_s, one, m_loop->folder(u"again"_s)}));
     QFile open(one + u"/open"_s);
@@ -360,7 +360,7 @@ void tst_ReleasedVolumes::aVolumeCoveredByAnotherDriveIsInTheWay()
     isInTheWayAtOnce(one);
 }
 
-// The path leads to something else, and that must not be unmounted.
+// The path leads to another mount, which must not be unmounted.
 void tst_ReleasedVolumes::aVolumeHiddenByAnotherDriveIsInTheWay()
 {
     const QString place = m_loop->folder(u"above/one"_s);
@@ -450,7 +450,7 @@ void tst_ReleasedVolumes::keptIsNothingMounted()
     QVERIFY(released.volumes->keep().ok());
     released.volumes.reset();
     QCOMPARE(m_loop->mounts(), QStringList());
-    // Without a table there are no partitions that anybody could mount.
+    // Without a partition table there are no partitions to mount.
     QVERIFY(!QFileInfo::exists(u"/sys/class/block/"_s + QFileInfo(m_loop->node(1)).fileName()));
     QVERIFY(m_platform->devices().openDrive(m_identity, DriveAccess::Alone).ok());
 }

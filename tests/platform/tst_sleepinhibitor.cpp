@@ -25,7 +25,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// A bus of the test's own, in the place that the process takes for the system's.
+// A bus owned by the test that this process uses as the system bus.
 class PrivateBus
 {
 public:
@@ -63,16 +63,17 @@ private:
     QProcess m_daemon;
 };
 
-// What logind does with a lock: a pipe whose other end tells when it is given back. Its own thread.
+// Simulates the locks of logind: a lock is a pipe whose other end shows when it is released. Runs on its own
+// thread.
 class Manager : public QObject, protected QDBusContext
 {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.login1.Manager")
 
 public:
-    QString refusal; // the error to answer with
+    QString refusal; // the error reply
     QStringList asked;
-    int watched = -1; // the end that stays here
+    int watched = -1; // the end that the manager keeps
 
     ~Manager() override { ::close(watched); }
 
@@ -233,7 +234,7 @@ void tst_SleepInhibitor::withoutABusNothingIsHeld()
     QCOMPARE(platform::inhibitSleep(u"reason"_s).code(), quint32(platform::NotSupported));
 }
 
-// The next job asks anew.
+// The next job requests a new lock.
 void tst_SleepInhibitor::aBusThatComesLaterIsFound()
 {
     withoutABusNothingIsHeld();

@@ -8,7 +8,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-// A wish that nobody holds ends this program, and with it the suite.
+// A stop request without a handler ends this program, and the suite with it.
 class tst_StopHandler : public QObject
 {
     Q_OBJECT
@@ -44,7 +44,7 @@ void tst_StopHandler::aWishIsHeldUntilThereIsAHandler()
         QCOMPARE(::sigismember(&after, one), ::sigismember(&before, one));
 }
 
-// In a process of its own, which the wish may end.
+// Runs in a child process, which the stop request may end.
 void tst_StopHandler::aWishThatComesTooLateChangesNothing()
 {
     const pid_t child = ::fork();

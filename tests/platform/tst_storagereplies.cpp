@@ -15,8 +15,8 @@ using platform::DeviceDescriptor;
 using platform::Extent;
 
 namespace {
-// What a SATA drive behind a Windows storage stack answers: product and serial number with the padding of
-// their ATA fields, a vendor offset of 0, a revision in between.
+// The answer of a SATA drive behind a Windows storage stack: product and serial number with the padding of
+// their ATA fields, a vendor offset of 0, and a revision in between.
 const QByteArray sataReply =
     QByteArray::fromHex("28000000" // Version
                         "66000000" // Size: 102
@@ -30,7 +30,7 @@ const QByteArray sataReply =
     "ST500LM021-1KJ152                       " + QByteArray(1, '\0') + "0002" + QByteArray(1, '\0') +
     "            W621ABCD";
 
-// One extent on drive 3 from 1 MiB, and one on drive 1; the paddings are not zero on purpose.
+// One extent on drive 3 from 1 MiB, and one on drive 1. The padding is deliberately not zero.
 const QByteArray twoExtents = QByteArray::fromHex("02000000AAAAAAAA"
                                                   "03000000BBBBBBBB00001000000000000000004000000000"
                                                   "01000000CCCCCCCC0000100000000000000000A0E8000000");
@@ -67,7 +67,7 @@ constexpr int FirstIdentifier = 12;
 constexpr int EuiIdentifier = 12 + 24 + 20;
 constexpr int NaaIdentifier = EuiIdentifier + 24;
 
-// Types of partitions as their GUIDs stand in a GPT.
+// The GUIDs of partition types in the byte order of a GPT.
 constexpr const char *EfiSystem = "28732AC11FF8D211BA4B00A0C93EC93B";
 constexpr const char *Reserved = "16E3C9E35C0BB84D817DF92DF00215AE";
 constexpr const char *BasicData = "A2A0D0EBE5B9334487C068B6B72699C7";
@@ -75,7 +75,7 @@ constexpr const char *StorageSpaces = "8FAF5CE780F6EE4CAFA3B001E56EFC2D";
 constexpr const char *LdmMetadata = "AAC808588F7EE04285D2E1E90434CFB3";
 constexpr const char *LdmData = "A0609BAF3114624FBC683311714A69AD";
 
-// An entry of a partition table in a reply, with what is nobody's affair filled in.
+// An entry of a partition table in a reply; the remaining fields hold arbitrary values.
 QByteArray gpt(const QByteArray &type)
 {
     return QByteArray(32, '\x42') + QByteArray::fromHex(type) + QByteArray(96, '\x42');
@@ -104,7 +104,7 @@ QByteArray layout(quint32 style, quint32 count, const QByteArrayList &partitions
     return reply + partitions.join();
 }
 
-// A reply whose product string is the bytes up to the end of the reply.
+// A reply whose product string extends to the end of the reply.
 QByteArray replyWithProduct(const QByteArray &product)
 {
     QByteArray reply(FixedPart, '\0');
@@ -112,8 +112,8 @@ QByteArray replyWithProduct(const QByteArray &product)
     return reply + product;
 }
 
-// The decoders see memory of exactly the reply's length, so that the address sanitizer reports one byte too
-// many.
+// The decoders get memory of exactly the reply's length, so that the address sanitizer reports an overrun of
+// a single byte.
 template <typename Decoder>
 auto decodeExactly(Decoder decoder, const QByteArray &reply)
 {
@@ -419,7 +419,7 @@ void tst_StorageReplies::encodedExtentsHaveTheLayoutOfTheStorageStack()
         platform::encodeExtents({{.diskNumber = 3, .startingOffset = 1 << 20, .length = 1 << 30}});
     QCOMPARE(reply.toHex(), QByteArray("0100000000000000"
                                        "030000000000000000001000000000000000004000000000"));
-    // The reply that has room for one, and the one for many.
+    // The reply with room for one extent, and the one with room for many.
     QCOMPARE(platform::encodeExtents(QList<Extent>(platform::OneExtent)).size(), 32);
     QCOMPARE(platform::encodeExtents(QList<Extent>(platform::ManyExtents)).size(), 800);
 }
@@ -475,7 +475,7 @@ void tst_StorageReplies::identifiersBehindTheCountOrTheLastAreNotRead()
     reply = fourIdentifiers;
     reply[EuiIdentifier + 10] = 0; // the last, by its next offset
     QCOMPARE(platform::decodeWorldWideName(reply), u"eui.0025385b71b0a1c2"_s);
-    // A chain that leads nowhere ends.
+    // A chain that leads out of the reply ends.
     reply = fourIdentifiers;
     putOffset(reply, 8, 0xFFFFFFFF);
     reply[FirstIdentifier + 10] = 1;
@@ -490,7 +490,7 @@ void tst_StorageReplies::partitionsNameWhatIsBuiltOnTheDrive_data()
     const QStringList spaces{u"Storage Spaces"_s};
     const QStringList ldm{u"LDM"_s};
     QTest::newRow("no table") << layout(2, 0, {}) << none;
-    // Whatever stands where partitions would.
+    // Accepts arbitrary bytes in place of the partitions.
     QTest::newRow("no table, rest of one") << layout(2, 1, {gpt(StorageSpaces)}) << none;
     QTest::newRow("unknown style") << layout(3, 1, {gpt(StorageSpaces)}) << none;
     QTest::newRow("empty MBR") << layout(0, 0, {}) << none;
@@ -527,7 +527,7 @@ void tst_StorageReplies::aLayoutThatCountsMoreThanItHoldsIsNotWhole()
     for (const quint32 count : {2u, 5u, 0x7FFFFFFFu, 0xFFFFFFFFu}) {
         QCOMPARE(decodeExactly(platform::decodeHolders, layout(1, count, {gpt(BasicData)})).code(),
                  quint32(platform::MoreData));
-        // What is found counts all the same.
+        // The entries that were found still count.
         QCOMPARE(decodeExactly(platform::decodeHolders, layout(1, count, {gpt(LdmData)})).value(),
                  QStringList{u"LDM"_s});
     }
@@ -587,7 +587,7 @@ void tst_StorageReplies::randomRepliesAreSafe()
         QByteArray reply(random.bounded(400), '\0');
         for (char &byte : reply)
             byte = char(uchar(random.bounded(256)));
-        // Half of the offsets and counts near the reply, where mistakes by one show.
+        // Half of the offsets and counts are close to the reply's length, where off-by-one errors show.
         const auto plausible = [&] { return random.bounded(2) ? random.generate() : random.bounded(170u); };
         if (reply.size() >= FixedPart) {
             putOffset(reply, 0, plausible());

@@ -102,7 +102,7 @@ void tst_WholeFile::nothingChangesBeforeTheCommit()
 
 void tst_WholeFile::bytesLostOnTheWayKeepWhatWasThere()
 {
-    // A system that has taken the bytes and cannot bring them to the medium.
+    // A system that has accepted the bytes and fails to write them to the medium.
     class LosingFiles : public platform::ForwardingFiles
     {
     public:
@@ -145,7 +145,7 @@ void tst_WholeFile::aFullDiskKeepsWhatWasThere()
 {
     const QTemporaryDir folder;
     const QString path = writeFile(folder.filePath(u"r.json"_s), Previous);
-    // Small enough to fit into a buffer until the file is closed, and larger.
+    // Sizes that stay in a buffer until the file is closed, and larger ones.
     for (const qsizetype size : {1'000, 100'000}) {
         bool isWritten = true;
         {
@@ -178,7 +178,7 @@ void tst_WholeFile::aPipeIsWrittenThrough()
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"pipe"_s);
     QCOMPARE(::mkfifo(QFile::encodeName(path).constData(), 0600), 0);
-    QVERIFY(WholeFile(path).open()); // without a reader, and without waiting for one
+    QVERIFY(WholeFile(path).open()); // without a reader, and without waiting for it
     const QByteArray bytes(300'000, 'r');
     auto reader = std::async(std::launch::async, [&path] { return contentOf(path); });
     QVERIFY(write(path, bytes));
@@ -216,7 +216,7 @@ void tst_WholeFile::socketsAndBlockDevicesAreRefused()
     QVERIFY(!WholeFile(path).open());
     ::close(listener);
 
-    // A node without a drive behind it: a number of the block that is kept free for such things.
+    // A node without a drive; its number belongs to the range reserved for local use.
     const QString block = folder.filePath(u"block"_s);
     if (::mknod(QFile::encodeName(block).constData(), S_IFBLK | 0600, makedev(240, 0)) != 0)
         QSKIP("SKIPPED: making a device node needs root");

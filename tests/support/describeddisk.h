@@ -4,7 +4,7 @@
 #include "platform/devices.h"
 #include "support/memorydevices.h"
 
-// The record of a drive as the list of drives would have it, without its volumes.
+// The record of a drive as in the list of drives, without its volumes.
 DiskInfo describedDisk(platform::Devices &devices, int number);
-// The same from what the drive was made of, also where its fields are no clean text.
+// The same record, built from the definition of the drive, also when its fields are no clean text.
 DiskInfo describedDisk(const MemoryDrive &drive);

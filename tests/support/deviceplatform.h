@@ -3,7 +3,7 @@
 #include "platform/devices.h"
 #include "platform/platform.h"
 
-// A platform that has devices and nothing else: a test whose code asks for more ends.
+// A platform with devices only. Any other request ends the test.
 class DevicePlatform : public platform::Platform
 {
 public:

@@ -14,12 +14,12 @@
 
 #include <memory>
 
-// Drives and volumes that answer what a test wrote down, and count what they were asked. Queries only:
-// opening one for writing fails. One thread.
+// Drives and volumes that give the answers set by a test and count the queries. Opening one for writing
+// fails. One thread.
 
 platform::Status fakeFailure(quint32 code);
 
-// A drive named after how it behaves.
+// A drive with the answers it gives.
 struct FakeDrive
 {
     platform::Status opening;
@@ -46,7 +46,7 @@ struct FakeVolume
 {
     platform::MountedVolume mounted;
     platform::Status opening;
-    platform::Status extentsAnswer; // MoreData comes by itself
+    platform::Status extentsAnswer; // MoreData is added by the double
     QList<platform::Extent> extents;
     platform::DeviceUse use;
 
@@ -66,8 +66,8 @@ public:
     };
 
     QMap<int, FakeDrive> drives;
-    QMap<QString, FakeVolume> volumes; // what queryVolume knows
-    QStringList mountOrder;            // of those names, what is mounted
+    QMap<QString, FakeVolume> volumes; // known to queryVolume
+    QStringList mountOrder;            // names of the mounted ones
     platform::Result<QStringList> machineNames = fakeFailure(platform::NotSupported);
 
     QMap<int, Questions> asked; // by drive
@@ -94,7 +94,7 @@ public:
     QList<platform::MountedVolume> mountedVolumes() override;
 
 private:
-    // Counts itself as an open handle; answers nothing.
+    // Counts itself as an open handle and answers nothing.
     class Query;
     class DriveQuery;
     class VolumeQuery;
@@ -109,13 +109,13 @@ public:
     platform::Result<bool> administrator = true;
 
     QString otherAccount; // foreignAccount()
-    int binChanges = 0;   // told
+    int binChanges = 0;   // number of notifications
 
-    // Of keepAwake(): the answer, unless it is to fail, and how it was used.
+    // For keepAwake(): the failure to return, if any, and a record of its use.
     quint32 awakeError = platform::NoError;
     bool canDelayShutdown = false;
     QList<platform::AwakeRequest> awakeRequests;
-    int awakeHolds = 0; // that are there
+    int awakeHolds = 0; // currently held
 
     QStringList systemVolumes() override { return systemVolumeNames; }
     bool isSystemRoot(const QString &rootPath) override { return systemRoots.contains(rootPath); }
@@ -128,7 +128,7 @@ public:
     keepAwake(const platform::AwakeRequest &request) override;
 };
 
-// A machine that has drives and a user, and nothing else: asking for its files is a mistake of the test.
+// A machine with drives and a user only. A request for its files is a mistake of the test.
 class FakeMachine : public platform::Platform
 {
 public:

@@ -7,14 +7,14 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
-// A /sys, /proc, /dev and udev database of a machine that does not exist: what the kernel would say of LVM on
-// two disks, say, without owning two disks.
+// The /sys, /proc, /dev and udev database of an invented machine, for setups such as LVM on two disks that
+// the test machine lacks.
 class FakeSystemTree
 {
 public:
     platform::SystemTree tree() const;
 
-    // Size in bytes, number as in "8:0".
+    // Size in bytes; the number has the form "8:0".
     void addDrive(const QString &name, const QByteArray &number, qint64 size, const QByteArray &serial = {});
     void addPartition(const QString &drive, const QString &name, const QByteArray &number, qint64 start,
                       qint64 size);
@@ -24,7 +24,7 @@ public:
     void addBtrfs(const QString &uuid, const QStringList &members);
     void removeDrive(const QString &name, const QByteArray &number);
 
-    // One attribute, its path below the tree: "sys/block/sda/ro".
+    // Writes one attribute. Its path is relative to the tree: "sys/block/sda/ro".
     void write(const QString &name, const QByteArray &text);
     QString path(const QString &name) const { return m_folder.filePath(name); }
 

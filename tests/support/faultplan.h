@@ -6,9 +6,9 @@
 
 #include <atomic>
 
-// Which call of a wrapped interface fails: the Nth call whose kind matches, once or from then on, with a
-// chosen error. Doubles ask fires() at every call; the plan counts what it saw and what it made fail.
-// Thread-safe.
+// Makes calls of a wrapped interface fail. The Nth call of a matching kind fails with a chosen error, once
+// or from then on. Doubles ask fires() at every call; the plan counts the calls it saw and the calls it made
+// fail. Thread-safe.
 class FaultPlan
 {
 public:
@@ -42,7 +42,7 @@ public:
     };
     enum Repeat { Once, FromThenOn };
 
-    // Nothing fails.
+    // A plan without failures.
     FaultPlan() = default;
     // call counts from 1.
     FaultPlan(quint32 kinds, int call, platform::ErrorCode error, Repeat repeat = Once)
@@ -52,7 +52,7 @@ public:
         , m_repeat(repeat)
     {}
 
-    // To be called once per call of the interface: whether this one is to fail.
+    // Whether the current call is to fail. Called once per call of the interface.
     bool fires(Kind kind);
     platform::Status status() const;
 

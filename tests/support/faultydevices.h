@@ -3,7 +3,7 @@
 #include "support/faultplan.h"
 #include "support/interposeddevices.h"
 
-// Devices whose calls fail as a plan says. The plan outlives them.
+// Devices whose calls fail according to a plan. The plan outlives them.
 class FaultyDevices : public InterposedDevices
 {
 public:

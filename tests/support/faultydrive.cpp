@@ -29,7 +29,7 @@ FaultyDrive::FaultyDrive(qint64 sizeBytes, LoopMount::FileSystem fileSystem)
 
 FaultyDrive::~FaultyDrive()
 {
-    // A job on the drive has unmounted it.
+    // A job on the drive may have unmounted it.
     if (m_mounted && isMounted())
         QProcess::execute(QStringLiteral("umount"), {QStringLiteral("--lazy"), mountPoint()});
 }

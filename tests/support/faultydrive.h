@@ -16,16 +16,16 @@ public:
     static QString unavailableReason();
 
     explicit FaultyDrive(qint64 sizeBytes, LoopMount::FileSystem fileSystem = LoopMount::NoFileSystem);
-    // The mount point lies outside of the faulty folder, so that it can be reached when that is gone.
+    // The mount point lies outside the faulty folder, so that it stays reachable when that folder is gone.
     ~FaultyDrive();
 
     bool isReady() const { return m_ready; }
     QString device() const { return m_drive->device(); }
-    // The file behind the drive, under the faults.
+    // The file behind the drive, still subject to the faults.
     QString image() const { return m_drive->image(); }
     QString mountPoint() const { return m_folder.filePath(QStringLiteral("mounted")); }
 
-    // What is on the medium, whatever the faults.
+    // The content of the medium, read below the faults.
     QByteArray content();
     bool fill(const QByteArray &content);
 

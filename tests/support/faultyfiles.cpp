@@ -2,7 +2,7 @@
 
 namespace {
 
-// A handle whose calls fail as planned; whatever does not fail reaches the real one.
+// A handle whose calls fail according to the plan; the other calls reach the real handle.
 class FaultyFileHandle : public platform::ForwardingFileHandle
 {
 public:
@@ -20,7 +20,7 @@ public:
             return m_plan.status();
         return ForwardingFileHandle::read(data, size);
     }
-    // Nothing of a write that fails is written.
+    // A failing write writes nothing.
     platform::Result<qint64> write(const void *data, qint64 size) override
     {
         if (m_plan.fires(FaultPlan::Write))

@@ -9,10 +9,10 @@
 #include <memory>
 #include <utility>
 
-// Which paths a plan is about; empty for all. Calls for other paths are passed on and not counted.
+// The paths to which a plan applies; empty for all. Other calls are passed on and not counted.
 using FaultPaths = std::function<bool(const QString &path)>;
 
-// Files, and the handles they open, failing as planned. The plan outlives both.
+// Files and file handles that fail according to a plan. The plan outlives both.
 class FaultyFiles : public platform::ForwardingFiles
 {
 public:
@@ -22,18 +22,18 @@ public:
         , m_paths(std::move(paths))
     {}
     platform::Result<platform::FileInfo> info(const platform::EntryPath &entry) override;
-    // Nothing is created or cut by an opening that fails.
+    // A failing call creates and truncates nothing.
     platform::Result<std::unique_ptr<platform::FileHandle>>
     openIn(const std::shared_ptr<platform::DurabilityGroup> &group, const platform::EntryPath &entry,
            platform::OpenMode mode) override;
     platform::Result<std::shared_ptr<platform::DurabilityGroup>>
     beginGroup(const platform::EntryPath &folder) override;
-    // Of whatever files.
+    // Applies to every path.
     platform::Status closeGroup(platform::DurabilityGroup &group) override;
     platform::Result<platform::ContentPlace> contentPlace(const platform::EntryPath &entry) override;
     platform::Result<QByteArray> readBeginning(const QString &path, qint64 limit) override;
     platform::Status clearReadOnly(const platform::EntryPath &entry) override;
-    // It is the old name that counts.
+    // The plan applies to the old name.
     platform::Status rename(const platform::EntryPath &from, const platform::EntryPath &to) override;
     platform::Status remove(const platform::EntryPath &entry) override;
 
@@ -45,7 +45,7 @@ private:
     FaultPaths m_paths;
 };
 
-// Folders failing as planned.
+// Folders that fail according to a plan.
 class FaultyFolders : public platform::ForwardingFolders
 {
 public:
@@ -54,11 +54,11 @@ public:
         , m_plan(plan)
         , m_paths(std::move(paths))
     {}
-    // Fails before the first entry.
+    // A failing call fails before the first entry.
     platform::Status forEachEntry(const platform::EntryPath &folder, const Visitor &visit) override;
     platform::Status create(const QString &folder) override;
     platform::Status removeEmpty(const platform::EntryPath &folder) override;
-    // Removes nothing when it fails.
+    // A failing call removes nothing.
     platform::Status removeTree(const QString &folder) override;
     platform::Result<platform::FolderOwner> owner(const QString &folder) override;
     platform::Status hide(const QString &path) override;

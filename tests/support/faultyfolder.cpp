@@ -34,7 +34,7 @@ struct Range
 
     void set(qint64 newFirst, qint64 newEnd)
     {
-        end = 0; // nothing fails between the two
+        end = 0; // no failures between the two changes
         first = newFirst;
         end = newEnd;
     }
@@ -60,7 +60,7 @@ static_assert(std::atomic<qint64>::is_always_lock_free, "two processes share the
 
 namespace {
 
-// Of the server's process.
+// Used in the server process.
 FaultyFolder::Plan *plan = nullptr;
 std::string root;
 
@@ -81,12 +81,12 @@ int getAttributes(const char *path, struct stat *attributes, fuse_file_info *)
 
 int openReal(const char *path, int flags, mode_t mode, fuse_file_info *info)
 {
-    // The buffers here suit no unbuffered transfer.
+    // The buffers here are not aligned for unbuffered transfers.
     const int file = ::open(real(path).c_str(), (flags & ~(O_DIRECT | O_NOFOLLOW)) | O_CLOEXEC, mode);
     if (file < 0)
         return -errno;
     info->fh = static_cast<std::uint64_t>(file);
-    info->direct_io = 1; // no cache above that would hide a fault
+    info->direct_io = 1; // a page cache above would hide faults
     return 0;
 }
 
@@ -208,8 +208,8 @@ bool FaultyFolder::start()
         return false;
     m_plan = new (shared) Plan;
     const pid_t parent = ::getpid();
-    // A process, not a thread: a test that is killed while it waits for the loop device takes a thread of its
-    // own with it only when the wait is over, which would then be never.
+    // The server is a process instead of a thread. A test killed while it waits for the loop device would
+    // end its threads only after the wait, and the wait would never end without the server.
     m_server = ::fork();
     if (m_server == 0) {
         ::prctl(PR_SET_PDEATHSIG, SIGKILL);
@@ -241,7 +241,7 @@ void FaultyFolder::serve(int readyEnd)
 
 void FaultyFolder::unmount()
 {
-    // Lazily, for whatever is still open inside; without its server nothing there works any more.
+    // Lazily, because files may still be open inside. Without the server they cannot be used any more.
     if (m_ready && ::umount2(QFile::encodeName(m_mountPoint).constData(), MNT_DETACH) != 0)
         QTest::qFail(qPrintable(QStringLiteral("left behind: ") + m_mountPoint), __FILE__, __LINE__);
 }

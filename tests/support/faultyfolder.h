@@ -7,53 +7,53 @@
 
 #include <atomic>
 
-// A mounted folder whose files fail on command. A process of its own serves it from a plain folder beside it;
-// a loop device over one of its files is a drive with real faults, which the kernel, the backends and the
-// programs under test meet as those of a broken medium.
+// A mounted folder whose files fail on command. A separate process serves it from a plain folder beside it.
+// A loop device over one of its files is a drive with real faults; the kernel, the backends and the programs
+// under test see them as those of a broken medium.
 //
-// Faults concern every file in it, at positions in bytes, and hold until heal(). Needs root. Destruction
-// unmounts; whatever is open inside by then fails.
+// Faults apply to every file in it, at positions in bytes, and last until heal(). Needs root. Destruction
+// unmounts; files still open inside fail from then on.
 class FaultyFolder
 {
 public:
-    // Why none can be made here, for QSKIP; empty when one can.
+    // Why no faulty folder can be made here, for QSKIP; empty when one can.
     static QString unavailableReason();
 
-    // folder: an existing one of the test's own, which outlives this.
+    // folder: an existing folder of the test that outlives this object.
     explicit FaultyFolder(const QString &folder);
     ~FaultyFolder();
     FaultyFolder(const FaultyFolder &) = delete;
     FaultyFolder &operator=(const FaultyFolder &) = delete;
 
     bool isReady() const { return m_ready; }
-    // Where it is mounted.
+    // The mount point.
     QString path() const { return m_mountPoint; }
-    // The same file below all faults.
+    // The path of the same file below all faults.
     QString below(const QString &name) const { return m_below + u'/' + name; }
 
-    // Whatever touches [first, end) fails with EIO and leaves the file as it is.
+    // Every access to [first, end) fails with EIO and leaves the file unchanged.
     void failReads(qint64 first, qint64 end);
     void failWrites(qint64 first, qint64 end);
-    // Flushing fails with EIO, writing does not.
+    // Flushes fail with EIO; writes do not.
     void failFlushes();
-    // Whatever is written beyond the position fails with ENOSPC.
+    // Every write beyond the position fails with ENOSPC.
     void limitRoomTo(qint64 position);
-    // Failing writes begin only when so many bytes more have been written.
+    // Write failures begin only after this many more bytes were written.
     void beginAfter(qint64 bytes);
     void heal();
 
-    // The server ends: this call or every later one on what is open inside fails, and so does the folder.
+    // Ends the server. This call or a later one on a file open inside fails, and so does the folder.
     void vanish();
-    // The same during the write that brings the bytes written from now on up to this many.
+    // Ends the server during the write with which the bytes written from now on reach this number.
     void vanishAfter(qint64 bytes);
-    // Whether the server has ended. What is open inside fails a moment before.
+    // Whether the server has ended. Calls on files open inside fail slightly earlier.
     bool isGone();
 
     int failedReads() const;
     int failedWrites() const;
     int failedFlushes() const;
 
-    // What both processes see.
+    // The memory that both processes share.
     struct Plan;
 
 private:

@@ -2,7 +2,7 @@
 
 #include <sys/resource.h>
 
-// This process may have no more descriptors than these until destruction.
+// Limits the number of descriptors of this process until destruction.
 class FewDescriptors
 {
 public:

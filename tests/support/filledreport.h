@@ -10,6 +10,6 @@ DiskInfo filledDisk();
 /// A report with every field set.
 WipeReport filledReport();
 
-/// The JSON text of filledReport(). It stands apart from the suites, since moc loses its way in a raw string
-/// of many lines.
+/// The JSON text of filledReport(). It has a source of its own, because moc cannot parse a raw string of
+/// many lines.
 extern const QByteArray filledText;

@@ -4,7 +4,7 @@
 #include <QString>
 #include <QtEndian>
 
-// Contents of "$I" files, put together from their fields.
+// Contents of "$I" files, built from their fields.
 
 QByteArray utf16(const QString &text);
 
@@ -18,7 +18,7 @@ QByteArray littleEndian(T number)
 
 QByteArray infoHeader(quint64 version, quint64 size);
 
-// As the system writes them: with the zero at the end of the path.
+// The content as the system writes it, with a terminating zero at the end of the path.
 QByteArray infoVersion2(const QString &path, quint64 size);
 
 QByteArray infoVersion1(const QString &path, quint64 size);

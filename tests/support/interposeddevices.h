@@ -9,18 +9,18 @@
 #include <functional>
 #include <memory>
 
-// A call that an InterposedDevices lets through.
+// A call passed to the target of an InterposedDevices.
 struct DeviceCall
 {
     FaultPlan::Kind kind;
-    QLatin1String method; // as the interface names it
+    QLatin1String method; // name in the interface
     QString target;       // name of the volume, number of the drive
     qint64 argument = 0;  // position of a seek, size of a read or write
 };
 
-// Asks a function before every call that may fail, on drives, volumes and their handles: a failure it returns
-// is the answer of the call, which then does not reach the target. The function may also count, wait or stop
-// a worker; it runs on the caller's thread.
+// Runs a function before every call that may fail, on drives, volumes and their handles. A failure that it
+// returns becomes the answer, and the call does not reach the target. The function may also count, wait or
+// stop a worker; it runs on the caller's thread.
 class InterposedDevices : public platform::ForwardingDevices
 {
 public:

@@ -5,7 +5,7 @@
 #include <csignal>
 #include <sys/resource.h>
 
-// No file of this process grows beyond the limit: every further write fails, as on a full disk.
+// Limits the size of every file of this process. Writes beyond the limit fail as on a full disk.
 class LargestFile
 {
 public:

@@ -2,6 +2,7 @@
 
 #include <QString>
 
-// Makes a symbolic link to a file, a folder or nothing. False where the system makes none: Windows needs
-// developer mode or an administrator, and not every stand-in for Windows has them.
+// Makes a symbolic link to a file, a folder or a missing target. False where the system refuses: Windows
+// needs developer mode or an administrator, and some environments for Windows programs have no symbolic
+// links.
 bool makeLink(const QString &target, const QString &link);

@@ -7,8 +7,8 @@
 #include <mutex>
 #include <optional>
 
-/// The system's calls with one entry failing on purpose. In force from construction to destruction, one at a
-/// time. Thread-safe.
+/// The system calls with one entry made to fail. In force from construction to destruction; one instance at
+/// a time. Thread-safe.
 class LinuxFaults
 {
 public:
@@ -40,7 +40,7 @@ public:
         Mount_,
         Umount2_,
         CallCount,
-        AnyCall = CallCount, // of fail(): whichever comes
+        AnyCall = CallCount, // for fail(): any entry
     };
     enum Repeat { Once, FromThenOn };
 
@@ -53,14 +53,14 @@ public:
     void fail(int call, int nth, int error, Repeat repeat = Once);
     void failNothing() { fail(-1, 0, 0); }
 
-    /// Calls of the entry chosen with fail(), since then, and those of them that failed.
+    /// The calls since fail() of the entry chosen there, and those that failed.
     int counted() const;
     int fired() const;
     /// Calls of an entry since construction.
     int seen(Call call) const;
 
 private:
-    // What stands in a table: each entry asks enter(), and goes on to the system's own call.
+    // The entry of a call table. It asks enter() and then makes the system's own call.
     template <int call, auto Member>
     struct Hook;
     template <int call, auto Member, typename Calls>

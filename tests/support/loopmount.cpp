@@ -69,8 +69,8 @@ bool LoopMount::mount(const QString &mountOptions)
 
 bool LoopMount::unmount()
 {
-    // Whoever lists the volumes of the machine, the program under test in another process for one, has
-    // each of them open for a moment.
+    // A program that lists the volumes of the machine briefly opens each of them; the program under test may
+    // do so in another process.
     QString busy;
     for (int attempt = 0; attempt < 60; ++attempt) {
         if (!isMounted() || execute(QStringLiteral("umount"), {m_mountPoint}, nullptr, &busy))
@@ -89,8 +89,8 @@ bool LoopMount::remount(const QString &mountOptions)
 bool LoopMount::close()
 {
     if (!unmount()) {
-        // A file that a failed test left open: let go of the folder at least, the device follows by
-        // itself.
+        // A failed test left a file open. Detaching the mount at least frees the folder; the device follows
+        // when the file is closed.
         const QString busy = m_error;
         run(QStringLiteral("umount"), {QStringLiteral("--lazy"), m_mountPoint});
         detach();
@@ -122,7 +122,7 @@ qint64 LoopMount::countInImage(const QByteArray &marker)
             ++count;
             from = at + marker.size();
         }
-        // What could be the beginning of a marker that goes on in the next chunk.
+        // Keeps the end of the window, where a marker may begin that continues in the next chunk.
         window = window.mid(qMax(from, window.size() - marker.size() + 1));
     }
     if (file.error() != QFileDevice::NoError) {
@@ -246,8 +246,8 @@ bool LoopMount::attach()
         return false;
     m_device = device;
     m_canonicalImage = QFile::encodeName(QFileInfo(m_image).canonicalFilePath());
-    // Refused where the folder's own file system has no unbuffered transfers, as tmpfs; all else works
-    // without.
+    // The kernel refuses direct I/O where the folder's file system lacks it, such as tmpfs. Everything else
+    // works without it.
     QString refusal;
     m_directIo =
         execute(QStringLiteral("losetup"), {QStringLiteral("--direct-io=on"), m_device}, nullptr, &refusal);
@@ -281,7 +281,7 @@ bool LoopMount::detach()
         return true;
     if (isStillOurs() && !run(QStringLiteral("losetup"), {QStringLiteral("--detach"), m_device}))
         return false;
-    // A device that somebody has open just now, as in unmount(), is detached when they let go of it.
+    // A device that another program has open, as in unmount(), is detached when it is closed.
     for (int attempt = 0; isStillOurs(); ++attempt) {
         if (attempt == 60)
             return failed(m_device + QStringLiteral(" is still attached"));

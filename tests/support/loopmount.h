@@ -4,9 +4,9 @@
 #include <QString>
 #include <QStringList>
 
-// A file system that a test owns: an image file in the test's own temporary folder, a loop device of its own
-// over it and, unless asked for without, a file system mounted on a folder beside the image. Destruction
-// takes back what was brought about, and only that; whatever cannot be taken back fails the running test.
+// A file system that a test owns. It consists of an image file in the temporary folder of the test, a loop
+// device over that file and, unless disabled, a file system mounted on a folder beside the image.
+// Destruction reverts exactly these steps; a step that cannot be reverted fails the running test.
 //
 //     if (const QString reason = LoopMount::unavailableReason(); !reason.isEmpty())
 //         QSKIP(qPrintable(reason));
@@ -35,14 +35,14 @@ public:
     // Why no LoopMount can be made here, for QSKIP; empty when one can.
     static QString unavailableReason(FileSystem fileSystem = NoFileSystem);
 
-    // folder: an existing one of the test's own. name tells several apart in one folder.
+    // folder: an existing folder of the test. name distinguishes several mounts in one folder.
     LoopMount(const QString &folder, Options options, const QString &name = QStringLiteral("volume"));
     ~LoopMount();
     LoopMount(const LoopMount &) = delete;
     LoopMount &operator=(const LoopMount &) = delete;
 
     bool isReady() const { return m_ready; }
-    // Of the last step that failed.
+    // The error of the last step that failed.
     QString error() const { return m_error; }
 
     QString image() const { return m_image; }
@@ -50,7 +50,7 @@ public:
     QString device() const { return m_device; }
     // The folder on which the file system is mounted, without a slash at the end.
     QString mountPoint() const { return m_mountPoint; }
-    // Asks the system: the program under test may have unmounted it.
+    // Asks the system, because the program under test may have unmounted it.
     bool isMounted() const;
     // Whether the loop device writes to the image past the page cache.
     bool hasDirectIo() const { return m_directIo; }
@@ -58,30 +58,30 @@ public:
     bool mount() { return mount(m_options.mountOptions); }
     bool mount(const QString &mountOptions);
 
-    // Fails while something is open on it. Success when nothing is mounted there (any more).
+    // Fails while a file on it is open. Succeeds when no file system is mounted there (any more).
     bool unmount();
 
-    // Changes options of the mount that exists, as "ro".
+    // Changes options of the existing mount, such as "ro".
     bool remount(const QString &mountOptions);
 
-    // Unmounts and detaches; the image stays. True as well when there is nothing left to do.
+    // Unmounts and detaches; the image stays. Also true when both were already done.
     bool close();
 
-    // How often the marker stands in the raw image, overlapping ones not counted twice; -1 when it cannot be
-    // read. Writes out what the mounted file system still holds back; for a proof unmount first.
+    // The number of non-overlapping occurrences of the marker in the raw image; -1 when the image cannot be
+    // read. Flushes the mounted file system first; as proof it counts only after an unmount.
     qint64 countInImage(const QByteArray &marker);
 
-    // Bytes of the raw image, and the other way round past the mounted file system.
+    // Reads bytes from the raw image, or writes them, past the mounted file system.
     QByteArray readImage(qint64 offset, qint64 size);
     bool writeImage(qint64 offset, const QByteArray &bytes);
-    // How often the device was told to empty its cache; -1 when the kernel does not say.
+    // The number of cache flushes sent to the device; -1 when the kernel does not report it.
     qint64 flushCount() const;
     static qint64 defaultSize(FileSystem fileSystem);
 
 private:
     static QString makeProgram(FileSystem fileSystem);
 
-    // The administrator's folders are not in everybody's PATH, root's own shell included.
+    // Searches the administrator's folders too, because PATH may lack them even for root.
     static QString executable(const QString &program);
     bool failed(const QString &text);
     static bool execute(const QString &program, const QStringList &arguments, QString *output,
@@ -91,7 +91,7 @@ private:
     bool attach();
     bool makeFileSystem();
 
-    // The number may belong to somebody else by now if the device was detached meanwhile.
+    // False once the device was detached, since its number may then belong to another loop device.
     bool isStillOurs() const;
     bool detach();
     void syncMounted();

@@ -4,7 +4,7 @@
 
 #include <memory>
 
-// Drives that claim more than they do. Volumes pass through unchanged unless stated otherwise.
+// Drives that report success without doing the work. Volumes pass through unchanged unless stated otherwise.
 
 // The Nth write (from 1) to a drive or volume is answered with success and dropped.
 class DroppingDevices : public platform::ForwardingDevices
@@ -28,9 +28,8 @@ private:
     std::shared_ptr<int> m_countdown;
 };
 
-// A drive that states a larger size than its medium has. Behind the end of the medium it answers every
-// transfer with success: Wrapping begins again at the start, Hollow drops writes and delivers bytes of its
-// own.
+// A drive that reports a larger size than its medium has. Behind the end of the medium every transfer
+// succeeds: Wrapping continues at the start, Hollow drops writes and delivers bytes of its own.
 class OverstatedDevices : public platform::ForwardingDevices
 {
 public:

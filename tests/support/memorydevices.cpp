@@ -137,7 +137,7 @@ protected:
     qint32 m_sectorSize;
 
 private:
-    // Goes through the stretches of media that the range lies on; what is behind the end is left out.
+    // Visits the parts of the media that hold the range; bytes beyond the end are left out.
     template <typename Copy>
     qint64 transfer(qint64 size, Copy copy)
     {

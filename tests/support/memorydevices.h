@@ -19,12 +19,12 @@ struct MemoryDriveVolume
     QString name;
     QList<platform::Extent> extents;
     bool mounted = true;
-    int failingLocks = 0; // attempts that fail before one succeeds; below 0: every one fails
+    int failingLocks = 0; // failed attempts before a success; negative: all fail
     platform::ErrorCode lockError = platform::AccessDenied;
     platform::ErrorCode dismountError = platform::NoError;
     platform::ErrorCode releaseError = platform::NoError;
-    bool staysInSight = false; // released, it is locked and listed all the same
-    bool isLost = false;       // released, it cannot be given back
+    bool staysInSight = false; // stays locked and listed when released
+    bool isLost = false;       // cannot be given back after release
     QString label;
     QByteArray fileSystem = "ext4";
     qint64 freeBytes = 0;
@@ -33,7 +33,7 @@ struct MemoryDriveVolume
     qint64 length() const;
 };
 
-// A drive in memory. Its medium is whole sectors, which may be more or fewer than the size it states.
+// A drive in memory. Its medium consists of whole sectors and may be larger or smaller than the stated size.
 struct MemoryDrive
 {
     MemoryDrive() = default;
@@ -54,14 +54,14 @@ struct MemoryDrive
     qint64 unreachableBytes = 0; // behind the last whole sector
     platform::DeviceUse use;
     QByteArray medium;
-    // What a write at the end of the medium answers; NoError stands for success with 0 bytes.
+    // The answer to a write at the end of the medium; NoError stands for success with 0 bytes.
     platform::ErrorCode endError = platform::SectorNotFound;
 };
 
-// Drives and volumes in memory, with the rules of the real ones: sectors and page-aligned buffers, exclusive
-// opening, the identity check, locks that end with their handle, and no write below a mounted file system.
-// Counts what is open and locked. Outlives its handles; drives and volumes are changed from outside only
-// while nothing is open.
+// Drives and volumes in memory that follow the rules of real ones: whole sectors, page-aligned buffers,
+// exclusive opening, the identity check, locks that end with their handle, and no writes below a mounted
+// file system. They count open handles and locks. The object outlives its handles; a test changes drives and
+// volumes only while none is open.
 class MemoryDevices : public platform::Devices
 {
 public:
@@ -79,12 +79,12 @@ public:
     // Called in the writing thread before each write; set while nothing is open.
     std::function<void()> beforeWrite;
 
-    // Since construction.
+    // The number since construction.
     int openings() const { return count(m_openings); }
     int lockAttempts() const { return count(m_lockAttempts); }
     int dismounts() const { return count(m_dismounts); }
     int writes() const { return count(m_writes); }
-    // Of volumes that are released now, and how often they were given back or not.
+    // The drives whose volumes are released now, and how often volumes were given back or kept.
     int releasedDrives() const { return count(m_releasedDrives); }
     int restores() const { return count(m_restores); }
     int keeps() const { return count(m_keeps); }

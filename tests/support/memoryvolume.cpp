@@ -196,7 +196,7 @@ platform::Result<QByteArray> MemoryVolume::readBeginning(const QString &, qint64
 
 platform::Result<std::unique_ptr<QFileDevice>> MemoryVolume::openForAppending(const QString &path)
 {
-    // What is appended to is the log, which lies beside this volume.
+    // Only the log is appended to, and it lies beside this volume.
     static const std::unique_ptr<platform::Platform> machine = platform::createPlatform({});
     return machine->files().openForAppending(path);
 }
@@ -376,7 +376,7 @@ bool MemoryVolume::isFolder(const QString &path) const
 platform::Result<qint64> MemoryVolume::append(const QString &path, const quint8 *data, qint64 size)
 {
     const auto entry = entries.find(path);
-    if (entry == entries.end()) { // unmounted below the open file, which goes on taking data
+    if (entry == entries.end()) { // unmounted below the open file, which still accepts data
         writes.append({path, size, data[0], data[size - 1]});
         return size;
     }

@@ -16,11 +16,10 @@
 #include <optional>
 
 // Volumes of any size that keep names and lengths but no content, so that gigabytes are filled in
-// milliseconds. A write that does not fit is cut short, the next one fails with DiskFull. Everything else
-// that a test may want to see is recorded: the writes, the lengths at which files were closed, and what was
-// deleted before it was flushed.
+// milliseconds. A write that does not fit is cut short, and the next one fails with DiskFull. The volumes
+// record the writes, the lengths of files when they were closed, and files deleted before a flush.
 //
-// Used by one thread at a time; hooks run on the thread that makes the call.
+// One thread at a time; hooks run on the thread of the caller.
 class MemoryVolume : public platform::Files, public platform::Folders
 {
 public:
@@ -35,7 +34,7 @@ public:
     {
         QString path;
         qint64 size = 0;
-        quint8 first = 0; // bytes of the content
+        quint8 first = 0; // first byte of the content
         quint8 last = 0;
     };
     struct Closed
@@ -46,39 +45,39 @@ public:
         bool operator==(const Closed &) const = default;
     };
 
-    // What tests set. Free bytes by root, which ends in "/".
+    // Set by tests. Free bytes by root; a root ends in "/".
     QMap<QString, qint64> freeBytes;
     QMap<QString, Entry> entries;                                     // by full path
     std::function<void(FaultPlan::Kind, const QString &path)> onCall; // before every call
-    std::optional<platform::ErrorCode> answerOfSpace;                 // space() of every path fails
-    int storedPercent = 100;              // of what is written, by a file system that compresses
+    std::optional<platform::ErrorCode> answerOfSpace;                 // failure of space() for every path
+    int storedPercent = 100;              // stored share of the written bytes, as with compression
     int releaseDelay = 0;                 // calls of space() until the room of deleted files is free again
     qint64 largestFile = 0;               // 0: any size
-    platform::ElsewhereReasons elsewhere; // what contentPlace() tells of every path
+    platform::ElsewhereReasons elsewhere; // answer of contentPlace() for every path
     platform::Result<int> snapshotAnswer = failure(platform::NotSupported);
     QStringList unremovable;           // remove() fails with SharingViolation
     QMap<QString, QString> identities; // of the volumes, by root
-    QStringList heldByOthers;          // folders that somebody else has claimed
+    QStringList heldByOthers;          // folders claimed by another process
     bool knowsClaims = true;           // whether folders can be claimed at all
 
-    // What tests look at.
+    // Read by tests.
     QList<Write> writes;
     QList<Closed> closed;         // in the order of closing
     QStringList removed;          // files
-    QStringList removedUnflushed; // of these, what had not reached the medium
+    QStringList removedUnflushed; // removed files with unflushed bytes
     QStringList hidden;
     QStringList refusedRemovals;
-    QStringList createdFolders; // as asked for, without parents
-    QStringList faulted;        // the paths of the calls that the plan made fail
+    QStringList createdFolders; // as requested, without parents
+    QStringList faulted;        // paths of the calls made to fail
     int calls = 0;
     int openHandles = 0;
 
     void setPlan(FaultPlan *plan) { m_plan = plan; }
 
-    // From this call on, counted over all kinds, the volume is gone: every call on it fails.
+    // From this call on, counted over all kinds, every call on the volume fails as if it were gone.
     void vanishAtCall(int call, platform::ErrorCode error);
-    // From now on the volume is unmounted: what was on it is out of sight, and its root is a folder of
-    // another volume with that much room.
+    // Unmounts the volume. Its files are hidden from now on, and its root is a folder of another volume with
+    // that much free space.
     void unmount(const QString &root, qint64 freeOfParent);
     void addFile(const QString &path, qint64 size);
     void addFolder(const QString &path);
@@ -108,10 +107,10 @@ public:
     platform::Status rename(const platform::EntryPath &, const platform::EntryPath &) override;
     platform::Status remove(const platform::EntryPath &place) override;
 
-    // Folders. What is anchored is reached by its path here.
+    // Folders. Anchored entries are reached by path.
     platform::Result<std::unique_ptr<platform::AnchoredFolder>> anchor(const QString &folder) override;
     platform::Status forEachEntry(const platform::EntryPath &folder, const Visitor &visit) override;
-    // No folder is ever held here.
+    // Folders are never held here.
     platform::Result<std::shared_ptr<platform::FolderHandle>> hold(const QString &folder) override;
     platform::Result<std::shared_ptr<platform::FolderHandle>>
     holdIn(const std::shared_ptr<platform::FolderHandle> &parent, const QString &name,
@@ -137,7 +136,7 @@ private:
     QString rootOf(const QString &path) const;
     bool isFolder(const QString &path) const;
 
-    // Files set by the test before the job count as used already.
+    // freeBytes already excludes the files that the test set before the job.
     qint64 freeOn(const QString &path) const { return freeBytes.value(rootOf(path)); }
 
     platform::Result<qint64> append(const QString &path, const quint8 *data, qint64 size);

@@ -6,7 +6,8 @@
 #include <QStringList>
 #include <QtGlobal>
 
-// Takes what goes to the framework's message output, from any thread, instead of the console. One at a time.
+// Captures the output of the framework's message handler, from any thread, instead of the console. One
+// instance at a time.
 class MessageCapture
 {
 public:

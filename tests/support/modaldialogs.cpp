@@ -13,7 +13,7 @@ ModalDialogs::ModalDialogs()
 void ModalDialogs::serve()
 {
     auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
-    // One that was in front before another came is no new one when that has gone.
+    // A dialog already served may be in front again after a later one was closed.
     if (!dialog || m_served.contains(dialog))
         return;
     m_served.append(dialog);
@@ -23,7 +23,8 @@ void ModalDialogs::serve()
         dialog->reject();
         return;
     }
-    // Not from here: an answer may open the next dialog, and a timer does not fire within itself.
+    // The answer runs queued, because it may open the next dialog and a timer does not fire within its own
+    // handler.
     QMetaObject::invokeMethod(
         dialog, [dialog, answer = answers.takeFirst()] { answer(*dialog); }, Qt::QueuedConnection);
 }

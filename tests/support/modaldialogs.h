@@ -9,9 +9,9 @@
 
 #include <functional>
 
-// Serves the modal dialogs of the program's own, which run an event loop until they are closed: each new one
-// goes to the next answer in the list. One without an answer is rejected and counted, so that a test fails
-// and does not hang.
+// Serves the program's own modal dialogs, which run an event loop until they are closed. Each new dialog is
+// handled by the next answer in the list. A dialog without an answer is rejected and counted, so that the
+// test fails instead of hanging.
 class ModalDialogs : public QObject
 {
 public:
@@ -21,7 +21,7 @@ public:
 
     QList<Answer> answers;
     int unexpected = 0;
-    QStringList titles; // of all that were shown
+    QStringList titles; // of all dialogs shown
 
 private:
     void serve();

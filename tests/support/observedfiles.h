@@ -10,27 +10,28 @@
 #include <functional>
 #include <memory>
 
-// One call of the file operations, or of a handle that they opened.
+// One call of the file operations or of a file handle.
 struct FileCall
 {
     FaultPlan::Kind kind = FaultPlan::Open;
-    QString path;                                            // of the file, for handles too
+    QString path;                                            // of the file, also for handles
     platform::OpenMode mode = platform::OpenMode::Overwrite; // of Open and of handles
     QString to = {};                                         // Rename
     qint64 position = 0;                                     // Seek
-    qint64 size = 0;                                         // Read, Write: asked for
+    qint64 size = 0;                                         // Read, Write: requested size
 };
 
-// Writes down every call and lets a test do something before it: wait, look at the file, or answer in its
-// place. Thread-safe; hook and wrap are set before the calls begin.
+// Records every call and lets a test act before it: wait, look at the file, or answer in its place.
+// Thread-safe; hook and wrap are set before the calls begin.
 class ObservedFiles : public platform::ForwardingFiles
 {
 public:
     using ForwardingFiles::ForwardingFiles;
 
-    // Called before each call, outside the lock. A failure is the answer, and the call is not passed on.
+    // Called before each call, outside the lock. A failure becomes the answer, and the call is not passed
+    // on.
     std::function<platform::Status(const FileCall &call)> hook;
-    // Puts a handle of the test's own in the place of the one that was opened.
+    // Replaces the opened handle by one of the test.
     std::function<std::unique_ptr<platform::FileHandle>(std::unique_ptr<platform::FileHandle> handle,
                                                         const FileCall &)>
         wrap;

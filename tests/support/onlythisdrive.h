@@ -6,8 +6,8 @@
 #include <QString>
 #include <QStringList>
 
-// Of all drives and volumes of the machine, those of one loop device that a test owns: nothing else is
-// listed, asked or opened.
+// Shows only the drives and volumes of one loop device that a test owns. No other device is listed, queried
+// or opened.
 class OnlyThisDrive : public platform::ForwardingDevices
 {
 public:

@@ -27,7 +27,7 @@ LoopMount::Options bareDrive()
     return options;
 }
 
-// One entry of the table at the beginning of the drive.
+// One entry of the partition table.
 QByteArray tableEntry(qint64 start)
 {
     QByteArray entry(16, '\0');
@@ -39,10 +39,10 @@ QByteArray tableEntry(qint64 start)
     return entry;
 }
 
-// The fields of the table that tell one mount from another, and not one time from another.
+// The fields of the mount table that identify a mount and do not differ between runs.
 QString comparable(const QString &line)
 {
-    // Those of the mounts, and of a file system without a device of its own.
+    // The numbers of the mounts, and the device number of a file system without a device.
     static const QRegularExpression numbers(QStringLiteral("^\\d+ \\d+ (0:\\d+)?"));
     static const QRegularExpression peers(QStringLiteral("(shared|master|propagate_from):\\d+"));
     return QString(line).remove(numbers).replace(peers, QStringLiteral("\\1"));
@@ -104,7 +104,7 @@ QStringList PartitionedLoop::mounts() const
     return lines;
 }
 
-// What hides others goes first; a mount that is passed on goes with another.
+// Unmounts the upper mounts first; a propagated mount disappears with its original.
 void PartitionedLoop::unmountAll() const
 {
     for (int left = 20; left > 0 && !mounts().isEmpty(); --left) {
@@ -117,7 +117,7 @@ void PartitionedLoop::unmountAll() const
         QTest::qFail(qPrintable(QStringLiteral("left mounted: ") + mounts().join(u'\n')), __FILE__, __LINE__);
 }
 
-// The kernel need not know how to read a table.
+// Adds the partition by a call, because the kernel may lack support for partition tables.
 bool PartitionedLoop::addPartition(int number, qint64 start)
 {
     blkpg_partition partition{};

@@ -7,8 +7,8 @@
 #include <QString>
 #include <QStringList>
 
-// A loop device of a test's own with two partitions, an ext4 file system in each, and room before, between
-// and behind them. Nothing is mounted at first. Destruction unmounts what still is.
+// A loop device owned by a test. It has two partitions with an ext4 file system each, and free space before,
+// between and behind them. Nothing is mounted at first. Destruction unmounts the remaining mounts.
 //
 //     if (const QString reason = PartitionedLoop::unavailableReason(); !reason.isEmpty())
 //         QSKIP(qPrintable(reason));
@@ -34,15 +34,15 @@ public:
     QString device() const { return m_drive.device(); }
     // The node of partition 1 or 2.
     QString node(int partition) const { return device() + u'p' + QString::number(partition); }
-    // A folder of that name beside the image, made at first use.
+    // The path of a folder beside the image, made at first use.
     QString folder(const QString &name) const;
 
-    // mount with these arguments.
+    // Runs mount with these arguments.
     static bool mount(const QStringList &arguments);
-    // A partition on a folder.
+    // Mounts a partition on a folder.
     bool mount(int partition, const QString &place, const QString &options = {}) const;
 
-    // What the table of mounts says of everything below the folder, in order; without the numbers, which
+    // The entries of the mount table below the folder, in order. The numbers are left out, because they
     // differ from mount to mount.
     QStringList mounts() const;
     void unmountAll() const;

@@ -6,8 +6,8 @@
 #include <QMap>
 #include <QString>
 
-// Reads back what Qt's PDF writer wrote: objects by the tables at the end of the file, newest first, and the
-// text of the page as a reader program extracts it, through the fonts' own tables.
+// Reads the output of Qt's PDF writer. It takes objects from the tables at the end of the file, newest
+// first, and the text of the page through the fonts' tables, as a reader program does.
 class PdfReader
 {
 public:
@@ -25,7 +25,7 @@ public:
 
     QByteArray stream(int number) const;
 
-    // What the page shows, also where it is cut or lies below the paper. A line for each piece.
+    // The text on the page, including clipped text and text below the paper. One line for each piece.
     QString text() const;
 
 private:

@@ -8,7 +8,7 @@
 #include <functional>
 #include <memory>
 
-// Files that lie where a test says, all else being as below. One thread at a time.
+// Files with a content place set by the test; all other calls are passed on. One thread at a time.
 class PlacedFiles : public platform::ForwardingFiles
 {
 public:
@@ -19,7 +19,7 @@ public:
         , m_place(std::move(place))
     {}
 
-    // The paths that contentPlace() was asked about, of handles not.
+    // The paths passed to contentPlace(); queries on handles are left out.
     QStringList asked;
 
     platform::Result<std::unique_ptr<platform::FileHandle>>

@@ -3,7 +3,7 @@
 #include <QByteArray>
 #include <QString>
 
-// A mount that needs no device, taken back on destruction. Needs root.
+// A mount without a device, unmounted on destruction. Needs root.
 class PlainMount
 {
 public:

@@ -5,8 +5,8 @@
 
 #include <memory>
 
-// Devices whose power fails right after the last flush: what a handle wrote after that is gone from the
-// medium when the handle closes. Until then it can be read back, as it can from a drive's own cache.
+// Devices whose power fails right after the last flush. Bytes written after that flush disappear from the
+// medium when the handle closes. Until then they can be read back, as from a drive's own cache.
 class PowerCutDevices : public platform::ForwardingDevices
 {
 public:

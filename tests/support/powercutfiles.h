@@ -11,28 +11,28 @@
 #include <memory>
 #include <vector>
 
-// Files on drives whose power can fail at any moment. What was written is on the medium when its file was
-// flushed, in a group when that was closed; cutPower() takes back everything else. The groups are its own, so
-// that they are there on every system. Thread-safe; the functions are set before the calls begin.
+// Files on drives whose power can fail at any moment. Written bytes reach the medium when their file is
+// flushed or, in a group, when the group is closed; cutPower() reverts all others. The groups are simulated,
+// so that they exist on every system. Thread-safe; the functions are set before the calls begin.
 class PowerCutFiles : public platform::ForwardingFiles
 {
 public:
     using ForwardingFiles::ForwardingFiles;
 
     bool hasGroups = true;
-    // What tells the file systems apart, by the path of a folder: one group each.
+    // The name of the file system that holds a folder. Each file system has one group.
     std::function<QString(const QString &folder)> fileSystemOf = [](const QString &) { return QString(); };
-    // Asked when a group is closed. After a failure nothing of it is on the medium.
+    // Called when a group is closed. After a failure none of its bytes are on the medium.
     std::function<platform::Status(const QString &fileSystem)> onClose;
 
     // Files with bytes that are not on the medium.
     QStringList unsettled() const;
-    // What was done too early: to files with such bytes, or while an earlier group had some.
+    // Operations done too early: on files with such bytes, or while an earlier group had some.
     QStringList premature() const;
     int groupsBegun() const;
     int groupsOpen() const;
 
-    // Files that are no longer there are left out.
+    // Files that no longer exist are skipped.
     void cutPower();
 
     platform::Result<std::unique_ptr<platform::FileHandle>>
@@ -54,14 +54,14 @@ private:
         qint64 position = 0;
         QByteArray before;
         quint64 opening = 0;            // until its flush
-        std::shared_ptr<Group> group{}; // without one the flush is the end of it
+        std::shared_ptr<Group> group{}; // null: the flush settles the file
     };
 
     void note(const QString &what, const QString &path);
     void write(Change change);
     void flush(quint64 opening);
 
-    mutable QMutex m_mutex; // guards what follows
+    mutable QMutex m_mutex; // guards the members below
     std::vector<Change> m_changes;
     QStringList m_premature;
     quint64 m_openings = 0;

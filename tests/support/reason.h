@@ -6,7 +6,7 @@
 
 #include <optional>
 
-// The words of a refusal; empty without one.
+// The text of a refusal; empty without one.
 inline QString reasonOf(const std::optional<Refusal> &refusal)
 {
     return refusal ? refusal->message : QString();

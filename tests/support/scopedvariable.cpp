@@ -24,7 +24,7 @@ ScopedVariable::~ScopedVariable()
 void ScopedVariable::set(const QByteArray &value, bool isSet)
 {
 #ifdef Q_OS_WIN
-    // The narrow calls know the characters of one code page only.
+    // The narrow calls are limited to the characters of one code page.
     const std::wstring text = QString::fromUtf8(value).toStdWString();
     ::_wputenv_s(QString::fromLatin1(m_name).toStdWString().c_str(), isSet ? text.c_str() : L"");
 #else

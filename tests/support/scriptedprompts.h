@@ -9,8 +9,8 @@
 
 #include <functional>
 
-// Answers in the place of dialogs. What was asked is kept; a question without an answer left is answered as
-// if the user had closed the dialog, so a test that forgets one fails and does not hang.
+// Answers in place of dialogs and records the questions. A question without an answer left is answered as if
+// the user had closed the dialog, so that a forgotten answer fails the test instead of hanging it.
 class ScriptedPrompts : public Prompts
 {
 public:
@@ -20,14 +20,14 @@ public:
     QStringList folderAnswers;
     std::function<bool(QPrinter &)> printAnswer;
 
-    QList<Box> boxes;      // as they were shown
+    QList<Box> boxes;      // in the order shown
     QStringList asked;     // captions of the file, folder and print dialogs
-    QStringList proposals; // of fileToSave, and starts of folder
+    QStringList proposals; // of fileToSave, and start folders of folder
     QStringList filters;
 
     // Called while a box is shown, before it is answered.
     std::function<void()> whileShown;
-    bool isWithdrawn = false; // the latest box, which then was answered as if closed
+    bool isWithdrawn = false; // the latest box was withdrawn and answered as if closed
 
     QMessageBox::StandardButton show(QWidget *, const Box &box) override;
     void withdraw() override { isWithdrawn = true; }

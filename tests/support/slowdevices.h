@@ -5,7 +5,7 @@
 #include <chrono>
 #include <thread>
 
-// Devices that take a time for every transfer and flush.
+// Devices that delay every transfer and flush.
 class SlowDevices : public InterposedDevices
 {
 public:

@@ -10,7 +10,7 @@ using namespace platform;
 
 namespace {
 
-// A stream has the number of its file.
+// A stream has the identity of its file.
 class StreamHandle : public ForwardingFileHandle
 {
 public:

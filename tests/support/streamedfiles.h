@@ -9,15 +9,15 @@
 #include <functional>
 #include <memory>
 
-// Files and folders with streams: "@one", a file of its own beside "a" to the machine, is a stream of "a". It
-// stays when "a" is removed, so that a test sees what became of it.
+// Files and folders with streams. "@one", a separate file beside "a" on the machine, is a stream of "a". It
+// stays when "a" is removed, so that a test can inspect it afterwards.
 class StreamedFiles : public platform::ForwardingFiles
 {
 public:
     using ForwardingFiles::ForwardingFiles;
 
-    QStringList unlistable; // names of entries whose streams nobody tells
-    // Puts a handle of the test's own in the place of that of a stream.
+    QStringList unlistable; // names of entries whose streams cannot be listed
+    // Replaces the handle of a stream by one of the test.
     std::function<std::unique_ptr<platform::FileHandle>(std::unique_ptr<platform::FileHandle> opened)> wrap;
 
     platform::Result<QList<platform::NamedStream>> namedStreams(const platform::EntryPath &entry) override;

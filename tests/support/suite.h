@@ -12,14 +12,14 @@ namespace suites {
 
 using Run = int (*)(int argc, char *argv[]);
 
-// The arguments of a run are those of the program without the suite's name; the result is its exit code.
+// The run function gets the program's arguments without the suite's name and returns its exit code.
 class Registration
 {
 public:
     Registration(const char *className, Run run);
 };
 
-// For suites that need no event loop and no name of the program.
+// For suites that need no event loop and no program name.
 struct NoApplication
 {
     NoApplication(int &, char **) {}
@@ -39,6 +39,6 @@ int run(int argc, char *argv[])
 
 #define QUORVEX_SUITE(Suite, Application) QUORVEX_SUITE_RUN(Suite, (&suites::run<Suite, Application>))
 
-// A suite with a function of its own, which may also be what the suite starts as another process.
+// Registers a suite with its own run function, which may also serve as the process that the suite starts.
 #define QUORVEX_SUITE_RUN(Suite, function)                                                                   \
     static const suites::Registration registrationOf_##Suite(#Suite, function);

@@ -10,7 +10,7 @@
 
 namespace {
 
-// By name, which is the class's in lower case.
+// The suites by name, which is the class name in lower case.
 std::map<QByteArray, suites::Run> &registered()
 {
     static std::map<QByteArray, suites::Run> suites;
@@ -26,8 +26,8 @@ int usage(const char *program, const char *wrong)
     return 2;
 }
 
-// Each in a process of its own: what is one for the whole process (database, log, settings, environment) is
-// not handed from suite to suite.
+// Runs each suite in its own process, so that process-wide state (database, log, settings, environment) does
+// not pass from suite to suite.
 int runAll(int argc, char *argv[])
 {
     const QCoreApplication application(argc, argv);

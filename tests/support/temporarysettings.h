@@ -9,7 +9,7 @@
 
 #include <memory>
 
-// A settings store of the test's own in the place of the user's, empty at first.
+// A settings store of the test that replaces the user's; empty at first.
 class TemporarySettings
 {
 public:

@@ -18,7 +18,7 @@ void fail(const char *what, const QFile &file, const TestPlace &place)
     QTest::qFail(qPrintable(message), place.file, place.line);
 }
 
-// What is missing above is made here; where that fails, the file cannot be opened either.
+// Makes missing parent folders. Where that fails, the file cannot be opened either.
 bool openNew(QFile &file)
 {
     QDir().mkpath(QFileInfo(file.fileName()).path());

@@ -3,27 +3,27 @@
 #include <QByteArray>
 #include <QString>
 
-// Files as tests make and read them, by other means than what is tested. What cannot be done fails the
-// running test, at the line that wanted it.
+// Makes and reads files by other means than the tested code. A failure fails the running test at the line of
+// the call.
 
-// Where in a test something is wanted; to be left as it is by callers.
+// The line of the call; callers leave it at its default.
 struct TestPlace
 {
     const char *file = __builtin_FILE();
     int line = __builtin_LINE();
 };
 
-// All three make what is missing above, replace what the file held, and answer the path.
+// All three make missing parent folders, replace the content of the file and return its path.
 QString writeFile(const QString &path, const QByteArray &content, const TestPlace &place = {});
-// So many zeros, which take no room where the file system has holes.
+// Writes this many zeros, which take no space where the file system supports holes.
 QString writeZeros(const QString &path, qint64 size, const TestPlace &place = {});
 #ifdef Q_OS_UNIX
-// The content is on the medium, not in a cache, when this is done.
+// The content is on the medium, not in a cache, when the function returns.
 QString writeThrough(const QString &path, const QByteArray &content, const TestPlace &place = {});
 #endif
 
 QByteArray contentOf(const QString &path, const TestPlace &place = {});
-// With a line feed for the line ends of this system.
+// The text with this system's line ends replaced by line feeds.
 QByteArray textOf(const QString &path, const TestPlace &place = {});
-// Empty for a file that is not there, or not yet.
+// Empty for a file that does not exist (yet).
 QByteArray contentIfAny(const QString &path, const TestPlace &place = {});

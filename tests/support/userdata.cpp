@@ -48,7 +48,7 @@ void userdata::clear()
 #ifdef Q_OS_WIN
     if (!isOfTests())
         qFatal("the data folder is that of a user");
-    QFile::remove(folder()); // which a test may have put there in its place
+    QFile::remove(folder()); // a test may have put a file in place of the folder
     QDir(folder()).removeRecursively();
 #endif
 }

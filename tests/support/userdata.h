@@ -2,24 +2,25 @@
 
 #include <QString>
 
-// The folder in which the program keeps the user's data, and that of a test in its place.
+// The folder in which the program keeps the user's data, and its replacement for tests.
 namespace userdata {
 
-// The names that the program gives itself, of which the folder's path is made.
+// Sets the names from which the program derives the folder's path.
 void useProgramIdentity();
 
-// What the registry of Windows says of the user's folders holds no longer for this process; elsewhere
-// variables say it, which processes that a test starts inherit. See moveTo().
+// On Windows, overrides the user's folders in the registry for this process. Elsewhere they come from
+// variables, which processes started by a test inherit. See moveTo().
 void hide();
 
-// From now on the folder lies below that one; on Windows below the one that Qt has for tests.
+// Moves the folder below home; on Windows below Qt's own test folder.
 void moveTo(const QString &home);
 
 QString folder();
-// Whether it is not that of the user of this account.
+// Whether the folder is not that of this account's user.
 bool isOfTests();
 
-// On Windows all runs of a program share the folder: what others left in it goes. Elsewhere it is new.
+// Removes leftovers of other runs, since on Windows all runs of a program share the folder. Elsewhere the
+// folder is new.
 void clear();
 
 } // namespace userdata

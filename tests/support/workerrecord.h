@@ -9,11 +9,11 @@
 
 #include <functional>
 
-// What a worker said, in order, from whatever thread. Outlives the worker's job.
+// Records the messages of a worker in order, from any thread. Outlives the worker's job.
 class WorkerRecord
 {
 public:
-    // Called with every line, in the thread that said it, before it is recorded.
+    // Called with every line before it is recorded, on the thread that sent it.
     std::function<void(const QString &line)> onLine;
 
     explicit WorkerRecord(BaseWipeWorker &worker) { attach(worker); }
@@ -25,7 +25,7 @@ public:
     QStringList lines() const;
     QList<int> percents() const;
     QList<qint64> bytes() const;
-    // How many finished() there were, and what the last one carried.
+    // The number of finished() signals, and the arguments of the last one.
     int finishedCount() const;
     bool succeeded() const;
 

@@ -9,7 +9,7 @@
 
 #include <cstring>
 
-// What the system sends with WM_DROPFILES; whoever gets it frees it.
+// The data that the system sends with WM_DROPFILES. The receiver frees it.
 inline HDROP droppedFiles(const QStringList &paths)
 {
     QString list;

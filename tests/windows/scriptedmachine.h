@@ -9,7 +9,7 @@
 #include <QTemporaryDir>
 #include <QtEndian>
 
-// Replies put together byte by byte, as the storage stack lays them out.
+// Replies built byte by byte, in the layout of the storage stack.
 namespace replies {
 
 template <typename Number>
@@ -27,7 +27,7 @@ QByteArray length(qint64 bytes);
 // A SATA drive with a padded serial number.
 QByteArray descriptor(const QByteArray &serialNumber);
 
-// Both flags have the same place.
+// A reply with a flag; both flags have the same offset.
 QByteArray flag(bool value);
 // One designator of the unit, in hexadecimal digits.
 QByteArray naaIdentifier(const QByteArray &digits);
@@ -35,15 +35,15 @@ QByteArray naaIdentifier(const QByteArray &digits);
 QByteArray extentsHeader(quint32 count);
 QByteArray extent(qint32 disk, qint64 offset, qint64 bytes);
 
-// A drive's partition table up to its first entry, and entries of it; the type of a GPT in hexadecimal
-// digits.
+// A drive's partition table up to its first entry, and its entries. The type of a GPT entry is given in
+// hexadecimal digits.
 QByteArray layout(quint32 style, quint32 count);
 QByteArray gptPartition(const QByteArray &type);
 QByteArray mbrPartition(quint8 type);
 
 } // namespace replies
 
-// Drive 3 and the volume E: on it, as the system presents them; below each a file of the test's own.
+// Drive 3 and its volume E: as the system presents them, each backed by a file of the test.
 class ScriptedMachine
 {
 public:
@@ -57,14 +57,14 @@ public:
     void script(const QString &path, DWORD code, const QByteArray &bytes);
     void refuse(const QString &path, DWORD code, DWORD error);
     void describe(const QByteArray &serialNumber = "W621ABCD", qint64 size = DriveSize);
-    // As a driver that answers nothing but transfers.
+    // Behaves like a driver that supports transfers only.
     void describeNothing(DWORD error = ERROR_NOT_SUPPORTED);
     void placeVolume(qint32 disk);
-    // A further volume, an image of its own behind it.
+    // Adds a volume with its own image.
     void addVolume(const QString &path, qint64 offset, qint32 disk = Number);
-    // Of any volume, in one piece.
+    // Sets the place of any volume, as a single extent.
     void place(const QString &path, qint64 offset, qint32 disk);
-    // What was done to the devices, in order, questions left out: "lock E:", "offline PhysicalDrive3".
+    // The operations on the devices in order, without queries: "lock E:", "offline PhysicalDrive3".
     QStringList deeds() const;
 
     static QByteArray bytes(const QString &image, qint64 offset, qint64 size);

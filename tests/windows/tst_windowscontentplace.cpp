@@ -33,7 +33,7 @@ struct Stream
     qint64 size = 0;
 };
 
-// As the system lays them out: each entry says where the next one begins, the last one says 0.
+// In the layout of the system: each entry holds the offset of the next one, the last holds 0.
 QByteArray streamEntries(const QList<Stream> &streams)
 {
     QByteArray all;
@@ -53,17 +53,17 @@ QByteArray streamEntries(const QList<Stream> &streams)
     return all;
 }
 
-// What the system says of every file.
+// The answers of the system for every file.
 struct Answers
 {
-    DWORD attributes = 0; // beside those that it has
+    DWORD attributes = 0; // in addition to the file's own
     DWORD volume = FILE_NAMED_STREAMS;
     bool isRemote = false;
     QList<Stream> streams{{u"::$DATA"_s, 3}};
     DWORD streamsError = ERROR_SUCCESS;
     DWORD integrityError = ERROR_INVALID_FUNCTION;
     WORD checksumAlgorithm = 0;
-    DWORD extentsError = ERROR_MORE_DATA; // more than one
+    DWORD extentsError = ERROR_MORE_DATA; // more than one extent
     DWORD backingError = NotExternallyBacked;
 };
 
@@ -119,7 +119,7 @@ BOOL WINAPI answeredControl(HANDLE, DWORD code, LPVOID, DWORD, LPVOID output, DW
     return TRUE;
 }
 
-// A stream is a file of its own here: "file%b" is the stream "b" of "file".
+// A stream is a separate file here: "file%b" is the stream "b" of "file".
 HANDLE WINAPI openedStream(LPCWSTR path, DWORD access, DWORD sharing, LPSECURITY_ATTRIBUTES security,
                            DWORD disposition, DWORD flags, HANDLE pattern)
 {
@@ -153,7 +153,7 @@ public:
 Q_DECLARE_METATYPE(Answers)
 Q_DECLARE_METATYPE(ElsewhereReasons)
 
-// What follows from what Windows says of a file.
+// The conclusions drawn from the answers of Windows about a file.
 class tst_WindowsContentPlace : public QObject
 {
     Q_OBJECT
@@ -218,7 +218,7 @@ void tst_WindowsContentPlace::places()
     const QString file = writeFile(m_folder.filePath(u"file"_s), "abc");
     const AnsweredCalls calls(answers);
     QCOMPARE(m_files.contentPlace(file).value(), (ContentPlace{expected, bytes}));
-    // A handle speaks of what was opened only.
+    // A handle answers for the opened file or stream only.
     ContentPlace own{expected, bytes};
     if (expected & Elsewhere::NamedStreams)
         own = {expected & ~ElsewhereReasons(Elsewhere::NamedStreams), bytes - 30};
@@ -227,7 +227,7 @@ void tst_WindowsContentPlace::places()
     QCOMPARE(contentOf(file), QByteArray("abc"));
 }
 
-// No content of its own, but streams have some.
+// The file itself is empty, but its streams have content.
 void tst_WindowsContentPlace::emptyFiles()
 {
     const QString file = writeFile(m_folder.filePath(u"empty"_s), {});
@@ -252,7 +252,7 @@ void tst_WindowsContentPlace::manyStreams()
     QCOMPARE(m_files.contentPlace(file).value(), (ContentPlace{Elsewhere::NamedStreams, 2000}));
 }
 
-// Each lies in a place of its own.
+// Each stream has its own place.
 void tst_WindowsContentPlace::streamsThatCanBeOpened()
 {
     const QString file = writeFile(m_folder.filePath(u"file"_s), "abc");
@@ -345,10 +345,11 @@ void tst_WindowsContentPlace::whatFails_data()
     QTest::newRow("opening") << int(Win32Faults::CreateFile_) << 1;
     QTest::newRow("information") << int(Win32Faults::GetFileInformation_) << 1;
     QTest::newRow("volume") << int(Win32Faults::GetVolumeInformation_) << 1;
-    QTest::newRow("streams") << int(Win32Faults::GetFileInformationEx_) << 2; // 1: whether it is remote
+    QTest::newRow("streams") << int(Win32Faults::GetFileInformationEx_)
+                             << 2; // 1: the query for a remote file
 }
 
-// Nobody may take an answer that is missing for a good one.
+// A missing answer must not count as a good one.
 void tst_WindowsContentPlace::whatFails()
 {
     QFETCH(int, call);

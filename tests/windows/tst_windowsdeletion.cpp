@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using namespace platform;
 
-// The engine's deletion over files that somebody else has open, as virus scanners do for moments.
+// The engine's deletion of files that another program has open, as virus scanners do briefly.
 class tst_WindowsDeletion : public QObject
 {
     Q_OBJECT
@@ -85,7 +85,7 @@ void tst_WindowsDeletion::otherErrorsAreNotTriedAgain()
     FileDeletion deletion([](std::chrono::milliseconds) { return true; });
     QVERIFY(!deletion.secureDeleteFile(m_file));
     QCOMPARE(calls.seen(Win32Faults::DeleteFile_), 1);
-    // Cut to nothing and renamed all the same.
+    // The file was still truncated and renamed.
     QCOMPARE(entries().size(), 1);
     QVERIFY(entries().constFirst().endsWith(u".tmp"_s));
     QCOMPARE(QFileInfo(m_folder->filePath(entries().constFirst())).size(), 0);

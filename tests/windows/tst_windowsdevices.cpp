@@ -37,7 +37,7 @@ struct Step
     Status status;
 };
 
-// Every operation once, as a job makes them; what a failed opening would have offered is left out.
+// Runs every operation once, as a job does; a failed opening skips the operations on its handle.
 class Scenario
 {
 public:
@@ -117,9 +117,9 @@ private:
 
 enum class Outcome {
     PassedOn,        // one operation failed, with the error
-    IdentityUnknown, // opening was refused, nothing is written
-    Fallback,        // a question that opening can do without
-    Closing,         // nobody is told
+    IdentityUnknown, // opening is refused and nothing is written
+    Fallback,        // opening can do without the answer
+    Closing,         // the failure is not reported
     Wrong,
 };
 
@@ -147,8 +147,8 @@ Outcome judge(int call, const std::vector<Step> &steps, quint32 error, const Scr
     return status.code == error ? Outcome::PassedOn : Outcome::Wrong;
 }
 
-// What a replaced ReadFile or WriteFile was asked for and how it answers; functions of the system's kind have
-// no other place for it.
+// The requests to a replaced ReadFile or WriteFile and its answers. They are global, because functions of
+// the system's type carry no state.
 struct Pieces
 {
     std::vector<DWORD> sizes;
@@ -178,7 +178,7 @@ BOOL WINAPI readPiece(HANDLE, LPVOID, DWORD size, LPDWORD done, LPOVERLAPPED)
     return takePiece(size, done);
 }
 
-// Addresses that nobody looks behind.
+// Addresses whose memory is never accessed.
 class ReservedPages
 {
 public:
@@ -347,9 +347,9 @@ void tst_WindowsDevices::transfersAreUnbufferedAndWrittenThrough()
         const auto beside = devices.openDrive(machine.identity, DriveAccess::BesideOwnVolumes);
         const auto volume = devices.openVolume(QStringLiteral("E:"), machine.identity);
         QVERIFY(drive.ok() && beside.ok() && volume.ok());
-        // The volume's look at its drive is closed again.
+        // The volume has closed its handle for querying the drive.
         QCOMPARE(machine.faults.openPaths().count(machine.drive), 2);
-        // Once more by the drive that is there for itself.
+        // Opened a second time by the separate drive object.
         QCOMPARE(machine.faults.openPaths().count(machine.volume), 2);
     }
     QCOMPARE(machine.faults.openHandles(), 0);
@@ -431,11 +431,11 @@ void tst_WindowsDevices::goodReplies()
         QCOMPARE(drive.value()->trimEnabled().value(), !value);
     }
     auto volume = devices.queryVolume(QStringLiteral("e:"));
-    QCOMPARE(volume.code(), quint32(FileNotFound)); // the script knows the capital only
+    QCOMPARE(volume.code(), quint32(FileNotFound)); // the script has the capital letter only
     volume = devices.queryVolume(QStringLiteral("E:"));
     const QList<Extent> expected{{3, 1048576, 4096}, {1, qint64(1) << 40, 8192}};
     QCOMPARE(volume.value()->extents(ManyExtents).value(), expected);
-    // Two do not fit where one was asked for, and the system says so.
+    // Two extents do not fit into a reply for one, and the system reports that.
     QCOMPARE(volume.value()->extents(OneExtent).code(), quint32(MoreData));
     machine.placeVolume(ScriptedMachine::Number);
     auto raw = devices.openVolume(QStringLiteral("E:"), machine.identity);
@@ -552,7 +552,7 @@ void tst_WindowsDevices::aDriveWithoutMediumIsNotReady()
     QCOMPARE(raw.value()->length().code(), quint32(NotReady));
 }
 
-// Another failure of the question says nothing about the medium: some drivers do not know it.
+// Other failures do not tell about the medium, because some drivers do not support the query.
 void tst_WindowsDevices::onlyWriteProtectionMakesADriveReadOnly()
 {
     ScriptedMachine machine;
@@ -583,7 +583,7 @@ void tst_WindowsDevices::membersOfSomethingAreNamed()
         QStringList{QStringLiteral("Storage Spaces")});
     QCOMPARE(holders(replies::layout(0, 4) + replies::mbrPartition(0x42) + QByteArray(3 * 144, '\0')),
              QStringList{QStringLiteral("LDM")});
-    // The question is one to a drive; a volume of it knows only what releases it.
+    // The query is one for drives. A volume only has the commands that release it.
     auto volume = devices.queryVolume(QStringLiteral("E:"));
     QCOMPARE(volume.value()->use().value().holders, QStringList());
     QCOMPARE(volume.value()->use().value().releaseCommands, QStringList{QStringLiteral("mountvol E: /P")});
@@ -609,7 +609,7 @@ void tst_WindowsDevices::aLayoutThatIsNotWholeMayHoldAnything()
              QStringList{QStringLiteral("partitions that the system does not tell")});
 }
 
-// As one whose first sector is damaged, or whose driver does not know the question.
+// Such a drive has a damaged first sector, or a driver without support for the query.
 void tst_WindowsDevices::aDriveThatTellsNoLayoutIsHeldByNobody()
 {
     ScriptedMachine machine;
@@ -628,8 +628,8 @@ void tst_WindowsDevices::everyFailureIsPassedOn_data()
         QTest::addRow("%u", error) << error;
 }
 
-// Each call of each entry fails in its turn. A question for the identity of a drive that is being opened
-// makes it count as not ready; those for the end and the sectors have a fallback.
+// Each call of each entry fails in turn. A failed query for the identity of a drive makes opening fail as
+// not ready; queries for the end and the sector size have a fallback.
 void tst_WindowsDevices::everyFailureIsPassedOn()
 {
     QFETCH(quint32, error);
@@ -657,8 +657,7 @@ void tst_WindowsDevices::everyFailureIsPassedOn()
     // 4 openings, 1 seek, 1 read, 2 writes, 2 flushes, 13 questions.
     const int flushesOfDrive = error == NotReady ? 1 : 0;
     QCOMPARE(outcomes[Outcome::PassedOn], 23 - flushesOfDrive);
-    // Of the drive its geometry, its descriptor and its name; of the volume its extents, and the drive behind
-    // it.
+    // The geometry, descriptor and name of the drive; the extents of the volume and its drive.
     QCOMPARE(outcomes[Outcome::IdentityUnknown], 3 + 1 + 4);
     QCOMPARE(outcomes[Outcome::Fallback], 2 * 2 + flushesOfDrive);
     QCOMPARE(outcomes[Outcome::Closing], 5);
@@ -741,7 +740,7 @@ void tst_WindowsDevices::aDriveThatNeverDescribedItselfIsAccepted()
     WindowsDevices devices;
     QVERIFY(devices.openDrive(machine.undescribed, DriveAccess::Alone).ok());
     QVERIFY(devices.openVolume(QStringLiteral("E:"), machine.undescribed).ok());
-    // Nor is it one that tells nothing because it is not there: its volume still names it.
+    // A drive that cannot be opened is accepted as well, because the volume still names it.
     machine.faults.removeDevice(machine.drive);
     QVERIFY(devices.openVolume(QStringLiteral("E:"), machine.undescribed).ok());
     QCOMPARE(devices.openVolume(QStringLiteral("E:"), machine.identity).code(), quint32(NotReady));
@@ -756,7 +755,7 @@ void tst_WindowsDevices::aVolumeElsewhereIsRefused()
     QCOMPARE(code(), quint32(NoError));
     machine.placeVolume(ScriptedMachine::Number + 1);
     QCOMPARE(code(), quint32(NotReady));
-    // It begins on the drive, but what it goes on to was not chosen.
+    // The volume begins on the drive and continues on a drive that was not chosen.
     machine.script(machine.volume, IOCTL_VOLUME_GET_VOLUME_DISK_EXTENTS,
                    replies::extentsHeader(2) + replies::extent(ScriptedMachine::Number, 0, 4096) +
                        replies::extent(1, 0, 4096));
@@ -836,7 +835,7 @@ void tst_WindowsDevices::anEndThatIsNotToldIsTheSystemsAffair()
     QCOMPARE(volume.value()->write(data.data(), data.size()).code(), error);
     QVERIFY(volume.value()->seek(ScriptedMachine::VolumeSize - Sector).ok());
     QCOMPARE(volume.value()->read(data.data(), data.size()).value(), Sector);
-    // The system may also answer a read at the end with a failure that says just that.
+    // The system may also answer a read at the end with an end-of-file failure.
     machine.faults.fail(Win32Faults::ReadFile_, 1, ERROR_HANDLE_EOF);
     QCOMPARE(volume.value()->read(data.data(), data.size()).value(), 0);
 }
@@ -865,7 +864,7 @@ void tst_WindowsDevices::misalignedTransfersAreRefused()
     QVERIFY(volume.value()->write(data.data() + 4096, 4096).ok());
 }
 
-// A drive whose end is not known and whose transfers are recorded.
+// A drive with an unknown end and recorded transfers.
 #define RECORDED_DRIVE(drive, pieces)                                                                        \
     ScriptedMachine machine;                                                                                 \
     machine.refuse(machine.drive, IOCTL_DISK_GET_LENGTH_INFO, ERROR_NOT_SUPPORTED);                          \
@@ -882,7 +881,7 @@ void tst_WindowsDevices::largeTransfersAreSplit()
 {
     RECORDED_DRIVE(drive, Pieces{});
     constexpr qint64 Limit = DeviceTransfers::CallLimit;
-    constexpr qint64 Size = 4 * Limit + 3 * Sector; // more than 32 bits can say
+    constexpr qint64 Size = 4 * Limit + 3 * Sector; // beyond 32 bits
     const ReservedPages pages(Size);
     QVERIFY(pages.start());
     const std::vector<DWORD> expected{Limit, Limit, Limit, Limit, 3 * Sector};
@@ -962,14 +961,14 @@ void tst_WindowsDevices::aFullDeviceIsNotItsEnd()
     AlignedBuffer data(4 * Sector);
     QVERIFY(drive.value()->seek(ScriptedMachine::DriveSize - 3 * Sector).ok());
     QCOMPARE(drive.value()->write(data.data(), data.size()).code(), quint32(DiskFull));
-    // From one sector further on the same failure meets the end of the file below.
+    // One sector further the same failure meets the end of the file below.
     QVERIFY(drive.value()->seek(ScriptedMachine::DriveSize - 2 * Sector).ok());
     s_pieces.sizes.clear();
     QCOMPARE(drive.value()->write(data.data(), data.size()).value(), 2 * Sector);
     s_pieces.sizes.clear();
     s_pieces.failingCall = 1;
     QCOMPARE(drive.value()->write(data.data(), data.size()).value(), 0);
-    // Where the end is known, or cannot be told from a failure, the device is full.
+    // With a known end, or with an ambiguous failure, the device counts as full.
     machine.faults.fail(Win32Faults::ReadFile_, 1, IoDevice);
     s_pieces.sizes.clear();
     QCOMPARE(drive.value()->write(data.data(), data.size()).code(), quint32(DiskFull));

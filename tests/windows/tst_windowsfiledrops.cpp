@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 DWORD s_elevation = 0;
-QStringList s_asked; // of the system, in order
+QStringList s_asked; // calls to the system, in order
 
 BOOL WINAPI tokenInformation(HANDLE, TOKEN_INFORMATION_CLASS kind, void *reply, DWORD size, DWORD *used)
 {
@@ -43,7 +43,7 @@ HRESULT WINAPI revoke(HWND)
     return S_OK;
 }
 
-// The window that drops are for; nothing but its number is needed.
+// The window that accepts drops; only its handle value is used.
 constexpr quintptr Window = 0x4711;
 
 bool deliver(HWND window, UINT message, HDROP drop)
@@ -59,7 +59,7 @@ bool deliver(HWND window, UINT message, HDROP drop)
 
 } // namespace
 
-// What the desktop drops on a program with more rights than itself.
+// Drops from the desktop on a program with more rights.
 class tst_WindowsFileDrops : public QObject
 {
     Q_OBJECT
@@ -135,7 +135,7 @@ void tst_WindowsFileDrops::aDropReachesTheReceiver()
     QStringList received;
     const platform::FileDrops drops(Window, [&received](const QStringList &paths) { received += paths; });
     const QStringList paths{u"C:\\one"_s, u"C:\\two"_s};
-    // As it comes out of the queue, and as it is sent to the window.
+    // The message taken from the queue, and the one sent to the window.
     MSG queued = {};
     queued.hwnd = reinterpret_cast<HWND>(Window);
     queued.message = WM_DROPFILES;

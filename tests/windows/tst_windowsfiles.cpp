@@ -32,7 +32,7 @@ constexpr OpenMode EveryMode[] = {OpenMode::Overwrite, OpenMode::Verify, OpenMod
                                   OpenMode::CreateFill};
 constexpr DWORD Injected = ERROR_IO_DEVICE;
 constexpr DWORD CloudTag = 0x9000001A;
-// Younger than the headers of some compilers.
+// Missing from the headers of some compilers.
 constexpr DWORD Pinned = 0x00080000;
 constexpr DWORD RecallOnOpen = 0x00040000;
 constexpr DWORD RecallOnDataAccess = 0x00400000;
@@ -50,7 +50,7 @@ bool setAttributes(const QString &path, DWORD attributes)
     return ::SetFileAttributesW(toLongPath(path).c_str(), attributes);
 }
 
-// Opened by somebody else.
+// A handle of another program.
 WinHandle otherHandle(const QString &path, DWORD access, DWORD sharing)
 {
     return WinHandle(
@@ -91,7 +91,7 @@ BOOL WINAPI spaceWithQuota(LPCWSTR, PULARGE_INTEGER available, PULARGE_INTEGER t
     return TRUE;
 }
 
-// Files that have these attributes too and occupy one cluster, on a volume with a quota.
+// Gives files additional attributes and one allocated cluster, on a volume with a quota.
 class OccupiedCalls
 {
 public:
@@ -123,8 +123,8 @@ QMap<QString, QByteArray> snapshot(const QString &folder)
     return entries;
 }
 
-// The system's calls, but what is named "...link" shows a reparse point with the tag, or other attributes,
-// wherever one can ask.
+// The system calls, except that entries named "...link" show a reparse point with the tag, or other
+// attributes, in every query.
 class PretendedLinks
 {
 public:
@@ -192,7 +192,7 @@ private:
     Win32Faults m_faults;
 };
 
-// Transfers that a test answers itself, in order; without an answer left they fail.
+// Transfers answered by the test, in order; without a remaining answer they fail.
 struct Answer
 {
     DWORD count = 0;
@@ -224,9 +224,9 @@ struct Operation
 {
     const char *name;
     std::function<Status(const QString &folder)> run;
-    // Calls whose failure is no failure of the operation.
+    // Calls whose failure does not fail the operation.
     QList<std::pair<int, int>> forgiven;
-    // On failure everything is as before.
+    // After a failure everything is unchanged.
     bool changesNothing = true;
 };
 
@@ -235,7 +235,7 @@ Status openIn(const QString &path, OpenMode mode)
     return files.open(path, mode).status();
 }
 
-// All that an open file is asked for, until something fails.
+// Uses every operation of an open file until one fails.
 Status useFile(const QString &path)
 {
     const auto file = files.open(path, OpenMode::Overwrite);
@@ -266,7 +266,7 @@ const QList<Operation> &operations()
          true},
         {"open to verify",
          [](const QString &at) { return openIn(at + u"/file"_s, OpenMode::Verify); },
-         {{Win32Faults::CreateFile_, 1}}, // the hint to drop what is cached
+         {{Win32Faults::CreateFile_, 1}}, // opening to drop the cache
          true},
         {"open to truncate",
          [](const QString &at) { return openIn(at + u"/file"_s, OpenMode::Truncate); },
@@ -283,7 +283,7 @@ const QList<Operation> &operations()
         {"use of an open file", [](const QString &at) { return useFile(at + u"/file"_s); }, {}, false},
         {"place of a file",
          [](const QString &at) { return files.contentPlace(at + u"/file"_s).status(); },
-         // Whether it is on a server.
+         // The query for a remote file.
          {{Win32Faults::GetFileInformationEx_, 1}},
          true},
         {"clear read-only",
@@ -308,7 +308,7 @@ const QList<Operation> &operations()
 
 } // namespace
 
-// What only Windows has, and every call of the system failing once.
+// Behaviour specific to Windows, and every system call failing once.
 class tst_WindowsFiles : public QObject
 {
     Q_OBJECT
@@ -468,7 +468,7 @@ void tst_WindowsFiles::opensWithWhatItPromises()
     QCOMPARE(faults.openHandles(), 0);
 }
 
-// No call that would cut before it is known what is cut.
+// No call truncates before the entry is known.
 void tst_WindowsFiles::fillOverAFileDoesNotFollowOrReplace()
 {
     writeFile(path(u"file"_s), "abc");
@@ -571,7 +571,7 @@ void tst_WindowsFiles::fileInUse()
     QVERIFY(files.remove(name).ok());
 }
 
-// Until the last handle is closed the name is there or not, as the system likes.
+// Until the last handle is closed the system decides whether the name exists.
 void tst_WindowsFiles::deletedWhileOpen()
 {
     constexpr DWORD Everything = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
@@ -654,7 +654,7 @@ void tst_WindowsFiles::namesThatAreNoText()
     QVERIFY(files.info(path(name)).ok());
 }
 
-// "C:" with the prefix alone would be the volume as a device.
+// "C:" with only the prefix would be the volume as a device.
 void tst_WindowsFiles::rootsAreFolders()
 {
     const QString drive = QDir::rootPath().left(2);
@@ -775,7 +775,7 @@ void tst_WindowsFiles::openOfALinkIsRefused()
     QCOMPARE(links.faults().openHandles(), 0);
 }
 
-// At the first look there was still a file.
+// The first check still found a file.
 void tst_WindowsFiles::openOfALinkThatIsSwappedIn()
 {
     writeFile(path(u"link"_s), "abc");
@@ -787,7 +787,8 @@ void tst_WindowsFiles::openOfALinkThatIsSwappedIn()
     QCOMPARE(links.faults().openHandles(), 0);
 }
 
-// Deduplicated files and placeholders are no links: who removed them would call them erased.
+// Deduplicated files and placeholders do not count as links, because removing them would then be taken for
+// erasing them.
 void tst_WindowsFiles::filesWhoseBytesLieElsewhere()
 {
     writeFile(path(u"link"_s), "abc");
@@ -810,7 +811,7 @@ void tst_WindowsFiles::filesWhoseBytesLieElsewhere()
     QCOMPARE(contentOf(path(u"link"_s)), QByteArray("abc"));
 }
 
-// What the mark says is that there are copies elsewhere, not that the bytes are.
+// The reparse point means that copies exist elsewhere, while the bytes are local.
 void tst_WindowsFiles::filesThatAreInACloudToo()
 {
     writeFile(path(u"a link"_s), "abc");
@@ -853,7 +854,7 @@ void tst_WindowsFiles::foldersThatAreInACloudToo()
     }
     QVERIFY(folders.create(path(u"link"_s)).ok());
     QVERIFY(folders.space(path(u"link"_s)).ok());
-    // Removing a file takes no folder away.
+    // Removing a file must not remove a folder.
     QVERIFY(QDir().mkpath(path(u"empty link"_s)));
     QVERIFY(!files.remove(path(u"empty link"_s)).ok());
     QVERIFY(QDir(path(u"empty link"_s)).exists());
@@ -912,7 +913,7 @@ void tst_WindowsFiles::whatIsOnlyInACloudIsLeftThere_data()
     row("offline", CloudTag, Marked | FILE_ATTRIBUTE_OFFLINE, true);
     row("all of it", CloudTag, Marked | RecallOnDataAccess | FILE_ATTRIBUTE_OFFLINE, true);
     row("the mark is hidden", 0, RecallOnDataAccess, true);
-    // Attributes that mean nothing without the mark.
+    // Attributes without meaning when the reparse point is missing.
     row("offline as a user says", 0, FILE_ATTRIBUTE_OFFLINE, false);
     row("with extended attributes", 0, RecallOnOpen, false);
 }
@@ -948,7 +949,7 @@ void tst_WindowsFiles::whatIsOnlyInACloudIsLeftThere()
     QCOMPARE(contentOf(path(u"a link"_s)), QByteArray("abc"));
 }
 
-// It was here at the first look.
+// The content was local at the first check.
 void tst_WindowsFiles::whatIsTakenToACloudMeanwhile()
 {
     writeFile(path(u"a link"_s), "abc");
@@ -977,7 +978,7 @@ void tst_WindowsFiles::newFilesAreStoredAsTheyAreWritten_data()
         << quint32(ERROR_NOT_SUPPORTED) << true << quint32(NotSupported);
 }
 
-// A fill file of zeros that is stored compressed covers nothing.
+// A fill file of zeros covers nothing when it is stored compressed.
 void tst_WindowsFiles::newFilesAreStoredAsTheyAreWritten()
 {
     QFETCH(quint32, error);
@@ -1008,7 +1009,7 @@ void tst_WindowsFiles::newFilesAreStoredAsTheyAreWritten()
         QVERIFY(folder.ok());
         faults.forget();
         QCOMPARE(folder.value()->createFile(u"fill"_s).code(), expected);
-        // The system takes the order from a handle for both only.
+        // The system accepts the request only on a handle with both accesses.
         QCOMPARE(faults.openings().constLast().access, DWORD(GENERIC_READ | GENERIC_WRITE));
     }
     QCOMPARE(s_formats, QList<int>{COMPRESSION_FORMAT_NONE});
@@ -1042,7 +1043,7 @@ void tst_WindowsFiles::linksAreNoFolders()
     QVERIFY(!QDir(path(u"link"_s)).exists());
 }
 
-// Being a folder in truth, the link cannot be removed while something is in it.
+// The link is a real folder here, so it cannot be removed while it has entries.
 void tst_WindowsFiles::removeTreeDoesNotEnterLinks()
 {
     QVERIFY(QDir().mkpath(path(u"tree/a/link"_s)));
@@ -1097,7 +1098,7 @@ void tst_WindowsFiles::transfersGoOnAfterShortOnes()
     QCOMPARE(firstDifference(found.left(5000), bytes), -1);
 }
 
-// More than a length of 32 bits holds; the memory is only reserved, nobody looks at it.
+// More than a 32-bit length holds. The memory is only reserved and never read.
 void tst_WindowsFiles::transfersGoInPieces()
 {
     constexpr qint64 Size = 5LL * 1024 * 1024 * 1024 + 77;
@@ -1278,7 +1279,7 @@ void tst_WindowsFiles::userIsNamedByTheSid()
         QCOMPARE(faults.openHandles(), 0);
         QCOMPARE(faults.openMemory(), 0);
     }
-    // The size was told, the answer fails.
+    // The query for the size succeeds, the one for the content fails.
     faults.fail(Win32Faults::GetTokenInformation_, 2, ERROR_ACCESS_DENIED);
     QCOMPARE(session.userId(), QString());
     QCOMPARE(faults.fired(), 1);

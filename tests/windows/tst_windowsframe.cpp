@@ -36,7 +36,7 @@ BOOL WINAPI systemParameters(UINT question, UINT size, void *answer, UINT)
 
 } // namespace
 
-// What the system asks a window that draws its own frame, and what it says of looks.
+// Messages to a window that draws its own frame, and the appearance settings of the system.
 class tst_WindowsFrame : public QObject
 {
     Q_OBJECT
@@ -96,7 +96,7 @@ void tst_WindowsFrame::maximisingLeavesTheTaskbar()
                    QSize(limits.ptMaxSize.x, limits.ptMaxSize.y)),
              fromScreen);
     QCOMPARE(QSize(limits.ptMinTrackSize.x, limits.ptMinTrackSize.y), QSize(1470, 990));
-    // Two screens are not too much for a window that is drawn larger.
+    // The size limit also allows a window that spans two screens.
     QCOMPARE(limits.ptMaxTrackSize.x, 9000);
 
     WINDOWPOS placed = {};

@@ -38,7 +38,7 @@ public:
 
 } // namespace
 
-// A drive of Windows that is opened to be written from its first sector to its last.
+// A drive of Windows opened for writing from its first to its last sector.
 class tst_WindowsHeldDrive : public QObject
 {
     Q_OBJECT
@@ -166,7 +166,7 @@ void tst_WindowsHeldDrive::volumesThatCannotBeListedAreInTheWay()
     QCOMPARE(machine.faults.openHandles(), 0);
 }
 
-// Readers without a disc or card, and volumes of drives that are not there any more.
+// Such volumes belong to readers without a medium, or to removed drives.
 void tst_WindowsHeldDrive::aVolumeThatDoesNotTellItsPlaceIsLeftAlone()
 {
     Machine machine;
@@ -231,8 +231,8 @@ void tst_WindowsHeldDrive::noFailureLeavesAnythingHeld()
                 break;
         }
     }
-    // The opening, 3 questions for the identity; 3 of the listing; of each volume the opening, where it lies
-    // and 2 dismounts; whatever failed at a lock was tried again where it is in use for a moment.
+    // The opening and 3 queries for the identity; 3 calls of the listing; for each volume the opening, its
+    // place and 2 dismounts. Failed locks of a volume in use are retried.
     const int locks = error == AccessDenied ? 0 : 2;
     QCOMPARE(refused, 4 + 4 + 2 * (1 + 1 + 1 + 4) + locks);
 }

@@ -49,7 +49,7 @@ DWORD WINAPI attributesWithLink(LPCWSTR name)
                                                             : attributes;
 }
 
-// A folder that may be passed but not listed.
+// A folder that can be traversed but not listed.
 HANDLE WINAPI unlistable(LPCWSTR name, DWORD access, DWORD sharing, LPSECURITY_ATTRIBUTES security,
                          DWORD disposition, DWORD flags, HANDLE pattern)
 {
@@ -62,7 +62,7 @@ HANDLE WINAPI unlistable(LPCWSTR name, DWORD access, DWORD sharing, LPSECURITY_A
 
 } // namespace
 
-// Paths lead to a held folder for as long as it is held, since nobody can move it or those above it.
+// The path of a held folder keeps leading to it, since neither it nor a folder above it can be moved.
 class tst_WindowsHeldFolders : public QObject
 {
     Q_OBJECT
@@ -169,7 +169,7 @@ void tst_WindowsHeldFolders::whatIsNoFolderIsNotHeld()
     QCOMPARE(folders.holdIn(held.value(), {}, Folders::Mounts::Enter).code(), quint32(InvalidParameter));
 }
 
-// Nobody knows where it is.
+// The location of the folder is unknown.
 void tst_WindowsHeldFolders::aFolderWithoutAFinalPathIsNotHeld()
 {
     Win32Calls calls;

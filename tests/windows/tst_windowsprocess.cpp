@@ -5,7 +5,7 @@
 
 #include <windows.h>
 
-// What a program asks of its own process, as Windows knows it.
+// The properties of the program's own process on Windows.
 class tst_WindowsProcess : public QObject
 {
     Q_OBJECT
@@ -16,7 +16,7 @@ private slots:
 
 void tst_WindowsProcess::noBoxStopsACallOnAnEmptyDrive()
 {
-    // What others have set stays.
+    // Flags set by other code stay.
     const UINT before = ::SetErrorMode(SEM_NOGPFAULTERRORBOX);
     platform::failWithoutBoxes();
     const UINT quiet = ::SetErrorMode(before);

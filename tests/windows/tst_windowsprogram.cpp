@@ -26,7 +26,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Ctrl+C goes to every process of the console, this one included.
+// Ctrl+C reaches every process of the console, including this one.
 std::atomic<bool> s_interrupted{false};
 
 BOOL WINAPI noteControl(DWORD)
@@ -42,7 +42,7 @@ BOOL WINAPI endTold(DWORD)
     ::ExitProcess(ToldOfInterrupt);
 }
 
-// What this program does as a child: nothing but to wait for Ctrl+C.
+// Run as a child process: waits for Ctrl+C.
 int waitForInterrupt()
 {
     ::SetConsoleCtrlHandler(endTold, TRUE);
@@ -52,7 +52,7 @@ int waitForInterrupt()
     return 0;
 }
 
-// Whether a program that shares this console, and nothing else with the one under test, is told of Ctrl+C.
+// Whether another program that only shares this console receives Ctrl+C.
 bool isControlToldOfInterrupt()
 {
     QProcess control;
@@ -64,7 +64,7 @@ bool isControlToldOfInterrupt()
     return control.waitForFinished() && control.exitCode() == ToldOfInterrupt;
 }
 
-// Empty when there is none.
+// Empty without such a resource.
 QByteArray resource(const QString &programName, LPCWSTR name, LPCWSTR type)
 {
     const QString program = QCoreApplication::applicationDirPath() + u'/' + programName;
@@ -81,8 +81,8 @@ QByteArray resource(const QString &programName, LPCWSTR name, LPCWSTR type)
     return copy;
 }
 
-// The error mode of a process that runs: what its own GetErrorMode answers on a thread that is put into it,
-// at the address that all processes have it at. Nothing when the process is gone.
+// The error mode of another process. A thread started in that process calls GetErrorMode, which has the same
+// address in all processes. Empty when the process has ended.
 std::optional<DWORD> errorModeOf(qint64 processId)
 {
     HANDLE const process = ::OpenProcess(PROCESS_ALL_ACCESS, FALSE, DWORD(processId));
@@ -137,8 +137,8 @@ struct Finished
 
 } // namespace
 
-// The program itself, with the arguments, streams and console of Windows. It sees no real drive and no folder
-// of the user.
+// The program itself with arguments, streams and console of Windows. It sees no real drive and no folder of
+// the user.
 class tst_WindowsProgram : public QObject
 {
     Q_OBJECT
@@ -186,8 +186,8 @@ private:
             finished.out += process.readAllStandardOutput();
             if (whileItRuns && process.state() == QProcess::Running && finished.out.contains("\"progress\""))
                 whileItRuns(process.processId());
-            // As a person does: again when nothing has come of it. Not sooner, since Wine stumbles over an
-            // event that meets a program on its way out.
+            // Repeats the event when it had no effect, as a user would. Waits in between, because Wine
+            // handles an event badly while a program exits.
             if (onProgress && finished.out.contains("\"progress\"") &&
                 (!sinceLast.isValid() || sinceLast.elapsed() > 2000)) {
                 sinceLast.start();
@@ -206,8 +206,8 @@ private:
 
 void tst_WindowsProgram::initTestCase()
 {
-    // The program inherits the console, and with it who is told of Ctrl+C. One of our own: what was inherited
-    // here may be a console without a window or input.
+    // The program inherits the console and its handling of Ctrl+C. The suite makes its own console, because
+    // the inherited one may lack a window or input.
     ::FreeConsole();
     QVERIFY(::AllocConsole());
     QVERIFY(::SetConsoleCtrlHandler(noteControl, TRUE));
@@ -228,11 +228,11 @@ void tst_WindowsProgram::itCarriesItsResources()
         resource(QStringLiteral(QUORVEX_CLI), MAKEINTRESOURCEW(VS_VERSION_INFO), RT_VERSION);
     const QString text(reinterpret_cast<const QChar *>(version.constData()), version.size() / 2);
     QVERIFY(text.contains(u"ProductName"_s) && text.contains(u"Quorvex"_s) && text.contains(u"5.0"_s));
-    // An icon group lists its pictures: a header of 6 bytes and 14 for each.
+    // An icon group lists its images with a header of 6 bytes and 14 bytes for each.
     QCOMPARE(resource(QStringLiteral(QUORVEX_CLI), MAKEINTRESOURCEW(1), RT_GROUP_ICON).size(), 6 + 9 * 14);
 }
 
-// A shell cannot start what asks for more rights than its own (error 740).
+// A shell cannot start a program that requires more rights than the shell has (error 740).
 void tst_WindowsProgram::onlyTheDesktopProgramAsksForRights()
 {
     const auto manifest = [](const QString &program) {
@@ -271,7 +271,7 @@ void tst_WindowsProgram::itListsTheImage()
 
 void tst_WindowsProgram::anImageIsErasedToTheLastByte()
 {
-    const QString path = image(5'000'700); // no whole number of sectors
+    const QString path = image(5'000'700); // not a multiple of the sector size
     const QString report = m_folder->filePath(u"证书 ü.json"_s);
     const Finished finished =
         run({u"wipe"_s, u"disk"_s, u"0"_s, u"--image"_s, path, u"--report"_s, report, u"--yes"_s});
@@ -346,7 +346,7 @@ void tst_WindowsProgram::namesComeOutAsUtf8()
 
 void tst_WindowsProgram::withoutAConsoleItRefuses()
 {
-    // Its standard input is a pipe: nobody can type the word.
+    // Standard input is a pipe, so the word cannot be typed.
     const QString path = image();
     const Finished finished = run({u"wipe"_s, u"disk"_s, u"0"_s, u"--image"_s, path});
     QCOMPARE(finished.code, 3);
@@ -378,7 +378,7 @@ void tst_WindowsProgram::exitCodes()
 void tst_WindowsProgram::interruptCancelsTheJob()
 {
     s_interrupted = false;
-    // Long enough for the event to come before the end, whatever else the machine does.
+    // Large enough for the event to arrive before the end, whatever the load of the machine.
     const QString path = image();
     QVERIFY(QFile::resize(path, 512 << 20));
     const QString report = m_folder->filePath(u"report.json"_s);
@@ -390,7 +390,7 @@ void tst_WindowsProgram::interruptCancelsTheJob()
         finished = run(arguments, [] { QVERIFY(::GenerateConsoleCtrlEvent(CTRL_C_EVENT, 0)); });
         if (finished.code == 4)
             break;
-        // Wine now and then passes the event to some processes of the console only.
+        // Wine occasionally delivers the event to some processes of the console only.
         if (!isControlToldOfInterrupt())
             QSKIP("SKIPPED: this system did not tell a plain program of Ctrl+C either");
     }
@@ -404,7 +404,7 @@ void tst_WindowsProgram::interruptCancelsTheJob()
     QCOMPARE(QJsonDocument::fromJson(contentOf(report)).object(), last.value(u"report"_s).toObject());
 }
 
-// The program passes its error mode on to those that it starts: the suite's own must not be what is seen.
+// Child processes inherit the error mode, so the suite's own mode must differ from the expected one.
 void tst_WindowsProgram::noBoxStopsTheCommandLine()
 {
     QCOMPARE(::GetErrorMode() & (SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX), 0U);
@@ -418,12 +418,12 @@ void tst_WindowsProgram::noBoxStopsTheCommandLine()
     QVERIFY(isQuiet);
 }
 
-// Without a way to show windows it says so in a box, and has touched nothing of the user's by then.
+// Without a platform plugin the program reports the failure in a box, before it touches data of the user.
 void tst_WindowsProgram::noBoxStopsTheDesktopProgram()
 {
 #ifdef QUORVEX_DESKTOP
     QProcess process;
-    // With a console it would say so there, and be gone.
+    // With a console the program would write the message there and exit.
     process.setCreateProcessArgumentsModifier(
         [](QProcess::CreateProcessArguments *arguments) { arguments->flags |= DETACHED_PROCESS; });
     process.start(QStringLiteral(QUORVEX_DESKTOP), {u"-platform"_s, u"none"_s});

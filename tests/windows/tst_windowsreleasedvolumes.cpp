@@ -49,7 +49,7 @@ VolumeRelease release(const Machine &machine)
 
 } // namespace
 
-// Drives of Windows, taken offline and online again.
+// Drives of Windows taken offline and back online.
 class tst_WindowsReleasedVolumes : public QObject
 {
     Q_OBJECT
@@ -83,7 +83,7 @@ void tst_WindowsReleasedVolumes::volumesAreLockedBeforeTheDriveGoesOffline()
     QVERIFY2(released.volumes, qPrintable(released.failure.diagnostic()));
     QCOMPARE(machine.deeds(), (QStringList{u"lock E:"_s, u"lock F:"_s, u"offline PhysicalDrive3"_s}));
     QCOMPARE(released.volumes->names(), (QStringList{u"E:"_s, u"F:"_s}));
-    // With the drive they have gone.
+    // The volumes disappeared with the drive.
     QVERIFY(!released.volumes->holds(u"E:"_s));
     QCOMPARE(machine.faults.openPaths(), QStringList{machine.drive});
     QVERIFY(machine.isUntouched());
@@ -98,7 +98,7 @@ void tst_WindowsReleasedVolumes::theRequestIsThatOfTheSystem()
         if (control.code == SetAttributes)
             inputs.append(control.input);
     }
-    const QByteArray beginning = replies::number<quint32>(40) + QByteArray(4, '\0'); // not for good
+    const QByteArray beginning = replies::number<quint32>(40) + QByteArray(4, '\0'); // not persistent
     const QByteArray end = replies::number<quint64>(1) + QByteArray(16, '\0');
     QCOMPARE(inputs, (QList<QByteArray>{beginning + replies::number<quint64>(1) + end,
                                         beginning + replies::number<quint64>(0) + end}));
@@ -161,7 +161,7 @@ void tst_WindowsReleasedVolumes::aVolumeInUseIsInTheWay()
     QCOMPARE(machine.faults.openHandles(), 0);
 }
 
-// A volume is found under its letter and without it.
+// The same volume is found with and without its letter.
 void tst_WindowsReleasedVolumes::volumesWithoutALetterAreLockedToo()
 {
     Machine machine;
@@ -205,7 +205,7 @@ void tst_WindowsReleasedVolumes::aVolumeElsewhereIsNotTouched()
 void tst_WindowsReleasedVolumes::aVolumeElsewhereTooIsInTheWay()
 {
     Machine machine;
-    // It begins on the other drive.
+    // The volume begins on the other drive.
     machine.script(machine.second, IOCTL_VOLUME_GET_VOLUME_DISK_EXTENTS,
                    replies::extentsHeader(2) + replies::extent(1, 0, 4096) + replies::extent(3, 0, 4096));
     const VolumeRelease released = release(machine);

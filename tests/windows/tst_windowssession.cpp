@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// What the system was asked, in order.
+// The calls to the system, in order.
 QStringList s_asked;
 EXECUTION_STATE s_state = ES_CONTINUOUS;
 
@@ -36,7 +36,7 @@ BOOL WINAPI destroyReason(HWND window)
     return TRUE;
 }
 
-// The shell's process, and its token.
+// The process of the shell and its token.
 HANDLE const ShellProcess = reinterpret_cast<HANDLE>(quintptr(0x7700));
 HANDLE const ShellToken = reinterpret_cast<HANDLE>(quintptr(0x7800));
 WELL_KNOWN_SID_TYPE s_shellUser = WinLocalSystemSid;
@@ -93,7 +93,7 @@ void WINAPI noteChange(LONG event, UINT flags, const void *item, const void *)
 
 } // namespace
 
-// Who uses the system and what is asked of it meanwhile.
+// The user of the system and the requests to the session.
 class tst_WindowsSession : public QObject
 {
     Q_OBJECT
@@ -122,7 +122,7 @@ private slots:
     void whatTheMachineStartsFromIsOfTheSystem();
 
 private:
-    // The desktop of this process, unless a test changes more.
+    // The calls with the desktop of this process, to be changed further by a test.
     static platform::Win32Calls desktopCalls();
 
     std::unique_ptr<Win32Faults> recordingCalls() const
@@ -200,7 +200,7 @@ void tst_WindowsSession::aRefusalIsTold_data()
     QTest::addColumn<DWORD>("error");
     QTest::addColumn<quint32>("code");
     QTest::newRow("with a number") << DWORD(ERROR_ACCESS_DENIED) << quint32(platform::AccessDenied);
-    // Left over from some call before.
+    // An error number left by an earlier call.
     QTest::newRow("without a number") << DWORD(ERROR_SUCCESS) << quint32(platform::GeneralFailure);
 }
 
@@ -317,7 +317,7 @@ void tst_WindowsSession::theShellLooksAtTheBinAgain()
     }
     QCOMPARE(s_icons, 1);
     QCOMPARE(s_changes, QList<LONG>{SHCNE_UPDATEDIR});
-    // And the system itself takes both.
+    // The system itself accepts both calls.
     platform::WindowsSession().tellBinChanged();
 }
 

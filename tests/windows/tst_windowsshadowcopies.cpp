@@ -26,14 +26,14 @@ struct Copy
     DWORD answerError = ERROR_SUCCESS;
 };
 
-// The copies of the machine by their numbers, and what the volume of the test says of itself.
+// The copies of the machine by number, and the answers of the test's volume.
 struct Machine
 {
     QMap<int, Copy> copies;
     QString fileSystem = u"NTFS"_s;
     DWORD volumeError = ERROR_SUCCESS;
     QHash<HANDLE, int> opened;
-    QString folder; // stands below every copy
+    QString folder; // the folder behind every copy
 };
 
 Machine s_machine;
@@ -51,7 +51,7 @@ HANDLE WINAPI openCopy(LPCWSTR name, DWORD access, DWORD sharing, LPSECURITY_ATT
         ::SetLastError(copy.openError);
         return INVALID_HANDLE_VALUE;
     }
-    // GENERIC rights would ask the copy for more than everybody has.
+    // GENERIC rights would exceed the rights of ordinary users on a copy.
     if (access != FILE_READ_ATTRIBUTES || !(flags & FILE_FLAG_BACKUP_SEMANTICS)) {
         ::SetLastError(ERROR_ACCESS_DENIED);
         return INVALID_HANDLE_VALUE;
@@ -147,7 +147,7 @@ void tst_WindowsShadowCopies::whatCannotBeAskedIsNotNone()
     QCOMPARE(ask().code(), quint32(AccessDenied));
     s_machine.copies = {{2, {OwnSerial, 0, ERROR_NOT_READY}}};
     QCOMPARE(ask().code(), quint32(NotReady));
-    // One is known, whatever the other is.
+    // One copy is certain, whatever the other one is.
     s_machine.copies.insert(3, {});
     QCOMPARE(ask().valueOr(-1), 1);
 }

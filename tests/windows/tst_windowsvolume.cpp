@@ -28,7 +28,7 @@ std::unique_ptr<VolumeDevice> opened(ScriptedMachine &machine, Dismount dismount
 
 } // namespace
 
-// A volume of Windows whose file system was made to let go of it.
+// A volume of Windows whose file system was dismounted.
 class tst_WindowsVolume : public QObject
 {
     Q_OBJECT
@@ -67,7 +67,7 @@ void tst_WindowsVolume::aFlushThatDidNotReachTheDriveIsGivenToTheDrive()
     const QList<Win32Faults::Opening> openings = machine.faults.openings();
     QCOMPARE(openings.size(), 1);
     QCOMPARE(openings.first().path, machine.drive);
-    // No drive is flushed by who may not write to it.
+    // Flushing a drive requires write access.
     QCOMPARE(openings.first().access, DWORD(GENERIC_READ | GENERIC_WRITE));
     QCOMPARE(machine.faults.openPaths(), QStringList{machine.volume});
 }

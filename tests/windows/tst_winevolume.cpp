@@ -14,15 +14,15 @@
 
 using namespace Qt::StringLiterals;
 
-// Volumes that volumefixture.sh lets Wine show: E: is an image file, F: a block device, both of this size.
-// Whether every byte of them is erased is looked at afterwards, from outside of Wine.
+// Volumes that volumefixture.sh makes visible to Wine: E: is an image file, F: a block device, both of this
+// size. The script checks from outside of Wine that every byte is erased.
 namespace {
 
 constexpr qint64 VolumeSize = 24 * 1024 * 1024;
 constexpr int DriveNumber = 7;
 
-// What Wine does not know about these volumes: which drive they lie on, and that drive itself. Opening,
-// locking, dismounting and writing are Wine's own.
+// Adds the drive behind these volumes, which Wine does not report. Opening, locking, dismounting and writing
+// are Wine's own.
 class DriveBehindVolumes
 {
 public:
@@ -33,7 +33,7 @@ public:
         s_current = this;
         m_calls.createFile = &createFile;
         m_calls.deviceIoControl = &deviceIoControl;
-        // Those of Wine are none of the test's.
+        // Wine's own volumes are hidden from the test.
         m_calls.findFirstVolume = [](LPWSTR, DWORD) -> HANDLE {
             ::SetLastError(ERROR_NO_MORE_FILES);
             return INVALID_HANDLE_VALUE;
@@ -48,7 +48,7 @@ public:
     DriveBehindVolumes(const DriveBehindVolumes &) = delete;
     DriveBehindVolumes &operator=(const DriveBehindVolumes &) = delete;
 
-    // The one volume that lies on the drive.
+    // The single volume on the drive.
     QString volume;
 
     static QString drivePath() { return uR"(\\.\PhysicalDrive%1)"_s.arg(DriveNumber); }
@@ -136,10 +136,10 @@ void tst_WineVolume::everyByteIsWrittenThroughTheVolume_data()
     QTest::addColumn<int>("method");
     QTest::addColumn<qint64>("driveSize");
 
-    // Wine does not tell the length of a volume, so it is taken from the drive's; a file would grow behind
-    // it.
+    // Wine does not report the length of a volume, so the drive's length is used; a longer write would make
+    // the file grow.
     QTest::newRow("image file") << u"E:"_s << 0 << VolumeSize;
-    // The volume ends before the length taken for it does.
+    // The volume ends before the assumed length.
     QTest::newRow("block device") << u"F:"_s << 3 << VolumeSize + 5 * 1024 * 1024;
 }
 
@@ -175,7 +175,7 @@ void tst_WineVolume::everyByteIsWrittenThroughTheVolume()
     QVERIFY2(record.succeeded(), qPrintable(all));
     QVERIFY2(lines.contains(u"0 找到卷: "_s + volume), qPrintable(all));
     QVERIFY2(lines.contains(u"0 卷 %1 锁定成功"_s.arg(volume)), qPrintable(all));
-    // Wine dismounts nothing that it did not mount: error 50 or 87, which stops no job.
+    // Wine only dismounts its own mounts: error 50 or 87, which does not stop a job.
     QVERIFY2(lines.contains(u"0 卷 %1 卸载成功"_s.arg(volume)) ||
                  all.contains(u"卷 %1 卸载失败，错误码: 50"_s.arg(volume)) ||
                  all.contains(u"卷 %1 卸载失败，错误码: 87"_s.arg(volume)),
@@ -185,7 +185,7 @@ void tst_WineVolume::everyByteIsWrittenThroughTheVolume()
         QVERIFY2(lines.contains(u"0 写入字节数为0，到达卷末尾"_s), qPrintable(all));
     QVERIFY2(lines.contains(u"0 验证通过"_s) == task.method().passes.constLast().verify, qPrintable(all));
 
-    // The drive itself stays as it is: what is held is its volume.
+    // The drive itself is unchanged, because only its volume is held.
     QCOMPARE(contentOf(standIn), QByteArray(512, 'd'));
 }
 

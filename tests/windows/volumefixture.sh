@@ -13,7 +13,7 @@ size=$((24 * 1024 * 1024))
 
 release() {
     local device
-    # Also of a run that was cut short, but no device that has been given another file since.
+    # Also releases devices of an interrupted run, but none that has been attached to another file since.
     if [[ -e $folder/f.img ]]; then
         for device in $(losetup --noheadings --output NAME --associated "$folder/f.img"); do
             losetup --detach "$device"
@@ -41,7 +41,7 @@ prepare() {
     fi
 }
 
-# every_byte_is FILE OCTAL: the file has its old size, and no other byte.
+# every_byte_is FILE OCTAL checks that the file has its old size and contains only this byte.
 every_byte_is() {
     local others
     [[ $(stat -c %s "$1") == "$size" ]] || fail "$1 has another size than before"

@@ -7,7 +7,7 @@
 
 namespace platform {
 
-/// The tables of all subjects, the system's own functions unless a test puts others in their place.
+/// The tables of all subjects. They call the system unless a test replaces entries.
 struct Win32Calls : WindowsFileCalls, WindowsVolumeCalls, WindowsProcessCalls, WindowsDesktopCalls
 {
     static Win32Calls inForce() { return {fileCalls(), volumeCalls(), processCalls(), desktopCalls()}; }

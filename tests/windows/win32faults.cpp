@@ -358,7 +358,7 @@ BOOL Win32Faults::deviceIoControl(HANDLE handle, DWORD code, LPVOID input, DWORD
 
 HANDLE Win32Faults::firstVolume(LPWSTR name, DWORD room)
 {
-    const HANDLE search = ::CreateEventW(nullptr, FALSE, FALSE, nullptr); // no other handle is the same
+    const HANDLE search = ::CreateEventW(nullptr, FALSE, FALSE, nullptr); // a handle distinct from all others
     {
         const std::scoped_lock lock(m_mutex);
         QStringList volumes = m_devices.keys();

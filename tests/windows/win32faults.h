@@ -14,11 +14,11 @@
 #include <optional>
 #include <utility>
 
-// The system's calls with one entry failing on purpose, with a ledger of what is open, and with devices that
-// answer from a script. In force from construction to destruction, one at a time. Thread-safe.
+// The system calls with one entry made to fail, a record of open resources, and devices that answer from a
+// script. In force from construction to destruction; one instance at a time. Thread-safe.
 //
-// A path below "\\.\" or to a volume ("\\?\Volume{...}") that no script covers does not exist (error 2), so
-// that no test reaches a real drive. The volumes of the machine are those added under such a path.
+// A path below "\\.\" or to a volume ("\\?\Volume{...}") without a script does not exist (error 2), so that
+// no test reaches a real drive. The volumes of the machine are those added under such a path.
 class Win32Faults
 {
 public:
@@ -60,13 +60,13 @@ public:
         ShutdownBlockReasonCreate_,
         ShutdownBlockReasonDestroy_,
         CallCount,
-        AnyCall = CallCount, // of fail(): whichever comes
+        AnyCall = CallCount, // for fail(): any entry
     };
     enum Repeat { Once, FromThenOn };
     using PathFilter = std::function<bool(const QString &path)>;
 
-    // What a device answers to a control code: a failure, or bytes. More bytes than the buffer has room for
-    // are cut and answered with error 234, unless claimedSize says what is to be claimed.
+    // The answer of a device to a control code: a failure, or bytes. Bytes beyond the buffer are cut and
+    // answered with error 234, unless claimedSize sets the reported size.
     struct Reply
     {
         DWORD error = ERROR_SUCCESS;
@@ -95,15 +95,15 @@ public:
     Win32Faults(const Win32Faults &) = delete;
     Win32Faults &operator=(const Win32Faults &) = delete;
 
-    // Call number nth (from 1) of that entry fails with the error. Counting begins anew. Calls that close or
-    // free something are carried out all the same, so that nothing leaks on the test's account.
+    // Makes call number nth (from 1) of that entry fail with the error. Counting begins anew. Calls that
+    // close or free a resource are still carried out, so that the test leaks nothing.
     void fail(int call, int nth, DWORD error, Repeat repeat = Once);
     void failNothing() { fail(-1, 0, ERROR_SUCCESS); }
-    // Only calls on such a path count and fail; a call on a handle has the path that the handle was opened
-    // with, one without either an empty path.
+    // Only calls on matching paths count and fail. A call on a handle has the path with which the handle was
+    // opened; a call without path or handle has an empty path.
     void onlyFor(PathFilter filter);
 
-    // Calls of the entry chosen with fail(), since then.
+    // The calls since fail() of the entry chosen there.
     int counted() const { return locked(m_counted); }
     int fired() const { return locked(m_fired); }
     // Calls of an entry since construction.
@@ -111,22 +111,22 @@ public:
     // Files, searches and tokens opened since construction and not yet closed.
     int openHandles() const;
     QStringList openPaths() const;
-    // The same of pages and of memory that the system handed out.
+    // Pages and memory from the system that are not yet freed.
     int openMemory() const;
-    // How files were opened, the failed attempts included, and what devices were asked.
+    // The parameters of all openings, including failed ones, and the queries to devices.
     QList<Opening> openings() const { return locked(m_openings); }
     QList<Control> controls() const { return locked(m_controls); }
     void forget();
 
-    // What is called where nothing is to fail: the system, unless the test puts something in its place.
+    // The calls used where none is to fail: the system's, unless the test replaces them.
     platform::Win32Calls &target() { return m_target; }
 
-    // From now on the path ("\\.\E:") opens the file. With a length, writes that reach beyond it fail as a
-    // whole with endError, as those to a device do; a file would grow.
+    // From now on the path ("\\.\E:") opens the file. With a length, writes beyond it fail completely with
+    // endError, as on a device; a file would grow.
     void addDevice(const QString &path, const QString &file, qint64 length = -1,
                    DWORD endError = ERROR_SECTOR_NOT_FOUND);
-    // From now on the path opens what the system has there, and codes without a reply go to the system as
-    // well. Only for a device that the test made.
+    // From now on the path opens the system's own device, and codes without a reply go to the system too.
+    // Only for a device made by the test.
     void addSystemDevice(const QString &path);
     void removeDevice(const QString &path);
     // Replies last until the device is added again or removed; codes without one fail with error 50.
@@ -144,7 +144,7 @@ private:
         QHash<ControlKey, Reply> replies;
     };
 
-    // What stands in the call table: each entry looks at the plan and the ledger, and goes on to perform().
+    // The entry of a call table. It consults the plan and the record, and continues with perform().
     template <int call, auto Member>
     struct Hook;
     template <int call, auto Member>
@@ -169,7 +169,7 @@ private:
     DWORD enter(int call, const QString &path);
 
     QString pathOf(const wchar_t *path) const { return path ? QString::fromWCharArray(path) : QString(); }
-    QString pathOf(wchar_t *) const { return {}; } // a buffer to be filled
+    QString pathOf(wchar_t *) const { return {}; } // an output buffer
     QString pathOf(void *handle) const;
     QString pathOf(DWORD) const { return {}; }
 
@@ -180,7 +180,7 @@ private:
     BOOL nextVolume(HANDLE search, LPWSTR name, DWORD room);
     BOOL closeSearch(HANDLE search);
 
-    // The calls that scripted devices answer in the system's place.
+    // The calls that scripted devices answer instead of the system.
     HANDLE createFile(LPCWSTR name, DWORD access, DWORD sharing, LPSECURITY_ATTRIBUTES security,
                       DWORD disposition, DWORD flags, HANDLE pattern);
     BOOL writeFile(HANDLE handle, LPCVOID data, DWORD size, LPDWORD written, LPOVERLAPPED overlapped);
@@ -203,7 +203,7 @@ private:
     QList<Opening> m_openings;
     QList<Control> m_controls;
     QHash<QString, Device> m_devices;
-    QHash<void *, QStringList> m_searches; // volumes yet to be found
+    QHash<void *, QStringList> m_searches; // volumes still to be listed
     platform::Win32Calls m_target;
     platform::Win32Calls m_table;
     std::optional<platform::ScopedWin32Calls> m_scope;

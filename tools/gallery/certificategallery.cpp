@@ -97,7 +97,7 @@ struct Job
 void page(Gallery &gallery, const Job &job)
 {
     constexpr int dpi = 150;
-    // Twice as high as the paper, so that what falls below it is seen as well.
+    // Twice as high as the paper, so that content below its end is visible.
     QImage image(qRound(210 / 25.4 * dpi), qRound(400 / 25.4 * dpi), QImage::Format_ARGB32_Premultiplied);
     const int paperHeight = qRound(297 / 25.4 * dpi);
     image.setDotsPerMeterX(qRound(dpi / 0.0254));
@@ -114,7 +114,7 @@ void dialog(Gallery &gallery, const Job &job)
 {
     CertificateDialog shown(job.report, nullptr, job.outcome);
     gallery.picture(shown, u"certificate-dialog-"_s + job.name);
-    // All of it, as a window of that height would show it.
+    // The whole sheet, as in a window of that height.
     auto *const sheet = shown.findChild<QScrollArea *>()->widget();
     gallery.save(sheet->grab().toImage(), u"certificate-sheet-"_s + job.name);
 }

@@ -14,7 +14,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Dialogs wear the style sheet of the window they belong to.
 DiskInfo twoVolumes()
 {
     DiskInfo disk;
@@ -38,6 +37,7 @@ DiskInfo twoVolumes()
 void paint(Gallery &gallery)
 {
     const QString id = u"QV-20260203-0A1B2C3D"_s;
+    // Dialogs use the style sheet of their parent window.
     PageFrame window(new QWidget);
     ConfirmDialog empty(&window);
     gallery.picture(empty, u"confirm-empty"_s);

@@ -6,12 +6,11 @@
 
 class QWidget;
 
-// Pictures of what users see, for people to look at. Nothing is compared, but texts that are cut are
-// collected.
+// Screenshots of the program for visual inspection. They are not compared, but cut texts are collected.
 class Gallery
 {
 public:
-    // An empty folder: no picture is saved.
+    // With an empty folder no picture is saved.
     Gallery(QString folder, QString language);
 
     // The language of the texts.
@@ -24,7 +23,7 @@ public:
 
     int count() const { return m_count; }
     bool hasFailed() const { return m_hasFailed; }
-    // Each begins with the name of its picture.
+    // Each text begins with the name of its picture.
     QStringList cutTexts() const { return m_cutTexts; }
 
 private:
@@ -35,7 +34,7 @@ private:
     bool m_hasFailed = false;
 };
 
-// Each family of pictures is a file that holds one of these at namespace scope.
+// Registers a family of pictures. Each family has its own file with one of these at namespace scope.
 struct GalleryRoom
 {
     using Painter = void (*)(Gallery &);

@@ -36,7 +36,7 @@ WipeReport reportOf(int number)
 
 void paint(Gallery &gallery)
 {
-    // A database of its own.
+    // A separate database.
     const QTemporaryDir folder;
     qputenv("XDG_DATA_HOME", QFile::encodeName(folder.path()));
     if (!QStandardPaths::writableLocation(QStandardPaths::AppDataLocation).startsWith(folder.path()))

@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Every drawing at the sizes it is used in, on the ground it stands on.
+// Paints every drawing in its sizes on its backgrounds.
 void paintIcons(Gallery &gallery)
 {
     constexpr QSize Cell(150, 80);

@@ -24,8 +24,8 @@ std::vector<const GalleryRoom *> &rooms()
     return all;
 }
 
-// The size of these is part of the design. The texts of every language fit, and the pseudo-locale shows that
-// longer ones would not.
+// These have a fixed size by design. The texts of every language fit; the pseudo-locale would report them as
+// too long.
 const QStringList ofGivenSize{u"browseBtn"_s,
                               u"cardDescription"_s,
                               u"dangerBtn"_s,

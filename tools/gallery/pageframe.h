@@ -7,7 +7,7 @@
 #include <QVBoxLayout>
 #include <QWidget>
 
-// What stands around a page in the main window: its background, its style sheet, and the room it has there.
+// The surroundings of a page in the main window: background, style sheet and available size.
 class PageFrame : public QWidget
 {
 public:

@@ -14,7 +14,7 @@ namespace platform {
 
 namespace {
 
-// What the token of a process says of its user; null when it cannot be asked.
+// The user in the token of a process; null when the query fails.
 class TokenUser
 {
 public:
@@ -23,7 +23,7 @@ public:
         const WinHandle token = openToken(process);
         if (!token.isValid())
             return;
-        // The first question only tells how much room the answer takes.
+        // The first query only returns the required size.
         DWORD size = 0;
         processCalls().getTokenInformation(token.get(), ::TokenUser, nullptr, 0, &size);
         if (size < sizeof(TOKEN_USER))
@@ -64,7 +64,7 @@ QString accountNameOf(HANDLE process)
     const TokenUser user(process);
     if (user.sid() == nullptr)
         return {};
-    constexpr DWORD Longest = 256 + 1; // of a name, and of a domain's
+    constexpr DWORD Longest = 256 + 1; // of an account or domain name
     std::array<wchar_t, Longest> name{};
     std::array<wchar_t, Longest> domain{};
     DWORD nameSize = Longest;
@@ -89,7 +89,7 @@ bool isDesktopOfAnother()
     ::SetLastError(ERROR_SUCCESS);
     const WinHandle process(processCalls().openProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, id));
     const QString shown = process.isValid() ? accountOf(process.get()) : QString();
-    // The processes of one's own account may always be asked.
+    // Processes of the same account can always be queried.
     if (shown.isEmpty())
         return ::GetLastError() == ERROR_ACCESS_DENIED;
     return shown != own;

@@ -6,14 +6,15 @@
 
 namespace platform {
 
-// The account that a process runs for, as its SID ("S-1-5-21-..."); empty when the system does not tell.
+/// The account that a process runs for, as its SID ("S-1-5-21-..."); empty when the system gives none.
 QString accountOf(HANDLE process);
 
-// The same as people know it ("COMPUTER\name"), its SID where it has no name.
+/// The account that a process runs for, as a readable name ("COMPUTER\name"), or as its SID where it has no
+/// name.
 QString accountNameOf(HANDLE process);
 
-// Whether the desktop is another account's: the owner of the window that the shell has for it. Not so without
-// a shell.
+/// Whether the desktop belongs to another account, judged by the owner of the shell's window. False without a
+/// shell.
 bool isDesktopOfAnother();
 
 } // namespace platform

@@ -24,7 +24,7 @@ Result<HeldFolder> hold(const QString &path)
     return holdFolder(name.value());
 }
 
-// Whoever holds a folder shares its deletion with nobody, so that an opening for that is refused.
+// The handle of a held folder does not share deletion, so opening the folder with that access is refused.
 Status askWhetherHeld(const std::wstring &path)
 {
     const WinHandle folder(fileCalls().createFile(
@@ -33,7 +33,8 @@ Status askWhetherHeld(const std::wstring &path)
     return folder.isValid() ? Status{} : statusFromLastError("CreateFile");
 }
 
-// A new file is compressed where its folder is. Whether it still is has the last word.
+// A new file inherits compression from its folder. The final state is what counts, so it is checked
+// afterwards.
 Status storeUncompressed(HANDLE file)
 {
     USHORT format = COMPRESSION_FORMAT_NONE;
@@ -89,7 +90,7 @@ Result<std::unique_ptr<FileHandle>> WindowsAnchoredFolder::createFile(const QStr
     const Result<std::wstring> encoded = path ? encodePath(path.value()) : path.status();
     if (!encoded)
         return encoded.status();
-    // Both accesses: only such a handle can be told how to store.
+    // Only a handle with both accesses allows a change of the compression.
     WinHandle file(fileCalls().createFile(encoded.value().c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr,
                                           CREATE_NEW, FILE_ATTRIBUTE_NORMAL | FILE_FLAG_OPEN_REPARSE_POINT,
                                           nullptr));
@@ -99,7 +100,7 @@ Result<std::unique_ptr<FileHandle>> WindowsAnchoredFolder::createFile(const QStr
         return std::unique_ptr<FileHandle>(std::make_unique<WindowsFileHandle>(std::move(file)));
     }
     Status failure = statusFromLastError("CreateFile");
-    // The system has two numbers for it.
+    // The system has two error codes for an existing entry.
     if (failure.native == ERROR_FILE_EXISTS)
         failure.code = AlreadyExists;
     return failure;

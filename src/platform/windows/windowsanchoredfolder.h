@@ -7,8 +7,8 @@
 
 namespace platform {
 
-// A folder that is held, so that its path leads to it as long as it is: neither it nor a folder above it can
-// be renamed or deleted meanwhile.
+/// A folder that is held open. Until destruction neither it nor a folder above it can be renamed or deleted,
+/// so its path keeps leading to it.
 class WindowsAnchoredFolder final : public AnchoredFolder
 {
 public:
@@ -35,7 +35,7 @@ public:
     Status removeTree(const QString &name) override;
 
 private:
-    // The path of an entry.
+    /// The path of an entry.
     Result<QString> entry(const QString &name) const;
 
     HeldFolder m_held;

@@ -18,8 +18,8 @@ namespace {
 
 constexpr QIODevice::OpenMode Mode = QIODevice::WriteOnly | QIODevice::Append | QIODevice::Text;
 
-// Without the right to write elsewhere the system finds the end of the file at each write; Qt looks for it
-// once.
+// Without the right to write elsewhere the system finds the end of the file at each write; Qt looks it up
+// only once.
 Result<int> appendingDescriptor(const QString &path)
 {
     const std::wstring name = toLongPath(QFileInfo(path).absoluteFilePath());
@@ -46,11 +46,11 @@ Result<int> appendingDescriptor(const QString &path)
 
 Result<std::unique_ptr<QFileDevice>> WindowsFiles::openForAppending(const QString &path)
 {
-    // Qt would follow it.
+    // Qt would follow a link.
     if (const QFileInfo standing(path); standing.isSymLink() || standing.isJunction())
         return Status{CannotAccessFile, 0, "open for appending"};
     auto file = std::make_unique<QFile>(path);
-    // Made with its access list, which the system's own call would need as a structure.
+    // Qt creates the file together with its access list; the system call would need a structure for that.
     if (!file->open(Mode, QFile::ReadOwner | QFile::WriteOwner))
         return Status{CannotAccessFile, 0, "open for appending"};
     file->close();

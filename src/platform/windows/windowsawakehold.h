@@ -5,7 +5,7 @@
 
 namespace platform {
 
-// The thread's own wish for a system that stays awake, and the reason against a shutdown at a window.
+/// Keeps the system awake for the calling thread, and registers the reason against a shutdown with a window.
 class WindowsAwakeHold final : public AwakeHold
 {
 public:
@@ -20,7 +20,7 @@ private:
     {}
 
     EXECUTION_STATE m_before;
-    HWND m_window = nullptr; // that has the reason
+    HWND m_window = nullptr; ///< with the registered reason
 };
 
 } // namespace platform

@@ -10,7 +10,7 @@ namespace platform {
 
 namespace {
 
-// Younger than the headers of some compilers.
+// Missing from the headers of some compilers.
 constexpr DWORD SupportsIntegrityStreams = 0x04000000;
 constexpr DWORD SupportsBlockRefcounting = 0x08000000;
 constexpr DWORD GetIntegrityInformation =
@@ -29,7 +29,7 @@ static_assert(sizeof(IntegrityInformation) == 16);
 constexpr DWORD GetExternalBacking = CTL_CODE(FILE_DEVICE_FILE_SYSTEM, 196, METHOD_BUFFERED, FILE_ANY_ACCESS);
 constexpr DWORD NotExternallyBacked = 342;
 
-// What every provider's answer begins with; that there is one is all that is asked.
+// The common beginning of every provider's answer. Only its presence matters.
 struct ExternalBacking
 {
     DWORD version;
@@ -53,8 +53,8 @@ ElsewhereReasons reasonsOfAttributes(DWORD attributes)
     return reasons;
 }
 
-// What the system has compressed for its own use shows no attribute of it, and the first write gives it other
-// clusters. Where nobody says that there is no such backing, there may be one.
+// Files that the system compressed for its own use have no attribute for it, and the first write moves them
+// to other clusters. An answer other than "not backed" counts as a backing.
 bool mayHaveBacking(HANDLE file)
 {
     ExternalBacking backing = {};
@@ -66,7 +66,8 @@ bool mayHaveBacking(HANDLE file)
     return error != NotExternallyBacked && error != ERROR_INVALID_FUNCTION && error != ERROR_NOT_SUPPORTED;
 }
 
-// Clusters with checksums are never overwritten. Where the file system does not say, they may have some.
+// Clusters with checksums are never overwritten. Without an answer from the file system they count as having
+// checksums.
 bool mayHaveChecksums(HANDLE file)
 {
     IntegrityInformation integrity = {};
@@ -76,7 +77,7 @@ bool mayHaveChecksums(HANDLE file)
     return !answered || returned < sizeof(WORD) || integrity.checksumAlgorithm != 0;
 }
 
-// A file that has content and no cluster keeps it in its record, whose changes go through the log.
+// A file with content and no cluster stores it in its file record, and changes to the record are logged.
 bool liesInItsRecord(HANDLE file)
 {
     STARTING_VCN_INPUT_BUFFER start = {};
@@ -110,7 +111,7 @@ Result<ContentPlace> contentPlaceOf(HANDLE file)
             place.elsewhere |= Elsewhere::Unknown;
         if ((volume & SupportsIntegrityStreams) && mayHaveChecksums(file))
             place.elsewhere |= Elsewhere::Relocating;
-        // Which clusters are in fact shared nobody tells.
+        // The system does not report which clusters are shared.
         if (volume & SupportsBlockRefcounting)
             place.elsewhere |= Elsewhere::Shared;
         if (!isFolder && liesInItsRecord(file))

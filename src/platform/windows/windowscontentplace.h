@@ -6,7 +6,8 @@
 
 namespace platform {
 
-// Of an open file, one stream of it, or a folder. Attributes may be all that it was opened for.
+/// Where the content of an open file, one of its streams or a folder lies. A handle opened for attributes is
+/// enough.
 Result<ContentPlace> contentPlaceOf(HANDLE file);
 
 } // namespace platform

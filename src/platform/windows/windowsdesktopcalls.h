@@ -7,8 +7,8 @@
 
 namespace platform {
 
-/// RevokeDragDrop and SHChangeNotify, whose headers are long, and SHUpdateRecycleBinIcon, which not every
-/// compiler's headers know.
+/// RevokeDragDrop and SHChangeNotify, whose headers are long, and SHUpdateRecycleBinIcon, which the headers
+/// of some compilers lack.
 HRESULT WINAPI revokeDragDrop(HWND window);
 void WINAPI changeNotify(LONG event, UINT flags, LPCVOID first, LPCVOID second);
 void WINAPI updateRecycleBinIcon();

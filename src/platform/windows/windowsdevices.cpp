@@ -22,8 +22,8 @@ namespace platform {
 
 namespace {
 
-// Empty for anything but a drive letter with its colon: other names below "\\.\" are devices that were not
-// meant.
+// Empty for anything but a drive letter with its colon, because other names below "\\.\" are unrelated
+// devices.
 QString volumePath(const QString &name)
 {
     if (name.size() != 2 || name.at(1) != u':')
@@ -34,9 +34,9 @@ QString volumePath(const QString &name)
     return QLatin1String(R"(\\.\)") + name;
 }
 
-// What the drive says of itself now must be what it said when it was chosen. An answer that is missing now
-// and was missing then is the same: some drives never tell their serial number or, behind some drivers, not
-// even their size. One that came or went means another drive.
+// The identity of the drive must be the one it had when it was chosen. An answer missing both then and now
+// is the same, because some drives never tell their serial number or, behind some drivers, their size. An
+// answer that appeared or disappeared means another drive.
 Status checkIdentity(const DriveIdentity &chosen, HANDLE drive)
 {
     const Result<Geometry> geometry = askGeometry(drive);
@@ -53,8 +53,8 @@ Status checkIdentity(const DriveIdentity &chosen, HANDLE drive)
     return {NotReady, 0, "identity check"};
 }
 
-// The volume itself names the drives it lies on; a drive under that number which cannot even be opened tells
-// nothing.
+// The volume itself names the drives that hold it. If the drive of that number cannot be opened, its
+// identity cannot be checked.
 Status checkVolume(HANDLE volume, const DriveIdentity &chosen, const QString &drivePath)
 {
     const Result<QList<Extent>> extents = askExtents(volume, AllExtents);
@@ -77,7 +77,8 @@ Result<WinHandle> openChosen(const DriveIdentity &drive, const QString &path, Dr
     Result<WinHandle> opened = openForTransfers(path, access);
     if (!opened)
         return opened.status();
-    // Asked only now that the drive is held: before, it could still be exchanged for another.
+    // The identity is checked while the drive is held, because before that the drive could still be
+    // exchanged.
     const Status identity = checkIdentity(drive, opened.value().get());
     if (!identity)
         return identity;
@@ -105,7 +106,8 @@ Result<std::unique_ptr<VolumeDevice>> openAt(const QString &path, const DriveIde
     return std::unique_ptr<VolumeDevice>(std::make_unique<WindowsVolumeDevice>(opened.take(), openDrive));
 }
 
-// Empty where the volume does not tell: the system itself guards what is mounted against the drive's handle.
+// Empty when the volume does not tell, since the system itself protects mounted volumes against writes
+// through the drive.
 QList<Extent> placeOf(const QString &path)
 {
     const Result<WinHandle> volume = openForQuery(path);
@@ -124,8 +126,8 @@ Status lockIfOn(const DriveIdentity &drive, const QString &drivePath, const Volu
     return volume ? locked.lock({name.shown, place, volume.take()}) : volume.status();
 }
 
-// Those with a letter first, since that is how they are known. Failure leaves some locked, and names the
-// volume if it was one.
+// Volumes with a letter come first, because users know them by it. After a failure some volumes stay locked;
+// inTheWay names the volume that failed, if any.
 Status lockEveryVolume(const DriveIdentity &drive, const QString &drivePath, const QStringList &letters,
                        LockedVolumes &locked, QString &inTheWay)
 {
@@ -146,7 +148,7 @@ Status lockEveryVolume(const DriveIdentity &drive, const QString &drivePath, con
     return {};
 }
 
-// The call wants the root with its separator, and only that of the system is sure to be understood.
+// The call requires the root with its trailing separator, and is only sure to understand native separators.
 bool isOnLocalDrive(const QString &root)
 {
     const UINT type = volumeCalls().getDriveType(QDir::toNativeSeparators(root).toStdWString().c_str());

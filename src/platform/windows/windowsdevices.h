@@ -4,7 +4,7 @@
 
 namespace platform {
 
-// Drives and volumes of a Windows machine under the system's own numbers and letters.
+/// Drives and volumes of a Windows machine under the system's own numbers and letters.
 class WindowsDevices : public Devices
 {
 public:

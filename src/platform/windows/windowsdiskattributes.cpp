@@ -12,7 +12,7 @@ namespace platform {
 
 namespace {
 
-// Of winioctl.h; not every compiler's own version of it has them.
+// From winioctl.h; the headers of some compilers lack them.
 constexpr DWORD SetDiskAttributes = 0x0007C0F4; // IOCTL_DISK_SET_DISK_ATTRIBUTES
 constexpr DWORD GetDiskAttributes = 0x000700F0; // IOCTL_DISK_GET_DISK_ATTRIBUTES
 constexpr DWORDLONG Offline = 1;                // DISK_ATTRIBUTE_OFFLINE

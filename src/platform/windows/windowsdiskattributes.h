@@ -5,15 +5,15 @@
 
 namespace platform {
 
-// Whether the system uses a drive or leaves it alone, with all its volumes.
+/// The offline attribute of a drive. The system does not use an offline drive or any of its volumes.
 
-// NotSupported or the driver's own number where drives of that kind do not tell.
+/// Fails with NotSupported or the driver's own number where drives of that kind have no such attribute.
 Result<bool> isOffline(HANDLE drive);
 
-// Until it is changed again or the system starts anew; the handle must allow writing.
+/// Holds until it is changed again or the system restarts. The handle must allow writing.
 Status setOffline(HANDLE drive, bool offline);
 
-// The system reads the partition table of the drive again.
+/// Has the system read the partition table of the drive again.
 void lookAnew(HANDLE drive);
 
 } // namespace platform

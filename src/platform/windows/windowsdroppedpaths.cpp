@@ -14,7 +14,7 @@ QStringList droppedPaths(HDROP drop)
     const UINT count = ::DragQueryFileW(drop, Count, nullptr, 0);
     QStringList paths;
     for (UINT i = 0; i < count; ++i) {
-        // Without the zero at its end, for which there has to be room.
+        // The length excludes the terminating zero, but the buffer must have room for it.
         const UINT length = ::DragQueryFileW(drop, i, nullptr, 0);
         std::wstring path(std::size_t(length) + 1, L'\0');
         path.resize(::DragQueryFileW(drop, i, path.data(), length + 1));

@@ -8,7 +8,7 @@
 
 namespace platform {
 
-// The paths that a WM_DROPFILES carries, which is left as it is.
+/// The paths in a WM_DROPFILES message. The message is not freed.
 QStringList droppedPaths(HDROP drop);
 
 } // namespace platform

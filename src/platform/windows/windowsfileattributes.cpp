@@ -27,13 +27,13 @@ Result<EntryAttributes> withTag(const std::wstring &path, DWORD bits)
     if (!(bits & FILE_ATTRIBUTE_REPARSE_POINT))
         return EntryAttributes{bits, 0};
     WIN32_FIND_DATAW entry = {};
-    // Listings have no streams.
+    // Folder listings do not contain streams.
     auto *const search = fileCalls().findFirstFile(withoutStream(path).c_str(), FindExInfoBasic, &entry,
                                                    FindExSearchNameMatch, nullptr, 0);
     if (search == INVALID_HANDLE_VALUE)
         return statusFromLastError("FindFirstFileEx");
     fileCalls().findClose(search);
-    // Whether an entry has to be brought here first some systems tell in listings only.
+    // Some systems mark entries that must be fetched from a cloud in listings only.
     const EntryAttributes listed = attributesOf(entry);
     return EntryAttributes{bits | listed.bits, listed.reparseTag};
 }
@@ -67,7 +67,7 @@ Status clearReadOnlyAttribute(const std::wstring &path, DWORD attributes)
     if (!(attributes & FILE_ATTRIBUTE_READONLY))
         return {};
     const DWORD others = attributes & ~DWORD(FILE_ATTRIBUTE_READONLY);
-    // No attribute at all would mean to leave them as they are.
+    // The value 0 would leave the attributes unchanged.
     return statusOf(fileCalls().setFileAttributes(path.c_str(), others == 0 ? FILE_ATTRIBUTE_NORMAL : others),
                     "SetFileAttributes");
 }

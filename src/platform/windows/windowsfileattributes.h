@@ -9,23 +9,23 @@
 
 namespace platform {
 
-// Of what stands under the path itself, a link's own.
+/// The attributes of the entry at the path; of a link, its own.
 Result<EntryAttributes> attributesOf(const std::wstring &path);
-// Of what was opened.
+/// The attributes of an open file or folder.
 Result<EntryAttributes> attributesOf(HANDLE opened);
 
-// The same of an entry whose attributes but for the tag are known.
+/// Adds the reparse tag to the known attributes of an entry.
 Result<EntryAttributes> withTag(const std::wstring &path, DWORD bits);
 Result<EntryAttributes> withTag(HANDLE opened, DWORD bits);
 
-// Of a listing.
+/// The attributes in an entry of a folder listing.
 EntryAttributes attributesOf(const WIN32_FIND_DATAW &listed);
 
-/// Opens the entry itself to be asked about, whoever else has it open. Nothing is followed, and nothing
-/// brought here from a cloud. flags: FILE_FLAG_BACKUP_SEMANTICS where it may be a folder.
+/// Opens the entry itself to query it, also while other programs have it open. Links are not followed and no
+/// content is fetched from a cloud. flags: FILE_FLAG_BACKUP_SEMANTICS where the entry may be a folder.
 WinHandle openForAttributes(const std::wstring &path, DWORD flags = 0);
 
-// Takes FILE_ATTRIBUTE_READONLY away from an entry with these attributes, which keeps the others.
+/// Removes FILE_ATTRIBUTE_READONLY from an entry that has these attributes. The others stay.
 Status clearReadOnlyAttribute(const std::wstring &path, DWORD attributes);
 
 } // namespace platform

@@ -18,7 +18,7 @@ namespace platform {
 
 namespace {
 
-// Not in the system's headers: the content of WM_DROPFILES on its way from one process to another.
+// Missing from the system's headers. The message carries the data of WM_DROPFILES between processes.
 constexpr UINT CopyGlobalData = 0x0049;
 
 } // namespace
@@ -41,7 +41,7 @@ public:
                 qWarning() << "[FileDrops]"
                            << statusFromLastError("ChangeWindowMessageFilterEx").diagnostic();
         }
-        // The source asks a window for the newer way first, and is refused it.
+        // The source tries OLE drag and drop first, which is refused between processes of different rights.
         desktopCalls().revokeDragDrop(m_window);
         desktopCalls().dragAcceptFiles(m_window, TRUE);
         QCoreApplication::instance()->installNativeEventFilter(this);
@@ -56,7 +56,7 @@ public:
         const QStringList paths = droppedPaths(drop);
         ::DragFinish(drop);
         m_receive(paths);
-        // Who takes a message out of the queue asks for no answer.
+        // A message taken from the queue has no result to return.
         if (result)
             *result = 0;
         return true;
@@ -69,7 +69,7 @@ private:
 
 FileDrops::FileDrops(quintptr window, const Receiver &receive)
 {
-    // Among equals the newer way works, and shows the user more.
+    // OLE drag and drop works between processes of equal rights and shows the user more.
     if (!isProcessElevated().valueOr(false))
         return;
     d = std::make_unique<Private>(reinterpret_cast<HWND>(window), receive);

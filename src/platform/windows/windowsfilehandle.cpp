@@ -11,9 +11,9 @@ namespace platform {
 
 namespace {
 
-// A call takes at most 32 bits of length; this much is a whole number of any device's units.
+// A call takes a 32-bit length; this size is a multiple of every device's sector size.
 constexpr qint64 LargestPiece = 1024LL * 1024 * 1024;
-// Beyond what any file system keeps; not all of them take a file pointer of any value.
+// Beyond the largest file of any file system. Some file systems reject larger file pointers.
 constexpr qint64 EndOfPositions = std::numeric_limits<qint64>::max() - LargestPiece;
 
 bool isTransferable(qint64 position, qint64 size)
@@ -26,7 +26,8 @@ DWORD pieceOf(qint64 left)
     return static_cast<DWORD>(qMin(left, LargestPiece));
 }
 
-// No room is not a fault of what was already written: it ends a write as the end of the file ends a read.
+// A lack of space does not invalidate the bytes already written. It ends a write as the end of the file ends
+// a read.
 bool isOutOfRoom(int error)
 {
     return error == ERROR_DISK_FULL || error == ERROR_HANDLE_DISK_FULL || error == int(DiskQuotaExceeded) ||
@@ -39,7 +40,7 @@ Status WindowsFileHandle::seek(qint64 position)
 {
     if (position < 0)
         return {InvalidParameter, ERROR_NEGATIVE_SEEK, "SetFilePointerEx"};
-    // Nothing can be transferred from there anyway.
+    // No transfer is possible from such a position.
     if (position > EndOfPositions) {
         m_position = position;
         m_pointerIsThere = false;
@@ -59,8 +60,8 @@ Status WindowsFileHandle::provideFilePointer()
     return m_pointerIsThere ? Status{} : seek(m_position);
 }
 
-// The system may answer from its cache. Files::open() has it dropped before it opens a file for verification;
-// what a writer of this process left behind is on the medium since its flush().
+// The system may answer from its cache. Files::open() drops the cache before it opens a file for
+// verification, and flush() has put earlier writes of this process on the medium.
 Result<qint64> WindowsFileHandle::read(void *data, qint64 size)
 {
     if (!isTransferable(m_position, size))
@@ -132,8 +133,8 @@ Status WindowsFileHandle::setEnd()
 
 Status WindowsFileHandle::flush()
 {
-    // What the cache failed to write it may have dropped: a second attempt would succeed over data that is
-    // not there.
+    // The cache may have dropped the bytes that it failed to write. A second flush would then succeed
+    // without them.
     if (m_flushFailure)
         m_flushFailure = statusOf(fileCalls().flushFileBuffers(m_file.get()), "FlushFileBuffers");
     return m_flushFailure;

@@ -5,8 +5,8 @@
 
 namespace platform {
 
-// An open regular file. Transfers at the system's own file pointer, which is set again wherever a failure
-// leaves it in doubt.
+/// An open regular file. Transfers use the system's own file pointer, which is set again after a failure that
+/// leaves it in doubt.
 class WindowsFileHandle final : public FileHandle
 {
 public:
@@ -29,7 +29,7 @@ private:
 
     WinHandle m_file;
     qint64 m_position = 0;
-    bool m_pointerIsThere = true; // the system's file pointer stands at m_position
+    bool m_pointerIsThere = true; ///< the system's file pointer stands at m_position
     Status m_flushFailure;
 };
 

@@ -5,15 +5,15 @@
 
 namespace platform {
 
-// What the system says of an entry itself.
+/// The attributes of an entry itself.
 struct EntryAttributes
 {
     DWORD bits = 0;
-    DWORD reparseTag = 0; // of one with FILE_ATTRIBUTE_REPARSE_POINT
+    DWORD reparseTag = 0; ///< with FILE_ATTRIBUTE_REPARSE_POINT only
 };
 
-// Whether a cloud service keeps the entry as well, be it here or not. Each service has a digit of its own in
-// the tag.
+/// Whether a cloud service also keeps the entry, whether or not its content is local. Each service has its
+/// own digit in the tag.
 inline bool isInCloud(const EntryAttributes &entry)
 {
     constexpr DWORD CloudTag = 0x9000001A;
@@ -21,9 +21,9 @@ inline bool isInCloud(const EntryAttributes &entry)
     return (entry.bits & FILE_ATTRIBUTE_REPARSE_POINT) && (entry.reparseTag & AllButTheService) == CloudTag;
 }
 
-// Whether a part of what is in a file or folder is only with a service, which would bring it here for whoever
-// reads it. One of the attributes is also that of files with extended attributes, and one anybody may set:
-// these two say something of what is in a cloud only.
+/// Whether a part of the content of a file or folder is only in a cloud, and would be fetched by reading it.
+/// Two of the attributes count for cloud entries only, because the value of one also marks extended
+/// attributes and any program may set the other.
 inline bool isPartlyElsewhere(const EntryAttributes &entry)
 {
     constexpr DWORD RecallOnOpen = 0x00040000;
@@ -33,15 +33,15 @@ inline bool isPartlyElsewhere(const EntryAttributes &entry)
     return entry.bits & telling;
 }
 
-// A reparse point that is more than a mark on what is here.
+/// Whether the entry is a reparse point that does more than mark local content.
 inline bool leadsElsewhere(const EntryAttributes &entry)
 {
     return (entry.bits & FILE_ATTRIBUTE_REPARSE_POINT) && !isInCloud(entry);
 }
 
-// A link, or a file or folder whose contents are kept elsewhere (deduplicated, offline). Those are no links,
-// so that nobody takes removing them for erasing them; they are refused when they are opened. A link's own
-// attributes also tell whether it leads to a folder, so that bit comes second.
+/// A link, or a file or folder whose content is stored elsewhere (deduplicated, offline). The latter do not
+/// count as links, because removing them would then be taken for erasing them; opening them is refused. The
+/// folder bit is tested second, since a link's own attributes also tell whether it leads to a folder.
 inline FileKind fileKindFromAttributes(const EntryAttributes &entry)
 {
     if ((entry.bits & FILE_ATTRIBUTE_REPARSE_POINT) && IsReparseTagNameSurrogate(entry.reparseTag))
@@ -51,20 +51,21 @@ inline FileKind fileKindFromAttributes(const EntryAttributes &entry)
     return entry.bits & FILE_ATTRIBUTE_DEVICE ? FileKind::Special : FileKind::Regular;
 }
 
-// A folder with its own entries in it.
+/// Whether the entry is a folder that itself holds its entries.
 inline bool isPlainFolder(const EntryAttributes &entry)
 {
     return (entry.bits & FILE_ATTRIBUTE_DIRECTORY) && !leadsElsewhere(entry);
 }
 
-// A junction, or a symbolic link that was made for a folder: removed as folders are.
+/// Whether the entry is a junction or a symbolic link made for a folder. Such links are removed as folders
+/// are.
 inline bool isFolderLink(const EntryAttributes &entry)
 {
     return (entry.bits & FILE_ATTRIBUTE_DIRECTORY) && leadsElsewhere(entry);
 }
 
-// Of what is to be opened as a regular file. Behind a reparse point that leads elsewhere the bytes are
-// somebody else's, or cannot be reached from here.
+/// The refusal to open the entry as a regular file, if any. The bytes behind a reparse point that leads
+/// elsewhere belong to another file, or cannot be reached from here.
 inline Status refusalOf(const EntryAttributes &entry, const char *operation)
 {
     if (isPlainFolder(entry))

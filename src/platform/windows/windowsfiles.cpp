@@ -19,7 +19,7 @@ namespace platform {
 namespace {
 
 constexpr DWORD ShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
-// Nothing is followed, and nothing brought here from a cloud.
+// Links are not followed, and no content is fetched from a cloud.
 constexpr DWORD AsItIs = FILE_FLAG_OPEN_REPARSE_POINT | FILE_FLAG_OPEN_NO_RECALL;
 
 struct OpenParameters
@@ -51,8 +51,8 @@ WinHandle openFile(const std::wstring &path, const OpenParameters &how, DWORD di
                                             how.flags | AsItIs, nullptr));
 }
 
-// A file that is opened past the cache takes its pages out of the cache when nobody else has it open. Only a
-// hint: the opening that counts follows and reports what is wrong.
+// Opening a file unbuffered drops its pages from the cache unless another handle is open. A failure is
+// ignored here, because the following open reports it.
 void dropCached(const std::wstring &path)
 {
     openFile(path, {GENERIC_READ, ShareAll, FILE_FLAG_NO_BUFFERING}, OPEN_EXISTING);
@@ -60,7 +60,7 @@ void dropCached(const std::wstring &path)
 
 Result<WinHandle> openExisting(const std::wstring &path, OpenMode mode)
 {
-    // Opening alone already has effects on what is no regular file.
+    // Opening an entry other than a regular file may already have side effects.
     const Result<EntryAttributes> found = attributesOf(path);
     if (!found)
         return found.status();
@@ -71,7 +71,7 @@ Result<WinHandle> openExisting(const std::wstring &path, OpenMode mode)
     WinHandle file = openFile(path, parametersOf(mode), OPEN_EXISTING);
     if (!file.isValid())
         return statusFromLastError("CreateFile");
-    // Something else may have taken its place meanwhile.
+    // The entry may have been replaced since the check.
     const Result<EntryAttributes> opened = attributesOf(file.get());
     if (!opened)
         return opened.status();
@@ -80,8 +80,8 @@ Result<WinHandle> openExisting(const std::wstring &path, OpenMode mode)
     return file;
 }
 
-// What CREATE_ALWAYS does, in two steps: that one cannot be told to leave links alone, it would cut what a
-// link leads to, and it refuses hidden and system files.
+// Does the work of CREATE_ALWAYS in two steps, because that flag follows links and truncates their targets,
+// and refuses hidden and system files.
 Result<WinHandle> createOrCut(const std::wstring &path)
 {
     WinHandle created = openFile(path, parametersOf(OpenMode::CreateFill), CREATE_NEW);
@@ -99,7 +99,7 @@ Result<WinHandle> createOrCut(const std::wstring &path)
 struct OpenedInfo
 {
     BY_HANDLE_FILE_INFORMATION file = {};
-    qint64 allocatedBytes = -1; // of a sparse or compressed file
+    qint64 allocatedBytes = -1; // of a sparse or compressed file only
 };
 
 qint64 allocatedBytesOf(HANDLE file)
@@ -110,7 +110,7 @@ qint64 allocatedBytesOf(HANDLE file)
     return compression.CompressedFileSize.QuadPart;
 }
 
-// How many names the file has, which it is, and what it occupies: only an open handle tells.
+// The link count, the identity and the allocated size, which only an open handle tells.
 Result<OpenedInfo> openedInfo(const std::wstring &path)
 {
     const WinHandle file = openForAttributes(path);
@@ -124,7 +124,7 @@ Result<OpenedInfo> openedInfo(const std::wstring &path)
     return opened;
 }
 
-// A file or folder to be asked about, nothing else.
+// Opens a file or folder for queries only.
 Result<WinHandle> openToAsk(const EntryPath &entry)
 {
     const Result<std::wstring> name = encodePath(entry);
@@ -206,7 +206,7 @@ Result<std::unique_ptr<FileHandle>> WindowsFiles::openIn(const std::shared_ptr<D
     return std::unique_ptr<FileHandle>(std::make_unique<WindowsFileHandle>(file.take()));
 }
 
-// Flushing a volume takes an administrator, and tells nothing of what was lost before.
+// Flushing a volume needs an administrator and does not report earlier write errors.
 Result<std::shared_ptr<DurabilityGroup>> WindowsFiles::beginGroup(const EntryPath &)
 {
     return Status{NotSupported, 0, "beginGroup"};
@@ -223,7 +223,7 @@ Result<ContentPlace> WindowsFiles::contentPlace(const EntryPath &entry)
     if (!opened)
         return opened.status();
     Result<ContentPlace> place = contentPlaceOf(opened.value().get());
-    // That of a folder is about other files.
+    // A folder has no content of its own, and its place applies to other files.
     if (!place || place.value().bytes < 0)
         return place;
     const Result<QList<NamedStream>> streams = namedStreamsOf(opened.value().get());

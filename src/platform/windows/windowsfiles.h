@@ -6,7 +6,7 @@
 
 namespace platform {
 
-// Files by way of Win32 calls. Without state.
+/// Files through Win32 calls. Stateless.
 class WindowsFiles final : public Files
 {
 public:

@@ -12,8 +12,8 @@ namespace platform {
 
 namespace {
 
-// As long as the handle is open nobody can move or remove the folder or those above it, nor make it a link:
-// the path leads to it.
+// While the handle is open, neither the folder nor a folder above it can be moved, removed or turned into a
+// link, so its path keeps leading to it.
 class WindowsFolderHandle final : public FolderHandle
 {
 public:
@@ -36,7 +36,7 @@ public:
         return id;
     }
 
-    // Encoded, without a link in it.
+    // The encoded path, free of links.
     const std::wstring &place() const { return m_place; }
 
 private:
@@ -45,7 +45,8 @@ private:
     const WinHandle m_folder;
 };
 
-// Any access but that to attributes keeps others from moving the folder; some may be passed but not listed.
+// Any access beyond attributes keeps other programs from moving the folder. Some folders can be traversed
+// but not listed.
 WinHandle openToHold(const std::wstring &path)
 {
     constexpr DWORD Share = FILE_SHARE_READ | FILE_SHARE_WRITE;
@@ -57,7 +58,7 @@ WinHandle openToHold(const std::wstring &path)
                                             FILE_FLAG_BACKUP_SEMANTICS, nullptr));
 }
 
-// Whether the path leads through a link, or might.
+// Whether the path leads through a link. An unknown answer counts as a link.
 bool mayHaveLink(const std::wstring &path)
 {
     for (std::wstring part = path; part.size() > rootLength(part); part = parentOf(part)) {
@@ -68,11 +69,11 @@ bool mayHaveLink(const std::wstring &path)
     return false;
 }
 
-// path: under which the folder was opened.
+// path: the path under which the folder was opened.
 Result<std::wstring> placeOf(HANDLE folder, const std::wstring &path)
 {
     Status failure;
-    // Of a volume without a letter only the name of the volume is known.
+    // A volume without a letter has only its volume name.
     for (const DWORD form : {DWORD(VOLUME_NAME_DOS), DWORD(VOLUME_NAME_GUID)}) {
         const DWORD length = fileCalls().getFinalPathName(folder, nullptr, 0, FILE_NAME_NORMALIZED | form);
         std::wstring place(length, L'\0');
@@ -86,7 +87,8 @@ Result<std::wstring> placeOf(HANDLE folder, const std::wstring &path)
         if (failure)
             failure = statusFromLastError("GetFinalPathNameByHandle");
     }
-    // Some systems tell no long paths. What leads through no link is held on all its way by now.
+    // Some systems cannot report long paths. Without a link in it, the given path is held along its whole
+    // length by now.
     if (failure.code == MoreData && !mayHaveLink(path))
         return path;
     return failure;

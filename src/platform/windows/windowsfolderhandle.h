@@ -8,14 +8,15 @@
 
 namespace platform {
 
-// Opened under the path, wherever links in it lead.
+/// Opens and holds the folder to which the path leads; links in the path are followed.
 Result<std::shared_ptr<FolderHandle>> openHeld(const QString &path);
-// PathNotFound for what is no folder itself. The parent is held as long as this is.
+/// Fails with PathNotFound for an entry that is not itself a folder. The parent stays held as long as the new
+/// handle.
 Result<std::shared_ptr<FolderHandle>> openHeldIn(const std::shared_ptr<FolderHandle> &parent,
                                                  const QString &name);
 
-// The path for the system; of an entry in a held folder one without a link on its way. A held folder of
-// another system's fails with InvalidParameter, and so does a name that is none.
+/// The path for the system. The path of an entry in a held folder leads through no link. Fails with
+/// InvalidParameter for a held folder of another backend and for an invalid name.
 Result<std::wstring> encodePath(const EntryPath &entry);
 
 } // namespace platform

@@ -12,7 +12,7 @@ namespace platform {
 
 namespace {
 
-// Listing a folder that is not all here would have the rest brought here.
+// Listing a folder that is partly in a cloud would fetch the rest.
 Status refusalToHold(const EntryAttributes &entry)
 {
     constexpr const char *Question = "GetFileInformationByHandle";
@@ -29,7 +29,8 @@ Status refusalToHold(const EntryAttributes &entry)
 
 Result<HeldFolder> holdFolder(const std::wstring &path)
 {
-    // To list it, since a handle for its attributes alone would keep nobody from deleting it.
+    // The folder is opened for listing, because a handle for attributes alone would not prevent its
+    // deletion.
     HeldFolder folder;
     folder.handle = WinHandle(fileCalls().createFile(
         path.c_str(), FILE_LIST_DIRECTORY, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING,
@@ -61,7 +62,7 @@ FolderListing::~FolderListing()
 
 Status FolderListing::forEach(const EntryVisitor &visit)
 {
-    // The root of an empty volume has not even "." and "..".
+    // The root of an empty volume lacks even "." and "..".
     if (m_status.native == ERROR_FILE_NOT_FOUND || m_status.native == ERROR_NO_MORE_FILES)
         return {};
     if (!m_status)

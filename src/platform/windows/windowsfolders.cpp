@@ -25,7 +25,7 @@ Status makeFolder(const std::wstring &path)
     const Status status = statusOf(fileCalls().createDirectory(path.c_str(), nullptr), "CreateDirectory");
     if (status || status.isAbsent())
         return status;
-    // Of a root that exists the system says that access is denied, not that it exists.
+    // For an existing root the system reports denied access instead of existence.
     const Result<EntryAttributes> attributes = attributesOf(path);
     if (!attributes)
         return status.native == ERROR_ALREADY_EXISTS ? attributes.status() : status;
@@ -49,7 +49,7 @@ Status WindowsFolders::forEachEntry(const EntryPath &folder, const Visitor &visi
     const Result<std::wstring> name = encodePath(folder);
     if (!name)
         return name.status();
-    // Held until the listing is bound to it: the visitor may do what it likes with the folder.
+    // The folder is held until the listing is bound to it, because the visitor may change the folder.
     std::optional<FolderListing> listing;
     {
         const Result<HeldFolder> held = holdFolder(name.value());
@@ -78,7 +78,8 @@ Status WindowsFolders::create(const QString &folder)
     const Result<std::wstring> name = encodePath(folder);
     if (!name)
         return name.status();
-    // Down from the end to the first folder that exists or can be made, then up again with the missing ones.
+    // Searches from the end of the path for the first folder that exists or can be made, then makes the
+    // missing ones below it.
     const std::size_t root = rootLength(name.value());
     std::vector<std::wstring> missing;
     std::wstring path = name.value();
@@ -87,7 +88,7 @@ Status WindowsFolders::create(const QString &folder)
         missing.push_back(path);
         path = parentOf(path);
         const Status above = makeFolder(path);
-        // Something stands there that is no folder; what was asked for is below it.
+        // The existing entry is not a folder, and the requested folder lies below it.
         if (above.native == ERROR_ALREADY_EXISTS)
             return status;
         status = above;
@@ -117,7 +118,7 @@ Status WindowsFolders::removeTree(const QString &folder)
         return name.status();
     const std::wstring &path = name.value();
     const std::wstring last = path.substr(path.rfind(L'\\') + 1);
-    // A volume's root, and what would be another folder than its name says.
+    // Refuses a volume's root and names that the system resolves to another folder.
     if (path.size() <= rootLength(path) || last == L"." || last == L"..")
         return {InvalidParameter, ERROR_INVALID_PARAMETER, "RemoveDirectory"};
     return TreeRemoval().run(path);
@@ -137,7 +138,7 @@ Result<SpaceInfo> WindowsFolders::space(const QString &path)
     const Result<std::wstring> name = encodePath(path);
     if (!name)
         return name.status();
-    // The system takes folders only, and would answer for the volume that a link leads to.
+    // The call takes folders only, and for a link would report the volume of its target.
     const Result<EntryAttributes> attributes = attributesOf(name.value());
     if (!attributes)
         return attributes.status();

@@ -4,7 +4,7 @@
 
 namespace platform {
 
-// Folders by way of Win32 calls. Without state.
+/// Folders through Win32 calls. Stateless.
 class WindowsFolders final : public Folders
 {
 public:
@@ -14,13 +14,13 @@ public:
     Result<std::shared_ptr<FolderHandle>> holdIn(const std::shared_ptr<FolderHandle> &parent,
                                                  const QString &name, Mounts mounts) override;
     Status create(const QString &folder) override;
-    // A link to a folder is refused with PathNotFound; Files::remove() is for those.
+    /// Refuses a link to a folder with PathNotFound; Files::remove() removes those.
     Status removeEmpty(const EntryPath &folder) override;
-    // Read-only entries too. A mounted volume inside loses its mount point and keeps its contents.
+    /// Removes read-only entries too. A volume mounted inside loses its mount point and keeps its content.
     Status removeTree(const QString &folder) override;
     Result<FolderOwner> owner(const QString &) override { return Status{NotSupported, 0, "folder owner"}; }
     Status hide(const QString &path) override;
-    // For a file or link: of the volume on which it stands itself.
+    /// The space of the volume on which a file or link itself stands.
     Result<SpaceInfo> space(const QString &path) override;
     bool mayDistrustProgram(quint32 code) override { return code == AccessDenied || code == FileNotFound; }
     Result<int> snapshots(const QString &path) override;

@@ -8,18 +8,18 @@
 
 namespace platform {
 
-// The system's number for a part of a frame.
+/// The hit-test value of the system for a part of a frame.
 LRESULT hitTestOf(FramePart part);
 
-// The place that a mouse message tells, on the screen: left of and above the primary one its numbers are
-// negative.
+/// The screen position in a mouse message. Its coordinates are negative to the left of and above the primary
+/// screen.
 QPoint placeOf(LPARAM position);
 
-// Where a window is maximised to: the part of its screen that no taskbar has.
+/// Limits a maximised window to the part of its screen that no taskbar covers.
 void limitToWorkArea(MINMAXINFO &info, const MONITORINFO &screen, const QSize &smallest);
 
-// The same for a maximised window that is being placed. The system adds to the size asked for with the limits
-// what the screen has more than the primary one.
+/// Places a maximised window in the same area. The limits are not enough, because the system adds to their
+/// size the difference between this screen and the primary one.
 void placeInWorkArea(WINDOWPOS &place, const MONITORINFO &screen);
 
 } // namespace platform

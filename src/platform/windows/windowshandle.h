@@ -6,7 +6,7 @@
 
 namespace platform {
 
-// Owns what CreateFileW or OpenProcessToken opened.
+/// Owns a handle from CreateFileW or OpenProcessToken.
 class WinHandle
 {
 public:
@@ -30,8 +30,8 @@ public:
     HANDLE get() const { return m_handle; }
 
 private:
-    // Leaves the thread's error number as it is: a handle may go out of scope between a failed call and the
-    // look at its number.
+    /// Keeps the thread's last error, because a handle may go out of scope between a failed call and the
+    /// reading of its error.
     void close()
     {
         if (!isValid())

@@ -1,6 +1,7 @@
 #pragma once
 
-/// The only way to include the system's headers in this folder: Unicode, nothing superfluous, no min and max.
+/// The only way to include the system's headers in this folder: with Unicode, without rarely used parts, and
+/// without the macros min and max.
 #ifndef UNICODE
 #define UNICODE
 #endif

@@ -7,8 +7,8 @@
 
 namespace platform {
 
-// A drive with all its volumes, locked and dismounted: the system lets nobody write through the handle of a
-// drive into a volume that is mounted.
+/// A drive whose volumes are all locked and dismounted. The system refuses writes through the handle of a
+/// drive to sectors of a mounted volume.
 class WindowsHeldDrive : public WindowsRawDevice
 {
 public:

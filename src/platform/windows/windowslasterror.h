@@ -5,8 +5,8 @@
 
 namespace platform {
 
-// The failure of the call just made; to be asked for before anything else is called. A failure without a
-// number is still one.
+/// The failure of the latest call; to be read before any other call. A failure without an error number stays
+/// a failure.
 inline Status statusFromLastError(const char *operation)
 {
     const DWORD error = ::GetLastError();

@@ -10,7 +10,7 @@ namespace platform {
 
 namespace {
 
-// Whoever lists the volumes of the machine has each of them open for a moment.
+// A program that lists the volumes of the machine briefly opens each of them.
 constexpr int LockAttempts = 10;
 constexpr DWORD BetweenAttempts = 50; // ms
 
@@ -18,15 +18,14 @@ Status lockPatiently(VolumeDevice &volume)
 {
     for (int attempt = 1;; ++attempt) {
         Status locked = volume.lock();
-        // One that nobody has unlocked is in nobody's use, and may refuse a lock as it refuses everything
-        // else.
+        // A volume that is still encrypted is not in use, and may refuse a lock like every other request.
         if (locked || isLockedByEncryption(locked.code))
             return {};
         if (locked.code == AccessDenied && attempt < LockAttempts) {
             ::Sleep(BetweenAttempts);
             continue;
         }
-        // To open the volume for writing was allowed: it is in use.
+        // Opening the volume for writing was allowed, so a denied lock means that it is in use.
         if (locked.code == AccessDenied)
             locked.code = SharingViolation;
         return locked;

@@ -11,7 +11,7 @@
 
 namespace platform {
 
-// Volumes of one drive, each locked through a handle of its own. They are unlocked on destruction.
+/// Volumes of one drive, each locked through its own handle. Destruction unlocks them.
 class LockedVolumes
 {
 public:
@@ -19,7 +19,7 @@ public:
     {
         QString name;
         QList<Extent> extents;
-        std::unique_ptr<VolumeDevice> device; // null once it was let go of
+        std::unique_ptr<VolumeDevice> device; ///< null after letGo()
     };
 
     LockedVolumes() = default;
@@ -29,19 +29,19 @@ public:
     LockedVolumes(const LockedVolumes &) = delete;
     LockedVolumes &operator=(const LockedVolumes &) = delete;
 
-    // SharingViolation while somebody uses the volume; it is not among them then.
+    /// Fails with SharingViolation while a program uses the volume, which is then not added.
     Status lock(Volume volume);
-    // All of them. Failure names the one that stays mounted.
+    /// Dismounts all volumes. On failure volume names the one that stays mounted.
     Status dismount(QString &volume);
-    // Closes the volumes, whose drive has taken them along.
+    /// Closes the handles of volumes that went offline with their drive.
     void letGo();
     void unlock();
 
-    // As they were named when they were locked.
+    /// The names under which the volumes were locked.
     QStringList names() const;
-    // Whether it is still held.
+    /// Whether the volume of that name is still locked.
     bool holds(const QString &name) const;
-    // Whether the volume of that place is among them. One volume may have several names.
+    /// Whether the volume with these extents is among them. One volume may have several names.
     bool has(const QList<Extent> &extents) const;
 
 private:

@@ -30,10 +30,10 @@ public:
     VolumeSearch(const VolumeSearch &) = delete;
     VolumeSearch &operator=(const VolumeSearch &) = delete;
 
-    // Of the last call; NoError where it found a volume.
+    // The status of the last call; NoError where it found a volume.
     const Status &status() const { return m_status; }
 
-    // With its separator it would open the root folder.
+    // With its trailing separator the path would open the root folder.
     QString path() const
     {
         QString path = QString::fromWCharArray(m_name.data());
@@ -49,7 +49,7 @@ public:
     }
 
 private:
-    std::array<wchar_t, NameRoom> m_name = {}; // before the search, which fills it
+    std::array<wchar_t, NameRoom> m_name = {}; // declared before the search handle, whose opening fills it
     HANDLE m_search;
     Status m_status;
 };

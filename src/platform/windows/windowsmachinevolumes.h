@@ -6,11 +6,11 @@
 
 namespace platform {
 
-// Every volume of the machine, with a letter or without, as the path that opens it: "\\?\Volume{...}".
+/// The path that opens each volume of the machine, with or without a letter: "\\?\Volume{...}".
 Result<QStringList> machineVolumes();
 
-// Whether the name has the form of these paths, or of a volume's path as the kernel names it:
-// "\\?\GLOBALROOT\Device\HarddiskVolume1".
+/// Whether the name is such a path, or the kernel's path of a volume:
+/// "\\?\GLOBALROOT\Device\HarddiskVolume1".
 bool isMachineVolume(const QString &name);
 
 } // namespace platform

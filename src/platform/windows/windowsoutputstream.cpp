@@ -14,7 +14,7 @@ bool WindowsFiles::openStream(QFile &, QIODevice::OpenMode)
 
 bool WindowsFiles::isWrittenOut(const QFileDevice &)
 {
-    return true; // room is taken as it is written
+    return true; // space is allocated by the writes
 }
 
 } // namespace platform

@@ -77,7 +77,7 @@ std::wstring entryPath(const std::wstring &folder, std::wstring_view name)
 
 QString decodeName(std::wstring_view name)
 {
-    // Not by way of a decoder: it would take a byte order mark away.
+    // A decoder would remove a byte order mark.
     static_assert(sizeof(wchar_t) == sizeof(QChar));
     return QString(reinterpret_cast<const QChar *>(name.data()), static_cast<qsizetype>(name.size()));
 }

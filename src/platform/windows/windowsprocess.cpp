@@ -20,18 +20,18 @@ namespace platform {
 
 namespace {
 
-// What the console's handler thread uses; it may run at any moment until the process ends.
+// Used by the console's handler thread, which may run at any moment until the process ends.
 std::atomic<bool> s_stopAsked{false};
-// Set with the first wish to stop. Never closed, for the same reason.
+// Set with the first stop request. Never closed, because the handler thread may still use it.
 HANDLE s_stopEvent = nullptr;
 
-// The thread inside readLine(), null without one.
+// The thread inside readLine(); null while no thread is.
 HANDLE s_reader = nullptr;
 std::mutex s_readerMutex;
 std::condition_variable s_readerLeft;
 
-// Ends a call in which readLine() waits. The reader may still be on its way into one: again until it has
-// seen that it is to stop.
+// Cancels the call in which readLine() waits. The reader may not have entered that call yet, so this repeats
+// until the reader has left.
 void interruptReader()
 {
     using namespace std::chrono_literals;
@@ -42,7 +42,7 @@ void interruptReader()
     }
 }
 
-// Makes the calling thread the one that a stop interrupts.
+// Registers the calling thread as the reader that a stop interrupts.
 class ReaderInterruption
 {
 public:
@@ -68,7 +68,7 @@ BOOL WINAPI onConsoleEvent(DWORD event)
     s_stopAsked.store(true);
     ::SetEvent(s_stopEvent);
     interruptReader();
-    // After these the system ends the process as soon as this returns.
+    // After the other events the system ends the process as soon as this handler returns.
     if (event != CTRL_C_EVENT && event != CTRL_BREAK_EVENT)
         ::Sleep(INFINITE);
     return TRUE;
@@ -100,7 +100,7 @@ std::optional<QString> readConsoleLine(HANDLE input)
     std::array<wchar_t, 512> piece;
     while (!StopHandler::isAsked()) {
         DWORD count = 0;
-        // Nothing read is what Ctrl+C leaves.
+        // Ctrl+C makes the call return without characters.
         if (!::ReadConsoleW(input, piece.data(), DWORD(piece.size()), &count, nullptr) || count == 0)
             return std::nullopt;
         line.append(piece.data(), count);
@@ -117,7 +117,7 @@ std::optional<QString> readStreamLine(HANDLE input)
 {
     QByteArray line;
     while (!StopHandler::isAsked()) {
-        // One byte at a time, so that what follows the line is left to the next reader.
+        // Reads single bytes, so that the bytes behind the line stay for the next reader.
         char character = 0;
         DWORD count = 0;
         if (!::ReadFile(input, &character, 1, &count, nullptr) || count == 0)
@@ -131,7 +131,7 @@ std::optional<QString> readStreamLine(HANDLE input)
 
 Status writeToConsole(HANDLE console, const QString &text)
 {
-    // Consoles before Windows 8 took no more than 64 KiB; a pair of surrogates is one character.
+    // Consoles before Windows 8 accept at most 64 KiB. Pieces must not split surrogate pairs.
     constexpr qsizetype LargestPiece = 8192;
     qsizetype done = 0;
     while (done < text.size()) {
@@ -241,8 +241,8 @@ private:
 StopHandler::Private::Private(std::function<void()> onStop)
 {
     s_stopAsked.store(false);
-    // Both stay once made. The system calls the handler under a lock that taking it away again would need,
-    // and a handler that waits for the end of the process keeps it.
+    // Event and handler are never removed. Removal needs the lock under which the system calls the handler,
+    // and a handler that waits for the end of the process holds that lock.
     static const bool isInstalled = [] {
         s_stopEvent = ::CreateEventW(nullptr, TRUE, FALSE, nullptr);
         return s_stopEvent != nullptr && ::SetConsoleCtrlHandler(onConsoleEvent, TRUE);

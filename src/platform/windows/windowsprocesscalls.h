@@ -7,7 +7,7 @@
 
 namespace platform {
 
-/// The calls about this process and others: memory, tokens, accounts, what the system keeps of its set-up.
+/// The calls about this process and others: memory, tokens, accounts and the system's configuration.
 struct WindowsProcessCalls
 {
     decltype(&::VirtualAlloc) virtualAlloc = &::VirtualAlloc;

@@ -5,10 +5,10 @@
 
 namespace platform {
 
-/// The token of a process, to be asked; GetLastError() tells why there is none.
+/// The token of a process, opened for queries. GetLastError() tells the failure.
 WinHandle openToken(HANDLE process);
 
-// Whether this process has rights that the programs of the same user's desktop have not.
+/// Whether this process has rights that other programs on the same user's desktop lack.
 Result<bool> isProcessElevated();
 
 } // namespace platform

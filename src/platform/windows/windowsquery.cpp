@@ -22,10 +22,10 @@ constexpr DWORD ExtentsHeader = 8;
 constexpr DWORD ExtentSize = 24;
 constexpr DWORD LayoutRoom = 48 + 144 * 1024; // eight times the partitions of a usual table
 
-// Named where the system does not tell all partitions of a drive.
+// Shown as a holder where the system does not report all partitions of a drive.
 constexpr QLatin1String UntoldPartitions("partitions that the system does not tell");
 
-// What the replies have room for is part of what drivers are asked.
+// The size of a reply buffer is part of the request to the driver.
 static_assert(sizeof(DISK_GEOMETRY_EX) == 40);
 static_assert(sizeof(STORAGE_PROPERTY_QUERY) == 12);
 static_assert(sizeof(DEVICE_SEEK_PENALTY_DESCRIPTOR) == 12);
@@ -132,7 +132,7 @@ Result<QList<Extent>> askExtents(HANDLE volume, int maxExtents)
 {
     constexpr const char *Operation = "IOCTL_VOLUME_GET_VOLUME_DISK_EXTENTS";
     const DWORD room = ExtentsHeader + ExtentSize * DWORD(std::max(maxExtents, 0));
-    // The count alone is an answer: none.
+    // A reply with only the count 0 is valid.
     const Result<QByteArray> reply =
         deviceReply(volume, IOCTL_VOLUME_GET_VOLUME_DISK_EXTENTS, {sizeof(DWORD), room}, Operation);
     if (!reply)
@@ -173,8 +173,8 @@ bool WindowsQuery::isReadOnly() const
     return writable.code == WriteProtect;
 }
 
-// A drive that does not answer the question, as one with a damaged first sector, can still be erased; one
-// whose answer is not whole may have anything on it.
+// A drive that does not answer, for example because of a damaged first sector, can still be erased. A drive
+// with a truncated answer may have unreported partitions.
 Result<DeviceUse> WindowsDriveQuery::use()
 {
     const Result<QStringList> holders = askHolders(handle());

@@ -9,11 +9,12 @@
 
 namespace platform {
 
-// Opens a drive or volume ("\\.\PhysicalDrive0", "\\.\E:") to be asked about itself only.
+/// Opens a drive or volume ("\\.\PhysicalDrive0", "\\.\E:") for queries only.
 Result<WinHandle> openForQuery(const QString &devicePath);
 
-// What a device answers to a control code that takes no input, in as many bytes as it filled in.
-// GeneralFailure when it claims success with fewer bytes than needed. The operation is a string literal.
+/// The answer of a device to a control code without input, as long as the device filled it in. Fails with
+/// GeneralFailure when the device reports success with fewer bytes than needed. The operation is a string
+/// literal.
 struct ReplySize
 {
     DWORD needed = 0;
@@ -21,15 +22,15 @@ struct ReplySize
 };
 Result<QByteArray> deviceReply(HANDLE device, DWORD code, ReplySize size, const char *operation);
 
-// Questions that any handle of a drive or volume answers, whatever it was opened for.
+/// Queries that work on any handle of a drive or volume, whatever its access.
 Result<Geometry> askGeometry(HANDLE drive);
 Result<QByteArray> askDescriptor(HANDLE drive);
 Result<QString> askWorldWideName(HANDLE drive);
 Result<QList<Extent>> askExtents(HANDLE volume, int maxExtents);
-// What the system has built on a drive, by name.
+/// The names of the storage objects that the system has built on a drive.
 Result<QStringList> askHolders(HANDLE drive);
 
-// A drive or volume, by a handle to ask it.
+/// Queries to a drive or volume through one handle.
 class WindowsQuery : public DeviceQuery
 {
 public:

@@ -14,7 +14,7 @@ namespace platform {
 
 namespace {
 
-// Which of these a device answers beyond its last sector is up to its driver.
+// The driver determines which of these codes a device returns beyond its last sector.
 bool isEndOfDevice(quint32 code)
 {
     return code == SectorNotFound || code == WriteFault || code == InvalidParameter;
@@ -72,14 +72,15 @@ Result<qint64> DeviceTransfers::length() const
     return qint64(information.Length.QuadPart);
 }
 
-// A device refuses a transfer across its end as a whole, which would leave its last sectors out of reach.
+// A device refuses a transfer across its end completely. Without this limit its last sectors would be
+// unreachable.
 qint64 DeviceTransfers::withinDevice(qint64 size) const
 {
     return m_end < 0 ? size : std::clamp<qint64>(m_end - m_position, 0, size);
 }
 
-// "Disk full" is also how a device may refuse to be written beyond its end. One that lacks room still has
-// something to read at that place.
+// A device may also refuse a write beyond its end with "disk full". If it only lacks space, its content at
+// that position can still be read.
 bool DeviceTransfers::isAtUntoldEnd()
 {
     AlignedBuffer sector(m_sector);
@@ -140,7 +141,7 @@ Result<qint64> DeviceTransfers::write(const void *data, qint64 size)
         if (!fileCalls().writeFile(handle(), static_cast<const char *>(data) + done, piece, &count,
                                    nullptr)) {
             const Status failure = statusFromLastError("WriteFile");
-            // What was written before counts; the next write meets the end again.
+            // The bytes written before the end count; the next write meets the end again.
             if (done > 0 && isEndOfDevice(failure.code))
                 break;
             if (failure.code == DiskFull && isAtUntoldEnd())

@@ -8,15 +8,15 @@
 
 namespace platform {
 
-// Opens a drive or volume for raw, unbuffered, write-through transfers.
+/// Opens a drive or volume for raw, unbuffered, write-through transfers.
 Result<WinHandle> openForTransfers(const QString &devicePath, DriveAccess access);
 
-// Transfers to an open drive or volume. Where it ends and how large its sectors are is asked once, here; a
-// device that does not tell is taken to have sectors of 512 bytes, and shows itself where it ends.
+/// Transfers to an open drive or volume. The constructor asks for its end and sector size. A device that does
+/// not tell its sector size is taken to have sectors of 512 bytes; an unknown end shows during transfers.
 class DeviceTransfers
 {
 public:
-    // The most that one call of the system is given, whole sectors of any size.
+    /// The largest size passed to one system call; a multiple of every sector size.
     static constexpr qint64 CallLimit = qint64(1) << 30;
 
     explicit DeviceTransfers(WinHandle device);
@@ -35,11 +35,11 @@ private:
 
     WinHandle m_device;
     qint64 m_sector = 512;
-    qint64 m_end = -1; // whole sectors in bytes; below 0 unknown
+    qint64 m_end = -1; ///< bytes in whole sectors; negative when unknown
     qint64 m_position = 0;
 };
 
-// Base is RawDevice or VolumeDevice.
+/// Base is RawDevice or VolumeDevice.
 template <typename Base>
 class WindowsTransfers : public Base
 {

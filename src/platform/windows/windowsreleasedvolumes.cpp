@@ -6,7 +6,7 @@ namespace platform {
 
 namespace {
 
-// What drivers say of media that come and go, as sticks and cards do.
+// The answers of drivers for removable media such as sticks and cards.
 bool cannotGoOffline(const Status &failure)
 {
     return failure.code == ERROR_NOT_SUPPORTED || failure.code == ERROR_INVALID_FUNCTION;
@@ -22,7 +22,7 @@ WindowsReleasedVolumes::~WindowsReleasedVolumes()
 
 Status WindowsReleasedVolumes::takeAway(QString &volume)
 {
-    // One that somebody else has taken offline stays so.
+    // A drive that another program has taken offline stays offline.
     if (isOffline(m_drive.get()).valueOr(false))
         return {};
     const Status offline = setOffline(m_drive.get(), true);
@@ -34,7 +34,7 @@ Status WindowsReleasedVolumes::takeAway(QString &volume)
     return cannotGoOffline(offline) ? m_volumes.dismount(volume) : offline;
 }
 
-// The system looks at the partition table again, whatever has become of it.
+// The system always reads the partition table again, because the drive may have been overwritten.
 Status WindowsReleasedVolumes::bringBack()
 {
     m_isSettled = true;

@@ -8,13 +8,13 @@
 
 namespace platform {
 
-// Volumes that were locked, and their drive, which then went offline and took them along. A drive that cannot
-// go offline keeps them in sight: they stay locked and dismounted as long as this lives.
+/// The locked volumes of a drive that goes offline and removes them with it. The volumes of a drive that
+/// cannot go offline stay visible, locked and dismounted for the lifetime of this object.
 class WindowsReleasedVolumes : public ReleasedVolumes
 {
 public:
-    // A handle of the drive that allows writing, and all its volumes; those without a letter have the names
-    // of machineVolumes().
+    /// Takes a handle of the drive that allows writing, and all its volumes. Volumes without a letter are
+    /// named as by machineVolumes().
     WindowsReleasedVolumes(WinHandle drive, LockedVolumes volumes)
         : m_drive(std::move(drive))
         , m_volumes(std::move(volumes))
@@ -23,7 +23,7 @@ public:
     WindowsReleasedVolumes(const WindowsReleasedVolumes &) = delete;
     WindowsReleasedVolumes &operator=(const WindowsReleasedVolumes &) = delete;
 
-    // Failure names the volume that stays mounted, if it was one.
+    /// On failure volume names the volume that stays mounted, if the failure concerns one.
     Status takeAway(QString &volume);
 
     QStringList names() const override { return m_volumes.names(); }
@@ -36,7 +36,7 @@ private:
 
     WinHandle m_drive;
     LockedVolumes m_volumes;
-    bool m_isOffline = false; // by this
+    bool m_isOffline = false; ///< through this object
     bool m_isSettled = false;
 };
 

@@ -23,8 +23,8 @@ QString systemDrive()
     return drive.isEmpty() ? QStringLiteral("C:") : drive;
 }
 
-// The partition that the firmware begins with (EFI, or the one that is marked active), which has no letter.
-// Empty when the system does not tell.
+// The partition from which the firmware boots (EFI or active), which has no letter. Empty when the system
+// does not tell.
 QString bootPartition()
 {
     std::array<wchar_t, MAX_PATH> name{};
@@ -55,7 +55,7 @@ bool WindowsSession::holdsSystemFiles(const QString &rootPath)
 {
     std::array<wchar_t, MAX_PATH> folder{};
     const UINT length = processCalls().getWindowsDirectory(folder.data(), MAX_PATH);
-    // Without an answer the reserve goes where the system is by all other signs.
+    // Without an answer the system drive of the environment counts.
     const QString drive = length >= 2 && length < MAX_PATH ? decodeName({folder.data(), 2}) : systemDrive();
     return rootPath.startsWith(drive, Qt::CaseInsensitive);
 }
@@ -73,7 +73,7 @@ QString WindowsSession::foreignAccount()
 void WindowsSession::tellBinChanged()
 {
     desktopCalls().updateRecycleBinIcon();
-    // Windows that show the bin.
+    // Updates the windows that show the bin.
     PIDLIST_ABSOLUTE bin = nullptr;
     if (FAILED(::SHGetSpecialFolderLocation(nullptr, CSIDL_BITBUCKET, &bin)))
         return;

@@ -11,7 +11,7 @@ namespace platform {
 
 namespace {
 
-// The system gives its copies numbers, deletes the oldest first, and keeps at most 512 of a volume.
+// The system numbers its copies, deletes the oldest first and keeps at most 512 per volume.
 constexpr int LastCopy = 1024;
 
 struct VolumeKind
@@ -46,7 +46,7 @@ Result<int> shadowCopiesOf(const std::wstring &path)
     int count = 0;
     Status unanswered;
     for (int number = 1; number <= LastCopy; ++number) {
-        // A copy has the serial number of its volume.
+        // A copy has the same serial number as its volume.
         const Result<VolumeKind> copy =
             volumeOf(LR"(\\?\GLOBALROOT\Device\HarddiskVolumeShadowCopy)" + std::to_wstring(number) + L'\\');
         if (copy)
@@ -54,7 +54,7 @@ Result<int> shadowCopiesOf(const std::wstring &path)
         else if (!copy.status().isAbsent())
             unanswered = copy.status();
     }
-    // One that does not tell whose it is may be the volume's.
+    // A copy that could not be queried may belong to the volume.
     if (count == 0 && !unanswered)
         return unanswered;
     return count;

@@ -6,8 +6,8 @@
 
 namespace platform {
 
-// How many volume shadow copies there are of the volume that holds the encoded path. NotSupported where its
-// file system is none that they are made of; another failure when the path or a copy cannot be asked.
+/// The number of volume shadow copies of the volume that holds the encoded path. Fails with NotSupported
+/// where the file system cannot have any, and with another error when the path or a copy cannot be queried.
 Result<int> shadowCopiesOf(const std::wstring &path);
 
 } // namespace platform

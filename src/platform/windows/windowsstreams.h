@@ -8,8 +8,7 @@
 
 namespace platform {
 
-// Of an open file or folder, the stream without a name left out. Attributes may be all that it was opened
-// for.
+/// The named streams of an open file or folder. A handle opened for attributes is enough.
 Result<QList<NamedStream>> namedStreamsOf(HANDLE opened);
 
 } // namespace platform

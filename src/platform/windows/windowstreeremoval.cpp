@@ -40,7 +40,7 @@ Status TreeRemoval::run(const std::wstring &path)
 
 void TreeRemoval::removeFolder(const std::wstring &path)
 {
-    // Most folders are empty when their turn comes. One that has become a link is removed by this as well.
+    // Most folders are empty at this point. A folder replaced by a link is removed here as well.
     const Status status = statusOf(fileCalls().removeDirectory(path.c_str()), "RemoveDirectory");
     if (status || status.isAbsent())
         return;
@@ -52,12 +52,13 @@ void TreeRemoval::removeFolder(const std::wstring &path)
     Result<HeldFolder> held = holdFolder(path);
     if (held)
         enter(path, held.take());
-    else if (!held.status().isAbsent() || held.status().native == ERROR_DIRECTORY) // another entry by now
+    else if (!held.status().isAbsent() ||
+             held.status().native == ERROR_DIRECTORY) // replaced by another entry
         note(held.status());
 }
 
-// Removes everything but the folders. The listing comes first as a whole: what deleting does to a listing
-// that is under way differs between file systems.
+// Removes every entry except the folders. The listing is completed first, because file systems differ in how
+// a deletion affects a running listing.
 void TreeRemoval::enter(const std::wstring &path, HeldFolder held)
 {
     struct Other
@@ -95,7 +96,7 @@ void TreeRemoval::leave()
 {
     const std::wstring path = std::move(m_levels.back().path);
     const DWORD attributes = m_levels.back().held.attributes;
-    // Closes it, nobody can remove what is held.
+    // Closes the folder, because a held folder cannot be removed.
     m_levels.pop_back();
     const Status status = removeFolderItself(path, attributes);
     if (!status.isAbsent())

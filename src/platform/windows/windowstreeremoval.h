@@ -9,13 +9,12 @@
 
 namespace platform {
 
-// Removes a folder with everything in it, without recursion. Every folder from the top down to the one at
-// work is held meanwhile: none of them can be swapped for a link, which the paths of their entries would then
-// lead through.
+/// Removes a folder with everything in it, without recursion. Each folder from the top to the current one is
+/// held, so that none can be replaced by a link through which the paths of its entries would lead.
 class TreeRemoval
 {
 public:
-    // The first failure. The path is encoded and none of a volume's root. Once per object.
+    /// Returns the first failure. The path is encoded and not the root of a volume. Once per object.
     Status run(const std::wstring &path);
 
 private:
@@ -23,7 +22,7 @@ private:
     {
         std::wstring path;
         HeldFolder held;
-        std::vector<std::wstring> folders; // names, still to be removed
+        std::vector<std::wstring> folders; ///< names still to be removed
     };
 
     void removeFolder(const std::wstring &path);

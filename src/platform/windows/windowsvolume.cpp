@@ -8,9 +8,8 @@
 
 namespace platform {
 
-// The file systems answer for the mount that this handle has ended, each in its own way: FAT and exFAT pass
-// the flush on to the drive and then say that the volume has changed, others say at once that it is not
-// there.
+// After the dismount the file systems answer a flush differently. FAT and exFAT pass it on to the drive and
+// then report a changed volume; others report at once that the volume is missing.
 Status WindowsVolumeDevice::flush()
 {
     const Status flushed = WindowsTransfers<VolumeDevice>::flush();

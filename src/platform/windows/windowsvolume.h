@@ -7,11 +7,11 @@
 
 namespace platform {
 
-// A volume opened for raw transfers. The system ends a lock with the handle that took it.
+/// A volume opened for raw transfers. The system releases a lock with the handle that took it.
 class WindowsVolumeDevice : public WindowsTransfers<VolumeDevice>
 {
 public:
-    // Opens the one drive that the volume lies on.
+    /// Opens the single drive that holds the volume.
     using DriveOpener = std::function<Result<WinHandle>()>;
 
     explicit WindowsVolumeDevice(WinHandle volume, DriveOpener openDrive)
@@ -30,7 +30,7 @@ private:
     Status flushDrive() const;
 
     DriveOpener m_openDrive;
-    bool m_isDismounted = false; // by this
+    bool m_isDismounted = false; ///< through this object
 };
 
 } // namespace platform

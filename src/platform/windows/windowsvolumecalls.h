@@ -7,7 +7,7 @@
 
 namespace platform {
 
-/// The calls that look for volumes and drives and ask or change them.
+/// The calls that find, query and change volumes and drives.
 struct WindowsVolumeCalls
 {
     decltype(&::GetDiskFreeSpaceExW) getDiskFreeSpace = &::GetDiskFreeSpaceExW;

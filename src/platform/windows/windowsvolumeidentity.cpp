@@ -14,7 +14,7 @@ Result<QString> volumeIdentityOf(HANDLE root)
     if (!fileCalls().getFileInformation(root, &found))
         return statusFromLastError("GetFileInformationByHandle");
     const FileId id = fileIdFrom(found);
-    // Roots are born with their volumes, but have the same number on all of them.
+    // The time of creation is included, because root folders have the same number on all volumes.
     const quint64 born =
         quint64(found.ftCreationTime.dwHighDateTime) << 32 | found.ftCreationTime.dwLowDateTime;
     return QStringLiteral("%1 %2 %3").arg(id.device, 0, 16).arg(id.number).arg(born);

@@ -9,10 +9,11 @@
 
 namespace platform {
 
-// What tells the volume whose root is open from another one that has its letter later.
+/// The identity of the volume whose root is open. It differs from that of another volume that later has the
+/// same letter.
 Result<QString> volumeIdentityOf(HANDLE root);
 
-// The same by the path of the root, empty when it does not tell.
+/// The identity of the volume with this root path; empty when it cannot be determined.
 QString volumeIdentityAt(const QString &root);
 
 } // namespace platform

@@ -42,19 +42,19 @@ public:
         if (received.hwnd != m_window)
             return false;
         const std::optional<LRESULT> answer = answerTo(received);
-        // Who takes a message out of the queue asks for no answer.
+        // A message taken from the queue has no result to return.
         if (answer && result)
             *result = *answer;
         return answer.has_value();
     }
 
 private:
-    // Nothing: the message goes on.
+    // Without a value the message is processed further.
     std::optional<LRESULT> answerTo(const MSG &message)
     {
         switch (message.message) {
         case WM_NCCALCSIZE:
-            // All of the window is content.
+            // The whole window is client area.
             return message.wParam != FALSE ? std::optional<LRESULT>(0) : std::nullopt;
         case WM_GETMINMAXINFO:
             limitToWorkArea(*reinterpret_cast<MINMAXINFO *>(message.lParam), screenOf(m_window),
@@ -71,8 +71,7 @@ private:
         }
     }
 
-    // What comes of the answer that the maximise button lies under the mouse: the system would draw its own
-    // there.
+    // Handles the messages that follow HTMAXBUTTON. The system would otherwise draw its own button there.
     std::optional<LRESULT> answerToButton(const MSG &message)
     {
         const bool isOver = message.wParam == HTMAXBUTTON;

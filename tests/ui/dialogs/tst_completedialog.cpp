@@ -132,7 +132,7 @@ void tst_CompleteDialog::successShowsThePicture()
     const auto *const icon = dialog.findChild<QLabel *>(u"dialogIcon"_s);
     QCOMPARE(icon->size(), QSize(80, 80));
     QCOMPARE(icon->pixmap().deviceIndependentSize(), QSizeF(80, 80));
-    // Green, so a picture was found and drawn.
+    // Green pixels show that a picture was found and drawn.
     QCOMPARE(icon->pixmap().toImage().pixelColor(icon->pixmap().width() / 2, icon->pixmap().height() * 4 / 5),
              QColor(0x22, 0xc5, 0x5e));
 }
@@ -206,7 +206,7 @@ void tst_CompleteDialog::aPartialJobIsToldBelowTheMessage()
         const auto *const label = dialog.findChild<QLabel *>(u"outcomeLabel"_s);
         QVERIFY(label->toolTip().contains(u"E: (1.00 KB)"_s));
         QVERIFY(label->wordWrap());
-        // The given texts stand as ever.
+        // The given texts keep their places.
         for (const QString &name : {u"dialogTitle"_s, u"dialogMessage"_s}) {
             QCOMPARE(textOf(dialog, name), textOf(whole, name));
             QCOMPARE(dialog.findChild<QLabel *>(name)->styleSheet(),
@@ -240,7 +240,7 @@ void tst_CompleteDialog::manyShortfallsFitIntoTheDialog()
     const auto *const label = dialog.findChild<QLabel *>(u"outcomeLabel"_s);
     const auto *const box = dialog.findChild<QWidget *>(u"certIdWidget"_s);
     QVERIFY(label->height() >= 2 * label->fontMetrics().height());
-    QVERIFY(label->alignment().testFlag(Qt::AlignTop)); // how it begins is never cut
+    QVERIFY(label->alignment().testFlag(Qt::AlignTop)); // the beginning is never cut
     for (const QString &name : {u"dialogTitle"_s, u"dialogMessage"_s}) {
         const auto *const given = dialog.findChild<QLabel *>(name);
         QVERIFY2(given->height() >= given->heightForWidth(given->width()), qPrintable(name));

@@ -23,7 +23,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Every text half as long again, as a translation may be.
+// Makes every text half as long again, as a translation may be.
 class LongTexts : public QTranslator
 {
 public:
@@ -296,11 +296,11 @@ void tst_ConfirmDialog::showsTheTarget()
     const auto *const target = dialog.findChild<QTextEdit *>(u"dialogTarget"_s);
     QCOMPARE(target->toPlainText(), lines.join(u'\n'));
     QVERIFY(target->isReadOnly());
-    // Seen whole, without a bar, and no higher than that.
+    // The target is fully visible without scroll bars, and no higher than needed.
     QVERIFY(target->viewport()->height() < target->document()->size().height() + 6);
     QCOMPARE(target->verticalScrollBar()->maximum(), 0);
     QCOMPARE(target->horizontalScrollBar()->maximum(), 0);
-    // The given texts stand as ever, with the target between them.
+    // The given texts keep their places, with the target between them.
     const ConfirmDialog given(nullptr);
     QCOMPARE(dialog.width(), given.width());
     QVERIFY(dialog.height() >= given.height() + target->height());
@@ -353,7 +353,7 @@ void tst_ConfirmDialog::offersTheWholeDrive()
     QCOMPARE(box->text(), text);
     QVERIFY(!box->isChecked());
     QVERIFY(!box->toolTip().isEmpty());
-    // Nothing is cut, and the given texts stand as ever.
+    // No text is cut, and the given texts keep their places.
     QVERIFY(box->height() >= box->sizeHint().height());
     QVERIFY(box->width() >= box->sizeHint().width());
     const ConfirmDialog given(nullptr);

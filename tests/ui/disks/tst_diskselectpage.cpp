@@ -58,7 +58,7 @@ struct UsualMachine
     }
 };
 
-// A page that is shown, by its parts.
+// A visible page and its parts.
 struct Shown
 {
     DiskSelectPage page;
@@ -208,7 +208,7 @@ void tst_DiskSelectPage::theTreeIsAsDrawn()
     QVERIFY(shown.tree.isAnimated());
     QCOMPARE(shown.tree.minimumHeight(), 350);
     const QHeaderView &header = *shown.tree.header();
-    // The names have all the room that the others leave.
+    // The names get the width that the other columns leave.
     QCOMPARE(header.length(), shown.tree.viewport()->width());
     QVERIFY(header.sectionSize(0) > header.sectionSize(4));
     for (int column = 1; column < 5; ++column)
@@ -272,7 +272,7 @@ void tst_DiskSelectPage::aRemovableDiskIsAmber()
         QCOMPARE(row->foreground(4).color().name(), u"#f59e0b"_s);
         QVERIFY(row->font(0).bold());
     }
-    // That it holds the system matters more.
+    // The mark of a system drive has priority.
     usual.machine.fakeDevices.mount(volumeOn(UsualMachine::Stick, u"S:"_s));
     usual.machine.fakeSession.systemVolumeNames = {u"S:"_s};
     const Shown shown;
@@ -373,7 +373,7 @@ void tst_DiskSelectPage::namesAreShownCleaned()
     const QTreeWidgetItem *row = shown.row(UsualMachine::Stick, 0);
     QCOMPARE(row->text(0), u"📁 /media/[U+202E]txt.exe (a[U+2066]b)"_s);
     QCOMPARE(row->text(2), u"ex[U+001B]t4"_s);
-    // The record keeps the name that opens the volume.
+    // The record keeps the name under which the volume is opened.
     shown.click(UsualMachine::Stick, 0);
     QCOMPARE(shown.page.selectedPartition().driveLetter, u"/media/\u202Etxt.exe"_s);
 }
@@ -597,7 +597,7 @@ void tst_DiskSelectPage::theKeyboardFoldsAndSelects()
     const UsualMachine usual;
     const Shown shown;
     shown.tree.setFocus();
-    // A view that gets the focus stands on its first row without choosing it.
+    // A view that gets the focus moves to its first row without selecting it.
     QTest::keyClick(&shown.tree, Qt::Key_End);
     QTest::keyClick(&shown.tree, Qt::Key_Home);
     QCOMPARE(shown.page.selectedDisk().diskNumber, int(UsualMachine::SystemDrive));

@@ -31,7 +31,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// A page that is shown, by its parts.
+// A visible page and its parts.
 struct Shown
 {
     FileSelectPage page;
@@ -76,7 +76,7 @@ struct Shown
     }
 };
 
-// What the desktop sends while something is dragged over a widget and dropped on it.
+// The events of the desktop while data is dragged over a widget and dropped on it.
 class Drag
 {
 public:
@@ -85,7 +85,7 @@ public:
     {}
 
     QMimeData data;
-    Qt::DropAction action = Qt::IgnoreAction; // what the source is told
+    Qt::DropAction action = Qt::IgnoreAction; // reported to the source
 
     void setFiles(const QStringList &paths)
     {
@@ -369,7 +369,7 @@ void tst_FileSelectPage::theTipIsTheWholePath()
     add(shown.page, {plain});
     QCOMPARE(shown.list.item(0)->toolTip(), plain);
 #ifdef Q_OS_UNIX
-    // What a tool tip takes for rich text shows itself. No name of Windows holds such signs.
+    // A tool tip shows markup in a name as plain text. Names on Windows cannot contain these characters.
     const QString markup = written(u"<b>bold.txt"_s);
     add(shown.page, {markup});
     QCOMPARE(QTextDocumentFragment::fromHtml(shown.list.item(1)->toolTip()).toPlainText(), markup);
@@ -517,7 +517,7 @@ void tst_FileSelectPage::whileLoadingDropsAreIgnored()
     }
     QVERIFY(shown.page.files().isEmpty());
     shown.page.hideLoading();
-    // A scan that begins while something is held over the page.
+    // A scan begins while a drag is over the page.
     Drag drag(shown.dropZone);
     drag.setFiles({file});
     QVERIFY(drag.enter());
@@ -554,7 +554,7 @@ void tst_FileSelectPage::whatADropPastTheWidgetsMissesIsTold()
     shown.page.addDropped({path(u"gone"_s), path(u"away"_s)});
     QCOMPARE(missing.text(), u"2 items could not be found"_s);
     QCOMPARE(shown.stats.text(), u"Added 1 items, total 1 B"_s);
-    // It is about the drop that was last.
+    // The notice is about the latest drop.
     add(shown.page, {written(u"two"_s)});
     QVERIFY(missing.isHidden());
     shown.page.addDropped({path(u"gone"_s)});
@@ -641,12 +641,12 @@ void tst_FileSelectPage::deleteRemovesWhatIsSelected()
     QVERIFY(QTest::qWaitForWindowActive(&shown.page));
     shown.click(shown.addFiles);
     shown.list.setFocus();
-    QTest::keyClick(&shown.list, Qt::Key_Delete); // nothing is selected
+    QTest::keyClick(&shown.list, Qt::Key_Delete); // no row is selected
     QCOMPARE(shown.page.files(), QStringList({one, two}));
     shown.clickRow(0);
     QTest::keyClick(&shown.list, Qt::Key_Delete);
     QCOMPARE(shown.page.files(), QStringList{two});
-    // Only where the list has the focus.
+    // The key works only while the list has the focus.
     shown.clickRow(0);
     shown.next.setFocus();
     QTest::keyClick(&shown.next, Qt::Key_Delete);
@@ -797,7 +797,7 @@ void tst_FileSelectPage::loadingTellsHowFarItIs()
     QCOMPARE(shown.progress.value(), 2);
     QCOMPARE(shown.loading.text(), u"2 of 5"_s);
     QCOMPARE(shown.stats.text(), u"2 of 5"_s);
-    // The next scan starts busy again.
+    // The next scan shows the busy state again.
     shown.page.showLoading(u"Scanning"_s);
     QCOMPARE(shown.progress.maximum(), 0);
 }

@@ -69,7 +69,7 @@ QStringList storedIds()
     return ids;
 }
 
-// A page that is shown, by its parts.
+// A visible page and its parts.
 struct Shown
 {
     HistoryPage page;
@@ -175,7 +175,7 @@ void tst_HistoryPage::init()
     m_folder = std::make_unique<QTemporaryDir>();
     QVERIFY(m_folder->isValid());
     userdata::moveTo(m_folder->path());
-    // Never the reports of the user of this account.
+    // The reports of this account's user must stay untouched.
     QVERIFY(userdata::isOfTests());
     userdata::clear();
     QVERIFY(database().initialize());
@@ -350,7 +350,7 @@ void tst_HistoryPage::keysAndADoubleClickOpenTheCertificate()
     shown.table.setFocus();
     QSignalSpy opened(&shown.page, &HistoryPage::viewCertificate);
     if (key != 0)
-        QTest::keyClick(&shown.table, Qt::Key(key)); // no row is chosen
+        QTest::keyClick(&shown.table, Qt::Key(key)); // no row is selected
     shown.clickRow(1);
     QCOMPARE(opened.count(), 0);
     if (key != 0)
@@ -369,7 +369,7 @@ void tst_HistoryPage::deleteAsksAndDeletes()
     Shown shown;
     QVERIFY(QTest::qWaitForWindowActive(&shown.page));
     shown.table.setFocus();
-    QTest::keyClick(&shown.table, Qt::Key_Delete); // no row is chosen
+    QTest::keyClick(&shown.table, Qt::Key_Delete); // no row is selected
     QVERIFY(prompts.boxes.isEmpty());
     shown.clickRow(0);
     const QString doomed = shown.ids().at(0);
@@ -384,7 +384,7 @@ void tst_HistoryPage::deleteAsksAndDeletes()
 
 void tst_HistoryPage::theFilterShowsWholeWords()
 {
-    // With it the popup is a list below the box, and not a menu over it.
+    // With the style sheet the popup is a list below the box instead of a menu over it.
     addUiResources();
     Shown shown;
     shown.page.setStyleSheet(programSheet());
@@ -435,7 +435,7 @@ void tst_HistoryPage::aDamagedReportDoesNotBreakThePage()
     const Shown shown;
     QCOMPARE(shown.table.rowCount(), 2);
     QCOMPARE(shown.ids().first(), u"QVX-2026-0305-1002"_s);
-    // Every way of using that row ends.
+    // Every action on that row stops without an effect.
     shown.clickRow(1);
     shown.click(shown.view);
     shown.click(shown.exportPdf);
@@ -499,7 +499,7 @@ void tst_HistoryPage::whatTheStatusDoesNotTellHasAnIcon()
     QCOMPARE(item->icon().isNull(), !marked);
     const QString tip = QTextDocumentFragment::fromHtml(item->toolTip()).toPlainText();
     QCOMPARE(tip, marked ? outcome->fullSummary() : item->text());
-    // The status says what it says.
+    // The status text is unchanged.
     QCOMPARE(shown.table.item(0, 3)->text(), report.statusName());
     QVERIFY(shown.table.item(0, 3)->icon().isNull());
 }
@@ -721,7 +721,7 @@ void tst_HistoryPage::whatIsNotStoredAnyMoreHasNoCertificate()
     bool exported = false;
     shown.page.setExporter([&exported](auto &&...) { return exported = true; });
     shown.clickRow(0);
-    // Deleted by another run of the program.
+    // Simulates a deletion by another run of the program.
     QVERIFY(ReportDatabase::instance().deleteReport(u"QVX-2026-0305-1001"_s));
     shown.click(shown.exportPdf);
     QVERIFY(!exported);
@@ -802,7 +802,7 @@ void tst_HistoryPage::clearingRemovesWhatIsLoaded()
     QCOMPARE(shown.table.rowCount(), 100);
     QCOMPARE(shown.ids().first(), u"QVX-2026-0305-1149"_s);
     QCOMPARE(shown.ids().last(), u"QVX-2026-0305-1050"_s);
-    // All that are loaded, also those that the filter hides.
+    // All loaded reports, including those hidden by the filter.
     shown.filter.setCurrentIndex(2);
     QCOMPARE(shown.table.rowCount(), 50);
     shown.click(shown.clearAll);

@@ -56,7 +56,7 @@ private:
 void tst_HomePage::init()
 {
     m_page = std::make_unique<HomePage>();
-    // What the main window leaves for a page at its smallest.
+    // The page size in the smallest main window.
     m_page->resize(720, 600);
 }
 

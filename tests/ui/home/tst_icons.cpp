@@ -22,7 +22,7 @@ QImage drawn(const QString &path, int size)
     return image;
 }
 
-// Smoothing leaves small differences.
+// Antialiasing causes small differences.
 bool isNear(const QColor &one, const QColor &other)
 {
     return qAbs(one.red() - other.red()) <= 8 && qAbs(one.green() - other.green()) <= 8 &&
@@ -31,7 +31,7 @@ bool isNear(const QColor &one, const QColor &other)
 
 } // namespace
 
-// The drawings that pages and style sheet name.
+// The drawings named by pages and style sheet.
 class tst_Icons : public QObject
 {
     Q_OBJECT
@@ -47,7 +47,7 @@ private slots:
 void tst_Icons::drawingIsThereAndVisible_data()
 {
     QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("colour"); // that a third of it has, or more
+    QTest::addColumn<QString>("colour"); // of at least a third of its pixels
     const QList<std::pair<const char *, const char *>> icons{{"icon_menu_wipe.svg", "#94a3b8"},
                                                              {"icon_menu_wipe_active.svg", "#60a5fa"},
                                                              {"icon_menu_history.svg", "#94a3b8"},
@@ -87,7 +87,7 @@ void tst_Icons::drawingIsThereAndVisible()
                 coloured += pixel.alpha() > 200 && isNear(pixel, QColor(colour)) ? 1 : 0;
             }
         }
-        // A stroke or more across, and not a full square.
+        // The drawing covers at least a stroke across and is not a full square.
         QVERIFY2(painted > size, qPrintable(QString::number(painted)));
         QVERIFY(painted < size * size * 9 / 10);
         QVERIFY2(coloured * 3 > painted, qPrintable(QString::number(coloured)));

@@ -28,7 +28,7 @@ private:
     std::unique_ptr<platform::Platform> m_files = platform::createPlatform({{}, true});
 };
 
-// A machine for a window: WindowFixture(std::move(drives.owned)).
+// A window on such a machine: WindowFixture(std::move(drives.owned)).
 struct DriveWindow
 {
     std::unique_ptr<DriveMachine> owned = std::make_unique<DriveMachine>();

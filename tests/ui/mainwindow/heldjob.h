@@ -17,16 +17,16 @@ class WipeEngine;
 struct HeldJob
 {
     HeldJob();
-    // Releases the worker, which would otherwise wait for ever.
+    // Releases the worker, which would otherwise wait forever.
     ~HeldJob();
     HeldJob(const HeldJob &) = delete;
     HeldJob &operator=(const HeldJob &) = delete;
 
     WipeEngine &engine() const;
     JobController &job() const;
-    // Leads from the home page to the first write.
+    // Goes from the home page to the first write.
     void start();
-    // Empty unless there is exactly one report.
+    // The outcome in the stored report; empty unless exactly one report exists.
     std::optional<JobOutcome> storedOutcome() const;
 
     DriveWindow drives;

@@ -16,7 +16,7 @@ namespace {
 constexpr qint64 Size = DriveMachine::Size;
 } // namespace
 
-// What the user is told before a drive is confirmed.
+// The warnings before a drive is confirmed.
 class tst_DiskObstacles : public QObject
 {
     Q_OBJECT
@@ -131,7 +131,7 @@ void tst_DiskObstacles::aPartitionJobListsEveryVolume()
     QVERIFY(fits);
 }
 
-// The dialog has grown by its target and the gap below.
+// The size of the dialog without its target and the gap below it.
 QSize tst_DiskObstacles::sizeWithoutTarget(const QDialog &dialog)
 {
     const auto *const target = dialog.findChild<QTextEdit *>(u"dialogTarget"_s);

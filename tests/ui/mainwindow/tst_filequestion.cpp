@@ -18,7 +18,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Every file is one hole.
+// Every file consists of a single hole.
 class HollowFiles : public platform::ForwardingFiles
 {
 public:
@@ -69,7 +69,7 @@ void chooseFile(WindowFixture &fixture, const QString &file)
 
 } // namespace
 
-// What the window says of files before they are erased.
+// The window's warnings about files before they are erased.
 class tst_FileQuestion : public QObject
 {
     Q_OBJECT
@@ -81,7 +81,7 @@ private slots:
     void holesThatFitAreNot();
 
 private:
-    // The notice of the dialog, which is rejected.
+    // Returns the notice of the dialog and rejects the dialog.
     static QString noticeFor(WindowFixture &fixture, const QString &file);
 };
 

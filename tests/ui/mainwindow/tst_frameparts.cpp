@@ -7,7 +7,7 @@
 using platform::FramePart;
 using namespace frameparts;
 
-// Where a window that draws its own frame is gripped.
+// The edges and corners by which a window that draws its own frame is resized.
 class tst_FrameParts : public QObject
 {
     Q_OBJECT

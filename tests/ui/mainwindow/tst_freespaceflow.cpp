@@ -38,7 +38,7 @@ private slots:
 
 namespace {
 
-// The machine, of which the window sees one loop device, and which has no system disk.
+// The machine with a single visible loop device and without a system disk.
 class Machine : public platform::Platform
 {
 public:
@@ -57,7 +57,7 @@ private:
     FakeSession m_session;
 };
 
-// As a user does it; the volume is the only one below the only drive.
+// Chooses the volume as a user does; it is the only one below the only drive.
 void chooseVolume(const WindowFixture &fixture)
 {
     const QList<FeatureCard *> cards = fixture.page()->findChildren<FeatureCard *>();
@@ -189,7 +189,7 @@ void tst_FreeSpaceFlow::aVolumeThatIsGoneFailsTheJob()
     fixture.runJob(u"Close"_s);
     QCOMPARE(fixture.reports().size(), 1);
     QCOMPARE(fixture.reports().constFirst().status, WipeStatus::Failed);
-    // Nothing was written where the volume had been.
+    // No file was written at the former mount point.
     QVERIFY(QDir(volume.mountPoint()).isEmpty());
 }
 

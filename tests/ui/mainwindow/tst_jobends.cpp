@@ -23,7 +23,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-// The file of the database cannot be opened any more: a folder has taken its place.
+// Makes the database file impossible to open by putting a folder in its place.
 void spoilDatabase()
 {
     ReportDatabase::instance().close();
@@ -31,12 +31,12 @@ void spoilDatabase()
     QVERIFY(QDir(userdata::folder()).mkdir(u"quorvex.db"_s));
 }
 
-// What ends a job that has been started.
+// Ends a running job.
 using End = void (*)(HeldJob &);
 
 } // namespace
 
-// Every way in which a job can end, by its record and by what is shown.
+// Every way in which a job can end, checked by its record and by the window.
 class tst_JobEnds : public QObject
 {
     Q_OBJECT
@@ -114,7 +114,7 @@ void tst_JobEnds::theEndOfTheSessionLeavesTheRecord()
     HeldJob held;
     held.start();
     held.letGo.release();
-    // Only the system can make a manager; the window asks nothing of it.
+    // A session manager can only be made by the system, and the window calls none of its functions.
     alignas(void *) std::array<char, 64> manager{};
     emit qApp->commitDataRequest(reinterpret_cast<QSessionManager &>(manager));
     QVERIFY(held.storedOutcome().has_value());
@@ -157,7 +157,7 @@ void tst_JobEnds::theSystemIsKeptAwakeDuringTheJob()
     QCOMPARE(session.awakeRequests.constFirst().window, quintptr(held.fixture->window->winId()));
     QCOMPARE(session.awakeHolds, 1);
     end(held);
-    // The worker is still at its transfer.
+    // The worker is still in its transfer.
     QCOMPARE(session.awakeHolds, 1);
     held.letGo.release();
     QTRY_COMPARE_WITH_TIMEOUT(held.job().state(), JobController::State::Idle, 60000);
@@ -166,7 +166,7 @@ void tst_JobEnds::theSystemIsKeptAwakeDuringTheJob()
     QCOMPARE(session.awakeRequests.size(), 1);
 }
 
-// The end may be shown for hours.
+// The result may stay on the screen for hours.
 void tst_JobEnds::theSystemIsKeptAwakeNoLongerThanTheJob()
 {
     HeldJob held;
@@ -187,7 +187,7 @@ void tst_JobEnds::aJobThatIsRefusedKeepsNothingAwake()
 {
     const HeldJob held;
     const FakeSession &session = held.drives.machine.fakeSession;
-    held.job().newTask(DiskWipe); // of no disk
+    held.job().newTask(DiskWipe); // without a disk
     QVERIFY(held.job().start());
     QCOMPARE(session.awakeRequests.size(), 1);
     QCOMPARE(session.awakeHolds, 0);
@@ -255,7 +255,7 @@ void tst_JobEnds::whoeverClosesARestartingWindowStillRestarts()
     QTRY_VERIFY_WITH_TIMEOUT(isCalled, 60000);
 }
 
-// The loop ends with the last window; the worker is still at its transfer then.
+// The event loop ends with the last window, while the worker is still in its transfer.
 void tst_JobEnds::theProgramLivesUntilTheEndIsKept()
 {
     HeldJob held;
@@ -291,13 +291,13 @@ void tst_JobEnds::aNewJobWaitsForTheOneThatIsStopping()
     QCOMPARE(held.fixture->window->currentPage(), int(MainWindow::MethodSelect));
     held.fixture->dialogs.answers = {WindowFixture::pressButton(u"Close"_s)};
     held.letGo.release();
-    // Of the job that was stopped, though the window has another task by now.
+    // The record belongs to the stopped job, although the window has another task by now.
     QTRY_COMPARE_WITH_TIMEOUT(held.storedOutcome(), JobOutcome::Cancelled, 60000);
     QTRY_COMPARE_WITH_TIMEOUT(held.fixture->dialogs.answers.size(), 0, 60000);
     QCOMPARE(held.memory.drive(1).medium, MemoryDrive(1, DriveMachine::Size).medium);
 }
 
-// The worker's thread is over, and its last word still waits in the queue of this one.
+// The worker's thread has ended, and its last signal is still queued for this thread.
 void tst_JobEnds::anEndThatIsOnItsWayIsKept()
 {
     HeldJob held;

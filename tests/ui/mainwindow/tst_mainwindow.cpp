@@ -17,7 +17,7 @@
 
 using namespace Qt::StringLiterals;
 
-// The window itself: pages, menu, frame, boxes.
+// The window itself: pages, menu, frame and message boxes.
 class tst_MainWindow : public QObject
 {
     Q_OBJECT
@@ -233,7 +233,7 @@ void tst_MainWindow::theWindowIsDraggedByItsTop_data()
     QTest::newRow("in a page") << 300 << false;
 }
 
-// Presses where the window itself, or a widget that lets the press through, is under the cursor.
+// Presses where the window, or a widget that passes the press on, is under the cursor.
 void tst_MainWindow::theWindowIsDraggedByItsTop()
 {
     QFETCH(int, y);

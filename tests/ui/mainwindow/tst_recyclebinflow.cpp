@@ -40,7 +40,7 @@
 
 using namespace Qt::StringLiterals;
 
-// The Recycle Bin on the main window, on a Trash of the test's own.
+// The Recycle Bin in the main window, on a Trash of the test.
 class tst_RecycleBinFlow : public QObject
 {
     Q_OBJECT
@@ -70,7 +70,7 @@ private slots:
     void theBinOfAnotherAccountIsToldAsSuch();
 
 private:
-    // Below the folder that the window fixture gives to the user.
+    // Both concern the Trash in the home folder of the fixture.
     static void addTrash(const WindowFixture &fixture, int count);
     static QString trash(const WindowFixture &fixture, const QString &name = {});
 };
@@ -270,7 +270,7 @@ void tst_RecycleBinFlow::backAfterTheScanRestoresThePage()
     QCOMPARE(page->findChild<QLabel *>(u"pageTitle"_s)->text(), u"Select Files to Shred"_s);
 }
 
-// The menu leads home from a page of the bin without a way back.
+// From a page of the bin without a back button, the menu leads to the home page.
 void tst_RecycleBinFlow::anotherFlowLeavesTheBin()
 {
     WindowFixture fixture;
@@ -287,7 +287,7 @@ void tst_RecycleBinFlow::anotherFlowLeavesTheBin()
     fixture.runJob();
     QVERIFY(!QFile::exists(chosen));
     QCOMPARE(QDir(trash(fixture, u"files"_s)).entryList(QDir::Files).size(), 3);
-    QCOMPARE(fixture.prompts.boxes.size(), 0); // no offer of the bin
+    QCOMPARE(fixture.prompts.boxes.size(), 0); // the bin is not offered
 }
 
 void tst_RecycleBinFlow::aFileJobAfterTheBinHasItsPageBack()
@@ -347,7 +347,7 @@ void tst_RecycleBinFlow::aNameThatIsNoUnicodeIsErasedToo()
 #endif
 }
 
-// They would be listed, and not be erased with the rest.
+// Dropped files would be listed but not erased with the others.
 void tst_RecycleBinFlow::dropsOnTheShownBinAreIgnored()
 {
     WindowFixture fixture;
@@ -357,7 +357,7 @@ void tst_RecycleBinFlow::dropsOnTheShownBinAreIgnored()
     auto *page = fixture.window->findChild<FileSelectPage *>();
     QMimeData files;
     files.setUrls({QUrl::fromLocalFile(fixture.homePath(u"data"_s))});
-    // A drop reaches only what was offered the drag before.
+    // A widget receives a drop only after the drag.
     QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
     enter.ignore();
     QApplication::sendEvent(page->list()->viewport(), &enter);
@@ -422,7 +422,7 @@ void tst_RecycleBinFlow::aBinThatIsNotLookedIntoIsTold()
     QCOMPARE(outcome->outcome(), JobOutcome::Partial);
     QCOMPARE(outcome->shortfalls(), (QList<Shortfall>{{ShortfallKind::BinNotEntered, info}}));
 
-    // Nothing but the link is left, and an empty bin is not the whole truth.
+    // Only the link is left, so calling the bin empty would be incomplete.
     fixture.window->onRecycleBinWipeClicked();
     QTRY_VERIFY_WITH_TIMEOUT(!fixture.prompts.boxes.isEmpty() &&
                                  fixture.prompts.boxes.constLast().title == u"Recycle Bin is Empty"_s,

@@ -83,7 +83,7 @@ void tst_ShadowCanvas::fallsDownwards()
     QVERIFY(alpha(picture, Margin - 4, middle) > 0);
 }
 
-// Nothing shines through a box that is not opaque.
+// The shadow does not show through a translucent box.
 void tst_ShadowCanvas::leavesTheBoxItself()
 {
     Shown shown;

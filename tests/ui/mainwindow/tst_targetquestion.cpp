@@ -12,7 +12,7 @@
 
 using namespace Qt::StringLiterals;
 
-// What the question before a job names as its target.
+// The target named in the confirmation of a job.
 class tst_TargetQuestion : public QObject
 {
     Q_OBJECT
@@ -24,7 +24,7 @@ private slots:
     void filesAreCountedAndNamed();
 
 private:
-    // The dialog is rejected.
+    // Rejects the dialog.
     static QStringList targetOf(WindowFixture &fixture);
     static DriveWindow drivesWithVolumes();
 };

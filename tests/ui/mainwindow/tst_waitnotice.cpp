@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Notes when the notice is painted, and how far the page was then.
+// Records when the notice is painted and how complete the page was then.
 class Watcher : public QObject
 {
 public:
@@ -24,7 +24,7 @@ public:
         qApp->installEventFilter(this);
     }
 
-    QStringList painted; // the text, and how many drives the list held
+    QStringList painted; // the text and the number of listed drives
     bool wasBusy = false;
 
     bool eventFilter(QObject *watched, QEvent *event) override
@@ -44,7 +44,7 @@ private:
 
 } // namespace
 
-// What the window says while it asks the drives.
+// The notice of the window while it queries the drives.
 class tst_WaitNotice : public QObject
 {
     Q_OBJECT

@@ -140,7 +140,7 @@ void tst_WholeDriveFlow::theBoxIsForgottenWithItsConfirmation()
     fixture.dialogs.answers = {confirmWhole};
     QVERIFY(fixture.click(u"Start"_s));
     QCOMPARE(fixture.prompts.boxes.size(), 1);
-    // The same again, without the box.
+    // Repeats the job without the box.
     QCOMPARE(offerOf(fixture), u"Erase the whole disk\n(otherwise 2.00 MB outside its volumes stay)"_s);
     fixture.runJob();
     QCOMPARE(fixture.reports().constFirst().wipedSectors, quint64(Size / 2 / 512));
@@ -202,7 +202,7 @@ void tst_WholeDriveFlow::aStoppedJobSaysWhatItLeftUnmounted()
 {
     DriveWindow drives;
     drives.memory.addVolume(u"E:"_s, 0, 0, Size);
-    // The job does not end by itself before it is stopped.
+    // The job cannot end before it is stopped.
     std::atomic<bool> isWriting{false};
     QSemaphore stopAsked;
     drives.memory.beforeWrite = [&isWriting, &stopAsked] {

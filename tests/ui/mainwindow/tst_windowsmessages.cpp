@@ -23,13 +23,13 @@ LRESULT send(const MainWindow &window, UINT message, WPARAM first = 0, LPARAM se
     return ::SendMessageW(reinterpret_cast<HWND>(window.winId()), message, first, second);
 }
 
-// What the mouse does comes through the queue.
+// Mouse input comes through the message queue.
 void post(const MainWindow &window, UINT message, WPARAM first = 0, LPARAM second = 0)
 {
     ::PostMessageW(reinterpret_cast<HWND>(window.winId()), message, first, second);
 }
 
-// A place of the window, as a mouse message tells it.
+// A position in the window, encoded as in a mouse message.
 LPARAM onScreen(const MainWindow &window, const QPoint &place)
 {
     RECT outline = {};
@@ -40,7 +40,7 @@ LPARAM onScreen(const MainWindow &window, const QPoint &place)
 
 } // namespace
 
-// What Windows sends to the window and nothing else stands for.
+// Messages of Windows to the window for which Qt has no event.
 class tst_WindowsMessages : public QObject
 {
     Q_OBJECT
@@ -121,7 +121,7 @@ void tst_WindowsMessages::aPressThatLeavesTheMaximizeButtonIsNone()
     QVERIFY(!fixture.window->isMaximized());
 }
 
-// Straight to the filter: the system looks where the mouse really is.
+// Sends the message straight to the filter, because the system uses the real position of the mouse.
 void tst_WindowsMessages::theMaximizeButtonShowsTheMouse()
 {
     const WindowFixture fixture;
@@ -137,7 +137,7 @@ void tst_WindowsMessages::theMaximizeButtonShowsTheMouse()
     }
 }
 
-// A frame that takes no room.
+// The window has a frame of zero width.
 void tst_WindowsMessages::theWindowSnaps()
 {
     const WindowFixture fixture;
@@ -174,12 +174,12 @@ void tst_WindowsMessages::theEndOfTheSessionIsPutToTheUser()
 {
     HeldJob held;
     held.drives.machine.fakeSession.canDelayShutdown = true;
-    // Nothing speaks against it without a job.
+    // Without a job the end of the session is accepted.
     QCOMPARE(send(*held.fixture->window, WM_QUERYENDSESSION), LRESULT(1));
     send(*held.fixture->window, WM_ENDSESSION, FALSE);
     held.start();
     QCOMPARE(send(*held.fixture->window, WM_QUERYENDSESSION), LRESULT(0));
-    // The user lets the job go on.
+    // The user cancels the end of the session.
     send(*held.fixture->window, WM_ENDSESSION, FALSE);
     QCOMPARE(held.job().state(), JobController::State::Running);
     QCOMPARE(held.fixture->window->currentPage(), int(MainWindow::Progress));
@@ -189,7 +189,7 @@ void tst_WindowsMessages::theEndOfTheSessionIsPutToTheUser()
     QCOMPARE(held.storedOutcome(), JobOutcome::Complete);
 }
 
-// The system tells a program once that it goes.
+// The system announces the end of the session only once.
 void tst_WindowsMessages::theEndOfTheSessionEndsTheJobAllTheSame()
 {
     HeldJob held;

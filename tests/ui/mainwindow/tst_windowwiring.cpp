@@ -38,7 +38,7 @@
 
 using namespace Qt::StringLiterals;
 
-// What leads from where to where in the window, and the words of its questions.
+// The navigation of the window, and the texts of its questions.
 class tst_WindowWiring : public QObject
 {
     Q_OBJECT
@@ -59,7 +59,7 @@ private slots:
 
 namespace {
 
-// Of the Trash in the folder that the fixture gives to the user.
+// A path in the Trash in the home folder of the fixture.
 QString trash(const WindowFixture &fixture, const QString &name)
 {
     return fixture.homePath(u"data/Trash/"_s) + name;
@@ -113,7 +113,7 @@ void tst_WindowWiring::theEngineFeedsTheProgressPage()
     QVERIFY(!log->toPlainText().contains(u"a line of the job"_s));
     emit engine->logMessage(u"a line of the job"_s, 1);
     QVERIFY(log->toPlainText().endsWith(u"⚠ a line of the job"_s));
-    // The page keeps the pass and shows nothing of it.
+    // The page stores the pass without showing it.
     const auto *const page = fixture.window->findChild<ProgressPage *>();
     QVERIFY(disconnect(engine, &WipeEngine::passChanged, page, &ProgressPage::setPass));
 }
@@ -218,7 +218,7 @@ void tst_WindowWiring::theOfferAtAnEmptyBin()
     QCOMPARE(box.byDefault, QMessageBox::NoButton);
 }
 
-// Free space is no answer to a file that is still there.
+// Wiping free space does not help with a file that still exists.
 void tst_WindowWiring::aFailedJobOnTheBinOffersNothing()
 {
     if (isWithoutBins())
@@ -253,7 +253,7 @@ void tst_WindowWiring::theHistoryExportsWhatTheOutcomeSays()
     QVERIFY2(text.contains(OutcomeRecord(JobOutcome::Cancelled).summary()), qPrintable(text));
 }
 
-// What the page said last stays in its hidden label.
+// The hidden label keeps the page's last text.
 void tst_WindowWiring::theScanTellsHowFarItIs()
 {
     if (isWithoutBins())
@@ -274,7 +274,7 @@ void tst_WindowWiring::theScanTellsHowFarItIs()
     QCOMPARE(bar->value(), bar->maximum());
 }
 
-// A drop reaches only what has taken the drag before.
+// A widget receives a drop only after it accepted the drag.
 void tst_WindowWiring::nothingCanBeDroppedOnTheBin()
 {
     if (isWithoutBins())
@@ -295,7 +295,7 @@ void tst_WindowWiring::nothingCanBeDroppedOnTheBin()
         QApplication::sendEvent(target, &drop);
         return enter.isAccepted() || drop.isAccepted();
     };
-    // The list takes it where it may, so that the way there is the right one.
+    // The file list accepts the same events, which proves that the test sends them correctly.
     fixture.window->onFileWipeClicked();
     QVERIFY(isTaken());
     QCOMPARE(page->files(), QStringList{other});

@@ -98,7 +98,7 @@ bool isJobRunning(const WindowFixture &fixture)
     return fixture.window->findChild<WipeEngine *>()->isRunning();
 }
 
-// A file that takes a while.
+// A file large enough to keep the job running for a while.
 QString longFile(const QTemporaryDir &folder)
 {
     return writeZeros(folder.filePath(u"long.bin"_s), qint64(256) << 20);
@@ -213,7 +213,7 @@ void tst_WipeFlows::aStoppedJobLeavesItsReport()
     QVERIFY(fixture.click(u"⏹️ 停止"_s));
     QTRY_COMPARE_WITH_TIMEOUT(fixture.dialogs.answers.size(), 0, 60000);
     QTRY_COMPARE_WITH_TIMEOUT(fixture.reports().size(), 1, 60000);
-    // The worker's own end, which comes after the stop, has the last word.
+    // The worker's own failure arrives after the stop and determines the result.
     QCOMPARE(fixture.reports().constFirst().status, WipeStatus::Failed);
     QCOMPARE(fixture.dialogs.titles.constLast(), u"Erase Failed"_s);
     const auto outcome = ReportDatabase::instance().outcome(fixture.reports().constFirst().certificateId);
@@ -238,7 +238,7 @@ void tst_WipeFlows::aRefusedTaskLeadsBackToTheMethods()
 {
     WindowFixture fixture;
     fixture.window->onFileWipeClicked();
-    fixture.window->onNextClicked(); // nothing was added
+    fixture.window->onNextClicked(); // no file was added
     fixture.dialogs.answers = {WindowFixture::typeErase};
     QVERIFY(fixture.click(u"Start"_s));
     QVERIFY(!isJobRunning(fixture));
@@ -257,7 +257,7 @@ void tst_WipeFlows::aFailedJobIsStoredAndNotExported()
     fixture.settings.set(usersettings::AutoExport, true);
     fixture.settings.set(usersettings::ExportPath, exports.path());
     chooseDisk(fixture);
-    // The drive is gone when the job begins.
+    // The drive disappears before the job begins.
     QVERIFY(QFile::remove(path));
     fixture.runJob(u"Close"_s);
     QCOMPARE(fixture.reports().size(), 1);
@@ -417,7 +417,7 @@ void tst_WipeFlows::aDatabaseThatDoesNotTakeTheReportIsTold()
     QVERIFY(fixture.click(u"Start"_s));
     QTRY_VERIFY_WITH_TIMEOUT(
         fixture.dialogs.answers.isEmpty() && fixture.window->currentPage() == MainWindow::Home, 60000);
-    // The certificate of this job, not of a report that is not there.
+    // The certificate shown belongs to this job.
     QVERIFY(!told.isEmpty());
     QCOMPARE(shown, u"Erasure Certificate - "_s + told);
 }

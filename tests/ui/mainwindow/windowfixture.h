@@ -15,7 +15,7 @@
 
 #include <memory>
 
-// The main window with drives, database, settings and answers of the test.
+// The main window with drives, database, settings and answers owned by the test.
 class WindowFixture
 {
 public:
@@ -23,7 +23,7 @@ public:
     explicit WindowFixture(const QStringList &images = {})
         : WindowFixture(platform::createPlatform({images, true}))
     {}
-    // Other drives, which must be those of the test.
+    // Uses other drives, which the test must own.
     explicit WindowFixture(std::unique_ptr<platform::Platform> platform);
     ~WindowFixture();
     WindowFixture(const WindowFixture &) = delete;
@@ -48,7 +48,7 @@ public:
     bool click(const QString &text) const;
     QList<WipeReport> reports() const;
 
-    // Saves a picture of the screen into the folder QUORVEX_TEST_PICTURES, for people to look at.
+    // Saves a screenshot into the folder QUORVEX_TEST_PICTURES for visual inspection.
     void photograph(const QString &name) const;
 
     // Confirms the chosen job, and presses that button of the completion dialog.

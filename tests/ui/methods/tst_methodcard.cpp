@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// The middle of the lower edge, where nothing but face and border is painted.
+// The middle of the lower edge, where only face and border are painted.
 constexpr QPoint OnFace(300, 72);
 constexpr QPoint OnBorder(300, 1);
 
@@ -185,7 +185,7 @@ void tst_MethodCard::facesTellTheState()
     m_card->radioButton()->setChecked(true);
     QCOMPARE(colourAt(OnFace), QColor(u"#f0f7ff"_s));
     QCOMPARE(colourAt(OnBorder), QColor(u"#3b82f6"_s));
-    // Being checked outweighs the mouse.
+    // The checked state has priority over hovering.
     setHovered(true);
     QCOMPARE(colourAt(OnFace), QColor(u"#f0f7ff"_s));
 }

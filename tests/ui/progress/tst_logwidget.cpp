@@ -210,7 +210,7 @@ void tst_LogWidget::fileThatCannotBeOpenedIsPassedOver()
 {
     const QTemporaryDir folder;
     ScriptedPrompts prompts;
-    // A folder cannot be written to, whoever runs this.
+    // A folder cannot be written to, even by root.
     prompts.filesToSaveAnswers = {folder.path()};
     m_log->addInfo(u"line"_s);
     press(u"保存日志"_s);

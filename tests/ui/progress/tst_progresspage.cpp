@@ -110,7 +110,7 @@ void tst_ProgressPage::hasItsMeasures()
         QCOMPARE(button->minimumWidth(), 120);
         QCOMPARE(button->maximumWidth(), 120);
     }
-    // What the main window leaves for a page at its smallest.
+    // The page size in the smallest main window.
     QVERIFY(m_page->minimumSizeHint().width() <= 720);
     QVERIFY(m_page->minimumSizeHint().height() <= 600);
 }
@@ -147,7 +147,7 @@ void tst_ProgressPage::resetBringsTheFirstLookBack()
     QCOMPARE(pauseButton()->text(), u"⏸️ 暂停"_s);
     QVERIFY(pauseButton()->isEnabled());
     QVERIFY(stopButton()->isEnabled());
-    // Percent and speed of the last job are forgotten, and so is that it was paused.
+    // Percentage, speed and pause of the last job are reset.
     tick();
     QCOMPARE(remaining(), u"剩余时间: 计算中..."_s);
     m_page->setProgress(50);
@@ -362,7 +362,7 @@ void tst_ProgressPage::logShowsTheNewestLine()
         return log()->viewport()->rect().contains(log()->cursorRect(end));
     };
     QVERIFY(showsTheEnd());
-    // A user who has scrolled up is brought back too.
+    // The view also returns to the end for a user who has scrolled up.
     log()->moveCursor(QTextCursor::Start);
     QVERIFY(!showsTheEnd());
     m_page->addLog(u"last"_s, 0);
@@ -378,7 +378,7 @@ void tst_ProgressPage::pauseChangesThePageOnly()
     QCOMPARE(pauseButton()->text(), u"▶️ 继续"_s);
     QCOMPARE(textOf(u"progressStatus"_s), u"已暂停"_s);
     QCOMPARE(statuses, QStringList({u"已暂停"_s}));
-    // What the engine reports is still shown.
+    // Reports of the engine are still shown.
     m_page->setProgress(40);
     QCOMPARE(textOf(u"percentLabel"_s), u"40.0%"_s);
 }

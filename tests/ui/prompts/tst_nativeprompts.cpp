@@ -19,7 +19,7 @@
 
 using namespace Qt::StringLiterals;
 
-// The dialogs that users see, answered from inside.
+// The dialogs as users see them, answered from within the process.
 class tst_NativePrompts : public QObject
 {
     Q_OBJECT
@@ -50,7 +50,7 @@ private slots:
     void printingIsAskedFor();
 
 private:
-    // A box that stays is closed with another answer: the test fails and does not hang.
+    // A box left open is closed with another answer, so that the test fails instead of hanging.
     void withdraw(QDialog &dialog)
     {
         m_prompts.withdraw();
@@ -77,7 +77,8 @@ ModalDialogs::Answer press(QMessageBox::StandardButton button, const Look &look 
     };
 }
 
-// A dialog that a failed check or a refused answer leaves open is closed: the test fails and does not hang.
+// A dialog left open by a failed check or a refused answer is closed, so that the test fails instead of
+// hanging.
 class Closing
 {
 public:
@@ -112,7 +113,7 @@ Prompts::Box question()
 
 void tst_NativePrompts::initTestCase()
 {
-    // Those of the system cannot be answered from inside.
+    // The system's dialogs cannot be answered from within the process.
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     QVERIFY(m_place.isValid());
 }
@@ -266,7 +267,7 @@ void tst_NativePrompts::theLatestBoxIsWithdrawn()
             const Closing closing(dialog);
             QCOMPARE(dialog.windowTitle(), u"inner"_s);
             withdraw(dialog);
-            // The outer box is in front again before the event loop of this one has ended.
+            // The outer box is active again before the event loop of the inner one has ended.
             QTest::qWait(50);
         },
     };
@@ -279,7 +280,7 @@ void tst_NativePrompts::theLatestBoxIsWithdrawn()
 void tst_NativePrompts::withdrawingNothingDoesNothing()
 {
     m_prompts.withdraw();
-    // One that was answered is not there any more.
+    // An answered box cannot be withdrawn any more.
     ModalDialogs dialogs;
     dialogs.answers = {press(QMessageBox::Yes)};
     QCOMPARE(m_prompts.show(nullptr, question()), QMessageBox::Yes);
@@ -352,7 +353,7 @@ void tst_NativePrompts::everyFileHasNoDotOnOtherSystems()
     QCOMPARE(filters, (QStringList{everything, everything}));
 }
 
-// What a link leads to was not chosen.
+// The target of a link was not chosen.
 void tst_NativePrompts::linksStayLinks()
 {
     const QString target = writeFile(m_place.filePath(u"target.txt"_s), "target");
@@ -432,7 +433,7 @@ void tst_NativePrompts::printingIsAskedFor()
     }};
     QCOMPARE(m_prompts.print(&window, u"Print it"_s, printer), isAccepted);
     QVERIFY(isSeen);
-    // Asking does not print.
+    // Showing the dialog does not print.
     QVERIFY(!QFile::exists(printer.outputFileName()));
 }
 

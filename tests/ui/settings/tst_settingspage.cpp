@@ -22,7 +22,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// A page that is shown, by its parts.
+// A visible page and its parts.
 struct Shown
 {
     SettingsPage page;
@@ -250,7 +250,7 @@ void tst_SettingsPage::otherSettingsStay()
 void tst_SettingsPage::settingsThatCannotBeSavedAreToldSo()
 {
     const TemporarySettings settings;
-    writeFile(settings.path(), {}); // no folder
+    writeFile(settings.path(), {}); // a file instead of a folder
     const usersettings::ScopedStore unwritable{[path = settings.path() + u"/settings.ini"_s] {
         return std::make_unique<QSettings>(path, QSettings::IniFormat);
     }};

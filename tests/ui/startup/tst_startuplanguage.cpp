@@ -40,8 +40,8 @@ QByteArray lineOf(const MessageCapture::Message &message)
     return kind + QString(message.text).remove(time).toUtf8() + '\n';
 }
 
-// What a process of its own does, since a process has one language: SETTINGS LOCALE [without-application].
-// Prints each message as a line of its own, then what came of it.
+// Run as a child process, because a process has a single language: SETTINGS LOCALE [without-application].
+// Prints each message on its own line, then the result.
 int choose(int argc, char **argv)
 {
     std::unique_ptr<QCoreApplication> application;
@@ -69,7 +69,7 @@ int choose(int argc, char **argv)
 
 } // namespace
 
-// Which language the program speaks, and how it says so.
+// The language of the program and the messages about it.
 class tst_StartupLanguage : public QObject
 {
     Q_OBJECT
@@ -87,7 +87,7 @@ private slots:
 private:
     struct Outcome
     {
-        QStringList trace; // of debug output and log
+        QStringList trace; // debug output and log
         QStringList others;
         QString code;
         QString text;
@@ -121,7 +121,7 @@ tst_StartupLanguage::Outcome tst_StartupLanguage::run(const QString &locale, con
         arguments.append(way);
     QProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    // The log makes the folder of its default file first.
+    // The log creates the folder of its default file.
     environment.insert(u"XDG_DATA_HOME"_s, m_folder.filePath(u"data"_s));
     process.setProcessEnvironment(environment);
     process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
@@ -168,7 +168,7 @@ void tst_StartupLanguage::theSystemDecidesUnlessTheUserDid_data()
 {
     QTest::addColumn<QString>("stored");
     QTest::addColumn<QString>("locale");
-    QTest::addColumn<QString>("beginning"); // of the locale, as it is looked up
+    QTest::addColumn<QString>("beginning"); // of the locale, as looked up
     QTest::addColumn<QString>("code");
     QTest::addColumn<bool>("hasCatalogue");
     const auto detected = [](const char *name, const QString &locale, const QString &beginning,
@@ -236,7 +236,7 @@ void tst_StartupLanguage::theSystemDecidesUnlessTheUserDid()
     QCOMPARE(outcome.others, QStringList());
     QCOMPARE(outcome.code, code);
     QCOMPARE(outcome.text, text);
-    // Nothing is stored by it.
+    // The choice of the language stores nothing.
     QCOMPARE(outcome.stored, stored);
     QCOMPARE(outcome.storedKeys.size(), stored.isEmpty() ? 1 : 2);
 }
@@ -291,7 +291,7 @@ void tst_StartupLanguage::everyLanguageIsWhole()
         QVERIFY(outcome.english != u"Data Wipe"_s);
 }
 
-// Texts that another catalogue has.
+// Texts from another catalogue.
 void tst_StartupLanguage::theSupplementHasEveryEnglishText()
 {
     QTranslator supplement;
@@ -306,7 +306,7 @@ void tst_StartupLanguage::theSupplementHasEveryEnglishText()
     QVERIFY(!QFile::exists(languages::supplement(u"de"_s)));
 }
 
-// Qt takes no translator before there is an application.
+// Qt cannot install a translator before the application exists.
 void tst_StartupLanguage::aRefusedInstallationIsTold()
 {
     store(u"fr"_s);

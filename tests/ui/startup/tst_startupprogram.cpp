@@ -43,8 +43,8 @@ QStringList withoutTimes(const QByteArray &text)
 
 } // namespace
 
-// The program itself, from its start to its end, in a home of its own and without real drives.
-// windowdriver.cpp is its user.
+// The program itself from start to exit, with its own home folder and without real drives. windowdriver.cpp
+// operates it.
 class tst_StartupProgram : public QObject
 {
     Q_OBJECT
@@ -100,7 +100,7 @@ void tst_StartupProgram::init()
     m_display.clear();
 }
 
-// No process outlives its test, least of all one that the program started.
+// No process may outlive its test, including one started by the program.
 void tst_StartupProgram::cleanup()
 {
     m_program.reset();
@@ -123,7 +123,7 @@ void tst_StartupProgram::store(const QString &language) const
     QSettings(settingsFile(), QSettings::IniFormat).setValue(u"language"_s, language);
 }
 
-// What the program's window was like in that run; empty before it was shown.
+// The properties of the program's window in that run; empty before it was shown.
 QJsonObject tst_StartupProgram::runNumber(int number) const
 {
     return QJsonDocument::fromJson(contentIfAny(home(u"driver/run%1.json"_s.arg(number)))).object();
@@ -149,7 +149,7 @@ void tst_StartupProgram::prepare(const QStringList &steps)
     environment.insert(u"QT_QPA_PLATFORM"_s, m_display.isEmpty() ? u"offscreen"_s : u"xcb"_s);
     if (!m_display.isEmpty()) {
         environment.insert(u"DISPLAY"_s, m_display);
-        // Where leaks are looked for: what the library of the desktop's bus keeps is its own affair.
+        // For the leak checker: memory kept by the D-Bus library does not count.
         const QString leaks = writeFile(home(u"leaks"_s), "leak:libdbus-1\n");
         environment.insert(u"LSAN_OPTIONS"_s, u"print_suppressions=0:suppressions="_s + leaks);
     }
@@ -170,14 +170,14 @@ void tst_StartupProgram::prepare(const QStringList &steps)
 void tst_StartupProgram::start(const QStringList &steps, const QStringList &arguments)
 {
     prepare(steps);
-    // Not a pipe, which breaks with the end of the first program for one that it started.
+    // A file instead of a pipe, because a pipe breaks for a second program when the first one ends.
     m_program->setStandardOutputFile(home(u"output"_s));
     m_program->setProcessChannelMode(QProcess::MergedChannels);
     m_program->start(QStringLiteral(QUORVEX_PROGRAM), arguments);
     QVERIFY2(m_program->waitForStarted(), qPrintable(m_program->errorString()));
 }
 
-// By itself and with success.
+// Whether the program exits by itself and with success.
 bool tst_StartupProgram::ends()
 {
     return m_program->waitForFinished(Patience) && m_program->exitStatus() == QProcess::NormalExit &&
@@ -222,7 +222,7 @@ void tst_StartupProgram::startsStepByStep()
     QTEST(runNumber(1).value(u"closeHint").toString(), "closeHint");
 }
 
-// Up to the end of the trace, on a system that speaks French.
+// The log up to the end of the trace, on a system with French as its language.
 QStringList tst_StartupProgram::expectedBeginning(const QString &stored, const QString &code,
                                                   bool hasCatalogue) const
 {
@@ -259,7 +259,7 @@ void tst_StartupProgram::theLanguageIsStoredWhereTheLinksHaveIt_data()
     QTest::newRow("stored, unsupported") << u"xx"_s << u"fr_CA.UTF-8"_s << u"xx"_s;
 }
 
-// The links remember the language they are given; of others they keep what there was.
+// The menu entries store the chosen language; other languages leave the stored value unchanged.
 void tst_StartupProgram::theLanguageIsStoredWhereTheLinksHaveIt()
 {
     QFETCH(const QString, stored);
@@ -290,7 +290,7 @@ void tst_StartupProgram::bearsItsNamesAndItsFont()
     QCOMPARE(run.value(u"fontWeight").toInt(), int(QFont::Normal));
     QCOMPARE(run.value(u"fontItalic"), QJsonValue(false));
     QCOMPARE(run.value(u"fontStrategy").toInt(), int(QFont::PreferAntialias));
-    // The window alone, without a message, and nobody's child.
+    // Only the main window is shown, without a message box and without a parent.
     QCOMPARE(run.value(u"windows").toArray(), QJsonArray{u"MainWindow"_s});
     QCOMPARE(run.value(u"isChild"), QJsonValue(false));
 }
@@ -308,11 +308,11 @@ void tst_StartupProgram::argumentsMeanNothing()
 
 void tst_StartupProgram::startsWithoutADataFolder()
 {
-    writeFile(home(u"data"_s), {}); // in the way
+    writeFile(home(u"data"_s), {}); // a file in place of the folder
     start({u"close"_s});
     QVERIFY(ends());
     QCOMPARE(runNumber(1).value(u"windows").toArray(), QJsonArray{u"MainWindow"_s});
-    // The log still speaks.
+    // The log is still written to the output.
     const QStringList lines = output();
     QVERIFY(lines.contains(u"[INFO] Main window displayed"_s));
     QVERIFY(lines.contains(u"[INFO] Application exiting"_s));
@@ -348,7 +348,7 @@ void tst_StartupProgram::aNewLanguageStartsTheProgramAnew()
     QCOMPARE(after.value(u"arguments").toArray(), QJsonArray{u"kept"_s});
     QCOMPARE(after.value(u"windows").toArray(), QJsonArray{u"MainWindow"_s});
     QCOMPARE(stored(), u"de"_s);
-    // The first may end before the second writes, or after.
+    // The first process may end before or after the second one writes.
     QStringList logged = log();
     logged.removeAll(u"[INFO] Application exiting"_s);
     QCOMPARE(logged, QStringList({u"[INFO] Application started"_s, u"[INFO] Version: 5.0"_s,
@@ -388,7 +388,7 @@ void tst_StartupProgram::aJobThatIsLeftIsRecorded()
     }
     m_drive = home(u"drive.img"_s);
     {
-        // Sparse, and far too large to be through before it is left.
+        // Sparse, and too large for the job to end before the program is closed.
         QFile drive(m_drive);
         QVERIFY(drive.open(QIODevice::WriteOnly) && drive.resize(qint64(64) << 30));
     }

@@ -24,15 +24,16 @@
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
-// Uses the desktop program as its user would, from inside: Qt loads this into the program as it is, by
-// QT_QPA_GENERIC_PLUGINS. QUORVEX_DRIVER names a folder. Each run, the first, the one that this starts anew
-// and so on, writes what it found in its window to run1.json, run2.json ... and does what that line of the
-// file "steps" says:
-//   close          presses the close button of the window
-//   language CODE  chooses that language in the menu and confirms the message that follows
-// "wipe" before one of them has it begin to erase the first drive with the last method of the list, and do
-// the rest when the job writes; "wipe" alone leaves the job to the test, and says "writing" in a file of that
-// name. Without such a line nothing happens. No run lasts longer than a minute, whatever became of the test.
+// Operates the desktop program as a user would, from within: Qt loads this plugin into the unchanged program
+// through QT_QPA_GENERIC_PLUGINS. QUORVEX_DRIVER names a folder. Each run of the program, including
+// restarts, writes the properties of its window to run1.json, run2.json ... and carries out the line with
+// its number in the file "steps":
+//     close          presses the close button of the window
+//     language CODE  chooses that language in the menu and confirms the message that follows
+// "wipe" before one of them first starts to erase the first drive with the last method of the list, and
+// continues with the rest of the line when the job writes. "wipe" alone leaves the job to the test and
+// creates a file "writing". Without a line the run does nothing. A run ends after a minute at the latest,
+// whatever the state of the test.
 
 namespace {
 
@@ -84,7 +85,7 @@ public:
     explicit WindowDriver(const QString &folder)
         : m_folder(folder)
     {
-        // At the first turn of the loop, which is after all that start-up does.
+        // Runs at the first turn of the event loop, after the start-up code.
         QTimer::singleShot(0, this, &WindowDriver::begin);
         QTimer::singleShot(1min, this, [] { std::_Exit(70); });
     }
@@ -120,7 +121,7 @@ private:
             chooseLanguage(window, step.section(u' ', 1));
     }
 
-    // Yes, should it be asked.
+    // Answers a question with Yes.
     void close(const QWidget &window)
     {
         answer(QMessageBox::Yes);
@@ -180,7 +181,7 @@ private:
         const QList<QAction *> actions = window.findChild<QMenu *>(u"languageMenu"_s)->actions();
         for (QAction *action : actions) {
             if (action->data().toString() == code)
-                action->trigger(); // waits in the message
+                action->trigger(); // returns after the message is closed
         }
     }
 

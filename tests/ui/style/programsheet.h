@@ -4,7 +4,7 @@
 
 #include <QString>
 
-// The style sheet that the main window gives to all its pages and dialogs. Needs addUiResources().
+// The style sheet that the main window applies to its pages and dialogs. Needs addUiResources().
 inline QString programSheet()
 {
     return QString::fromUtf8(contentOf(QStringLiteral(":/styles/style.qss")));

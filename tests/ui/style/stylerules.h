@@ -11,8 +11,8 @@ class StyleRules
 public:
     explicit StyleRules(const QString &sheet);
 
-    // The declarations of "a: b; c: d" that the rule for the selector lacks. A sheet without selectors has
-    // its declarations under an empty one.
+    // The declarations of "a: b; c: d" that are missing from the rule for the selector. The declarations of
+    // a sheet without selectors belong to an empty selector.
     QStringList missing(const QString &selector, const QString &declarations) const;
 
 private:

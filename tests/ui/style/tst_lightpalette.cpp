@@ -26,7 +26,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// As many desktops have it.
+// A dark palette as on many desktops.
 QPalette darkDesktop()
 {
     const QColor dark(0x20, 0x20, 0x20);
@@ -37,7 +37,7 @@ QPalette darkDesktop()
     return palette;
 }
 
-// Of the recommendations for web content: 1 for the same colour, 21 for black on white.
+// The contrast ratio of the web accessibility guidelines: 1 for equal colours, 21 for black on white.
 double contrast(const QColor &one, const QColor &other)
 {
     const auto luminance = [](const QColor &colour) {
@@ -128,7 +128,7 @@ void tst_LightPalette::dialogsLookTheSameOnADarkDesktop_data()
         return box;
     });
 #ifndef Q_OS_WIN
-    // Elsewhere it is the system's.
+    // On other systems the dialog is the system's.
     QTest::newRow("print dialog") << Maker([](QWidget *parent) {
         static QPrinter printer;
         return std::make_unique<QPrintDialog>(&printer, parent);

@@ -39,7 +39,7 @@ using namespace Qt::StringLiterals;
 using Maker = std::function<QWidget *()>;
 Q_DECLARE_METATYPE(Maker)
 
-// How pages and their parts are drawn, where no picture of theirs tells.
+// The look of pages and their parts where no reference picture covers it.
 class tst_PageLooks : public QObject
 {
     Q_OBJECT
@@ -67,7 +67,7 @@ Maker page()
     return [] { return new Page; };
 }
 
-// The part of that name, or the page itself.
+// The part with that name, or the page itself.
 QWidget *partOf(QWidget &page, const QString &name)
 {
     return name.isEmpty() ? &page : page.findChild<QWidget *>(name);
@@ -257,7 +257,7 @@ void tst_PageLooks::aLayoutHasItsMargins_data()
     QTest::addColumn<Maker>("maker");
     QTest::addColumn<QString>("name");
     QTest::addColumn<QMargins>("margins");
-    QTest::addColumn<int>("spacing"); // below 0: not given
+    QTest::addColumn<int>("spacing"); // negative: not given
     const auto row = [](const char *tag, const Maker &maker, const QString &name, const QMargins &margins,
                         int spacing = -1) { QTest::newRow(tag) << maker << name << margins << spacing; };
     const QMargins common(40, 30, 40, 30);
@@ -280,12 +280,12 @@ void tst_PageLooks::aLayoutHasItsMargins_data()
     row("confirmation", page<ConfirmDialog>(), {}, {30, 30, 30, 30});
     row("method card", [] { return new MethodCard(WipeMethod()); }, {}, {20, 12, 20, 12});
 
-    // Rows without a widget of their own, by one of their buttons.
+    // Rows without their own widget are found by one of their buttons.
     row("buttons of the settings", page<SettingsPage>(), u"resetBtn"_s, {0, 10, 0, 0});
     row("buttons of the history", page<HistoryPage>(), u"deleteBtn"_s, {0, 5, 0, 0});
 }
 
-// The layout of that widget, or the innermost one that it lies in.
+// The layout of that widget, or the innermost layout that contains it.
 static const QLayout *layoutOf(const QWidget &widget, QLayout *outer)
 {
     if (widget.layout())
@@ -338,7 +338,7 @@ void tst_PageLooks::eachCardHasItsIcon()
     const FeatureCard *const card = home.findChildren<FeatureCard *>().at(index);
     QVERIFY(!pictureOn(*card).isNull());
     QCOMPARE(pictureOn(*card), pictureOn(expected));
-    // And on no other card.
+    // The picture is on no other card.
     for (const FeatureCard *other : home.findChildren<FeatureCard *>()) {
         if (other != card)
             QVERIFY(pictureOn(*other) != pictureOn(expected));

@@ -25,7 +25,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// The texts between url( and ).
+// The texts inside url().
 QStringList pictures(const QString &text)
 {
     static const QRegularExpression pattern(u"url\\(([^)]*)\\)"_s);
@@ -35,7 +35,7 @@ QStringList pictures(const QString &text)
     return paths;
 }
 
-// A window in the sheet with one control in it.
+// A window with the style sheet and a single control.
 template <typename Control>
 struct Styled
 {

@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// As the main window is while a wipe runs.
+// Refuses to close, as the main window does during a wipe.
 class UnwillingWindow : public QWidget
 {
 public:
@@ -74,7 +74,7 @@ void tst_ProgramRestart::startsTheProgramAndLeavesTheLoop()
 
 static int runSuite(int argc, char *argv[])
 {
-    // One argument that must be handed on, kept from the test framework.
+    // An argument that must be passed on and is hidden from the test framework.
     QByteArray extra("--kept");
     QList<char *> arguments(argv, argv + argc);
     arguments.append(extra.data());

@@ -27,7 +27,7 @@ Q_DECLARE_METATYPE(void (TitleBar::*)())
 
 namespace {
 
-// A window with a title bar whose restart only counts.
+// A window with a title bar that only counts restarts.
 struct Fixture
 {
     Fixture()
@@ -71,7 +71,7 @@ struct Fixture
     int restarts = 0;
 };
 
-// The box of a language change, seen from inside: what has happened by then, and over which window.
+// The message box of a language change: the state when it opens, and its parent window.
 class WatchingPrompts : public ScriptedPrompts
 {
 public:
@@ -254,10 +254,10 @@ void tst_TitleBar::menuButtonOpensTheMenuBelowItself()
     QTest::mouseClick(button, Qt::LeftButton);
     QVERIFY(it.menu()->isVisible());
     QVERIFY(it.menu()->y() >= button->mapToGlobal(QPoint(0, button->height())).y());
-    // The screen may push it to the left, never off the button's side altogether.
+    // The screen edge may move the menu to the left, but it must still touch the button.
     QVERIFY(it.menu()->geometry().right() >= button->mapToGlobal(QPoint(0, 0)).x());
     QVERIFY(it.menu()->width() >= 180);
-    // Its entries reach from side to side.
+    // The entries span the whole width.
     QVERIFY(it.menu()->actionGeometry(it.menu()->actions().constFirst()).width() >= 180);
     it.menu()->close();
 }

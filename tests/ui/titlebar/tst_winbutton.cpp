@@ -76,7 +76,7 @@ void tst_WinButton::glyphsAreThinAndGrey()
             painted += image.pixelColor(x, y) != QColor(u"#1e293b"_s) ? 1 : 0;
         }
     }
-    // Straight lines one pixel wide fall on whole pixels.
+    // Straight lines one pixel wide align with whole pixels.
     QVERIFY2(exact >= 8, qPrintable(QString::number(exact)));
     QVERIFY2(painted < 60, qPrintable(QString::number(painted)));
 }
