@@ -4,7 +4,6 @@
 #include "engine/jobfiles.h"
 #include "engine/runningjob.h"
 #include "engine/watchedfile.h"
-#include "platform/contentplace.h"
 #include "platform/files.h"
 #include "platform/platform.h"
 
