@@ -1,6 +1,7 @@
 #!/usr/bin/env python3
 """Compares every text of the catalogues with its source: nothing unfinished, the same placeholders, tags, blanks at the
-ends and line breaks, and no Chinese where it does not belong."""
+ends, line breaks, and what users type (options, the program's name, commands in quotes), and no Chinese where it does not
+belong."""
 import pathlib
 import re
 import sys
@@ -19,6 +20,11 @@ def tags(text):
 
 def options(text):
     return sorted(re.findall(r"(?<![\w-])--[a-z-]+", text))
+
+
+def typed(text):
+    """What a user types: the program's name, and commands in quotes."""
+    return re.findall(r"quorvex-cli|(?<=')(?:wipe|trash|reports|check|disks|methods|doctor)(?: [a-z]+)*(?=')", text)
 
 
 def ends(text):
@@ -42,6 +48,9 @@ def faults(source, message, language):
     ):
         if measure(source) != measure(text):
             yield what
+    # Languages have quotes of their own.
+    if any(name not in text for name in typed(source)):
+        yield "names to be typed"
     if not language.startswith(("ja", "zh")) and CHINESE.search(text):
         yield "Chinese"
 

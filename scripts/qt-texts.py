@@ -70,6 +70,8 @@ def main():
     folder = TRANSLATIONS / "qt"
     folder.mkdir(exist_ok=True)
     for code, theirs in languages():
+        if not (CATALOGUES / f"qtbase_{theirs}.qm").is_file():
+            sys.exit(f"error: Qt has no catalogue {theirs} for {code}: see the head of languages.txt")
         command = [LCONVERT, "-of", "ts", "-i", CATALOGUES / f"qtbase_{theirs}.qm", "-o", "-"]
         root = ET.fromstring(subprocess.run(command, check=True, stdout=subprocess.PIPE).stdout)
         for context in root.findall("context"):

@@ -1,5 +1,6 @@
 #include "model/wipereport.h"
 #include "recordingdevice.h"
+#include "services/languages.h"
 #include "support/filledreport.h"
 #include "support/suite.h"
 
@@ -10,6 +11,7 @@
 #include <QColor>
 #include <QDateTime>
 #include <QGlyphRun>
+#include <QMap>
 #include <QPainter>
 #include <QRawFont>
 #include <QTest>
@@ -634,17 +636,23 @@ void tst_CertificatePage::namesOfDevicesCannotReorderThePage()
 void tst_CertificatePage::everyLanguageHasItsCharacters_data()
 {
     QTest::addColumn<QString>("sample");
-    QTest::addRow("zh_CN") << u"数据擦除证书 龙门长车马鱼鸟麦"_s;
-    QTest::addRow("zh_TW") << u"資料抹除憑證 龍門長車馬魚鳥麥"_s;
-    QTest::addRow("ja") << u"データ消去証明書 ありがとう・「済み」"_s;
-    QTest::addRow("ko") << u"데이터 삭제 인증서 뷁"_s;
-    QTest::addRow("de") << u"Löschzertifikat für Größenwahn ÄÖÜß"_s;
-    QTest::addRow("fr") << u"Certificat d’effacement « çœÉÿ »"_s;
-    QTest::addRow("es") << u"¿Certificado? ¡Señal! áéíóúñ"_s;
-    QTest::addRow("pt") << u"Certificação de eliminação ãõâê"_s;
-    QTest::addRow("it") << u"Certificato di cancellazione àèìòù"_s;
-    QTest::addRow("nl") << u"Wiscertificaat ëïĳ"_s;
-    QTest::addRow("en") << u"Erasure certificate – “quoted” …"_s;
+    const QMap<QString, QString> samples{
+        {u"zh_CN"_s, u"数据擦除证书 龙门长车马鱼鸟麦"_s},
+        {u"zh_TW"_s, u"資料抹除憑證 龍門長車馬魚鳥麥"_s},
+        {u"ja"_s, u"データ消去証明書 ありがとう・「済み」"_s},
+        {u"ko"_s, u"데이터 삭제 인증서 뷁"_s},
+        {u"de"_s, u"Löschzertifikat für Größenwahn ÄÖÜß"_s},
+        {u"fr"_s, u"Certificat d’effacement « çœÉÿ »"_s},
+        {u"es"_s, u"¿Certificado? ¡Señal! áéíóúñ"_s},
+        {u"pt"_s, u"Certificação de eliminação ãõâê"_s},
+        {u"it"_s, u"Certificato di cancellazione àèìòù"_s},
+        {u"nl"_s, u"Wiscertificaat ëïĳ"_s},
+        {u"en"_s, u"Erasure certificate – “quoted” …"_s},
+    };
+    for (const QString &code : languages::codes()) {
+        QVERIFY2(samples.contains(code), "a language without letters to look at");
+        QTest::newRow(qPrintable(code)) << samples.value(code);
+    }
 }
 
 void tst_CertificatePage::everyLanguageHasItsCharacters()

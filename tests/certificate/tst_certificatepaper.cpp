@@ -19,8 +19,10 @@
 #include <QTest>
 #include <QTranslator>
 
+#include <algorithm>
 #include <cmath>
 #include <cstdlib>
+#include <iterator>
 
 using namespace Qt::StringLiterals;
 
@@ -171,6 +173,14 @@ QString withoutNames(QString characters)
     return sortedCharacters(characters);
 }
 
+// The characters of the first text that the second does not have; both are sorted.
+QString without(const QString &characters, const QString &others)
+{
+    QString rest;
+    std::ranges::set_difference(characters, others, std::back_inserter(rest));
+    return rest;
+}
+
 // Empty when the whole text, and nothing else, lies on one sheet without overlaps.
 QString problemOf(const WipeReport &report, const std::optional<OutcomeRecord> &outcome, Way way,
                   const QString &path)
@@ -195,7 +205,8 @@ QString problemOf(const WipeReport &report, const std::optional<OutcomeRecord> &
         expected = withoutNames(expected);
     }
     if (found != expected)
-        return u"on the paper: %1\npainted: %2"_s.arg(found, expected);
+        return u"only on the paper: %1\nonly painted: %2"_s.arg(without(found, expected),
+                                                                without(expected, found));
     return page.problems().join(u'\n');
 }
 

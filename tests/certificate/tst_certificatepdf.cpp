@@ -1,5 +1,6 @@
 #include "model/wipereport.h"
 #include "pages.h"
+#include "services/languages.h"
 #include "support/pdfreader.h"
 #include "support/suite.h"
 #include "support/testfiles.h"
@@ -173,17 +174,23 @@ void tst_CertificatePdf::everyCharacterIsTheOneThatWasPainted_data()
 {
     QTest::addColumn<QString>("sample");
     // Characters that share their glyph with radicals and compatibility characters.
-    QTest::addRow("zh_CN") << u"用户生成时间力一人大小口工龙门长车马鱼鸟麦页风飞见贝齐齿黄"_s;
-    QTest::addRow("zh_TW") << u"資料抹除憑證龍門長車馬魚鳥麥頁風飛見貝齊齒黃不便利北年更"_s;
-    QTest::addRow("ja") << u"データ消去・証明書「済み」漢字日月火水木金土"_s;
-    QTest::addRow("ko") << u"데이터 삭제 인증서 樂 率"_s;
-    QTest::addRow("de") << u"Löschzertifikat Größe ÄÖÜß Auffinden"_s;
-    QTest::addRow("fr") << u"Certificat d’effacement officiel « çœÉÿ »"_s;
-    QTest::addRow("es") << u"¿Certificado? ¡Señal! áéíóúñ"_s;
-    QTest::addRow("pt") << u"Certificação de eliminação ãõâê"_s;
-    QTest::addRow("it") << u"Certificato ufficiale àèìòù"_s;
-    QTest::addRow("nl") << u"Wiscertificaat ëï fijn"_s;
-    QTest::addRow("en") << u"office fluffy - – “quoted” … 0123456789 A-1.2:3/4"_s;
+    const QMap<QString, QString> samples{
+        {u"zh_CN"_s, u"用户生成时间力一人大小口工龙门长车马鱼鸟麦页风飞见贝齐齿黄"_s},
+        {u"zh_TW"_s, u"資料抹除憑證龍門長車馬魚鳥麥頁風飛見貝齊齒黃不便利北年更"_s},
+        {u"ja"_s, u"データ消去・証明書「済み」漢字日月火水木金土"_s},
+        {u"ko"_s, u"데이터 삭제 인증서 樂 率"_s},
+        {u"de"_s, u"Löschzertifikat Größe ÄÖÜß Auffinden"_s},
+        {u"fr"_s, u"Certificat d’effacement officiel « çœÉÿ »"_s},
+        {u"es"_s, u"¿Certificado? ¡Señal! áéíóúñ"_s},
+        {u"pt"_s, u"Certificação de eliminação ãõâê"_s},
+        {u"it"_s, u"Certificato ufficiale àèìòù"_s},
+        {u"nl"_s, u"Wiscertificaat ëï fijn"_s},
+        {u"en"_s, u"office fluffy - – “quoted” … 0123456789 A-1.2:3/4"_s},
+    };
+    for (const QString &code : languages::codes()) {
+        QVERIFY2(samples.contains(code), "a language without letters to look at");
+        QTest::newRow(qPrintable(code)) << samples.value(code);
+    }
 }
 
 void tst_CertificatePdf::everyCharacterIsTheOneThatWasPainted()

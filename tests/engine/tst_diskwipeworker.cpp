@@ -278,18 +278,39 @@ void tst_DiskWipeWorker::logOfTwoVolumes()
     QCOMPARE(devices.heldLocks(), 0);
 }
 
+namespace {
+
+// The byte that the last pass leaves; -1 for a random one.
+int lastByteOf(const WipeMethod &method)
+{
+    const PassPattern last = method.passes.constLast();
+    switch (last.type) {
+    case PatternType::Zeros:
+        return 0x00;
+    case PatternType::Ones:
+        return 0xFF;
+    case PatternType::Custom:
+        return last.value;
+    case PatternType::Random:
+    case PatternType::Complement:
+        break;
+    }
+    return -1;
+}
+
+} // namespace
+
 void tst_DiskWipeWorker::everyMethodOnADrive_data()
 {
     QTest::addColumn<qint32>("method");
     QTest::addColumn<int>("lastByte"); // -1: random
     QTest::addColumn<qint64>("size");
     QTest::addColumn<qint32>("sectorSize");
-    const QList<int> lastBytes{0x00, -1, -1, 0xAA, -1};
     for (const WipeMethod &method : WipeMethod::allMethods()) {
         for (const qint32 sector : {512, 4096}) {
             for (const qint64 size : {qint64(sector), MiB, 2 * MiB + sector, 5 * MiB - 3 * sector})
                 QTest::addRow("%s, %d x %lld", qPrintable(method.name), sector, size / sector)
-                    << method.type << lastBytes.at(method.type) << size << sector;
+                    << method.type << lastByteOf(method) << size << sector;
         }
     }
 }
@@ -320,9 +341,8 @@ void tst_DiskWipeWorker::everyMethodThroughVolumes_data()
 {
     QTest::addColumn<qint32>("method");
     QTest::addColumn<int>("lastByte");
-    const QList<int> lastBytes{0x00, -1, -1, 0xAA, -1};
     for (const WipeMethod &method : WipeMethod::allMethods())
-        QTest::newRow(qPrintable(method.name)) << method.type << lastBytes.at(method.type);
+        QTest::newRow(qPrintable(method.name)) << method.type << lastByteOf(method);
 }
 
 void tst_DiskWipeWorker::everyMethodThroughVolumes()

