@@ -331,16 +331,18 @@ void tst_DiskResidue::otherDriveUnderTheNumberIsLeftAlone()
     options.sizeBytes = MiB;
     DiskInfo chosen;
     std::unique_ptr<LoopMount> second;
-    // Repeats when another process took the device in between.
+    // Repeats, with images of other names, when another process took the device in between.
+    int attempt = 0;
     do {
         second.reset();
+        ++attempt;
         {
-            LoopMount first(folder.path(), options, QStringLiteral("first"));
+            LoopMount first(folder.path(), options, QStringLiteral("first%1").arg(attempt));
             QVERIFY2(first.isReady(), qPrintable(first.error()));
             chosen = diskAt(first.device());
             QVERIFY(chosen.diskNumber >= 0);
         }
-        second = std::make_unique<LoopMount>(folder.path(), options, QStringLiteral("second"));
+        second = std::make_unique<LoopMount>(folder.path(), options, QStringLiteral("second%1").arg(attempt));
         QVERIFY2(second->isReady(), qPrintable(second->error()));
     } while (second->device() != chosen.devicePath);
     QVERIFY(fillImage(*second, MiB));
