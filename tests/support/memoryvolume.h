@@ -55,6 +55,7 @@ public:
     qint64 largestFile = 0;               // 0: any size
     platform::ElsewhereReasons elsewhere; // answer of contentPlace() for every path
     platform::Result<int> snapshotAnswer = failure(platform::NotSupported);
+    bool distrustsPrograms = false;    // as Windows with controlled folder access
     QStringList unremovable;           // remove() fails with SharingViolation
     QMap<QString, QString> identities; // of the volumes, by root
     QStringList heldByOthers;          // folders claimed by another process
@@ -121,7 +122,7 @@ public:
     platform::Result<platform::FolderOwner> owner(const QString &folder) override;
     platform::Status hide(const QString &path) override;
     platform::Result<platform::SpaceInfo> space(const QString &path) override;
-    bool mayDistrustProgram(quint32) override { return false; }
+    bool mayDistrustProgram(quint32) override { return distrustsPrograms; }
     platform::Result<int> snapshots(const QString &) override { return snapshotAnswer; }
 
 private:
