@@ -52,7 +52,7 @@ bool FileWipeWorker::run()
     try {
         return shred();
     } catch (const std::bad_alloc &) {
-        m_files.list() = {}; // where most of the memory is
+        m_files.list() = {}; // frees most of the memory
         throw;
     }
 }
@@ -106,8 +106,7 @@ bool FileWipeWorker::concludeJob(bool success)
 
 FileCollector::Observer FileWipeWorker::observer()
 {
-    // Whoever is told that a job succeeded believes that everything under the targets is gone: what nobody
-    // could look at makes it fail.
+    // A success means that everything under the targets is gone, so an unreadable entry makes the job fail.
     const auto unreadable = [this](FileCollector::Unreadable what, const QString &path,
                                    const Status &status) {
         if (status.code == platform::FileOffline) {
@@ -143,7 +142,6 @@ void FileWipeWorker::measureFrom(std::size_t first)
         first, [this](std::size_t file) { return measureFile(file); }, [this] { return checkPauseStop(); });
 }
 
-// False for what does not belong to the list.
 bool FileWipeWorker::measureFile(std::size_t file)
 {
     const auto info = m_files.look(file);
@@ -160,7 +158,7 @@ bool FileWipeWorker::measureFile(std::size_t file)
     m_files.watched(file).find(info.value());
     if (info.value().kind != FileKind::Regular)
         return true;
-    // What is found later was renamed meanwhile.
+    // A file that is found twice later was renamed during the job and must be overwritten.
     if (m_mayRepeat && m_repeated.isRepeated(m_files.list().files[file], info.value())) {
         m_repetitions.push_back(m_files.list().files[file]);
         return false;
@@ -182,7 +180,7 @@ bool FileWipeWorker::measureFile(std::size_t file)
     return true;
 }
 
-// A file that cannot be asked may have some.
+// A failed query counts as "may have streams".
 bool FileWipeWorker::isWithoutStreams(std::size_t file)
 {
     const auto place = m_files.entry(file);
@@ -231,8 +229,7 @@ void FileWipeWorker::announceFiles()
 bool FileWipeWorker::overwriteAll()
 {
     m_bytesBeforePass = 0;
-    // A total of 0 proves that there is nothing to overwrite only when every size was told, and when there is
-    // nothing beside the content.
+    // With an unknown size or a named stream there may be content although the total is 0.
     if (m_singlePassTotal <= 0 && m_isTotalCertain && m_isAllEmpty) {
         note(tr("所有文件为空，跳过数据覆写"));
         return !isStopRequested();
@@ -300,14 +297,14 @@ bool FileWipeWorker::failPass(int pass)
     return false;
 }
 
-// One line for all of them: there may be as many as files.
+// One line for all files, because there may be a great many.
 void FileWipeWorker::logContentElsewhere()
 {
     if (m_overwriting.elsewhereCount() > 0)
         note(tr("%1 个文件的内容可能还保存在别处，未被覆写").arg(m_overwriting.elsewhereCount()), Warning);
 }
 
-// Overwriting reaches what is here, and the service takes that for a new version.
+// The service stores the overwritten content as a new version and keeps the old ones.
 void FileWipeWorker::noteCloudCopies()
 {
     if (m_inCloud == 0)
@@ -316,7 +313,7 @@ void FileWipeWorker::noteCloudCopies()
     noteShortfall({ShortfallKind::CloudCopy, {}, -1, m_inCloud});
 }
 
-// What appeared while files were deleted.
+// Erases the files that appeared while others were deleted.
 bool FileWipeWorker::eraseLate()
 {
     bool success = true;
@@ -333,7 +330,7 @@ bool FileWipeWorker::eraseLate()
     return success;
 }
 
-// Not every file system's numbers tell all of its files apart.
+// On some file systems two different files can have the same number, so each repetition is looked up.
 bool FileWipeWorker::areRepetitionsGone()
 {
     const int before = m_standingRepetitions;
@@ -350,7 +347,7 @@ bool FileWipeWorker::areRepetitionsGone()
     return m_standingRepetitions == before || isStopRequested();
 }
 
-// A removal that is not on the medium is none. What was removed last may still be in the cache.
+// The last removals may still be in the cache, and a removal counts only once it is on the medium.
 bool FileWipeWorker::settleRemovals()
 {
     const int failures = failedCount();
@@ -371,7 +368,7 @@ void FileWipeWorker::diagnose(const platform::Status &failure)
 
 void FileWipeWorker::complete()
 {
-    // A volume can be unmounted as soon as the job is over.
+    // Open handles would keep the user from unmounting the volume.
     for (const DurabilityGroups::Closed &closed : m_removal.settle())
         traceFile(QString(), closed.status);
     m_files.tree().releaseAll();

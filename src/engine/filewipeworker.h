@@ -12,9 +12,11 @@
 #include <cstddef>
 #include <vector>
 
-// Shreds the files and folders of a task: every pass overwrites all files in place on a pool of threads, then
-// each file is cut, renamed and deleted, then the folders are removed. A pass in which one file failed is the
-// last thing that happens: nothing is deleted then, so that the user still has what could not be erased.
+/// Shreds the files and folders of a task. Every pass overwrites all files in place on a pool of threads.
+/// Then each file is cut, renamed and deleted, and the folders are removed.
+///
+/// A pass with one failed file ends the job before anything is deleted, because the user could otherwise no
+/// longer erase the content of that file.
 class FileWipeWorker : public BaseWipeWorker
 {
     Q_OBJECT
@@ -34,25 +36,28 @@ private:
 
     FileCollector::Observer observer();
     FileList collectFiles(const QStringList &targets);
-    // Looks at the files from this one on; what is mounted over a name is taken off the list.
+    /// Asks for kind and size of the files from index @p first on, and takes mount points off the list.
     void measureFrom(std::size_t first);
+    /// False for a file that does not belong to the list.
     bool measureFile(std::size_t file);
     bool isWithoutStreams(std::size_t file);
     void announceFiles();
 
-    // Adds what has appeared in the folders of the job since they were listed. The number of the first file.
+    /// Adds the files that have appeared in the folders of the job since these were listed. Returns the index
+    /// of the first added file, which is the count of files when none was added.
     std::size_t addLate();
-    // False when the job is not to delete anything.
+    /// False when the job must not delete anything.
     bool overwriteAll();
     bool overwriteLate();
-    // Lets the files from this one on receive every pass, without a word of progress.
+    /// Overwrites the files from index @p first on with every pass. The progress was announced without these
+    /// files and does not change.
     bool overwriteFrom(std::size_t first);
     bool overwriteAgain(std::size_t index);
     bool failPass(int pass);
     void logContentElsewhere();
     void noteCloudCopies();
     bool eraseLate();
-    // Whether the files went that were listed under another spelling too.
+    /// Whether the files that were listed under two spellings are gone.
     bool areRepetitionsGone();
     bool settleRemovals();
 
@@ -66,14 +71,14 @@ private:
     JobFiles m_files{*this};
     SnapshotSurvey m_snapshots;
     FileRemoval m_removal;
-    qint64 m_singlePassTotal = 0; // bytes
-    bool m_isTotalCertain = true; // the size of every file that stands was told
-    bool m_isAllEmpty = true;     // no file without content has streams
-    qint64 m_inCloud = 0;         // files of which a cloud service keeps copies
+    qint64 m_singlePassTotal = 0; ///< bytes
+    bool m_isTotalCertain = true; ///< the size of every present file is known
+    bool m_isAllEmpty = true;     ///< no empty file has named streams
+    qint64 m_inCloud = 0;         ///< files of which a cloud service keeps copies
     RepeatedFiles m_repeated{m_files.tree()};
-    bool m_mayRepeat = false; // as long as the targets are looked at, when there are several
+    bool m_mayRepeat = false; ///< while the files of several targets are listed
     std::vector<FileEntry> m_repetitions;
     int m_standingRepetitions = 0;
-    std::size_t m_overwrittenCount = 0; // files from the beginning that received every pass
-    FileOverwriting m_overwriting;      // destroyed first, with its threads
+    std::size_t m_overwrittenCount = 0; ///< files from index 0 on that received every pass
+    FileOverwriting m_overwriting;      ///< the last member, because its threads must end first
 };

@@ -51,7 +51,7 @@ public:
     /// The standard with that number. An unknown number gives NIST 800-88 and stays in `type`.
     static WipeMethod fromType(qint32 type);
 
-    /// The five standards in the order of their numbers.
+    /// The standards that this program offers, in the order of their numbers.
     static QList<WipeMethod> allMethods();
 
     /// Translated name of the security level.
