@@ -9,6 +9,7 @@
 #define FUSE_USE_VERSION 31
 #include <fuse.h>
 
+#include <dirent.h>
 #include <fcntl.h>
 #include <sys/mman.h>
 #include <sys/mount.h>
@@ -19,6 +20,7 @@
 
 #include <cerrno>
 #include <csignal>
+#include <cstdio>
 #include <limits>
 #include <new>
 #include <string>
@@ -54,6 +56,9 @@ struct FaultyFolder::Plan
     std::atomic<int> failedReads{0};
     std::atomic<int> failedWrites{0};
     std::atomic<int> failedFlushes{0};
+    std::atomic<int> untilOperationFails{0}; // 0: none fails
+    std::atomic<int> operationError{0};
+    std::atomic<bool> hasFailedOperation{false};
 };
 
 static_assert(std::atomic<qint64>::is_always_lock_free, "two processes share them");
@@ -72,6 +77,23 @@ std::string real(const char *path)
 int answer(int result)
 {
     return result < 0 ? -errno : result;
+}
+
+// The negative errno with which this operation is to fail, or 0.
+int plannedFailure()
+{
+    if (plan->untilOperationFails <= 0 || --plan->untilOperationFails > 0)
+        return 0;
+    plan->hasFailedOperation = true;
+    return -plan->operationError;
+}
+
+// The operation behind the plan. Closing does not fail, because the kernel tells nobody of it.
+template <auto operation, typename... Args>
+int planned(Args... args)
+{
+    const int failure = plannedFailure();
+    return failure != 0 ? failure : operation(args...);
 }
 
 int getAttributes(const char *path, struct stat *attributes, fuse_file_info *)
@@ -157,18 +179,80 @@ int unlinkFile(const char *path)
     return answer(::unlink(real(path).c_str()));
 }
 
+// The library asks for the attributes of an open file as a part of its creation, which cannot half fail.
+int plannedAttributes(const char *path, struct stat *attributes, fuse_file_info *info)
+{
+    return info ? getAttributes(path, attributes, info) : planned<getAttributes>(path, attributes, info);
+}
+
+int renameFile(const char *from, const char *to, unsigned flags)
+{
+    return answer(::renameat2(AT_FDCWD, real(from).c_str(), AT_FDCWD, real(to).c_str(), flags));
+}
+
+int makeFolder(const char *path, mode_t mode)
+{
+    return answer(::mkdir(real(path).c_str(), mode));
+}
+
+int removeFolder(const char *path)
+{
+    return answer(::rmdir(real(path).c_str()));
+}
+
+int listFolder(const char *path, void *buffer, fuse_fill_dir_t fill, off_t, fuse_file_info *,
+               fuse_readdir_flags)
+{
+    DIR *folder = ::opendir(real(path).c_str());
+    if (!folder)
+        return -errno;
+    while (const dirent *entry = ::readdir(folder))
+        fill(buffer, entry->d_name, nullptr, 0, fuse_fill_dir_flags(0));
+    return answer(::closedir(folder));
+}
+
+int syncFolder(const char *path, int, fuse_file_info *)
+{
+    const int folder = ::open(real(path).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    const int result = folder < 0 ? -errno : answer(::fsync(folder));
+    if (folder >= 0)
+        ::close(folder);
+    return result;
+}
+
+int changeMode(const char *path, mode_t mode, fuse_file_info *)
+{
+    return answer(::chmod(real(path).c_str(), mode));
+}
+
+// The kernel asks anew each time, so that it sees changes made below the mount.
+void *rememberNothing(fuse_conn_info *, fuse_config *config)
+{
+    config->entry_timeout = 0;
+    config->attr_timeout = 0;
+    config->negative_timeout = 0;
+    return nullptr;
+}
+
 fuse_operations operations()
 {
     fuse_operations table{};
-    table.getattr = getAttributes;
-    table.open = openFile;
-    table.create = createFile;
+    table.init = rememberNothing;
+    table.getattr = plannedAttributes;
+    table.open = planned<openFile>;
+    table.create = planned<createFile>;
     table.release = releaseFile;
-    table.read = readFile;
-    table.write = writeFile;
-    table.fsync = syncFile;
-    table.truncate = truncateFile;
-    table.unlink = unlinkFile;
+    table.read = planned<readFile>;
+    table.write = planned<writeFile>;
+    table.fsync = planned<syncFile>;
+    table.truncate = planned<truncateFile>;
+    table.unlink = planned<unlinkFile>;
+    table.rename = planned<renameFile>;
+    table.mkdir = planned<makeFolder>;
+    table.rmdir = planned<removeFolder>;
+    table.readdir = planned<listFolder>;
+    table.fsyncdir = planned<syncFolder>;
+    table.chmod = planned<changeMode>;
     return table;
 }
 
@@ -271,8 +355,16 @@ void FaultyFolder::beginAfter(qint64 bytes)
     m_plan->untilWritesFail = bytes;
 }
 
+void FaultyFolder::failOperation(int nth, int error)
+{
+    m_plan->operationError = error;
+    m_plan->hasFailedOperation = false;
+    m_plan->untilOperationFails = nth;
+}
+
 void FaultyFolder::heal()
 {
+    m_plan->untilOperationFails = 0;
     m_plan->untilWritesFail = 0;
     m_plan->reads.set(0, 0);
     m_plan->writes.set(0, 0);
@@ -315,4 +407,9 @@ int FaultyFolder::failedWrites() const
 int FaultyFolder::failedFlushes() const
 {
     return m_plan->failedFlushes;
+}
+
+bool FaultyFolder::hasFailedOperation() const
+{
+    return m_plan->hasFailedOperation;
 }

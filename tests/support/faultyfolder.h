@@ -40,6 +40,9 @@ public:
     void limitRoomTo(qint64 position);
     // Write failures begin only after this many more bytes were written.
     void beginAfter(qint64 bytes);
+    // Operation number nth (from 1) on any entry of the folder fails with this errno and does nothing.
+    // Counting begins anew.
+    void failOperation(int nth, int error);
     void heal();
 
     // Ends the server. This call or a later one on a file open inside fails, and so does the folder.
@@ -52,6 +55,8 @@ public:
     int failedReads() const;
     int failedWrites() const;
     int failedFlushes() const;
+    // Whether the operation of failOperation() came.
+    bool hasFailedOperation() const;
 
     // The memory that both processes share.
     struct Plan;

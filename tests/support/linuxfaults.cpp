@@ -1,7 +1,6 @@
 #include "support/linuxfaults.h"
 
 #include <cerrno>
-#include <cstddef>
 #include <type_traits>
 
 template <int call, typename Calls, typename R, typename... Args, R (*Calls::*Member)(Args...)>
@@ -9,7 +8,7 @@ struct LinuxFaults::Hook<call, Member>
 {
     static R invoke(Args... args)
     {
-        if (const int error = s_current->enter(call); error != 0) {
+        if (const int error = static_cast<int>(s_current->m_plan.enter(call)); error != 0) {
             errno = error;
             if constexpr (std::is_pointer_v<R>)
                 return nullptr;
@@ -31,6 +30,7 @@ LinuxFaults::LinuxFaults()
 {
     using Files = platform::LinuxFileCalls;
     using Devices = platform::LinuxDeviceCalls;
+    using Process = platform::LinuxProcessCalls;
     hook<Openat_, &Files::openat>(m_files);
     hook<Fcntl_, &Files::fcntl>(m_files);
     hook<Flock_, &Files::flock>(m_files);
@@ -56,56 +56,19 @@ LinuxFaults::LinuxFaults()
     hook<Ioctl_, &Devices::ioctl>(m_devices);
     hook<Mount_, &Devices::mount>(m_devices);
     hook<Umount2_, &Devices::umount2>(m_devices);
+    hook<Mkdtemp_, &Devices::mkdtemp>(m_devices);
+    hook<Write_, &Process::write>(m_process);
+    hook<Poll_, &Process::poll>(m_process);
     s_current = this;
     m_fileScope.emplace(m_files);
     m_deviceScope.emplace(m_devices);
+    m_processScope.emplace(m_process);
 }
 
 LinuxFaults::~LinuxFaults()
 {
+    m_processScope.reset();
     m_deviceScope.reset();
     m_fileScope.reset();
     s_current = nullptr;
-}
-
-void LinuxFaults::fail(int call, int nth, int error, Repeat repeat)
-{
-    const std::scoped_lock lock(m_mutex);
-    m_failing = call;
-    m_nth = nth;
-    m_error = error;
-    m_repeat = repeat;
-    m_counted = 0;
-    m_fired = 0;
-}
-
-int LinuxFaults::counted() const
-{
-    const std::scoped_lock lock(m_mutex);
-    return m_counted;
-}
-
-int LinuxFaults::fired() const
-{
-    const std::scoped_lock lock(m_mutex);
-    return m_fired;
-}
-
-int LinuxFaults::seen(Call call) const
-{
-    const std::scoped_lock lock(m_mutex);
-    return m_seen[std::size_t(call)];
-}
-
-int LinuxFaults::enter(int call)
-{
-    const std::scoped_lock lock(m_mutex);
-    ++m_seen[std::size_t(call)];
-    if (m_failing != AnyCall && m_failing != call)
-        return 0;
-    ++m_counted;
-    if (m_counted != m_nth && !(m_repeat == FromThenOn && m_counted > m_nth))
-        return 0;
-    ++m_fired;
-    return m_error;
 }

@@ -2,9 +2,9 @@
 
 #include "platform/linux/linuxdevicecalls.h"
 #include "platform/linux/linuxfilecalls.h"
+#include "platform/linux/linuxprocesscalls.h"
+#include "support/nthfailure.h"
 
-#include <array>
-#include <mutex>
 #include <optional>
 
 /// The system calls with one entry made to fail. In force from construction to destruction; one instance at
@@ -39,10 +39,14 @@ public:
         Ioctl_,
         Mount_,
         Umount2_,
+        Mkdtemp_,
+        Write_,
+        Poll_,
         CallCount,
-        AnyCall = CallCount, // for fail(): any entry
+        AnyCall = NthFailure::AnyEntry, // for fail()
     };
-    enum Repeat { Once, FromThenOn };
+    using Repeat = NthFailure::Repeat;
+    using enum NthFailure::Repeat;
 
     LinuxFaults();
     ~LinuxFaults();
@@ -50,14 +54,17 @@ public:
     LinuxFaults &operator=(const LinuxFaults &) = delete;
 
     /// Call number nth (from 1) of that entry fails with this errno and does nothing. Counting begins anew.
-    void fail(int call, int nth, int error, Repeat repeat = Once);
-    void failNothing() { fail(-1, 0, 0); }
+    void fail(int call, int nth, int error, Repeat repeat = Once)
+    {
+        m_plan.plan(call, nth, static_cast<unsigned>(error), repeat);
+    }
+    void failNothing() { fail(NthFailure::NoEntry, 0, 0); }
 
     /// The calls since fail() of the entry chosen there, and those that failed.
-    int counted() const;
-    int fired() const;
+    int counted() const { return m_plan.counted(); }
+    int fired() const { return m_plan.fired(); }
     /// Calls of an entry since construction.
-    int seen(Call call) const;
+    int seen(Call call) const { return m_plan.seen(call); }
 
 private:
     // The entry of a call table. It asks enter() and then makes the system's own call.
@@ -66,21 +73,13 @@ private:
     template <int call, auto Member, typename Calls>
     void hook(Calls &table);
 
-    // The errno to fail with, 0 to let the call through.
-    int enter(int call);
-
     inline static LinuxFaults *s_current = nullptr;
 
-    mutable std::mutex m_mutex;
-    int m_failing = -1;
-    int m_nth = 0;
-    int m_error = 0;
-    Repeat m_repeat = Once;
-    int m_counted = 0;
-    int m_fired = 0;
-    std::array<int, CallCount> m_seen{};
+    NthFailure m_plan{CallCount};
     platform::LinuxFileCalls m_files;
     platform::LinuxDeviceCalls m_devices;
+    platform::LinuxProcessCalls m_process;
     std::optional<platform::ScopedCalls<platform::LinuxFileCalls>> m_fileScope;
     std::optional<platform::ScopedCalls<platform::LinuxDeviceCalls>> m_deviceScope;
+    std::optional<platform::ScopedCalls<platform::LinuxProcessCalls>> m_processScope;
 };

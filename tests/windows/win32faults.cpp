@@ -174,17 +174,6 @@ Win32Faults::~Win32Faults()
     s_current = nullptr;
 }
 
-void Win32Faults::fail(int call, int nth, DWORD error, Repeat repeat)
-{
-    const std::scoped_lock lock(m_mutex);
-    m_failing = call;
-    m_nth = nth;
-    m_error = error;
-    m_repeat = repeat;
-    m_counted = 0;
-    m_fired = 0;
-}
-
 void Win32Faults::onlyFor(PathFilter filter)
 {
     const std::scoped_lock lock(m_mutex);
@@ -247,15 +236,12 @@ void Win32Faults::setReply(const QString &path, const ControlKey &key, const Rep
 
 DWORD Win32Faults::enter(int call, const QString &path)
 {
-    const std::scoped_lock lock(m_mutex);
-    ++m_seen[size_t(call)];
-    if ((m_failing != AnyCall && m_failing != call) || (m_filter && !m_filter(path)))
-        return ERROR_SUCCESS;
-    ++m_counted;
-    if (m_counted != m_nth && !(m_repeat == FromThenOn && m_counted > m_nth))
-        return ERROR_SUCCESS;
-    ++m_fired;
-    return m_error;
+    PathFilter filter;
+    {
+        const std::scoped_lock lock(m_mutex);
+        filter = m_filter;
+    }
+    return m_plan.enter(call, !filter || filter(path));
 }
 
 QString Win32Faults::pathOf(void *handle) const

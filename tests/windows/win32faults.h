@@ -1,5 +1,6 @@
 #pragma once
 
+#include "support/nthfailure.h"
 #include "windows/win32calls.h"
 
 #include <QByteArray>
@@ -8,7 +9,6 @@
 #include <QString>
 #include <QStringList>
 
-#include <array>
 #include <functional>
 #include <mutex>
 #include <optional>
@@ -60,9 +60,10 @@ public:
         ShutdownBlockReasonCreate_,
         ShutdownBlockReasonDestroy_,
         CallCount,
-        AnyCall = CallCount, // for fail(): any entry
+        AnyCall = NthFailure::AnyEntry, // for fail()
     };
-    enum Repeat { Once, FromThenOn };
+    using Repeat = NthFailure::Repeat;
+    using enum NthFailure::Repeat;
     using PathFilter = std::function<bool(const QString &path)>;
 
     // The answer of a device to a control code: a failure, or bytes. Bytes beyond the buffer are cut and
@@ -97,17 +98,17 @@ public:
 
     // Makes call number nth (from 1) of that entry fail with the error. Counting begins anew. Calls that
     // close or free a resource are still carried out, so that the test leaks nothing.
-    void fail(int call, int nth, DWORD error, Repeat repeat = Once);
-    void failNothing() { fail(-1, 0, ERROR_SUCCESS); }
+    void fail(int call, int nth, DWORD error, Repeat repeat = Once) { m_plan.plan(call, nth, error, repeat); }
+    void failNothing() { fail(NthFailure::NoEntry, 0, ERROR_SUCCESS); }
     // Only calls on matching paths count and fail. A call on a handle has the path with which the handle was
     // opened; a call without path or handle has an empty path.
     void onlyFor(PathFilter filter);
 
     // The calls since fail() of the entry chosen there.
-    int counted() const { return locked(m_counted); }
-    int fired() const { return locked(m_fired); }
+    int counted() const { return m_plan.counted(); }
+    int fired() const { return m_plan.fired(); }
     // Calls of an entry since construction.
-    int seen(Call call) const { return locked(m_seen[call]); }
+    int seen(Call call) const { return m_plan.seen(call); }
     // Files, searches and tokens opened since construction and not yet closed.
     int openHandles() const;
     QStringList openPaths() const;
@@ -190,14 +191,8 @@ private:
     inline static Win32Faults *s_current = nullptr;
 
     mutable std::mutex m_mutex;
-    int m_failing = -1;
-    int m_nth = 0;
-    DWORD m_error = ERROR_SUCCESS;
-    Repeat m_repeat = Once;
+    NthFailure m_plan{CallCount};
     PathFilter m_filter;
-    int m_counted = 0;
-    int m_fired = 0;
-    std::array<int, CallCount> m_seen{};
     QHash<void *, QString> m_handles;
     QHash<void *, int> m_memory;
     QList<Opening> m_openings;

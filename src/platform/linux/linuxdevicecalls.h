@@ -4,6 +4,8 @@
 
 #include <sys/mount.h>
 
+#include <cstdlib>
+
 namespace platform {
 
 /// ioctl() with a fixed argument list, because a call table cannot hold variadic functions.
@@ -15,6 +17,7 @@ struct LinuxDeviceCalls
     int (*ioctl)(int, unsigned long, void *) = &platform::deviceControl;
     int (*mount)(const char *, const char *, const char *, unsigned long, const void *) = &::mount;
     int (*umount2)(const char *, int) = &::umount2;
+    char *(*mkdtemp)(char *) = &::mkdtemp;
 };
 
 /// The table in force. Any thread.

@@ -89,12 +89,12 @@ public:
     HiddenPlace(const QByteArray &source, const MountEntry &entry)
     {
         m_path = QDir::tempPath().toLocal8Bit() + "/quorvex-mount-XXXXXX";
-        if (!::mkdtemp(m_path.data()))
+        if (!deviceCalls().mkdtemp(m_path.data()))
             return;
         m_isMade = true;
         m_isMounted = mountWhole(source, m_path, entry).ok();
     }
-    // Removes only the folder itself. While a file system is still mounted there, rmdir() fails and the
+    // Removes only the folder itself. While a file system is still mounted there, the removal fails and the
     // user's data stays.
     ~HiddenPlace()
     {
@@ -102,7 +102,7 @@ public:
         if (m_isMounted)
             deviceCalls().umount2(m_path.constData(), UMOUNT_NOFOLLOW);
         if (m_isMade)
-            ::rmdir(m_path.constData());
+            fileCalls().unlinkat(AT_FDCWD, m_path.constData(), AT_REMOVEDIR);
         errno = error;
     }
     HiddenPlace(const HiddenPlace &) = delete;

@@ -2,7 +2,9 @@
 
 #include "platform/filenames.h"
 #include "platform/linux/linuxerrnotable.h"
+#include "platform/linux/linuxfilecalls.h"
 #include "platform/linux/linuxfiledescriptor.h"
+#include "platform/linux/linuxprocesscalls.h"
 
 #include <QSocketNotifier>
 #include <QSysInfo>
@@ -62,7 +64,7 @@ int descriptorOf(StandardStream stream)
 bool waitForInput()
 {
     std::array<pollfd, 2> ends{pollfd{STDIN_FILENO, POLLIN, 0}, pollfd{s_notifiedEnd, POLLIN, 0}};
-    uninterrupted([&ends] { return ::poll(ends.data(), ends.size(), -1); });
+    uninterrupted([&ends] { return processCalls().poll(ends.data(), ends.size(), -1); });
     return !StopHandler::isAsked();
 }
 
@@ -85,7 +87,8 @@ std::optional<QString> readLine()
     char character = 0;
     while (waitForInput()) {
         // Reads single bytes, so that the text after the line remains for the next reader.
-        const ssize_t count = uninterrupted([&character] { return ::read(STDIN_FILENO, &character, 1); });
+        const ssize_t count =
+            uninterrupted([&character] { return fileCalls().read(STDIN_FILENO, &character, 1); });
         if (count < 1)
             return std::nullopt;
         if (character == '\n')
@@ -101,14 +104,14 @@ Status writeText(StandardStream stream, const QByteArray &text)
     const char *data = text.constData();
     qsizetype left = text.size();
     while (left > 0) {
-        const ssize_t count = ::write(descriptor, data, static_cast<std::size_t>(left));
+        const ssize_t count = processCalls().write(descriptor, data, static_cast<std::size_t>(left));
         if (count >= 0) {
             data += count;
             left -= count;
         } else if (errno == EAGAIN) {
             // Another process that shares the terminal or pipe may have made it non-blocking.
             pollfd end{descriptor, POLLOUT, 0};
-            uninterrupted([&end] { return ::poll(&end, 1, -1); });
+            uninterrupted([&end] { return processCalls().poll(&end, 1, -1); });
         } else if (errno != EINTR) {
             return statusFromErrno(errno, "write");
         }

@@ -129,9 +129,11 @@ private:
     QHash<QString, platform::FileKind> m_unrecorded; // entries without a record so far
 };
 
-bool isSticky(const QString &folder)
+bool isSticky(const QString &folder, QList<UnscannedBin> &unscanned)
 {
     const auto owner = platform::Platform::current().folders().owner(folder);
+    if (!owner && owner.code() != platform::NotSupported)
+        unscanned.append({folder, UnscannedBin::Reason::Unreadable, owner.code()});
     return owner && owner.value().isSticky;
 }
 } // namespace
@@ -152,7 +154,7 @@ QList<TrashFolder> trashFoldersOfVolume(const QString &root, const QString &user
     QList<TrashFolder> folders;
     const QString shared = pathInFolder(root, u".Trash"_s);
     const QString inShared = pathInFolder(shared, userId);
-    if (mayEnterBin(shared, BinOwner::Anybody, unscanned) && isSticky(shared) &&
+    if (mayEnterBin(shared, BinOwner::Anybody, unscanned) && isSticky(shared, unscanned) &&
         mayEnterBin(inShared, BinOwner::User, unscanned))
         folders.append({inShared, root, root});
     const QString ofUser = pathInFolder(root, u".Trash-"_s + userId);

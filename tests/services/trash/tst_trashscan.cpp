@@ -7,6 +7,7 @@
 
 #include "platform/forwarding.h"
 #include "support/fakedevices.h"
+#include "support/linuxfaults.h"
 #include "support/messagecapture.h"
 #include "support/scopedvariable.h"
 #include "support/testfiles.h"
@@ -18,6 +19,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <algorithm>
+#include <cerrno>
 #include <memory>
 #include <utility>
 
@@ -167,6 +170,8 @@ private slots:
     void aWindowsBinUnderAUsersNumberHasToBeHisOwn();
     void homeComesBeforeTheDrives();
     void volumesThatAreNotLocalAreSkipped();
+    void noFailedCallHidesAnEntry_data();
+    void noFailedCallHidesAnEntry();
 
     void whatIsGoneIsTakenOutOfTheSizes();
     void sizesWithoutGoneNamesStayUntouched();
@@ -577,6 +582,51 @@ void tst_TrashScan::volumesThatAreNotLocalAreSkipped()
     Machine::own(root).add(u"a"_s, "a", "1");
     pc.devices.volumes[root].mounted.isLocal = false;
     QCOMPARE(scan(), RecycleBinInfo());
+}
+
+void tst_TrashScan::noFailedCallHidesAnEntry_data()
+{
+    QTest::addColumn<int>("error");
+    QTest::newRow("EIO") << EIO;
+    QTest::newRow("EACCES") << EACCES;
+    QTest::newRow("ENOMEM") << ENOMEM;
+}
+
+// A scan whose Nth system call fails finds everything all the same, or names the bin that it could not read.
+void tst_TrashScan::noFailedCallHidesAnEntry()
+{
+    QFETCH(const int, error);
+    Machine pc;
+    const QString volume = pc.mount(u"stick"_s);
+    for (const Trash &trash : {pc.home(), Machine::own(volume), Machine::shared(volume)}) {
+        trash.add(u"a.txt"_s, "/users/ann/a.txt", "12345");
+        writeFile(trash.file(u"alone/b.txt"_s), "123");
+        writeFile(trash.info(u"gone"_s), record("/users/ann/gone"));
+    }
+    const QStringList all = scan().doomedPaths();
+    QCOMPARE(all.size(), 12);
+    LinuxFaults faults;
+    int told = 0;
+    for (int nth = 1;; ++nth) {
+        faults.fail(LinuxFaults::AnyCall, nth, error);
+        const RecycleBinInfo found = scan();
+        const int fired = faults.fired();
+        faults.failNothing();
+        const QStringList doomed = found.doomedPaths();
+        const auto isFound = [&doomed](const QString &path) { return doomed.contains(path); };
+        const bool isWhole = std::all_of(all.cbegin(), all.cend(), isFound);
+        const QByteArray which = "call " + QByteArray::number(nth);
+        QVERIFY2(isWhole || !found.unscanned.isEmpty(), which.constData());
+        for (const QString &path : doomed)
+            QVERIFY2(all.contains(path), qPrintable(path));
+        told += found.unscanned.isEmpty() ? 0 : 1;
+        if (fired == 0) {
+            QVERIFY(isWhole);
+            QVERIFY(found.unscanned.isEmpty());
+            break;
+        }
+    }
+    QVERIFY2(told > 5, qPrintable(QString::number(told)));
 }
 
 void tst_TrashScan::whatIsGoneIsTakenOutOfTheSizes()
