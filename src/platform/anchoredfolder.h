@@ -51,8 +51,8 @@ public:
     /// As Files::remove. Linux: unlinkat.
     virtual Status removeFile(const QString &name) = 0;
 
-    /// Creates, claims and opens a new folder; AlreadyExists when any entry has the name. Windows:
-    /// CreateDirectoryW, then as openFolder. Linux: mkdirat, mode 0700.
+    /// Creates, claims and opens a new folder; AlreadyExists when any entry has the name. A failure leaves no
+    /// folder. Windows: CreateDirectoryW, then as openFolder. Linux: mkdirat, mode 0700.
     virtual Result<std::unique_ptr<AnchoredFolder>> createFolder(const QString &name) = 0;
     /// Opens and claims a folder. SharingViolation when another handle has claimed it, PathNotFound for a
     /// link. Windows: opened without FILE_SHARE_DELETE, so that the folder cannot be renamed or deleted

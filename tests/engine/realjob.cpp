@@ -23,6 +23,7 @@ RealJob runRealJob(WipeTask &task, int patienceMs)
     if (engine.isRunning() && (!completed.isEmpty() || completed.wait(patienceMs)))
         job.success = completed[0][0].toBool();
     job.report = engine.report();
+    job.outcome = engine.outcome().outcome();
     return job;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/diskinfo.h"
+#include "model/joboutcome.h"
 #include "model/wipereport.h"
 #include "model/wipetask.h"
 
@@ -11,6 +12,7 @@
 struct RealJob
 {
     bool success = false;
+    JobOutcome outcome = JobOutcome::Failed;
     WipeReport report;
     QStringList log;
     QStringList errors;

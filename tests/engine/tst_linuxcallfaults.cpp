@@ -1,4 +1,7 @@
+#include "model/units.h"
 #include "model/wipetask.h"
+#include "platform/anchoredfolder.h"
+#include "platform/devices.h"
 #include "platform/folders.h"
 #include "platform/platform.h"
 #include "realjob.h"
@@ -9,6 +12,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
@@ -16,6 +20,7 @@
 #include <cerrno>
 
 #include <fcntl.h>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -55,6 +60,21 @@ WipeMethod withoutReadingBack()
     return method;
 }
 
+// The paths of everything below the folder, relative to it; empty folders and what is in others.
+QStringList contentsOf(const QString &folder)
+{
+    const QDir top(folder);
+    QStringList paths;
+    QDirIterator entries(folder, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
+                         QDirIterator::Subdirectories);
+    while (entries.hasNext()) {
+        const QString path = entries.next();
+        if (!entries.fileInfo().isDir() || QDir(path).isEmpty())
+            paths.append(top.relativeFilePath(path));
+    }
+    return paths;
+}
+
 bool exists(const QString &path)
 {
     return QFileInfo(path).exists() || QFileInfo(path).isSymLink();
@@ -73,9 +93,13 @@ private slots:
     void filesAreErasedOrNotCalledSo();
     void drivesAreErasedOrNotCalledSo_data() { errors(); }
     void drivesAreErasedOrNotCalledSo();
+    void treesAreErasedOrNotCalledSo();
+    void freeSpaceIsFilledOrNotCalledSo_data();
+    void freeSpaceIsFilledOrNotCalledSo();
     void foldersAreRemovedOrNotCalledSo_data() { errors(); }
     void foldersAreRemovedOrNotCalledSo();
     void entriesThatVanishMeanwhileAreRemoved();
+    void aFolderThatCannotBeOpenedIsNotLeft();
 
 private:
     static void errors();
@@ -166,6 +190,116 @@ void tst_LinuxCallFaults::drivesAreErasedOrNotCalledSo()
     QVERIFY2(failures > 3, qPrintable(QString::number(failures)));
 }
 
+// Folders within folders, a link, a second name and an empty file.
+void tst_LinuxCallFaults::treesAreErasedOrNotCalledSo()
+{
+    if (const QString reason = LoopMount::unavailableReason(LoopMount::Ext4); !reason.isEmpty())
+        QSKIP(qPrintable(reason));
+    const QTemporaryDir folder;
+    LoopMount volume(folder.path(), {.fileSystem = LoopMount::Ext4});
+    QVERIFY2(volume.isReady(), qPrintable(volume.error()));
+    const QDir root(volume.mountPoint());
+    const QString tree = root.filePath(u"tree"_s);
+    const QString outside = root.filePath(u"outside"_s);
+    LinuxFaults faults;
+    int failures = 0;
+    for (int nth = 1;; ++nth) {
+        const QByteArray which = "call " + QByteArray::number(nth);
+        const QByteArray marker = markerOf(nth);
+        writeFile(outside, "stays");
+        writeFile(tree + u"/a/b/file"_s, markers(marker, 9'000));
+        writeFile(tree + u"/a/empty"_s, {});
+        writeFile(tree + u"/file"_s, markers(marker, 5'000));
+        QFile::link(outside, tree + u"/a/link"_s);
+        QCOMPARE(::link(qPrintable(tree + u"/file"_s), qPrintable(tree + u"/a/name"_s)), 0);
+        QVERIFY(volume.countInImage(marker) > 500);
+        WipeTask task;
+        task.addFiles({tree});
+        task.setMethod(withoutReadingBack());
+        faults.fail(LinuxFaults::AnyCall, nth, EIO);
+        const RealJob job = runRealJob(task);
+        const int fired = faults.fired();
+        faults.failNothing();
+        failures += job.success ? 0 : 1;
+        QCOMPARE(contentOf(outside), QByteArray("stays"));
+        if (job.success) {
+            QVERIFY2(volume.countInImage(marker) == 0, which.constData());
+            QVERIFY2(!exists(tree + u"/a/b/file"_s) && !exists(tree + u"/file"_s), which.constData());
+            QVERIFY2(!exists(tree) || job.outcome == JobOutcome::Partial, which.constData());
+        }
+        if (fired == 0) {
+            QVERIFY2(job.success && !exists(tree), qPrintable(job.log.join(u'\n')));
+            break;
+        }
+        QVERIFY(!exists(tree) || QDir(tree).removeRecursively());
+    }
+    QVERIFY2(failures > 5, qPrintable(QString::number(failures)));
+}
+
+void tst_LinuxCallFaults::freeSpaceIsFilledOrNotCalledSo_data()
+{
+    QTest::addColumn<int>("error");
+    QTest::newRow("EIO") << EIO;
+    QTest::newRow("ENOSPC") << ENOSPC;
+}
+
+void tst_LinuxCallFaults::freeSpaceIsFilledOrNotCalledSo()
+{
+    QFETCH(const int, error);
+    if (const QString reason = LoopMount::unavailableReason(LoopMount::Ext4); !reason.isEmpty())
+        QSKIP(qPrintable(reason));
+    const QTemporaryDir folder;
+    // A job leaves 100 MiB free.
+    const LoopMount volume(folder.path(), {.fileSystem = LoopMount::Ext4, .sizeBytes = 128 * MiB});
+    QVERIFY2(volume.isReady(), qPrintable(volume.error()));
+    const QString kept = volume.mountPoint() + u"/kept"_s;
+    writeFile(kept, "stays");
+    const QStringList entries = contentsOf(volume.mountPoint());
+    PartitionInfo partition;
+    for (const platform::MountedVolume &mounted : platform::Platform::current().devices().mountedVolumes()) {
+        if (mounted.name == volume.mountPoint()) {
+            partition.driveLetter = mounted.name;
+            partition.identity = mounted.identity;
+        }
+    }
+    const auto fill = [&partition] {
+        WipeTask task;
+        task.setOperationType(FreeSpaceWipe);
+        task.setPartition(partition);
+        task.setMethod(withoutReadingBack());
+        task.setBufferSizeMB(8);
+        return runRealJob(task);
+    };
+    const quint64 whole = fill().report.wipedSectors;
+    QVERIFY(whole > 4 * MiB / 512);
+    LinuxFaults faults;
+    int failures = 0;
+    constexpr int Most = 3; // of each entry, because each run writes megabytes
+    for (const auto call : {LinuxFaults::Openat_, LinuxFaults::Mkdirat_, LinuxFaults::Pwrite_,
+                            LinuxFaults::Fdatasync_, LinuxFaults::Unlinkat_, LinuxFaults::Fstatvfs_}) {
+        for (int nth = 1, fired = 1; fired > 0 && nth <= Most; ++nth) {
+            const QString which = u"entry %1, call %2"_s.arg(call).arg(nth);
+            faults.fail(call, nth, error);
+            const RealJob job = fill();
+            fired = faults.fired();
+            faults.failNothing();
+            failures += job.success ? 0 : 1;
+            QVERIFY2(job.success || fired > 0, qPrintable(job.log.join(u'\n')));
+            QCOMPARE(contentOf(kept), QByteArray("stays"));
+            QVERIFY(job.success || job.outcome == JobOutcome::Failed);
+            if (job.outcome != JobOutcome::Complete)
+                continue;
+            // A job leaves its folder, empty.
+            for (const QString &left : contentsOf(volume.mountPoint()))
+                QVERIFY2(entries.contains(left) ||
+                             (left.startsWith(u".quorvex_temp_"_s) && !left.contains(u'/')),
+                         qPrintable(which + u": "_s + left));
+            QVERIFY2(job.report.wipedSectors + 2 * MiB / 512 >= whole, qPrintable(which));
+        }
+    }
+    QVERIFY2(failures > 3, qPrintable(QString::number(failures)));
+}
+
 void tst_LinuxCallFaults::foldersAreRemovedOrNotCalledSo()
 {
     QFETCH(const int, error);
@@ -206,6 +340,19 @@ void tst_LinuxCallFaults::entriesThatVanishMeanwhileAreRemoved()
     const platform::Status removed = platform::Platform::current().folders().removeTree(tree);
     QVERIFY2(removed.ok(), qPrintable(removed.diagnostic()));
     QVERIFY(!exists(tree));
+}
+
+void tst_LinuxCallFaults::aFolderThatCannotBeOpenedIsNotLeft()
+{
+    const QTemporaryDir folder;
+    const auto anchor = platform::Platform::current().folders().anchor(folder.path());
+    QVERIFY2(anchor, qPrintable(anchor.status().diagnostic()));
+    LinuxFaults faults;
+    faults.fail(LinuxFaults::Openat_, 1, EMFILE);
+    const auto created = anchor.value()->createFolder(u"new"_s);
+    QCOMPARE(faults.fired(), 1);
+    QVERIFY(!created);
+    QVERIFY(!exists(folder.filePath(u"new"_s)));
 }
 
 QUORVEX_SUITE(tst_LinuxCallFaults, QCoreApplication)

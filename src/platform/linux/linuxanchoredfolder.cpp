@@ -132,7 +132,11 @@ Result<std::unique_ptr<AnchoredFolder>> LinuxAnchoredFolder::createFolder(const 
         return entry.status();
     if (fileCalls().mkdirat(m_folder.get(), entry.value().constData(), S_IRWXU) != 0)
         return statusFromErrno(errno, "mkdirat");
-    return openFolder(name);
+    Result<std::unique_ptr<AnchoredFolder>> opened = openFolder(name);
+    // The caller knows nothing of a folder that it did not get, and would leave it behind.
+    if (!opened)
+        static_cast<void>(removeFolder(name));
+    return opened;
 }
 
 Result<std::unique_ptr<AnchoredFolder>> LinuxAnchoredFolder::openFolder(const QString &name)

@@ -120,7 +120,11 @@ Result<std::unique_ptr<AnchoredFolder>> WindowsAnchoredFolder::createFolder(cons
         return encoded.status();
     if (!fileCalls().createDirectory(encoded.value().c_str(), nullptr))
         return statusFromLastError("CreateDirectory");
-    return openFolder(name);
+    Result<std::unique_ptr<AnchoredFolder>> opened = openFolder(name);
+    // The caller knows nothing of a folder that it did not get, and would leave it behind.
+    if (!opened)
+        static_cast<void>(removeFolder(name));
+    return opened;
 }
 
 Result<std::unique_ptr<AnchoredFolder>> WindowsAnchoredFolder::openFolder(const QString &name)
