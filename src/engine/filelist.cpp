@@ -17,11 +17,12 @@ FileIndex::FileIndex(const HeldTree &tree, const std::vector<FileEntry> &files)
 
 QSet<QString> FileIndex::namesIn(HeldTree::Folder folder) const
 {
-    const auto found = std::ranges::equal_range(m_byFolder, m_tree.firstAs(folder), {},
-                                                [this](quint32 file) { return folderOf(file); });
+    const auto folderOfFile = [this](quint32 file) { return folderOf(file); };
+    const HeldTree::Folder wanted = m_tree.firstAs(folder);
+    const auto first = std::ranges::lower_bound(m_byFolder, wanted, {}, folderOfFile);
+    const auto last = std::ranges::upper_bound(first, m_byFolder.cend(), wanted, {}, folderOfFile);
     QSet<QString> names;
-    names.reserve(static_cast<qsizetype>(found.size()));
-    for (const quint32 file : found)
-        names.insert(m_files[file].name);
+    names.reserve(std::distance(first, last));
+    std::for_each(first, last, [&](quint32 file) { names.insert(m_files[file].name); });
     return names;
 }

@@ -142,6 +142,7 @@ void tst_LinuxCallFaults::filesAreErasedOrNotCalledSo()
             QVERIFY2(volume.countInImage(marker) == 0, qPrintable(u"call %1"_s.arg(nth)));
         }
         if (fired == 0) {
+            qInfo("%d calls failed in their turn", nth - 1);
             QVERIFY2(job.success, qPrintable(job.log.join(u'\n')));
             break;
         }
@@ -228,6 +229,7 @@ void tst_LinuxCallFaults::treesAreErasedOrNotCalledSo()
             QVERIFY2(!exists(tree) || job.outcome == JobOutcome::Partial, which.constData());
         }
         if (fired == 0) {
+            qInfo("%d calls failed in their turn", nth - 1);
             QVERIFY2(job.success && !exists(tree), qPrintable(job.log.join(u'\n')));
             break;
         }
@@ -317,6 +319,7 @@ void tst_LinuxCallFaults::foldersAreRemovedOrNotCalledSo()
         failures += removed ? 0 : 1;
         QVERIFY2(!removed || !exists(tree), qPrintable(u"call %1"_s.arg(nth)));
         if (fired == 0) {
+            qInfo("%d calls failed in their turn", nth - 1);
             QVERIFY2(removed.ok(), qPrintable(removed.diagnostic()));
             break;
         }

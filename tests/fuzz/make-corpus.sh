@@ -26,8 +26,9 @@ fixed_path() {
 # counted_path SIZE UNITS: version 2, with this length even if the text has another one.
 counted_path() { header 2 "$1"; little "$2" 4; utf16; }
 
-rm -rf infofile trashinfo wipereport
-mkdir infofile trashinfo wipereport
+readers=(commandline devicereplies glyphnames infofile linkcatalogue mounttable sysattributes trashinfo wipereport)
+rm -rf "${readers[@]}"
+mkdir "${readers[@]}"
 
 cd infofile
 printf 'C:\\Users\\ann\\a.txt' | fixed_path 12345 version1
@@ -105,3 +106,97 @@ printf '{"certificateId":{"certificateId":{}},"diskInfo":{"totalSize":"922337203
 printf '\xef\xbb\xbf{}' >byte-order-mark
 printf '{' >cut-short
 : >empty
+cd ..
+
+cd commandline
+printf 'wipe\ndisk\n/dev/sdb\n--method\n4\n--yes\n--json' >wipe-disk
+printf 'wipe\nfiles\n--\n-rf\n--yes' >wipe-files
+printf 'wipe\nfree\n/mnt\n--buffer-mb=8\n--threads\n-1' >wipe-free
+printf 'wipe\ntrash\n--dry-run\n--quiet' >wipe-trash
+printf 'reports\nexport\nQVX-1\n--pdf\na.pdf\n--json\n-' >reports-export
+printf 'reports\nlist\n--limit\n99999999999999999999' >reports-list
+printf 'disks\n--all\n--lang\nde' >disks
+printf 'help\nwipe\ndisk' >help
+printf -- '--version' >version
+printf 'wipe\ndsik' >typing-error
+printf -- '-\n--\n---\n=\n--=\n\n' >signs
+: >empty
+cd ..
+
+cd devicereplies
+# descriptor SERIAL: STORAGE_DEVICE_DESCRIPTOR with a product and a serial number behind the fixed part.
+descriptor() {
+    little 40 4; little 72 4; little 0 2; printf '\1\1'
+    little 0 4; little 40 4; little 0 4; little 48 4; little 11 4; little 0 4; little 0 4
+    printf 'DISK\0\0\0\0%s\0' "$1"
+}
+descriptor ' S1234 ' >usual
+descriptor "$(printf 'a\001\177b')" >descriptor-controls
+descriptor 12345678901234567890 | head -c 50 >descriptor-cut
+{ little 2 4; little 0 4; little 0 8; little 1048576 8; little 4096 8; little 1 8; little 0 8; little -1 8; } >extents
+{ little -1 4; little 0 4; little 0 8; } >extents-without-end
+{ little 12 4; little 32 4; little 1 4; little 1 4; little 3 4; little 8 2; little 20 2; little 0 4
+  printf '\x50\x00\xc5\x00\xa1\xb2\xc3\xd4'; } >identifier
+{ little 1 4; little 3 4; repeated x 40; little 1 4; little 0 4; repeated y 144; } >layout
+repeated '\377' 64 >ones
+: >empty
+cd ..
+
+cd glyphnames
+# pdf RANGES [COUNT]: one font whose glyphs are named by these ranges, and a table of COUNT objects.
+pdf() {
+    local body names=$1 count=${2:-3} first=9 second table
+    names=$'/CMap\n'"$(wc -l <<<"$names") beginbfrange"$'\n'"$names"$'\nendbfrange\nendcmap\n'
+    body=$'%PDF-1.4\n1 0 obj\n<< /ToUnicode 2 0 R >>\nendobj\n'
+    second=${#body}
+    body+=$'2 0 obj\n<< /Length '"${#names}"$' >>\nstream\n'"$names"$'endstream\nendobj\n'
+    table=${#body}
+    printf '%s' "$body"
+    printf 'xref\n0 %s\n0000000000 65535 f \n%010d 00000 n \n%010d 00000 n \n' "$count" "$first" "$second"
+    printf 'trailer\n<<\n/Size 3\n/Root 1 0 R\n>>\nstartxref\n%d\n%%%%EOF\n' "$table"
+}
+pdf '<0000> <0001> <2F64>' >range
+pdf '<0003> <0004> [<2F64> <F900>]' >list
+pdf $'<0000> <0001> <2F64>\n<0005> <0005> <00200041>' >ranges
+pdf '<0000> <7FFFFFFF> <0041>' >range-too-large
+pdf '<0005> <0001> <0041>' >range-backwards
+pdf '<0000> <0001> [<2F64>' >list-not-closed
+pdf '<0000> <0001> <2F64>' 9223372036854775807 >count-too-large
+pdf '<0000> <0001> <2F64>' -3 >count-negative
+pdf '<0000> <0001> <2F64>' | head -c 180 >cut-short
+: >empty
+cd ..
+
+cd linkcatalogue
+cat >usual <<'JSON'
+{"metadata":{"version":"1","supported_languages":["en","de"],"fallback_language":"en"},
+"support":{"help":{"en":"https://example.org/en","de":"https://example.org/de"},"faq":{"en":"https://example.org/faq"}}}
+JSON
+printf '{"metadata":[],"support":{"help":[1,null,true]}}' >other-kinds
+printf '{"metadata":{"supported_languages":{"a":"b"},"fallback_language":7},"support":{"help":{"en":7}}}' >numbers
+printf '{"support":{"help":{"en":"javascript:alert(1)","":"\\ud800"}}}' >odd-addresses
+printf '[{}]' >array
+printf '{"metadata":' >cut-short
+: >empty
+cd ..
+
+cd mounttable
+printf '36 35 98:0 /mnt1 /mnt2 rw,noatime master:1 - ext3 /dev/root rw,errors=continue\n' >usual
+printf '41 28 0:42 /sub /srv\\040data rw,nosuid shared:7 master:1 propagate_from:2 - btrfs /dev/sdb1 rw,subvol=/sub\n' >btrfs
+printf '1 0 8:1 / / ro,relatime - vfat /dev/sda1 rw,uid=0,iocharset=\\134\n' >escapes
+printf '1 0 8:1 / / rw shared:1 master:2\n' >no-dash
+printf ' - - - - - - - \n-\n\n - \n' >dashes
+printf '99999999999999999999 -1 a:b / /\\04 rw - x y\n' >numbers
+printf 'Filename Type Size Used Priority\n/dev/sda2 partition 1 0 -2\n/swap\\040file file 1 0 -3\n' >swaps
+: >empty
+cd ..
+
+cd sysattributes
+# The attributes in the order of the reader's list, each ended by the byte 0xFF.
+attributes() { printf '%b\xff' "$@"; }
+attributes '2097152\n' '0\n' '1\n' '17\n' 'naa.5000c500a1b2c3d4\n' '' 'Disk A \n' 'S123\n' '' '' '' '' >usual
+attributes '8\n' '0' '0' '' '' 't10.ATA x' '' '' '' '\x00\x80\x00\x04SER1' '' 'E:ID_SERIAL_SHORT=a\\x20b\nE:ID_BUS=usb\n' >page
+attributes '-1\n' '' '' '' '' '' '\x00\x01' '\xc3\x28' '' '\x00\x80\xff\xfe' '' 'E:\nE:=\n=\nE:A' >odd
+attributes '99999999999999999999' '2' '-5' '\n\n' 'uuid.' 'eui.\n' >numbers
+: >empty
+cd ..

@@ -163,6 +163,7 @@ void tst_DatabaseFaults::acceptedReportsAreKept()
         }
         verifyOldReport(nth);
         if (!hasFailed) {
+            qInfo("%d operations failed in their turn", nth - 1);
             QVERIFY2(isSaved, qPrintable(database().lastError()));
             break;
         }
@@ -191,6 +192,7 @@ void tst_DatabaseFaults::deletedReportsAreGone()
         }
         verifyOldReport(nth);
         if (!hasFailed) {
+            qInfo("%d operations failed in their turn", nth - 1);
             QVERIFY(isDeleted);
             break;
         }
@@ -218,6 +220,7 @@ void tst_DatabaseFaults::nothingStoredIsDenied()
         QVERIFY2(!page || page->size() == 1, which.constData());
         QVERIFY2(outcome.value_or(partialOutcome()) == partialOutcome(), which.constData());
         if (!m_faulty->hasFailedOperation()) {
+            qInfo("%d operations failed in their turn", nth - 1);
             QVERIFY(holds && count && json && page && outcome);
             break;
         }
@@ -239,6 +242,7 @@ void tst_DatabaseFaults::aFailedStartLosesNothing()
         reopen();
         verifyOldReport(nth);
         if (!hasFailed) {
+            qInfo("%d operations failed in their turn", nth - 1);
             QVERIFY(isOpen);
             break;
         }

@@ -621,6 +621,7 @@ void tst_TrashScan::noFailedCallHidesAnEntry()
             QVERIFY2(all.contains(path), qPrintable(path));
         told += found.unscanned.isEmpty() ? 0 : 1;
         if (fired == 0) {
+            qInfo("%d calls failed in their turn", nth - 1);
             QVERIFY(isWhole);
             QVERIFY(found.unscanned.isEmpty());
             break;
