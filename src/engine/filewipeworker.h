@@ -6,6 +6,7 @@
 #include "engine/fileoverwriting.h"
 #include "engine/fileremoval.h"
 #include "engine/jobfiles.h"
+#include "engine/namejournals.h"
 #include "engine/repeatedfiles.h"
 
 #include <chrono>
@@ -54,6 +55,7 @@ private:
     bool eraseLate();
     // Whether the files went that were listed under another spelling too.
     bool areRepetitionsGone();
+    void removeFolders();
     bool settleRemovals();
 
     int failedCount() const
@@ -66,6 +68,7 @@ private:
     JobFiles m_files{*this};
     SnapshotSurvey m_snapshots;
     FileRemoval m_removal;
+    NameJournals m_journals{*this, m_files.tree()};
     qint64 m_singlePassTotal = 0; // bytes
     bool m_isTotalCertain = true; // the size of every file that stands was told
     bool m_isAllEmpty = true;     // no file without content has streams
