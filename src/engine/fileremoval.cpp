@@ -133,7 +133,7 @@ void FileRemoval::removeRest(std::size_t overwritten)
 
 // Only folders whose content was listed completely. Files that were not listed were not overwritten, and
 // deleting them would hide data that is still on the medium.
-void FileRemoval::removeFolders()
+void FileRemoval::removeFolders(const std::function<void()> &emptied)
 {
     const auto standing = [this](const QString &folder, const Status &status) {
         m_job.note(
@@ -148,6 +148,20 @@ void FileRemoval::removeFolders()
     const auto streams = [this](const QString &folder, qint64 count, qint64 bytes) {
         m_job.noteShortfall({ShortfallKind::ContentElsewhere, folder, bytes, count});
     };
-    FolderRemoval(m_files.tree(), {.replaced = replaced, .standing = standing, .streams = streams})
+    FolderRemoval(m_files.tree(),
+                  {.replaced = replaced, .standing = standing, .streams = streams, .emptied = emptied})
         .remove(m_files.list().folders);
+}
+
+std::vector<HeldTree::Folder> FileRemoval::foldersOfNames()
+{
+    std::vector<HeldTree::Folder> folders = m_files.list().folders;
+    for (std::size_t i = 0; i < m_files.count(); ++i) {
+        if (m_files.watched(i).isRemoved())
+            folders.push_back(m_files.list().files[i].folder);
+    }
+    std::ranges::sort(folders);
+    const auto repeated = std::ranges::unique(folders);
+    folders.erase(repeated.begin(), repeated.end());
+    return folders;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "engine/durabilitygroups.h"
+#include "engine/heldtree.h"
 #include "engine/runningjob.h"
 #include "platform/entrypath.h"
 #include "platform/files.h"
@@ -40,8 +41,11 @@ public:
     /// Removes files that a stop left in the folders to be removed next. overwritten: the number of files,
     /// from the beginning of the list, that received every pass.
     void removeRest(std::size_t overwritten);
-    /// Removes the target folders whose whole content was listed, and the folders below them.
-    void removeFolders();
+    /// Removes the target folders whose whole content was listed, and the folders below them. emptied: as in
+    /// FolderRemoval::Observer.
+    void removeFolders(const std::function<void()> &emptied);
+    /// The folders that the job removed names from, or removes with the next call of removeFolders().
+    std::vector<HeldTree::Folder> foldersOfNames();
 
     /// Flushes the removals to the medium and returns the groups, with a failure for those that could not be
     /// flushed. Also called after an exception.

@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <functional>
 #include <iterator>
 #include <new>
 #include <vector>
@@ -64,7 +65,8 @@ bool FileWipeWorker::shred()
     if (isStopRequested())
         return concludeJob(false);
     if (m_files.list().files.empty()) {
-        m_removal.removeFolders();
+        removeFolders();
+        m_journals.writeRound();
         reportError(tr("没有找到要擦除的文件"));
         return false;
     }
@@ -82,8 +84,9 @@ bool FileWipeWorker::shred()
     success = eraseLate() && success;
     success = success && areRepetitionsGone();
     m_removal.removeRest(m_overwrittenCount);
-    m_removal.removeFolders();
+    removeFolders();
     success = settleRemovals() && success;
+    m_journals.writeRound();
     return concludeJob(success);
 }
 
@@ -347,6 +350,12 @@ bool FileWipeWorker::areRepetitionsGone()
     return m_standingRepetitions == before || isStopRequested();
 }
 
+void FileWipeWorker::removeFolders()
+{
+    m_journals.find(m_removal.foldersOfNames());
+    m_removal.removeFolders(m_journals.isEmpty() ? std::function<void()>() : [this] { m_journals.settle(); });
+}
+
 // The last removals may still be in the cache, and a removal counts only once it is on the medium.
 bool FileWipeWorker::settleRemovals()
 {
@@ -369,6 +378,7 @@ void FileWipeWorker::diagnose(const platform::Status &failure)
 void FileWipeWorker::complete()
 {
     // Open handles would keep the user from unmounting the volume.
+    m_journals.letGo();
     for (const DurabilityGroups::Closed &closed : m_removal.settle())
         traceFile(QString(), closed.status);
     m_files.tree().releaseAll();

@@ -6,6 +6,7 @@
 #include "engine/fileoverwriting.h"
 #include "engine/fileremoval.h"
 #include "engine/jobfiles.h"
+#include "engine/namejournals.h"
 #include "engine/repeatedfiles.h"
 
 #include <chrono>
@@ -59,6 +60,7 @@ private:
     bool eraseLate();
     /// Whether the files that were listed under two spellings are gone.
     bool areRepetitionsGone();
+    void removeFolders();
     bool settleRemovals();
 
     int failedCount() const
@@ -71,6 +73,7 @@ private:
     JobFiles m_files{*this};
     SnapshotSurvey m_snapshots;
     FileRemoval m_removal;
+    NameJournals m_journals{*this, m_files.tree()};
     qint64 m_singlePassTotal = 0; ///< bytes
     bool m_isTotalCertain = true; ///< the size of every present file is known
     bool m_isAllEmpty = true;     ///< no empty file has named streams

@@ -36,6 +36,7 @@ public:
     /// Records the bytes that the last fill file brought to the medium.
     void setBytesOfLast(qint64 bytes) { m_files.last().bytes = bytes; }
     bool hasFiles() const { return !m_files.isEmpty(); }
+    QString nameOfLast() const { return m_files.last().name; }
 
     /// Removes the files and returns their bytes. A file that cannot be removed, in several attempts, is
     /// tried again at the next call.

@@ -5,6 +5,8 @@
 #include "platform/platform.h"
 
 #include <algorithm>
+#include <functional>
+#include <map>
 #include <utility>
 
 using platform::Status;
@@ -30,8 +32,27 @@ void FolderRemoval::remove(const std::vector<HeldTree::Folder> &folders)
     });
     // A folder may also be held under another of its paths.
     m_tree.releaseAll();
+    if (m_observer.emptied)
+        return removeByDepth(order);
     for (const HeldTree::Folder folder : order)
         removeFolder(folder);
+}
+
+// The blocks of a removed folder are never written again, so that names which are still in them would stay.
+void FolderRemoval::removeByDepth(const std::vector<HeldTree::Folder> &order)
+{
+    std::map<int, std::vector<HeldTree::Folder>, std::greater<>> byDepth;
+    for (const HeldTree::Folder folder : order) {
+        int depth = 0;
+        for (HeldTree::Folder above = folder; above != HeldTree::None; above = m_tree.parentOf(above))
+            ++depth;
+        byDepth[depth].push_back(folder);
+    }
+    for (const auto &[depth, folders] : byDepth) {
+        m_observer.emptied();
+        for (const HeldTree::Folder folder : folders)
+            removeFolder(folder);
+    }
 }
 
 std::vector<HeldTree::Folder> FolderRemoval::topsAmong(const HeldTree &tree,

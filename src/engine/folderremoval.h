@@ -19,6 +19,9 @@ public:
         std::function<void(const QString &path, const platform::Status &status)> standing;
         /// Named streams of the folder itself, which go with it; below 0 when they could not be counted.
         std::function<void(const QString &path, qint64 streams, qint64 bytes)> streams;
+        /// Called before the folders of each depth, the greatest first, when the names in them are gone. Null
+        /// where one target is to go after the other.
+        std::function<void()> emptied{};
     };
 
     /// The tree outlives the object.
@@ -32,6 +35,7 @@ public:
                                                    const std::vector<HeldTree::Folder> &folders);
 
 private:
+    void removeByDepth(const std::vector<HeldTree::Folder> &order);
     void removeFolder(HeldTree::Folder folder);
     void tellStreams(HeldTree::Folder folder, const platform::EntryPath &entry);
 

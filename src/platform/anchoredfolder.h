@@ -3,6 +3,7 @@
 #include "platform/files.h"
 #include "platform/folders.h"
 #include "platform/status.h"
+#include "platform/volumejournal.h"
 
 #include <QString>
 
@@ -63,6 +64,11 @@ public:
     /// As Folders::removeEmpty and removeTree. This process must not have the folder open.
     virtual Status removeFolder(const QString &name) = 0;
     virtual Status removeTree(const QString &name) = 0;
+
+    /// The journal of the folder's file system, with this folder as the one to change blocks in. NotSupported
+    /// where names are kept in other ways. Windows: NotSupported. Linux: ext2 to ext4, fstatfs, /sys/fs/ext4
+    /// and /proc/fs/jbd2.
+    virtual Result<std::unique_ptr<VolumeJournal>> journal() = 0;
 };
 
 } // namespace platform

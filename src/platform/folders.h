@@ -40,7 +40,7 @@ public:
 
     /// Opens a folder to work in it, without claiming it. PathNotFound for a link and for any entry that is
     /// no folder.
-    virtual Result<std::unique_ptr<AnchoredFolder>> anchor(const QString &folder) = 0;
+    virtual Result<std::unique_ptr<AnchoredFolder>> anchor(const EntryPath &folder) = 0;
 
     /// Called once per entry with its name (no path) and kind. The result false ends the listing, which then
     /// succeeds.

@@ -6,6 +6,7 @@
 #include "platform/folders.h"
 #include "platform/platform.h"
 #include "platform/session.h"
+#include "platform/volumejournal.h"
 
 /// A wrapper beside each interface that forwards every call, so that a subclass overrides only the methods
 /// that it changes. The wrapped object is not owned unless it is given as a unique_ptr; otherwise it must
@@ -79,6 +80,26 @@ protected:
     Files &m_target;
 };
 
+class ForwardingVolumeJournal : public VolumeJournal
+{
+public:
+    explicit ForwardingVolumeJournal(std::unique_ptr<VolumeJournal> target)
+        : m_target(std::move(target))
+    {}
+    qint64 size() const override { return m_target->size(); }
+    qint64 blockSize() const override { return m_target->blockSize(); }
+    Result<qint64> written() override { return m_target->written(); }
+    Status changeBlock(const QString &name, quint64 mark) override
+    {
+        return m_target->changeBlock(name, mark);
+    }
+    Status commit() override { return m_target->commit(); }
+    Status settle() override { return m_target->settle(); }
+
+protected:
+    std::unique_ptr<VolumeJournal> m_target;
+};
+
 class ForwardingAnchoredFolder : public AnchoredFolder
 {
 public:
@@ -107,6 +128,7 @@ public:
     Status hide() override { return m_target->hide(); }
     Status removeFolder(const QString &name) override { return m_target->removeFolder(name); }
     Status removeTree(const QString &name) override { return m_target->removeTree(name); }
+    Result<std::unique_ptr<VolumeJournal>> journal() override { return m_target->journal(); }
 
 protected:
     std::unique_ptr<AnchoredFolder> m_target;
@@ -118,7 +140,7 @@ public:
     explicit ForwardingFolders(Folders &target)
         : m_target(target)
     {}
-    Result<std::unique_ptr<AnchoredFolder>> anchor(const QString &folder) override
+    Result<std::unique_ptr<AnchoredFolder>> anchor(const EntryPath &folder) override
     {
         return m_target.anchor(folder);
     }

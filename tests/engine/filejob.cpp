@@ -6,8 +6,9 @@
 
 #include <thread>
 
-FileJob::FileJob(platform::Files &below, platform::Folders &folders)
+FileJob::FileJob(platform::Files &below, platform::Folders &foldersBelow)
     : files(below)
+    , folders(foldersBelow)
     , m_platform(files, folders, platform::Platform::current().devices(),
                  platform::Platform::current().session())
     , m_scope(m_platform)

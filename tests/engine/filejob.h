@@ -4,6 +4,7 @@
 #include "model/wipetask.h"
 #include "platform/forwarding.h"
 #include "platform/platform.h"
+#include "support/journaledfolders.h"
 #include "support/observedfiles.h"
 #include "support/workerrecord.h"
 
@@ -22,10 +23,11 @@ class FileJob
 public:
     // Other files or folders than those of the platform; they outlive the job.
     explicit FileJob(platform::Files &below = platform::Platform::current().files(),
-                     platform::Folders &folders = platform::Platform::current().folders());
+                     platform::Folders &foldersBelow = platform::Platform::current().folders());
 
     WipeTask task;
     ObservedFiles files;
+    JournaledFolders folders;
     WorkerRecord said;
 
     QString path(const QString &name) const { return m_folder.filePath(name); }

@@ -36,6 +36,8 @@ class tst_FileResidue : public QObject
 private slots:
     void noMarkerIsLeft_data();
     void noMarkerIsLeft();
+    void noNameIsLeft_data();
+    void noNameIsLeft();
     void keptFilesStayAsTheyAre_data();
     void keptFilesStayAsTheyAre();
 };
@@ -83,6 +85,55 @@ void tst_FileResidue::noMarkerIsLeft()
     QVERIFY(!root.exists(QStringLiteral("deep")));
     QVERIFY(!root.exists(QStringLiteral("single")));
     QVERIFY(volume.unmount());
+    QCOMPARE(volume.countInImage(marker()), 0);
+}
+
+void tst_FileResidue::noNameIsLeft_data()
+{
+    QTest::addColumn<QString>("feature");
+    QTest::addColumn<QString>("mountOptions");
+    QTest::newRow("ext4") << QStringLiteral("has_journal") << QString();
+    QTest::newRow("ext4, content in the journal")
+        << QStringLiteral("has_journal") << QStringLiteral("data=journal");
+    QTest::newRow("ext4, commits of two kinds") << QStringLiteral("fast_commit") << QString();
+    QTest::newRow("ext4 without a journal") << QStringLiteral("^has_journal") << QString();
+}
+
+void tst_FileResidue::noNameIsLeft()
+{
+    QFETCH(QString, feature);
+    QFETCH(QString, mountOptions);
+    if (const QString reason = LoopMount::unavailableReason(LoopMount::Ext4); !reason.isEmpty())
+        QSKIP(qPrintable(reason));
+    const QTemporaryDir folder;
+    LoopMount::Options options;
+    options.makeArguments = QStringList{QStringLiteral("-O"), feature};
+    options.mountOptions = mountOptions;
+    LoopMount volume(folder.path(), options);
+    QVERIFY2(volume.isReady(), qPrintable(volume.error()));
+
+    const QByteArray name = "NameOfThisTest";
+    constexpr int Files = 300;
+    const QDir root(volume.mountPoint());
+    const QStringList folders{QStringLiteral("NameOfThisTest"),
+                              QStringLiteral("NameOfThisTest/NameOfThisTestA"),
+                              QStringLiteral("NameOfThisTest/NameOfThisTestA/NameOfThisTestB")};
+    QVERIFY(root.mkpath(folders.last()));
+    for (int i = 0; i < Files; ++i)
+        writeMarkers(root.filePath(folders[i % 3] + QStringLiteral("/NameOfThisTest%1").arg(i)), 30);
+    writeMarkers(root.filePath(QStringLiteral("NameOfThisTestSingle")), 30);
+    QVERIFY(volume.unmount());
+    QVERIFY(volume.countInImage(name) >= Files); // control: the names are on the medium
+    QVERIFY(volume.mount());
+
+    WipeTask task;
+    task.addFiles({root.filePath(folders.first()), root.filePath(QStringLiteral("NameOfThisTestSingle"))});
+    const RealJob job = runRealJob(task);
+    QVERIFY2(job.success, qPrintable(job.log.join(u'\n')));
+    QCOMPARE(root.entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+             QStringList{QStringLiteral("lost+found")});
+    QVERIFY(volume.unmount());
+    QCOMPARE(volume.countInImage(name), 0);
     QCOMPARE(volume.countInImage(marker()), 0);
 }
 

@@ -193,7 +193,7 @@ class WholeSpaceFolders : public platform::ForwardingFolders
 {
 public:
     using ForwardingFolders::ForwardingFolders;
-    WholeSpaceFolder::Opened anchor(const QString &folder) override
+    WholeSpaceFolder::Opened anchor(const platform::EntryPath &folder) override
     {
         return WholeSpaceFolder::over(ForwardingFolders::anchor(folder));
     }

@@ -53,6 +53,7 @@ LinuxFaults::LinuxFaults()
     hook<Fchmodat_, &Files::fchmodat>(m_files);
     hook<Renameat_, &Files::renameat>(m_files);
     hook<Unlinkat_, &Files::unlinkat>(m_files);
+    hook<Fsetxattr_, &Files::fsetxattr>(m_files);
     hook<Ioctl_, &Devices::ioctl>(m_devices);
     hook<Mount_, &Devices::mount>(m_devices);
     hook<Umount2_, &Devices::umount2>(m_devices);

@@ -36,6 +36,7 @@ public:
         Fchmodat_,
         Renameat_,
         Unlinkat_,
+        Fsetxattr_,
         Ioctl_,
         Mount_,
         Umount2_,

@@ -97,6 +97,10 @@ public:
     platform::Status hide() override { return m_volume.hide(m_path); }
     platform::Status removeFolder(const QString &name) override { return m_volume.removeEmpty(entry(name)); }
     platform::Status removeTree(const QString &name) override { return m_volume.removeTree(entry(name)); }
+    platform::Result<std::unique_ptr<platform::VolumeJournal>> journal() override
+    {
+        return failure(platform::NotSupported);
+    }
 
 private:
     QString entry(const QString &name) const { return platform::pathInFolder(m_path, name); }
@@ -232,8 +236,10 @@ platform::Status MemoryVolume::remove(const platform::EntryPath &place)
     return {};
 }
 
-platform::Result<std::unique_ptr<platform::AnchoredFolder>> MemoryVolume::anchor(const QString &folder)
+platform::Result<std::unique_ptr<platform::AnchoredFolder>>
+MemoryVolume::anchor(const platform::EntryPath &place)
 {
+    const QString folder = place.path();
     if (!isFolder(folder))
         return failure(platform::PathNotFound);
     return std::unique_ptr<platform::AnchoredFolder>(std::make_unique<Folder>(*this, folder, false));

@@ -109,7 +109,8 @@ public:
     platform::Status remove(const platform::EntryPath &place) override;
 
     // Folders. Anchored entries are reached by path.
-    platform::Result<std::unique_ptr<platform::AnchoredFolder>> anchor(const QString &folder) override;
+    platform::Result<std::unique_ptr<platform::AnchoredFolder>>
+    anchor(const platform::EntryPath &folder) override;
     platform::Status forEachEntry(const platform::EntryPath &folder, const Visitor &visit) override;
     // Folders are never held here.
     platform::Result<std::shared_ptr<platform::FolderHandle>> hold(const QString &folder) override;

@@ -9,8 +9,10 @@
 #include "platform/linux/linuxfileid.h"
 #include "platform/linux/linuxfilekind.h"
 #include "platform/linux/linuxfiles.h"
+#include "platform/linux/linuxfolderhandle.h"
 #include "platform/linux/linuxtreeremoval.h"
 #include "platform/linux/linuxvolumeidentity.h"
+#include "platform/linux/linuxvolumejournal.h"
 #include "platform/linux/linuxvolumespace.h"
 
 #include <fcntl.h>
@@ -57,16 +59,23 @@ Result<bool> claim(int folder)
 
 } // namespace
 
-Result<std::unique_ptr<AnchoredFolder>> LinuxAnchoredFolder::open(const QString &path)
+Result<std::unique_ptr<AnchoredFolder>> LinuxAnchoredFolder::open(const EntryPath &path)
 {
-    const Result<QByteArray> name = encodePath(path);
-    if (!name)
-        return name.status();
-    FileDescriptor folder = openFolderAt(AT_FDCWD, name.value().constData());
+    const Result<EntryAt> at = locate(path);
+    if (!at)
+        return at.status();
+    FileDescriptor folder = openFolderAt(at.value().folder, at.value().name.constData());
     if (!folder.isValid())
         return statusFromErrno(errno, "open");
+    if (at.value().held) {
+        struct statx found = {};
+        if (fileCalls().statx(folder.get(), "", AT_EMPTY_PATH, MountMask, &found) != 0)
+            return statusFromErrno(errno, "statx");
+        if (const Status mounted = at.value().refusalOf(found); !mounted)
+            return mounted;
+    }
     return std::unique_ptr<AnchoredFolder>(
-        std::make_unique<LinuxAnchoredFolder>(std::move(folder), path, false));
+        std::make_unique<LinuxAnchoredFolder>(std::move(folder), path.path(), false));
 }
 
 Result<QString> LinuxAnchoredFolder::volumeIdentity()
@@ -175,6 +184,11 @@ Status LinuxAnchoredFolder::removeTree(const QString &name)
     if (!parent.isValid())
         return statusFromErrno(errno, "fcntl");
     return TreeRemoval(std::move(parent)).run(entry.value());
+}
+
+Result<std::unique_ptr<VolumeJournal>> LinuxAnchoredFolder::journal()
+{
+    return journalOf(m_folder.get(), SystemTree());
 }
 
 Status LinuxAnchoredFolder::remove(const QString &name, int flags)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/anchoredfolder.h"
+#include "platform/entrypath.h"
 #include "platform/linux/linuxfiledescriptor.h"
 
 #include <QByteArray>
@@ -11,7 +12,7 @@ namespace platform {
 class LinuxAnchoredFolder final : public AnchoredFolder
 {
 public:
-    static Result<std::unique_ptr<AnchoredFolder>> open(const QString &path);
+    static Result<std::unique_ptr<AnchoredFolder>> open(const EntryPath &path);
 
     LinuxAnchoredFolder(FileDescriptor folder, const QString &path, bool isClaimed)
         : m_folder(std::move(folder))
@@ -32,6 +33,7 @@ public:
     Status hide() override { return {}; }
     Status removeFolder(const QString &name) override;
     Status removeTree(const QString &name) override;
+    Result<std::unique_ptr<VolumeJournal>> journal() override;
 
 private:
     Status remove(const QString &name, int flags);

@@ -9,6 +9,7 @@
 #include <sys/statvfs.h>
 #include <sys/types.h>
 #include <sys/vfs.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 
 namespace platform {
@@ -46,6 +47,7 @@ struct LinuxFileCalls
     int (*fchmodat)(int, const char *, mode_t, int) = &::fchmodat;
     int (*renameat)(int, const char *, int, const char *) = &::renameat;
     int (*unlinkat)(int, const char *, int) = &::unlinkat;
+    int (*fsetxattr)(int, const char *, const void *, size_t, int) = &::fsetxattr;
 };
 
 /// The table in force. Any thread.

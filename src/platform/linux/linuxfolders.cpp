@@ -44,7 +44,7 @@ Status makeFolder(const QByteArray &path)
 
 } // namespace
 
-Result<std::unique_ptr<AnchoredFolder>> LinuxFolders::anchor(const QString &folder)
+Result<std::unique_ptr<AnchoredFolder>> LinuxFolders::anchor(const EntryPath &folder)
 {
     return LinuxAnchoredFolder::open(folder);
 }

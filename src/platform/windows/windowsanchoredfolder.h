@@ -33,6 +33,7 @@ public:
     Status hide() override;
     Status removeFolder(const QString &name) override;
     Status removeTree(const QString &name) override;
+    Result<std::unique_ptr<VolumeJournal>> journal() override { return Status{NotSupported, 0, "journal"}; }
 
 private:
     /// The path of an entry.

@@ -39,9 +39,9 @@ qint64 bytesOf(const ULARGE_INTEGER &bytes)
 
 } // namespace
 
-Result<std::unique_ptr<AnchoredFolder>> WindowsFolders::anchor(const QString &folder)
+Result<std::unique_ptr<AnchoredFolder>> WindowsFolders::anchor(const EntryPath &folder)
 {
-    return WindowsAnchoredFolder::open(folder);
+    return WindowsAnchoredFolder::open(folder.path());
 }
 
 Status WindowsFolders::forEachEntry(const EntryPath &folder, const Visitor &visit)

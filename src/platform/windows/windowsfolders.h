@@ -8,7 +8,7 @@ namespace platform {
 class WindowsFolders final : public Folders
 {
 public:
-    Result<std::unique_ptr<AnchoredFolder>> anchor(const QString &folder) override;
+    Result<std::unique_ptr<AnchoredFolder>> anchor(const EntryPath &folder) override;
     Status forEachEntry(const EntryPath &folder, const Visitor &visit) override;
     Result<std::shared_ptr<FolderHandle>> hold(const QString &folder) override;
     Result<std::shared_ptr<FolderHandle>> holdIn(const std::shared_ptr<FolderHandle> &parent,
