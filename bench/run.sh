@@ -3,24 +3,29 @@
 # compares the medians; the ratio is the throughput of ours over theirs, so more is better. Works on its own loop devices
 # and files in a temporary folder (about 4 GiB), and needs root.
 #
-#   bench/run.sh [--build FOLDER] [--runs N] [ROW...]     rows: disk shred random file small tiny free count memory
-#            reports bin trash bin-items trash-items start idle; only when named: count-disk
+#   bench/run.sh [--build FOLDER] [--runs N] [--json FILE] [ROW...]     rows: disk shred random random-memory
+#            processor read-back four file small tiny free count memory reports bin trash bin-items trash-items start
+#            idle; only when named: count-disk many
+#
+# --json FILE also writes the table there, as one object.
 set -euo pipefail
 export LC_ALL=C
 
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 build=$here/build/release
 runs=5
+json=
 rows=()
 while [ $# -gt 0 ]; do
   case $1 in
     --build) build=$2; shift 2 ;;
     --runs) runs=$2; shift 2 ;;
-    -h|--help) sed -n '2,7s/^# \{0,1\}//p' "$0"; exit 0 ;;
+    --json) json=$2; shift 2 ;;
+    -h|--help) sed -n '2,10s/^# \{0,1\}//p' "$0"; exit 0 ;;
     *) rows+=("$1"); shift ;;
   esac
 done
-[ ${#rows[@]} -gt 0 ] || rows=(disk shred random file small tiny free count memory reports bin trash bin-items trash-items start idle)
+[ ${#rows[@]} -gt 0 ] || rows=(disk shred random random-memory processor read-back four file small tiny free count memory reports bin trash bin-items trash-items start idle)
 [ "$(id -u)" = 0 ] || { echo "bench: needs root for loop devices" >&2; exit 1; }
 
 desktop=$build/bin/quorvex
@@ -32,7 +37,7 @@ cli=$build/bin/quorvex-cli
 needed=()
 for row in "${rows[@]}"; do
   case $row in
-    disk|shred|file|small|tiny) needed+=("$cli" "$job") ;;
+    disk|shred|file|small|tiny|processor|read-back|four|many) needed+=("$cli" "$job") ;;
     reports|bin|trash|bin-items|trash-items) needed+=("$services") ;;
     start) needed+=("$desktop" "$window" "$probe") ;;
     idle) needed+=("$desktop" "$probe") ;;
@@ -45,12 +50,14 @@ done
 
 folder=$(mktemp -d "${TMPDIR:-/var/tmp}/quorvex-bench.XXXXXX")
 loop=
+loops=()
 screen=
 clean_up() {
   [ -z "$screen" ] || kill "$screen" 2>/dev/null || true
   mountpoint -q "$folder/mnt" 2>/dev/null && umount "$folder/mnt"
-  mountpoint -q "$folder/memory" 2>/dev/null && umount "$folder/memory"
   [ -z "$loop" ] || losetup -d "$loop"
+  for loop in "${loops[@]}"; do losetup -d "$loop"; done
+  mountpoint -q "$folder/memory" 2>/dev/null && umount "$folder/memory"
   rm -rf "$folder"
 }
 trap clean_up EXIT
@@ -69,6 +76,30 @@ timed() {
 
 median() { sort -g | awk '{ v[NR] = $1 } END { print NR % 2 ? v[(NR + 1) / 2] : (v[NR / 2] + v[NR / 2 + 1]) / 2 }'; }
 
+# tell NAME GOAL UNIT OURS THEIRS RATIO: prints a row of the table, and keeps it for --json. $row: its name here.
+json_rows=()
+tell() {
+  printf '%-46s %9.3f %s %9.3f %s   %5.2f   (goal %s)\n' "$1" "$4" "$3" "$5" "$3" "$6" "$2"
+  json_rows+=("$(printf '{"row": "%s", "work": "%s", "goal": "%s", "unit": "%s", "ours": %s, "theirs": %s, "ratio": %s}' \
+    "$row" "$1" "$2" "$3" "$4" "$5" "$6")")
+}
+# tell_one NAME GOAL UNIT VALUE: the same for a row without a comparison.
+tell_one() {
+  printf '%-46s %9.1f %s   (goal %s)\n' "$1" "$4" "$3" "$2"
+  json_rows+=("$(printf '{"row": "%s", "work": "%s", "goal": "%s", "unit": "%s", "ours": %s}' "$row" "$1" "$2" "$3" "$4")")
+}
+write_json() {
+  local i
+  {
+    printf '{"date": "%s", "runs": %d, "processors": %d, "rows": [' "$(date -u +%F)" "$runs" "$(nproc)"
+    for ((i = 0; i < ${#json_rows[@]}; i++)); do
+      printf '%s\n  %s' "$([ $i = 0 ] || echo ,)" "${json_rows[$i]}"
+    done
+    printf '\n]}\n'
+  } >"$json"
+}
+ratio() { awk -v a="$1" -v b="$2" 'BEGIN { printf "%.4f", a / b }'; }
+
 # compare NAME GOAL PREPARE OURS THEIRS: the last three are functions; PREPARE runs before each.
 compare() {
   local name=$1 goal=$2 prepare=$3 ours=$4 theirs=$5 i a=() b=()
@@ -80,8 +111,7 @@ compare() {
   local ma mb
   ma=$(printf '%s\n' "${a[@]}" | median)
   mb=$(printf '%s\n' "${b[@]}" | median)
-  printf '%-46s %9.3f s %9.3f s   %5.2f   (goal %s)\n' "$name" "$ma" "$mb" \
-    "$(awk -v a="$ma" -v b="$mb" 'BEGIN { print b / a }')" "$goal"
+  tell "$name" "$goal" s "$ma" "$mb" "$(ratio "$mb" "$ma")"
 }
 
 nothing() { :; }
@@ -96,6 +126,85 @@ disk_ours() { "$cli" --quiet --data-dir "$folder/data" wipe disk "$loop" --metho
 disk_random() { "$job" disk "$loop" random; }
 disk_dd() { dd if=/dev/zero of="$loop" oflag=direct bs=64M count=16; }
 disk_shred() { shred -n0 -z "$loop"; }
+
+# in_memory MIB FUNCTION: runs the function with $loop on an image in memory. No medium limits what is measured.
+in_memory() {
+  mkdir "$folder/memory"
+  mount -t tmpfs -o size="$(($1 + 16))m" tmpfs "$folder/memory"
+  fallocate -l "$1M" "$folder/memory/disk.img"
+  loop=$(losetup --find --show "$folder/memory/disk.img")
+  "$2"
+  losetup -d "$loop"; loop=
+  umount "$folder/memory"
+  rmdir "$folder/memory"
+}
+shred_random() { shred -n1 "$loop"; }
+random_memory_row() {
+  compare "1 GiB in memory, one random pass / shred -n1" "at least 3" nothing disk_random shred_random
+  compare "  the same / dd from /dev/zero, direct" "none" nothing disk_random disk_dd
+}
+
+# processor_of COMMAND...: sets $seconds to the processor time of the command and its children.
+processor_of() {
+  local TIMEFORMAT='%U %S' times
+  times=$({ time "$@" >"$folder/out" 2>&1 || echo failed; } 2>&1)
+  case $times in
+    *failed*) cat "$folder/out" >&2; echo "bench: failed: $*" >&2; exit 1 ;;
+  esac
+  seconds=$(awk '{ print $1 + $2 }' <<<"$times")
+}
+# processor NAME GOAL OURS THEIRS: compares the processor time of two functions on 1 GiB. Ours is without the start of the
+# program, which does not grow with the drive.
+processor() {
+  local i a=() b=() ma mb
+  processor_of "$3"; processor_of "$4" # warm-up, not counted
+  for ((i = 0; i < runs; i++)); do
+    processor_of "$3"; a+=("$(awk '/^processor/ { print $2 }' "$folder/out")")
+    processor_of "$4"; b+=("$seconds")
+  done
+  ma=$(printf '%s\n' "${a[@]}" | median)
+  mb=$(printf '%s\n' "${b[@]}" | median)
+  tell "$1" "$2" s "$ma" "$mb" "$(ratio "$ma" "$mb")"
+}
+# dd writes zeros with system calls of the same size. In a random pass we also make the data; dd does not.
+processor_row() {
+  processor "processor per GiB, constant pass / dd" "at most 1.2" disk_constant disk_dd
+  processor "processor per GiB, random pass / dd of zeros" "at most 1.5" disk_random disk_dd
+}
+disk_constant() { "$job" disk "$loop" zeros; }
+
+read_ours() { "$cli" --quiet --data-dir "$folder/data" check --zeros "$loop"; }
+read_dd() { dd if="$loop" of=/dev/null iflag=direct bs=64M; }
+# The device holds zeros only, otherwise our reading ends at the first other byte.
+read_back() { disk_dd 2>/dev/null; compare "$1" "at least 0.9" nothing read_ours read_dd; }
+read_back_memory() { read_back "  the same in memory"; }
+
+# Four processes, each with a drive, do four times the work of one.
+four_ours() {
+  local one pids=() pid
+  for one in "${loops[@]}"; do
+    "$cli" --quiet --data-dir "$folder/data" wipe disk "$one" --method 0 --no-verify --yes &
+    pids+=($!)
+  done
+  for pid in "${pids[@]}"; do wait "$pid"; done
+}
+four_in_turn() {
+  local one
+  for one in "${loops[@]}"; do
+    "$cli" --quiet --data-dir "$folder/data" wipe disk "$one" --method 0 --no-verify --yes
+  done
+}
+four_row() {
+  local i
+  for i in 1 2 3 4; do
+    fallocate -l 256M "$folder/disk$i.img"
+    loops+=("$(losetup --find --show --direct-io=on "$folder/disk$i.img")")
+  done
+  compare "four drives of 256 MiB at once / in turn" "at least 0.95" nothing four_ours four_in_turn
+  for i in "${loops[@]}"; do losetup -d "$i"; done
+  loops=()
+  rm "$folder"/disk[1-4].img
+}
 
 new_file() { rm -rf "$folder/f"; mkdir "$folder/f"; dd if=/dev/urandom of="$folder/f/big" bs=16M count=64 status=none; }
 file_ours() { "$cli" --quiet --data-dir "$folder/data" wipe files "$folder/f/big" --method 0 --yes; }
@@ -117,6 +226,14 @@ tiny_row() { # shred reads nothing back
   compare "5,000 files of 4 KiB / shred --remove=unlink" "at least 2" tiny_files tiny_ours tiny_shred
   compare "  the same, read back" "none" tiny_files small_ours tiny_shred
   compare "5,000 files of 4 KiB / shred -u" "at least 4" tiny_files small_ours small_shred
+}
+
+# Takes many minutes, since each file waits for the drive.
+many_files() { new_files 100000 4096; }
+many_rm() { rm -r "$folder/f"; sync; }
+many_row() {
+  compare "100,000 files of 4 KiB on a drive / shred -u" "at least 4" many_files small_ours small_shred
+  compare "  the same / rm and sync, which erase nothing" "none" many_files small_ours many_rm
 }
 
 free_ours() { "$job" free "$folder/mnt" zeros; free_bytes=$(awk '/^bytes/ { print $2 }' "$folder/out"); }
@@ -144,8 +261,7 @@ grown() {
   done
   ma=$(printf '%s\n' "${a[@]}" | median)
   mb=$(printf '%s\n' "${b[@]}" | median)
-  printf '%-46s %9.3f s %9.3f s   %5.2f   (goal %s)\n' "$name" "$mb" "$ma" \
-    "$(awk -v a="$ma" -v b="$mb" 'BEGIN { print b / a }')" "$goal"
+  tell "$name" "$goal" s "$mb" "$ma" "$(ratio "$mb" "$ma")"
 }
 
 # The pages are read often enough to take a good part of a second.
@@ -204,15 +320,16 @@ count_in_memory() {
   umount "$folder/memory"
 }
 
+peak_memory() { awk '/ memory / { print $4 / 1024 }' "$folder/out"; }
 memory_row() {
   attach 1024
   "$job" disk "$loop" random >"$folder/out"
-  printf '%-46s %s   (goal at most 192 MiB)\n' "memory, disk job with two 64 MiB buffers" "$(sed -n 's/.*memory //p' "$folder/out")"
+  tell_one "memory, disk job with two 64 MiB buffers" "at most 192 MiB" MiB "$(peak_memory)"
   detach
   new_files 100000 512
   "$job" files 0 "$folder/f" >"$folder/out"
-  printf '%-46s %s   (goal at most %d kB)\n' "memory, file job with 100,000 files" "$(sed -n 's/.*memory //p' "$folder/out")" \
-    $(( ($(nproc) * 16 + 64) * 1024 + 100000 * 400 / 1024 ))
+  tell_one "memory, file job with 100,000 files" "at most $((($(nproc) * 16 + 64) + 100000 * 400 / 1048576)) MiB" MiB \
+    "$(peak_memory)"
 }
 
 # until_shown PROGRAM [IDLE]: runs a desktop program on $platform with its own home and no real drive, until its window
@@ -249,14 +366,14 @@ start_row() { # $1: the place, for the label
   against "  of it processor time" "$(printf '%s\n' "${pa[@]}" | median)" "$(printf '%s\n' "${pb[@]}" | median)"
 }
 against() { # $1 name, $2 ours, $3 theirs; less is better
-  printf '%-46s %9.3f s %9.3f s   %5.2f   (goal at most 1.5)\n' "$1" "$2" "$3" "$(awk -v a="$2" -v b="$3" 'BEGIN { print a / b }')"
+  tell "$1" "at most 1.5" s "$2" "$3" "$(ratio "$2" "$3")"
 }
 
 idle_row() { # $1: the place, for the label
   new_home
   until_shown "$desktop" 10 || { cat "$folder/trace" >&2; echo "bench: failed: $desktop" >&2; exit 1; }
-  awk -v name="idle for 10 s, $1" '/^milliseconds/ { printf "%-46s %9.1f ms of processors, woken %d times   (goal none)\n", name, $2, $4 }' \
-    "$folder/out"
+  tell_one "idle for 10 s, $1, processors" none ms "$(awk '/^milliseconds/ { print $2 }' "$folder/out")"
+  tell_one "  the same, woken" none times "$(awk '/^milliseconds/ { print $4 }' "$folder/out")"
 }
 
 # on_screens ROW: runs the row without a screen, and on an X screen where Xvfb is installed.
@@ -285,6 +402,13 @@ for row in "${rows[@]}"; do
     disk) attach 1024; compare "disk, one constant pass / dd direct" "at least 0.95" nothing disk_ours disk_dd; detach ;;
     shred) attach 1024; compare "disk, one constant pass / shred -n0 -z" "at least 4" nothing disk_ours disk_shred; detach ;;
     random) attach 1024; compare "disk, one random pass / dd direct" "at least 0.75" nothing disk_random disk_dd; detach ;;
+    random-memory) in_memory 1024 random_memory_row ;;
+    processor) in_memory 1024 processor_row ;;
+    read-back)
+      attach 1024; read_back "1 GiB read back and compared / dd iflag=direct"; detach
+      in_memory 1024 read_back_memory ;;
+    four) four_row ;;
+    many) many_row ;;
     file) compare "1 GiB file, verified and deleted / shred -u" "at least 1.5" new_file file_ours file_shred ;;
     small) compare "2,000 files of 16 KiB / shred -u" "at least 2" small_files small_ours small_shred ;;
     tiny) tiny_row ;;
@@ -304,3 +428,4 @@ for row in "${rows[@]}"; do
     *) echo "bench: no row $row" >&2; exit 2 ;;
   esac
 done
+[ -z "$json" ] || write_json

@@ -46,4 +46,10 @@ if(QUORVEX_SANITIZE)
   target_link_options(quorvex_flags INTERFACE -fsanitize=${QUORVEX_SANITIZE})
 endif()
 
+if(QUORVEX_COVERAGE)
+  # Threads count the same lines.
+  target_compile_options(quorvex_flags INTERFACE --coverage -fprofile-update=atomic)
+  target_link_options(quorvex_flags INTERFACE --coverage)
+endif()
+
 target_link_libraries(quorvex_flags INTERFACE Threads::Threads)

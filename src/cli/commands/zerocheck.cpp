@@ -18,6 +18,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstring>
 #include <memory>
 
 namespace cli {
@@ -28,6 +29,12 @@ constexpr qint64 ChunkSize = 8 * MiB;
 
 // The read function of a file or a drive.
 using Reader = std::function<platform::Result<qint64>(void *data, qint64 size)>;
+
+// Compares each byte with the next one, many at a time; a search for another byte takes longer than reading.
+bool isZero(const std::byte *data, qint64 size)
+{
+    return data[0] == std::byte(0) && std::memcmp(data, data + 1, static_cast<std::size_t>(size - 1)) == 0;
+}
 
 Outcome<ZeroCheck> readThrough(const Reader &read, qint64 length, const QString &shown,
                                const StopRequest &stop)
@@ -48,16 +55,17 @@ Outcome<ZeroCheck> readThrough(const Reader &read, qint64 length, const QString 
         }
         // The file may have grown meanwhile.
         const qint64 valid = std::min(count.value(), length - check.bytesRead);
+        if (isZero(buffer.data(), valid)) {
+            check.bytesRead += valid;
+            continue;
+        }
         const std::byte *const begin = buffer.data();
         const std::byte *const other =
             std::find_if(begin, begin + valid, [](std::byte value) { return value != std::byte(0); });
-        if (other != begin + valid) {
-            check.firstOther = check.bytesRead + (other - begin);
-            check.otherByte = std::to_integer<int>(*other);
-            check.bytesRead = check.firstOther + 1;
-            return check;
-        }
-        check.bytesRead += valid;
+        check.firstOther = check.bytesRead + (other - begin);
+        check.otherByte = std::to_integer<int>(*other);
+        check.bytesRead = check.firstOther + 1;
+        return check;
     }
     return check;
 }
