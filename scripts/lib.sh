@@ -33,6 +33,9 @@ export LC_ALL=C.UTF-8
     # machine are in packages_build.
     packages_windows=(g++-mingw-w64-x86-64-posix tcl make qt6-base-dev-tools qt6-tools-dev qt6-tools-dev-tools)
     packages_wine=(wine wine64 xvfb xauth fonts-noto-cjk fonts-dejavu-core)
+    # The laboratory's machine, and what the system in it makes on its drives.
+    packages_lab=(qemu-system-x86 busybox-static cpio kmod python3 mdadm lvm2 cryptsetup-bin dmsetup util-linux mount
+        dosfstools ntfs-3g e2fsprogs xfsprogs btrfs-progs)
     # One typeface for all eleven languages, the pictures on buttons, and the letters of the seal on a certificate.
     packages_fonts=(fonts-noto-cjk fonts-noto-color-emoji fonts-dejavu-core)
 }

@@ -14,6 +14,8 @@
 #include <array>
 #include <optional>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 // Assumed to be the system disk when a system volume does not tell its disks.
 constexpr int LikelySystemDisk = 0;
@@ -180,6 +182,53 @@ PartitionInfo describeVolume(const platform::MountedVolume &volume)
     partition.isBoot = partition.isSystem;
     return partition;
 }
+
+std::optional<DiskInfo> describeDriveInTime(int number)
+{
+    return limitedquestion::answerOf<std::optional<DiskInfo>>(DiskManager::driveKey(number),
+                                                              [number] { return describeDrive(number); })
+        .value_or(std::nullopt);
+}
+
+void addUse(const platform::DeviceUse &use, DiskObstacles &obstacles)
+{
+    obstacles.holders += use.holders;
+    obstacles.releaseCommands += use.releaseCommands;
+}
+
+// A volume that is mounted by another way to the same unit is unmounted by nobody, and writes back over what
+// was erased.
+void addUseByOtherWay(const DiskInfo &other, DiskObstacles &obstacles)
+{
+    platform::Devices &devices = platform::Platform::current().devices();
+    for (const PartitionInfo &volume : DiskManager::partitionsForDisk(other.diskNumber)) {
+        obstacles.holders.append(u"%1 (%2)"_s.arg(volume.driveLetter, other.devicePath));
+        if (const auto query = devices.queryVolume(volume.driveLetter))
+            obstacles.releaseCommands += query.value()->use().valueOr({}).releaseCommands;
+    }
+    if (const auto query = devices.queryDrive(other.diskNumber))
+        addUse(query.value()->use().valueOr({}), obstacles);
+}
+
+// Namespaces of one NVMe controller share its serial number, and differ in their names.
+bool haveDifferentNames(const DiskInfo &a, const DiskInfo &b)
+{
+    return !a.worldWideName.isEmpty() && !b.worldWideName.isEmpty() && a.worldWideName != b.worldWideName;
+}
+
+void addUseByOtherWays(int diskNumber, DiskObstacles &obstacles)
+{
+    const std::optional<DiskInfo> disk = describeDriveInTime(diskNumber);
+    if (!disk || (disk->worldWideName.isEmpty() && disk->serialNumber.isEmpty()))
+        return;
+    for (int number = DiskManager::FirstDrive; number <= DiskManager::LastDrive; ++number) {
+        if (number == diskNumber)
+            continue;
+        const std::optional<DiskInfo> other = describeDriveInTime(number);
+        if (other && isSameUnit(*disk, *other) && !haveDifferentNames(*disk, *other))
+            addUseByOtherWay(*other, obstacles);
+    }
+}
 } // namespace
 
 QString DiskManager::driveKey(int diskNumber)
@@ -193,9 +242,7 @@ QList<DiskInfo> DiskManager::enumerateDisks()
     QList<DiskInfo> disks;
     // Unplugged drives leave gaps in the numbers.
     for (int number = FirstDrive; number <= LastDrive; ++number) {
-        const auto answer = limitedquestion::answerOf<std::optional<DiskInfo>>(
-            driveKey(number), [number] { return describeDrive(number); });
-        std::optional<DiskInfo> disk = answer.value_or(std::nullopt);
+        std::optional<DiskInfo> disk = describeDriveInTime(number);
         if (!disk)
             continue;
         disk->isSystemDisk = system.contains(number);
@@ -258,9 +305,10 @@ DiskObstacles DiskManager::obstacles(int diskNumber)
     if (drive) {
         const platform::DeviceUse use = drive.value()->use().valueOr({});
         obstacles.isReadOnly = use.isReadOnly;
-        obstacles.holders = use.holders;
-        obstacles.releaseCommands += use.releaseCommands;
+        addUse(use, obstacles);
     }
+    addUseByOtherWays(diskNumber, obstacles);
+    obstacles.holders.removeDuplicates();
     obstacles.releaseCommands.removeDuplicates();
     return obstacles;
 }

@@ -90,6 +90,7 @@ private slots:
     void theSameUnitOnAnotherWayIsASystemDiskToo();
     void moreExtentsThanAShortReplyHasRoomFor();
     void obstaclesOfADisk();
+    void theSameUnitInUseOnAnotherWayIsAnObstacle();
     void aDiskThatAnswersNothingHasNoObstacle();
     void noDriveGivesAnEmptyList();
     void aGapDoesNotEndTheScan();
@@ -772,6 +773,32 @@ void tst_DiskManager::obstaclesOfADisk()
     QVERIFY(!DiskManager::obstacles(2).isEmpty());
     QVERIFY(!DiskManager::obstacles(3).isEmpty());
     QVERIFY(DiskManager::obstacles(0).isEmpty());
+}
+
+void tst_DiskManager::theSameUnitInUseOnAnotherWayIsAnObstacle()
+{
+    FourDrives pc;
+    for (int number = 0; number <= 3; ++number) {
+        pc.devices.drives[number] = FakeDrive::rotating();
+        pc.devices.drives[number].worldWideName = number < 2 ? u"naa.1"_s : u"naa.2"_s;
+    }
+    QVERIFY(DiskManager::obstacles(0).isEmpty());
+
+    pc.mount(u"M:"_s, {1});
+    pc.devices.volumes[u"M:"_s].use = platform::DeviceUse{false, {}, {u"umount /m"_s}};
+    const DiskObstacles mounted = DiskManager::obstacles(0);
+    QCOMPARE(mounted.holders, QStringList{u"M: (fake:drive1)"_s});
+    QCOMPARE(mounted.releaseCommands, QStringList{u"umount /m"_s});
+    // Its own volumes are in nobody's way.
+    QVERIFY(DiskManager::obstacles(1).isEmpty());
+    QVERIFY(DiskManager::obstacles(2).isEmpty());
+
+    // What stands on both ways is named once.
+    pc.devices.drives[2].use = platform::DeviceUse{false, {u"LVM data"_s}, {}};
+    pc.devices.drives[3].use = platform::DeviceUse{false, {u"LVM data"_s}, {}};
+    QCOMPARE(DiskManager::obstacles(2).holders, QStringList{u"LVM data"_s});
+    pc.devices.drives[2].use = platform::DeviceUse();
+    QCOMPARE(DiskManager::obstacles(2).holders, QStringList{u"LVM data"_s});
 }
 
 void tst_DiskManager::aDiskThatAnswersNothingHasNoObstacle()
