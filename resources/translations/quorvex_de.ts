@@ -2112,6 +2112,14 @@ Ein Löschzertifikat wurde erstellt.</translation>
         <source>%1 个文件由云服务同步，云端可能仍保留其副本和历史版本</source>
         <translation>%1 Dateien werden von einem Cloud-Dienst synchronisiert, der Kopien und frühere Versionen behalten kann</translation>
     </message>
+    <message>
+        <source>正在清除文件系统日志中的文件名...</source>
+        <translation>Dateinamen im Journal des Dateisystems werden gelöscht...</translation>
+    </message>
+    <message>
+        <source>文件系统日志中可能仍保留文件名: %1</source>
+        <translation>Im Journal des Dateisystems können Dateinamen stehen geblieben sein: %1</translation>
+    </message>
 </context>
 <context>
     <name>FreeSpaceWipeWorker</name>

@@ -2112,6 +2112,14 @@ An erasure certificate has been generated.</translation>
         <source>%1 个文件由云服务同步，云端可能仍保留其副本和历史版本</source>
         <translation>%1 files are synchronised by a cloud service, which may keep copies and earlier versions</translation>
     </message>
+    <message>
+        <source>正在清除文件系统日志中的文件名...</source>
+        <translation>Clearing file names from the file system journal...</translation>
+    </message>
+    <message>
+        <source>文件系统日志中可能仍保留文件名: %1</source>
+        <translation>The file system journal may still contain file names: %1</translation>
+    </message>
 </context>
 <context>
     <name>FreeSpaceWipeWorker</name>

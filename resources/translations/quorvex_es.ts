@@ -2112,6 +2112,14 @@ Se ha generado un certificado de borrado.</translation>
         <source>%1 个文件由云服务同步，云端可能仍保留其副本和历史版本</source>
         <translation>%1 archivos se sincronizan con un servicio en la nube, que puede conservar copias y versiones anteriores</translation>
     </message>
+    <message>
+        <source>正在清除文件系统日志中的文件名...</source>
+        <translation>Borrando los nombres de archivo del diario del sistema de archivos...</translation>
+    </message>
+    <message>
+        <source>文件系统日志中可能仍保留文件名: %1</source>
+        <translation>El diario del sistema de archivos puede contener aún nombres de archivo: %1</translation>
+    </message>
 </context>
 <context>
     <name>FreeSpaceWipeWorker</name>

@@ -2112,6 +2112,14 @@ Un certificat d&apos;effacement a été généré.</translation>
         <source>%1 个文件由云服务同步，云端可能仍保留其副本和历史版本</source>
         <translation>%1 fichiers sont synchronisés par un service en nuage, qui peut garder des copies et des versions antérieures</translation>
     </message>
+    <message>
+        <source>正在清除文件系统日志中的文件名...</source>
+        <translation>Effacement des noms de fichiers du journal du système de fichiers...</translation>
+    </message>
+    <message>
+        <source>文件系统日志中可能仍保留文件名: %1</source>
+        <translation>Le journal du système de fichiers peut encore contenir des noms de fichiers : %1</translation>
+    </message>
 </context>
 <context>
     <name>FreeSpaceWipeWorker</name>

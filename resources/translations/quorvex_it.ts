@@ -2112,6 +2112,14 @@ An erasure certificate has been generated.</source>
         <source>%1 个文件由云服务同步，云端可能仍保留其副本和历史版本</source>
         <translation>%1 file sono sincronizzati da un servizio cloud, che può conservarne copie e versioni precedenti</translation>
     </message>
+    <message>
+        <source>正在清除文件系统日志中的文件名...</source>
+        <translation>Cancellazione dei nomi di file dal journal del file system...</translation>
+    </message>
+    <message>
+        <source>文件系统日志中可能仍保留文件名: %1</source>
+        <translation>Il journal del file system può ancora contenere nomi di file: %1</translation>
+    </message>
 </context>
 <context>
     <name>FreeSpaceWipeWorker</name>

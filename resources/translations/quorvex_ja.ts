@@ -2112,6 +2112,14 @@ An erasure certificate has been generated.</source>
         <source>%1 个文件由云服务同步，云端可能仍保留其副本和历史版本</source>
         <translation>%1 個のファイルはクラウドサービスで同期されており、コピーや以前のバージョンが残っている可能性があります</translation>
     </message>
+    <message>
+        <source>正在清除文件系统日志中的文件名...</source>
+        <translation>ファイルシステムのジャーナルからファイル名を消去しています...</translation>
+    </message>
+    <message>
+        <source>文件系统日志中可能仍保留文件名: %1</source>
+        <translation>ファイルシステムのジャーナルにファイル名が残っている可能性があります: %1</translation>
+    </message>
 </context>
 <context>
     <name>FreeSpaceWipeWorker</name>

@@ -2112,6 +2112,14 @@ An erasure certificate has been generated.</source>
         <source>%1 个文件由云服务同步，云端可能仍保留其副本和历史版本</source>
         <translation>파일 %1개가 클라우드 서비스와 동기화되며, 그곳에 사본과 이전 버전이 남아 있을 수 있습니다</translation>
     </message>
+    <message>
+        <source>正在清除文件系统日志中的文件名...</source>
+        <translation>파일 시스템 저널에서 파일 이름을 지우는 중...</translation>
+    </message>
+    <message>
+        <source>文件系统日志中可能仍保留文件名: %1</source>
+        <translation>파일 시스템 저널에 파일 이름이 남아 있을 수 있습니다: %1</translation>
+    </message>
 </context>
 <context>
     <name>FreeSpaceWipeWorker</name>

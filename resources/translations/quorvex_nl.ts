@@ -2112,6 +2112,14 @@ Er is een wiscertificaat aangemaakt.</translation>
         <source>%1 个文件由云服务同步，云端可能仍保留其副本和历史版本</source>
         <translation>%1 bestanden worden door een clouddienst gesynchroniseerd, die kopieën en eerdere versies kan bewaren</translation>
     </message>
+    <message>
+        <source>正在清除文件系统日志中的文件名...</source>
+        <translation>Bestandsnamen worden uit het journaal van het bestandssysteem gewist...</translation>
+    </message>
+    <message>
+        <source>文件系统日志中可能仍保留文件名: %1</source>
+        <translation>Het journaal van het bestandssysteem kan nog bestandsnamen bevatten: %1</translation>
+    </message>
 </context>
 <context>
     <name>FreeSpaceWipeWorker</name>

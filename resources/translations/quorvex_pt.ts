@@ -2112,6 +2112,14 @@ Um certificado de apagamento foi gerado.</translation>
         <source>%1 个文件由云服务同步，云端可能仍保留其副本和历史版本</source>
         <translation>%1 ficheiros são sincronizados por um serviço na nuvem, que pode guardar cópias e versões anteriores</translation>
     </message>
+    <message>
+        <source>正在清除文件系统日志中的文件名...</source>
+        <translation>Apagando os nomes de arquivos do diário do sistema de arquivos...</translation>
+    </message>
+    <message>
+        <source>文件系统日志中可能仍保留文件名: %1</source>
+        <translation>O diário do sistema de arquivos ainda pode conter nomes de arquivos: %1</translation>
+    </message>
 </context>
 <context>
     <name>FreeSpaceWipeWorker</name>

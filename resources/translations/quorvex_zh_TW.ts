@@ -2112,6 +2112,14 @@ An erasure certificate has been generated.</source>
         <source>%1 个文件由云服务同步，云端可能仍保留其副本和历史版本</source>
         <translation>%1 個檔案由雲端服務同步，雲端可能仍保留其副本和歷史版本</translation>
     </message>
+    <message>
+        <source>正在清除文件系统日志中的文件名...</source>
+        <translation>正在清除檔案系統日誌中的檔名...</translation>
+    </message>
+    <message>
+        <source>文件系统日志中可能仍保留文件名: %1</source>
+        <translation>檔案系統日誌中可能仍保留檔名: %1</translation>
+    </message>
 </context>
 <context>
     <name>FreeSpaceWipeWorker</name>
