@@ -10,8 +10,8 @@ cd "$root"
 
 readers=(commandline devicereplies glyphnames infofile linkcatalogue mounttable sysattributes trashinfo wipereport)
 # As many as each reader processes in about four seconds on an idle small machine.
-declare -A runs=([commandline]=4000 [devicereplies]=400000 [glyphnames]=100000 [infofile]=200000 [linkcatalogue]=20000
-    [mounttable]=60000 [sysattributes]=8000 [trashinfo]=150000 [wipereport]=15000)
+declare -A runs=([commandline]=3000 [devicereplies]=150000 [glyphnames]=1500 [infofile]=200000 [linkcatalogue]=15000
+    [mounttable]=60000 [sysattributes]=3000 [trashinfo]=150000 [wipereport]=15000)
 # The limit on a slow machine; the number of runs is printed.
 seconds_at_most=7
 # Longer than the longest input that a reader treats specially.

@@ -161,7 +161,6 @@ std::vector<HeldTree::Folder> FileRemoval::foldersOfNames()
             folders.push_back(m_files.list().files[i].folder);
     }
     std::ranges::sort(folders);
-    const auto repeated = std::ranges::unique(folders);
-    folders.erase(repeated.begin(), repeated.end());
+    folders.erase(std::unique(folders.begin(), folders.end()), folders.end());
     return folders;
 }
