@@ -174,8 +174,9 @@ public:
     virtual Result<ContentPlace> contentPlace(const EntryPath &entry) = 0;
 
     /// The named streams of a regular file or folder; none where the file system has no named streams. The
-    /// streams of a file are opened as files are, and are deleted with it. Other entries are refused as by
-    /// open(). Windows: FileStreamInfo. Linux: none.
+    /// streams of a file are deleted with it, and opened as files are where that is possible. Other entries
+    /// are refused as by open(). Windows: FileStreamInfo. Linux: the extended attributes that users give
+    /// (flistxattr), which cannot be opened.
     virtual Result<QList<NamedStream>> namedStreams(const EntryPath &entry) = 0;
 
     /// The first bytes of a regular file, at most limit; fewer when the file is shorter. Read through the

@@ -10,6 +10,10 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <sys/xattr.h>
+
+#include <cstddef>
+
 namespace {
 
 const QByteArray &marker()
@@ -38,6 +42,7 @@ private slots:
     void noMarkerIsLeft();
     void noNameIsLeft_data();
     void noNameIsLeft();
+    void attributesAreTold();
     void keptFilesStayAsTheyAre_data();
     void keptFilesStayAsTheyAre();
 };
@@ -135,6 +140,41 @@ void tst_FileResidue::noNameIsLeft()
     QVERIFY(volume.unmount());
     QCOMPARE(volume.countInImage(name), 0);
     QCOMPARE(volume.countInImage(marker()), 0);
+}
+
+void tst_FileResidue::attributesAreTold()
+{
+    if (const QString reason = LoopMount::unavailableReason(LoopMount::Ext4); !reason.isEmpty())
+        QSKIP(qPrintable(reason));
+    const QTemporaryDir folder;
+    LoopMount volume(folder.path(), {.fileSystem = LoopMount::Ext4});
+    QVERIFY2(volume.isReady(), qPrintable(volume.error()));
+    const QDir root(volume.mountPoint());
+    const QString file = root.filePath(QStringLiteral("file"));
+    const QString empty = root.filePath(QStringLiteral("empty"));
+    const QString plain = root.filePath(QStringLiteral("plain"));
+    writeMarkers(plain, 5000);
+    writeMarkers(file, 5000);
+    writeMarkers(empty, 0);
+    const QByteArray value = marker().repeated(30); // has a block of its own
+    for (const QString &path : {file, empty})
+        QCOMPARE(::setxattr(QFile::encodeName(path).constData(), "user.secret", value.constData(),
+                            static_cast<std::size_t>(value.size()), 0),
+                 0);
+    QVERIFY(volume.unmount());
+    QVERIFY(volume.mount());
+
+    WipeTask task;
+    task.addFiles({file, empty, plain});
+    const RealJob job = runRealJob(task);
+    QVERIFY2(job.success, qPrintable(job.log.join(u'\n')));
+    const QString attribute = QStringLiteral("/user.secret");
+    const QList<Shortfall> told = task.outcome().shortfalls();
+    QCOMPARE(told.size(), 2);
+    for (const QString &path : {file, empty})
+        QVERIFY(told.contains({ShortfallKind::ContentElsewhere, path + attribute, value.size()}));
+    QVERIFY(!QFile::exists(file));
+    QVERIFY(!QFile::exists(empty));
 }
 
 void tst_FileResidue::keptFilesStayAsTheyAre_data()

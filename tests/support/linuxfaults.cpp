@@ -53,6 +53,8 @@ LinuxFaults::LinuxFaults()
     hook<Fchmodat_, &Files::fchmodat>(m_files);
     hook<Renameat_, &Files::renameat>(m_files);
     hook<Unlinkat_, &Files::unlinkat>(m_files);
+    hook<Flistxattr_, &Files::flistxattr>(m_files);
+    hook<Fgetxattr_, &Files::fgetxattr>(m_files);
     hook<Fsetxattr_, &Files::fsetxattr>(m_files);
     hook<Ioctl_, &Devices::ioctl>(m_devices);
     hook<Mount_, &Devices::mount>(m_devices);

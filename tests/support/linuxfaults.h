@@ -36,6 +36,8 @@ public:
         Fchmodat_,
         Renameat_,
         Unlinkat_,
+        Flistxattr_,
+        Fgetxattr_,
         Fsetxattr_,
         Ioctl_,
         Mount_,

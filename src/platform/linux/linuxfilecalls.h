@@ -47,6 +47,8 @@ struct LinuxFileCalls
     int (*fchmodat)(int, const char *, mode_t, int) = &::fchmodat;
     int (*renameat)(int, const char *, int, const char *) = &::renameat;
     int (*unlinkat)(int, const char *, int) = &::unlinkat;
+    ssize_t (*flistxattr)(int, char *, size_t) = &::flistxattr;
+    ssize_t (*fgetxattr)(int, const char *, void *, size_t) = &::fgetxattr;
     int (*fsetxattr)(int, const char *, const void *, size_t, int) = &::fsetxattr;
 };
 

@@ -1,6 +1,7 @@
 #include "platform/linux/linuxfiles.h"
 
 #include "platform/filenames.h"
+#include "platform/linux/linuxattributes.h"
 #include "platform/linux/linuxcontentplace.h"
 #include "platform/linux/linuxdurabilitygroup.h"
 #include "platform/linux/linuxerrnotable.h"
@@ -214,6 +215,27 @@ Result<ContentPlace> LinuxFiles::contentPlace(const EntryPath &entry)
             return refusal;
     }
     return contentPlaceOf(file.get());
+}
+
+Result<QList<NamedStream>> LinuxFiles::namedStreams(const EntryPath &entry)
+{
+    const Result<EntryAt> at = locate(entry);
+    if (!at)
+        return at.status();
+    // Checked before opening, because opening alone has effects on special files.
+    const Result<struct statx> found = look(at.value(), STATX_TYPE);
+    if (!found)
+        return found.status();
+    const Status refusal =
+        S_ISDIR(found.value().stx_mode) ? Status{} : refusalOf(found.value().stx_mode, "statx");
+    if (!refusal)
+        return refusal;
+    if (const Status mounted = at.value().refusalOf(found.value()); !mounted)
+        return mounted;
+    const FileDescriptor file = openFile(at.value(), O_RDONLY);
+    if (!file.isValid())
+        return statusFromErrno(errno, "open");
+    return attributesOf(file.get());
 }
 
 int LinuxFiles::spareOpenFiles()

@@ -17,7 +17,7 @@ public:
     Result<std::shared_ptr<DurabilityGroup>> beginGroup(const EntryPath &folder) override;
     Status closeGroup(DurabilityGroup &group) override;
     Result<ContentPlace> contentPlace(const EntryPath &entry) override;
-    Result<QList<NamedStream>> namedStreams(const EntryPath &) override { return QList<NamedStream>(); }
+    Result<QList<NamedStream>> namedStreams(const EntryPath &entry) override;
     Result<QByteArray> readBeginning(const QString &path, qint64 limit) override;
     Result<std::unique_ptr<QFileDevice>> openForAppending(const QString &path) override;
     bool isStream(const QString &path) override;
