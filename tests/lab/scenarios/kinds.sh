@@ -58,6 +58,8 @@ guest() {
     done
     for device in $(node cd) $(node floppy) /dev/zram0 /dev/md9 /dev/dm-0 /dev/mapper/lab_linear; do
         check "$device: there" test -b "$device"
+        # The refusal before it has replaced the list.
+        quorvex disks
         check "$device: not listed" does_not_say "$device"
         quorvex wipe disk "$device" --yes
         check "$device: refused" exits_with 3
