@@ -61,16 +61,20 @@ run_scenario() {
     set -eEuo pipefail
     shopt -s inherit_errexit
     data=/run/lab/data-$scenario
+    told=/run/lab/told-$scenario
+    : >"$told"
     # shellcheck source=/dev/null
     source "$lab/scenarios/$scenario.sh"
     trap 'tell FAILED "reaches its end" "line $LINENO: $BASH_COMMAND: $(last_step)"' ERR
     guest
     trap - ERR
-    printf 'end\t%s\n' "$scenario" >&"$talk"
+    printf 'end\t%s\t%s\n' "$scenario" "$(stat -c %s "$told")" >&"$talk"
 }
 
 # tell RESULT TEXT [DETAIL]: to the host.
 tell() {
+    # One byte for each line, to be counted.
+    printf . >>"$told"
     printf 'tell\t%s\t%s\t%s\t%s\n' "$1" "$scenario" "$2" "${3:-}" >&"$talk"
 }
 

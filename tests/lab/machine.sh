@@ -251,13 +251,16 @@ tell() {
     fi
 }
 
-# A line of the guest: a result, the end of a scenario, or a question with a command and its arguments, between tabs.
+# A line of the guest: a result, the end of a scenario with the number of its results, or a question with a command and its arguments, between tabs.
 hear() {
     local words
     IFS=$'\t' read -ra words <<<"$1"
     case ${words[0]:-} in
-        tell) tell "${words[@]:1}" ;;
-        end) ended[${words[1]}]=yes ;;
+        tell)
+            heard[${words[2]}]=$((${heard[${words[2]}]:-0} + 1))
+            tell "${words[@]:1}"
+            ;;
+        end) ended[${words[1]}]=${words[2]} ;;
         ask) answer "${words[@]:1}" >&"$to_guest" ;;
     esac
 }
@@ -294,7 +297,7 @@ boot() {
     /sbin/mke2fs -q -t ext4 -O ^has_journal,^metadata_csum "$work/system.raw" 256M >/dev/null 2>&1
     drive_count=0
     ide_count=0
-    declare -gA ended=() digests=()
+    declare -gA ended=() heard=() digests=()
     # shellcheck disable=SC2054  # the commas belong to the options
     qemu=(qemu-system-x86_64 -M q35 -accel "tcg,thread=multi" -cpu max,la57=off -smp 2 -m 2048 -nodefaults
         -no-user-config -no-reboot -display none -monitor none -serial "file:$work/console" -qmp "unix:$work/qmp,server=on,wait=off"
@@ -322,19 +325,27 @@ boot() {
     } >"$share/boot"
 
     printf '\n==> machine "%s": %s\n' "$name" "$*"
-    local from_guest to_guest line status=0
+    local from_guest to_guest line part='' status=0
     exec {from_guest}<>"$work/talk.out" {to_guest}<>"$work/talk.in"
     timeout --kill-after=10 "$lab_seconds" "${qemu[@]}" 2>"$work/qemu.log" </dev/null &
     process=$!
     while kill -0 "$process" 2>/dev/null || read -rt 0 -u "$from_guest"; do
-        if read -rt 1 -u "$from_guest" line; then
-            hear "$line"
+        # What came of a line before the second was over belongs to the rest of it.
+        if IFS= read -rt 1 -u "$from_guest" line; then
+            hear "$part$line"
+            part=
+        else
+            part+=$line
         fi
     done
     wait "$process" || status=$?
     exec {from_guest}<&- {to_guest}<&-
     for scenario in "$@"; do
-        [[ ${ended[$scenario]:-} == yes ]] || tell FAILED "$scenario" "reaches its end" "see $work/console"
+        if [[ -z ${ended[$scenario]:-} ]]; then
+            tell FAILED "$scenario" "reaches its end" "see $work/console"
+        elif [[ ${heard[$scenario]:-0} != "${ended[$scenario]}" ]]; then
+            tell FAILED "$scenario" "every line was heard" "${heard[$scenario]:-0} of ${ended[$scenario]}"
+        fi
     done
     if ((status == 124 || status == 137)); then
         printf 'error: the machine "%s" did not end within %d s; the last lines of its console:\n' "$name" "$lab_seconds"
