@@ -71,9 +71,9 @@ std::vector<HeldTree::Folder> FolderRemoval::topsAmong(const HeldTree &tree,
 }
 
 // Streams of folders are not overwritten.
-void FolderRemoval::tellStreams(HeldTree::Folder folder, const platform::EntryPath &entry)
+void FolderRemoval::tellStreams(HeldTree::Folder folder,
+                                const platform::Result<QList<platform::NamedStream>> &streams)
 {
-    const auto streams = platform::Platform::current().files().namedStreams(entry);
     if (!streams) {
         if (!streams.status().isAbsent())
             m_observer.streams(m_tree.path(folder), -1, -1);
@@ -102,11 +102,13 @@ void FolderRemoval::removeFolder(HeldTree::Folder folder)
         m_observer.replaced(m_tree.path(folder));
         return;
     }
-    tellStreams(folder, entry.value());
+    const auto streams = system.files().namedStreams(entry.value());
     Status removed = system.folders().removeEmpty(entry.value());
     // Some systems refuse to remove a read-only folder.
     if (removed.code == platform::AccessDenied && system.files().clearReadOnly(entry.value()))
         removed = system.folders().removeEmpty(entry.value());
     if (!removed && !removed.isAbsent())
         m_observer.standing(m_tree.path(folder), removed);
+    else
+        tellStreams(folder, streams);
 }

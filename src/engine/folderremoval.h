@@ -37,7 +37,7 @@ public:
 private:
     void removeByDepth(const std::vector<HeldTree::Folder> &order);
     void removeFolder(HeldTree::Folder folder);
-    void tellStreams(HeldTree::Folder folder, const platform::EntryPath &entry);
+    void tellStreams(HeldTree::Folder folder, const platform::Result<QList<platform::NamedStream>> &streams);
 
     HeldTree &m_tree;
     Observer m_observer;
