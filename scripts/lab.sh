@@ -4,7 +4,7 @@
 #
 #   scripts/lab.sh                       all scenarios
 #   scripts/lab.sh SCENARIO...           some of them
-#   scripts/lab.sh --ci                  those that run before every change
+#   scripts/lab.sh --ci                  a selection without the repetitions
 #   scripts/lab.sh --list                names and subjects
 #   scripts/lab.sh --build FOLDER ...    the program of that build (default: build/dev)
 #
