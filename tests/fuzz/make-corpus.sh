@@ -197,6 +197,7 @@ attributes() { printf '%b\xff' "$@"; }
 attributes '2097152\n' '0\n' '1\n' '17\n' 'naa.5000c500a1b2c3d4\n' '' 'Disk A \n' 'S123\n' '' '' '' '' >usual
 attributes '8\n' '0' '0' '' '' 't10.ATA x' '' '' '' '\x00\x80\x00\x04SER1' '' 'E:ID_SERIAL_SHORT=a\\x20b\nE:ID_BUS=usb\n' >page
 attributes '-1\n' '' '' '' '' '' '\x00\x01' '\xc3\x28' '' '\x00\x80\xff\xfe' '' 'E:\nE:=\n=\nE:A' >odd
+attributes '99999999999999999' '0' '0' >size-beyond-bytes
 attributes '99999999999999999999' '2' '-5' '\n\n' 'uuid.' 'eui.\n' >numbers
 : >empty
 cd ..

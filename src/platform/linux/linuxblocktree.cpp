@@ -13,11 +13,7 @@
 
 namespace platform {
 
-namespace {
-
-constexpr qint64 KernelSector = 512; // the unit of "start" and "size", on every device
-
-} // namespace
+namespace {} // namespace
 
 QString BlockTree::folder(const QByteArray &device) const
 {
@@ -74,11 +70,11 @@ QList<QByteArray> BlockTree::fileSystemMembers(const QByteArray &device) const
 DriveExtent BlockTree::leafExtent(const QByteArray &device) const
 {
     const QString path = QFileInfo(folder(device)).canonicalFilePath();
-    const qint64 length = readNumber(path + QLatin1String("/size")) * KernelSector;
+    const qint64 length = readLength(path + QLatin1String("/size"));
     if (!QFileInfo::exists(path + QLatin1String("/partition")))
         return {device, 0, length};
     const QByteArray drive = readAttribute(QFileInfo(path).path() + QLatin1String("/dev"));
-    return {drive, readNumber(path + QLatin1String("/start")) * KernelSector, length};
+    return {drive, readLength(path + QLatin1String("/start")), length};
 }
 
 bool BlockTree::isReadOnly(const QByteArray &device) const

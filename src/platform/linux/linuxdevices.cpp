@@ -37,7 +37,7 @@ public:
     {
         const auto sector = static_cast<qint32>(readNumber(m_queue + QLatin1String("logical_block_size")));
         const qint64 size =
-            readNumber(m_tree.sys + QLatin1String("/class/block/") + m_name + QLatin1String("/size")) * 512;
+            readLength(m_tree.sys + QLatin1String("/class/block/") + m_name + QLatin1String("/size"));
         if (sector <= 0 || size <= 0)
             return Status{NotReady, 0, "geometry"};
         return Geometry{size / sector * sector, sector};

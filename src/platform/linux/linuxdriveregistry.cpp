@@ -61,7 +61,7 @@ QList<Drive> DriveRegistry::scan() const
         const QString folder = block + u'/' + name;
         Drive drive;
         drive.kernelName = name;
-        drive.sizeBytes = readNumber(folder + QLatin1String("/size")) * 512;
+        drive.sizeBytes = readLength(folder + QLatin1String("/size"));
         if (drive.sizeBytes <= 0 || !isDriveName(name) || readNumber(folder + QLatin1String("/ro")) != 0)
             continue;
         if (readNumber(folder + QLatin1String("/hidden")) !=

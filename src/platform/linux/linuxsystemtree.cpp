@@ -2,6 +2,8 @@
 
 #include <QFile>
 
+#include <limits>
+
 namespace platform {
 
 QByteArray readAttribute(const QString &path)
@@ -25,6 +27,13 @@ QByteArray readAttribute(const QString &path)
 qint64 readNumber(const QString &path)
 {
     return readAttribute(path).trimmed().toLongLong();
+}
+
+qint64 readLength(const QString &path)
+{
+    constexpr qint64 Unit = 512;
+    const qint64 count = readNumber(path);
+    return count > 0 && count <= std::numeric_limits<qint64>::max() / Unit ? count * Unit : 0;
 }
 
 } // namespace platform

@@ -18,5 +18,8 @@ struct SystemTree
 QByteArray readAttribute(const QString &path);
 /// The contents as a number; 0 when there is none.
 qint64 readNumber(const QString &path);
+/// A length in the kernel's unit of 512 bytes, as bytes; 0 when there is none, and when it is beyond any
+/// number of bytes.
+qint64 readLength(const QString &path);
 
 } // namespace platform
