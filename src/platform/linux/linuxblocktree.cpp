@@ -13,8 +13,6 @@
 
 namespace platform {
 
-namespace {} // namespace
-
 QString BlockTree::folder(const QByteArray &device) const
 {
     return m_tree.sys + QLatin1String("/dev/block/") + QString::fromLatin1(device);
