@@ -265,7 +265,8 @@ class TrashJob(VolumeJob):
         self.names = self.listing()
 
     def listing(self):
-        return {path.name: path.read_bytes() for path in self.bin.iterdir()}
+        """A round of the journal that was killed leaves a folder of empty files, which holds nothing of the user."""
+        return {path.name: path.read_bytes() for path in self.bin.iterdir() if path.is_file()}
 
     def is_untouched(self):
         return self.listing() == self.names
