@@ -386,7 +386,15 @@ class Endurance:
 
     def finish(self, job):
         """A job that is left alone succeeds, and erases everything."""
+        is_empty = isinstance(job, FilesJob) and job.is_there() and not job.listing()
         run = Run(self.program, self.media, job)
+        if is_empty:
+            # A job that finds no file fails, after it has removed the folders.
+            require(run.code == 1 and not run.says_success(), run.text())
+            job.check_erased()
+            require(not any(map(self.is_success, self.new_reports())), "success without a file")
+            self.media.check_bystanders()
+            return run
         require(run.code == 0 and run.says_success(), f"the {job.name} job failed: {run.text()}")
         job.check_erased()
         new = self.new_reports()
