@@ -275,6 +275,10 @@ void tst_NameJournals::whatAKilledRoundLeftIsRemoved()
 // The first folder of the job is gone by then.
 void tst_NameJournals::aFolderThatTakesNoEntriesIsPassedOver()
 {
+#ifdef Q_OS_WIN
+    // The played journal keeps its folder open, and the file systems of Windows have no such journal.
+    QSKIP("SKIPPED: Windows removes no folder that is held");
+#endif
     Scenario scenario;
     scenario.job.makeFile(u"above/further"_s, "4");
     const QStringList targets{scenario.job.path(u"above/t/sub"_s), scenario.job.path(u"above/t"_s),
