@@ -1,6 +1,8 @@
 #include "engine/realjob.h"
 
 #include "engine/wipeengine.h"
+#include "platform/devices.h"
+#include "platform/platform.h"
 #include "services/diskmanager.h"
 
 #include <QSignalSpy>
@@ -34,4 +36,16 @@ DiskInfo diskAt(const QString &node)
             return disk;
     }
     return {};
+}
+
+PartitionInfo volumeAt(const QString &mountPoint)
+{
+    PartitionInfo partition;
+    for (const platform::MountedVolume &mounted : platform::Platform::current().devices().mountedVolumes()) {
+        if (mounted.name == mountPoint) {
+            partition.driveLetter = mounted.name;
+            partition.identity = mounted.identity;
+        }
+    }
+    return partition;
 }

@@ -24,3 +24,7 @@ RealJob runRealJob(WipeTask &task, int patienceMs = 120000);
 
 // The record of the drive behind a device node; a default record without a drive.
 DiskInfo diskAt(const QString &node);
+
+// The record of the volume mounted there, as the lists of both programs contain it; a default record without
+// one.
+PartitionInfo volumeAt(const QString &mountPoint);

@@ -1,10 +1,9 @@
 #include "engine/freespacewipeworker.h"
+#include "engine/realjob.h"
 #include "engine/wipeengine.h"
 #include "model/units.h"
 #include "model/wipetask.h"
-#include "platform/devices.h"
 #include "platform/filenames.h"
-#include "platform/platform.h"
 #include "support/links.h"
 #include "support/loopmount.h"
 #include "support/reason.h"
@@ -41,19 +40,6 @@ private slots:
 
 namespace {
 
-// The record as the lists of both programs contain it.
-PartitionInfo recordOf(const LoopMount &volume)
-{
-    PartitionInfo partition;
-    for (const platform::MountedVolume &mounted : platform::Platform::current().devices().mountedVolumes()) {
-        if (mounted.name == volume.mountPoint()) {
-            partition.driveLetter = mounted.name;
-            partition.identity = mounted.identity;
-        }
-    }
-    return partition;
-}
-
 struct Job
 {
     WipeTask task;
@@ -63,7 +49,7 @@ struct Job
     explicit Job(const LoopMount &volume)
     {
         task.setOperationType(FreeSpaceWipe);
-        task.setPartition(recordOf(volume));
+        task.setPartition(volumeAt(volume.mountPoint()));
         task.setBufferSizeMB(1);
     }
     bool succeeded() const { return record.lines().last() == u"finished true"_s; }

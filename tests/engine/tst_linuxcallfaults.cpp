@@ -1,7 +1,6 @@
 #include "model/units.h"
 #include "model/wipetask.h"
 #include "platform/anchoredfolder.h"
-#include "platform/devices.h"
 #include "platform/folders.h"
 #include "platform/platform.h"
 #include "realjob.h"
@@ -262,13 +261,7 @@ void tst_LinuxCallFaults::freeSpaceIsFilledOrNotCalledSo()
     const QString kept = volume.mountPoint() + u"/kept"_s;
     writeFile(kept, "stays");
     const QStringList entries = contentsOf(volume.mountPoint());
-    PartitionInfo partition;
-    for (const platform::MountedVolume &mounted : platform::Platform::current().devices().mountedVolumes()) {
-        if (mounted.name == volume.mountPoint()) {
-            partition.driveLetter = mounted.name;
-            partition.identity = mounted.identity;
-        }
-    }
+    const PartitionInfo partition = volumeAt(volume.mountPoint());
     const auto fill = [&partition] {
         WipeTask task;
         task.setOperationType(FreeSpaceWipe);
